@@ -1,0 +1,21 @@
+#pragma once
+
+#include <QString>
+
+#include <tl/expected.hpp>
+
+namespace ravelo {
+
+/// Why something did not work, in words fit for a log line.
+struct Error {
+    QString message;
+};
+
+template <typename T>
+using Result = tl::expected<T, Error>;
+
+[[nodiscard]] inline tl::unexpected<Error> failure(QString message) {
+    return tl::unexpected<Error>(Error{std::move(message)});
+}
+
+} // namespace ravelo

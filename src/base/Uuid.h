@@ -1,0 +1,16 @@
+#pragma once
+
+#include <QString>
+#include <QUuid>
+
+#include <optional>
+
+namespace ravelo {
+
+/// The canonical text of a UUID (RFC 9562): 36 characters, upper-case hexadecimal.
+[[nodiscard]] QString uuidText(const QUuid& id);
+
+/// Accepts exactly the 36-character form, digits in either case; anything else is no UUID.
+[[nodiscard]] std::optional<QUuid> parseUuid(const QString& text);
+
+} // namespace ravelo

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/DragMonitor.h"
+#include "platform/PanelWindow.h"
+#include "platform/Pasteboard.h"
+#include "platform/Pointer.h"
+#include "platform/Screens.h"
+
+#include <memory>
+
+class QWindow;
+
+namespace ravelo {
+
+/// All that one kind of display server provides; each adapter makes one. Owns what it hands out,
+/// but for panel windows, which must go before it does.
+class DisplayServer {
+public:
+    virtual ~DisplayServer() = default;
+
+    [[nodiscard]] virtual Pasteboard& pasteboard() = 0;
+    [[nodiscard]] virtual Pointer& pointer() = 0;
+    [[nodiscard]] virtual DragMonitor& drags() = 0;
+    [[nodiscard]] virtual Screens& screens() = 0;
+
+    /// Makes the panel out of `window`, which must not have been shown yet and must outlive it.
+    [[nodiscard]] virtual std::unique_ptr<PanelWindow> panelWindow(QWindow& window) = 0;
+};
+
+} // namespace ravelo

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "base/Handle.h"
+
+#include <functional>
+#include <optional>
+
+namespace ravelo {
+
+/// Drags of other programs, before they reach a window of ours (on X11 the XdndSelection).
+/// Main thread. A display server that tells nothing of them keeps the count where it is.
+class DragMonitor {
+public:
+    virtual ~DragMonitor() = default;
+
+    /// Goes up when a drag begins in another program. To be compared for equality only.
+    [[nodiscard]] virtual qint64 changeCount() const = 0;
+
+    /// Whether the newest drag carries files. The first call for a drag asks its source and later
+    /// ones see the answer; nothing until it is there. Never waits.
+    [[nodiscard]] virtual std::optional<bool> carriesFiles() = 0;
+
+    /// Called when a drag begins, and when the answer to `carriesFiles` has come.
+    [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
+};
+
+} // namespace ravelo

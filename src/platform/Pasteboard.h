@@ -1,0 +1,64 @@
+#pragma once
+
+#include "base/Handle.h"
+
+#include <QByteArray>
+#include <QHash>
+#include <QLatin1StringView>
+#include <QList>
+#include <QString>
+#include <QStringList>
+
+#include <functional>
+#include <optional>
+
+namespace ravelo {
+
+/// Text on a pasteboard, always UTF-8, whatever names and encodings the owner offers it under.
+inline constexpr QLatin1StringView plainTextType("text/plain");
+
+/// What one owner of the pasteboard offers, as far as it was asked.
+struct PasteboardSnapshot {
+    /// Everything on offer: MIME types, and marks under their own names. Where text of any kind is
+    /// on offer, `plainTextType` stands for all of it.
+    QStringList types;
+
+    /// What came back for each type that was asked for; nothing where the owner refused, was too
+    /// slow or had more than the adapter takes (64 MiB of an image, 8 MiB of anything else).
+    QHash<QString, std::optional<QByteArray>> answers;
+};
+
+/// Tells from what has come back so far which type to ask for next; an empty string ends the
+/// reading. A pure function: the adapter calls it on a thread of its own.
+using PasteboardPlan = std::function<QString(const PasteboardSnapshot&)>;
+
+struct PasteboardEntry {
+    QString type;
+    QByteArray bytes;
+};
+
+/// The general pasteboard of the session (on X11 the CLIPBOARD selection, ICCCM 2). Main thread.
+class Pasteboard {
+public:
+    virtual ~Pasteboard() = default;
+
+    /// Goes up at every change of owner or contents, our own writes included: at the return of
+    /// `write` it stands at its value for that write. To be compared for equality only.
+    [[nodiscard]] virtual qint64 changeCount() const = 0;
+
+    /// Called soon after each change that came from elsewhere, where the display server tells of
+    /// it. Nobody may rely on it being called at all.
+    [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
+
+    /// Reads what the present owner offers: first the list of types, then what `plan` asks for,
+    /// each with a time-out. `done` is called once, later, on the main thread; never where the
+    /// owner changed meanwhile or the handle was dropped. Costs the main thread nothing, whatever
+    /// the owner does.
+    [[nodiscard]] virtual Handle read(PasteboardPlan plan,
+                                      std::function<void(PasteboardSnapshot)> done) = 0;
+
+    /// Replaces the contents by one object in these forms, best first.
+    virtual void write(const QList<PasteboardEntry>& forms) = 0;
+};
+
+} // namespace ravelo

@@ -1,0 +1,71 @@
+#pragma once
+
+#include <QObject>
+
+#include <functional>
+
+namespace ravelo {
+
+class LoginItem;
+class Preferences;
+
+/// The user's preferences, read once at construction and written back as they change.
+/// Main thread only.
+class AppSettings : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(double bgOpacity READ bgOpacity WRITE setBgOpacity NOTIFY bgOpacityChanged)
+    Q_PROPERTY(bool fullBlack READ fullBlack WRITE setFullBlack NOTIFY fullBlackChanged)
+    Q_PROPERTY(double panelWidth READ panelWidth WRITE setPanelWidth NOTIFY panelWidthChanged)
+    Q_PROPERTY(
+        bool hotkeyEnabled READ hotkeyEnabled WRITE setHotkeyEnabled NOTIFY hotkeyEnabledChanged)
+    Q_PROPERTY(QString lastTab READ lastTab WRITE setLastTab NOTIFY lastTabChanged)
+    Q_PROPERTY(bool pinnedBar READ pinnedBar WRITE setPinnedBar NOTIFY pinnedBarChanged)
+    Q_PROPERTY(QString macType READ macType WRITE setMacType NOTIFY macTypeChanged)
+    Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
+    Q_PROPERTY(
+        bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
+
+public:
+    AppSettings(Preferences& preferences, LoginItem& loginItem);
+
+    [[nodiscard]] double bgOpacity() const;
+    [[nodiscard]] bool fullBlack() const;
+    [[nodiscard]] double panelWidth() const; ///< Logical pixels.
+    [[nodiscard]] bool hotkeyEnabled() const;
+    [[nodiscard]] QString lastTab() const;
+    [[nodiscard]] bool pinnedBar() const;
+    [[nodiscard]] QString
+    macType() const; ///< "auto", "notch" or "none"; other texts count as "auto".
+    [[nodiscard]] bool onboarded() const;
+    [[nodiscard]] bool launchAtLogin() const;
+
+    void setBgOpacity(double opacity);
+    void setFullBlack(bool on);
+    void setPanelWidth(double width);
+    void setHotkeyEnabled(bool on); ///< Until the program ends: not written back.
+    void setLastTab(const QString& tab);
+    void setPinnedBar(bool on); ///< Until the program ends: not written back.
+    void setMacType(const QString& type);
+    void setOnboarded(bool done);
+    void setLaunchAtLogin(bool on);
+
+    /// Registers the program to start at login, once in the life of an installation.
+    void setupLoginItemDefaultIfNeeded();
+
+    std::function<void()> onLayoutChange; ///< After each change of `macType`, once it is written.
+    std::function<void(bool)> onHotkeyChange; ///< Never called by this object.
+    std::function<void(bool)> onPinnedChange; ///< Never called by this object.
+
+Q_SIGNALS:
+    void bgOpacityChanged();
+    void fullBlackChanged();
+    void panelWidthChanged();
+    void hotkeyEnabledChanged();
+    void lastTabChanged();
+    void pinnedBarChanged();
+    void macTypeChanged();
+    void onboardedChanged();
+    void launchAtLoginChanged();
+};
+
+} // namespace ravelo

@@ -1,0 +1,78 @@
+#pragma once
+
+#include "base/Handle.h"
+#include "store/Records.h"
+
+#include <QObject>
+
+#include <functional>
+
+namespace ravelo {
+
+class Pasteboard;
+class Preferences;
+class Scheduler;
+class Worker;
+
+/// The one observable store that every view reads: clips, snippets, notes, sketch and shelf.
+/// Setting a note never saves by itself; the operations do. Saves are debounced and written by the
+/// worker. Failures are silent: what is in memory stays and is written by the next save.
+/// Main thread only.
+class Store : public QObject {
+    Q_OBJECT
+    Q_PROPERTY(QString note READ note WRITE setNote NOTIFY noteChanged)
+
+public:
+    /// What the store needs of the platform; all of it outlives the store.
+    struct Services {
+        Scheduler& scheduler;
+        Worker& worker;
+        Preferences& preferences;
+        Pasteboard& pasteboard;
+    };
+
+    /// Loads "store.json" from `folder` (made if missing, 0700) and seeds the snippets.
+    Store(QString folder, Services services);
+    ~Store() override;
+
+    [[nodiscard]] QString fileURL() const;
+    [[nodiscard]] QString clipsDir() const;
+    /// Absolute path of an image in the clips folder.
+    [[nodiscard]] QString imagePath(const QString& imageFileName) const;
+
+    [[nodiscard]] const QList<ClipItem>& clips() const;
+    [[nodiscard]] const QList<Snippet>& snippets() const;
+    [[nodiscard]] QString note() const;
+    void setNote(const QString& note);
+
+    /// Adds a text, as `ClipHistory::added` has it. Waits behind images that are still being
+    /// written.
+    void addClip(const QString& text);
+
+    /// Writes an image to the clips folder and, once it is there, adds its clip. Bytes that are not
+    /// PNG yet (`type` is not "image/png") are converted first; what cannot be adds nothing.
+    void addImageClip(const QByteArray& bytes, const QString& type);
+
+    Q_INVOKABLE void togglePin(const QUuid& id);
+    Q_INVOKABLE void deleteClip(const QUuid& id);
+    Q_INVOKABLE void clearClips();
+    void updateSnippet(const Snippet& snippet);
+
+    /// Writes the image now on the pasteboard to the clips folder and calls `done` with its file
+    /// name, or with an empty one where there is no image. Later, never from within the call. When
+    /// the handle is dropped before that, `done` is not called and no file stays.
+    [[nodiscard]] Handle saveClipboardImageForSnippet(std::function<void(QString)> done);
+
+    /// Schedules a write of the whole store, 0.4 s after the last of a burst of calls.
+    Q_INVOKABLE void save();
+
+    /// Writes what is pending now and waits for it. For the end of the program.
+    void flush();
+
+Q_SIGNALS:
+    void clipsChanged();
+    void snippetsChanged();
+    void noteChanged();
+};
+
+} // namespace ravelo

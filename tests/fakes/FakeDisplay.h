@@ -1,0 +1,149 @@
+#pragma once
+
+#include "base/Listeners.h"
+#include "platform/DragMonitor.h"
+#include "platform/PanelWindow.h"
+#include "platform/Pointer.h"
+#include "platform/Screens.h"
+
+#include <utility>
+
+namespace ravelo {
+
+class FakePointer final : public Pointer {
+public:
+    [[nodiscard]] PointerState state() override {
+        ++questions;
+        const bool clicked = std::exchange(clicked_, false);
+        return {location, buttonDown_ || clicked};
+    }
+
+    [[nodiscard]] Handle onPress(std::function<void()> callback) override {
+        return presses_.add(std::move(callback));
+    }
+
+    [[nodiscard]] Handle onNextActivity(std::function<void()> wake) override {
+        wake_ = std::move(wake);
+        return Handle([this] { wake_ = nullptr; });
+    }
+
+    void moveTo(QPointF place) {
+        location = place;
+        active();
+    }
+
+    void press() {
+        buttonDown_ = true;
+        clicked_ = true;
+        presses_.notify();
+        active();
+    }
+
+    void release() {
+        buttonDown_ = false;
+        active();
+    }
+
+    std::optional<QPointF> location = QPointF(400, 600);
+    int questions = 0; ///< How often the display server was asked.
+
+private:
+    void active() {
+        if (const auto wake = std::exchange(wake_, nullptr)) {
+            wake();
+        }
+    }
+
+    bool buttonDown_ = false;
+    bool clicked_ = false;
+    Listeners<> presses_;
+    std::function<void()> wake_;
+};
+
+class FakeDragMonitor final : public DragMonitor {
+public:
+    [[nodiscard]] qint64 changeCount() const override { return changeCount_; }
+
+    [[nodiscard]] std::optional<bool> carriesFiles() override { return files_; }
+
+    [[nodiscard]] Handle onChange(std::function<void()> callback) override {
+        return listeners_.add(std::move(callback));
+    }
+
+    /// Another program begins a drag; nothing for a source that does not answer.
+    void begin(std::optional<bool> files) {
+        files_ = files;
+        ++changeCount_;
+        listeners_.notify();
+    }
+
+private:
+    qint64 changeCount_ = 3;
+    std::optional<bool> files_;
+    Listeners<> listeners_;
+};
+
+class FakeScreens final : public Screens {
+public:
+    [[nodiscard]] std::vector<Screen> all() const override { return screens; }
+
+    [[nodiscard]] std::optional<Screen> main() const override {
+        return screens.empty() ? std::nullopt : std::optional(screens.front());
+    }
+
+    [[nodiscard]] Handle onChange(std::function<void()> callback) override {
+        return listeners_.add(std::move(callback));
+    }
+
+    void change(std::vector<Screen> now) {
+        screens = std::move(now);
+        listeners_.notify();
+    }
+
+    std::vector<Screen> screens = {
+        {QStringLiteral("one"), QRectF(0, 0, 1440, 900), QRectF(0, 28, 1440, 872), {}, {}}};
+
+private:
+    Listeners<> listeners_;
+};
+
+class FakePanelWindow final : public PanelWindow {
+public:
+    void place(const Screen& on, QSizeF wanted) override {
+        screen = on.id;
+        size = wanted;
+        ++placements;
+    }
+
+    void orderFront() override { ++fronts; }
+
+    void setOutline(const QPainterPath& path) override { outline = path; }
+
+    [[nodiscard]] bool isTranslucent() const override { return translucent_; }
+
+    [[nodiscard]] Handle onTranslucencyChange(std::function<void()> callback) override {
+        return listeners_.add(std::move(callback));
+    }
+
+    void requestFocus() override { focused = true; }
+
+    void returnFocus() override { focused = false; }
+
+    void setTranslucent(bool translucent) {
+        translucent_ = translucent;
+        listeners_.notify();
+    }
+
+    QString screen;
+    QSizeF size;
+    QPainterPath outline;
+    int placements = 0;
+    int fronts = 0;
+    bool focused = false;
+
+private:
+    bool translucent_ = true;
+    Listeners<> listeners_;
+};
+
+} // namespace ravelo

@@ -1,0 +1,54 @@
+#pragma once
+
+#include "base/Listeners.h"
+#include "base/Scheduler.h"
+#include "platform/Pasteboard.h"
+
+namespace ravelo {
+
+/// A pasteboard in memory. Answers come a moment later on the given scheduler, as they would from
+/// another program.
+class MemoryPasteboard final : public Pasteboard {
+public:
+    explicit MemoryPasteboard(Scheduler& scheduler) : scheduler_(scheduler) {}
+
+    [[nodiscard]] qint64 changeCount() const override { return changeCount_; }
+
+    [[nodiscard]] Handle onChange(std::function<void()> callback) override;
+    [[nodiscard]] Handle read(PasteboardPlan plan,
+                              std::function<void(PasteboardSnapshot)> done) override;
+    void write(const QList<PasteboardEntry>& forms) override;
+
+    /// Another program takes the pasteboard.
+    void offer(const QList<PasteboardEntry>& forms);
+    void offerText(const QString& text);
+
+    /// Another program takes the pasteboard and never answers.
+    void offerSilence();
+
+    /// Whether changes from elsewhere are told at once, or only seen by asking.
+    bool tellsChanges = true;
+
+    /// How long an owner takes for an answer.
+    Seconds answerTime{0.001};
+
+    [[nodiscard]] const QList<PasteboardEntry>& contents() const { return forms_; }
+
+    [[nodiscard]] QByteArray bytes(QLatin1StringView type) const;
+
+    /// Every type that anybody asked the owners for.
+    [[nodiscard]] const QStringList& asked() const { return asked_; }
+
+private:
+    void replace(const QList<PasteboardEntry>& forms);
+    [[nodiscard]] PasteboardSnapshot follow(const PasteboardPlan& plan);
+
+    Scheduler& scheduler_;
+    Listeners<> listeners_;
+    QList<PasteboardEntry> forms_;
+    QStringList asked_;
+    qint64 changeCount_ = 7;
+    bool silent_ = false;
+};
+
+} // namespace ravelo
