@@ -1,0 +1,72 @@
+#include "panel/NotchGeometry.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double plainBarWidth = 520;
+constexpr double notchBarWidth = 640;
+constexpr double assumedNotch = 200;
+constexpr double leastBarHeight = 24;
+
+double measuredNotch(const Screen& screen) {
+    if (!screen.leftOfNotch || !screen.rightOfNotch) {
+        return 0;
+    }
+    return std::max(0.0, screen.rightOfNotch->left() - screen.leftOfNotch->right());
+}
+
+// QRectF::contains takes the far edges in as well: two screens side by side would share a column.
+bool contains(const QRectF& frame, QPointF point) {
+    return point.x() >= frame.left() && point.x() < frame.right() && point.y() >= frame.top() &&
+           point.y() < frame.bottom();
+}
+
+} // namespace
+
+BarGeometry barGeometry(const Screen& screen, const QString& displayKind) {
+    const double height = std::max(screen.visibleFrame.top() - screen.frame.top(), leastBarHeight);
+    const double measured = measuredNotch(screen);
+    const bool plain = displayKind == "none"_L1 || (displayKind != "notch"_L1 && measured <= 0);
+    if (plain) {
+        return {plainBarWidth, height, 0};
+    }
+    const double notch = measured > 0 ? measured : assumedNotch;
+    return {std::max(notchBarWidth, 3 * notch), height, notch};
+}
+
+QSizeF expandedSize(double panelWidth, Shelf shelf) {
+    return {panelWidth, shelf == Shelf::holdsFiles ? 700.0 : 560.0};
+}
+
+QRectF hangingFrame(const Screen& screen, QSizeF size) {
+    const QPointF topLeft(screen.frame.center().x() - size.width() / 2, screen.frame.top());
+    return {topLeft, size};
+}
+
+std::optional<Screen> screenFor(std::optional<QPointF> pointer, const std::vector<Screen>& screens,
+                                const std::optional<Screen>& main) {
+    if (pointer) {
+        const auto under = std::ranges::find_if(
+            screens, [&](const Screen& screen) { return contains(screen.frame, *pointer); });
+        if (under != screens.end()) {
+            return *under;
+        }
+    }
+    if (main) {
+        return main;
+    }
+    return screens.empty() ? std::nullopt : std::optional(screens.front());
+}
+
+bool isNearTopCentre(QPointF point, const Screen& screen, double height, double halfWidth) {
+    return point.y() <= screen.frame.top() + height &&
+           std::abs(point.x() - screen.frame.center().x()) <= halfWidth;
+}
+
+} // namespace ravelo
