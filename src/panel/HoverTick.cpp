@@ -1,0 +1,58 @@
+#include "panel/HoverTick.h"
+
+#include "platform/Pointer.h"
+
+#include <cmath>
+
+namespace ravelo {
+
+namespace {
+
+constexpr Seconds interval{0.02};
+
+// After as many still ticks the platform is asked to tell of the next motion; one more tick then
+// sees what may have moved before it was listening.
+constexpr int ticksUntilListening = 3;
+
+} // namespace
+
+HoverTick::HoverTick(Scheduler& scheduler, Pointer& pointer, Rest rest,
+                     std::function<Next()> evaluate)
+    : scheduler_(scheduler),
+      pointer_(pointer),
+      rest_(rest),
+      evaluate_(std::move(evaluate)),
+      origin_(scheduler.uptime()) {
+    wake();
+}
+
+void HoverTick::wake() {
+    stillTicks_ = 0;
+    activity_.reset();
+    schedule();
+}
+
+void HoverTick::schedule() {
+    if (next_) {
+        return;
+    }
+    // The first instant after now on the grid of a tick that never rested.
+    const double passed = std::floor((scheduler_.uptime() - origin_) / interval + 1e-6);
+    const Seconds due = origin_ + (passed + 1) * interval;
+    next_ = scheduler_.after(due - scheduler_.uptime(), [this] { run(); });
+}
+
+void HoverTick::run() {
+    next_.reset();
+    const bool still = evaluate_() == Next::still && rest_ == Rest::whenStill;
+    stillTicks_ = still ? stillTicks_ + 1 : 0;
+    if (stillTicks_ > ticksUntilListening) {
+        return;
+    }
+    if (stillTicks_ == ticksUntilListening) {
+        activity_ = pointer_.onNextActivity([this] { wake(); });
+    }
+    schedule();
+}
+
+} // namespace ravelo

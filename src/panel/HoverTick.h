@@ -1,0 +1,42 @@
+#pragma once
+
+#include "base/Handle.h"
+#include "base/Scheduler.h"
+
+#include <functional>
+
+namespace ravelo {
+
+class Pointer;
+
+/// The 20 ms tick that watches the pointer. While what it looks at stands still it rests, at no
+/// cost, until the pointer moves or somebody wakes it; whenever it runs it does so at the same
+/// instants as a tick that never rests. Main thread only.
+class HoverTick {
+public:
+    enum class Rest { never, whenStill };
+
+    /// What a tick found: whether anything had moved since the one before, or must be looked at
+    /// again all the same.
+    enum class Next { still, busy };
+
+    HoverTick(Scheduler& scheduler, Pointer& pointer, Rest rest, std::function<Next()> evaluate);
+
+    /// Something changed that the next tick must see.
+    void wake();
+
+private:
+    void schedule();
+    void run();
+
+    Scheduler& scheduler_;
+    Pointer& pointer_;
+    Rest rest_;
+    std::function<Next()> evaluate_;
+    Seconds origin_;
+    int stillTicks_ = 0;
+    Handle next_;
+    Handle activity_;
+};
+
+} // namespace ravelo
