@@ -1,0 +1,41 @@
+#include "platform/freedesktop/SingleInstance.h"
+
+#include "platform/freedesktop/BusInstance.h"
+#include "platform/freedesktop/SocketInstance.h"
+
+#include <QFileInfo>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+// Asking for the bus where there is none would start one of its own for the display.
+bool hasSessionBus() {
+    const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
+    return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||
+           (!runtime.isEmpty() && QFileInfo::exists(runtime + u"/bus"_s));
+}
+
+} // namespace
+
+std::unique_ptr<SingleInstance> SingleInstance::claim() {
+    if (hasSessionBus()) {
+        if (auto bus = sessionBus(); bus.isConnected()) {
+            return BusInstance::claim(bus);
+        }
+    }
+    return SocketInstance::claim();
+}
+
+bool SingleInstance::send(const QString& action) {
+    if (hasSessionBus()) {
+        if (auto bus = sessionBus(); bus.isConnected()) {
+            return BusInstance::send(bus, action);
+        }
+    }
+    return SocketInstance::send(action);
+}
+
+} // namespace ravelo
