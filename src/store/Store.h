@@ -13,6 +13,7 @@ class Pasteboard;
 class Preferences;
 class Scheduler;
 class Worker;
+struct PasteboardSnapshot;
 
 /// The one observable store that every view reads: clips, snippets, notes, sketch and shelf.
 /// Setting a note never saves by itself; the operations do. Saves are debounced and written by the
@@ -49,9 +50,10 @@ public:
     /// written.
     void addClip(const QString& text);
 
-    /// Writes an image to the clips folder and, once it is there, adds its clip. Bytes that are not
-    /// PNG yet (`type` is not "image/png") are converted first; what cannot be adds nothing.
-    void addImageClip(const QByteArray& bytes, const QString& type);
+    /// Writes the image in what a pasteboard read with `nextImageType` gave (PNG bytes as they are,
+    /// all else converted) to the clips folder and, once it is there, adds its clip. Nothing is
+    /// added where there is no image or it cannot be written.
+    void addImageClip(const PasteboardSnapshot& contents);
 
     Q_INVOKABLE void togglePin(const QUuid& id);
     Q_INVOKABLE void deleteClip(const QUuid& id);
