@@ -6,6 +6,7 @@
 #include <QObject>
 
 #include <functional>
+#include <optional>
 
 namespace ravelo {
 
@@ -13,6 +14,7 @@ class Pasteboard;
 class Preferences;
 class Scheduler;
 class Worker;
+struct ClipChange;
 struct PasteboardSnapshot;
 
 /// The one observable store that every view reads: clips, snippets, notes, sketch and shelf.
@@ -33,7 +35,9 @@ public:
     };
 
     /// Loads "store.json" from `folder` (made if missing, 0700) and seeds the snippets.
-    Store(QString folder, Services services);
+    Store(const QString& folder, Services services);
+
+    /// Drops what is not written yet; see `flush`.
     ~Store() override;
 
     [[nodiscard]] QString fileURL() const;
@@ -47,7 +51,7 @@ public:
     void setNote(const QString& note);
 
     /// Adds a text, as `ClipHistory::added` has it. Waits behind images that are still being
-    /// written.
+    /// written, so that the order of the clips is the order of copying.
     void addClip(const QString& text);
 
     /// Writes the image in what a pasteboard read with `nextImageType` gave (PNG bytes as they are,
@@ -57,6 +61,7 @@ public:
 
     Q_INVOKABLE void togglePin(const QUuid& id);
     Q_INVOKABLE void deleteClip(const QUuid& id);
+    /// Takes away all unpinned clips, also those that are still on their way.
     Q_INVOKABLE void clearClips();
     void updateSnippet(const Snippet& snippet);
 
@@ -68,13 +73,35 @@ public:
     /// Schedules a write of the whole store, 0.4 s after the last of a burst of calls.
     Q_INVOKABLE void save();
 
-    /// Writes what is pending now and waits for it. For the end of the program.
+    /// Writes what is pending now and waits for it, with the images that are on their way. For the
+    /// end of the program; needs no event loop.
     void flush();
 
 Q_SIGNALS:
     void clipsChanged();
     void snippetsChanged();
     void noteChanged();
+
+private:
+    /// Whether the file on disk is one of ours or has to be kept for the user to look into.
+    enum class FileState { ours, unreadable };
+
+    void load();
+    void addLinkSnippetsIfNeeded();
+    void capture(std::function<void()> job, std::function<void()> add,
+                 std::function<void()> discard);
+    void apply(std::optional<ClipChange> change);
+    void removeImages(const QStringList& imageFileNames);
+    void write();
+
+    Services services_;
+    QString folder_;
+    StoreData data_;
+    FileState file_ = FileState::ours;
+    int capturesOnTheirWay_ = 0;
+    int clearings_ = 0; ///< Tells captures from before the last clearing from later ones.
+    std::optional<StoreData> unsaved_;
+    Handle pendingSave_;
 };
 
 } // namespace ravelo

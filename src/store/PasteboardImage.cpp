@@ -1,0 +1,146 @@
+#include "store/PasteboardImage.h"
+
+#include "platform/Pasteboard.h"
+
+#include <QBuffer>
+#include <QFile>
+#include <QFileInfo>
+#include <QImage>
+#include <QImageIOHandler>
+#include <QImageReader>
+#include <QSysInfo>
+#include <QUrl>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto pngType = "image/png"_L1;
+constexpr auto filesType = "text/uri-list"_L1;
+constexpr qint64 mostFileBytes = 64 * 1024 * 1024;
+constexpr qint64 mostPixels = 32 * 1024 * 1024; // Four bytes each; a screen of 8K just fits in.
+constexpr int quickCompression = 80; // zlib's level 1: a screenshot in a third of the time.
+
+/// The forms worth asking for, best first.
+QStringList candidates(const QStringList& offered) {
+    QStringList list;
+    const auto take = [&](const QString& type) {
+        if (offered.contains(type) && !list.contains(type)) {
+            list.append(type);
+        }
+    };
+    for (const auto known : {pngType, "image/tiff"_L1, "image/jpeg"_L1, "image/webp"_L1,
+                             "image/bmp"_L1, "image/gif"_L1}) {
+        take(known);
+    }
+    for (const QString& type : offered) {
+        // A drawing is a document: it has no size of its own and can draw in other files.
+        if (type.startsWith("image/"_L1) && !type.startsWith("image/svg"_L1)) {
+            take(type);
+        }
+    }
+    take(filesType);
+    return list;
+}
+
+/// A picture by its contents, whatever its type or name says, and of a bearable size.
+bool isPicture(QImageReader& reader) {
+    reader.setDecideFormatFromContent(true);
+    reader.setAutoTransform(true);
+    if (!reader.canRead() || reader.format().startsWith("svg") || reader.format() == "pdf") {
+        return false;
+    }
+    if (!reader.supportsOption(QImageIOHandler::Size)) {
+        return true; // Qt's own limit holds for those.
+    }
+    const QSize size = reader.size();
+    return size.isValid() && qint64(size.width()) * size.height() <= mostPixels;
+}
+
+bool looksGood(const QString& type, const QByteArray& bytes) {
+    if (type == pngType || bytes.isEmpty()) {
+        return !bytes.isEmpty();
+    }
+    QBuffer buffer;
+    buffer.setData(bytes);
+    QImageReader reader(&buffer);
+    return isPicture(reader);
+}
+
+QByteArray decodedToPng(QIODevice& device) {
+    QImageReader reader(&device);
+    QImage image;
+    if (!isPicture(reader) || !reader.read(&image)) {
+        return {};
+    }
+    QBuffer png;
+    return image.save(&png, "PNG", quickCompression) ? png.data() : QByteArray();
+}
+
+QByteArray bytesToPng(QByteArray bytes) {
+    QBuffer buffer(&bytes);
+    return decodedToPng(buffer);
+}
+
+bool isOnThisMachine(const QUrl& url) {
+    const QString host = url.host();
+    return url.isLocalFile() &&
+           (host.isEmpty() || host == "localhost"_L1 ||
+            host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0);
+}
+
+/// The first file of a list (RFC 2483) that is on this machine; empty where there is none.
+QString firstFile(const QByteArray& uriList) {
+    for (const QByteArray& line : uriList.split('\n')) {
+        const QUrl url = QUrl::fromEncoded(line.trimmed(), QUrl::StrictMode);
+        if (isOnThisMachine(url)) {
+            return url.path(QUrl::FullyDecoded);
+        }
+    }
+    return {};
+}
+
+QByteArray fileToPng(const QString& path) {
+    const QFileInfo info(path);
+    QFile file(path);
+    // Only a regular file: a pipe or a device could keep the worker waiting for ever.
+    if (!info.isFile() || info.size() > mostFileBytes || !file.open(QIODevice::ReadOnly)) {
+        return {};
+    }
+    return decodedToPng(file);
+}
+
+} // namespace
+
+QString nextImageType(const PasteboardSnapshot& contents) {
+    for (const QString& type : candidates(contents.types)) {
+        const auto answer = contents.answers.find(type);
+        if (answer == contents.answers.end()) {
+            return type;
+        }
+        if (looksGood(type, answer->value_or(QByteArray()))) {
+            return {};
+        }
+    }
+    return {};
+}
+
+QByteArray pngImage(const PasteboardSnapshot& contents) {
+    for (const QString& type : candidates(contents.types)) {
+        const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
+        if (bytes.isEmpty()) {
+            continue;
+        }
+        const QByteArray png = type == pngType     ? bytes
+                               : type == filesType ? fileToPng(firstFile(bytes))
+                                                   : bytesToPng(bytes);
+        if (!png.isEmpty()) {
+            return png;
+        }
+    }
+    return {};
+}
+
+} // namespace ravelo

@@ -1,0 +1,107 @@
+#include "store/SnippetImage.h"
+
+#include "base/Files.h"
+#include "base/Scheduler.h"
+#include "platform/Pasteboard.h"
+#include "platform/Worker.h"
+#include "store/PasteboardImage.h"
+
+#include <QFile>
+
+#include <memory>
+#include <utility>
+
+namespace ravelo {
+
+namespace {
+
+/// Several forms, each with the time that an adapter gives it; longer and the user has moved on.
+constexpr Seconds patience{10};
+
+/// The handle that the caller holds keeps it alive; what it waits for knows it weakly.
+class Request : public std::enable_shared_from_this<Request> {
+public:
+    Request(const Store::Services& services, QString path, std::function<void(bool)> done)
+        : services_(services), path_(std::move(path)), done_(std::move(done)) {}
+
+    void start() {
+        change_ = services_.pasteboard.onChange(guarded(&Request::read));
+        timeout_ = services_.scheduler.after(patience, guarded(&Request::giveUp));
+        read();
+    }
+
+    void cancel() {
+        stopWaiting();
+        done_ = nullptr;
+    }
+
+private:
+    [[nodiscard]] std::function<void()> guarded(void (Request::*action)()) {
+        return [weak = weak_from_this(), action] {
+            if (const auto self = weak.lock()) {
+                (self.get()->*action)();
+            }
+        };
+    }
+
+    void read() {
+        reading_ = services_.pasteboard.read(
+            nextImageType, [weak = weak_from_this()](const PasteboardSnapshot& contents) {
+                if (const auto self = weak.lock()) {
+                    self->change_.reset();
+                    self->timeout_.reset();
+                    self->write(contents);
+                }
+            });
+    }
+
+    void write(const PasteboardSnapshot& contents) {
+        const auto written = std::make_shared<bool>(false);
+        auto job = [path = path_, contents, written] {
+            const QByteArray png = pngImage(contents);
+            *written = !png.isEmpty() && writeFileAtomically(path, png);
+        };
+        services_.worker.run(std::move(job), [self = shared_from_this(), written] {
+            if (!self->done_) {
+                self->services_.worker.run([path = self->path_] { QFile::remove(path); });
+            } else {
+                self->finish(*written);
+            }
+        });
+    }
+
+    void giveUp() {
+        stopWaiting();
+        finish(false);
+    }
+
+    void stopWaiting() {
+        change_.reset();
+        timeout_.reset();
+        reading_.reset();
+    }
+
+    void finish(bool written) {
+        if (const auto done = std::exchange(done_, nullptr)) {
+            done(written);
+        }
+    }
+
+    Store::Services services_;
+    QString path_;
+    std::function<void(bool)> done_;
+    Handle change_;
+    Handle timeout_;
+    Handle reading_;
+};
+
+} // namespace
+
+Handle saveSnippetImage(const Store::Services& services, const QString& path,
+                        std::function<void(bool)> done) {
+    const auto request = std::make_shared<Request>(services, path, std::move(done));
+    request->start();
+    return Handle([request] { request->cancel(); });
+}
+
+} // namespace ravelo

@@ -1,0 +1,221 @@
+#include "store/Store.h"
+
+#include "base/Files.h"
+#include "base/Scheduler.h"
+#include "base/Uuid.h"
+#include "platform/Pasteboard.h"
+#include "platform/Preferences.h"
+#include "platform/Worker.h"
+#include "store/ClipHistory.h"
+#include "store/PasteboardImage.h"
+#include "store/Seeds.h"
+#include "store/SnippetImage.h"
+#include "store/StoreFile.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QPointer>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Seconds saveDelay{0.4};
+
+QString newImageFileName() {
+    return uuidText(QUuid::createUuid()) + u".png"_s;
+}
+
+QList<QStringList> existing(QList<QStringList> stacks) {
+    for (QStringList& stack : stacks) {
+        stack.removeIf([](const QString& path) { return !QFileInfo::exists(path); });
+    }
+    stacks.removeIf([](const QStringList& stack) { return stack.isEmpty(); });
+    return stacks;
+}
+
+} // namespace
+
+Store::Store(const QString& folder, Services services)
+    : services_(services), folder_(QDir(folder).absolutePath()) {
+    makePrivateFolder(folder_);
+    makePrivateFolder(clipsDir());
+    load();
+    if (data_.snippets.isEmpty()) {
+        data_.snippets = seedSnippets();
+    }
+    addLinkSnippetsIfNeeded();
+}
+
+Store::~Store() = default;
+
+QString Store::fileURL() const {
+    return folder_ + u"/store.json"_s;
+}
+
+QString Store::clipsDir() const {
+    return folder_ + u"/clips"_s;
+}
+
+QString Store::imagePath(const QString& imageFileName) const {
+    // A name only, whatever the file says: nothing outside the folder is ever shown or deleted.
+    return clipsDir() + u'/' + QFileInfo(imageFileName).fileName();
+}
+
+const QList<ClipItem>& Store::clips() const {
+    return data_.clips;
+}
+
+const QList<Snippet>& Store::snippets() const {
+    return data_.snippets;
+}
+
+QString Store::note() const {
+    return data_.note;
+}
+
+void Store::setNote(const QString& note) {
+    if (note != data_.note) {
+        data_.note = note;
+        Q_EMIT noteChanged();
+    }
+}
+
+void Store::load() {
+    const std::optional<QByteArray> bytes = readFile(fileURL());
+    std::optional<StoreData> decoded = bytes ? decodeStore(*bytes) : std::nullopt;
+    if (!decoded) {
+        file_ = FileState::unreadable;
+        return;
+    }
+    data_ = std::move(*decoded);
+    data_.shelfStacks = existing(std::move(data_.shelfStacks));
+    save();
+}
+
+void Store::addLinkSnippetsIfNeeded() {
+    const QString key = u"seededSiteLinksV1"_s;
+    if (services_.preferences.value(key).isUndefined()) {
+        services_.preferences.set(key, true);
+        data_.snippets.append(linkSnippets());
+        save();
+    }
+}
+
+void Store::addClip(const QString& text) {
+    auto add = [this, text, now = services_.scheduler.now()] {
+        apply(ClipHistory::added(data_.clips, text, now));
+    };
+    if (capturesOnTheirWay_ == 0) {
+        add();
+    } else {
+        capture([] {}, std::move(add), [] {});
+    }
+}
+
+void Store::addImageClip(const PasteboardSnapshot& contents) {
+    const QString name = newImageFileName();
+    const auto written = std::make_shared<bool>(false);
+    auto job = [path = imagePath(name), contents, written] {
+        const QByteArray png = pngImage(contents);
+        *written = !png.isEmpty() && writeFileAtomically(path, png);
+    };
+    auto add = [this, name, written, now = services_.scheduler.now()] {
+        if (*written) {
+            apply(ClipHistory::imageAdded(data_.clips, name, now));
+        }
+    };
+    capture(std::move(job), std::move(add), [this, name] { removeImages({name}); });
+}
+
+/// Runs `job` on the worker and then `add`, or `discard` where the history was cleared meanwhile.
+void Store::capture(std::function<void()> job, std::function<void()> add,
+                    std::function<void()> discard) {
+    ++capturesOnTheirWay_;
+    services_.worker.run(std::move(job), [store = QPointer(this), clearings = clearings_,
+                                          add = std::move(add), discard = std::move(discard)] {
+        if (store) {
+            --store->capturesOnTheirWay_;
+            store->clearings_ == clearings ? add() : discard();
+        }
+    });
+}
+
+void Store::apply(std::optional<ClipChange> change) {
+    if (!change) {
+        return;
+    }
+    data_.clips = std::move(change->clips);
+    removeImages(change->orphanedImages);
+    save();
+    Q_EMIT clipsChanged();
+}
+
+void Store::removeImages(const QStringList& imageFileNames) {
+    for (const QString& name : imageFileNames) {
+        services_.worker.run([path = imagePath(name)] { QFile::remove(path); });
+    }
+}
+
+void Store::togglePin(const QUuid& id) {
+    apply(ClipHistory::pinToggled(data_.clips, id));
+}
+
+void Store::deleteClip(const QUuid& id) {
+    apply(ClipHistory::deleted(data_.clips, id));
+}
+
+void Store::clearClips() {
+    ++clearings_;
+    apply(ClipHistory::cleared(data_.clips));
+}
+
+void Store::updateSnippet(const Snippet& snippet) {
+    const auto found = std::ranges::find(data_.snippets, snippet.id, &Snippet::id);
+    if (found != data_.snippets.end()) {
+        *found = snippet;
+        save();
+        Q_EMIT snippetsChanged();
+    }
+}
+
+Handle Store::saveClipboardImageForSnippet(std::function<void(QString)> done) {
+    const QString name = newImageFileName();
+    return saveSnippetImage(services_, imagePath(name), [name, done = std::move(done)](bool saved) {
+        done(saved ? name : QString());
+    });
+}
+
+void Store::save() {
+    unsaved_ = data_;
+    pendingSave_ = services_.scheduler.after(saveDelay, [this] { write(); });
+}
+
+void Store::write() {
+    pendingSave_.reset();
+    if (!unsaved_) {
+        return;
+    }
+    services_.worker.run([path = fileURL(), data = *std::exchange(unsaved_, std::nullopt),
+                          file = std::exchange(file_, FileState::ours)] {
+        if (file == FileState::unreadable) {
+            setAsideUnreadable(path);
+        }
+        (void)writeFileAtomically(path, encodeStore(data));
+    });
+}
+
+void Store::flush() {
+    do {
+        write();
+        services_.worker.drain();
+    } while (unsaved_);
+}
+
+} // namespace ravelo

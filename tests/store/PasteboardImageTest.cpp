@@ -1,0 +1,147 @@
+#include "store/PasteboardImage.h"
+#include "TestImages.h"
+#include "fakes/ManualScheduler.h"
+#include "fakes/MemoryPasteboard.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+#include <QUrl>
+
+#include <gtest/gtest.h>
+
+#include <sys/stat.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A BMP of a few bytes that says it has 3.6 thousand million pixels.
+QByteArray bomb() {
+    QByteArray bytes = picture("bmp", Qt::red);
+    const QByteArray side("\x60\xea\x00\x00", 4);
+    return bytes.replace(18, 4, side).replace(22, 4, side);
+}
+
+/// The bytes that a word of the tables stands for: "bmp:red" is a red BMP.
+QByteArray contents(const QString& word) {
+    const QStringList parts = word.split(u':');
+    if (parts.size() == 2) {
+        return picture(parts[0].toLatin1().constData(), QColor(parts[1]));
+    }
+    if (word == "svg"_L1) {
+        return R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="20">)"
+               R"(<rect width="20" height="20" fill="red"/></svg>)";
+    }
+    if (word == "cut"_L1) {
+        return picture("tiff", Qt::red).first(60);
+    }
+    return word == "bomb"_L1 ? bomb() : word == "refused"_L1 ? QByteArray() : word.toUtf8();
+}
+
+struct Offer {
+    const char* forms; ///< In the owner's order, "type=contents".
+    const char* asked; ///< What the owner is asked for.
+    const char* color; ///< Of the image that is made of it.
+};
+
+void PrintTo(const Offer& offer, std::ostream* out) {
+    *out << offer.forms;
+}
+
+class OfferedImage : public testing::TestWithParam<Offer> {
+protected:
+    void offer(const QString& forms) {
+        QList<PasteboardEntry> entries;
+        for (const QString& form : forms.split(u' ')) {
+            entries.append({form.section(u'=', 0, 0), contents(form.section(u'=', 1))});
+        }
+        pasteboard_.offer(entries);
+    }
+
+    QByteArray image() {
+        PasteboardSnapshot snapshot;
+        const Handle reading = pasteboard_.read(
+            nextImageType, [&](const PasteboardSnapshot& read) { snapshot = read; });
+        scheduler_.advance(Seconds(1));
+        return pngImage(snapshot);
+    }
+
+    ManualScheduler scheduler_;
+    MemoryPasteboard pasteboard_{scheduler_};
+};
+
+TEST_P(OfferedImage, IsTheBestThatCanBeHad) {
+    offer(QString::fromUtf8(GetParam().forms));
+    EXPECT_EQ(colorOf(image()), GetParam().color);
+    EXPECT_EQ(pasteboard_.asked().join(u' ').toStdString(), GetParam().asked);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, OfferedImage,
+    testing::Values(
+        Offer{"image/bmp=bmp:red image/tiff=tiff:lime image/png=png:blue", "image/png", "blue"},
+        Offer{"image/bmp=bmp:red image/tiff=tiff:lime", "image/tiff", "green"},
+        Offer{"image/png=refused image/tiff=tiff:lime", "image/png image/tiff", "green"},
+        Offer{"image/tiff=junk image/bmp=bmp:blue", "image/tiff image/bmp", "blue"},
+        Offer{"image/bmp=bmp:blue image/jpeg=jpeg:red", "image/jpeg", "red"},
+        Offer{"image/gif=junk image/webp=webp:blue", "image/webp", "blue"},
+        Offer{"image/x-rare=png:red image/gif=junk", "image/gif image/x-rare", "red"},
+        Offer{"image/bmp=bomb image/x-rare=bmp:blue", "image/bmp image/x-rare", "blue"},
+        Offer{"image/bmp=bomb", "image/bmp", "none"}, Offer{"image/bmp=svg", "image/bmp", "none"},
+        Offer{"image/svg+xml=svg text/plain=svg", "", "none"},
+        Offer{"text/html=x text/plain=y", "", "none"},
+        Offer{"text/uri-list=http://a.example/x.png", "text/uri-list", "none"},
+        Offer{"image/tiff=refused text/uri-list=junk", "image/tiff text/uri-list", "none"}));
+
+TEST_F(OfferedImage, PassesPngBytesOnAsTheyAre) {
+    const QByteArray bytes = picture("png", Qt::red) + "and what a program may add to it";
+    pasteboard_.offer({{u"image/png"_s, bytes}});
+    EXPECT_EQ(image(), bytes);
+}
+
+class CopiedFile : public OfferedImage {
+protected:
+    QUrl write(const QString& name, const QByteArray& bytes) {
+        QFile file(folder_.filePath(name));
+        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
+        return QUrl::fromLocalFile(file.fileName());
+    }
+
+    std::string colorOfList(const QByteArray& uriList) {
+        pasteboard_.offer({{u"text/uri-list"_s, uriList}});
+        return colorOf(image());
+    }
+
+    QTemporaryDir folder_;
+};
+
+TEST_F(CopiedFile, FirstOfThisMachineCounts) {
+    const QByteArray red = write(u"a ü#1.jpg"_s, picture("jpeg", Qt::red)).toEncoded();
+    const QByteArray blue = write(u"misnamed.txt"_s, picture("bmp", Qt::blue)).toEncoded();
+    const QByteArray elsewhere = QByteArray(blue).replace("file://", "file://far.example");
+    EXPECT_EQ(colorOfList(red + "\r\n" + blue + "\r\n"), "red");
+    EXPECT_EQ(colorOfList("# a comment\r\n\r\nhttp://a.example/b\n" + blue), "blue");
+    EXPECT_EQ(colorOfList(elsewhere + "\r\n" + red), "red");
+    EXPECT_EQ(colorOfList(QByteArray(red).replace("file://", "file://localhost")), "red");
+}
+
+TEST_F(CopiedFile, ThatIsNoPictureGivesNothing) {
+    const QString pipe = folder_.filePath(u"pipe"_s);
+    ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
+    const QUrl big = write(u"big.bmp"_s, picture("bmp", Qt::red));
+    ASSERT_TRUE(QFile::resize(big.toLocalFile(), 64 * 1024 * 1024 + 1));
+
+    EXPECT_EQ(colorOfList(QUrl::fromLocalFile(pipe).toEncoded()), "none") << "a pipe";
+    EXPECT_EQ(colorOfList(big.toEncoded()), "none") << "a file of more than 64 MiB";
+    EXPECT_EQ(colorOfList(QUrl::fromLocalFile(folder_.path()).toEncoded()), "none") << "a folder";
+    EXPECT_EQ(colorOfList(write(u"a"_s, contents(u"bomb"_s)).toEncoded()), "none") << "a bomb";
+    EXPECT_EQ(colorOfList(write(u"b.svg"_s, contents(u"svg"_s)).toEncoded()), "none")
+        << "a drawing";
+    EXPECT_EQ(colorOfList("file:///no/such/file.png"), "none") << "a missing file";
+}
+
+} // namespace
+
+} // namespace ravelo

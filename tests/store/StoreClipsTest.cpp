@@ -1,0 +1,224 @@
+#include "StoreFixture.h"
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class StoreClips : public StoreFixture {
+protected:
+    StoreClips() {
+        start();
+        store_->flush();
+    }
+
+    /// Nothing waits to be saved.
+    void expectNoSave() { EXPECT_EQ(scheduler_.pending(), 0) << "a save is pending"; }
+
+    QUuid add(const QString& text) {
+        store_->addClip(text);
+        return store_->clips()[0].id;
+    }
+};
+
+TEST_F(StoreClips, OperationsSaveAndTellOnlyWhatTheyChange) {
+    const Told told(store_.get(), &Store::clipsChanged);
+    store_->addClip(u" \n"_s);
+    store_->togglePin(QUuid::createUuid());
+    store_->deleteClip(QUuid::createUuid());
+    EXPECT_EQ(told.count(), 0);
+    expectNoSave();
+
+    const QUuid a = add(u"a"_s);
+    const QUuid b = add(u"b"_s);
+    store_->togglePin(a);
+    store_->deleteClip(b);
+    EXPECT_EQ(told.count(), 4);
+    settle();
+    EXPECT_EQ(saved().clips, store_->clips());
+    EXPECT_TRUE(saved().clips[0].pinned);
+    EXPECT_EQ(saved().clips[0].date, Date{scheduler_.now().sinceReference - 0.4});
+}
+
+TEST_F(StoreClips, ImageIsAddedOnceItsFileIsThere) {
+    store_->addImageClip(png(Qt::red));
+    EXPECT_EQ(texts(), "");
+    settle(Seconds(0));
+    EXPECT_EQ(texts(), "red");
+    const ClipItem clip = store_->clips()[0];
+    EXPECT_EQ(clip.imageFileName.size(), 40);
+    EXPECT_NE(clip.imageFileName.first(36), clip.id.toString(QUuid::WithoutBraces).toUpper());
+    EXPECT_EQ(imageFiles(), QStringList(clip.imageFileName));
+}
+
+TEST_F(StoreClips, OrderOfCopyingIsKept) {
+    store_->addClip(u"1"_s);
+    store_->addImageClip(png(Qt::red));
+    store_->addClip(u"2"_s);
+    store_->addImageClip(png(Qt::blue));
+    store_->addClip(u"3"_s);
+    EXPECT_EQ(texts(), "1");
+    scheduler_.advance(Seconds(5));
+    worker_.drain();
+    EXPECT_EQ(texts(), "3 blue 2 red 1");
+    EXPECT_EQ(store_->clips()[0].date, Date{scheduler_.now().sinceReference - 5})
+        << "the moment of copying, not of writing";
+    store_->addClip(u"4"_s);
+    EXPECT_EQ(texts(), "4 3 blue 2 red 1") << "nothing to wait for any more";
+}
+
+class BadImage : public StoreClips, public testing::WithParamInterface<bool> {};
+
+TEST_P(BadImage, AddsNothing) {
+    if (GetParam()) {
+        ASSERT_TRUE(QDir(store_->clipsDir()).removeRecursively());
+    }
+    store_->addImageClip(GetParam() ? png(Qt::red) : PasteboardSnapshot{{u"image/bmp"_s}, {}});
+    worker_.drain();
+    expectNoSave();
+    EXPECT_EQ(texts(), "");
+    EXPECT_EQ(imageFiles(), QStringList());
+    store_->addClip(u"a"_s);
+    EXPECT_EQ(texts(), "a");
+}
+
+INSTANTIATE_TEST_SUITE_P(ThatIsNoneOrCannotBeWritten, BadImage, testing::Bool());
+
+TEST_F(StoreClips, DeletingAndClearingTakeTheirFilesAlong) {
+    for (const Qt::GlobalColor color : {Qt::red, Qt::green, Qt::blue}) {
+        store_->addImageClip(png(color));
+        settle();
+    }
+    const ClipItem pinned = store_->clips()[2];
+    store_->togglePin(pinned.id);
+    store_->deleteClip(store_->clips()[1].id);
+    settle();
+    EXPECT_EQ(texts(), "red blue");
+    EXPECT_EQ(imageFiles().size(), 2);
+    store_->clearClips();
+    settle();
+    EXPECT_EQ(texts(), "red");
+    EXPECT_EQ(imageFiles(), QStringList(pinned.imageFileName));
+}
+
+TEST_F(StoreClips, ClearingTakesWhatIsOnItsWay) {
+    store_->addImageClip(png(Qt::red));
+    store_->addClip(u"secret"_s);
+    store_->clearClips();
+    store_->addClip(u"later"_s);
+    settle();
+    EXPECT_EQ(texts(), "later");
+    settle();
+    EXPECT_EQ(imageFiles(), QStringList());
+}
+
+TEST_F(StoreClips, PushedOutImageLosesItsFileOnlyToAnImage) {
+    store_->addImageClip(png(Qt::red));
+    store_->addImageClip(png(Qt::blue));
+    worker_.drain();
+    for (int i = 0; i < 59; ++i) {
+        add(QString::number(i));
+    }
+    worker_.drain();
+    EXPECT_EQ(store_->clips().size(), 60);
+    EXPECT_EQ(imageFiles().size(), 2) << "a text leaves it";
+    store_->addImageClip(png(Qt::green));
+    settle();
+    EXPECT_EQ(imageFiles().size(), 2) << "the red one stays an orphan, the blue one goes";
+}
+
+TEST_F(StoreClips, NameFromTheFileNeverReachesOutsideTheFolder) {
+    StoreData data;
+    data.clips = {
+        {QUuid::createUuid(), u"Image"_s, ClipKind::image, {1}, false, u"../store.json"_s}};
+    ASSERT_TRUE(writeFileAtomically(storeFile(), encodeStore(data)));
+    start();
+    store_->clearClips();
+    worker_.drain();
+    EXPECT_TRUE(QFile::exists(storeFile()));
+}
+
+TEST_F(StoreClips, SnippetIsReplacedWhole) {
+    const Told told(store_.get(), &Store::snippetsChanged);
+    store_->updateSnippet({QUuid::createUuid(), u"new"_s, {}, {}, {}});
+    EXPECT_EQ(store_->snippets().size(), 18);
+    EXPECT_EQ(told.count(), 0);
+    expectNoSave();
+
+    const Snippet changed = {store_->snippets()[3].id, u"T"_s, u"B"_s, u"car"_s, u"P.png"_s};
+    store_->updateSnippet(changed);
+    EXPECT_EQ(told.count(), 1);
+    settle();
+    EXPECT_EQ(saved().snippets[3], changed);
+}
+
+class SnippetImage : public StoreClips {
+protected:
+    /// Asks for the image; the answer, once it is there, is in `answers_`.
+    [[nodiscard]] Handle ask() {
+        return store_->saveClipboardImageForSnippet(
+            [this](const QString& name) { answers_.append(name); });
+    }
+
+    QStringList answers_;
+};
+
+TEST_F(SnippetImage, IsWrittenUnderANewName) {
+    pasteboard_.offer({{u"image/tiff"_s, picture("tiff", Qt::blue)}});
+    const Handle handle = ask();
+    EXPECT_EQ(answers_.size(), 0);
+    settle();
+    ASSERT_EQ(answers_.size(), 1);
+    EXPECT_EQ(answers_[0].size(), 40);
+    EXPECT_EQ(imageFiles(), answers_);
+    EXPECT_EQ(colorOf(readFile(store_->imagePath(answers_[0])).value_or(QByteArray())), "blue");
+    EXPECT_EQ(scheduler_.pending(), 0) << "neither a save nor a time-out is left";
+    EXPECT_EQ(texts(), "");
+}
+
+TEST_F(SnippetImage, IsTheOneThatCameInBetween) {
+    pasteboard_.offer({{u"image/png"_s, picture("png", Qt::red)}});
+    const Handle handle = ask();
+    pasteboard_.offer({{u"image/png"_s, picture("png", Qt::blue)}});
+    settle();
+    ASSERT_EQ(answers_.size(), 1);
+    EXPECT_EQ(colorOf(readFile(store_->imagePath(answers_[0])).value_or(QByteArray())), "blue");
+}
+
+TEST_F(SnippetImage, ThatIsNotThereGivesNoName) {
+    pasteboard_.offerText(u"a"_s);
+    const Handle handle = ask();
+    settle();
+    EXPECT_EQ(answers_, QStringList(QString()));
+    EXPECT_EQ(imageFiles(), QStringList());
+}
+
+TEST_F(SnippetImage, OfASilentOwnerIsGivenUp) {
+    pasteboard_.offerSilence();
+    const Handle handle = ask();
+    settle(Seconds(9.9));
+    EXPECT_EQ(answers_.size(), 0);
+    settle(Seconds(0.2));
+    EXPECT_EQ(answers_, QStringList(QString()));
+}
+
+class DroppedSnippetImage : public SnippetImage, public testing::WithParamInterface<double> {};
+
+TEST_P(DroppedSnippetImage, LeavesNothingBehind) {
+    pasteboard_.offer({{u"image/png"_s, picture("png", Qt::red)}});
+    Handle handle = ask();
+    scheduler_.advance(Seconds(GetParam()));
+    handle.reset();
+    store_.reset();
+    settle();
+    EXPECT_EQ(answers_.size(), 0);
+    EXPECT_EQ(imageFiles(), QStringList());
+    EXPECT_EQ(scheduler_.pending(), 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(BeforeAndAfterTheReading, DroppedSnippetImage, testing::Values(0, 0.1));
+
+} // namespace
+
+} // namespace ravelo

@@ -1,0 +1,84 @@
+#pragma once
+
+#include "TestImages.h"
+#include "base/Files.h"
+#include "fakes/ManualScheduler.h"
+#include "fakes/ManualWorker.h"
+#include "fakes/MemoryPasteboard.h"
+#include "fakes/MemoryPreferences.h"
+#include "store/Store.h"
+#include "store/StoreFile.h"
+#include "support/Told.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <memory>
+
+namespace ravelo {
+
+/// A store in a folder of its own, on virtual time. The worker works when told to.
+class StoreFixture : public testing::Test {
+protected:
+    void start() { store_ = std::make_unique<Store>(folder(), services()); }
+
+    /// Ends the program in good order and starts it again.
+    void restart() {
+        store_->flush();
+        start();
+    }
+
+    /// Time passes and the worker does all it has.
+    void settle(Seconds time = Seconds(0.4)) {
+        scheduler_.advance(time);
+        worker_.drain();
+    }
+
+    [[nodiscard]] Store::Services services() {
+        return {scheduler_, worker_, preferences_, pasteboard_};
+    }
+
+    [[nodiscard]] QString folder() const { return directory_.filePath(QStringLiteral("Ravelo")); }
+
+    [[nodiscard]] QString storeFile() const { return folder() + QStringLiteral("/store.json"); }
+
+    /// What the file on disk says; fails where there is none or it cannot be decoded.
+    [[nodiscard]] StoreData saved() const {
+        const auto data = decodeStore(readFile(storeFile()).value_or(QByteArray()));
+        EXPECT_TRUE(data) << "no decodable store file";
+        return data.value_or(StoreData());
+    }
+
+    [[nodiscard]] QStringList imageFiles() const {
+        return QDir(folder() + QStringLiteral("/clips")).entryList(QDir::Files | QDir::Hidden);
+    }
+
+    [[nodiscard]] static PasteboardSnapshot png(QColor color) {
+        const QString type = QStringLiteral("image/png");
+        return {{type}, {{type, picture("png", color)}}};
+    }
+
+    /// The clips in list order; an image by its colour.
+    [[nodiscard]] std::string texts() const {
+        QStringList words;
+        for (const ClipItem& clip : store_->clips()) {
+            words.append(
+                clip.kind != ClipKind::image
+                    ? clip.text
+                    : QString::fromStdString(colorOf(
+                          readFile(store_->imagePath(clip.imageFileName)).value_or(QByteArray()))));
+        }
+        return words.join(QLatin1Char(' ')).toStdString();
+    }
+
+    QTemporaryDir directory_;
+    ManualScheduler scheduler_;
+    ManualWorker worker_{ManualWorker::Mode::whenTold};
+    MemoryPreferences preferences_;
+    MemoryPasteboard pasteboard_{scheduler_};
+    std::unique_ptr<Store> store_;
+};
+
+} // namespace ravelo

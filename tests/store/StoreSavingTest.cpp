@@ -1,0 +1,184 @@
+#include "StoreFixture.h"
+
+#include <QFileInfo>
+
+#include <sys/stat.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class StoreSaving : public StoreFixture {
+protected:
+    void write(const QByteArray& bytes) {
+        ASSERT_TRUE(QDir().mkpath(folder()));
+        ASSERT_TRUE(writeFileAtomically(storeFile(), bytes));
+    }
+
+    static unsigned mode(const QString& path) {
+        struct stat info = {};
+        EXPECT_EQ(stat(qPrintable(path), &info), 0) << qPrintable(path);
+        return info.st_mode & 07777;
+    }
+};
+
+TEST_F(StoreSaving, FirstRunGivesTemplatesThenLinksAndWritesThem) {
+    start();
+    ASSERT_EQ(store_->snippets().size(), 18);
+    EXPECT_EQ(store_->snippets()[0].title, u"First reply to lead"_s);
+    EXPECT_EQ(store_->snippets()[7].icon, u"signature"_s);
+    for (const Snippet& snippet : store_->snippets().last(10)) {
+        EXPECT_EQ(snippet.icon, u"link"_s);
+        EXPECT_TRUE(snippet.body.startsWith(u"https://"_s)) << qPrintable(snippet.body);
+    }
+    EXPECT_TRUE(store_->clips().isEmpty());
+    EXPECT_EQ(preferences_.value(u"seededSiteLinksV1"_s), true);
+
+    settle(Seconds(0.39));
+    EXPECT_FALSE(QFile::exists(storeFile())) << "written before its time";
+    settle(Seconds(0.01));
+    EXPECT_EQ(saved().snippets, store_->snippets());
+}
+
+TEST_F(StoreSaving, TemplatesComeBackButLinksDoNot) {
+    preferences_.set(u"seededSiteLinksV1"_s, false);
+    start();
+    EXPECT_EQ(store_->snippets().size(), 8) << "any value of the flag counts";
+    settle();
+    EXPECT_FALSE(QFile::exists(storeFile())) << "seeding alone is not saved";
+}
+
+TEST_F(StoreSaving, OnlyItsUserCanRead) {
+    start();
+    store_->addImageClip(png(Qt::red));
+    store_->flush();
+    EXPECT_EQ(mode(folder()), 0700U);
+    EXPECT_EQ(mode(store_->clipsDir()), 0700U);
+    EXPECT_EQ(mode(storeFile()), 0600U);
+    ASSERT_EQ(imageFiles().size(), 1);
+    EXPECT_EQ(mode(store_->imagePath(imageFiles()[0])), 0600U);
+}
+
+TEST_F(StoreSaving, BurstGivesOneWriteOfTheStateAtTheLastSave) {
+    start();
+    store_->flush();
+    for (int i = 1; i <= 10; ++i) {
+        store_->setNote(QString::number(i));
+        store_->save();
+        scheduler_.advance(Seconds(0.1));
+        EXPECT_EQ(worker_.pending(), 0) << "written after save " << i;
+    }
+    store_->setNote(u"not saved"_s);
+    scheduler_.advance(Seconds(0.31));
+    EXPECT_EQ(worker_.pending(), 1) << "the one write";
+    scheduler_.advance(Seconds(10));
+    EXPECT_EQ(worker_.pending(), 1) << "no other one follows";
+    worker_.drain();
+    EXPECT_EQ(saved().note, u"10"_s);
+}
+
+TEST_F(StoreSaving, KeepsEverythingOverARestart) {
+    const StoreData data = {{{QUuid::createUuid(), u"a"_s, ClipKind::text, {0.1}, true, {}}},
+                            {{QUuid::createUuid(), u"t"_s, u"b"_s, u"car"_s, u"X.png"_s}},
+                            u"one"_s,
+                            u"two"_s,
+                            {{QUuid::createUuid(), {{1, 2}, {3.5, 4}}}},
+                            {{directory_.path()}}};
+    preferences_.set(u"seededSiteLinksV1"_s, true);
+    write(encodeStore(data));
+    start();
+    EXPECT_EQ(store_->note(), u"one"_s);
+    store_->addClip(u"b"_s);
+    restart();
+    StoreData now = saved();
+    ASSERT_EQ(now.clips.size(), 2);
+    EXPECT_EQ(now.clips.takeFirst().text, u"b"_s);
+    EXPECT_EQ(now, data);
+}
+
+TEST_F(StoreSaving, VanishedFilesLeaveTheShelf) {
+    const QString here = directory_.path();
+    StoreData data;
+    data.shelfStacks = {{u"/no/such"_s}, {here, u"/no/such"_s, u"/"_s}, {}, {u"/"_s}};
+    write(encodeStore(data));
+    start();
+    EXPECT_EQ(saved().shelfStacks, data.shelfStacks) << "written back 0.4 s later, not at once";
+    settle();
+    EXPECT_EQ(saved().shelfStacks, QList<QStringList>({{here, u"/"_s}, {u"/"_s}}));
+}
+
+class UnreadableStore : public StoreSaving, public testing::WithParamInterface<const char*> {};
+
+TEST_P(UnreadableStore, IsSetAsideBeforeItIsReplaced) {
+    preferences_.set(u"seededSiteLinksV1"_s, true);
+    write(GetParam());
+    start();
+    EXPECT_TRUE(store_->clips().isEmpty());
+    EXPECT_EQ(store_->snippets().size(), 8);
+    settle();
+    EXPECT_EQ(readFile(storeFile()), GetParam()) << "untouched as long as nothing is saved";
+    EXPECT_EQ(QDir(folder()).entryList(QDir::Files), QStringList(u"store.json"_s));
+
+    store_->addClip(u"a"_s);
+    restart();
+    EXPECT_EQ(texts(), "a");
+    EXPECT_EQ(readFile(storeFile() + u".unreadable"_s), GetParam());
+    EXPECT_EQ(mode(storeFile() + u".unreadable"_s), 0600U);
+    restart();
+    EXPECT_EQ(QDir(folder()).entryList(QDir::Files).size(), 2) << "a good file is not set aside";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, UnreadableStore,
+    testing::Values("", "junk", "[]", "{}",
+                    R"({"clips":[],"snippets":[],"note":"","drawing":[],"shelfStacks":[]})"));
+
+TEST_F(StoreSaving, FlushWritesWhatIsPendingAndOnItsWay) {
+    start();
+    store_->addImageClip(png(Qt::red));
+    store_->addClip(u"a"_s);
+    store_->setNote(u"typed"_s);
+    store_->save();
+    store_->flush();
+    EXPECT_EQ(saved().note, u"typed"_s);
+    EXPECT_EQ(saved().clips.size(), 2);
+    EXPECT_EQ(texts(), "a red");
+    scheduler_.advance(Seconds(1));
+    EXPECT_EQ(worker_.pending(), 0) << "nothing is left to be written";
+}
+
+TEST_F(StoreSaving, LaterSaveIsNeverOvertakenByAnEarlierOne) {
+    start();
+    for (const QString& note : {u"1"_s, u"2"_s, u"3"_s}) {
+        store_->setNote(note);
+        store_->save();
+        scheduler_.advance(Seconds(1));
+    }
+    EXPECT_EQ(worker_.pending(), 3) << "a slow disk";
+    worker_.drain();
+    EXPECT_EQ(saved().note, u"3"_s);
+}
+
+TEST_F(StoreSaving, LivesWithoutADisk) {
+    QFile file(folder());
+    ASSERT_TRUE(file.open(QFile::WriteOnly)) << "a file where the folder should be";
+    start();
+    store_->addClip(u"a"_s);
+    store_->addImageClip(png(Qt::red));
+    settle();
+    EXPECT_EQ(texts(), "a");
+}
+
+TEST_F(StoreSaving, NotesTellTheirChangesOnce) {
+    start();
+    const Told told(store_.get(), &Store::noteChanged);
+    store_->setNote(u"a"_s);
+    store_->setNote(u"a"_s);
+    EXPECT_EQ(told.count(), 1);
+}
+
+} // namespace
+
+} // namespace ravelo
