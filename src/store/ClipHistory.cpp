@@ -12,7 +12,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 bool isLink(const QString& trimmed) {
-    if (!trimmed.contains("://"_L1)) {
+    // QUrl knows about blanks too, but takes 15 ms to say so of the largest texts.
+    if (!trimmed.contains("://"_L1) ||
+        std::ranges::any_of(trimmed, [](QChar c) { return c.isSpace(); })) {
         return false;
     }
     const QUrl url(trimmed, QUrl::StrictMode);
