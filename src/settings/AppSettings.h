@@ -9,7 +9,8 @@ namespace ravelo {
 class LoginItem;
 class Preferences;
 
-/// The user's preferences, read once at construction and written back as they change.
+/// The user's preferences, read once at construction and written back as they are set. A value of
+/// the wrong type counts as absent.
 /// Main thread only.
 class AppSettings : public QObject {
     Q_OBJECT
@@ -34,8 +35,8 @@ public:
     [[nodiscard]] bool hotkeyEnabled() const;
     [[nodiscard]] QString lastTab() const;
     [[nodiscard]] bool pinnedBar() const;
-    [[nodiscard]] QString
-    macType() const; ///< "auto", "notch" or "none"; other texts count as "auto".
+    /// "auto", "notch" or "none"; other texts count as "auto".
+    [[nodiscard]] QString macType() const;
     [[nodiscard]] bool onboarded() const;
     [[nodiscard]] bool launchAtLogin() const;
 
@@ -47,7 +48,7 @@ public:
     void setPinnedBar(bool on); ///< Until the program ends: not written back.
     void setMacType(const QString& type);
     void setOnboarded(bool done);
-    void setLaunchAtLogin(bool on);
+    void setLaunchAtLogin(bool on); ///< Registers or unregisters at every call.
 
     /// Registers the program to start at login, once in the life of an installation.
     void setupLoginItemDefaultIfNeeded();
@@ -66,6 +67,24 @@ Q_SIGNALS:
     void macTypeChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
+
+private:
+    template <typename T>
+    bool change(T& field, const T& value, void (AppSettings::*changed)());
+
+    void applyLogin();
+
+    Preferences& preferences_;
+    LoginItem& loginItem_;
+    double bgOpacity_;
+    bool fullBlack_;
+    double panelWidth_;
+    bool hotkeyEnabled_;
+    QString lastTab_;
+    bool pinnedBar_;
+    QString macType_;
+    bool onboarded_;
+    bool launchAtLogin_;
 };
 
 } // namespace ravelo

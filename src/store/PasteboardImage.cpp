@@ -21,7 +21,7 @@ constexpr auto pngType = "image/png"_L1;
 constexpr auto filesType = "text/uri-list"_L1;
 constexpr qint64 mostFileBytes = 64 * 1024 * 1024;
 constexpr qint64 mostPixels = 32 * 1024 * 1024; // Four bytes each; a screen of 8K just fits in.
-constexpr int quickCompression = 80; // zlib's level 1: a screenshot in a third of the time.
+constexpr int quickCompression = 80; // zlib's level 1: half the time, hardly larger.
 
 /// The forms worth asking for, best first.
 QStringList candidates(const QStringList& offered) {

@@ -1,0 +1,131 @@
+#include "settings/AppSettings.h"
+
+#include "platform/LoginItem.h"
+#include "platform/Preferences.h"
+
+#include <QLoggingCategory>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+// QJsonValue's readers answer the default for a missing value and for one of another type.
+AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
+    : preferences_(preferences),
+      loginItem_(loginItem),
+      bgOpacity_(preferences.value(u"bgOpacity"_s).toDouble(0.55)),
+      fullBlack_(preferences.value(u"fullBlack"_s).toBool(false)),
+      panelWidth_(preferences.value(u"panelWidth"_s).toDouble(927)),
+      hotkeyEnabled_(preferences.value(u"hotkeyEnabled"_s).toBool(true)),
+      lastTab_(preferences.value(u"lastTab"_s).toString(u"Clipboard"_s)),
+      pinnedBar_(preferences.value(u"pinnedBar"_s).toBool(false)),
+      macType_(preferences.value(u"macType"_s).toString(u"auto"_s)),
+      onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
+      launchAtLogin_(loginItem.isEnabled()) {}
+
+double AppSettings::bgOpacity() const {
+    return bgOpacity_;
+}
+
+bool AppSettings::fullBlack() const {
+    return fullBlack_;
+}
+
+double AppSettings::panelWidth() const {
+    return panelWidth_;
+}
+
+bool AppSettings::hotkeyEnabled() const {
+    return hotkeyEnabled_;
+}
+
+QString AppSettings::lastTab() const {
+    return lastTab_;
+}
+
+bool AppSettings::pinnedBar() const {
+    return pinnedBar_;
+}
+
+QString AppSettings::macType() const {
+    return macType_;
+}
+
+bool AppSettings::onboarded() const {
+    return onboarded_;
+}
+
+bool AppSettings::launchAtLogin() const {
+    return launchAtLogin_;
+}
+
+template <typename T>
+bool AppSettings::change(T& field, const T& value, void (AppSettings::*changed)()) {
+    if (field == value) {
+        return false;
+    }
+    field = value;
+    Q_EMIT(this->*changed)();
+    return true;
+}
+
+void AppSettings::setBgOpacity(double opacity) {
+    preferences_.set(u"bgOpacity"_s, opacity);
+    change(bgOpacity_, opacity, &AppSettings::bgOpacityChanged);
+}
+
+void AppSettings::setFullBlack(bool on) {
+    preferences_.set(u"fullBlack"_s, on);
+    change(fullBlack_, on, &AppSettings::fullBlackChanged);
+}
+
+void AppSettings::setPanelWidth(double width) {
+    preferences_.set(u"panelWidth"_s, width);
+    change(panelWidth_, width, &AppSettings::panelWidthChanged);
+}
+
+void AppSettings::setHotkeyEnabled(bool on) {
+    change(hotkeyEnabled_, on, &AppSettings::hotkeyEnabledChanged);
+}
+
+void AppSettings::setLastTab(const QString& tab) {
+    preferences_.set(u"lastTab"_s, tab);
+    change(lastTab_, tab, &AppSettings::lastTabChanged);
+}
+
+void AppSettings::setPinnedBar(bool on) {
+    change(pinnedBar_, on, &AppSettings::pinnedBarChanged);
+}
+
+void AppSettings::setMacType(const QString& type) {
+    preferences_.set(u"macType"_s, type);
+    if (change(macType_, type, &AppSettings::macTypeChanged) && onLayoutChange) {
+        onLayoutChange();
+    }
+}
+
+void AppSettings::setOnboarded(bool done) {
+    preferences_.set(u"onboarded"_s, done);
+    change(onboarded_, done, &AppSettings::onboardedChanged);
+}
+
+void AppSettings::setLaunchAtLogin(bool on) {
+    change(launchAtLogin_, on, &AppSettings::launchAtLoginChanged);
+    applyLogin();
+}
+
+void AppSettings::applyLogin() {
+    if (const Result<void> result = loginItem_.setEnabled(launchAtLogin_); !result) {
+        qWarning("Ravelo login-item error: %s", qUtf8Printable(result.error().message));
+    }
+}
+
+void AppSettings::setupLoginItemDefaultIfNeeded() {
+    const QString key = u"didSetupLogin"_s;
+    if (preferences_.value(key).isUndefined()) {
+        preferences_.set(key, true);
+        setLaunchAtLogin(true);
+    }
+}
+
+} // namespace ravelo
