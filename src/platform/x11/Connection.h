@@ -1,0 +1,73 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <QByteArray>
+
+#include <xcb/xcb.h>
+
+#include <cstdlib>
+#include <map>
+#include <memory>
+#include <span>
+#include <vector>
+
+namespace ravelo::x11 {
+
+/// What xcb hands out is freed with free().
+struct FreeDeleter {
+    void operator()(void* memory) const { std::free(memory); }
+};
+
+/// A reply or an event of xcb; null where the server answered with an error or is gone.
+template <typename T>
+using Owned = std::unique_ptr<T, FreeDeleter>;
+
+/// A connection to the X server that is ours alone. Requests may be sent from any thread; the
+/// names of atoms are cached without a lock and belong to the thread that uses the connection.
+class Connection {
+public:
+    /// Connects to $DISPLAY and negotiates XFixes 5 and the X Input Extension 2.2 (before 2.1 raw
+    /// events stop during grabs); fails where the server has less.
+    [[nodiscard]] static Result<std::unique_ptr<Connection>> create();
+
+    Connection(const Connection&) = delete;
+    Connection& operator=(const Connection&) = delete;
+    ~Connection();
+
+    [[nodiscard]] xcb_connection_t* get() const { return xcb_; }
+
+    [[nodiscard]] xcb_window_t root() const { return screen_->root; }
+
+    [[nodiscard]] const xcb_screen_t& screen() const { return *screen_; }
+
+    /// Whether the server is gone; nothing more will come.
+    [[nodiscard]] bool isBroken() const { return xcb_connection_has_error(xcb_) != 0; }
+
+    /// The `response_type` of the first XFixes event.
+    [[nodiscard]] uint8_t xfixesFirstEvent() const { return xfixesFirstEvent_; }
+
+    /// The `extension` of the generic events that belong to the X Input Extension.
+    [[nodiscard]] uint8_t xinputOpcode() const { return xinputOpcode_; }
+
+    /// The atom of this name; a round trip when it is asked for first. XCB_ATOM_NONE where the
+    /// server is gone.
+    [[nodiscard]] xcb_atom_t atom(const QByteArray& name);
+
+    /// The names of these atoms, empty for one that does not exist; at most one round trip.
+    [[nodiscard]] std::vector<QByteArray> names(std::span<const xcb_atom_t> atoms);
+
+private:
+    Connection(xcb_connection_t* xcb, xcb_screen_t* screen) : xcb_(xcb), screen_(screen) {}
+
+    [[nodiscard]] Result<void> negotiate();
+
+    xcb_connection_t* xcb_;
+    xcb_screen_t* screen_;
+    uint8_t xfixesFirstEvent_ = 0;
+    uint8_t xinputOpcode_ = 0;
+    std::map<QByteArray, xcb_atom_t> atoms_;
+    std::map<xcb_atom_t, QByteArray> names_;
+};
+
+} // namespace ravelo::x11
