@@ -2,6 +2,8 @@
 
 #include "base/Handle.h"
 
+#include <QtGlobal>
+
 #include <functional>
 #include <optional>
 

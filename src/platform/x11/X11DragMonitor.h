@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/DragMonitor.h"
+#include "platform/x11/ChangeCounter.h"
+#include "platform/x11/Notifier.h"
+#include "platform/x11/SelectionWatch.h"
+
+#include <QList>
+#include <QUrl>
+
+#include <memory>
+
+namespace ravelo::x11 {
+
+/// Drags as the owners of the XdndSelection (XDND 5) begin them. Those of our own windows are none.
+class X11DragMonitor final : public DragMonitor {
+public:
+    /// Before `listener` starts; it must outlive this.
+    explicit X11DragMonitor(Listener& listener);
+
+    [[nodiscard]] qint64 changeCount() const override { return counter_->value(); }
+
+    [[nodiscard]] std::optional<bool> carriesFiles() override;
+
+    [[nodiscard]] Handle onChange(std::function<void()> callback) override {
+        return changes_->add(std::move(callback));
+    }
+
+    /// The files of the newest drag, as far as `carriesFiles` has asked and been answered.
+    [[nodiscard]] QList<QUrl> fileUrls() const;
+
+private:
+    /// What the source of one drag was asked and has answered. Main thread.
+    struct Question {
+        qint64 drag = 0; ///< The change count of the drag.
+        std::optional<QList<QUrl>> files;
+    };
+
+    void ask(qint64 drag);
+
+    Listener& listener_;
+    std::shared_ptr<ChangeCounter> counter_ = std::make_shared<ChangeCounter>();
+    std::shared_ptr<Notifier> changes_;
+    std::shared_ptr<SelectionWatch> watch_;
+    std::shared_ptr<Question> question_ = std::make_shared<Question>();
+};
+
+} // namespace ravelo::x11

@@ -1,0 +1,96 @@
+#include "platform/x11/X11Pasteboard.h"
+
+#include "platform/x11/PasteboardConversation.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+namespace ravelo::x11 {
+
+namespace {
+
+const QByteArray selectionName = QByteArrayLiteral("CLIPBOARD");
+
+} // namespace
+
+X11Pasteboard::X11Pasteboard(Listener& listener)
+    : listener_(listener),
+      ownClient_(OwnClient::ofQt()),
+      selection_(listener.connection().atom(selectionName)),
+      changes_(std::make_shared<Notifier>(listener)) {
+    QGuiApplication::clipboard()->blockSignals(true);
+    auto changed = [counter = counter_, changes = changes_,
+                    own = ownClient_](const OwnerChange& change) {
+        if (!own.owns(change.owner) && counter->countForeign(change.sequence)) {
+            changes->notify();
+        }
+    };
+    watch_ = std::make_shared<SelectionWatch>(listener.connection(), selectionName, changed);
+    listener.attach(watch_);
+}
+
+Handle X11Pasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSnapshot)> done) {
+    const auto key = ++nextKey_;
+    const qint64 count = counter_->value();
+    reads_->insert({key, {count, std::move(done)}});
+    auto finish = [&listener = listener_, counter = counter_, reads = std::weak_ptr(reads_),
+                   key](PasteboardSnapshot snapshot) {
+        listener.tell([counter, reads, key, snapshot = std::move(snapshot)]() mutable {
+            if (const auto alive = reads.lock()) {
+                deliver(*alive, key, counter->value(), std::move(snapshot));
+            }
+        });
+    };
+    listener_.post([&listener = listener_, counter = counter_, watch = watch_, count, key,
+                    plan = std::move(plan), finish = std::move(finish)] {
+        // Otherwise the notice of an earlier change could still come and end the reading.
+        listener.catchUp();
+        if (counter->value() == count) {
+            watch->reader().add(
+                key, std::make_unique<PasteboardConversation>(listener.connection(), plan, finish));
+        }
+    });
+    return Handle([&listener = listener_, reads = std::weak_ptr(reads_), watch = watch_, key] {
+        const auto alive = reads.lock();
+        if (alive && alive->erase(key) > 0) {
+            listener.post([watch, key] { watch->reader().cancel(key); });
+        }
+    });
+}
+
+void X11Pasteboard::deliver(Reads& reads, SelectionReader::Key key, qint64 changeCount,
+                            PasteboardSnapshot snapshot) {
+    const auto read = reads.extract(key);
+    if (!read.empty() && read.mapped().changeCount == changeCount) {
+        read.mapped().done(std::move(snapshot));
+    }
+}
+
+void X11Pasteboard::write(const QList<PasteboardEntry>& forms) {
+    auto contents = std::make_unique<QMimeData>();
+    for (const PasteboardEntry& form : forms) {
+        contents->setData(form.type, form.bytes);
+    }
+    QGuiApplication::clipboard()->setMimeData(contents.release()); // Qt waits for the server.
+    markWrite();
+}
+
+/// Counts the write, and what came after it already.
+void X11Pasteboard::markWrite() {
+    xcb_connection_t* xcb = listener_.connection().get();
+    const auto cookie = xcb_get_selection_owner(xcb, selection_);
+    counter_->countOwn(cookie.sequence);
+    const Owned<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(xcb, cookie, nullptr));
+    listener_.post({}); // The reply may have brought notices along.
+    if (reply && !ownClient_.owns(reply->owner)) {
+        // Someone was faster; the notice of that passes for one from before our write.
+        listener_.tell([counter = counter_, changes = changes_] {
+            counter->count();
+            changes->notify();
+        });
+    }
+}
+
+} // namespace ravelo::x11

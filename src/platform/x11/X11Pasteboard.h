@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/Pasteboard.h"
+#include "platform/x11/ChangeCounter.h"
+#include "platform/x11/Notifier.h"
+#include "platform/x11/OwnClient.h"
+#include "platform/x11/SelectionWatch.h"
+
+#include <map>
+#include <memory>
+
+namespace ravelo::x11 {
+
+/// The CLIPBOARD selection: listened to and read on the listener's thread, written through Qt,
+/// which then serves it to others from the main thread.
+///
+/// From its making on QClipboard gives no signals any more: at each change text fields would read
+/// the new contents on the main thread, and stand still with an owner that does not answer.
+class X11Pasteboard final : public Pasteboard {
+public:
+    /// Before `listener` starts; it must outlive this.
+    explicit X11Pasteboard(Listener& listener);
+
+    [[nodiscard]] qint64 changeCount() const override { return counter_->value(); }
+
+    [[nodiscard]] Handle onChange(std::function<void()> callback) override {
+        return changes_->add(std::move(callback));
+    }
+
+    [[nodiscard]] Handle read(PasteboardPlan plan,
+                              std::function<void(PasteboardSnapshot)> done) override;
+    void write(const QList<PasteboardEntry>& forms) override;
+
+private:
+    struct PendingRead {
+        qint64 changeCount; ///< What is read is this one or nothing.
+        std::function<void(PasteboardSnapshot)> done;
+    };
+
+    using Reads = std::map<SelectionReader::Key, PendingRead>;
+
+    static void deliver(Reads& reads, SelectionReader::Key key, qint64 changeCount,
+                        PasteboardSnapshot snapshot);
+    void markWrite();
+
+    Listener& listener_;
+    OwnClient ownClient_;
+    xcb_atom_t selection_;
+    std::shared_ptr<ChangeCounter> counter_ = std::make_shared<ChangeCounter>();
+    std::shared_ptr<Notifier> changes_;
+    std::shared_ptr<SelectionWatch> watch_;
+    std::shared_ptr<Reads> reads_ = std::make_shared<Reads>();
+    SelectionReader::Key nextKey_ = 0;
+};
+
+} // namespace ravelo::x11
