@@ -1,0 +1,54 @@
+#include "platform/x11/Compositor.h"
+
+#include <xcb/xfixes.h>
+
+#include <utility>
+
+namespace ravelo::x11 {
+
+namespace {
+
+int screenNumber(const Connection& connection) {
+    auto screens = xcb_setup_roots_iterator(xcb_get_setup(connection.get()));
+    int number = 0;
+    while (screens.rem > 1 && screens.data->root != connection.root()) {
+        xcb_screen_next(&screens);
+        ++number;
+    }
+    return number;
+}
+
+} // namespace
+
+Compositor::Compositor(Connection& connection, Events& events)
+    : selection_(connection.atom("_NET_WM_CM_S" + QByteArray::number(screenNumber(connection)))),
+      noticeType_(
+          static_cast<uint8_t>(connection.xfixesFirstEvent() + XCB_XFIXES_SELECTION_NOTIFY)),
+      subscription_(events.onEvent([this](const auto& event) { handle(event); })) {
+    constexpr uint32_t mask = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                              XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                              XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
+    // First listen, then ask: no change falls between.
+    xcb_xfixes_select_selection_input(connection.get(), connection.root(), selection_, mask);
+    const auto cookie = xcb_get_selection_owner(connection.get(), selection_);
+    const Owned<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(connection.get(), cookie, nullptr));
+    running_ = reply && reply->owner != XCB_WINDOW_NONE;
+}
+
+Handle Compositor::onChange(std::function<void()> callback) {
+    return listeners_.add(std::move(callback));
+}
+
+void Compositor::handle(const xcb_generic_event_t& event) {
+    const auto* notice = eventAs<xcb_xfixes_selection_notify_event_t>(event, noticeType_);
+    if (notice == nullptr || notice->selection != selection_) {
+        return;
+    }
+    const bool running = notice->owner != XCB_WINDOW_NONE;
+    if (std::exchange(running_, running) != running) {
+        listeners_.notify();
+    }
+}
+
+} // namespace ravelo::x11

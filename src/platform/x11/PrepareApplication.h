@@ -1,0 +1,11 @@
+#pragma once
+
+namespace ravelo::x11 {
+
+/// Everything that depends on the display server and must be settled before the application object
+/// exists, as environment that Qt reads. Where $DISPLAY is set the program runs on X11, in a
+/// Wayland session through Xwayland; a platform without a display server ("offscreen") stays as
+/// chosen.
+void prepareApplication();
+
+} // namespace ravelo::x11

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "platform/x11/Connection.h"
+
+#include <QSize>
+
+#include <vector>
+
+namespace ravelo::x11 {
+
+/// A question for a property of a window, put at construction: several at once cost one round trip.
+/// The server answers by itself, however busy the window's owner is.
+class PropertyRequest {
+public:
+    PropertyRequest(Connection& connection, xcb_window_t window, xcb_atom_t property);
+
+    PropertyRequest(PropertyRequest&& other) noexcept;
+    PropertyRequest(const PropertyRequest&) = delete;
+    PropertyRequest& operator=(PropertyRequest&&) = delete;
+    PropertyRequest& operator=(const PropertyRequest&) = delete;
+    ~PropertyRequest();
+
+    /// Waits for the answer: the property's 32-bit values, none where there is no such window or
+    /// property. To be called once.
+    [[nodiscard]] std::vector<uint32_t> cardinals();
+
+private:
+    Connection* connection_;
+    xcb_get_property_cookie_t cookie_; ///< `sequence` 0 where there is nothing to wait for.
+};
+
+/// A round trip; empty where there is no such window.
+[[nodiscard]] QSize windowSize(Connection& connection, xcb_window_t window);
+
+} // namespace ravelo::x11

@@ -1,0 +1,37 @@
+#include "platform/x11/X11DisplayServer.h"
+
+#include "platform/x11/X11PanelWindow.h"
+
+namespace ravelo::x11 {
+
+Result<std::unique_ptr<X11DisplayServer>> X11DisplayServer::create() {
+    auto connection = Connection::create();
+    if (!connection) {
+        return tl::unexpected(connection.error());
+    }
+    auto listener = Listener::create();
+    if (!listener) {
+        return tl::unexpected(listener.error());
+    }
+    return std::unique_ptr<X11DisplayServer>(
+        new X11DisplayServer(std::move(*connection), std::move(*listener)));
+}
+
+X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
+                                   std::unique_ptr<Listener> listener)
+    : connection_(std::move(connection)),
+      events_(*connection_),
+      screens_(*connection_, events_),
+      compositor_(*connection_, events_),
+      listener_(std::move(listener)),
+      pasteboard_(*listener_),
+      drags_(*listener_),
+      pointer_(*connection_, *listener_, [this](QPoint place) { return screens_.toLogical(place); }) {
+    listener_->start();
+}
+
+std::unique_ptr<PanelWindow> X11DisplayServer::panelWindow(QWindow& window) {
+    return std::make_unique<X11PanelWindow>(window, *connection_, events_, screens_, compositor_);
+}
+
+} // namespace ravelo::x11

@@ -1,0 +1,153 @@
+#include "platform/x11/X11PanelWindow.h"
+
+#include "platform/x11/OutlineRegion.h"
+
+#include <QGuiApplication>
+#include <QPlatformSurfaceEvent>
+#include <QWindow>
+
+#include <algorithm>
+#include <limits>
+
+namespace ravelo::x11 {
+
+namespace {
+
+xcb_connection_t* qtConnection() {
+    const auto* native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    return native == nullptr ? nullptr : native->connection();
+}
+
+template <typename Target>
+Target clamped(int value) {
+    return static_cast<Target>(std::clamp<int>(value, std::numeric_limits<Target>::min(),
+                                               std::numeric_limits<Target>::max()));
+}
+
+std::vector<xcb_rectangle_t> rectanglesOf(const QRegion& region) {
+    std::vector<xcb_rectangle_t> rectangles;
+    for (const QRect& rect : region) {
+        rectangles.push_back({clamped<int16_t>(rect.x()), clamped<int16_t>(rect.y()),
+                              clamped<uint16_t>(rect.width()), clamped<uint16_t>(rect.height())});
+    }
+    return rectangles;
+}
+
+} // namespace
+
+X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& events,
+                               const X11Screens& screens, Compositor& compositor)
+    : window_(window),
+      screens_(screens),
+      compositor_(compositor),
+      focus_(connection, events),
+      shadow_(connection.atom("_COMPTON_SHADOW")),
+      blurRegion_(connection.atom("_KDE_NET_WM_BLUR_BEHIND_REGION")),
+      qt_(qtConnection()),
+      subscription_(compositor.onChange([this] { applyOutline(); })) {
+    window_.setFlags(Qt::X11BypassWindowManagerHint | Qt::FramelessWindowHint |
+                     Qt::WindowStaysOnTopHint);
+    QSurfaceFormat format = window_.requestedFormat();
+    format.setAlphaBufferSize(8);
+    window_.setFormat(format);
+    window_.installEventFilter(this);
+    window_.create();
+}
+
+void X11PanelWindow::place(const Screen& screen, QSizeF size) {
+    const Monitor* monitor = screens_.monitor(screen.id);
+    if (monitor == nullptr) {
+        return; // It went away; the notice of that is on its way.
+    }
+    const QSize logicalSize = size.toSize();
+    const QSize nativeSize = (QSizeF(logicalSize) * monitor->scale).toSize();
+    const QPoint corner(monitor->native.x() + (monitor->native.width() - nativeSize.width()) / 2,
+                        monitor->native.y());
+    const QRectF logical = toLogical(*monitor, QRect(corner, nativeSize));
+    window_.setGeometry(QRect(logical.topLeft().toPoint(), logicalSize));
+    // Qt knows whole logical pixels only, which at scale 2 may be one device pixel off the middle.
+    const auto left = static_cast<uint32_t>(corner.x());
+    xcb_configure_window(qt_, id_, XCB_CONFIG_WINDOW_X, &left);
+    if (scale_ != monitor->scale) {
+        scale_ = monitor->scale;
+        applyOutline();
+    }
+}
+
+void X11PanelWindow::orderFront() {
+    window_.setVisible(true);
+    window_.raise(); // Mapped once more it may come back below others.
+}
+
+void X11PanelWindow::setOutline(const QPainterPath& outline) {
+    outline_ = outline;
+    applyOutline();
+}
+
+bool X11PanelWindow::isTranslucent() const {
+    return compositor_.isRunning() && window_.format().hasAlpha();
+}
+
+Handle X11PanelWindow::onTranslucencyChange(std::function<void()> callback) {
+    return compositor_.onChange(std::move(callback));
+}
+
+void X11PanelWindow::requestFocus() {
+    focus_.borrow(id_);
+}
+
+void X11PanelWindow::returnFocus() {
+    focus_.giveBack(id_);
+}
+
+bool X11PanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
+    if (event->type() == QEvent::PlatformSurface &&
+        static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
+            QPlatformSurfaceEvent::SurfaceCreated) {
+        prepareNativeWindow();
+    }
+    return false;
+}
+
+void X11PanelWindow::prepareNativeWindow() {
+    id_ = static_cast<xcb_window_t>(window_.winId());
+    setCardinals(shadow_, {0});
+    applyOutline();
+}
+
+void X11PanelWindow::applyOutline() {
+    if (!outline_) {
+        return;
+    }
+    const auto rectangles = rectanglesOf(outlineRegion(*outline_, scale_));
+    setShape(XCB_SHAPE_SK_INPUT, rectangles);
+    if (isTranslucent()) {
+        xcb_shape_mask(qt_, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, id_, 0, 0, XCB_PIXMAP_NONE);
+    } else {
+        setShape(XCB_SHAPE_SK_BOUNDING, rectangles);
+    }
+    std::vector<uint32_t> blurred;
+    for (const xcb_rectangle_t& rectangle : rectangles) {
+        blurred.insert(blurred.end(),
+                       {static_cast<uint32_t>(rectangle.x), static_cast<uint32_t>(rectangle.y),
+                        rectangle.width, rectangle.height});
+    }
+    setCardinals(blurRegion_, blurred);
+}
+
+void X11PanelWindow::setShape(xcb_shape_kind_t kind,
+                              const std::vector<xcb_rectangle_t>& rectangles) {
+    xcb_shape_rectangles(qt_, XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_YX_BANDED, id_, 0, 0,
+                         static_cast<uint32_t>(rectangles.size()), rectangles.data());
+}
+
+void X11PanelWindow::setCardinals(xcb_atom_t property, const std::vector<uint32_t>& values) {
+    if (values.empty()) { // An empty blur region would stand for the whole window.
+        xcb_delete_property(qt_, id_, property);
+        return;
+    }
+    xcb_change_property(qt_, XCB_PROP_MODE_REPLACE, id_, property, XCB_ATOM_CARDINAL, 32,
+                        static_cast<uint32_t>(values.size()), values.data());
+}
+
+} // namespace ravelo::x11

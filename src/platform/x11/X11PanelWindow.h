@@ -1,0 +1,56 @@
+#pragma once
+
+#include "platform/PanelWindow.h"
+#include "platform/x11/Compositor.h"
+#include "platform/x11/InputFocus.h"
+#include "platform/x11/X11Screens.h"
+
+#include <QObject>
+
+#include <xcb/shape.h>
+
+#include <optional>
+#include <vector>
+
+class QWindow;
+
+namespace ravelo::x11 {
+
+/// A window that the window manager leaves alone (override-redirect): the only kind that every one
+/// of them lets lie above bars and above a focused full-screen window. What it asks of the X server
+/// about its own window goes through Qt's connection, so that it stays in order with Qt's requests.
+class X11PanelWindow : public PanelWindow, private QObject {
+public:
+    /// All must outlive it; `window` must not have been shown. Makes the native window.
+    X11PanelWindow(QWindow& window, Connection& connection, Events& events,
+                   const X11Screens& screens, Compositor& compositor);
+
+    void place(const Screen& screen, QSizeF size) override;
+    void orderFront() override;
+    void setOutline(const QPainterPath& outline) override;
+    [[nodiscard]] bool isTranslucent() const override;
+    [[nodiscard]] Handle onTranslucencyChange(std::function<void()> callback) override;
+    void requestFocus() override;
+    void returnFocus() override;
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void prepareNativeWindow();
+    void applyOutline();
+    void setShape(xcb_shape_kind_t kind, const std::vector<xcb_rectangle_t>& rectangles);
+    void setCardinals(xcb_atom_t property, const std::vector<uint32_t>& values);
+
+    QWindow& window_;
+    const X11Screens& screens_;
+    Compositor& compositor_;
+    InputFocus focus_;
+    const xcb_atom_t shadow_;
+    const xcb_atom_t blurRegion_;
+    std::optional<QPainterPath> outline_;
+    double scale_ = 1;     ///< Device pixels in a logical one, where the window was placed last.
+    xcb_connection_t* qt_; ///< Qt's own connection.
+    xcb_window_t id_ = XCB_WINDOW_NONE;
+    Handle subscription_;
+};
+
+} // namespace ravelo::x11
