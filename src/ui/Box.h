@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QColor>
+#include <QQuickItem>
+
+namespace ravelo {
+
+/// A rounded rectangle: filled, or filled from left to right, and outlined within its bounds.
+class Box : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)
+    /// Colour of the right end; invalid (the default) where the fill is even.
+    Q_PROPERTY(QColor endColor MEMBER endColor_ NOTIFY changed)
+    Q_PROPERTY(double radius MEMBER radius_ NOTIFY changed)
+    Q_PROPERTY(QColor lineColor MEMBER lineColor_ NOTIFY changed)
+    Q_PROPERTY(double lineWidth MEMBER lineWidth_ NOTIFY changed)
+
+public:
+    explicit Box(QQuickItem* parent = nullptr);
+
+Q_SIGNALS:
+    void changed();
+
+protected:
+    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
+
+private:
+    QColor color_ = Qt::transparent;
+    QColor endColor_;
+    QColor lineColor_ = Qt::transparent;
+    double radius_ = 0;
+    double lineWidth_ = 0;
+};
+
+} // namespace ravelo

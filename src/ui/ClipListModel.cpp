@@ -1,0 +1,101 @@
+#include "ui/ClipListModel.h"
+
+#include "store/Store.h"
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// More than any panel is wide; a clip may be megabytes long.
+constexpr qsizetype titleLength = 1000;
+
+QString title(const ClipItem& clip) {
+    if (clip.kind == ClipKind::image) {
+        return u"Image"_s;
+    }
+    return clip.text.left(titleLength).replace(u'\n', u' ');
+}
+
+QString icon(ClipKind kind) {
+    switch (kind) {
+    case ClipKind::url:
+        return u"link"_s;
+    case ClipKind::image:
+        return u"photo"_s;
+    case ClipKind::text:
+        break;
+    }
+    return u"doc.text"_s;
+}
+
+} // namespace
+
+ClipListModel::ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale)
+    : store_(store), scheduler_(scheduler), clipSearch_(locale), relativeDate_(locale) {
+    connect(&store, &Store::clipsChanged, this, &ClipListModel::update);
+    update();
+}
+
+QVariant ClipListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    const ClipItem& clip = rows()[index.row()];
+    switch (role) {
+    case ClipId:
+        return clip.id;
+    case Title:
+        return title(clip);
+    case Icon:
+        return icon(clip.kind);
+    case Pinned:
+        return clip.pinned;
+    case Subtitle:
+        return subtitle(clip);
+    case ImageFileName:
+        return clip.imageFileName;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> ClipListModel::roleNames() const {
+    return {{ClipId, "clipId"}, {Title, "title"},       {Icon, "icon"},
+            {Pinned, "pinned"}, {Subtitle, "subtitle"}, {ImageFileName, "imageFileName"}};
+}
+
+void ClipListModel::setSearch(const QString& search) {
+    if (search == search_) {
+        return;
+    }
+    search_ = search;
+    Q_EMIT searchChanged();
+    update();
+}
+
+void ClipListModel::refreshDates() {
+    if (count() > 0) {
+        Q_EMIT dataChanged(index(0), index(count() - 1), {Subtitle});
+    }
+}
+
+QUuid ClipListModel::idAt(int row) const {
+    return row >= 0 && row < count() ? rows()[row].id : QUuid();
+}
+
+void ClipListModel::update() {
+    const int before = count();
+    takeOver(clipSearch_.filtered(store_.clips(), search_));
+    if (count() != before) {
+        Q_EMIT countChanged();
+    }
+}
+
+QString ClipListModel::subtitle(const ClipItem& clip) const {
+    const QString ago = relativeDate_.text(clip.date, scheduler_.now());
+    return clip.pinned ? u"Pinned \u00b7 "_s + ago : ago;
+}
+
+} // namespace ravelo

@@ -1,0 +1,122 @@
+#include "ui/PanelHost.h"
+
+#include "panel/NotchGeometry.h"
+
+#include <algorithm>
+
+namespace ravelo {
+
+namespace {
+
+/// Long enough for the closed panel to be gone from the screen, shorter than any hand.
+constexpr Seconds buildDelay(0.04);
+
+template <typename Record>
+const Record* findById(const QList<Record>& records, const QUuid& id) {
+    const auto found = std::find_if(records.begin(), records.end(),
+                                    [&](const Record& record) { return record.id == id; });
+    return found == records.end() ? nullptr : &*found;
+}
+
+} // namespace
+
+PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
+    : subjects_(subjects), clips_(subjects.store, subjects.scheduler, locale),
+      snippets_(subjects.store), pasting_(subjects.pasteboard), toast_(subjects.scheduler),
+      contentSize_(sizeToOpenWith()) {
+    connect(controller(), &NotchController::isOpenChanged, this, &PanelHost::follow);
+    connect(settings(), &AppSettings::panelWidthChanged, this, [this] {
+        if (!controller()->isOpen()) {
+            setContentSize(sizeToOpenWith());
+        }
+    });
+    tellUsage();
+    follow();
+}
+
+void PanelHost::setBackdrop(Backdrop::Kind backdrop) {
+    if (backdrop != backdrop_) {
+        backdrop_ = backdrop;
+        Q_EMIT backdropChanged();
+    }
+}
+
+void PanelHost::setUsage(const std::optional<UsageWindow>& session,
+                         const std::optional<UsageWindow>& week) {
+    session_ = session;
+    week_ = week;
+    tellUsage();
+}
+
+void PanelHost::windowResized(QSizeF size) {
+    if (controller()->isOpen()) {
+        setContentSize(size);
+    }
+}
+
+void PanelHost::copyClip(const QUuid& id) {
+    const ClipItem* clip = findById(store()->clips(), id);
+    if (clip == nullptr) {
+        return;
+    }
+    if (clip->kind == ClipKind::image && !clip->imageFileName.isEmpty()) {
+        controller()->copyImage(store()->imagePath(clip->imageFileName));
+    } else {
+        controller()->copy(clip->text);
+    }
+    toast_.flashCopied();
+}
+
+void PanelHost::copySnippet(const QUuid& id) {
+    if (const Snippet* snippet = findById(store()->snippets(), id)) {
+        controller()->copy(snippet->body);
+        toast_.flashCopied();
+    }
+}
+
+void PanelHost::follow() {
+    if (controller()->isOpen()) {
+        building_.reset();
+        setContentSize(controller()->frame().size());
+        clips_.refreshDates();
+        tellUsage();
+        setHasContent(true);
+    } else {
+        startAnew();
+    }
+}
+
+void PanelHost::startAnew() {
+    setHasContent(false);
+    toast_.reset();
+    clips_.setSearch({});
+    setContentSize(sizeToOpenWith());
+    building_ = subjects_.scheduler.after(buildDelay, [this] { setHasContent(true); });
+}
+
+void PanelHost::setHasContent(bool has) {
+    if (has != hasContent_) {
+        hasContent_ = has;
+        Q_EMIT hasContentChanged();
+    }
+}
+
+void PanelHost::setContentSize(QSizeF size) {
+    if (size != contentSize_) {
+        contentSize_ = size;
+        Q_EMIT contentSizeChanged();
+    }
+}
+
+void PanelHost::tellUsage() {
+    const Date now = subjects_.scheduler.now();
+    sessionLine_ = usageLine(session_, now);
+    weekLine_ = usageLine(week_, now);
+    Q_EMIT usageChanged();
+}
+
+QSizeF PanelHost::sizeToOpenWith() const {
+    return expandedSize(settings()->panelWidth(), Shelf::empty);
+}
+
+} // namespace ravelo

@@ -1,0 +1,113 @@
+#pragma once
+
+#include "base/Scheduler.h"
+#include "panel/NotchController.h"
+#include "settings/AppSettings.h"
+#include "store/Store.h"
+#include "ui/ClipListModel.h"
+#include "ui/PanelBackground.h"
+#include "ui/Pasting.h"
+#include "ui/SnippetListModel.h"
+#include "ui/Toast.h"
+#include "ui/Usage.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QSizeF>
+
+namespace ravelo {
+
+class Pasteboard;
+
+/// What the panel's QML works on: the program's observable parts as they are, and what belongs to
+/// the panel alone. Decides when content exists. Main thread.
+class PanelHost : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("the panel has one")
+    Q_PROPERTY(ravelo::Store* store READ store CONSTANT)
+    Q_PROPERTY(ravelo::AppSettings* settings READ settings CONSTANT)
+    Q_PROPERTY(ravelo::NotchController* controller READ controller CONSTANT)
+    Q_PROPERTY(ravelo::ClipListModel* clips READ clips CONSTANT)
+    Q_PROPERTY(ravelo::SnippetListModel* snippets READ snippets CONSTANT)
+    Q_PROPERTY(ravelo::Pasting* pasting READ pasting CONSTANT)
+    Q_PROPERTY(ravelo::Toast* toast READ toast CONSTANT)
+    Q_PROPERTY(bool hasContent READ hasContent NOTIFY hasContentChanged)
+    Q_PROPERTY(QSizeF contentSize READ contentSize NOTIFY contentSizeChanged)
+    Q_PROPERTY(ravelo::Backdrop::Kind backdrop READ backdrop NOTIFY backdropChanged)
+    Q_PROPERTY(ravelo::UsageLine session READ session NOTIFY usageChanged)
+    Q_PROPERTY(ravelo::UsageLine week READ week NOTIFY usageChanged)
+
+public:
+    /// All of it outlives the panel.
+    struct Subjects {
+        Store& store;
+        AppSettings& settings;
+        NotchController& controller;
+        Pasteboard& pasteboard;
+        Scheduler& scheduler;
+    };
+
+    PanelHost(Subjects subjects, const QLocale& locale);
+
+    [[nodiscard]] Store* store() const { return &subjects_.store; }
+    [[nodiscard]] AppSettings* settings() const { return &subjects_.settings; }
+    [[nodiscard]] NotchController* controller() const { return &subjects_.controller; }
+    [[nodiscard]] ClipListModel* clips() { return &clips_; }
+    [[nodiscard]] SnippetListModel* snippets() { return &snippets_; }
+    [[nodiscard]] Pasting* pasting() { return &pasting_; }
+    [[nodiscard]] Toast* toast() { return &toast_; }
+
+    /// Whether there is content, shown or hidden. A closed panel's content is thrown away with all
+    /// that was searched, scrolled or opened in it; the next is made soon after, so that opening
+    /// has nothing left to do.
+    [[nodiscard]] bool hasContent() const { return hasContent_; }
+
+    /// Logical pixels. While closed, the size that the panel would open with.
+    [[nodiscard]] QSizeF contentSize() const { return contentSize_; }
+
+    [[nodiscard]] Backdrop::Kind backdrop() const { return backdrop_; }
+    void setBackdrop(Backdrop::Kind backdrop);
+
+    [[nodiscard]] UsageLine session() const { return sessionLine_; }
+    [[nodiscard]] UsageLine week() const { return weekLine_; }
+    /// Nothing where it is not known.
+    void setUsage(const std::optional<UsageWindow>& session,
+                  const std::optional<UsageWindow>& week);
+
+    /// The window has got this size.
+    void windowResized(QSizeF size);
+
+    Q_INVOKABLE void copyClip(const QUuid& id);
+    Q_INVOKABLE void copySnippet(const QUuid& id);
+
+Q_SIGNALS:
+    void hasContentChanged();
+    void contentSizeChanged();
+    void backdropChanged();
+    void usageChanged();
+
+private:
+    void follow();
+    void startAnew();
+    void setHasContent(bool has);
+    void setContentSize(QSizeF size);
+    void tellUsage();
+    [[nodiscard]] QSizeF sizeToOpenWith() const;
+
+    Subjects subjects_;
+    ClipListModel clips_;
+    SnippetListModel snippets_;
+    Pasting pasting_;
+    Toast toast_;
+    bool hasContent_ = false;
+    QSizeF contentSize_;
+    Backdrop::Kind backdrop_ = Backdrop::Translucent;
+    std::optional<UsageWindow> session_;
+    std::optional<UsageWindow> week_;
+    UsageLine sessionLine_;
+    UsageLine weekLine_;
+    Handle building_;
+};
+
+} // namespace ravelo

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "ui/PanelHost.h"
+
+#include <QQuickView>
+
+#include <memory>
+
+namespace ravelo {
+
+/// The panel on the screen: a transparent window and, once there is something to show, its content.
+/// The window knows neither its place nor its size. Main thread.
+class PanelView {
+public:
+    /// Makes the window, empty and not shown.
+    PanelView();
+    ~PanelView();
+
+    [[nodiscard]] QQuickWindow& window() { return view_; }
+
+    /// Fills the window. Called once; all subjects outlive this view.
+    void load(PanelHost::Subjects subjects, const QLocale& locale);
+
+    /// Only after `load`.
+    [[nodiscard]] PanelHost& host() { return *host_; }
+
+private:
+    std::unique_ptr<PanelHost> host_; // Outlives the content, which is in the view.
+    QQuickView view_;
+};
+
+} // namespace ravelo

@@ -1,0 +1,35 @@
+#pragma once
+
+#include "base/Handle.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QQuickItem>
+
+namespace ravelo {
+
+class Pasteboard;
+
+/// Pastes into text fields. A field's own paste would read the clipboard on the main thread and
+/// stand still for as long as its owner does not answer; this one asks and goes on. Main thread.
+class Pasting : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("the panel has one")
+
+public:
+    explicit Pasting(Pasteboard& pasteboard) : pasteboard_(pasteboard) {}
+
+    enum Lines { OneLine, ManyLines };
+    Q_ENUM(Lines)
+
+    /// Puts the text that is on the pasteboard in the place of the selection of `field` (a TextInput
+    /// or TextEdit), as soon as it comes. A line break becomes a space in a field of one line.
+    Q_INVOKABLE void into(QQuickItem* field, ravelo::Pasting::Lines lines);
+
+private:
+    Pasteboard& pasteboard_;
+    Handle reading_;
+};
+
+} // namespace ravelo

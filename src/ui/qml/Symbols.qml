@@ -1,0 +1,32 @@
+pragma Singleton
+
+import QtQuick
+
+/// Codes of the symbols in the icon font.
+QtObject {
+    function code(symbol: string): string {
+        return table[symbol] ?? table["doc.text"];
+    }
+
+    readonly property var table: ({
+        "bubble.left.and.text.bubble.right": "\uF189",
+        "car": "\uF10B",
+        "checkmark.seal": "\uF565",
+        "clock": "\uF150",
+        "creditcard": "\uF19B",
+        "doc.on.clipboard": "\uF14E",
+        "doc.text": "\uF219",
+        "dollarsign.circle": "\uF178",
+        "link": "\uF339",
+        "magnifyingglass": "\uF349",
+        "note.text": "\uF39E",
+        "photo": "\uF2E9",
+        "pin": "\uF403",
+        "pin.slash": "\uF404",
+        "signature": "\uF64F",
+        "star": "\uF4D2",
+        "trash": "\uF1C0",
+        "tray.full": "\uF2FB",
+        "xmark": "\uF156"
+    })
+}

@@ -1,0 +1,111 @@
+pragma Singleton
+
+import QtQuick
+import Ravelo
+
+/// Every colour, measure, type style and duration of the look, once.
+QtObject {
+    // White at a few fixed strengths does the work.
+    function white(strength: real): color {
+        return Qt.rgba(1, 1, 1, strength);
+    }
+
+    readonly property color text1: white(0.95)
+    readonly property color text2: white(0.80)
+    readonly property color text3: white(0.62)
+    readonly property color text4: white(0.50)
+    readonly property color noteText: white(0.92)
+    readonly property color caption: white(0.60)
+    readonly property color placeholder: white(0.45)
+    readonly property color hint: white(0.34)
+    readonly property color iconQuiet: white(0.70)
+    readonly property color icon: white(0.86)
+
+    readonly property color none: white(0)
+    readonly property color surface1: white(0.05)
+    readonly property color surface2: white(0.07)
+    readonly property color surface3: white(0.10)
+    readonly property color surface4: white(0.15)
+    readonly property color line: white(0.07)
+    readonly property color lineFloating: white(0.10)
+
+    readonly property color selectedTab: white(0.14)
+    readonly property color hoveredTab: white(0.06)
+    readonly property color hoveredTabText: white(0.82)
+
+    readonly property color hoveredField: white(0.09)
+    readonly property color hoveredCard: white(0.08)
+    readonly property color pressedCard: white(0.13)
+    readonly property color selectedCard: white(0.06)
+    readonly property color hoveredMini: white(0.20)
+    readonly property color pressedMini: white(0.26)
+    readonly property color pressedButton: white(0.20)
+
+    readonly property color accent: "#78AEFF"
+    readonly property color green: "#4CD68B"
+    readonly property color yellow: "#F6C851"
+    readonly property color red: "#FF7A70"
+    readonly property color pinnedTile: withAlpha(yellow, 0.13)
+
+    readonly property color floating: "#2A2A2F"
+    readonly property color tooltip: "#111114"
+    readonly property color primary: white(0.94)
+    readonly property color primaryHovered: white(1)
+    readonly property color primaryPressed: white(0.82)
+    readonly property color toast: white(0.95)
+    readonly property color onWhite: "#131316"
+
+    readonly property color handle: Qt.rgba(0, 0, 0, 0.44)
+    readonly property color bar: "#000000"
+    readonly property color grip: white(0.36)
+
+    function withAlpha(base: color, alpha: real): color {
+        return Qt.rgba(base.r, base.g, base.b, alpha);
+    }
+
+    // Inter, no other family.
+    readonly property string family: "Inter"
+    readonly property string iconFamily: "Material Design Icons"
+
+    readonly property TextStyle note: TextStyle { size: 16; line: 25; tracking: -0.1 }
+    readonly property TextStyle heading: TextStyle { size: 15; line: 20; weight: Font.DemiBold; tracking: -0.1 }
+    readonly property TextStyle tab: TextStyle { size: 14; line: 20; weight: Font.DemiBold; tracking: -0.1 }
+    readonly property TextStyle rowTitle: TextStyle { size: 13; line: 17; weight: Font.Medium }
+    readonly property TextStyle strong: TextStyle { size: 13; line: 16; weight: Font.DemiBold }
+    readonly property TextStyle body: TextStyle { size: 13; line: 16 }
+    readonly property TextStyle bodyLoose: TextStyle { size: 13; line: 20 }
+    readonly property TextStyle button: TextStyle { size: 12; line: 16; weight: Font.DemiBold }
+    readonly property TextStyle chip: TextStyle { size: 12; line: 16; weight: Font.Medium }
+    readonly property TextStyle small: TextStyle { size: 12; line: 16 }
+    readonly property TextStyle subtitle: TextStyle { size: 11; line: 14 }
+    readonly property TextStyle digit: TextStyle { size: 11; line: 14; weight: Font.Medium }
+
+    // Radii.
+    readonly property real radiusTile: 7
+    readonly property real radiusSmall: 8
+    readonly property real radiusRow: 10
+    readonly property real radiusPopover: 12
+    readonly property real radiusEditor: 14
+
+    // The panel, top to bottom.
+    readonly property real insetSide: 34
+    readonly property real insetBottom: 18
+    readonly property real usageTop: 72
+    readonly property real tabsTop: 164
+    readonly property real bodyTop: 204
+
+    // Motion, in milliseconds.
+    readonly property int opening: 60
+    readonly property int hovering: 90
+    readonly property int pressing: 40
+    readonly property int entering: 260
+    readonly property int leaving: 180
+    readonly property int springing: 450
+    readonly property int toastLeaving: 200
+    readonly property int floatingIn: 120
+    readonly property int floatingOut: 80
+    readonly property int filling: 400
+    readonly property int tooltipDelay: 500
+    /// A spring of response 0.5 s and damping 0.85.
+    readonly property var spring: [0.226, 0.097, 0.255, 1.085, 1, 1]
+}

@@ -1,0 +1,117 @@
+import QtQuick
+import Ravelo
+
+/// A row of a list: tile, title, subtitle, and at its end a digit that gives way to small buttons
+/// while the pointer is over the row.
+Item {
+    id: card
+
+    property string icon
+    property bool highlighted: false
+    property url thumbnail
+    property string title
+    property string subtitle
+    property string digit
+    property bool selected: false
+    default property alias actions: buttons.data
+
+    readonly property bool hovered: hover.hovered
+
+    signal tapped
+
+    implicitHeight: 40
+
+    Surface {
+        anchors.fill: parent
+        radius: Theme.radiusRow
+        rest: card.selected ? Theme.selectedCard : Theme.none
+        hover: Theme.hoveredCard
+        press: Theme.pressedCard
+        hovered: card.hovered
+        pressed: area.pressed
+        lineWidth: card.selected ? 1.5 : 0
+        lineColor: Theme.withAlpha(Theme.accent, 0.50)
+    }
+
+    HoverHandler {
+        id: hover
+    }
+
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        onClicked: card.tapped()
+    }
+
+    Box {
+        objectName: "tile"
+        x: 6
+        y: 6
+        width: 28
+        height: 28
+        radius: Theme.radiusTile
+        color: picture.shows ? Theme.none : card.highlighted ? Theme.pinnedTile : Theme.surface2
+
+        Glyph {
+            anchors.centerIn: parent
+            visible: !picture.shows
+            symbol: card.icon
+            color: card.highlighted ? Theme.yellow : Theme.icon
+        }
+
+        Image {
+            id: picture
+
+            readonly property bool shows: status === Image.Ready && implicitWidth > 0
+
+            anchors.fill: parent
+            asynchronous: true
+            sourceSize: Qt.size(28, 28)
+            source: card.thumbnail
+        }
+    }
+
+    Label {
+        objectName: "title"
+        x: 46
+        y: 4.5
+        width: Math.min(implicitWidth, end.x - 12 - x)
+        style: Theme.rowTitle
+        text: card.title
+    }
+
+    Label {
+        objectName: "subtitle"
+        x: 46
+        y: 21.5
+        width: Math.min(implicitWidth, end.x - 12 - x)
+        style: Theme.subtitle
+        color: Theme.text3
+        text: card.subtitle
+    }
+
+    Item {
+        id: end
+        x: card.width - width - (card.hovered ? 6 : 10)
+        width: card.hovered ? buttons.width : 16
+        height: parent.height
+
+        Label {
+            objectName: "digit"
+            visible: !card.hovered
+            y: 13
+            width: 16
+            horizontalAlignment: Text.AlignHCenter
+            style: Theme.digit
+            color: Theme.hint
+            text: card.digit
+        }
+
+        Row {
+            id: buttons
+            visible: card.hovered
+            y: 8
+            spacing: 4
+        }
+    }
+}

@@ -1,0 +1,42 @@
+import QtQuick
+import Ravelo
+
+/// A capsule with a symbol and a title.
+Surface {
+    id: chip
+
+    property alias symbol: glyph.symbol
+    property alias title: label.text
+
+    signal clicked
+
+    implicitWidth: label.x + label.implicitWidth + 12
+    implicitHeight: 28
+    radius: 14
+    hovered: area.containsMouse
+    pressed: area.pressed
+    rest: Theme.surface2
+
+    Glyph {
+        id: glyph
+        x: 10
+        anchors.verticalCenter: parent.verticalCenter
+        size: 15
+        color: Theme.text3
+    }
+
+    Label {
+        id: label
+        x: 31
+        y: 6
+        style: Theme.chip
+        color: chip.hovered ? Theme.text1 : Theme.text2
+    }
+
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        hoverEnabled: true
+        onClicked: chip.clicked()
+    }
+}

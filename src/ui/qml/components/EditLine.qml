@@ -1,0 +1,41 @@
+import QtQuick
+import Ravelo
+
+/// One line of editable text without any frame.
+TextInput {
+    id: input
+
+    required property PanelHost host
+    property string placeholder
+
+    clip: true
+    verticalAlignment: TextInput.AlignVCenter
+    font: Theme.body.font
+    color: Theme.text1
+    selectionColor: Theme.withAlpha(Theme.accent, 0.45)
+    selectedTextColor: Theme.text1
+    selectByMouse: true
+    activeFocusOnPress: true
+    cursorDelegate: Caret {}
+
+    Keys.onPressed: event => {
+        if (event.matches(StandardKey.Paste)) {
+            input.host.pasting.into(input, Pasting.OneLine);
+            event.accepted = true;
+        }
+    }
+
+    Label {
+        visible: input.text === "" && input.preeditText === ""
+        y: (input.height - height) / 2
+        width: parent.width
+        text: input.placeholder
+        color: Theme.placeholder
+    }
+
+    PressWatch {
+        host: input.host
+        field: input
+        lines: Pasting.OneLine
+    }
+}

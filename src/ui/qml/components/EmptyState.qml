@@ -1,0 +1,51 @@
+import QtQuick
+import Ravelo
+
+/// What a list shows that has nothing to list.
+Item {
+    id: empty
+
+    property alias symbol: glyph.symbol
+    property alias title: title.text
+    property alias subtitle: subtitle.text
+
+    Column {
+        anchors.centerIn: parent
+
+        Box {
+            anchors.horizontalCenter: parent.horizontalCenter
+            width: 64
+            height: 64
+            radius: 32
+            color: Theme.surface1
+
+            Glyph {
+                id: glyph
+                anchors.centerIn: parent
+                size: 28
+                color: Theme.text3
+            }
+        }
+        Item {
+            width: 1
+            height: 16
+        }
+        Label {
+            id: title
+            objectName: "emptyTitle"
+            anchors.horizontalCenter: parent.horizontalCenter
+            style: Theme.heading
+        }
+        Item {
+            width: 1
+            height: 4
+        }
+        Label {
+            id: subtitle
+            objectName: "emptySubtitle"
+            anchors.horizontalCenter: parent.horizontalCenter
+            style: Theme.bodyLoose
+            color: Theme.text3
+        }
+    }
+}

@@ -1,0 +1,27 @@
+import QtQuick
+import Ravelo
+
+/// Lies over a text field: a press asks for the keyboard, the middle button pastes. Everything but
+/// the middle button goes on to the field.
+MouseArea {
+    id: watch
+
+    required property PanelHost host
+    required property Item field
+    required property int lines
+
+    anchors.fill: parent
+    acceptedButtons: Qt.LeftButton | Qt.RightButton | Qt.MiddleButton
+    cursorShape: Qt.IBeamCursor
+
+    onPressed: mouse => {
+        host.controller.typeFocus();
+        if (mouse.button === Qt.MiddleButton) {
+            field.forceActiveFocus();
+            field.cursorPosition = field.positionAt(mouse.x, mouse.y);
+            host.pasting.into(field, lines);
+        } else {
+            mouse.accepted = false;
+        }
+    }
+}

@@ -1,0 +1,17 @@
+import QtQuick
+import Ravelo
+
+/// A box whose fill follows the pointer.
+Box {
+    property bool hovered: false
+    property bool pressed: false
+    property color rest: Theme.surface3
+    property color hover: Theme.surface4
+    property color press: Theme.pressedButton
+
+    color: pressed ? press : hovered ? hover : rest
+
+    Behavior on color {
+        ColorAnimation { duration: pressed ? Theme.pressing : Theme.hovering }
+    }
+}

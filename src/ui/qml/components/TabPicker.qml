@@ -1,0 +1,85 @@
+import QtQuick
+import Ravelo
+
+/// One button a tab in equal parts; the highlight slides to the chosen one.
+Box {
+    id: picker
+
+    /// Of objects with `title` and `symbol`.
+    required property var tabs
+    property int current: 0
+
+    readonly property real part: (width - 4) / tabs.length
+
+    signal chosen(int index)
+
+    implicitHeight: 32
+    radius: Theme.radiusRow
+    color: Theme.surface1
+
+    Box {
+        x: 2 + picker.current * picker.part
+        y: 2
+        width: picker.part
+        height: 28
+        radius: Theme.radiusSmall
+        color: Theme.selectedTab
+
+        Behavior on x {
+            enabled: picker.visible
+            NumberAnimation {
+                duration: Theme.springing
+                easing.type: Easing.BezierSpline
+                easing.bezierCurve: Theme.spring
+            }
+        }
+    }
+
+    Repeater {
+        model: picker.tabs
+
+        Surface {
+            id: tab
+
+            required property var modelData
+            required property int index
+            readonly property bool selected: index === picker.current
+
+            x: 2 + index * picker.part
+            y: 2
+            width: picker.part
+            height: 28
+            radius: Theme.radiusSmall
+            rest: Theme.none
+            hover: Theme.hoveredTab
+            press: Theme.none
+            hovered: area.containsMouse && !selected
+
+            Row {
+                anchors.centerIn: parent
+                spacing: 8
+
+                Glyph {
+                    anchors.verticalCenter: parent.verticalCenter
+                    symbol: tab.modelData.symbol
+                    color: label.color
+                }
+
+                Label {
+                    id: label
+                    text: tab.modelData.title
+                    style: Theme.tab
+                    color: tab.selected ? Theme.text1
+                                        : tab.hovered ? Theme.hoveredTabText : Theme.text3
+                }
+            }
+
+            MouseArea {
+                id: area
+                anchors.fill: parent
+                hoverEnabled: true
+                onPressed: picker.chosen(tab.index)
+            }
+        }
+    }
+}

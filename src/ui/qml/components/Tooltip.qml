@@ -1,0 +1,57 @@
+import QtQuick
+import Ravelo
+
+/// A hint that appears under `target` some time after the pointer came to rest on it.
+Item {
+    id: tooltip
+
+    required property Item target
+    required property string text
+    property bool hovered: false
+
+    onHoveredChanged: hovered ? delay.restart() : delay.stop()
+
+    Timer {
+        id: delay
+        interval: Theme.tooltipDelay
+    }
+
+    Loader {
+        active: tooltip.hovered && !delay.running
+        sourceComponent: Box {
+            parent: tooltip.Window.contentItem
+            z: 1000
+            width: label.implicitWidth + 20
+            height: 28
+            radius: Theme.radiusSmall
+            color: Theme.tooltip
+            lineColor: Theme.lineFloating
+            lineWidth: 1
+
+            Component.onCompleted: {
+                const centre = tooltip.target.mapToItem(null, tooltip.target.width / 2,
+                                                        tooltip.target.height + 6);
+                const room = parent.width - width - Theme.insetSide;
+                x = Math.round(Math.max(Theme.insetSide, Math.min(centre.x - width / 2, room)));
+                y = Math.round(centre.y);
+            }
+
+            Shadow {
+                anchors.fill: parent
+                z: -1
+                radius: parent.radius
+                color: Qt.rgba(0, 0, 0, 0.40)
+                blur: 18
+                drop: 6
+            }
+
+            Label {
+                id: label
+                x: 10
+                y: 6
+                style: Theme.small
+                text: tooltip.text
+            }
+        }
+    }
+}

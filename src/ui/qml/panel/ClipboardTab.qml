@@ -1,0 +1,140 @@
+import QtQuick
+import Ravelo
+
+/// Search, snippets and the clipboard history.
+FocusScope {
+    id: tab
+
+    required property PanelHost host
+    required property bool shown
+    required property Question question
+
+    /// Takes the search away; false where there is none.
+    function clearSearch(): bool {
+        const had = search.input.text !== "";
+        search.input.clear();
+        return had;
+    }
+
+    function copy(row: int) {
+        if (row >= 0 && row < list.count) {
+            list.currentIndex = row;
+            host.copyClip(host.clips.idAt(row));
+        }
+    }
+
+    Keys.onUpPressed: list.currentIndex = Math.max(0, list.currentIndex - 1)
+    Keys.onDownPressed: list.currentIndex = Math.min(list.count - 1, list.currentIndex + 1)
+    Keys.onReturnPressed: copy(list.currentIndex)
+    Keys.onEnterPressed: copy(list.currentIndex)
+
+    SearchField {
+        id: search
+        objectName: "search"
+        width: parent.width
+        host: tab.host
+        trashLit: tab.question.opened
+        onClearRequested: {
+            // The question is answered by Return too.
+            tab.host.controller.typeFocus();
+            tab.question.corner = mapToItem(tab.question, width, height + 6);
+            tab.question.opened = true;
+        }
+    }
+
+    SnippetStrip {
+        objectName: "strip"
+        y: 40
+        width: parent.width - 36
+        height: 28
+        host: tab.host
+    }
+
+    EmptyState {
+        y: 76
+        width: parent.width
+        height: parent.height - y
+        visible: list.count === 0
+        symbol: "doc.on.clipboard"
+        title: "No clipboard history yet"
+        subtitle: "Copy anything with ⌘C and it shows up here."
+    }
+
+    FadingEdge {
+        y: 76
+        width: parent.width
+        height: parent.height - y
+        length: Math.min(26, Math.max(0, list.contentHeight - list.contentY - list.height))
+
+        ListView {
+            id: list
+            objectName: "list"
+            anchors.fill: parent
+            clip: true
+            cacheBuffer: 80
+            boundsBehavior: Flickable.StopAtBounds
+            highlightFollowsCurrentItem: true
+            highlightMoveDuration: 0
+            model: tab.host.clips
+
+            delegate: ClipRow {
+                host: tab.host
+                shown: tab.shown
+                width: ListView.view.width
+                selected: ListView.isCurrentItem
+                onTapped: tab.copy(index)
+            }
+
+            add: Transition {
+                id: entering
+                enabled: tab.shown
+                ParallelAnimation {
+                    NumberAnimation {
+                        property: "opacity"
+                        from: 0
+                        to: 1
+                        duration: Theme.entering
+                        easing.type: Easing.OutCubic
+                    }
+                    NumberAnimation {
+                        property: "y"
+                        from: entering.ViewTransition.destination.y - 40
+                        duration: Theme.entering
+                        easing.type: Easing.OutCubic
+                    }
+                }
+            }
+            remove: Transition {
+                enabled: tab.shown
+                NumberAnimation {
+                    property: "scale"
+                    to: 0.9
+                    duration: Theme.leaving
+                    easing.type: Easing.InCubic
+                }
+                NumberAnimation {
+                    property: "opacity"
+                    to: 0
+                    duration: Theme.leaving
+                    easing.type: Easing.InCubic
+                }
+            }
+            displaced: Transition {
+                id: making
+                enabled: tab.shown
+                NumberAnimation {
+                    property: "y"
+                    duration: Theme.entering
+                    easing.type: Easing.OutCubic
+                }
+                // A row that was still coming in is pushed on as it is; it must not stay faint.
+                NumberAnimation {
+                    property: "opacity"
+                    to: 1
+                    duration: Theme.entering
+                }
+            }
+            move: making
+        }
+    }
+}

@@ -1,0 +1,114 @@
+import QtQuick
+import Ravelo
+
+/// The open panel.
+FocusScope {
+    id: content
+
+    required property PanelHost host
+
+    readonly property bool shown: host.controller.isOpen
+    /// The titles are what is remembered.
+    readonly property var tabs: [
+        { title: "Clipboard", symbol: "doc.on.clipboard" },
+        { title: "Notes", symbol: "note.text" }
+    ]
+    property int tab: Math.max(0, tabs.findIndex(one => one.title === host.settings.lastTab))
+
+    function choose(index: int) {
+        if (index !== tab) {
+            tab = index;
+            host.settings.lastTab = tabs[index].title;
+        }
+    }
+
+    focus: true
+    Keys.onEscapePressed: {
+        const clipboard = body.item as ClipboardTab;
+        if (clipboard === null || !clipboard.clearSearch()) {
+            host.controller.collapse();
+        }
+    }
+
+    PanelBackground {
+        objectName: "panel"
+        anchors.fill: parent
+        backdrop: content.host.backdrop
+        darkness: content.host.settings.bgOpacity
+        fullBlack: content.host.settings.fullBlack
+    }
+
+    UsageBlock {
+        objectName: "usage"
+        x: Theme.insetSide
+        y: Theme.usageTop
+        width: parent.width - 2 * Theme.insetSide
+        host: content.host
+    }
+
+    TabPicker {
+        objectName: "tabs"
+        x: Theme.insetSide
+        y: Theme.tabsTop
+        width: parent.width - 2 * Theme.insetSide
+        tabs: content.tabs
+        current: content.tab
+        onChosen: index => content.choose(index)
+    }
+
+    Loader {
+        id: body
+        x: Theme.insetSide
+        y: Theme.bodyTop
+        width: parent.width - 2 * Theme.insetSide
+        height: parent.height - y - Theme.insetBottom
+        focus: true
+        sourceComponent: content.tab === 0 ? clipboardTab : notesTab
+
+        NumberAnimation on opacity {
+            id: tabChange
+            running: false
+            from: 0
+            to: 1
+            duration: Theme.springing
+            easing.type: Easing.BezierSpline
+            easing.bezierCurve: Theme.spring
+        }
+        onSourceComponentChanged: {
+            if (content.shown) {
+                tabChange.restart();
+            }
+        }
+    }
+
+    Component {
+        id: clipboardTab
+
+        ClipboardTab {
+            host: content.host
+            shown: content.shown
+            question: question
+        }
+    }
+
+    Component {
+        id: notesTab
+
+        NotesTab {
+            host: content.host
+        }
+    }
+
+    Question {
+        id: question
+        text: "Clear clipboard history?"
+        onAccepted: content.host.store.clearClips()
+        onClosed: body.forceActiveFocus()
+    }
+
+    ToastCapsule {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: parent.height - height - 26
+        message: content.host.toast
+    }
+}

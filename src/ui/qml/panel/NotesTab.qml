@@ -1,0 +1,60 @@
+import QtQuick
+import Ravelo
+
+/// The quick note. Every change is kept at once.
+FocusScope {
+    id: tab
+
+    required property PanelHost host
+
+    Label {
+        objectName: "caption"
+        y: 8
+        text: "Quick note"
+        color: Theme.caption
+    }
+
+    Box {
+        objectName: "editor"
+        y: 32
+        width: parent.width
+        height: parent.height - y
+        radius: Theme.radiusEditor
+        color: Theme.surface1
+        lineColor: editor.activeFocus ? Theme.withAlpha(Theme.accent, 0.45) : Theme.line
+        lineWidth: 1
+
+        Flickable {
+            id: view
+            anchors.fill: parent
+            anchors.margins: 11
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            contentWidth: width
+            contentHeight: editor.height
+
+            EditArea {
+                id: editor
+                objectName: "noteInput"
+                width: view.width
+                height: Math.max(implicitHeight, view.height)
+                host: tab.host
+                text: tab.host.store.note
+                onTextChanged: {
+                    if (text !== tab.host.store.note) {
+                        tab.host.store.note = text;
+                        tab.host.store.save();
+                    }
+                }
+                onCursorRectangleChanged: {
+                    const line = cursorRectangle;
+                    if (line.y < view.contentY) {
+                        view.contentY = line.y;
+                    } else if (line.y + line.height > view.contentY + view.height) {
+                        view.contentY = line.y + line.height - view.height;
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,88 @@
+import QtQuick
+import Ravelo
+
+/// The search over the clipboard history, with the button that clears it.
+Surface {
+    id: field
+
+    required property PanelHost host
+    property alias input: input
+    property bool trashLit: false
+
+    signal clearRequested
+
+    implicitHeight: 32
+    radius: Theme.radiusRow
+    rest: Theme.surface2
+    hover: Theme.hoveredField
+    press: Theme.hoveredField
+    hovered: hover.hovered && !input.activeFocus
+    lineColor: input.activeFocus ? Theme.withAlpha(Theme.accent, 0.55) : Theme.line
+    lineWidth: 1
+
+    HoverHandler {
+        id: hover
+    }
+
+    Box {
+        visible: input.activeFocus
+        anchors.fill: parent
+        anchors.margins: -3
+        radius: parent.radius + 3
+        lineColor: Theme.withAlpha(Theme.accent, 0.16)
+        lineWidth: 3
+    }
+
+    Glyph {
+        objectName: "searchIcon"
+        x: 12
+        anchors.verticalCenter: parent.verticalCenter
+        symbol: "magnifyingglass"
+        color: Theme.caption
+    }
+
+    EditLine {
+        id: input
+        objectName: "searchInput"
+        x: 36
+        width: trash.x - x - 8
+        height: parent.height
+        host: field.host
+        placeholder: "Search clipboard…"
+        onTextChanged: field.host.clips.search = text
+    }
+
+    Surface {
+        id: trash
+        objectName: "trash"
+        x: parent.width - 30
+        y: 2
+        width: 28
+        height: 28
+        radius: Theme.radiusSmall
+        rest: field.trashLit ? Theme.surface3 : Theme.none
+        hover: Theme.surface3
+        press: Theme.surface4
+        hovered: area.containsMouse
+        pressed: area.pressed
+
+        Glyph {
+            anchors.centerIn: parent
+            symbol: "trash"
+            color: field.trashLit || trash.hovered ? Theme.text1 : Theme.iconQuiet
+        }
+
+        MouseArea {
+            id: area
+            anchors.fill: parent
+            hoverEnabled: true
+            onClicked: field.clearRequested()
+        }
+
+        Tooltip {
+            target: trash
+            hovered: area.containsMouse && !field.trashLit
+            text: "Clear history"
+        }
+    }
+}

@@ -1,0 +1,52 @@
+import QtQuick
+import Ravelo
+
+/// The two windows of the plan.
+Box {
+    id: block
+
+    required property PanelHost host
+
+    readonly property real resetWidth: Math.max(session.wantedResetWidth, week.wantedResetWidth)
+
+    implicitHeight: 80
+    radius: Theme.radiusRow
+    color: Theme.surface1
+    lineColor: Theme.line
+    lineWidth: 1
+
+    UsageRow {
+        id: session
+        objectName: "usageSession"
+        x: 14
+        y: 9
+        width: parent.width - 28
+        title: "5h session"
+        usage: block.host.session
+        resetWidth: block.resetWidth
+    }
+
+    UsageRow {
+        id: week
+        objectName: "usageWeek"
+        x: 14
+        y: 44
+        width: parent.width - 28
+        title: "Week"
+        usage: block.host.week
+        resetWidth: block.resetWidth
+    }
+
+    MouseArea {
+        id: area
+        anchors.fill: parent
+        hoverEnabled: true
+        acceptedButtons: Qt.NoButton
+    }
+
+    Tooltip {
+        target: block
+        hovered: area.containsMouse
+        text: "Plan usage — updates while Claude Code is active"
+    }
+}

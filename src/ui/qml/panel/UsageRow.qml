@@ -1,0 +1,79 @@
+import QtQuick
+import Ravelo
+
+/// One window of the plan: name, how much is used, when it starts anew, and a bar.
+Item {
+    id: row
+
+    required property string title
+    required property usageLine usage
+    /// As wide as the widest of the block, so that the percents line up.
+    required property real resetWidth
+    readonly property real wantedResetWidth: Math.max(90, reset.implicitWidth)
+
+    implicitHeight: 27
+
+    function bandColor(): color {
+        switch (usage.band) {
+        case UsageLine.Critical:
+            return Theme.red;
+        case UsageLine.High:
+            return Theme.yellow;
+        default:
+            return Theme.green;
+        }
+    }
+
+    Label {
+        text: row.title
+        style: Theme.strong
+    }
+
+    TabularText {
+        anchors.right: parent.right
+        anchors.rightMargin: row.resetWidth + 8
+        width: implicitWidth
+        height: 16
+        text: row.usage.percent
+        font: Theme.strong.font
+        ascent: Theme.strong.ascent
+        color: Theme.text1
+    }
+
+    TabularText {
+        id: reset
+        anchors.right: parent.right
+        width: implicitWidth
+        height: 16
+        text: row.usage.reset
+        font: Theme.subtitle.font
+        ascent: Theme.strong.ascent
+        color: Theme.text4
+    }
+
+    Box {
+        objectName: "track"
+        y: 22
+        width: parent.width
+        height: 5
+        radius: 2.5
+        color: Theme.surface3
+
+        Box {
+            visible: row.usage.known
+            width: Math.max(5, row.usage.fraction * parent.width)
+            height: 5
+            radius: 2.5
+            color: Theme.withAlpha(row.bandColor(), 0.7)
+            endColor: row.bandColor()
+
+            Behavior on width {
+                enabled: row.visible
+                NumberAnimation {
+                    duration: Theme.filling
+                    easing.type: Easing.InOutQuad
+                }
+            }
+        }
+    }
+}
