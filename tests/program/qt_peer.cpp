@@ -1,0 +1,67 @@
+// A Qt program for Ravelo to live beside: it owns the clipboard with what it is told, says "ready"
+// and stays until it is ended.
+
+#include <QClipboard>
+#include <QCommandLineParser>
+#include <QGuiApplication>
+#include <QImage>
+#include <QMimeData>
+#include <QTimer>
+
+#include <cstdio>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+void sayReady() {
+    std::puts("ready");
+    std::fflush(stdout);
+}
+
+/// "text 1", "text 2", ... each replacing the one before.
+void copySeries(int count, int interval) {
+    auto* timer = new QTimer(qGuiApp);
+    QObject::connect(timer, &QTimer::timeout, qGuiApp, [timer, count, done = 0]() mutable {
+        QGuiApplication::clipboard()->setText(u"text %1"_s.arg(++done));
+        if (done == count) {
+            timer->stop();
+            sayReady();
+        }
+    });
+    timer->start(interval);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QGuiApplication application(argc, argv);
+    const QCommandLineOption text(u"text"_s, u"Offers a text."_s, u"text"_s);
+    const QCommandLineOption image(u"image"_s, u"Offers an image of one colour."_s, u"color"_s);
+    const QCommandLineOption secret(u"secret"_s, u"Marks it as password managers do."_s);
+    const QCommandLineOption series(u"series"_s, u"Copies so many texts."_s, u"count"_s);
+    const QCommandLineOption interval(u"interval"_s, u"Between two texts."_s, u"ms"_s, u"25"_s);
+    QCommandLineParser parser;
+    parser.addOptions({text, image, secret, series, interval});
+    parser.process(application);
+
+    if (parser.isSet(series)) {
+        copySeries(parser.value(series).toInt(), parser.value(interval).toInt());
+        return QGuiApplication::exec();
+    }
+    auto* mime = new QMimeData; // The clipboard owns it.
+    if (parser.isSet(text)) {
+        mime->setText(parser.value(text));
+    }
+    if (parser.isSet(image)) {
+        QImage pixels(64, 48, QImage::Format_ARGB32);
+        pixels.fill(QColor(parser.value(image)));
+        mime->setImageData(pixels);
+    }
+    if (parser.isSet(secret)) {
+        mime->setData(u"x-kde-passwordManagerHint"_s, "secret");
+    }
+    QGuiApplication::clipboard()->setMimeData(mime);
+    QTimer::singleShot(0, qGuiApp, sayReady);
+    return QGuiApplication::exec();
+}

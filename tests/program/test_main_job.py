@@ -1,0 +1,243 @@
+"""The whole program on a desktop of its own: what was copied is kept, and the panel gives it back.
+
+RAVELO names the program, QT_PEER the Qt program to copy from (both made by the build).
+"""
+
+import os
+import signal
+import time
+import unittest
+
+from desktop import WIDTH, Desktop, Ravelo, wait_for
+
+CAPTURE_LIMIT = 0.9  # Seconds from the copy to store.json: at most one poll and one debounce.
+SAVE_DELAY = 0.4
+ROW, FIRST_ROW = 40, 300  # Height of a row; the middle of the first one.
+
+
+class ProgramCase(unittest.TestCase):
+    def setUp(self):
+        self.desktop = self.enterContext(Desktop())
+        self.ravelo = Ravelo(self.desktop, os.environ["RAVELO"])
+
+    def qt(self, *arguments):
+        return self.desktop.peer(os.environ["QT_PEER"], *arguments)
+
+    def copy_and_wait(self, *texts):
+        for text in texts:
+            self.desktop.copy_text(text)
+            self.wait_for_texts(text)
+
+    def wait_for_texts(self, *texts):
+        """Waits until these are the newest clips on disk."""
+        wait_for(lambda: self.ravelo.texts()[:len(texts)] == list(texts),
+                 f"{texts} as the newest clips in store.json")
+
+    def stop(self):
+        self.ravelo.process.terminate()
+        self.wait_for_end()
+
+    def wait_for_end(self):
+        wait_for(self.ravelo.has_ended, "the end of the program")
+
+
+class Capture(ProgramCase):
+    def test_what_other_programs_copy_is_on_disk_in_time(self):
+        xclip, gtk = self.desktop.copy_text, self.desktop.gtk
+        link = "https://www.debian.org/"
+        copies = [
+            ("text by xclip", lambda: xclip("from xclip, ✓"), "text", "from xclip, ✓"),
+            ("link by xclip", lambda: xclip(link), "url", link),
+            ("text by GTK", lambda: gtk("text", "from GTK"), "text", "from GTK"),
+            ("link by GTK", lambda: gtk("text", link + "gtk"), "url", link + "gtk"),
+            ("image by GTK", lambda: gtk("image", "c04020ff"), "image", "Image"),
+            ("text by Qt", lambda: self.qt("--text", "from Qt"), "text", "from Qt"),
+            ("link by Qt", lambda: self.qt("--text", link + "qt"), "url", link + "qt"),
+            ("image by Qt", lambda: self.qt("--image", "#2040c0"), "image", "Image"),
+            ("long text", lambda: xclip("long " * 60_000), "text", ("long " * 60_000).strip()),
+            ("text and image", lambda: self.qt("--text", "both", "--image", "#2040c0"), "text",
+             "both"),
+        ]
+        self.ravelo.start()
+        for number, (name, copy, kind, text) in enumerate(copies, 1):
+            with self.subTest(name):
+                copy()
+                copied = time.monotonic()
+                wait_for(lambda n=number: len(self.ravelo.clips()) == n, "one clip more")
+                self.assertLess(time.monotonic() - copied, CAPTURE_LIMIT, "seconds to store.json")
+                self.assertEqual(self.ravelo.clips()[0], (kind, text))
+
+    def test_images_are_kept_as_png_files_readable_by_the_user_alone(self):
+        self.ravelo.start()
+        self.desktop.gtk("image", "c04020ff")
+        self.wait_for_texts("Image")
+        name = self.ravelo.store()["clips"][0]["imageFileName"]
+        image = self.ravelo.folder / "clips" / name
+        self.assertEqual(self.desktop.run("identify", "-format", "%m %w %h %[pixel:p{9,9}]", image),
+                         "PNG 64 48 srgb(192,64,32)")
+        for path in (image, self.ravelo.folder / "store.json", self.ravelo.folder):
+            self.assertEqual(path.stat().st_mode & 0o077, 0, f"rights of others on {path}")
+
+    def test_what_is_not_to_be_captured(self):
+        """Each is followed by a text that must come out right on top of the one before."""
+        nothing = [
+            ("the same text again", lambda: self.desktop.copy_text("before 0")),
+            ("blanks", lambda: self.desktop.copy_text(" \t\n \n")),
+            ("a marked password", lambda: self.qt("--text", "tr0ub4dor&3", "--secret")),
+            ("a marked image", lambda: self.qt("--image", "#ffffff", "--secret")),
+        ]
+        self.desktop.copy_text("on the clipboard before the start")
+        self.ravelo.start()
+        self.copy_and_wait("before 0")
+        self.assertEqual(self.ravelo.texts(), ["before 0"])
+        for number, (name, copy) in enumerate(nothing, 1):
+            with self.subTest(name):
+                copy()
+                self.copy_and_wait(f"before {number}")
+                self.assertEqual(self.ravelo.texts()[1], f"before {number - 1}")
+        self.stop()
+        for path in filter(os.path.isfile, self.desktop.home.rglob("*")):
+            content = path.read_bytes()
+            for encoding in ("utf-8", "utf-16-le"):
+                self.assertNotIn("tr0ub4dor".encode(encoding), content, f"password in {path}")
+
+    def test_blanks_around_a_text_are_trimmed_and_an_older_twin_goes(self):
+        self.ravelo.start()
+        self.copy_and_wait("one", "two")
+        self.desktop.copy_text("\n  one \t")
+        self.wait_for_texts("one", "two")
+        self.assertEqual(self.ravelo.texts(), ["one", "two"])
+
+    def test_a_quick_series_is_kept_whole_and_in_order_up_to_the_limit(self):
+        self.ravelo.start()
+        for count, kept in ((20, 20), (61, 60)):
+            with self.subTest(count=count):
+                self.qt("--series", count, "--interval", 25)
+                self.wait_for_texts(f"text {count}")
+                self.assertEqual(self.ravelo.texts(),
+                                 [f"text {n}" for n in range(count, count - kept, -1)])
+
+    def test_twenty_owners_one_after_the_other(self):
+        self.ravelo.start()
+        for number in range(20):
+            self.desktop.copy_text(f"owner {number}")
+            time.sleep(0.025)  # The pace is what is tested.
+        self.wait_for_texts("owner 19")
+        self.assertEqual(self.ravelo.texts(), [f"owner {n}" for n in range(19, -1, -1)])
+
+
+class Survival(ProgramCase):
+    def test_a_crash_one_second_after_a_copy_loses_nothing(self):
+        self.ravelo.start()
+        self.copy_and_wait("first")
+        self.desktop.copy_text("second")
+        time.sleep(1)  # The promise is about this second.
+        self.ravelo.process.kill()
+        self.wait_for_end()
+        self.assertEqual(self.ravelo.texts(), ["second", "first"])
+        self.ravelo.start()
+        self.copy_and_wait("third")
+        self.assertEqual(self.ravelo.texts(), ["third", "second", "first"])
+
+    def test_a_torn_file_is_put_aside_and_the_seeds_are_back(self):
+        self.ravelo.start()
+        self.copy_and_wait("lost in the torn file")
+        self.stop()
+        store = self.ravelo.folder / "store.json"
+        torn = store.read_bytes()[:200]
+        store.write_bytes(torn)
+        self.ravelo.start()
+        self.copy_and_wait("after")
+        self.assertEqual(self.ravelo.texts(), ["after"])
+        self.assertEqual(self.ravelo.store()["snippets"][0]["title"], "First reply to lead")
+        self.assertEqual((self.ravelo.folder / "store.json.unreadable").read_bytes(), torn)
+
+    def test_every_way_to_end_keeps_what_was_just_copied(self):
+        ends = {
+            "SIGTERM": lambda: self.ravelo.process.send_signal(signal.SIGTERM),
+            "SIGINT": lambda: self.ravelo.process.send_signal(signal.SIGINT),
+            "SIGHUP": lambda: self.ravelo.process.send_signal(signal.SIGHUP),
+            "--quit": lambda: self.assertEqual(self.ravelo.call("--quit")[0], 0),
+            "the X server goes": lambda: self.desktop.server.kill(),  # Comes last.
+        }
+        for name, end in ends.items():
+            with self.subTest(name):
+                self.ravelo.start()
+                self.desktop.copy_text(name)
+                time.sleep(SAVE_DELAY / 3)  # Long seen, not yet due to be saved.
+                self.assertNotIn(name, self.ravelo.texts(), "saved too soon to tell anything")
+                end()
+                self.wait_for_end()
+                self.assertEqual(self.ravelo.texts()[:1], [name])
+
+
+class Panel(ProgramCase):
+    def setUp(self):
+        super().setUp()
+        self.ravelo.start()
+
+    def test_the_pointer_at_the_top_opens_and_a_row_gives_its_text_back(self):
+        self.copy_and_wait("older", "newer")
+        panel = self.ravelo.open()
+        middle = panel.x + panel.width // 2
+        self.desktop.click(middle, FIRST_ROW + ROW)
+        wait_for(lambda: self.desktop.paste_text() == "older", "the second row's text to paste")
+        self.copy_and_wait("next")
+        self.assertEqual(self.ravelo.texts(), ["next", "newer", "older"], "no clip of its own copy")
+
+    def test_it_closes_at_a_click_elsewhere_or_when_the_pointer_leaves(self):
+        ways = {
+            # As near as here the pointer alone does not close it.
+            "click": lambda panel: self.desktop.click(panel.x - 20, 300),
+            "leave": lambda panel: self.desktop.move(panel.x - 200, 800),
+        }
+        for name, close in ways.items():
+            with self.subTest(name):
+                close(self.ravelo.open())
+                wait_for(self.ravelo.is_collapsed, "the handle, 200 x 12, at the top, centred")
+
+    def test_opening_leaves_the_focus_where_the_user_types(self):
+        window = self.desktop.gtk("window")
+        focus = self.desktop.focused_window()
+        panel = self.ravelo.open()
+        self.desktop.move(panel.x + 200, 400)
+        self.desktop.type("a")
+        self.assertEqual(window.stdout.readline().strip(), "a", "typed into the other window")
+        self.assertEqual(self.desktop.focused_window(), focus)
+
+
+class CommandLine(ProgramCase):
+    def test_what_needs_no_display(self):
+        del self.desktop.env["DISPLAY"]
+        self.assertEqual(self.ravelo.call("--version"), (0, "Ravelo 0.2\n"))
+        code, text = self.ravelo.call("--help")
+        self.assertEqual(code, 0)
+        for option in ("--version", "--toggle", "--quit"):
+            self.assertIn(option, text)
+
+    def test_it_reaches_the_running_one(self):
+        calls = [
+            ([], self.ravelo.is_open),
+            (["--toggle"], self.ravelo.is_collapsed),
+            (["--toggle"], self.ravelo.is_open),
+            (["--quit"], self.ravelo.has_ended),
+        ]
+        self.desktop.move(WIDTH // 2, 300)  # Inside the open panel, outside all that opens it.
+        for session in ("with a session bus", "without one"):
+            if session == "without one":
+                self.desktop.env["DBUS_SESSION_BUS_ADDRESS"] = "unix:path=/nowhere"
+            self.ravelo.start()
+            for arguments, result in calls:
+                with self.subTest(session, arguments=arguments):
+                    self.assertEqual(self.ravelo.call(*arguments), (0, ""))
+                    wait_for(result, f"{result.__name__} after {arguments}")
+            self.assertEqual(self.ravelo.process.returncode, 0)
+
+    def test_an_unknown_option_is_refused(self):
+        code, text = self.ravelo.call("--no-such-option")
+        self.assertNotEqual(code, 0)
+        self.assertIn("no-such-option", text)
+
+
+if __name__ == "__main__":
+    unittest.main()
