@@ -1,0 +1,132 @@
+#include "platform/system/PreferenceFile.h"
+
+#include "base/Files.h"
+#include "contract/PreferencesContract.h"
+#include "fakes/ManualWorker.h"
+#include "fakes/MemoryPreferences.h"
+
+#include <QDir>
+#include <QTemporaryDir>
+
+#include <sys/stat.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class InMemory final : public PreferencesUnderTest {
+public:
+    [[nodiscard]] Preferences& preferences() override { return preferences_; }
+
+    void restart() override {}
+
+private:
+    MemoryPreferences preferences_;
+};
+
+/// With a worker that is far behind, as on a slow disk.
+class InAFile final : public PreferencesUnderTest {
+public:
+    InAFile() { start(); }
+
+    [[nodiscard]] Preferences& preferences() override { return *preferences_; }
+
+    void restart() override {
+        preferences_.reset();
+        start();
+    }
+
+private:
+    void start() {
+        const QString path = folder_.filePath(u"ravelo/preferences.json"_s);
+        preferences_ = std::make_unique<PreferenceFile>(path, worker_);
+    }
+
+    QTemporaryDir folder_;
+    ManualWorker worker_{ManualWorker::Mode::whenTold};
+    std::unique_ptr<PreferenceFile> preferences_;
+};
+
+template <typename T>
+std::unique_ptr<PreferencesUnderTest> make() {
+    return std::make_unique<T>();
+}
+
+INSTANTIATE_TEST_SUITE_P(Memory, PreferencesContract, testing::Values(make<InMemory>));
+INSTANTIATE_TEST_SUITE_P(File, PreferencesContract, testing::Values(make<InAFile>));
+
+class PreferenceFileTest : public testing::Test {
+protected:
+    [[nodiscard]] QByteArray contents() const { return readFile(path_).value_or("missing"); }
+
+    static unsigned mode(const QString& path) {
+        struct stat info = {};
+        EXPECT_EQ(stat(qPrintable(path), &info), 0) << qPrintable(path);
+        return info.st_mode & 07777;
+    }
+
+    QTemporaryDir folder_;
+    QString path_ = folder_.filePath(u"ravelo/preferences.json"_s);
+    ManualWorker worker_{ManualWorker::Mode::whenTold};
+};
+
+TEST_F(PreferenceFileTest, IsWrittenAtOnceForItsUserAlone) {
+    PreferenceFile preferences(path_, worker_);
+    EXPECT_EQ(worker_.pending(), 0) << "reading writes nothing";
+    preferences.set(u"a"_s, 1.5);
+    EXPECT_EQ(worker_.pending(), 1);
+    worker_.drain();
+    EXPECT_EQ(contents().simplified(), R"({ "a": 1.5 })");
+    EXPECT_EQ(mode(path_), 0600U);
+    EXPECT_EQ(mode(folder_.filePath(u"ravelo"_s)), 0700U);
+    preferences.set(u"a"_s, 1.5);
+    EXPECT_EQ(worker_.pending(), 0) << "nothing changed";
+}
+
+TEST_F(PreferenceFileTest, ChangesDuringAWriteShareTheNext) {
+    PreferenceFile preferences(path_, worker_);
+    for (int i = 0; i < 100; ++i) {
+        preferences.set(u"a"_s, i);
+    }
+    EXPECT_EQ(worker_.pending(), 1) << "a slider does not write a hundred times";
+    worker_.drain();
+    EXPECT_EQ(contents().simplified(), R"({ "a": 99 })");
+}
+
+TEST_F(PreferenceFileTest, KeepsWhatItDoesNotKnow) {
+    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"ravelo"_s));
+    ASSERT_TRUE(writeFileAtomically(path_, R"({"later":{"x":[1]},"a":"text"})"));
+    PreferenceFile(path_, worker_).set(u"a"_s, true);
+    EXPECT_EQ(contents().simplified(), R"({ "a": true, "later": { "x": [ 1 ] } })");
+}
+
+TEST_F(PreferenceFileTest, SetsAnUnreadableFileAside) {
+    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"ravelo"_s));
+    for (const QByteArray junk : {"", "junk", "[1]", R"({"a":1)"}) {
+        ASSERT_TRUE(writeFileAtomically(path_, junk));
+        PreferenceFile preferences(path_, worker_);
+        EXPECT_TRUE(preferences.value(u"a"_s).isUndefined());
+        EXPECT_EQ(contents(), junk) << "untouched until something is set";
+        preferences.set(u"a"_s, 2);
+        worker_.drain();
+        EXPECT_EQ(contents().simplified(), R"({ "a": 2 })");
+        QFile aside(path_ + u".unreadable"_s);
+        EXPECT_EQ(readFile(aside.fileName()), junk);
+        EXPECT_TRUE(aside.remove());
+    }
+}
+
+TEST_F(PreferenceFileTest, LivesWithoutADisk) {
+    QFile file(folder_.filePath(u"ravelo"_s));
+    ASSERT_TRUE(file.open(QFile::WriteOnly)) << "a file where the folder should be";
+    PreferenceFile preferences(path_, worker_);
+    preferences.set(u"a"_s, 1);
+    worker_.drain();
+    EXPECT_EQ(preferences.value(u"a"_s), 1);
+}
+
+} // namespace
+
+} // namespace ravelo
