@@ -1,0 +1,77 @@
+#include "platform/freedesktop/AutostartEntry.h"
+
+#include "base/Files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto mainGroup = "[Desktop Entry]";
+
+/// The keys of the main group with their values as they stand there.
+QHash<QByteArray, QByteArray> readEntry(const QByteArray& bytes) {
+    QHash<QByteArray, QByteArray> values;
+    bool inMainGroup = false;
+    for (const QByteArray& line : bytes.split('\n')) {
+        if (line.startsWith('[')) {
+            inMainGroup = line.trimmed() == mainGroup;
+        } else if (const qsizetype equals = line.indexOf('='); inMainGroup && equals > 0) {
+            values.insert(line.first(equals).trimmed(), line.sliced(equals + 1).trimmed());
+        }
+    }
+    return values;
+}
+
+/// One argument of an Exec line: quoted, since a path may hold anything, and escaped twice, as a
+/// quoted argument and as a value of the file.
+QString execArgument(QString argument) {
+    for (const QChar special : u"\\\"`$"_s) {
+        argument.replace(special, u'\\' + QString(special));
+    }
+    argument.replace(u"%"_s, u"%%"_s);
+    argument.replace(u"\\"_s, u"\\\\"_s);
+    argument.replace(u"\n"_s, u"\\n"_s).replace(u"\r"_s, u"\\r"_s).replace(u"\t"_s, u"\\t"_s);
+    return u'"' + argument + u'"';
+}
+
+} // namespace
+
+AutostartEntry::AutostartEntry(const QString& folder, QString program)
+    : path_(folder + u"/ravelo.desktop"_s), program_(std::move(program)) {}
+
+bool AutostartEntry::isEnabled() const {
+    const auto values = readEntry(readFile(path_).value_or(QByteArray()));
+    return !values.value("Exec").isEmpty() && values.value("Hidden") != "true" &&
+           values.value("X-GNOME-Autostart-enabled") != "false";
+}
+
+Result<void> AutostartEntry::setEnabled(bool enabled) {
+    if (!enabled) {
+        QFile file(path_);
+        const bool gone = file.remove() || !QFileInfo::exists(path_);
+        return gone ? Result<void>() : failure(path_ + u": "_s + file.errorString());
+    }
+    const QString entry = u"[Desktop Entry]\n"
+                          u"Type=Application\n"
+                          u"Name=Ravelo\n"
+                          u"Exec=%1\n"
+                          u"Icon=ravelo\n"
+                          u"Terminal=false\n"
+                          u"X-GNOME-Autostart-enabled=true\n"_s;
+    QDir().mkpath(QFileInfo(path_).path());
+    if (!writeFileAtomically(path_, entry.arg(execArgument(program_)).toUtf8())) {
+        return failure(path_ + u": could not be written"_s);
+    }
+    return {};
+}
+
+} // namespace ravelo

@@ -1,0 +1,118 @@
+#include "base/Files.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <sys/stat.h>
+#include <thread>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Files : public testing::Test {
+protected:
+    [[nodiscard]] QString path(const QString& name) const { return folder_.filePath(name); }
+
+    [[nodiscard]] QStringList entries() const {
+        return QDir(folder_.path())
+            .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
+    }
+
+    static unsigned mode(const QString& path) {
+        struct stat info = {};
+        EXPECT_EQ(stat(qPrintable(path), &info), 0) << qPrintable(path);
+        return info.st_mode & 07777;
+    }
+
+    QTemporaryDir folder_;
+};
+
+TEST_F(Files, ReadersFindTheOldOrTheNewContentsWhole) {
+    const QString file = path(u"a"_s);
+    ASSERT_TRUE(writeFileAtomically(file, QByteArray(200'000, 'a')));
+    std::atomic<bool> stop = false;
+    std::atomic<int> reads = 0;
+    std::string fault;
+    std::thread reader([&] {
+        while (!stop) {
+            const QByteArray bytes = readFile(file).value_or("missing");
+            if (bytes.size() < 200'000 || bytes.count(bytes[0]) != bytes.size() ||
+                mode(file) != 0600U) {
+                fault = std::to_string(bytes.size()) + " bytes: " + bytes.first(7).toStdString();
+            }
+            ++reads;
+        }
+    });
+    for (int i = 0; i < 60 || reads < 60; ++i) {
+        EXPECT_TRUE(writeFileAtomically(file, QByteArray(200'000 + i * 1000, char('b' + i % 20))));
+    }
+    stop = true;
+    reader.join();
+    EXPECT_EQ(fault, "") << "a reader saw something that was never written";
+    EXPECT_EQ(entries(), QStringList(u"a"_s)) << "no temporary file stays";
+}
+
+TEST_F(Files, WriteThatFailsLeavesTheOldFile) {
+    EXPECT_FALSE(writeFileAtomically(path(u"none/a"_s), "x"));
+    ASSERT_TRUE(QDir(folder_.path()).mkpath(u"taken/by a folder"_s));
+    EXPECT_FALSE(writeFileAtomically(path(u"taken"_s), "x"));
+    EXPECT_EQ(entries(), QStringList(u"taken"_s));
+}
+
+TEST_F(Files, WritingTakesAFileBackFromOthers) {
+    const QString file = path(u"a"_s);
+    ASSERT_TRUE(writeFileAtomically(file, "old"));
+    ASSERT_EQ(chmod(qPrintable(file), 0666), 0);
+    ASSERT_TRUE(writeFileAtomically(file, "new"));
+    EXPECT_EQ(mode(file), 0600U);
+    EXPECT_EQ(readFile(file), "new");
+}
+
+TEST_F(Files, FolderIsMadeOrMadePrivate) {
+    makePrivateFolder(path(u"a/b"_s));
+    EXPECT_EQ(mode(path(u"a/b"_s)), 0700U);
+    ASSERT_EQ(chmod(qPrintable(path(u"a/b"_s)), 0755), 0);
+    makePrivateFolder(path(u"a/b"_s));
+    EXPECT_EQ(mode(path(u"a/b"_s)), 0700U);
+}
+
+TEST_F(Files, MissingFileCannotBeReadAndAnEmptyOneCan) {
+    EXPECT_FALSE(readFile(path(u"a"_s)));
+    EXPECT_FALSE(readFile(folder_.path()));
+    ASSERT_TRUE(writeFileAtomically(path(u"a"_s), ""));
+    EXPECT_EQ(readFile(path(u"a"_s)), "");
+}
+
+TEST_F(Files, EachUnreadableFileIsKept) {
+    const QString file = path(u"a"_s);
+    setAsideUnreadable(file);
+    EXPECT_EQ(entries(), QStringList()) << "there was nothing to keep";
+    for (const QByteArray contents : {"1", "2", "3"}) {
+        ASSERT_TRUE(writeFileAtomically(file, contents));
+        setAsideUnreadable(file);
+    }
+    EXPECT_EQ(entries(),
+              QStringList({u"a"_s, u"a.unreadable"_s, u"a.unreadable2"_s, u"a.unreadable3"_s}));
+    EXPECT_EQ(readFile(path(u"a.unreadable"_s)), "1");
+    EXPECT_EQ(readFile(path(u"a.unreadable3"_s)), "3");
+    EXPECT_EQ(mode(path(u"a.unreadable2"_s)), 0600U);
+}
+
+TEST_F(Files, WhatCannotBeCopiedIsMoved) {
+    ASSERT_TRUE(QDir(folder_.path()).mkpath(u"a/inside"_s));
+    ASSERT_TRUE(QFile::link(u"nowhere"_s, path(u"a.unreadable"_s)));
+    setAsideUnreadable(path(u"a"_s));
+    EXPECT_EQ(entries(), QStringList({u"a.unreadable"_s, u"a.unreadable2"_s}));
+    EXPECT_TRUE(QFile::exists(path(u"a.unreadable2/inside"_s)));
+}
+
+} // namespace
+
+} // namespace ravelo
