@@ -1,0 +1,124 @@
+#pragma once
+
+#include "platform/Pasteboard.h"
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <memory>
+
+namespace ravelo {
+
+/// A pasteboard and the world around it.
+class PasteboardHost {
+public:
+    virtual ~PasteboardHost() = default;
+
+    [[nodiscard]] virtual Pasteboard& pasteboard() = 0;
+
+    /// Another program takes the pasteboard.
+    virtual void offer(const QList<PasteboardEntry>& forms) = 0;
+
+    /// What another program gets when it asks for this type.
+    [[nodiscard]] virtual QByteArray pasted(QLatin1StringView type) = 0;
+
+    /// Lets time pass until `condition` holds; false where it never does.
+    [[nodiscard]] virtual bool eventually(const std::function<bool()>& condition) = 0;
+};
+
+using PasteboardHostMaker = std::unique_ptr<PasteboardHost> (*)();
+
+/// The promises of Pasteboard.h. A test program instantiates it for its own adapter.
+class PasteboardContract : public testing::TestWithParam<PasteboardHostMaker> {
+protected:
+    /// Asks for these types in turn.
+    static PasteboardPlan asking(const QStringList& types) {
+        return [types](const PasteboardSnapshot& snapshot) {
+            const auto next = std::ranges::find_if(
+                types, [&](const QString& type) { return !snapshot.answers.contains(type); });
+            return next == types.end() ? QString() : *next;
+        };
+    }
+
+    PasteboardSnapshot read(const QStringList& types) {
+        std::optional<PasteboardSnapshot> result;
+        const Handle reading = board().read(
+            asking(types), [&](PasteboardSnapshot snapshot) { result = std::move(snapshot); });
+        EXPECT_FALSE(result) << "answered from within the call";
+        EXPECT_TRUE(eventually([&] { return result.has_value(); })) << "no answer";
+        return result.value_or(PasteboardSnapshot());
+    }
+
+    /// Another program takes the pasteboard, and we have heard of it.
+    void offer(const QList<PasteboardEntry>& forms) {
+        const qint64 before = board().changeCount();
+        host_->offer(forms);
+        ASSERT_TRUE(eventually([&] { return board().changeCount() != before; }))
+            << "the count stands still";
+    }
+
+    [[nodiscard]] Pasteboard& board() { return host_->pasteboard(); }
+
+    [[nodiscard]] bool eventually(const std::function<bool()>& condition) {
+        return host_->eventually(condition);
+    }
+
+    [[nodiscard]] static PasteboardEntry text(const char* words) { return {plainTextType, words}; }
+
+    std::unique_ptr<PasteboardHost> host_ = GetParam()();
+};
+
+inline const QString pngType = QStringLiteral("image/png");
+
+TEST_P(PasteboardContract, tellsOfAChangeFromElsewhere) {
+    int calls = 0;
+    const Handle listening = board().onChange([&] { ++calls; });
+    offer({text("one")});
+    EXPECT_TRUE(eventually([&] { return calls == 1; })) << "not told of the change";
+}
+
+TEST_P(PasteboardContract, readsWhatThePlanAsksForAndNothingElse) {
+    offer(
+        {text("Gr\xc3\xbc\xc3\x9f"), {pngType, "png bytes"}, {QStringLiteral("text/html"), "<b>"}});
+    const auto snapshot = read({plainTextType, pngType, QStringLiteral("image/tiff")});
+    for (const QString& type : {QString(plainTextType), pngType, QStringLiteral("text/html")}) {
+        EXPECT_EQ(snapshot.types.count(type), 1) << qPrintable(type);
+    }
+    EXPECT_EQ(snapshot.answers.size(), 3);
+    EXPECT_EQ(snapshot.answers.value(plainTextType), QByteArray("Gr\xc3\xbc\xc3\x9f"));
+    EXPECT_EQ(snapshot.answers.value(pngType), QByteArray("png bytes"));
+    EXPECT_EQ(snapshot.answers.value(QStringLiteral("image/tiff")), std::nullopt)
+        << "something that was not on offer";
+}
+
+TEST_P(PasteboardContract, neverAnswersAReadThatWasDroppedOrOvertaken) {
+    offer({text("old")});
+    int stale = 0;
+    const auto count = [&](const PasteboardSnapshot&) {
+        ++stale;
+    };
+    Handle dropped = board().read(asking({plainTextType}), count);
+    dropped.reset();
+    const Handle overtaken = board().read(asking({plainTextType}), count);
+    board().write({text("ours")});
+    EXPECT_EQ(read({plainTextType}).answers.value(plainTextType), QByteArray("ours"));
+    EXPECT_EQ(stale, 0) << "answered for contents that are gone";
+}
+
+TEST_P(PasteboardContract, countsAWriteAtOnceAndTellsNobody) {
+    offer({text("before")});
+    int calls = 0;
+    const qint64 before = board().changeCount();
+    const Handle listening = board().onChange([&] { ++calls; });
+    ASSERT_TRUE(read({plainTextType}).types.contains(plainTextType)); // All notices are in.
+    calls = 0;
+    board().write({{pngType, "png bytes"}, text("Gr\xc3\xbc\xc3\x9f")});
+    EXPECT_EQ(board().changeCount(), before + 1);
+    EXPECT_EQ(host_->pasted(plainTextType), "Gr\xc3\xbc\xc3\x9f");
+    EXPECT_EQ(host_->pasted(QLatin1StringView("image/png")), "png bytes");
+    EXPECT_EQ(read({pngType}).answers.value(pngType), QByteArray("png bytes"));
+    EXPECT_EQ(board().changeCount(), before + 1) << "counted again when the notice came";
+    EXPECT_EQ(calls, 0) << "told of our own write";
+}
+
+} // namespace ravelo

@@ -1,0 +1,88 @@
+#include "ListenerSession.h"
+
+#include <QGuiApplication>
+
+namespace ravelo::x11 {
+namespace {
+
+using live::Client;
+using live::eventually;
+using live::offering;
+using namespace Qt::StringLiterals;
+
+struct DragCase {
+    const char* name;
+    QString behaviour;
+    QStringList offers;
+    QList<QUrl> files;
+};
+
+class DragOfOther : public testing::TestWithParam<DragCase> {
+protected:
+    [[nodiscard]] X11DragMonitor& drags() { return session_.drags; }
+
+    live::ListenerSession session_;
+};
+
+TEST_P(DragOfOther, isCountedAndAskedForItsFiles) {
+    EXPECT_EQ(drags().carriesFiles(), std::nullopt) << "before any drag";
+    int calls = 0;
+    const Handle listening = drags().onChange([&] { ++calls; });
+    const live::StallGauge gauge;
+    Client source(live::selectionOwner(),
+                  QStringList{u"XdndSelection"_s, GetParam().behaviour} + GetParam().offers);
+    ASSERT_TRUE(eventually([&] { return calls == 1; })) << "not told of the drag";
+    EXPECT_EQ(drags().changeCount(), 1);
+
+    EXPECT_EQ(drags().carriesFiles(), std::nullopt) << "answered before the source was asked";
+    ASSERT_TRUE(eventually([&] { return drags().carriesFiles().has_value(); })) << "no answer";
+    EXPECT_EQ(drags().carriesFiles(), !GetParam().files.isEmpty());
+    EXPECT_EQ(drags().fileUrls(), GetParam().files);
+    EXPECT_TRUE(eventually([&] { return calls == 2; })) << "not told of the answer";
+    EXPECT_LE(gauge.longestStallMs(), 50);
+
+    source.poke();
+    ASSERT_TRUE(eventually([&] { return calls == 3; })) << "not told of the next drag";
+    EXPECT_EQ(drags().changeCount(), 2);
+    EXPECT_EQ(drags().fileUrls(), QList<QUrl>()) << "those of the drag before";
+    EXPECT_EQ(drags().carriesFiles(), std::nullopt) << "the answer of the drag before";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Sources, DragOfOther,
+    testing::Values(
+        DragCase{"Files",
+                 u"answer"_s,
+                 {offering(u"text/uri-list"_s,
+                           "# two\r\nfile:///tmp/a%20b\r\nhttps://example.org/\r\nfile:///c\r\n")},
+                 {QUrl(u"file:///tmp/a%20b"_s), QUrl(u"file:///c"_s)}},
+        DragCase{"Addresses",
+                 u"answer"_s,
+                 {offering(u"text/uri-list"_s, "https://example.org/\r\n")},
+                 {}},
+        DragCase{"Text", u"answer"_s, {offering(u"UTF8_STRING"_s, "file:///tmp/a")}, {}},
+        DragCase{"Silence", u"silent"_s, {}, {}}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST(OwnDrag, isNoDragOfOthers) {
+    live::ListenerSession session;
+    const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
+    xcb_connection_t* qt = x11->connection();
+    const auto begin = [&](xcb_connection_t* client) {
+        const xcb_window_t window = xcb_generate_id(client);
+        xcb_create_window(client, 0, window, session.connection->root(), 0, 0, 1, 1, 0,
+                          XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+        xcb_set_selection_owner(client, window, session.connection->atom("XdndSelection"),
+                                XCB_CURRENT_TIME);
+        xcb_flush(client);
+        const Owned<xcb_get_input_focus_reply_t> done(
+            xcb_get_input_focus_reply(client, xcb_get_input_focus(client), nullptr));
+    };
+    begin(qt);
+    begin(session.connection->get()); // The one that counts, behind it.
+    EXPECT_TRUE(eventually([&] { return session.drags.changeCount() > 0; }));
+    EXPECT_EQ(session.drags.changeCount(), 1) << "our own drag was counted";
+}
+
+} // namespace
+} // namespace ravelo::x11

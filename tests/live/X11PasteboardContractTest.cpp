@@ -1,0 +1,41 @@
+#include "ListenerSession.h"
+#include "contract/PasteboardContract.h"
+
+namespace ravelo {
+namespace {
+
+class X11Host final : public PasteboardHost {
+public:
+    [[nodiscard]] Pasteboard& pasteboard() override { return session_.pasteboard; }
+
+    void offer(const QList<PasteboardEntry>& forms) override {
+        QStringList arguments = {QStringLiteral("CLIPBOARD"), QStringLiteral("answer")};
+        for (const PasteboardEntry& form : forms) {
+            arguments.append(live::offering(form.type, form.bytes));
+        }
+        owner_ = std::make_unique<live::Client>(live::selectionOwner(), arguments);
+        EXPECT_FALSE(owner_->readLine().isEmpty());
+    }
+
+    [[nodiscard]] QByteArray pasted(QLatin1StringView type) override {
+        live::Client xclip(QStringLiteral("xclip"),
+                           {QStringLiteral("-o"), QStringLiteral("-selection"),
+                            QStringLiteral("clipboard"), QStringLiteral("-t"), type});
+        return xclip.finish();
+    }
+
+    [[nodiscard]] bool eventually(const std::function<bool()>& condition) override {
+        return live::eventually(condition);
+    }
+
+private:
+    live::ListenerSession session_;
+    std::unique_ptr<live::Client> owner_;
+};
+
+INSTANTIATE_TEST_SUITE_P(X11, PasteboardContract, testing::Values([]() {
+                             return std::unique_ptr<PasteboardHost>(new X11Host);
+                         }));
+
+} // namespace
+} // namespace ravelo

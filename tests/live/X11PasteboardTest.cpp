@@ -1,0 +1,293 @@
+#include "ListenerSession.h"
+
+#include <QAbstractNativeEventFilter>
+#include <QGuiApplication>
+
+#include <xcb/xfixes.h>
+
+#include <utility>
+
+namespace ravelo::x11 {
+namespace {
+
+using live::Client;
+using live::eventually;
+using live::filling;
+using live::offering;
+using namespace Qt::StringLiterals;
+
+const QString hint = u"x-kde-passwordManagerHint"_s;
+
+class X11PasteboardTest : public testing::Test {
+protected:
+    /// Another program takes the clipboard; we have heard of it when this returns.
+    std::unique_ptr<Client> own(const QString& behaviour, const QStringList& offers) {
+        const qint64 before = board().changeCount();
+        auto owner = std::make_unique<Client>(live::selectionOwner(),
+                                              QStringList{u"CLIPBOARD"_s, behaviour} + offers);
+        EXPECT_FALSE(owner->readLine().isEmpty()) << "the other program does not own it";
+        EXPECT_TRUE(eventually([&] { return board().changeCount() != before; })) << "no notice";
+        return owner;
+    }
+
+    Handle ask(const QString& type, std::optional<PasteboardSnapshot>& result) {
+        return board().read(
+            [type](const PasteboardSnapshot& snapshot) {
+                return snapshot.answers.contains(type) ? QString() : type;
+            },
+            [&](PasteboardSnapshot snapshot) { result = std::move(snapshot); });
+    }
+
+    PasteboardSnapshot read(const QString& type) {
+        std::optional<PasteboardSnapshot> result;
+        const Handle reading = ask(type, result);
+        EXPECT_TRUE(eventually([&] { return result.has_value(); })) << "the read never ends";
+        return result.value_or(PasteboardSnapshot());
+    }
+
+    std::optional<QByteArray> readText() {
+        return read(plainTextType).answers.value(plainTextType);
+    }
+
+    [[nodiscard]] X11Pasteboard& board() { return session_.pasteboard; }
+
+    live::ListenerSession session_;
+};
+
+struct TextCase {
+    const char* name;
+    QStringList offers;
+    std::optional<QByteArray> text;
+};
+
+class TextOfOwner : public X11PasteboardTest, public testing::WithParamInterface<TextCase> {};
+
+TEST_P(TextOfOwner, arrivesAsUtf8) {
+    const auto owner = own(u"answer"_s, GetParam().offers);
+    const auto snapshot = read(plainTextType);
+    EXPECT_EQ(snapshot.types.count(plainTextType), 1) << qPrintable(snapshot.types.join(u' '));
+    EXPECT_EQ(snapshot.answers.value(plainTextType), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Owners, TextOfOwner,
+    testing::Values(
+        TextCase{"Latin1", {offering(u"STRING"_s, "caf\xe9")}, "caf\xc3\xa9"},
+        TextCase{"Utf8", {offering(u"UTF8_STRING"_s, "caf\xc3\xa9")}, "caf\xc3\xa9"},
+        TextCase{"BestOfMany",
+                 {offering(u"TEXT"_s, "text"), offering(u"STRING"_s, "string"),
+                  offering(u"text/plain;charset=UTF-8"_s, "mime"),
+                  offering(u"text/plain"_s, "plain")},
+                 "mime"},
+        TextCase{"MimeThatIsNoUtf8", {offering(u"text/plain"_s, "caf\xe9")}, "caf\xc3\xa9"},
+        TextCase{"Empty", {offering(u"UTF8_STRING"_s, "")}, ""},
+        TextCase{
+            "CompoundText", {offering(u"COMPOUND_TEXT"_s, "\x1b%G\xc3\xa9\x1b%@")}, std::nullopt},
+        TextCase{"OverTheLimit", {u"UTF8_STRING=fill:%1"_s.arg((8 << 20) + 1)}, std::nullopt}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST_F(X11PasteboardTest, readsTextOfARealProgram) {
+    const qint64 before = board().changeCount();
+    const Client xclip(u"xclip"_s, {u"-quiet"_s, u"-selection"_s, u"clipboard"_s},
+                       "Gr\xc3\xbc\xc3\x9f");
+    ASSERT_TRUE(eventually([&] { return board().changeCount() == before + 1; })) << "no notice";
+    EXPECT_EQ(readText(), QByteArray("Gr\xc3\xbc\xc3\x9f"));
+}
+
+TEST_F(X11PasteboardTest, readsALargeImageInPieces) {
+    const auto owner = own(u"answer"_s, {u"image/png=fill:8388608"_s});
+    EXPECT_TRUE(read(u"image/png"_s).answers.value(u"image/png"_s) == filling(8388608))
+        << "not the bytes that were offered";
+}
+
+TEST_F(X11PasteboardTest, keepsMarksUnderTheirOwnNames) {
+    const auto owner =
+        own(u"answer"_s, {offering(hint, "secret"), offering(u"UTF8_STRING"_s, "pw")});
+    const auto snapshot = read(hint);
+    EXPECT_TRUE(snapshot.types.contains(hint));
+    EXPECT_EQ(snapshot.answers.value(hint), QByteArray("secret"));
+    EXPECT_FALSE(snapshot.answers.contains(plainTextType)) << "read what nobody asked for";
+}
+
+TEST_F(X11PasteboardTest, answersEmptyWhereNobodyOwnsTheClipboard) {
+    own(u"answer"_s, {offering(u"STRING"_s, "x")}).reset();
+    ASSERT_TRUE(eventually([&] { return board().changeCount() == 2; }))
+        << "the owner's end is no change";
+    EXPECT_EQ(read(plainTextType).types, QStringList());
+}
+
+struct HostileCase {
+    const char* behaviour;
+    bool listsTypes;
+    int size = 1 << 20;
+};
+
+class HostileOwner : public X11PasteboardTest, public testing::WithParamInterface<HostileCase> {};
+
+TEST_P(HostileOwner, neitherStallsUsNorSpoilsTheNextCopy) {
+    const live::StallGauge gauge;
+    const QStringList offers = {u"UTF8_STRING=fill:%1"_s.arg(GetParam().size)};
+    const auto hostile = own(QLatin1StringView(GetParam().behaviour), offers);
+    const auto snapshot = read(plainTextType);
+    EXPECT_EQ(snapshot.types.contains(plainTextType), GetParam().listsTypes);
+    EXPECT_EQ(snapshot.answers.value(plainTextType), std::nullopt);
+
+    // A second reading is under way while the next program copies.
+    std::optional<PasteboardSnapshot> overtaken;
+    const Handle reading = ask(plainTextType, overtaken);
+    const auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "next")});
+    QElapsedTimer sinceCopy;
+    sinceCopy.start();
+    EXPECT_EQ(readText(), QByteArray("next"));
+    EXPECT_LT(sinceCopy.elapsed(), 1000) << "waited for the owner before";
+    EXPECT_LE(gauge.longestStallMs(), 50);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Behaviours, HostileOwner,
+    testing::Values(HostileCase{"silent", false}, HostileCase{"targetsOnly", true},
+                    HostileCase{"refuse", true}, HostileCase{"stallsInPieces", true},
+                    HostileCase{"claimsHuge", true}, HostileCase{"claimsSmall", true},
+                    HostileCase{"inOnePiece", true, (8 << 20) + 1}),
+    [](const auto& tested) { return tested.param.behaviour; });
+
+TEST_F(X11PasteboardTest, survivesAnOwnerThatDiesWhenAsked) {
+    const live::StallGauge gauge;
+    const auto dying = own(u"dieAfterTargets"_s, {offering(u"UTF8_STRING"_s, "last words")});
+    const qint64 before = board().changeCount();
+    std::optional<PasteboardSnapshot> result;
+    const Handle reading = ask(plainTextType, result);
+    EXPECT_TRUE(eventually([&] { return board().changeCount() == before + 1; }))
+        << "the owner's death is no change";
+    const auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "next")});
+    EXPECT_EQ(readText(), QByteArray("next"));
+    EXPECT_FALSE(result) << "answered for an owner that is gone";
+    EXPECT_LE(gauge.longestStallMs(), 50);
+}
+
+TEST_F(X11PasteboardTest, doesNotTakeALateAnswerForTheNextOwners) {
+    const auto late = own(u"late"_s, {offering(u"UTF8_STRING"_s, "stale")});
+    std::optional<PasteboardSnapshot> overtaken;
+    const Handle reading = ask(plainTextType, overtaken);
+    for (int round = 0; round < 3; ++round) {
+        const auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "fresh")});
+        EXPECT_EQ(readText(), QByteArray("fresh"));
+    }
+    EXPECT_FALSE(overtaken);
+}
+
+TEST_F(X11PasteboardTest, readsEveryOneOfQuickCopies) {
+    constexpr int copies = 20;
+    QList<QByteArray> got;
+    Handle reading;
+    const Handle listening = board().onChange([&] {
+        reading = board().read(
+            [](const PasteboardSnapshot& snapshot) {
+                return snapshot.answers.isEmpty() ? QString(plainTextType) : QString();
+            },
+            [&](const PasteboardSnapshot& snapshot) {
+                got.append(snapshot.answers.value(plainTextType).value_or("nothing"));
+            });
+    });
+    const auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "copy")});
+    QList<QByteArray> expected = {"copy"};
+    for (int copy = 2; copy <= copies; ++copy) {
+        expected.append("copy" + QByteArray::number(copy));
+    }
+    QTimer next;
+    next.callOnTimeout([&, copy = 1]() mutable {
+        owner->poke();
+        if (++copy == copies) {
+            next.stop();
+        }
+    });
+    next.start(25);
+    EXPECT_TRUE(eventually([&] { return got.size() >= copies; })) << got.size() << " arrived";
+    EXPECT_EQ(got, expected);
+}
+
+TEST_F(X11PasteboardTest, servesAnImageByteForByte) {
+    const QByteArray png = filling(3 << 20);
+    board().write({{u"image/png"_s, png}, {plainTextType, "words"}});
+    Client xclip(u"xclip"_s, {u"-o"_s, u"-selection"_s, u"clipboard"_s, u"-t"_s, u"image/png"_s});
+    EXPECT_TRUE(xclip.finish() == png) << "not the bytes that were written";
+    for (const QString& target : {u"UTF8_STRING"_s, u"STRING"_s, u"text/plain"_s}) {
+        Client text(u"xclip"_s, {u"-o"_s, u"-selection"_s, u"clipboard"_s, u"-t"_s, target});
+        EXPECT_EQ(text.finish(), "words") << qPrintable(target);
+    }
+}
+
+/// Another client in this very program, so that nothing comes between its copy and ours.
+class NearbyClient : public QAbstractNativeEventFilter {
+public:
+    explicit NearbyClient(Connection& connection) : connection_(connection) {
+        qGuiApp->installNativeEventFilter(this);
+        window_ = xcb_generate_id(xcb());
+        xcb_create_window(xcb(), 0, window_, connection.root(), 0, 0, 1, 1, 0,
+                          XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    }
+
+    void copy(const QByteArray& selection, xcb_timestamp_t time) {
+        xcb_set_selection_owner(xcb(), window_, connection_.atom(selection), time);
+        const Owned<xcb_get_input_focus_reply_t> done(
+            xcb_get_input_focus_reply(xcb(), xcb_get_input_focus(xcb()), nullptr));
+    }
+
+    /// A server time that Qt has seen pass: the server refuses a copy of ours that is, by what Qt
+    /// knows of the time, older than the owner's.
+    [[nodiscard]] xcb_timestamp_t pastTime() {
+        xcb_timestamp_t before = 0;
+        for (int round = 0; round < 2; ++round) {
+            before = std::exchange(noticeTime_, 0);
+            copy("PRIMARY", XCB_CURRENT_TIME);
+            EXPECT_TRUE(eventually([&] { return noticeTime_ != 0; })) << "Qt hears nothing";
+        }
+        return before;
+    }
+
+    bool nativeEventFilter(const QByteArray& /*kind*/, void* message,
+                           qintptr* /*result*/) override {
+        const auto& event = *static_cast<const xcb_generic_event_t*>(message);
+        if ((event.response_type & ~0x80) == connection_.xfixesFirstEvent()) {
+            noticeTime_ =
+                static_cast<const xcb_xfixes_selection_notify_event_t*>(message)->timestamp;
+        }
+        return false;
+    }
+
+private:
+    [[nodiscard]] xcb_connection_t* xcb() const { return connection_.get(); }
+
+    Connection& connection_;
+    xcb_window_t window_ = XCB_NONE;
+    xcb_timestamp_t noticeTime_ = 0;
+};
+
+TEST_F(X11PasteboardTest, forgetsACopyFromJustBeforeItsOwnWrite) {
+    NearbyClient other(*session_.connection);
+    for (int round = 0; round < 20; ++round) {
+        const auto time = other.pastTime();
+        other.copy("CLIPBOARD", time); // Its notice may come before or after our write is done.
+        board().write({{plainTextType, "ours"}});
+        const qint64 count = board().changeCount();
+        ASSERT_EQ(readText(), QByteArray("ours"));
+        ASSERT_EQ(board().changeCount(), count) << "the earlier copy was counted after ours";
+    }
+}
+
+TEST_F(X11PasteboardTest, tellsOfACopyThatCameBeforeItsOwnWriteWasSeen) {
+    NearbyClient other(*session_.connection);
+    int calls = 0;
+    const Handle listening = board().onChange([&] { ++calls; });
+    for (int round = 1; round <= 20; ++round) {
+        board().write({{plainTextType, "ours"}});
+        const qint64 count = board().changeCount();
+        other.copy("CLIPBOARD", XCB_CURRENT_TIME);
+        ASSERT_TRUE(eventually([&] { return calls == round; })) << "the later copy was missed";
+        ASSERT_EQ(board().changeCount(), count + 1);
+        static_cast<void>(other.pastTime()); // Qt's next write is later.
+    }
+}
+
+} // namespace
+} // namespace ravelo::x11

@@ -1,0 +1,79 @@
+#include "live/support/Clients.h"
+
+#include <QCoreApplication>
+#include <QEventLoop>
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <algorithm>
+#include <utility>
+
+#include <sys/prctl.h>
+
+namespace ravelo::live {
+
+bool eventually(const std::function<bool()>& condition) {
+    QTimer timeOut;
+    timeOut.setSingleShot(true);
+    timeOut.start(20000);
+    while (!condition()) {
+        if (!timeOut.isActive()) {
+            return false;
+        }
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return true;
+}
+
+Client::Client(const QString& program, const QStringList& arguments, const QByteArray& input) {
+    process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    process_.start(program, arguments);
+    if (!input.isNull()) {
+        process_.write(input);
+        process_.closeWriteChannel();
+    }
+    EXPECT_TRUE(process_.waitForStarted()) << qPrintable(program) << " does not start";
+}
+
+Client::~Client() {
+    process_.kill();
+    process_.waitForFinished();
+}
+
+QByteArray Client::readLine() {
+    EXPECT_TRUE(eventually([this] { return process_.canReadLine(); }))
+        << qPrintable(process_.program()) << " says nothing";
+    return process_.readLine().trimmed();
+}
+
+void Client::poke() {
+    process_.write("\n");
+}
+
+QByteArray Client::finish() {
+    EXPECT_TRUE(eventually([this] { return process_.state() == QProcess::NotRunning; }))
+        << qPrintable(process_.program()) << " does not end";
+    return process_.readAllStandardOutput();
+}
+
+StallGauge::StallGauge() : queued_(queuedMs()) {
+    timer_.setTimerType(Qt::PreciseTimer);
+    QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {
+        const qint64 queued = queuedMs();
+        const qint64 waited = queued - std::exchange(queued_, queued);
+        longest_ = std::max(longest_, sinceLast_.restart() - interval - waited);
+    });
+    sinceLast_.start();
+    timer_.start(interval);
+}
+
+/// How long this thread has waited on a run queue (the second number of schedstat, nanoseconds).
+qint64 StallGauge::queuedMs() {
+    QFile file(QStringLiteral("/proc/thread-self/schedstat"));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly)) << "no schedstat";
+    return file.readAll().split(' ').value(1).toLongLong() / 1000000;
+}
+
+} // namespace ravelo::live
