@@ -1,0 +1,38 @@
+#include "live/PanelFixture.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+
+namespace ravelo::live {
+
+void RecordingWindow::mousePressEvent(QMouseEvent* /*event*/) {
+    ++presses;
+}
+
+void RecordingWindow::keyPressEvent(QKeyEvent* event) {
+    typed += event->text();
+}
+
+PanelFixture::PanelFixture()
+    : connection(std::move(x11::Connection::create().value())), events(*connection),
+      screens(*connection, events), compositor(*connection, events),
+      panel(window, *connection, events, screens, compositor) {}
+
+void PanelFixture::show(const QString& monitor, QSizeF size) {
+    const x11::Monitor* place = screens.monitor(monitor);
+    ASSERT_NE(place, nullptr) << "there is no " << qPrintable(monitor);
+    panel.place(place->screen, size);
+    panel.orderFront();
+    const QRect expected = topCentre(*place, size);
+    ASSERT_TRUE(eventually([&] {
+        return server.isViewable(id()) && server.geometry(id()) == expected;
+    })) << "the panel is not shown where it belongs";
+}
+
+QRect topCentre(const x11::Monitor& monitor, QSizeF size) {
+    const QSize native = (size * monitor.scale).toSize();
+    return {monitor.native.x() + (monitor.native.width() - native.width()) / 2, monitor.native.y(),
+            native.width(), native.height()};
+}
+
+} // namespace ravelo::live

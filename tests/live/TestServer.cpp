@@ -1,0 +1,134 @@
+#include "live/TestServer.h"
+
+#include <QElapsedTimer>
+#include <QEventLoop>
+#include <QTemporaryFile>
+#include <QTimer>
+
+#include <csignal>
+#include <cstdio>
+#include <cstdlib>
+#include <sys/prctl.h>
+#include <unistd.h>
+
+using namespace Qt::StringLiterals;
+
+namespace ravelo::live {
+
+namespace {
+
+[[noreturn]] void giveUp(const char* what) {
+    std::fprintf(stderr, "the test's display server: %s\n", what);
+    std::exit(EXIT_FAILURE);
+}
+
+/// Unlike Xvfb the server with this driver has several outputs.
+constexpr char configuration[] = R"(
+Section "Monitor"
+    Identifier "monitor"
+    HorizSync 5-1000
+    VertRefresh 5-200
+EndSection
+Section "Device"
+    Identifier "device"
+    Driver "dummy"
+    VideoRam 65536
+EndSection
+Section "Screen"
+    Identifier "screen"
+    Device "device"
+    Monitor "monitor"
+    DefaultDepth 24
+EndSection
+Section "ServerFlags"
+    Option "AutoAddDevices" "false"
+EndSection
+)";
+
+} // namespace
+
+Program::Program(const QString& path, const QStringList& arguments)
+    : process_(std::make_unique<QProcess>()) {
+    process_->setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    process_->setStandardOutputFile(QProcess::nullDevice());
+    process_->setStandardErrorFile(QProcess::nullDevice());
+    process_->start(path, arguments);
+    if (!process_->waitForStarted()) {
+        giveUp(qPrintable(path + " does not start"_L1));
+    }
+}
+
+Program::~Program() {
+    process_->terminate();
+    if (!process_->waitForFinished(5000)) {
+        process_->kill();
+        process_->waitForFinished();
+    }
+}
+
+bool Program::succeeds() {
+    return process_->waitForFinished(20000) && process_->exitStatus() == QProcess::NormalExit &&
+           process_->exitCode() == 0;
+}
+
+TestServer::TestServer() {
+    startServer();
+    if (!run(u"xrandr"_s, {u"--addmode"_s, u"DUMMY1"_s, u"1280x1024"_s}) || !showSecondMonitor()) {
+        giveUp("cannot have a second monitor");
+    }
+    programs_.push_back(std::make_unique<Program>(
+        u"openbox"_s,
+        QStringList{u"--sm-disable"_s, u"--config-file"_s, u"/etc/xdg/openbox/rc.xml"_s}));
+}
+
+void TestServer::startServer() {
+    QTemporaryFile file;
+    int ends[2] = {};
+    if (!file.open() || file.write(configuration) < 0 || !file.flush() || pipe(ends) != 0) {
+        giveUp("no configuration");
+    }
+    // A seat other than "seat0" needs no console.
+    programs_.push_back(std::make_unique<Program>(
+        u"/usr/lib/xorg/Xorg"_s,
+        QStringList{u"-config"_s, file.fileName(), u"-displayfd"_s, QString::number(ends[1]),
+                    u"-logfile"_s, u"/dev/null"_s, u"-seat"_s, u"none"_s, u"-nolisten"_s, u"tcp"_s,
+                    u"-noreset"_s}));
+    close(ends[1]);
+    QByteArray display; // The server writes its number when it is ready, and a new line.
+    char digit = 0;
+    while (read(ends[0], &digit, 1) == 1 && digit != '\n') {
+        display.append(digit);
+    }
+    close(ends[0]);
+    if (display.isEmpty()) {
+        giveUp("it does not come up");
+    }
+    qputenv("DISPLAY", ':' + display);
+}
+
+bool showSecondMonitor() {
+    return run(u"xrandr"_s,
+               {u"--output"_s, u"DUMMY0"_s, u"--mode"_s, u"1920x1080"_s, u"--output"_s, u"DUMMY1"_s,
+                u"--mode"_s, u"1280x1024"_s, u"--right-of"_s, u"DUMMY0"_s});
+}
+
+bool run(const QString& path, const QStringList& arguments) {
+    return Program(path, arguments).succeeds();
+}
+
+bool eventually(const std::function<bool()>& condition) {
+    QElapsedTimer timer;
+    timer.start();
+    QTimer wake; // The condition may change without any event of ours.
+    wake.start(2);
+    QEventLoop loop;
+    while (!condition()) {
+        if (timer.elapsed() > 10000) {
+            return false;
+        }
+        loop.processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return true;
+}
+
+} // namespace ravelo::live
