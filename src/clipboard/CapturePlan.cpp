@@ -1,0 +1,47 @@
+#include "clipboard/CapturePlan.h"
+
+#include "store/PasteboardImage.h"
+
+namespace ravelo {
+
+namespace {
+
+constexpr QLatin1StringView concealedType("org.nspasteboard.ConcealedType");
+constexpr QLatin1StringView passwordHint("x-kde-passwordManagerHint");
+
+bool isUnasked(const PasteboardSnapshot& snapshot, QLatin1StringView type) {
+    return snapshot.types.contains(type) && !snapshot.answers.contains(type);
+}
+
+} // namespace
+
+QString nextCaptureType(const PasteboardSnapshot& snapshot) {
+    if (isUnasked(snapshot, passwordHint)) {
+        return passwordHint;
+    }
+    if (isConcealed(snapshot)) {
+        return {};
+    }
+    if (isUnasked(snapshot, plainTextType)) {
+        return plainTextType;
+    }
+    return capturedText(snapshot).isEmpty() ? nextImageType(snapshot) : QString();
+}
+
+bool isConcealed(const PasteboardSnapshot& snapshot) {
+    if (snapshot.types.contains(concealedType)) {
+        return true;
+    }
+    if (!snapshot.types.contains(passwordHint)) {
+        return false;
+    }
+    const auto hint = snapshot.answers.value(passwordHint);
+    return !hint || *hint == "secret";
+}
+
+QString capturedText(const PasteboardSnapshot& snapshot) {
+    return QString::fromUtf8(snapshot.answers.value(plainTextType).value_or(QByteArray()))
+        .trimmed();
+}
+
+} // namespace ravelo
