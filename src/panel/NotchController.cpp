@@ -179,7 +179,8 @@ void NotchController::positionExpanded() {
 }
 
 void NotchController::placeExpanded(const Screen& screen) {
-    const QSizeF size = expandedSize(settings_.panelWidth(), Shelf::empty);
+    const Shelf shelf = store_.shelfStacks().isEmpty() ? Shelf::empty : Shelf::holdsFiles;
+    const QSizeF size = expandedSize(settings_.panelWidth(), shelf);
     setFrame(screen, size, panelOutline(size));
 }
 

@@ -76,6 +76,10 @@ const QList<Snippet>& Store::snippets() const {
     return data_.snippets;
 }
 
+const QList<QStringList>& Store::shelfStacks() const {
+    return data_.shelfStacks;
+}
+
 QString Store::note() const {
     return data_.note;
 }

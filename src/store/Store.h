@@ -47,6 +47,8 @@ public:
 
     [[nodiscard]] const QList<ClipItem>& clips() const;
     [[nodiscard]] const QList<Snippet>& snippets() const;
+    /// The parked files, oldest stack first, as absolute paths.
+    [[nodiscard]] const QList<QStringList>& shelfStacks() const;
     [[nodiscard]] QString note() const;
     void setNote(const QString& note);
 

@@ -77,6 +77,12 @@ public:
         listeners_.notify();
     }
 
+    /// The source of the newest drag answers after all.
+    void answer(bool files) {
+        files_ = files;
+        listeners_.notify();
+    }
+
 private:
     qint64 changeCount_ = 3;
     std::optional<bool> files_;

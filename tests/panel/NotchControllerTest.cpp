@@ -1,0 +1,180 @@
+#include "panel/PanelWorld.h"
+
+#include <gtest/gtest.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+struct PlaceCase {
+    const char* name;
+    QPointF pointer;
+    bool opens;
+};
+
+// The middle of the screen is at x 720.
+class HotZone : public testing::TestWithParam<PlaceCase> {};
+
+TEST_P(HotZone, opensOnTheFirstTickInside) {
+    PanelWorld world;
+    const auto [name, place, opens] = GetParam();
+    world.moveTo(place.x(), place.y());
+    EXPECT_EQ(world.controller.isOpen(), opens);
+    EXPECT_EQ(world.window.size, opens ? QSizeF(927, 560) : QSizeF(200, 12));
+}
+
+INSTANTIATE_TEST_SUITE_P(Bounds, HotZone,
+                         testing::Values(PlaceCase{"middle", {720, 0}, true},
+                                         PlaceCase{"lowestRow", {720, 14}, true},
+                                         PlaceCase{"below", {720, 14.5}, false},
+                                         PlaceCase{"leftmost", {560, 3}, true},
+                                         PlaceCase{"rightmost", {880, 3}, true},
+                                         PlaceCase{"leftOfIt", {559.5, 3}, false},
+                                         PlaceCase{"rightOfIt", {880.5, 3}, false}),
+                         [](const auto& row) { return row.param.name; });
+
+struct DragCase {
+    const char* name;
+    QPointF pointer;
+    std::optional<bool> files;
+    bool opens;
+};
+
+class FileDrag : public testing::TestWithParam<DragCase> {};
+
+TEST_P(FileDrag, opensFromItsLargerZone) {
+    PanelWorld world;
+    const auto [name, place, files, opens] = GetParam();
+    world.beginDrag(files);
+    world.moveTo(place.x(), place.y());
+    EXPECT_EQ(world.controller.isOpen(), opens);
+}
+
+INSTANTIATE_TEST_SUITE_P(Bounds, FileDrag,
+                         testing::Values(DragCase{"lowestRow", {720, 140}, true, true},
+                                         DragCase{"below", {720, 140.5}, true, false},
+                                         DragCase{"leftmost", {420, 100}, true, true},
+                                         DragCase{"leftOfIt", {419.5, 100}, true, false},
+                                         DragCase{"textDrag", {720, 100}, false, false},
+                                         DragCase{"sourceSilent", {720, 100}, std::nullopt, false},
+                                         DragCase{"textDragInTheHotZone", {720, 5}, false, true}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(NotchController, aDragThatBeganWithTheButtonsUpDoesNotOpen) {
+    PanelWorld world;
+    world.drags.begin(true);
+    world.scheduler.advance(tick);
+    world.pointer.press();
+    world.moveTo(720, 100);
+    EXPECT_FALSE(world.controller.isOpen()) << "the count was seen while no button was down";
+}
+
+TEST(NotchController, aSourceThatAnswersLateOpensUnderAPointerAtRest) {
+    PanelWorld world;
+    world.beginDrag(std::nullopt);
+    world.moveTo(720, 100);
+    world.scheduler.advance(Seconds(5));
+    ASSERT_FALSE(world.controller.isOpen());
+    world.drags.answer(true);
+    world.scheduler.advance(tick);
+    EXPECT_TRUE(world.controller.isOpen());
+}
+
+TEST(NotchController, closesOnAPressElsewhereOnly) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    world.moveTo(500, 300);
+    world.pointer.press();
+    EXPECT_TRUE(world.controller.isOpen()) << "a press on the panel";
+    world.pointer.release();
+    world.moveTo(100, 800);
+    world.scheduler.advance(Seconds(10));
+    EXPECT_TRUE(world.controller.isOpen()) << "each tick outside puts the delayed close off";
+    world.pointer.press();
+    EXPECT_FALSE(world.controller.isOpen());
+    EXPECT_EQ(world.controller.frame(), QRectF(620, 0, 200, 12));
+}
+
+TEST(NotchController, theDelayedCloseFiresWhereTicksStopComing) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    world.moveTo(100, 800);
+    const auto screens = world.screens.screens;
+    world.screens.change({});
+    world.scheduler.advance(Seconds(0.34));
+    EXPECT_TRUE(world.controller.isOpen());
+    world.scheduler.advance(Seconds(0.03));
+    EXPECT_FALSE(world.controller.isOpen()) << "0.35 s after the last tick that saw a screen";
+    world.screens.change(screens);
+    EXPECT_EQ(world.window.size, QSizeF(200, 12));
+}
+
+TEST(NotchController, followsScreensWhileCollapsedAndWhileOpen) {
+    PanelWorld world;
+    const Screen wide{u"wide"_s, QRectF(0, 0, 1920, 1080), QRectF(0, 0, 1920, 1080), {}, {}};
+    world.screens.change({wide});
+    EXPECT_EQ(world.controller.frame(), QRectF(860, 0, 200, 12));
+    world.moveTo(960, 5);
+    ASSERT_TRUE(world.controller.isOpen());
+    const Screen narrow{u"narrow"_s, QRectF(0, 0, 1000, 800), QRectF(0, 0, 1000, 800), {}, {}};
+    world.screens.change({narrow});
+    EXPECT_TRUE(world.controller.isOpen());
+    EXPECT_EQ(world.controller.frame(), QRectF(36.5, 0, 927, 560));
+    EXPECT_EQ(world.window.screen, u"narrow"_s);
+}
+
+TEST(NotchController, aNewWidthCountsFromTheNextOpening) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    world.settings.setPanelWidth(700);
+    world.scheduler.advance(Seconds(1));
+    EXPECT_EQ(world.window.size, QSizeF(927, 560));
+    world.controller.collapse();
+    world.controller.positionExpanded();
+    EXPECT_EQ(world.window.size, QSizeF(700, 560));
+}
+
+TEST(NotchController, dismissedUnderThePointerItWaitsUntilThePointerHasLeft) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    world.controller.toggle();
+    world.moveTo(730, 6);
+    world.scheduler.advance(Seconds(60));
+    EXPECT_FALSE(world.controller.isOpen()) << "the pointer never left the zone";
+    world.moveTo(720, 300);
+    world.moveTo(720, 5);
+    EXPECT_TRUE(world.controller.isOpen());
+
+    world.controller.dismiss();
+    world.pointer.press();
+    world.scheduler.advance(tick);
+    world.drags.begin(true);
+    world.scheduler.advance(tick);
+    EXPECT_TRUE(world.controller.isOpen()) << "a file drag always opens";
+}
+
+TEST(NotchController, whereThePointersPlaceIsUnknownTheWindowsOwnHoverOpens) {
+    PanelWorld world;
+    world.pointer.location = std::nullopt;
+    world.scheduler.advance(Seconds(1));
+    ASSERT_FALSE(world.controller.isOpen());
+    world.controller.setHovered(true);
+    world.scheduler.advance(tick);
+    EXPECT_TRUE(world.controller.isOpen());
+    EXPECT_EQ(world.window.screen, u"one"_s) << "the main screen";
+}
+
+TEST(NotchController, takesTheKeyboardForTypingOnlyAndGivesItBack) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    EXPECT_FALSE(world.window.focused) << "opening takes no focus";
+    world.controller.typeFocus();
+    EXPECT_TRUE(world.window.focused);
+    world.controller.collapse();
+    EXPECT_FALSE(world.window.focused);
+}
+
+} // namespace
+} // namespace ravelo
