@@ -7,14 +7,10 @@
 // Made by the build from the QML module. Named here, or the linker would leave them out.
 void qml_register_types_Ravelo();
 
-namespace {
-
-void initResources() {
+static void initModule() { // In no namespace: the macro declares a function where it stands.
     qml_register_types_Ravelo();
     Q_INIT_RESOURCE(qmlcache_ui);
 }
-
-} // namespace
 
 namespace ravelo {
 
@@ -33,7 +29,7 @@ QWindow* chooseRenderer() {
 } // namespace
 
 PanelView::PanelView() : view_(chooseRenderer()) {
-    initResources();
+    initModule();
     view_.setColor(Qt::transparent);
     view_.setResizeMode(QQuickView::SizeRootObjectToView);
     view_.engine()->addImportPath(u"qrc:/"_s);
@@ -43,11 +39,12 @@ PanelView::~PanelView() = default;
 
 void PanelView::load(PanelHost::Subjects subjects, const QLocale& locale) {
     host_ = std::make_unique<PanelHost>(subjects, locale);
-    const auto resized = [this] { host_->windowResized(view_.size()); };
+    const auto resized = [this] {
+        host_->windowResized(view_.size());
+    };
     QObject::connect(&view_, &QWindow::widthChanged, host_.get(), resized);
     QObject::connect(&view_, &QWindow::heightChanged, host_.get(), resized);
-    view_.engine()->addImageProvider(u"thumb"_s,
-                                     new ThumbnailProvider(subjects.store.clipsDir()));
+    view_.engine()->addImageProvider(u"thumb"_s, new ThumbnailProvider(subjects.store.clipsDir()));
     view_.setInitialProperties({{u"host"_s, QVariant::fromValue(host_.get())}});
     view_.setSource(QUrl(u"qrc:/Ravelo/qml/panel/Panel.qml"_s));
 }

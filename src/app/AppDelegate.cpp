@@ -1,0 +1,116 @@
+#include "app/AppDelegate.h"
+
+#include "clipboard/ClipboardManager.h"
+#include "panel/NotchController.h"
+#include "platform/DisplayServer.h"
+#include "platform/freedesktop/AutostartEntry.h"
+#include "platform/system/PreferenceFile.h"
+#include "platform/system/SystemScheduler.h"
+#include "platform/system/TerminationSignals.h"
+#include "platform/system/WorkerThread.h"
+#include "settings/AppSettings.h"
+#include "store/Store.h"
+#include "ui/PanelView.h"
+
+#include <QGuiApplication>
+#include <QLocale>
+#include <QStandardPaths>
+
+#include <cstdlib>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString dataFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Ravelo"_s;
+}
+
+QString configFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+}
+
+// Qt ends the process by exit() when the display server goes, which is how many sessions end.
+AppDelegate* flushedAtExit = nullptr;
+
+void flushAtExit() {
+    if (flushedAtExit) {
+        flushedAtExit->flush();
+    }
+}
+
+} // namespace
+
+AppDelegate::AppDelegate(DisplayServer& display)
+    : display_(display),
+      scheduler_(std::make_unique<SystemScheduler>()),
+      worker_(std::make_unique<WorkerThread>()),
+      preferences_(std::make_unique<PreferenceFile>(configFolder() + u"/ravelo/preferences.json"_s,
+                                                    *worker_)),
+      loginItem_(std::make_unique<AutostartEntry>(configFolder() + u"/autostart"_s,
+                                                  QCoreApplication::applicationFilePath())) {}
+
+AppDelegate::~AppDelegate() {
+    flush();
+    flushedAtExit = nullptr;
+}
+
+void AppDelegate::applicationDidFinishLaunching() {
+    store_ = std::make_unique<Store>(
+        dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_, display_.pasteboard()});
+    flushedAtExit = this;
+    std::atexit(flushAtExit);
+
+    settings_ = std::make_unique<AppSettings>(*preferences_, *loginItem_);
+    settings_->setupLoginItemDefaultIfNeeded();
+
+    clipboard_ = std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_);
+    clipboard_->start();
+
+    view_ = std::make_unique<PanelView>();
+    window_ = display_.panelWindow(view_->window());
+    notch_ = std::make_unique<NotchController>(
+        *store_, *clipboard_, *settings_,
+        NotchController::Services{*scheduler_, display_.screens(), display_.pointer(),
+                                  display_.drags(), *window_});
+    view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_}, QLocale());
+    wire();
+}
+
+void AppDelegate::wire() {
+    settings_->onLayoutChange = [this] {
+        if (!notch_->isOpen()) {
+            notch_->positionCollapsed();
+        }
+    };
+    const auto followCompositor = [this] {
+        view_->host().setBackdrop(window_->isTranslucent() ? Backdrop::Translucent
+                                                           : Backdrop::Opaque);
+    };
+    followCompositor();
+    compositor_ = window_->onTranslucencyChange(followCompositor);
+    termination_ = onTerminationSignal([] { QCoreApplication::quit(); });
+    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, notch_.get(),
+                     [this] { flush(); });
+    QObject::connect(qGuiApp, &QCoreApplication::aboutToQuit, notch_.get(), [this] { flush(); });
+}
+
+void AppDelegate::perform(const QString& action) {
+    if (action == "quit"_L1) {
+        QCoreApplication::quit();
+    } else if (action == "toggle"_L1) {
+        notch_->toggle();
+    } else {
+        notch_->positionExpanded();
+    }
+}
+
+void AppDelegate::flush() {
+    if (store_) {
+        store_->flush();
+    }
+}
+
+} // namespace ravelo

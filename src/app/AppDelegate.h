@@ -1,0 +1,59 @@
+#pragma once
+
+#include "base/Handle.h"
+
+#include <QString>
+
+#include <memory>
+
+namespace ravelo {
+
+class AppSettings;
+class ClipboardManager;
+class DisplayServer;
+class LoginItem;
+class NotchController;
+class PanelView;
+class PanelWindow;
+class Preferences;
+class Scheduler;
+class Store;
+class Worker;
+
+/// Makes the parts of the program in their order and wires them. Everything lives until the
+/// process ends. Main thread only.
+class AppDelegate {
+public:
+    explicit AppDelegate(DisplayServer& display);
+    ~AppDelegate();
+    AppDelegate(const AppDelegate&) = delete;
+    AppDelegate& operator=(const AppDelegate&) = delete;
+
+    void applicationDidFinishLaunching();
+
+    /// What another start of the program asked for: "toggle", "quit", or to be shown.
+    void perform(const QString& action);
+
+    /// Brings to disk what is not there yet and waits for it. Safe to call again, and from atexit.
+    void flush();
+
+private:
+    void wire();
+
+    DisplayServer& display_;
+    std::unique_ptr<Scheduler> scheduler_;
+    std::unique_ptr<Worker> worker_;
+    std::unique_ptr<Preferences> preferences_;
+    std::unique_ptr<LoginItem> loginItem_;
+
+    std::unique_ptr<Store> store_;
+    std::unique_ptr<AppSettings> settings_;
+    std::unique_ptr<ClipboardManager> clipboard_;
+    std::unique_ptr<PanelView> view_;
+    std::unique_ptr<PanelWindow> window_;
+    std::unique_ptr<NotchController> notch_;
+    Handle compositor_;
+    Handle termination_;
+};
+
+} // namespace ravelo

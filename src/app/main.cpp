@@ -1,0 +1,94 @@
+#include "app/AppDelegate.h"
+#include "app/CommandLine.h"
+#include "platform/freedesktop/SingleInstance.h"
+#include "platform/x11/PrepareApplication.h"
+#include "platform/x11/X11DisplayServer.h"
+
+#include <QGuiApplication>
+
+#include <cstdio>
+
+namespace {
+
+using namespace ravelo;
+using namespace Qt::StringLiterals;
+
+void say(std::FILE* where, const QString& text) {
+    std::fputs(qUtf8Printable(text), where);
+}
+
+QString actionOf(Command command) {
+    switch (command) {
+    case Command::toggle:
+        return u"toggle"_s;
+    case Command::quit:
+        return u"quit"_s;
+    default:
+        return {};
+    }
+}
+
+/// Hands the command to the program that is running already, if there is one.
+bool isDoneElsewhere(Command command, int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    return SingleInstance::send(actionOf(command));
+}
+
+int run(Command command, int argc, char** argv) {
+    x11::prepareApplication();
+    QGuiApplication application(argc, argv);
+    QGuiApplication::setApplicationName(u"ravelo"_s);
+    QGuiApplication::setApplicationDisplayName(u"Ravelo"_s);
+    QGuiApplication::setQuitOnLastWindowClosed(false);
+
+    const auto instance = SingleInstance::claim();
+    if (!instance) {
+        return SingleInstance::send(actionOf(command)) ? 0 : 1;
+    }
+    auto display = x11::X11DisplayServer::create();
+    if (!display) {
+        say(stderr, u"ravelo: "_s + display.error().message + u"\n"_s);
+        return 1;
+    }
+    AppDelegate delegate(**display);
+    delegate.applicationDidFinishLaunching();
+    instance->onAction = [&](const QString& action) {
+        delegate.perform(action);
+    };
+    if (command == Command::toggle) {
+        delegate.perform(actionOf(command));
+    }
+    return QGuiApplication::exec();
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    QStringList arguments;
+    for (int i = 1; i < argc; ++i) {
+        arguments.append(QString::fromLocal8Bit(argv[i]));
+    }
+    const auto command = parseCommandLine(arguments);
+    if (!command) {
+        say(stderr, u"ravelo: "_s + command.error().message + u"\nTry: ravelo --help\n"_s);
+        return 2;
+    }
+    switch (*command) {
+    case Command::showHelp:
+        say(stdout, helpText());
+        return 0;
+    case Command::showVersion:
+        say(stdout, versionText());
+        return 0;
+    default:
+        break;
+    }
+    if (isDoneElsewhere(*command, argc, argv)) {
+        return 0;
+    }
+    if (*command == Command::quit) {
+        say(stderr, u"ravelo: not running\n"_s);
+        return 1;
+    }
+    return run(*command, argc, argv);
+}
