@@ -1,4 +1,4 @@
-#include "panel/PanelWorld.h"
+#include "PanelWorld.h"
 
 #include <gtest/gtest.h>
 
