@@ -39,12 +39,11 @@ PanelView::~PanelView() = default;
 
 void PanelView::load(PanelHost::Subjects subjects, const QLocale& locale) {
     host_ = std::make_unique<PanelHost>(subjects, locale);
-    const auto resized = [this] {
-        host_->windowResized(view_.size());
-    };
+    const auto resized = [this] { host_->windowResized(view_.size()); };
     QObject::connect(&view_, &QWindow::widthChanged, host_.get(), resized);
     QObject::connect(&view_, &QWindow::heightChanged, host_.get(), resized);
-    view_.engine()->addImageProvider(u"thumb"_s, new ThumbnailProvider(subjects.store.clipsDir()));
+    view_.engine()->addImageProvider(u"thumb"_s,
+                                     new ThumbnailProvider(subjects.store.clipsDir()));
     view_.setInitialProperties({{u"host"_s, QVariant::fromValue(host_.get())}});
     view_.setSource(QUrl(u"qrc:/Ravelo/qml/panel/Panel.qml"_s));
 }

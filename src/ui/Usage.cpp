@@ -9,11 +9,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-UsageLine::Band band(double percent) {
+UsageBand::Kind band(double percent) {
     if (percent < 60) {
-        return UsageLine::Low;
+        return UsageBand::Low;
     }
-    return percent < 85 ? UsageLine::High : UsageLine::Critical;
+    return percent < 85 ? UsageBand::High : UsageBand::Critical;
 }
 
 QString timeLeft(const std::optional<Date>& resets, Date now) {
@@ -37,7 +37,7 @@ QString timeLeft(const std::optional<Date>& resets, Date now) {
 
 UsageLine usageLine(const std::optional<UsageWindow>& window, Date now) {
     if (!window) {
-        return {false, u"\u2014"_s, u"sem dados"_s, 0, UsageLine::Low};
+        return {false, u"\u2014"_s, u"sem dados"_s, 0, UsageBand::Low};
     }
     return {true, QString::number(std::llround(window->percent)) + u'%',
             timeLeft(window->resets, now), std::clamp(window->percent / 100, 0.0, 1.0),

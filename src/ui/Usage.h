@@ -17,6 +17,13 @@ struct UsageWindow {
     friend bool operator==(const UsageWindow&, const UsageWindow&) = default;
 };
 
+namespace UsageBand {
+Q_NAMESPACE
+QML_ELEMENT
+enum Kind { Low, High, Critical };
+Q_ENUM_NS(Kind)
+} // namespace UsageBand
+
 /// How one window of the plan is shown.
 class UsageLine {
     Q_GADGET
@@ -25,17 +32,17 @@ class UsageLine {
     Q_PROPERTY(QString percent MEMBER percent)
     Q_PROPERTY(QString reset MEMBER reset)
     Q_PROPERTY(double fraction MEMBER fraction)
-    Q_PROPERTY(Band band MEMBER band)
+    /// A UsageBand; as a number, for QML cannot take an enumeration from a value.
+    Q_PROPERTY(int band READ bandNumber)
 
 public:
-    enum Band { Low, High, Critical };
-    Q_ENUM(Band)
-
     bool known = false;
     QString percent;     ///< "42%"
     QString reset;       ///< When it starts anew.
     double fraction = 0; ///< Of the bar that is filled, 0 to 1.
-    Band band = Low;
+    UsageBand::Kind band = UsageBand::Low;
+
+    [[nodiscard]] int bandNumber() const { return band; }
 
     friend bool operator==(const UsageLine&, const UsageLine&) = default;
 };

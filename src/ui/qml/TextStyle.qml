@@ -1,7 +1,6 @@
 import QtQuick
-import Ravelo
 
-/// A type style: a font in a line of a fixed height.
+/// A type style of Inter, the only family: a font in a line of a fixed height.
 QtObject {
     id: style
 
@@ -11,7 +10,7 @@ QtObject {
     property real tracking: 0
 
     readonly property font font: Qt.font({
-        family: Theme.family,
+        family: "Inter",
         pixelSize: size,
         weight: weight,
         letterSpacing: tracking,

@@ -63,8 +63,6 @@ QtObject {
         return Qt.rgba(base.r, base.g, base.b, alpha);
     }
 
-    // Inter, no other family.
-    readonly property string family: "Inter"
     readonly property string iconFamily: "Material Design Icons"
 
     readonly property TextStyle note: TextStyle { size: 16; line: 25; tracking: -0.1 }

@@ -66,7 +66,8 @@ Item {
 
             anchors.fill: parent
             asynchronous: true
-            sourceSize: Qt.size(28, 28)
+            sourceSize.width: 28
+            sourceSize.height: 28
             source: card.thumbnail
         }
     }

@@ -5,8 +5,8 @@ import Ravelo
 Surface {
     id: chip
 
-    property alias symbol: glyph.symbol
-    property alias title: label.text
+    property string symbol
+    property string title
 
     signal clicked
 
@@ -22,6 +22,7 @@ Surface {
         x: 10
         anchors.verticalCenter: parent.verticalCenter
         size: 15
+        symbol: chip.symbol
         color: Theme.text3
     }
 
@@ -30,6 +31,7 @@ Surface {
         x: 31
         y: 6
         style: Theme.chip
+        text: chip.title
         color: chip.hovered ? Theme.text1 : Theme.text2
     }
 

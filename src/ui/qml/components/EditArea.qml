@@ -14,14 +14,13 @@ TextEdit {
     selectionColor: Theme.withAlpha(Theme.accent, 0.45)
     selectedTextColor: Theme.text1
     selectByMouse: true
-    topPadding: spacing.above
+    // The fixed line height puts the base line four fifths down, the style elsewhere.
+    topPadding: Theme.note.ascent - Theme.note.line * 0.8
     cursorDelegate: Caret {}
 
     LineSpacing {
-        id: spacing
         document: area.textDocument
         line: Theme.note.line
-        ascent: Theme.note.ascent
     }
 
     Keys.onPressed: event => {

@@ -3,6 +3,8 @@ import Ravelo
 
 /// A box whose fill follows the pointer.
 Box {
+    id: surface
+
     property bool hovered: false
     property bool pressed: false
     property color rest: Theme.surface3
@@ -12,6 +14,6 @@ Box {
     color: pressed ? press : hovered ? hover : rest
 
     Behavior on color {
-        ColorAnimation { duration: pressed ? Theme.pressing : Theme.hovering }
+        ColorAnimation { duration: surface.pressed ? Theme.pressing : Theme.hovering }
     }
 }

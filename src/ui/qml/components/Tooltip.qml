@@ -19,7 +19,7 @@ Item {
     Loader {
         active: tooltip.hovered && !delay.running
         sourceComponent: Box {
-            parent: tooltip.Window.contentItem
+            parent: tooltip.Window.contentItem // qmllint disable unqualified
             z: 1000
             width: label.implicitWidth + 20
             height: 28
@@ -50,7 +50,7 @@ Item {
                 x: 10
                 y: 6
                 style: Theme.small
-                text: tooltip.text
+                text: tooltip.text // qmllint disable unqualified
             }
         }
     }

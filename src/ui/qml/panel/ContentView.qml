@@ -18,15 +18,15 @@ FocusScope {
     function choose(index: int) {
         if (index !== tab) {
             tab = index;
+            tabChange.restart();
             host.settings.lastTab = tabs[index].title;
         }
     }
 
     focus: true
     Keys.onEscapePressed: {
-        const clipboard = body.item as ClipboardTab;
-        if (clipboard === null || !clipboard.clearSearch()) {
-            host.controller.collapse();
+        if (!clipboard.visible || !clipboard.clearSearch()) {
+            host.controller.dismiss();
         }
     }
 
@@ -56,14 +56,31 @@ FocusScope {
         onChosen: index => content.choose(index)
     }
 
-    Loader {
+    // Both are there all the time: what is searched for stays while the note is looked at.
+    FocusScope {
         id: body
         x: Theme.insetSide
         y: Theme.bodyTop
         width: parent.width - 2 * Theme.insetSide
         height: parent.height - y - Theme.insetBottom
         focus: true
-        sourceComponent: content.tab === 0 ? clipboardTab : notesTab
+
+        ClipboardTab {
+            id: clipboard
+            anchors.fill: parent
+            visible: content.tab === 0
+            focus: visible
+            host: content.host
+            shown: content.shown
+            question: clearQuestion
+        }
+
+        NotesTab {
+            anchors.fill: parent
+            visible: content.tab === 1
+            focus: visible
+            host: content.host
+        }
 
         NumberAnimation on opacity {
             id: tabChange
@@ -74,33 +91,10 @@ FocusScope {
             easing.type: Easing.BezierSpline
             easing.bezierCurve: Theme.spring
         }
-        onSourceComponentChanged: {
-            if (content.shown) {
-                tabChange.restart();
-            }
-        }
-    }
-
-    Component {
-        id: clipboardTab
-
-        ClipboardTab {
-            host: content.host
-            shown: content.shown
-            question: question
-        }
-    }
-
-    Component {
-        id: notesTab
-
-        NotesTab {
-            host: content.host
-        }
     }
 
     Question {
-        id: question
+        id: clearQuestion
         text: "Clear clipboard history?"
         onAccepted: content.host.store.clearClips()
         onClosed: body.forceActiveFocus()

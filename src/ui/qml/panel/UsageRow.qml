@@ -13,11 +13,11 @@ Item {
 
     implicitHeight: 27
 
-    function bandColor(): color {
+    readonly property color bandColor: {
         switch (usage.band) {
-        case UsageLine.Critical:
+        case UsageBand.Critical:
             return Theme.red;
-        case UsageLine.High:
+        case UsageBand.High:
             return Theme.yellow;
         default:
             return Theme.green;
@@ -64,8 +64,8 @@ Item {
             width: Math.max(5, row.usage.fraction * parent.width)
             height: 5
             radius: 2.5
-            color: Theme.withAlpha(row.bandColor(), 0.7)
-            endColor: row.bandColor()
+            color: Theme.withAlpha(row.bandColor, 0.7)
+            endColor: row.bandColor
 
             Behavior on width {
                 enabled: row.visible

@@ -1,0 +1,34 @@
+import QtQuick
+import Ravelo
+
+/// Where the content of the open panel is made, kept hidden and shown.
+FocusScope {
+    id: slot
+
+    required property PanelHost host
+
+    readonly property bool open: host.controller.isOpen
+
+    // Its size does not depend on the window's, which is small until the panel opens.
+    width: host.contentSize.width
+    height: host.contentSize.height
+    visible: open
+
+    Loader {
+        anchors.fill: parent
+        active: slot.host.hasContent
+        focus: true
+        sourceComponent: ContentView {
+            host: slot.host // qmllint disable unqualified
+        }
+    }
+
+    NumberAnimation {
+        target: slot
+        property: "opacity"
+        running: slot.open
+        from: 0
+        to: 1
+        duration: Theme.opening
+    }
+}

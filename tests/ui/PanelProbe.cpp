@@ -1,0 +1,272 @@
+// Draws the panel with sample data, for comparing it with the drawings of its look.
+//
+//   panel_probe [--scene NAME] [--scale 1|2] [--png FILE] [--behind FILE] [--time N]
+//
+// writes the picture and prints the rectangles of all named elements as JSON, in logical pixels of
+// the window. --behind puts a picture of a screen below; --time prints what N openings cost.
+
+#include "UiWorld.h"
+#include "ui/PanelView.h"
+
+#include <QCommandLineParser>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMouseEvent>
+#include <QPainter>
+#include <QPainterPath>
+#include <QQuickItem>
+#include <QThread>
+
+#include <algorithm>
+#include <cstdio>
+#include <vector>
+
+using namespace ravelo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Seconds minute(60);
+constexpr Seconds hour(3600);
+constexpr Seconds day(86400);
+
+QImage room() {
+    QImage image(56, 56, QImage::Format_RGB32);
+    image.fill(QColor(u"#e9d9c6"_s));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const auto block = [&painter](const QRectF& rect, double radius, const QString& color) {
+        painter.setBrush(QColor(color));
+        painter.drawRoundedRect(rect, radius, radius);
+    };
+    block({0, 38, 56, 18}, 0, u"#b98f6b"_s);
+    block({33, 8, 15, 16}, 1, u"#a9c9d6"_s);
+    block({6, 28, 30, 13}, 4, u"#54757a"_s);
+    block({9, 23, 24, 9}, 4, u"#668a8e"_s);
+    block({43, 24, 1.6, 18}, 0, u"#4b3a2c"_s);
+    painter.setBrush(QColor(u"#f6c96b"_s));
+    painter.drawPolygon(QPolygonF({{38, 26}, {41, 18}, {47, 18}, {50, 26}}));
+    return image;
+}
+
+QImage plan() {
+    QImage image(56, 56, QImage::Format_RGB32);
+    image.fill(QColor(u"#23406b"_s));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(u"#d7e6ff"_s), 1.6));
+    painter.drawRect(QRectF(9, 9, 38, 38));
+    painter.drawLines(QList<QLineF>{
+        {9, 27, 25, 27}, {31, 27, 47, 27}, {27, 47, 27, 35}, {27, 9, 27, 19}});
+    return image;
+}
+
+void fillClips(UiWorld& world) {
+    world.addText(u"https://larkspur.example/booking"_s, day * 2);
+    world.addText(u"Larkspur Interiors — 48 Alder Lane, studio 3, ring twice"_s, day * 22);
+    const QUuid booking = world.store.clips()[1].id;
+    const QUuid address = world.store.clips()[0].id;
+    world.addText(u"https://maps.example/route/48-alder-lane"_s, hour * 3);
+    world.addText(u"Alcove measured twice: 1184 × 2310 mm, skirting 90 mm, socket on the left"_s,
+                  hour * 2);
+    world.addText(u"ren@larkspur.example"_s, hour);
+    world.addImage(plan(), minute * 41);
+    world.addText(u"git rebase --onto main feature/estimates~3 feature/estimates"_s, minute * 26);
+    world.addText(u"Oak veneer panels, 18 mm, 2440 × 1220 — 6 sheets, matt lacquer"_s, minute * 14);
+    world.addText(u"https://docs.larkspur.example/estimates/2026-042?view=print"_s, minute * 5);
+    world.addImage(room(), minute * 2);
+    world.addText(u"Deposit received, thank you! Your date is confirmed for Thursday at 9:30."_s,
+                  Seconds(12));
+    world.store.togglePin(booking);
+    world.store.togglePin(address);
+}
+
+const auto note = u"Tuesday, site visit at Alder Lane\n"
+                  "– alcove 1184 × 2310, check the skirting behind the radiator\n"
+                  "– client prefers the warmer oak, send two samples by Friday\n"
+                  "– ask the electrician about moving the left socket\n"
+                  "\n"
+                  "Estimate: 6 sheets veneer + lacquer, two days on site.\n"
+                  "Call the framer about the mirror before noon."_s;
+
+/// Lets the program run until nothing is loading or moving any more.
+void settle(int milliseconds = 700) {
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds) {
+        QCoreApplication::processEvents();
+        QThread::msleep(2);
+    }
+}
+
+QQuickItem* find(const QQuickItem* under, const QString& name) {
+    for (QQuickItem* child : under->childItems()) {
+        if (child->objectName() == name) {
+            return child;
+        }
+        if (QQuickItem* found = find(child, name)) {
+            return found;
+        }
+    }
+    return nullptr;
+}
+
+void send(QQuickWindow& window, QEvent::Type type, QPointF place) {
+    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
+    const auto buttons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
+    QMouseEvent event(type, place, window.mapToGlobal(place), button, buttons, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &event);
+}
+
+void click(QQuickWindow& window, QPointF place) {
+    send(window, QEvent::MouseMove, place);
+    send(window, QEvent::MouseButtonPress, place);
+    send(window, QEvent::MouseButtonRelease, place);
+}
+
+QPointF middle(QQuickWindow& window, const QString& name) {
+    const QQuickItem* item = find(window.contentItem(), name);
+    if (item == nullptr) {
+        qFatal("there is no element \"%s\"", qPrintable(name));
+    }
+    return item->mapToScene(item->boundingRect().center());
+}
+
+void collect(const QQuickItem* item, const QString& path, QJsonObject& into) {
+    for (const QQuickItem* child : item->childItems()) {
+        QString childPath = path;
+        if (!child->objectName().isEmpty() && child->isVisible()) {
+            childPath = path.isEmpty() ? child->objectName() : path + u'/' + child->objectName();
+            const QRectF rect = child->mapRectToScene(child->boundingRect());
+            into[childPath] =
+                QJsonArray{rect.x(), rect.y(), child->width(), child->height()};
+        }
+        collect(child, childPath, into);
+    }
+}
+
+void play(const QString& scene, UiWorld& world, PanelView& view) {
+    QQuickWindow& window = view.window();
+    if (scene == u"handle") {
+        return;
+    }
+    world.controller.positionExpanded();
+    window.resize(world.controller.frame().size().toSize());
+    settle();
+    if (scene == u"hover") {
+        send(window, QEvent::MouseMove, {643, 417});
+    } else if (scene == u"question") {
+        click(window, middle(window, u"trash"_s));
+    } else if (scene == u"toast") {
+        click(window, middle(window, u"card2"_s));
+        send(window, QEvent::MouseMove, {5, 300});
+    } else if (scene == u"search") {
+        click(window, middle(window, u"searchInput"_s));
+        find(window.contentItem(), u"searchInput"_s)->setProperty("text", u"larkspur"_s);
+    } else if (scene == u"notes") {
+        click(window, middle(window, u"noteInput"_s));
+        find(window.contentItem(), u"noteInput"_s)
+            ->setProperty("cursorPosition", static_cast<int>(note.size()));
+    }
+    settle();
+}
+
+/// What lies behind the open panel on a screen of 1440 x 900, with the panel on it.
+QImage onScreen(const QImage& panel, const QString& behind) {
+    if (behind.isEmpty()) {
+        return panel;
+    }
+    QImage screen(behind);
+    screen = screen.convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    const double scale = panel.devicePixelRatio();
+    QImage bare = panel;
+    bare.setDevicePixelRatio(1);
+    QPainter painter(&screen);
+    painter.drawImage(QPointF(std::floor((screen.width() - bare.width()) / 2.0 / scale) * scale, 0),
+                      bare);
+    return screen;
+}
+
+void timeOpenings(int count, UiWorld& world, PanelView& view) {
+    std::vector<double> calls;
+    std::vector<double> builds;
+    for (int i = 0; i < count; ++i) {
+        QElapsedTimer timer;
+        world.controller.positionCollapsed();
+        view.window().resize(200, 12);
+        settle(30);
+        timer.start();
+        world.scheduler.advance(Seconds(0.05));
+        builds.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+        settle(60);
+        timer.restart();
+        world.controller.positionExpanded();
+        view.window().resize(world.controller.frame().size().toSize());
+        view.window().grabWindow();
+        calls.push_back(static_cast<double>(timer.nsecsElapsed()) / 1e6);
+        settle(120);
+    }
+    const auto report = [](const char* what, std::vector<double> times) {
+        std::sort(times.begin(), times.end());
+        std::fprintf(stderr, "%s: median %.2f ms, p95 %.2f ms\n", what, times[times.size() / 2],
+                     times[times.size() * 95 / 100]);
+    };
+    report("building the hidden content", builds);
+    report("opening, with the first frame", calls);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    for (int i = 1; i + 1 < argc; ++i) {
+        if (QByteArrayView(argv[i]) == "--scale") {
+            qputenv("QT_SCALE_FACTOR", argv[i + 1]);
+        }
+    }
+    const QGuiApplication application(argc, argv);
+    QCommandLineParser options;
+    options.addOptions({{u"scene"_s, u"What to show."_s, u"name"_s, u"clipboard"_s},
+                        {u"scale"_s, u"Device pixels a logical one."_s, u"factor"_s, u"1"_s},
+                        {u"png"_s, u"Where to write the picture."_s, u"file"_s},
+                        {u"behind"_s, u"A picture of the screen below."_s, u"file"_s},
+                        {u"time"_s, u"How many openings to time."_s, u"count"_s}});
+    options.process(application);
+    const QString scene = options.value(u"scene"_s);
+
+    UiWorld world;
+    if (scene != u"empty") {
+        fillClips(world);
+    }
+    world.store.setNote(note);
+    world.settings.setLastTab(scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
+    PanelView view;
+    view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler},
+              QLocale(u"en_US"_s));
+    view.host().setBackdrop(Backdrop::Blurred);
+    const Date now = world.scheduler.now();
+    view.host().setUsage(UsageWindow{42, Date{now.sinceReference + 125.5 * 60}},
+                         UsageWindow{78, Date{now.sinceReference + 76.5 * 3600}});
+    view.window().resize(200, 12);
+    view.window().show();
+    world.scheduler.advance(Seconds(0.05));
+    if (options.isSet(u"time"_s)) {
+        timeOpenings(options.value(u"time"_s).toInt(), world, view);
+        return 0;
+    }
+    play(scene, world, view);
+
+    if (options.isSet(u"png"_s)) {
+        const QImage picture = onScreen(view.window().grabWindow(), options.value(u"behind"_s));
+        if (!picture.save(options.value(u"png"_s))) {
+            qFatal("cannot write %s", qPrintable(options.value(u"png"_s)));
+        }
+    }
+    QJsonObject rectangles;
+    collect(view.window().contentItem(), {}, rectangles);
+    std::puts(QJsonDocument(rectangles).toJson().constData());
+    return 0;
+}
