@@ -28,14 +28,14 @@ std::optional<PointerSight> look(Connection& connection) {
 }
 
 RawInput::RawInput(Connection& connection, Callbacks callbacks)
-    : connection_(connection), callbacks_(std::move(callbacks)) {
-    select(buttonEvents);
+    : connection_(connection), alarm_(connection), callbacks_(std::move(callbacks)) {
+    listenTo(Motion::ignored);
     xcb_flush(connection.get());
 }
 
 void RawInput::awaitActivity(std::optional<PointerSight> seen) {
     awaiting_ = true;
-    select(buttonEvents | XCB_INPUT_XI_EVENT_MASK_RAW_MOTION);
+    listenTo(Motion::heard);
     if (pressed_ || (seen && look(connection_) != seen)) {
         active();
     }
@@ -44,11 +44,15 @@ void RawInput::awaitActivity(std::optional<PointerSight> seen) {
 void RawInput::stopAwaiting() {
     if (awaiting_) {
         awaiting_ = false;
-        select(buttonEvents);
+        listenTo(Motion::ignored);
     }
 }
 
 void RawInput::handle(const xcb_generic_event_t& event) {
+    if (alarm_.isNotice(event)) {
+        active();
+        return;
+    }
     const auto& generic = reinterpret_cast<const xcb_ge_generic_event_t&>(event);
     if (event.response_type != XCB_GE_GENERIC || generic.extension != connection_.xinputOpcode()) {
         return;
@@ -77,13 +81,17 @@ void RawInput::active() {
     }
 }
 
-void RawInput::select(uint32_t events) {
+void RawInput::listenTo(Motion motion) {
     struct {
         xcb_input_event_mask_t head;
         uint32_t mask;
-    } selection = {{XCB_INPUT_DEVICE_ALL_MASTER, 1}, events};
+    } selection = {{XCB_INPUT_DEVICE_ALL_MASTER, 1}, buttonEvents};
 
+    if (motion == Motion::heard) {
+        selection.mask |= XCB_INPUT_XI_EVENT_MASK_RAW_MOTION;
+    }
     xcb_input_xi_select_events(connection_.get(), connection_.root(), 1, &selection.head);
+    alarm_.set(motion == Motion::heard ? IdleAlarm::Switch::on : IdleAlarm::Switch::off);
 }
 
 } // namespace ravelo::x11

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "platform/x11/IdleAlarm.h"
 #include "platform/x11/Listener.h"
 
 #include <QPoint>
@@ -23,7 +24,8 @@ struct PointerSight {
 
 /// Raw events of all pointers (X Input Extension 2), which come whoever holds a grab. Buttons are
 /// always listened to; motion, which would wake us hundreds of times a second, only up to the next
-/// one. Made before the listener starts, then on its thread but for `takePressed`.
+/// one, together with an alarm for a pointer that is moved by a program: that makes no raw event.
+/// Made before the listener starts, then on its thread but for `takePressed`.
 class RawInput final : public EventHandler {
 public:
     struct Callbacks {
@@ -44,10 +46,13 @@ public:
     void handle(const xcb_generic_event_t& event) override;
 
 private:
-    void select(uint32_t events);
+    enum class Motion { ignored, heard };
+
+    void listenTo(Motion motion);
     void active();
 
     Connection& connection_;
+    IdleAlarm alarm_;
     Callbacks callbacks_;
     std::atomic<bool> pressed_ = false;
     bool awaiting_ = false;
