@@ -19,9 +19,11 @@ namespace {
 
 constexpr auto pngType = "image/png"_L1;
 constexpr auto filesType = "text/uri-list"_L1;
-constexpr qint64 mostFileBytes = 64 * 1024 * 1024;
-constexpr qint64 mostPixels = 32 * 1024 * 1024; // Four bytes each; a screen of 8K just fits in.
-constexpr int quickCompression = 80; // zlib's level 1: half the time, hardly larger.
+constexpr qint64 mostFileBytes = qint64{64} * 1024 * 1024;
+/// Four bytes each, as Qt's own limit has it; a screen of 8K just fits in.
+constexpr qint64 mostPixels = qint64{32} * 1024 * 1024;
+/// zlib's level 1: half the time, hardly larger.
+constexpr int quickCompression = 80;
 
 /// The forms worth asking for, best first.
 QStringList candidates(const QStringList& offered) {
@@ -133,9 +135,9 @@ QByteArray pngImage(const PasteboardSnapshot& contents) {
         if (bytes.isEmpty()) {
             continue;
         }
-        const QByteArray png = type == pngType     ? bytes
-                               : type == filesType ? fileToPng(firstFile(bytes))
-                                                   : bytesToPng(bytes);
+        QByteArray png = type == pngType     ? bytes
+                         : type == filesType ? fileToPng(firstFile(bytes))
+                                             : bytesToPng(bytes);
         if (!png.isEmpty()) {
             return png;
         }

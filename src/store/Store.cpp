@@ -206,13 +206,15 @@ void Store::write() {
     if (!unsaved_) {
         return;
     }
-    services_.worker.run([path = fileURL(), data = *std::exchange(unsaved_, std::nullopt),
-                          file = std::exchange(file_, FileState::ours)] {
+    auto job = [path = fileURL(), data = std::move(*unsaved_),
+                file = std::exchange(file_, FileState::ours)] {
         if (file == FileState::unreadable) {
             setAsideUnreadable(path);
         }
         (void)writeFileAtomically(path, encodeStore(data));
-    });
+    };
+    unsaved_.reset();
+    services_.worker.run(std::move(job));
 }
 
 void Store::flush() {
