@@ -2,6 +2,8 @@
 
 #include <QGuiApplication>
 
+#include <ostream>
+
 namespace ravelo::x11 {
 namespace {
 
@@ -15,6 +17,8 @@ struct DragCase {
     QString behaviour;
     QStringList offers;
     QList<QUrl> files;
+
+    friend void PrintTo(const DragCase& tested, std::ostream* out) { *out << tested.name; }
 };
 
 class DragOfOther : public testing::TestWithParam<DragCase> {

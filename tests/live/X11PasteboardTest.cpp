@@ -5,6 +5,7 @@
 
 #include <xcb/xfixes.h>
 
+#include <ostream>
 #include <utility>
 
 namespace ravelo::x11 {
@@ -58,6 +59,8 @@ struct TextCase {
     const char* name;
     QStringList offers;
     std::optional<QByteArray> text;
+
+    friend void PrintTo(const TextCase& tested, std::ostream* out) { *out << tested.name; }
 };
 
 class TextOfOwner : public X11PasteboardTest, public testing::WithParamInterface<TextCase> {};
@@ -120,6 +123,8 @@ struct HostileCase {
     const char* behaviour;
     bool listsTypes;
     int size = 1 << 20;
+
+    friend void PrintTo(const HostileCase& tested, std::ostream* out) { *out << tested.behaviour; }
 };
 
 class HostileOwner : public X11PasteboardTest, public testing::WithParamInterface<HostileCase> {};

@@ -1,5 +1,7 @@
 #include "ListenerSession.h"
 
+#include <ostream>
+
 namespace ravelo::x11 {
 namespace {
 
@@ -39,6 +41,8 @@ struct ActionCase {
     QStringList action;
     QStringList told; ///< What comes of it: "press", "wake".
     bool buttonDown;  ///< At the next look, when it is long over.
+
+    friend void PrintTo(const ActionCase& tested, std::ostream* out) { *out << tested.name; }
 };
 
 class PointerAction : public X11PointerTest, public testing::WithParamInterface<ActionCase> {};
