@@ -5,7 +5,11 @@
 #include "platform/x11/X11Pasteboard.h"
 #include "platform/x11/X11Pointer.h"
 
+#include <QAbstractNativeEventFilter>
+#include <QGuiApplication>
+
 #include <gtest/gtest.h>
+#include <xcb/xfixes.h>
 
 #include <memory>
 
@@ -22,6 +26,37 @@ struct ListenerSession {
                             }};
 
     ListenerSession() { listener->start(); }
+};
+
+/// What Qt hears of selections that change their owner. The server refuses a copy of ours that is,
+/// by the newest time that Qt has heard of, older than another program's: a test that copies
+/// without a user's press has to wait for Qt to hear of the others' copies.
+class NoticesOfQt : public QAbstractNativeEventFilter {
+public:
+    explicit NoticesOfQt(const x11::Connection& connection)
+        : noticeType_(connection.xfixesFirstEvent()) {
+        qGuiApp->installNativeEventFilter(this);
+    }
+
+    [[nodiscard]] int count() const { return count_; }
+
+    /// The server's time of the newest.
+    [[nodiscard]] xcb_timestamp_t time() const { return time_; }
+
+    bool nativeEventFilter(const QByteArray& /*kind*/, void* message,
+                           qintptr* /*result*/) override {
+        const auto& notice = *static_cast<const xcb_xfixes_selection_notify_event_t*>(message);
+        if (notice.response_type == noticeType_) {
+            ++count_;
+            time_ = notice.timestamp;
+        }
+        return false;
+    }
+
+private:
+    uint8_t noticeType_;
+    int count_ = 0;
+    xcb_timestamp_t time_ = 0;
 };
 
 inline QString selectionOwner() {

@@ -13,8 +13,10 @@ public:
         for (const PasteboardEntry& form : forms) {
             arguments.append(live::offering(form.type, form.bytes));
         }
+        const int before = noticesOfQt_.count();
         owner_ = std::make_unique<live::Client>(live::selectionOwner(), arguments);
         EXPECT_FALSE(owner_->readLine().isEmpty());
+        EXPECT_TRUE(eventually([&] { return noticesOfQt_.count() != before; }));
     }
 
     [[nodiscard]] QByteArray pasted(QLatin1StringView type) override {
@@ -30,6 +32,7 @@ public:
 
 private:
     live::ListenerSession session_;
+    live::NoticesOfQt noticesOfQt_{*session_.connection};
     std::unique_ptr<live::Client> owner_;
 };
 

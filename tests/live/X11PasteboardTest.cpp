@@ -1,10 +1,5 @@
 #include "ListenerSession.h"
 
-#include <QAbstractNativeEventFilter>
-#include <QGuiApplication>
-
-#include <xcb/xfixes.h>
-
 #include <ostream>
 #include <utility>
 
@@ -223,49 +218,40 @@ TEST_F(X11PasteboardTest, servesAnImageByteForByte) {
 }
 
 /// Another client in this very program, so that nothing comes between its copy and ours.
-class NearbyClient : public QAbstractNativeEventFilter {
+class NearbyClient {
 public:
-    explicit NearbyClient(Connection& connection) : connection_(connection) {
-        qGuiApp->installNativeEventFilter(this);
-        window_ = xcb_generate_id(xcb());
-        xcb_create_window(xcb(), 0, window_, connection.root(), 0, 0, 1, 1, 0,
+    explicit NearbyClient(Connection& connection)
+        : connection_(connection),
+          noticesOfQt_(connection),
+          window_(xcb_generate_id(connection.get())) {
+        xcb_create_window(connection.get(), 0, window_, connection.root(), 0, 0, 1, 1, 0,
                           XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
     }
 
     void copy(const QByteArray& selection, xcb_timestamp_t time) {
-        xcb_set_selection_owner(xcb(), window_, connection_.atom(selection), time);
+        auto* xcb = connection_.get();
+        xcb_set_selection_owner(xcb, window_, connection_.atom(selection), time);
         const Owned<xcb_get_input_focus_reply_t> done(
-            xcb_get_input_focus_reply(xcb(), xcb_get_input_focus(xcb()), nullptr));
+            xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
     }
 
-    /// A server time that Qt has seen pass: the server refuses a copy of ours that is, by what Qt
-    /// knows of the time, older than the owner's.
+    /// A time of the server that Qt has seen pass.
     [[nodiscard]] xcb_timestamp_t pastTime() {
-        xcb_timestamp_t before = 0;
-        for (int round = 0; round < 2; ++round) {
-            before = std::exchange(noticeTime_, 0);
+        const auto hear = [this] {
+            const int before = noticesOfQt_.count();
             copy("PRIMARY", XCB_CURRENT_TIME);
-            EXPECT_TRUE(eventually([&] { return noticeTime_ != 0; })) << "Qt hears nothing";
-        }
-        return before;
-    }
-
-    bool nativeEventFilter(const QByteArray& /*kind*/, void* message,
-                           qintptr* /*result*/) override {
-        const auto& event = *static_cast<const xcb_generic_event_t*>(message);
-        if ((event.response_type & ~0x80) == connection_.xfixesFirstEvent()) {
-            noticeTime_ =
-                static_cast<const xcb_xfixes_selection_notify_event_t*>(message)->timestamp;
-        }
-        return false;
+            EXPECT_TRUE(eventually([&] { return noticesOfQt_.count() != before; }));
+            return noticesOfQt_.time();
+        };
+        const auto time = hear();
+        static_cast<void>(hear());
+        return time;
     }
 
 private:
-    [[nodiscard]] xcb_connection_t* xcb() const { return connection_.get(); }
-
     Connection& connection_;
-    xcb_window_t window_ = XCB_NONE;
-    xcb_timestamp_t noticeTime_ = 0;
+    live::NoticesOfQt noticesOfQt_;
+    xcb_window_t window_;
 };
 
 TEST_F(X11PasteboardTest, forgetsACopyFromJustBeforeItsOwnWrite) {

@@ -3,7 +3,6 @@
 #include "platform/x11/SelectionText.h"
 
 #include <algorithm>
-#include <cstring>
 
 namespace ravelo::x11 {
 
@@ -71,7 +70,8 @@ void PasteboardConversation::takeTargets(const QByteArray& atoms) {
     const qsizetype size = sizeof(xcb_atom_t);
     std::vector<xcb_atom_t> targets(
         static_cast<std::size_t>(std::min(atoms.size() / size, mostTargets)));
-    std::memcpy(targets.data(), atoms.constData(), targets.size() * sizeof(xcb_atom_t));
+    std::copy_n(atoms.constData(), targets.size() * sizeof(xcb_atom_t),
+                reinterpret_cast<char*>(targets.data()));
     for (const QByteArray& name : connection_.names(targets)) {
         if (!name.isEmpty() && !offered_.contains(name)) {
             offered_.append(name);

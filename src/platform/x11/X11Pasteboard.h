@@ -29,6 +29,10 @@ public:
 
     [[nodiscard]] Handle read(PasteboardPlan plan,
                               std::function<void(PasteboardSnapshot)> done) override;
+
+    /// Where another program has copied after the newest event that Qt has seen, the user's press
+    /// in our window included, the server keeps that later copy (ICCCM 2.1); it is then told as a
+    /// change.
     void write(const QList<PasteboardEntry>& forms) override;
 
 private:
