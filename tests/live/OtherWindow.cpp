@@ -37,6 +37,11 @@ xcb_window_t makeWindow(Server& server, QRect geometry, uint32_t eventMask) {
     return window;
 }
 
+Server& newServer() {
+    static std::vector<std::unique_ptr<Server>> all;
+    return *all.emplace_back(std::make_unique<Server>());
+}
+
 } // namespace
 
 Server::Server()
@@ -57,8 +62,8 @@ QRect Server::geometry(xcb_window_t window) {
 }
 
 bool Server::isViewable(xcb_window_t window) {
-    const Owned<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
-        get(), xcb_get_window_attributes(get(), window), nullptr));
+    const Owned<xcb_get_window_attributes_reply_t> reply(
+        xcb_get_window_attributes_reply(get(), xcb_get_window_attributes(get(), window), nullptr));
     return reply && reply->map_state == XCB_MAP_STATE_VIEWABLE;
 }
 
@@ -101,7 +106,7 @@ xcb_timestamp_t Server::time() {
 }
 
 OtherWindow::OtherWindow(Kind kind, QRect geometry, const std::vector<uint32_t>& strutPartial)
-    : id_(makeWindow(server_, geometry, XCB_EVENT_MASK_BUTTON_PRESS)) {
+    : server_(newServer()), id_(makeWindow(server_, geometry, XCB_EVENT_MASK_BUTTON_PRESS)) {
     // USPosition and USSize: the window manager leaves both alone.
     std::vector<uint32_t> sizeHints(18);
     sizeHints[0] = 3;
@@ -115,11 +120,23 @@ OtherWindow::OtherWindow(Kind kind, QRect geometry, const std::vector<uint32_t>&
                              XCB_ATOM_ATOM);
         reserve(strutPartial);
     }
+    const uint32_t unmanaged = kind == Kind::popup ? 1 : 0;
+    xcb_change_window_attributes(server_.get(), id_, XCB_CW_OVERRIDE_REDIRECT, &unmanaged);
     xcb_map_window(server_.get(), id_);
     xcb_flush(server_.get());
+    const bool takesFocus = kind == Kind::normal || kind == Kind::fullScreen;
     EXPECT_TRUE(eventually([&] {
-        return server_.isViewable(id_) && (kind == Kind::dock || server_.focus() == id_);
+        return server_.isViewable(id_) && (!takesFocus || server_.focus() == id_);
     })) << "the other window is not shown and focused";
+}
+
+OtherWindow::~OtherWindow() {
+    xcb_destroy_window(server_.get(), id_);
+    xcb_flush(server_.get());
+    EXPECT_TRUE(eventually([&] {
+        const auto clients = server_.cardinals(server_.root(), "_NET_CLIENT_LIST");
+        return std::find(clients.begin(), clients.end(), id_) == clients.end();
+    })) << "the window manager holds on to a closed window";
 }
 
 void OtherWindow::reserve(const std::vector<uint32_t>& strutPartial) {

@@ -49,14 +49,17 @@ private:
 /// A window of another program, as far as the window manager can tell.
 class OtherWindow {
 public:
-    enum class Kind { normal, fullScreen, dock };
+    /// A popup is one that the window manager leaves alone.
+    enum class Kind { normal, fullScreen, dock, popup };
 
-    /// Shown at the return, and focused but for a dock.
+    /// Shown at the return; a normal or full-screen window also focused.
     OtherWindow(Kind kind, QRect geometry, const std::vector<uint32_t>& strutPartial = {});
 
     OtherWindow(const OtherWindow&) = delete;
     OtherWindow& operator=(const OtherWindow&) = delete;
-    ~OtherWindow() = default;
+
+    /// Closes it and waits until the window manager has forgotten it.
+    ~OtherWindow();
 
     [[nodiscard]] xcb_window_t id() const { return id_; }
 
@@ -70,7 +73,9 @@ public:
     void iconify();
 
 private:
-    Server server_;
+    /// Never closed: the server would give its window's number to the next one, and the window
+    /// manager mix them up.
+    Server& server_;
     xcb_window_t id_;
     int presses_ = 0;
 };

@@ -14,8 +14,10 @@ void RecordingWindow::keyPressEvent(QKeyEvent* event) {
 }
 
 PanelFixture::PanelFixture()
-    : connection(std::move(x11::Connection::create().value())), events(*connection),
-      screens(*connection, events), compositor(*connection, events),
+    : connection(std::move(x11::Connection::create().value())),
+      events(*connection),
+      screens(*connection, events),
+      compositor(*connection, events),
       panel(window, *connection, events, screens, compositor) {}
 
 void PanelFixture::show(const QString& monitor, QSizeF size) {
@@ -27,6 +29,12 @@ void PanelFixture::show(const QString& monitor, QSizeF size) {
     ASSERT_TRUE(eventually([&] {
         return server.isViewable(id()) && server.geometry(id()) == expected;
     })) << "the panel is not shown where it belongs";
+}
+
+xcb_window_t PanelFixture::focus() {
+    const x11::Owned<xcb_get_input_focus_reply_t> reply(xcb_get_input_focus_reply(
+        connection->get(), xcb_get_input_focus(connection->get()), nullptr));
+    return reply->focus;
 }
 
 QRect topCentre(const x11::Monitor& monitor, QSizeF size) {

@@ -50,8 +50,8 @@ public:
         QRegion region;
         const auto* rectangles = xcb_shape_get_rectangles_rectangles(reply.get());
         for (int i = 0; i < xcb_shape_get_rectangles_rectangles_length(reply.get()); ++i) {
-            region += QRect(rectangles[i].x, rectangles[i].y, rectangles[i].width,
-                            rectangles[i].height);
+            region +=
+                QRect(rectangles[i].x, rectangles[i].y, rectangles[i].width, rectangles[i].height);
         }
         return region;
     }
@@ -59,13 +59,12 @@ public:
     [[nodiscard]] QRect wholeWindow() { return {{}, server.geometry(id()).size()}; }
 };
 
-TEST_F(PanelTest, ComesBackAboveWhatWasShownMeanwhile) {
+TEST_F(PanelTest, ComesAboveWhatWasShownMeanwhile) {
     show(u"DUMMY0"_s, {200, 12});
-    window.hide();
-    ASSERT_TRUE(eventually([&] { return !server.isViewable(id()); }));
-    const OtherWindow movie(OtherWindow::Kind::fullScreen, {0, 0, 1920, 1080});
-    show(u"DUMMY0"_s, {200, 12});
-    EXPECT_TRUE(server.isAbove(id(), movie.id()));
+    const OtherWindow popup(OtherWindow::Kind::popup, {0, 0, 1920, 1080});
+    ASSERT_TRUE(server.isAbove(popup.id(), id()));
+    panel.orderFront();
+    EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); }));
 }
 
 /// A body of 360x200 with a top edge of 400, as the panel has it.
@@ -116,13 +115,13 @@ TEST_F(PanelTest, IsCutToItsOutlineWhileThereIsNoCompositor) {
     EXPECT_EQ(shape(XCB_SHAPE_SK_BOUNDING), outline);
     EXPECT_FALSE(panel.isTranslucent());
     {
-        const Program picom(u"picom"_s, {u"--backend"_s, u"xrender"_s, u"--config"_s,
-                                         u"/dev/null"_s});
+        const Program picom(u"picom"_s,
+                            {u"--backend"_s, u"xrender"_s, u"--config"_s, u"/dev/null"_s});
         ASSERT_TRUE(eventually([&] { return changes == 1; })) << "the compositor is not seen";
         EXPECT_TRUE(panel.isTranslucent());
-        EXPECT_TRUE(eventually(
-            [&] { return shape(XCB_SHAPE_SK_BOUNDING) == QRegion(wholeWindow()); }))
-            << "the window is still cut";
+        EXPECT_TRUE(eventually([&] {
+            return shape(XCB_SHAPE_SK_BOUNDING) == QRegion(wholeWindow());
+        })) << "the window is still cut";
         EXPECT_EQ(shape(XCB_SHAPE_SK_INPUT), outline);
     }
     ASSERT_TRUE(eventually([&] { return changes == 2; })) << "the compositor's end is not seen";
@@ -139,7 +138,9 @@ TEST_F(PanelTest, TellsCompositorsWhatTheyNeed) {
     QRegion blurred;
     const auto cardinals = server.cardinals(id(), "_KDE_NET_WM_BLUR_BEHIND_REGION");
     for (size_t i = 0; i + 3 < cardinals.size(); i += 4) {
-        const auto number = [&](size_t offset) { return static_cast<int>(cardinals[i + offset]); };
+        const auto number = [&](size_t offset) {
+            return static_cast<int>(cardinals[i + offset]);
+        };
         blurred += QRect(number(0), number(1), number(2), number(3));
     }
     EXPECT_EQ(blurred, shape(XCB_SHAPE_SK_INPUT));

@@ -94,13 +94,11 @@ TEST_P(PointTest, IsTheSameInBothSystems) {
     EXPECT_EQ(toNative(monitors, logical), native);
 }
 
-INSTANTIATE_TEST_SUITE_P(All, PointTest,
-                         testing::Values(PointCase{{0, 0}, {0, 0}},
-                                         PointCase{{1919, 1079}, {1919, 1079}},
-                                         PointCase{{1920, 0}, {1920, 0}},
-                                         PointCase{{1923, 2001}, {1921.5, 1000.5}},
-                                         PointCase{{5759, 2159}, {3839.5, 1079.5}},
-                                         PointCase{{-5, 40}, {-5, 40}}));
+INSTANTIATE_TEST_SUITE_P(
+    All, PointTest,
+    testing::Values(PointCase{{0, 0}, {0, 0}}, PointCase{{1919, 1079}, {1919, 1079}},
+                    PointCase{{1920, 0}, {1920, 0}}, PointCase{{1923, 2001}, {1921.5, 1000.5}},
+                    PointCase{{5759, 2159}, {3839.5, 1079.5}}, PointCase{{-5, 40}, {-5, 40}}));
 
 struct PixelCase {
     double scale;
@@ -120,14 +118,15 @@ TEST_P(OutlineRegionTest, CoversThePixelsInside) {
         << pixel.x() << "," << pixel.y() << " at scale " << scale;
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, OutlineRegionTest,
-    testing::Values(PixelCase{1, {0, 0}, true}, PixelCase{1, {19, 0}, true},
-                    PixelCase{1, {20, 0}, false}, PixelCase{1, {2, 4}, false},
-                    PixelCase{1, {10, 9}, true}, PixelCase{1, {10, 10}, false},
-                    PixelCase{1.5, {29, 0}, true}, PixelCase{1.5, {15, 14}, true},
-                    PixelCase{2, {39, 0}, true}, PixelCase{2, {5, 9}, false},
-                    PixelCase{2, {20, 19}, true}, PixelCase{2, {19, 20}, false}));
+INSTANTIATE_TEST_SUITE_P(All, OutlineRegionTest,
+                         testing::Values(PixelCase{1, {0, 0}, true}, PixelCase{1, {19, 0}, true},
+                                         PixelCase{1, {20, 0}, false}, PixelCase{1, {2, 4}, false},
+                                         PixelCase{1, {10, 9}, true}, PixelCase{1, {10, 10}, false},
+                                         PixelCase{1.5, {29, 0}, true},
+                                         PixelCase{1.5, {15, 14}, true},
+                                         PixelCase{2, {39, 0}, true}, PixelCase{2, {5, 9}, false},
+                                         PixelCase{2, {20, 19}, true},
+                                         PixelCase{2, {19, 20}, false}));
 
 } // namespace
 

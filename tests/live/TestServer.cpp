@@ -1,5 +1,7 @@
 #include "live/TestServer.h"
 
+#include "platform/x11/Properties.h"
+
 #include <QElapsedTimer>
 #include <QEventLoop>
 #include <QTemporaryFile>
@@ -20,6 +22,25 @@ namespace {
 [[noreturn]] void giveUp(const char* what) {
     std::fprintf(stderr, "the test's display server: %s\n", what);
     std::exit(EXIT_FAILURE);
+}
+
+/// Whether the window manager shows a window that asks for it; while it starts it does not.
+bool showsWindows(x11::Connection& connection) {
+    const xcb_window_t probe = xcb_generate_id(connection.get());
+    xcb_create_window(connection.get(), XCB_COPY_FROM_PARENT, probe, connection.root(), 0, 0, 1, 1,
+                      0, XCB_WINDOW_CLASS_INPUT_OUTPUT, XCB_COPY_FROM_PARENT, 0, nullptr);
+    xcb_map_window(connection.get(), probe);
+    const auto has = [&](const QByteArray& property) {
+        return !x11::PropertyRequest(connection, probe, connection.atom(property))
+                    .cardinals()
+                    .empty();
+    };
+    for (int tries = 0; tries < 20 && !has("WM_STATE"); ++tries) {
+        usleep(5000); // There is no event loop yet.
+    }
+    const bool shown = has("WM_STATE");
+    xcb_destroy_window(connection.get(), probe);
+    return shown;
 }
 
 /// Unlike Xvfb the server with this driver has several outputs.
@@ -76,9 +97,15 @@ TestServer::TestServer() {
     if (!run(u"xrandr"_s, {u"--addmode"_s, u"DUMMY1"_s, u"1280x1024"_s}) || !showSecondMonitor()) {
         giveUp("cannot have a second monitor");
     }
-    programs_.push_back(std::make_unique<Program>(
-        u"openbox"_s,
-        QStringList{u"--sm-disable"_s, u"--config-file"_s, u"/etc/xdg/openbox/rc.xml"_s}));
+    programs_.push_back(
+        std::make_unique<Program>(u"openbox"_s, QStringList{u"--sm-disable"_s, u"--config-file"_s,
+                                                            u"/etc/xdg/openbox/rc.xml"_s}));
+    const auto connection = x11::Connection::create();
+    for (int tries = 0; !connection || !showsWindows(**connection); ++tries) {
+        if (tries == 100) {
+            giveUp("no window manager comes");
+        }
+    }
 }
 
 void TestServer::startServer() {

@@ -21,7 +21,7 @@ public:
     ~PropertyRequest();
 
     /// Waits for the answer: the property's 32-bit values, none where there is no such window or
-    /// property. To be called once.
+    /// property. To be called at most once.
     [[nodiscard]] std::vector<uint32_t> cardinals();
 
 private:

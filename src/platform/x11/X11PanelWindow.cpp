@@ -68,6 +68,7 @@ void X11PanelWindow::place(const Screen& screen, QSizeF size) {
     // Qt knows whole logical pixels only, which at scale 2 may be one device pixel off the middle.
     const auto left = static_cast<uint32_t>(corner.x());
     xcb_configure_window(qt_, id_, XCB_CONFIG_WINDOW_X, &left);
+    xcb_flush(qt_); // Qt flushes only when it has something to do itself.
     if (scale_ != monitor->scale) {
         scale_ = monitor->scale;
         applyOutline();
@@ -77,6 +78,7 @@ void X11PanelWindow::place(const Screen& screen, QSizeF size) {
 void X11PanelWindow::orderFront() {
     window_.setVisible(true);
     window_.raise(); // Mapped once more it may come back below others.
+    xcb_flush(qt_);
 }
 
 void X11PanelWindow::setOutline(const QPainterPath& outline) {
@@ -133,6 +135,7 @@ void X11PanelWindow::applyOutline() {
                         rectangle.width, rectangle.height});
     }
     setCardinals(blurRegion_, blurred);
+    xcb_flush(qt_);
 }
 
 void X11PanelWindow::setShape(xcb_shape_kind_t kind,

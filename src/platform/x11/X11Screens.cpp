@@ -17,6 +17,10 @@ QRect nativeGeometry(const QScreen& screen) {
     return {logical.topLeft(), (QSizeF(logical.size()) * screen.devicePixelRatio()).toSize()};
 }
 
+bool contains(const std::vector<uint32_t>& values, uint32_t value) {
+    return std::find(values.begin(), values.end(), value) != values.end();
+}
+
 void watchProperties(Connection& connection, xcb_window_t window) {
     const uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
     xcb_change_window_attributes(connection.get(), window, XCB_CW_EVENT_MASK, &mask);
@@ -92,7 +96,7 @@ void X11Screens::handle(const xcb_generic_event_t& event) {
         return;
     }
     const bool windowsChanged = change->window == connection_.root() && change->atom == clientList_;
-    const bool barChanged = clients_.contains(change->window) &&
+    const bool barChanged = contains(bars_, change->window) &&
                             (change->atom == strut_ || change->atom == strutPartial_);
     if (windowsChanged || barChanged) {
         refreshSoon();
@@ -117,7 +121,7 @@ void X11Screens::refresh() {
 }
 
 std::vector<Monitor> X11Screens::read() {
-    classify(readClients());
+    findBars();
     const auto struts = readStruts();
     const QSize root = windowSize(connection_, connection_.root());
     std::vector<Monitor> monitors;
@@ -128,18 +132,14 @@ std::vector<Monitor> X11Screens::read() {
         monitor.native = nativeGeometry(*screen);
         monitor.scale = screen->devicePixelRatio();
         const QRect free = withoutStruts(monitor.native, root, struts);
-        monitor.screen.visibleFrame =
-            free == monitor.native ? monitor.screen.frame : x11::toLogical(monitor, free);
+        // Within the frame, which Qt has rounded.
+        monitor.screen.visibleFrame = x11::toLogical(monitor, free) & monitor.screen.frame;
         monitors.push_back(std::move(monitor));
     }
     return monitors;
 }
 
-std::vector<xcb_window_t> X11Screens::readClients() {
-    return PropertyRequest(connection_, connection_.root(), clientList_).cardinals();
-}
-
-void X11Screens::classify(const std::vector<xcb_window_t>& clients) {
+void X11Screens::findBars() {
     struct Question {
         xcb_window_t window;
         PropertyRequest type;
@@ -148,47 +148,35 @@ void X11Screens::classify(const std::vector<xcb_window_t>& clients) {
     };
 
     std::vector<Question> questions;
-    std::unordered_map<xcb_window_t, Kind> known;
-    for (const xcb_window_t window : clients) {
-        if (const auto old = clients_.find(window); old != clients_.end()) {
-            known.insert(*old);
-        } else {
-            questions.push_back({window,
-                                 {connection_, window, windowType_},
-                                 {connection_, window, strut_},
-                                 {connection_, window, strutPartial_}});
-        }
+    for (const xcb_window_t window :
+         PropertyRequest(connection_, connection_.root(), clientList_).cardinals()) {
+        questions.push_back({window,
+                             {connection_, window, windowType_},
+                             {connection_, window, strut_},
+                             {connection_, window, strutPartial_}});
     }
+    bars_.clear();
     for (Question& question : questions) {
-        const auto types = question.type.cardinals();
-        const bool isDock = std::find(types.begin(), types.end(), dock_) != types.end();
-        const bool reserves =
-            !question.strut.cardinals().empty() || !question.strutPartial.cardinals().empty();
-        known.emplace(question.window, isDock || reserves ? Kind::bar : Kind::other);
-        if (isDock || reserves) {
+        if (contains(question.type.cardinals(), dock_) || !question.strut.cardinals().empty() ||
+            !question.strutPartial.cardinals().empty()) {
+            bars_.push_back(question.window);
             watchProperties(connection_, question.window);
         }
     }
-    clients_ = std::move(known);
 }
 
 std::vector<Strut> X11Screens::readStruts() {
     std::vector<std::pair<PropertyRequest, PropertyRequest>> requests;
-    for (const auto& [window, kind] : clients_) {
-        if (kind == Kind::bar) {
-            requests.emplace_back(PropertyRequest(connection_, window, strutPartial_),
-                                  PropertyRequest(connection_, window, strut_));
-        }
+    for (const xcb_window_t window : bars_) {
+        requests.emplace_back(PropertyRequest(connection_, window, strutPartial_),
+                              PropertyRequest(connection_, window, strut_));
     }
     std::vector<Strut> struts;
     for (auto& [partial, whole] : requests) {
-        const auto wholeCardinals = whole.cardinals();
-        auto strut = parseStrut(partial.cardinals());
-        if (!strut) {
-            strut = parseStrut(wholeCardinals);
-        }
-        if (strut) {
+        if (const auto strut = parseStrut(partial.cardinals())) {
             struts.push_back(*strut);
+        } else if (const auto oldForm = parseStrut(whole.cardinals())) {
+            struts.push_back(*oldForm);
         }
     }
     return struts;

@@ -7,8 +7,6 @@
 
 #include <QObject>
 
-#include <unordered_map>
-
 class QScreen;
 
 namespace ravelo::x11 {
@@ -32,15 +30,12 @@ public:
     [[nodiscard]] const Monitor* monitor(const QString& id) const;
 
 private:
-    enum class Kind { bar, other };
-
     void watch(QScreen* screen);
     void handle(const xcb_generic_event_t& event);
     void refreshSoon();
     void refresh();
     [[nodiscard]] std::vector<Monitor> read();
-    [[nodiscard]] std::vector<xcb_window_t> readClients();
-    void classify(const std::vector<xcb_window_t>& clients);
+    void findBars();
     [[nodiscard]] std::vector<Strut> readStruts();
 
     Connection& connection_;
@@ -50,9 +45,9 @@ private:
     const xcb_atom_t windowType_;
     const xcb_atom_t dock_;
 
-    /// What the windows of the client list are. Only bars are watched: an ordinary window changes
-    /// properties at every key press, and each change would wake us.
-    std::unordered_map<xcb_window_t, Kind> clients_;
+    /// Of the window manager's windows those that are docks or reserve something. Only these are
+    /// watched: an ordinary window changes properties at every key press, and each would wake us.
+    std::vector<xcb_window_t> bars_;
 
     std::vector<Monitor> monitors_;
     bool refreshing_ = false;
