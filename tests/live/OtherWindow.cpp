@@ -1,6 +1,6 @@
 #include "live/OtherWindow.h"
 
-#include "live/TestServer.h"
+#include "live/support/Desktop.h"
 #include "platform/x11/Properties.h"
 
 #include <gtest/gtest.h>

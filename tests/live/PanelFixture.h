@@ -1,7 +1,7 @@
 #pragma once
 
 #include "live/OtherWindow.h"
-#include "live/TestServer.h"
+#include "live/support/Desktop.h"
 #include "platform/x11/X11PanelWindow.h"
 
 #include <QRasterWindow>

@@ -115,8 +115,8 @@ TEST_F(PanelTest, IsCutToItsOutlineWhileThereIsNoCompositor) {
     EXPECT_EQ(shape(XCB_SHAPE_SK_BOUNDING), outline);
     EXPECT_FALSE(panel.isTranslucent());
     {
-        const Program picom(u"picom"_s,
-                            {u"--backend"_s, u"xrender"_s, u"--config"_s, u"/dev/null"_s});
+        const Client picom(u"picom"_s,
+                           {u"--backend"_s, u"xrender"_s, u"--config"_s, u"/dev/null"_s});
         ASSERT_TRUE(eventually([&] { return changes == 1; })) << "the compositor is not seen";
         EXPECT_TRUE(panel.isTranslucent());
         EXPECT_TRUE(eventually([&] {

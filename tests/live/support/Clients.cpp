@@ -17,6 +17,8 @@ bool eventually(const std::function<bool()>& condition) {
     QTimer timeOut;
     timeOut.setSingleShot(true);
     timeOut.start(20000);
+    QTimer wake; // The condition may come true on the server, without an event for us.
+    wake.start(2);
     while (!condition()) {
         if (!timeOut.isActive()) {
             return false;
@@ -27,7 +29,7 @@ bool eventually(const std::function<bool()>& condition) {
 }
 
 Client::Client(const QString& program, const QStringList& arguments, const QByteArray& input) {
-    process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
+    process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
     process_.start(program, arguments);
     if (!input.isNull()) {
@@ -38,8 +40,11 @@ Client::Client(const QString& program, const QStringList& arguments, const QByte
 }
 
 Client::~Client() {
-    process_.kill();
-    process_.waitForFinished();
+    process_.terminate(); // A server removes its lock and socket.
+    if (!process_.waitForFinished(5000)) {
+        process_.kill();
+        process_.waitForFinished();
+    }
 }
 
 QByteArray Client::readLine() {

@@ -1,16 +1,9 @@
-#include "live/TestServer.h"
+#include "live/support/Desktop.h"
 
 #include "platform/x11/Properties.h"
 
-#include <QElapsedTimer>
-#include <QEventLoop>
 #include <QTemporaryFile>
-#include <QTimer>
 
-#include <csignal>
-#include <cstdio>
-#include <cstdlib>
-#include <sys/prctl.h>
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -18,11 +11,6 @@ using namespace Qt::StringLiterals;
 namespace ravelo::live {
 
 namespace {
-
-[[noreturn]] void giveUp(const char* what) {
-    std::fprintf(stderr, "the test's display server: %s\n", what);
-    std::exit(EXIT_FAILURE);
-}
 
 /// Whether the window manager shows a window that asks for it; while it starts it does not.
 bool showsWindows(x11::Connection& connection) {
@@ -41,6 +29,16 @@ bool showsWindows(x11::Connection& connection) {
     const bool shown = has("WM_STATE");
     xcb_destroy_window(connection.get(), probe);
     return shown;
+}
+
+bool waitForWindowManager() {
+    const auto connection = x11::Connection::create();
+    for (int tries = 0; connection && tries < 100; ++tries) {
+        if (showsWindows(**connection)) {
+            return true;
+        }
+    }
+    return false;
 }
 
 /// Unlike Xvfb the server with this driver has several outputs.
@@ -68,58 +66,31 @@ EndSection
 
 } // namespace
 
-Program::Program(const QString& path, const QStringList& arguments)
-    : process_(std::make_unique<QProcess>()) {
-    process_->setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGKILL); });
-    process_->setStandardOutputFile(QProcess::nullDevice());
-    process_->setStandardErrorFile(QProcess::nullDevice());
-    process_->start(path, arguments);
-    if (!process_->waitForStarted()) {
-        giveUp(qPrintable(path + " does not start"_L1));
+Desktop::Desktop() {
+    if (!startServer() || !run(u"xrandr"_s, {u"--addmode"_s, u"DUMMY1"_s, u"1280x1024"_s}) ||
+        !showSecondMonitor()) {
+        return;
+    }
+    auto windowManager =
+        std::make_unique<Client>(u"openbox"_s, QStringList{u"--sm-disable"_s, u"--config-file"_s,
+                                                           u"/etc/xdg/openbox/rc.xml"_s});
+    if (waitForWindowManager()) {
+        windowManager_ = std::move(windowManager);
     }
 }
 
-Program::~Program() {
-    process_->terminate();
-    if (!process_->waitForFinished(5000)) {
-        process_->kill();
-        process_->waitForFinished();
-    }
-}
-
-bool Program::succeeds() {
-    return process_->waitForFinished(20000) && process_->exitStatus() == QProcess::NormalExit &&
-           process_->exitCode() == 0;
-}
-
-TestServer::TestServer() {
-    startServer();
-    if (!run(u"xrandr"_s, {u"--addmode"_s, u"DUMMY1"_s, u"1280x1024"_s}) || !showSecondMonitor()) {
-        giveUp("cannot have a second monitor");
-    }
-    programs_.push_back(
-        std::make_unique<Program>(u"openbox"_s, QStringList{u"--sm-disable"_s, u"--config-file"_s,
-                                                            u"/etc/xdg/openbox/rc.xml"_s}));
-    const auto connection = x11::Connection::create();
-    for (int tries = 0; !connection || !showsWindows(**connection); ++tries) {
-        if (tries == 100) {
-            giveUp("no window manager comes");
-        }
-    }
-}
-
-void TestServer::startServer() {
+bool Desktop::startServer() {
     QTemporaryFile file;
     int ends[2] = {};
     if (!file.open() || file.write(configuration) < 0 || !file.flush() || pipe(ends) != 0) {
-        giveUp("no configuration");
+        return false;
     }
     // A seat other than "seat0" needs no console.
-    programs_.push_back(std::make_unique<Program>(
+    server_ = std::make_unique<Client>(
         u"/usr/lib/xorg/Xorg"_s,
         QStringList{u"-config"_s, file.fileName(), u"-displayfd"_s, QString::number(ends[1]),
                     u"-logfile"_s, u"/dev/null"_s, u"-seat"_s, u"none"_s, u"-nolisten"_s, u"tcp"_s,
-                    u"-noreset"_s}));
+                    u"-noreset"_s, u"-quiet"_s});
     close(ends[1]);
     QByteArray display; // The server writes its number when it is ready, and a new line.
     char digit = 0;
@@ -127,10 +98,8 @@ void TestServer::startServer() {
         display.append(digit);
     }
     close(ends[0]);
-    if (display.isEmpty()) {
-        giveUp("it does not come up");
-    }
     qputenv("DISPLAY", ':' + display);
+    return !display.isEmpty();
 }
 
 bool showSecondMonitor() {
@@ -139,23 +108,8 @@ bool showSecondMonitor() {
                 u"--mode"_s, u"1280x1024"_s, u"--right-of"_s, u"DUMMY0"_s});
 }
 
-bool run(const QString& path, const QStringList& arguments) {
-    return Program(path, arguments).succeeds();
-}
-
-bool eventually(const std::function<bool()>& condition) {
-    QElapsedTimer timer;
-    timer.start();
-    QTimer wake; // The condition may change without any event of ours.
-    wake.start(2);
-    QEventLoop loop;
-    while (!condition()) {
-        if (timer.elapsed() > 10000) {
-            return false;
-        }
-        loop.processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return true;
+bool run(const QString& program, const QStringList& arguments) {
+    return QProcess::execute(program, arguments) == 0;
 }
 
 } // namespace ravelo::live
