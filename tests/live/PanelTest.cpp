@@ -79,6 +79,10 @@ QPainterPath flaredOutline() {
 struct ClickCase {
     QPointF place; ///< In the window's logical pixels.
     bool isPanels;
+
+    friend void PrintTo(const ClickCase& each, std::ostream* out) {
+        *out << each.place.x() << "," << each.place.y();
+    }
 };
 
 class PanelClickTest : public PanelTest, public testing::WithParamInterface<ClickCase> {};

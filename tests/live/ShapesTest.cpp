@@ -75,6 +75,10 @@ INSTANTIATE_TEST_SUITE_P(
 struct PointCase {
     QPoint native;
     QPointF logical;
+
+    friend void PrintTo(const PointCase& each, std::ostream* out) {
+        *out << each.native.x() << "," << each.native.y();
+    }
 };
 
 class PointTest : public testing::TestWithParam<PointCase> {};
@@ -104,6 +108,10 @@ struct PixelCase {
     double scale;
     QPoint pixel;
     bool covered;
+
+    friend void PrintTo(const PixelCase& each, std::ostream* out) {
+        *out << each.pixel.x() << "," << each.pixel.y() << " at scale " << each.scale;
+    }
 };
 
 class OutlineRegionTest : public testing::TestWithParam<PixelCase> {};

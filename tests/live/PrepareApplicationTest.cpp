@@ -1,0 +1,68 @@
+#include "platform/x11/PrepareApplication.h"
+
+#include <QByteArray>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+#include <ostream>
+
+namespace ravelo::x11 {
+
+namespace {
+
+/// A variable of the environment, for one test.
+class Variable {
+public:
+    Variable(const char* name, std::optional<QByteArray> value)
+        : name_(name), before_(qgetenv(name)), wasSet_(qEnvironmentVariableIsSet(name)) {
+        set(value);
+    }
+
+    Variable(const Variable&) = delete;
+    Variable& operator=(const Variable&) = delete;
+
+    ~Variable() { set(wasSet_ ? std::optional(before_) : std::nullopt); }
+
+private:
+    void set(const std::optional<QByteArray>& value) {
+        value ? qputenv(name_, *value) : qunsetenv(name_);
+    }
+
+    const char* name_;
+    QByteArray before_;
+    bool wasSet_;
+};
+
+struct SessionCase {
+    const char* name;
+    std::optional<QByteArray> display;
+    std::optional<QByteArray> platform;
+    QByteArray chosen;
+
+    friend void PrintTo(const SessionCase& each, std::ostream* out) { *out << each.name; }
+};
+
+class PrepareApplicationTest : public testing::TestWithParam<SessionCase> {};
+
+TEST_P(PrepareApplicationTest, ChoosesThePlatform) {
+    const Variable display("DISPLAY", GetParam().display);
+    const Variable platform("QT_QPA_PLATFORM", GetParam().platform);
+    const Variable idleTime("QT_QPA_UPDATE_IDLE_TIME", std::nullopt);
+    prepareApplication();
+    EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), GetParam().chosen);
+    EXPECT_EQ(qgetenv("QT_QPA_UPDATE_IDLE_TIME"), "0");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, PrepareApplicationTest,
+    testing::Values(SessionCase{"X11", ":0", {}, "xcb"},
+                    SessionCase{"Wayland with Xwayland", ":1", "wayland", "xcb"},
+                    SessionCase{"Wayland first, for all programs", ":1", "wayland;xcb", "xcb"},
+                    SessionCase{"Wayland without Xwayland", {}, "wayland", "wayland"},
+                    SessionCase{"without a screen", ":0", "offscreen", "offscreen"},
+                    SessionCase{"no session", {}, {}, {}}));
+
+} // namespace
+
+} // namespace ravelo::x11
