@@ -157,11 +157,12 @@ class Desktop(contextlib.AbstractContextManager):
 
     # Pointer and keyboard.
 
-    def move(self, x, y):
-        self.run("xdotool", "mousemove", x, y)
+    def move(self, x, y, *then):
+        """Ends with a motion of the device: a warp alone is nothing that a hand can do."""
+        self.run("xdotool", "mousemove", x - 1, y, "mousemove_relative", 1, 0, *then)
 
     def click(self, x, y):
-        self.run("xdotool", "mousemove", x, y, "click", 1)
+        self.move(x, y, "click", 1)
 
     def type(self, text):
         self.run("xdotool", "type", "--delay", 20, text)
@@ -181,10 +182,12 @@ class Ravelo:
         self.program = pathlib.Path(program).resolve()
         self.folder = desktop.home / "data" / "Ravelo"
         self.process = None
+        self.log = desktop.home / "ravelo.log"
 
     def start(self):
         """Starts it and waits for its handle at the top of the screen."""
-        self.process = self.desktop.spawn(self.program)
+        with self.log.open("a") as log:
+            self.process = self.desktop.spawn(self.program, stderr=log)
         wait_for(lambda: self.has_ended() or self.is_collapsed(), "the handle, 200 x 12, centred")
         assert not self.has_ended(), f"ravelo ended at once with {self.process.returncode}"
         return self
@@ -198,6 +201,11 @@ class Ravelo:
 
     def has_ended(self):
         return self.process.poll() is not None
+
+    def complaints(self):
+        """What it wrote to standard error, but for the end of the X server."""
+        lines = self.log.read_text().splitlines() if self.log.exists() else []
+        return [line for line in lines if "X11 connection broke" not in line]
 
     # What it keeps.
 
