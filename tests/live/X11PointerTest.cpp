@@ -81,7 +81,9 @@ INSTANTIATE_TEST_SUITE_P(
                     ActionCase{"WheelDown", {u"click"_s, u"5"_s}, {}, false},
                     ActionCase{"SideButton", {u"click"_s, u"8"_s}, {}, false},
                     ActionCase{
-                        "Motion", {u"mousemove_relative"_s, u"5"_s, u"5"_s}, {u"wake"_s}, false}),
+                        "Motion", {u"mousemove_relative"_s, u"5"_s, u"5"_s}, {u"wake"_s}, false},
+                    ActionCase{
+                        "MovedByAProgram", {u"mousemove"_s, u"30"_s, u"40"_s}, {u"wake"_s}, false}),
     [](const auto& tested) { return tested.param.name; });
 
 TEST_F(X11PointerTest, wakesForAMoveThatCameBetweenTheLastLookAndTheQuestion) {

@@ -35,6 +35,7 @@ RawInput::RawInput(Connection& connection, Callbacks callbacks)
 
 void RawInput::awaitActivity(std::optional<PointerSight> seen) {
     awaiting_ = true;
+    seen_ = seen;
     listenTo(Motion::heard);
     if (pressed_ || (seen && look(connection_) != seen)) {
         active();
@@ -50,7 +51,10 @@ void RawInput::stopAwaiting() {
 
 void RawInput::handle(const xcb_generic_event_t& event) {
     if (alarm_.isNotice(event)) {
-        active();
+        // A wheel ends the pointer's idleness too.
+        if (awaiting_ && look(connection_) != seen_) {
+            active();
+        }
         return;
     }
     const auto& generic = reinterpret_cast<const xcb_ge_generic_event_t&>(event);

@@ -56,6 +56,7 @@ private:
     Callbacks callbacks_;
     std::atomic<bool> pressed_ = false;
     bool awaiting_ = false;
+    std::optional<PointerSight> seen_; ///< When the waiting began.
 };
 
 } // namespace ravelo::x11
