@@ -114,6 +114,9 @@ bool X11PanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
 void X11PanelWindow::prepareNativeWindow() {
     id_ = static_cast<xcb_window_t>(window_.winId());
     setCardinals(shadow_, {0});
+    // Nothing of what was shown at one size may be seen for a moment at the next.
+    const uint32_t attributes[] = {0, XCB_GRAVITY_BIT_FORGET};
+    xcb_change_window_attributes(qt_, id_, XCB_CW_BACK_PIXEL | XCB_CW_BIT_GRAVITY, attributes);
     applyOutline();
 }
 
