@@ -36,6 +36,7 @@ public:
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
     [[nodiscard]] QString search() const { return search_; }
+
     void setSearch(const QString& search);
 
     [[nodiscard]] int count() const { return rowCount(); }

@@ -134,8 +134,7 @@ QRectF FadingEdge::strip() const {
 
 QLinearGradient FadingEdge::mask() const {
     const QRectF area = strip();
-    QLinearGradient gradient(area.topLeft(),
-                             edge_ == Bottom ? area.bottomLeft() : area.topRight());
+    QLinearGradient gradient(area.topLeft(), edge_ == Bottom ? area.bottomLeft() : area.topRight());
     gradient.setColorAt(0, Qt::black);
     gradient.setColorAt(1, Qt::transparent);
     return gradient;

@@ -31,7 +31,9 @@ protected:
 
 private:
     static auto sameId(const Record& record) {
-        return [&record](const Record& other) { return other.id == record.id; };
+        return [&record](const Record& other) {
+            return other.id == record.id;
+        };
     }
 
     void removeMissing(const QList<Record>& now) {

@@ -9,8 +9,7 @@ namespace ravelo {
 
 void LineSpacing::setDocument(QQuickTextDocument* document) {
     document_ = document;
-    connect(document->textDocument(), &QTextDocument::contentsChange, this,
-            &LineSpacing::apply);
+    connect(document->textDocument(), &QTextDocument::contentsChange, this, &LineSpacing::apply);
     apply();
     Q_EMIT changed();
 }

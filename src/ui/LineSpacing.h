@@ -17,7 +17,9 @@ public:
     using QObject::QObject;
 
     [[nodiscard]] QQuickTextDocument* document() const { return document_; }
+
     [[nodiscard]] double line() const { return line_; }
+
     void setDocument(QQuickTextDocument* document);
     void setLine(double line);
 

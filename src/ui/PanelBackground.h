@@ -9,10 +9,11 @@ namespace ravelo {
 namespace Backdrop {
 Q_NAMESPACE
 QML_ELEMENT
+
 enum Kind {
-    Blurred,    ///< The desktop blurs what lies behind.
+    Blurred,     ///< The desktop blurs what lies behind.
     Translucent, ///< It shows through, sharp.
-    Opaque,     ///< Nothing shows through.
+    Opaque,      ///< Nothing shows through.
 };
 Q_ENUM_NS(Kind)
 } // namespace Backdrop
@@ -41,8 +42,11 @@ public:
     explicit PanelBackground(QQuickItem* parent = nullptr);
 
     [[nodiscard]] Backdrop::Kind backdrop() const { return material_.backdrop; }
+
     [[nodiscard]] double darkness() const { return material_.darkness; }
+
     [[nodiscard]] bool fullBlack() const { return material_.fullBlack; }
+
     void setBackdrop(Backdrop::Kind backdrop);
     void setDarkness(double darkness);
     void setFullBlack(bool fullBlack);

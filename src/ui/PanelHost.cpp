@@ -21,8 +21,11 @@ const Record* findById(const QList<Record>& records, const QUuid& id) {
 } // namespace
 
 PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
-    : subjects_(subjects), clips_(subjects.store, subjects.scheduler, locale),
-      snippets_(subjects.store), pasting_(subjects.pasteboard), toast_(subjects.scheduler),
+    : subjects_(subjects),
+      clips_(subjects.store, subjects.scheduler, locale),
+      snippets_(subjects.store),
+      pasting_(subjects.pasteboard),
+      toast_(subjects.scheduler),
       contentSize_(sizeToOpenWith()) {
     connect(controller(), &NotchController::isOpenChanged, this, &PanelHost::follow);
     connect(settings(), &AppSettings::panelWidthChanged, this, [this] {

@@ -51,11 +51,17 @@ public:
     PanelHost(Subjects subjects, const QLocale& locale);
 
     [[nodiscard]] Store* store() const { return &subjects_.store; }
+
     [[nodiscard]] AppSettings* settings() const { return &subjects_.settings; }
+
     [[nodiscard]] NotchController* controller() const { return &subjects_.controller; }
+
     [[nodiscard]] ClipListModel* clips() { return &clips_; }
+
     [[nodiscard]] SnippetListModel* snippets() { return &snippets_; }
+
     [[nodiscard]] Pasting* pasting() { return &pasting_; }
+
     [[nodiscard]] Toast* toast() { return &toast_; }
 
     /// Whether there is content, shown or hidden. A closed panel's content is thrown away with all
@@ -67,10 +73,13 @@ public:
     [[nodiscard]] QSizeF contentSize() const { return contentSize_; }
 
     [[nodiscard]] Backdrop::Kind backdrop() const { return backdrop_; }
+
     void setBackdrop(Backdrop::Kind backdrop);
 
     [[nodiscard]] UsageLine session() const { return sessionLine_; }
+
     [[nodiscard]] UsageLine week() const { return weekLine_; }
+
     /// Nothing where it is not known.
     void setUsage(const std::optional<UsageWindow>& session,
                   const std::optional<UsageWindow>& week);

@@ -1,5 +1,6 @@
 #include "ui/PanelView.h"
 
+#include "ui/Fonts.h"
 #include "ui/ThumbnailProvider.h"
 
 #include <QQmlEngine>
@@ -29,6 +30,7 @@ QWindow* chooseRenderer() {
 } // namespace
 
 PanelView::PanelView() : view_(chooseRenderer()) {
+    keepStemsThin();
     initModule();
     view_.setColor(Qt::transparent);
     view_.setResizeMode(QQuickView::SizeRootObjectToView);
@@ -39,11 +41,12 @@ PanelView::~PanelView() = default;
 
 void PanelView::load(PanelHost::Subjects subjects, const QLocale& locale) {
     host_ = std::make_unique<PanelHost>(subjects, locale);
-    const auto resized = [this] { host_->windowResized(view_.size()); };
+    const auto resized = [this] {
+        host_->windowResized(view_.size());
+    };
     QObject::connect(&view_, &QWindow::widthChanged, host_.get(), resized);
     QObject::connect(&view_, &QWindow::heightChanged, host_.get(), resized);
-    view_.engine()->addImageProvider(u"thumb"_s,
-                                     new ThumbnailProvider(subjects.store.clipsDir()));
+    view_.engine()->addImageProvider(u"thumb"_s, new ThumbnailProvider(subjects.store.clipsDir()));
     view_.setInitialProperties({{u"host"_s, QVariant::fromValue(host_.get())}});
     view_.setSource(QUrl(u"qrc:/Ravelo/qml/panel/Panel.qml"_s));
 }

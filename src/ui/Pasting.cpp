@@ -11,8 +11,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QString textOnly(const PasteboardSnapshot& seen) {
-    const bool wanted =
-        seen.types.contains(plainTextType) && !seen.answers.contains(plainTextType);
+    const bool wanted = seen.types.contains(plainTextType) && !seen.answers.contains(plainTextType);
     return wanted ? QString(plainTextType) : QString();
 }
 

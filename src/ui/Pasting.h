@@ -23,8 +23,9 @@ public:
     enum Lines { OneLine, ManyLines };
     Q_ENUM(Lines)
 
-    /// Puts the text that is on the pasteboard in the place of the selection of `field` (a TextInput
-    /// or TextEdit), as soon as it comes. A line break becomes a space in a field of one line.
+    /// Puts the text that is on the pasteboard in the place of the selection of `field` (a
+    /// TextInput or TextEdit), as soon as it comes. A line break becomes a space in a field of one
+    /// line.
     Q_INVOKABLE void into(QQuickItem* field, ravelo::Pasting::Lines lines);
 
 private:

@@ -16,8 +16,8 @@ struct Distance {
 
 /// Months differ in length, so they are counted on the calendar.
 int wholeMonths(const QDateTime& from, const QDateTime& to) {
-    int months = (to.date().year() - from.date().year()) * 12 + to.date().month() -
-                 from.date().month();
+    int months =
+        (to.date().year() - from.date().year()) * 12 + to.date().month() - from.date().month();
     if (from.addMonths(months) > to) {
         --months;
     }
@@ -62,8 +62,7 @@ struct RelativeDate::Formatter {
 };
 
 RelativeDate::RelativeDate(const QLocale& locale)
-    : formatter_(std::make_unique<Formatter>(
-          icu::Locale(locale.name().toLatin1().constData()))) {}
+    : formatter_(std::make_unique<Formatter>(icu::Locale(locale.name().toLatin1().constData()))) {}
 
 RelativeDate::~RelativeDate() = default;
 

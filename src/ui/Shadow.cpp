@@ -54,8 +54,8 @@ QImage blurredAndTurned(const QImage& from, const std::vector<double>& weights) 
 }
 
 QImage shadowImage(QSizeF size, double scale, double margin, const ShadowLook& look) {
-    const QSize pixels = (QSizeF(size.width() + 2 * margin, size.height() + 2 * margin) * scale)
-                             .toSize();
+    const QSize pixels =
+        (QSizeF(size.width() + 2 * margin, size.height() + 2 * margin) * scale).toSize();
     QImage shape(pixels, QImage::Format_Alpha8);
     shape.fill(0);
     QPainter painter(&shape);

@@ -20,6 +20,7 @@ struct UsageWindow {
 namespace UsageBand {
 Q_NAMESPACE
 QML_ELEMENT
+
 enum Kind { Low, High, Critical };
 Q_ENUM_NS(Kind)
 } // namespace UsageBand

@@ -17,7 +17,7 @@
 #include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
-#include <QQuickItem>
+#include <QQuickPaintedItem>
 #include <QThread>
 
 #include <algorithm>
@@ -60,29 +60,39 @@ QImage plan() {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(QPen(QColor(u"#d7e6ff"_s), 1.6));
     painter.drawRect(QRectF(9, 9, 38, 38));
-    painter.drawLines(QList<QLineF>{
-        {9, 27, 25, 27}, {31, 27, 47, 27}, {27, 47, 27, 35}, {27, 9, 27, 19}});
+    painter.drawLines(
+        QList<QLineF>{{9, 27, 25, 27}, {31, 27, 47, 27}, {27, 47, 27, 35}, {27, 9, 27, 19}});
     return image;
 }
 
-void fillClips(UiWorld& world) {
-    world.addText(u"https://larkspur.example/booking"_s, day * 2);
-    world.addText(u"Larkspur Interiors — 48 Alder Lane, studio 3, ring twice"_s, day * 22);
-    const QUuid booking = world.store.clips()[1].id;
-    const QUuid address = world.store.clips()[0].id;
-    world.addText(u"https://maps.example/route/48-alder-lane"_s, hour * 3);
-    world.addText(u"Alcove measured twice: 1184 × 2310 mm, skirting 90 mm, socket on the left"_s,
-                  hour * 2);
-    world.addText(u"ren@larkspur.example"_s, hour);
-    world.addImage(plan(), minute * 41);
-    world.addText(u"git rebase --onto main feature/estimates~3 feature/estimates"_s, minute * 26);
-    world.addText(u"Oak veneer panels, 18 mm, 2440 × 1220 — 6 sheets, matt lacquer"_s, minute * 14);
-    world.addText(u"https://docs.larkspur.example/estimates/2026-042?view=print"_s, minute * 5);
-    world.addImage(room(), minute * 2);
-    world.addText(u"Deposit received, thank you! Your date is confirmed for Thursday at 9:30."_s,
-                  Seconds(12));
-    world.store.togglePin(booking);
-    world.store.togglePin(address);
+ClipItem image(const QString& fileName, Seconds ago) {
+    ClipItem item = clip(u"Image"_s, ago, ClipKind::image);
+    item.imageFileName = fileName;
+    return item;
+}
+
+ClipItem pinned(ClipItem item) {
+    item.pinned = true;
+    return item;
+}
+
+QList<ClipItem> sampleClips() {
+    return {
+        pinned(clip(u"Larkspur Interiors — 48 Alder Lane, studio 3, ring twice"_s, day * 22)),
+        pinned(clip(u"https://larkspur.example/booking"_s, day * 2, ClipKind::url)),
+        clip(u"Deposit received, thank you! Your date is confirmed for Thursday at 9:30."_s,
+             Seconds(12)),
+        image(u"room.png"_s, minute * 2),
+        clip(u"https://docs.larkspur.example/estimates/2026-042?view=print"_s, minute * 5,
+             ClipKind::url),
+        clip(u"Oak veneer panels, 18 mm, 2440 × 1220 — 6 sheets, matt lacquer"_s, minute * 14),
+        clip(u"git rebase --onto main feature/estimates~3 feature/estimates"_s, minute * 26),
+        image(u"plan.png"_s, minute * 41),
+        clip(u"ren@larkspur.example"_s, hour),
+        clip(u"Alcove measured twice: 1184 × 2310 mm, skirting 90 mm, socket on the left"_s,
+             hour * 2),
+        clip(u"https://maps.example/route/48-alder-lane"_s, hour * 3, ClipKind::url),
+    };
 }
 
 const auto note = u"Tuesday, site visit at Alder Lane\n"
@@ -142,8 +152,7 @@ void collect(const QQuickItem* item, const QString& path, QJsonObject& into) {
         if (!child->objectName().isEmpty() && child->isVisible()) {
             childPath = path.isEmpty() ? child->objectName() : path + u'/' + child->objectName();
             const QRectF rect = child->mapRectToScene(child->boundingRect());
-            into[childPath] =
-                QJsonArray{rect.x(), rect.y(), child->width(), child->height()};
+            into[childPath] = QJsonArray{rect.x(), rect.y(), child->width(), child->height()};
         }
         collect(child, childPath, into);
     }
@@ -152,6 +161,7 @@ void collect(const QQuickItem* item, const QString& path, QJsonObject& into) {
 void play(const QString& scene, UiWorld& world, PanelView& view) {
     QQuickWindow& window = view.window();
     if (scene == u"handle") {
+        settle();
         return;
     }
     world.controller.positionExpanded();
@@ -171,25 +181,32 @@ void play(const QString& scene, UiWorld& world, PanelView& view) {
         click(window, middle(window, u"noteInput"_s));
         find(window.contentItem(), u"noteInput"_s)
             ->setProperty("cursorPosition", static_cast<int>(note.size()));
+        settle(200); // The caret has not blinked yet.
+        return;
     }
     settle();
 }
 
-/// What lies behind the open panel on a screen of 1440 x 900, with the panel on it.
-QImage onScreen(const QImage& panel, const QString& behind) {
-    if (behind.isEmpty()) {
-        return panel;
+/// The part of a picture of the screen that lies behind the window. Painted in the window, because
+/// the offscreen platform has no transparent ones.
+class Behind : public QQuickPaintedItem {
+public:
+    Behind(QQuickWindow& window, const QString& file) : screen_(file) {
+        setParentItem(window.contentItem());
+        setZ(-1);
+        setSize({2000, 2000});
+        screen_.setDevicePixelRatio(window.devicePixelRatio());
     }
-    QImage screen(behind);
-    screen = screen.convertToFormat(QImage::Format_ARGB32_Premultiplied);
-    const double scale = panel.devicePixelRatio();
-    QImage bare = panel;
-    bare.setDevicePixelRatio(1);
-    QPainter painter(&screen);
-    painter.drawImage(QPointF(std::floor((screen.width() - bare.width()) / 2.0 / scale) * scale, 0),
-                      bare);
-    return screen;
-}
+
+    void paint(QPainter* painter) override {
+        const double left =
+            std::floor((screen_.deviceIndependentSize().width() - window()->width()) / 2);
+        painter->drawImage(QPointF(-left, 0), screen_);
+    }
+
+private:
+    QImage screen_;
+};
 
 void timeOpenings(int count, UiWorld& world, PanelView& view) {
     std::vector<double> calls;
@@ -237,11 +254,14 @@ int main(int argc, char** argv) {
     options.process(application);
     const QString scene = options.value(u"scene"_s);
 
-    UiWorld world;
+    StoreData data;
+    data.note = note;
     if (scene != u"empty") {
-        fillClips(world);
+        data.clips = sampleClips();
     }
-    world.store.setNote(note);
+    UiWorld world(data);
+    room().save(world.store.imagePath(u"room.png"_s));
+    plan().save(world.store.imagePath(u"plan.png"_s));
     world.settings.setLastTab(scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
     PanelView view;
     view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler},
@@ -252,16 +272,20 @@ int main(int argc, char** argv) {
                          UsageWindow{78, Date{now.sinceReference + 76.5 * 3600}});
     view.window().resize(200, 12);
     view.window().show();
+    view.window().requestActivate();
     world.scheduler.advance(Seconds(0.05));
     if (options.isSet(u"time"_s)) {
         timeOpenings(options.value(u"time"_s).toInt(), world, view);
         return 0;
     }
     play(scene, world, view);
+    std::optional<Behind> behind;
+    if (options.isSet(u"behind"_s)) {
+        behind.emplace(view.window(), options.value(u"behind"_s));
+    }
 
     if (options.isSet(u"png"_s)) {
-        const QImage picture = onScreen(view.window().grabWindow(), options.value(u"behind"_s));
-        if (!picture.save(options.value(u"png"_s))) {
+        if (!view.window().grabWindow().save(options.value(u"png"_s))) {
             qFatal("cannot write %s", qPrintable(options.value(u"png"_s)));
         }
     }

@@ -10,15 +10,19 @@
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
+#include "store/StoreFile.h"
 
-#include <QBuffer>
-#include <QImage>
+#include <QFile>
 #include <QTemporaryDir>
 
 namespace ravelo {
 
-/// Everything that the panel shows, in memory, on one screen of 1440 x 900.
+/// Everything that the panel shows, in memory, on one screen of 1440 x 900. The store begins with
+/// the given data.
 struct UiWorld {
+    explicit UiWorld(const StoreData& data = {})
+        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard}) {}
+
     QTemporaryDir folder;
     ManualScheduler scheduler;
     ManualWorker worker;
@@ -29,34 +33,26 @@ struct UiWorld {
     FakePointer pointer;
     FakeDragMonitor drags;
     FakePanelWindow window;
-    Store store{folder.path(), {scheduler, worker, preferences, pasteboard}};
+    Store store;
     AppSettings settings{preferences, loginItem};
     ClipboardManager clipboard{store, pasteboard, scheduler};
     NotchController controller{
         store, clipboard, settings, {scheduler, screens, pointer, drags, window}};
 
-    /// Adds a clip that was copied so long ago.
-    void addText(const QString& text, Seconds ago) {
-        at(ago, [&] { store.addClip(text); });
-    }
-
-    void addImage(const QImage& image, Seconds ago) {
-        QByteArray png;
-        QBuffer buffer(&png);
-        buffer.open(QIODevice::WriteOnly);
-        image.save(&buffer, "PNG");
-        const auto type = QStringLiteral("image/png");
-        at(ago, [&] { store.addImageClip({{type}, {{type, png}}}); });
-    }
-
 private:
-    template <typename Action>
-    void at(Seconds ago, Action action) {
-        const Date now = scheduler.now();
-        scheduler.setNow({now.sinceReference - ago.count()});
-        action();
-        scheduler.setNow(now);
+    static QString filled(const QTemporaryDir& folder, const StoreData& data) {
+        QFile file(folder.filePath(QStringLiteral("store.json")));
+        if (!file.open(QIODevice::WriteOnly) || file.write(encodeStore(data)) < 0) {
+            qFatal("cannot write %s", qPrintable(file.fileName()));
+        }
+        return folder.path();
     }
 };
+
+/// A clip that was copied so long before the virtual clock's start.
+inline ClipItem clip(const QString& text, Seconds ago, ClipKind kind = ClipKind::text) {
+    const Date copied{ManualScheduler().now().sinceReference - ago.count()};
+    return {QUuid::createUuid(), text, kind, copied, false, {}};
+}
 
 } // namespace ravelo

@@ -79,6 +79,7 @@ Item {
         width: Math.min(implicitWidth, end.x - 12 - x)
         style: Theme.rowTitle
         text: card.title
+        color: Theme.text1
     }
 
     Label {
@@ -102,7 +103,7 @@ Item {
             visible: !card.hovered
             y: 13
             width: 16
-            horizontalAlignment: Text.AlignHCenter
+            centred: true
             style: Theme.digit
             color: Theme.hint
             text: card.digit

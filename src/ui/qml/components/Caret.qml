@@ -5,13 +5,19 @@ import Ravelo
 Item {
     id: caret
 
-    property real above: 0
+    function rest() {
+        blink.on = true;
+        blink.restart();
+    }
 
     width: 1.5
+    onXChanged: rest()
+    onYChanged: rest()
     visible: parent !== null && (parent as Item).activeFocus
 
     Box {
-        y: caret.above
+        objectName: "caret"
+        x: 1
         width: 1.5
         height: parent.height
         color: Theme.accent
@@ -24,7 +30,6 @@ Item {
         interval: 500
         repeat: true
         running: caret.visible
-        onRunningChanged: on = true
         onTriggered: on = !on
     }
 }

@@ -20,7 +20,7 @@ Surface {
     Glyph {
         id: glyph
         x: 10
-        anchors.verticalCenter: parent.verticalCenter
+        y: 6.5
         size: 15
         symbol: chip.symbol
         color: Theme.text3
@@ -28,6 +28,7 @@ Surface {
 
     Label {
         id: label
+        objectName: "chipTitle"
         x: 31
         y: 6
         style: Theme.chip

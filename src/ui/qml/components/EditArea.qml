@@ -15,7 +15,7 @@ TextEdit {
     selectedTextColor: Theme.text1
     selectByMouse: true
     // The fixed line height puts the base line four fifths down, the style elsewhere.
-    topPadding: Theme.note.ascent - Theme.note.line * 0.8
+    topPadding: Theme.note.baseLine(1) - Theme.note.line * 0.8
     cursorDelegate: Caret {}
 
     LineSpacing {

@@ -31,6 +31,7 @@ TextInput {
         width: parent.width
         text: input.placeholder
         color: Theme.placeholder
+        style: Theme.body
     }
 
     PressWatch {

@@ -11,8 +11,10 @@ Item {
 
     Column {
         anchors.centerIn: parent
+        anchors.verticalCenterOffset: 2
 
         Box {
+            objectName: "emptyDisc"
             anchors.horizontalCenter: parent.horizontalCenter
             width: 64
             height: 64
@@ -35,6 +37,7 @@ Item {
             objectName: "emptyTitle"
             anchors.horizontalCenter: parent.horizontalCenter
             style: Theme.heading
+            color: Theme.text1
         }
         Item {
             width: 1

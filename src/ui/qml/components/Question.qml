@@ -101,6 +101,7 @@ Item {
             x: 16
             y: 14
             style: Theme.strong
+            color: Theme.text1
         }
 
         Row {

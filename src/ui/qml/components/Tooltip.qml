@@ -51,6 +51,7 @@ Item {
                 y: 6
                 style: Theme.small
                 text: tooltip.text // qmllint disable unqualified
+                color: Theme.text1
             }
         }
     }

@@ -12,6 +12,7 @@ FocusScope {
         y: 8
         text: "Quick note"
         color: Theme.caption
+        style: Theme.body
     }
 
     Box {
@@ -47,12 +48,10 @@ FocusScope {
                     }
                 }
                 onCursorRectangleChanged: {
-                    const line = cursorRectangle;
-                    if (line.y < view.contentY) {
-                        view.contentY = line.y;
-                    } else if (line.y + line.height > view.contentY + view.height) {
-                        view.contentY = line.y + line.height - view.height;
-                    }
+                    const lowest = cursorRectangle.y;
+                    const highest = lowest + cursorRectangle.height - view.height;
+                    const wanted = Math.max(highest, Math.min(view.contentY, lowest));
+                    view.contentY = Math.max(0, Math.min(wanted, view.contentHeight - view.height));
                 }
             }
         }

@@ -27,27 +27,25 @@ Item {
     Label {
         text: row.title
         style: Theme.strong
-    }
-
-    TabularText {
-        anchors.right: parent.right
-        anchors.rightMargin: row.resetWidth + 8
-        width: implicitWidth
-        height: 16
-        text: row.usage.percent
-        font: Theme.strong.font
-        ascent: Theme.strong.ascent
         color: Theme.text1
     }
 
-    TabularText {
+    Label {
+        anchors.right: parent.right
+        anchors.rightMargin: row.resetWidth + 8
+        text: row.usage.percent
+        style: Theme.strong
+        tabular: true
+        color: Theme.text1
+    }
+
+    Label {
         id: reset
         anchors.right: parent.right
-        width: implicitWidth
-        height: 16
         text: row.usage.reset
-        font: Theme.subtitle.font
-        ascent: Theme.strong.ascent
+        y: Theme.strong.baseLine(Screen.devicePixelRatio) - style.baseLine(Screen.devicePixelRatio)
+        style: Theme.subtitle
+        tabular: true
         color: Theme.text4
     }
 

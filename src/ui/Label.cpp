@@ -1,0 +1,159 @@
+#include "ui/Label.h"
+
+#include "ui/PaintNode.h"
+
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QTextLayout>
+
+#include <cmath>
+#include <utility>
+#include <vector>
+
+namespace ravelo {
+
+/// Text as it is drawn.
+struct GlyphLine {
+    struct Piece {
+        QGlyphRun glyphs; ///< Their base line at y 0.
+        double x = 0;
+    };
+
+    std::vector<Piece> pieces;
+    double width = 0;
+};
+
+namespace {
+
+void append(GlyphLine& line, const QString& text, const QFont& font, double cell) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    const QTextLine only = layout.createLine();
+    layout.endLayout();
+    const double width = only.horizontalAdvance();
+    const double x = line.width + (cell > 0 ? (cell - width) / 2 : 0);
+    for (QGlyphRun& run : layout.glyphRuns()) {
+        QList<QPointF> positions = run.positions();
+        for (QPointF& position : positions) {
+            position.ry() -= only.ascent();
+        }
+        run.setPositions(positions);
+        line.pieces.push_back({run, x});
+    }
+    line.width += cell > 0 ? cell : width;
+}
+
+/// Every digit in a cell as wide as "0".
+GlyphLine tabular(const QString& text, const QFont& font) {
+    GlyphLine line;
+    const double cell = QFontMetricsF(font).horizontalAdvance(u'0');
+    for (qsizetype start = 0; start < text.size();) {
+        qsizetype end = start;
+        while (end < text.size() && !text[end].isDigit()) {
+            ++end;
+        }
+        const bool digit = end == start;
+        end = digit ? start + 1 : end;
+        append(line, text.mid(start, end - start), font, digit ? cell : 0);
+        start = end;
+    }
+    return line;
+}
+
+GlyphLine proportional(const QString& text, const QFont& font) {
+    GlyphLine line;
+    append(line, text, font, 0);
+    return line;
+}
+
+class LabelNode final : public PaintNode {
+public:
+    using PaintNode::PaintNode;
+
+    void setText(std::shared_ptr<const GlyphLine> line, double indent, const LineMetrics& metrics) {
+        line_ = std::move(line);
+        indent_ = indent;
+        metrics_ = metrics;
+    }
+
+    void set(const QRectF& rect, const QColor& color) {
+        color_ = color;
+        changed(rect.adjusted(-2, -1, 2, 1)); // Letters may lean out of their line.
+    }
+
+protected:
+    void paint(QPainter& painter) override {
+        painter.setPen(color_);
+        const double scale = painter.device()->devicePixelRatio();
+        const double top = painter.transform().dy();
+        const double y = std::round((top + metrics_.baseLine(scale)) * scale) / scale - top;
+        for (const GlyphLine::Piece& piece : line_->pieces) {
+            painter.drawGlyphRun(QPointF(indent_ + piece.x, y), piece.glyphs);
+        }
+    }
+
+private:
+    std::shared_ptr<const GlyphLine> line_;
+    double indent_ = 0;
+    LineMetrics metrics_;
+    QColor color_;
+};
+
+} // namespace
+
+Label::Label(QQuickItem* parent) : QQuickItem(parent) {
+    setFlag(ItemHasContents);
+    connect(this, &Label::contentChanged, this, &Label::measure);
+    connect(this, &Label::colorChanged, this, &QQuickItem::update);
+}
+
+void Label::setStyle(TextStyle* style) {
+    style_ = style;
+    Q_EMIT contentChanged();
+}
+
+void Label::measure() {
+    if (style_.isNull()) {
+        return;
+    }
+    natural_ = std::make_shared<const GlyphLine>(tabular_ ? tabular(text_, style_->font())
+                                                          : proportional(text_, style_->font()));
+    setImplicitSize(natural_->width, style_->line());
+    glyphsAreStale_ = true;
+    update();
+}
+
+std::shared_ptr<const GlyphLine> Label::elided() const {
+    const QFont font = style_->font();
+    const QString shown = QFontMetricsF(font).elidedText(text_, Qt::ElideRight, width());
+    return std::make_shared<const GlyphLine>(proportional(shown, font));
+}
+
+void Label::geometryChange(const QRectF& now, const QRectF& before) {
+    QQuickItem::geometryChange(now, before);
+    if (now.size() != before.size()) {
+        glyphsAreStale_ = true;
+        update();
+    }
+}
+
+QSGNode* Label::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
+    if (text_.isEmpty() || style_.isNull()) {
+        delete old;
+        return nullptr;
+    }
+    auto* node = static_cast<LabelNode*>(old);
+    if (node == nullptr) {
+        node = new LabelNode(window());
+        glyphsAreStale_ = true;
+    }
+    if (std::exchange(glyphsAreStale_, false)) {
+        const auto line = natural_->width <= width() + 0.01 ? natural_ : elided();
+        const double indent = centred_ ? (width() - line->width) / 2 : 0;
+        node->setText(line, indent, style_->metrics());
+    }
+    node->set(boundingRect(), color_);
+    return node;
+}
+
+} // namespace ravelo

@@ -1,0 +1,59 @@
+#pragma once
+
+#include "ui/TextStyle.h"
+
+#include <QColor>
+#include <QPointer>
+#include <QQuickItem>
+
+#include <memory>
+
+namespace ravelo {
+
+struct GlyphLine;
+
+/// One line of plain text in a type style, elided where the item is too narrow, in a box as high as
+/// the style's line.
+///
+/// Stands in for Text, which knows neither lines of a fixed height nor digits of one width, and
+/// costs more.
+class Label : public QQuickItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QString text MEMBER text_ NOTIFY contentChanged)
+    Q_PROPERTY(ravelo::TextStyle* style READ style WRITE setStyle NOTIFY contentChanged)
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY colorChanged)
+    Q_PROPERTY(bool centred MEMBER centred_ NOTIFY contentChanged)
+    /// All digits as wide as "0", so that the text does not tremble as it counts. (Qt 6.4 cannot
+    /// ask a font for its tabular digits.)
+    Q_PROPERTY(bool tabular MEMBER tabular_ NOTIFY contentChanged)
+
+public:
+    explicit Label(QQuickItem* parent = nullptr);
+
+    [[nodiscard]] TextStyle* style() const { return style_; }
+
+    void setStyle(TextStyle* style);
+
+Q_SIGNALS:
+    void contentChanged();
+    void colorChanged();
+
+protected:
+    QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
+    void geometryChange(const QRectF& now, const QRectF& before) override;
+
+private:
+    void measure();
+    [[nodiscard]] std::shared_ptr<const GlyphLine> elided() const;
+
+    QString text_;
+    QPointer<TextStyle> style_;
+    QColor color_ = Qt::white;
+    bool centred_ = false;
+    bool tabular_ = false;
+    std::shared_ptr<const GlyphLine> natural_; ///< As wide as it wants to be.
+    bool glyphsAreStale_ = true;
+};
+
+} // namespace ravelo
