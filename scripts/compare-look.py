@@ -1,0 +1,169 @@
+#!/usr/bin/env python3
+"""Measures the panel against the drawings of its look.
+
+    scripts/compare-look.py DRAWINGS [PROBE]
+
+DRAWINGS is the folder with the drawings' HTML, PROBE the built panel_probe. Prints, for every
+element, its rectangle in the drawing (measured by a headless chromium) and in the panel, in logical
+pixels from the panel's top left, and exits 1 where any of the four differs by more than one pixel.
+"""
+
+import json
+import os
+import pathlib
+import re
+import subprocess
+import sys
+import tempfile
+
+TOLERANCE = 1.0
+
+# scene of the probe, drawing, origin in the drawing, then: our element, its CSS selector, and which
+# of x, y, width, height count. A selector that ends in "|text" is measured by its letters: as wide
+# as they are, as high as its box.
+ALL = "xywh"
+SCENES = [
+    ("clipboard", "03a-clipboard.html", ".panel", [
+        ("panel", ".panel", ALL),
+        ("usage", ".usage", ALL),
+        ("usage/usageSession", ".urow:nth-child(1)", ALL),
+        ("usage/usageSession/track", ".urow:nth-child(1) .track", ALL),
+        ("usage/usageWeek", ".urow:nth-child(2)", ALL),
+        ("usage/usageWeek/track", ".urow:nth-child(2) .track", ALL),
+        ("tabs", ".tabs", ALL),
+        ("search", ".search", ALL),
+        ("search/searchIcon", ".search > i", ALL),
+        ("search/searchInput", ".search|text", "x"),
+        ("search/trash", ".search .tr", ALL),
+        ("strip", ".strip .sc", ALL),
+        ("strip/chip0", ".chip:nth-child(1)", ALL),
+        ("strip/chip0/chipTitle", ".chip:nth-child(1) .tt|text", ALL),
+        ("strip/chip4", ".chip:nth-child(5)", ALL),
+        ("list", ".list", ALL),
+    ] + [
+        (f"list/card{i}{ours}", f".card:nth-child({i + 1}){theirs}", which)
+        for i in range(6)
+        for ours, theirs, which in (
+            ("", "", ALL),
+            ("/tile", " .g", ALL),
+            ("/title", " .ti|text", ALL),
+            ("/subtitle", " .su|text", ALL),
+            ("/digit", " .k", "xw"),
+        )
+        if not (i == 3 and ours == "/digit")  # The drawing's pointer is over this one.
+    ]),
+    ("hover", "03a-clipboard.html", ".panel", [
+        ("list/card3", ".card.hov", ALL),
+        ("list/card3/pin", ".card.hov .mini:nth-child(1)", ALL),
+        ("list/card3/delete", ".card.hov .mini:nth-child(2)", ALL),
+    ]),
+    ("toast", "10-toast.html", ".panel", [
+        ("toast", ".toast", ALL),
+    ]),
+    ("question", "04-timer-search-confirm.html", ".panel", [
+        ("question", ".pop", ALL),
+        ("question/no", ".pop .btn:nth-child(1)", ALL),
+        ("question/yes", ".pop .btn:nth-child(2)", ALL),
+    ]),
+    ("empty", "05-clipboard-empty.html", ".panel", [
+        ("emptyDisc", ".empty .o", ALL),
+        ("emptyTitle", ".empty b", ALL),
+        ("emptySubtitle", ".empty span:last-child", ALL),
+    ]),
+    ("notes", "06-notes.html", ".panel", [
+        ("caption", ".cap|text", ALL),
+        ("editor", ".editor", ALL),
+        ("editor/noteInput/caret", ".caret", ALL),
+    ]),
+    ("handle", "01-handle.html", "svg.abs", [
+        ("handle", "svg.abs", ALL),
+        ("handle/grip", "svg.abs rect", ALL),
+    ]),
+]
+
+MEASURE = """
+<script>document.fonts.ready.then(() => {
+const origin = document.querySelector(ORIGIN).getBoundingClientRect();
+const measured = SELECTORS.map(selector => {
+    const [css, how] = selector.split("|");
+    const element = document.querySelector(css);
+    if (!element) return null;
+    const box = element.getBoundingClientRect();
+    let across = box;
+    if (how === "text") {
+        const walker = document.createTreeWalker(element, NodeFilter.SHOW_TEXT,
+            node => node.parentElement.tagName === "I" ? NodeFilter.FILTER_SKIP
+                                                       : NodeFilter.FILTER_ACCEPT);
+        const range = document.createRange();
+        range.selectNodeContents(walker.nextNode());
+        across = range.getBoundingClientRect();
+    }
+    return [across.x - origin.x, box.y - origin.y, across.width, box.height];
+});
+const out = document.createElement("pre");
+out.id = "measured";
+out.textContent = JSON.stringify(measured);
+document.body.append(out);
+});</script>
+"""
+
+
+def drawn(folder, drawing, origin, selectors):
+    """The rectangles of `selectors` in a drawing."""
+    page = (folder / drawing).read_text()
+    page = page.replace('href="ravelo.css"', f'href="{(folder / "ravelo.css").resolve().as_uri()}"')
+    script = MEASURE.replace("ORIGIN", json.dumps(origin)).replace("SELECTORS",
+                                                                    json.dumps(selectors))
+    with tempfile.TemporaryDirectory() as scratch:
+        file = pathlib.Path(scratch) / drawing
+        file.write_text(page + script)
+        dom = subprocess.run(
+            ["chromium", "--headless", "--no-sandbox", "--disable-gpu", f"--user-data-dir={scratch}",
+             "--allow-file-access-from-files", "--window-size=1440,900",
+             "--virtual-time-budget=2000", "--dump-dom", file.as_uri()],
+            check=True, capture_output=True, text=True, timeout=120).stdout
+    found = re.search(r'<pre id="measured">(.*?)</pre>', dom, re.S)
+    if not found:
+        sys.exit(f"{drawing} could not be measured")
+    return json.loads(found.group(1))
+
+
+def shown(probe, scene):
+    """The rectangles of all named elements of the panel."""
+    environment = dict(os.environ, QT_QPA_PLATFORM="offscreen")
+    return json.loads(subprocess.run([probe, "--scene", scene], check=True, capture_output=True,
+                                     text=True, timeout=120, env=environment).stdout)
+
+
+def compare(folder, probe):
+    worst = 0.0
+    count = 0
+    for scene, drawing, origin, elements in SCENES:
+        theirs = drawn(folder, drawing, origin, [selector for _, selector, _ in elements])
+        ours = shown(probe, scene)
+        print(f"\n{scene} ({drawing})")
+        for (name, selector, which), there in zip(elements, theirs):
+            here = ours.get(name)
+            if there is None or here is None:
+                sys.exit(f"{name} or {selector} is missing")
+            pairs = [(h, t) for key, h, t in zip(ALL, here, there) if key in which]
+            difference = max(abs(h - t) for h, t in pairs)
+            worst = max(worst, difference)
+            count += 1
+            numbers = [" ".join(f"{value:7.1f}" for value in rect) for rect in (there, here)]
+            mark = "  <" if difference > TOLERANCE else ""
+            print(f"{name:26} {numbers[0]}  {numbers[1]}  {difference:5.2f}{mark}")
+    print(f"\n{count} elements, largest difference {worst:.2f} px")
+    return worst <= TOLERANCE
+
+
+def main():
+    if not 2 <= len(sys.argv) <= 3:
+        sys.exit(__doc__)
+    root = pathlib.Path(__file__).resolve().parent.parent
+    probe = sys.argv[2] if len(sys.argv) == 3 else root / "build/dev/tests/ui/panel_probe"
+    sys.exit(0 if compare(pathlib.Path(sys.argv[1]), probe) else 1)
+
+
+if __name__ == "__main__":
+    main()
