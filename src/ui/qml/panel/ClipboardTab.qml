@@ -25,6 +25,14 @@ FocusScope {
         }
     }
 
+    // What was copied while this was hidden has pushed the rows on.
+    onShownChanged: {
+        if (shown) {
+            list.currentIndex = 0;
+            list.positionViewAtBeginning();
+        }
+    }
+
     Keys.onUpPressed: list.currentIndex = Math.max(0, list.currentIndex - 1)
     Keys.onDownPressed: list.currentIndex = Math.min(list.count - 1, list.currentIndex + 1)
     Keys.onReturnPressed: copy(list.currentIndex)
