@@ -1,13 +1,17 @@
 """The whole program on a desktop of its own: what was copied is kept, and the panel gives it back.
 
-RAVELO names the program, QT_PEER the Qt program to copy from (both made by the build).
+RAVELO names the program, QT_PEER the Qt program to copy from and SELECTION_OWNER the one that hangs
+(all made by the build).
 """
 
 import os
 import signal
 import statistics
+import subprocess
 import time
 import unittest
+
+from gi.repository import Gio, GLib
 
 from desktop import WIDTH, Desktop, Ravelo, wait_for
 
@@ -218,6 +222,54 @@ class Panel(ProgramCase):
         self.desktop.type("a")
         self.assertEqual(window.stdout.readline().strip(), "a", "typed into the other window")
         self.assertEqual(self.desktop.focused_window(), focus)
+
+
+class HungOwner(ProgramCase):
+    """Owners of the clipboard that never finish an answer, while a text field has the keyboard."""
+
+    STALL_LIMIT = 0.05  # Seconds for which the main thread may be away.
+    BEHAVIOURS = ("silent", "targetsOnly", "stallsInPieces", "dieAfterTargets")
+
+    def own(self, behaviour):
+        owner = self.desktop.spawn(os.environ["SELECTION_OWNER"], "CLIPBOARD", behaviour,
+                                   "UTF8_STRING=fill:300000", stdin=subprocess.PIPE,
+                                   stdout=subprocess.PIPE, text=True)
+        self.assertTrue(owner.stdout.readline(), "the owner took the clipboard")
+
+    def longest_stall(self, seconds):
+        """Asks the program's main thread something all the time: the longest it was away."""
+        bus = Gio.DBusConnection.new_for_address_sync(
+            self.desktop.env["DBUS_SESSION_BUS_ADDRESS"],
+            Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
+        longest, end = 0, time.monotonic() + seconds
+        while time.monotonic() < end:
+            begin = time.monotonic()
+            bus.call_sync("org.ravelo.Ravelo", "/org/ravelo/Ravelo", "org.freedesktop.Application",
+                          "Activate", GLib.Variant("(a{sv})", ({},)), None,
+                          Gio.DBusCallFlags.NONE, 5000, None)
+            longest = max(longest, time.monotonic() - begin)
+        bus.close_sync(None)
+        return longest
+
+    def test_it_stalls_nothing_and_the_next_copy_is_kept(self):
+        self.ravelo.start()
+        for behaviour in self.BEHAVIOURS:
+            with self.subTest(behaviour):
+                panel = self.ravelo.open()
+                self.desktop.click(panel.x + 300, SEARCH)
+                self.own(behaviour)
+                self.desktop.key("ctrl+v")
+                self.assertLess(self.longest_stall(2), self.STALL_LIMIT)
+                self.desktop.type("typed")
+                self.copy_and_wait("after " + behaviour)
+                self.desktop.click(panel.x - 20, 300)
+                wait_for(self.ravelo.is_collapsed, "the closed panel")
+                self.own(behaviour)
+                self.ravelo.open()
+                self.desktop.click(panel.x - 20, 300)
+                wait_for(self.ravelo.is_collapsed, "the closed panel")
+                self.desktop.move(100, 800)
 
 
 class CommandLine(ProgramCase):
