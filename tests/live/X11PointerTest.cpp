@@ -74,16 +74,15 @@ TEST_P(PointerAction, countsAsAPressUntilItWasSeen) {
 
 INSTANTIATE_TEST_SUITE_P(
     Actions, PointerAction,
-    testing::Values(ActionCase{"LeftClick", {u"click"_s, u"1"_s}, {u"press"_s, u"wake"_s}, true},
-                    ActionCase{"MiddleClick", {u"click"_s, u"2"_s}, {u"wake"_s}, true},
-                    ActionCase{"RightClick", {u"click"_s, u"3"_s}, {u"press"_s, u"wake"_s}, true},
-                    ActionCase{"WheelUp", {u"click"_s, u"4"_s}, {}, false},
-                    ActionCase{"WheelDown", {u"click"_s, u"5"_s}, {}, false},
-                    ActionCase{"SideButton", {u"click"_s, u"8"_s}, {}, false},
-                    ActionCase{
-                        "Motion", {u"mousemove_relative"_s, u"5"_s, u"5"_s}, {u"wake"_s}, false},
-                    ActionCase{
-                        "MovedByAProgram", {u"mousemove"_s, u"30"_s, u"40"_s}, {u"wake"_s}, false}),
+    testing::Values(
+        ActionCase{"LeftClick", {u"click"_s, u"1"_s}, {u"press"_s, u"wake"_s}, true},
+        ActionCase{"MiddleClick", {u"click"_s, u"2"_s}, {u"wake"_s}, true},
+        ActionCase{"RightClick", {u"click"_s, u"3"_s}, {u"press"_s, u"wake"_s}, true},
+        ActionCase{"WheelUp", {u"click"_s, u"4"_s}, {}, false},
+        ActionCase{"WheelDown", {u"click"_s, u"5"_s}, {}, false},
+        ActionCase{"SideButton", {u"click"_s, u"8"_s}, {}, false},
+        ActionCase{"Motion", {u"mousemove_relative"_s, u"5"_s, u"5"_s}, {u"wake"_s}, false},
+        ActionCase{"MovedByAProgram", {u"mousemove"_s, u"30"_s, u"40"_s}, {u"wake"_s}, false}),
     [](const auto& tested) { return tested.param.name; });
 
 TEST_F(X11PointerTest, wakesForAMoveThatCameBetweenTheLastLookAndTheQuestion) {

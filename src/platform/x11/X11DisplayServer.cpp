@@ -26,7 +26,8 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
       listener_(std::move(listener)),
       pasteboard_(*listener_),
       drags_(*listener_),
-      pointer_(*connection_, *listener_, [this](QPoint place) { return screens_.toLogical(place); }) {
+      pointer_(*connection_, *listener_,
+               [this](QPoint place) { return screens_.toLogical(place); }) {
     listener_->start();
 }
 

@@ -19,9 +19,13 @@ public:
     [[nodiscard]] static Result<std::unique_ptr<X11DisplayServer>> create();
 
     [[nodiscard]] Pasteboard& pasteboard() override { return pasteboard_; }
+
     [[nodiscard]] Pointer& pointer() override { return pointer_; }
+
     [[nodiscard]] DragMonitor& drags() override { return drags_; }
+
     [[nodiscard]] Screens& screens() override { return screens_; }
+
     [[nodiscard]] std::unique_ptr<PanelWindow> panelWindow(QWindow& window) override;
 
 private:
