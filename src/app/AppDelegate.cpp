@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "base/Files.h"
 #include "clipboard/ClipboardManager.h"
 #include "panel/NotchController.h"
 #include "platform/DisplayServer.h"
@@ -45,6 +46,7 @@ void flushAtExit() {
 
 AppDelegate::AppDelegate(DisplayServer& display)
     : display_(display),
+      dataLock_(dataFolder() + u"/lock"_s),
       scheduler_(std::make_unique<SystemScheduler>()),
       worker_(std::make_unique<WorkerThread>()),
       preferences_(std::make_unique<PreferenceFile>(configFolder() + u"/ravelo/preferences.json"_s,
@@ -57,7 +59,12 @@ AppDelegate::~AppDelegate() {
     flushedAtExit = nullptr;
 }
 
-void AppDelegate::applicationDidFinishLaunching() {
+Result<void> AppDelegate::applicationDidFinishLaunching() {
+    makePrivateFolder(dataFolder());
+    dataLock_.setStaleLockTime(0); // Held for as long as its process lives.
+    if (!dataLock_.tryLock() && dataLock_.error() == QLockFile::LockFailedError) {
+        return failure(u"Ravelo runs in another session and uses "_s + dataFolder());
+    }
     store_ = std::make_unique<Store>(
         dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_, display_.pasteboard()});
     flushedAtExit = this;
@@ -77,6 +84,7 @@ void AppDelegate::applicationDidFinishLaunching() {
                                   display_.drags(), *window_});
     view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_}, QLocale());
     wire();
+    return {};
 }
 
 void AppDelegate::wire() {

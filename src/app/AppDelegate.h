@@ -1,7 +1,9 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "base/Result.h"
 
+#include <QLockFile>
 #include <QString>
 
 #include <memory>
@@ -29,7 +31,8 @@ public:
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
 
-    void applicationDidFinishLaunching();
+    /// An error where another session of this user has the data in use.
+    [[nodiscard]] Result<void> applicationDidFinishLaunching();
 
     /// What another start of the program asked for: "toggle", "quit", or to be shown.
     void perform(const QString& action);
@@ -41,6 +44,7 @@ private:
     void wire();
 
     DisplayServer& display_;
+    QLockFile dataLock_; ///< Two programs that rewrite one store file would undo each other.
     std::unique_ptr<Scheduler> scheduler_;
     std::unique_ptr<Worker> worker_;
     std::unique_ptr<Preferences> preferences_;

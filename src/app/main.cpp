@@ -43,7 +43,11 @@ int run(Command command, int argc, char** argv) {
 
     const auto instance = SingleInstance::claim();
     if (!instance) {
-        return SingleInstance::send(actionOf(command)) ? 0 : 1;
+        if (SingleInstance::send(actionOf(command))) {
+            return 0;
+        }
+        say(stderr, u"ravelo: another Ravelo runs but does not answer\n"_s);
+        return 1;
     }
     auto display = x11::X11DisplayServer::create();
     if (!display) {
@@ -51,7 +55,10 @@ int run(Command command, int argc, char** argv) {
         return 1;
     }
     AppDelegate delegate(**display);
-    delegate.applicationDidFinishLaunching();
+    if (const auto launched = delegate.applicationDidFinishLaunching(); !launched) {
+        say(stderr, u"ravelo: "_s + launched.error().message + u"\n"_s);
+        return 1;
+    }
     instance->onAction = [&](const QString& action) {
         delegate.perform(action);
     };

@@ -36,7 +36,7 @@ bool isConcealed(const PasteboardSnapshot& snapshot) {
         return false;
     }
     const auto hint = snapshot.answers.value(passwordHint);
-    return !hint || *hint == "secret";
+    return !hint || hint->trimmed().startsWith("secret");
 }
 
 QString capturedText(const PasteboardSnapshot& snapshot) {

@@ -32,6 +32,7 @@ ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Schedul
 void ClipboardManager::start() {
     timer_ = scheduler_.every(pollInterval, [this] { poll(); });
     notice_ = pasteboard_.onChange([this] { poll(); });
+    QObject::connect(&store_, &Store::cleared, &context_, [this] { reads_.clear(); });
 }
 
 void ClipboardManager::poll() {

@@ -3,6 +3,8 @@
 #include "base/Handle.h"
 #include "platform/Pasteboard.h"
 
+#include <QObject>
+
 #include <map>
 
 namespace ravelo {
@@ -38,6 +40,7 @@ private:
     qint64 suppressUntilCount_ = -1; ///< The change that we made ourselves.
     Handle timer_;
     Handle notice_;
+    QObject context_;
     std::map<qint64, Handle>
         reads_; ///< By change count; those up to the newest answer are settled.
 };

@@ -177,6 +177,7 @@ void Store::deleteClip(const QUuid& id) {
 
 void Store::clearClips() {
     ++clearings_;
+    Q_EMIT cleared();
     apply(ClipHistory::cleared(data_.clips));
 }
 

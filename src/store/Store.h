@@ -80,6 +80,7 @@ public:
     void flush();
 
 Q_SIGNALS:
+    void cleared(); ///< The user wants all of it gone, also what is still being read.
     void clipsChanged();
     void snippetsChanged();
     void noteChanged();

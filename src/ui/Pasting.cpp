@@ -15,8 +15,8 @@ QString textOnly(const PasteboardSnapshot& seen) {
     return wanted ? QString(plainTextType) : QString();
 }
 
-QString onOneLine(QString text) {
-    return text.replace(u"\r\n"_s, u" "_s).replace(u'\n', u' ').replace(u'\r', u' ');
+QString withBreaks(QString text, QChar lineBreak) {
+    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(u'\n', lineBreak);
 }
 
 void replaceSelection(QQuickItem& field, const QString& text) {
@@ -30,15 +30,17 @@ void replaceSelection(QQuickItem& field, const QString& text) {
 } // namespace
 
 void Pasting::into(QQuickItem* field, Lines lines) {
-    reading_ = pasteboard_.read(
-        textOnly, [target = QPointer(field), lines](const PasteboardSnapshot& snapshot) {
-            const auto bytes = snapshot.answers.value(plainTextType);
-            if (target.isNull() || !bytes) {
-                return;
-            }
-            const QString text = QString::fromUtf8(*bytes);
-            replaceSelection(*target, lines == OneLine ? onOneLine(text) : text);
-        });
+    const int number = ++pastes_;
+    readings_[number] = pasteboard_.read(textOnly, [this, number, target = QPointer(field),
+                                                    lines](const PasteboardSnapshot& snapshot) {
+        readings_.erase(readings_.begin(), readings_.upper_bound(number));
+        const auto bytes = snapshot.answers.value(plainTextType);
+        if (target.isNull() || !bytes) {
+            return;
+        }
+        const QString text = QString::fromUtf8(*bytes);
+        replaceSelection(*target, withBreaks(text, lines == OneLine ? u' ' : u'\n'));
+    });
 }
 
 } // namespace ravelo

@@ -6,6 +6,8 @@
 #include <QQmlEngine>
 #include <QQuickItem>
 
+#include <map>
+
 namespace ravelo {
 
 class Pasteboard;
@@ -30,7 +32,8 @@ public:
 
 private:
     Pasteboard& pasteboard_;
-    Handle reading_;
+    int pastes_ = 0;
+    std::map<int, Handle> readings_; ///< By number; those up to the newest answer are settled.
 };
 
 } // namespace ravelo

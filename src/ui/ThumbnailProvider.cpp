@@ -33,8 +33,13 @@ QImage thumbnail(const QString& path, QSize size, double radius) {
     if (natural.isEmpty() || size.isEmpty()) {
         return {};
     }
-    const QSize covering = natural.scaled(size, Qt::KeepAspectRatioByExpanding);
-    reader.setScaledSize(covering);
+    // The part that shows is cut out first: scaling all of a very long picture would fill the
+    // memory.
+    const QSize part = size.scaled(natural, Qt::KeepAspectRatio).expandedTo({1, 1});
+    const QPoint corner((natural.width() - part.width()) / 2,
+                        (natural.height() - part.height()) / 2);
+    reader.setClipRect(QRect(corner, part));
+    reader.setScaledSize(size);
     const QImage picture = reader.read();
     if (picture.isNull()) {
         return {};
@@ -43,10 +48,7 @@ QImage thumbnail(const QString& path, QSize size, double radius) {
     rounded.fill(Qt::transparent);
     QPainter painter(&rounded);
     painter.setRenderHint(QPainter::Antialiasing);
-    QBrush brush(picture);
-    brush.setTransform(QTransform::fromTranslate((size.width() - covering.width()) / 2.0,
-                                                 (size.height() - covering.height()) / 2.0));
-    painter.setBrush(brush);
+    painter.setBrush(QBrush(picture));
     painter.setPen(Qt::NoPen);
     painter.drawRoundedRect(QRectF(QPointF(0, 0), size), radius, radius);
     return rounded;

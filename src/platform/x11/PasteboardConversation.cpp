@@ -68,8 +68,10 @@ QList<QByteArray> PasteboardConversation::targetsFor(const QString& type) const 
 
 void PasteboardConversation::takeTargets(const QByteArray& atoms) {
     const qsizetype size = sizeof(xcb_atom_t);
-    std::vector<xcb_atom_t> targets(
-        static_cast<std::size_t>(std::min(atoms.size() / size, mostTargets)));
+    if (atoms.size() / size > mostTargets) {
+        return; // A mark of secrecy could be among those that are not looked at.
+    }
+    std::vector<xcb_atom_t> targets(static_cast<std::size_t>(atoms.size() / size));
     std::copy_n(atoms.constData(), targets.size() * sizeof(xcb_atom_t),
                 reinterpret_cast<char*>(targets.data()));
     for (const QByteArray& name : connection_.names(targets)) {

@@ -41,8 +41,9 @@ FocusScope {
                 height: Math.max(implicitHeight, view.height)
                 host: tab.host
                 text: tab.host.store.note
+                // By the user only: what the editor makes of a stored note is no change of it.
                 onTextChanged: {
-                    if (text !== tab.host.store.note) {
+                    if (activeFocus && text !== tab.host.store.note) {
                         tab.host.store.note = text;
                         tab.host.store.save();
                     }

@@ -7,6 +7,10 @@ Item {
 
     required property PanelHost host
 
+    HoverHandler {
+        onHoveredChanged: panel.host.controller.setHovered(hovered)
+    }
+
     HandleView {
         objectName: "handle"
         anchors.fill: parent
