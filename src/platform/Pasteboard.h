@@ -52,8 +52,8 @@ public:
 
     /// Reads what the present owner offers: first the list of types, then what `plan` asks for,
     /// each with a time-out. `done` is called once, later, on the main thread; never where the
-    /// owner changed meanwhile or the handle was dropped. Costs the main thread nothing, whatever
-    /// the owner does.
+    /// owner changed before all was read or the handle was dropped. Costs the main thread nothing,
+    /// whatever the owner does.
     [[nodiscard]] virtual Handle read(PasteboardPlan plan,
                                       std::function<void(PasteboardSnapshot)> done) = 0;
 

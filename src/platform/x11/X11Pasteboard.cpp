@@ -33,12 +33,15 @@ X11Pasteboard::X11Pasteboard(Listener& listener)
 Handle X11Pasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSnapshot)> done) {
     const auto key = ++nextKey_;
     const qint64 count = counter_->value();
-    reads_->insert({key, {count, std::move(done)}});
-    auto finish = [&listener = listener_, counter = counter_, reads = std::weak_ptr(reads_),
+    reads_->insert({key, std::move(done)});
+    // What was read whole is told even where the owner has changed since: a main thread that is
+    // behind loses no copy.
+    auto finish = [&listener = listener_, reads = std::weak_ptr(reads_),
                    key](PasteboardSnapshot snapshot) {
-        listener.tell([counter, reads, key, snapshot = std::move(snapshot)]() mutable {
-            if (const auto alive = reads.lock()) {
-                deliver(*alive, key, counter->value(), std::move(snapshot));
+        listener.tell([reads, key, snapshot = std::move(snapshot)]() mutable {
+            const auto alive = reads.lock();
+            if (const auto read = alive ? alive->extract(key) : Reads::node_type(); !read.empty()) {
+                read.mapped()(std::move(snapshot));
             }
         });
     };
@@ -57,14 +60,6 @@ Handle X11Pasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSna
             listener.post([watch, key] { watch->reader().cancel(key); });
         }
     });
-}
-
-void X11Pasteboard::deliver(Reads& reads, SelectionReader::Key key, qint64 changeCount,
-                            PasteboardSnapshot snapshot) {
-    const auto read = reads.extract(key);
-    if (!read.empty() && read.mapped().changeCount == changeCount) {
-        read.mapped().done(std::move(snapshot));
-    }
 }
 
 void X11Pasteboard::write(const QList<PasteboardEntry>& forms) {

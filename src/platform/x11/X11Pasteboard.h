@@ -36,15 +36,8 @@ public:
     void write(const QList<PasteboardEntry>& forms) override;
 
 private:
-    struct PendingRead {
-        qint64 changeCount; ///< What is read is this one or nothing.
-        std::function<void(PasteboardSnapshot)> done;
-    };
+    using Reads = std::map<SelectionReader::Key, std::function<void(PasteboardSnapshot)>>;
 
-    using Reads = std::map<SelectionReader::Key, PendingRead>;
-
-    static void deliver(Reads& reads, SelectionReader::Key key, qint64 changeCount,
-                        PasteboardSnapshot snapshot);
     void markWrite();
 
     Listener& listener_;
