@@ -6,7 +6,7 @@
 #include <QQuickItem>
 #include <QQuickWindow>
 
-#include <optional>
+#include <memory>
 #include <ostream>
 
 using namespace Qt::StringLiterals;
@@ -19,8 +19,10 @@ namespace {
 class FocusTest : public PanelFixture {
 public:
     FocusTest() {
-        other.emplace(OtherWindow::Kind::normal, QRect(1000, 600, 300, 200));
-        previous.emplace(OtherWindow::Kind::normal, QRect(300, 600, 300, 200));
+        other =
+            std::make_unique<OtherWindow>(OtherWindow::Kind::normal, QRect(1000, 600, 300, 200));
+        previous =
+            std::make_unique<OtherWindow>(OtherWindow::Kind::normal, QRect(300, 600, 300, 200));
     }
 
     void SetUp() override { show(u"DUMMY0"_s, {400, 200}); }
@@ -38,8 +40,8 @@ public:
         static_cast<void>(server.focus()); // At the answer it is done.
     }
 
-    std::optional<OtherWindow> other;
-    std::optional<OtherWindow> previous;
+    std::unique_ptr<OtherWindow> other;
+    std::unique_ptr<OtherWindow> previous;
 };
 
 TEST_F(FocusTest, TypingArrivesWhileItIsBorrowed) {
@@ -139,7 +141,7 @@ TEST_F(PanelFixture, ATextFieldTakesWhatIsTyped) {
                      [&] { quickPanel.requestFocus(); });
     const OtherWindow editor(OtherWindow::Kind::normal, {300, 600, 300, 200});
 
-    quickPanel.place(*screens.main(), {400, 200});
+    quickPanel.place(screens.monitor(u"DUMMY0"_s)->screen, {400, 200});
     quickPanel.orderFront();
     const auto quickId = static_cast<xcb_window_t>(quick.winId());
     ASSERT_TRUE(eventually([&] { return server.isViewable(quickId); }));

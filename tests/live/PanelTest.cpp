@@ -80,8 +80,8 @@ struct ClickCase {
     QPointF place; ///< In the window's logical pixels.
     bool isPanels;
 
-    friend void PrintTo(const ClickCase& each, std::ostream* out) {
-        *out << each.place.x() << "," << each.place.y();
+    friend std::ostream& operator<<(std::ostream& out, const ClickCase& each) {
+        return out << each.place.x() << "," << each.place.y();
     }
 };
 

@@ -14,7 +14,7 @@ namespace {
 /// A variable of the environment, for one test.
 class Variable {
 public:
-    Variable(const char* name, std::optional<QByteArray> value)
+    Variable(const char* name, const std::optional<QByteArray>& value)
         : name_(name), before_(qgetenv(name)), wasSet_(qEnvironmentVariableIsSet(name)) {
         set(value);
     }
@@ -40,7 +40,9 @@ struct SessionCase {
     std::optional<QByteArray> platform;
     QByteArray chosen;
 
-    friend void PrintTo(const SessionCase& each, std::ostream* out) { *out << each.name; }
+    friend std::ostream& operator<<(std::ostream& out, const SessionCase& each) {
+        return out << each.name;
+    }
 };
 
 class PrepareApplicationTest : public testing::TestWithParam<SessionCase> {};

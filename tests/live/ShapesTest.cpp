@@ -76,8 +76,8 @@ struct PointCase {
     QPoint native;
     QPointF logical;
 
-    friend void PrintTo(const PointCase& each, std::ostream* out) {
-        *out << each.native.x() << "," << each.native.y();
+    friend std::ostream& operator<<(std::ostream& out, const PointCase& each) {
+        return out << each.native.x() << "," << each.native.y();
     }
 };
 
@@ -109,8 +109,8 @@ struct PixelCase {
     QPoint pixel;
     bool covered;
 
-    friend void PrintTo(const PixelCase& each, std::ostream* out) {
-        *out << each.pixel.x() << "," << each.pixel.y() << " at scale " << each.scale;
+    friend std::ostream& operator<<(std::ostream& out, const PixelCase& each) {
+        return out << each.pixel.x() << "," << each.pixel.y() << " at scale " << each.scale;
     }
 };
 

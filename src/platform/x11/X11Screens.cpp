@@ -167,6 +167,7 @@ void X11Screens::findBars() {
 
 std::vector<Strut> X11Screens::readStruts() {
     std::vector<std::pair<PropertyRequest, PropertyRequest>> requests;
+    requests.reserve(bars_.size());
     for (const xcb_window_t window : bars_) {
         requests.emplace_back(PropertyRequest(connection_, window, strutPartial_),
                               PropertyRequest(connection_, window, strut_));
