@@ -1,5 +1,7 @@
 #include "ListenerSession.h"
 
+#include <QClipboard>
+
 #include <ostream>
 #include <utility>
 
@@ -215,6 +217,17 @@ TEST_F(X11PasteboardTest, servesAnImageByteForByte) {
         Client text(u"xclip"_s, {u"-o"_s, u"-selection"_s, u"clipboard"_s, u"-t"_s, target});
         EXPECT_EQ(text.finish(), "words") << qPrintable(target);
     }
+}
+
+TEST_F(X11PasteboardTest, keepsTextFieldsFromReadingWhateverIsCopied) {
+    const live::NoticesOfQt noticesOfQt(*session_.connection);
+    int signalsSeen = 0; // At each of these an open text field reads, and waits for the owner.
+    const auto watching = QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged,
+                                           [&] { ++signalsSeen; });
+    const auto owner = own(u"silent"_s, {});
+    EXPECT_TRUE(eventually([&] { return noticesOfQt.count() > 0; })) << "Qt hears nothing";
+    EXPECT_EQ(signalsSeen, 0);
+    QObject::disconnect(watching);
 }
 
 /// Another client in this very program, so that nothing comes between its copy and ours.
