@@ -3,6 +3,7 @@
 #include <QClipboard>
 
 #include <ostream>
+#include <semaphore>
 #include <utility>
 
 namespace ravelo::x11 {
@@ -267,30 +268,49 @@ private:
     xcb_window_t window_;
 };
 
+/// Keeps the listener from hearing anything, as a busy machine might.
+class DeafListener {
+public:
+    explicit DeafListener(Listener& listener) {
+        listener.post([hold = hold_] { hold->acquire(); });
+    }
+
+    ~DeafListener() { hold_->release(); }
+
+    DeafListener(const DeafListener&) = delete;
+    DeafListener& operator=(const DeafListener&) = delete;
+
+private:
+    std::shared_ptr<std::binary_semaphore> hold_ = std::make_shared<std::binary_semaphore>(0);
+};
+
 TEST_F(X11PasteboardTest, forgetsACopyFromJustBeforeItsOwnWrite) {
     NearbyClient other(*session_.connection);
-    for (int round = 0; round < 20; ++round) {
-        const auto time = other.pastTime();
-        other.copy("CLIPBOARD", time); // Its notice may come before or after our write is done.
+    const auto time = other.pastTime();
+    std::optional<qint64> count;
+    {
+        const DeafListener deaf(*session_.listener);
+        other.copy("CLIPBOARD", time);
         board().write({{plainTextType, "ours"}});
-        const qint64 count = board().changeCount();
-        ASSERT_EQ(readText(), QByteArray("ours"));
-        ASSERT_EQ(board().changeCount(), count) << "the earlier copy was counted after ours";
+        count = board().changeCount();
     }
+    EXPECT_EQ(readText(), QByteArray("ours"));
+    EXPECT_EQ(board().changeCount(), count) << "the earlier copy was counted after ours";
 }
 
-TEST_F(X11PasteboardTest, tellsOfACopyThatCameBeforeItsOwnWriteWasSeen) {
+TEST_F(X11PasteboardTest, tellsOfACopyFromJustAfterItsOwnWrite) {
     NearbyClient other(*session_.connection);
     int calls = 0;
     const Handle listening = board().onChange([&] { ++calls; });
-    for (int round = 1; round <= 20; ++round) {
+    qint64 count = 0;
+    {
+        const DeafListener deaf(*session_.listener);
         board().write({{plainTextType, "ours"}});
-        const qint64 count = board().changeCount();
+        count = board().changeCount();
         other.copy("CLIPBOARD", XCB_CURRENT_TIME);
-        ASSERT_TRUE(eventually([&] { return calls == round; })) << "the later copy was missed";
-        ASSERT_EQ(board().changeCount(), count + 1);
-        static_cast<void>(other.pastTime()); // Qt's next write is later.
     }
+    EXPECT_TRUE(eventually([&] { return calls == 1; })) << "the later copy was missed";
+    EXPECT_EQ(board().changeCount(), count + 1);
 }
 
 } // namespace
