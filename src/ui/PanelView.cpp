@@ -22,7 +22,9 @@ namespace {
 /// Before the first window: a program of one small panel does not pay for a graphics driver, and
 /// only windows with an alpha channel can have an outline.
 QWindow* chooseRenderer() {
-    QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    if (QQuickWindow::sceneGraphBackend() != u"software") {
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
+    }
     QQuickWindow::setDefaultAlphaBuffer(true);
     return nullptr;
 }

@@ -5,6 +5,7 @@
 // writes the picture and prints the rectangles of all named elements as JSON, in logical pixels of
 // the window. --behind puts a picture of a screen below; --time prints what N openings cost.
 
+#include "Input.h"
 #include "UiWorld.h"
 #include "ui/PanelView.h"
 
@@ -14,7 +15,6 @@
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
-#include <QMouseEvent>
 #include <QPainter>
 #include <QPainterPath>
 #include <QQuickPaintedItem>
@@ -112,31 +112,6 @@ void settle(int milliseconds = 700) {
         QCoreApplication::processEvents();
         QThread::msleep(2);
     }
-}
-
-QQuickItem* find(const QQuickItem* under, const QString& name) {
-    for (QQuickItem* child : under->childItems()) {
-        if (child->objectName() == name) {
-            return child;
-        }
-        if (QQuickItem* found = find(child, name)) {
-            return found;
-        }
-    }
-    return nullptr;
-}
-
-void send(QQuickWindow& window, QEvent::Type type, QPointF place) {
-    const auto button = type == QEvent::MouseMove ? Qt::NoButton : Qt::LeftButton;
-    const auto buttons = type == QEvent::MouseButtonPress ? Qt::LeftButton : Qt::NoButton;
-    QMouseEvent event(type, place, window.mapToGlobal(place), button, buttons, Qt::NoModifier);
-    QCoreApplication::sendEvent(&window, &event);
-}
-
-void click(QQuickWindow& window, QPointF place) {
-    send(window, QEvent::MouseMove, place);
-    send(window, QEvent::MouseButtonPress, place);
-    send(window, QEvent::MouseButtonRelease, place);
 }
 
 QPointF middle(QQuickWindow& window, const QString& name) {

@@ -53,6 +53,7 @@ Item {
         color: picture.shows ? Theme.none : card.highlighted ? Theme.pinnedTile : Theme.surface2
 
         Glyph {
+            objectName: "symbol"
             anchors.centerIn: parent
             visible: !picture.shows
             symbol: card.icon

@@ -25,6 +25,11 @@ FocusScope {
         }
     }
 
+    function select(row: int) {
+        list.currentIndex = Math.max(0, Math.min(row, list.count - 1));
+        list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+    }
+
     // What was copied while this was hidden has pushed the rows on.
     onShownChanged: {
         if (shown) {
@@ -33,8 +38,8 @@ FocusScope {
         }
     }
 
-    Keys.onUpPressed: list.currentIndex = Math.max(0, list.currentIndex - 1)
-    Keys.onDownPressed: list.currentIndex = Math.min(list.count - 1, list.currentIndex + 1)
+    Keys.onUpPressed: select(list.currentIndex - 1)
+    Keys.onDownPressed: select(list.currentIndex + 1)
     Keys.onReturnPressed: copy(list.currentIndex)
     Keys.onEnterPressed: copy(list.currentIndex)
 
@@ -83,8 +88,8 @@ FocusScope {
             clip: true
             cacheBuffer: 80
             boundsBehavior: Flickable.StopAtBounds
-            highlightFollowsCurrentItem: true
-            highlightMoveDuration: 0
+            // What is copied meanwhile must not scroll the list away from its beginning.
+            highlightFollowsCurrentItem: false
             model: tab.host.clips
 
             delegate: ClipRow {

@@ -1,0 +1,433 @@
+// The whole panel on the in-memory platform: what it shows, and what the user's hands do to it.
+
+#include "Input.h"
+#include "UiWorld.h"
+#include "ui/PanelView.h"
+
+#include <gtest/gtest.h>
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QImage>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Seconds untilBuilt(0.041);
+
+StoreData threeClips() {
+    StoreData data;
+    data.clips = {clip(u"first"_s, Seconds(60)), clip(u"second"_s, Seconds(120)),
+                  clip(u"third"_s, Seconds(180))};
+    data.note = u"remember"_s;
+    return data;
+}
+
+class Panel : public testing::Test {
+protected:
+    explicit Panel(const StoreData& data = threeClips()) : world(data) {
+        view.load(
+            {world.store, world.settings, world.controller, world.pasteboard, world.scheduler},
+            QLocale(u"en_US"_s));
+        view.window().resize(200, 12);
+        view.window().show();
+        view.window().requestActivate();
+        EXPECT_TRUE(waitFor([this] { return view.window().isActive(); }));
+        world.scheduler.advance(untilBuilt);
+    }
+
+    /// The pointer goes into the hot zone and on to the panel's middle.
+    void open() {
+        world.pointer.moveTo({720, 3});
+        world.scheduler.advance(Seconds(0.02));
+        ASSERT_TRUE(world.controller.isOpen());
+        view.window().resize(world.controller.frame().size().toSize());
+        world.pointer.moveTo({720, 300});
+        world.scheduler.advance(Seconds(0.02));
+        const QQuickItem* all = view.window().contentItem();
+        ASSERT_TRUE(waitFor([&] { return all->size() == world.controller.frame().size(); }));
+        // The rows of a list are laid out with the next frame.
+        view.window().grabWindow();
+    }
+
+    void close() {
+        world.controller.dismiss();
+        view.window().resize(200, 12);
+        world.pointer.moveTo({720, 600});
+        world.scheduler.advance(Seconds(0.02));
+    }
+
+    /// Null where there is none or it is not to be seen.
+    QQuickItem* shown(const QString& name) {
+        QCoreApplication::processEvents();
+        QQuickItem* item = find(view.window().contentItem(), name);
+        return item != nullptr && item->isVisible() ? item : nullptr;
+    }
+
+    /// What takes a moment to appear is waited for.
+    QQuickItem* item(const QString& name) {
+        if (!waitFor([&] { return shown(name) != nullptr; })) {
+            ADD_FAILURE() << "not to be seen: " << qPrintable(name);
+            return &nothing;
+        }
+        return shown(name);
+    }
+
+    void clickOn(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
+        const QQuickItem* target = item(name);
+        click(view.window(), target->mapToScene(target->boundingRect().center()), button);
+    }
+
+    QString text(const QString& name) { return item(name)->property("text").toString(); }
+
+    void type(const QString& letters) {
+        for (const QChar letter : letters) {
+            press(view.window(), Qt::Key_unknown, Qt::NoModifier, letter);
+        }
+    }
+
+    QString pasteboardText() const {
+        return QString::fromUtf8(world.pasteboard.bytes(plainTextType));
+    }
+
+    UiWorld world;
+    PanelView view;
+    QQuickItem nothing;
+};
+
+TEST_F(Panel, showsAHandleUntilItOpens) {
+    EXPECT_NE(shown(u"handle"_s), nullptr);
+    EXPECT_EQ(shown(u"panel"_s), nullptr);
+    open();
+    EXPECT_EQ(shown(u"handle"_s), nullptr);
+    EXPECT_EQ(item(u"panel"_s)->size(), QSizeF(927, 560));
+}
+
+TEST_F(Panel, hasItsNextContentReadySoonAfterItCloses) {
+    EXPECT_TRUE(view.host().hasContent());
+    open();
+    close();
+    EXPECT_FALSE(view.host().hasContent());
+    world.scheduler.advance(untilBuilt);
+    EXPECT_TRUE(view.host().hasContent());
+    EXPECT_EQ(view.host().contentSize(), QSizeF(927, 560));
+    EXPECT_EQ(find(view.window().contentItem(), u"panel"_s)->size(), QSizeF(927, 560))
+        << "hidden content must not be laid out anew at the opening";
+}
+
+TEST_F(Panel, opensAlsoBeforeItsContentIsBuilt) {
+    open();
+    close();
+    open();
+    EXPECT_NE(shown(u"card0"_s), nullptr);
+}
+
+TEST_F(Panel, tellsTheTruthAfterHoursOfRest) {
+    for (int i = 0; i < 20; ++i) {
+        world.store.addClip(u"while it was closed %1"_s.arg(i));
+    }
+    world.scheduler.advance(Seconds(3 * 3600));
+    open();
+    const QQuickItem* card = item(u"card0"_s);
+    EXPECT_EQ(find(card, u"title"_s)->property("text"), u"while it was closed 19"_s);
+    EXPECT_EQ(find(card, u"subtitle"_s)->property("text"), u"3 hr. ago"_s);
+}
+
+TEST_F(Panel, startsAnewAtEachOpening) {
+    open();
+    clickOn(u"searchInput"_s);
+    type(u"second"_s);
+    clickOn(u"trash"_s);
+    close();
+    world.scheduler.advance(untilBuilt);
+    open();
+    EXPECT_EQ(text(u"searchInput"_s), QString());
+    EXPECT_EQ(shown(u"question"_s), nullptr);
+    EXPECT_NE(shown(u"card2"_s), nullptr);
+}
+
+TEST_F(Panel, copiesTheClipThatIsClicked) {
+    open();
+    clickOn(u"card1"_s);
+    EXPECT_EQ(pasteboardText(), u"second"_s);
+    item(u"toast"_s);
+    EXPECT_EQ(world.store.clips().size(), 3) << "its own copy became a clip";
+}
+
+TEST_F(Panel, copiesTheSnippetThatIsClicked) {
+    open();
+    clickOn(u"chip0"_s);
+    EXPECT_EQ(pasteboardText(), world.store.snippets().first().body);
+}
+
+TEST_F(Panel, pinsAndDeletesByTheButtonsOfTheRowUnderThePointer) {
+    open();
+    EXPECT_EQ(shown(u"pin"_s), nullptr);
+    const QQuickItem* card = item(u"card2"_s);
+    send(view.window(), QEvent::MouseMove, card->mapToScene({400, 20}));
+    const auto clickIn = [&](const QString& name) {
+        const QQuickItem* button = find(card, name);
+        ASSERT_TRUE(button->isVisible());
+        click(view.window(), button->mapToScene({12, 12}));
+    };
+    clickIn(u"pin"_s);
+    EXPECT_EQ(world.store.clips().first().text, u"third"_s);
+    EXPECT_TRUE(world.store.clips().first().pinned);
+    EXPECT_EQ(pasteboardText(), QString()) << "the click went through to the row";
+}
+
+struct ClearCase {
+    const char* name;
+    void (*answer)(QQuickWindow& window, QQuickItem* yes, QQuickItem* no);
+    qsizetype left;
+};
+
+class Clearing : public Panel, public testing::WithParamInterface<ClearCase> {};
+
+TEST_P(Clearing, asksFirst) {
+    open();
+    world.store.togglePin(world.store.clips().first().id);
+    clickOn(u"trash"_s);
+    EXPECT_EQ(world.store.clips().size(), 3);
+    EXPECT_TRUE(world.window.focused) << "Return would go elsewhere";
+    item(u"question"_s);
+    GetParam().answer(view.window(), item(u"yes"_s), item(u"no"_s));
+    EXPECT_EQ(world.store.clips().size(), GetParam().left);
+    EXPECT_TRUE(waitFor([this] { return shown(u"question"_s) == nullptr; }));
+    EXPECT_TRUE(world.controller.isOpen());
+}
+
+void clickMiddle(QQuickWindow& window, const QQuickItem* button) {
+    click(window, button->mapToScene(button->boundingRect().center()));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Answers, Clearing,
+    testing::Values(ClearCase{"yes",
+                              [](QQuickWindow& window, QQuickItem* yes, QQuickItem*) {
+                                  clickMiddle(window, yes);
+                              },
+                              1},
+                    ClearCase{"returnKey",
+                              [](QQuickWindow& window, QQuickItem*, QQuickItem*) {
+                                  press(window, Qt::Key_Return);
+                              },
+                              1},
+                    ClearCase{"no",
+                              [](QQuickWindow& window, QQuickItem*, QQuickItem* no) {
+                                  clickMiddle(window, no);
+                              },
+                              3},
+                    ClearCase{"escapeKey",
+                              [](QQuickWindow& window, QQuickItem*, QQuickItem*) {
+                                  press(window, Qt::Key_Escape);
+                              },
+                              3},
+                    ClearCase{"elsewhere",
+                              [](QQuickWindow& window, QQuickItem*, QQuickItem*) {
+                                  click(window, {300, 400});
+                              },
+                              3}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(Panel, escapeClearsTheSearchAndThenCloses) {
+    open();
+    clickOn(u"searchInput"_s);
+    EXPECT_TRUE(world.window.focused);
+    type(u"second"_s);
+    EXPECT_EQ(view.host().clips()->count(), 1);
+    press(view.window(), Qt::Key_Escape);
+    EXPECT_EQ(view.host().clips()->count(), 3);
+    EXPECT_TRUE(world.controller.isOpen());
+    press(view.window(), Qt::Key_Escape);
+    EXPECT_FALSE(world.controller.isOpen());
+}
+
+TEST_F(Panel, aSearchWithoutAMatchShowsTheEmptyState) {
+    open();
+    EXPECT_EQ(shown(u"emptyTitle"_s), nullptr);
+    clickOn(u"searchInput"_s);
+    type(u"nowhere"_s);
+    EXPECT_EQ(text(u"emptyTitle"_s), u"No clipboard history yet"_s);
+    EXPECT_EQ(text(u"emptySubtitle"_s), u"Copy anything with ⌘C and it shows up here."_s);
+}
+
+TEST_F(Panel, goesByTheArrowsAndCopiesByReturn) {
+    open();
+    clickOn(u"searchInput"_s);
+    press(view.window(), Qt::Key_Down);
+    press(view.window(), Qt::Key_Down);
+    press(view.window(), Qt::Key_Down);
+    press(view.window(), Qt::Key_Up);
+    press(view.window(), Qt::Key_Return);
+    EXPECT_EQ(pasteboardText(), u"second"_s);
+}
+
+TEST_F(Panel, keepsTheNoteWithEveryKey) {
+    open();
+    click(view.window(), {700, 180}); // The right half of the tabs.
+    EXPECT_EQ(world.settings.lastTab(), u"Notes"_s);
+    clickOn(u"noteInput"_s);
+    EXPECT_TRUE(world.window.focused);
+    press(view.window(), Qt::Key_End, Qt::ControlModifier);
+    type(u"!"_s);
+    EXPECT_EQ(world.store.note(), u"remember!"_s);
+    world.scheduler.advance(Seconds(0.5));
+    QFile file(world.store.fileURL());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(decodeStore(file.readAll())->note, u"remember!"_s);
+}
+
+TEST_F(Panel, keepsTheSearchWhileTheNoteIsLookedAt) {
+    open();
+    clickOn(u"searchInput"_s);
+    type(u"second"_s);
+    click(view.window(), {700, 180});
+    EXPECT_EQ(shown(u"searchInput"_s), nullptr);
+    click(view.window(), {200, 180});
+    EXPECT_EQ(text(u"searchInput"_s), u"second"_s);
+    EXPECT_EQ(view.host().clips()->count(), 1);
+}
+
+struct TabCase {
+    const char* name;
+    QString lastTab;
+    QString shows;
+};
+
+class LastTab : public Panel, public testing::WithParamInterface<TabCase> {};
+
+TEST_P(LastTab, isOpenedAgain) {
+    close();
+    world.settings.setLastTab(GetParam().lastTab);
+    world.scheduler.advance(untilBuilt);
+    open();
+    EXPECT_NE(shown(GetParam().shows), nullptr);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, LastTab,
+                         testing::Values(TabCase{"clipboard", u"Clipboard"_s, u"list"_s},
+                                         TabCase{"notes", u"Notes"_s, u"noteInput"_s},
+                                         TabCase{"none", {}, u"list"_s},
+                                         TabCase{"unknown", u"Sketches"_s, u"list"_s}),
+                         [](const auto& row) { return row.param.name; });
+
+struct PasteCase {
+    const char* name;
+    void (*paste)(QQuickWindow& window, const QQuickItem& field);
+    QString tab;
+    QString field;
+    QString pasted;
+};
+
+class PastingInto : public Panel, public testing::WithParamInterface<PasteCase> {
+protected:
+    void openField() {
+        close();
+        world.settings.setLastTab(GetParam().tab);
+        world.scheduler.advance(untilBuilt);
+        open();
+        // What Qt itself would paste: a field that shows it has read the clipboard by itself.
+        QGuiApplication::clipboard()->setText(u"read on the main thread"_s);
+        clickOn(GetParam().field);
+        QMetaObject::invokeMethod(item(GetParam().field), "selectAll");
+    }
+};
+
+TEST_P(PastingInto, replacesTheSelectionByWhatTheOwnerAnswers) {
+    openField();
+    world.pasteboard.offerText(u"two\nlines"_s);
+    GetParam().paste(view.window(), *item(GetParam().field));
+    world.scheduler.advance(Seconds(0.1));
+    EXPECT_EQ(text(GetParam().field), GetParam().pasted);
+    type(u"+"_s);
+    EXPECT_EQ(text(GetParam().field), GetParam().pasted + u'+') << "the cursor is elsewhere";
+}
+
+TEST_P(PastingInto, goesOnWhileTheOwnerIsSilent) {
+    openField();
+    type(u"typed"_s);
+    world.pasteboard.offerSilence();
+    GetParam().paste(view.window(), *item(GetParam().field));
+    world.scheduler.advance(Seconds(30));
+    press(view.window(), Qt::Key_End);
+    type(u" on"_s);
+    EXPECT_EQ(text(GetParam().field), u"typed on"_s);
+}
+
+void byKeys(QQuickWindow& window, const QQuickItem& /*field*/) {
+    press(window, Qt::Key_V, Qt::ControlModifier, u"\x16"_s);
+}
+
+void byOldKeys(QQuickWindow& window, const QQuickItem& /*field*/) {
+    press(window, Qt::Key_Insert, Qt::ShiftModifier);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, PastingInto,
+    testing::Values(
+        PasteCase{"searchByKeys", byKeys, u"Clipboard"_s, u"searchInput"_s, u"two lines"_s},
+        PasteCase{"searchByOldKeys", byOldKeys, u"Clipboard"_s, u"searchInput"_s, u"two lines"_s},
+        PasteCase{"noteByKeys", byKeys, u"Notes"_s, u"noteInput"_s, u"two\nlines"_s},
+        PasteCase{"noteByOldKeys", byOldKeys, u"Notes"_s, u"noteInput"_s, u"two\nlines"_s}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(Panel, theMiddleButtonPastesWhereItPoints) {
+    open();
+    world.pasteboard.offerText(u"pasted"_s);
+    clickOn(u"searchInput"_s, Qt::MiddleButton);
+    world.scheduler.advance(Seconds(0.1));
+    EXPECT_EQ(text(u"searchInput"_s), u"pasted"_s);
+    EXPECT_TRUE(world.window.focused);
+}
+
+TEST_F(Panel, anAnswerThatComesAfterTheFieldIsGoneIsDropped) {
+    open();
+    world.pasteboard.answerTime = Seconds(5);
+    world.pasteboard.offerText(u"late"_s);
+    clickOn(u"searchInput"_s);
+    press(view.window(), Qt::Key_V, Qt::ControlModifier);
+    close();
+    world.scheduler.advance(Seconds(6));
+    open();
+    EXPECT_EQ(text(u"searchInput"_s), QString());
+}
+
+class PanelWithImages : public Panel {
+protected:
+    PanelWithImages() : Panel(data()) {
+        QImage green(40, 40, QImage::Format_RGB32);
+        green.fill(Qt::green);
+        EXPECT_TRUE(green.save(world.store.imagePath(u"there.png"_s)));
+    }
+
+    static StoreData data() {
+        StoreData data;
+        data.clips = {clip(u"Image"_s, Seconds(1), ClipKind::image),
+                      clip(u"Image"_s, Seconds(2), ClipKind::image)};
+        data.clips[0].imageFileName = u"there.png"_s;
+        data.clips[1].imageFileName = u"missing.png"_s;
+        return data;
+    }
+
+    QRgb pixelOfTile(const QString& card) {
+        const QQuickItem* tile = find(item(card), u"tile"_s);
+        return view.window().grabWindow().pixel(tile->mapToScene({3, 14}).toPoint());
+    }
+};
+
+TEST_F(PanelWithImages, showsAnImageOnceItIsDecodedAndASymbolWhereItCannotBe) {
+    open();
+    EXPECT_TRUE(waitFor([this] { return pixelOfTile(u"card0"_s) == QColor(Qt::green).rgb(); }));
+    EXPECT_FALSE(find(item(u"card0"_s), u"symbol"_s)->isVisible());
+    EXPECT_TRUE(find(item(u"card1"_s), u"symbol"_s)->isVisible());
+    clickOn(u"card0"_s);
+    EXPECT_FALSE(world.pasteboard.bytes("image/png"_L1).isEmpty());
+}
+
+} // namespace
+
+} // namespace ravelo
