@@ -28,21 +28,11 @@ protected:
         if (painter.device()->devType() != QInternal::Image) {
             return;
         }
+        // Where this is painted anew, so is the cover, and nowhere else.
         const auto& target = *static_cast<QImage*>(painter.device());
-        const QRect place = devicePixels(painter, rect());
-        if (backdrop_->size() != place.size()) {
-            *backdrop_ = QImage(place.size(), QImage::Format_ARGB32_Premultiplied);
-            backdrop_->fill(Qt::transparent);
-        }
-        // Only what is being painted anew: the rest of the window still shows the children.
-        QPainter keeper(backdrop_.get());
-        keeper.setCompositionMode(QPainter::CompositionMode_Source);
-        QTransform toStrip = painter.deviceTransform();
-        toStrip *= QTransform::fromTranslate(-place.x(), -place.y());
-        keeper.setClipRegion(toStrip.map(painter.clipRegion()));
-        QImage pixels = target; // Shares its bytes; one device pixel stays one pixel.
-        pixels.setDevicePixelRatio(1);
-        keeper.drawImage(QPoint(0, 0), pixels, place);
+        *backdrop_ = target.copy(devicePixels(painter, rect()))
+                         .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+        backdrop_->setDevicePixelRatio(1);
     }
 
 private:

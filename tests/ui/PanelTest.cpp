@@ -125,15 +125,35 @@ TEST_F(Panel, opensAlsoBeforeItsContentIsBuilt) {
     EXPECT_NE(shown(u"card0"_s), nullptr);
 }
 
-TEST_F(Panel, tellsTheTruthAfterHoursOfRest) {
+TEST_F(Panel, tellsDatesAnewAtTheOpening) {
+    open();
+    close();
+    world.scheduler.advance(untilBuilt);
+    view.window().grabWindow(); // The hidden rows exist by now.
+    world.scheduler.advance(Seconds(3 * 3600));
+    open();
+    EXPECT_EQ(find(item(u"card0"_s), u"subtitle"_s)->property("text"), u"3 hr. ago"_s);
+}
+
+TEST_F(Panel, showsTheNewestOfWhatWasCopiedWhileItWasClosed) {
     for (int i = 0; i < 20; ++i) {
         world.store.addClip(u"while it was closed %1"_s.arg(i));
     }
-    world.scheduler.advance(Seconds(3 * 3600));
     open();
-    const QQuickItem* card = item(u"card0"_s);
-    EXPECT_EQ(find(card, u"title"_s)->property("text"), u"while it was closed 19"_s);
-    EXPECT_EQ(find(card, u"subtitle"_s)->property("text"), u"3 hr. ago"_s);
+    const QQuickItem* newest = item(u"card0"_s);
+    EXPECT_EQ(find(newest, u"title"_s)->property("text"), u"while it was closed 19"_s);
+    EXPECT_EQ(newest->mapToScene({0, 0}), QPointF(34, 280));
+}
+
+TEST_F(Panel, staysAtTheNewestWhileMoreIsCopied) {
+    open();
+    for (int i = 0; i < 20; ++i) {
+        world.store.addClip(u"while it was open %1"_s.arg(i));
+    }
+    EXPECT_TRUE(waitFor([this] {
+        view.window().grabWindow();
+        return item(u"card0"_s)->mapToScene({0, 0}) == QPointF(34, 280);
+    }));
 }
 
 TEST_F(Panel, startsAnewAtEachOpening) {

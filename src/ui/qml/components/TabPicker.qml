@@ -27,6 +27,14 @@ Box {
         radius: Theme.radiusSmall
         color: Theme.selectedTab
 
+        Shadow {
+            anchors.fill: parent
+            radius: parent.radius
+            color: Qt.rgba(0, 0, 0, 0.22)
+            blur: 2
+            drop: 1
+        }
+
         Behavior on x {
             enabled: picker.visible
             NumberAnimation {
