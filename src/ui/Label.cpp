@@ -112,9 +112,14 @@ void Label::setStyle(TextStyle* style) {
     Q_EMIT contentChanged();
 }
 
+void Label::componentComplete() {
+    QQuickItem::componentComplete();
+    measure();
+}
+
 void Label::measure() {
-    if (style_.isNull()) {
-        return;
+    if (style_.isNull() || !isComponentComplete()) {
+        return; // Once, not with every property that is set at the beginning.
     }
     natural_ = std::make_shared<const GlyphLine>(tabular_ ? tabular(text_, style_->font())
                                                           : proportional(text_, style_->font()));

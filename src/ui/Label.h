@@ -42,6 +42,7 @@ Q_SIGNALS:
 protected:
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) override;
     void geometryChange(const QRectF& now, const QRectF& before) override;
+    void componentComplete() override;
 
 private:
     void measure();

@@ -27,14 +27,6 @@ Box {
         radius: Theme.radiusSmall
         color: Theme.selectedTab
 
-        Shadow {
-            anchors.fill: parent
-            radius: parent.radius
-            color: Qt.rgba(0, 0, 0, 0.22)
-            blur: 2
-            drop: 1
-        }
-
         Behavior on x {
             enabled: picker.visible
             NumberAnimation {

@@ -95,8 +95,8 @@ FocusScope {
             delegate: ClipRow {
                 host: tab.host
                 shown: tab.shown
-                width: ListView.view.width
-                selected: ListView.isCurrentItem
+                width: list.width
+                selected: index === list.currentIndex
                 onTapped: tab.copy(index)
             }
 
