@@ -44,17 +44,17 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
     }
     const ClipItem& clip = rows()[index.row()];
     switch (role) {
-    case ClipId:
+    case clipIdRole:
         return clip.id;
-    case Title:
+    case titleRole:
         return title(clip);
-    case Icon:
+    case iconRole:
         return icon(clip.kind);
-    case Pinned:
+    case pinnedRole:
         return clip.pinned;
-    case Subtitle:
+    case subtitleRole:
         return subtitle(clip);
-    case ImageFileName:
+    case imageFileNameRole:
         return clip.imageFileName;
     default:
         return {};
@@ -62,8 +62,9 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ClipListModel::roleNames() const {
-    return {{ClipId, "clipId"}, {Title, "title"},       {Icon, "icon"},
-            {Pinned, "pinned"}, {Subtitle, "subtitle"}, {ImageFileName, "imageFileName"}};
+    return {{clipIdRole, "clipId"},     {titleRole, "title"},
+            {iconRole, "icon"},         {pinnedRole, "pinned"},
+            {subtitleRole, "subtitle"}, {imageFileNameRole, "imageFileName"}};
 }
 
 void ClipListModel::setSearch(const QString& search) {
@@ -77,7 +78,7 @@ void ClipListModel::setSearch(const QString& search) {
 
 void ClipListModel::refreshDates() {
     if (count() > 0) {
-        Q_EMIT dataChanged(index(0), index(count() - 1), {Subtitle});
+        Q_EMIT dataChanged(index(0), index(count() - 1), {subtitleRole});
     }
 }
 

@@ -22,12 +22,12 @@ class ClipListModel : public KeyedListModel<ClipItem> {
 
 public:
     enum Role {
-        ClipId = Qt::UserRole,
-        Title,
-        Icon, ///< Name of a symbol.
-        Pinned,
-        Subtitle,
-        ImageFileName,
+        clipIdRole = Qt::UserRole,
+        titleRole,
+        iconRole, ///< Name of a symbol.
+        pinnedRole,
+        subtitleRole,
+        imageFileNameRole,
     };
 
     ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale);

@@ -63,7 +63,7 @@ protected:
         QImage rest = *backdrop_;
         QPainter eraser(&rest);
         eraser.setCompositionMode(QPainter::CompositionMode_DestinationOut);
-        QTransform toStrip = painter.deviceTransform();
+        const QTransform toStrip = painter.deviceTransform();
         eraser.setTransform(toStrip * QTransform::fromTranslate(-place.x(), -place.y()));
         eraser.fillRect(rect(), mask_);
         eraser.end();

@@ -18,6 +18,7 @@ class FadingEdge : public QQuickItem {
     Q_PROPERTY(double length MEMBER length_ NOTIFY changed)
 
 public:
+    // NOLINTNEXTLINE(readability-identifier-naming): QML demands capitals.
     enum Edge { Bottom, Right };
     Q_ENUM(Edge)
 

@@ -6,6 +6,7 @@
 
 /// Qt's own instance of the library, which Qt exports but does not declare. Weak: a Qt without it
 /// still runs, with bolder text.
+// NOLINTNEXTLINE(readability-identifier-naming)
 __attribute__((weak)) FT_Library qt_getFreetype();
 
 namespace ravelo {

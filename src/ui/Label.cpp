@@ -118,7 +118,7 @@ void Label::componentComplete() {
 }
 
 void Label::measure() {
-    if (style_.isNull() || !isComponentComplete()) {
+    if (style_ == nullptr || !isComponentComplete()) {
         return; // Once, not with every property that is set at the beginning.
     }
     natural_ = std::make_shared<const GlyphLine>(tabular_ ? tabular(text_, style_->font())
@@ -143,7 +143,7 @@ void Label::geometryChange(const QRectF& now, const QRectF& before) {
 }
 
 QSGNode* Label::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
-    if (text_.isEmpty() || style_.isNull()) {
+    if (text_.isEmpty() || style_ == nullptr) {
         delete old;
         return nullptr;
     }

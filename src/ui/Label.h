@@ -3,7 +3,6 @@
 #include "ui/TextStyle.h"
 
 #include <QColor>
-#include <QPointer>
 #include <QQuickItem>
 
 #include <memory>
@@ -49,7 +48,7 @@ private:
     [[nodiscard]] std::shared_ptr<const GlyphLine> elided() const;
 
     QString text_;
-    QPointer<TextStyle> style_;
+    TextStyle* style_ = nullptr; ///< The theme's, which outlives every label.
     QColor color_ = Qt::white;
     bool centred_ = false;
     bool tabular_ = false;

@@ -25,7 +25,7 @@ void LineSpacing::apply() {
         return;
     }
     const QScopedValueRollback guard(applying_, true);
-    QTextDocument& text = *document_->textDocument();
+    const QTextDocument& text = *document_->textDocument();
     QTextBlockFormat format;
     format.setLineHeight(line_, QTextBlockFormat::FixedHeight);
     for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {

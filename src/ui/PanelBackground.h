@@ -5,6 +5,7 @@
 
 namespace ravelo {
 
+// NOLINTBEGIN(readability-identifier-naming): QML demands capitals.
 /// What the panel can count on behind itself.
 namespace Backdrop {
 Q_NAMESPACE
@@ -17,6 +18,8 @@ enum Kind {
 };
 Q_ENUM_NS(Kind)
 } // namespace Backdrop
+
+// NOLINTEND(readability-identifier-naming)
 
 struct PanelMaterial {
     Backdrop::Kind backdrop = Backdrop::Translucent;

@@ -6,7 +6,7 @@
 #include <QQmlEngine>
 
 // Made by the build from the QML module. Named here, or the linker would leave them out.
-void qml_register_types_Ravelo();
+void qml_register_types_Ravelo(); // NOLINT(readability-identifier-naming)
 
 static void initModule() { // In no namespace: the macro declares a function where it stands.
     qml_register_types_Ravelo();

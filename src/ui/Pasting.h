@@ -22,6 +22,7 @@ class Pasting : public QObject {
 public:
     explicit Pasting(Pasteboard& pasteboard) : pasteboard_(pasteboard) {}
 
+    // NOLINTNEXTLINE(readability-identifier-naming): QML demands capitals.
     enum Lines { OneLine, ManyLines };
     Q_ENUM(Lines)
 

@@ -23,9 +23,9 @@ struct ShadowLook {
 
 std::vector<double> bell(double deviation) {
     const int reach = static_cast<int>(std::ceil(deviation * 3));
-    std::vector<double> weights(static_cast<size_t>(2 * reach + 1));
+    std::vector<double> weights;
     for (int i = -reach; i <= reach; ++i) {
-        weights[static_cast<size_t>(i + reach)] = std::exp(-i * i / (2 * deviation * deviation));
+        weights.push_back(std::exp(-i * i / (2 * deviation * deviation)));
     }
     const double sum = std::accumulate(weights.begin(), weights.end(), 0.0);
     for (double& weight : weights) {
@@ -37,6 +37,7 @@ std::vector<double> bell(double deviation) {
 /// Blurs along the lines and turns the picture, so that twice blurs both ways.
 QImage blurredAndTurned(const QImage& from, const std::vector<double>& weights) {
     const int reach = static_cast<int>(weights.size() / 2);
+    const auto middle = weights.begin() + reach;
     QImage to(from.height(), from.width(), QImage::Format_Alpha8);
     for (int y = 0; y < from.height(); ++y) {
         const uchar* line = from.constScanLine(y);
@@ -45,7 +46,7 @@ QImage blurredAndTurned(const QImage& from, const std::vector<double>& weights) 
             const int first = std::max(-reach, -x);
             const int last = std::min(reach, from.width() - 1 - x);
             for (int i = first; i <= last; ++i) {
-                sum += line[x + i] * weights[static_cast<size_t>(i + reach)];
+                sum += line[x + i] * *(middle + i);
             }
             to.scanLine(x)[y] = static_cast<uchar>(std::lround(sum));
         }

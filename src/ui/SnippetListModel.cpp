@@ -15,11 +15,11 @@ QVariant SnippetListModel::data(const QModelIndex& index, int role) const {
     }
     const Snippet& snippet = rows()[index.row()];
     switch (role) {
-    case SnippetId:
+    case snippetIdRole:
         return snippet.id;
-    case Title:
+    case titleRole:
         return snippet.title;
-    case Icon:
+    case iconRole:
         return snippet.icon;
     default:
         return {};
@@ -27,7 +27,7 @@ QVariant SnippetListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> SnippetListModel::roleNames() const {
-    return {{SnippetId, "snippetId"}, {Title, "title"}, {Icon, "icon"}};
+    return {{snippetIdRole, "snippetId"}, {titleRole, "title"}, {iconRole, "icon"}};
 }
 
 } // namespace ravelo

@@ -16,7 +16,7 @@ class SnippetListModel : public KeyedListModel<Snippet> {
     QML_UNCREATABLE("the panel has one")
 
 public:
-    enum Role { SnippetId = Qt::UserRole, Title, Icon };
+    enum Role { snippetIdRole = Qt::UserRole, titleRole, iconRole };
 
     explicit SnippetListModel(Store& store);
 

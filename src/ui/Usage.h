@@ -17,6 +17,7 @@ struct UsageWindow {
     friend bool operator==(const UsageWindow&, const UsageWindow&) = default;
 };
 
+// NOLINTBEGIN(readability-identifier-naming): QML demands capitals.
 namespace UsageBand {
 Q_NAMESPACE
 QML_ELEMENT
@@ -24,6 +25,8 @@ QML_ELEMENT
 enum Kind { Low, High, Critical };
 Q_ENUM_NS(Kind)
 } // namespace UsageBand
+
+// NOLINTEND(readability-identifier-naming)
 
 /// How one window of the plan is shown.
 class UsageLine {

@@ -113,7 +113,7 @@ TEST(ClipListModel, tellsTheViewOfAClipThatChangesInItsPlace) {
                      [&](const QModelIndex& first) { changed.append(first.row()); });
     world.store.togglePin(world.store.clips()[0].id);
     EXPECT_EQ(changed, QList<int>{0});
-    EXPECT_EQ(model.data(model.index(0), ClipListModel::Pinned), true);
+    EXPECT_EQ(model.data(model.index(0), ClipListModel::pinnedRole), true);
 }
 
 struct RowCase {
@@ -132,9 +132,9 @@ TEST_P(ClipRowText, isMadeOfTheClip) {
     UiWorld world(data);
     const ClipListModel model(world.store, world.scheduler, english);
     const QModelIndex row = model.index(0);
-    EXPECT_EQ(model.data(row, ClipListModel::Title).toString(), GetParam().title);
-    EXPECT_EQ(model.data(row, ClipListModel::Icon).toString(), GetParam().icon);
-    EXPECT_EQ(model.data(row, ClipListModel::Subtitle).toString(), GetParam().subtitle);
+    EXPECT_EQ(model.data(row, ClipListModel::titleRole).toString(), GetParam().title);
+    EXPECT_EQ(model.data(row, ClipListModel::iconRole).toString(), GetParam().icon);
+    EXPECT_EQ(model.data(row, ClipListModel::subtitleRole).toString(), GetParam().subtitle);
 }
 
 ClipItem pinned(ClipItem item) {
@@ -209,7 +209,7 @@ TEST(ClipListModel, aClipCopiedDuringASearchIsListedOnlyIfItFits) {
     world.store.addClip(u"six"_s);
     world.store.addClip(u"fifty"_s);
     ASSERT_EQ(model.count(), 3);
-    EXPECT_EQ(model.data(model.index(0), ClipListModel::Title), u"fifty"_s);
+    EXPECT_EQ(model.data(model.index(0), ClipListModel::titleRole), u"fifty"_s);
 }
 
 TEST(ClipListModel, tellsDatesAnewWhenAsked) {
@@ -223,8 +223,8 @@ TEST(ClipListModel, tellsDatesAnewWhenAsked) {
                      });
     world.scheduler.advance(Seconds(3 * 3600));
     model.refreshDates();
-    EXPECT_EQ(roles, QList<int>{ClipListModel::Subtitle});
-    EXPECT_EQ(model.data(model.index(0), ClipListModel::Subtitle), u"3 hr. ago"_s);
+    EXPECT_EQ(roles, QList<int>{ClipListModel::subtitleRole});
+    EXPECT_EQ(model.data(model.index(0), ClipListModel::subtitleRole), u"3 hr. ago"_s);
 }
 
 } // namespace

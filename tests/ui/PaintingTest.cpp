@@ -41,7 +41,7 @@ private:
 };
 
 class Painting : public testing::Test {
-protected:
+public:
     Painting() {
         window.setColor(Qt::black);
         window.resize(200, 100);
@@ -79,7 +79,7 @@ TEST_P(Fading, showsTheMoreOfWhatLiesBehindTheNearerToTheEdge) {
     fade.setProperty("edge", GetParam().edge);
     fade.setProperty("length", 40.0);
     // Everything painted anew, then a part of it only: both must look the same.
-    Plain content(&fade, QColor(220, 30, 40, 254), {0, 0, 200, 100});
+    const Plain content(&fade, QColor(220, 30, 40, 254), {0, 0, 200, 100});
     Plain corner(&fade, QColor(1, 1, 1, 254), {190, 90, 10, 10});
     const QImage first = grab();
     corner.setColor(QColor(2, 2, 2, 254));

@@ -27,7 +27,7 @@ StoreData threeClips() {
 }
 
 class Panel : public testing::Test {
-protected:
+public:
     explicit Panel(const StoreData& data = threeClips()) : world(data) {
         view.load(
             {world.store, world.settings, world.controller, world.pasteboard, world.scheduler},
@@ -89,7 +89,7 @@ protected:
         }
     }
 
-    QString pasteboardText() const {
+    [[nodiscard]] QString pasteboardText() const {
         return QString::fromUtf8(world.pasteboard.bytes(plainTextType));
     }
 
@@ -298,7 +298,7 @@ TEST_F(Panel, keepsTheNoteWithEveryKey) {
     world.scheduler.advance(Seconds(0.5));
     QFile file(world.store.fileURL());
     ASSERT_TRUE(file.open(QIODevice::ReadOnly));
-    EXPECT_EQ(decodeStore(file.readAll())->note, u"remember!"_s);
+    EXPECT_EQ(decodeStore(file.readAll()).value_or(StoreData()).note, u"remember!"_s);
 }
 
 TEST_F(Panel, keepsTheSearchWhileTheNoteIsLookedAt) {
