@@ -32,18 +32,39 @@ QString newImageFileName() {
     return uuidText(QUuid::createUuid()) + u".png"_s;
 }
 
-QList<QStringList> existing(QList<QStringList> stacks) {
-    for (QStringList& stack : stacks) {
-        stack.removeIf([](const QString& path) { return !QFileInfo::exists(path); });
+QList<QList<QUrl>> existing(const QList<QStringList>& paths) {
+    QList<QList<QUrl>> stacks;
+    for (const QStringList& stack : paths) {
+        QList<QUrl> files;
+        for (const QString& path : stack) {
+            if (QFileInfo::exists(path)) {
+                files.append(QUrl::fromLocalFile(path));
+            }
+        }
+        if (!files.isEmpty()) {
+            stacks.append(std::move(files));
+        }
     }
-    stacks.removeIf([](const QStringList& stack) { return stack.isEmpty(); });
     return stacks;
+}
+
+QList<QStringList> paths(const QList<QList<QUrl>>& stacks) {
+    QList<QStringList> all;
+    for (const QList<QUrl>& stack : stacks) {
+        QStringList& one = all.emplaceBack();
+        for (const QUrl& url : stack) {
+            one.append(url.toLocalFile());
+        }
+    }
+    return all;
 }
 
 } // namespace
 
 Store::Store(const QString& folder, Services services)
-    : services_(services), folder_(QDir(folder).absolutePath()) {
+    : services_(services),
+      folder_(QDir(folder).absolutePath()),
+      reminders_(Reminders::load(services.preferences)) {
     makePrivateFolder(folder_);
     makePrivateFolder(clipsDir());
     load();
@@ -76,8 +97,8 @@ const QList<Snippet>& Store::snippets() const {
     return data_.snippets;
 }
 
-const QList<QStringList>& Store::shelfStacks() const {
-    return data_.shelfStacks;
+const Shelf& Store::shelf() const {
+    return shelf_;
 }
 
 QString Store::note() const {
@@ -99,7 +120,7 @@ void Store::load() {
         return;
     }
     data_ = std::move(*decoded);
-    data_.shelfStacks = existing(std::move(data_.shelfStacks));
+    shelf_.stacks = existing(std::exchange(data_.shelfStacks, {}));
     save();
 }
 
@@ -190,6 +211,40 @@ void Store::updateSnippet(const Snippet& snippet) {
     }
 }
 
+void Store::addToShelf(const QList<QUrl>& urls) {
+    if (auto shelf = shelf_.added(urls)) {
+        setShelf(std::move(*shelf));
+    }
+}
+
+void Store::removeFromShelf(const QUrl& url) {
+    setShelf(shelf_.removed(url));
+}
+
+void Store::toggleSelectStack(const QList<QUrl>& stack) {
+    setShelf(shelf_.stackToggled(stack));
+}
+
+void Store::clearSelection() {
+    setShelf({shelf_.stacks, {}});
+}
+
+void Store::setShelf(Shelf shelf) {
+    if (shelf == shelf_) {
+        return;
+    }
+    const Shelf before = std::exchange(shelf_, std::move(shelf));
+    if (before.stacks != shelf_.stacks) {
+        save();
+    }
+    Q_EMIT shelfChanged();
+}
+
+void Store::requestShelf() {
+    ++shelfRequestTick_;
+    Q_EMIT shelfRequestTickChanged();
+}
+
 Handle Store::saveClipboardImageForSnippet(std::function<void(QString)> done) {
     const QString name = newImageFileName();
     return saveSnippetImage(services_, imagePath(name), [name, done = std::move(done)](bool saved) {
@@ -197,8 +252,54 @@ Handle Store::saveClipboardImageForSnippet(std::function<void(QString)> done) {
     });
 }
 
+void Store::startTimer(const QString& label, double minutes) {
+    const auto timer = FocusTimer::started(label, minutes, services_.scheduler.uptime());
+    if (timer) {
+        timer_ = *timer;
+        timerEnd_ = services_.scheduler.after(timer_.duration, [this] { finishTimer(); });
+        tell(&Store::timerChanged);
+    }
+}
+
+void Store::stopTimer() {
+    timer_.start.reset();
+    timerEnd_.reset();
+    tell(&Store::timerChanged);
+}
+
+void Store::finishTimer() {
+    timer_.start.reset();
+    timerEnd_.reset();
+    Q_EMIT timerFinished();
+    tell(&Store::timerChanged);
+}
+
+double Store::timerRemaining() const {
+    return timer_.remaining(services_.scheduler.uptime()).count();
+}
+
+void Store::setReminderOpen(bool open) {
+    reminders_.open = open;
+    reminders_.keepOpen(services_.preferences);
+    tell(&Store::remindersChanged);
+}
+
+void Store::setReminders(const QStringList& texts) {
+    reminders_.texts = texts;
+    reminders_.keepTexts(services_.preferences);
+    tell(&Store::remindersChanged);
+}
+
+void Store::tell(void (Store::*changed)()) {
+    Q_EMIT(this->*changed)();
+    if (onTimerChange) {
+        onTimerChange();
+    }
+}
+
 void Store::save() {
     unsaved_ = data_;
+    unsaved_->shelfStacks = paths(shelf_.stacks);
     pendingSave_ = services_.scheduler.after(saveDelay, [this] { write(); });
 }
 

@@ -1,9 +1,13 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "shelf/Shelf.h"
 #include "store/Records.h"
+#include "timer/FocusTimer.h"
+#include "timer/Reminders.h"
 
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 #include <optional>
@@ -17,13 +21,21 @@ class Worker;
 struct ClipChange;
 struct PasteboardSnapshot;
 
-/// The one observable store that every view reads: clips, snippets, notes, sketch and shelf.
+/// The one observable store that every view reads: clips, snippets, notes, sketch and shelf, the
+/// focus timer and the reminders. The timer ends with the program; the reminders are preferences.
 /// Setting a note never saves by itself; the operations do. Saves are debounced and written by the
 /// worker. Failures are silent: what is in memory stays and is written by the next save.
 /// Main thread only.
 class Store : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString note READ note WRITE setNote NOTIFY noteChanged)
+    Q_PROPERTY(int shelfRequestTick READ shelfRequestTick NOTIFY shelfRequestTickChanged)
+    Q_PROPERTY(bool timerRunning READ timerRunning NOTIFY timerChanged)
+    Q_PROPERTY(QString timerLabel READ timerLabel NOTIFY timerChanged)
+    Q_PROPERTY(double timerDuration READ timerDuration NOTIFY timerChanged)
+    Q_PROPERTY(bool reminderOpen READ reminderOpen WRITE setReminderOpen NOTIFY remindersChanged)
+    Q_PROPERTY(QStringList reminders READ reminders WRITE setReminders NOTIFY remindersChanged)
+    Q_PROPERTY(bool reminderVisible READ reminderVisible NOTIFY remindersChanged)
 
 public:
     /// What the store needs of the platform; all of it outlives the store.
@@ -47,8 +59,8 @@ public:
 
     [[nodiscard]] const QList<ClipItem>& clips() const;
     [[nodiscard]] const QList<Snippet>& snippets() const;
-    /// The parked files, oldest stack first, as absolute paths.
-    [[nodiscard]] const QList<QStringList>& shelfStacks() const;
+    /// The parked files and which of them are selected.
+    [[nodiscard]] const Shelf& shelf() const;
     [[nodiscard]] QString note() const;
     void setNote(const QString& note);
 
@@ -72,6 +84,47 @@ public:
     /// the handle is dropped before that, `done` is not called and no file stays.
     [[nodiscard]] Handle saveClipboardImageForSnippet(std::function<void(QString)> done);
 
+    /// As the rules of `Shelf` have it; nothing is saved where nothing changes.
+    void addToShelf(const QList<QUrl>& urls);
+    void removeFromShelf(const QUrl& url);
+    void toggleSelectStack(const QList<QUrl>& stack);
+    void clearSelection();
+
+    /// Goes up whenever the shelf is to be shown.
+    [[nodiscard]] int shelfRequestTick() const { return shelfRequestTick_; }
+
+    void requestShelf();
+
+    /// Starts a timer in place of the one that runs. The label loses the blanks around it. A length
+    /// that no timer can have leaves all as it was; see FocusTimer::started.
+    Q_INVOKABLE void startTimer(const QString& label, double minutes);
+    /// Label and duration stay.
+    Q_INVOKABLE void stopTimer();
+
+    [[nodiscard]] bool timerRunning() const { return timer_.running(); }
+
+    [[nodiscard]] QString timerLabel() const { return timer_.label; } ///< Of the last one, too.
+
+    [[nodiscard]] double timerDuration() const { return timer_.duration.count(); } ///< Seconds.
+
+    /// Seconds, counted anew at every call; nothing tells of its changes.
+    [[nodiscard]] Q_INVOKABLE double timerRemaining() const;
+
+    [[nodiscard]] bool reminderOpen() const { return reminders_.open; }
+
+    void setReminderOpen(bool open);
+
+    [[nodiscard]] const QStringList& reminders() const { return reminders_.texts; }
+
+    void setReminders(const QStringList& texts);
+
+    /// Wanted, and there are some.
+    [[nodiscard]] bool reminderVisible() const { return reminders_.visible(); }
+
+    /// After each start, stop and end of the timer and each change of the reminders, once all is
+    /// set and told.
+    std::function<void()> onTimerChange;
+
     /// Schedules a write of the whole store, 0.4 s after the last of a burst of calls.
     Q_INVOKABLE void save();
 
@@ -84,6 +137,11 @@ Q_SIGNALS:
     void clipsChanged();
     void snippetsChanged();
     void noteChanged();
+    void shelfChanged();
+    void shelfRequestTickChanged();
+    void timerChanged();
+    void timerFinished(); ///< It has run its whole length.
+    void remindersChanged();
 
 private:
     /// Whether the file on disk is one of ours or has to be kept for the user to look into.
@@ -94,17 +152,25 @@ private:
     void capture(std::function<void()> job, std::function<void()> add,
                  std::function<void()> discard);
     void apply(std::optional<ClipChange> change);
+    void setShelf(Shelf shelf);
     void removeImages(const QStringList& imageFileNames);
     void write();
+    void finishTimer();
+    void tell(void (Store::*changed)()); ///< A signal, and then `onTimerChange`.
 
     Services services_;
     QString folder_;
-    StoreData data_;
+    StoreData data_; ///< But for its shelf, which is `shelf_`.
+    Shelf shelf_;
+    int shelfRequestTick_ = 0;
     FileState file_ = FileState::ours;
     int capturesOnTheirWay_ = 0;
     int clearings_ = 0; ///< Tells captures from before the last clearing from later ones.
     std::optional<StoreData> unsaved_;
     Handle pendingSave_;
+    FocusTimer timer_;
+    Handle timerEnd_;
+    Reminders reminders_;
 };
 
 } // namespace ravelo

@@ -1,0 +1,57 @@
+#include "shelf/Shelf.h"
+
+#include <algorithm>
+#include <iterator>
+
+namespace ravelo {
+
+QList<QUrl> Shelf::files() const {
+    QList<QUrl> all;
+    for (const QList<QUrl>& stack : stacks) {
+        all.append(stack);
+    }
+    return all;
+}
+
+QList<QUrl> Shelf::selectedFiles() const {
+    QList<QUrl> chosen = files();
+    chosen.removeIf([this](const QUrl& url) { return !selected.contains(url); });
+    return chosen;
+}
+
+std::optional<Shelf> Shelf::added(const QList<QUrl>& urls) const {
+    const QList<QUrl> parked = files();
+    QList<QUrl> fresh;
+    std::ranges::copy_if(urls, std::back_inserter(fresh),
+                         [&](const QUrl& url) { return !parked.contains(url); });
+    if (fresh.isEmpty()) {
+        return std::nullopt;
+    }
+    Shelf shelf = *this;
+    shelf.selected.unite(QSet(fresh.begin(), fresh.end()));
+    shelf.stacks.append(std::move(fresh));
+    return shelf;
+}
+
+Shelf Shelf::removed(const QUrl& url) const {
+    Shelf shelf = *this;
+    for (QList<QUrl>& stack : shelf.stacks) {
+        stack.removeAll(url);
+    }
+    shelf.stacks.removeIf([](const QList<QUrl>& stack) { return stack.isEmpty(); });
+    shelf.selected.remove(url);
+    return shelf;
+}
+
+Shelf Shelf::stackToggled(const QList<QUrl>& stack) const {
+    Shelf shelf = *this;
+    const QSet<QUrl> files(stack.begin(), stack.end());
+    if (selected.contains(files)) {
+        shelf.selected.subtract(files);
+    } else {
+        shelf.selected.unite(files);
+    }
+    return shelf;
+}
+
+} // namespace ravelo

@@ -1,0 +1,55 @@
+#include "timer/Reminders.h"
+
+#include "platform/Preferences.h"
+
+#include <QJsonArray>
+
+#include <algorithm>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString openKey() {
+    return u"reminderOpen"_s;
+}
+
+QString textsKey() {
+    return u"reminders"_s;
+}
+
+/// Empty for anything but an array of texts alone.
+QStringList toTexts(const QJsonArray& array) {
+    QStringList texts;
+    for (const QJsonValue value : array) {
+        if (!value.isString()) {
+            return {};
+        }
+        texts.append(value.toString());
+    }
+    return texts;
+}
+
+QStringList loadTexts(const Preferences& preferences) {
+    const QStringList texts = toTexts(preferences.value(textsKey()).toArray());
+    const QString single = preferences.value(u"reminder"_s).toString();
+    return !texts.isEmpty() || single.isEmpty() ? texts : QStringList{single};
+}
+
+} // namespace
+
+Reminders Reminders::load(const Preferences& preferences) {
+    return {preferences.value(openKey()).toBool(false), loadTexts(preferences)};
+}
+
+void Reminders::keepOpen(Preferences& preferences) const {
+    preferences.set(openKey(), open);
+}
+
+void Reminders::keepTexts(Preferences& preferences) const {
+    preferences.set(textsKey(), QJsonArray::fromStringList(texts));
+}
+
+} // namespace ravelo
