@@ -5,6 +5,9 @@
 #include "panel/NotchController.h"
 #include "platform/DisplayServer.h"
 #include "platform/freedesktop/AutostartEntry.h"
+#include "platform/freedesktop/BusInstance.h"
+#include "platform/freedesktop/LoginSession.h"
+#include "platform/freedesktop/ScreenSaverBus.h"
 #include "platform/system/PreferenceFile.h"
 #include "platform/system/SystemScheduler.h"
 #include "platform/system/TerminationSignals.h"
@@ -52,7 +55,10 @@ AppDelegate::AppDelegate(DisplayServer& display)
       preferences_(std::make_unique<PreferenceFile>(configFolder() + u"/ravelo/preferences.json"_s,
                                                     *worker_)),
       loginItem_(std::make_unique<AutostartEntry>(configFolder() + u"/autostart"_s,
-                                                  QCoreApplication::applicationFilePath())) {}
+                                                  QCoreApplication::applicationFilePath())),
+      loginSession_(std::make_unique<LoginSession>(
+          QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s))),
+      screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())) {}
 
 AppDelegate::~AppDelegate() {
     flush();
@@ -80,8 +86,14 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     window_ = display_.panelWindow(view_->window());
     notch_ = std::make_unique<NotchController>(
         *store_, *clipboard_, *settings_,
-        NotchController::Services{*scheduler_, display_.screens(), display_.pointer(),
-                                  display_.drags(), *window_});
+        NotchController::Services{
+            *scheduler_,
+            display_.screens(),
+            display_.pointer(),
+            display_.drags(),
+            display_.barrier(),
+            *window_,
+            {&display_.lock(), loginSession_.get(), screenSaver_.get()}});
     view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_}, QLocale());
     wire();
     return {};

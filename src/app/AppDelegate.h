@@ -19,6 +19,7 @@ class PanelView;
 class PanelWindow;
 class Preferences;
 class Scheduler;
+class SessionLock;
 class Store;
 class Worker;
 
@@ -49,6 +50,8 @@ private:
     std::unique_ptr<Worker> worker_;
     std::unique_ptr<Preferences> preferences_;
     std::unique_ptr<LoginItem> loginItem_;
+    std::unique_ptr<SessionLock> loginSession_;
+    std::unique_ptr<SessionLock> screenSaver_;
 
     std::unique_ptr<Store> store_;
     std::unique_ptr<AppSettings> settings_;

@@ -1,13 +1,17 @@
 #include "panel/NotchController.h"
 
 #include "clipboard/ClipboardManager.h"
+#include "panel/HotKeyCenter.h"
 #include "panel/NotchGeometry.h"
 #include "panel/NotchShape.h"
 #include "platform/DragMonitor.h"
 #include "platform/Pointer.h"
+#include "platform/SessionLock.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
 
+#include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace ravelo {
@@ -25,28 +29,43 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
     : store_(store),
       clipboard_(clipboard),
       settings_(settings),
-      services_(services),
-      tick_(services.scheduler, services.pointer, rest, [this] { return evaluateHover(); }) {
+      services_(std::move(services)),
+      guard_(services_.scheduler, services_.screens, services_.drags, services_.barrier),
+      drop_(services_.drags, [this](const QList<QUrl>& files) { onFiles(files); }),
+      tick_(services_.scheduler, services_.pointer, rest, [this] { return evaluateHover(); }) {
     idleDragCount_ = services_.drags.changeCount();
+    guard_.start();
+    connect(&store_, &Store::shelfChanged, this, &NotchController::resizeForShelf);
     pressMonitor_ = services_.pointer.onPress([this] { pressedSomewhere(); });
     screensMonitor_ = services_.screens.onChange([this] { screensChanged(); });
     dragMonitor_ = services_.drags.onChange([this] { tick_.wake(); });
-    positionCollapsed();
-    services_.window.orderFront();
+    for (SessionLock* const lock : services_.locks) {
+        lockMonitors_.push_back(lock->onChange([this] { lockChanged(); }));
+    }
+    lockChanged();
+    HotKeyCenter::shared().release();
+    store_.onTimerChange = [this] {
+        if (!isOpen_) {
+            positionCollapsed();
+        }
+    };
 }
 
-NotchController::~NotchController() = default;
+NotchController::~NotchController() {
+    store_.onTimerChange = nullptr;
+}
 
 HoverTick::Next NotchController::evaluateHover() {
     PointerState pointer = look();
     pointer.buttonDown = std::exchange(unseenPress_, false) || pointer.buttonDown;
     const auto on = screenFor(pointer.location, services_.screens.all(), services_.screens.main());
-    if (!on) {
-        return HoverTick::Next::still; // Screens that come back wake the tick.
+    if (!on || isLocked()) {
+        return HoverTick::Next::still; // Screens that come back and the unlocking wake the tick.
     }
     if (!pointer.buttonDown) {
         idleDragCount_ = services_.drags.changeCount();
     }
+    guard_.follow(isDragOn(pointer) ? pointer.location : std::nullopt);
     const bool inZone =
         pointer.location ? isNearTopCentre(*pointer.location, *on, hotZoneHeight, hotZoneHalfWidth)
                          : hovered_;
@@ -64,7 +83,8 @@ void NotchController::evaluateOpen(bool inZone, const PointerState& pointer) {
     const QRectF near = frame_.adjusted(-hoverMargin, -hoverMargin, hoverMargin, hoverMargin);
     if (inZone || isOver(near, pointer)) {
         closeWork_.reset();
-    } else {
+    } else if (pointer.location || !closeWork_) {
+        // Where no press elsewhere is ever told of, the delay is all that closes: it goes on then.
         scheduleClose();
     }
 }
@@ -72,7 +92,7 @@ void NotchController::evaluateOpen(bool inZone, const PointerState& pointer) {
 void NotchController::evaluateCollapsed(bool inZone, const Screen& screen,
                                         const PointerState& pointer) {
     if (isFileDragNear(screen, pointer)) {
-        positionExpanded();
+        openForFiles();
         return;
     }
     const bool over = inZone || isOver(frame_, pointer);
@@ -89,10 +109,36 @@ void NotchController::evaluateCollapsed(bool inZone, const Screen& screen,
 bool NotchController::isFileDragNear(const Screen& screen, const PointerState& pointer) const {
     // The source is asked for its types only once everything else speaks for opening: some make
     // their files when they are asked.
-    return pointer.buttonDown && pointer.location &&
-           services_.drags.changeCount() != idleDragCount_ &&
+    return isDragOn(pointer) && pointer.location &&
            isNearTopCentre(*pointer.location, screen, dragZoneHeight, dragZoneHalfWidth) &&
-           services_.drags.carriesFiles().value_or(false);
+           !services_.drags.files().value_or(QList<QUrl>()).isEmpty();
+}
+
+bool NotchController::isDragOn(const PointerState& pointer) const {
+    return pointer.buttonDown && services_.drags.changeCount() != idleDragCount_;
+}
+
+void NotchController::openForFiles() {
+    store_.clearSelection();
+    store_.requestShelf();
+    positionExpanded();
+}
+
+void NotchController::onDragEnter() {
+    drop_.expect();
+    if (!isOpen_) {
+        openForFiles();
+    }
+}
+
+void NotchController::onDrop() {
+    drop_.take();
+}
+
+void NotchController::onFiles(const QList<QUrl>& urls) {
+    store_.addToShelf(urls);
+    store_.requestShelf();
+    positionExpanded();
 }
 
 bool NotchController::isOver(const QRectF& area, const PointerState& pointer) const {
@@ -158,18 +204,31 @@ void NotchController::toggle() {
 }
 
 void NotchController::positionCollapsed() {
-    const bool changed = std::exchange(isOpen_, false);
-    if (changed) {
+    const auto on = screen();
+    const BarGeometry bar = on ? barGeometry(*on, settings_.macType()) : BarGeometry();
+    setCollapsed(store_.timerRunning() || store_.reminderVisible(), bar.notch);
+    if (std::exchange(isOpen_, false)) {
         Q_EMIT isOpenChanged();
     }
-    if (const auto on = screen()) {
+    if (on && showsBar_) {
+        const QSizeF size(bar.width, bar.height);
+        setFrame(*on, size, barOutline(size, bar.notch));
+    } else if (on) {
         setFrame(*on, handleSize, handleOutline(handleSize));
+    }
+}
+
+void NotchController::setCollapsed(bool bar, double notch) {
+    if (bar != showsBar_ || notch != notch_) {
+        showsBar_ = bar;
+        notch_ = notch;
+        Q_EMIT collapsedChanged();
     }
 }
 
 void NotchController::positionExpanded() {
     const auto on = screen();
-    if (isOpen_ || !on) {
+    if (isOpen_ || !on || isLocked()) {
         return;
     }
     isOpen_ = true;
@@ -179,9 +238,37 @@ void NotchController::positionExpanded() {
 }
 
 void NotchController::placeExpanded(const Screen& screen) {
-    const Shelf shelf = store_.shelfStacks().isEmpty() ? Shelf::empty : Shelf::holdsFiles;
-    const QSizeF size = expandedSize(settings_.panelWidth(), shelf);
+    const QSizeF size = sizeToOpenWith();
     setFrame(screen, size, panelOutline(size));
+}
+
+QSizeF NotchController::sizeToOpenWith() const {
+    const bool empty = store_.shelf().stacks.isEmpty();
+    return expandedSize(settings_.panelWidth(), empty ? ShelfContent::none : ShelfContent::files);
+}
+
+void NotchController::resizeForShelf() {
+    const auto on = screen();
+    if (isOpen_ && on && std::abs(sizeToOpenWith().height() - frame_.height()) > 1) {
+        placeExpanded(*on);
+    }
+}
+
+bool NotchController::isLocked() const {
+    return std::ranges::any_of(services_.locks, &SessionLock::isLocked);
+}
+
+void NotchController::lockChanged() {
+    if (isLocked()) {
+        guard_.follow(std::nullopt);
+        collapse();
+        services_.window.orderOut();
+    } else {
+        if (!isOpen_) {
+            positionCollapsed();
+        }
+        services_.window.orderFront();
+    }
 }
 
 void NotchController::setFrame(const Screen& screen, QSizeF size, const QPainterPath& outline) {

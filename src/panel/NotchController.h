@@ -2,21 +2,26 @@
 
 #include "base/Handle.h"
 #include "base/Scheduler.h"
+#include "panel/EdgeGuard.h"
 #include "panel/HoverTick.h"
 #include "platform/PanelWindow.h"
 #include "platform/Screens.h"
+#include "shelf/FileDrop.h"
 
 #include <QObject>
 #include <QRectF>
 
 #include <optional>
+#include <vector>
 
 namespace ravelo {
 
 class AppSettings;
 class ClipboardManager;
 class DragMonitor;
+class EdgeBarrier;
 class Pointer;
+class SessionLock;
 class Store;
 struct PointerState;
 
@@ -25,6 +30,8 @@ struct PointerState;
 class NotchController : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
+    Q_PROPERTY(bool showsBar READ showsBar NOTIFY collapsedChanged)
+    Q_PROPERTY(double notch READ notch NOTIFY collapsedChanged)
 
 public:
     /// What the controller needs of the platform; all of it outlives the controller.
@@ -33,7 +40,9 @@ public:
         Screens& screens;
         Pointer& pointer;
         DragMonitor& drags;
+        EdgeBarrier& barrier;
         PanelWindow& window;
+        std::vector<SessionLock*> locks; ///< The session is locked while one of them says so.
     };
 
     NotchController(Store& store, ClipboardManager& clipboard, AppSettings& settings,
@@ -41,6 +50,15 @@ public:
     ~NotchController() override;
 
     [[nodiscard]] bool isOpen() const { return isOpen_; }
+
+    /// What the panel would open with, in logical pixels.
+    [[nodiscard]] QSizeF sizeToOpenWith() const;
+
+    /// Whether the collapsed panel is the bar with the timer or the reminders, not the handle.
+    [[nodiscard]] bool showsBar() const { return showsBar_; }
+
+    /// The width that the bar leaves free in its middle, in logical pixels; 0 for none.
+    [[nodiscard]] double notch() const { return notch_; }
 
     /// Where the panel stands, in global logical pixels.
     [[nodiscard]] QRectF frame() const { return frame_; }
@@ -58,6 +76,15 @@ public:
     /// nowhere else.
     Q_INVOKABLE void setHovered(bool hovered);
 
+    /// A file drag has entered the panel's window: it opens to take it.
+    Q_INVOKABLE void onDragEnter();
+
+    /// That drag was dropped on the panel; its files go to the shelf as they come.
+    Q_INVOKABLE void onDrop();
+
+    /// Parks files and opens to show them.
+    void onFiles(const QList<QUrl>& urls);
+
     /// Puts a text, or a stored image, on the pasteboard without making a new clip of it.
     Q_INVOKABLE void copy(const QString& text);
     Q_INVOKABLE void copyImage(const QString& path);
@@ -67,6 +94,7 @@ public:
 
 Q_SIGNALS:
     void isOpenChanged();
+    void collapsedChanged(); ///< The handle became a bar, the bar a handle, or the notch another.
 
 private:
     /// What must stand still for the tick to rest.
@@ -81,6 +109,8 @@ private:
     HoverTick::Next evaluateHover();
     void evaluateOpen(bool inZone, const PointerState& pointer);
     void evaluateCollapsed(bool inZone, const Screen& screen, const PointerState& pointer);
+    void openForFiles();
+    [[nodiscard]] bool isDragOn(const PointerState& pointer) const;
     [[nodiscard]] bool isFileDragNear(const Screen& screen, const PointerState& pointer) const;
     [[nodiscard]] bool isOver(const QRectF& area, const PointerState& pointer) const;
     [[nodiscard]] PointerState look();
@@ -88,6 +118,10 @@ private:
     void pressedSomewhere();
     void screensChanged();
     void scheduleClose();
+    void resizeForShelf();
+    [[nodiscard]] bool isLocked() const;
+    void lockChanged();
+    void setCollapsed(bool bar, double notch);
     void setFrame(const Screen& screen, QSizeF size, const QPainterPath& outline);
     void placeExpanded(const Screen& screen);
 
@@ -97,6 +131,8 @@ private:
     Services services_;
 
     bool isOpen_ = false;
+    bool showsBar_ = false;
+    double notch_ = 0;
     QRectF frame_;
     int stripTicks_ = 0;       ///< Ticks in a row with the pointer in the zone while collapsed.
     qint64 idleDragCount_ = 0; ///< The drag count last seen with no button down.
@@ -105,11 +141,14 @@ private:
     bool unseenPress_ = false; ///< A button was down at a look between two ticks.
     Seen lastSeen_;
 
+    EdgeGuard guard_;
+    FileDrop drop_;
     HoverTick tick_;
     Handle closeWork_;
     Handle pressMonitor_;
     Handle screensMonitor_;
     Handle dragMonitor_;
+    std::vector<Handle> lockMonitors_;
 };
 
 } // namespace ravelo

@@ -40,8 +40,8 @@ BarGeometry barGeometry(const Screen& screen, const QString& displayKind) {
     return {std::max(notchBarWidth, 3 * notch), height, notch};
 }
 
-QSizeF expandedSize(double panelWidth, Shelf shelf) {
-    return {panelWidth, shelf == Shelf::holdsFiles ? 700.0 : 560.0};
+QSizeF expandedSize(double panelWidth, ShelfContent shelf) {
+    return {panelWidth, shelf == ShelfContent::files ? 700.0 : 560.0};
 }
 
 QRectF hangingFrame(const Screen& screen, QSizeF size) {

@@ -32,9 +32,9 @@ struct BarGeometry {
 /// `displayKind` is "auto", "notch" or "none"; anything else counts as "auto".
 [[nodiscard]] BarGeometry barGeometry(const Screen& screen, const QString& displayKind);
 
-enum class Shelf { empty, holdsFiles };
+enum class ShelfContent { none, files };
 
-[[nodiscard]] QSizeF expandedSize(double panelWidth, Shelf shelf);
+[[nodiscard]] QSizeF expandedSize(double panelWidth, ShelfContent shelf);
 
 /// A box of `size` hanging from the middle of the top edge of `screen`.
 [[nodiscard]] QRectF hangingFrame(const Screen& screen, QSizeF size);

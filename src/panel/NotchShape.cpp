@@ -31,4 +31,8 @@ QPainterPath handleOutline(QSizeF size) {
     return notchShape(size, 6, 8);
 }
 
+QPainterPath barOutline(QSizeF size, double notch) {
+    return notchShape(size, 8, notch > 0 ? 14 : 12);
+}
+
 } // namespace ravelo

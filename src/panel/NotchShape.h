@@ -16,4 +16,7 @@ namespace ravelo {
 /// The outline of the collapsed handle.
 [[nodiscard]] QPainterPath handleOutline(QSizeF size);
 
+/// The outline of the collapsed bar, `notch` being the gap in its middle, 0 for none.
+[[nodiscard]] QPainterPath barOutline(QSizeF size, double notch);
+
 } // namespace ravelo

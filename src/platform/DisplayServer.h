@@ -1,10 +1,12 @@
 #pragma once
 
 #include "platform/DragMonitor.h"
+#include "platform/EdgeBarrier.h"
 #include "platform/PanelWindow.h"
 #include "platform/Pasteboard.h"
 #include "platform/Pointer.h"
 #include "platform/Screens.h"
+#include "platform/SessionLock.h"
 
 #include <memory>
 
@@ -22,6 +24,10 @@ public:
     [[nodiscard]] virtual Pointer& pointer() = 0;
     [[nodiscard]] virtual DragMonitor& drags() = 0;
     [[nodiscard]] virtual Screens& screens() = 0;
+    [[nodiscard]] virtual EdgeBarrier& barrier() = 0;
+
+    /// As far as the display server itself is told of a locked screen.
+    [[nodiscard]] virtual SessionLock& lock() = 0;
 
     /// Makes the panel out of `window`, which must not have been shown yet and must outlive it.
     [[nodiscard]] virtual std::unique_ptr<PanelWindow> panelWindow(QWindow& window) = 0;

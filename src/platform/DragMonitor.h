@@ -2,7 +2,8 @@
 
 #include "base/Handle.h"
 
-#include <QtGlobal>
+#include <QList>
+#include <QUrl>
 
 #include <functional>
 #include <optional>
@@ -18,11 +19,12 @@ public:
     /// Goes up when a drag begins in another program. To be compared for equality only.
     [[nodiscard]] virtual qint64 changeCount() const = 0;
 
-    /// Whether the newest drag carries files. The first call for a drag asks its source and later
-    /// ones see the answer; nothing until it is there. Never waits.
-    [[nodiscard]] virtual std::optional<bool> carriesFiles() = 0;
+    /// The local files that the newest drag carries; empty where it carries none or its source does
+    /// not answer in time. The first call for a drag asks its source and later ones see the answer;
+    /// nothing until it is there. Never waits.
+    [[nodiscard]] virtual std::optional<QList<QUrl>> files() = 0;
 
-    /// Called when a drag begins, and when the answer to `carriesFiles` has come.
+    /// Called when a drag begins, and when the answer to `files` has come.
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
 };
 

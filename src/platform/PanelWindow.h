@@ -24,6 +24,9 @@ public:
     /// Shows the window above all others, without giving it the focus.
     virtual void orderFront() = 0;
 
+    /// Takes the window off the screen; it keeps its place and size.
+    virtual void orderOut() = 0;
+
     /// The shape of what is shown, in the window's own logical pixels. Clicks outside it go to
     /// whatever lies below; the desktop may blur what is behind it; where the desktop cannot show
     /// transparent windows the window is cut to it.

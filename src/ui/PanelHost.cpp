@@ -119,7 +119,7 @@ void PanelHost::tellUsage() {
 }
 
 QSizeF PanelHost::sizeToOpenWith() const {
-    return expandedSize(settings()->panelWidth(), Shelf::empty);
+    return controller()->sizeToOpenWith();
 }
 
 } // namespace ravelo

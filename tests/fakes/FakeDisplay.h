@@ -2,9 +2,11 @@
 
 #include "base/Listeners.h"
 #include "platform/DragMonitor.h"
+#include "platform/EdgeBarrier.h"
 #include "platform/PanelWindow.h"
 #include "platform/Pointer.h"
 #include "platform/Screens.h"
+#include "platform/SessionLock.h"
 
 #include <utility>
 
@@ -64,7 +66,10 @@ class FakeDragMonitor final : public DragMonitor {
 public:
     [[nodiscard]] qint64 changeCount() const override { return changeCount_; }
 
-    [[nodiscard]] std::optional<bool> carriesFiles() override { return files_; }
+    [[nodiscard]] std::optional<QList<QUrl>> files() override {
+        ++questions;
+        return files_;
+    }
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return listeners_.add(std::move(callback));
@@ -72,20 +77,27 @@ public:
 
     /// Another program begins a drag; nothing for a source that does not answer.
     void begin(std::optional<bool> files) {
-        files_ = files;
+        files_ = listOf(files);
         ++changeCount_;
         listeners_.notify();
     }
 
     /// The source of the newest drag answers after all.
     void answer(bool files) {
-        files_ = files;
+        files_ = listOf(files);
         listeners_.notify();
     }
 
+    const QUrl file = QUrl(QStringLiteral("file:///home/someone/a%20file.txt"));
+    int questions = 0; ///< How often the source was asked.
+
 private:
+    [[nodiscard]] std::optional<QList<QUrl>> listOf(std::optional<bool> files) const {
+        return files ? std::optional(*files ? QList<QUrl>{file} : QList<QUrl>()) : std::nullopt;
+    }
+
     qint64 changeCount_ = 3;
-    std::optional<bool> files_;
+    std::optional<QList<QUrl>> files_;
     Listeners<> listeners_;
 };
 
@@ -113,6 +125,43 @@ private:
     Listeners<> listeners_;
 };
 
+class FakeEdgeBarrier final : public EdgeBarrier {
+public:
+    [[nodiscard]] bool isTrusted() override { return trusted; }
+
+    [[nodiscard]] Result<Handle> hold(QLineF line) override {
+        ++attempts;
+        if (broken) {
+            return failure(QStringLiteral("no barrier"));
+        }
+        held = line;
+        return Handle([this] { held.reset(); });
+    }
+
+    bool trusted = true;
+    bool broken = false;
+    int attempts = 0;
+    std::optional<QLineF> held;
+};
+
+class FakeSessionLock final : public SessionLock {
+public:
+    [[nodiscard]] bool isLocked() const override { return locked_; }
+
+    [[nodiscard]] Handle onChange(std::function<void()> callback) override {
+        return listeners_.add(std::move(callback));
+    }
+
+    void setLocked(bool locked) {
+        locked_ = locked;
+        listeners_.notify();
+    }
+
+private:
+    bool locked_ = false;
+    Listeners<> listeners_;
+};
+
 class FakePanelWindow final : public PanelWindow {
 public:
     void place(const Screen& on, QSizeF wanted) override {
@@ -121,7 +170,12 @@ public:
         ++placements;
     }
 
-    void orderFront() override { ++fronts; }
+    void orderFront() override {
+        ++fronts;
+        shown = true;
+    }
+
+    void orderOut() override { shown = false; }
 
     void setOutline(const QPainterPath& path) override { outline = path; }
 
@@ -145,6 +199,7 @@ public:
     QPainterPath outline;
     int placements = 0;
     int fronts = 0;
+    bool shown = false;
     bool focused = false;
 
 private:

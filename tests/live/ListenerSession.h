@@ -21,7 +21,8 @@ struct ListenerSession {
     std::unique_ptr<x11::Listener> listener = std::move(x11::Listener::create().value());
     x11::X11Pasteboard pasteboard{*listener};
     x11::X11DragMonitor drags{*listener};
-    x11::X11Pointer pointer{*connection, *listener, [](QPoint native) {
+    x11::X11Pointer pointer{*connection, *listener, x11::X11Pointer::Known::everywhere,
+                            [](QPoint native) {
                                 return QPointF(native);
                             }};
 

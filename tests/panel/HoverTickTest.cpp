@@ -1,4 +1,4 @@
-#include "PanelWorld.h"
+#include "fakes/PanelWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -33,7 +33,11 @@ struct Event {
         resize,
         unplug,
         replug,
-        layout
+        layout,
+        timer,
+        reminders,
+        shelf,
+        lock
     };
 
     Kind kind;
@@ -53,6 +57,7 @@ public:
     void apply(const Event& event) {
         way_ = event.kind == Event::toggle  ? u"by key"_s
                : event.kind == Event::press ? u"by press"_s
+               : event.kind == Event::lock  ? u"by the lock"_s
                                             : QString();
         switch (event.kind) {
         case Event::move:
@@ -86,6 +91,20 @@ public:
             if (!world.controller.isOpen()) {
                 world.controller.positionCollapsed();
             }
+            break;
+        case Event::timer:
+            event.flag ? world.store.startTimer(u"Work"_s, 0.03) : world.store.stopTimer();
+            break;
+        case Event::reminders:
+            world.store.setReminders({u"Call"_s});
+            world.store.setReminderOpen(event.flag);
+            break;
+        case Event::shelf:
+            event.flag ? world.store.removeFromShelf(world.drags.file)
+                       : world.store.addToShelf({world.drags.file});
+            break;
+        case Event::lock:
+            world.lock.setLocked(!event.flag);
             break;
         }
         way_.clear();
@@ -123,7 +142,8 @@ public:
             Event::move,      Event::move,       Event::move,    Event::move,    Event::move,
             Event::press,     Event::press,      Event::release, Event::release, Event::beginDrag,
             Event::beginDrag, Event::answerDrag, Event::toggle,  Event::resize,  Event::unplug,
-            Event::replug,    Event::replug,     Event::layout};
+            Event::replug,    Event::replug,     Event::layout,
+            Event::timer,     Event::reminders,  Event::shelf,   Event::lock};
         return {kinds[below(std::size(kinds))], place(), below(3) > 0};
     }
 
@@ -170,7 +190,8 @@ TEST(HoverTick, restingChangesNothingThatHappensNorWhen) {
         }
     }
     for (const char* way : {"opened by hover", "opened by file drag", "opened by key",
-                            "closed by press", "closed by key", "closed by delay"}) {
+                            "closed by press", "closed by key", "closed by delay",
+                            "closed by the lock"}) {
         const int times = ways[QString::fromLatin1(way)];
         std::printf("%s: %d\n", way, times);
         EXPECT_GT(times, 0) << way << " never happened: the input does not cover it";

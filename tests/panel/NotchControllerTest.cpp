@@ -1,4 +1,4 @@
-#include "PanelWorld.h"
+#include "fakes/PanelWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -155,7 +155,7 @@ TEST(NotchController, dismissedUnderThePointerItWaitsUntilThePointerHasLeft) {
     EXPECT_TRUE(world.controller.isOpen()) << "a file drag always opens";
 }
 
-TEST(NotchController, whereThePointersPlaceIsUnknownTheWindowsOwnHoverOpens) {
+TEST(NotchController, whereThePointersPlaceIsUnknownTheWindowsOwnHoverOpensAndCloses) {
     PanelWorld world;
     world.pointer.location = std::nullopt;
     world.scheduler.advance(Seconds(1));
@@ -164,6 +164,101 @@ TEST(NotchController, whereThePointersPlaceIsUnknownTheWindowsOwnHoverOpens) {
     world.scheduler.advance(tick);
     EXPECT_TRUE(world.controller.isOpen());
     EXPECT_EQ(world.window.screen, u"one"_s) << "the main screen";
+    world.controller.setHovered(false);
+    world.scheduler.advance(Seconds(0.3));
+    EXPECT_TRUE(world.controller.isOpen());
+    world.scheduler.advance(Seconds(0.1));
+    EXPECT_FALSE(world.controller.isOpen()) << "nothing else would ever close it";
+}
+
+TEST(NotchController, showsABarWhileATimerRunsOrRemindersAreShown) {
+    PanelWorld world;
+    world.store.startTimer(u"Deep work"_s, 25);
+    EXPECT_TRUE(world.controller.showsBar());
+    EXPECT_EQ(world.window.size, QSizeF(520, 28)) << "as high as the bar of the screen";
+    world.store.setReminders({u"Call"_s});
+    world.store.setReminderOpen(true);
+    world.store.stopTimer();
+    EXPECT_EQ(world.window.size, QSizeF(520, 28));
+    world.settings.onLayoutChange = [&] { world.controller.positionCollapsed(); };
+    world.settings.setMacType(u"notch"_s);
+    EXPECT_EQ(world.window.size, QSizeF(640, 28));
+    EXPECT_EQ(world.controller.notch(), 200);
+    world.moveTo(410, 20);
+    EXPECT_TRUE(world.controller.isOpen()) << "anywhere on the bar opens";
+    world.store.setReminderOpen(false);
+    EXPECT_EQ(world.window.size, QSizeF(927, 560)) << "an open panel waits until it closes";
+    world.controller.collapse();
+    EXPECT_EQ(world.window.size, QSizeF(200, 12));
+}
+
+TEST(NotchController, isAsHighAsTheShelfNeedsItKeepingItsTopEdge) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    world.store.addToShelf({world.drags.file});
+    EXPECT_EQ(world.controller.frame(), QRectF(256.5, 0, 927, 700));
+    world.store.removeFromShelf(world.drags.file);
+    EXPECT_EQ(world.controller.frame(), QRectF(256.5, 0, 927, 560));
+    world.controller.collapse();
+    world.store.addToShelf({world.drags.file});
+    EXPECT_EQ(world.window.size, QSizeF(200, 12));
+}
+
+TEST(NotchController, anEnteringDragShowsTheShelfWithNothingSelected) {
+    PanelWorld world;
+    const QUrl parked(u"file:///parked"_s);
+    world.store.addToShelf({parked});
+    world.beginDrag(true);
+    const int before = world.store.shelfRequestTick();
+    world.controller.onDragEnter();
+    EXPECT_TRUE(world.controller.isOpen());
+    EXPECT_EQ(world.store.shelfRequestTick(), before + 1);
+    EXPECT_EQ(world.store.shelf().selected, QSet<QUrl>());
+    world.controller.onDragEnter();
+    EXPECT_EQ(world.store.shelfRequestTick(), before + 1) << "counted for the collapsed panel only";
+
+    world.controller.onDrop();
+    EXPECT_EQ(world.store.shelf().stacks, (QList<QList<QUrl>>{{parked}, {world.drags.file}}));
+    EXPECT_EQ(world.store.shelf().selectedFiles(), QList<QUrl>{world.drags.file});
+}
+
+TEST(NotchController, aDropWhoseFilesComeLateIsTakenUnlessAnotherDragBegan) {
+    PanelWorld world;
+    world.beginDrag(std::nullopt);
+    world.controller.onDragEnter();
+    world.controller.onDrop();
+    EXPECT_EQ(world.store.shelf().stacks.size(), 0);
+    world.drags.answer(true);
+    EXPECT_EQ(world.store.shelf().stacks.size(), 1);
+
+    world.drags.begin(std::nullopt);
+    world.controller.onDrop();
+    world.drags.begin(true);
+    EXPECT_EQ(world.store.shelf().stacks.size(), 1) << "files that were never dropped here";
+}
+
+TEST(NotchController, isNotThereWhileTheSessionIsLocked) {
+    PanelWorld world;
+    EXPECT_TRUE(world.window.shown);
+    world.moveTo(720, 5);
+    ASSERT_TRUE(world.controller.isOpen());
+    world.lock.setLocked(true);
+    EXPECT_FALSE(world.window.shown);
+    EXPECT_FALSE(world.controller.isOpen());
+    world.otherLock.setLocked(true);
+    world.lock.setLocked(false);
+    EXPECT_FALSE(world.window.shown) << "the other one is locked still";
+    world.controller.toggle();
+    world.beginDrag(true);
+    world.moveTo(720, 5);
+    EXPECT_FALSE(world.controller.isOpen());
+    EXPECT_FALSE(world.barrier.held);
+    EXPECT_FALSE(world.window.shown);
+    world.pointer.release();
+    world.otherLock.setLocked(false);
+    EXPECT_TRUE(world.window.shown);
+    world.scheduler.advance(tick);
+    EXPECT_TRUE(world.controller.isOpen()) << "the pointer is in the hot zone";
 }
 
 TEST(NotchController, takesTheKeyboardForTypingOnlyAndGivesItBack) {

@@ -1,5 +1,5 @@
 #include "ui/ClipListModel.h"
-#include "UiWorld.h"
+#include "fakes/PanelWorld.h"
 
 #include <gtest/gtest.h>
 
@@ -71,7 +71,7 @@ StoreData fiveClips() {
 
 struct ChangeCase {
     const char* name;
-    void (*change)(UiWorld& world);
+    void (*change)(PanelWorld& world);
     int inserts;
     int removes;
     int moves;
@@ -80,7 +80,7 @@ struct ChangeCase {
 class ClipListChange : public testing::TestWithParam<ChangeCase> {};
 
 TEST_P(ClipListChange, reachesTheViewAsSingleRows) {
-    UiWorld world(fiveClips());
+    PanelWorld world(fiveClips());
     const ClipListModel model(world.store, world.scheduler, english);
     const Mirror mirror(model);
     GetParam().change(world);
@@ -94,19 +94,19 @@ TEST_P(ClipListChange, reachesTheViewAsSingleRows) {
 INSTANTIATE_TEST_SUITE_P(
     All, ClipListChange,
     testing::Values(
-        ChangeCase{"copied", [](UiWorld& world) { world.store.addClip(u"six"_s); }, 1, 0, 0},
-        ChangeCase{"copiedAgain", [](UiWorld& world) { world.store.addClip(u"four"_s); }, 1, 1, 0},
+        ChangeCase{"copied", [](PanelWorld& world) { world.store.addClip(u"six"_s); }, 1, 0, 0},
+        ChangeCase{"copiedAgain", [](PanelWorld& world) { world.store.addClip(u"four"_s); }, 1, 1, 0},
         ChangeCase{"deleted",
-                   [](UiWorld& world) { world.store.deleteClip(world.store.clips()[2].id); }, 0, 1,
+                   [](PanelWorld& world) { world.store.deleteClip(world.store.clips()[2].id); }, 0, 1,
                    0},
         ChangeCase{"pinnedFromTheEnd",
-                   [](UiWorld& world) { world.store.togglePin(world.store.clips()[4].id); }, 0, 0,
+                   [](PanelWorld& world) { world.store.togglePin(world.store.clips()[4].id); }, 0, 0,
                    1},
-        ChangeCase{"cleared", [](UiWorld& world) { world.store.clearClips(); }, 0, 5, 0}),
+        ChangeCase{"cleared", [](PanelWorld& world) { world.store.clearClips(); }, 0, 5, 0}),
     [](const auto& row) { return row.param.name; });
 
 TEST(ClipListModel, tellsTheViewOfAClipThatChangesInItsPlace) {
-    UiWorld world(fiveClips());
+    PanelWorld world(fiveClips());
     const ClipListModel model(world.store, world.scheduler, english);
     QList<int> changed;
     QObject::connect(&model, &ClipListModel::dataChanged, &model,
@@ -129,7 +129,7 @@ class ClipRowText : public testing::TestWithParam<RowCase> {};
 TEST_P(ClipRowText, isMadeOfTheClip) {
     StoreData data;
     data.clips = {GetParam().item};
-    UiWorld world(data);
+    PanelWorld world(data);
     const ClipListModel model(world.store, world.scheduler, english);
     const QModelIndex row = model.index(0);
     EXPECT_EQ(model.data(row, ClipListModel::titleRole).toString(), GetParam().title);
@@ -175,7 +175,7 @@ TEST_P(Search, findsTheClipsThatContainIt) {
     for (const QString& text : GetParam().texts) {
         data.clips.append(clip(text, Seconds(60)));
     }
-    UiWorld world(data);
+    PanelWorld world(data);
     ClipListModel model(world.store, world.scheduler, GetParam().locale);
     model.setSearch(GetParam().search);
     QList<QUuid> expected;
@@ -203,7 +203,7 @@ INSTANTIATE_TEST_SUITE_P(
     [](const auto& row) { return row.param.name; });
 
 TEST(ClipListModel, aClipCopiedDuringASearchIsListedOnlyIfItFits) {
-    UiWorld world(fiveClips());
+    PanelWorld world(fiveClips());
     ClipListModel model(world.store, world.scheduler, english);
     model.setSearch(u"f"_s);
     world.store.addClip(u"six"_s);
@@ -213,7 +213,7 @@ TEST(ClipListModel, aClipCopiedDuringASearchIsListedOnlyIfItFits) {
 }
 
 TEST(ClipListModel, tellsDatesAnewWhenAsked) {
-    UiWorld world(fiveClips());
+    PanelWorld world(fiveClips());
     ClipListModel model(world.store, world.scheduler, english);
     QList<int> roles;
     QObject::connect(&model, &ClipListModel::dataChanged, &model,

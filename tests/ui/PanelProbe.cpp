@@ -6,7 +6,7 @@
 // the window. --behind puts a picture of a screen below; --time prints what N openings cost.
 
 #include "Input.h"
-#include "UiWorld.h"
+#include "fakes/PanelWorld.h"
 #include "ui/PanelView.h"
 
 #include <QCommandLineParser>
@@ -134,7 +134,7 @@ void collect(const QQuickItem* item, const QString& path, QJsonObject& into) {
     }
 }
 
-void play(const QString& scene, UiWorld& world, PanelView& view) {
+void play(const QString& scene, PanelWorld& world, PanelView& view) {
     QQuickWindow& window = view.window();
     if (scene == u"handle") {
         settle();
@@ -205,7 +205,7 @@ void report(const char* what, std::vector<double> times) {
                  times[times.size() * 95 / 100]);
 }
 
-void timeOpenings(int count, UiWorld& world, PanelView& view) {
+void timeOpenings(int count, PanelWorld& world, PanelView& view) {
     std::vector<double> closings;
     std::vector<double> builds;
     std::vector<double> calls;
@@ -257,7 +257,7 @@ int main(int argc, char** argv) {
     if (scene != u"empty") {
         data.clips = sampleClips();
     }
-    UiWorld world(data);
+    PanelWorld world(data);
     room().save(world.store.imagePath(u"room.png"_s));
     plan().save(world.store.imagePath(u"plan.png"_s));
     world.settings.setLastTab(scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);

@@ -1,7 +1,7 @@
 // The whole panel on the in-memory platform: what it shows, and what the user's hands do to it.
 
 #include "Input.h"
-#include "UiWorld.h"
+#include "fakes/PanelWorld.h"
 #include "ui/PanelView.h"
 
 #include <gtest/gtest.h>
@@ -93,7 +93,7 @@ public:
         return QString::fromUtf8(world.pasteboard.bytes(plainTextType));
     }
 
-    UiWorld world;
+    PanelWorld world;
     PanelView view;
     QQuickItem nothing;
 };

@@ -2,7 +2,22 @@
 
 #include "platform/x11/X11PanelWindow.h"
 
+#include <QGuiApplication>
+#include <QScreen>
+
 namespace ravelo::x11 {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+X11Pointer::Known knownPlaces() {
+    const QScreen* screen = QGuiApplication::primaryScreen();
+    const bool isXWayland = screen != nullptr && screen->name().startsWith("XWAYLAND"_L1);
+    return isXWayland ? X11Pointer::Known::overX11Windows : X11Pointer::Known::everywhere;
+}
+
+} // namespace
 
 Result<std::unique_ptr<X11DisplayServer>> X11DisplayServer::create() {
     auto connection = Connection::create();
@@ -23,10 +38,12 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
       events_(*connection_),
       screens_(*connection_, events_),
       compositor_(*connection_, events_),
+      screenSaver_(*connection_, events_),
+      barrier_(*connection_, [this](QPointF place) { return screens_.toNative(place); }),
       listener_(std::move(listener)),
       pasteboard_(*listener_),
       drags_(*listener_),
-      pointer_(*connection_, *listener_,
+      pointer_(*connection_, *listener_, knownPlaces(),
                [this](QPoint place) { return screens_.toLogical(place); }) {
     listener_->start();
 }

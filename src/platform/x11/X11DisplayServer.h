@@ -4,7 +4,9 @@
 #include "platform/x11/Compositor.h"
 #include "platform/x11/Events.h"
 #include "platform/x11/Listener.h"
+#include "platform/x11/ScreenSaverStatus.h"
 #include "platform/x11/X11DragMonitor.h"
+#include "platform/x11/X11EdgeBarrier.h"
 #include "platform/x11/X11Pasteboard.h"
 #include "platform/x11/X11Pointer.h"
 #include "platform/x11/X11Screens.h"
@@ -26,6 +28,10 @@ public:
 
     [[nodiscard]] Screens& screens() override { return screens_; }
 
+    [[nodiscard]] EdgeBarrier& barrier() override { return barrier_; }
+
+    [[nodiscard]] SessionLock& lock() override { return screenSaver_; }
+
     [[nodiscard]] std::unique_ptr<PanelWindow> panelWindow(QWindow& window) override;
 
 private:
@@ -35,6 +41,8 @@ private:
     Events events_;
     X11Screens screens_;
     Compositor compositor_;
+    ScreenSaverStatus screenSaver_;
+    X11EdgeBarrier barrier_;
     std::unique_ptr<Listener> listener_;
     X11Pasteboard pasteboard_;
     X11DragMonitor drags_;

@@ -65,7 +65,7 @@ X11DragMonitor::X11DragMonitor(Listener& listener)
     listener.attach(watch_);
 }
 
-std::optional<bool> X11DragMonitor::carriesFiles() {
+std::optional<QList<QUrl>> X11DragMonitor::files() {
     const qint64 drag = counter_->value();
     if (drag == 0) {
         return std::nullopt; // None has begun yet.
@@ -73,12 +73,7 @@ std::optional<bool> X11DragMonitor::carriesFiles() {
     if (question_->drag != drag) {
         ask(drag);
     }
-    return question_->files ? std::optional(!question_->files->isEmpty()) : std::nullopt;
-}
-
-QList<QUrl> X11DragMonitor::fileUrls() const {
-    return question_->drag == counter_->value() ? question_->files.value_or(QList<QUrl>())
-                                                : QList<QUrl>();
+    return question_->files;
 }
 
 void X11DragMonitor::ask(qint64 drag) {

@@ -20,14 +20,11 @@ public:
 
     [[nodiscard]] qint64 changeCount() const override { return counter_->value(); }
 
-    [[nodiscard]] std::optional<bool> carriesFiles() override;
+    [[nodiscard]] std::optional<QList<QUrl>> files() override;
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return changes_->add(std::move(callback));
     }
-
-    /// The files of the newest drag, as far as `carriesFiles` has asked and been answered.
-    [[nodiscard]] QList<QUrl> fileUrls() const;
 
 private:
     /// What the source of one drag was asked and has answered. Main thread.

@@ -81,6 +81,11 @@ void X11PanelWindow::orderFront() {
     xcb_flush(qt_);
 }
 
+void X11PanelWindow::orderOut() {
+    window_.setVisible(false);
+    xcb_flush(qt_);
+}
+
 void X11PanelWindow::setOutline(const QPainterPath& outline) {
     outline_ = outline;
     applyOutline();

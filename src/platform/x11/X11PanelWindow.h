@@ -27,6 +27,7 @@ public:
 
     void place(const Screen& screen, QSizeF size) override;
     void orderFront() override;
+    void orderOut() override;
     void setOutline(const QPainterPath& outline) override;
     [[nodiscard]] bool isTranslucent() const override;
     [[nodiscard]] Handle onTranslucencyChange(std::function<void()> callback) override;

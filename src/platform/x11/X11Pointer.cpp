@@ -4,9 +4,10 @@
 
 namespace ravelo::x11 {
 
-X11Pointer::X11Pointer(Connection& connection, Listener& listener, ToLogical toLogical)
+X11Pointer::X11Pointer(Connection& connection, Listener& listener, Known known, ToLogical toLogical)
     : connection_(connection),
       listener_(listener),
+      known_(known),
       toLogical_(std::move(toLogical)),
       presses_(std::make_shared<Notifier>(listener)) {
     auto pressed = [presses = presses_] {
@@ -28,7 +29,7 @@ PointerState X11Pointer::state() {
     seen_ = look(connection_);
     // After the question: a press that the answer shows already is not told again by the flag.
     const bool pressed = input_->takePressed();
-    if (!seen_) {
+    if (!seen_ || known_ == Known::overX11Windows) {
         return {std::nullopt, pressed};
     }
     return {toLogical_(seen_->location), seen_->buttonDown || pressed};

@@ -11,11 +11,15 @@ namespace ravelo::x11 {
 /// The core pointer. Asked for on a connection of the main thread, heard of on the listener's.
 class X11Pointer final : public Pointer {
 public:
+    /// Where the server knows the pointer's place. XWayland knows it over X11 windows only and tells
+    /// the last one it knew anywhere else.
+    enum class Known { everywhere, overX11Windows };
+
     /// From the server's pixels to global logical ones.
     using ToLogical = std::function<QPointF(QPoint)>;
 
     /// Before `listener` starts; both must outlive this.
-    X11Pointer(Connection& connection, Listener& listener, ToLogical toLogical);
+    X11Pointer(Connection& connection, Listener& listener, Known known, ToLogical toLogical);
 
     [[nodiscard]] PointerState state() override;
 
@@ -34,6 +38,7 @@ private:
 
     Connection& connection_;
     Listener& listener_;
+    const Known known_;
     ToLogical toLogical_;
     std::shared_ptr<Notifier> presses_;
     std::shared_ptr<Waiting> waiting_ = std::make_shared<Waiting>();

@@ -11,6 +11,22 @@ Item {
         onHoveredChanged: panel.host.controller.setHovered(hovered)
     }
 
+    // Files only, and only to be copied; what they are the controller learns by itself: here it
+    // would have to be waited for.
+    DropArea {
+        anchors.fill: parent
+        keys: ["text/uri-list"]
+        onEntered: drag => {
+            drag.accept(Qt.CopyAction);
+            panel.host.controller.onDragEnter();
+        }
+        onPositionChanged: drag => drag.accept(Qt.CopyAction)
+        onDropped: drop => {
+            drop.accept(Qt.CopyAction);
+            panel.host.controller.onDrop();
+        }
+    }
+
     HandleView {
         objectName: "handle"
         anchors.fill: parent

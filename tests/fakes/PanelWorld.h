@@ -17,11 +17,32 @@
 
 namespace ravelo {
 
-/// Everything that the panel shows, in memory, on one screen of 1440 x 900. The store begins with
-/// the given data.
-struct UiWorld {
-    explicit UiWorld(const StoreData& data = {})
-        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard}) {}
+inline constexpr Seconds tick{0.02};
+
+/// A controller with everything around it, on one screen of 1440 x 900.
+struct PanelWorld {
+    explicit PanelWorld(HoverTick::Rest rest = HoverTick::Rest::whenStill) : PanelWorld({}, rest) {}
+
+    /// The store begins with `data`.
+    explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
+        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard}),
+          controller(store, clipboard, settings,
+                     {scheduler, screens, pointer, drags, barrier, window, {&lock, &otherLock}},
+                     rest) {}
+
+    void moveTo(double x, double y) {
+        pointer.moveTo({x, y});
+        scheduler.advance(tick);
+    }
+
+    /// The pointer presses somewhere harmless and a drag begins under it.
+    void beginDrag(std::optional<bool> files) {
+        moveTo(100, 500);
+        pointer.press();
+        scheduler.advance(tick);
+        drags.begin(files);
+        scheduler.advance(tick);
+    }
 
     QTemporaryDir folder;
     ManualScheduler scheduler;
@@ -32,12 +53,14 @@ struct UiWorld {
     FakeScreens screens;
     FakePointer pointer;
     FakeDragMonitor drags;
+    FakeEdgeBarrier barrier;
     FakePanelWindow window;
+    FakeSessionLock lock;
+    FakeSessionLock otherLock;
     Store store;
     AppSettings settings{preferences, loginItem};
     ClipboardManager clipboard{store, pasteboard, scheduler};
-    NotchController controller{
-        store, clipboard, settings, {scheduler, screens, pointer, drags, window}};
+    NotchController controller;
 
 private:
     static QString filled(const QTemporaryDir& folder, const StoreData& data) {

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "base/Handle.h"
+
+#include <functional>
+
+namespace ravelo {
+
+/// Whether the session is locked or its screen saver shows, as far as one service tells. Main
+/// thread.
+class SessionLock {
+public:
+    virtual ~SessionLock() = default;
+
+    /// False until the service has answered, and where there is none.
+    [[nodiscard]] virtual bool isLocked() const = 0;
+
+    [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
+};
+
+} // namespace ravelo

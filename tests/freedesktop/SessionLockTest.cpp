@@ -1,0 +1,110 @@
+// The services that tell of a locked session, with stand-ins for them on a bus of their own.
+
+#include "PrivateBus.h"
+#include "platform/freedesktop/LoginSession.h"
+#include "platform/freedesktop/ScreenSaverBus.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QDBusVirtualObject>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Answers every call below its path by `answer`.
+class StandIn : public QDBusVirtualObject {
+public:
+    using Answer = std::function<QVariant(const QDBusMessage& call)>;
+
+    explicit StandIn(Answer answer) : answer_(std::move(answer)) {}
+
+    [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
+
+    bool handleMessage(const QDBusMessage& call, const QDBusConnection& connection) override {
+        return connection.send(call.createReply(answer_(call)));
+    }
+
+private:
+    Answer answer_;
+};
+
+class SessionLockTest : public testing::Test {
+protected:
+    void serve(const QString& name, StandIn& object) {
+        ASSERT_TRUE(service_.registerVirtualObject(u"/"_s, &object, QDBusConnection::SubPath));
+        ASSERT_TRUE(service_.registerService(name));
+    }
+
+    PrivateBus bus_;
+    QDBusConnection service_ = bus_.connect(u"service"_s);
+    QDBusConnection ours_ = bus_.connect(u"ours"_s);
+};
+
+TEST_F(SessionLockTest, aScreenSaverThatShowsAlreadyAndOneThatComes) {
+    StandIn saver([](const QDBusMessage&) { return true; });
+    serve(u"org.gnome.ScreenSaver"_s, saver);
+    ScreenSaverBus lock(ours_);
+    int calls = 0;
+    const Handle listening = lock.onChange([&] { ++calls; });
+    EXPECT_TRUE(eventually([&] { return lock.isLocked(); })) << "it was asked at the start";
+    const auto say = [&](const QString& interface, bool active) {
+        auto signal = QDBusMessage::createSignal(u"/anywhere"_s, interface, u"ActiveChanged"_s);
+        service_.send(signal << active);
+    };
+    say(u"org.freedesktop.ScreenSaver"_s, true);
+    say(u"org.gnome.ScreenSaver"_s, false);
+    say(u"org.freedesktop.ScreenSaver"_s, false);
+    EXPECT_TRUE(eventually([&] { return !lock.isLocked(); }));
+    EXPECT_EQ(calls, 2) << "locked until the last of them has gone";
+}
+
+TEST_F(SessionLockTest, theHintOfTheUsersGraphicalSession) {
+    const QString path = u"/org/freedesktop/login1/session/_32"_s;
+    bool locked = true;
+    StandIn login([&](const QDBusMessage& call) {
+        if (call.path() == "/org/freedesktop/login1/user/self"_L1) {
+            QDBusArgument display;
+            display.beginStructure();
+            display << u"2"_s << QDBusObjectPath(path);
+            display.endStructure();
+            return QVariant::fromValue(QDBusVariant(QVariant::fromValue(display)));
+        }
+        EXPECT_EQ(call.path(), path);
+        EXPECT_EQ(call.arguments(),
+                  QVariantList({u"org.freedesktop.login1.Session"_s, u"LockedHint"_s}));
+        return QVariant::fromValue(QDBusVariant(locked));
+    });
+    serve(u"org.freedesktop.login1"_s, login);
+    LoginSession lock(ours_);
+    EXPECT_TRUE(eventually([&] { return lock.isLocked(); })) << "it was asked at the start";
+    const auto change = [&](const QString& of, bool to) {
+        auto signal = QDBusMessage::createSignal(of, u"org.freedesktop.DBus.Properties"_s,
+                                                 u"PropertiesChanged"_s);
+        signal << u"org.freedesktop.login1.Session"_s << QVariantMap{{u"LockedHint"_s, to}}
+               << QStringList();
+        service_.send(signal);
+    };
+    change(path, false);
+    EXPECT_TRUE(eventually([&] { return !lock.isLocked(); }));
+    change(u"/org/freedesktop/login1/session/another"_s, true);
+    change(path, true);
+    EXPECT_TRUE(eventually([&] { return lock.isLocked(); }));
+}
+
+TEST_F(SessionLockTest, withoutAnyServiceNothingIsLocked) {
+    const LoginSession session(ours_);
+    const ScreenSaverBus saver(ours_);
+    ours_.call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,
+                                              u"org.freedesktop.DBus"_s, u"GetId"_s));
+    QCoreApplication::processEvents();
+    EXPECT_FALSE(session.isLocked());
+    EXPECT_FALSE(saver.isLocked());
+}
+
+} // namespace
+} // namespace ravelo

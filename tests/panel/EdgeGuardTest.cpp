@@ -1,0 +1,87 @@
+#include "fakes/PanelWorld.h"
+
+#include <gtest/gtest.h>
+
+namespace ravelo {
+
+namespace {
+
+struct GuardCase {
+    const char* name;
+    QPointF pointer;
+    std::optional<bool> files;
+    bool holds;
+};
+
+class Guarding : public testing::TestWithParam<GuardCase> {};
+
+// The middle of the main screen is at x 720.
+TEST_P(Guarding, holdsFileDragsAroundTheMiddleOnly) {
+    PanelWorld world;
+    world.beginDrag(std::nullopt);
+    world.moveTo(10, 500);
+    EXPECT_EQ(world.drags.questions, 0) << "the source was asked though nothing is near";
+    world.moveTo(GetParam().pointer.x(), GetParam().pointer.y());
+    if (GetParam().files) {
+        world.drags.answer(*GetParam().files);
+    }
+    world.scheduler.advance(tick);
+    EXPECT_EQ(world.barrier.held.has_value(), GetParam().holds);
+    if (GetParam().holds) {
+        EXPECT_EQ(world.barrier.held, QLineF(270, 10, 1170, 10));
+        world.moveTo(10, 500);
+        EXPECT_TRUE(world.barrier.held) << "let go while the drag is on";
+    }
+    world.pointer.release();
+    world.scheduler.advance(tick);
+    EXPECT_FALSE(world.barrier.held) << "held on after the drag";
+}
+
+INSTANTIATE_TEST_SUITE_P(Drags, Guarding,
+                         testing::Values(GuardCase{"middle", {720, 300}, true, true},
+                                         GuardCase{"leftmost", {270, 300}, true, true},
+                                         GuardCase{"leftOfIt", {269, 300}, true, false},
+                                         GuardCase{"rightmost", {1170, 300}, true, true},
+                                         GuardCase{"rightOfIt", {1171, 300}, true, false},
+                                         GuardCase{"text", {720, 300}, false, false},
+                                         GuardCase{"silentSource", {720, 300}, std::nullopt,
+                                                   false}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(EdgeGuard, waitsForTrustAndStartsWithin3Seconds) {
+    PanelWorld world;
+    EdgeGuard guard(world.scheduler, world.screens, world.drags, world.barrier);
+    world.barrier.trusted = false;
+    world.drags.begin(true);
+    guard.start();
+    world.scheduler.advance(Seconds(60));
+    guard.follow(QPointF(720, 300));
+    EXPECT_EQ(guard.state(), EdgeGuard::State::waitingForTrust);
+    EXPECT_EQ(world.barrier.attempts, 0);
+
+    world.barrier.trusted = true;
+    world.scheduler.advance(Seconds(2.9));
+    EXPECT_EQ(guard.state(), EdgeGuard::State::waitingForTrust);
+    world.scheduler.advance(Seconds(0.2));
+    EXPECT_EQ(guard.state(), EdgeGuard::State::guarding);
+    guard.follow(QPointF(720, 300));
+    EXPECT_TRUE(world.barrier.held);
+    guard.start();
+    EXPECT_TRUE(world.barrier.held) << "starting again is no change";
+}
+
+TEST(EdgeGuard, doesNotTryAgainWhereItFailed) {
+    PanelWorld world;
+    world.barrier.broken = true;
+    world.drags.begin(true);
+    EdgeGuard guard(world.scheduler, world.screens, world.drags, world.barrier);
+    guard.start();
+    guard.follow(QPointF(720, 300));
+    guard.start();
+    guard.follow(QPointF(720, 300));
+    EXPECT_EQ(guard.state(), EdgeGuard::State::failed);
+    EXPECT_EQ(world.barrier.attempts, 1);
+}
+
+} // namespace
+} // namespace ravelo
