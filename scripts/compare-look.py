@@ -22,6 +22,8 @@ TOLERANCE = 1.0
 # of x, y, width, height count. A selector that ends in "|text" is measured by its letters: as wide
 # as they are, as high as its box.
 ALL = "xywh"
+BAR_BOTH = "body > div:nth-of-type(6) > div.abs:nth-of-type(2)"
+BAR_REMINDERS_NOTCH = "body > div:nth-of-type(7) > div.abs:nth-of-type(2)"
 SCENES = [
     ("clipboard", "03a-clipboard.html", ".panel", [
         ("panel", ".panel", ALL),
@@ -78,6 +80,40 @@ SCENES = [
     ("handle", "01-handle.html", "svg.abs", [
         ("handle", "svg.abs", ALL),
         ("handle/grip", "svg.abs rect", ALL),
+    ]),
+    ("bar-timer", "02a-timer-bar.html", "div.abs", [
+        ("bar", "div.abs", ALL),
+        ("bar/left/ring", ".row > svg", ALL),
+        ("bar/left/label", ".row > .el", ALL),
+        ("bar/right/time", ".row > .tn", ALL),
+    ]),
+    ("bar-timer-notch", "02b-timer-bar-notch.html", "div.abs", [
+        ("bar", "div.abs", ALL),
+        ("bar/left/ring", ".row > svg", ALL),
+        ("bar/left/label", ".row > .el", ALL),
+        ("bar/right/time", ".row > .tn", ALL),
+    ]),
+    ("bar-reminders", "02c-reminder-bar.html", "div.abs", [
+        ("bar/left/icon", ".row > i", ALL),
+        ("bar/left/reminders/reminder0", ".row > :nth-child(3)", ALL),
+        ("bar/left/reminders/dot0", ".row > :nth-child(4)", ALL),
+        ("bar/left/reminders/reminder1", ".row > :nth-child(5)", ALL),
+        ("bar/left/reminders/reminder2", ".row > :nth-child(7)", ALL),
+    ]),
+    ("bar-timer-reminders", "02d-collapsed-detail.html", BAR_BOTH, [
+        ("bar/left/ring", f"{BAR_BOTH} svg:not(.abs)", ALL),
+        ("bar/left/time", f"{BAR_BOTH} .tn", ALL),
+        ("bar/left/label", f"{BAR_BOTH} .tn + .el", ALL),
+        ("bar/right/reminders/reminder0", f"{BAR_BOTH} .sp + .el", ALL),
+        ("bar/right/reminders/rest", f"{BAR_BOTH} .el:nth-last-child(2)", ALL),
+        ("bar/right/icon", f"{BAR_BOTH} i", ALL),
+    ]),
+    ("bar-reminders-notch", "02d-collapsed-detail.html", BAR_REMINDERS_NOTCH, [
+        ("bar", BAR_REMINDERS_NOTCH, ALL),
+        ("bar/left/icon", f"{BAR_REMINDERS_NOTCH} i", ALL),
+        ("bar/left/reminders/reminder0", f"{BAR_REMINDERS_NOTCH} i + .el", ALL),
+        ("bar/right/reminders/reminder0", f"{BAR_REMINDERS_NOTCH} .el:nth-child(1)", ALL),
+        ("bar/right/reminders/rest", f"{BAR_REMINDERS_NOTCH} .el:nth-child(3)", ALL),
     ]),
 ]
 

@@ -26,6 +26,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       snippets_(subjects.store),
       pasting_(subjects.pasteboard),
       toast_(subjects.scheduler),
+      timerFace_(subjects.store, subjects.scheduler),
       contentSize_(sizeToOpenWith()) {
     connect(controller(), &NotchController::isOpenChanged, this, &PanelHost::follow);
     connect(settings(), &AppSettings::panelWidthChanged, this, [this] {

@@ -8,6 +8,7 @@
 #include "ui/PanelBackground.h"
 #include "ui/Pasting.h"
 #include "ui/SnippetListModel.h"
+#include "ui/TimerFace.h"
 #include "ui/Toast.h"
 #include "ui/Usage.h"
 
@@ -32,6 +33,7 @@ class PanelHost : public QObject {
     Q_PROPERTY(ravelo::SnippetListModel* snippets READ snippets CONSTANT)
     Q_PROPERTY(ravelo::Pasting* pasting READ pasting CONSTANT)
     Q_PROPERTY(ravelo::Toast* toast READ toast CONSTANT)
+    Q_PROPERTY(ravelo::TimerFace* timerFace READ timerFace CONSTANT)
     Q_PROPERTY(bool hasContent READ hasContent NOTIFY hasContentChanged)
     Q_PROPERTY(QSizeF contentSize READ contentSize NOTIFY contentSizeChanged)
     Q_PROPERTY(ravelo::Backdrop::Kind backdrop READ backdrop NOTIFY backdropChanged)
@@ -63,6 +65,8 @@ public:
     [[nodiscard]] Pasting* pasting() { return &pasting_; }
 
     [[nodiscard]] Toast* toast() { return &toast_; }
+
+    [[nodiscard]] TimerFace* timerFace() { return &timerFace_; }
 
     /// Whether there is content, shown or hidden. A closed panel's content is thrown away with all
     /// that was searched, scrolled or opened in it; the next is made soon after, so that opening
@@ -109,6 +113,7 @@ private:
     SnippetListModel snippets_;
     Pasting pasting_;
     Toast toast_;
+    TimerFace timerFace_;
     bool hasContent_ = false;
     QSizeF contentSize_;
     Backdrop::Kind backdrop_ = Backdrop::Translucent;

@@ -2,7 +2,7 @@
 //
 //   panel_probe [--scene NAME] [--scale 1|2] [--png FILE] [--behind FILE] [--time N]
 //
-// writes the picture and prints the rectangles of all named elements as JSON, in logical pixels of
+// writes the picture (of the closed panel as a bar in scenes such as "bar-timer-reminders-notch") and prints the rectangles of all named elements as JSON, in logical pixels of
 // the window. --behind puts a picture of a screen below; --time prints what N openings cost.
 
 #include "Input.h"
@@ -134,8 +134,33 @@ void collect(const QQuickItem* item, const QString& path, QJsonObject& into) {
     }
 }
 
+/// The closed panel as a bar: with a timer, with reminders or with both, perhaps beside a notch.
+void playBar(const QString& scene, PanelWorld& world, PanelView& view) {
+    const bool notch = scene.contains(u"notch"_s);
+    world.screens.screens.front().visibleFrame.setTop(notch ? 32 : 28);
+    world.settings.setMacType(notch ? u"notch"_s : u"none"_s);
+    if (scene.contains(u"timer"_s)) {
+        constexpr double left = 24 * 60 + 12.5;
+        constexpr double length = left / 0.62;
+        world.store.startTimer(u"Estimates"_s, length / 60);
+        world.scheduler.advance(Seconds(length - left));
+    }
+    if (scene.contains(u"reminders"_s)) {
+        const QString last = notch ? u"Order the veneer"_s : u"Order veneer"_s;
+        world.store.setReminders({u"Call the framer"_s, u"Send estimate"_s, last});
+        world.store.setReminderOpen(true);
+    }
+    world.controller.positionCollapsed();
+    view.window().resize(world.controller.frame().size().toSize());
+    settle();
+}
+
 void play(const QString& scene, PanelWorld& world, PanelView& view) {
     QQuickWindow& window = view.window();
+    if (scene.startsWith(u"bar-"_s)) {
+        playBar(scene, world, view);
+        return;
+    }
     if (scene == u"handle") {
         settle();
         return;

@@ -11,6 +11,7 @@ QtObject {
     readonly property var table: ({
         "bubble.left.and.text.bubble.right": "\uF189",
         "car": "\uF10B",
+        "checklist": "\uF5C7",
         "checkmark.seal": "\uF565",
         "clock": "\uF150",
         "creditcard": "\uF19B",

@@ -58,6 +58,14 @@ QtObject {
     readonly property color handle: Qt.rgba(0, 0, 0, 0.44)
     readonly property color bar: "#000000"
     readonly property color grip: white(0.36)
+    readonly property color ring: white(0.92)
+    readonly property color ringTrack: white(0.20)
+    readonly property color dot: white(0.35)
+
+    /// Where something so high stands in the middle of an item: on a device pixel, the lower of two.
+    function middle(outer: Item, height: real, devicePixelRatio: real): real {
+        return Math.round((outer.height - height) / 2 * devicePixelRatio) / devicePixelRatio;
+    }
 
     function withAlpha(base: color, alpha: real): color {
         return Qt.rgba(base.r, base.g, base.b, alpha);

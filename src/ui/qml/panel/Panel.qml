@@ -1,7 +1,7 @@
 import QtQuick
 import Ravelo
 
-/// All that the panel's window shows: a handle, or the content hanging from the same edge.
+/// All that the panel's window shows: a handle, a bar, or the content, hanging from the same edge.
 Item {
     id: panel
 
@@ -30,8 +30,23 @@ Item {
     HandleView {
         objectName: "handle"
         anchors.fill: parent
-        visible: !slot.open
+        visible: !slot.open && !panel.host.controller.showsBar
         host: panel.host
+    }
+
+    TimerBarView {
+        id: bar
+        objectName: "bar"
+        anchors.fill: parent
+        visible: !slot.open && panel.host.controller.showsBar
+        host: panel.host
+        notch: panel.host.controller.notch
+    }
+
+    Binding {
+        target: panel.host.timerFace
+        property: "shown"
+        value: bar.visible && panel.Window.visibility !== Window.Hidden
     }
 
     ContentSlot {

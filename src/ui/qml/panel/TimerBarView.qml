@@ -1,0 +1,126 @@
+import QtQuick
+import Ravelo
+
+/// The collapsed panel while a timer runs or reminders are shown: a bar at the screen's edge that
+/// leaves the notch free.
+NotchFill {
+    id: bar
+
+    required property PanelHost host
+    /// Width of the notch; 0 where there is none.
+    property real notch: 0
+
+    readonly property bool timing: host.store.timerRunning
+    readonly property bool reminding: host.store.reminderVisible
+    readonly property var reminders: host.store.reminders
+
+    readonly property real pad: 20
+    readonly property real gap: 8
+    /// How much can be used from either end: up to the notch, or to the other half.
+    readonly property real side: notch > 0 ? (width - notch) / 2 - pad - 14 : (width - gap) / 2 - pad
+    readonly property real iconRoom: 15 + gap
+
+    flare: 8
+    bottomRadius: notch > 0 ? 14 : 12
+    color: Theme.bar
+
+    component Icon: Glyph {
+        y: Theme.middle(parent, height, Screen.devicePixelRatio)
+        symbol: "checklist"
+        size: 15
+        color: Theme.text3
+    }
+
+    component Time: Label {
+        anchors.verticalCenter: parent.verticalCenter
+        style: Theme.strong
+        tabular: true
+        color: Theme.text1
+    }
+
+    // The timer, or else the first reminders; these stand in the middle where no notch does.
+    Row {
+        id: left
+        objectName: "left"
+        anchors.verticalCenter: parent.verticalCenter
+        x: bar.timing || bar.notch > 0 ? bar.pad : (bar.width - width) / 2
+        spacing: bar.gap
+
+        Item {
+            objectName: "ring"
+            visible: bar.timing
+            anchors.verticalCenter: parent.verticalCenter
+            width: 14
+            height: 14
+
+            Ring {
+                anchors.fill: parent
+                anchors.margins: 0.25
+                lineWidth: 2
+                fraction: bar.host.timerFace.fraction
+                color: Theme.ring
+                trackColor: Theme.ringTrack
+            }
+        }
+
+        Time {
+            objectName: "time"
+            text: bar.host.timerFace.remaining
+            visible: bar.timing && bar.reminding
+        }
+
+        Label {
+            id: label
+            objectName: "label"
+            visible: bar.timing
+            anchors.verticalCenter: parent.verticalCenter
+            readonly property real end: bar.notch > 0 ? bar.pad + bar.side : right.x - bar.gap
+            width: Math.max(0, Math.min(implicitWidth, end - left.x - x))
+            text: bar.host.store.timerLabel
+            style: Theme.chip
+            color: bar.reminding ? Theme.text3 : Theme.text2
+        }
+
+        Icon {
+            objectName: "icon"
+            visible: first.visible
+        }
+
+        ReminderLine {
+            id: first
+            objectName: "reminders"
+            visible: bar.reminding && !bar.timing
+            texts: bar.notch > 0 ? bar.reminders.slice(0, Math.ceil(bar.reminders.length / 2))
+                                 : bar.reminders
+            countsRest: bar.notch === 0
+            room: (bar.notch > 0 ? bar.side : bar.width - 2 * bar.pad) - bar.iconRoom
+        }
+    }
+
+    Row {
+        id: right
+        objectName: "right"
+        anchors.verticalCenter: parent.verticalCenter
+        anchors.right: parent.right
+        anchors.rightMargin: bar.pad
+        spacing: bar.gap
+
+        Time {
+            objectName: "time"
+            text: bar.host.timerFace.remaining
+            visible: bar.timing && !bar.reminding
+        }
+
+        ReminderLine {
+            objectName: "reminders"
+            visible: bar.reminding && (bar.timing || bar.notch > 0)
+            texts: bar.timing ? bar.reminders : bar.reminders.slice(first.count)
+            room: bar.timing ? bar.side - bar.iconRoom : bar.side
+        }
+
+        Icon {
+            objectName: "icon"
+            visible: bar.reminding && bar.timing
+        }
+    }
+}
