@@ -2,8 +2,9 @@
 //
 //   panel_probe [--scene NAME] [--scale 1|2] [--png FILE] [--behind FILE] [--time N]
 //
-// writes the picture (of the closed panel as a bar in scenes such as "bar-timer-reminders-notch") and prints the rectangles of all named elements as JSON, in logical pixels of
-// the window. --behind puts a picture of a screen below; --time prints what N openings cost.
+// writes the picture (of the closed panel as a bar in scenes such as "bar-timer-reminders-notch")
+// and prints the rectangles of all named elements as JSON, in logical pixels of the window.
+// --behind puts a picture of a screen below; --time prints what N openings cost.
 
 #include "Input.h"
 #include "fakes/PanelWorld.h"
