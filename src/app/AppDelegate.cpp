@@ -86,14 +86,13 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     window_ = display_.panelWindow(view_->window());
     notch_ = std::make_unique<NotchController>(
         *store_, *clipboard_, *settings_,
-        NotchController::Services{
-            *scheduler_,
-            display_.screens(),
-            display_.pointer(),
-            display_.drags(),
-            display_.barrier(),
-            *window_,
-            {&display_.lock(), loginSession_.get(), screenSaver_.get()}});
+        NotchController::Services{*scheduler_,
+                                  display_.screens(),
+                                  display_.pointer(),
+                                  display_.drags(),
+                                  display_.barrier(),
+                                  *window_,
+                                  {&display_.lock(), loginSession_.get(), screenSaver_.get()}});
     view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_}, QLocale());
     wire();
     return {};

@@ -44,8 +44,8 @@ INSTANTIATE_TEST_SUITE_P(Drags, Guarding,
                                          GuardCase{"rightmost", {1170, 300}, true, true},
                                          GuardCase{"rightOfIt", {1171, 300}, true, false},
                                          GuardCase{"text", {720, 300}, false, false},
-                                         GuardCase{"silentSource", {720, 300}, std::nullopt,
-                                                   false}),
+                                         GuardCase{
+                                             "silentSource", {720, 300}, std::nullopt, false}),
                          [](const auto& row) { return row.param.name; });
 
 TEST(EdgeGuard, waitsForTrustAndStartsWithin3Seconds) {

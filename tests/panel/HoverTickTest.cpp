@@ -142,8 +142,8 @@ public:
             Event::move,      Event::move,       Event::move,    Event::move,    Event::move,
             Event::press,     Event::press,      Event::release, Event::release, Event::beginDrag,
             Event::beginDrag, Event::answerDrag, Event::toggle,  Event::resize,  Event::unplug,
-            Event::replug,    Event::replug,     Event::layout,
-            Event::timer,     Event::reminders,  Event::shelf,   Event::lock};
+            Event::replug,    Event::replug,     Event::layout,  Event::timer,   Event::reminders,
+            Event::shelf,     Event::lock};
         return {kinds[below(std::size(kinds))], place(), below(3) > 0};
     }
 
@@ -189,9 +189,9 @@ TEST(HoverTick, restingChangesNothingThatHappensNorWhen) {
             ++ways[what];
         }
     }
-    for (const char* way : {"opened by hover", "opened by file drag", "opened by key",
-                            "closed by press", "closed by key", "closed by delay",
-                            "closed by the lock"}) {
+    for (const char* way :
+         {"opened by hover", "opened by file drag", "opened by key", "closed by press",
+          "closed by key", "closed by delay", "closed by the lock"}) {
         const int times = ways[QString::fromLatin1(way)];
         std::printf("%s: %d\n", way, times);
         EXPECT_GT(times, 0) << way << " never happened: the input does not cover it";

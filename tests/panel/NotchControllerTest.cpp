@@ -180,7 +180,9 @@ TEST(NotchController, showsABarWhileATimerRunsOrRemindersAreShown) {
     world.store.setReminderOpen(true);
     world.store.stopTimer();
     EXPECT_EQ(world.window.size, QSizeF(520, 28));
-    world.settings.onLayoutChange = [&] { world.controller.positionCollapsed(); };
+    world.settings.onLayoutChange = [&] {
+        world.controller.positionCollapsed();
+    };
     world.settings.setMacType(u"notch"_s);
     EXPECT_EQ(world.window.size, QSizeF(640, 28));
     EXPECT_EQ(world.controller.notch(), 200);

@@ -93,7 +93,8 @@ TEST(Placement, hangsFromTheMiddleOfTheTopEdge) {
     const Screen second{
         u"2"_s, QRectF(1440, 120, 1920, 1080), QRectF(1440, 120, 1920, 1080), {}, {}};
     EXPECT_EQ(hangingFrame(second, handleSize), QRectF(2300, 120, 200, 12));
-    EXPECT_EQ(hangingFrame(second, expandedSize(927, ShelfContent::none)), QRectF(1936.5, 120, 927, 560));
+    EXPECT_EQ(hangingFrame(second, expandedSize(927, ShelfContent::none)),
+              QRectF(1936.5, 120, 927, 560));
     EXPECT_EQ(hangingFrame(second, expandedSize(800, ShelfContent::files)),
               QRectF(2000, 120, 800, 700));
 }

@@ -95,13 +95,14 @@ INSTANTIATE_TEST_SUITE_P(
     All, ClipListChange,
     testing::Values(
         ChangeCase{"copied", [](PanelWorld& world) { world.store.addClip(u"six"_s); }, 1, 0, 0},
-        ChangeCase{"copiedAgain", [](PanelWorld& world) { world.store.addClip(u"four"_s); }, 1, 1, 0},
-        ChangeCase{"deleted",
-                   [](PanelWorld& world) { world.store.deleteClip(world.store.clips()[2].id); }, 0, 1,
+        ChangeCase{"copiedAgain", [](PanelWorld& world) { world.store.addClip(u"four"_s); }, 1, 1,
                    0},
+        ChangeCase{"deleted",
+                   [](PanelWorld& world) { world.store.deleteClip(world.store.clips()[2].id); }, 0,
+                   1, 0},
         ChangeCase{"pinnedFromTheEnd",
-                   [](PanelWorld& world) { world.store.togglePin(world.store.clips()[4].id); }, 0, 0,
-                   1},
+                   [](PanelWorld& world) { world.store.togglePin(world.store.clips()[4].id); }, 0,
+                   0, 1},
         ChangeCase{"cleared", [](PanelWorld& world) { world.store.clearClips(); }, 0, 5, 0}),
     [](const auto& row) { return row.param.name; });
 

@@ -52,14 +52,13 @@ void LoginSession::ask(const QString& path, const QString& interface, const QStr
     auto call = QDBusMessage::createMethodCall(service, path, propertiesInterface, u"Get"_s);
     call << interface << property;
     auto* const watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this,
-            [watcher, done = std::move(done)] {
-                const QDBusPendingReply<QDBusVariant> reply = *watcher;
-                if (reply.isValid()) {
-                    done(reply.value().variant());
-                }
-                watcher->deleteLater();
-            });
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [watcher, done = std::move(done)] {
+        const QDBusPendingReply<QDBusVariant> reply = *watcher;
+        if (reply.isValid()) {
+            done(reply.value().variant());
+        }
+        watcher->deleteLater();
+    });
 }
 
 void LoginSession::propertiesChanged(const QString& interface, const QVariantMap& changed,

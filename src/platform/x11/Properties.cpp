@@ -25,15 +25,35 @@ PropertyRequest::~PropertyRequest() {
     }
 }
 
-std::vector<uint32_t> PropertyRequest::cardinals() {
+Owned<xcb_get_property_reply_t> PropertyRequest::reply() {
     const auto cookie = std::exchange(cookie_, {0});
-    const Owned<xcb_get_property_reply_t> reply(
+    return Owned<xcb_get_property_reply_t>(
         xcb_get_property_reply(connection_->get(), cookie, nullptr));
-    if (!reply || reply->format != 32) {
+}
+
+bool PropertyRequest::exists() {
+    const auto answer = reply();
+    return answer && answer->type != XCB_ATOM_NONE;
+}
+
+std::vector<uint32_t> PropertyRequest::cardinals() {
+    const auto answer = reply();
+    if (!answer || answer->format != 32) {
         return {};
     }
-    const auto* values = static_cast<const uint32_t*>(xcb_get_property_value(reply.get()));
-    return {values, values + reply->value_len};
+    const auto* values = static_cast<const uint32_t*>(xcb_get_property_value(answer.get()));
+    return {values, values + answer->value_len};
+}
+
+std::vector<xcb_window_t> topLevelWindows(Connection& connection) {
+    const auto cookie = xcb_query_tree(connection.get(), connection.root());
+    const Owned<xcb_query_tree_reply_t> reply(
+        xcb_query_tree_reply(connection.get(), cookie, nullptr));
+    if (!reply) {
+        return {};
+    }
+    const xcb_window_t* first = xcb_query_tree_children(reply.get());
+    return {first, first + xcb_query_tree_children_length(reply.get())};
 }
 
 QSize windowSize(Connection& connection, xcb_window_t window) {

@@ -20,14 +20,23 @@ public:
     PropertyRequest& operator=(const PropertyRequest&) = delete;
     ~PropertyRequest();
 
+    /// Waits for the answer: whether there is such a property, of any type. Either this or
+    /// `cardinals` may be called, once.
+    [[nodiscard]] bool exists();
+
     /// Waits for the answer: the property's 32-bit values, none where there is no such window or
-    /// property. To be called at most once.
+    /// property.
     [[nodiscard]] std::vector<uint32_t> cardinals();
 
 private:
+    [[nodiscard]] Owned<xcb_get_property_reply_t> reply();
+
     Connection* connection_;
     xcb_get_property_cookie_t cookie_; ///< `sequence` 0 where there is nothing to wait for.
 };
+
+/// The windows right below the root, lowest first. A round trip.
+[[nodiscard]] std::vector<xcb_window_t> topLevelWindows(Connection& connection);
 
 /// A round trip; empty where there is no such window.
 [[nodiscard]] QSize windowSize(Connection& connection, xcb_window_t window);

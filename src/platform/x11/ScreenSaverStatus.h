@@ -4,10 +4,13 @@
 #include "platform/SessionLock.h"
 #include "platform/x11/Events.h"
 
+#include <optional>
+
 namespace ravelo::x11 {
 
 /// What xscreensaver tells of itself: the property `_SCREENSAVER_STATUS` of the root window, whose
-/// first value is 0 while the screen is to be seen. Main thread.
+/// first value is 0 while the screen is to be seen. It stays behind when the saver is killed, so it
+/// counts only as long as the saver's own window lives. Main thread.
 class ScreenSaverStatus final : public SessionLock {
 public:
     /// Both must outlive it. The events must include those of the root window's properties.
@@ -21,11 +24,14 @@ public:
 
 private:
     void handle(const xcb_generic_event_t& event);
-    [[nodiscard]] bool read();
+    void look();
+    [[nodiscard]] std::optional<xcb_window_t> findSaver();
 
     Connection& connection_;
     const xcb_atom_t status_;
-    bool locked_;
+    const xcb_atom_t version_;          ///< A property that the saver's window has.
+    std::optional<xcb_window_t> saver_; ///< The one that shows.
+    bool locked_ = false;
     Listeners<> listeners_;
     Handle subscription_;
 };

@@ -11,8 +11,8 @@ namespace ravelo::x11 {
 /// The core pointer. Asked for on a connection of the main thread, heard of on the listener's.
 class X11Pointer final : public Pointer {
 public:
-    /// Where the server knows the pointer's place. XWayland knows it over X11 windows only and tells
-    /// the last one it knew anywhere else.
+    /// Where the server knows the pointer's place. XWayland knows it over X11 windows only and
+    /// tells the last one it knew anywhere else.
     enum class Known { everywhere, overX11Windows };
 
     /// From the server's pixels to global logical ones.
