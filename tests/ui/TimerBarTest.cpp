@@ -24,8 +24,13 @@ protected:
         face_.setShown(true);
     }
 
-    PanelWorld world_;
-    TimerFace face_{world_.store, world_.scheduler};
+    QTemporaryDir folder_;
+    ManualScheduler scheduler_;
+    ManualWorker worker_;
+    MemoryPreferences preferences_;
+    MemoryPasteboard pasteboard_{scheduler_};
+    Store store_{folder_.path(), {scheduler_, worker_, preferences_, pasteboard_}};
+    TimerFace face_{store_, scheduler_};
     QStringList figures_;
 };
 
@@ -36,35 +41,35 @@ TEST_F(ShownTimer, tellsEveryFigureOnceAndAtItsTime) {
         for (double left = std::floor(length); left >= 0; --left) {
             expected.append(timerString(Seconds(left)));
         }
-        world_.store.startTimer({}, length / 60);
-        while (world_.store.timerRunning()) {
-            const double left = world_.store.timerRemaining();
+        store_.startTimer({}, length / 60);
+        while (store_.timerRunning()) {
+            const double left = store_.timerRemaining();
             // The figure may be late by so much.
             const QStringList right = {timerString(Seconds(left)),
                                        timerString(Seconds(left + 0.002))};
             EXPECT_TRUE(right.contains(face_.remaining()))
                 << qPrintable(face_.remaining()) << " with " << left << " s left";
             EXPECT_NEAR(face_.fraction() * length, left, 1.01) << left << " s left";
-            world_.scheduler.advance(Seconds(0.17));
+            scheduler_.advance(Seconds(0.17));
         }
         EXPECT_EQ(figures_, expected) << length << " s";
     }
 }
 
 TEST_F(ShownTimer, doesNothingWhileNobodyLooks) {
-    world_.scheduler.advance(Seconds(10)); // All else has come to rest.
-    const int atRest = world_.scheduler.pending();
-    world_.store.startTimer({}, 1);
-    EXPECT_EQ(world_.scheduler.pending(), atRest + 2) << "the timer's end and the next figure";
+    scheduler_.advance(Seconds(10)); // All else has come to rest.
+    const int atRest = scheduler_.pending();
+    store_.startTimer({}, 1);
+    EXPECT_EQ(scheduler_.pending(), atRest + 2) << "the timer's end and the next figure";
     face_.setShown(false);
-    EXPECT_EQ(world_.scheduler.pending(), atRest + 1);
-    world_.scheduler.advance(Seconds(30.5));
+    EXPECT_EQ(scheduler_.pending(), atRest + 1);
+    scheduler_.advance(Seconds(30.5));
     EXPECT_EQ(figures_, QStringList{u"01:00"_s});
 
     face_.setShown(true);
     EXPECT_EQ(figures_.last(), u"00:29"_s) << "at once";
-    world_.store.stopTimer();
-    EXPECT_EQ(world_.scheduler.pending(), atRest) << "no timer, nothing to wait for";
+    store_.stopTimer();
+    EXPECT_EQ(scheduler_.pending(), atRest) << "no timer, nothing to wait for";
 }
 
 struct FitCase {
