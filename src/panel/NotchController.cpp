@@ -206,22 +206,20 @@ void NotchController::toggle() {
 void NotchController::positionCollapsed() {
     const auto on = screen();
     const BarGeometry bar = on ? barGeometry(*on, settings_.macType()) : BarGeometry();
-    setCollapsed(store_.timerRunning() || store_.reminderVisible(), bar.notch);
+    const bool showsBar = store_.timerRunning() || store_.reminderVisible();
+    const QSizeF size = showsBar ? QSizeF(bar.width, bar.height) : handleSize;
+    setCollapsed({showsBar, size, bar.notch});
     if (std::exchange(isOpen_, false)) {
         Q_EMIT isOpenChanged();
     }
-    if (on && showsBar_) {
-        const QSizeF size(bar.width, bar.height);
-        setFrame(*on, size, barOutline(size, bar.notch));
-    } else if (on) {
-        setFrame(*on, handleSize, handleOutline(handleSize));
+    if (on) {
+        setFrame(*on, size, showsBar ? barOutline(size, bar.notch) : handleOutline(size));
     }
 }
 
-void NotchController::setCollapsed(bool bar, double notch) {
-    if (bar != showsBar_ || notch != notch_) {
-        showsBar_ = bar;
-        notch_ = notch;
+void NotchController::setCollapsed(const Collapsed& collapsed) {
+    if (collapsed != collapsed_) {
+        collapsed_ = collapsed;
         Q_EMIT collapsedChanged();
     }
 }

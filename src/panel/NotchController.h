@@ -32,6 +32,7 @@ class NotchController : public QObject {
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
     Q_PROPERTY(bool showsBar READ showsBar NOTIFY collapsedChanged)
     Q_PROPERTY(double notch READ notch NOTIFY collapsedChanged)
+    Q_PROPERTY(QSizeF collapsedSize READ collapsedSize NOTIFY collapsedChanged)
 
 public:
     /// What the controller needs of the platform; all of it outlives the controller.
@@ -55,10 +56,13 @@ public:
     [[nodiscard]] QSizeF sizeToOpenWith() const;
 
     /// Whether the collapsed panel is the bar with the timer or the reminders, not the handle.
-    [[nodiscard]] bool showsBar() const { return showsBar_; }
+    [[nodiscard]] bool showsBar() const { return collapsed_.showsBar; }
 
     /// The width that the bar leaves free in its middle, in logical pixels; 0 for none.
-    [[nodiscard]] double notch() const { return notch_; }
+    [[nodiscard]] double notch() const { return collapsed_.notch; }
+
+    /// Of the handle or the bar, in logical pixels; a closing panel's window may still be larger.
+    [[nodiscard]] QSizeF collapsedSize() const { return collapsed_.size; }
 
     /// Where the panel stands, in global logical pixels.
     [[nodiscard]] QRectF frame() const { return frame_; }
@@ -94,7 +98,7 @@ public:
 
 Q_SIGNALS:
     void isOpenChanged();
-    void collapsedChanged(); ///< The handle became a bar, the bar a handle, or the notch another.
+    void collapsedChanged();
 
 private:
     /// What must stand still for the tick to rest.
@@ -104,6 +108,15 @@ private:
         qint64 dragCount = 0;
 
         friend bool operator==(const Seen&, const Seen&) = default;
+    };
+
+    /// What the panel looks like while it is closed.
+    struct Collapsed {
+        bool showsBar = false;
+        QSizeF size;
+        double notch = 0;
+
+        friend bool operator==(const Collapsed&, const Collapsed&) = default;
     };
 
     HoverTick::Next evaluateHover();
@@ -121,7 +134,7 @@ private:
     void resizeForShelf();
     [[nodiscard]] bool isLocked() const;
     void lockChanged();
-    void setCollapsed(bool bar, double notch);
+    void setCollapsed(const Collapsed& collapsed);
     void setFrame(const Screen& screen, QSizeF size, const QPainterPath& outline);
     void placeExpanded(const Screen& screen);
 
@@ -131,8 +144,7 @@ private:
     Services services_;
 
     bool isOpen_ = false;
-    bool showsBar_ = false;
-    double notch_ = 0;
+    Collapsed collapsed_;
     QRectF frame_;
     int stripTicks_ = 0;       ///< Ticks in a row with the pointer in the zone while collapsed.
     qint64 idleDragCount_ = 0; ///< The drag count last seen with no button down.

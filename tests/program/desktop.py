@@ -70,10 +70,10 @@ class Desktop(contextlib.AbstractContextManager):
             "TMPDIR": str(temporary),
             "QT_QPA_PLATFORM": "xcb",
             "NO_AT_BRIDGE": "1",
+            # Where the program is built with it: Qt ends it by exit() when the X server goes, with
+            # everything still allocated.
+            "ASAN_OPTIONS": "detect_leaks=0",
         }
-        for name in ("ASAN_OPTIONS", "LSAN_OPTIONS", "UBSAN_OPTIONS"):
-            if name in os.environ:
-                self.env[name] = os.environ[name]
 
     def __enter__(self):
         try:

@@ -424,6 +424,12 @@ protected:
         EXPECT_TRUE(green.save(world.store.imagePath(u"there.png"_s)));
     }
 
+    // Qt frees the texture of a picture that is gone with the next frame only.
+    ~PanelWithImages() override {
+        close();
+        view.window().grabWindow();
+    }
+
     static StoreData data() {
         StoreData data;
         data.clips = {clip(u"Image"_s, Seconds(1), ClipKind::image),

@@ -27,9 +27,11 @@ Item {
         }
     }
 
+    // Not as large as the window: it shrinks a moment after the panel has closed.
     HandleView {
         objectName: "handle"
-        anchors.fill: parent
+        width: panel.host.controller.collapsedSize.width
+        height: panel.host.controller.collapsedSize.height
         visible: !slot.open && !panel.host.controller.showsBar
         host: panel.host
     }
@@ -37,7 +39,8 @@ Item {
     TimerBarView {
         id: bar
         objectName: "bar"
-        anchors.fill: parent
+        width: panel.host.controller.collapsedSize.width
+        height: panel.host.controller.collapsedSize.height
         visible: !slot.open && panel.host.controller.showsBar
         host: panel.host
         notch: panel.host.controller.notch
