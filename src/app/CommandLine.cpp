@@ -36,8 +36,9 @@ screen. Move the pointer there to open it; click elsewhere to close it.
   -v, --version  show the version
 
 Started a second time, Ravelo opens the panel of the one that is running.
-It needs an X11 session. In a Wayland session it runs through XWayland: there it
-sees what X11 programs copy and opens when the pointer is over its own handle.
+It needs an X11 session. In a Wayland session it runs through XWayland, with less:
+the panel opens only under a pointer or a drag on its own handle and closes when
+the pointer leaves it, and the compositor may give it no keyboard to type with.
 )"_s;
 }
 
