@@ -47,8 +47,9 @@ void flushAtExit() {
 
 } // namespace
 
-AppDelegate::AppDelegate(DisplayServer& display)
+AppDelegate::AppDelegate(DisplayServer& display, HoverTick::Rest rest)
     : display_(display),
+      rest_(rest),
       dataLock_(dataFolder() + u"/lock"_s),
       scheduler_(std::make_unique<SystemScheduler>()),
       worker_(std::make_unique<WorkerThread>()),
@@ -92,7 +93,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                                   display_.drags(),
                                   display_.barrier(),
                                   *window_,
-                                  {&display_.lock(), loginSession_.get(), screenSaver_.get()}});
+                                  {&display_.lock(), loginSession_.get(), screenSaver_.get()}},
+        rest_);
     view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_}, QLocale());
     wire();
     return {};

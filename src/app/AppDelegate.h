@@ -2,6 +2,7 @@
 
 #include "base/Handle.h"
 #include "base/Result.h"
+#include "panel/HoverTick.h"
 
 #include <QLockFile>
 #include <QString>
@@ -27,7 +28,7 @@ class Worker;
 /// process ends. Main thread only.
 class AppDelegate {
 public:
-    explicit AppDelegate(DisplayServer& display);
+    explicit AppDelegate(DisplayServer& display, HoverTick::Rest rest = HoverTick::Rest::whenStill);
     ~AppDelegate();
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
@@ -45,6 +46,7 @@ private:
     void wire();
 
     DisplayServer& display_;
+    HoverTick::Rest rest_;
     QLockFile dataLock_; ///< Two programs that rewrite one store file would undo each other.
     std::unique_ptr<Scheduler> scheduler_;
     std::unique_ptr<Worker> worker_;

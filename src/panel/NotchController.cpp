@@ -230,8 +230,8 @@ void NotchController::positionExpanded() {
         return;
     }
     isOpen_ = true;
+    placeExpanded(*on); // First: what is shown is laid out for the frame.
     Q_EMIT isOpenChanged();
-    placeExpanded(*on);
     services_.window.orderFront();
 }
 

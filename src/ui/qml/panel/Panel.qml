@@ -53,8 +53,7 @@ Item {
     }
 
     ContentSlot {
-        id: slot
-        anchors.horizontalCenter: parent.horizontalCenter
+        id: slot // Not centred: the window may still be as narrow as the handle.
         focus: true
         host: panel.host
     }

@@ -1,0 +1,50 @@
+#include "bench/Idle.h"
+
+#include "bench/XServer.h"
+
+#include <filesystem>
+#include <fstream>
+#include <string>
+#include <thread>
+
+namespace ravelo::bench {
+
+namespace {
+
+using namespace std::chrono_literals;
+
+constexpr auto window = 150ms;
+constexpr auto oddMoment = 2ms;
+constexpr auto patience = 30s;
+
+/// How long its threads have run or waited for a processor, up to now.
+std::chrono::nanoseconds busy(int process) {
+    long long sum = 0;
+    const auto threads = "/proc/" + std::to_string(process) + "/task";
+    for (const auto& thread : std::filesystem::directory_iterator(threads)) {
+        std::ifstream file(thread.path() / "schedstat");
+        long long ran = 0;
+        long long queued = 0;
+        file >> ran >> queued;
+        sum += ran + queued;
+    }
+    return std::chrono::nanoseconds(sum);
+}
+
+} // namespace
+
+void awaitIdle(int process) {
+    const auto deadline = Clock::now() + patience;
+    auto before = busy(process);
+    while (Clock::now() < deadline) {
+        std::this_thread::sleep_for(window);
+        const auto now = busy(process);
+        if (now - before < oddMoment) {
+            return;
+        }
+        before = now;
+    }
+    giveUp("the program does not come to rest");
+}
+
+} // namespace ravelo::bench

@@ -1,0 +1,58 @@
+#include "bench/XServer.h"
+
+#include <xcb/xtest.h>
+
+#include <algorithm>
+#include <iostream>
+
+#include <poll.h>
+
+namespace ravelo::bench {
+
+void giveUp(std::string_view why) {
+    std::cerr << "bench: " << why << '\n';
+    std::exit(1);
+}
+
+XServer::XServer() : connection_(xcb_connect(nullptr, nullptr)) {
+    if (xcb_connection_has_error(connection_) != 0) {
+        giveUp("there is no X server");
+    }
+    screen_ = xcb_setup_roots_iterator(xcb_get_setup(connection_)).data;
+}
+
+Owned<xcb_generic_event_t> XServer::nextEvent(Clock::time_point deadline) {
+    xcb_flush(connection_);
+    while (true) {
+        Owned<xcb_generic_event_t> event(xcb_poll_for_event(connection_));
+        if (event && event->response_type == 0) {
+            giveUp("the X server refused a request");
+        }
+        if (xcb_connection_has_error(connection_) != 0) {
+            giveUp("the X server went away");
+        }
+        const auto left =
+            std::chrono::ceil<std::chrono::milliseconds>(deadline - Clock::now()).count();
+        if (event || left <= 0) {
+            return event;
+        }
+        pollfd wait = {xcb_get_file_descriptor(connection_), POLLIN, 0};
+        ::poll(&wait, 1, static_cast<int>(std::min<long long>(left, 1000)));
+    }
+}
+
+void XServer::move(Place place) {
+    fake(XCB_MOTION_NOTIFY, 0, place);
+}
+
+void XServer::click() {
+    fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_1, {});
+    fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1, {});
+}
+
+void XServer::fake(uint8_t type, uint8_t detail, Place place) {
+    xcb_test_fake_input(connection_, type, detail, XCB_CURRENT_TIME, screen_->root, place.x,
+                        place.y, 0);
+}
+
+} // namespace ravelo::bench

@@ -1,0 +1,141 @@
+"""What scripts/bench measures: each measurement is a function that gives rows of the table."""
+
+import collections
+import contextlib
+import json
+import pathlib
+import statistics
+import subprocess
+import sys
+import time
+import uuid
+
+ROOT = pathlib.Path(__file__).resolve().parent.parent
+BUILD = ROOT / "build/release"
+sys.path.insert(0, str(ROOT / "tests/program"))
+from desktop import Desktop, Ravelo, wait_for  # noqa: E402
+
+# `budget` and `reference` (the same figure of what it is compared with) may be unknown.
+Row = collections.namedtuple("Row", "name value unit budget reference", defaults=(None, None))
+
+PINNED, UNPINNED, IMAGES = 5, 60, 6
+
+
+def clip(number, **more):
+    kind, text = [
+        ("text", f"A sentence that somebody copied for later, number {number}"),
+        ("url", f"https://www.example.org/articles/{number}"),
+        ("text", f"def number_{number}():\n    return {number}\n"),
+    ][number % 3]
+    return {"id": str(uuid.uuid4()).upper(), "kind": kind, "text": text, "pinned": False,
+            "date": time.time() - 978307200 - 1000 * number, **more}
+
+
+def fill(desktop, ravelo):
+    """Makes a store of many clips out of one that the program has seeded itself."""
+    ravelo.start()
+    desktop.copy_text("the first")
+    wait_for(ravelo.store, "store.json")
+    assert ravelo.call("--quit")[0] == 0, "ravelo --quit did not work"
+    wait_for(ravelo.has_ended, "the end of the program")
+    clips = [clip(n, pinned=n < PINNED) for n in range(PINNED + UNPINNED)]
+    for shown in clips[PINNED:PINNED + IMAGES]:
+        name = f"{shown['id']}.png"
+        desktop.run("convert", "-size", "1280x800", "plasma:", ravelo.folder / "clips" / name)
+        shown.update(kind="image", text="Image", imageFileName=name)
+    file = ravelo.folder / "store.json"
+    file.write_text(json.dumps({**ravelo.store(), "clips": clips}))
+
+
+@contextlib.contextmanager
+def running(program):
+    """A program with a full store, its panel closed, on a desktop of its own."""
+    with Desktop() as desktop:
+        fill(desktop, Ravelo(desktop, BUILD / "ravelo"))
+        ravelo = Ravelo(desktop, BUILD / program).start()
+        desktop.copy_text("one more")  # What is written then is what was read.
+        wait_for(lambda: len(ravelo.clips()) == PINNED + UNPINNED, "a history as full as it gets")
+        yield desktop, ravelo
+
+
+# Openings.
+
+def opened(desktop, window, process, count):
+    """Milliseconds of each opening: until the window has its size, until it shows everything."""
+    output = subprocess.run([BUILD / "bench/bench_openings", str(window), str(process.pid),
+                             str(count)], env=desktop.env, stdout=subprocess.PIPE, text=True,
+                            check=True).stdout
+    rows = [[float(word) for word in line.split()] for line in output.splitlines()]
+    assert len(rows) == count, f"{len(rows)} openings of {count}"
+    return [list(column) for column in zip(*rows)]
+
+
+def p95(values):
+    return statistics.quantiles(values, n=20, method="inclusive")[-1]
+
+
+def openings(options):
+    count = options.openings + 1
+    with running("ravelo") as (desktop, ravelo):
+        sized, shown = opened(desktop, ravelo.panel().window, ravelo.process, count)
+    with Desktop() as desktop:
+        client = desktop.spawn(BUILD / "bench/bench_reference", stdout=subprocess.PIPE, text=True)
+        window = int(client.stdout.readline())
+        trivially_sized, trivially = opened(desktop, window, client, count)
+
+    def row(name, figure, values, reference, budget=None):
+        return Row(f"opening: {name}", figure(values), "ms", budget, figure(reference))
+
+    later, reference = shown[1:], trivially[1:]
+    return [
+        row("content shown, median", statistics.median, later, reference, 25),
+        row("content shown, p95", p95, later, reference, 40),
+        row("content shown, the first", lambda values: values[0], shown, trivially),
+        row("window resized, median", statistics.median, sized[1:], trivially_sized[1:]),
+    ]
+
+
+# Rest.
+
+Use = collections.namedtuple("Use", "voluntary involuntary seconds")
+
+
+def use(process):
+    """What all threads of a process have used up to now."""
+    total = [0, 0, 0]
+    for thread in pathlib.Path(f"/proc/{process.pid}/task").iterdir():
+        status = dict(line.split(":\t", 1) for line in (thread / "status").read_text().splitlines()
+                      if "ctxt_switches" in line)
+        total[0] += int(status["voluntary_ctxt_switches"])
+        total[1] += int(status["nonvoluntary_ctxt_switches"])
+        total[2] += int((thread / "schedstat").read_text().split()[0]) / 1e9
+    return Use(*total)
+
+
+def resting(program, seconds):
+    """What it uses in a second with the panel closed and nothing going on."""
+    with running(program) as (_, ravelo):
+        time.sleep(5)  # Whatever the start left to do.
+        threads = len(list(pathlib.Path(f"/proc/{ravelo.process.pid}/task").iterdir()))
+        before, begin = use(ravelo.process), time.monotonic()
+        time.sleep(seconds)
+        after, passed = use(ravelo.process), time.monotonic() - begin
+        assert ravelo.is_collapsed(), "the panel is not closed any more"
+        return Use(*((b - a) / passed for a, b in zip(before, after))), threads
+
+
+def rest(options):
+    resting_use, threads = resting("ravelo", options.rest)
+    ticking_use, _ = resting("bench/bench_ticking", options.rest)
+
+    def row(name, figure, unit, budget=None):
+        return Row(f"at rest: {name}", figure(resting_use), unit, budget, figure(ticking_use))
+
+    return [
+        row(f"wake-ups of {threads} threads", lambda u: u.voluntary + u.involuntary, "/s", 5),
+        row("  of these involuntary", lambda u: u.involuntary, "/s"),
+        row("processor", lambda u: 100 * u.seconds, "% core", 0.1),
+    ]
+
+
+MEASUREMENTS = [openings, rest]

@@ -1,0 +1,85 @@
+// openings WINDOW PROCESS COUNT: opens a panel by the pointer and closes it by a click elsewhere,
+// as a hand does. Prints for each opening the milliseconds from the pointer's arrival until the
+// window had its size, and until it showed all its content, at whatever opacity but none.
+//
+// Every frame is read as it comes, some 0.5 ms of the X server's time, and looked at afterwards:
+// the first that holds every detail of the last one counts, from the moment at which it had been
+// read.
+
+#include "bench/Frames.h"
+#include "bench/Idle.h"
+
+#include <algorithm>
+#include <cstdlib>
+#include <iostream>
+#include <random>
+#include <thread>
+
+namespace {
+
+using namespace ravelo::bench;
+using namespace std::chrono_literals;
+
+constexpr Place away = {200, 800};
+constexpr auto stillAfter = 200ms;   ///< Nothing drawn for so long: it shows what it will show.
+constexpr double longestPause = 100; ///< Milliseconds; many ticks of the program.
+
+struct Opening {
+    Clock::time_point begun;
+    Clock::time_point resized;
+    std::vector<Frame> frames;
+};
+
+Opening open(XServer& server, WindowWatch& window) {
+    Opening opening;
+    const Place zone = {static_cast<int16_t>(server.screen().width_in_pixels / 2), 2};
+    server.move(zone);
+    opening.begun = Clock::now();
+    xcb_flush(server.get());
+    opening.resized = window.awaitSize(panelSize);
+    while (auto frame = window.nextFrame(stillAfter)) {
+        opening.frames.push_back(std::move(*frame));
+    }
+    return opening;
+}
+
+void close(XServer& server, WindowWatch& window) {
+    server.move(away);
+    server.click();
+    window.awaitSize(handleSize);
+}
+
+void report(const Opening& opening) {
+    const auto& frames = opening.frames;
+    const auto complete = std::find_if(frames.begin(), frames.end(), [&](const Frame& frame) {
+        return isComplete(frame, frames.back());
+    });
+    if (complete == frames.end()) {
+        giveUp("the panel shows nothing to recognise");
+    }
+    const auto since = [&](Clock::time_point then) {
+        return std::chrono::duration<double, std::milli>(then - opening.begun).count();
+    };
+    std::cout << since(opening.resized) << ' ' << since(complete->seen) << std::endl;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 4) {
+        giveUp("openings WINDOW PROCESS COUNT");
+    }
+    const int process = std::atoi(argv[2]);
+    XServer server;
+    WindowWatch window(server, static_cast<xcb_window_t>(std::strtoul(argv[1], nullptr, 10)));
+    std::mt19937 random(1); // NOLINT(*-msc51-cpp): the same pauses each time.
+    std::uniform_real_distribution<double> pause(0, longestPause);
+    server.move(away);
+    for (int left = std::atoi(argv[3]); left > 0; --left) {
+        xcb_flush(server.get());
+        awaitIdle(process);
+        std::this_thread::sleep_for(std::chrono::duration<double, std::milli>(pause(random)));
+        report(open(server, window));
+        close(server, window);
+    }
+}

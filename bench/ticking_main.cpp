@@ -1,0 +1,22 @@
+// Ravelo with a tick that never rests: what resting is compared with.
+
+#include "app/AppDelegate.h"
+#include "platform/freedesktop/SingleInstance.h"
+#include "platform/x11/PrepareApplication.h"
+#include "platform/x11/X11DisplayServer.h"
+
+#include <QGuiApplication>
+
+using namespace ravelo;
+
+int main(int argc, char** argv) {
+    x11::prepareApplication();
+    const QGuiApplication application(argc, argv);
+    const auto instance = SingleInstance::claim();
+    auto display = x11::X11DisplayServer::create();
+    if (!instance || !display) {
+        return 1;
+    }
+    AppDelegate delegate(**display, HoverTick::Rest::never);
+    return delegate.applicationDidFinishLaunching() ? QGuiApplication::exec() : 1;
+}
