@@ -67,6 +67,14 @@ TEST_F(PanelTest, ComesAboveWhatWasShownMeanwhile) {
     EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); }));
 }
 
+TEST_F(PanelTest, ComesAboveWhenTheWindowManagerHasNewWindows) {
+    show(u"DUMMY0"_s, {200, 12});
+    const OtherWindow popup(OtherWindow::Kind::popup, {0, 0, 1920, 1080});
+    ASSERT_TRUE(server.isAbove(popup.id(), id()));
+    const OtherWindow bar(OtherWindow::Kind::dock, {0, 0, 1920, 30});
+    EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); }));
+}
+
 /// A body of 360x200 with a top edge of 400, as the panel has it.
 QPainterPath flaredOutline() {
     QPainterPath outline;

@@ -44,7 +44,11 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       shadow_(connection.atom("_COMPTON_SHADOW")),
       blurRegion_(connection.atom("_KDE_NET_WM_BLUR_BEHIND_REGION")),
       qt_(qtConnection()),
-      subscription_(compositor.onChange([this] { applyOutline(); })) {
+      restackingNotices_{connection.atom("_NET_CLIENT_LIST"),
+                         connection.atom("_NET_CLIENT_LIST_STACKING"),
+                         connection.atom("_NET_WORKAREA")},
+      compositorSubscription_(compositor.onChange([this] { applyOutline(); })),
+      eventSubscription_(events.onEvent([this](const auto& event) { stayAbove(event); })) {
     window_.setFlags(Qt::X11BypassWindowManagerHint | Qt::FramelessWindowHint |
                      Qt::WindowStaysOnTopHint);
     QSurfaceFormat format = window_.requestedFormat();
@@ -114,6 +118,18 @@ bool X11PanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
         prepareNativeWindow();
     }
     return false;
+}
+
+// Xfwm4 puts a bar that comes later, and every bar when it is restarted, above all windows that it
+// does not manage. The properties of the root window, which X11Screens watches, tell of it.
+void X11PanelWindow::stayAbove(const xcb_generic_event_t& event) {
+    const auto* change = eventAs<xcb_property_notify_event_t>(event, XCB_PROPERTY_NOTIFY);
+    if (change != nullptr && window_.isVisible() &&
+        std::find(restackingNotices_.begin(), restackingNotices_.end(), change->atom) !=
+            restackingNotices_.end()) {
+        window_.raise();
+        xcb_flush(qt_);
+    }
 }
 
 void X11PanelWindow::prepareNativeWindow() {

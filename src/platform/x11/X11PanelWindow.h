@@ -36,6 +36,7 @@ public:
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
+    void stayAbove(const xcb_generic_event_t& event);
     void prepareNativeWindow();
     void applyOutline();
     void setShape(xcb_shape_kind_t kind, const std::vector<xcb_rectangle_t>& rectangles);
@@ -51,7 +52,9 @@ private:
     double scale_ = 1;     ///< Device pixels in a logical one, where the window was placed last.
     xcb_connection_t* qt_; ///< Qt's own connection.
     xcb_window_t id_ = XCB_WINDOW_NONE;
-    Handle subscription_;
+    const std::vector<xcb_atom_t> restackingNotices_;
+    Handle compositorSubscription_;
+    Handle eventSubscription_;
 };
 
 } // namespace ravelo::x11
