@@ -10,6 +10,7 @@ import ctypes
 import json
 import os
 import pathlib
+import re
 import shutil
 import signal
 import subprocess
@@ -18,6 +19,35 @@ import time
 
 HERE = pathlib.Path(__file__).resolve().parent
 WIDTH, HEIGHT = 1440, 900
+GTK_PEER = ("/usr/bin/python3", HERE / "gtk_peer.py")
+OPENBOX = ("openbox", "--sm-disable")
+
+# Unlike Xvfb the server with this driver has several outputs. The first is as large as Xvfb's.
+DUMMY_CONFIGURATION = f"""
+Section "Monitor"
+    Identifier "monitor"
+    HorizSync 5-1000
+    VertRefresh 5-200
+    Modeline "{WIDTH}x{HEIGHT}" 106.50 {WIDTH} 1528 1672 1904 {HEIGHT} 903 909 934
+EndSection
+Section "Device"
+    Identifier "device"
+    Driver "dummy"
+    VideoRam 65536
+EndSection
+Section "Screen"
+    Identifier "screen"
+    Device "device"
+    Monitor "monitor"
+    DefaultDepth 24
+    SubSection "Display"
+        Modes "{WIDTH}x{HEIGHT}" "1280x1024"
+    EndSubSection
+EndSection
+Section "ServerFlags"
+    Option "AutoAddDevices" "false"
+EndSection
+"""
 
 BUS_CONFIGURATION = """<busconfig>
   <type>session</type>
@@ -31,17 +61,24 @@ BUS_CONFIGURATION = """<busconfig>
 """
 
 Geometry = collections.namedtuple("Geometry", "window x y width height")
+Monitor = collections.namedtuple("Monitor", "output x y width height")
+MAIN = Monitor("DUMMY0", 0, 0, WIDTH, HEIGHT)
+RIGHT = Monitor("DUMMY1", WIDTH, 0, 1280, 1024)
 
 
 def wait_for(condition, expected, timeout=20):
-    """The first true value of `condition()`; fails, saying what was expected, if none comes."""
+    """The first true value of `condition()`; fails, saying what was expected, if none comes.
+
+    `expected` may be a function, for what can be told only then.
+    """
     end = time.monotonic() + timeout
     while True:
         value = condition()
         if value:
             return value
         if time.monotonic() > end:
-            raise AssertionError(f"not within {timeout} s: {expected}")
+            text = expected() if callable(expected) else expected
+            raise AssertionError(f"not within {timeout} s: {text}")
         time.sleep(0.01)
 
 
@@ -49,10 +86,49 @@ def _die_with_parent():
     ctypes.CDLL(None).prctl(1, signal.SIGKILL)  # PR_SET_PDEATHSIG
 
 
-class Desktop(contextlib.AbstractContextManager):
-    """Use as a context manager. `home` is where everything the program writes must be found."""
+def xvfb(_home, descriptor):
+    return ("Xvfb", "-displayfd", descriptor, "-screen", "0", f"{WIDTH}x{HEIGHT}x24", "-dpi", "96",
+            "-nolisten", "tcp", "-noreset")
 
-    def __init__(self):
+
+def xorg_with_outputs(home, descriptor):
+    configuration = home / "xorg.conf"
+    configuration.write_text(DUMMY_CONFIGURATION)
+    # A seat other than "seat0" needs no console.
+    return ("/usr/lib/xorg/Xorg", "-displayfd", descriptor, "-config", configuration, "-logfile",
+            "/dev/null", "-seat", "none", "-dpi", "96", "-nolisten", "tcp", "-noreset", "-quiet")
+
+
+class Picture:
+    """What was on the screen."""
+
+    def __init__(self, ppm):
+        self._ppm = ppm
+        header, self._pixels = ppm.split(b"\n255\n", 1)
+        self._width = int(header.split()[1])
+
+    def __eq__(self, other):
+        return self._ppm == other._ppm
+
+    def at(self, x, y):
+        """The colour of one point, as red, green and blue."""
+        start = 3 * (y * self._width + x)
+        return tuple(self._pixels[start:start + 3])
+
+    def save(self, path):
+        subprocess.run(["convert", "ppm:-", path], input=self._ppm, check=True)
+
+
+class Desktop(contextlib.AbstractContextManager):
+    """Use as a context manager. `home` is where everything the program writes must be found.
+
+    `window_manager` is the command that starts one, or nothing; `server` makes the command of the X
+    server.
+    """
+
+    def __init__(self, window_manager=OPENBOX, server=xvfb):
+        self.window_manager = window_manager
+        self._server_command = server
         self._cleanup = contextlib.ExitStack()
         self.home = pathlib.Path(tempfile.mkdtemp(prefix="ravelo-desktop-"))
         self._cleanup.callback(shutil.rmtree, self.home, ignore_errors=True)
@@ -79,10 +155,8 @@ class Desktop(contextlib.AbstractContextManager):
         try:
             self._start_server()
             self._start_bus()
-            self.spawn("openbox", "--sm-disable", stdout=subprocess.DEVNULL,
-                       stderr=subprocess.DEVNULL)
-            wait_for(lambda: "window id" in self.run("xprop", "-root", "_NET_SUPPORTING_WM_CHECK"),
-                     "a window manager")
+            if self.window_manager:
+                self.start_window_manager(*self.window_manager)
         except BaseException:
             self._cleanup.close()
             raise
@@ -117,13 +191,12 @@ class Desktop(contextlib.AbstractContextManager):
 
     def _start_server(self):
         reading, writing = os.pipe()
-        self.server = self.spawn("Xvfb", "-displayfd", writing, "-screen", "0",
-                                 f"{WIDTH}x{HEIGHT}x24", "-dpi", "96", "-nolisten", "tcp",
-                                 "-noreset", pass_fds=(writing,), stderr=subprocess.DEVNULL)
+        self.server = self.spawn(*self._server_command(self.home, writing), pass_fds=(writing,),
+                                 stderr=subprocess.DEVNULL)
         os.close(writing)
         with os.fdopen(reading) as answer:
             number = answer.readline().strip()
-        assert number, "Xvfb did not start"
+        assert number, "the X server did not start"
         self.env["DISPLAY"] = f":{number}"
 
     def _start_bus(self):
@@ -134,6 +207,21 @@ class Desktop(contextlib.AbstractContextManager):
                    stderr=subprocess.DEVNULL)
         wait_for(socket.exists, "a session bus")
         self.env["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={socket}"
+
+    def start_window_manager(self, *command):
+        """Returns once it manages; also where it replaces another, or restarts itself."""
+        def answers():
+            return told.read_text().count("_NET_SUPPORTING_WM_CHECK(WINDOW): window id")
+
+        told = self.home / "tmp" / "root-properties"
+        with told.open("w") as file:
+            spy = self.spawn("xprop", "-root", "-spy", stdout=file, stderr=subprocess.DEVNULL)
+        self.run("xsetroot", "-name", "mark")  # Once this is told all that was before is.
+        wait_for(lambda: "mark" in told.read_text(), "what the root window says")
+        before = answers()
+        self.spawn(*command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for(lambda: answers() > before, "a window manager")
+        spy.kill()
 
     # The clipboard, as other programs use it.
 
@@ -153,7 +241,70 @@ class Desktop(contextlib.AbstractContextManager):
         return process
 
     def gtk(self, *arguments):
-        return self.peer("/usr/bin/python3", HERE / "gtk_peer.py", *arguments)
+        return self.peer(*GTK_PEER, *arguments)
+
+    # What is on the screen.
+
+    def picture(self):
+        # Not xwd: it puts the picture together from the windows, whatever the screen shows.
+        path = self.home / "tmp" / "picture.ppm"
+        self.run("import", "-silent", "-window", "root", "-depth", "8", path)
+        return Picture(path.read_bytes())
+
+    def still_picture(self):
+        """A picture once nothing moves any more."""
+        pictures = [self.picture()]
+
+        def still():
+            pictures.append(self.picture())
+            return pictures[-1] == pictures[-2]
+
+        wait_for(still, "a still picture")
+        return pictures[-1]
+
+    def window_of(self, process):
+        """The one visible window of a program, or nothing."""
+        found = self.run("xdotool", "search", "--onlyvisible", "--pid", process.pid)
+        assert len(found.split()) <= 1, f"more than one visible window: {found.split()}"
+        return self.geometry(found.strip()) if found else None
+
+    def geometry(self, window):
+        """Where a window is, or nothing once it is gone."""
+        told = self.run("xwininfo", "-id", window)
+        names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
+        values = [re.search(rf"{name}: +(-?\d+)", told) for name in names]
+        return Geometry(int(window), *(int(value[1]) for value in values)) if all(values) else None
+
+    def title(self, window):
+        return self.run("xdotool", "getwindowname", window).strip()
+
+    def monitor(self, output):
+        """Where an output shows its part of the screen, or nothing while it is off."""
+        found = re.search(rf"^{output} connected .*?(\d+)x(\d+)\+(\d+)\+(\d+)",
+                          self.run("xrandr"), re.M)
+        if not found:
+            return None
+        width, height, x, y = map(int, found.groups())
+        return Monitor(output, x, y, width, height)
+
+    def show(self, monitor):
+        """Adds a monitor right of the first, if the server has outputs; where it is in the end."""
+        mode = f"{monitor.width}x{monitor.height}"
+        self.run("xrandr", "--addmode", monitor.output, mode)
+        self.run("xrandr", "--output", monitor.output, "--mode", mode, "--right-of", MAIN.output)
+        seen = [(time.monotonic(), None)]
+
+        def settled():  # A window manager may choose another mode, as mutter does.
+            now = time.monotonic(), self.monitor(monitor.output)
+            if now[1] != seen[-1][1]:
+                seen.append(now)
+            return now[1] if now[0] - seen[-1][0] > 0.5 else None
+
+        return wait_for(settled, f"{monitor.output} on")
+
+    def hide(self, monitor):
+        self.run("xrandr", "--output", monitor.output, "--off")
+        wait_for(lambda: not self.monitor(monitor.output), f"{monitor.output} off")
 
     # Pointer and keyboard.
 
@@ -163,6 +314,20 @@ class Desktop(contextlib.AbstractContextManager):
 
     def click(self, x, y):
         self.move(x, y, "click", 1)
+
+    def glide(self, to):
+        """Moves the pointer as a hand does, through all that lies between."""
+        shell = self.run("xdotool", "getmouselocation", "--shell")
+        here = dict(line.split("=") for line in shell.split())
+        x, y = int(here["X"]), int(here["Y"])
+        for step in range(1, 21):
+            self.run("xdotool", "mousemove", x + (to[0] - x) * step // 20,
+                     y + (to[1] - y) * step // 20)
+
+    def drag(self, start, to):
+        """Presses at `start`, and keeps hold."""
+        self.move(*start, "mousedown", 1)
+        self.glide(to)
 
     def type(self, text):
         self.run("xdotool", "type", "--delay", 20, text)
@@ -226,26 +391,23 @@ class Ravelo:
     # What it shows.
 
     def panel(self):
-        """Its one visible window, or nothing."""
-        found = self.desktop.run("xdotool", "search", "--onlyvisible", "--pid", self.process.pid)
-        assert len(found.split()) <= 1, f"more than one visible window: {found.split()}"
-        shell = self.desktop.run("xdotool", "getwindowgeometry", "--shell", *found.split())
-        values = dict(line.split("=") for line in shell.split())
-        names = ("WINDOW", "X", "Y", "WIDTH", "HEIGHT")
-        return Geometry(*(int(values[name]) for name in names)) if found and values else None
+        return self.desktop.window_of(self.process)
 
-    def _hangs_at_the_top(self, width, height):
+    def _hangs_at_the_top(self, width, height, monitor):
         panel = self.panel()
-        return panel if panel and (panel.width, panel.height, panel.y) == (width, height, 0) \
-            and abs(panel.x + width / 2 - WIDTH / 2) <= 1 else None
+        there = panel and panel[2:] == (monitor.y, width, height) \
+            and abs(panel.x + width / 2 - monitor.x - monitor.width / 2) <= 1
+        return panel if there else None
 
-    def is_collapsed(self):
-        return self._hangs_at_the_top(200, 12)
+    def is_collapsed(self, monitor=MAIN):
+        return self._hangs_at_the_top(200, 12, monitor)
 
-    def is_open(self):
-        return self._hangs_at_the_top(927, 560)
+    def is_open(self, monitor=MAIN):
+        return self._hangs_at_the_top(927, 560, monitor)
 
-    def open(self):
+    def open(self, monitor=MAIN):
         """Opens it as a user does, with the pointer, and returns where it is."""
-        self.desktop.move(WIDTH // 2, 2)
-        return wait_for(self.is_open, "the open panel, 927 x 560, at the top, centred")
+        self.desktop.move(monitor.x + monitor.width // 2, monitor.y + 2)
+        return wait_for(lambda: self.is_open(monitor),
+                        lambda: f"the open panel, 927 x 560, at the top, centred on {monitor}; "
+                        f"it is {self.panel()}")

@@ -1,17 +1,24 @@
 """A GTK program for Ravelo to live beside. Says "ready" when done and stays until it is ended.
 
-gtk_peer.py text TEXT    owns the clipboard with a text
-gtk_peer.py image COLOR  owns the clipboard with an image of one colour, 64 x 48
-gtk_peer.py window       a focused window with a text field; prints its text at each change
+gtk_peer.py text TEXT      owns the clipboard with a text
+gtk_peer.py image COLOR    owns the clipboard with an image of one colour, 64 x 48
+gtk_peer.py window         a focused window with a text field; prints its text at each change
+gtk_peer.py fullscreen COLOR LEFT WIDTH HEIGHT  the same, full-screen on a monitor
+gtk_peer.py bar COLOR WIDTH HEIGHT  a dock at the top left that reserves its height
+gtk_peer.py source TEXT    a window with a selected text to drag away; its title tells "dragged"
+
+The title of a window with a text field is the text, for who looks rather than listens.
 """
 
+import subprocess
 import sys
 
 import gi
 
 gi.require_version("Gdk", "3.0")
+gi.require_version("GdkX11", "3.0")
 gi.require_version("Gtk", "3.0")
-from gi.repository import Gdk, GdkPixbuf, GLib, Gtk  # noqa: E402
+from gi.repository import Gdk, GdkPixbuf, GdkX11, GLib, Gtk  # noqa: E402, F401
 
 
 def say(text):
@@ -30,18 +37,70 @@ def own(what, value):
     say("ready")
 
 
-def show_window():
-    window = Gtk.Window(title="Peer", default_width=400, default_height=200)
-    window.move(80, 640)
-    entry = Gtk.Entry()
+def paint(window, color):
+    style = Gtk.CssProvider()
+    style.load_from_data(f"window {{ background: {color}; }}".encode())
+    window.get_style_context().add_provider(style, Gtk.STYLE_PROVIDER_PRIORITY_USER)
+
+
+def make_window(x, y, width, height, **properties):
+    window = Gtk.Window(title="Peer", default_width=width, default_height=height, **properties)
+    window.move(x, y)
+    return window
+
+
+def ready_when_focused(widget):
+    widget.connect("focus-in-event", lambda *_: GLib.idle_add(say, "ready") and False)
+
+
+def show_field(window):
+    entry = Gtk.Entry(halign=Gtk.Align.START, valign=Gtk.Align.END, width_chars=40)
+    entry.connect("changed", lambda entry: window.set_title(entry.get_text()))
     entry.connect("changed", lambda entry: say(entry.get_text()))
-    entry.connect("focus-in-event", lambda *_: GLib.idle_add(say, "ready") and False)
+    ready_when_focused(entry)
     window.add(entry)
     window.show_all()
 
 
-if sys.argv[1] == "window":
-    show_window()
+def show_window():
+    show_field(make_window(80, 640, 400, 200))
+
+
+def show_fullscreen(color, left, width, height):
+    window = make_window(int(left), 0, int(width), int(height), decorated=False)
+    paint(window, color)
+    window.fullscreen()
+    show_field(window)
+
+
+def show_bar(color, width, height):
+    window = make_window(0, 0, int(width), int(height), decorated=False, accept_focus=False,
+                         type_hint=Gdk.WindowTypeHint.DOCK)
+    paint(window, color)
+    window.realize()
+    strut = ["0", "0", height, "0"] + ["0"] * 4 + ["0", str(int(width) - 1), "0", "0"]
+    subprocess.run(["xprop", "-id", str(window.get_window().get_xid()), "-f",
+                    "_NET_WM_STRUT_PARTIAL", "32c", "-set", "_NET_WM_STRUT_PARTIAL",
+                    ",".join(strut)], check=True)
+    window.connect("map-event", lambda *_: say("ready"))
+    window.show()
+
+
+def show_source(text):
+    window = make_window(80, 640, 400, 200)
+    view = Gtk.TextView()
+    view.get_buffer().set_text(text)
+    view.get_buffer().select_range(*view.get_buffer().get_bounds())
+    view.connect("drag-begin", lambda *_: window.set_title("dragged"))
+    ready_when_focused(view)
+    window.add(view)
+    window.show_all()
+
+
+SHOWN = {"window": show_window, "fullscreen": show_fullscreen, "bar": show_bar,
+         "source": show_source}
+if sys.argv[1] in SHOWN:
+    SHOWN[sys.argv[1]](*sys.argv[2:])
 else:
     own(*sys.argv[1:])
 Gtk.main()

@@ -1,0 +1,308 @@
+"""What Ravelo must do on whatever desktop it finds itself: one function a check.
+
+A check that saw what it wanted returns nothing, or a note on what this desktop cannot show; else it
+raises an AssertionError that says what it saw.
+"""
+
+import contextlib
+import json
+import subprocess
+import time
+
+from desktop import GTK_PEER, MAIN, RIGHT, WIDTH, Desktop, Ravelo, wait_for, xorg_with_outputs
+
+MIDDLE = WIDTH // 2
+BAR_HEIGHT = 28
+BAR, SCREENFUL, WALLPAPER = (255, 0, 255), (0, 255, 0), (255, 160, 0)
+AWAY = (40, 400)  # A click there closes.
+SEARCH_LEFT, SEARCH_TOP = 200, 220
+FILE = "dragged.txt"
+PAPER = (255, 255, 255)
+ICON_LEFT, ICON_TOP = 207, 98  # Of the one file in the file manager's window.
+PATIENCE = 5  # Seconds that anything may take.
+
+
+def css(color):
+    return "#%02x%02x%02x" % color
+
+
+def until(condition, expected):
+    return wait_for(condition, expected, PATIENCE)
+
+
+class Surroundings(contextlib.ExitStack):
+    """A desktop with a bar at the top, and Ravelo on it. Pictures go to `pictures`."""
+
+    def __init__(self, name, window_manager, program, pictures):
+        super().__init__()
+        self.name = name
+        self.pictures = pictures
+        self.desktop = Desktop(window_manager, xorg_with_outputs)
+        self.ravelo = Ravelo(self.desktop, program)
+        self.bar = None
+
+    def __enter__(self):
+        self.enter_context(self.desktop)
+        self.desktop.run("hsetroot", "-solid", css(WALLPAPER))
+        self.bar = self.desktop.gtk("bar", css(BAR), WIDTH, BAR_HEIGHT)
+        self.desktop.move(*AWAY)
+        self.ravelo.start()
+        return self
+
+    def rest(self):
+        """Whatever the last check left behind: the panel is closed and the pointer away."""
+        self.desktop.run("xdotool", "mouseup", 1)
+        try:
+            self.close()
+        except AssertionError:
+            self.ravelo.process.kill()
+            self.ravelo.start()
+
+    @contextlib.contextmanager
+    def running(self, *command):
+        """A program with one window that has the focus, for the time of a check."""
+        process = self.desktop.spawn(*command, stdout=subprocess.DEVNULL,
+                                     stderr=subprocess.DEVNULL)
+        try:
+            found = until(lambda: self.desktop.window_of(process), f"a window of {command}")
+            window = str(found.window)
+            if not self.desktop.window_manager:
+                self.desktop.run("xdotool", "windowfocus", window)
+            self.expect_focus(window, f"{command} once it is started")
+            yield window
+        except AssertionError:
+            self.keep("FAILED")  # While it can still be seen.
+            raise
+        finally:
+            process.kill()
+            process.wait()
+
+    def gtk(self, *arguments):
+        return self.running(*GTK_PEER, *arguments)
+
+    def screenful(self, monitor=MAIN):
+        return self.gtk("fullscreen", css(SCREENFUL), monitor.x, monitor.width, monitor.height)
+
+    def keep(self, name):
+        """Leaves a picture; its name begins with the desktop's."""
+        self.desktop.still_picture().save(self.pictures / f"{self.name}-{name}.png")
+
+    def open_search(self):
+        panel = self.ravelo.open()
+        self.desktop.click(panel.x + SEARCH_LEFT, SEARCH_TOP)
+        self.expect_focus(str(panel.window), "the panel after a click into the search field")
+        return panel
+
+    def close(self, monitor=MAIN):
+        self.desktop.click(monitor.x + AWAY[0], monitor.y + AWAY[1])
+        self.expect_closed("after a click elsewhere", monitor)
+
+    # What is expected, and what was seen instead.
+
+    def expect_closed(self, when, monitor=MAIN):
+        until(lambda: self.ravelo.is_collapsed(monitor),
+              lambda: f"the handle on {monitor.output} {when}; there is {self.ravelo.panel()}")
+
+    def expect_focus(self, window, what):
+        desktop = self.desktop
+        until(lambda: desktop.focused_window() == window,
+              lambda: f"the focus in {what}; it is in {desktop.focused_window()}, a "
+              f"{desktop.title(desktop.focused_window())!r}, not in {window}")
+
+    def expect_typed(self, window, text, when):
+        until(lambda: self.desktop.title(window) == text,
+              lambda: f"{text!r} in the window {when}; there is {self.desktop.title(window)!r}")
+
+    def expect_seen(self, area, hidden, what):
+        """Nearly no point of `area` (left, top, width, height) has one of the `hidden` colours."""
+        left, top, width, height = area
+        points = [(x, y) for x in range(left, left + width, 9)
+                  for y in range(top, top + height, 4)]
+
+        def covered():
+            picture = self.desktop.picture()
+            return sum(picture.at(*point) in hidden for point in points) / len(points)
+
+        until(lambda: covered() < 0.02,
+              lambda: f"{what} on the screen; {covered():.0%} of it lies below")
+
+    def expect_handle_seen(self, hidden, what, monitor=MAIN):
+        self.expect_seen((monitor.x + monitor.width // 2 - 85, monitor.y + 1, 170, 9), hidden, what)
+
+    def expect_panel_seen(self, panel, hidden, what):
+        left = panel.x + 30  # Within the outline, which is narrower than the window.
+        self.expect_seen((left, panel.y + 1, panel.width - 60, panel.height - 50), hidden, what)
+
+    def expect_color(self, point, color, what):
+        until(lambda: self.desktop.picture().at(*point) == color,
+              lambda: f"{what}: {color} at {point}; it is {self.desktop.picture().at(*point)}")
+
+
+def place(on):
+    """Handle and panel hang from the middle of the top edge, over the bar."""
+    on.expect_closed("at the start")
+    on.ravelo.open()
+    on.close()
+
+
+def handle_above(on):
+    """The handle is seen above the bar and above a full-screen window with the focus."""
+    on.expect_color((300, 5), BAR, "the bar")
+    on.expect_handle_seen([BAR], "the handle above the bar")
+    with on.screenful():
+        on.expect_color((300, 500), SCREENFUL, "the full-screen window")
+        on.expect_handle_seen([SCREENFUL, BAR], "the handle above the full-screen window")
+
+
+def panel_above(on):
+    """So is the open panel."""
+    on.expect_color((200, 5), BAR, "the bar")
+    on.expect_panel_seen(on.ravelo.open(), [BAR, WALLPAPER], "the panel above the bar")
+    on.keep("above-bar")
+    on.close()
+    with on.screenful():
+        on.expect_color((200, 500), SCREENFUL, "the full-screen window")
+        on.expect_panel_seen(on.ravelo.open(), [SCREENFUL, BAR],
+                             "the panel above the full-screen window")
+        on.keep("above-fullscreen")
+
+
+def hot_zone(on):
+    """The pointer opens it beside the handle too, there where the bar is."""
+    on.desktop.move(MIDDLE - 150, 100)
+    on.expect_closed("below the hot zone")
+    on.desktop.move(MIDDLE - 150, 6)
+    until(on.ravelo.is_open, "the panel, opened by the pointer in the hot zone")
+
+
+def focus(on):
+    """Opening and closing leave the focus where the user types."""
+    with on.screenful() as window:
+        panel = on.ravelo.open()
+        on.desktop.move(panel.x + 200, 400)
+        on.desktop.type("a")
+        on.expect_typed(window, "a", "while the panel is open")
+        on.expect_focus(window, "the window while the panel is open")
+        on.close()
+        on.desktop.type("b")
+        on.expect_typed(window, "ab", "after it closed")
+        on.expect_focus(window, "the window after it closed")
+
+
+def typing(on):
+    """A word typed into the search and Return copy the clip with that word."""
+    for text in ("a needle in it", "hay"):
+        on.desktop.copy_text(text)
+        until(lambda t=text: on.ravelo.texts()[:1] == [t], f"{text!r} in store.json")
+    with on.gtk("window"):
+        on.open_search()
+        on.desktop.type("needle")
+        on.desktop.key("Return")
+        until(lambda: on.desktop.paste_text() == "a needle in it",
+              lambda: f"the clip to paste; there is {on.desktop.paste_text()!r}")
+
+
+def gives_back(on):
+    """Escape gives the keyboard back; a click elsewhere gives it to what was clicked."""
+    with on.gtk("window") as window, on.screenful() as screenful:
+        on.open_search()
+        on.desktop.key("Escape")
+        on.expect_closed("after Escape")
+        on.expect_focus(screenful, "the full-screen window after Escape")
+        on.desktop.type("a")
+        on.expect_typed(screenful, "a", "after Escape")
+        on.close()
+        on.desktop.run("xdotool", "windowraise", window)
+    with on.gtk("window") as first, on.gtk("window") as second:
+        on.desktop.run("xdotool", "windowmove", second, 700, 650)
+        clicked = first if on.desktop.window_manager else second
+        on.open_search()
+        corner = on.desktop.geometry(first)
+        on.desktop.click(corner.x + 100, corner.y + corner.height - 12)
+        on.expect_closed("after a click elsewhere")
+        on.expect_focus(clicked, "the window that was clicked")
+        on.desktop.type("b")
+        on.expect_typed(clicked, "b", "after a click elsewhere")
+    return None if on.desktop.window_manager else "no window manager, no focus by a click"
+
+
+def workspaces(on):
+    """It is there on every workspace."""
+    if not on.desktop.window_manager:
+        return "no window manager, no workspaces"
+    on.desktop.run("xdotool", "set_num_desktops", 2)
+    for workspace in ("1", "0"):
+        on.desktop.run("xdotool", "set_desktop", workspace)
+        until(lambda w=workspace: on.desktop.run("xdotool", "get_desktop").strip() == w,
+              f"workspace {workspace}")
+        on.expect_handle_seen([BAR], f"the handle on workspace {workspace}")
+        panel = on.ravelo.open()
+        on.expect_panel_seen(panel, [BAR, WALLPAPER], f"the panel on workspace {workspace}")
+        on.close()
+    return None
+
+
+@contextlib.contextmanager
+def dragged_file(on):
+    """A file that a file manager offers, held near the top centre."""
+    folder = on.desktop.home / "files"
+    folder.mkdir(exist_ok=True)
+    (folder / FILE).write_text("dragged")
+    with on.running("pcmanfm", "--no-desktop", folder) as window:
+        on.desktop.run("xdotool", "windowsize", window, 400, 300, "windowmove", window, 60, 450)
+
+        def icon():
+            corner, picture = on.desktop.geometry(window), on.desktop.picture()
+            left, top = corner.x + ICON_LEFT, corner.y + ICON_TOP
+            drawn = corner.width == 400 and picture.at(left, top) != PAPER \
+                and picture.at(left, top + 60) == PAPER
+            return (left, top) if drawn else None
+
+        on.desktop.drag(until(icon, "the icon of a file"), (MIDDLE - 200, 100))
+        yield
+
+
+def file_drag(on):
+    """A file dragged near the top centre opens it, a text does not."""
+    with dragged_file(on):
+        until(on.ravelo.is_open, "the panel, opened by a dragged file")
+        on.keep("file-drag")
+    on.rest()
+    with on.gtk("source", "a text to drag") as window:
+        corner = on.desktop.geometry(window)
+        on.desktop.drag((corner.x + 30, corner.y + 10), (MIDDLE - 200, 100))
+        until(lambda: on.desktop.title(window) == "dragged", "the start of a text's drag")
+        end = time.monotonic() + 1
+        while time.monotonic() < end:  # A file would have opened it long since.
+            on.desktop.run("xdotool", "mousemove_relative", "--", 1, 0)
+            assert on.ravelo.is_collapsed(), f"a dragged text opened it: {on.ravelo.panel()}"
+
+
+def drop(on):
+    """A file dropped on the open panel is on the shelf."""
+    with dragged_file(on):
+        panel = until(on.ravelo.is_open, "the panel, opened by a dragged file")
+        on.desktop.glide((panel.x + 400, 300))
+        on.desktop.run("xdotool", "mouseup", 1)
+        until(lambda: FILE in json.dumps(on.ravelo.store().get("shelfStacks", [])),
+              lambda: f"{FILE} on the shelf; there is {on.ravelo.store().get('shelfStacks')}")
+
+
+def two_monitors(on):
+    """It opens on the monitor with the pointer, and its handle stays there."""
+    right = on.desktop.show(RIGHT)
+    hidden = {MAIN: BAR, right: SCREENFUL}
+    try:
+        with on.screenful(right):
+            for monitor in (right, MAIN, right):
+                where = f"on {monitor.output}"
+                on.expect_panel_seen(on.ravelo.open(monitor), [hidden[monitor]], f"panel {where}")
+                on.keep(where.replace(" ", "-"))
+                on.close(monitor)
+                on.expect_handle_seen([hidden[monitor]], f"handle {where}", monitor)
+    finally:
+        on.desktop.hide(right)
+
+
+CHECKS = (place, handle_above, panel_above, hot_zone, focus, typing, gives_back, workspaces, file_drag,
+          drop, two_monitors)
