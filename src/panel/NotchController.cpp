@@ -200,6 +200,7 @@ void NotchController::toggle() {
         dismiss();
     } else {
         positionExpanded();
+        typeFocus();
     }
 }
 
@@ -290,7 +291,9 @@ void NotchController::copyImage(const QString& path) {
 }
 
 void NotchController::typeFocus() {
-    services_.window.requestFocus();
+    if (isOpen_) {
+        services_.window.requestFocus();
+    }
 }
 
 } // namespace ravelo

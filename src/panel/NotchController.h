@@ -74,6 +74,8 @@ public:
     /// Closes at the user's wish while the pointer may rest where it would open the panel again:
     /// hovering opens only once the pointer has been elsewhere.
     Q_INVOKABLE void dismiss();
+
+    /// By a key: opens with the keyboard in the panel, or closes.
     void toggle();
 
     /// Tells whether the pointer is over the window, for display servers that tell its place

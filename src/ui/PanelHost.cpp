@@ -2,6 +2,8 @@
 
 #include "panel/NotchGeometry.h"
 
+#include <QDesktopServices>
+
 #include <algorithm>
 
 namespace ravelo {
@@ -69,6 +71,14 @@ void PanelHost::copyClip(const QUuid& id) {
         controller()->copy(clip->text);
     }
     toast_.flashCopied();
+}
+
+void PanelHost::openLink(const QUuid& id) {
+    const ClipItem* clip = findById(store()->clips(), id);
+    if (clip != nullptr && clip->kind == ClipKind::url) {
+        QDesktopServices::openUrl(QUrl(clip->text.trimmed()));
+        controller()->dismiss();
+    }
 }
 
 void PanelHost::copySnippet(const QUuid& id) {

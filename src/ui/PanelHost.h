@@ -94,6 +94,9 @@ public:
     Q_INVOKABLE void copyClip(const QUuid& id);
     Q_INVOKABLE void copySnippet(const QUuid& id);
 
+    /// Opens a link in the user's browser and closes the panel; nothing for a clip of another kind.
+    Q_INVOKABLE void openLink(const QUuid& id);
+
 Q_SIGNALS:
     void hasContentChanged();
     void contentSizeChanged();

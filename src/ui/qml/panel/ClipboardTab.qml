@@ -13,9 +13,15 @@ FocusScope {
 
     /// Takes the search away; false where there is none.
     function clearSearch(): bool {
-        const had = search.input.text !== "";
-        search.input.clear();
+        const had = field.input.text !== "";
+        field.input.clear();
         return had;
+    }
+
+    /// The keyboard goes to the search, with all of it selected.
+    function search() {
+        field.input.forceActiveFocus();
+        field.input.selectAll();
     }
 
     function copy(row: int) {
@@ -23,6 +29,42 @@ FocusScope {
             list.currentIndex = row;
             host.copyClip(host.clips.idAt(row));
         }
+    }
+
+    function copyAndClose(row: int) {
+        if (row >= 0 && row < list.count) {
+            copy(row);
+            host.controller.dismiss();
+        }
+    }
+
+    /// Keys that work on the list while the search has the keyboard.
+    function handle(event: KeyEvent) {
+        const page = Math.max(1, Math.floor(list.height / 40) - 1);
+        const control = event.modifiers === Qt.ControlModifier;
+        const selected = host.clips.idAt(list.currentIndex);
+        if (event.key === Qt.Key_Up) {
+            select(list.currentIndex - 1);
+        } else if (event.key === Qt.Key_Down) {
+            select(list.currentIndex + 1);
+        } else if (event.key === Qt.Key_PageUp) {
+            select(list.currentIndex - page);
+        } else if (event.key === Qt.Key_PageDown) {
+            select(list.currentIndex + page);
+        } else if (control && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
+            host.openLink(selected);
+        } else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
+            copyAndClose(list.currentIndex);
+        } else if (control && event.key >= Qt.Key_1 && event.key <= Qt.Key_9) {
+            copyAndClose(event.key - Qt.Key_1);
+        } else if (control && event.key === Qt.Key_P) {
+            host.store.togglePin(selected);
+        } else if (event.key === Qt.Key_Delete && field.input.text === "") {
+            host.store.deleteClip(selected);
+        } else {
+            return;
+        }
+        event.accepted = true;
     }
 
     function select(row: int) {
@@ -38,16 +80,15 @@ FocusScope {
         }
     }
 
-    Keys.onUpPressed: select(list.currentIndex - 1)
-    Keys.onDownPressed: select(list.currentIndex + 1)
-    Keys.onReturnPressed: copy(list.currentIndex)
-    Keys.onEnterPressed: copy(list.currentIndex)
+    Keys.onPressed: event => handle(event)
 
     SearchField {
-        id: search
+        id: field
         objectName: "search"
         width: parent.width
         host: tab.host
+        input.onTextChanged: tab.select(0)
+        input.Keys.forwardTo: [tab]
         trashLit: tab.question.opened
         onClearRequested: {
             // The question is answered by Return too.

@@ -29,6 +29,18 @@ FocusScope {
             host.controller.dismiss();
         }
     }
+    Keys.onPressed: event => {
+        const backwards = event.key === Qt.Key_Backtab;
+        if ((event.key === Qt.Key_Tab || backwards) && event.modifiers & Qt.ControlModifier) {
+            choose((tab + (backwards ? tabs.length - 1 : 1)) % tabs.length);
+        } else if (event.key === Qt.Key_F && event.modifiers === Qt.ControlModifier) {
+            choose(0);
+            clipboard.search();
+        } else {
+            return;
+        }
+        event.accepted = true;
+    }
 
     PanelBackground {
         objectName: "panel"

@@ -37,6 +37,8 @@ FocusScope {
             EditArea {
                 id: editor
                 objectName: "noteInput"
+                focus: true
+                Accessible.name: "Quick note"
                 width: view.width
                 height: Math.max(implicitHeight, view.height)
                 host: tab.host

@@ -44,6 +44,8 @@ Surface {
     EditLine {
         id: input
         objectName: "searchInput"
+        focus: true
+        Accessible.name: placeholder
         x: 36
         width: trash.x - x - 8
         height: parent.height
