@@ -1,8 +1,8 @@
 #pragma once
 
-#include <QCoreApplication>
+#include "support/Eventually.h"
+
 #include <QDBusConnection>
-#include <QDeadlineTimer>
 #include <QFile>
 #include <QProcess>
 #include <QTemporaryDir>
@@ -51,15 +51,5 @@ private:
     QString address_;
     QStringList names_;
 };
-
-/// Runs the event loop until `condition` holds; false after twenty seconds.
-template <typename Condition>
-bool eventually(Condition condition) {
-    const QDeadlineTimer end(20'000);
-    while (!condition() && !end.hasExpired()) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 50);
-    }
-    return condition();
-}
 
 } // namespace ravelo

@@ -4,6 +4,7 @@
 #include "platform/freedesktop/LoginSession.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
 
+#include <QCoreApplication>
 #include <QDBusArgument>
 #include <QDBusMessage>
 #include <QDBusObjectPath>

@@ -8,7 +8,6 @@
 namespace ravelo::x11 {
 namespace {
 
-using live::eventually;
 using namespace Qt::StringLiterals;
 
 void setStatus(const QString& first) {

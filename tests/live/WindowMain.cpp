@@ -1,5 +1,5 @@
 #include "live/support/Desktop.h"
-#include "live/support/RunTests.h"
+#include "support/RunTests.h"
 
 #include <gtest/gtest.h>
 
@@ -17,5 +17,6 @@ int main(int argc, char** argv) {
         std::fputs("the X server, the window manager or a monitor is missing\n", stderr);
         return 1;
     }
-    return ravelo::live::runTests(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    return ravelo::runTests(argc, argv);
 }

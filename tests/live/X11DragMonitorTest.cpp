@@ -8,7 +8,6 @@ namespace ravelo::x11 {
 namespace {
 
 using live::Client;
-using live::eventually;
 using live::offering;
 using namespace Qt::StringLiterals;
 

@@ -27,7 +27,7 @@ public:
     }
 
     [[nodiscard]] bool eventually(const std::function<bool()>& condition) override {
-        return live::eventually(condition);
+        return ravelo::eventually(condition);
     }
 
 private:

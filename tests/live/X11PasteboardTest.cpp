@@ -10,7 +10,6 @@ namespace ravelo::x11 {
 namespace {
 
 using live::Client;
-using live::eventually;
 using live::filling;
 using live::offering;
 using namespace Qt::StringLiterals;

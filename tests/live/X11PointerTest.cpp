@@ -6,7 +6,6 @@ namespace ravelo::x11 {
 namespace {
 
 using live::Client;
-using live::eventually;
 using namespace Qt::StringLiterals;
 
 class X11PointerTest : public testing::Test {

@@ -1,45 +1,10 @@
-#include "support/ExpectedWarning.h"
-
-#include <QGuiApplication>
-#include <QLoggingCategory>
+#include "support/RunTests.h"
 
 #include <gtest/gtest.h>
 
-#include <atomic>
-#include <cstdio>
-
-namespace {
-
-/// A test that makes Qt warn has found something, whatever else it asserts.
-class WarningsFail : public testing::EmptyTestEventListener {
-public:
-    static void handle(QtMsgType type, const QMessageLogContext& /*context*/, const QString& text) {
-        std::fprintf(stderr, "%s\n", qPrintable(text));
-        const bool bad = type == QtWarningMsg || type == QtCriticalMsg;
-        if (bad && !ravelo::ExpectedWarning::takes(text)) {
-            ++warnings();
-        }
-    }
-
-    void OnTestStart(const testing::TestInfo& /*info*/) override { warnings() = 0; }
-
-    void OnTestEnd(const testing::TestInfo& /*info*/) override {
-        EXPECT_EQ(warnings(), 0) << "the test logged warnings, see above";
-    }
-
-private:
-    static std::atomic<int>& warnings() {
-        static std::atomic<int> count = 0;
-        return count;
-    }
-};
-
-} // namespace
+// Of the test programs that bring none of their own.
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
-    const QGuiApplication application(argc, argv);
-    qInstallMessageHandler(WarningsFail::handle);
-    testing::UnitTest::GetInstance()->listeners().Append(new WarningsFail); // gtest owns it.
-    return RUN_ALL_TESTS();
+    return ravelo::runTests(argc, argv);
 }

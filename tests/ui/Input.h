@@ -49,15 +49,4 @@ inline void press(QQuickWindow& window, int key, Qt::KeyboardModifiers modifiers
     }
 }
 
-/// Lets events come until `happened`; false if it takes too long.
-inline bool waitFor(const std::function<bool()>& happened) {
-    constexpr int patience = 20'000; // milliseconds
-    QElapsedTimer timer;
-    timer.start();
-    while (!happened() && timer.elapsed() < patience) {
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents, 20);
-    }
-    return happened();
-}
-
 } // namespace ravelo

@@ -8,6 +8,7 @@
 
 #include "Input.h"
 #include "fakes/PanelWorld.h"
+#include "support/Eventually.h"
 #include "ui/PanelView.h"
 
 #include <QCommandLineParser>

@@ -2,6 +2,7 @@
 
 #include "Input.h"
 #include "fakes/PanelWorld.h"
+#include "support/Eventually.h"
 #include "ui/PanelView.h"
 
 #include <gtest/gtest.h>
@@ -35,7 +36,7 @@ public:
         view.window().resize(200, 12);
         view.window().show();
         view.window().requestActivate();
-        EXPECT_TRUE(waitFor([this] { return view.window().isActive(); }));
+        EXPECT_TRUE(eventually([this] { return view.window().isActive(); }));
         world.scheduler.advance(untilBuilt);
     }
 
@@ -48,7 +49,7 @@ public:
         world.pointer.moveTo({720, 300});
         world.scheduler.advance(Seconds(0.02));
         const QQuickItem* all = view.window().contentItem();
-        ASSERT_TRUE(waitFor([&] { return all->size() == world.controller.frame().size(); }));
+        ASSERT_TRUE(eventually([&] { return all->size() == world.controller.frame().size(); }));
         // The rows of a list are laid out with the next frame.
         view.window().grabWindow();
     }
@@ -69,7 +70,7 @@ public:
 
     /// What takes a moment to appear is waited for.
     QQuickItem* item(const QString& name) {
-        if (!waitFor([&] { return shown(name) != nullptr; })) {
+        if (!eventually([&] { return shown(name) != nullptr; })) {
             ADD_FAILURE() << "not to be seen: " << qPrintable(name);
             return &nothing;
         }
@@ -150,7 +151,7 @@ TEST_F(Panel, staysAtTheNewestWhileMoreIsCopied) {
     for (int i = 0; i < 20; ++i) {
         world.store.addClip(u"while it was open %1"_s.arg(i));
     }
-    EXPECT_TRUE(waitFor([this] {
+    EXPECT_TRUE(eventually([this] {
         view.window().grabWindow();
         return item(u"card0"_s)->mapToScene({0, 0}) == QPointF(34, 280);
     }));
@@ -216,7 +217,7 @@ TEST_P(Clearing, asksFirst) {
     item(u"question"_s);
     GetParam().answer(view.window(), item(u"yes"_s), item(u"no"_s));
     EXPECT_EQ(world.store.clips().size(), GetParam().left);
-    EXPECT_TRUE(waitFor([this] { return shown(u"question"_s) == nullptr; }));
+    EXPECT_TRUE(eventually([this] { return shown(u"question"_s) == nullptr; }));
     EXPECT_TRUE(world.controller.isOpen());
 }
 
@@ -447,7 +448,7 @@ protected:
 
 TEST_F(PanelWithImages, showsAnImageOnceItIsDecodedAndASymbolWhereItCannotBe) {
     open();
-    EXPECT_TRUE(waitFor([this] { return pixelOfTile(u"card0"_s) == QColor(Qt::green).rgb(); }));
+    EXPECT_TRUE(eventually([this] { return pixelOfTile(u"card0"_s) == QColor(Qt::green).rgb(); }));
     EXPECT_FALSE(find(item(u"card0"_s), u"symbol"_s)->isVisible());
     EXPECT_TRUE(find(item(u"card1"_s), u"symbol"_s)->isVisible());
     clickOn(u"card0"_s);

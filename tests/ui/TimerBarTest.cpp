@@ -4,6 +4,7 @@
 #include "fakes/PanelWorld.h"
 #include "support/Told.h"
 #include "timer/TimerString.h"
+#include "support/Eventually.h"
 #include "ui/FittedTexts.h"
 #include "ui/PanelView.h"
 #include "ui/TimerFace.h"
@@ -128,7 +129,7 @@ protected:
         world_.controller.positionCollapsed();
         view_.window().resize(world_.controller.frame().size().toSize());
         const QQuickItem* all = view_.window().contentItem();
-        ASSERT_TRUE(waitFor([&] { return all->size() == world_.controller.frame().size(); }));
+        ASSERT_TRUE(eventually([&] { return all->size() == world_.controller.frame().size(); }));
         view_.window().grabWindow();
     }
 

@@ -13,21 +13,6 @@
 
 namespace ravelo::live {
 
-bool eventually(const std::function<bool()>& condition) {
-    QTimer timeOut;
-    timeOut.setSingleShot(true);
-    timeOut.start(20000);
-    QTimer wake; // The condition may come true on the server, without an event for us.
-    wake.start(2);
-    while (!condition()) {
-        if (!timeOut.isActive()) {
-            return false;
-        }
-        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
-    }
-    return true;
-}
-
 Client::Client(const QString& program, const QStringList& arguments, const QByteArray& input) {
     process_.setChildProcessModifier([] { prctl(PR_SET_PDEATHSIG, SIGTERM); });
     process_.setProcessChannelMode(QProcess::ForwardedErrorChannel);

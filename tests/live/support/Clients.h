@@ -1,5 +1,7 @@
 #pragma once
 
+#include "support/Eventually.h"
+
 #include <QByteArray>
 #include <QElapsedTimer>
 #include <QProcess>
@@ -9,9 +11,6 @@
 #include <memory>
 
 namespace ravelo::live {
-
-/// Runs the event loop until `condition` holds; false after twenty seconds.
-[[nodiscard]] bool eventually(const std::function<bool()>& condition);
 
 /// Another X client; ends with this object, or with the program at the latest.
 class Client {

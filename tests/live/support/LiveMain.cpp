@@ -1,5 +1,5 @@
-#include "live/support/RunTests.h"
 #include "live/support/Xvfb.h"
+#include "support/RunTests.h"
 
 #include <QByteArray>
 
@@ -20,5 +20,6 @@ int main(int argc, char** argv) {
         return 1;
     }
     qputenv("DISPLAY", server.display().c_str());
-    return ravelo::live::runTests(argc, argv);
+    qputenv("QT_QPA_PLATFORM", "xcb");
+    return ravelo::runTests(argc, argv);
 }

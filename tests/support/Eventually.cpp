@@ -1,0 +1,23 @@
+#include "support/Eventually.h"
+
+#include <QCoreApplication>
+#include <QTimer>
+
+namespace ravelo {
+
+bool eventually(const std::function<bool()>& condition) {
+    QTimer timeOut;
+    timeOut.setSingleShot(true);
+    timeOut.start(20000);
+    QTimer wake; // The condition may come true elsewhere, without an event for us.
+    wake.start(2);
+    while (!condition()) {
+        if (!timeOut.isActive()) {
+            return false;
+        }
+        QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    }
+    return true;
+}
+
+} // namespace ravelo
