@@ -213,11 +213,14 @@ class Desktop(contextlib.AbstractContextManager):
         def answers():
             return told.read_text().count("_NET_SUPPORTING_WM_CHECK(WINDOW): window id")
 
+        def listens():  # One mark may be among what was there; of the second it has heard.
+            self.run("xsetroot", "-name", "mark")
+            return told.read_text().count('"mark"') > 1
+
         told = self.home / "tmp" / "root-properties"
         with told.open("w") as file:
             spy = self.spawn("xprop", "-root", "-spy", stdout=file, stderr=subprocess.DEVNULL)
-        self.run("xsetroot", "-name", "mark")  # Once this is told all that was before is.
-        wait_for(lambda: "mark" in told.read_text(), "what the root window says")
+        wait_for(listens, "xprop to tell of changes of the root window")
         before = answers()
         self.spawn(*command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         wait_for(lambda: answers() > before, "a window manager")
