@@ -276,15 +276,126 @@ TEST_F(Panel, aSearchWithoutAMatchShowsTheEmptyState) {
     EXPECT_EQ(text(u"emptySubtitle"_s), u"Copy anything with ⌘C and it shows up here."_s);
 }
 
-TEST_F(Panel, goesByTheArrowsAndCopiesByReturn) {
-    open();
-    clickOn(u"searchInput"_s);
-    press(view.window(), Qt::Key_Down);
-    press(view.window(), Qt::Key_Down);
-    press(view.window(), Qt::Key_Down);
-    press(view.window(), Qt::Key_Up);
-    press(view.window(), Qt::Key_Return);
-    EXPECT_EQ(pasteboardText(), u"second"_s);
+struct Key {
+    int key;
+    Qt::KeyboardModifiers modifiers = Qt::NoModifier;
+    QString text = {};
+};
+
+struct KeysCase {
+    const char* name;
+    QList<Key> keys;
+    QStringList clips; ///< What is left, in order.
+    QString pasteboard;
+    bool open;
+};
+
+class Keys : public Panel, public testing::WithParamInterface<KeysCase> {
+protected:
+    Keys() : Panel(twelveClips()) {}
+
+    static StoreData twelveClips() {
+        StoreData data;
+        for (int i = 0; i < 12; ++i) {
+            data.clips.append(clip(QString::number(i), Seconds(60 * (i + 1))));
+        }
+        return data;
+    }
+};
+
+TEST_P(Keys, workOnTheListInAPanelThatAKeyHasOpened) {
+    world.controller.toggle();
+    view.window().resize(world.controller.frame().size().toSize());
+    view.window().grabWindow();
+    EXPECT_TRUE(world.window.focused);
+    for (const Key& key : GetParam().keys) {
+        press(view.window(), key.key, key.modifiers, key.text);
+    }
+    QStringList left;
+    for (const ClipItem& one : world.store.clips()) {
+        left.append(one.text + (one.pinned ? u"*"_s : QString()));
+    }
+    EXPECT_EQ(left.join(u' '), GetParam().clips.join(u' '));
+    EXPECT_EQ(pasteboardText(), GetParam().pasteboard);
+    EXPECT_EQ(world.controller.isOpen(), GetParam().open);
+    EXPECT_EQ(world.window.focused, GetParam().open) << "the keyboard goes with the panel";
+}
+
+QStringList allBut(const QString& deleted) {
+    QStringList all;
+    for (int i = 0; i < 12; ++i) {
+        all.append(QString::number(i));
+    }
+    all.removeOne(deleted);
+    return all;
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Keys,
+    testing::Values(
+        KeysCase{"returnCopiesTheFirst", {{Qt::Key_Return}}, allBut({}), u"0"_s, false},
+        KeysCase{"arrowsMove",
+                 {{Qt::Key_Up}, {Qt::Key_Down}, {Qt::Key_Down}, {Qt::Key_Up}, {Qt::Key_Return}},
+                 allBut({}),
+                 u"1"_s,
+                 false},
+        KeysCase{"pagesMove",
+                 {{Qt::Key_PageDown}, {Qt::Key_PageDown}, {Qt::Key_PageDown}, {Qt::Key_Enter}},
+                 allBut({}),
+                 u"11"_s,
+                 false},
+        KeysCase{"pagesMoveBack",
+                 {{Qt::Key_PageDown}, {Qt::Key_PageUp}, {Qt::Key_Return}},
+                 allBut({}),
+                 u"0"_s,
+                 false},
+        KeysCase{
+            "controlDigitsCopy", {{Qt::Key_9, Qt::ControlModifier}}, allBut({}), u"8"_s, false},
+        KeysCase{"deleteDeletes", {{Qt::Key_Down}, {Qt::Key_Delete}}, allBut(u"1"_s), {}, true},
+        KeysCase{"deleteEditsASearch",
+                 {{Qt::Key_1, {}, u"1"_s}, {Qt::Key_Home}, {Qt::Key_Delete}},
+                 allBut({}),
+                 {},
+                 true},
+        KeysCase{"aSearchStartsAtItsFirst",
+                 {{Qt::Key_Down}, {Qt::Key_Down}, {Qt::Key_1, {}, u"1"_s}, {Qt::Key_Return}},
+                 allBut({}),
+                 u"1"_s,
+                 false},
+        KeysCase{"controlPPins",
+                 {{Qt::Key_Down}, {Qt::Key_P, Qt::ControlModifier}},
+                 {u"1*"_s, u"11"_s, u"10"_s, u"9"_s, u"8"_s, u"7"_s, u"6"_s, u"5"_s, u"4"_s, u"3"_s,
+                  u"2"_s, u"0"_s}, // As the history sorts itself at a pin.
+                 {},
+                 true},
+        KeysCase{"controlReturnOpensNoText",
+                 {{Qt::Key_Return, Qt::ControlModifier}},
+                 allBut({}),
+                 {},
+                 true},
+        KeysCase{"controlFSearchesFromAnotherTab",
+                 {{Qt::Key_Tab, Qt::ControlModifier},
+                  {Qt::Key_F, Qt::ControlModifier},
+                  {Qt::Key_7, {}, u"7"_s},
+                  {Qt::Key_Return}},
+                 allBut({}),
+                 u"7"_s,
+                 false},
+        KeysCase{"escapeClearsThenCloses",
+                 {{Qt::Key_5, {}, u"5"_s}, {Qt::Key_Escape}, {Qt::Key_Escape}},
+                 allBut({}),
+                 {},
+                 false}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(Panel, controlTabGoesThroughTheTabs) {
+    world.controller.toggle();
+    press(view.window(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(world.settings.lastTab(), u"Notes"_s);
+    type(u"!"_s);
+    EXPECT_TRUE(world.store.note().contains(u'!')) << "the note has the keyboard";
+    press(view.window(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(world.settings.lastTab(), u"Clipboard"_s);
 }
 
 TEST_F(Panel, keepsTheNoteWithEveryKey) {
