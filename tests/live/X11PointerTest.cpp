@@ -81,7 +81,12 @@ INSTANTIATE_TEST_SUITE_P(
         ActionCase{"WheelDown", {u"click"_s, u"5"_s}, {}, false},
         ActionCase{"SideButton", {u"click"_s, u"8"_s}, {}, false},
         ActionCase{"Motion", {u"mousemove_relative"_s, u"5"_s, u"5"_s}, {u"wake"_s}, false},
-        ActionCase{"MovedByAProgram", {u"mousemove"_s, u"30"_s, u"40"_s}, {u"wake"_s}, false}),
+        // The second is told even where the first comes right after the pointer's last motion.
+        ActionCase{"MovedByAProgram",
+                   {u"mousemove"_s, u"30"_s, u"40"_s, u"sleep"_s, u"0.1"_s, u"mousemove"_s, u"31"_s,
+                    u"40"_s},
+                   {u"wake"_s},
+                   false}),
     [](const auto& tested) { return tested.param.name; });
 
 TEST_F(X11PointerTest, wakesForAMoveThatCameBetweenTheLastLookAndTheQuestion) {

@@ -10,8 +10,9 @@ namespace {
 /// The counter of the core pointer, which is device 2 on every server.
 constexpr std::string_view counterName = "DEVICEIDLETIME 2";
 
-/// Milliseconds of stillness after which a motion counts; less than a tick's interval.
-constexpr uint32_t stillness = 15;
+/// Milliseconds of stillness after which a motion counts: less than the three ticks before a rest,
+/// and long enough for a server that is kept waiting to see that its pointer moved.
+constexpr uint32_t stillness = 45;
 
 xcb_sync_counter_t findCounter(Connection& connection) {
     const auto cookie = xcb_sync_list_system_counters(connection.get());
