@@ -4,8 +4,12 @@
 #include "platform/Pasteboard.h"
 
 #include <QObject>
+#include <QUuid>
 
 #include <map>
+#include <optional>
+
+class QUrl;
 
 namespace ravelo {
 
@@ -13,7 +17,8 @@ class Scheduler;
 class Store;
 
 /// Turns changes of the general pasteboard into clips, and puts clips back on it. Contents that
-/// their owner marks as secret are left alone, and so is what the program wrote itself.
+/// their owner marks as secret are left alone, and so is what the program wrote itself. Where a
+/// program ends and the contents with it, the clip that was made of them takes their place.
 /// Main thread only.
 class ClipboardManager {
 public:
@@ -28,16 +33,30 @@ public:
     /// Puts a stored image on the pasteboard; does nothing where the file cannot be loaded.
     void copyImage(const QString& path);
 
+    /// Puts a file on the pasteboard, for file managers to paste a copy of it; does nothing where
+    /// the address is not of a file.
+    void copyFile(const QUrl& url);
+
 private:
+    /// Contents of the pasteboard and the clip that stands for them.
+    struct Capture {
+        qint64 changeCount;
+        QUuid clip;
+    };
+
     void poll();
-    void capture(const PasteboardSnapshot& snapshot);
+    void capture(qint64 count, const PasteboardSnapshot& snapshot);
+    void offerAgain();
+    [[nodiscard]] QList<PasteboardEntry> formsOf(const QUuid& clip) const;
     void write(const QList<PasteboardEntry>& forms);
+    void suppressOwnChange();
 
     Store& store_;
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
     qint64 lastChangeCount_;
-    qint64 suppressUntilCount_ = -1; ///< The change that we made ourselves.
+    qint64 suppressUntilCount_ = -1;  ///< The change that we made ourselves.
+    std::optional<Capture> captured_; ///< The newest.
     Handle timer_;
     Handle notice_;
     QObject context_;

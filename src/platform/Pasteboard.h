@@ -59,6 +59,15 @@ public:
 
     /// Replaces the contents by one object in these forms, best first.
     virtual void write(const QList<PasteboardEntry>& forms) = 0;
+
+    /// The change count of contents that went with their owner's end, where nothing happened since.
+    /// Nothing while there are contents, after somebody took them away on purpose, and where the
+    /// display server does not tell the one from the other.
+    [[nodiscard]] virtual std::optional<qint64> orphaned() const = 0;
+
+    /// Writes in the place of orphaned contents. False, with all left as it is, where there are
+    /// none or somebody has taken the pasteboard since.
+    [[nodiscard]] virtual bool adopt(const QList<PasteboardEntry>& forms) = 0;
 };
 
 } // namespace ravelo

@@ -133,9 +133,10 @@ void Store::addLinkSnippetsIfNeeded() {
     }
 }
 
-void Store::addClip(const QString& text) {
-    auto add = [this, text, now = services_.scheduler.now()] {
+void Store::addClip(const QString& text, Kept kept) {
+    auto add = [this, text, kept = std::move(kept), now = services_.scheduler.now()] {
         apply(ClipHistory::added(data_.clips, text, now));
+        tellKept(text, kept);
     };
     if (capturesOnTheirWay_ == 0) {
         add();
@@ -144,19 +145,31 @@ void Store::addClip(const QString& text) {
     }
 }
 
-void Store::addImageClip(const PasteboardSnapshot& contents) {
+void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept) {
     const QString name = newImageFileName();
     const auto written = std::make_shared<bool>(false);
     auto job = [path = imagePath(name), contents, written] {
         const QByteArray png = pngImage(contents);
         *written = !png.isEmpty() && writeFileAtomically(path, png);
     };
-    auto add = [this, name, written, now = services_.scheduler.now()] {
+    auto add = [this, name, written, kept = std::move(kept), now = services_.scheduler.now()] {
         if (*written) {
             apply(ClipHistory::imageAdded(data_.clips, name, now));
+            if (kept) {
+                kept(data_.clips.front().id);
+            }
         }
     };
     capture(std::move(job), std::move(add), [this, name] { removeImages({name}); });
+}
+
+/// The newest unpinned clip is the one, unless it is an image, which has a text too.
+void Store::tellKept(const QString& text, const Kept& kept) const {
+    const auto newest = std::ranges::find(data_.clips, false, &ClipItem::pinned);
+    if (kept && newest != data_.clips.cend() && newest->text == text &&
+        newest->kind != ClipKind::image) {
+        kept(newest->id);
+    }
 }
 
 /// Runs `job` on the worker and then `add`, or `discard` where the history was cleared meanwhile.

@@ -64,14 +64,17 @@ public:
     [[nodiscard]] QString note() const;
     void setNote(const QString& note);
 
+    /// Told which clip stands for what was copied, new or kept from before; never where none does.
+    using Kept = std::function<void(const QUuid&)>;
+
     /// Adds a text, as `ClipHistory::added` has it. Waits behind images that are still being
     /// written, so that the order of the clips is the order of copying.
-    void addClip(const QString& text);
+    void addClip(const QString& text, Kept kept = {});
 
     /// Writes the image in what a pasteboard read with `nextImageType` gave (PNG bytes as they are,
     /// all else converted) to the clips folder and, once it is there, adds its clip. Nothing is
     /// added where there is no image or it cannot be written.
-    void addImageClip(const PasteboardSnapshot& contents);
+    void addImageClip(const PasteboardSnapshot& contents, Kept kept = {});
 
     Q_INVOKABLE void togglePin(const QUuid& id);
     Q_INVOKABLE void deleteClip(const QUuid& id);
@@ -152,6 +155,7 @@ private:
     void capture(std::function<void()> job, std::function<void()> add,
                  std::function<void()> discard);
     void apply(std::optional<ClipChange> change);
+    void tellKept(const QString& text, const Kept& kept) const; ///< For a text.
     void setShelf(Shelf shelf);
     void removeImages(const QStringList& imageFileNames);
     void write();

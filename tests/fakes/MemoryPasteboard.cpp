@@ -45,9 +45,7 @@ void MemoryPasteboard::write(const QList<PasteboardEntry>& forms) {
 
 void MemoryPasteboard::offer(const QList<PasteboardEntry>& forms) {
     replace(forms);
-    if (tellsChanges) {
-        listeners_.notify();
-    }
+    tell();
 }
 
 void MemoryPasteboard::offerText(const QString& text) {
@@ -57,6 +55,32 @@ void MemoryPasteboard::offerText(const QString& text) {
 void MemoryPasteboard::offerSilence() {
     replace({});
     silent_ = true;
+    tell();
+}
+
+void MemoryPasteboard::release() {
+    replace({});
+    tell();
+}
+
+void MemoryPasteboard::loseOwner() {
+    const qint64 lost = changeCount_;
+    replace({});
+    if (knowsDeaths) {
+        orphaned_ = lost;
+    }
+    tell();
+}
+
+bool MemoryPasteboard::adopt(const QList<PasteboardEntry>& forms) {
+    if (!orphaned_) {
+        return false;
+    }
+    replace(forms);
+    return true;
+}
+
+void MemoryPasteboard::tell() {
     if (tellsChanges) {
         listeners_.notify();
     }
@@ -65,6 +89,7 @@ void MemoryPasteboard::offerSilence() {
 void MemoryPasteboard::replace(const QList<PasteboardEntry>& forms) {
     forms_ = forms;
     silent_ = false;
+    orphaned_.reset();
     ++changeCount_;
 }
 

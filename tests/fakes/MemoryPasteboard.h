@@ -19,12 +19,25 @@ public:
                               std::function<void(PasteboardSnapshot)> done) override;
     void write(const QList<PasteboardEntry>& forms) override;
 
+    [[nodiscard]] std::optional<qint64> orphaned() const override { return orphaned_; }
+
+    [[nodiscard]] bool adopt(const QList<PasteboardEntry>& forms) override;
+
     /// Another program takes the pasteboard.
     void offer(const QList<PasteboardEntry>& forms);
     void offerText(const QString& text);
 
     /// Another program takes the pasteboard and never answers.
     void offerSilence();
+
+    /// The owner gives the contents up.
+    void release();
+
+    /// The owner ends, and the contents go with it.
+    void loseOwner();
+
+    /// Whether an owner's end is told from its giving the contents up.
+    bool knowsDeaths = true;
 
     /// Whether changes from elsewhere are told at once, or only seen by asking.
     bool tellsChanges = true;
@@ -41,6 +54,7 @@ public:
 
 private:
     void replace(const QList<PasteboardEntry>& forms);
+    void tell();
     [[nodiscard]] PasteboardSnapshot follow(const PasteboardPlan& plan);
 
     Scheduler& scheduler_;
@@ -48,6 +62,7 @@ private:
     QList<PasteboardEntry> forms_;
     QStringList asked_;
     qint64 changeCount_ = 7;
+    std::optional<qint64> orphaned_;
     bool silent_ = false;
 };
 

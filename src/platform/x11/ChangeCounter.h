@@ -20,30 +20,57 @@ public:
     /// Any thread.
     [[nodiscard]] qint64 value() const { return value_; }
 
-    /// Someone else took or left the selection. False where a write of ours came later.
+    /// Someone else took the selection or gave it up. False where a write of ours came later.
     bool countForeign(uint32_t sequence) {
         const std::scoped_lock lock(mutex_);
-        if (ownWrite_ && static_cast<int32_t>(sequence - *ownWrite_) < 0) {
+        if (isBeforeOwn(sequence)) {
             return false;
         }
+        orphaned_.reset();
         ++value_;
         return true;
+    }
+
+    /// The owner's window or client is gone, and the contents with it. False as above.
+    bool countDeath(uint32_t sequence) {
+        const std::scoped_lock lock(mutex_);
+        if (isBeforeOwn(sequence)) {
+            return false;
+        }
+        orphaned_ = value_++;
+        return true;
+    }
+
+    /// The value for the contents that went by a death, where that was the last change. Any thread.
+    [[nodiscard]] std::optional<qint64> orphaned() const {
+        const std::scoped_lock lock(mutex_);
+        return orphaned_;
     }
 
     /// A write of ours took effect before the listener's request `sequence`.
     void countOwn(uint32_t sequence) {
         const std::scoped_lock lock(mutex_);
         ownWrite_ = sequence;
+        orphaned_.reset();
         ++value_;
     }
 
     /// Something changed for sure.
-    void count() { ++value_; }
+    void count() {
+        const std::scoped_lock lock(mutex_);
+        orphaned_.reset();
+        ++value_;
+    }
 
 private:
-    std::mutex mutex_;
+    [[nodiscard]] bool isBeforeOwn(uint32_t sequence) const {
+        return ownWrite_ && static_cast<int32_t>(sequence - *ownWrite_) < 0;
+    }
+
+    mutable std::mutex mutex_;
     std::atomic<qint64> value_ = 0;
     std::optional<uint32_t> ownWrite_;
+    std::optional<qint64> orphaned_;
 };
 
 } // namespace ravelo::x11

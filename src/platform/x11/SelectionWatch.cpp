@@ -22,7 +22,10 @@ void SelectionWatch::handle(const xcb_generic_event_t& event) {
         const auto& notice = reinterpret_cast<const xcb_xfixes_selection_notify_event_t&>(event);
         if (notice.selection == selection_) {
             reader_.ownerChanged(notice.selection_timestamp);
-            changed_({notice.owner, event.full_sequence});
+            const auto cause = notice.subtype == XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER
+                                   ? OwnerChange::Cause::request
+                                   : OwnerChange::Cause::death;
+            changed_({cause, notice.owner, event.full_sequence});
         }
         return;
     }

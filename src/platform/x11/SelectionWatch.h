@@ -9,6 +9,9 @@ namespace ravelo::x11 {
 
 /// A selection has a new owner, or none any more (XFixes SelectionNotify).
 struct OwnerChange {
+    enum class Cause { request, death };
+
+    Cause cause = Cause::request; ///< A client asked for it, or the owner is gone.
     xcb_window_t owner = XCB_NONE;
     uint32_t sequence = 0; ///< The last request of the listener's that the server did before.
 };

@@ -22,7 +22,11 @@ X11Pasteboard::X11Pasteboard(Listener& listener)
     QGuiApplication::clipboard()->blockSignals(true);
     auto changed = [counter = counter_, changes = changes_,
                     own = ownClient_](const OwnerChange& change) {
-        if (!own.owns(change.owner) && counter->countForeign(change.sequence)) {
+        if (own.owns(change.owner)) {
+            return;
+        }
+        if (change.cause == OwnerChange::Cause::death ? counter->countDeath(change.sequence)
+                                                      : counter->countForeign(change.sequence)) {
             changes->notify();
         }
     };
@@ -69,6 +73,24 @@ void X11Pasteboard::write(const QList<PasteboardEntry>& forms) {
     }
     QGuiApplication::clipboard()->setMimeData(contents.release()); // Qt waits for the server.
     markWrite();
+}
+
+bool X11Pasteboard::adopt(const QList<PasteboardEntry>& forms) {
+    // The listener may not have heard yet of a program that is quicker than we are.
+    if (!orphaned() || owner() != XCB_NONE) {
+        return false;
+    }
+    write(forms);
+    return true;
+}
+
+/// The present owner; XCB_NONE where there is none, nothing where the server is gone.
+std::optional<xcb_window_t> X11Pasteboard::owner() {
+    xcb_connection_t* xcb = listener_.connection().get();
+    const Owned<xcb_get_selection_owner_reply_t> reply(
+        xcb_get_selection_owner_reply(xcb, xcb_get_selection_owner(xcb, selection_), nullptr));
+    listener_.post({}); // The reply may have brought notices along.
+    return reply ? std::optional(reply->owner) : std::nullopt;
 }
 
 /// Counts the write, and what came after it already.

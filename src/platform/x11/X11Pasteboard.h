@@ -35,9 +35,14 @@ public:
     /// change.
     void write(const QList<PasteboardEntry>& forms) override;
 
+    [[nodiscard]] std::optional<qint64> orphaned() const override { return counter_->orphaned(); }
+
+    [[nodiscard]] bool adopt(const QList<PasteboardEntry>& forms) override;
+
 private:
     using Reads = std::map<SelectionReader::Key, std::function<void(PasteboardSnapshot)>>;
 
+    [[nodiscard]] std::optional<xcb_window_t> owner();
     void markWrite();
 
     Listener& listener_;
