@@ -47,19 +47,19 @@ public:
         return orphaned_;
     }
 
-    /// A write of ours took effect before the listener's request `sequence`.
-    void countOwn(uint32_t sequence) {
-        const std::scoped_lock lock(mutex_);
-        ownWrite_ = sequence;
-        orphaned_.reset();
-        ++value_;
-    }
-
-    /// Something changed for sure.
+    /// Something changed for sure, or is about to: a write of ours is counted before it is done, so
+    /// that nobody who still expects the contents before it is given those after it.
     void count() {
         const std::scoped_lock lock(mutex_);
         orphaned_.reset();
         ++value_;
+    }
+
+    /// The write that was counted took effect before the listener's request `sequence`.
+    void settleOwn(uint32_t sequence) {
+        const std::scoped_lock lock(mutex_);
+        ownWrite_ = sequence;
+        orphaned_.reset(); // It may have been told meanwhile, of contents before ours.
     }
 
 private:

@@ -71,8 +71,9 @@ void X11Pasteboard::write(const QList<PasteboardEntry>& forms) {
     for (const PasteboardEntry& form : forms) {
         contents->setData(form.type, form.bytes);
     }
+    counter_->count();
     QGuiApplication::clipboard()->setMimeData(contents.release()); // Qt waits for the server.
-    markWrite();
+    settleWrite();
 }
 
 bool X11Pasteboard::adopt(const QList<PasteboardEntry>& forms) {
@@ -93,11 +94,11 @@ std::optional<xcb_window_t> X11Pasteboard::owner() {
     return reply ? std::optional(reply->owner) : std::nullopt;
 }
 
-/// Counts the write, and what came after it already.
-void X11Pasteboard::markWrite() {
+/// Notices from before the write count no more, but what came after it already does.
+void X11Pasteboard::settleWrite() {
     xcb_connection_t* xcb = listener_.connection().get();
     const auto cookie = xcb_get_selection_owner(xcb, selection_);
-    counter_->countOwn(cookie.sequence);
+    counter_->settleOwn(cookie.sequence);
     const Owned<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(xcb, cookie, nullptr));
     listener_.post({}); // The reply may have brought notices along.

@@ -43,7 +43,7 @@ private:
     using Reads = std::map<SelectionReader::Key, std::function<void(PasteboardSnapshot)>>;
 
     [[nodiscard]] std::optional<xcb_window_t> owner();
-    void markWrite();
+    void settleWrite();
 
     Listener& listener_;
     OwnClient ownClient_;
