@@ -1,5 +1,6 @@
 #include "clipboard/ClipboardManager.h"
 
+#include "clipboard/FileForms.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -10,6 +11,7 @@
 #include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
+#include <QUrl>
 
 #include <gtest/gtest.h>
 
@@ -33,8 +35,16 @@ PasteboardEntry text(const char* utf8) {
     return {plainTextType, utf8};
 }
 
+QHash<QString, QByteArray> byType(const QList<PasteboardEntry>& forms) {
+    QHash<QString, QByteArray> hash;
+    for (const PasteboardEntry& form : forms) {
+        hash.insert(form.type, form.bytes);
+    }
+    return hash;
+}
+
 class Clipboard : public testing::Test {
-protected:
+public:
     Clipboard() {
         pasteboard.offerText(u"there before the start"_s);
         manager.emplace(store, pasteboard, scheduler);
@@ -56,7 +66,7 @@ protected:
 
     QTemporaryDir folder;
     ManualScheduler scheduler;
-    ManualWorker worker;
+    ManualWorker worker{ManualWorker::Mode::whenTold};
     MemoryPreferences preferences;
     MemoryPasteboard pasteboard{scheduler};
     Store store{folder.path(), {scheduler, worker, preferences, pasteboard}};
@@ -155,27 +165,175 @@ TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
     settle();
     EXPECT_EQ(pasteboard.bytes("image/png"_L1), picture("png"));
 
+    manager->copyFile(QUrl::fromLocalFile(path));
+    settle();
+    EXPECT_TRUE(pasteboard.bytes("text/uri-list"_L1).endsWith("/a.png\r\n"));
+
     const qint64 before = pasteboard.changeCount();
     manager->copyImage(folder.filePath(u"missing.png"_s));
     manager->copyImage(folder.filePath(u"store.json"_s));
-    EXPECT_EQ(pasteboard.changeCount(), before) << "what is no image leaves the pasteboard alone";
+    manager->copyFile(QUrl(u"https://example.org/a.png"_s));
+    manager->copyFile(QUrl());
+    EXPECT_EQ(pasteboard.changeCount(), before) << "what is none leaves the pasteboard alone";
     EXPECT_EQ(texts(), QStringList());
 }
 
+struct FileCase {
+    const char* name;
+    QUrl url;
+    QByteArray address;
+    QByteArray path; ///< As text; null where it cannot be one.
+};
+
+class FileTable : public testing::TestWithParam<FileCase> {};
+
+TEST_P(FileTable, isWhatFileManagersPaste) {
+    const auto forms = byType(fileForms(GetParam().url));
+    EXPECT_EQ(forms.value(u"text/uri-list"_s), GetParam().address + "\r\n");
+    EXPECT_EQ(forms.value(u"x-special/gnome-copied-files"_s), "copy\n" + GetParam().address);
+    EXPECT_EQ(forms.value(plainTextType), GetParam().path);
+    EXPECT_EQ(forms.contains(plainTextType), !GetParam().path.isNull());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Names, FileTable,
+    testing::Values(
+        FileCase{"plain", QUrl::fromLocalFile(u"/tmp/a-b_c.~1"_s), "file:///tmp/a-b_c.~1",
+                 "/tmp/a-b_c.~1"},
+        FileCase{"reserved", QUrl::fromLocalFile(u"/tmp/a b%20[c]#?\"&;"_s),
+                 "file:///tmp/a%20b%2520%5Bc%5D%23%3F%22%26%3B", "/tmp/a b%20[c]#?\"&;"},
+        FileCase{"lineBreak", QUrl::fromLocalFile(u"/tmp/a\r\nb"_s), "file:///tmp/a%0D%0Ab",
+                 "/tmp/a\r\nb"},
+        FileCase{"umlaut", QUrl::fromLocalFile(u"/tmp/\u00fc"_s), "file:///tmp/%C3%BC",
+                 "/tmp/\xc3\xbc"},
+        FileCase{"noUtf8", QUrl::fromEncoded("file:///tmp/%fc%20"), "file:///tmp/%FC%20", {}},
+        FileCase{"ofAHost", QUrl::fromEncoded("file://there/tmp/a"), "file://there/tmp/a",
+                 "/tmp/a"}),
+    [](const auto& row) { return row.param.name; });
+
+struct LossCase {
+    const char* name;
+    QList<PasteboardEntry> offered;            ///< Captured, after "before".
+    std::function<void(Clipboard&)> happens;   ///< Then.
+    QList<PasteboardEntry> expected = offered; ///< On the pasteboard at the end.
+    qsizetype clips = 2;
+};
+
+class LossTable : public Clipboard, public testing::WithParamInterface<LossCase> {};
+
+TEST_P(LossTable, offersAgainOnlyWhatWentWithItsOwner) {
+    pasteboard.offerText(u"before"_s);
+    settle();
+    pasteboard.offer(GetParam().offered);
+    settle();
+    GetParam().happens(*this);
+    settle();
+    EXPECT_EQ(byType(pasteboard.contents()), byType(GetParam().expected));
+    EXPECT_EQ(store.clips().size(), GetParam().clips);
+}
+
+void lose(Clipboard& on) {
+    on.pasteboard.loseOwner();
+}
+
+const QList<PasteboardEntry> abc = {text("abc")};
+const QList<PasteboardEntry> png = {{u"image/png"_s, picture("png")}};
+
+/// Offered after "abc" was captured, and then lost.
+std::function<void(Clipboard&)> losing(const QList<PasteboardEntry>& offered) {
+    return [offered](Clipboard& on) {
+        on.pasteboard.offer(offered);
+        on.settle();
+        lose(on);
+    };
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Ends, LossTable,
+    testing::Values(LossCase{"text", abc, lose}, LossCase{"link", {text("https://a.org/")}, lose},
+                    LossCase{"image", png, lose},
+                    LossCase{"asCaptured", {text(" abc\n")}, lose, abc},
+                    LossCase{"sameTextOfAnother", abc, losing(abc), abc},
+                    LossCase{"pinned", abc,
+                             [](Clipboard& on) {
+                                 on.store.togglePin(on.store.clips().at(0).id);
+                                 lose(on);
+                             }},
+                    LossCase{"whereNobodyTells", abc,
+                             [](Clipboard& on) {
+                                 on.pasteboard.tellsChanges = false;
+                                 lose(on);
+                             }},
+                    LossCase{"whileTheImageIsWritten", abc,
+                             [](Clipboard& on) {
+                                 on.pasteboard.offer(png);
+                                 on.scheduler.advance(Seconds(0.1));
+                                 lose(on);
+                             },
+                             png, 3},
+                    LossCase{"beforeItWasRead",
+                             abc,
+                             [](Clipboard& on) {
+                                 on.pasteboard.offerText(u"too quick"_s);
+                                 lose(on);
+                             },
+                             {}},
+                    LossCase{"neverRead",
+                             abc,
+                             [](Clipboard& on) {
+                                 on.pasteboard.offerSilence();
+                                 on.settle();
+                                 lose(on);
+                             },
+                             {}},
+                    LossCase{"blank", abc, losing({text(" ")}), {}},
+                    LossCase{"concealed", abc, losing({text("pass"), secret}), {}},
+                    LossCase{"clearedByAManager", abc, losing({text(""), secret}), {}},
+                    LossCase{"namedAsTheImageIs", png, losing({text("Image")}), {}},
+                    LossCase{"givenUp", abc, [](Clipboard& on) { on.pasteboard.release(); }, {}},
+                    LossCase{"perhapsGivenUp",
+                             abc,
+                             [](Clipboard& on) {
+                                 on.pasteboard.knowsDeaths = false;
+                                 lose(on);
+                             },
+                             {}},
+                    LossCase{"takenOver",
+                             abc,
+                             [](Clipboard& on) {
+                                 on.pasteboard.tellsChanges = false;
+                                 lose(on);
+                                 on.pasteboard.offer({text("kept by the desktop")});
+                             },
+                             {text("kept by the desktop")},
+                             3},
+                    LossCase{"deleted",
+                             abc,
+                             [](Clipboard& on) {
+                                 on.store.deleteClip(on.store.clips().at(0).id);
+                                 lose(on);
+                             },
+                             {},
+                             1},
+                    LossCase{"clearedThoughPinned",
+                             abc,
+                             [](Clipboard& on) {
+                                 on.store.togglePin(on.store.clips().at(0).id);
+                                 on.store.clearClips();
+                                 lose(on);
+                             },
+                             {},
+                             1}),
+    [](const auto& row) { return row.param.name; });
+
 TEST_F(Clipboard, theOrderOfCopyingIsKeptThoughImagesTakeLonger) {
-    ManualWorker slow(ManualWorker::Mode::whenTold);
-    QTemporaryDir other;
-    Store slowStore(other.path(), {scheduler, slow, preferences, pasteboard});
-    ClipboardManager watcher(slowStore, pasteboard, scheduler);
-    watcher.start();
     pasteboard.offer({{u"image/bmp"_s, picture("bmp")}});
     scheduler.advance(Seconds(0.1));
     pasteboard.offerText(u"after"_s);
     scheduler.advance(Seconds(0.1));
-    slow.drain();
-    ASSERT_EQ(slowStore.clips().size(), 2);
-    EXPECT_EQ(slowStore.clips().at(0).text, u"after"_s);
-    EXPECT_EQ(slowStore.clips().at(1).kind, ClipKind::image);
+    EXPECT_EQ(texts(), QStringList());
+    worker.drain();
+    EXPECT_EQ(texts(), QStringList({u"after"_s, u"Image"_s}));
 }
 
 } // namespace

@@ -11,6 +11,10 @@ public:
 
     void offer(const QList<PasteboardEntry>& forms) override { pasteboard_.offer(forms); }
 
+    void loseOwner() override { pasteboard_.loseOwner(); }
+
+    void release() override { pasteboard_.release(); }
+
     [[nodiscard]] QByteArray pasted(QLatin1StringView type) override {
         return pasteboard_.bytes(type);
     }

@@ -19,6 +19,10 @@ public:
     /// Another program takes the pasteboard.
     virtual void offer(const QList<PasteboardEntry>& forms) = 0;
 
+    /// That program ends, or gives the contents up and goes on.
+    virtual void loseOwner() = 0;
+    virtual void release() = 0;
+
     /// What another program gets when it asks for this type.
     [[nodiscard]] virtual QByteArray pasted(QLatin1StringView type) = 0;
 
@@ -121,6 +125,43 @@ TEST_P(PasteboardContract, countsAWriteAtOnceAndTellsNobody) {
     EXPECT_EQ(read({pngType}).answers.value(pngType), QByteArray("png bytes"));
     EXPECT_EQ(board().changeCount(), before + 1) << "counted again when the notice came";
     EXPECT_EQ(calls, 0) << "told of our own write";
+}
+
+TEST_P(PasteboardContract, isAdoptedOnlyAfterAnOwnersEnd) {
+    const QList<PasteboardEntry> ours = {text("ours")};
+    const auto expectNoOrphan = [&](const char* when) {
+        EXPECT_EQ(board().orphaned(), std::nullopt) << when;
+        EXPECT_FALSE(board().adopt(ours)) << when;
+    };
+    expectNoOrphan("at first");
+    offer({text("given up")});
+    qint64 before = board().changeCount();
+    host_->release();
+    EXPECT_TRUE(eventually([&] { return board().changeCount() == before + 1; }));
+    expectNoOrphan("given up");
+
+    offer({text("lost")});
+    expectNoOrphan("owned");
+    before = board().changeCount();
+    int calls = 0;
+    const Handle listening = board().onChange([&] { ++calls; });
+    host_->loseOwner();
+    EXPECT_TRUE(eventually([&] { return calls == 1; })) << "not told of the end";
+    EXPECT_EQ(board().orphaned(), before);
+    EXPECT_EQ(board().changeCount(), before + 1);
+    EXPECT_TRUE(board().adopt(ours));
+    EXPECT_EQ(board().changeCount(), before + 2);
+    EXPECT_EQ(host_->pasted(plainTextType), "ours");
+    EXPECT_EQ(read({plainTextType}).answers.value(plainTextType), QByteArray("ours"));
+    expectNoOrphan("adopted");
+    EXPECT_EQ(calls, 1) << "told of our own write";
+
+    offer({text("lost too")});
+    host_->loseOwner();
+    EXPECT_TRUE(eventually([&] { return board().orphaned().has_value(); }));
+    offer({text("next")});
+    expectNoOrphan("copied again");
+    EXPECT_EQ(host_->pasted(plainTextType), "next");
 }
 
 } // namespace ravelo

@@ -27,6 +27,15 @@ struct ListenerSession {
                             }};
 
     ListenerSession() { listener->start(); }
+
+    /// The window that owns the clipboard.
+    [[nodiscard]] xcb_window_t clipboardOwner() const {
+        const auto question = xcb_get_selection_owner(
+            connection->get(), connection->atom(QByteArrayLiteral("CLIPBOARD")));
+        const x11::Owned<xcb_get_selection_owner_reply_t> reply(
+            xcb_get_selection_owner_reply(connection->get(), question, nullptr));
+        return reply ? reply->owner : XCB_NONE;
+    }
 };
 
 /// What Qt hears of selections that change their owner. The server refuses a copy of ours that is,
@@ -41,7 +50,9 @@ public:
 
     [[nodiscard]] int count() const { return count_; }
 
-    /// The server's time of the newest.
+    /// Of the newest: the new owner, and the server's time.
+    [[nodiscard]] xcb_window_t owner() const { return owner_; }
+
     [[nodiscard]] xcb_timestamp_t time() const { return time_; }
 
     bool nativeEventFilter(const QByteArray& /*kind*/, void* message,
@@ -49,6 +60,7 @@ public:
         const auto& notice = *static_cast<const xcb_xfixes_selection_notify_event_t*>(message);
         if (notice.response_type == noticeType_) {
             ++count_;
+            owner_ = notice.owner;
             time_ = notice.timestamp;
         }
         return false;
@@ -57,6 +69,7 @@ public:
 private:
     uint8_t noticeType_;
     int count_ = 0;
+    xcb_window_t owner_ = XCB_NONE;
     xcb_timestamp_t time_ = 0;
 };
 

@@ -13,10 +13,19 @@ public:
         for (const PasteboardEntry& form : forms) {
             arguments.append(live::offering(form.type, form.bytes));
         }
-        const int before = noticesOfQt_.count();
         owner_ = std::make_unique<live::Client>(live::selectionOwner(), arguments);
         EXPECT_FALSE(owner_->readLine().isEmpty());
-        EXPECT_TRUE(eventually([&] { return noticesOfQt_.count() != before; }));
+        // Not just any notice: that of an earlier owner's end may still be on its way.
+        EXPECT_TRUE(eventually([&] { return noticesOfQt_.owner() == session_.clipboardOwner(); }));
+    }
+
+    void loseOwner() override { owner_.reset(); }
+
+    void release() override {
+        x11::Connection& connection = *session_.connection; // Any client may do it for the owner.
+        xcb_set_selection_owner(connection.get(), XCB_NONE, connection.atom("CLIPBOARD"),
+                                XCB_CURRENT_TIME);
+        xcb_flush(connection.get());
     }
 
     [[nodiscard]] QByteArray pasted(QLatin1StringView type) override {

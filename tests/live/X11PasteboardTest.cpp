@@ -116,6 +116,14 @@ TEST_F(X11PasteboardTest, answersEmptyWhereNobodyOwnsTheClipboard) {
     EXPECT_EQ(read(plainTextType).types, QStringList());
 }
 
+TEST_F(X11PasteboardTest, isOrphanedWhereTheOwnersWindowGoes) {
+    const auto owner = own(u"answer"_s, {offering(u"STRING"_s, "x")});
+    const qint64 before = board().changeCount();
+    xcb_destroy_window(session_.connection->get(), session_.clipboardOwner());
+    xcb_flush(session_.connection->get());
+    EXPECT_TRUE(eventually([&] { return board().orphaned() == before; }));
+}
+
 struct HostileCase {
     const char* behaviour;
     bool listsTypes;
@@ -208,12 +216,18 @@ TEST_F(X11PasteboardTest, readsEveryOneOfQuickCopies) {
     EXPECT_EQ(got, expected);
 }
 
-TEST_F(X11PasteboardTest, servesAnImageByteForByte) {
-    const QByteArray png = filling(3 << 20);
-    board().write({{u"image/png"_s, png}, {plainTextType, "words"}});
-    Client xclip(u"xclip"_s, {u"-o"_s, u"-selection"_s, u"clipboard"_s, u"-t"_s, u"image/png"_s});
-    EXPECT_TRUE(xclip.finish() == png) << "not the bytes that were written";
-    for (const QString& target : {u"UTF8_STRING"_s, u"STRING"_s, u"text/plain"_s}) {
+TEST_F(X11PasteboardTest, servesWhatWasWrittenByteForByte) {
+    const QList<PasteboardEntry> forms = {
+        {u"image/png"_s, filling(3 << 20)},
+        {u"text/uri-list"_s, "file:///tmp/%5Ba%5D%2520%23%3F%C3%BC%FC%0A\r\n"},
+        {u"x-special/gnome-copied-files"_s, "copy\nfile:///tmp/a"},
+        {plainTextType, "words"}};
+    board().write(forms);
+    for (const PasteboardEntry& form : forms) {
+        Client xclip(u"xclip"_s, {u"-o"_s, u"-selection"_s, u"clipboard"_s, u"-t"_s, form.type});
+        EXPECT_TRUE(xclip.finish() == form.bytes) << qPrintable(form.type);
+    }
+    for (const QString& target : {u"UTF8_STRING"_s, u"STRING"_s}) {
         Client text(u"xclip"_s, {u"-o"_s, u"-selection"_s, u"clipboard"_s, u"-t"_s, target});
         EXPECT_EQ(text.finish(), "words") << qPrintable(target);
     }
@@ -295,6 +309,21 @@ TEST_F(X11PasteboardTest, forgetsACopyFromJustBeforeItsOwnWrite) {
     }
     EXPECT_EQ(readText(), QByteArray("ours"));
     EXPECT_EQ(board().changeCount(), count) << "the earlier copy was counted after ours";
+}
+
+TEST_F(X11PasteboardTest, leavesAnOrphanToWhoIsQuicker) {
+    NearbyClient other(*session_.connection);
+    own(u"answer"_s, {offering(u"STRING"_s, "x")}).reset();
+    ASSERT_TRUE(eventually([&] { return board().orphaned().has_value(); }));
+    const qint64 before = board().changeCount();
+    {
+        const DeafListener deaf(*session_.listener);
+        other.copy("CLIPBOARD", XCB_CURRENT_TIME);
+        EXPECT_TRUE(board().orphaned()) << "heard of it, and proves nothing";
+        EXPECT_FALSE(board().adopt({{plainTextType, "ours"}}));
+    }
+    EXPECT_TRUE(eventually([&] { return board().changeCount() == before + 1; }))
+        << "the quicker one's copy is no change";
 }
 
 TEST_F(X11PasteboardTest, tellsOfACopyFromJustAfterItsOwnWrite) {
