@@ -224,6 +224,42 @@ class Panel(ProgramCase):
         self.assertEqual(self.desktop.focused_window(), focus)
 
 
+class OwnersEnd(ProgramCase):
+    def setUp(self):
+        super().setUp()
+        self.ravelo.start()
+
+    def test_what_was_copied_outlives_its_program(self):
+        window = self.desktop.gtk("window")
+        ends = {
+            "from GTK": lambda: self.desktop.gtk("text", "from GTK"),
+            "https://example.org/": lambda: self.qt("--text", "https://example.org/"),
+        }
+        for text, copy in ends.items():
+            with self.subTest(text):
+                owner = copy()
+                self.wait_for_texts(text)
+                owner.kill()
+                wait_for(lambda t=text: self.desktop.paste_text() == t, "the text to paste")
+                self.desktop.key("ctrl+a")
+                self.desktop.key("ctrl+v")
+                wait_for(lambda t=text: window.stdout.readline().strip() == t, "it in a window")
+        owner = self.desktop.gtk("image", "c04020ff")
+        self.wait_for_texts("Image")
+        owner.kill()
+        wait_for(lambda: self.desktop.run("sh", "-c", "xclip -o -selection clipboard -t image/png |"
+                                          " identify -format '%w %h %[pixel:p{9,9}]' -")
+                 == "64 48 srgb(192,64,32)", "the image to paste")
+        self.copy_and_wait("next")
+        self.assertEqual(self.ravelo.texts(), ["next", "Image", *reversed(ends)])
+
+    def test_a_password_goes_with_its_program_and_nothing_comes_back(self):
+        self.copy_and_wait("before")
+        self.qt("--text", "tr0ub4dor&3", "--secret").kill()
+        self.ravelo.open()  # By then it has long heard of the end.
+        self.assertEqual(self.desktop.paste_text(), "")
+
+
 class HungOwner(ProgramCase):
     """Owners of the clipboard that never finish an answer, while a text field has the keyboard."""
 
