@@ -112,6 +112,11 @@ void AppDelegate::wire() {
     };
     followCompositor();
     compositor_ = window_->onTranslucencyChange(followCompositor);
+    const auto followMotion = [this] {
+        view_->host().setReducedMotion(display_.motion().isReduced());
+    };
+    followMotion();
+    motion_ = display_.motion().onChange(followMotion);
     termination_ = onTerminationSignal([] { QCoreApplication::quit(); });
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, notch_.get(),
                      [this] { flush(); });

@@ -62,6 +62,7 @@ private:
     std::unique_ptr<PanelWindow> window_;
     std::unique_ptr<NotchController> notch_;
     Handle compositor_;
+    Handle motion_;
     Handle termination_;
 };
 

@@ -290,6 +290,10 @@ void NotchController::copyImage(const QString& path) {
     clipboard_.copyImage(path);
 }
 
+void NotchController::copyFile(const QUrl& file) {
+    clipboard_.copyFile(file);
+}
+
 void NotchController::typeFocus() {
     if (isOpen_) {
         services_.window.requestFocus();

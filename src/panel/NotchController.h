@@ -94,6 +94,7 @@ public:
     /// Puts a text, or a stored image, on the pasteboard without making a new clip of it.
     Q_INVOKABLE void copy(const QString& text);
     Q_INVOKABLE void copyImage(const QString& path);
+    void copyFile(const QUrl& file);
 
     /// The user clicked into a text field: the window takes the keyboard.
     Q_INVOKABLE void typeFocus();

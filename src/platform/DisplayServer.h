@@ -2,6 +2,7 @@
 
 #include "platform/DragMonitor.h"
 #include "platform/EdgeBarrier.h"
+#include "platform/MotionPreference.h"
 #include "platform/PanelWindow.h"
 #include "platform/Pasteboard.h"
 #include "platform/Pointer.h"
@@ -28,6 +29,8 @@ public:
 
     /// As far as the display server itself is told of a locked screen.
     [[nodiscard]] virtual SessionLock& lock() = 0;
+
+    [[nodiscard]] virtual MotionPreference& motion() = 0;
 
     /// Makes the panel out of `window`, which must not have been shown yet and must outlive it.
     [[nodiscard]] virtual std::unique_ptr<PanelWindow> panelWindow(QWindow& window) = 0;

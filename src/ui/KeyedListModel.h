@@ -2,14 +2,15 @@
 
 #include <QAbstractListModel>
 #include <QList>
+#include <QSet>
+#include <QUuid>
 
 #include <algorithm>
-#include <utility>
 
 namespace ravelo {
 
 /// A list of records that have an `id`. A new list is taken over by removing, moving, inserting and
-/// changing single rows, so that the view can animate what really happened.
+/// changing rows, neighbours together, so that the view can animate what really happened.
 template <typename Record>
 class KeyedListModel : public QAbstractListModel {
 public:
@@ -24,38 +25,65 @@ protected:
 
     void takeOver(const QList<Record>& now) {
         removeMissing(now);
+        const Ids had = idsOf(rows_);
         for (int row = 0; row < now.size(); ++row) {
-            place(now[row], row);
-        }
-    }
-
-private:
-    static auto sameId(const Record& record) {
-        return [&record](const Record& other) {
-            return other.id == record.id;
-        };
-    }
-
-    void removeMissing(const QList<Record>& now) {
-        for (int row = static_cast<int>(rows_.size()) - 1; row >= 0; --row) {
-            if (std::none_of(now.begin(), now.end(), sameId(rows_[row]))) {
-                beginRemoveRows({}, row, row);
-                rows_.removeAt(row);
-                endRemoveRows();
+            if (!had.contains(now[row].id)) {
+                row = insertNew(now, row, had);
+            } else {
+                place(now[row], row);
             }
         }
     }
 
-    /// The rows before `row` are in place already.
-    void place(const Record& record, int row) {
-        const auto found = std::find_if(rows_.begin() + row, rows_.end(), sameId(record));
-        const auto from = static_cast<int>(found - rows_.begin());
-        if (found == rows_.end()) {
-            beginInsertRows({}, row, row);
-            rows_.insert(row, record);
-            endInsertRows();
-            return;
+private:
+    using Ids = QSet<QUuid>;
+
+    static Ids idsOf(const QList<Record>& records) {
+        Ids ids;
+        ids.reserve(records.size());
+        for (const Record& record : records) {
+            ids.insert(record.id);
         }
+        return ids;
+    }
+
+    void removeMissing(const QList<Record>& now) {
+        const Ids wanted = idsOf(now);
+        const auto stays = [&](int row) {
+            return wanted.contains(rows_[row].id);
+        };
+        for (int end = static_cast<int>(rows_.size()); end > 0;) {
+            int first = end;
+            while (first > 0 && !stays(first - 1)) {
+                --first;
+            }
+            if (first < end) {
+                beginRemoveRows({}, first, end - 1);
+                rows_.remove(first, end - first);
+                endRemoveRows();
+            }
+            end = first - 1;
+        }
+    }
+
+    /// Gives the last row that was inserted.
+    int insertNew(const QList<Record>& now, int first, const Ids& had) {
+        int last = first;
+        while (last + 1 < now.size() && !had.contains(now[last + 1].id)) {
+            ++last;
+        }
+        beginInsertRows({}, first, last);
+        rows_ = rows_.first(first) + now.sliced(first, last - first + 1) + rows_.sliced(first);
+        endInsertRows();
+        return last;
+    }
+
+    /// A record that is in the list; the rows before `row` are in place already.
+    void place(const Record& record, int row) {
+        const auto found =
+            std::find_if(rows_.begin() + row, rows_.end(),
+                         [&record](const Record& other) { return other.id == record.id; });
+        const auto from = static_cast<int>(found - rows_.begin());
         if (from != row) {
             beginMoveRows({}, from, from, {}, row);
             rows_.move(from, row);

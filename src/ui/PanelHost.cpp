@@ -36,6 +36,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
             setContentSize(sizeToOpenWith());
         }
     });
+    connect(store(), &Store::shelfChanged, this, &PanelHost::shelfChanged);
     tellUsage();
     follow();
 }
@@ -44,6 +45,13 @@ void PanelHost::setBackdrop(Backdrop::Kind backdrop) {
     if (backdrop != backdrop_) {
         backdrop_ = backdrop;
         Q_EMIT backdropChanged();
+    }
+}
+
+void PanelHost::setReducedMotion(bool reduced) {
+    if (reduced != reducedMotion_) {
+        reducedMotion_ = reduced;
+        Q_EMIT reducedMotionChanged();
     }
 }
 
@@ -71,6 +79,17 @@ void PanelHost::copyClip(const QUuid& id) {
         controller()->copy(clip->text);
     }
     toast_.flashCopied();
+}
+
+bool PanelHost::shelfEmpty() const {
+    return store()->shelf().stacks.isEmpty();
+}
+
+void PanelHost::copyLastShelf() {
+    if (!shelfEmpty()) {
+        controller()->copyFile(store()->shelf().files().last());
+        toast_.flashCopied();
+    }
 }
 
 void PanelHost::openLink(const QUuid& id) {

@@ -37,6 +37,8 @@ class PanelHost : public QObject {
     Q_PROPERTY(bool hasContent READ hasContent NOTIFY hasContentChanged)
     Q_PROPERTY(QSizeF contentSize READ contentSize NOTIFY contentSizeChanged)
     Q_PROPERTY(ravelo::Backdrop::Kind backdrop READ backdrop NOTIFY backdropChanged)
+    Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY reducedMotionChanged)
+    Q_PROPERTY(bool shelfEmpty READ shelfEmpty NOTIFY shelfChanged)
     Q_PROPERTY(ravelo::UsageLine session READ session NOTIFY usageChanged)
     Q_PROPERTY(ravelo::UsageLine week READ week NOTIFY usageChanged)
 
@@ -80,6 +82,13 @@ public:
 
     void setBackdrop(Backdrop::Kind backdrop);
 
+    [[nodiscard]] bool reducedMotion() const { return reducedMotion_; }
+
+    /// The user wants things to fade, not to move.
+    void setReducedMotion(bool reduced);
+
+    [[nodiscard]] bool shelfEmpty() const;
+
     [[nodiscard]] UsageLine session() const { return sessionLine_; }
 
     [[nodiscard]] UsageLine week() const { return weekLine_; }
@@ -94,6 +103,9 @@ public:
     Q_INVOKABLE void copyClip(const QUuid& id);
     Q_INVOKABLE void copySnippet(const QUuid& id);
 
+    /// Copies the file that was parked last; nothing where none is.
+    Q_INVOKABLE void copyLastShelf();
+
     /// Opens a link in the user's browser and closes the panel; nothing for a clip of another kind.
     Q_INVOKABLE void openLink(const QUuid& id);
 
@@ -101,6 +113,8 @@ Q_SIGNALS:
     void hasContentChanged();
     void contentSizeChanged();
     void backdropChanged();
+    void reducedMotionChanged();
+    void shelfChanged();
     void usageChanged();
 
 private:
@@ -120,6 +134,7 @@ private:
     bool hasContent_ = false;
     QSizeF contentSize_;
     Backdrop::Kind backdrop_ = Backdrop::Translucent;
+    bool reducedMotion_ = false;
     std::optional<UsageWindow> session_;
     std::optional<UsageWindow> week_;
     UsageLine sessionLine_;

@@ -17,7 +17,7 @@ PanelFixture::PanelFixture()
     : connection(std::move(x11::Connection::create().value())),
       events(*connection),
       screens(*connection, events),
-      compositor(*connection, events),
+      compositor(*connection, events, x11::ManagerSelection::compositor),
       panel(window, *connection, events, screens, compositor) {}
 
 void PanelFixture::show(const QString& monitor, QSizeF size) {

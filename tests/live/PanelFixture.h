@@ -38,7 +38,7 @@ public:
     std::unique_ptr<x11::Connection> connection;
     x11::Events events;
     x11::X11Screens screens;
-    x11::Compositor compositor;
+    x11::ManagerSelection compositor;
     RecordingWindow window;
     x11::X11PanelWindow panel;
 };

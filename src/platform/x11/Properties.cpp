@@ -36,6 +36,15 @@ bool PropertyRequest::exists() {
     return answer && answer->type != XCB_ATOM_NONE;
 }
 
+QByteArray PropertyRequest::bytes() {
+    const auto answer = reply();
+    if (!answer || answer->format != 8) {
+        return {};
+    }
+    const auto* values = static_cast<const char*>(xcb_get_property_value(answer.get()));
+    return {values, static_cast<qsizetype>(answer->value_len)};
+}
+
 std::vector<uint32_t> PropertyRequest::cardinals() {
     const auto answer = reply();
     if (!answer || answer->format != 32) {

@@ -2,6 +2,7 @@
 
 #include "platform/x11/Connection.h"
 
+#include <QByteArray>
 #include <QSize>
 
 #include <vector>
@@ -20,9 +21,13 @@ public:
     PropertyRequest& operator=(const PropertyRequest&) = delete;
     ~PropertyRequest();
 
-    /// Waits for the answer: whether there is such a property, of any type. Either this or
-    /// `cardinals` may be called, once.
+    /// Waits for the answer: whether there is such a property, of any type. One of these three
+    /// may be called, once.
     [[nodiscard]] bool exists();
+
+    /// Waits for the answer: the property's bytes, none where there is no such window or property
+    /// or it is not made of bytes.
+    [[nodiscard]] QByteArray bytes();
 
     /// Waits for the answer: the property's 32-bit values, none where there is no such window or
     /// property.

@@ -1,12 +1,13 @@
 #pragma once
 
 #include "platform/DisplayServer.h"
-#include "platform/x11/Compositor.h"
 #include "platform/x11/Events.h"
 #include "platform/x11/Listener.h"
+#include "platform/x11/ManagerSelection.h"
 #include "platform/x11/ScreenSaverStatus.h"
 #include "platform/x11/X11DragMonitor.h"
 #include "platform/x11/X11EdgeBarrier.h"
+#include "platform/x11/X11MotionPreference.h"
 #include "platform/x11/X11Pasteboard.h"
 #include "platform/x11/X11Pointer.h"
 #include "platform/x11/X11Screens.h"
@@ -32,6 +33,8 @@ public:
 
     [[nodiscard]] SessionLock& lock() override { return screenSaver_; }
 
+    [[nodiscard]] MotionPreference& motion() override { return motion_; }
+
     [[nodiscard]] std::unique_ptr<PanelWindow> panelWindow(QWindow& window) override;
 
 private:
@@ -40,7 +43,8 @@ private:
     std::unique_ptr<Connection> connection_;
     Events events_;
     X11Screens screens_;
-    Compositor compositor_;
+    ManagerSelection compositor_;
+    X11MotionPreference motion_;
     ScreenSaverStatus screenSaver_;
     X11EdgeBarrier barrier_;
     std::unique_ptr<Listener> listener_;

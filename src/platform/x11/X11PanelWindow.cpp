@@ -36,7 +36,7 @@ std::vector<xcb_rectangle_t> rectanglesOf(const QRegion& region) {
 } // namespace
 
 X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& events,
-                               const X11Screens& screens, Compositor& compositor)
+                               const X11Screens& screens, ManagerSelection& compositor)
     : window_(window),
       screens_(screens),
       compositor_(compositor),
@@ -96,7 +96,7 @@ void X11PanelWindow::setOutline(const QPainterPath& outline) {
 }
 
 bool X11PanelWindow::isTranslucent() const {
-    return compositor_.isRunning() && window_.format().hasAlpha();
+    return compositor_.isOwned() && window_.format().hasAlpha();
 }
 
 Handle X11PanelWindow::onTranslucencyChange(std::function<void()> callback) {

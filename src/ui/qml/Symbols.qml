@@ -16,6 +16,7 @@ QtObject {
         "clock": "\uF150",
         "creditcard": "\uF19B",
         "doc.on.clipboard": "\uF14E",
+        "doc.on.doc": "\uF18F",
         "doc.text": "\uF219",
         "dollarsign.circle": "\uF178",
         "link": "\uF339",

@@ -41,6 +41,12 @@ QtObject {
     readonly property color pressedMini: white(0.26)
     readonly property color pressedButton: white(0.20)
 
+    readonly property color round: white(0.08)
+    readonly property color hoveredRound: white(0.14)
+    readonly property color pressedRound: white(0.19)
+    readonly property color roundGlyph: white(0.90)
+    readonly property color roundGlyphOff: white(0.35)
+
     readonly property color accent: "#78AEFF"
     readonly property color green: "#4CD68B"
     readonly property color yellow: "#F6C851"
@@ -65,6 +71,15 @@ QtObject {
     /// Where something so high stands in the middle of an item: on a device pixel, the lower of two.
     function middle(outer: Item, height: real, devicePixelRatio: real): real {
         return Math.round((outer.height - height) / 2 * devicePixelRatio) / devicePixelRatio;
+    }
+
+    function fade(duration: int): int {
+        return reducedMotion ? 100 : duration;
+    }
+
+    /// Also for how far something moves.
+    function move(duration: int): int {
+        return reducedMotion ? 0 : duration;
     }
 
     function withAlpha(base: color, alpha: real): color {
@@ -94,6 +109,7 @@ QtObject {
     readonly property real radiusEditor: 14
 
     // The panel, top to bottom.
+    readonly property real insetTop: 28
     readonly property real insetSide: 34
     readonly property real insetBottom: 18
     readonly property real usageTop: 72
@@ -101,16 +117,19 @@ QtObject {
     readonly property real bodyTop: 204
 
     // Motion, in milliseconds.
+    /// The desktop asks for less of it: nothing moves, and what comes or goes fades.
+    property bool reducedMotion: false
     readonly property int opening: 60
     readonly property int hovering: 90
     readonly property int pressing: 40
-    readonly property int entering: 260
-    readonly property int leaving: 180
-    readonly property int springing: 450
-    readonly property int toastLeaving: 200
-    readonly property int floatingIn: 120
-    readonly property int floatingOut: 80
-    readonly property int filling: 400
+    readonly property int entering: fade(260)
+    readonly property int leaving: fade(180)
+    readonly property int springing: fade(450)
+    readonly property int sheet: fade(500)
+    readonly property int toastLeaving: fade(200)
+    readonly property int floatingIn: fade(120)
+    readonly property int floatingOut: fade(80)
+    readonly property int filling: move(400)
     readonly property int tooltipDelay: 500
     /// A spring of response 0.5 s and damping 0.85.
     readonly property var spring: [0.226, 0.097, 0.255, 1.085, 1, 1]

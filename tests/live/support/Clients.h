@@ -26,6 +26,8 @@ public:
     /// Lets it do its next step: writes a line to its standard input.
     void poke();
 
+    [[nodiscard]] qint64 processId() const { return process_.processId(); }
+
     /// Runs the event loop until the client has ended; what it wrote.
     [[nodiscard]] QByteArray finish();
 

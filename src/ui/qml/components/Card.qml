@@ -19,6 +19,12 @@ Item {
 
     signal tapped
 
+    Accessible.role: Accessible.ListItem
+    Accessible.name: title
+    Accessible.description: subtitle
+    Accessible.selectable: true
+    Accessible.selected: selected
+    Accessible.onPressAction: card.tapped()
     implicitHeight: 40
 
     Surface {

@@ -7,6 +7,11 @@ TextEdit {
 
     required property PanelHost host
 
+    /// What it is called where it cannot be seen.
+    property string name
+
+    Accessible.role: Accessible.EditableText
+    Accessible.name: name
     font: Theme.note.font
     color: Theme.noteText
     textFormat: TextEdit.PlainText

@@ -8,6 +8,8 @@ TextInput {
     required property PanelHost host
     property string placeholder
 
+    Accessible.role: Accessible.EditableText
+    Accessible.name: placeholder
     clip: true
     verticalAlignment: TextInput.AlignVCenter
     font: Theme.body.font

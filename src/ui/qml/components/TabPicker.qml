@@ -15,6 +15,7 @@ Box {
 
     signal chosen(int index)
 
+    Accessible.role: Accessible.PageTabList
     implicitHeight: 32
     radius: Theme.radiusRow
     color: Theme.surface1
@@ -30,7 +31,7 @@ Box {
         Behavior on x {
             enabled: picker.visible
             NumberAnimation {
-                duration: Theme.springing
+                duration: Theme.move(Theme.springing)
                 easing.type: Easing.BezierSpline
                 easing.bezierCurve: Theme.spring
             }
@@ -40,22 +41,32 @@ Box {
     Repeater {
         model: picker.tabs
 
-        Surface {
+        Pressable {
             id: tab
 
             required property var modelData
             required property int index
             readonly property bool selected: index === picker.current
 
+            objectName: "tab" + index
+            name: modelData.title
+            Accessible.role: Accessible.PageTab
+            Accessible.selectable: true
+            Accessible.selected: selected
             x: 2 + index * picker.part
             y: 2
             width: picker.part
             height: 28
             radius: Theme.radiusSmall
             rest: Theme.none
-            hover: Theme.hoveredTab
+            hover: selected ? Theme.none : Theme.hoveredTab
             press: Theme.none
-            hovered: area.containsMouse && !selected
+            onPressedChanged: {
+                if (pressed) {
+                    picker.chosen(index);
+                }
+            }
+            onClicked: picker.chosen(index)
 
             Row {
                 anchors.centerIn: parent
@@ -74,13 +85,6 @@ Box {
                     color: tab.selected ? Theme.text1
                                         : tab.hovered ? Theme.hoveredTabText : Theme.text3
                 }
-            }
-
-            MouseArea {
-                id: area
-                anchors.fill: parent
-                hoverEnabled: true
-                onPressed: picker.chosen(tab.index)
             }
         }
     }

@@ -59,7 +59,7 @@ Item {
 
     transform: Translate {
         id: rise
-        y: 8
+        y: Theme.move(8)
     }
 
     transitions: [

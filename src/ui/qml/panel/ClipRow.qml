@@ -24,12 +24,14 @@ Card {
 
     MiniButton {
         objectName: "pin"
+        name: row.pinned ? "Unpin" : "Pin"
         symbol: row.pinned ? "pin.slash" : "pin"
         onClicked: row.host.store.togglePin(row.clipId)
     }
 
     MiniButton {
         objectName: "delete"
+        name: "Delete"
         symbol: "xmark"
         onClicked: row.host.store.deleteClip(row.clipId)
     }

@@ -154,7 +154,7 @@ FocusScope {
                     }
                     NumberAnimation {
                         property: "y"
-                        from: entering.ViewTransition.destination.y - 40
+                        from: entering.ViewTransition.destination.y - Theme.move(40)
                         duration: Theme.entering
                         easing.type: Easing.OutCubic
                     }
@@ -164,7 +164,7 @@ FocusScope {
                 enabled: tab.shown
                 NumberAnimation {
                     property: "scale"
-                    to: 0.9
+                    to: 1 - Theme.move(10) / 100
                     duration: Theme.leaving
                     easing.type: Easing.InCubic
                 }
@@ -180,7 +180,7 @@ FocusScope {
                 enabled: tab.shown
                 NumberAnimation {
                     property: "y"
-                    duration: Theme.entering
+                    duration: Theme.move(Theme.entering)
                     easing.type: Easing.OutCubic
                 }
                 // A row that was still coming in is pushed on as it is; it must not stay faint.

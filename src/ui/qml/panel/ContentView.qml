@@ -50,6 +50,22 @@ FocusScope {
         fullBlack: content.host.settings.fullBlack
     }
 
+    TopBar {
+        objectName: "topBar"
+        x: Theme.insetSide
+        y: Theme.insetTop
+        width: parent.width - 2 * Theme.insetSide
+        host: content.host
+        reminderLit: reminderQuestion.opened
+        onReminderToggleRequested: corner => {
+            content.host.controller.typeFocus();
+            reminderQuestion.text = content.host.store.reminderOpen
+                ? "Hide reminders under the notch?" : "Show reminders under the notch?";
+            reminderQuestion.corner = corner;
+            reminderQuestion.opened = true;
+        }
+    }
+
     UsageBlock {
         objectName: "usage"
         x: Theme.insetSide
@@ -109,6 +125,12 @@ FocusScope {
         id: clearQuestion
         text: "Clear clipboard history?"
         onAccepted: content.host.store.clearClips()
+        onClosed: body.forceActiveFocus()
+    }
+
+    Question {
+        id: reminderQuestion
+        onAccepted: content.host.store.reminderOpen = !content.host.store.reminderOpen
         onClosed: body.forceActiveFocus()
     }
 

@@ -38,7 +38,7 @@ FocusScope {
                 id: editor
                 objectName: "noteInput"
                 focus: true
-                Accessible.name: "Quick note"
+                name: "Quick note"
                 width: view.width
                 height: Math.max(implicitHeight, view.height)
                 host: tab.host

@@ -52,6 +52,12 @@ Item {
         value: bar.visible && panel.Window.visibility !== Window.Hidden
     }
 
+    Binding {
+        target: Theme
+        property: "reducedMotion"
+        value: panel.host.reducedMotion
+    }
+
     ContentSlot {
         id: slot // Not centred: the window may still be as narrow as the handle.
         focus: true

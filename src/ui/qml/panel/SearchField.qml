@@ -45,7 +45,6 @@ Surface {
         id: input
         objectName: "searchInput"
         focus: true
-        Accessible.name: placeholder
         x: 36
         width: trash.x - x - 8
         height: parent.height
@@ -54,9 +53,10 @@ Surface {
         onTextChanged: field.host.clips.search = text
     }
 
-    Surface {
+    Pressable {
         id: trash
         objectName: "trash"
+        name: "Clear history"
         x: parent.width - 30
         y: 2
         width: 28
@@ -65,8 +65,7 @@ Surface {
         rest: field.trashLit ? Theme.surface3 : Theme.none
         hover: Theme.surface3
         press: Theme.surface4
-        hovered: area.containsMouse
-        pressed: area.pressed
+        onClicked: field.clearRequested()
 
         Glyph {
             anchors.centerIn: parent
@@ -74,17 +73,10 @@ Surface {
             color: field.trashLit || trash.hovered ? Theme.text1 : Theme.iconQuiet
         }
 
-        MouseArea {
-            id: area
-            anchors.fill: parent
-            hoverEnabled: true
-            onClicked: field.clearRequested()
-        }
-
         Tooltip {
             target: trash
-            hovered: area.containsMouse && !field.trashLit
-            text: "Clear history"
+            hovered: trash.hovered && !field.trashLit
+            text: trash.name
         }
     }
 }

@@ -1,4 +1,4 @@
-#include "platform/x11/Compositor.h"
+#include "platform/x11/ManagerSelection.h"
 
 #include <xcb/xfixes.h>
 
@@ -20,8 +20,9 @@ int screenNumber(const Connection& connection) {
 
 } // namespace
 
-Compositor::Compositor(Connection& connection, Events& events)
-    : selection_(connection.atom("_NET_WM_CM_S" + QByteArray::number(screenNumber(connection)))),
+ManagerSelection::ManagerSelection(Connection& connection, Events& events, QByteArrayView name)
+    : selection_(connection.atom(name.toByteArray() + "_S" +
+                                 QByteArray::number(screenNumber(connection)))),
       noticeType_(
           static_cast<uint8_t>(connection.xfixesFirstEvent() + XCB_XFIXES_SELECTION_NOTIFY)),
       subscription_(events.onEvent([this](const auto& event) { handle(event); })) {
@@ -33,20 +34,21 @@ Compositor::Compositor(Connection& connection, Events& events)
     const auto cookie = xcb_get_selection_owner(connection.get(), selection_);
     const Owned<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(connection.get(), cookie, nullptr));
-    running_ = reply && reply->owner != XCB_WINDOW_NONE;
+    if (reply) {
+        owner_ = reply->owner;
+    }
 }
 
-Handle Compositor::onChange(std::function<void()> callback) {
+Handle ManagerSelection::onChange(std::function<void()> callback) {
     return listeners_.add(std::move(callback));
 }
 
-void Compositor::handle(const xcb_generic_event_t& event) {
+void ManagerSelection::handle(const xcb_generic_event_t& event) {
     const auto* notice = eventAs<xcb_xfixes_selection_notify_event_t>(event, noticeType_);
     if (notice == nullptr || notice->selection != selection_) {
         return;
     }
-    const bool running = notice->owner != XCB_WINDOW_NONE;
-    if (std::exchange(running_, running) != running) {
+    if (std::exchange(owner_, notice->owner) != notice->owner) {
         listeners_.notify();
     }
 }

@@ -1,0 +1,70 @@
+#include "platform/x11/XSettings.h"
+
+#include <QByteArray>
+#include <QDataStream>
+#include <QIODevice>
+
+namespace ravelo::x11 {
+
+namespace {
+
+enum Type : quint8 { integer = 0, string = 1, color = 2 };
+
+qint64 padded(qint64 length) {
+    return (length + 3) / 4 * 4;
+}
+
+struct Setting {
+    quint8 type = integer;
+    QByteArray name;
+};
+
+/// Up to where its value stands.
+Setting readSetting(QDataStream& in) {
+    Setting setting;
+    quint16 length = 0;
+    in >> setting.type;
+    in.skipRawData(1);
+    in >> length;
+    setting.name.resize(length);
+    in.readRawData(setting.name.data(), length);
+    in.skipRawData(static_cast<int>(padded(length) - length) + 4); // The serial of its last change.
+    return setting;
+}
+
+void skipValue(QDataStream& in, quint8 type) {
+    quint32 length = type == color ? 8 : 4;
+    if (type == string) {
+        in >> length;
+    }
+    const qint64 end = in.device()->pos() + padded(length);
+    if (type > color || end > in.device()->size()) {
+        in.setStatus(QDataStream::ReadCorruptData);
+        return;
+    }
+    in.device()->seek(end);
+}
+
+} // namespace
+
+std::optional<int32_t> xsettingsInteger(QByteArrayView property, QByteArrayView name) {
+    QDataStream in(property.toByteArray());
+    quint8 bigEndian = 0;
+    quint32 settings = 0;
+    in >> bigEndian;
+    in.setByteOrder(bigEndian != 0 ? QDataStream::BigEndian : QDataStream::LittleEndian);
+    in.skipRawData(7); // Padding and the serial of the whole.
+    in >> settings;
+    for (; settings > 0 && in.status() == QDataStream::Ok; --settings) {
+        const Setting setting = readSetting(in);
+        if (setting.name == name && setting.type == integer) {
+            qint32 value = 0;
+            in >> value;
+            return in.status() == QDataStream::Ok ? std::optional(value) : std::nullopt;
+        }
+        skipValue(in, setting.type);
+    }
+    return std::nullopt;
+}
+
+} // namespace ravelo::x11

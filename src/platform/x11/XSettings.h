@@ -1,0 +1,13 @@
+#pragma once
+
+#include <QByteArrayView>
+
+#include <optional>
+
+namespace ravelo::x11 {
+
+/// The integer of this name in the property `_XSETTINGS_SETTINGS` (XSETTINGS 0.5); nothing where
+/// there is none or the property ends before it.
+[[nodiscard]] std::optional<int32_t> xsettingsInteger(QByteArrayView property, QByteArrayView name);
+
+} // namespace ravelo::x11

@@ -1,0 +1,14 @@
+import QtQuick
+import Ravelo
+
+/// Around the control that has the keyboard.
+Box {
+    required property Item control
+
+    visible: control.activeFocus
+    anchors.fill: parent
+    anchors.margins: -4
+    radius: (control as Box)?.radius + 4
+    lineColor: Theme.withAlpha(Theme.accent, 0.60)
+    lineWidth: 2
+}

@@ -1,0 +1,78 @@
+#include "live/support/Clients.h"
+#include "platform/x11/X11MotionPreference.h"
+#include "platform/x11/XSettings.h"
+
+#include <gtest/gtest.h>
+
+#include <QTemporaryFile>
+
+#include <csignal>
+
+namespace ravelo::x11 {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+TEST(MotionPreference, followsTheDesktopsSettingsManager) {
+    QTemporaryFile config;
+    ASSERT_TRUE(config.open());
+    const auto write = [&](const QByteArray& value) {
+        config.resize(0);
+        config.seek(0);
+        config.write("Net/ThemeName \"Adwaita\"\nGtk/EnableAnimations " + value + "\n");
+        config.flush();
+    };
+    const auto connection = std::move(Connection::create().value());
+    Events events(*connection);
+    X11MotionPreference motion(*connection, events);
+    EXPECT_FALSE(motion.isReduced()) << "nobody has asked for it";
+    int calls = 0;
+    const Handle listening = motion.onChange([&] { ++calls; });
+
+    write("0");
+    auto manager =
+        std::make_unique<live::Client>(u"xsettingsd"_s, QStringList{u"-c"_s, config.fileName()});
+    EXPECT_TRUE(eventually([&] { return motion.isReduced(); })) << "a manager came";
+    write("1");
+    kill(static_cast<pid_t>(manager->processId()), SIGHUP);
+    EXPECT_TRUE(eventually([&] { return !motion.isReduced(); })) << "the user changed it";
+    write("0");
+    kill(static_cast<pid_t>(manager->processId()), SIGHUP);
+    EXPECT_TRUE(eventually([&] { return motion.isReduced(); })) << "and changed it back";
+    manager.reset();
+    EXPECT_TRUE(eventually([&] { return !motion.isReduced(); })) << "the manager went";
+    EXPECT_EQ(calls, 4);
+}
+
+TEST(XSettings, findsAnIntegerInWholePropertiesOnly) {
+    const QByteArray property = QByteArray::fromHex("00000000"
+                                                    "07000000"
+                                                    "03000000"
+                                                    "0100"
+                                                    "0300"
+                                                    "41626300"
+                                                    "01000000"
+                                                    "05000000"
+                                                    "68656c6c6f000000"
+                                                    "0200"
+                                                    "0100"
+                                                    "43000000"
+                                                    "01000000"
+                                                    "0100020003000400"
+                                                    "0000"
+                                                    "0400"
+                                                    "4e756d62"
+                                                    "01000000"
+                                                    "2a000000");
+    EXPECT_EQ(xsettingsInteger(property, "Numb"), 42);
+    EXPECT_EQ(xsettingsInteger(property, "Abc"), std::nullopt) << "a string";
+    EXPECT_EQ(xsettingsInteger(property, "Other"), std::nullopt);
+    for (qsizetype length = 0; length < property.size(); ++length) {
+        EXPECT_EQ(xsettingsInteger(property.first(length), "Numb"), std::nullopt)
+            << "the first " << length << " bytes of it";
+    }
+    EXPECT_EQ(xsettingsInteger(QByteArray(64, '\xff'), "Numb"), std::nullopt);
+}
+
+} // namespace
+} // namespace ravelo::x11
