@@ -12,6 +12,7 @@ QtObject {
         "bubble.left.and.text.bubble.right": "\uF189",
         "car": "\uF10B",
         "checklist": "\uF5C7",
+        "checkmark": "\uF12C",
         "checkmark.seal": "\uF565",
         "clock": "\uF150",
         "creditcard": "\uF19B",

@@ -40,6 +40,9 @@ QtObject {
     readonly property color hoveredMini: white(0.20)
     readonly property color pressedMini: white(0.26)
     readonly property color pressedButton: white(0.20)
+    readonly property color hoveredItem: white(0.11)
+    readonly property color pressedItem: white(0.16)
+    readonly property color divider: white(0.09)
 
     readonly property color round: white(0.08)
     readonly property color hoveredRound: white(0.14)

@@ -5,7 +5,7 @@ import Ravelo
 Box {
     required property Item control
 
-    visible: control.activeFocus
+    visible: enabled && control.activeFocus
     anchors.fill: parent
     anchors.margins: -4
     radius: (control as Box)?.radius + 4

@@ -8,6 +8,8 @@ Surface {
 
     /// What it is called where it cannot be seen.
     property string name
+    /// Whether it shows that it has the keyboard.
+    property alias ring: ring.enabled
 
     signal clicked
 
@@ -31,6 +33,7 @@ Surface {
     }
 
     FocusRing {
+        id: ring
         control: pressable
     }
 

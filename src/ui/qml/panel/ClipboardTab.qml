@@ -9,7 +9,6 @@ FocusScope {
 
     required property PanelHost host
     required property bool shown
-    required property Question question
 
     /// Takes the search away; false where there is none.
     function clearSearch(): bool {
@@ -89,13 +88,6 @@ FocusScope {
         host: tab.host
         input.onTextChanged: tab.select(0)
         input.Keys.forwardTo: [tab]
-        trashLit: tab.question.opened
-        onClearRequested: {
-            // The question is answered by Return too.
-            tab.host.controller.typeFocus();
-            tab.question.corner = mapToItem(tab.question, width, height + 6);
-            tab.question.opened = true;
-        }
     }
 
     SnippetStrip {

@@ -56,14 +56,6 @@ FocusScope {
         y: Theme.insetTop
         width: parent.width - 2 * Theme.insetSide
         host: content.host
-        reminderLit: reminderQuestion.opened
-        onReminderToggleRequested: corner => {
-            content.host.controller.typeFocus();
-            reminderQuestion.text = content.host.store.reminderOpen
-                ? "Hide reminders under the notch?" : "Show reminders under the notch?";
-            reminderQuestion.corner = corner;
-            reminderQuestion.opened = true;
-        }
     }
 
     UsageBlock {
@@ -100,7 +92,6 @@ FocusScope {
             focus: visible
             host: content.host
             shown: content.shown
-            question: clearQuestion
         }
 
         NotesTab {
@@ -119,19 +110,6 @@ FocusScope {
             easing.type: Easing.BezierSpline
             easing.bezierCurve: Theme.spring
         }
-    }
-
-    Question {
-        id: clearQuestion
-        text: "Clear clipboard history?"
-        onAccepted: content.host.store.clearClips()
-        onClosed: body.forceActiveFocus()
-    }
-
-    Question {
-        id: reminderQuestion
-        onAccepted: content.host.store.reminderOpen = !content.host.store.reminderOpen
-        onClosed: body.forceActiveFocus()
     }
 
     ToastCapsule {

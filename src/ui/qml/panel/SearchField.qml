@@ -7,9 +7,6 @@ Surface {
 
     required property PanelHost host
     property alias input: input
-    property bool trashLit: false
-
-    signal clearRequested
 
     implicitHeight: 32
     radius: Theme.radiusRow
@@ -62,21 +59,29 @@ Surface {
         width: 28
         height: 28
         radius: Theme.radiusSmall
-        rest: field.trashLit ? Theme.surface3 : Theme.none
+        rest: question.opened ? Theme.surface3 : Theme.none
         hover: Theme.surface3
         press: Theme.surface4
-        onClicked: field.clearRequested()
+        onClicked: question.openLeftUnder(field, 0)
 
         Glyph {
             anchors.centerIn: parent
             symbol: "trash"
-            color: field.trashLit || trash.hovered ? Theme.text1 : Theme.iconQuiet
+            color: question.opened || trash.hovered ? Theme.text1 : Theme.iconQuiet
         }
 
         Tooltip {
             target: trash
-            hovered: trash.hovered && !field.trashLit
+            hovered: trash.hovered && !question.opened
             text: trash.name
         }
+    }
+
+    Question {
+        id: question
+        host: field.host
+        text: "Clear clipboard history?"
+        yesFirst: true
+        onAccepted: field.host.store.clearClips()
     }
 }

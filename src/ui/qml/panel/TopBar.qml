@@ -6,12 +6,6 @@ Item {
     id: bar
 
     required property PanelHost host
-    /// The question whether the reminders are to be shown or hidden is asked.
-    property bool reminderLit: false
-
-    /// The question belongs under this corner.
-    signal reminderToggleRequested(point corner)
-
     implicitHeight: 32
 
     Row {
@@ -33,10 +27,21 @@ Item {
             objectName: "reminderToggle"
             symbol: "checklist"
             tint: bar.host.store.reminderOpen ? Theme.roundGlyph : Theme.roundGlyphOff
-            rest: bar.reminderLit ? Theme.hoveredRound : Theme.round
+            rest: reminderQuestion.opened ? Theme.hoveredRound : Theme.round
             tip: bar.host.store.reminderOpen ? "Shown under the notch — click to hide"
                                              : "Hidden — click to show under the notch"
-            onClicked: bar.reminderToggleRequested(mapToItem(null, width, height + 6))
+            onClicked: {
+                // As it was when it was asked, while the answer fades.
+                reminderQuestion.text = bar.host.store.reminderOpen
+                    ? "Hide reminders under the notch?" : "Show reminders under the notch?";
+                reminderQuestion.openLeftUnder(reminders, 14);
+            }
         }
+    }
+
+    Question {
+        id: reminderQuestion
+        host: bar.host
+        onAccepted: bar.host.store.reminderOpen = !bar.host.store.reminderOpen
     }
 }

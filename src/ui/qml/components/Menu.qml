@@ -1,0 +1,118 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Ravelo
+
+/// A list of things to choose from.
+Popover {
+    id: menu
+
+    /// Of objects with `text`, `chosen()` and perhaps `checked`, or with `divider`.
+    property var entries: []
+    property real leastWidth: 0
+    property int current: -1
+
+    readonly property real room: largestHeight - 2 * pad
+
+    function choose(index: int) {
+        close();
+        entries[index]?.chosen();
+    }
+
+    /// Moves on to the next entry that can be chosen; from none to the first or last.
+    function step(by: int) {
+        let next = current < 0 && by < 0 ? entries.length - 1 : current + by;
+        while (entries[next]?.divider) {
+            next += by;
+        }
+        if (next >= 0 && next < entries.length) {
+            current = next;
+            list.positionViewAtIndex(next, ListView.Contain);
+        }
+    }
+
+    pad: 5
+    contentWidth: Math.max(leastWidth - 2 * pad, list.widest)
+    contentHeight: Math.min(list.contentHeight, room)
+    Accessible.role: Accessible.PopupMenu
+    onOpenedChanged: current = -1
+    Keys.onUpPressed: step(-1)
+    Keys.onDownPressed: step(1)
+    Keys.onReturnPressed: choose(current)
+    Keys.onEnterPressed: choose(current)
+    Keys.onSpacePressed: choose(current)
+
+    ListView {
+        id: list
+
+        property real widest: 0
+
+        anchors.fill: parent
+        clip: contentHeight > height
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        cacheBuffer: 10000 // The widest of all counts.
+        model: menu.entries
+
+        delegate: Surface {
+            id: item
+
+            required property int index
+            required property var modelData
+            readonly property bool divides: modelData.divider ?? false
+
+            objectName: "item" + index
+            width: list.width
+            height: divides ? 11 : 28
+            radius: Theme.radiusTile
+            rest: Theme.none
+            hover: Theme.hoveredItem
+            press: Theme.pressedItem
+            hovered: !divides && index === menu.current
+            pressed: area.pressed
+            Accessible.role: divides ? Accessible.Separator : Accessible.MenuItem
+            Accessible.name: label.text
+            Accessible.checkable: modelData.checked !== undefined
+            Accessible.checked: modelData.checked ?? false
+            Accessible.onPressAction: menu.choose(index)
+            Component.onCompleted: list.widest = Math.max(list.widest, label.x + label.implicitWidth + 10)
+
+            Box {
+                visible: item.divides
+                x: 8
+                y: 5
+                width: parent.width - 16
+                height: 1
+                color: Theme.divider
+            }
+
+            Glyph {
+                visible: item.modelData.checked ?? false
+                x: 8
+                anchors.verticalCenter: parent.verticalCenter
+                size: 15
+                symbol: "checkmark"
+            }
+
+            Label {
+                id: label
+                x: 30
+                y: 6
+                width: Math.min(implicitWidth, item.width - x - 10)
+                text: item.modelData.text ?? ""
+                style: Theme.body
+                color: Theme.text1
+            }
+
+            MouseArea {
+                id: area
+                anchors.fill: parent
+                enabled: !item.divides
+                hoverEnabled: true
+                onEntered: menu.current = item.index
+                onExited: menu.current = -1
+                onClicked: menu.choose(item.index)
+            }
+        }
+    }
+}
