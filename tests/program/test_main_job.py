@@ -20,6 +20,10 @@ SAVE_DELAY = 0.4
 SEARCH, FIRST_ROW, ROW = 220, 300, 40  # Their middles from the top; the height of a row.
 
 
+# How much longer than usual the program may take, where it is built to be checked.
+SLOWER = int(os.environ.get("RAVELO_SLOWER", 1))
+
+
 class ProgramCase(unittest.TestCase):
     def setUp(self):
         self.desktop = self.enterContext(Desktop())
@@ -122,7 +126,7 @@ class Capture(ProgramCase):
         self.ravelo.start()
         for count, kept, interval in ((20, 20, 25), (61, 60, 60)):
             with self.subTest(count=count):
-                self.qt("--series", count, "--interval", interval)
+                self.qt("--series", count, "--interval", SLOWER * interval)
                 self.wait_for_texts(f"text {count}")
                 self.assertEqual(self.ravelo.texts(),
                                  [f"text {n}" for n in range(count, count - kept, -1)])
@@ -131,7 +135,7 @@ class Capture(ProgramCase):
         self.ravelo.start()
         for number in range(20):
             self.desktop.copy_text(f"owner {number}")
-            time.sleep(0.025)  # The pace is what is tested.
+            time.sleep(0.025 * SLOWER)  # The pace is what is tested.
         self.wait_for_texts("owner 19")
         self.assertEqual(self.ravelo.texts(), [f"owner {n}" for n in range(19, -1, -1)])
 
@@ -264,7 +268,7 @@ class HungOwner(ProgramCase):
     """Owners of the clipboard that never finish an answer, while a text field has the keyboard."""
 
     # Seconds for which the main thread may be away; sanitizers make everything slower.
-    STALL_LIMIT = 0.05 * float(os.environ.get("RAVELO_SLOWER", 1))
+    STALL_LIMIT = 0.05 * SLOWER
     BEHAVIOURS = ("silent", "targetsOnly", "stallsInPieces", "dieAfterTargets")
 
     def own(self, behaviour):

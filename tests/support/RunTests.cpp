@@ -39,6 +39,7 @@ private:
 } // namespace
 
 int runTests(int argc, char** argv) {
+    qputenv("DBUS_SESSION_BUS_ADDRESS", "unix:path=/nowhere"); // The user's is not ours to use.
     const QGuiApplication application(argc, argv);
     qInstallMessageHandler(WarningsFail::handle);
     testing::UnitTest::GetInstance()->listeners().Append(new WarningsFail); // gtest owns it.

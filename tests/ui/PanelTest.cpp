@@ -536,9 +536,11 @@ protected:
         EXPECT_TRUE(green.save(world.store.imagePath(u"there.png"_s)));
     }
 
-    // Qt frees the texture of a picture that is gone with the next frame only.
+    // Qt frees the texture of a picture that nobody shows with the next frame only.
     ~PanelWithImages() override {
         close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        view.window().releaseResources();
         view.window().grabWindow();
     }
 
