@@ -63,9 +63,9 @@ SCENES = [
         ("toast", ".toast", ALL),
     ]),
     ("question", "04-timer-search-confirm.html", ".panel", [
-        ("question/bubble", ".pop", ALL),
-        ("question/bubble/no", ".pop .btn:nth-child(1)", ALL),
-        ("question/bubble/yes", ".pop .btn:nth-child(2)", ALL),
+        ("clearQuestion/bubble", ".pop", ALL),
+        ("clearQuestion/bubble/no", ".pop .btn:nth-child(1)", ALL),
+        ("clearQuestion/bubble/yes", ".pop .btn:nth-child(2)", ALL),
     ]),
     ("empty", "05-clipboard-empty.html", ".panel", [
         ("emptyDisc", ".empty .o", ALL),

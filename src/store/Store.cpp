@@ -224,6 +224,25 @@ void Store::updateSnippet(const Snippet& snippet) {
     }
 }
 
+void Store::addSnippet(const Snippet& snippet) {
+    data_.snippets.append(snippet);
+    save();
+    Q_EMIT snippetsChanged();
+}
+
+void Store::removeSnippet(const QUuid& id) {
+    const auto found = std::ranges::find(data_.snippets, id, &Snippet::id);
+    if (found != data_.snippets.end()) {
+        const Snippet removed = *found;
+        data_.snippets.erase(found);
+        if (!removed.imageFileName.isEmpty()) {
+            removeImages({removed.imageFileName});
+        }
+        save();
+        Q_EMIT snippetsChanged();
+    }
+}
+
 void Store::addToShelf(const QList<QUrl>& urls) {
     if (auto shelf = shelf_.added(urls)) {
         setShelf(std::move(*shelf));

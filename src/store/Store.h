@@ -81,11 +81,18 @@ public:
     /// Takes away all unpinned clips, also those that are still on their way.
     Q_INVOKABLE void clearClips();
     void updateSnippet(const Snippet& snippet);
+    /// Appends it.
+    void addSnippet(const Snippet& snippet);
+    /// Takes it away with its image.
+    Q_INVOKABLE void removeSnippet(const QUuid& id);
 
     /// Writes the image now on the pasteboard to the clips folder and calls `done` with its file
     /// name, or with an empty one where there is no image. Later, never from within the call. When
     /// the handle is dropped before that, `done` is not called and no file stays.
     [[nodiscard]] Handle saveClipboardImageForSnippet(std::function<void(QString)> done);
+
+    /// Deletes files of the clips folder that nothing refers to any more.
+    void removeImages(const QStringList& imageFileNames);
 
     /// As the rules of `Shelf` have it; nothing is saved where nothing changes.
     void addToShelf(const QList<QUrl>& urls);
@@ -157,7 +164,6 @@ private:
     void apply(std::optional<ClipChange> change);
     void tellKept(const QString& text, const Kept& kept) const; ///< For a text.
     void setShelf(Shelf shelf);
-    void removeImages(const QStringList& imageFileNames);
     void write();
     void finishTimer();
     void tell(void (Store::*changed)()); ///< A signal, and then `onTimerChange`.

@@ -33,7 +33,7 @@ QString icon(ClipKind kind) {
 } // namespace
 
 ClipListModel::ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale)
-    : store_(store), scheduler_(scheduler), clipSearch_(locale), relativeDate_(locale) {
+    : store_(store), scheduler_(scheduler), textSearch_(locale), relativeDate_(locale) {
     connect(&store, &Store::clipsChanged, this, &ClipListModel::update);
     update();
 }
@@ -72,6 +72,7 @@ void ClipListModel::setSearch(const QString& search) {
         return;
     }
     search_ = search;
+    textSearch_.setWanted(search);
     Q_EMIT searchChanged();
     update();
 }
@@ -88,10 +89,23 @@ QUuid ClipListModel::idAt(int row) const {
 
 void ClipListModel::update() {
     const int before = count();
-    takeOver(clipSearch_.filtered(store_.clips(), search_));
+    takeOver(found());
     if (count() != before) {
         Q_EMIT countChanged();
     }
+}
+
+QList<ClipItem> ClipListModel::found() {
+    if (search_.isEmpty()) {
+        return store_.clips();
+    }
+    QList<ClipItem> found;
+    for (const ClipItem& clip : store_.clips()) {
+        if (textSearch_.finds(clip.id, clip.text)) {
+            found.append(clip);
+        }
+    }
+    return found;
 }
 
 QString ClipListModel::subtitle(const ClipItem& clip) const {

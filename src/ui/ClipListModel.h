@@ -1,9 +1,10 @@
 #pragma once
 
 #include "base/Scheduler.h"
-#include "ui/ClipSearch.h"
+#include "store/Records.h"
 #include "ui/KeyedListModel.h"
 #include "ui/RelativeDate.h"
+#include "ui/TextSearch.h"
 
 #include <QQmlEngine>
 
@@ -53,11 +54,12 @@ Q_SIGNALS:
 
 private:
     void update();
+    [[nodiscard]] QList<ClipItem> found();
     [[nodiscard]] QString subtitle(const ClipItem& clip) const;
 
     Store& store_;
     const Scheduler& scheduler_;
-    ClipSearch clipSearch_;
+    TextSearch textSearch_;
     RelativeDate relativeDate_;
     QString search_;
 };

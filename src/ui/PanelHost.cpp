@@ -25,7 +25,8 @@ const Record* findById(const QList<Record>& records, const QUuid& id) {
 PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
     : subjects_(subjects),
       clips_(subjects.store, subjects.scheduler, locale),
-      snippets_(subjects.store),
+      snippets_(subjects.store, locale),
+      snippetEditor_(subjects.store),
       pasting_(subjects.pasteboard),
       toast_(subjects.scheduler),
       timerFace_(subjects.store, subjects.scheduler),
@@ -123,6 +124,8 @@ void PanelHost::startAnew() {
     setHasContent(false);
     toast_.reset();
     clips_.setSearch({});
+    snippets_.setSearch({});
+    snippetEditor_.cancel();
     setContentSize(sizeToOpenWith());
     building_ = subjects_.scheduler.after(buildDelay, [this] { setHasContent(true); });
 }

@@ -7,6 +7,7 @@
 #include "ui/ClipListModel.h"
 #include "ui/PanelBackground.h"
 #include "ui/Pasting.h"
+#include "ui/SnippetEditor.h"
 #include "ui/SnippetListModel.h"
 #include "ui/TimerFace.h"
 #include "ui/Toast.h"
@@ -31,6 +32,7 @@ class PanelHost : public QObject {
     Q_PROPERTY(ravelo::NotchController* controller READ controller CONSTANT)
     Q_PROPERTY(ravelo::ClipListModel* clips READ clips CONSTANT)
     Q_PROPERTY(ravelo::SnippetListModel* snippets READ snippets CONSTANT)
+    Q_PROPERTY(ravelo::SnippetEditor* snippetEditor READ snippetEditor CONSTANT)
     Q_PROPERTY(ravelo::Pasting* pasting READ pasting CONSTANT)
     Q_PROPERTY(ravelo::Toast* toast READ toast CONSTANT)
     Q_PROPERTY(ravelo::TimerFace* timerFace READ timerFace CONSTANT)
@@ -63,6 +65,8 @@ public:
     [[nodiscard]] ClipListModel* clips() { return &clips_; }
 
     [[nodiscard]] SnippetListModel* snippets() { return &snippets_; }
+
+    [[nodiscard]] SnippetEditor* snippetEditor() { return &snippetEditor_; }
 
     [[nodiscard]] Pasting* pasting() { return &pasting_; }
 
@@ -128,6 +132,7 @@ private:
     Subjects subjects_;
     ClipListModel clips_;
     SnippetListModel snippets_;
+    SnippetEditor snippetEditor_;
     Pasting pasting_;
     Toast toast_;
     TimerFace timerFace_;

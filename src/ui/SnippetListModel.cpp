@@ -4,9 +4,10 @@
 
 namespace ravelo {
 
-SnippetListModel::SnippetListModel(Store& store) {
-    connect(&store, &Store::snippetsChanged, this, [this, &store] { takeOver(store.snippets()); });
-    takeOver(store.snippets());
+SnippetListModel::SnippetListModel(Store& store, const QLocale& locale)
+    : store_(store), locale_(locale) {
+    connect(&store, &Store::snippetsChanged, this, &SnippetListModel::update);
+    update();
 }
 
 QVariant SnippetListModel::data(const QModelIndex& index, int role) const {
@@ -28,6 +29,23 @@ QVariant SnippetListModel::data(const QModelIndex& index, int role) const {
 
 QHash<int, QByteArray> SnippetListModel::roleNames() const {
     return {{snippetIdRole, "snippetId"}, {titleRole, "title"}, {iconRole, "icon"}};
+}
+
+void SnippetListModel::setSearch(const QString& search) {
+    search_ = search;
+    update();
+}
+
+void SnippetListModel::update() {
+    TextSearch search(locale_); // Anew each time: the texts change, and are few and short.
+    search.setWanted(search_);
+    QList<Snippet> found;
+    for (const Snippet& snippet : store_.snippets()) {
+        if (search.finds(snippet.id, snippet.title + u'\n' + snippet.body)) {
+            found.append(snippet);
+        }
+    }
+    takeOver(found);
 }
 
 } // namespace ravelo

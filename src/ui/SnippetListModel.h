@@ -2,6 +2,7 @@
 
 #include "store/Records.h"
 #include "ui/KeyedListModel.h"
+#include "ui/TextSearch.h"
 
 #include <QQmlEngine>
 
@@ -9,7 +10,8 @@ namespace ravelo {
 
 class Store;
 
-/// The snippets as the panel's strip shows them. Main thread.
+/// The snippets as the panel's strip shows them: those whose title or body contains `search`. Main
+/// thread.
 class SnippetListModel : public KeyedListModel<Snippet> {
     Q_OBJECT
     QML_ELEMENT
@@ -18,10 +20,19 @@ class SnippetListModel : public KeyedListModel<Snippet> {
 public:
     enum Role { snippetIdRole = Qt::UserRole, titleRole, iconRole };
 
-    explicit SnippetListModel(Store& store);
+    SnippetListModel(Store& store, const QLocale& locale);
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    Q_INVOKABLE void setSearch(const QString& search);
+
+private:
+    void update();
+
+    Store& store_;
+    QLocale locale_;
+    QString search_;
 };
 
 } // namespace ravelo

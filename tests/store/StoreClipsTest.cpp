@@ -139,19 +139,75 @@ TEST_F(StoreClips, NameFromTheFileNeverReachesOutsideTheFolder) {
     EXPECT_TRUE(QFile::exists(storeFile()));
 }
 
-TEST_F(StoreClips, SnippetIsReplacedWhole) {
-    const Told told(store_.get(), &Store::snippetsChanged);
-    store_->updateSnippet({QUuid::createUuid(), u"new"_s, {}, {}, {}});
-    EXPECT_EQ(store_->snippets().size(), 18);
-    EXPECT_EQ(told.count(), 0);
-    expectNoSave();
+struct SnippetChange {
+    const char* name;
+    void (*change)(Store& store, const QUuid& id);
+    QString titles; ///< Of three snippets "a", "b", "c" when `change` was given the id of "b".
+    QStringList images;
+};
 
-    const Snippet changed = {store_->snippets()[3].id, u"T"_s, u"B"_s, u"car"_s, u"P.png"_s};
-    store_->updateSnippet(changed);
-    EXPECT_EQ(told.count(), 1);
+const Snippet someSnippet = {QUuid::createUuid(), u"new"_s, u"B"_s, u"car"_s, {}};
+
+class StoreSnippets : public StoreClips, public testing::WithParamInterface<SnippetChange> {
+protected:
+    [[nodiscard]] static QString titlesOf(const QList<Snippet>& snippets) {
+        QStringList titles;
+        for (const Snippet& snippet : snippets) {
+            titles.append(snippet.title);
+        }
+        return titles.join(u' ');
+    }
+};
+
+TEST_P(StoreSnippets, AreSavedWhereTheyChange) {
+    StoreData data;
+    for (const char* title : {"a", "b", "c"}) {
+        data.snippets.append({QUuid::createUuid(), QString::fromLatin1(title), {}, {}, {}});
+    }
+    data.snippets[1].imageFileName = u"b.png"_s;
+    ASSERT_TRUE(writeFileAtomically(storeFile(), encodeStore(data)));
+    start();
+    ASSERT_TRUE(writeFileAtomically(store_->imagePath(u"b.png"_s), "picture"));
     settle();
-    EXPECT_EQ(saved().snippets[3], changed);
+    const Told told(store_.get(), &Store::snippetsChanged);
+    GetParam().change(*store_, data.snippets[1].id);
+    const bool changes = GetParam().titles != u"a b c"_s;
+    EXPECT_EQ(told.count(), changes ? 1 : 0);
+    EXPECT_EQ(scheduler_.pending(), changes ? 1 : 0) << "of saves";
+    settle();
+    EXPECT_EQ(titlesOf(saved().snippets), GetParam().titles);
+    EXPECT_EQ(saved().snippets, store_->snippets());
+    EXPECT_EQ(imageFiles(), GetParam().images);
 }
+
+INSTANTIATE_TEST_SUITE_P(
+    All, StoreSnippets,
+    testing::Values(
+        SnippetChange{"added",
+                      [](Store& store, const QUuid&) { store.addSnippet(someSnippet); },
+                      u"a b c new"_s,
+                      {u"b.png"_s}},
+        SnippetChange{"replacedWhole",
+                      [](Store& store, const QUuid& id) {
+                          Snippet changed = someSnippet;
+                          changed.id = id;
+                          store.updateSnippet(changed);
+                      },
+                      u"a new c"_s,
+                      {u"b.png"_s}},
+        SnippetChange{"updatedButNotThere",
+                      [](Store& store, const QUuid&) { store.updateSnippet(someSnippet); },
+                      u"a b c"_s,
+                      {u"b.png"_s}},
+        SnippetChange{"removedWithItsImage",
+                      [](Store& store, const QUuid& id) { store.removeSnippet(id); },
+                      u"a c"_s,
+                      {}},
+        SnippetChange{"removedButNotThere",
+                      [](Store& store, const QUuid&) { store.removeSnippet(someSnippet.id); },
+                      u"a b c"_s,
+                      {u"b.png"_s}}),
+    [](const auto& row) { return row.param.name; });
 
 class SnippetImage : public StoreClips {
 protected:

@@ -77,6 +77,9 @@ public:
         return shown(name);
     }
 
+    /// What is named so inside of another.
+    QQuickItem* in(const QString& outer, const QString& name) { return find(item(outer), name); }
+
     void clickOn(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
         const QQuickItem* target = item(name);
         click(view.window(), target->mapToScene(target->boundingRect().center()), button);
@@ -166,7 +169,7 @@ TEST_F(Panel, startsAnewAtEachOpening) {
     world.scheduler.advance(untilBuilt);
     open();
     EXPECT_EQ(text(u"searchInput"_s), QString());
-    EXPECT_EQ(shown(u"question"_s), nullptr);
+    EXPECT_EQ(shown(u"clearQuestion"_s), nullptr);
     EXPECT_NE(shown(u"card2"_s), nullptr);
 }
 
@@ -214,10 +217,11 @@ TEST_P(Clearing, asksFirst) {
     clickOn(u"trash"_s);
     EXPECT_EQ(world.store.clips().size(), 3);
     EXPECT_TRUE(world.window.focused) << "Return would go elsewhere";
-    item(u"question"_s);
-    GetParam().answer(view.window(), item(u"yes"_s), item(u"no"_s));
+    item(u"clearQuestion"_s);
+    GetParam().answer(view.window(), in(u"clearQuestion"_s, u"yes"_s),
+                      in(u"clearQuestion"_s, u"no"_s));
     EXPECT_EQ(world.store.clips().size(), GetParam().left);
-    EXPECT_TRUE(eventually([this] { return shown(u"question"_s) == nullptr; }));
+    EXPECT_TRUE(eventually([this] { return shown(u"clearQuestion"_s) == nullptr; }));
     EXPECT_TRUE(world.controller.isOpen());
 }
 

@@ -57,6 +57,9 @@ QtObject {
     readonly property color pinnedTile: withAlpha(yellow, 0.13)
 
     readonly property color floating: "#2A2A2F"
+    readonly property color floatingField: white(0.06)
+    readonly property color floatingFieldLine: white(0.09)
+    readonly property color sheet: "#26262B"
     readonly property color tooltip: "#111114"
     readonly property color primary: white(0.94)
     readonly property color primaryHovered: white(1)
@@ -128,7 +131,7 @@ QtObject {
     readonly property int entering: fade(260)
     readonly property int leaving: fade(180)
     readonly property int springing: fade(450)
-    readonly property int sheet: fade(500)
+    readonly property int sheetMoving: fade(500)
     readonly property int toastLeaving: fade(200)
     readonly property int floatingIn: fade(120)
     readonly property int floatingOut: fade(80)

@@ -7,20 +7,24 @@ Pressable {
 
     property alias text: label.text
     property bool primary: false
+    property bool large: false
+    property real sidePad: large ? 16 : 12
+    /// Room before the text, for a symbol.
+    property real lead: 0
 
     name: text
-    implicitWidth: Math.max(64, label.implicitWidth + 24)
-    implicitHeight: 28
-    radius: 14
+    implicitWidth: Math.max(64, lead + label.implicitWidth + 2 * sidePad)
+    implicitHeight: large ? 32 : 28
+    radius: height / 2
     rest: primary ? Theme.primary : Theme.surface3
     hover: primary ? Theme.primaryHovered : Theme.surface4
     press: primary ? Theme.primaryPressed : Theme.pressedButton
 
     Label {
         id: label
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: (parent.height - 16) / 2
-        style: Theme.button
+        x: button.lead + (button.width - button.lead - width) / 2
+        y: (button.height - 16) / 2
+        style: button.large ? Theme.strong : Theme.button
         color: button.primary ? Theme.onWhite : Theme.text1
     }
 }

@@ -1,7 +1,7 @@
 import QtQuick
 import Ravelo
 
-/// Text of many lines without any frame, in the style of a note.
+/// Text of many lines without any frame.
 TextEdit {
     id: area
 
@@ -9,10 +9,11 @@ TextEdit {
 
     /// What it is called where it cannot be seen.
     property string name
+    property TextStyle style: Theme.note
 
     Accessible.role: Accessible.EditableText
     Accessible.name: name
-    font: Theme.note.font
+    font: style.font
     color: Theme.noteText
     textFormat: TextEdit.PlainText
     wrapMode: TextEdit.Wrap
@@ -20,12 +21,12 @@ TextEdit {
     selectedTextColor: Theme.text1
     selectByMouse: true
     // The fixed line height puts the base line four fifths down, the style elsewhere.
-    topPadding: Theme.note.baseLine(1) - Theme.note.line * 0.8
+    topPadding: style.baseLine(1) - style.line * 0.8
     cursorDelegate: Caret {}
 
     LineSpacing {
         document: area.textDocument
-        line: Theme.note.line
+        line: area.style.line
     }
 
     Keys.onPressed: event => {

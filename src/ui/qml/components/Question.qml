@@ -11,7 +11,6 @@ Popover {
 
     signal accepted
 
-    objectName: "question"
     pad: 14
     contentWidth: Math.max(label.implicitWidth + 2, buttons.width)
     contentHeight: 58

@@ -12,15 +12,15 @@ FocusScope {
 
     /// Takes the search away; false where there is none.
     function clearSearch(): bool {
-        const had = field.input.text !== "";
-        field.input.clear();
+        const had = field.edited.text !== "";
+        field.edited.clear();
         return had;
     }
 
     /// The keyboard goes to the search, with all of it selected.
     function search() {
-        field.input.forceActiveFocus();
-        field.input.selectAll();
+        field.edited.forceActiveFocus();
+        field.edited.selectAll();
     }
 
     function copy(row: int) {
@@ -58,7 +58,7 @@ FocusScope {
             copyAndClose(event.key - Qt.Key_1);
         } else if (control && event.key === Qt.Key_P) {
             host.store.togglePin(selected);
-        } else if (event.key === Qt.Key_Delete && field.input.text === "") {
+        } else if (event.key === Qt.Key_Delete && field.edited.text === "") {
             host.store.deleteClip(selected);
         } else {
             return;
@@ -86,15 +86,13 @@ FocusScope {
         objectName: "search"
         width: parent.width
         host: tab.host
-        input.onTextChanged: tab.select(0)
-        input.Keys.forwardTo: [tab]
+        edited.onTextChanged: tab.select(0)
+        edited.Keys.forwardTo: [tab]
     }
 
     SnippetStrip {
-        objectName: "strip"
         y: 40
-        width: parent.width - 36
-        height: 28
+        width: parent.width
         host: tab.host
     }
 

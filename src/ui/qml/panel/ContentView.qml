@@ -112,6 +112,11 @@ FocusScope {
         }
     }
 
+    SnippetSheet {
+        anchors.fill: parent
+        host: content.host
+    }
+
     ToastCapsule {
         anchors.horizontalCenter: parent.horizontalCenter
         y: parent.height - height - 26

@@ -25,22 +25,17 @@ FocusScope {
         lineColor: editor.activeFocus ? Theme.withAlpha(Theme.accent, 0.45) : Theme.line
         lineWidth: 1
 
-        Flickable {
-            id: view
+        ScrolledEdit {
             anchors.fill: parent
             anchors.margins: 11
-            clip: true
-            boundsBehavior: Flickable.StopAtBounds
-            contentWidth: width
-            contentHeight: editor.height
+            edit: editor
 
             EditArea {
                 id: editor
                 objectName: "noteInput"
                 focus: true
                 name: "Quick note"
-                width: view.width
-                height: Math.max(implicitHeight, view.height)
+                width: parent.width
                 host: tab.host
                 text: tab.host.store.note
                 // By the user only: what the editor makes of a stored note is no change of it.
@@ -49,12 +44,6 @@ FocusScope {
                         tab.host.store.note = text;
                         tab.host.store.save();
                     }
-                }
-                onCursorRectangleChanged: {
-                    const lowest = cursorRectangle.y;
-                    const highest = lowest + cursorRectangle.height - view.height;
-                    const wanted = Math.max(highest, Math.min(view.contentY, lowest));
-                    view.contentY = Math.max(0, Math.min(wanted, view.contentHeight - view.height));
                 }
             }
         }

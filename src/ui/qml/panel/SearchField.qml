@@ -2,33 +2,15 @@ import QtQuick
 import Ravelo
 
 /// The search over the clipboard history, with the button that clears it.
-Surface {
+FieldFrame {
     id: field
 
     required property PanelHost host
-    property alias input: input
+    property alias edited: line
 
+    input: line
     implicitHeight: 32
     radius: Theme.radiusRow
-    rest: Theme.surface2
-    hover: Theme.hoveredField
-    press: Theme.hoveredField
-    hovered: hover.hovered && !input.activeFocus
-    lineColor: input.activeFocus ? Theme.withAlpha(Theme.accent, 0.55) : Theme.line
-    lineWidth: 1
-
-    HoverHandler {
-        id: hover
-    }
-
-    Box {
-        visible: input.activeFocus
-        anchors.fill: parent
-        anchors.margins: -3
-        radius: parent.radius + 3
-        lineColor: Theme.withAlpha(Theme.accent, 0.16)
-        lineWidth: 3
-    }
 
     Glyph {
         objectName: "searchIcon"
@@ -39,7 +21,7 @@ Surface {
     }
 
     EditLine {
-        id: input
+        id: line
         objectName: "searchInput"
         focus: true
         x: 36
@@ -47,7 +29,10 @@ Surface {
         height: parent.height
         host: field.host
         placeholder: "Search clipboard…"
-        onTextChanged: field.host.clips.search = text
+        onTextChanged: {
+            field.host.clips.search = text;
+            field.host.snippets.setSearch(text);
+        }
     }
 
     Pressable {
@@ -79,6 +64,7 @@ Surface {
 
     Question {
         id: question
+        objectName: "clearQuestion"
         host: field.host
         text: "Clear clipboard history?"
         yesFirst: true

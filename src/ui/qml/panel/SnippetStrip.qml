@@ -3,42 +3,110 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Ravelo
 
-/// The snippets, one chip each; a click copies.
-FadingEdge {
+/// The snippets side by side, and at the end a button for a new one.
+Item {
     id: strip
 
     required property PanelHost host
+    /// The snippet that the menu and the question are about.
+    property var chosen
 
-    edge: FadingEdge.Right
-    length: Math.min(40, Math.max(0, list.contentWidth - list.contentX - list.width))
+    implicitHeight: 28
 
-    ListView {
-        id: list
-        anchors.fill: parent
-        orientation: ListView.Horizontal
-        spacing: 6
-        clip: true
-        boundsBehavior: Flickable.StopAtBounds
-        model: strip.host.snippets
+    FadingEdge {
+        objectName: "strip"
+        width: parent.width - 36
+        height: parent.height
+        edge: FadingEdge.Right
+        length: Math.min(40, Math.max(0, list.contentWidth - list.contentX - width))
 
-        delegate: Chip {
-            required property int index
-            required property var snippetId
-            required property string icon
-            required title
+        ListView {
+            id: list
+            // Room for the ring around a chip.
+            anchors.fill: parent
+            anchors.margins: -4
+            anchors.rightMargin: 0
+            leftMargin: 4
+            Accessible.role: Accessible.List
+            Accessible.name: "Snippets"
+            activeFocusOnTab: count > 0
+            orientation: ListView.Horizontal
+            spacing: 6
+            clip: true
+            boundsBehavior: Flickable.StopAtBounds
+            highlightMoveDuration: Theme.move(200)
+            model: strip.host.snippets
 
-            objectName: "chip" + index
-            symbol: icon
-            onClicked: strip.host.copySnippet(snippetId)
-        }
+            delegate: SnippetChip {
+                required property int index
+                required property var snippetId
+                required property string icon
+                required title
 
-        // A wheel turns what lies sideways.
-        WheelHandler {
-            onWheel: event => {
-                const step = event.angleDelta.y + event.angleDelta.x;
-                const end = Math.max(0, list.contentWidth - list.width);
-                list.contentX = Math.max(0, Math.min(list.contentX - step, end));
+                function askToRemove() {
+                    strip.chosen = snippetId;
+                    question.openUnder(this);
+                }
+
+                objectName: "chip" + index
+                y: 4
+                symbol: icon
+                onClicked: strip.host.copySnippet(snippetId)
+                onEditRequested: strip.host.snippetEditor.edit(snippetId)
+                onRemoveRequested: askToRemove()
+                onMenuRequested: (place, byKey) => {
+                    menu.chip = this;
+                    menu.openAt(mapToItem(menu.parent, place.x, place.y), false, byKey);
+                }
+            }
+
+            // A wheel turns what lies sideways.
+            WheelHandler {
+                onWheel: event => {
+                    const step = event.angleDelta.y + event.angleDelta.x;
+                    const end = Math.max(-4, list.contentWidth - list.width);
+                    list.contentX = Math.max(-4, Math.min(list.contentX - step, end));
+                }
             }
         }
+    }
+
+    Pressable {
+        objectName: "addSnippet"
+        name: "New snippet"
+        x: parent.width - width
+        width: 28
+        height: 28
+        radius: 14
+        rest: Theme.surface2
+        onClicked: strip.host.snippetEditor.editNew()
+
+        Glyph {
+            anchors.centerIn: parent
+            size: 17
+            symbol: "plus"
+            color: parent.hovered ? Theme.text1 : Theme.text2 // qmllint disable missing-property
+        }
+    }
+
+    Menu {
+        id: menu
+
+        property SnippetChip chip
+
+        objectName: "snippetMenu"
+        host: strip.host
+        entries: [
+            { text: "Edit", chosen: () => chip.editRequested() },
+            { text: "Remove", chosen: () => chip.removeRequested() }
+        ]
+    }
+
+    Question {
+        id: question
+        objectName: "deleteQuestion"
+        host: strip.host
+        text: "Delete snippet?"
+        onAccepted: strip.host.store.removeSnippet(strip.chosen)
     }
 }

@@ -41,6 +41,7 @@ Item {
 
     Question {
         id: reminderQuestion
+        objectName: "reminderQuestion"
         host: bar.host
         onAccepted: bar.host.store.reminderOpen = !bar.host.store.reminderOpen
     }

@@ -1,0 +1,33 @@
+import QtQuick
+import Ravelo
+
+/// The frame of a text field, lit while `input` has the keyboard.
+Surface {
+    id: frame
+
+    required property Item input
+    /// It stands on something that floats, not on the panel.
+    property bool floats: false
+
+    radius: Theme.radiusSmall
+    rest: floats ? Theme.floatingField : Theme.surface2
+    hover: Theme.hoveredField
+    press: Theme.hoveredField
+    hovered: hover.hovered && !input.activeFocus
+    lineColor: input.activeFocus ? Theme.withAlpha(Theme.accent, floats ? 0.60 : 0.55)
+                                 : floats ? Theme.floatingFieldLine : Theme.line
+    lineWidth: 1
+
+    HoverHandler {
+        id: hover
+    }
+
+    Box {
+        visible: frame.input.activeFocus
+        anchors.fill: parent
+        anchors.margins: -3
+        radius: parent.radius + 3
+        lineColor: Theme.withAlpha(Theme.accent, frame.floats ? 0.18 : 0.16)
+        lineWidth: 3
+    }
+}
