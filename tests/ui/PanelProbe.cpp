@@ -174,6 +174,22 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         send(window, QEvent::MouseMove, {643, 417});
     } else if (scene == u"question") {
         click(window, middle(window, u"trash"_s));
+    } else if (scene == u"chip") {
+        send(window, QEvent::MouseMove, middle(window, u"chip1"_s));
+    } else if (scene == u"menu") {
+        click(window, middle(window, u"chip1"_s), Qt::RightButton);
+        send(window, QEvent::MouseMove, middle(window, u"item0"_s));
+    } else if (scene == u"editor") {
+        Snippet snippet = world.store.snippets()[6];
+        snippet.imageFileName = u"plan.png"_s;
+        world.store.updateSnippet(snippet);
+        view.host().snippetEditor()->edit(snippet.id);
+        settle(2500);
+        return;
+    } else if (scene == u"editor-new") {
+        click(window, middle(window, u"addSnippet"_s));
+        settle(2500);
+        return;
     } else if (scene == u"toast") {
         click(window, middle(window, u"card2"_s));
         send(window, QEvent::MouseMove, {5, 300});
