@@ -36,7 +36,7 @@ bool isDoneElsewhere(Command command, int argc, char** argv) {
 
 int run(Command command, int argc, char** argv) {
     x11::prepareApplication();
-    QGuiApplication application(argc, argv);
+    const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(u"ravelo"_s);
     QGuiApplication::setApplicationDisplayName(u"Ravelo"_s);
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -8,7 +8,6 @@
 
 #include <QBuffer>
 #include <QImageReader>
-#include <QPointer>
 #include <QUrl>
 
 #include <algorithm>
@@ -74,8 +73,8 @@ void ClipboardManager::capture(qint64 count, const PasteboardSnapshot& snapshot)
     if (isConcealed(snapshot)) {
         return;
     }
-    auto kept = [this, alive = QPointer(&context_), count](const QUuid& clip) {
-        if (alive) {
+    auto kept = [this, life = std::weak_ptr(life_), count](const QUuid& clip) {
+        if (!life.expired()) {
             captured_ = {count, clip};
             offerAgain(); // The owner may have ended while an image was being written.
         }

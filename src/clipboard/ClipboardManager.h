@@ -7,6 +7,7 @@
 #include <QUuid>
 
 #include <map>
+#include <memory>
 #include <optional>
 
 class QUrl;
@@ -60,6 +61,7 @@ private:
     Handle timer_;
     Handle notice_;
     QObject context_;
+    std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true);
     std::map<qint64, Handle>
         reads_; ///< By change count; those up to the newest answer are settled.
 };

@@ -56,7 +56,7 @@ public:
         worker.drain();
     }
 
-    QStringList texts() const {
+    [[nodiscard]] QStringList texts() const {
         QStringList list;
         for (const ClipItem& clip : store.clips()) {
             list.append(clip.text);

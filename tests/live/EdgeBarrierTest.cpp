@@ -26,18 +26,18 @@ protected:
                            u"mousemove_relative"_s, u"--"_s, QString::number(motion.x()),
                            QString::number(motion.y())});
         static_cast<void>(hand.finish());
-        return look(*connection).value().location;
+        return look(*connection_).value().location;
     }
 
-    std::unique_ptr<Connection> connection = std::move(Connection::create().value());
-    X11EdgeBarrier barrier{*connection, [](QPointF place) {
+    std::unique_ptr<Connection> connection_ = std::move(Connection::create().value());
+    X11EdgeBarrier barrier_{*connection_, [](QPointF place) {
                                return place.toPoint();
                            }};
 };
 
 TEST_P(Crossing, isHeldFromBelowOnly) {
-    ASSERT_TRUE(barrier.isTrusted());
-    auto held = barrier.hold({100, 10, 400, 10});
+    ASSERT_TRUE(barrier_.isTrusted());
+    auto held = barrier_.hold({100, 10, 400, 10});
     ASSERT_TRUE(held) << qPrintable(held.error().message);
     EXPECT_EQ(moved(), GetParam().arrives);
     held->reset();

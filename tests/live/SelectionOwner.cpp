@@ -26,7 +26,7 @@ namespace {
 using Bytes = std::vector<uint8_t>;
 
 /// Larger values go in pieces of this size (ICCCM 2.7.2).
-constexpr std::size_t pieceSize = 256 * 1024;
+constexpr std::size_t pieceSize = 1 << 18;
 
 struct Transfer {
     xcb_window_t requestor;

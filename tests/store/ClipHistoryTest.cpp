@@ -12,7 +12,7 @@ namespace {
 /// ends in ".png" stands for an image.
 QList<ClipItem> list(const QString& shorthand) {
     QList<ClipItem> clips;
-    for (QString word : shorthand.split(u' ', Qt::SkipEmptyParts)) {
+    for (const QString& word : shorthand.split(u' ', Qt::SkipEmptyParts)) {
         const bool pinned = word.startsWith(u'*');
         const QStringList parts = word.mid(pinned ? 1 : 0).split(u'@');
         const bool image = parts[0].endsWith(u".png"_s);

@@ -57,7 +57,7 @@ void PrintTo(const Edit& edit, std::ostream* out) {
 QByteArray edited(const Edit& edit) {
     const qsizetype place = someFile.indexOf(edit.before);
     EXPECT_GE(place, 0) << edit.before << " is not in the file";
-    return QByteArray(someFile).replace(place, qstrlen(edit.before), edit.after);
+    return QByteArray(someFile).replace(place, QByteArrayView(edit.before).size(), edit.after);
 }
 
 class UndecodableFile : public testing::TestWithParam<Edit> {};
@@ -155,9 +155,9 @@ INSTANTIATE_TEST_SUITE_P(
                     Text{"the other half", u"a"_s + QChar(0xde4c) + u"b"_s},
                     Text{"halves in disorder",
                          QString(QChar(0xde4c)) + QChar(0xd83d) + QChar(0xd83d)},
-                    Text{"5 MB of letters", QString(5 * 1024 * 1024, u'x')},
-                    Text{"5 M of ideographs", QString(5 * 1024 * 1024, QChar(0x4e2d))},
-                    Text{"1 M of escapes", QString(1024 * 1024, QChar(1))}));
+                    Text{"5 MB of letters", QString(5 << 20, u'x')},
+                    Text{"5 M of ideographs", QString(5 << 20, QChar(0x4e2d))},
+                    Text{"1 M of escapes", QString(1 << 20, QChar(1))}));
 
 TEST(StoreFile, KeepsNumbersToTheLastBit) {
     std::vector<double> numbers = {0.1,

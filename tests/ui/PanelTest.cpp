@@ -533,7 +533,7 @@ TEST_F(Panel, anAnswerThatComesAfterTheFieldIsGoneIsDropped) {
 }
 
 class PanelWithImages : public Panel {
-protected:
+public:
     PanelWithImages() : Panel(data()) {
         QImage green(40, 40, QImage::Format_RGB32);
         green.fill(Qt::green);

@@ -2,9 +2,9 @@
 
 #include "Input.h"
 #include "fakes/PanelWorld.h"
+#include "support/Eventually.h"
 #include "support/Told.h"
 #include "timer/TimerString.h"
-#include "support/Eventually.h"
 #include "ui/FittedTexts.h"
 #include "ui/PanelView.h"
 #include "ui/TimerFace.h"
@@ -39,7 +39,7 @@ TEST_F(ShownTimer, tellsEveryFigureOnceAndAtItsTime) {
     for (const double length : {90.4, 60.0, 2.9996, 0.4, 3601.2, 0.0}) {
         figures_.clear();
         QStringList expected;
-        for (double left = std::floor(length); left >= 0; --left) {
+        for (int left = static_cast<int>(length); left >= 0; --left) {
             expected.append(timerString(Seconds(left)));
         }
         store_.startTimer({}, length / 60);

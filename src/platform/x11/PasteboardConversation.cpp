@@ -8,7 +8,7 @@ namespace ravelo::x11 {
 
 namespace {
 
-constexpr qsizetype mebibyte = 1024 * 1024;
+constexpr qsizetype mebibyte = 1 << 20;
 constexpr qsizetype mostTargets = 512;
 
 qsizetype limitFor(const QByteArray& target) {

@@ -8,7 +8,7 @@ namespace ravelo::x11 {
 
 namespace {
 
-constexpr qsizetype mostBytes = 8 * 1024 * 1024;
+constexpr qsizetype mostBytes = 8 << 20;
 
 /// Asks for the list of addresses (RFC 2483) and nothing else: sources of Qt refuse TARGETS while
 /// a drag is on.

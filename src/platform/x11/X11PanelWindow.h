@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/PanelWindow.h"
-#include "platform/x11/ManagerSelection.h"
 #include "platform/x11/InputFocus.h"
+#include "platform/x11/ManagerSelection.h"
 #include "platform/x11/X11Screens.h"
 
 #include <QObject>
