@@ -7,6 +7,10 @@
 #include <QGuiApplication>
 
 #include <cstdio>
+#include <cstdlib>
+
+#include <sys/wait.h>
+#include <unistd.h>
 
 namespace {
 
@@ -28,10 +32,21 @@ QString actionOf(Command command) {
     }
 }
 
-/// Hands the command to the program that is running already, if there is one.
+/// Hands the command to the program that is running already, if there is one. Asks in a process of
+/// its own: only the first application object of a process lets Qt Quick speak to screen readers.
 bool isDoneElsewhere(Command command, int argc, char** argv) {
-    const QCoreApplication application(argc, argv);
-    return SingleInstance::send(actionOf(command));
+    const pid_t child = fork();
+    if (child == 0) {
+        bool sent = false;
+        {
+            const QCoreApplication application(argc, argv);
+            sent = SingleInstance::send(actionOf(command));
+        }
+        std::_Exit(sent ? EXIT_SUCCESS : EXIT_FAILURE);
+    }
+    int status = 0;
+    return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) &&
+           WEXITSTATUS(status) == EXIT_SUCCESS;
 }
 
 int run(Command command, int argc, char** argv) {

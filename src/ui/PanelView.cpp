@@ -34,6 +34,7 @@ QWindow* chooseRenderer() {
 PanelView::PanelView() : view_(chooseRenderer()) {
     keepStemsThin();
     initModule();
+    view_.setTitle(u"Ravelo"_s);
     view_.setColor(Qt::transparent);
     view_.setResizeMode(QQuickView::SizeRootObjectToView);
     view_.engine()->addImportPath(u"qrc:/"_s);

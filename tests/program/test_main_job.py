@@ -4,7 +4,9 @@ RAVELO names the program, QT_PEER the Qt program to copy from and SELECTION_OWNE
 (all made by the build).
 """
 
+import json
 import os
+import pathlib
 import signal
 import statistics
 import subprocess
@@ -18,7 +20,6 @@ from desktop import WIDTH, Desktop, Ravelo, wait_for
 CAPTURE_LIMIT = 0.9  # Seconds from the copy to store.json: at most one poll and one debounce.
 SAVE_DELAY = 0.4
 SEARCH, FIRST_ROW, ROW = 220, 300, 40  # Their middles from the top; the height of a row.
-
 
 # How much longer than usual the program may take, where it is built to be checked.
 SLOWER = int(os.environ.get("RAVELO_SLOWER", 1))
@@ -226,6 +227,114 @@ class Panel(ProgramCase):
         self.desktop.type("a")
         self.assertEqual(window.stdout.readline().strip(), "a", "typed into the other window")
         self.assertEqual(self.desktop.focused_window(), focus)
+
+
+class Keyboard(ProgramCase):
+    def setUp(self):
+        super().setUp()
+        # What opens links on this desktop.
+        browser = self.desktop.home / "bin" / "xdg-open"
+        browser.parent.mkdir()
+        browser.write_text(f'#!/bin/sh\necho "$1" >> {self.desktop.home}/opened\n')
+        browser.chmod(0o700)
+        self.desktop.env["PATH"] = f"{browser.parent}:{self.desktop.env['PATH']}"
+        self.window = self.desktop.gtk("window")
+        self.focus = self.desktop.focused_window()
+        self.ravelo.start()
+        self.copy_and_wait("fourth", "https://example.org/x", "second", "first")
+
+    def toggle(self):
+        self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
+        panel = wait_for(self.ravelo.is_open, "the open panel")
+        wait_for(lambda: self.desktop.focused_window() == str(panel.window), "the keyboard in it")
+
+    def press(self, *keys):
+        for key in keys:
+            self.desktop.key(key)
+
+    def closed_with(self, text):
+        wait_for(self.ravelo.is_collapsed, "the panel to close")
+        wait_for(lambda: self.desktop.focused_window() == self.focus, "the keyboard back")
+        self.assertEqual(self.desktop.paste_text(), text)
+
+    def test_every_key_of_the_list_once(self):
+        for keys, copied in ((["Down", "Return"], "second"), (["ctrl+4"], "fourth"),
+                             (["Next", "Up", "Up", "Return"], "second"),
+                             (["Down", "Prior", "Return"], "first")):
+            with self.subTest(keys):
+                self.toggle()
+                self.press(*keys)
+                self.closed_with(copied)
+        self.toggle()
+        self.press("Down", "Down", "ctrl+p")
+        wait_for(lambda: self.ravelo.texts()[0] == "https://example.org/x", "the link pinned")
+        self.press("Up", "Up", "Up", "ctrl+Return")
+        opened = self.desktop.home / "opened"
+        wait_for(lambda: opened.exists() and opened.read_text() == "https://example.org/x\n",
+                 "the link in the browser")
+        wait_for(self.ravelo.is_collapsed, "the panel to close")
+
+        self.toggle()
+        self.desktop.type("zzz")
+        self.press("Escape")
+        self.desktop.type("FOUR")
+        self.press("Delete", "Return")  # Delete belongs to the search while there is one.
+        self.closed_with("fourth")
+        self.toggle()
+        self.press("Down", "Delete")
+        # Pinning has put the oldest first.
+        wait_for(lambda: "fourth" not in self.ravelo.texts(), "the row deleted")
+        self.press("ctrl+Tab")
+        self.desktop.type("by key")
+        wait_for(lambda: self.ravelo.store()["note"] == "by key", "the note")
+        self.press("ctrl+f")
+        self.desktop.type("sec")
+        self.press("Return")
+        self.closed_with("second")
+
+        self.toggle()
+        self.press("Tab", "Tab", "Right", "Right", "Delete", "Right", "Return")
+        wait_for(lambda: "Booking confirmed" not in
+                 [one["title"] for one in self.ravelo.store()["snippets"]], "the snippet removed")
+        self.press("F2", "ctrl+a")
+        self.desktop.type("anew")
+        self.press("ctrl+Return")
+        wait_for(lambda: self.ravelo.store()["snippets"][2]["body"] == "anew", "the snippet edited")
+        self.press("Escape")
+        self.closed_with("second")
+
+
+class Assistive(ProgramCase):
+    def test_what_a_screen_reader_is_told(self):
+        del self.desktop.env["NO_AT_BRIDGE"]
+        self.desktop.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        launcher = self.desktop.spawn("/usr/libexec/at-spi-bus-launcher", "--launch-immediately",
+                                      stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                      start_new_session=True)
+        self.addCleanup(os.killpg, launcher.pid, signal.SIGKILL)  # It has a bus of its own.
+        wait_for(lambda: "org.a11y.Bus" in self.desktop.run(
+            "gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path", "/",
+            "--method", "org.freedesktop.DBus.ListNames"), "the launcher on the bus")
+        self.ravelo.start()
+        self.copy_and_wait("a clip")
+        self.ravelo.call("--toggle")
+        wait_for(self.ravelo.is_open, "the open panel")
+        peer = pathlib.Path(__file__).with_name("atspi_peer.py")
+
+        def told():
+            lines = self.desktop.run("/usr/bin/python3", peer, "ravelo").splitlines()
+            return [node for node in map(json.loads, lines) if node["showing"]]
+
+        nodes = wait_for(lambda: [n for n in told() if n["focused"]] and told(), "what has the focus")
+        unnamed = [node for node in nodes if not node["name"] and node["role"] != "page tab list"]
+        self.assertEqual(unnamed, [], "they have no name")
+        self.assertEqual([node["name"] for node in nodes if node["focused"]], ["Search clipboard…"])
+        seen = {(node["role"], node["name"], "Press" in node["actions"]) for node in nodes}
+        for wanted in (("page tab", "Notes", True), ("push button", "Clear history", True),
+                       ("push button", "First reply to lead", True),
+                       ("push button", "New snippet", True), ("list item", "a clip", True),
+                       ("list", "Clipboard history", False)):
+            self.assertIn(wanted, seen)
 
 
 class OwnersEnd(ProgramCase):

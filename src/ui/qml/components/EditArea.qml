@@ -20,6 +20,7 @@ TextEdit {
     selectionColor: Theme.withAlpha(Theme.accent, 0.45)
     selectedTextColor: Theme.text1
     selectByMouse: true
+    activeFocusOnTab: true
     // The fixed line height puts the base line four fifths down, the style elsewhere.
     topPadding: style.baseLine(1) - style.line * 0.8
     cursorDelegate: Caret {}

@@ -18,6 +18,7 @@ TextInput {
     selectedTextColor: Theme.text1
     selectByMouse: true
     activeFocusOnPress: true
+    activeFocusOnTab: true
     cursorDelegate: Caret {}
 
     Keys.onPressed: event => {

@@ -9,6 +9,8 @@ Popover {
 
     /// Of objects with `text`, `chosen()` and perhaps `checked`, or with `divider`.
     property var entries: []
+    /// What it is called where it cannot be seen.
+    property string name
     property real leastWidth: 0
     property int current: -1
 
@@ -35,6 +37,7 @@ Popover {
     contentWidth: Math.max(leastWidth - 2 * pad, list.widest)
     contentHeight: Math.min(list.contentHeight, room)
     Accessible.role: Accessible.PopupMenu
+    Accessible.name: name
     onOpenedChanged: current = -1
     Keys.onUpPressed: step(-1)
     Keys.onDownPressed: step(1)

@@ -15,6 +15,13 @@ Box {
 
     signal chosen(int index)
 
+    function moveTo(index: int) {
+        if (index >= 0 && index < tabs.length) {
+            chosen(index);
+            buttons.itemAt(index).forceActiveFocus();
+        }
+    }
+
     Accessible.role: Accessible.PageTabList
     implicitHeight: 32
     radius: Theme.radiusRow
@@ -39,6 +46,7 @@ Box {
     }
 
     Repeater {
+        id: buttons
         model: picker.tabs
 
         Pressable {
@@ -67,6 +75,8 @@ Box {
                 }
             }
             onClicked: picker.chosen(index)
+            Keys.onLeftPressed: picker.moveTo(index - 1)
+            Keys.onRightPressed: picker.moveTo(index + 1)
 
             Row {
                 anchors.centerIn: parent

@@ -9,6 +9,8 @@ Item {
 
     readonly property bool shown: message.text !== ""
 
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: label.text
     width: label.implicitWidth + 36
     height: 36
     opacity: 0

@@ -115,6 +115,8 @@ FocusScope {
         ListView {
             id: list
             objectName: "list"
+            Accessible.role: Accessible.List
+            Accessible.name: "Clipboard history"
             anchors.fill: parent
             clip: true
             cacheBuffer: 80

@@ -38,6 +38,8 @@ Item {
             model: strip.host.snippets
 
             delegate: SnippetChip {
+                id: one
+
                 required property int index
                 required property var snippetId
                 required property string icon
@@ -45,7 +47,7 @@ Item {
 
                 function askToRemove() {
                     strip.chosen = snippetId;
-                    question.openUnder(this);
+                    question.openUnder(one);
                 }
 
                 objectName: "chip" + index
@@ -55,7 +57,7 @@ Item {
                 onEditRequested: strip.host.snippetEditor.edit(snippetId)
                 onRemoveRequested: askToRemove()
                 onMenuRequested: (place, byKey) => {
-                    menu.chip = this;
+                    menu.chip = one;
                     menu.openAt(mapToItem(menu.parent, place.x, place.y), false, byKey);
                 }
             }
@@ -95,6 +97,7 @@ Item {
         property SnippetChip chip
 
         objectName: "snippetMenu"
+        name: "Snippet"
         host: strip.host
         entries: [
             { text: "Edit", chosen: () => chip.editRequested() },

@@ -11,6 +11,8 @@ Item {
     required property real resetWidth
     readonly property real wantedResetWidth: Math.max(90, reset.implicitWidth)
 
+    Accessible.role: Accessible.StaticText
+    Accessible.name: title + " " + usage.percent + " " + usage.reset
     implicitHeight: 27
 
     readonly property color bandColor: {
