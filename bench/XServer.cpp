@@ -50,6 +50,26 @@ void XServer::click() {
     fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1, {});
 }
 
+void XServer::press(xcb_keysym_t key) {
+    const xcb_setup_t* setup = xcb_get_setup(connection_);
+    const auto count = static_cast<uint8_t>(setup->max_keycode - setup->min_keycode + 1);
+    const Owned<xcb_get_keyboard_mapping_reply_t> map(xcb_get_keyboard_mapping_reply(
+        connection_, xcb_get_keyboard_mapping(connection_, setup->min_keycode, count), nullptr));
+    if (!map) {
+        giveUp("there is no keyboard");
+    }
+    const xcb_keysym_t* symbols = xcb_get_keyboard_mapping_keysyms(map.get());
+    for (int code = 0; code < count; ++code) {
+        if (symbols[code * map->keysyms_per_keycode] == key) {
+            const auto detail = static_cast<uint8_t>(setup->min_keycode + code);
+            fake(XCB_KEY_PRESS, detail, {});
+            fake(XCB_KEY_RELEASE, detail, {});
+            return;
+        }
+    }
+    giveUp("there is no such key");
+}
+
 void XServer::fake(uint8_t type, uint8_t detail, Place place) {
     xcb_test_fake_input(connection_, type, detail, XCB_CURRENT_TIME, screen_->root, place.x,
                         place.y, 0);

@@ -57,9 +57,11 @@ public:
     /// Sends what is waiting to be sent. The next event, or nothing if none has come by `deadline`.
     [[nodiscard]] Owned<xcb_generic_event_t> nextEvent(Clock::time_point deadline);
 
-    // The pointer as a hand would move it (XTEST). Not sent before the next flush.
+    // Pointer and keys as a hand would move them (XTEST). Not sent before the next flush.
     void move(Place place);
     void click();
+    /// A key that needs no other one held.
+    void press(xcb_keysym_t key);
 
 private:
     void fake(uint8_t type, uint8_t detail, Place place);

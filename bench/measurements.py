@@ -31,20 +31,25 @@ def clip(number, **more):
             "date": time.time() - 978307200 - 1000 * number, **more}
 
 
-def fill(desktop, ravelo):
+def fill(desktop, ravelo, clips=None):
     """Makes a store of many clips out of one that the program has seeded itself."""
     ravelo.start()
     desktop.copy_text("the first")
     wait_for(ravelo.store, "store.json")
     assert ravelo.call("--quit")[0] == 0, "ravelo --quit did not work"
     wait_for(ravelo.has_ended, "the end of the program")
+    clips = clips or usual_clips(desktop, ravelo)
+    file = ravelo.folder / "store.json"
+    file.write_text(json.dumps({**ravelo.store(), "clips": clips}))
+
+
+def usual_clips(desktop, ravelo):
     clips = [clip(n, pinned=n < PINNED) for n in range(PINNED + UNPINNED)]
     for shown in clips[PINNED:PINNED + IMAGES]:
         name = f"{shown['id']}.png"
         desktop.run("convert", "-size", "1280x800", "plasma:", ravelo.folder / "clips" / name)
         shown.update(kind="image", text="Image", imageFileName=name)
-    file = ravelo.folder / "store.json"
-    file.write_text(json.dumps({**ravelo.store(), "clips": clips}))
+    return clips
 
 
 @contextlib.contextmanager
@@ -95,6 +100,35 @@ def openings(options):
     ]
 
 
+# Typing.
+
+WORDS = ["invoice", "zqx", "paragraph 417", "e", "the end"]
+
+
+def long_clips():
+    """5,000 pinned ones of 10 KB, a tenth of them not ASCII, and one of 5 MB."""
+    lines = [f"Paragraph {n} of a long text that somebody keeps, an invoice perhaps. " for n in
+             range(5000)]
+    for n, line in enumerate(lines):
+        start = "Größe, " if n % 10 == 0 else ""
+        yield clip(n, kind="text", pinned=True, text=(start + line * 200)[:10240])
+    yield clip(5000, kind="text", pinned=True, text=(lines[1] * 80000)[:5 << 20])
+
+
+def typing(_):
+    with Desktop() as desktop:
+        fill(desktop, Ravelo(desktop, BUILD / "ravelo"), list(long_clips()))
+        ravelo = Ravelo(desktop, BUILD / "ravelo").start()
+        time.sleep(5)  # Whatever the start left to do.
+        output = subprocess.run([BUILD / "bench/bench_typing", str(ravelo.panel().window),
+                                 str(ravelo.process.pid), *WORDS], env=desktop.env, text=True,
+                                stdout=subprocess.PIPE, check=True).stdout
+    times = [float(line) for line in output.splitlines()]
+    return [Row("typing: key to frame, median", statistics.median(times), "ms"),
+            Row("typing: key to frame, p95", p95(times), "ms", 33),
+            Row("typing: key to frame, worst", max(times), "ms")]
+
+
 # Rest.
 
 Use = collections.namedtuple("Use", "voluntary involuntary seconds")
@@ -138,4 +172,4 @@ def rest(options):
     ]
 
 
-MEASUREMENTS = [openings, rest]
+MEASUREMENTS = [openings, typing, rest]

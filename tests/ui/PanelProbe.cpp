@@ -170,7 +170,9 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     world.controller.positionExpanded();
     window.resize(world.controller.frame().size().toSize());
     settle();
-    if (scene == u"hover") {
+    if (scene == u"full-black") {
+        world.settings.setFullBlack(true);
+    } else if (scene == u"hover") {
         send(window, QEvent::MouseMove, {643, 417});
     } else if (scene == u"question") {
         click(window, middle(window, u"trash"_s));

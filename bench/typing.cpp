@@ -1,0 +1,62 @@
+// typing WINDOW PROCESS WORD...: opens a panel by the pointer, types each word into its search
+// field and takes it away again. Prints for each key that went down the milliseconds until the next
+// frame had been read, which shows what the key has found: the list is made anew within the key's
+// event.
+
+#include "bench/Frames.h"
+#include "bench/Idle.h"
+
+#include <cstdlib>
+#include <iostream>
+#include <string_view>
+
+namespace {
+
+using namespace ravelo::bench;
+using namespace std::chrono_literals;
+
+constexpr xcb_keysym_t backSpace = 0xff08;
+constexpr Place inSearch = {200, 220}; ///< In the panel.
+
+void press(XServer& server, WindowWatch& window, int process, xcb_keysym_t key) {
+    awaitIdle(process);
+    while (window.nextFrame(0ms)) { // What was drawn before.
+    }
+    server.press(key);
+    const auto begun = Clock::now();
+    xcb_flush(server.get());
+    const auto frame = window.nextFrame(20s);
+    if (!frame) {
+        giveUp("a key brings no frame");
+    }
+    std::cout << std::chrono::duration<double, std::milli>(frame->seen - begun).count()
+              << std::endl;
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc < 4) {
+        giveUp("typing WINDOW PROCESS WORD...");
+    }
+    const int process = std::atoi(argv[2]);
+    XServer server;
+    WindowWatch window(server, static_cast<xcb_window_t>(std::strtoul(argv[1], nullptr, 10)));
+    const int16_t middle = static_cast<int16_t>(server.screen().width_in_pixels / 2);
+    server.move({middle, 2});
+    xcb_flush(server.get());
+    window.awaitSize(panelSize);
+    const int16_t left = static_cast<int16_t>(middle - panelSize.width / 2);
+    server.move({static_cast<int16_t>(left + inSearch.x), inSearch.y});
+    server.click();
+    xcb_flush(server.get());
+    for (int word = 3; word < argc; ++word) {
+        const std::string_view letters = argv[word];
+        for (const char letter : letters) {
+            press(server, window, process, static_cast<xcb_keysym_t>(letter));
+        }
+        for (size_t left = letters.size(); left > 0; --left) {
+            press(server, window, process, backSpace);
+        }
+    }
+}
