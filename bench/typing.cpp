@@ -55,7 +55,7 @@ int main(int argc, char** argv) {
         for (const char letter : letters) {
             press(server, window, process, static_cast<xcb_keysym_t>(letter));
         }
-        for (size_t left = letters.size(); left > 0; --left) {
+        for (size_t typed = letters.size(); typed > 0; --typed) {
             press(server, window, process, backSpace);
         }
     }

@@ -120,7 +120,10 @@ void AppDelegate::wire() {
     termination_ = onTerminationSignal([] { QCoreApplication::quit(); });
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, notch_.get(),
                      [this] { flush(); });
-    QObject::connect(qGuiApp, &QCoreApplication::aboutToQuit, notch_.get(), [this] { flush(); });
+    QObject::connect(qGuiApp, &QCoreApplication::aboutToQuit, notch_.get(), [this] {
+        view_->host().snippetEditor()->cancel(); // Leaves no image that nothing refers to.
+        flush();
+    });
 }
 
 void AppDelegate::perform(const QString& action) {

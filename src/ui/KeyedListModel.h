@@ -23,7 +23,9 @@ public:
 protected:
     [[nodiscard]] const QList<Record>& rows() const { return rows_; }
 
-    void takeOver(const QList<Record>& now) {
+    /// Of records with the same id the first counts.
+    void takeOver(const QList<Record>& all) {
+        const QList<Record> now = distinct(all);
         removeMissing(now);
         const Ids had = idsOf(rows_);
         for (int row = 0; row < now.size(); ++row) {
@@ -45,6 +47,21 @@ private:
             ids.insert(record.id);
         }
         return ids;
+    }
+
+    static QList<Record> distinct(const QList<Record>& records) {
+        if (idsOf(records).size() == records.size()) {
+            return records;
+        }
+        QList<Record> first;
+        Ids seen;
+        for (const Record& record : records) {
+            if (!seen.contains(record.id)) {
+                seen.insert(record.id);
+                first.append(record);
+            }
+        }
+        return first;
     }
 
     void removeMissing(const QList<Record>& now) {

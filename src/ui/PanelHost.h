@@ -120,6 +120,8 @@ Q_SIGNALS:
     void reducedMotionChanged();
     void shelfChanged();
     void usageChanged();
+    /// What had the keyboard before something floated is not there: it goes where content starts.
+    void keyboardFreed();
 
 private:
     void follow();

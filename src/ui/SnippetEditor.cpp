@@ -38,9 +38,10 @@ void SnippetEditor::editNew() {
 }
 
 void SnippetEditor::begin(const Snippet& snippet) {
-    static_cast<void>(end({}));
-    editing_ = snippet;
-    Q_EMIT changed();
+    if (!editing_) {
+        editing_ = snippet;
+        Q_EMIT changed();
+    }
 }
 
 std::optional<Snippet> SnippetEditor::end(const QString& keptImage) {
@@ -60,6 +61,7 @@ void SnippetEditor::save() {
         store_.updateSnippet(edited);
     } else {
         store_.addSnippet(edited);
+        Q_EMIT added();
     }
     Q_EMIT changed();
 }

@@ -43,7 +43,7 @@ public:
     /// A title is what a snippet is known by.
     [[nodiscard]] bool canSave() const { return !title().trimmed().isEmpty(); }
 
-    /// Nothing where there is no such snippet.
+    // Nothing while another is being edited or there is no such snippet.
     Q_INVOKABLE void edit(const QUuid& id);
     /// A new one, which comes to be when it is saved.
     Q_INVOKABLE void editNew();
@@ -57,6 +57,7 @@ public:
 
 Q_SIGNALS:
     void changed();
+    void added(); ///< A new one is in the store.
 
 private:
     [[nodiscard]] Snippet copy() const { return editing_.value_or(Snippet()); }

@@ -219,6 +219,30 @@ class Panel(ProgramCase):
                  "the keyboard in the panel")
         self.desktop.key("Escape")
 
+    def test_the_keyboard_is_not_lost_with_a_question(self):
+        self.copy_and_wait("older", "newer")
+        panel = self.ravelo.open()
+        self.desktop.click(panel.x + panel.width - 48, SEARCH)  # The trash.
+        wait_for(lambda: self.desktop.focused_window() == str(panel.window),
+                 "the keyboard in the panel")
+        self.desktop.key("Escape")
+        self.desktop.type("older")
+        self.desktop.key("Return")
+        wait_for(self.ravelo.is_collapsed, "the panel to close at Return")
+        self.assertEqual(self.desktop.paste_text(), "older")
+
+        panel = self.ravelo.open()
+        self.desktop.click(panel.x + panel.width - 48, SEARCH)
+        self.desktop.click(panel.x - 200, 800)  # It closes with the question.
+        wait_for(self.ravelo.is_collapsed, "the panel to close at a click elsewhere")
+        self.ravelo.call("--toggle")
+        wait_for(lambda: self.desktop.focused_window() == str(panel.window),
+                 "the keyboard in the panel")
+        self.desktop.type("newer")
+        self.desktop.key("Return")
+        wait_for(self.ravelo.is_collapsed, "the panel to close at Return")
+        self.assertEqual(self.desktop.paste_text(), "newer")
+
     def test_opening_leaves_the_focus_where_the_user_types(self):
         window = self.desktop.gtk("window")
         focus = self.desktop.focused_window()

@@ -30,6 +30,7 @@ Popover {
         if (next >= 0 && next < entries.length) {
             current = next;
             list.positionViewAtIndex(next, ListView.Contain);
+            list.itemAtIndex(next)?.forceActiveFocus(); // Screen readers follow it.
         }
     }
 
@@ -113,7 +114,11 @@ Popover {
                 enabled: !item.divides
                 hoverEnabled: true
                 onEntered: menu.current = item.index
-                onExited: menu.current = -1
+                onExited: {
+                    if (menu.current === item.index) {
+                        menu.current = -1;
+                    }
+                }
                 onClicked: menu.choose(item.index)
             }
         }

@@ -47,7 +47,11 @@ FocusScope {
     function close() {
         if (opened) {
             opened = false;
-            focusedBefore?.forceActiveFocus();
+            if (focusedBefore) {
+                focusedBefore.forceActiveFocus();
+            } else {
+                host.keyboardFreed();
+            }
             closed();
         }
     }

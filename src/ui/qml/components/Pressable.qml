@@ -14,9 +14,10 @@ Surface {
     signal clicked
 
     activeFocusOnTab: true
-    hovered: area.containsMouse
+    hovered: hover.hovered
     pressed: area.pressed
-    opacity: enabled ? 1 : 0.4
+    // What fades as a whole is disabled too.
+    opacity: enabled || !parent?.enabled ? 1 : 0.4
 
     Accessible.role: Accessible.Button
     Accessible.name: name
@@ -26,9 +27,12 @@ Surface {
     Keys.onPressed: event => {
         const presses = event.key === Qt.Key_Space || event.key === Qt.Key_Return
             || event.key === Qt.Key_Enter;
-        if (presses && event.modifiers === Qt.NoModifier) {
+        const held = Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier;
+        if (presses && !(event.modifiers & held)) {
             event.accepted = true;
-            pressable.clicked();
+            if (!event.isAutoRepeat) {
+                pressable.clicked();
+            }
         }
     }
 
@@ -37,10 +41,13 @@ Surface {
         control: pressable
     }
 
+    HoverHandler {
+        id: hover
+    }
+
     MouseArea {
         id: area
         anchors.fill: parent
-        hoverEnabled: true
         onClicked: pressable.clicked()
     }
 }

@@ -40,6 +40,8 @@ Popover {
             objectName: "no"
             text: "No"
             ring: question.keyed
+            Keys.onPressed: question.keyed = true
+            KeyNavigation.priority: KeyNavigation.AfterItem
             KeyNavigation.right: yes
             KeyNavigation.tab: yes
             KeyNavigation.backtab: yes
@@ -51,6 +53,8 @@ Popover {
             text: "Yes"
             primary: true
             ring: question.keyed
+            Keys.onPressed: question.keyed = true
+            KeyNavigation.priority: KeyNavigation.AfterItem
             KeyNavigation.left: no
             KeyNavigation.tab: no
             KeyNavigation.backtab: no

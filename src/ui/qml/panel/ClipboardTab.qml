@@ -40,7 +40,8 @@ FocusScope {
     /// Keys that work on the list while the search has the keyboard.
     function handle(event: KeyEvent) {
         const page = Math.max(1, Math.floor(list.height / 40) - 1);
-        const control = event.modifiers === Qt.ControlModifier;
+        const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
+        const searching = field.edited.activeFocus;
         const selected = host.clips.idAt(list.currentIndex);
         if (event.key === Qt.Key_Up) {
             select(list.currentIndex - 1);
@@ -52,13 +53,14 @@ FocusScope {
             select(list.currentIndex + page);
         } else if (control && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             host.openLink(selected);
-        } else if (event.key === Qt.Key_Return || event.key === Qt.Key_Enter) {
+        } else if (searching && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             copyAndClose(list.currentIndex);
         } else if (control && event.key >= Qt.Key_1 && event.key <= Qt.Key_9) {
             copyAndClose(event.key - Qt.Key_1);
         } else if (control && event.key === Qt.Key_P) {
             host.store.togglePin(selected);
-        } else if (event.key === Qt.Key_Delete && field.edited.text === "") {
+        } else if (event.key === Qt.Key_Delete && searching && field.edited.text === ""
+                   && !event.isAutoRepeat) {
             host.store.deleteClip(selected);
         } else {
             return;

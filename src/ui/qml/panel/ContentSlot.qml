@@ -13,6 +13,12 @@ FocusScope {
     width: host.contentSize.width
     height: host.contentSize.height
     visible: open
+    // What floated over the last content has taken it.
+    onOpenChanged: {
+        if (open) {
+            forceActiveFocus();
+        }
+    }
 
     Loader {
         anchors.fill: parent

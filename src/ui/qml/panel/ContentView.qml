@@ -42,6 +42,13 @@ FocusScope {
         event.accepted = true;
     }
 
+    Connections {
+        target: content.host
+        function onKeyboardFreed() {
+            body.forceActiveFocus();
+        }
+    }
+
     PanelBackground {
         objectName: "panel"
         anchors.fill: parent

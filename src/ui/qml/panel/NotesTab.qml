@@ -38,9 +38,11 @@ FocusScope {
                 width: parent.width
                 host: tab.host
                 text: tab.host.store.note
-                // By the user only: what the editor makes of a stored note is no change of it.
+                // What the editor makes of a stored note is no change of it.
+                property bool ready: false
+                Component.onCompleted: ready = true
                 onTextChanged: {
-                    if (activeFocus && text !== tab.host.store.note) {
+                    if (ready && text !== tab.host.store.note) {
                         tab.host.store.note = text;
                         tab.host.store.save();
                     }

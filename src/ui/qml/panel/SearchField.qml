@@ -47,7 +47,11 @@ FieldFrame {
         rest: question.opened ? Theme.surface3 : Theme.none
         hover: Theme.surface3
         press: Theme.surface4
-        onClicked: question.openLeftUnder(field, 0)
+        onClicked: {
+            const byKey = activeFocus;
+            question.openLeftUnder(field, 0);
+            question.keyed = byKey;
+        }
 
         Glyph {
             anchors.centerIn: parent

@@ -12,11 +12,23 @@ FocusScope {
     /// Stays while the sheet fades.
     property string imageFileName
     property Item focusedBefore
+    /// What a field makes of the text that it is given is no change of it.
+    property bool filling: false
+
+    function end() {
+        if (focusedBefore) {
+            focusedBefore.forceActiveFocus();
+        } else {
+            host.keyboardFreed();
+        }
+    }
 
     function begin() {
         focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
+        filling = true;
         title.text = editor.title;
         body.text = editor.body;
+        filling = false;
         host.controller.typeFocus();
         const first = editor.title === "" ? title : body;
         first.forceActiveFocus();
@@ -26,7 +38,7 @@ FocusScope {
     visible: opacity > 0
     enabled: editing
     opacity: editing ? 1 : 0
-    onEditingChanged: editing ? begin() : focusedBefore?.forceActiveFocus()
+    onEditingChanged: editing ? begin() : end()
     Accessible.role: Accessible.Dialog
     Accessible.name: heading.text
 
@@ -132,7 +144,11 @@ FocusScope {
                 placeholder: "Title"
                 KeyNavigation.tab: body
                 KeyNavigation.backtab: save
-                onTextChanged: layer.editor.title = text
+                onTextChanged: {
+                    if (!layer.filling) {
+                        layer.editor.title = text;
+                    }
+                }
             }
         }
 
@@ -161,7 +177,11 @@ FocusScope {
                     KeyNavigation.priority: KeyNavigation.BeforeItem
                     KeyNavigation.tab: attach.visible ? attach : remove
                     KeyNavigation.backtab: title
-                    onTextChanged: layer.editor.body = text
+                    onTextChanged: {
+                        if (!layer.filling) {
+                            layer.editor.body = text;
+                        }
+                    }
                 }
             }
         }
@@ -190,6 +210,11 @@ FocusScope {
             KeyNavigation.tab: cancel
             KeyNavigation.backtab: body
             onClicked: layer.editor.removeImage()
+            onVisibleChanged: {
+                if (!visible && activeFocus) {
+                    attach.forceActiveFocus();
+                }
+            }
         }
 
         CapsuleButton {
@@ -205,6 +230,11 @@ FocusScope {
             KeyNavigation.tab: cancel
             KeyNavigation.backtab: body
             onClicked: layer.editor.attachImage()
+            onVisibleChanged: {
+                if (!visible && activeFocus) {
+                    remove.forceActiveFocus();
+                }
+            }
 
             PhotoBadgePlus {
                 x: 10
@@ -234,7 +264,7 @@ FocusScope {
             large: true
             sidePad: 20
             primary: true
-            enabled: layer.editor.canSave || !layer.editing
+            enabled: layer.editor.canSave
             text: "Save"
             KeyNavigation.tab: title
             KeyNavigation.backtab: cancel

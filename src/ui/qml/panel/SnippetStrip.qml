@@ -13,6 +13,13 @@ Item {
 
     implicitHeight: 28
 
+    Connections {
+        target: strip.host.snippetEditor
+        function onAdded() {
+            Qt.callLater(list.positionViewAtEnd);
+        }
+    }
+
     FadingEdge {
         objectName: "strip"
         width: parent.width - 36
