@@ -9,71 +9,76 @@ namespace ravelo {
 
 namespace {
 
-// The loops over blocks have no early exit, so that the compiler makes vectors of them.
+// Long enough that the loop over a block, which has no early exit, becomes a few vectors.
 constexpr qsizetype block = 64;
-
-bool isAscii(QStringView text) {
-    const char16_t* at = text.utf16();
-    const char16_t* const end = at + text.size();
-    for (; end - at >= block; at += block) {
-        char16_t all = 0;
-        for (qsizetype i = 0; i < block; ++i) {
-            all |= at[i];
-        }
-        if (all > 0x7f) {
-            return false;
-        }
-    }
-    return std::all_of(at, end, [](char16_t unit) { return unit <= 0x7f; });
-}
 
 constexpr char16_t lower(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? unit + (u'a' - u'A') : unit;
 }
 
-constexpr char16_t upper(char16_t unit) {
-    return unit >= u'a' && unit <= u'z' ? unit - (u'a' - u'A') : unit;
-}
+/// An ASCII character, as small letter, that is looked for in both cases.
+struct Wanted {
+    explicit Wanted(char16_t unit)
+        : small(unit), caseBit(unit >= u'a' && unit <= u'z' ? u'a' - u'A' : 0) {}
 
-/// A letter in both its cases.
-struct Either {
-    explicit Either(char16_t unit) : small(unit), large(upper(unit)) {}
-
-    [[nodiscard]] bool is(char16_t unit) const { return (unit == small) | (unit == large); }
+    [[nodiscard]] bool is(char16_t unit) const { return (unit | caseBit) == small; }
 
     char16_t small;
-    char16_t large;
+    char16_t caseBit;
 };
 
-/// Both are ASCII, and `wanted`, which is not empty, has no capitals.
-bool containsAscii(QStringView text, QStringView wanted) {
+struct Scan {
+    bool found = false;
+    bool isAscii = true; ///< What was looked at; all of it where nothing was found.
+};
+
+/// `wanted` is ASCII without capitals, and not empty.
+Scan scanAscii(QStringView text, QStringView wanted) {
     const qsizetype places = text.size() - wanted.size() + 1;
     const char16_t* const first = text.utf16();
     const char16_t* const last = first + wanted.size() - 1;
-    const Either begins(wanted.front().unicode());
-    const Either ends(wanted.back().unicode());
+    const Wanted begins(wanted.front().unicode());
+    const Wanted ends(wanted.back().unicode());
     const auto matches = [&](qsizetype place) {
         return std::equal(wanted.utf16(), wanted.utf16() + wanted.size(), first + place,
                           [](char16_t a, char16_t b) { return a == lower(b); });
     };
+    // A mark that belongs to the last letter makes another letter of it.
+    const auto foundAt = [&](qsizetype place, char16_t before) {
+        const char16_t next = place + 1 < places ? last[place + 1] : u'\0';
+        return Scan{true, (before | next) <= 0x7f};
+    };
+    char16_t all = 0;
     qsizetype place = 0;
     for (; place + block <= places; place += block) {
-        bool maybe = false;
+        char16_t maybe = 0;
         for (qsizetype i = place; i < place + block; ++i) {
-            maybe |= begins.is(first[i]) & ends.is(last[i]);
+            all |= first[i];
+            maybe |= static_cast<char16_t>(begins.is(first[i]) & ends.is(last[i]));
         }
-        for (qsizetype i = place; maybe && i < place + block; ++i) {
+        for (qsizetype i = place; maybe != 0 && i < place + block; ++i) {
             if (matches(i)) {
-                return true;
+                return foundAt(i, all);
             }
         }
     }
+    for (qsizetype i = place; i < text.size(); ++i) {
+        all |= first[i];
+    }
     for (; place < places; ++place) {
         if (matches(place)) {
-            return true;
+            return foundAt(place, all);
         }
     }
-    return false;
+    return {false, all <= 0x7f};
+}
+
+bool isAscii(QStringView text) {
+    char16_t all = 0;
+    for (const char16_t* unit = text.utf16(); unit != text.utf16() + text.size(); ++unit) {
+        all |= *unit;
+    }
+    return all <= 0x7f;
 }
 
 } // namespace
@@ -86,33 +91,48 @@ TextSearch::TextSearch(const QLocale& locale)
                        : U_FOLD_CASE_DEFAULT) {}
 
 void TextSearch::setWanted(const QString& wanted) {
-    const QString before = std::exchange(wanted_, folded(wanted));
-    if (wanted_.isEmpty()) {
-        folded_ = {};
+    const QString now = folded(wanted);
+    // What was typed before is known still when the last letters are taken back.
+    while (!levels_.isEmpty() && !now.contains(levels_.last().wanted)) {
+        levels_.removeLast();
     }
-    if (wanted_.isEmpty() || before.isEmpty() || !wanted_.contains(before)) {
-        missed_ = {};
+    if (now.isEmpty()) {
+        levels_ = {};
+        folded_ = {};
+    } else if (levels_.isEmpty()) {
+        levels_.append({now, {}});
+    } else if (levels_.last().wanted != now) {
+        levels_.append({now, levels_.last().missed});
     }
 }
 
 bool TextSearch::finds(const QUuid& id, const QString& text) {
-    if (wanted_.isEmpty()) {
+    if (levels_.isEmpty()) {
         return true;
     }
-    if (missed_.contains(id)) {
+    Level& level = levels_.last();
+    if (level.missed.contains(id)) {
         return false;
     }
-    auto known = folded_.find(id);
-    if (known == folded_.end()) {
-        const bool asItIs = foldOptions_ == U_FOLD_CASE_DEFAULT && isAscii(text);
-        known = folded_.insert(id, asItIs ? QString() : folded(text));
-    }
-    const bool found = known->isNull() ? isAscii(wanted_) && containsAscii(text, wanted_)
-                                       : known->contains(wanted_);
+    const bool found = contains(id, text, level.wanted);
     if (!found) {
-        missed_.insert(id);
+        level.missed.insert(id);
     }
     return found;
+}
+
+bool TextSearch::contains(const QUuid& id, const QString& text, const QString& wanted) {
+    const auto known = folded_.constFind(id);
+    if (known != folded_.cend()) {
+        return known->contains(wanted);
+    }
+    if (foldOptions_ == U_FOLD_CASE_DEFAULT) { // What is ASCII needs no folding then.
+        const Scan scan = isAscii(wanted) ? scanAscii(text, wanted) : Scan{false, isAscii(text)};
+        if (scan.isAscii) {
+            return scan.found;
+        }
+    }
+    return folded_.insert(id, folded(text))->contains(wanted);
 }
 
 QString TextSearch::folded(const QString& text) const {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QHash>
+#include <QList>
 #include <QLocale>
 #include <QSet>
 #include <QString>
@@ -9,8 +10,8 @@
 namespace ravelo {
 
 /// Finds the texts that contain what is typed, ignoring case as the user's language does. Made for
-/// many long texts and one letter more at a time: keeps what it has made of the texts, and which of
-/// them cannot match any more, while the search goes on.
+/// many long texts and one letter more or less at a time: keeps what it has made of the texts, and
+/// which of them did not match, while the search goes on.
 class TextSearch {
 public:
     explicit TextSearch(const QLocale& locale);
@@ -22,12 +23,17 @@ public:
     [[nodiscard]] bool finds(const QUuid& id, const QString& text);
 
 private:
+    struct Level {
+        QString wanted; ///< Folded; contains what the level before it wants.
+        QSet<QUuid> missed;
+    };
+
+    [[nodiscard]] bool contains(const QUuid& id, const QString& text, const QString& wanted);
     [[nodiscard]] QString folded(const QString& text) const;
 
     const unsigned foldOptions_;
-    QString wanted_;
-    QHash<QUuid, QString> folded_; ///< Null for a text of ASCII, which is searched as it is.
-    QSet<QUuid> missed_;
+    QList<Level> levels_;
+    QHash<QUuid, QString> folded_; ///< Of texts that are more than ASCII.
 };
 
 } // namespace ravelo

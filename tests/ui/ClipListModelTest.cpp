@@ -3,6 +3,8 @@
 
 #include <gtest/gtest.h>
 
+#include <random>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -198,10 +200,45 @@ INSTANTIATE_TEST_SUITE_P(
                     SearchCase{"noPattern", u".*"_s, {u"one"_s, u"a.*b"_s}, {1}},
                     SearchCase{"umlauts", u"ÄRGER"_s, {u"ärger"_s, u"arger"_s}, {0}},
                     SearchCase{"composedOrNot", u"caf\u00e9"_s, {u"cafe\u0301"_s, u"cafe"_s}, {0}},
+                    SearchCase{"notInAComposedLetter",
+                               u"cafe"_s,
+                               {QString(60, u'-') + u"cafe\u0301"_s, u"CAFE \u0301"_s},
+                               {1}},
                     SearchCase{"sharpS", u"STRASSE"_s, {u"Hauptstraße 5"_s}, {0}},
                     SearchCase{"dottedI", u"i"_s, {u"I"_s, u"\u0130"_s}, {1}, turkish},
                     SearchCase{"dotlessI", u"\u0131"_s, {u"I"_s, u"i"_s}, {0}, turkish}),
     [](const auto& row) { return row.param.name; });
+
+TEST(ClipListModel, findsTheSameAsAPlainSearchAtEveryLetterTypedAndTakenBack) {
+    std::mt19937 random(7); // NOLINT(*-msc51-cpp): the same texts each time.
+    const auto word = [&random](qsizetype most) {
+        QString text(static_cast<qsizetype>(random() % (most + 1)), u'a');
+        for (QChar& letter : text) {
+            letter = u"abAB@{"_s[static_cast<qsizetype>(random() % 6)];
+        }
+        return text;
+    };
+    StoreData data;
+    for (int i = 0; i < 40; ++i) {
+        data.clips.append(clip(word(200), Seconds(60)));
+    }
+    PanelWorld world(data);
+    ClipListModel model(world.store, world.scheduler, english);
+    for (int round = 0; round < 20; ++round) {
+        const QString wanted = word(8);
+        for (qsizetype step = 1; step < 2 * wanted.size(); ++step) {
+            const QString typed = wanted.first(wanted.size() - std::abs(wanted.size() - step));
+            model.setSearch(typed);
+            QList<QUuid> expected;
+            for (const ClipItem& clip : world.store.clips()) {
+                if (clip.text.contains(typed, Qt::CaseInsensitive)) {
+                    expected.append(clip.id);
+                }
+            }
+            ASSERT_EQ(Mirror(model).ids, expected) << qPrintable(typed);
+        }
+    }
+}
 
 TEST(ClipListModel, aClipCopiedDuringASearchIsListedOnlyIfItFits) {
     PanelWorld world(fiveClips());
