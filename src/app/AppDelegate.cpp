@@ -95,7 +95,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                                   *window_,
                                   {&display_.lock(), loginSession_.get(), screenSaver_.get()}},
         rest_);
-    view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_}, QLocale());
+    view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_},
+                QLocale());
     wire();
     return {};
 }

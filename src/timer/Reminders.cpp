@@ -3,6 +3,7 @@
 #include "platform/Preferences.h"
 
 #include <QJsonArray>
+#include <QTextBoundaryFinder>
 
 #include <algorithm>
 
@@ -11,6 +12,8 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr int longest = 16; ///< Characters as people count them.
 
 QString openKey() {
     return u"reminderOpen"_s;
@@ -50,6 +53,20 @@ void Reminders::keepOpen(Preferences& preferences) const {
 
 void Reminders::keepTexts(Preferences& preferences) const {
     preferences.set(textsKey(), QJsonArray::fromStringList(texts));
+}
+
+std::optional<QStringList> Reminders::added(const QString& typed) const {
+    QString text = typed.trimmed();
+    if (text.isEmpty()) {
+        return std::nullopt;
+    }
+    QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
+    for (int count = 0; count < longest && characters.toNextBoundary() >= 0; ++count) {
+    }
+    if (const qsizetype end = characters.position(); end >= 0) {
+        text.truncate(end);
+    }
+    return QStringList(texts) << text;
 }
 
 } // namespace ravelo

@@ -2,6 +2,8 @@
 
 #include <QStringList>
 
+#include <optional>
+
 namespace ravelo {
 
 class Preferences;
@@ -13,6 +15,10 @@ struct Reminders {
 
     /// An older version had a single line; it counts where there are no others.
     [[nodiscard]] static Reminders load(const Preferences& preferences);
+
+    /// The texts with what somebody typed, without the white space around it and no longer than 16
+    /// characters, at the end; nothing where nothing is left of it.
+    [[nodiscard]] std::optional<QStringList> added(const QString& typed) const;
 
     void keepOpen(Preferences& preferences) const;
     void keepTexts(Preferences& preferences) const;

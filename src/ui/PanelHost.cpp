@@ -27,6 +27,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       clips_(subjects.store, subjects.scheduler, locale),
       snippets_(subjects.store, locale),
       snippetEditor_(subjects.store),
+      focusControls_(subjects.store, subjects.preferences),
       pasting_(subjects.pasteboard),
       toast_(subjects.scheduler),
       timerFace_(subjects.store, subjects.scheduler),
@@ -35,6 +36,11 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
     connect(settings(), &AppSettings::panelWidthChanged, this, [this] {
         if (!controller()->isOpen()) {
             setContentSize(sizeToOpenWith());
+        }
+    });
+    connect(store(), &Store::clipsChanged, &clips_, [this] {
+        if (controller()->isOpen()) {
+            clips_.refreshDates(); // Or the rows beside the new one would seem younger.
         }
     });
     connect(store(), &Store::shelfChanged, this, &PanelHost::shelfChanged);
@@ -126,6 +132,7 @@ void PanelHost::startAnew() {
     clips_.setSearch({});
     snippets_.setSearch({});
     snippetEditor_.cancel();
+    focusControls_.reload();
     setContentSize(sizeToOpenWith());
     building_ = subjects_.scheduler.after(buildDelay, [this] { setHasContent(true); });
 }

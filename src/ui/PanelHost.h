@@ -5,6 +5,7 @@
 #include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "ui/ClipListModel.h"
+#include "ui/FocusControls.h"
 #include "ui/PanelBackground.h"
 #include "ui/Pasting.h"
 #include "ui/SnippetEditor.h"
@@ -33,6 +34,7 @@ class PanelHost : public QObject {
     Q_PROPERTY(ravelo::ClipListModel* clips READ clips CONSTANT)
     Q_PROPERTY(ravelo::SnippetListModel* snippets READ snippets CONSTANT)
     Q_PROPERTY(ravelo::SnippetEditor* snippetEditor READ snippetEditor CONSTANT)
+    Q_PROPERTY(ravelo::FocusControls* focusControls READ focusControls CONSTANT)
     Q_PROPERTY(ravelo::Pasting* pasting READ pasting CONSTANT)
     Q_PROPERTY(ravelo::Toast* toast READ toast CONSTANT)
     Q_PROPERTY(ravelo::TimerFace* timerFace READ timerFace CONSTANT)
@@ -52,6 +54,7 @@ public:
         NotchController& controller;
         Pasteboard& pasteboard;
         Scheduler& scheduler;
+        Preferences& preferences;
     };
 
     PanelHost(Subjects subjects, const QLocale& locale);
@@ -67,6 +70,8 @@ public:
     [[nodiscard]] SnippetListModel* snippets() { return &snippets_; }
 
     [[nodiscard]] SnippetEditor* snippetEditor() { return &snippetEditor_; }
+
+    [[nodiscard]] FocusControls* focusControls() { return &focusControls_; }
 
     [[nodiscard]] Pasting* pasting() { return &pasting_; }
 
@@ -135,6 +140,7 @@ private:
     ClipListModel clips_;
     SnippetListModel snippets_;
     SnippetEditor snippetEditor_;
+    FocusControls focusControls_;
     Pasting pasting_;
     Toast toast_;
     TimerFace timerFace_;

@@ -307,7 +307,8 @@ int main(int argc, char** argv) {
     plan().save(world.store.imagePath(u"plan.png"_s));
     world.settings.setLastTab(scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
     PanelView view;
-    view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler},
+    view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler,
+               world.preferences},
               QLocale(u"en_US"_s));
     view.host().setBackdrop(Backdrop::Blurred);
     const Date now = world.scheduler.now();

@@ -30,9 +30,9 @@ StoreData threeClips() {
 class Panel : public testing::Test {
 public:
     explicit Panel(const StoreData& data = threeClips()) : world(data) {
-        view.load(
-            {world.store, world.settings, world.controller, world.pasteboard, world.scheduler},
-            QLocale(u"en_US"_s));
+        view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler,
+                   world.preferences},
+                  QLocale(u"en_US"_s));
         view.window().resize(200, 12);
         view.window().show();
         view.window().requestActivate();
@@ -530,6 +530,43 @@ TEST_F(Panel, anAnswerThatComesAfterTheFieldIsGoneIsDropped) {
     world.scheduler.advance(Seconds(6));
     open();
     EXPECT_EQ(text(u"searchInput"_s), QString());
+}
+
+TEST_F(Panel, startsAndStopsATimerByItsControls) {
+    open();
+    clickOn(u"minutesMenu"_s);
+    const QQuickItem* choice = in(u"minuteChoices"_s, u"item1"_s);
+    click(view.window(), choice->mapToScene({20, 10}));
+    clickOn(u"focusNote"_s);
+    type(u" Estimates "_s);
+    press(view.window(), Qt::Key_Return);
+    EXPECT_EQ(world.store.timerLabel(), u"Estimates"_s);
+    EXPECT_EQ(world.store.timerDuration(), 25 * 60);
+    world.scheduler.advance(Seconds(61));
+    EXPECT_EQ(text(u"runningTime"_s), u"23:59"_s);
+    clickOn(u"stopTimer"_s);
+    EXPECT_FALSE(world.store.timerRunning());
+    EXPECT_EQ(text(u"focusNote"_s), QString());
+    close();
+    world.scheduler.advance(untilBuilt);
+    open();
+    EXPECT_EQ(find(item(u"minutesMenu"_s), u"choice"_s)->property("text"), u"25m"_s);
+}
+
+TEST_F(Panel, keepsReminders) {
+    open();
+    clickOn(u"reminderDraft"_s);
+    type(u"  Call the framer about the mirror "_s);
+    press(view.window(), Qt::Key_Return);
+    type(u" "_s);
+    press(view.window(), Qt::Key_Return);
+    EXPECT_EQ(world.store.reminders(), QStringList{u"Call the framer "_s});
+    EXPECT_EQ(text(u"reminderDraft"_s), u" "_s) << "there was nothing to add";
+    clickOn(u"reminderToggle"_s);
+    click(view.window(), in(u"reminderQuestion"_s, u"yes"_s)->mapToScene({10, 10}));
+    EXPECT_TRUE(world.store.reminderVisible());
+    clickOn(u"removeReminder"_s);
+    EXPECT_EQ(world.store.reminders(), QStringList());
 }
 
 class PanelWithImages : public Panel {

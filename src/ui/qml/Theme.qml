@@ -48,6 +48,7 @@ QtObject {
     readonly property color hoveredRound: white(0.14)
     readonly property color pressedRound: white(0.19)
     readonly property color roundGlyph: white(0.90)
+    readonly property color removeGlyph: white(0.40)
     readonly property color roundGlyphOff: white(0.35)
 
     readonly property color accent: "#78AEFF"
@@ -100,6 +101,8 @@ QtObject {
     readonly property TextStyle rowTitle: TextStyle { size: 13; line: 17; weight: Font.Medium }
     readonly property TextStyle strong: TextStyle { size: 13; line: 16; weight: Font.DemiBold }
     readonly property TextStyle body: TextStyle { size: 13; line: 16 }
+    readonly property TextStyle menuLabel: TextStyle { size: 13; line: 16; weight: Font.Medium }
+    readonly property TextStyle timer: TextStyle { size: 22; line: 28; weight: Font.DemiBold; tracking: -0.3 }
     readonly property TextStyle bodyLoose: TextStyle { size: 13; line: 20 }
     readonly property TextStyle button: TextStyle { size: 12; line: 16; weight: Font.DemiBold }
     readonly property TextStyle chip: TextStyle { size: 12; line: 16; weight: Font.Medium }

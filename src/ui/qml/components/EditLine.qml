@@ -7,12 +7,13 @@ TextInput {
 
     required property PanelHost host
     property string placeholder
+    property TextStyle style: Theme.body
 
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholder
     clip: true
     verticalAlignment: TextInput.AlignVCenter
-    font: Theme.body.font
+    font: style.font
     color: Theme.text1
     selectionColor: Theme.withAlpha(Theme.accent, 0.45)
     selectedTextColor: Theme.text1
@@ -34,7 +35,7 @@ TextInput {
         width: parent.width
         text: input.placeholder
         color: Theme.placeholder
-        style: Theme.body
+        style: input.style
     }
 
     PressWatch {

@@ -16,7 +16,7 @@ FocusScope {
     // What floated over the last content has taken it.
     onOpenChanged: {
         if (open) {
-            forceActiveFocus();
+            focus = true;
         }
     }
 

@@ -58,6 +58,7 @@ FocusScope {
     }
 
     TopBar {
+        id: topBar
         objectName: "topBar"
         x: Theme.insetSide
         y: Theme.insetTop
@@ -68,7 +69,7 @@ FocusScope {
     UsageBlock {
         objectName: "usage"
         x: Theme.insetSide
-        y: Theme.usageTop
+        y: Theme.usageTop + topBar.height - 32
         width: parent.width - 2 * Theme.insetSide
         host: content.host
     }
@@ -76,7 +77,7 @@ FocusScope {
     TabPicker {
         objectName: "tabs"
         x: Theme.insetSide
-        y: Theme.tabsTop
+        y: Theme.tabsTop + topBar.height - 32
         width: parent.width - 2 * Theme.insetSide
         tabs: content.tabs
         current: content.tab
@@ -87,7 +88,7 @@ FocusScope {
     FocusScope {
         id: body
         x: Theme.insetSide
-        y: Theme.bodyTop
+        y: Theme.bodyTop + topBar.height - 32
         width: parent.width - 2 * Theme.insetSide
         height: parent.height - y - Theme.insetBottom
         focus: true

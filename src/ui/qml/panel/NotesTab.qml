@@ -40,7 +40,10 @@ FocusScope {
                 text: tab.host.store.note
                 // What the editor makes of a stored note is no change of it.
                 property bool ready: false
-                Component.onCompleted: ready = true
+                Component.onCompleted: {
+                    ready = true;
+                    cursorPosition = length;
+                }
                 onTextChanged: {
                     if (ready && text !== tab.host.store.note) {
                         tab.host.store.note = text;

@@ -49,7 +49,7 @@ Item {
     Binding {
         target: panel.host.timerFace
         property: "shown"
-        value: bar.visible && panel.Window.visibility !== Window.Hidden
+        value: (bar.visible || slot.open) && panel.Window.visibility !== Window.Hidden
     }
 
     Binding {

@@ -39,6 +39,7 @@ Item {
             activeFocusOnTab: count > 0
             orientation: ListView.Horizontal
             spacing: 6
+            cacheBuffer: 4000 // Chips differ in width: the end is known once they are all there.
             clip: true
             boundsBehavior: Flickable.StopAtBounds
             highlightMoveDuration: Theme.move(200)
@@ -73,8 +74,9 @@ Item {
             WheelHandler {
                 onWheel: event => {
                     const step = event.angleDelta.y + event.angleDelta.x;
-                    const end = Math.max(-4, list.contentWidth - list.width);
-                    list.contentX = Math.max(-4, Math.min(list.contentX - step, end));
+                    const begin = list.originX - list.leftMargin;
+                    const end = Math.max(begin, list.originX + list.contentWidth - list.width);
+                    list.contentX = Math.max(begin, Math.min(list.contentX - step, end));
                 }
             }
         }

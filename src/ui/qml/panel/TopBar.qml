@@ -6,9 +6,41 @@ Item {
     id: bar
 
     required property PanelHost host
-    implicitHeight: 32
+    /// In a narrow panel the reminders have a row of their own.
+    readonly property bool hasTwoRows: width < 820 - 2 * Theme.insetSide
+    readonly property real leftRoom: actions.x - 16 - (hasTwoRows ? 0 : 100)
+
+    implicitHeight: hasTwoRows ? 64 : 32
+
+    FocusControl {
+        id: starting
+        objectName: "focusControl"
+        visible: !bar.host.store.timerRunning
+        host: bar.host
+        room: bar.leftRoom
+    }
+
+    RunningTimer {
+        id: running
+        objectName: "runningTimer"
+        visible: bar.host.store.timerRunning
+        host: bar.host
+        room: bar.leftRoom
+    }
+
+    ReminderStrip {
+        readonly property real begin: bar.hasTwoRows ? 0 : 16
+            + (running.visible ? running.width : starting.width)
+
+        objectName: "reminderStrip"
+        x: begin
+        y: bar.hasTwoRows ? 40 : 4
+        width: (bar.hasTwoRows ? bar.width : actions.x - 16) - begin
+        host: bar.host
+    }
 
     Row {
+        id: actions
         objectName: "actions"
         anchors.right: parent.right
         spacing: 8

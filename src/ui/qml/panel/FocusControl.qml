@@ -1,0 +1,116 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Ravelo
+
+/// Starts a focus timer: what for, how long, go.
+Box {
+    id: control
+
+    required property PanelHost host
+    /// How wide it may get.
+    required property real room
+
+    readonly property FocusControls focusing: host.focusControls
+    readonly property real others: presets.width + minutes.width + 44
+
+    function start() {
+        focusing.startFocus(note.text);
+        note.clear();
+    }
+
+    implicitWidth: note.width + others
+    implicitHeight: 32
+    radius: 16
+    color: Theme.surface2
+    lineColor: note.activeFocus ? Theme.withAlpha(Theme.accent, 0.55) : Theme.line
+    lineWidth: 1
+
+    EditLine {
+        id: note
+        objectName: "focusNote"
+        x: 14
+        width: Math.max(60, Math.min(150, control.room - control.others))
+        height: parent.height
+        host: control.host
+        placeholder: "Focus…"
+        Keys.onReturnPressed: control.start()
+        Keys.onEnterPressed: control.start()
+    }
+
+    MenuButton {
+        id: presets
+        objectName: "presetMenu"
+        anchors.right: minutes.left
+        text: note.text === "" ? "Focus" : note.text
+        longest: control.room < 330 ? 40 : 96
+        lit: presetMenu.opened
+        onClicked: presetMenu.openUnder(this as Item)
+
+        Menu {
+            id: presetMenu
+            objectName: "presetChoices"
+            host: control.host
+            name: "Focus presets"
+            leastWidth: 168
+            entries: control.focusing.presets.map(preset => ({
+                text: preset, chosen: () => note.text = preset
+            })).concat([
+                { divider: true },
+                { text: "Edit presets…", chosen: () => presetEditor.openUnder(presets) }
+            ])
+        }
+    }
+
+    MenuButton {
+        id: minutes
+        objectName: "minutesMenu"
+        anchors.right: play.left
+        text: control.focusing.minutesLabel
+        lit: minutesMenu.opened
+        onClicked: minutesMenu.openUnder(this as Item)
+
+        Menu {
+            id: minutesMenu
+            objectName: "minuteChoices"
+            host: control.host
+            name: "Minutes"
+            leastWidth: 128
+            entries: [15, 25, 30, 45, 60, 90, 120].map(choice => ({
+                text: choice + " min",
+                checked: choice === control.focusing.minutes,
+                chosen: () => control.focusing.minutes = choice
+            })).concat([
+                { divider: true },
+                { text: "Custom…", chosen: () => custom.ask(minutes) }
+            ])
+        }
+    }
+
+    RoundButton {
+        id: play
+        objectName: "startFocus"
+        x: parent.width - width - 2
+        y: 2
+        width: 28
+        height: 28
+        radius: 14
+        rest: Theme.surface4
+        hover: Theme.hoveredMini
+        press: Theme.pressedMini
+        symbol: "play.fill"
+        tint: Theme.white(1)
+        tip: "Start countdown"
+        onClicked: control.start()
+    }
+
+    CustomMinutes {
+        id: custom
+        host: control.host
+    }
+
+    PresetEditor {
+        id: presetEditor
+        host: control.host
+    }
+}

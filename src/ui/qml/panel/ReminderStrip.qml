@@ -1,0 +1,127 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Ravelo
+
+/// The reminders, and a field for one more, as far right as there is room.
+Item {
+    id: strip
+
+    required property PanelHost host
+
+    implicitHeight: 24
+
+    ListView {
+        id: list
+        anchors.right: field.left
+        anchors.rightMargin: count > 0 ? 14 : 0
+        width: Math.min(contentWidth, field.x - anchors.rightMargin)
+        height: parent.height
+        Accessible.role: Accessible.List
+        Accessible.name: "Reminders"
+        orientation: ListView.Horizontal
+        spacing: 14
+        clip: contentWidth > width
+        interactive: contentWidth > width
+        boundsBehavior: Flickable.StopAtBounds
+        model: strip.host.store.reminders
+        onCountChanged: Qt.callLater(positionViewAtEnd)
+
+        delegate: Item {
+            id: reminder
+
+            required property int index
+            required property string modelData
+
+            function remove() {
+                strip.host.focusControls.removeReminder(index);
+            }
+
+            objectName: "reminderLine" + index
+            width: text.width + 16
+            height: 24
+            Accessible.role: Accessible.ListItem
+            Accessible.name: modelData
+
+            Label {
+                id: text
+                y: 4
+                text: reminder.modelData
+                style: Theme.body
+                color: Theme.roundGlyph
+            }
+
+            Pressable {
+                objectName: "removeReminder"
+                name: "Remove " + reminder.modelData
+                x: parent.width - 13
+                y: 4
+                width: 16
+                height: 16
+                radius: 8
+                rest: Theme.none
+                hover: Theme.none
+                press: Theme.none
+                onClicked: reminder.remove()
+
+                Glyph {
+                    anchors.centerIn: parent
+                    size: 10
+                    symbol: "xmark"
+                    color: parent.hovered ? Theme.text1 : Theme.removeGlyph // qmllint disable missing-property
+                }
+            }
+
+            TapHandler {
+                acceptedButtons: Qt.RightButton
+                onTapped: point => {
+                    menu.chosen = reminder.index;
+                    menu.openAt(reminder.mapToItem(menu.parent, point.position), false, false);
+                }
+            }
+        }
+    }
+
+    Box {
+        id: field
+        anchors.right: parent.right
+        width: 70
+        height: 24
+        radius: 12
+        color: Theme.surface1
+        lineColor: draft.activeFocus ? Theme.withAlpha(Theme.accent, 0.55) : Theme.line
+        lineWidth: 1
+
+        EditLine {
+            id: draft
+            objectName: "reminderDraft"
+            x: 10
+            width: parent.width - 20
+            height: parent.height
+            host: strip.host
+            style: Theme.small
+            placeholder: "Add…"
+            Accessible.name: "Add a reminder"
+            Keys.onReturnPressed: add()
+            Keys.onEnterPressed: add()
+
+            function add() {
+                if (strip.host.focusControls.addReminder(text)) {
+                    clear();
+                }
+            }
+        }
+    }
+
+    Menu {
+        id: menu
+
+        property int chosen: -1
+
+        host: strip.host
+        name: "Reminder"
+        entries: [
+            { text: "Remove", chosen: () => strip.host.focusControls.removeReminder(menu.chosen) }
+        ]
+    }
+}
