@@ -39,7 +39,7 @@ Item {
             activeFocusOnTab: count > 0
             orientation: ListView.Horizontal
             spacing: 6
-            cacheBuffer: 4000 // Chips differ in width: the end is known once they are all there.
+            cacheBuffer: 0 // What is made ahead is in the way of a search that takes it away.
             clip: true
             boundsBehavior: Flickable.StopAtBounds
             highlightMoveDuration: Theme.move(200)
