@@ -123,22 +123,28 @@ class Capture(ProgramCase):
         self.wait_for_texts("one", "two")
         self.assertEqual(self.ravelo.texts(), ["one", "two"])
 
-    def test_a_quick_series_is_kept_whole_and_in_order_up_to_the_limit(self):
+    def start_and_settle(self):
+        """Right after its start the program makes its panel, and may be late for some moments."""
         self.ravelo.start()
+        self.copy_and_wait("the first")
+
+    def test_a_quick_series_is_kept_whole_and_in_order_up_to_the_limit(self):
+        self.start_and_settle()
         for count, kept, interval in ((20, 20, 25), (61, 60, 60)):
             with self.subTest(count=count):
                 self.qt("--series", count, "--interval", SLOWER * interval)
                 self.wait_for_texts(f"text {count}")
-                self.assertEqual(self.ravelo.texts(),
+                self.assertLessEqual(len(self.ravelo.texts()), 60, "the limit")
+                self.assertEqual(self.ravelo.texts()[:kept],
                                  [f"text {n}" for n in range(count, count - kept, -1)])
 
     def test_twenty_owners_one_after_the_other(self):
-        self.ravelo.start()
+        self.start_and_settle()
         for number in range(20):
             self.desktop.copy_text(f"owner {number}")
             time.sleep(0.025 * SLOWER)  # The pace is what is tested.
         self.wait_for_texts("owner 19")
-        self.assertEqual(self.ravelo.texts(), [f"owner {n}" for n in range(19, -1, -1)])
+        self.assertEqual(self.ravelo.texts()[:20], [f"owner {n}" for n in range(19, -1, -1)])
 
 
 class Survival(ProgramCase):
