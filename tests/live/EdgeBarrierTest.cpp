@@ -31,8 +31,8 @@ protected:
 
     std::unique_ptr<Connection> connection_ = std::move(Connection::create().value());
     X11EdgeBarrier barrier_{*connection_, [](QPointF place) {
-                               return place.toPoint();
-                           }};
+                                return place.toPoint();
+                            }};
 };
 
 TEST_P(Crossing, isHeldFromBelowOnly) {

@@ -3,6 +3,8 @@ import Ravelo
 
 /// The symbol "photo.badge.plus": a picture with a plus in a hole at its corner.
 Item {
+    id: symbol
+
     /// What it stands on, opaque: it shows through the hole.
     required property color ground
 
@@ -20,7 +22,7 @@ Item {
         width: 12
         height: 12
         radius: 6
-        color: parent.ground // qmllint disable missing-property
+        color: symbol.ground
     }
 
     Glyph {

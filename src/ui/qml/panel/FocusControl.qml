@@ -12,6 +12,8 @@ Box {
     required property real room
 
     readonly property FocusControls focusing: host.focusControls
+    readonly property var presetTexts: focusing.presets
+    readonly property var minuteChoices: [15, 25, 30, 45, 60, 90, 120]
     readonly property real others: presets.width + minutes.width + 44
 
     function start() {
@@ -53,7 +55,7 @@ Box {
             host: control.host
             name: "Focus presets"
             leastWidth: 168
-            entries: control.focusing.presets.map(preset => ({
+            entries: control.presetTexts.map(preset => ({
                 text: preset, chosen: () => note.text = preset
             })).concat([
                 { divider: true },
@@ -76,7 +78,7 @@ Box {
             host: control.host
             name: "Minutes"
             leastWidth: 128
-            entries: [15, 25, 30, 45, 60, 90, 120].map(choice => ({
+            entries: control.minuteChoices.map(choice => ({
                 text: choice + " min",
                 checked: choice === control.focusing.minutes,
                 chosen: () => control.focusing.minutes = choice

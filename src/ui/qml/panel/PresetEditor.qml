@@ -66,6 +66,7 @@ Popover {
             }
 
             Pressable {
+                id: remove
                 objectName: "removePreset" + row.index
                 name: "Remove " + line.text
                 x: row.width - 21
@@ -81,7 +82,7 @@ Popover {
                 Glyph {
                     size: 17
                     symbol: "xmark.circle.fill"
-                    color: parent.hovered ? Theme.text2 : Theme.removeGlyph // qmllint disable missing-property
+                    color: remove.hovered ? Theme.text2 : Theme.removeGlyph
                 }
             }
         }

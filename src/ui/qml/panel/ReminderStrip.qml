@@ -25,7 +25,7 @@ Item {
         interactive: contentWidth > width
         boundsBehavior: Flickable.StopAtBounds
         model: strip.host.store.reminders
-        onCountChanged: Qt.callLater(positionViewAtEnd)
+        onCountChanged: positionViewAtEnd()
 
         delegate: Item {
             id: reminder
@@ -52,6 +52,7 @@ Item {
             }
 
             Pressable {
+                id: cross
                 objectName: "removeReminder"
                 name: "Remove " + reminder.modelData
                 x: parent.width - 13
@@ -68,7 +69,7 @@ Item {
                     anchors.centerIn: parent
                     size: 10
                     symbol: "xmark"
-                    color: parent.hovered ? Theme.text1 : Theme.removeGlyph // qmllint disable missing-property
+                    color: cross.hovered ? Theme.text1 : Theme.removeGlyph
                 }
             }
 

@@ -54,6 +54,7 @@ Pressable {
     Loader {
         active: chip.hovered
         anchors.fill: parent
+        // qmllint disable unqualified
         sourceComponent: Item {
             FadingEdge {
                 x: label.x
@@ -97,6 +98,7 @@ Pressable {
                 onClicked: chip.editRequested()
             }
         }
+        // qmllint enable unqualified
     }
 
     TapHandler {

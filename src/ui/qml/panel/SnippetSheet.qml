@@ -30,9 +30,12 @@ FocusScope {
         body.text = editor.body;
         filling = false;
         host.controller.typeFocus();
-        const first = editor.title === "" ? title : body;
-        first.forceActiveFocus();
-        first.cursorPosition = first.text.length;
+        if (editor.title === "") {
+            title.forceActiveFocus();
+        } else {
+            body.forceActiveFocus();
+            body.cursorPosition = body.length;
+        }
     }
 
     visible: opacity > 0

@@ -16,7 +16,8 @@ Item {
     Connections {
         target: strip.host.snippetEditor
         function onAdded() {
-            Qt.callLater(list.positionViewAtEnd);
+            list.forceLayout();
+            list.positionViewAtEnd();
         }
     }
 
@@ -83,6 +84,7 @@ Item {
     }
 
     Pressable {
+        id: add
         objectName: "addSnippet"
         name: "New snippet"
         x: parent.width - width
@@ -96,7 +98,7 @@ Item {
             anchors.centerIn: parent
             size: 17
             symbol: "plus"
-            color: parent.hovered ? Theme.text1 : Theme.text2 // qmllint disable missing-property
+            color: add.hovered ? Theme.text1 : Theme.text2
         }
     }
 
