@@ -50,6 +50,11 @@ void XServer::click() {
     fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_1, {});
 }
 
+void XServer::turnWheel() {
+    fake(XCB_BUTTON_PRESS, XCB_BUTTON_INDEX_5, {});
+    fake(XCB_BUTTON_RELEASE, XCB_BUTTON_INDEX_5, {});
+}
+
 void XServer::press(xcb_keysym_t key) {
     const xcb_setup_t* setup = xcb_get_setup(connection_);
     const auto count = static_cast<uint8_t>(setup->max_keycode - setup->min_keycode + 1);

@@ -60,6 +60,8 @@ public:
     // Pointer and keys as a hand would move them (XTEST). Not sent before the next flush.
     void move(Place place);
     void click();
+    /// One notch towards the end of what is under the pointer.
+    void turnWheel();
     /// A key that needs no other one held.
     void press(xcb_keysym_t key);
 

@@ -2,6 +2,7 @@
 
 import collections
 import contextlib
+import itertools
 import json
 import pathlib
 import statistics
@@ -129,6 +130,44 @@ def typing(_):
             Row("typing: key to frame, worst", max(times), "ms")]
 
 
+# Scrolling.
+
+SCROLLED = 5  # Seconds.
+
+
+def short_clips():
+    return [clip(n, pinned=True) for n in range(1000)]
+
+
+def frame_times(clips):
+    """Milliseconds from frame to frame while the list is scrolled, and the part of a core used."""
+    with Desktop() as desktop:
+        fill(desktop, Ravelo(desktop, BUILD / "ravelo"), clips)
+        ravelo = Ravelo(desktop, BUILD / "ravelo").start()
+        time.sleep(5)  # Whatever the start left to do.
+        before = use(ravelo.process)
+        output = subprocess.run([BUILD / "bench/bench_scrolling", str(ravelo.panel().window),
+                                 str(SCROLLED)], env=desktop.env, text=True,
+                                stdout=subprocess.PIPE, check=True).stdout
+        seconds = use(ravelo.process).seconds - before.seconds
+    times = [float(line) for line in output.splitlines()]
+    # What is drawn in several pieces is one frame.
+    whole = [b for a, b in itertools.pairwise([-1000, *times]) if b - a > 4]
+    assert len(whole) > 10 * SCROLLED, f"{len(whole)} frames in {SCROLLED} s: nothing scrolls"
+    return [b - a for a, b in itertools.pairwise(whole)], 100 * seconds / SCROLLED
+
+
+def scrolling(_):
+    times, processor = frame_times(list(long_clips()))
+    short_times, short_processor = frame_times(short_clips())
+    return [
+        Row("scrolling: frame to frame, median", statistics.median(times), "ms", 17,
+            statistics.median(short_times)),
+        Row("scrolling: frame to frame, p95", p95(times), "ms", None, p95(short_times)),
+        Row("scrolling: processor", processor, "% core", None, short_processor),
+    ]
+
+
 # Rest.
 
 Use = collections.namedtuple("Use", "voluntary involuntary seconds")
@@ -172,4 +211,4 @@ def rest(options):
     ]
 
 
-MEASUREMENTS = [openings, typing, rest]
+MEASUREMENTS = [openings, typing, scrolling, rest]

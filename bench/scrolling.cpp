@@ -1,0 +1,45 @@
+// scrolling WINDOW SECONDS: opens a panel by the pointer and turns the wheel over its list, a notch
+// each sixtieth of a second. Prints when each frame had been read, in milliseconds from the first.
+
+#include "bench/Frames.h"
+
+#include <cstdlib>
+#include <iostream>
+
+namespace {
+
+using namespace ravelo::bench;
+using namespace std::chrono_literals;
+
+constexpr auto notch = std::chrono::duration_cast<Clock::duration>(1s) / 60;
+constexpr Place inList = {400, 420}; ///< In the panel.
+constexpr auto settling = 1s;        ///< More than any fade of the opening takes.
+
+} // namespace
+
+int main(int argc, char** argv) {
+    if (argc != 3) {
+        giveUp("scrolling WINDOW SECONDS");
+    }
+    XServer server;
+    WindowWatch window(server, static_cast<xcb_window_t>(std::strtoul(argv[1], nullptr, 10)));
+    const int16_t middle = static_cast<int16_t>(server.screen().width_in_pixels / 2);
+    server.move({middle, 2});
+    xcb_flush(server.get());
+    window.awaitSize(panelSize);
+    const int16_t left = static_cast<int16_t>(middle - panelSize.width / 2);
+    server.move({static_cast<int16_t>(left + inList.x), inList.y});
+    xcb_flush(server.get());
+    while (window.nextFrame(settling)) { // What the opening draws.
+    }
+    const auto begun = Clock::now();
+    const auto end = begun + std::chrono::seconds(std::atoi(argv[2]));
+    for (auto due = begun; due < end; due += notch) {
+        server.turnWheel();
+        xcb_flush(server.get());
+        while (const auto frame = window.nextFrame(due + notch - Clock::now())) {
+            std::cout << std::chrono::duration<double, std::milli>(frame->seen - begun).count()
+                      << '\n';
+        }
+    }
+}
