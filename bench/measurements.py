@@ -66,10 +66,10 @@ def running(program):
 
 # Openings.
 
-def opened(desktop, window, process, count):
+def opened(desktop, window, process, count, how="pointer"):
     """Milliseconds of each opening: until the window has its size, until it shows everything."""
     output = subprocess.run([BUILD / "bench/bench_openings", str(window), str(process.pid),
-                             str(count)], env=desktop.env, stdout=subprocess.PIPE, text=True,
+                             str(count), how], env=desktop.env, stdout=subprocess.PIPE, text=True,
                             check=True).stdout
     rows = [[float(word) for word in line.split()] for line in output.splitlines()]
     assert len(rows) == count, f"{len(rows)} openings of {count}"
@@ -83,7 +83,9 @@ def p95(values):
 def openings(options):
     count = options.openings + 1
     with running("ravelo") as (desktop, ravelo):
-        sized, shown = opened(desktop, ravelo.panel().window, ravelo.process, count)
+        window = ravelo.panel().window
+        sized, shown = opened(desktop, window, ravelo.process, count)
+        _, called = opened(desktop, window, ravelo.process, count, "call")
     with Desktop() as desktop:
         client = desktop.spawn(BUILD / "bench/bench_reference", stdout=subprocess.PIPE, text=True)
         window = int(client.stdout.readline())
@@ -98,6 +100,8 @@ def openings(options):
         row("content shown, p95", p95, later, reference, 40),
         row("content shown, the first", lambda values: values[0], shown, trivially),
         row("window resized, median", statistics.median, sized[1:], trivially_sized[1:]),
+        Row("opening by call: content, median", statistics.median(called[1:]), "ms", 6),
+        Row("opening by call: content, p95", p95(called[1:]), "ms", 12),
     ]
 
 

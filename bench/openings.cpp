@@ -1,6 +1,7 @@
-// openings WINDOW PROCESS COUNT: opens a panel by the pointer and closes it by a click elsewhere,
-// as a hand does. Prints for each opening the milliseconds from the pointer's arrival until the
-// window had its size, and until it showed all its content, at whatever opacity but none.
+// openings WINDOW PROCESS COUNT HOW: opens a panel and closes it by a click elsewhere. HOW is
+// "pointer", as a hand does it, or "call", over the session bus. Prints for each opening the
+// milliseconds from the pointer's arrival or the call until the window had its size, and until it
+// showed all its content, at whatever opacity but none.
 //
 // Every frame is read as it comes, some 0.5 ms of the X server's time, and looked at afterwards:
 // the first that holds every detail of the last one counts, from the moment at which it had been
@@ -9,16 +10,23 @@
 #include "bench/Frames.h"
 #include "bench/Idle.h"
 
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QDBusPendingCall>
+#include <QVariantMap>
+
 #include <algorithm>
 #include <cstdlib>
 #include <iostream>
 #include <random>
+#include <string_view>
 #include <thread>
 
 namespace {
 
 using namespace ravelo::bench;
 using namespace std::chrono_literals;
+using namespace Qt::StringLiterals;
 
 constexpr Place away = {200, 800};
 constexpr auto betweenFrames = 100ms; ///< Far more than from one frame of a fade to the next.
@@ -40,12 +48,26 @@ std::optional<Frame> nextFrame(WindowWatch& window, int process) {
     return frame;
 }
 
-Opening open(XServer& server, WindowWatch& window, int process) {
-    Opening opening;
+using Trigger = void (*)(XServer&);
+
+void arrive(XServer& server) {
     const Place zone = {static_cast<int16_t>(server.screen().width_in_pixels / 2), 2};
     server.move(zone);
-    opening.begun = Clock::now();
     xcb_flush(server.get());
+}
+
+void call(XServer& /*server*/) {
+    auto activate = QDBusMessage::createMethodCall(u"org.ravelo.Ravelo"_s, u"/org/ravelo/Ravelo"_s,
+                                                   u"org.freedesktop.Application"_s,
+                                                   u"Activate"_s);
+    activate << QVariantMap();
+    QDBusConnection::sessionBus().asyncCall(activate);
+}
+
+Opening open(XServer& server, WindowWatch& window, int process, Trigger trigger) {
+    Opening opening;
+    opening.begun = Clock::now();
+    trigger(server);
     opening.resized = window.awaitSize(panelSize);
     while (auto frame = nextFrame(window, process)) {
         opening.frames.push_back(std::move(*frame));
@@ -76,9 +98,10 @@ void report(const Opening& opening) {
 } // namespace
 
 int main(int argc, char** argv) {
-    if (argc != 4) {
-        giveUp("openings WINDOW PROCESS COUNT");
+    if (argc != 5) {
+        giveUp("openings WINDOW PROCESS COUNT pointer|call");
     }
+    const Trigger trigger = std::string_view(argv[4]) == "call" ? call : arrive;
     const int process = std::atoi(argv[2]);
     XServer server;
     WindowWatch window(server, static_cast<xcb_window_t>(std::strtoul(argv[1], nullptr, 10)));
@@ -89,7 +112,7 @@ int main(int argc, char** argv) {
         xcb_flush(server.get());
         awaitIdle(process);
         std::this_thread::sleep_for(std::chrono::duration<double, std::milli>(pause(random)));
-        report(open(server, window, process));
+        report(open(server, window, process, trigger));
         close(server, window);
     }
 }

@@ -3,7 +3,24 @@
 #include <QByteArray>
 #include <QtGlobal>
 
+#include <malloc.h>
+
 namespace ravelo::x11 {
+
+namespace {
+
+/// Each opening draws 2 MB into memory that the last closing has given back. New pages cost ten
+/// times as much as the drawing where page faults are slow (virtual machines), and shared memory
+/// makes the X server pay for them once more. So the pixels are sent instead, out of memory that
+/// the process keeps.
+void keepPixels() {
+    constexpr int kept = 8 << 20; // Bytes; the panel's pixels with room to spare.
+    mallopt(M_MMAP_THRESHOLD, kept);
+    mallopt(M_TRIM_THRESHOLD, kept);
+    qputenv("QT_XCB_NO_MITSHM", "1");
+}
+
+} // namespace
 
 void prepareApplication() {
     // A session may ask for Wayland for all programs; this adapter cannot do with it.
@@ -14,6 +31,7 @@ void prepareApplication() {
     }
     // Else each frame that is asked for waits 5 ms before it is drawn.
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
+    keepPixels();
 }
 
 } // namespace ravelo::x11
