@@ -67,6 +67,31 @@ SCENES = [
         ("clearQuestion/bubble/no", ".pop .btn:nth-child(1)", ALL),
         ("clearQuestion/bubble/yes", ".pop .btn:nth-child(2)", ALL),
     ]),
+    ("running", "04-timer-search-confirm.html", ".panel", [
+        ("runningTimer/runningTime", ".run .t|text", ALL),
+        ("runningTimer/runningLabel", ".run .l|text", "xw"),
+        ("runningTimer/stopTimer", ".run .btn", ALL),
+    ]),
+    ("presets", "11a-presets-menu.html", ".panel", [
+        ("presetChoices/bubble", ".menu", ALL),
+        ("presetChoices/bubble/item1", ".menu .it:nth-child(2)", ALL),
+        ("presetChoices/bubble/item6", ".menu .it:nth-child(7)", ALL),
+    ]),
+    ("minutes", "11b-minutes-menu.html", ".panel", [
+        ("minuteChoices/bubble", ".menu", ALL),
+        ("minuteChoices/bubble/item8", ".menu .it:nth-child(9)", ALL),
+    ]),
+    ("custom-minutes", "11c-custom-minutes.html", ".panel", [
+        ("customMinutes/bubble", ".pop", ALL),
+    ]),
+    ("preset-editor", "11d-preset-editor.html", ".panel", [
+        ("presetEditor/bubble", ".pop", ALL),
+        ("presetEditor/bubble/addPreset", ".pop .btn", ALL),
+    ]),
+    ("reminders", "11e-reminders.html", ".panel", [
+        ("reminderQuestion/bubble", ".pop", ALL),
+        ("reminderStrip/reminderLine0", ".rem .r", ALL),
+    ]),
     ("empty", "05-clipboard-empty.html", ".panel", [
         ("emptyDisc", ".empty .o", ALL),
         ("emptyTitle", ".empty b", ALL),

@@ -116,10 +116,14 @@ void settle(int milliseconds = 700) {
     }
 }
 
-QPointF middle(QQuickWindow& window, const QString& name) {
-    const QQuickItem* item = find(window.contentItem(), name);
-    if (item == nullptr) {
-        qFatal("there is no element \"%s\"", qPrintable(name));
+/// `path` are names, each below the one before.
+QPointF middle(QQuickWindow& window, const QString& path) {
+    const QQuickItem* item = window.contentItem();
+    for (const QString& name : path.split(u'/')) {
+        item = find(item, name);
+        if (item == nullptr) {
+            qFatal("there is no element \"%s\"", qPrintable(path));
+        }
     }
     return item->mapToScene(item->boundingRect().center());
 }
@@ -167,6 +171,11 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         settle();
         return;
     }
+    if (scene == u"running") {
+        world.store.startTimer(u"Estimates"_s, (24 * 60 + 12.5) / 60);
+    } else if (scene == u"narrow") {
+        world.settings.setPanelWidth(560);
+    }
     world.controller.positionExpanded();
     window.resize(world.controller.frame().size().toSize());
     settle();
@@ -176,6 +185,30 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         send(window, QEvent::MouseMove, {643, 417});
     } else if (scene == u"question") {
         click(window, middle(window, u"trash"_s));
+    } else if (scene == u"presets" || scene == u"preset-editor") {
+        click(window, middle(window, u"presetMenu"_s));
+        settle(300);
+        send(window, QEvent::MouseMove, middle(window, u"presetChoices/item1"_s));
+        if (scene == u"preset-editor") {
+            click(window, middle(window, u"presetChoices/item6"_s));
+            settle(300);
+            click(window, middle(window, u"preset1"_s));
+        }
+    } else if (scene == u"minutes" || scene == u"custom-minutes") {
+        click(window, middle(window, u"minutesMenu"_s));
+        settle(300);
+        send(window, QEvent::MouseMove, middle(window, u"minuteChoices/item8"_s));
+        if (scene == u"custom-minutes") {
+            click(window, middle(window, u"minuteChoices/item8"_s));
+        }
+    } else if (scene == u"reminders") {
+        world.store.setReminders({u"Call the framer"_s});
+        world.store.setReminderOpen(true);
+        settle(100);
+        click(window, middle(window, u"reminderToggle"_s));
+    } else if (scene == u"running" || scene == u"narrow") {
+        world.store.setReminders({u"Call the framer"_s, u"Send estimate"_s});
+        world.store.setReminderOpen(true);
     } else if (scene == u"chip") {
         send(window, QEvent::MouseMove, middle(window, u"chip1"_s));
     } else if (scene == u"menu") {

@@ -24,9 +24,9 @@ FocusScope {
 
     signal closed
 
-    /// Below an item of the panel, from its left edge on.
-    function openUnder(item: Item) {
-        openAt(item.mapToItem(parent, 0, item.height + 6), false, item.activeFocus);
+    /// Below an item of the panel, from `within` its left edge on.
+    function openUnder(item: Item, within: real) {
+        openAt(item.mapToItem(parent, within, item.height + 6), false, item.activeFocus);
     }
 
     /// Below an item of the panel, up to `beyond` behind its right edge.

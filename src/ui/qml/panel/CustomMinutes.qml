@@ -7,7 +7,7 @@ Popover {
 
     function ask(button: Item) {
         line.text = Math.floor(host.focusControls.minutes);
-        openUnder(button);
+        openUnder(button, 15);
         line.forceActiveFocus();
         line.selectAll();
     }

@@ -47,7 +47,7 @@ Box {
         text: note.text === "" ? "Focus" : note.text
         longest: control.room < 330 ? 40 : 96
         lit: presetMenu.opened
-        onClicked: presetMenu.openUnder(this as Item)
+        onClicked: presetMenu.openUnder(this as Item, 4)
 
         Menu {
             id: presetMenu
@@ -59,7 +59,7 @@ Box {
                 text: preset, chosen: () => note.text = preset
             })).concat([
                 { divider: true },
-                { text: "Edit presets…", chosen: () => presetEditor.openUnder(presets) }
+                { text: "Edit presets…", chosen: () => presetEditor.openUnder(presets, 4) }
             ])
         }
     }
@@ -70,7 +70,7 @@ Box {
         anchors.right: play.left
         text: control.focusing.minutesLabel
         lit: minutesMenu.opened
-        onClicked: minutesMenu.openUnder(this as Item)
+        onClicked: minutesMenu.openUnder(this as Item, 15)
 
         Menu {
             id: minutesMenu

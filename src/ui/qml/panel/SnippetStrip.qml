@@ -56,7 +56,7 @@ Item {
 
                 function askToRemove() {
                     strip.chosen = snippetId;
-                    question.openUnder(one);
+                    question.openUnder(one, 0);
                 }
 
                 objectName: "chip" + index
