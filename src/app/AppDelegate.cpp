@@ -1,5 +1,6 @@
 #include "app/AppDelegate.h"
 
+#include "app/Commands.h"
 #include "base/Files.h"
 #include "clipboard/ClipboardManager.h"
 #include "panel/NotchController.h"
@@ -97,6 +98,10 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
         rest_);
     view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_},
                 QLocale());
+    const auto quit = [] {
+        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+    };
+    commands_ = std::make_unique<Commands>(Commands::Services{*store_, *notch_, *scheduler_, quit});
     wire();
     return {};
 }
@@ -127,14 +132,8 @@ void AppDelegate::wire() {
     });
 }
 
-void AppDelegate::perform(const QString& action) {
-    if (action == "quit"_L1) {
-        QCoreApplication::quit();
-    } else if (action == "toggle"_L1) {
-        notch_->toggle();
-    } else {
-        notch_->positionExpanded();
-    }
+Answer AppDelegate::answer(const QStringList& request) {
+    return commands_->answer(request);
 }
 
 void AppDelegate::flush() {

@@ -3,9 +3,10 @@
 #include "base/Handle.h"
 #include "base/Result.h"
 #include "panel/HoverTick.h"
+#include "platform/Answer.h"
 
 #include <QLockFile>
-#include <QString>
+#include <QStringList>
 
 #include <memory>
 
@@ -13,6 +14,7 @@ namespace ravelo {
 
 class AppSettings;
 class ClipboardManager;
+class Commands;
 class DisplayServer;
 class LoginItem;
 class NotchController;
@@ -36,8 +38,8 @@ public:
     /// An error where another session of this user has the data in use.
     [[nodiscard]] Result<void> applicationDidFinishLaunching();
 
-    /// What another start of the program asked for: "toggle", "quit", or to be shown.
-    void perform(const QString& action);
+    /// What another start of the program asked for; see Commands. After launching.
+    [[nodiscard]] Answer answer(const QStringList& request);
 
     /// Brings to disk what is not there yet and waits for it. Safe to call again, and from atexit.
     void flush();
@@ -61,6 +63,7 @@ private:
     std::unique_ptr<PanelView> view_;
     std::unique_ptr<PanelWindow> window_;
     std::unique_ptr<NotchController> notch_;
+    std::unique_ptr<Commands> commands_;
     Handle compositor_;
     Handle motion_;
     Handle termination_;

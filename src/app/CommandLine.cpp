@@ -1,31 +1,80 @@
 #include "app/CommandLine.h"
 
+#include "app/Commands.h"
+
 #include <QHash>
 
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
-Result<Command> parseCommandLine(const QStringList& arguments) {
-    static const QHash<QString, Command> commands = {
-        {u"--toggle"_s, Command::toggle},       {u"--quit"_s, Command::quit},
-        {u"--help"_s, Command::showHelp},       {u"-h"_s, Command::showHelp},
-        {u"--version"_s, Command::showVersion}, {u"-v"_s, Command::showVersion},
+namespace {
+
+using Kind = Command::Kind;
+using IfNoneRuns = Command::IfNoneRuns;
+
+Result<Command> parseOption(const QList<QByteArray>& arguments) {
+    static const QHash<QByteArray, Command> options = {
+        {"--toggle", {Kind::ask, {u"toggle"_s}, {}, IfNoneRuns::startAndAsk}},
+        {"--quit", {Kind::ask, {u"quit"_s}, {}, IfNoneRuns::fail}},
+        {"--help", {Kind::showHelp, {}, {}, {}}},
+        {"-h", {Kind::showHelp, {}, {}, {}}},
+        {"--version", {Kind::showVersion, {}, {}, {}}},
+        {"-v", {Kind::showVersion, {}, {}, {}}},
     };
+    const auto found = options.constFind(arguments.first());
+    if (found == options.cend()) {
+        return failure(u"unknown argument: "_s + QString::fromUtf8(arguments.first()));
+    }
+    if (arguments.size() > 1) {
+        return failure(u"one argument is enough: "_s + QString::fromUtf8(arguments.at(1)));
+    }
+    return found.value();
+}
+
+Result<Command> parseWords(const QList<QByteArray>& arguments) {
+    Command command;
+    for (const QByteArray& argument : arguments) {
+        command.request.append(QString::fromUtf8(argument));
+    }
+    return Commands::check(command.request).map([&] { return command; });
+}
+
+Result<Command> parseFiles(const QList<QByteArray>& arguments) {
+    Command command{Kind::ask, {u"open"_s}, {}, IfNoneRuns::startAndAsk};
+    bool onlyFiles = false;
+    for (const QByteArray& argument : arguments) {
+        if (!onlyFiles && argument == "--") {
+            onlyFiles = true;
+        } else if (!onlyFiles && argument.startsWith('-')) {
+            return failure(u"unknown argument: "_s + QString::fromUtf8(argument));
+        } else {
+            command.files.append(argument);
+        }
+    }
+    return command.files.isEmpty() ? failure(u"no files"_s) : Result<Command>(command);
+}
+
+} // namespace
+
+Result<Command> parseCommandLine(const QList<QByteArray>& arguments) {
     if (arguments.isEmpty()) {
-        return Command::start;
+        return Command{Kind::ask, {u"show"_s}, {}, IfNoneRuns::start};
     }
-    if (const auto found = commands.constFind(arguments.first()); found == commands.cend()) {
-        return failure(u"unknown argument: "_s + arguments.first());
-    } else if (arguments.size() > 1) {
-        return failure(u"one argument is enough: "_s + arguments.at(1));
-    } else {
-        return found.value();
+    const QByteArray& first = arguments.first();
+    if (first == "timer" || first == "shelf") {
+        return parseWords(arguments);
     }
+    return first.startsWith('-') && first != "--" ? parseOption(arguments) : parseFiles(arguments);
 }
 
 QString helpText() {
     return uR"(Usage: ravelo [OPTION]
+       ravelo [--] FILE...
+       ravelo timer start MINUTES [LABEL]
+       ravelo timer stop
+       ravelo timer status [--json]
+       ravelo shelf list [--null | --json]
 
 Clipboard history, snippets and a quick note in a panel at the top centre of the
 screen. Move the pointer there to open it; click elsewhere to close it.
@@ -36,6 +85,27 @@ screen. Move the pointer there to open it; click elsewhere to close it.
   -v, --version  show the version
 
 Started a second time, Ravelo opens the panel of the one that is running.
+
+  FILE...        park the files, or file:// addresses, on the shelf and show it;
+                 starts Ravelo where it is not running. Names that begin with a
+                 dash go after --, and so do files called "timer" or "shelf"
+
+The rest speaks to the Ravelo that is running:
+
+  timer start    start the focus timer in place of the one that runs; MINUTES may
+                 be a number like 0.5
+  timer stop     stop it
+  timer status   one line, like "24:59 Deep work", or "no timer"; with --json one
+                 object: running, label, remaining and duration in seconds, ends
+                 (ISO 8601, UTC), text. Where none runs ends is null, the texts
+                 are empty and the numbers 0
+  shelf list     the paths of the parked files, a line each; with -0 or --null each
+                 ends with a NUL byte; with --json one object: files, an array of
+                 objects with path, stack (counted from 0) and selected
+
+The exit status is 0 where it is done, 1 where it could not be done or no Ravelo
+is running, 2 where the command makes no sense.
+
 It needs an X11 session. In a Wayland session it runs through XWayland, with less:
 the panel opens only under a pointer or a drag on its own handle and closes when
 the pointer leaves it, and the compositor may give it no keyboard to type with.

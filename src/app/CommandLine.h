@@ -2,15 +2,27 @@
 
 #include "base/Result.h"
 
+#include <QByteArray>
 #include <QStringList>
 
 namespace ravelo {
 
 /// What the user asked for at the command line.
-enum class Command { start, toggle, quit, showHelp, showVersion };
+struct Command {
+    enum class Kind { showHelp, showVersion, ask };
+    /// What to do about a request where no Ravelo runs. By `start` alone all is done.
+    enum class IfNoneRuns { fail, start, startAndAsk };
 
-/// `arguments` without the program's own name. An error names the argument that makes no sense.
-[[nodiscard]] Result<Command> parseCommandLine(const QStringList& arguments);
+    Kind kind = Kind::ask;
+    QStringList request;     ///< As Commands has it.
+    QList<QByteArray> files; ///< To be resolved and added to the request.
+    IfNoneRuns ifNoneRuns = IfNoneRuns::fail;
+
+    friend bool operator==(const Command&, const Command&) = default;
+};
+
+/// `arguments` without the program's own name. An error names what makes no sense.
+[[nodiscard]] Result<Command> parseCommandLine(const QList<QByteArray>& arguments);
 
 [[nodiscard]] QString helpText();
 [[nodiscard]] QString versionText();

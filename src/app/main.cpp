@@ -1,13 +1,17 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
+#include "app/Console.h"
+#include "app/FileArguments.h"
 #include "platform/freedesktop/SingleInstance.h"
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
 
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <cstdlib>
+#include <optional>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -17,39 +21,34 @@ namespace {
 using namespace ravelo;
 using namespace Qt::StringLiterals;
 
-void say(std::FILE* where, const QString& text) {
-    std::fputs(qUtf8Printable(text), where);
-}
+constexpr int nobodyRuns = 255; ///< No status of an answer.
 
-QString actionOf(Command command) {
-    switch (command) {
-    case Command::toggle:
-        return u"toggle"_s;
-    case Command::quit:
-        return u"quit"_s;
-    default:
-        return {};
-    }
-}
-
-/// Hands the command to the program that is running already, if there is one. Asks in a process of
-/// its own: only the first application object of a process lets Qt Quick speak to screen readers.
-bool isDoneElsewhere(Command command, int argc, char** argv) {
+/// The exit status by the answer of the program that is running already, if there is one. Asks in a
+/// process of its own: only the first application object of a process lets Qt Quick speak to screen
+/// readers.
+std::optional<int> askElsewhere(const QStringList& request, int argc, char** argv) {
     const pid_t child = fork();
     if (child == 0) {
-        bool sent = false;
+        int status = nobodyRuns;
         {
             const QCoreApplication application(argc, argv);
-            sent = SingleInstance::send(actionOf(command));
+            if (const auto answer = SingleInstance::ask(request)) {
+                status = report(*answer);
+            }
         }
-        std::_Exit(sent ? EXIT_SUCCESS : EXIT_FAILURE);
+        std::_Exit(status);
     }
     int status = 0;
-    return child > 0 && waitpid(child, &status, 0) == child && WIFEXITED(status) &&
-           WEXITSTATUS(status) == EXIT_SUCCESS;
+    if (child < 0 || waitpid(child, &status, 0) != child) {
+        return std::nullopt;
+    }
+    if (!WIFEXITED(status)) {
+        return EXIT_FAILURE; // By SIGPIPE, where nobody reads on.
+    }
+    return WEXITSTATUS(status) == nobodyRuns ? std::nullopt : std::optional(WEXITSTATUS(status));
 }
 
-int run(Command command, int argc, char** argv) {
+int run(const Command& command, int argc, char** argv) {
     x11::prepareApplication();
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(u"ravelo"_s);
@@ -58,59 +57,61 @@ int run(Command command, int argc, char** argv) {
 
     const auto instance = SingleInstance::claim();
     if (!instance) {
-        if (SingleInstance::send(actionOf(command))) {
-            return 0;
-        }
-        say(stderr, u"ravelo: another Ravelo runs but does not answer\n"_s);
-        return 1;
+        return report(SingleInstance::ask(command.request).value_or(SingleInstance::silence()));
     }
     auto display = x11::X11DisplayServer::create();
     if (!display) {
-        say(stderr, u"ravelo: "_s + display.error().message + u"\n"_s);
+        complain(display.error().message);
         return 1;
     }
     AppDelegate delegate(**display);
     if (const auto launched = delegate.applicationDidFinishLaunching(); !launched) {
-        say(stderr, u"ravelo: "_s + launched.error().message + u"\n"_s);
+        complain(launched.error().message);
         return 1;
     }
-    instance->onAction = [&](const QString& action) {
-        delegate.perform(action);
+    instance->onRequest = [&](const QStringList& request) {
+        return delegate.answer(request);
     };
-    if (command == Command::toggle) {
-        delegate.perform(actionOf(command));
+    if (command.ifNoneRuns == Command::IfNoneRuns::startAndAsk) {
+        (void)report(delegate.answer(command.request));
     }
     return QGuiApplication::exec();
+}
+
+int ask(Command command, int argc, char** argv) {
+    const FoundFiles found = findFiles(command.files);
+    command.request += found.paths;
+    complain(found.errors.join(u'\n'));
+    if (found.paths.isEmpty() && !found.errors.isEmpty()) {
+        return EXIT_FAILURE;
+    }
+    auto status = askElsewhere(command.request, argc, argv);
+    if (!status && command.ifNoneRuns == Command::IfNoneRuns::fail) {
+        complain(u"not running"_s);
+        return EXIT_FAILURE;
+    }
+    if (!status) {
+        status = run(command, argc, argv);
+    }
+    return *status == EXIT_SUCCESS && !found.errors.isEmpty() ? EXIT_FAILURE : *status;
 }
 
 } // namespace
 
 int main(int argc, char** argv) {
-    QStringList arguments;
-    for (int i = 1; i < argc; ++i) {
-        arguments.append(QString::fromLocal8Bit(argv[i]));
-    }
-    const auto command = parseCommandLine(arguments);
+    const auto command = parseCommandLine({argv + std::min(argc, 1), argv + argc});
     if (!command) {
-        say(stderr, u"ravelo: "_s + command.error().message + u"\nTry: ravelo --help\n"_s);
+        complain(command.error().message);
+        std::fputs("Try: ravelo --help\n", stderr);
         return 2;
     }
-    switch (*command) {
-    case Command::showHelp:
-        say(stdout, helpText());
-        return 0;
-    case Command::showVersion:
-        say(stdout, versionText());
-        return 0;
-    default:
-        break;
+    switch (command->kind) {
+    case Command::Kind::showHelp:
+        return print(helpText().toUtf8());
+    case Command::Kind::showVersion:
+        return print(versionText().toUtf8());
+    case Command::Kind::ask:
+        return ask(*command, argc, argv);
     }
-    if (isDoneElsewhere(*command, argc, argv)) {
-        return 0;
-    }
-    if (*command == Command::quit) {
-        say(stderr, u"ravelo: not running\n"_s);
-        return 1;
-    }
-    return run(*command, argc, argv);
+    return EXIT_FAILURE; // No such kind.
 }

@@ -1,8 +1,12 @@
 #include "timer/FocusTimer.h"
 
+#include <QRegularExpression>
+
 #include <algorithm>
 
 namespace ravelo {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -29,6 +33,14 @@ std::optional<FocusTimer> FocusTimer::started(const QString& label, double minut
 
 Seconds FocusTimer::remaining(Seconds now) const {
     return std::max(Seconds(0), duration - (now - start.value_or(now)));
+}
+
+std::optional<double> writtenMinutes(const QString& written) {
+    static const QRegularExpression number(
+        QRegularExpression::anchoredPattern(u"[0-9]*\\.?[0-9]+"_s));
+    const double minutes = number.match(written).hasMatch() ? written.toDouble() : 0;
+    const bool possible = minutes > 0 && FocusTimer::started({}, minutes, Seconds(0));
+    return possible ? std::optional(minutes) : std::nullopt;
 }
 
 } // namespace ravelo

@@ -28,4 +28,8 @@ struct FocusTimer {
     friend bool operator==(const FocusTimer&, const FocusTimer&) = default;
 };
 
+/// A length as a script writes it, "25" or "0.5". Nothing where it is no such number, or zero, or
+/// no length of a timer.
+[[nodiscard]] std::optional<double> writtenMinutes(const QString& written);
+
 } // namespace ravelo

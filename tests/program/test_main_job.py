@@ -479,10 +479,42 @@ class CommandLine(ProgramCase):
                     wait_for(result, f"{result.__name__} after {arguments}")
             self.assertEqual(self.ravelo.process.returncode, 0)
 
-    def test_an_unknown_option_is_refused(self):
-        code, text = self.ravelo.call("--no-such-option")
-        self.assertNotEqual(code, 0)
-        self.assertIn("no-such-option", text)
+    def test_a_script_drives_the_timer_and_the_shelf(self):
+        call, home = self.ravelo.call, self.desktop.home
+        for command in (["timer", "status"], ["timer", "start", "5"], ["shelf", "list"]):
+            self.assertEqual(call(*command), (1, "ravelo: not running\n"), command)
+        self.assertEqual(call("timer", "start", "soon")[0], 2)
+        odd = [home / "files" / name for name in ("-a \"b\"", "two\nlines ü🍅", "third")]
+        odd[0].parent.mkdir()
+        for path in odd:
+            path.touch()
+        with self.ravelo.log.open("a") as log:  # The files start it.
+            self.ravelo.process = self.desktop.spawn(
+                self.ravelo.program, "--", "-a \"b\"", odd[1].as_uri(), stderr=log,
+                cwd=odd[0].parent)
+        wait_for(lambda: (panel := self.ravelo.panel()) and panel.height > 560,
+                 "the panel, open, and higher by the shelf")
+        self.assertEqual(call("timer", "start", "25", "Deep work"), (0, ""))
+        code, text = call("timer", "status")
+        self.assertEqual(code, 0)
+        self.assertRegex(text, r"^2[45]:\d\d Deep work\n$")
+        timer = json.loads(call("timer", "status", "--json")[1])
+        self.assertEqual((timer["running"], timer["duration"]), (True, 1500))
+        self.assertEqual(call("timer", "stop"), (0, ""))
+        self.assertEqual(call("timer", "status"), (0, "no timer\n"))
+
+        code, text = call(home / "missing", odd[2], f"{home}/files/../files/third")
+        self.assertEqual((code, text), (1, f"ravelo: no such file: {home}/missing\n"))
+        self.assertEqual(call("shelf", "list", "-0"), (0, "".join(f"{path}\0" for path in odd)))
+        wait_for(lambda: self.ravelo.store().get("shelfStacks") ==
+                 [[str(odd[0]), str(odd[1])], [str(odd[2])]], "both stacks in store.json")
+
+        self.ravelo.process.send_signal(signal.SIGSTOP)
+        try:
+            self.assertEqual(call("timer", "status"),
+                             (1, "ravelo: another Ravelo runs but does not answer\n"))
+        finally:
+            self.ravelo.process.send_signal(signal.SIGCONT)
 
 
 if __name__ == "__main__":

@@ -11,8 +11,11 @@ namespace {
 
 constexpr QLatin1StringView busName("org.ravelo.Ravelo");
 constexpr QLatin1StringView objectPath("/org/ravelo/Ravelo");
-constexpr QLatin1StringView interfaceName("org.freedesktop.Application");
-constexpr int answerTime = 5000; // Milliseconds.
+
+bool meansNobody(const QDBusMessage& error) {
+    return error.errorName() == "org.freedesktop.DBus.Error.ServiceUnknown"_L1 ||
+           error.errorName() == "org.freedesktop.DBus.Error.NameHasNoOwner"_L1;
+}
 
 } // namespace
 
@@ -20,11 +23,15 @@ QDBusConnection sessionBus() {
     return QDBusConnection::connectToBus(QDBusConnection::SessionBus, u"ravelo"_s);
 }
 
-std::unique_ptr<SingleInstance> BusInstance::claim(QDBusConnection& bus) {
-    auto instance = std::make_unique<BusInstance>();
-    new ApplicationAdaptor(*instance); // Owned by the instance.
+BusInstance::BusInstance(const QDBusConnection& bus) {
+    new AskAdaptor(*this); // Owned by the instance, like the next one.
+    new ApplicationAdaptor(*this, bus);
+}
+
+std::unique_ptr<BusInstance> BusInstance::claim(const QDBusConnection& bus) {
+    std::unique_ptr<BusInstance> instance(new BusInstance(bus));
     // The object first: whoever sees the name must find it.
-    bus.registerObject(objectPath, instance.get());
+    QDBusConnection(bus).registerObject(objectPath, instance.get());
     const auto reply =
         bus.interface()->registerService(busName, QDBusConnectionInterface::DontQueueService);
     if (reply.value() != QDBusConnectionInterface::ServiceRegistered) {
@@ -33,41 +40,53 @@ std::unique_ptr<SingleInstance> BusInstance::claim(QDBusConnection& bus) {
     return instance;
 }
 
-bool BusInstance::send(QDBusConnection& bus, const QString& action) {
-    if (!bus.interface()->isServiceRegistered(busName)) {
-        return false;
+std::optional<Answer> BusInstance::ask(const QDBusConnection& bus, const QStringList& request,
+                                       std::chrono::milliseconds patience) {
+    auto call = QDBusMessage::createMethodCall(busName, objectPath, busName, u"Ask"_s);
+    call.setAutoStartService(false);
+    call << request;
+    const QDBusMessage reply = bus.call(call, QDBus::Block, static_cast<int>(patience.count()));
+    if (reply.type() == QDBusMessage::ReplyMessage && reply.signature() == "iays"_L1) {
+        const QVariantList values = reply.arguments();
+        return Answer{values.at(0).toInt(), values.at(1).toByteArray(), values.at(2).toString()};
     }
-    auto call = QDBusMessage::createMethodCall(
-        busName, objectPath, interfaceName, action.isEmpty() ? u"Activate"_s : u"ActivateAction"_s);
-    if (!action.isEmpty()) {
-        call << action << QVariantList();
-    }
-    call << QVariantMap();
-    return bus.call(call, QDBus::Block, answerTime).type() == QDBusMessage::ReplyMessage;
+    return meansNobody(reply) ? std::nullopt : std::optional(silence());
 }
 
-ApplicationAdaptor::ApplicationAdaptor(BusInstance& instance)
+AskAdaptor::AskAdaptor(BusInstance& instance)
     : QDBusAbstractAdaptor(&instance), instance_(instance) {}
 
-void ApplicationAdaptor::Activate(const QVariantMap& /*platformData*/) {
-    act({});
+void AskAdaptor::Ask(const QStringList& request, int& status, QByteArray& output, QString& errors) {
+    const Answer answer = instance_.answer(request);
+    status = answer.status;
+    output = answer.output;
+    errors = answer.errors;
+}
+
+ApplicationAdaptor::ApplicationAdaptor(BusInstance& instance, const QDBusConnection& bus)
+    : QDBusAbstractAdaptor(&instance), instance_(instance), bus_(bus) {}
+
+void ApplicationAdaptor::Activate(const QVariantMap& /*platformData*/, const QDBusMessage& call) {
+    act({u"show"_s}, call);
 }
 
 void ApplicationAdaptor::ActivateAction(const QString& name, const QVariantList& /*parameter*/,
-                                        const QVariantMap& /*platformData*/) {
-    act(name);
+                                        const QVariantMap& /*platformData*/,
+                                        const QDBusMessage& call) {
+    act({name}, call);
 }
 
-// Later, so that the caller has its answer also where the action ends the program.
-void ApplicationAdaptor::act(const QString& action) {
-    QMetaObject::invokeMethod(
-        this,
-        [this, action] {
-            if (instance_.onAction) {
-                instance_.onAction(action);
-            }
-        },
-        Qt::QueuedConnection);
+void ApplicationAdaptor::Open(const QStringList& uris, const QVariantMap& /*platformData*/,
+                              const QDBusMessage& call) {
+    act(QStringList{u"open"_s} + uris, call);
+}
+
+void ApplicationAdaptor::act(const QStringList& request, const QDBusMessage& call) {
+    const Answer answer = instance_.answer(request);
+    if (answer.status != 0) {
+        call.setDelayedReply(true);
+        bus_.send(call.createErrorReply(QDBusError::Failed, answer.errors));
+    }
 }
 
 } // namespace ravelo

@@ -7,6 +7,8 @@
 #include <QVariantList>
 #include <QVariantMap>
 
+class QDBusMessage;
+
 namespace ravelo {
 
 /// The session bus, on a connection of ours.
@@ -17,29 +19,52 @@ class BusInstance final : public QObject, public SingleInstance {
     Q_OBJECT
 
 public:
-    [[nodiscard]] static std::unique_ptr<SingleInstance> claim(QDBusConnection& bus);
-    [[nodiscard]] static bool send(QDBusConnection& bus, const QString& action);
+    [[nodiscard]] static std::unique_ptr<BusInstance> claim(const QDBusConnection& bus);
+    [[nodiscard]] static std::optional<Answer> ask(const QDBusConnection& bus,
+                                                   const QStringList& request,
+                                                   std::chrono::milliseconds patience = answerTime);
+
+private:
+    explicit BusInstance(const QDBusConnection& bus);
 };
 
-/// org.freedesktop.Application as the bus sees it.
+/// What a script asks by words, any of those of the command line; see `Answer` for what comes back.
+class AskAdaptor final : public QDBusAbstractAdaptor {
+    Q_OBJECT
+    Q_CLASSINFO("D-Bus Interface", "org.ravelo.Ravelo")
+
+public:
+    explicit AskAdaptor(BusInstance& instance);
+
+public Q_SLOTS:
+    // Upper case as on every bus. NOLINTNEXTLINE(readability-identifier-naming)
+    void Ask(const QStringList& request, int& status, QByteArray& output, QString& errors);
+
+private:
+    BusInstance& instance_;
+};
+
+/// What a desktop asks (Desktop Entry Specification, D-Bus Activation).
 class ApplicationAdaptor final : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")
 
 public:
-    explicit ApplicationAdaptor(BusInstance& instance);
+    ApplicationAdaptor(BusInstance& instance, const QDBusConnection& bus);
 
 public Q_SLOTS:
     // The names are the interface's own. NOLINTBEGIN(readability-identifier-naming)
-    void Activate(const QVariantMap& platformData);
+    void Activate(const QVariantMap& platformData, const QDBusMessage& call);
     void ActivateAction(const QString& name, const QVariantList& parameter,
-                        const QVariantMap& platformData);
+                        const QVariantMap& platformData, const QDBusMessage& call);
+    void Open(const QStringList& uris, const QVariantMap& platformData, const QDBusMessage& call);
     // NOLINTEND(readability-identifier-naming)
 
 private:
-    void act(const QString& action);
+    void act(const QStringList& request, const QDBusMessage& call);
 
     BusInstance& instance_;
+    QDBusConnection bus_;
 };
 
 } // namespace ravelo

@@ -29,13 +29,21 @@ std::unique_ptr<SingleInstance> SingleInstance::claim() {
     return SocketInstance::claim();
 }
 
-bool SingleInstance::send(const QString& action) {
+std::optional<Answer> SingleInstance::ask(const QStringList& request) {
     if (hasSessionBus()) {
         if (auto bus = sessionBus(); bus.isConnected()) {
-            return BusInstance::send(bus, action);
+            return BusInstance::ask(bus, request);
         }
     }
-    return SocketInstance::send(action);
+    return SocketInstance::ask(request);
+}
+
+Answer SingleInstance::silence() {
+    return {1, {}, u"another Ravelo runs but does not answer"_s};
+}
+
+Answer SingleInstance::answer(const QStringList& request) const {
+    return onRequest ? onRequest(request) : Answer{1, {}, u"not ready yet"_s};
 }
 
 } // namespace ravelo

@@ -1,16 +1,20 @@
 #pragma once
 
-#include <QObject>
-#include <QString>
+#include "platform/Answer.h"
 
+#include <QStringList>
+
+#include <chrono>
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace ravelo {
 
-/// Makes one program out of all its starts in a user's session: by a name on the session bus, where
-/// it speaks org.freedesktop.Application (Desktop Entry Specification, D-Bus Activation), or by a
-/// lock file and a local socket where there is no bus. Main thread.
+/// Makes one program out of all its starts in a user's session, and lets the others ask the one
+/// that runs: by a name on the session bus, or by a lock file and a local socket where there is no
+/// bus. Neither lets another user in: the bus daemon refuses them, and the socket is the user's
+/// alone (0600) in a folder of the same kind. Main thread.
 class SingleInstance {
 public:
     SingleInstance() = default;
@@ -21,12 +25,21 @@ public:
     /// Becomes the one of this session; nothing where there is one already.
     [[nodiscard]] static std::unique_ptr<SingleInstance> claim();
 
-    /// Asks the one that runs: to show itself where `action` is empty, else to do the action.
-    /// False where none runs or it does not answer. Waits a few seconds at most.
-    [[nodiscard]] static bool send(const QString& action);
+    /// Asks the one that runs, and waits for its answer a few seconds at most; where it gives none,
+    /// the answer is that. Nothing where none runs.
+    [[nodiscard]] static std::optional<Answer> ask(const QStringList& request);
 
-    /// What other starts ask for, from the event loop.
-    std::function<void(const QString& action)> onAction;
+    /// What `ask` gives for one that runs but keeps silent.
+    [[nodiscard]] static Answer silence();
+
+    /// Answers what other starts ask, from the event loop. A request is a list of words, any text.
+    std::function<Answer(const QStringList& request)> onRequest;
+
+    /// The answer, also before somebody answers.
+    [[nodiscard]] Answer answer(const QStringList& request) const;
+
+protected:
+    static constexpr std::chrono::seconds answerTime{5};
 };
 
 } // namespace ravelo

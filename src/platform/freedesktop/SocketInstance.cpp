@@ -3,6 +3,10 @@
 #include "base/Files.h"
 
 #include <QCryptographicHash>
+#include <QDeadlineTimer>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QLocalSocket>
 #include <QStandardPaths>
 #include <QThread>
@@ -13,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int answerTime = 5000; // Milliseconds.
+constexpr qint64 longestRequest = 64 << 20; // Bytes, of what has no end yet.
 
 // One session is one display; a file name must not hold what a display name may.
 QString socketPath() {
@@ -27,6 +31,41 @@ QString socketPath() {
     return folder + u"/ravelo-"_s + QString::fromLatin1(display.toHex().left(12));
 }
 
+QByteArray line(const QJsonDocument& json) {
+    return json.toJson(QJsonDocument::Compact) + '\n';
+}
+
+QByteArray written(const QStringList& request) {
+    return line(QJsonDocument(QJsonArray::fromStringList(request)));
+}
+
+QByteArray written(const Answer& answer) {
+    return line(QJsonDocument(QJsonObject{
+        {u"status"_s, answer.status},
+        {u"output"_s, QString::fromLatin1(answer.output.toBase64())}, // May be no text.
+        {u"errors"_s, answer.errors},
+    }));
+}
+
+std::optional<QStringList> toRequest(const QByteArray& line) {
+    const QJsonDocument json = QJsonDocument::fromJson(line);
+    return json.isArray() ? std::optional(json.toVariant().toStringList()) : std::nullopt;
+}
+
+std::optional<Answer> toAnswer(const QByteArray& line) {
+    const QJsonDocument json = QJsonDocument::fromJson(line);
+    if (!json.isObject()) {
+        return std::nullopt;
+    }
+    return Answer{json[u"status"].toInt(1),
+                  QByteArray::fromBase64(json[u"output"].toString().toLatin1()),
+                  json[u"errors"].toString()};
+}
+
+int left(const QDeadlineTimer& deadline) {
+    return static_cast<int>(deadline.remainingTime());
+}
+
 } // namespace
 
 SocketInstance::SocketInstance() : lock_(socketPath() + u".lock"_s) {
@@ -35,7 +74,7 @@ SocketInstance::SocketInstance() : lock_(socketPath() + u".lock"_s) {
     QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { accept(); });
 }
 
-std::unique_ptr<SingleInstance> SocketInstance::claim() {
+std::unique_ptr<SocketInstance> SocketInstance::claim() {
     std::unique_ptr<SocketInstance> instance(new SocketInstance);
     if (!instance->lock_.tryLock()) {
         return nullptr;
@@ -45,41 +84,49 @@ std::unique_ptr<SingleInstance> SocketInstance::claim() {
     return instance;
 }
 
-bool SocketInstance::send(const QString& action) {
+std::optional<Answer> SocketInstance::ask(const QStringList& request,
+                                          std::chrono::milliseconds patience) {
     QLockFile lock(socketPath() + u".lock"_s);
     lock.setStaleLockTime(0);
     if (lock.tryLock()) {
-        return false;
+        return std::nullopt;
     }
+    const QDeadlineTimer deadline(patience);
+    QLocalSocket socket;
     // The one that holds the lock may not be listening yet.
-    for (int attempt = 0; attempt < 20; ++attempt) {
-        QLocalSocket socket;
-        socket.connectToServer(socketPath());
-        if (socket.waitForConnected(answerTime)) {
-            socket.write(action.toUtf8() + '\n');
-            return socket.waitForReadyRead(answerTime);
+    for (socket.connectToServer(socketPath()); !socket.waitForConnected(left(deadline));
+         socket.connectToServer(socketPath())) {
+        if (deadline.hasExpired()) {
+            return silence();
         }
+        socket.abort();
         QThread::msleep(50);
     }
-    return false;
+    socket.write(written(request));
+    while (!socket.canReadLine()) {
+        if (!socket.waitForReadyRead(left(deadline))) {
+            return silence();
+        }
+    }
+    return toAnswer(socket.readLine()).value_or(silence());
 }
 
 void SocketInstance::accept() {
     while (QLocalSocket* const socket = server_.nextPendingConnection()) {
         QObject::connect(socket, &QLocalSocket::disconnected, socket, &QObject::deleteLater);
-        const auto answer = [this, socket] {
-            if (!socket->canReadLine()) {
-                return;
-            }
-            const QString action = QString::fromUtf8(socket->readLine()).trimmed();
-            socket->write("ok\n");
-            socket->flush();
-            if (onAction) {
-                onAction(action);
-            }
-        };
-        QObject::connect(socket, &QLocalSocket::readyRead, socket, answer);
-        answer();
+        QObject::connect(socket, &QLocalSocket::readyRead, socket,
+                         [this, socket] { serve(*socket); });
+        serve(*socket);
+    }
+}
+
+void SocketInstance::serve(QLocalSocket& socket) const {
+    if (socket.canReadLine()) {
+        const auto request = toRequest(socket.readLine());
+        socket.write(written(request ? answer(*request) : Answer{2, {}, u"no request"_s}));
+        socket.flush();
+    } else if (socket.bytesAvailable() > longestRequest) {
+        socket.abort();
     }
 }
 

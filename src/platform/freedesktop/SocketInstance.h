@@ -5,17 +5,22 @@
 #include <QLocalServer>
 #include <QLockFile>
 
+class QLocalSocket;
+
 namespace ravelo {
 
 /// The one that holds the lock file of this user and display, and listens on the socket beside it.
+/// Request and answer are a line of JSON each.
 class SocketInstance final : public SingleInstance {
 public:
-    [[nodiscard]] static std::unique_ptr<SingleInstance> claim();
-    [[nodiscard]] static bool send(const QString& action);
+    [[nodiscard]] static std::unique_ptr<SocketInstance> claim();
+    [[nodiscard]] static std::optional<Answer> ask(const QStringList& request,
+                                                   std::chrono::milliseconds patience = answerTime);
 
 private:
     SocketInstance();
     void accept();
+    void serve(QLocalSocket& socket) const;
 
     QLockFile lock_;
     QLocalServer server_;

@@ -1,0 +1,209 @@
+#include "app/Commands.h"
+
+#include "app/FileArguments.h"
+#include "base/Scheduler.h"
+#include "panel/NotchController.h"
+#include "store/Store.h"
+#include "timer/FocusTimer.h"
+#include "timer/TimerString.h"
+
+#include <QFile>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+
+#include <algorithm>
+#include <cmath>
+#include <iterator>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Services = Commands::Services;
+
+// What may follow the words of a command.
+
+Result<void> nothing(const QStringList& arguments) {
+    return arguments.isEmpty() ? Result<void>()
+                               : failure(u"unknown argument: "_s + arguments.first());
+}
+
+Result<void> jsonAtMost(const QStringList& arguments) {
+    return nothing(arguments.mid(arguments.value(0) == "--json"_L1 ? 1 : 0));
+}
+
+bool isNull(const QString& argument) {
+    return argument == "--null"_L1 || argument == "-0"_L1;
+}
+
+Result<void> listFormatAtMost(const QStringList& arguments) {
+    return isNull(arguments.value(0)) ? nothing(arguments.mid(1)) : jsonAtMost(arguments);
+}
+
+Result<void> files(const QStringList& arguments) {
+    return arguments.isEmpty() ? failure(u"no files"_s) : Result<void>();
+}
+
+Result<void> lengthAndLabel(const QStringList& arguments) {
+    return writtenMinutes(arguments.value(0))
+               ? Result<void>()
+               : failure(u"a timer runs for a number of minutes, like 25 or 0.5, not for \""_s +
+                         arguments.value(0) + u'"');
+}
+
+// What they do.
+
+Answer printed(const QJsonObject& object) {
+    return {0, QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n', {}};
+}
+
+Answer show(const Services& services, const QStringList& /*arguments*/) {
+    services.notch.positionExpanded();
+    return {};
+}
+
+Answer toggle(const Services& services, const QStringList& /*arguments*/) {
+    services.notch.toggle();
+    return {};
+}
+
+Answer quit(const Services& services, const QStringList& /*arguments*/) {
+    services.quit();
+    return {};
+}
+
+Answer open(const Services& services, const QStringList& files) {
+    QStringList paths;
+    QStringList errors;
+    for (const QString& file : files) {
+        const auto path = absolutePath(file.toUtf8());
+        path ? paths.append(*path) : errors.append(path.error().message);
+    }
+    paths.removeDuplicates(); // Named twice, by a pattern and by hand, it is meant once.
+    if (!paths.isEmpty()) {
+        QList<QUrl> urls;
+        std::ranges::transform(paths, std::back_inserter(urls), QUrl::fromLocalFile);
+        services.notch.onFiles(urls);
+    }
+    return {errors.isEmpty() ? 0 : 1, {}, errors.join(u'\n')};
+}
+
+Answer startTimer(const Services& services, const QStringList& arguments) {
+    services.store.startTimer(arguments.mid(1).join(u' '),
+                              writtenMinutes(arguments.first()).value_or(0));
+    return {};
+}
+
+Answer stopTimer(const Services& services, const QStringList& /*arguments*/) {
+    services.store.stopTimer();
+    return {};
+}
+
+/// A label in one line, without what would make a terminal do something.
+QString harmless(QString label) {
+    const auto isControl = [](QChar c) {
+        return c.category() == QChar::Other_Control;
+    };
+    std::ranges::replace_if(label, isControl, u' ');
+    return label.simplified();
+}
+
+double toMilliseconds(double seconds) {
+    return std::round(seconds * 1000) / 1000;
+}
+
+QJsonObject described(const Store& store, Date now) {
+    if (!store.timerRunning()) {
+        return {{u"running"_s, false}, {u"label"_s, QString()}, {u"remaining"_s, 0},
+                {u"duration"_s, 0},    {u"ends"_s, {}},         {u"text"_s, QString()}};
+    }
+    const double remaining = store.timerRemaining();
+    const QString text = timerString(Seconds(remaining)) + u' ' + harmless(store.timerLabel());
+    const QDateTime ends = toDateTime({now.sinceReference + remaining});
+    return {{u"running"_s, true},
+            {u"label"_s, store.timerLabel()},
+            {u"remaining"_s, toMilliseconds(remaining)},
+            {u"duration"_s, toMilliseconds(store.timerDuration())},
+            {u"ends"_s, ends.toUTC().toString(Qt::ISODate)},
+            {u"text"_s, text.trimmed()}};
+}
+
+Answer timerStatus(const Services& services, const QStringList& arguments) {
+    const QJsonObject timer = described(services.store, services.scheduler.now());
+    if (!arguments.isEmpty()) {
+        return printed(timer);
+    }
+    const QString text = timer[u"running"].toBool() ? timer[u"text"].toString() : u"no timer"_s;
+    return {0, text.toUtf8() + '\n', {}};
+}
+
+QJsonArray described(const Shelf& shelf) {
+    QJsonArray files;
+    for (qsizetype stack = 0; stack < shelf.stacks.size(); ++stack) {
+        for (const QUrl& url : shelf.stacks.at(stack)) {
+            files.append(QJsonObject{{u"path"_s, url.toLocalFile()},
+                                     {u"stack"_s, stack},
+                                     {u"selected"_s, shelf.selected.contains(url)}});
+        }
+    }
+    return files;
+}
+
+Answer shelfList(const Services& services, const QStringList& arguments) {
+    const Shelf& shelf = services.store.shelf();
+    const QString format = arguments.value(0);
+    if (!format.isEmpty() && !isNull(format)) {
+        return printed({{u"files"_s, described(shelf)}});
+    }
+    Answer answer;
+    for (const QUrl& url : shelf.files()) {
+        answer.output += QFile::encodeName(url.toLocalFile()) + (isNull(format) ? '\0' : '\n');
+    }
+    return answer;
+}
+
+struct Row {
+    QStringList words;
+    Result<void> (*check)(const QStringList& arguments);
+    Answer (*answer)(const Services& services, const QStringList& arguments);
+};
+
+const Row* rowFor(const QStringList& request) {
+    static const Row rows[] = {
+        {{u"show"_s}, nothing, show},
+        {{u"toggle"_s}, nothing, toggle},
+        {{u"quit"_s}, nothing, quit},
+        {{u"open"_s}, files, open},
+        {{u"timer"_s, u"start"_s}, lengthAndLabel, startTimer},
+        {{u"timer"_s, u"stop"_s}, nothing, stopTimer},
+        {{u"timer"_s, u"status"_s}, jsonAtMost, timerStatus},
+        {{u"shelf"_s, u"list"_s}, listFormatAtMost, shelfList},
+    };
+    const auto found = std::ranges::find_if(
+        rows, [&](const Row& row) { return request.mid(0, row.words.size()) == row.words; });
+    return found == std::end(rows) ? nullptr : found;
+}
+
+} // namespace
+
+Commands::Commands(Services services) : services_(std::move(services)) {}
+
+Result<void> Commands::check(const QStringList& request) {
+    const Row* const row = rowFor(request);
+    return row ? row->check(request.mid(row->words.size()))
+               : failure(u"unknown command: "_s + request.join(u' '));
+}
+
+Answer Commands::answer(const QStringList& request) const {
+    if (const auto checked = check(request); !checked) {
+        return {2, {}, checked.error().message};
+    }
+    const Row* const row = rowFor(request);
+    return row->answer(services_, request.mid(row->words.size()));
+}
+
+} // namespace ravelo

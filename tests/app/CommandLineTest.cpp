@@ -1,0 +1,83 @@
+#include "app/CommandLine.h"
+
+#include <gtest/gtest.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Kind = Command::Kind;
+using IfNoneRuns = Command::IfNoneRuns;
+using Arguments = QList<QByteArray>;
+
+std::string printed(const Arguments& arguments) {
+    return arguments.join(" | ").toStdString();
+}
+
+TEST(CommandLine, IsUnderstood) {
+    const auto asks = [](const QStringList& request) {
+        return Command{Kind::ask, request, {}, IfNoneRuns::fail};
+    };
+    const auto parks = [](const Arguments& files) {
+        return Command{Kind::ask, {u"open"_s}, files, IfNoneRuns::startAndAsk};
+    };
+
+    struct Case {
+        Arguments arguments;
+        Command command;
+    };
+
+    const Case cases[] = {
+        {{}, {Kind::ask, {u"show"_s}, {}, IfNoneRuns::start}},
+        {{"--toggle"}, {Kind::ask, {u"toggle"_s}, {}, IfNoneRuns::startAndAsk}},
+        {{"--quit"}, asks({u"quit"_s})},
+        {{"-h"}, {Kind::showHelp, {}, {}, {}}},
+        {{"--version"}, {Kind::showVersion, {}, {}, {}}},
+        {{"timer", "stop"}, asks({u"timer"_s, u"stop"_s})},
+        {{"timer", "start", "0.5", "--json", "ü"},
+         asks({u"timer"_s, u"start"_s, u"0.5"_s, u"--json"_s, u"ü"_s})},
+        {{"shelf", "list", "-0"}, asks({u"shelf"_s, u"list"_s, u"-0"_s})},
+        {{"a", "b\xff", "file:///c"}, parks({"a", "b\xff", "file:///c"})},
+        {{"--", "timer", "-x", "--"}, parks({"timer", "-x", "--"})},
+        {{"./timer", "--", "--quit"}, parks({"./timer", "--quit"})},
+        {{"open"}, parks({"open"})},
+    };
+    for (const Case& c : cases) {
+        const auto command = parseCommandLine(c.arguments);
+        ASSERT_TRUE(command) << printed(c.arguments) << ": " << qPrintable(command.error().message);
+        EXPECT_EQ(*command, c.command) << printed(c.arguments);
+    }
+}
+
+TEST(CommandLine, NamesWhatMakesNoSense) {
+    struct Case {
+        Arguments arguments;
+        QString named;
+    };
+
+    const Case cases[] = {
+        {{"--nonsense"}, u"--nonsense"_s},
+        {{"--quit", "now"}, u"now"_s},
+        {{"a", "--toggle"}, u"--toggle"_s},
+        {{"--"}, u"no files"_s},
+        {{"timer"}, u"timer"_s},
+        {{"timer", "pause"}, u"timer pause"_s},
+        {{"timer", "start"}, u"minutes"_s},
+        {{"timer", "start", "soon"}, u"\"soon\""_s},
+        {{"timer", "stop", "now"}, u"now"_s},
+        {{"timer", "status", "--null"}, u"--null"_s},
+        {{"shelf", "list", "--json", "-0"}, u"-0"_s},
+    };
+    for (const Case& c : cases) {
+        const auto command = parseCommandLine(c.arguments);
+        ASSERT_FALSE(command) << printed(c.arguments);
+        EXPECT_TRUE(command.error().message.contains(c.named))
+            << qPrintable(command.error().message);
+    }
+}
+
+} // namespace
+
+} // namespace ravelo

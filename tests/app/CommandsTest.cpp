@@ -1,0 +1,130 @@
+#include "app/Commands.h"
+
+#include "fakes/PanelWorld.h"
+
+#include <gtest/gtest.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class CommandsTest : public testing::Test {
+protected:
+    [[nodiscard]] Answer answer(const QStringList& request) const {
+        return commands_.answer(request);
+    }
+
+    [[nodiscard]] QByteArray status(const QStringList& more = {}) const {
+        const Answer answer = commands_.answer(QStringList{u"timer"_s, u"status"_s} + more);
+        EXPECT_EQ(answer.status, 0);
+        return answer.output;
+    }
+
+    [[nodiscard]] QByteArray json() const { return status({u"--json"_s}); }
+
+    PanelWorld world_;
+    int quits_ = 0;
+    Commands commands_{{world_.store, world_.controller, world_.scheduler, [this] {
+                            ++quits_;
+                        }}};
+};
+
+TEST_F(CommandsTest, TellsOfTheTimerAtEachMoment) {
+    const QByteArray none = "{\"duration\":0,\"ends\":null,\"label\":\"\",\"remaining\":0,"
+                            "\"running\":false,\"text\":\"\"}\n";
+    EXPECT_EQ(status(), "no timer\n");
+    EXPECT_EQ(json(), none);
+
+    EXPECT_EQ(answer({u"timer"_s, u"start"_s, u"25"_s, u"Deep"_s, u"work"_s}), Answer());
+    world_.scheduler.advance(Seconds(0.25));
+    EXPECT_EQ(status(), "24:59 Deep work\n");
+    world_.scheduler.advance(Seconds(0.75));
+    const QString ends =
+        toDateTime({world_.scheduler.now().sinceReference + 1499}).toUTC().toString(Qt::ISODate);
+    ASSERT_TRUE(ends.endsWith(u'Z'));
+    EXPECT_EQ(json(), "{\"duration\":1500,\"ends\":\"" + ends.toUtf8() +
+                          "\",\"label\":\"Deep work\",\"remaining\":1499,\"running\":true,"
+                          "\"text\":\"24:59 Deep work\"}\n");
+
+    EXPECT_EQ(answer({u"timer"_s, u"start"_s, u"0.5"_s}), Answer());
+    EXPECT_EQ(status(), "00:30\n") << "in place of the other, without a label";
+    world_.scheduler.advance(Seconds(30));
+    EXPECT_EQ(status(), "no timer\n") << "it has finished";
+
+    EXPECT_EQ(answer({u"timer"_s, u"start"_s, u"90"_s, u"x"_s}), Answer());
+    EXPECT_EQ(status(), "1:30:00 x\n");
+    EXPECT_EQ(answer({u"timer"_s, u"stop"_s}), Answer());
+    EXPECT_EQ(json(), none);
+}
+
+TEST_F(CommandsTest, TakesAnyLabelAndTellsItInOneLine) {
+    struct Case {
+        QString label;
+        QString kept;
+        QByteArray told;
+    };
+
+    const Case cases[] = {
+        {u" a  b\t"_s, u"a  b"_s, " a b"},
+        {u"\"'$(id)`\\%s"_s, u"\"'$(id)`\\%s"_s, " \"'$(id)`\\%s"},
+        {u"two\nlines"_s, u"two\nlines"_s, " two lines"},
+        {u"\x1b[31mred\x07"_s, u"\x1b[31mred\x07"_s, " [31mred"},
+        {u"\U0001F345 ü中"_s, u"\U0001F345 ü中"_s, " \U0001F345 ü中"},
+        {u""_s, u""_s, ""},
+    };
+    for (const Case& c : cases) {
+        EXPECT_EQ(answer({u"timer"_s, u"start"_s, u"1"_s, c.label}), Answer());
+        EXPECT_EQ(world_.store.timerLabel(), c.kept);
+        EXPECT_EQ(status(), "01:00" + c.told + '\n');
+        EXPECT_EQ(json().count('\n'), 1);
+    }
+}
+
+TEST_F(CommandsTest, RefusesWhatMakesNoSenseAndChangesNothing) {
+    EXPECT_EQ(answer({u"timer"_s, u"start"_s, u".5"_s, u"kept"_s}), Answer());
+    for (const char* minutes : {"", "soon", "0", "0.0", "-1", "+1", "1,5", "1.5.5", "1e2", "0x10",
+                                "nan", "inf", " 1", "1\n", "1m", "99999999", "٣"}) {
+        const Answer refused = answer({u"timer"_s, u"start"_s, QString::fromUtf8(minutes)});
+        EXPECT_EQ(refused.status, 2) << minutes;
+        EXPECT_TRUE(refused.errors.contains(u'"' + QString::fromUtf8(minutes) + u'"'));
+    }
+    const QList<QStringList> requests = {
+        {},           {u""_s},
+        {u"timer"_s}, {u"timer start 1"_s},
+        {u"open"_s},  {u"quit"_s, u"now"_s},
+        {u"show!"_s}, {u"timer"_s, u"stop"_s, u"--now"_s},
+    };
+    for (const QStringList& request : requests) {
+        EXPECT_EQ(answer(request).status, 2) << qPrintable(request.join(u' '));
+    }
+    EXPECT_EQ(status(), "00:30 kept\n");
+    EXPECT_FALSE(world_.controller.isOpen());
+}
+
+TEST_F(CommandsTest, ParksFilesAndListsThem) {
+    const int tick = world_.store.shelfRequestTick();
+    EXPECT_EQ(answer({u"open"_s, u"/a\nb"_s, u"file:///ü%20%23"_s, u"/ü #"_s}), Answer());
+    EXPECT_TRUE(world_.controller.isOpen());
+    EXPECT_EQ(world_.store.shelfRequestTick(), tick + 1) << "the shelf is shown";
+
+    const Answer partly = answer({u"open"_s, u"c"_s, u"http://x/y"_s, u"/d"_s});
+    EXPECT_EQ(partly.status, 1);
+    EXPECT_EQ(partly.errors, u"no file of this machine: c\nno file of this machine: http://x/y"_s);
+    EXPECT_EQ(answer({u"open"_s, u"/d"_s}), Answer()) << "there already";
+
+    const auto list = [this](const QStringList& more) {
+        return answer(QStringList{u"shelf"_s, u"list"_s} + more).output;
+    };
+    EXPECT_EQ(list({}), "/a\nb\n/ü #\n/d\n");
+    EXPECT_EQ(list({u"-0"_s}), QByteArray("/a\nb\0/ü #\0/d\0", 14));
+    EXPECT_EQ(list({u"--json"_s}),
+              "{\"files\":[{\"path\":\"/a\\nb\",\"selected\":true,\"stack\":0},"
+              "{\"path\":\"/ü #\",\"selected\":true,\"stack\":0},"
+              "{\"path\":\"/d\",\"selected\":true,\"stack\":1}]}\n");
+}
+
+} // namespace
+
+} // namespace ravelo

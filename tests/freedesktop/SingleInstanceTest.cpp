@@ -1,0 +1,166 @@
+// A running program and one that asks it: on a bus of their own, and without a bus.
+
+#include "PrivateBus.h"
+#include "platform/freedesktop/BusInstance.h"
+#include "platform/freedesktop/SocketInstance.h"
+
+#include <QDBusMessage>
+#include <QLocalSocket>
+
+#include <atomic>
+#include <functional>
+#include <thread>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using namespace std::chrono_literals;
+
+/// What `call` gives on a thread of its own, while the event loop runs here.
+template <typename Value>
+Value elsewhere(const std::function<Value()>& call) {
+    Value value{};
+    std::atomic<bool> done = false;
+    std::thread thread([&] {
+        value = call();
+        done = true;
+    });
+    EXPECT_TRUE(eventually([&] { return done.load(); }));
+    thread.join();
+    return value;
+}
+
+/// The two ways, to run the same tests on.
+struct Way {
+    const char* name;
+    std::unique_ptr<SingleInstance> (*claim)(PrivateBus& bus);
+    std::optional<Answer> (*ask)(PrivateBus& bus, const QStringList& request,
+                                 std::chrono::milliseconds patience);
+
+    friend void PrintTo(const Way& way, std::ostream* out) { *out << way.name; }
+};
+
+const Way overBus{
+    "Bus",
+    [](PrivateBus& bus) -> std::unique_ptr<SingleInstance> {
+        static int claims = 0;
+        return BusInstance::claim(bus.connect(u"claims %1"_s.arg(++claims)));
+    },
+    [](PrivateBus& bus, const QStringList& request, std::chrono::milliseconds patience) {
+        return BusInstance::ask(bus.connect(u"asks"_s), request, patience);
+    }};
+const Way overSocket{
+    "Socket",
+    [](PrivateBus& /*bus*/) -> std::unique_ptr<SingleInstance> { return SocketInstance::claim(); },
+    [](PrivateBus& /*bus*/, const QStringList& request, std::chrono::milliseconds patience) {
+        return SocketInstance::ask(request, patience);
+    }};
+
+class SingleInstanceTest : public testing::Test {
+public:
+    SingleInstanceTest() { qputenv("XDG_RUNTIME_DIR", QFile::encodeName(runtime_.path())); }
+
+    ~SingleInstanceTest() override { qunsetenv("XDG_RUNTIME_DIR"); }
+
+    SingleInstanceTest(const SingleInstanceTest&) = delete;
+    SingleInstanceTest& operator=(const SingleInstanceTest&) = delete;
+
+protected:
+    QTemporaryDir runtime_;
+    PrivateBus bus_;
+};
+
+class EitherWay : public SingleInstanceTest, public testing::WithParamInterface<Way> {
+protected:
+    std::unique_ptr<SingleInstance> claim() { return GetParam().claim(bus_); }
+
+    std::optional<Answer> ask(const QStringList& request,
+                              std::chrono::milliseconds patience = 20s) {
+        return elsewhere<std::optional<Answer>>(
+            [&] { return GetParam().ask(bus_, request, patience); });
+    }
+};
+
+TEST_P(EitherWay, AnswersWhatItIsAsked) {
+    EXPECT_EQ(ask({u"show"_s}), std::nullopt) << "none runs";
+    const auto instance = claim();
+    ASSERT_TRUE(instance);
+    EXPECT_FALSE(claim()) << "there is one";
+    EXPECT_EQ(ask({u"show"_s}).value().status, 1) << "it is not ready";
+
+    QStringList asked;
+    Answer answer{2, QByteArray("two\0\xff\n", 6), u"line\nline ü"_s};
+    instance->onRequest = [&](const QStringList& request) {
+        asked = request;
+        return answer;
+    };
+    const QStringList odd = {u"a b"_s, u""_s, u"\"'\\\n\t"_s, u"\U0001F345"_s, u"-0"_s};
+    EXPECT_EQ(ask(odd), answer);
+    EXPECT_EQ(asked, odd);
+    answer = {0, QByteArray(3'000'000, 'x'), {}};
+    EXPECT_EQ(ask({QString(1'000'000, u'ü')}), answer) << "longer than any buffer";
+}
+
+TEST_P(EitherWay, IsNotWaitedForForEver) {
+    const auto instance = claim();
+    ASSERT_TRUE(instance);
+    // Here, so that no event loop runs.
+    EXPECT_EQ(GetParam().ask(bus_, {u"show"_s}, 50ms), SingleInstance::silence());
+}
+
+INSTANTIATE_TEST_SUITE_P(Ways, EitherWay, testing::Values(overBus, overSocket),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(SingleInstanceTest, AnswersADesktopByTheStandardsInterface) {
+    const auto instance = BusInstance::claim(bus_.connect(u"claims"_s));
+    ASSERT_TRUE(instance);
+    QStringList asked;
+    instance->onRequest = [&](const QStringList& request) {
+        asked = request;
+        return request.contains(u"nonsense"_s) ? Answer{2, {}, u"what?"_s} : Answer();
+    };
+    QDBusConnection bus = bus_.connect(u"desktop"_s);
+    const auto call = [&](const QString& method, const QVariantList& arguments) {
+        auto message =
+            QDBusMessage::createMethodCall(u"org.ravelo.Ravelo"_s, u"/org/ravelo/Ravelo"_s,
+                                           u"org.freedesktop.Application"_s, method);
+        message.setArguments(arguments);
+        return elsewhere<QDBusMessage>([&] { return bus.call(message); });
+    };
+    const QStringList uris = {u"file:///a%20b"_s, u"file:///c"_s};
+    EXPECT_EQ(call(u"Activate"_s, {QVariantMap()}).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(asked, QStringList{u"show"_s});
+    EXPECT_EQ(call(u"Open"_s, {uris, QVariantMap()}).type(), QDBusMessage::ReplyMessage);
+    EXPECT_EQ(asked, QStringList{u"open"_s} + uris);
+    EXPECT_EQ(call(u"ActivateAction"_s, {u"toggle"_s, QVariantList(), QVariantMap()}).type(),
+              QDBusMessage::ReplyMessage);
+    EXPECT_EQ(asked, QStringList{u"toggle"_s});
+    EXPECT_EQ(
+        call(u"ActivateAction"_s, {u"nonsense"_s, QVariantList(), QVariantMap()}).errorMessage(),
+        u"what?"_s);
+}
+
+TEST_F(SingleInstanceTest, HasASocketForTheUserAloneAndRefusesWhatIsNoRequest) {
+    const auto instance = SocketInstance::claim();
+    ASSERT_TRUE(instance);
+    instance->onRequest = [](const QStringList&) {
+        ADD_FAILURE() << "that was no request";
+        return Answer();
+    };
+    const QFileInfoList files =
+        QDir(runtime_.path()).entryInfoList(QDir::Files | QDir::System, QDir::Name);
+    ASSERT_EQ(files.size(), 2) << "the socket, and its lock";
+    EXPECT_FALSE(files.first().permissions() &
+                 (QFile::ReadGroup | QFile::WriteGroup | QFile::ReadOther | QFile::WriteOther));
+    QLocalSocket socket;
+    socket.connectToServer(files.first().filePath());
+    socket.write("{\"no\":\"list\"}\n\xff\0[\n");
+    EXPECT_TRUE(eventually([&] { return socket.canReadLine(); }));
+    EXPECT_TRUE(socket.readLine().contains("\"status\":2"));
+}
+
+} // namespace
+} // namespace ravelo
