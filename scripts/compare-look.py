@@ -68,9 +68,9 @@ SCENES = [
         ("clearQuestion/bubble/yes", ".pop .btn:nth-child(2)", ALL),
     ]),
     ("running", "04-timer-search-confirm.html", ".panel", [
-        ("runningTimer/runningTime", ".run .t|text", ALL),
-        ("runningTimer/runningLabel", ".run .l|text", "xw"),
-        ("runningTimer/stopTimer", ".run .btn", ALL),
+        ("topBar/runningTimer/runningTime", ".run .t|text", ALL),
+        ("topBar/runningTimer/runningLabel", ".run .l|text", "xw"),
+        ("topBar/runningTimer/stopTimer", ".run .btn", ALL),
     ]),
     ("presets", "11a-presets-menu.html", ".panel", [
         ("presetChoices/bubble", ".menu", ALL),
@@ -90,7 +90,7 @@ SCENES = [
     ]),
     ("reminders", "11e-reminders.html", ".panel", [
         ("reminderQuestion/bubble", ".pop", ALL),
-        ("reminderStrip/reminderLine0", ".rem .r", ALL),
+        ("topBar/reminderStrip/reminderLine0", ".rem .r", ALL),
     ]),
     ("empty", "05-clipboard-empty.html", ".panel", [
         ("emptyDisc", ".empty .o", ALL),

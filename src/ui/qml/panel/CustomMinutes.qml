@@ -7,7 +7,7 @@ Popover {
 
     function ask(button: Item) {
         line.text = Math.floor(host.focusControls.minutes);
-        openUnder(button, 15);
+        openUnder(button, 16);
         line.forceActiveFocus();
         line.selectAll();
     }

@@ -70,7 +70,7 @@ Box {
         anchors.right: play.left
         text: control.focusing.minutesLabel
         lit: minutesMenu.opened
-        onClicked: minutesMenu.openUnder(this as Item, 15)
+        onClicked: minutesMenu.openUnder(this as Item, 16)
 
         Menu {
             id: minutesMenu

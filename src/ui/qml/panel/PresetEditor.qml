@@ -90,9 +90,9 @@ Popover {
 
     CapsuleButton {
         objectName: "addPreset"
-        y: list.y + list.height + 12
+        y: parent.height - height
         text: "Add preset"
-        lead: 18
+        lead: 19
         onClicked: {
             editor.focusing.addPreset();
             list.positionViewAtEnd();
@@ -100,7 +100,8 @@ Popover {
 
         Glyph {
             x: 10
-            y: 6
+            y: 6.5
+            size: 15
             symbol: "plus"
         }
     }

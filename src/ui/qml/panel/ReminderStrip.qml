@@ -3,19 +3,22 @@ pragma ComponentBehavior: Bound
 import QtQuick
 import Ravelo
 
-/// The reminders, and a field for one more, as far right as there is room.
+/// The reminders, and a field for one more.
 Item {
     id: strip
 
     required property PanelHost host
+    /// They begin at the left; else they end at the right.
+    required property bool fromLeft
+
+    readonly property real gap: list.count > 0 ? 14 : 0
 
     implicitHeight: 24
 
     ListView {
         id: list
-        anchors.right: field.left
-        anchors.rightMargin: count > 0 ? 14 : 0
-        width: Math.min(contentWidth, field.x - anchors.rightMargin)
+        x: field.x - strip.gap - width
+        width: Math.min(contentWidth, strip.width - field.width - strip.gap)
         height: parent.height
         Accessible.role: Accessible.List
         Accessible.name: "Reminders"
@@ -85,7 +88,7 @@ Item {
 
     Box {
         id: field
-        anchors.right: parent.right
+        x: strip.fromLeft ? list.width + strip.gap : strip.width - width
         width: 70
         height: 24
         radius: 12

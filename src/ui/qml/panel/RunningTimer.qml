@@ -51,7 +51,7 @@ Item {
         x: label.x + label.width + (label.width > 0 ? 16 : 6)
         y: 2
         text: "Stop"
-        lead: 18
+        lead: 20
         onClicked: timer.host.store.stopTimer()
 
         Glyph {

@@ -37,6 +37,7 @@ Item {
         y: bar.hasTwoRows ? 40 : 4
         width: (bar.hasTwoRows ? bar.width : actions.x - 16) - begin
         host: bar.host
+        fromLeft: bar.hasTwoRows
     }
 
     Row {
