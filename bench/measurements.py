@@ -189,21 +189,25 @@ def use(process):
     return Use(*total)
 
 
-def resting(program, seconds):
-    """What it uses in a second with the panel closed and nothing going on."""
+def resting(program, seconds, timing=False):
+    """What it uses in a second with the panel closed and nothing going on but perhaps a timer."""
     with running(program) as (_, ravelo):
+        if timing:
+            assert ravelo.call("timer", "start", "60", "Deep work")[0] == 0, "no timer runs"
         time.sleep(5)  # Whatever the start left to do.
         threads = len(list(pathlib.Path(f"/proc/{ravelo.process.pid}/task").iterdir()))
         before, begin = use(ravelo.process), time.monotonic()
         time.sleep(seconds)
         after, passed = use(ravelo.process), time.monotonic() - begin
-        assert ravelo.is_collapsed(), "the panel is not closed any more"
+        assert timing or ravelo.is_collapsed(), "the panel is not closed any more"
         return Use(*((b - a) / passed for a, b in zip(before, after))), threads
 
 
 def rest(options):
     resting_use, threads = resting("ravelo", options.rest)
     ticking_use, _ = resting("bench/bench_ticking", options.rest)
+    timing_use, _ = resting("ravelo", options.rest, timing=True)
+    woken, more = (u.voluntary + u.involuntary for u in (resting_use, timing_use))
 
     def row(name, figure, unit, budget=None):
         return Row(f"at rest: {name}", figure(resting_use), unit, budget, figure(ticking_use))
@@ -212,6 +216,8 @@ def rest(options):
         row(f"wake-ups of {threads} threads", lambda u: u.voluntary + u.involuntary, "/s", 5),
         row("  of these involuntary", lambda u: u.involuntary, "/s"),
         row("processor", lambda u: 100 * u.seconds, "% core", 0.1),
+        Row("with a timer: more wake-ups", more - woken, "/s", 3),
+        Row("with a timer: processor", 100 * timing_use.seconds, "% core"),
     ]
 
 

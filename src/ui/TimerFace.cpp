@@ -13,6 +13,10 @@ namespace {
 /// How far behind the change of the figure to look: rounding cannot put the look before it.
 constexpr Seconds margin{0.001};
 
+/// Of a whole circle. Finer ones cannot be told from each other on the bar's ring, which is painted
+/// anew for each.
+constexpr double steps = 360;
+
 } // namespace
 
 TimerFace::TimerFace(const Store& store, Scheduler& scheduler)
@@ -36,7 +40,7 @@ void TimerFace::refresh() {
     const double left = store_.timerRemaining();
     const double whole = std::floor(left);
     remaining_ = timerString(Seconds(left));
-    fraction_ = left > 0 ? left / store_.timerDuration() : 0;
+    fraction_ = left > 0 ? std::ceil(left / store_.timerDuration() * steps) / steps : 0;
     if (whole > 0) { // After the last figure comes the timer's own end.
         tick_ = scheduler_.after(Seconds(left - whole) + margin, [this] { refresh(); });
     }
