@@ -9,6 +9,7 @@
 #include "platform/freedesktop/BusInstance.h"
 #include "platform/freedesktop/LoginSession.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
+#include "platform/freedesktop/ThemeSound.h"
 #include "platform/system/PreferenceFile.h"
 #include "platform/system/SystemScheduler.h"
 #include "platform/system/TerminationSignals.h"
@@ -60,7 +61,8 @@ AppDelegate::AppDelegate(DisplayServer& display, HoverTick::Rest rest)
                                                   QCoreApplication::applicationFilePath())),
       loginSession_(std::make_unique<LoginSession>(
           QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s))),
-      screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())) {}
+      screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())),
+      sound_(std::make_unique<ThemeSound>()) {}
 
 AppDelegate::~AppDelegate() {
     flush();
@@ -73,8 +75,9 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     if (!dataLock_.tryLock() && dataLock_.error() == QLockFile::LockFailedError) {
         return failure(u"Ravelo runs in another session and uses "_s + dataFolder());
     }
-    store_ = std::make_unique<Store>(
-        dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_, display_.pasteboard()});
+    store_ =
+        std::make_unique<Store>(dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_,
+                                                              display_.pasteboard(), *sound_});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 

@@ -12,6 +12,7 @@
 
 namespace ravelo {
 
+class AlertSound;
 class AppSettings;
 class ClipboardManager;
 class Commands;
@@ -56,6 +57,7 @@ private:
     std::unique_ptr<LoginItem> loginItem_;
     std::unique_ptr<SessionLock> loginSession_;
     std::unique_ptr<SessionLock> screenSaver_;
+    std::unique_ptr<AlertSound> sound_;
 
     std::unique_ptr<Store> store_;
     std::unique_ptr<AppSettings> settings_;

@@ -30,7 +30,8 @@ protected:
     ManualWorker worker_;
     MemoryPreferences preferences_;
     MemoryPasteboard pasteboard_{scheduler_};
-    Store store_{folder_.path(), {scheduler_, worker_, preferences_, pasteboard_}};
+    FakeAlertSound sound_;
+    Store store_{folder_.path(), {scheduler_, worker_, preferences_, pasteboard_, sound_}};
     TimerFace face_{store_, scheduler_};
     QStringList figures_;
 };
