@@ -8,7 +8,10 @@
 #include "platform/freedesktop/AutostartEntry.h"
 #include "platform/freedesktop/BusInstance.h"
 #include "platform/freedesktop/LoginSession.h"
+#include "platform/freedesktop/LoginShutDown.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
+#include "platform/freedesktop/ThemeSound.h"
+#include "platform/system/NightShiftScript.h"
 #include "platform/system/PreferenceFile.h"
 #include "platform/system/SystemScheduler.h"
 #include "platform/system/TerminationSignals.h"
@@ -37,6 +40,10 @@ QString configFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
 }
 
+QDBusConnection systemBus() {
+    return QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s);
+}
+
 // Qt ends the process by exit() when the display server goes, which is how many sessions end.
 AppDelegate* flushedAtExit = nullptr;
 
@@ -48,7 +55,8 @@ void flushAtExit() {
 
 } // namespace
 
-AppDelegate::AppDelegate(DisplayServer& display, HoverTick::Rest rest)
+AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& environment,
+                         HoverTick::Rest rest)
     : display_(display),
       rest_(rest),
       dataLock_(dataFolder() + u"/lock"_s),
@@ -58,9 +66,11 @@ AppDelegate::AppDelegate(DisplayServer& display, HoverTick::Rest rest)
                                                     *worker_)),
       loginItem_(std::make_unique<AutostartEntry>(configFolder() + u"/autostart"_s,
                                                   QCoreApplication::applicationFilePath())),
-      loginSession_(std::make_unique<LoginSession>(
-          QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s))),
-      screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())) {}
+      loginSession_(std::make_unique<LoginSession>(systemBus())),
+      screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())),
+      sound_(std::make_unique<ThemeSound>()),
+      nightShift_(std::make_unique<NightShiftScript>(environment)),
+      shutDown_(std::make_unique<LoginShutDown>(systemBus())) {}
 
 AppDelegate::~AppDelegate() {
     flush();
@@ -73,8 +83,9 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     if (!dataLock_.tryLock() && dataLock_.error() == QLockFile::LockFailedError) {
         return failure(u"Ravelo runs in another session and uses "_s + dataFolder());
     }
-    store_ = std::make_unique<Store>(
-        dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_, display_.pasteboard()});
+    store_ =
+        std::make_unique<Store>(dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_,
+                                                              display_.pasteboard(), *sound_});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
@@ -96,7 +107,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                                   *window_,
                                   {&display_.lock(), loginSession_.get(), screenSaver_.get()}},
         rest_);
-    view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_},
+    view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_,
+                 *nightShift_, *shutDown_},
                 QLocale());
     const auto quit = [] {
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);

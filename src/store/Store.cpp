@@ -3,6 +3,7 @@
 #include "base/Files.h"
 #include "base/Scheduler.h"
 #include "base/Uuid.h"
+#include "platform/AlertSound.h"
 #include "platform/Pasteboard.h"
 #include "platform/Preferences.h"
 #include "platform/Worker.h"
@@ -302,7 +303,7 @@ void Store::stopTimer() {
 void Store::finishTimer() {
     timer_.start.reset();
     timerEnd_.reset();
-    Q_EMIT timerFinished();
+    services_.sound.play();
     tell(&Store::timerChanged);
 }
 

@@ -14,6 +14,7 @@
 
 namespace ravelo {
 
+class AlertSound;
 class Pasteboard;
 class Preferences;
 class Scheduler;
@@ -44,6 +45,7 @@ public:
         Worker& worker;
         Preferences& preferences;
         Pasteboard& pasteboard;
+        AlertSound& sound;
     };
 
     /// Loads "store.json" from `folder` (made if missing, 0700) and seeds the snippets.
@@ -150,7 +152,6 @@ Q_SIGNALS:
     void shelfChanged();
     void shelfRequestTickChanged();
     void timerChanged();
-    void timerFinished(); ///< It has run its whole length.
     void remindersChanged();
 
 private:

@@ -1,6 +1,7 @@
 #include "clipboard/ClipboardManager.h"
 
 #include "clipboard/FileForms.h"
+#include "fakes/FakeAlertSound.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -69,7 +70,8 @@ public:
     ManualWorker worker{ManualWorker::Mode::whenTold};
     MemoryPreferences preferences;
     MemoryPasteboard pasteboard{scheduler};
-    Store store{folder.path(), {scheduler, worker, preferences, pasteboard}};
+    FakeAlertSound sound;
+    Store store{folder.path(), {scheduler, worker, preferences, pasteboard, sound}};
     std::optional<ClipboardManager> manager;
 };
 

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "clipboard/ClipboardManager.h"
+#include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDisplay.h"
 #include "fakes/FakeLoginItem.h"
+#include "fakes/FakePower.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -25,7 +27,7 @@ struct PanelWorld {
 
     /// The store begins with `data`.
     explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
-        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard}),
+        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard, sound}),
           controller(store, clipboard, settings,
                      {scheduler, screens, pointer, drags, barrier, window, {&lock, &otherLock}},
                      rest) {}
@@ -57,6 +59,9 @@ struct PanelWorld {
     FakePanelWindow window;
     FakeSessionLock lock;
     FakeSessionLock otherLock;
+    FakeAlertSound sound;
+    FakeNightShift nightShift;
+    FakeShutDown shutDown;
     Store store;
     AppSettings settings{preferences, loginItem};
     ClipboardManager clipboard{store, pasteboard, scheduler};

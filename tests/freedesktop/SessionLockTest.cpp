@@ -1,6 +1,7 @@
 // The services that tell of a locked session, with stand-ins for them on a bus of their own.
 
 #include "PrivateBus.h"
+#include "StandIn.h"
 #include "platform/freedesktop/LoginSession.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
 
@@ -9,30 +10,12 @@
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
-#include <QDBusVirtualObject>
 
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-/// Answers every call below its path by `answer`.
-class StandIn : public QDBusVirtualObject {
-public:
-    using Answer = std::function<QVariant(const QDBusMessage& call)>;
-
-    explicit StandIn(Answer answer) : answer_(std::move(answer)) {}
-
-    [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
-
-    bool handleMessage(const QDBusMessage& call, const QDBusConnection& connection) override {
-        return connection.send(call.createReply(answer_(call)));
-    }
-
-private:
-    Answer answer_;
-};
 
 class SessionLockTest : public testing::Test {
 protected:

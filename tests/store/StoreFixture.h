@@ -2,6 +2,7 @@
 
 #include "TestImages.h"
 #include "base/Files.h"
+#include "fakes/FakeAlertSound.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -37,7 +38,7 @@ protected:
     }
 
     [[nodiscard]] Store::Services services() {
-        return {scheduler_, worker_, preferences_, pasteboard_};
+        return {scheduler_, worker_, preferences_, pasteboard_, sound_};
     }
 
     [[nodiscard]] QString folder() const { return directory_.filePath(QStringLiteral("Ravelo")); }
@@ -78,6 +79,7 @@ protected:
     ManualWorker worker_{ManualWorker::Mode::whenTold};
     MemoryPreferences preferences_;
     MemoryPasteboard pasteboard_{scheduler_};
+    FakeAlertSound sound_;
     std::unique_ptr<Store> store_;
 };
 

@@ -30,7 +30,8 @@ protected:
     ManualWorker worker_;
     MemoryPreferences preferences_;
     MemoryPasteboard pasteboard_{scheduler_};
-    Store store_{folder_.path(), {scheduler_, worker_, preferences_, pasteboard_}};
+    FakeAlertSound sound_;
+    Store store_{folder_.path(), {scheduler_, worker_, preferences_, pasteboard_, sound_}};
     TimerFace face_{store_, scheduler_};
     QStringList figures_;
 };
@@ -117,7 +118,7 @@ class Bar : public testing::Test {
 protected:
     Bar() {
         view_.load({world_.store, world_.settings, world_.controller, world_.pasteboard,
-                    world_.scheduler, world_.preferences},
+                    world_.scheduler, world_.preferences, world_.nightShift, world_.shutDown},
                    QLocale(u"en_US"_s));
         view_.window().show();
         world_.store.setReminderOpen(true);

@@ -1,0 +1,27 @@
+#pragma once
+
+#include "platform/NightShift.h"
+
+#include <QProcessEnvironment>
+#include <QString>
+
+namespace ravelo {
+
+/// Runs the script ~/.qvx/bin/turno-noite by a login shell, in a session of its own that outlives
+/// this program, with this program's standard streams. Main thread.
+class NightShiftScript final : public NightShift {
+public:
+    /// `environment` is the script's. Where there is no `shell`, the user's login shell runs it.
+    explicit NightShiftScript(QProcessEnvironment environment,
+                              QString shell = QStringLiteral("/bin/zsh"));
+
+    void start() override;
+
+private:
+    [[nodiscard]] bool startBy(const QString& shell) const;
+
+    QProcessEnvironment environment_;
+    QString shell_;
+};
+
+} // namespace ravelo

@@ -1,0 +1,103 @@
+#include "platform/system/NightShiftScript.h"
+
+#include "base/Files.h"
+#include "support/Eventually.h"
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <cerrno>
+#include <filesystem>
+#include <string>
+#include <vector>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <sys/wait.h>
+#include <unistd.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+using namespace std::string_literals;
+
+namespace {
+
+class NightShiftScriptTest : public testing::Test {
+protected:
+    NightShiftScriptTest() {
+        EXPECT_TRUE(QDir().mkpath(home_ + u"/.qvx/bin"_s));
+        environment_.insert(u"HOME"_s, home_);
+        environment_.insert(u"PATH"_s, qEnvironmentVariable("PATH"));
+    }
+
+    /// A program that ends by leaving what `print` prints in a file of its own.
+    void install(const QString& path, const QByteArray& print) {
+        QFile program(path);
+        ASSERT_TRUE(program.open(QIODevice::WriteOnly));
+        program.write("#!/bin/sh\n" + print +
+                      " > \"$HOME/$$\"\nmv \"$HOME/$$\" \"$HOME/$$.out\"\n");
+        ASSERT_TRUE(program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    }
+
+    /// What so many programs have printed.
+    [[nodiscard]] std::vector<std::string> printed(qsizetype count) const {
+        QFileInfoList files;
+        EXPECT_TRUE(eventually([&] {
+            files = QDir(home_, u"*.out"_s).entryInfoList();
+            return files.size() == count;
+        }));
+        std::vector<std::string> all;
+        for (const QFileInfo& file : files) {
+            all.push_back(readFile(file.filePath()).value_or(QByteArray()).toStdString());
+        }
+        return all;
+    }
+
+    QTemporaryDir folder_;
+    QString home_ = folder_.filePath(u"a home"_s);
+    QProcessEnvironment environment_;
+};
+
+TEST_F(NightShiftScriptTest, isGivenToTheShellAtEachStart) {
+    const QString shell = folder_.filePath(u"zsh"_s);
+    install(shell, "streams=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
+                   "{ cat /proc/$$/cmdline /proc/$$/environ; echo \"$streams\"; }");
+    qputenv("QT_QPA_PLATFORM", "of this program");
+    NightShiftScript script(environment_, shell);
+    script.start();
+    script.start();
+
+    QStringList parts = {u"/bin/sh"_s, shell, u"-lc"_s, u"\"$HOME/.qvx/bin/turno-noite\""_s};
+    parts += environment_.toStringList();
+    std::string expected = (parts.join(QChar::Null) + QChar::Null).toStdString();
+    for (const char* stream : {"0", "1", "2"}) {
+        expected += std::filesystem::read_symlink("/proc/self/fd/"s + stream).string() + '\n';
+    }
+    EXPECT_EQ(printed(2), std::vector(2, expected));
+    EXPECT_TRUE(waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD) << "a zombie";
+}
+
+TEST_F(NightShiftScriptTest, runsWithoutThatShellAndOutlivesTheProgram) {
+    const QByteArray gate = (home_ + u"/gate"_s).toLocal8Bit();
+    ASSERT_EQ(mkfifo(gate, 0600), 0);
+    install(home_ + u"/.qvx/bin/turno-noite"_s, "read said < \"$HOME/gate\"; echo \"$said\"");
+    const pid_t program = fork();
+    if (program == 0) {
+        NightShiftScript(environment_, u"/nowhere/zsh"_s).start();
+        _exit(0);
+    }
+    ASSERT_EQ(waitpid(program, nullptr, 0), program);
+    int door = -1;
+    ASSERT_TRUE(eventually([&] { return (door = open(gate, O_WRONLY | O_NONBLOCK)) >= 0; }));
+    EXPECT_EQ(write(door, "it lives\n", 9), 9);
+    close(door);
+    EXPECT_EQ(printed(1), std::vector<std::string>{"it lives\n"});
+}
+
+} // namespace
+
+} // namespace ravelo
