@@ -46,6 +46,15 @@ class ProgramCase(unittest.TestCase):
         wait_for(lambda: self.ravelo.texts()[:len(texts)] == list(texts),
                  f"{texts} as the newest clips in store.json")
 
+    def toggle(self):
+        self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
+        panel = wait_for(self.ravelo.is_open, "the open panel")
+        wait_for(lambda: self.desktop.focused_window() == str(panel.window), "the keyboard in it")
+
+    def press(self, *keys):
+        for key in keys:
+            self.desktop.key(key)
+
     def stop(self):
         self.ravelo.process.terminate()
         self.wait_for_end()
@@ -273,15 +282,6 @@ class Keyboard(ProgramCase):
         self.ravelo.start()
         self.copy_and_wait("fourth", "https://example.org/x", "second", "first")
 
-    def toggle(self):
-        self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
-        panel = wait_for(self.ravelo.is_open, "the open panel")
-        wait_for(lambda: self.desktop.focused_window() == str(panel.window), "the keyboard in it")
-
-    def press(self, *keys):
-        for key in keys:
-            self.desktop.key(key)
-
     def closed_with(self, text):
         wait_for(self.ravelo.is_collapsed, "the panel to close")
         wait_for(lambda: self.desktop.focused_window() == self.focus, "the keyboard back")
@@ -450,6 +450,42 @@ class HungOwner(ProgramCase):
                 self.desktop.click(panel.x - 20, 300)
                 wait_for(self.ravelo.is_collapsed, "the closed panel")
                 self.desktop.move(100, 800)
+
+
+class Focus(ProgramCase):
+    BACK_TO_THE_NOTE = ["shift+Tab"] * 10  # From the search: tabs, buttons, reminders, menus.
+
+    def setUp(self):
+        super().setUp()
+        self.sound = self.desktop.home / "played"
+        (self.desktop.home / ".asoundrc").write_text(
+            f'pcm.!default {{ type file file "{self.sound}" format raw slave.pcm null }}')
+        self.ravelo.start()
+
+    def has_played(self):
+        return self.sound.exists() and self.sound.stat().st_size > 0
+
+    def test_a_timer_from_the_keyboard_to_its_stop_and_one_to_its_end(self):
+        self.toggle()
+        self.press(*self.BACK_TO_THE_NOTE)
+        self.desktop.type("  Estimates ")
+        self.press("Return")
+        status = wait_for(lambda: (text := self.ravelo.call("timer", "status")[1])
+                          and "no timer" not in text and text, "a timer that runs")
+        self.assertRegex(status, r"^(1:00:00|59:5\d) Estimates\n$")
+        self.press("Escape")
+        wait_for(lambda: (bar := self.ravelo.panel()) and bar[2:] == (0, 520, 24), "the bar, 520 x 24")
+        self.assertFalse(self.ravelo.call("timer", "start", "0")[0] == 0, "a timer of no length")
+        self.ravelo.call("--toggle")
+        wait_for(self.ravelo.is_open, "the open panel")
+        self.press("Escape")
+        self.assertEqual(self.ravelo.call("timer", "stop"), (0, ""))
+        wait_for(self.ravelo.is_collapsed, "the handle again")
+
+        self.assertEqual(self.ravelo.call("timer", "start", "0.02"), (0, ""))
+        wait_for(self.has_played, "the sound at the end")
+        self.assertEqual(self.ravelo.call("timer", "status"), (0, "no timer\n"))
+        wait_for(self.ravelo.is_collapsed, "the handle again")
 
 
 class CommandLine(ProgramCase):
