@@ -175,6 +175,26 @@ def hot_zone(on):
     until(on.ravelo.is_open, "the panel, opened by the pointer in the hot zone")
 
 
+def timer_bar(on):
+    """A running timer takes the handle's place, above all, and opens the panel anywhere on it."""
+    def shows():
+        return (panel := on.ravelo.panel()) and (panel.y, panel.width) == (0, 520)
+
+    assert on.ravelo.call("timer", "start", "25", "Estimates") == (0, ""), "no timer runs"
+    try:
+        until(shows, lambda: f"the bar, 520 wide; there is {on.ravelo.panel()}")
+        with on.screenful():
+            on.expect_seen((MIDDLE - 120, 2, 240, 20), [SCREENFUL, BAR], "the bar")
+            on.keep("timer")
+            on.desktop.move(MIDDLE - 240, 20)  # Below the hot zone.
+            until(on.ravelo.is_open, "the panel, opened by the pointer on the bar")
+            on.desktop.click(*AWAY)
+            until(shows, "the bar again")
+    finally:
+        on.ravelo.call("timer", "stop")
+    on.expect_closed("after the timer")
+
+
 def focus(on):
     """Opening and closing leave the focus where the user types."""
     with on.screenful() as window:
@@ -305,5 +325,5 @@ def two_monitors(on):
 
 
 # The drop comes last: the panel is higher with a file on the shelf.
-CHECKS = (place, handle_above, panel_above, hot_zone, focus, typing, gives_back, workspaces,
+CHECKS = (place, handle_above, panel_above, hot_zone, timer_bar, focus, typing, gives_back, workspaces,
           file_drag, two_monitors, drop)
