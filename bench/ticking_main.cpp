@@ -6,6 +6,7 @@
 #include "platform/x11/X11DisplayServer.h"
 
 #include <QGuiApplication>
+#include <QProcessEnvironment>
 
 using namespace ravelo;
 
@@ -17,6 +18,7 @@ int main(int argc, char** argv) {
     if (!instance || !display) {
         return 1;
     }
-    AppDelegate delegate(**display, HoverTick::Rest::never);
+    AppDelegate delegate(**display, QProcessEnvironment::systemEnvironment(),
+                         HoverTick::Rest::never);
     return delegate.applicationDidFinishLaunching() ? QGuiApplication::exec() : 1;
 }

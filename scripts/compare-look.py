@@ -92,6 +92,15 @@ SCENES = [
         ("reminderQuestion/bubble", ".pop", ALL),
         ("topBar/reminderStrip/reminderLine0", ".rem .r", ALL),
     ]),
+    ("power", "11f-shutdown.html", ".panel", [
+        ("topBar/actions/nightShift", ".acts .indigo", "ywh"),
+        ("topBar/actions/nightShift/symbol", ".acts .indigo i", "ywh"),
+        ("topBar/actions/power", ".acts .red", "ywh"),
+        ("topBar/actions/power/symbol", ".acts .red i", "ywh"),
+        ("powerQuestion/bubble", ".pop", "ywh"),
+        ("powerQuestion/bubble/no", ".pop .btn:nth-child(1)", "ywh"),
+        ("powerQuestion/bubble/yes", ".pop .btn:nth-child(2)", "ywh"),
+    ]),
     ("empty", "05-clipboard-empty.html", ".panel", [
         ("emptyDisc", ".empty .o", ALL),
         ("emptyTitle", ".empty b", ALL),

@@ -8,8 +8,10 @@
 #include "platform/freedesktop/AutostartEntry.h"
 #include "platform/freedesktop/BusInstance.h"
 #include "platform/freedesktop/LoginSession.h"
+#include "platform/freedesktop/LoginShutDown.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
 #include "platform/freedesktop/ThemeSound.h"
+#include "platform/system/NightShiftScript.h"
 #include "platform/system/PreferenceFile.h"
 #include "platform/system/SystemScheduler.h"
 #include "platform/system/TerminationSignals.h"
@@ -38,6 +40,10 @@ QString configFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
 }
 
+QDBusConnection systemBus() {
+    return QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s);
+}
+
 // Qt ends the process by exit() when the display server goes, which is how many sessions end.
 AppDelegate* flushedAtExit = nullptr;
 
@@ -49,7 +55,8 @@ void flushAtExit() {
 
 } // namespace
 
-AppDelegate::AppDelegate(DisplayServer& display, HoverTick::Rest rest)
+AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& environment,
+                         HoverTick::Rest rest)
     : display_(display),
       rest_(rest),
       dataLock_(dataFolder() + u"/lock"_s),
@@ -59,10 +66,11 @@ AppDelegate::AppDelegate(DisplayServer& display, HoverTick::Rest rest)
                                                     *worker_)),
       loginItem_(std::make_unique<AutostartEntry>(configFolder() + u"/autostart"_s,
                                                   QCoreApplication::applicationFilePath())),
-      loginSession_(std::make_unique<LoginSession>(
-          QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s))),
+      loginSession_(std::make_unique<LoginSession>(systemBus())),
       screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())),
-      sound_(std::make_unique<ThemeSound>()) {}
+      sound_(std::make_unique<ThemeSound>()),
+      nightShift_(std::make_unique<NightShiftScript>(environment)),
+      shutDown_(std::make_unique<LoginShutDown>(systemBus())) {}
 
 AppDelegate::~AppDelegate() {
     flush();
@@ -99,7 +107,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                                   *window_,
                                   {&display_.lock(), loginSession_.get(), screenSaver_.get()}},
         rest_);
-    view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_},
+    view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_,
+                 *nightShift_, *shutDown_},
                 QLocale());
     const auto quit = [] {
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);

@@ -10,6 +10,8 @@
 
 #include <memory>
 
+class QProcessEnvironment;
+
 namespace ravelo {
 
 class AlertSound;
@@ -18,12 +20,14 @@ class ClipboardManager;
 class Commands;
 class DisplayServer;
 class LoginItem;
+class NightShift;
 class NotchController;
 class PanelView;
 class PanelWindow;
 class Preferences;
 class Scheduler;
 class SessionLock;
+class ShutDown;
 class Store;
 class Worker;
 
@@ -31,7 +35,9 @@ class Worker;
 /// process ends. Main thread only.
 class AppDelegate {
 public:
-    explicit AppDelegate(DisplayServer& display, HoverTick::Rest rest = HoverTick::Rest::whenStill);
+    /// `environment` is what the user's own programs are started with.
+    AppDelegate(DisplayServer& display, const QProcessEnvironment& environment,
+                HoverTick::Rest rest = HoverTick::Rest::whenStill);
     ~AppDelegate();
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
@@ -58,6 +64,8 @@ private:
     std::unique_ptr<SessionLock> loginSession_;
     std::unique_ptr<SessionLock> screenSaver_;
     std::unique_ptr<AlertSound> sound_;
+    std::unique_ptr<NightShift> nightShift_;
+    std::unique_ptr<ShutDown> shutDown_;
 
     std::unique_ptr<Store> store_;
     std::unique_ptr<AppSettings> settings_;

@@ -7,6 +7,7 @@
 #include "platform/x11/X11DisplayServer.h"
 
 #include <QGuiApplication>
+#include <QProcessEnvironment>
 
 #include <algorithm>
 #include <cstdio>
@@ -49,6 +50,7 @@ std::optional<int> askElsewhere(const QStringList& request, int argc, char** arg
 }
 
 int run(const Command& command, int argc, char** argv) {
+    const auto environment = QProcessEnvironment::systemEnvironment(); // Next, we change our own.
     x11::prepareApplication();
     const QGuiApplication application(argc, argv);
     QGuiApplication::setApplicationName(u"ravelo"_s);
@@ -64,7 +66,7 @@ int run(const Command& command, int argc, char** argv) {
         complain(display.error().message);
         return 1;
     }
-    AppDelegate delegate(**display);
+    AppDelegate delegate(**display, environment);
     if (const auto launched = delegate.applicationDidFinishLaunching(); !launched) {
         complain(launched.error().message);
         return 1;

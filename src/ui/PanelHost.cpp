@@ -1,6 +1,8 @@
 #include "ui/PanelHost.h"
 
 #include "panel/NotchGeometry.h"
+#include "platform/NightShift.h"
+#include "platform/ShutDown.h"
 
 #include <QDesktopServices>
 
@@ -112,6 +114,14 @@ void PanelHost::copySnippet(const QUuid& id) {
         controller()->copy(snippet->body);
         toast_.flashCopied();
     }
+}
+
+void PanelHost::startNightShift() {
+    subjects_.nightShift.start();
+}
+
+void PanelHost::shutDown() {
+    subjects_.shutDown.request();
 }
 
 void PanelHost::follow() {

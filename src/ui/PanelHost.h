@@ -20,7 +20,9 @@
 
 namespace ravelo {
 
+class NightShift;
 class Pasteboard;
+class ShutDown;
 
 /// What the panel's QML works on: the program's observable parts as they are, and what belongs to
 /// the panel alone. Decides when content exists. Main thread.
@@ -55,6 +57,8 @@ public:
         Pasteboard& pasteboard;
         Scheduler& scheduler;
         Preferences& preferences;
+        NightShift& nightShift;
+        ShutDown& shutDown;
     };
 
     PanelHost(Subjects subjects, const QLocale& locale);
@@ -117,6 +121,11 @@ public:
 
     /// Opens a link in the user's browser and closes the panel; nothing for a clip of another kind.
     Q_INVOKABLE void openLink(const QUuid& id);
+
+    Q_INVOKABLE void startNightShift();
+
+    /// Of the computer.
+    Q_INVOKABLE void shutDown();
 
 Q_SIGNALS:
     void hasContentChanged();

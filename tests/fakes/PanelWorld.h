@@ -4,6 +4,7 @@
 #include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDisplay.h"
 #include "fakes/FakeLoginItem.h"
+#include "fakes/FakePower.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -59,6 +60,8 @@ struct PanelWorld {
     FakeSessionLock lock;
     FakeSessionLock otherLock;
     FakeAlertSound sound;
+    FakeNightShift nightShift;
+    FakeShutDown shutDown;
     Store store;
     AppSettings settings{preferences, loginItem};
     ClipboardManager clipboard{store, pasteboard, scheduler};

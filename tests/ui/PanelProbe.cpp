@@ -201,11 +201,11 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         if (scene == u"custom-minutes") {
             click(window, middle(window, u"minuteChoices/item8"_s));
         }
-    } else if (scene == u"reminders") {
+    } else if (scene == u"reminders" || scene == u"power") {
         world.store.setReminders({u"Call the framer"_s});
         world.store.setReminderOpen(true);
         settle(100);
-        click(window, middle(window, u"reminderToggle"_s));
+        click(window, middle(window, scene == u"power" ? scene : u"reminderToggle"_s));
     } else if (scene == u"running" || scene == u"narrow") {
         world.store.setReminders({u"Call the framer"_s, u"Send estimate"_s});
         world.store.setReminderOpen(true);
@@ -341,7 +341,7 @@ int main(int argc, char** argv) {
     world.settings.setLastTab(scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
     PanelView view;
     view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler,
-               world.preferences},
+               world.preferences, world.nightShift, world.shutDown},
               QLocale(u"en_US"_s));
     view.host().setBackdrop(Backdrop::Blurred);
     const Date now = world.scheduler.now();

@@ -31,7 +31,7 @@ class Panel : public testing::Test {
 public:
     explicit Panel(const StoreData& data = threeClips()) : world(data) {
         view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler,
-                   world.preferences},
+                   world.preferences, world.nightShift, world.shutDown},
                   QLocale(u"en_US"_s));
         view.window().resize(200, 12);
         view.window().show();
@@ -567,6 +567,22 @@ TEST_F(Panel, keepsReminders) {
     EXPECT_TRUE(world.store.reminderVisible());
     clickOn(u"removeReminder"_s);
     EXPECT_EQ(world.store.reminders(), QStringList());
+}
+
+TEST_F(Panel, startsTheNightShiftAtOnceAndShutsDownOnlyWhenSure) {
+    open();
+    clickOn(u"nightShift"_s);
+    clickOn(u"nightShift"_s);
+    EXPECT_EQ(world.nightShift.starts, 2);
+    clickOn(u"power"_s);
+    EXPECT_TRUE(in(u"powerQuestion"_s, u"no"_s)->hasActiveFocus());
+    press(view.window(), Qt::Key_Return);
+    EXPECT_TRUE(eventually([this] { return shown(u"powerQuestion"_s) == nullptr; }));
+    EXPECT_EQ(world.shutDown.requests, 0);
+    clickOn(u"power"_s);
+    clickMiddle(view.window(), in(u"powerQuestion"_s, u"yes"_s));
+    EXPECT_EQ(world.shutDown.requests, 1);
+    EXPECT_TRUE(eventually([this] { return shown(u"powerQuestion"_s) == nullptr; }));
 }
 
 class PanelWithImages : public Panel {

@@ -118,7 +118,7 @@ class Bar : public testing::Test {
 protected:
     Bar() {
         view_.load({world_.store, world_.settings, world_.controller, world_.pasteboard,
-                    world_.scheduler, world_.preferences},
+                    world_.scheduler, world_.preferences, world_.nightShift, world_.shutDown},
                    QLocale(u"en_US"_s));
         view_.window().show();
         world_.store.setReminderOpen(true);

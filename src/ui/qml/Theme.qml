@@ -55,6 +55,15 @@ QtObject {
     readonly property color green: "#4CD68B"
     readonly property color yellow: "#F6C851"
     readonly property color red: "#FF7A70"
+    readonly property color indigo: "#A9A5FF"
+    readonly property color nightShift: withAlpha(indigoFill, 0.20)
+    readonly property color hoveredNightShift: withAlpha(indigoFill, 0.34)
+    readonly property color pressedNightShift: withAlpha(indigoFill, 0.45)
+    readonly property color power: withAlpha(redFill, 0.18)
+    readonly property color hoveredPower: withAlpha(redFill, 0.30)
+    readonly property color pressedPower: withAlpha(redFill, 0.40)
+    readonly property color indigoFill: "#847EFF"
+    readonly property color redFill: "#FF5C52"
     readonly property color pinnedTile: withAlpha(yellow, 0.13)
 
     readonly property color floating: "#2A2A2F"

@@ -12,7 +12,7 @@ Popover {
     signal accepted
 
     pad: 14
-    contentWidth: Math.max(label.implicitWidth + 2, buttons.width)
+    contentWidth: Math.max(label.implicitWidth, buttons.width) + 2
     contentHeight: 58
     Accessible.role: Accessible.Dialog
     Accessible.name: text

@@ -70,6 +70,31 @@ Item {
                 reminderQuestion.openLeftUnder(reminders, 14);
             }
         }
+
+        RoundButton {
+            objectName: "nightShift"
+            symbol: "moon.stars.fill"
+            glyphSize: 17
+            tint: Theme.indigo
+            rest: Theme.nightShift
+            hover: Theme.hoveredNightShift
+            press: Theme.pressedNightShift
+            tip: "Turno da noite — apaga a tela em ~5s e trabalha no pendente"
+            onClicked: bar.host.startNightShift()
+        }
+
+        RoundButton {
+            id: power
+            objectName: "power"
+            symbol: "power"
+            glyphSize: 16
+            tint: Theme.red
+            rest: confirmPower.opened ? Theme.hoveredPower : Theme.power
+            hover: Theme.hoveredPower
+            press: Theme.pressedPower
+            tip: "Shut down the Mac"
+            onClicked: confirmPower.openLeftUnder(power, 14)
+        }
     }
 
     Question {
@@ -77,5 +102,13 @@ Item {
         objectName: "reminderQuestion"
         host: bar.host
         onAccepted: bar.host.store.reminderOpen = !bar.host.store.reminderOpen
+    }
+
+    Question {
+        id: confirmPower
+        objectName: "powerQuestion"
+        host: bar.host
+        text: "Shut down the Mac?"
+        onAccepted: bar.host.shutDown()
     }
 }
