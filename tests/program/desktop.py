@@ -207,6 +207,8 @@ class Desktop(contextlib.AbstractContextManager):
                    stderr=subprocess.DEVNULL)
         wait_for(socket.exists, "a session bus")
         self.env["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={socket}"
+        # The machine's own is not ours to use: there is a button that turns it off.
+        self.env["DBUS_SYSTEM_BUS_ADDRESS"] = f"unix:path={socket}"
 
     def start_window_manager(self, *command):
         """Returns once it manages; also where it replaces another, or restarts itself."""

@@ -19,7 +19,8 @@ from desktop import WIDTH, Desktop, Ravelo, wait_for
 
 CAPTURE_LIMIT = 0.9  # Seconds from the copy to store.json: at most one poll and one debounce.
 SAVE_DELAY = 0.4
-SEARCH, FIRST_ROW, ROW = 220, 300, 40  # Their middles from the top; the height of a row.
+TOP_BAR, SEARCH, FIRST_ROW, ROW = 44, 220, 300, 40  # Middles from the top; the height of a row.
+NIGHT_SHIFT_RIGHT = 90  # Its middle from the right.
 
 # How much longer than usual the program may take, where it is built to be checked.
 SLOWER = int(os.environ.get("RAVELO_SLOWER", 1))
@@ -266,6 +267,19 @@ class Panel(ProgramCase):
         self.desktop.type("a")
         self.assertEqual(window.stdout.readline().strip(), "a", "typed into the other window")
         self.assertEqual(self.desktop.focused_window(), focus)
+
+    def test_the_night_shift_runs_in_the_environment_of_the_session(self):
+        script = self.desktop.home / ".qvx/bin/turno-noite"
+        script.parent.mkdir(parents=True)
+        script.write_text("#!/bin/sh\nenv -0 >part && mv part environment\n")
+        script.chmod(0o700)
+        panel = self.ravelo.open()
+        self.desktop.click(panel.x + panel.width - NIGHT_SHIFT_RIGHT, TOP_BAR)
+        environment = self.desktop.home / "environment"
+        wait_for(environment.exists, "what the script leaves")
+        of_qt = {item for item in environment.read_text().split("\0") if item.startswith("QT_")}
+        self.assertEqual(of_qt, {f"{name}={value}" for name, value in self.desktop.env.items()
+                                 if name.startswith("QT_")}, "what the program sets for itself")
 
 
 class Keyboard(ProgramCase):
