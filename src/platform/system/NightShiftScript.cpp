@@ -4,6 +4,7 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include <thread>
 #include <utility>
 
 #include <pwd.h>
@@ -23,24 +24,28 @@ QString loginShell() {
     return name == "nologin"_L1 || name == "false"_L1 ? QString() : shell;
 }
 
-} // namespace
-
-NightShiftScript::NightShiftScript(QProcessEnvironment environment, QString shell)
-    : environment_(std::move(environment)), shell_(std::move(shell)) {}
-
-void NightShiftScript::start() {
-    startBy(shell_) || startBy(loginShell()) || startBy(u"/bin/sh"_s);
-}
-
-bool NightShiftScript::startBy(const QString& shell) const {
+bool startBy(const QString& shell, const QProcessEnvironment& environment) {
     if (shell.isEmpty()) {
         return false;
     }
     QProcess process;
     process.setProgram(shell);
     process.setArguments({u"-lc"_s, u"\"$HOME/.qvx/bin/turno-noite\""_s});
-    process.setProcessEnvironment(environment_);
+    process.setProcessEnvironment(environment);
     return process.startDetached();
+}
+
+} // namespace
+
+NightShiftScript::NightShiftScript(QProcessEnvironment environment, QString shell)
+    : environment_(std::move(environment)), shell_(std::move(shell)) {}
+
+void NightShiftScript::start() {
+    // Elsewhere, because a start lasts until the shell is found on the disk and loaded.
+    std::thread([shell = shell_, environment = environment_] {
+        startBy(shell, environment) || startBy(loginShell(), environment) ||
+            startBy(u"/bin/sh"_s, environment);
+    }).detach();
 }
 
 } // namespace ravelo

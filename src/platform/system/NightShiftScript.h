@@ -18,8 +18,6 @@ public:
     void start() override;
 
 private:
-    [[nodiscard]] bool startBy(const QString& shell) const;
-
     QProcessEnvironment environment_;
     QString shell_;
 };
