@@ -22,6 +22,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 class ThemeSoundTest : public testing::Test {
+public:
+    ~ThemeSoundTest() override { close(ear_); }
+
 protected:
     ThemeSoundTest() {
         QFile configuration(folder_.filePath(u"asound.conf"_s));
@@ -33,8 +36,6 @@ protected:
         qputenv("XDG_CACHE_HOME", folder_.path().toLocal8Bit());
         qputenv("CANBERRA_DRIVER", "alsa");
     }
-
-    ~ThemeSoundTest() override { close(ear_); }
 
     void plugIn() {
         ASSERT_TRUE(QDir(folder_.path()).mkdir(u"plugged"_s));

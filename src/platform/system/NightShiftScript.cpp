@@ -37,8 +37,8 @@ bool startBy(const QString& shell, const QProcessEnvironment& environment) {
 
 } // namespace
 
-NightShiftScript::NightShiftScript(QProcessEnvironment environment, QString shell)
-    : environment_(std::move(environment)), shell_(std::move(shell)) {}
+NightShiftScript::NightShiftScript(const QProcessEnvironment& environment, QString shell)
+    : environment_(environment), shell_(std::move(shell)) {}
 
 void NightShiftScript::start() {
     // Elsewhere, because a start lasts until the shell is found on the disk and loaded.

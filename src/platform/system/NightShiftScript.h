@@ -12,7 +12,7 @@ namespace ravelo {
 class NightShiftScript final : public NightShift {
 public:
     /// `environment` is the script's. Where there is no `shell`, the user's login shell runs it.
-    explicit NightShiftScript(QProcessEnvironment environment,
+    explicit NightShiftScript(const QProcessEnvironment& environment,
                               QString shell = QStringLiteral("/bin/zsh"));
 
     void start() override;
