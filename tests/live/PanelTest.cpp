@@ -110,11 +110,12 @@ TEST_P(PanelClickTest, GoesToWhatIsSeenThere) {
     EXPECT_EQ(below.presses(), GetParam().isPanels ? 0 : 1);
 }
 
+// The places that are not the panel's are below the title of the window there, whatever its font.
 INSTANTIATE_TEST_SUITE_P(All, PanelClickTest,
                          testing::Values(ClickCase{{200, 100}, true}, ClickCase{{200, 0}, true},
                                          ClickCase{{3, 1}, true}, ClickCase{{398, 0}, true},
                                          ClickCase{{21, 199}, true}, ClickCase{{3, 60}, false},
-                                         ClickCase{{382, 20}, false},
+                                         ClickCase{{382, 45}, false},
                                          ClickCase{{398, 199}, false}));
 
 TEST_F(PanelTest, IsCutToItsOutlineWhileThereIsNoCompositor) {
