@@ -36,12 +36,12 @@ Result<void> jsonAtMost(const QStringList& arguments) {
     return nothing(arguments.mid(arguments.value(0) == "--json"_L1 ? 1 : 0));
 }
 
-bool isNull(const QString& argument) {
+bool asksForNul(const QString& argument) {
     return argument == "--null"_L1 || argument == "-0"_L1;
 }
 
 Result<void> listFormatAtMost(const QStringList& arguments) {
-    return isNull(arguments.value(0)) ? nothing(arguments.mid(1)) : jsonAtMost(arguments);
+    return asksForNul(arguments.value(0)) ? nothing(arguments.mid(1)) : jsonAtMost(arguments);
 }
 
 Result<void> files(const QStringList& arguments) {
@@ -112,7 +112,7 @@ QString harmless(QString label) {
     return label.simplified();
 }
 
-double toMilliseconds(double seconds) {
+double roundedToMilliseconds(double seconds) {
     return std::round(seconds * 1000) / 1000;
 }
 
@@ -126,8 +126,8 @@ QJsonObject described(const Store& store, Date now) {
     const QDateTime ends = toDateTime({now.sinceReference + remaining});
     return {{u"running"_s, true},
             {u"label"_s, store.timerLabel()},
-            {u"remaining"_s, toMilliseconds(remaining)},
-            {u"duration"_s, toMilliseconds(store.timerDuration())},
+            {u"remaining"_s, roundedToMilliseconds(remaining)},
+            {u"duration"_s, roundedToMilliseconds(store.timerDuration())},
             {u"ends"_s, ends.toUTC().toString(Qt::ISODate)},
             {u"text"_s, text.trimmed()}};
 }
@@ -156,12 +156,12 @@ QJsonArray described(const Shelf& shelf) {
 Answer shelfList(const Services& services, const QStringList& arguments) {
     const Shelf& shelf = services.store.shelf();
     const QString format = arguments.value(0);
-    if (!format.isEmpty() && !isNull(format)) {
+    if (!format.isEmpty() && !asksForNul(format)) {
         return printed({{u"files"_s, described(shelf)}});
     }
     Answer answer;
     for (const QUrl& url : shelf.files()) {
-        answer.output += QFile::encodeName(url.toLocalFile()) + (isNull(format) ? '\0' : '\n');
+        answer.output += QFile::encodeName(url.toLocalFile()) + (asksForNul(format) ? '\0' : '\n');
     }
     return answer;
 }

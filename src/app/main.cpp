@@ -10,6 +10,7 @@
 #include <QProcessEnvironment>
 
 #include <algorithm>
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
@@ -24,15 +25,20 @@ using namespace Qt::StringLiterals;
 
 constexpr int nobodyRuns = 255; ///< No status of an answer.
 
+/// What Qt gets to see of the command line: it would take files of certain names for options.
+int nameAlone = 1;
+
 /// The exit status by the answer of the program that is running already, if there is one. Asks in a
 /// process of its own: only the first application object of a process lets Qt Quick speak to screen
 /// readers.
-std::optional<int> askElsewhere(const QStringList& request, int argc, char** argv) {
+std::optional<int> askElsewhere(const QStringList& request, char** argv) {
+    std::signal(SIGCHLD,
+                SIG_DFL); // Who started us may have ignored it: nobody could be waited for.
     const pid_t child = fork();
     if (child == 0) {
         int status = nobodyRuns;
         {
-            const QCoreApplication application(argc, argv);
+            const QCoreApplication application(nameAlone, argv);
             if (const auto answer = SingleInstance::ask(request)) {
                 status = report(*answer);
             }
@@ -40,19 +46,19 @@ std::optional<int> askElsewhere(const QStringList& request, int argc, char** arg
         std::_Exit(status);
     }
     int status = 0;
-    if (child < 0 || waitpid(child, &status, 0) != child) {
+    if (child < 0) {
         return std::nullopt;
     }
-    if (!WIFEXITED(status)) {
+    if (waitpid(child, &status, 0) != child || !WIFEXITED(status)) {
         return EXIT_FAILURE; // By SIGPIPE, where nobody reads on.
     }
     return WEXITSTATUS(status) == nobodyRuns ? std::nullopt : std::optional(WEXITSTATUS(status));
 }
 
-int run(const Command& command, int argc, char** argv) {
+int run(const Command& command, char** argv) {
     const auto environment = QProcessEnvironment::systemEnvironment(); // Next, we change our own.
     x11::prepareApplication();
-    const QGuiApplication application(argc, argv);
+    const QGuiApplication application(nameAlone, argv);
     QGuiApplication::setApplicationName(u"ravelo"_s);
     QGuiApplication::setApplicationDisplayName(u"Ravelo"_s);
     QGuiApplication::setQuitOnLastWindowClosed(false);
@@ -80,20 +86,20 @@ int run(const Command& command, int argc, char** argv) {
     return QGuiApplication::exec();
 }
 
-int ask(Command command, int argc, char** argv) {
+int ask(Command command, char** argv) {
     const FoundFiles found = findFiles(command.files);
     command.request += found.paths;
     complain(found.errors.join(u'\n'));
     if (found.paths.isEmpty() && !found.errors.isEmpty()) {
         return EXIT_FAILURE;
     }
-    auto status = askElsewhere(command.request, argc, argv);
+    auto status = askElsewhere(command.request, argv);
     if (!status && command.ifNoneRuns == Command::IfNoneRuns::fail) {
         complain(u"not running"_s);
         return EXIT_FAILURE;
     }
     if (!status) {
-        status = run(command, argc, argv);
+        status = run(command, argv);
     }
     return *status == EXIT_SUCCESS && !found.errors.isEmpty() ? EXIT_FAILURE : *status;
 }
@@ -113,7 +119,7 @@ int main(int argc, char** argv) {
     case Command::Kind::showVersion:
         return print(versionText().toUtf8());
     case Command::Kind::ask:
-        return ask(*command, argc, argv);
+        return ask(*command, argv);
     }
     return EXIT_FAILURE; // No such kind.
 }

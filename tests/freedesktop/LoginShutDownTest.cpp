@@ -31,9 +31,5 @@ TEST(LoginShutDown, asksTheLoginServiceWhichMayAskTheUser) {
     EXPECT_TRUE(calls[0].isInteractiveAuthorizationAllowed());
 }
 
-TEST(LoginShutDown, isSilentWithoutABus) {
-    LoginShutDown(QDBusConnection(u"none"_s)).request();
-}
-
 } // namespace
 } // namespace ravelo

@@ -571,10 +571,14 @@ TEST_F(Panel, keepsReminders) {
 
 TEST_F(Panel, startsTheNightShiftAtOnceAndShutsDownOnlyWhenSure) {
     open();
+    EXPECT_EQ(item(u"nightShift"_s)->property("tip").toString(),
+              u"Turno da noite — apaga a tela em ~5s e trabalha no pendente"_s);
+    EXPECT_EQ(item(u"power"_s)->property("tip").toString(), u"Shut down the Mac"_s);
     clickOn(u"nightShift"_s);
     clickOn(u"nightShift"_s);
     EXPECT_EQ(world.nightShift.starts, 2);
     clickOn(u"power"_s);
+    EXPECT_EQ(text(u"powerQuestion"_s), u"Shut down the Mac?"_s);
     EXPECT_TRUE(in(u"powerQuestion"_s, u"no"_s)->hasActiveFocus());
     press(view.window(), Qt::Key_Return);
     EXPECT_TRUE(eventually([this] { return shown(u"powerQuestion"_s) == nullptr; }));

@@ -4,6 +4,7 @@
 
 #include <atomic>
 #include <csignal>
+#include <system_error>
 #include <thread>
 
 namespace ravelo {
@@ -38,7 +39,11 @@ void begin() {
 
 void ThemeSound::play() {
     if (!underWay.test_and_set()) {
-        std::thread(begin).detach();
+        try {
+            std::thread(begin).detach();
+        } catch (const std::system_error&) { // The machine is at its limit: no sound.
+            underWay.clear();
+        }
     }
 }
 

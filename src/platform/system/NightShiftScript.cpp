@@ -4,6 +4,8 @@
 #include <QFileInfo>
 #include <QProcess>
 
+#include <array>
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -18,7 +20,10 @@ namespace {
 
 /// Empty where the user has none, or one that runs nothing.
 QString loginShell() {
-    const passwd* const user = getpwuid(getuid());
+    std::array<char, 4096> texts{};
+    passwd entry{};
+    passwd* user = nullptr;
+    getpwuid_r(getuid(), &entry, texts.data(), texts.size(), &user);
     const QString shell = user == nullptr ? QString() : QFile::decodeName(user->pw_shell);
     const QString name = QFileInfo(shell).fileName();
     return name == "nologin"_L1 || name == "false"_L1 ? QString() : shell;
@@ -42,10 +47,13 @@ NightShiftScript::NightShiftScript(const QProcessEnvironment& environment, QStri
 
 void NightShiftScript::start() {
     // Elsewhere, because a start lasts until the shell is found on the disk and loaded.
-    std::thread([shell = shell_, environment = environment_] {
-        startBy(shell, environment) || startBy(loginShell(), environment) ||
-            startBy(u"/bin/sh"_s, environment);
-    }).detach();
+    try {
+        std::thread([shell = shell_, environment = environment_] {
+            startBy(shell, environment) || startBy(loginShell(), environment) ||
+                startBy(u"/bin/sh"_s, environment);
+        }).detach();
+    } catch (const std::system_error&) { // The machine is at its limit; nothing is started.
+    }
 }
 
 } // namespace ravelo
