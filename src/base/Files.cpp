@@ -5,6 +5,8 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <unistd.h>
+
 namespace ravelo {
 
 namespace {
@@ -29,6 +31,10 @@ std::optional<QByteArray> readFile(const QString& path) {
         return std::nullopt;
     }
     return bytes;
+}
+
+bool fileExists(const QByteArray& path) {
+    return ::access(path.constData(), F_OK) == 0;
 }
 
 bool writeFileAtomically(const QString& path, const QByteArray& bytes) {
