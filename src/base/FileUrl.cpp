@@ -5,6 +5,9 @@
 namespace ravelo {
 
 QUrl fileUrl(const QByteArray& path) {
+    if (path.startsWith("//")) { // Qt would take what follows for a host.
+        return fileUrl(path.sliced(1));
+    }
     if (QUtf8StringView(path).isValidUtf8()) {
         return QUrl::fromLocalFile(QString::fromUtf8(path));
     }

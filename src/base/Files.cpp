@@ -34,7 +34,7 @@ std::optional<QByteArray> readFile(const QString& path) {
 }
 
 bool fileExists(const QByteArray& path) {
-    return ::access(path.constData(), F_OK) == 0;
+    return !path.contains('\0') && ::access(path.constData(), F_OK) == 0;
 }
 
 bool writeFileAtomically(const QString& path, const QByteArray& bytes) {

@@ -1,6 +1,9 @@
 #include "platform/x11/X11DragMonitor.h"
 
+#include "base/UriList.h"
 #include "platform/x11/OwnClient.h"
+
+#include <QSysInfo>
 
 #include <utility>
 
@@ -38,17 +41,6 @@ private:
     QByteArray list_;
 };
 
-QList<QUrl> filesIn(const QByteArray& uriList) {
-    QList<QUrl> files;
-    for (const QByteArray& line : uriList.split('\n')) {
-        const QUrl url = QUrl::fromEncoded(line.trimmed());
-        if (url.isLocalFile()) {
-            files.append(url);
-        }
-    }
-    return files;
-}
-
 } // namespace
 
 X11DragMonitor::X11DragMonitor(Listener& listener)
@@ -80,7 +72,8 @@ void X11DragMonitor::ask(qint64 drag) {
     *question_ = {drag, std::nullopt};
     auto done = [&listener = listener_, question = question_, changes = changes_,
                  drag](const QByteArray& list) {
-        listener.tell([question, changes, drag, files = filesIn(list)] {
+        listener.tell([question, changes, drag,
+                       files = localFiles(list, QSysInfo::machineHostName().toUtf8())] {
             if (question->drag == drag) {
                 question->files = files;
                 changes->notify();
