@@ -126,6 +126,9 @@ TEST_F(StoreSaving, AFileIsFoundAgainWhateverItsName) {
     std::remove(filePath(files.last()).constData()); // QTemporaryDir cannot.
     restart();
     EXPECT_EQ(store_->shelf().files(), files.first(4));
+    settle();
+    store_->addToShelf(files.first(4));
+    EXPECT_EQ(scheduler_.pending(), 0) << "nothing to save";
 }
 
 class UnreadableStore : public StoreSaving, public testing::WithParamInterface<const char*> {};
