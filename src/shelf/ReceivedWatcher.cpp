@@ -12,6 +12,7 @@ namespace ravelo {
 namespace {
 
 constexpr Seconds receivingTime{4};
+constexpr Seconds pauseTime{0.1};
 
 } // namespace
 
@@ -22,7 +23,6 @@ ReceivedWatcher::ReceivedWatcher(FolderWatch& watch, Scheduler& scheduler, QStri
 }
 
 void ReceivedWatcher::take(const FolderNews& news) {
-    changed_ = false;
     arrived_ = false;
     if (news.listing) {
         takeListing(*news.listing);
@@ -36,13 +36,24 @@ void ReceivedWatcher::take(const FolderNews& news) {
             changes_.notify();
         });
     }
-    if (changed_) {
-        files_.clear();
-        for (const auto& [arrival, url] : received_) {
-            files_.append(url);
-        }
-        changes_.notify();
+    if (changed_ && !pause_) {
+        tell();
     }
+}
+
+void ReceivedWatcher::tell() {
+    changed_ = false;
+    files_.clear();
+    for (const auto& [arrival, url] : received_) {
+        files_.append(url);
+    }
+    pause_ = scheduler_.after(pauseTime, [this] {
+        pause_.reset();
+        if (changed_) {
+            tell();
+        }
+    });
+    changes_.notify();
 }
 
 void ReceivedWatcher::takeListing(const FolderListing& listing) {

@@ -35,7 +35,7 @@ public:
     /// Whether one came within the last four seconds.
     [[nodiscard]] bool receiving() const { return static_cast<bool>(receivingEnd_); }
 
-    /// After `files` or `receiving` changed; once for many files that come together.
+    /// After `files` or `receiving` changed; for a flood of files ten times a second.
     [[nodiscard]] Handle onChange(std::function<void()> callback) {
         return changes_.add(std::move(callback));
     }
@@ -53,6 +53,7 @@ private:
     };
 
     void take(const FolderNews& news);
+    void tell();
     void takeListing(const FolderListing& listing);
     void takeChange(const FolderChange& change);
     void movedIn(const FolderChange& change);
@@ -66,10 +67,11 @@ private:
     std::map<Arrival, QUrl> received_;
     Arrival lastArrival_ = old;
     MovedOut movedOut_;
-    bool changed_ = false; ///< The list, by the news that are being taken.
-    bool arrived_ = false; ///< Likewise, something new.
+    bool arrived_ = false; ///< Something new, by the news that are being taken.
+    bool changed_ = false; ///< The list, since it was told.
     QList<QUrl> files_;
     Listeners<> changes_;
+    Handle pause_; ///< Between two tellings.
     Handle receivingEnd_;
     Handle watching_;
 };
