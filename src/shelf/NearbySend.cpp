@@ -78,37 +78,42 @@ void NearbySend::found(Way way, QList<NearbyDevice> devices) {
 }
 
 void NearbySend::send(const QList<QUrl>& files, const QString& deviceId,
-                      std::function<void(bool)> done) {
+                      std::function<void(qsizetype)> done) {
     Sending& sending = sendings_.emplace_back(Sending{deviceId, std::move(done), {}, {}});
-    sending.end = services_.scheduler.after(sendTime, [this, &sending] { end(sending, false); });
+    sending.end = services_.scheduler.after(sendTime, [this, &sending] { end(sending, 0); });
     const auto paths = std::make_shared<QList<QByteArray>>();
     for (const QUrl& file : files) {
         paths->append(filePath(file));
     }
     sending.work = services_.jobs.run(
-        [paths] { paths->removeIf([](const QByteArray& path) { return !fileExists(path); }); },
+        [paths] { paths->removeIf([](const QByteArray& path) { return !isRegularFile(path); }); },
         [this, &sending, paths] { handOver(sending, *paths); });
 }
 
-void NearbySend::handOver(Sending& sending, const QList<QByteArray>& paths) {
-    if (paths.isEmpty()) {
-        end(sending, false);
-    } else if (!sending.deviceId.isEmpty()) {
-        QList<QByteArray> addresses;
-        for (const QByteArray& path : paths) {
-            addresses.append(fileAddress(fileUrl(path)));
-        }
-        sending.work = services_.devices.send(
-            sending.deviceId, addresses, [this, &sending](bool taken) { end(sending, taken); });
-    } else {
-        if (!program_.isEmpty()) {
+void NearbySend::handOver(Sending& sending, QList<QByteArray> paths) {
+    if (sending.deviceId.isEmpty()) {
+        if (!program_.isEmpty() && !paths.isEmpty()) {
             services_.programs.start(program_, paths);
         }
-        end(sending, !program_.isEmpty());
+        end(sending, program_.isEmpty() ? 0 : paths.size());
+        return;
     }
+    // The services know names as texts.
+    paths.removeIf([](const QByteArray& path) { return !path.isValidUtf8(); });
+    if (paths.isEmpty()) {
+        end(sending, 0);
+        return;
+    }
+    QList<QByteArray> addresses;
+    for (const QByteArray& path : paths) {
+        addresses.append(fileAddress(fileUrl(path)));
+    }
+    sending.work = services_.devices.send(
+        sending.deviceId, addresses,
+        [this, &sending, count = paths.size()](bool taken) { end(sending, taken ? count : 0); });
 }
 
-void NearbySend::end(Sending& sending, bool sent) {
+void NearbySend::end(Sending& sending, qsizetype sent) {
     const auto done = std::move(sending.done);
     sendings_.remove_if([&](const Sending& other) { return &other == &sending; });
     if (done) {

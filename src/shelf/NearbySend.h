@@ -52,11 +52,12 @@ public:
     /// dropped. Several at a time share one look.
     [[nodiscard]] Handle refresh(std::function<void()> done);
 
-    /// Sends those of `files` that exist: to the device, or by the program where `deviceId` is
-    /// empty. `done`, if any, is told once, later, whether somebody took them: that they were sent
-    /// is all that can be said, not that they were received.
+    /// Sends `files` to the device, or by the program where `deviceId` is empty; but for those that
+    /// are missing and for folders: a service that comes to one sends nothing of what follows.
+    /// `done`, if any, is told once, later, how many somebody took, 0 where nobody did. That they
+    /// were sent is all that can be said, not that they were received.
     void send(const QList<QUrl>& files, const QString& deviceId,
-              std::function<void(bool sent)> done = {});
+              std::function<void(qsizetype sent)> done = {});
 
     /// What the user could do where there is no way, in one sentence.
     [[nodiscard]] static QString advice();
@@ -65,15 +66,15 @@ private:
     /// One that is under way.
     struct Sending {
         QString deviceId;
-        std::function<void(bool)> done;
+        std::function<void(qsizetype)> done;
         Handle work; ///< The step that is being done.
         Handle end;
     };
 
     void look();
     void found(Way way, QList<NearbyDevice> devices);
-    void handOver(Sending& sending, const QList<QByteArray>& paths);
-    void end(Sending& sending, bool sent);
+    void handOver(Sending& sending, QList<QByteArray> paths);
+    void end(Sending& sending, qsizetype sent);
 
     Services services_;
     Way way_ = Way::none;
