@@ -7,6 +7,7 @@
 #include "platform/DisplayServer.h"
 #include "platform/freedesktop/AutostartEntry.h"
 #include "platform/freedesktop/BusInstance.h"
+#include "platform/freedesktop/FileTransferPortal.h"
 #include "platform/freedesktop/LoginSession.h"
 #include "platform/freedesktop/LoginShutDown.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
@@ -68,6 +69,7 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
                                                   QCoreApplication::applicationFilePath())),
       loginSession_(std::make_unique<LoginSession>(systemBus())),
       screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())),
+      transfers_(std::make_unique<FileTransferPortal>(sessionBus())),
       sound_(std::make_unique<ThemeSound>()),
       nightShift_(std::make_unique<NightShiftScript>(environment)),
       shutDown_(std::make_unique<LoginShutDown>(systemBus())) {}
@@ -103,6 +105,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                                   display_.screens(),
                                   display_.pointer(),
                                   display_.drags(),
+                                  *transfers_,
                                   display_.barrier(),
                                   *window_,
                                   {&display_.lock(), loginSession_.get(), screenSaver_.get()}},

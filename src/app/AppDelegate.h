@@ -19,6 +19,7 @@ class AppSettings;
 class ClipboardManager;
 class Commands;
 class DisplayServer;
+class FileTransfer;
 class LoginItem;
 class NightShift;
 class NotchController;
@@ -63,6 +64,7 @@ private:
     std::unique_ptr<LoginItem> loginItem_;
     std::unique_ptr<SessionLock> loginSession_;
     std::unique_ptr<SessionLock> screenSaver_;
+    std::unique_ptr<FileTransfer> transfers_;
     std::unique_ptr<AlertSound> sound_;
     std::unique_ptr<NightShift> nightShift_;
     std::unique_ptr<ShutDown> shutDown_;

@@ -5,6 +5,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <sys/stat.h>
+#include <unistd.h>
+
 namespace ravelo {
 
 namespace {
@@ -29,6 +32,16 @@ std::optional<QByteArray> readFile(const QString& path) {
         return std::nullopt;
     }
     return bytes;
+}
+
+bool fileExists(const QByteArray& path) {
+    return !path.contains('\0') && ::access(path.constData(), F_OK) == 0;
+}
+
+bool isRegularFile(const QByteArray& path) {
+    struct stat info {};
+
+    return !path.contains('\0') && ::stat(path.constData(), &info) == 0 && S_ISREG(info.st_mode);
 }
 
 bool writeFileAtomically(const QString& path, const QByteArray& bytes) {

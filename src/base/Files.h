@@ -10,6 +10,12 @@ namespace ravelo {
 /// The whole file, or nothing where it is missing or cannot be read. Blocks; any thread.
 [[nodiscard]] std::optional<QByteArray> readFile(const QString& path);
 
+/// Whether a file or folder is there. Blocks; any thread.
+[[nodiscard]] bool fileExists(const QByteArray& path);
+
+/// Whether a file is there, by a link or not, that is no folder, pipe or device. Likewise.
+[[nodiscard]] bool isRegularFile(const QByteArray& path);
+
 /// Replaces `path` in one step with a file that only its user can read (0600): whoever looks, at
 /// whatever moment, finds the old or the new contents whole. Blocks until the disk has them; any
 /// thread. False, with the old file untouched, where it could not be written.

@@ -1,5 +1,7 @@
 #include "clipboard/FileForms.h"
 
+#include "base/FileUrl.h"
+
 #include <QUtf8StringView>
 
 namespace ravelo {
@@ -7,14 +9,11 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 QList<PasteboardEntry> fileForms(const QUrl& url) {
-    // The bytes of the name, which need not be UTF-8.
-    const QByteArray path =
-        QByteArray::fromPercentEncoding(url.path(QUrl::FullyEncoded).toLatin1());
-    if (!url.isLocalFile() || path.isEmpty()) {
+    const QByteArray path = filePath(url);
+    if (path.isEmpty()) {
         return {};
     }
-    const QByteArray address =
-        "file://" + url.host(QUrl::FullyEncoded).toLatin1() + path.toPercentEncoding("/");
+    const QByteArray address = fileAddress(url);
     QList<PasteboardEntry> forms = {
         {u"text/uri-list"_s, address + "\r\n"},
         {u"x-special/gnome-copied-files"_s, "copy\n" + address},

@@ -31,7 +31,8 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
       settings_(settings),
       services_(std::move(services)),
       guard_(services_.scheduler, services_.screens, services_.drags, services_.barrier),
-      drop_(services_.drags, [this](const QList<QUrl>& files) { onFiles(files); }),
+      drop_(services_.drags, services_.transfers,
+            [this](const QList<QUrl>& files) { onFiles(files); }),
       tick_(services_.scheduler, services_.pointer, rest, [this] { return evaluateHover(); }) {
     idleDragCount_ = services_.drags.changeCount();
     guard_.start();

@@ -20,6 +20,7 @@ class AppSettings;
 class ClipboardManager;
 class DragMonitor;
 class EdgeBarrier;
+class FileTransfer;
 class Pointer;
 class SessionLock;
 class Store;
@@ -41,6 +42,7 @@ public:
         Screens& screens;
         Pointer& pointer;
         DragMonitor& drags;
+        FileTransfer& transfers;
         EdgeBarrier& barrier;
         PanelWindow& window;
         std::vector<SessionLock*> locks; ///< The session is locked while one of them says so.

@@ -2,6 +2,7 @@
 
 #include "base/Handle.h"
 
+#include <QByteArray>
 #include <QList>
 #include <QUrl>
 
@@ -24,7 +25,11 @@ public:
     /// nothing until it is there. Never waits.
     [[nodiscard]] virtual std::optional<QList<QUrl>> files() = 0;
 
-    /// Called when a drag begins, and when the answer to `files` has come.
+    /// The key under which the newest drag's source hands its files over (see FileTransfer); empty
+    /// where it has none. Asked for and answered as `files` is, by itself.
+    [[nodiscard]] virtual std::optional<QByteArray> transferKey() = 0;
+
+    /// Called when a drag begins, and when an answer has come.
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
 };
 

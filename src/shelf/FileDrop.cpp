@@ -1,35 +1,68 @@
 #include "shelf/FileDrop.h"
 
 #include "platform/DragMonitor.h"
+#include "platform/FileTransfer.h"
+#include "shelf/DropLoading.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
 
-FileDrop::FileDrop(DragMonitor& drags, std::function<void(const QList<QUrl>&)> done)
-    : drags_(drags), done_(std::move(done)), answers_(drags.onChange([this] { look(); })) {}
+FileDrop::FileDrop(DragMonitor& drags, FileTransfer& transfers,
+                   std::function<void(const QList<QUrl>&)> done)
+    : drags_(drags),
+      transfers_(transfers),
+      done_(std::move(done)),
+      answers_(drags.onChange([this] { look(); })) {}
 
 void FileDrop::expect() {
     (void)drags_.files();
+    (void)drags_.transferKey();
 }
 
 void FileDrop::take() {
-    awaited_ = drags_.changeCount();
+    Drop& drop = drops_.emplace_back();
+    drop.drag = drags_.changeCount();
+    drop.loading = loadToShelf({[&drop](auto answer) {
+                                   drop.answer = std::move(answer);
+                               }},
+                               done_);
     look();
 }
 
 void FileDrop::look() {
-    if (!awaited_) {
+    for (auto next = drops_.begin(); next != drops_.end();) {
+        look(*next++);
+    }
+}
+
+void FileDrop::look(Drop& drop) {
+    if (drop.retrieving) {
         return;
     }
-    if (*awaited_ != drags_.changeCount()) {
-        awaited_.reset();
-    } else if (const auto files = drags_.files()) {
-        awaited_.reset();
-        if (!files->isEmpty()) {
-            done_(*files);
-        }
+    if (drop.drag != drags_.changeCount()) {
+        end(drop, {});
+        return;
     }
+    const auto files = drags_.files();
+    const auto key = drags_.transferKey();
+    if (files && key && key->isEmpty()) {
+        end(drop, *files);
+    } else if (files && key) {
+        // The key comes first: a source that is locked up names its files as it sees them itself.
+        drop.retrieving =
+            transfers_.retrieve(*key, [this, &drop, named = *files](const QList<QUrl>& retrieved) {
+                end(drop, retrieved.isEmpty() ? named : retrieved);
+            });
+    }
+}
+
+void FileDrop::end(Drop& drop, const QList<QUrl>& files) {
+    std::list<Drop> ended; // It goes once all is done.
+    ended.splice(ended.end(), drops_,
+                 std::ranges::find_if(drops_, [&](const Drop& other) { return &other == &drop; }));
+    drop.answer(files);
 }
 
 } // namespace ravelo

@@ -1,5 +1,6 @@
 #include "store/PasteboardImage.h"
 
+#include "base/UriList.h"
 #include "platform/Pasteboard.h"
 
 #include <QBuffer>
@@ -9,7 +10,6 @@
 #include <QImageIOHandler>
 #include <QImageReader>
 #include <QSysInfo>
-#include <QUrl>
 
 namespace ravelo {
 
@@ -86,22 +86,9 @@ QByteArray bytesToPng(QByteArray bytes) {
     return decodedToPng(buffer);
 }
 
-bool isOnThisMachine(const QUrl& url) {
-    const QString host = url.host();
-    return url.isLocalFile() &&
-           (host.isEmpty() || host == "localhost"_L1 ||
-            host.compare(QSysInfo::machineHostName(), Qt::CaseInsensitive) == 0);
-}
-
-/// The first file of a list (RFC 2483) that is on this machine; empty where there is none.
+/// The first file of a list that is on this machine; empty where there is none.
 QString firstFile(const QByteArray& uriList) {
-    for (const QByteArray& line : uriList.split('\n')) {
-        const QUrl url = QUrl::fromEncoded(line.trimmed(), QUrl::StrictMode);
-        if (isOnThisMachine(url)) {
-            return url.path(QUrl::FullyDecoded);
-        }
-    }
-    return {};
+    return localFiles(uriList, QSysInfo::machineHostName().toUtf8()).value(0).toLocalFile();
 }
 
 QByteArray fileToPng(const QString& path) {

@@ -1,7 +1,9 @@
 #include "store/Store.h"
 
+#include "base/FileUrl.h"
 #include "base/Files.h"
 #include "base/Scheduler.h"
+#include "base/UriList.h"
 #include "base/Uuid.h"
 #include "platform/AlertSound.h"
 #include "platform/Pasteboard.h"
@@ -16,6 +18,7 @@
 #include <QDir>
 #include <QFileInfo>
 #include <QPointer>
+#include <QUtf8StringView>
 
 #include <algorithm>
 #include <memory>
@@ -33,13 +36,24 @@ QString newImageFileName() {
     return uuidText(QUuid::createUuid()) + u".png"_s;
 }
 
+/// A path as it is, or an address where text cannot hold its bytes.
+QString stored(const QUrl& file) {
+    const QByteArray path = filePath(file);
+    return QString::fromUtf8(QUtf8StringView(path).isValidUtf8() ? path : fileAddress(file));
+}
+
+/// The opposite; an empty URL for what is neither.
+QUrl fromStored(const QString& text) {
+    return text.startsWith(u'/') ? fileUrl(text.toUtf8()) : localFiles(text.toUtf8(), {}).value(0);
+}
+
 QList<QList<QUrl>> existing(const QList<QStringList>& paths) {
     QList<QList<QUrl>> stacks;
     for (const QStringList& stack : paths) {
         QList<QUrl> files;
         for (const QString& path : stack) {
-            if (QFileInfo::exists(path)) {
-                files.append(QUrl::fromLocalFile(path));
+            if (const QUrl url = fromStored(path); fileExists(filePath(url))) {
+                files.append(url);
             }
         }
         if (!files.isEmpty()) {
@@ -54,7 +68,7 @@ QList<QStringList> paths(const QList<QList<QUrl>>& stacks) {
     for (const QList<QUrl>& stack : stacks) {
         QStringList& one = all.emplaceBack();
         for (const QUrl& url : stack) {
-            one.append(url.toLocalFile());
+            one.append(stored(url));
         }
     }
     return all;

@@ -36,6 +36,7 @@ PanelView::PanelView() : view_(chooseRenderer()) {
     initModule();
     view_.setTitle(u"Ravelo"_s);
     view_.setColor(Qt::transparent);
+    view_.installEventFilter(&copyOnly_);
     view_.setResizeMode(QQuickView::SizeRootObjectToView);
     view_.engine()->addImportPath(u"qrc:/"_s);
 }

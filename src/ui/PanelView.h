@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/CopyOnly.h"
 #include "ui/PanelHost.h"
 
 #include <QQuickView>
@@ -27,6 +28,7 @@ public:
 private:
     std::unique_ptr<PanelHost> host_; // Outlives the content, which is in the view.
     QQuickView view_;
+    CopyOnly copyOnly_;
 };
 
 } // namespace ravelo

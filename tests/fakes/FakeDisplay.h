@@ -3,11 +3,14 @@
 #include "base/Listeners.h"
 #include "platform/DragMonitor.h"
 #include "platform/EdgeBarrier.h"
+#include "platform/FileTransfer.h"
 #include "platform/PanelWindow.h"
 #include "platform/Pointer.h"
 #include "platform/Screens.h"
 #include "platform/SessionLock.h"
 
+#include <deque>
+#include <memory>
 #include <utility>
 
 namespace ravelo {
@@ -71,6 +74,8 @@ public:
         return files_;
     }
 
+    [[nodiscard]] std::optional<QByteArray> transferKey() override { return key; }
+
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return listeners_.add(std::move(callback));
     }
@@ -90,6 +95,7 @@ public:
 
     const QUrl file = QUrl(QStringLiteral("file:///home/someone/a%20file.txt"));
     int questions = 0; ///< How often the source was asked.
+    std::optional<QByteArray> key = QByteArray();
 
 private:
     [[nodiscard]] std::optional<QList<QUrl>> listOf(std::optional<bool> files) const {
@@ -99,6 +105,32 @@ private:
     qint64 changeCount_ = 3;
     std::optional<QList<QUrl>> files_;
     Listeners<> listeners_;
+};
+
+/// Answers when told to.
+class FakeFileTransfer final : public FileTransfer {
+public:
+    [[nodiscard]] Handle retrieve(const QByteArray& key,
+                                  std::function<void(const QList<QUrl>&)> done) override {
+        keys.append(key);
+        waiting_.push_back(std::make_shared<Done>(std::move(done)));
+        return Handle([waits = waiting_.back()] { *waits = nullptr; });
+    }
+
+    /// The first question that waits.
+    void answer(const QList<QUrl>& files) {
+        const auto waits = waiting_.front();
+        waiting_.pop_front();
+        if (const auto done = std::exchange(*waits, nullptr)) {
+            done(files);
+        }
+    }
+
+    QList<QByteArray> keys;
+
+private:
+    using Done = std::function<void(const QList<QUrl>&)>;
+    std::deque<std::shared_ptr<Done>> waiting_;
 };
 
 class FakeScreens final : public Screens {

@@ -28,9 +28,10 @@ struct PanelWorld {
     /// The store begins with `data`.
     explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
         : store(filled(folder, data), {scheduler, worker, preferences, pasteboard, sound}),
-          controller(store, clipboard, settings,
-                     {scheduler, screens, pointer, drags, barrier, window, {&lock, &otherLock}},
-                     rest) {}
+          controller(
+              store, clipboard, settings,
+              {scheduler, screens, pointer, drags, transfers, barrier, window, {&lock, &otherLock}},
+              rest) {}
 
     void moveTo(double x, double y) {
         pointer.moveTo({x, y});
@@ -55,6 +56,7 @@ struct PanelWorld {
     FakeScreens screens;
     FakePointer pointer;
     FakeDragMonitor drags;
+    FakeFileTransfer transfers;
     FakeEdgeBarrier barrier;
     FakePanelWindow window;
     FakeSessionLock lock;

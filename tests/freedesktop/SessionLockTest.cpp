@@ -19,10 +19,7 @@ namespace {
 
 class SessionLockTest : public testing::Test {
 protected:
-    void serve(const QString& name, StandIn& object) {
-        ASSERT_TRUE(service_.registerVirtualObject(u"/"_s, &object, QDBusConnection::SubPath));
-        ASSERT_TRUE(service_.registerService(name));
-    }
+    void serve(const QString& name, StandIn& object) { object.serve(service_, name); }
 
     PrivateBus bus_;
     QDBusConnection service_ = bus_.connect(u"service"_s);

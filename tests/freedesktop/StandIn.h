@@ -3,22 +3,35 @@
 #include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusVirtualObject>
+#include <QStringList>
+#include <QVariant>
+
+#include <gtest/gtest.h>
 
 #include <functional>
+#include <optional>
+#include <utility>
 
 namespace ravelo {
 
-/// Answers every call below its path by `answer`.
+/// A service, as far as a test needs it: `answer` answers every call, or leaves it hanging.
 class StandIn : public QDBusVirtualObject {
 public:
-    using Answer = std::function<QVariant(const QDBusMessage& call)>;
+    using Answer = std::function<std::optional<QVariant>(const QDBusMessage& call)>;
 
     explicit StandIn(Answer answer) : answer_(std::move(answer)) {}
+
+    void serve(QDBusConnection& bus, const QString& name) {
+        ASSERT_TRUE(bus.registerVirtualObject(QStringLiteral("/"), this, QDBusConnection::SubPath));
+        ASSERT_TRUE(bus.registerService(name));
+    }
 
     [[nodiscard]] QString introspect(const QString& /*path*/) const override { return {}; }
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& connection) override {
-        return connection.send(call.createReply(answer_(call)));
+        const auto answer = answer_(call);
+        return !answer ||
+               connection.send(answer->isValid() ? call.createReply(*answer) : call.createReply());
     }
 
 private:

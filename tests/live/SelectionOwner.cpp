@@ -15,11 +15,12 @@
 
 // Another program that owns a selection, well- or ill-behaved, for the tests to read from:
 //
-//     SelectionOwner SELECTION BEHAVIOUR [TARGET=hex:BYTES | TARGET=fill:COUNT]...
+//     SelectionOwner SELECTION BEHAVIOUR [TARGET=hex:BYTES | TARGET=fill:COUNT]... [onto:WINDOW]
 //
 // It takes the selection and prints the monotonic time in nanoseconds of doing so; at each line on
 // its standard input it takes it again, with the number of the taking behind each value that is not
-// filled; at the end of the input it ends.
+// filled; at the end of the input it ends. With a window it then drags over the middle of its upper
+// edge and drops (XDND 5), meaning a move, and prints the action of each answer.
 
 namespace {
 
@@ -84,6 +85,29 @@ public:
         std::fflush(stdout);
     }
 
+    /// The drag is over the window; what follows comes with the answers.
+    void drag(xcb_window_t onto) {
+        const auto root = xcb_setup_roots_iterator(xcb_get_setup(xcb_)).data->root;
+        const auto asked = xcb_translate_coordinates(xcb_, onto, root, 0, 0);
+        const auto size = xcb_get_geometry(xcb_, onto);
+        auto* corner = xcb_translate_coordinates_reply(xcb_, asked, nullptr);
+        auto* area = xcb_get_geometry_reply(xcb_, size, nullptr);
+        const int x = corner->dst_x + area->width / 2;
+        const int y = corner->dst_y + 2;
+        std::free(corner);
+        std::free(area);
+        onto_ = onto;
+        const uint32_t version = 5;
+        xcb_atom_t types[3] = {};
+        std::size_t count = 0;
+        for (auto value = values_.begin(); value != values_.end() && count < 3; ++value) {
+            types[count++] = value->first;
+        }
+        tell("XdndEnter", version << 24, types[0], types[1], types[2]);
+        tell("XdndPosition", 0, static_cast<uint32_t>(x << 16 | y), XCB_CURRENT_TIME,
+             atom("XdndActionMove"));
+    }
+
     void run() {
         for (;;) {
             handleEvents();
@@ -135,8 +159,37 @@ private:
                 }
             } else if (type == XCB_SELECTION_CLEAR) {
                 answerLate();
+            } else if (type == XCB_CLIENT_MESSAGE) {
+                answered(*reinterpret_cast<xcb_client_message_event_t*>(event));
             }
             std::free(event);
+        }
+    }
+
+    void tell(const char* message, uint32_t a, uint32_t b, uint32_t c, uint32_t d) {
+        xcb_client_message_event_t event{};
+        event.response_type = XCB_CLIENT_MESSAGE;
+        event.format = 32;
+        event.window = onto_;
+        event.type = atom(message);
+        const uint32_t data[5] = {window_, a, b, c, d};
+        std::copy_n(data, 5, event.data.data32);
+        xcb_send_event(xcb_, 0, onto_, 0, reinterpret_cast<const char*>(&event));
+    }
+
+    void answered(const xcb_client_message_event_t& answer) {
+        const bool finished = answer.type == atom("XdndFinished");
+        if (!finished && (answer.type != atom("XdndStatus") || std::exchange(dropped_, true))) {
+            return;
+        }
+        const xcb_atom_t action = answer.data.data32[finished ? 2 : 4];
+        auto* name = xcb_get_atom_name_reply(xcb_, xcb_get_atom_name(xcb_, action), nullptr);
+        std::printf("%.*s\n", name ? xcb_get_atom_name_name_length(name) : 4,
+                    name ? xcb_get_atom_name_name(name) : "none");
+        std::fflush(stdout);
+        std::free(name);
+        if (!finished) {
+            tell("XdndDrop", 0, XCB_CURRENT_TIME, 0, 0);
         }
     }
 
@@ -238,6 +291,8 @@ private:
     xcb_atom_t targets_ = XCB_ATOM_NONE;
     xcb_atom_t incr_ = XCB_ATOM_NONE;
     xcb_window_t window_ = XCB_NONE;
+    xcb_window_t onto_ = XCB_NONE;
+    bool dropped_ = false;
     int taking_ = 0;
     std::map<xcb_atom_t, Value> values_;
     std::vector<Transfer> transfers_;
@@ -257,6 +312,9 @@ int main(int argc, char** argv) {
         owner.offer(argv[at]);
     }
     owner.take();
+    if (const std::string last = argv[argc - 1]; last.starts_with("onto:")) {
+        owner.drag(static_cast<xcb_window_t>(std::stoul(last.substr(5))));
+    }
     owner.run();
     return 0;
 }

@@ -16,6 +16,7 @@ struct DragCase {
     QString behaviour;
     QStringList offers;
     QList<QUrl> files;
+    QByteArray key = {};
 
     friend void PrintTo(const DragCase& tested, std::ostream* out) { *out << tested.name; }
 };
@@ -41,10 +42,13 @@ TEST_P(DragOfOther, isCountedAndAskedForItsFiles) {
     ASSERT_TRUE(eventually([&] { return drags().files().has_value(); })) << "no answer";
     EXPECT_EQ(drags().files(), GetParam().files);
     EXPECT_TRUE(eventually([&] { return calls == 2; })) << "not told of the answer";
+    EXPECT_EQ(drags().transferKey(), std::nullopt) << "answered before the source was asked";
+    EXPECT_TRUE(eventually([&] { return calls == 3; })) << "not told of the key";
+    EXPECT_EQ(drags().transferKey(), GetParam().key);
     EXPECT_LE(gauge.longestStallMs(), 50);
 
     source.poke();
-    ASSERT_TRUE(eventually([&] { return calls == 3; })) << "not told of the next drag";
+    ASSERT_TRUE(eventually([&] { return calls == 4; })) << "not told of the next drag";
     EXPECT_EQ(drags().changeCount(), 2);
     EXPECT_EQ(drags().files(), std::nullopt) << "the answer of the drag before";
 }
@@ -57,6 +61,22 @@ INSTANTIATE_TEST_SUITE_P(
                  {offering(u"text/uri-list"_s,
                            "# two\r\nfile:///tmp/a%20b\r\nhttps://example.org/\r\nfile:///c\r\n")},
                  {QUrl(u"file:///tmp/a%20b"_s), QUrl(u"file:///c"_s)}},
+        DragCase{"FilesAndAKey",
+                 u"answer"_s,
+                 {offering(u"text/uri-list"_s, "file:///c"),
+                  offering(u"application/vnd.portal.filetransfer"_s, QByteArray("123\0", 4)),
+                  offering(u"application/vnd.portal.files"_s, "older")},
+                 {QUrl(u"file:///c"_s)},
+                 "123"},
+        DragCase{"AnOlderKey",
+                 u"answer"_s,
+                 {offering(u"application/vnd.portal.files"_s, "4 5")},
+                 {},
+                 "4 5"},
+        DragCase{"AKeyThatIsNone",
+                 u"answer"_s,
+                 {offering(u"application/vnd.portal.filetransfer"_s, "\xff")},
+                 {}},
         DragCase{"Addresses",
                  u"answer"_s,
                  {offering(u"text/uri-list"_s, "https://example.org/\r\n")},

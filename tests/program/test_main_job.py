@@ -12,6 +12,7 @@ import statistics
 import subprocess
 import time
 import unittest
+import urllib.parse
 
 from gi.repository import Gio, GLib
 
@@ -24,6 +25,7 @@ NIGHT_SHIFT_RIGHT = 90  # Its middle from the right.
 
 # How much longer than usual the program may take, where it is built to be checked.
 SLOWER = int(os.environ.get("RAVELO_SLOWER", 1))
+STALL_LIMIT = 0.05 * SLOWER  # Seconds for which the main thread may be away.
 
 
 class ProgramCase(unittest.TestCase):
@@ -41,6 +43,22 @@ class ProgramCase(unittest.TestCase):
         for text in texts:
             self.desktop.copy_text(text)
             self.wait_for_texts(text)
+
+    def longest_stall(self, seconds):
+        """Asks the program's main thread something all the time: the longest it was away."""
+        bus = Gio.DBusConnection.new_for_address_sync(
+            self.desktop.env["DBUS_SESSION_BUS_ADDRESS"],
+            Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
+        longest, end = 0, time.monotonic() + seconds
+        while time.monotonic() < end:
+            begin = time.monotonic()
+            bus.call_sync("org.ravelo.Ravelo", "/org/ravelo/Ravelo", "org.freedesktop.Application",
+                          "Activate", GLib.Variant("(a{sv})", ({},)), None,
+                          Gio.DBusCallFlags.NONE, 5000, None)
+            longest = max(longest, time.monotonic() - begin)
+        bus.close_sync(None)
+        return longest
 
     def wait_for_texts(self, *texts):
         """Waits until these are the newest clips on disk."""
@@ -420,8 +438,6 @@ class OwnersEnd(ProgramCase):
 class HungOwner(ProgramCase):
     """Owners of the clipboard that never finish an answer, while a text field has the keyboard."""
 
-    # Seconds for which the main thread may be away; sanitizers make everything slower.
-    STALL_LIMIT = 0.05 * SLOWER
     BEHAVIOURS = ("silent", "targetsOnly", "stallsInPieces", "dieAfterTargets")
 
     def own(self, behaviour):
@@ -429,22 +445,6 @@ class HungOwner(ProgramCase):
                                    "UTF8_STRING=fill:300000", stdin=subprocess.PIPE,
                                    stdout=subprocess.PIPE, text=True)
         self.assertTrue(owner.stdout.readline(), "the owner took the clipboard")
-
-    def longest_stall(self, seconds):
-        """Asks the program's main thread something all the time: the longest it was away."""
-        bus = Gio.DBusConnection.new_for_address_sync(
-            self.desktop.env["DBUS_SESSION_BUS_ADDRESS"],
-            Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
-        longest, end = 0, time.monotonic() + seconds
-        while time.monotonic() < end:
-            begin = time.monotonic()
-            bus.call_sync("org.ravelo.Ravelo", "/org/ravelo/Ravelo", "org.freedesktop.Application",
-                          "Activate", GLib.Variant("(a{sv})", ({},)), None,
-                          Gio.DBusCallFlags.NONE, 5000, None)
-            longest = max(longest, time.monotonic() - begin)
-        bus.close_sync(None)
-        return longest
 
     def test_it_stalls_nothing_and_the_next_copy_is_kept(self):
         self.ravelo.start()
@@ -454,7 +454,7 @@ class HungOwner(ProgramCase):
                 self.desktop.click(panel.x + 300, SEARCH)
                 self.own(behaviour)
                 self.desktop.key("ctrl+v")
-                self.assertLess(self.longest_stall(2), self.STALL_LIMIT)
+                self.assertLess(self.longest_stall(2), STALL_LIMIT)
                 self.desktop.type("typed")
                 self.copy_and_wait("after " + behaviour)
                 self.desktop.click(panel.x - 20, 300)
@@ -500,6 +500,51 @@ class Focus(ProgramCase):
         wait_for(self.has_played, "the sound at the end")
         self.assertEqual(self.ravelo.call("timer", "status"), (0, "no timer\n"))
         wait_for(self.ravelo.is_collapsed, "the handle again")
+
+
+class Drops(ProgramCase):
+    """Files dropped by other programs, onto the handle."""
+
+    NAMES = [b"a b.txt", b"100%.txt", b"x#y?z", b"two\nlines", "ä".encode(), b"no utf-8 \xe4", b"folder"]
+
+    def drop(self, behaviour, addresses):
+        """The actions that the source was told of, at once and at the end."""
+        offer = "text/uri-list=hex:" + b"".join(line + b"\r\n" for line in addresses).hex()
+        source = self.desktop.spawn(os.environ["SELECTION_OWNER"], "XdndSelection", behaviour, offer,
+                                    f"onto:{self.ravelo.panel().window}", stdin=subprocess.PIPE,
+                                    stdout=subprocess.PIPE, text=True)
+        return [source.stdout.readline().strip() for _ in range(3)][1:]
+
+    def stacks(self):
+        return self.ravelo.store().get("shelfStacks", [])
+
+    def test_files_of_every_name_are_parked_for_good(self):
+        folder = os.fsencode(self.desktop.home)
+        paths = [folder + b"/" + name for name in self.NAMES]
+        for path in paths[:-1]:
+            pathlib.Path(os.fsdecode(path)).write_text("contents")
+        os.mkdir(paths[-1])
+        local = [b"file://" + urllib.parse.quote_from_bytes(path).encode() for path in paths]
+        local[1] = local[1].replace(b"file://", b"file://" + os.uname().nodename.encode())
+        elsewhere = [b"# a comment", b"http://a.example/x", b"sftp://h/y", b"smb://h/z",
+                     b"file://elsewhere.example/etc/hosts"]
+        self.ravelo.start()
+        self.assertEqual(self.drop("answer", elsewhere + local), ["XdndActionCopy"] * 2)
+        kept = [path.decode(errors="replace") for path in paths]
+        kept[5] = local[5].decode()  # No text has its bytes.
+        wait_for(lambda: self.stacks() == [kept], lambda: f"{kept} on the shelf: {self.stacks()}")
+        self.stop()
+        self.ravelo.start()
+        self.drop("answer", [b"file:///etc/"])
+        wait_for(lambda: self.stacks() == [kept, ["/etc"]], "all found again, and one more")
+
+    def test_a_source_that_hangs_at_the_drop_stalls_nothing(self):
+        self.ravelo.start()
+        self.desktop.run("touch", "a")
+        self.assertEqual(self.drop("silent", []), ["XdndActionCopy"] * 2)
+        self.assertLess(self.longest_stall(2), STALL_LIMIT)
+        self.drop("answer", [f"file://{self.desktop.home}/a".encode()])
+        wait_for(lambda: self.stacks() == [[f"{self.desktop.home}/a"]], "the next drop")
 
 
 class CommandLine(ProgramCase):

@@ -1,7 +1,10 @@
 #include "StoreFixture.h"
+#include "base/FileUrl.h"
 
 #include <QFileInfo>
 
+#include <cstdio>
+#include <fstream>
 #include <sys/stat.h>
 
 namespace ravelo {
@@ -107,6 +110,25 @@ TEST_F(StoreSaving, VanishedFilesLeaveTheShelf) {
     EXPECT_EQ(saved().shelfStacks, data.shelfStacks) << "written back 0.4 s later, not at once";
     settle();
     EXPECT_EQ(saved().shelfStacks, QList<QStringList>({{here, u"/"_s}, {u"/"_s}}));
+}
+
+TEST_F(StoreSaving, AFileIsFoundAgainWhateverItsName) {
+    start();
+    QList<QUrl> files;
+    for (const char* name : {"a b%20c#?", "l\nm", "\xc3\xa4", "file:", "\xe4\xff%"}) {
+        const QByteArray path = directory_.path().toUtf8() + '/' + name;
+        ASSERT_TRUE(std::ofstream(path.constData()));
+        files.append(fileUrl(path));
+    }
+    store_->addToShelf(files);
+    restart();
+    EXPECT_EQ(store_->shelf().files(), files);
+    std::remove(filePath(files.last()).constData()); // QTemporaryDir cannot.
+    restart();
+    EXPECT_EQ(store_->shelf().files(), files.first(4));
+    settle();
+    store_->addToShelf(files.first(4));
+    EXPECT_EQ(scheduler_.pending(), 0) << "nothing to save";
 }
 
 class UnreadableStore : public StoreSaving, public testing::WithParamInterface<const char*> {};

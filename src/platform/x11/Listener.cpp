@@ -1,9 +1,10 @@
 #include "platform/x11/Listener.h"
 
+#include "base/SignalsBlocked.h"
+
 #include <QMetaObject>
 
 #include <algorithm>
-#include <csignal>
 #include <cstdint>
 
 #include <poll.h>
@@ -26,24 +27,6 @@ int pollTime(std::optional<TimePoint> deadline) {
         std::chrono::ceil<std::chrono::milliseconds>(*deadline - std::chrono::steady_clock::now());
     return static_cast<int>(std::max<std::chrono::milliseconds::rep>(left.count(), 0));
 }
-
-/// A new thread starts with these: signals to the program are the main thread's to handle.
-class SignalsBlocked {
-public:
-    SignalsBlocked() {
-        sigset_t all;
-        sigfillset(&all);
-        pthread_sigmask(SIG_SETMASK, &all, &before_);
-    }
-
-    SignalsBlocked(const SignalsBlocked&) = delete;
-    SignalsBlocked& operator=(const SignalsBlocked&) = delete;
-
-    ~SignalsBlocked() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
-
-private:
-    sigset_t before_{};
-};
 
 } // namespace
 

@@ -1,6 +1,9 @@
 #include "platform/x11/X11DragMonitor.h"
 
+#include "base/UriList.h"
 #include "platform/x11/OwnClient.h"
+
+#include <QSysInfo>
 
 #include <utility>
 
@@ -10,43 +13,51 @@ namespace {
 
 constexpr qsizetype mostBytes = 8 << 20;
 
-/// Asks for the list of addresses (RFC 2483) and nothing else: sources of Qt refuse TARGETS while
-/// a drag is on.
-class FilesConversation final : public Conversation {
+/// Asks for targets until one is given. TARGETS is none of them: sources of Qt refuse it while a
+/// drag is on.
+class FirstOfTargets final : public Conversation {
 public:
-    using Done = std::function<void(QByteArray)>;
+    using Done = std::function<void(const QByteArray&)>;
 
-    FilesConversation(xcb_atom_t uriList, Done done) : target_(uriList), done_(std::move(done)) {}
+    /// `done` is given nothing where the source gives nothing or is gone before it has.
+    FirstOfTargets(QList<xcb_atom_t> targets, Done done)
+        : targets_(std::move(targets)), done_(std::move(done)) {}
+
+    ~FirstOfTargets() override { done_(bytes_); }
 
     [[nodiscard]] std::optional<TransferRequest> next() override {
-        const auto target = std::exchange(target_, XCB_ATOM_NONE);
-        return target == XCB_ATOM_NONE ? std::nullopt
-                                       : std::optional(TransferRequest{target, mostBytes});
+        return targets_.isEmpty() ? std::nullopt
+                                  : std::optional(TransferRequest{targets_.takeFirst(), mostBytes});
     }
 
     void take(TransferResult result) override {
         if (result) {
-            list_ = result->bytes;
+            bytes_ = result->bytes;
+            targets_.clear();
+        } else if (result.error() != TransferFailure::refused) {
+            targets_.clear(); // It would be as slow under another name.
         }
     }
 
-    void finish() override { done_(std::move(list_)); }
+    void finish() override {}
 
 private:
-    xcb_atom_t target_;
+    QList<xcb_atom_t> targets_;
     Done done_;
-    QByteArray list_;
+    QByteArray bytes_;
 };
 
-QList<QUrl> filesIn(const QByteArray& uriList) {
-    QList<QUrl> files;
-    for (const QByteArray& line : uriList.split('\n')) {
-        const QUrl url = QUrl::fromEncoded(line.trimmed());
-        if (url.isLocalFile()) {
-            files.append(url);
-        }
+QList<QUrl> readFiles(const QByteArray& uriList) {
+    return localFiles(uriList, QSysInfo::machineHostName().toUtf8());
+}
+
+/// It has to be text on its way over the bus; some end it by a NUL.
+QByteArray readKey(QByteArray key) {
+    while (key.endsWith('\0')) {
+        key.chop(1);
     }
-    return files;
+    const bool good = key.size() <= 1024 && !key.contains('\0') && key.isValidUtf8();
+    return good ? key : QByteArray();
 }
 
 } // namespace
@@ -66,34 +77,50 @@ X11DragMonitor::X11DragMonitor(Listener& listener)
 }
 
 std::optional<QList<QUrl>> X11DragMonitor::files() {
+    return ask(files_, {QByteArrayLiteral("text/uri-list")}, readFiles);
+}
+
+std::optional<QByteArray> X11DragMonitor::transferKey() {
+    // The second is what the first was called before.
+    return ask(key_,
+               {QByteArrayLiteral("application/vnd.portal.filetransfer"),
+                QByteArrayLiteral("application/vnd.portal.files")},
+               readKey);
+}
+
+template <typename Answer, typename Read>
+std::optional<Answer> X11DragMonitor::ask(const std::shared_ptr<Question<Answer>>& question,
+                                          const QList<QByteArray>& targets, Read read) {
     const qint64 drag = counter_->value();
     if (drag == 0) {
         return std::nullopt; // None has begun yet.
     }
-    if (question_->drag != drag) {
-        ask(drag);
+    if (question->drag == drag) {
+        return question->answer;
     }
-    return question_->files;
-}
-
-void X11DragMonitor::ask(qint64 drag) {
-    *question_ = {drag, std::nullopt};
-    auto done = [&listener = listener_, question = question_, changes = changes_,
-                 drag](const QByteArray& list) {
-        listener.tell([question, changes, drag, files = filesIn(list)] {
+    *question = {drag, std::nullopt};
+    auto done = [&listener = listener_, question, changes = changes_, drag,
+                 read](const QByteArray& bytes) {
+        listener.tell([question, changes, drag, answer = read(bytes)] {
             if (question->drag == drag) {
-                question->files = files;
+                question->answer = answer;
                 changes->notify();
             }
         });
     };
-    listener_.post([&listener = listener_, counter = counter_, watch = watch_, drag, done] {
-        listener.catchUp();
-        if (counter->value() == drag) {
-            const auto uriList = listener.connection().atom(QByteArrayLiteral("text/uri-list"));
-            watch->reader().add(0, std::make_unique<FilesConversation>(uriList, done));
-        }
-    });
+    listener_.post(
+        [&listener = listener_, counter = counter_, watch = watch_, drag, targets, done] {
+            listener.catchUp();
+            if (counter->value() != drag) {
+                return;
+            }
+            QList<xcb_atom_t> atoms;
+            for (const QByteArray& target : targets) {
+                atoms.append(listener.connection().atom(target));
+            }
+            watch->reader().add(0, std::make_unique<FirstOfTargets>(atoms, done));
+        });
+    return std::nullopt;
 }
 
 } // namespace ravelo::x11

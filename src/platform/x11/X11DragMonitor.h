@@ -21,6 +21,7 @@ public:
     [[nodiscard]] qint64 changeCount() const override { return counter_->value(); }
 
     [[nodiscard]] std::optional<QList<QUrl>> files() override;
+    [[nodiscard]] std::optional<QByteArray> transferKey() override;
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return changes_->add(std::move(callback));
@@ -28,18 +29,22 @@ public:
 
 private:
     /// What the source of one drag was asked and has answered. Main thread.
+    template <typename Answer>
     struct Question {
         qint64 drag = 0; ///< The change count of the drag.
-        std::optional<QList<QUrl>> files;
+        std::optional<Answer> answer;
     };
 
-    void ask(qint64 drag);
+    template <typename Answer, typename Read>
+    std::optional<Answer> ask(const std::shared_ptr<Question<Answer>>& question,
+                              const QList<QByteArray>& targets, Read read);
 
     Listener& listener_;
     std::shared_ptr<ChangeCounter> counter_ = std::make_shared<ChangeCounter>();
     std::shared_ptr<Notifier> changes_;
     std::shared_ptr<SelectionWatch> watch_;
-    std::shared_ptr<Question> question_ = std::make_shared<Question>();
+    std::shared_ptr<Question<QList<QUrl>>> files_ = std::make_shared<Question<QList<QUrl>>>();
+    std::shared_ptr<Question<QByteArray>> key_ = std::make_shared<Question<QByteArray>>();
 };
 
 } // namespace ravelo::x11

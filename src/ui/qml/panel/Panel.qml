@@ -15,7 +15,7 @@ Item {
     // would have to be waited for.
     DropArea {
         anchors.fill: parent
-        keys: ["text/uri-list"]
+        keys: ["text/uri-list", "application/vnd.portal.filetransfer", "application/vnd.portal.files"]
         onEntered: drag => {
             drag.accept(Qt.CopyAction);
             panel.host.controller.onDragEnter();

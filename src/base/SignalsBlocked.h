@@ -1,0 +1,26 @@
+#pragma once
+
+#include <csignal>
+
+namespace ravelo {
+
+/// While it lives, new threads start with all signals blocked: signals to the program are the main
+/// thread's to handle.
+class SignalsBlocked {
+public:
+    SignalsBlocked() {
+        sigset_t all;
+        sigfillset(&all);
+        pthread_sigmask(SIG_SETMASK, &all, &before_);
+    }
+
+    SignalsBlocked(const SignalsBlocked&) = delete;
+    SignalsBlocked& operator=(const SignalsBlocked&) = delete;
+
+    ~SignalsBlocked() { pthread_sigmask(SIG_SETMASK, &before_, nullptr); }
+
+private:
+    sigset_t before_{};
+};
+
+} // namespace ravelo

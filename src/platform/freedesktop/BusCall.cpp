@@ -1,0 +1,30 @@
+#include "platform/freedesktop/BusCall.h"
+
+#include <QDBusPendingCallWatcher>
+
+#include <memory>
+#include <utility>
+
+namespace ravelo {
+
+Handle callBus(const QDBusConnection& bus, QDBusMessage call, std::chrono::milliseconds timeOut,
+               std::function<void(const QDBusMessage&)> done) {
+    call.setAutoStartService(false);
+    auto* const watcher =
+        new QDBusPendingCallWatcher(bus.asyncCall(call, static_cast<int>(timeOut.count())));
+    const auto end = std::make_shared<decltype(done)>(std::move(done));
+    const auto finish = [watcher, end] {
+        watcher->deleteLater();
+        if (const auto tell = std::exchange(*end, nullptr)) {
+            tell(watcher->reply());
+        }
+    };
+    if (watcher->isFinished()) { // On a dead bus; nothing is told of it then.
+        QMetaObject::invokeMethod(watcher, finish, Qt::QueuedConnection);
+    } else {
+        QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, finish);
+    }
+    return Handle([end] { *end = nullptr; }); // The watcher goes when the call ends.
+}
+
+} // namespace ravelo

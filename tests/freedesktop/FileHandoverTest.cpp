@@ -1,0 +1,151 @@
+// The services that files are given to and got from, with stand-ins for them that write down what
+// they are asked.
+
+#include "PrivateBus.h"
+#include "StandIn.h"
+#include "base/FileUrl.h"
+#include "platform/freedesktop/FileTransferPortal.h"
+#include "platform/freedesktop/KdeConnect.h"
+
+#include <QDBusMetaType>
+
+#include <ostream>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Names = QMap<QString, QString>;
+
+/// "path interface.member(signature)"
+QString described(const QDBusMessage& call) {
+    return call.path() + u' ' + call.interface() + u'.' + call.member() + u'(' + call.signature() +
+           u')';
+}
+
+class FileHandover : public testing::Test {
+protected:
+    static void SetUpTestSuite() { qDBusRegisterMetaType<Names>(); }
+
+    void serve(const QString& name) { standIn_.serve(service_, name); }
+
+    QList<NearbyDevice> devices() {
+        std::optional<QList<NearbyDevice>> devices;
+        const Handle listing = kdeConnect_.list([&](const auto& list) { devices = list; });
+        EXPECT_FALSE(devices) << "answered from within the call";
+        EXPECT_TRUE(eventually([&] { return devices.has_value(); }));
+        return devices.value_or(QList<NearbyDevice>());
+    }
+
+    bool send(const QString& id, const QList<QByteArray>& addresses) {
+        std::optional<bool> taken;
+        const Handle sending = kdeConnect_.send(id, addresses, [&](bool is) { taken = is; });
+        EXPECT_TRUE(eventually([&] { return taken.has_value(); }));
+        return taken.value_or(false);
+    }
+
+    QList<QUrl> retrieve(const QByteArray& key) {
+        std::optional<QList<QUrl>> files;
+        const Handle retrieving = portal_.retrieve(key, [&](const auto& list) { files = list; });
+        EXPECT_TRUE(eventually([&] { return files.has_value(); }));
+        return files.value_or(QList<QUrl>());
+    }
+
+    PrivateBus bus_;
+    QDBusConnection service_ = bus_.connect(u"service"_s);
+    KdeConnect kdeConnect_{bus_.connect(u"ours"_s)};
+    FileTransferPortal portal_{bus_.connect(u"ours"_s)};
+    std::optional<QVariant> answer_; ///< To every call; nothing hangs.
+    QStringList calls_;
+    QVariantList arguments_; ///< Of the last call.
+    StandIn standIn_{[this](const QDBusMessage& call) {
+        calls_.append(described(call));
+        arguments_ = call.arguments();
+        return answer_;
+    }};
+};
+
+struct DevicesCase {
+    const char* name;
+    std::optional<QVariant> answer;
+    QList<NearbyDevice> devices;
+
+    friend void PrintTo(const DevicesCase& tested, std::ostream* out) { *out << tested.name; }
+};
+
+class Devices : public FileHandover, public testing::WithParamInterface<DevicesCase> {};
+
+TEST_P(Devices, areThoseThatKdeConnectNames) {
+    answer_ = GetParam().answer;
+    serve(u"org.kde.kdeconnect"_s);
+    EXPECT_EQ(devices(), GetParam().devices);
+    EXPECT_EQ(calls_,
+              QStringList{u"/modules/kdeconnect org.kde.kdeconnect.daemon.deviceNames(bb)"_s});
+    EXPECT_EQ(arguments_, QVariantList({true, true})) << "reachable and paired";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, Devices,
+    testing::Values(DevicesCase{"none", QVariant::fromValue(Names()), {}},
+                    DevicesCase{"one",
+                                QVariant::fromValue(Names{{u"a_1"_s, u"Pixel"_s}}),
+                                {{u"a_1"_s, u"Pixel"_s}}},
+                    DevicesCase{"twoWithOddNamesAndOneThatHasNoPath",
+                                QVariant::fromValue(Names{{u"a"_s, u"<b>ä & \n\u202e%1</b>"_s},
+                                                          {u"b/../c"_s, u"x"_s},
+                                                          {u"d"_s, {}}}),
+                                {{u"a"_s, u"<b>ä & \n\u202e%1</b>"_s}, {u"d"_s, {}}}},
+                    DevicesCase{"anAnswerOfAnotherKind", QVariant(u"what"_s), {}}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST_F(FileHandover, addressesReachADeviceByteForByte) {
+    EXPECT_EQ(devices(), QList<NearbyDevice>()) << "it does not run";
+    EXPECT_FALSE(send(u"a_1"_s, {"file:///a"}));
+    answer_ = QVariant();
+    serve(u"org.kde.kdeconnect"_s);
+    const QStringList addresses = {u"file:///a%20b%25%28"_s, u"file:///%FF%0A"_s, u"file:///c"_s};
+    EXPECT_TRUE(send(u"a_1"_s, {"file:///a%20b%25%28", "file:///%FF%0A", "file:///c"}));
+    EXPECT_EQ(calls_, QStringList{u"/modules/kdeconnect/devices/a_1/share "
+                                  "org.kde.kdeconnect.device.share.shareUrls(as)"_s});
+    EXPECT_EQ(arguments_, QVariantList{addresses});
+}
+
+TEST_F(FileHandover, aKeyGivesFilesOnce) {
+    EXPECT_EQ(retrieve("key"), QList<QUrl>()) << "no portal";
+    answer_ = QStringList{u"/run/user/1/doc/a1/x y%20"_s, u"relative"_s, u"/ä"_s};
+    serve(u"org.freedesktop.portal.Documents"_s);
+    EXPECT_EQ(retrieve("key \xc3\xa4"),
+              (QList<QUrl>{fileUrl("/run/user/1/doc/a1/x y%20"), fileUrl("/\xc3\xa4")}));
+    EXPECT_EQ(calls_, QStringList{u"/org/freedesktop/portal/documents "
+                                  "org.freedesktop.portal.FileTransfer.RetrieveFiles(sa{sv})"_s});
+    EXPECT_EQ(arguments_.value(0), QVariant(u"key ä"_s));
+    answer_ = QVariant(u"what"_s);
+    EXPECT_EQ(retrieve("key"), QList<QUrl>());
+}
+
+TEST_F(FileHandover, nobodyIsWaitedForForEver) {
+    serve(u"org.kde.kdeconnect"_s);
+    ASSERT_TRUE(service_.registerService(u"org.freedesktop.portal.Documents"_s));
+    int ends = 0;
+    const auto noFiles = [&](const auto& list) {
+        ends += list.isEmpty() ? 1 : 0;
+    };
+    const auto notSent = [&](bool sent) {
+        ends += sent ? 0 : 1;
+    };
+    const Handle hanging[] = {kdeConnect_.list(noFiles), kdeConnect_.send(u"a"_s, {}, notSent),
+                              portal_.retrieve("key", noFiles)};
+    const auto dead = QDBusConnection::connectToBus(u"unix:path=/nowhere"_s, u"dead"_s);
+    KdeConnect kdeConnect(dead);
+    FileTransferPortal portal(dead);
+    const Handle gone[] = {kdeConnect.list(noFiles), kdeConnect.send(u"a"_s, {}, notSent),
+                           portal.retrieve("key", noFiles)};
+    (void)kdeConnect.send(u"a"_s, {}, [](bool) { ADD_FAILURE() << "its handle is gone"; });
+    EXPECT_EQ(ends, 0) << "answered from within the call";
+    EXPECT_TRUE(eventually([&] { return ends == 6; }));
+}
+
+} // namespace
+} // namespace ravelo

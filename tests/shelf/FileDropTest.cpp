@@ -1,0 +1,144 @@
+#include "shelf/FileDrop.h"
+
+#include "fakes/FakeDisplay.h"
+#include "shelf/DropLoading.h"
+#include "support/Eventually.h"
+
+#include <gtest/gtest.h>
+
+#include <future>
+#include <ostream>
+#include <thread>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Files = QList<QUrl>;
+using Answer = std::function<void(const Files&)>;
+
+const QUrl a(u"file:///a"_s);
+const QUrl b(u"file:///b"_s);
+const QUrl c(u"file:///c"_s);
+
+TEST(LoadToShelf, givesAllAtOnceInTheOrderOfTheAnswers) {
+    QList<Files> given;
+    const auto give = [&](const Files& files) {
+        given.append(files);
+    };
+    Answer late;
+    std::promise<Answer> elsewhere;
+    const Handle loading = loadToShelf({[&](Answer answer) { late = std::move(answer); },
+                                        [](const Answer& answer) { answer({b}); },
+                                        [](const Answer& answer) { answer({}); },
+                                        [&](Answer answer) {
+                                            elsewhere.set_value(std::move(answer));
+                                        }},
+                                       give);
+    std::thread other([answer = elsewhere.get_future().get()] { answer({c}); });
+    other.join();
+    EXPECT_TRUE(given.isEmpty()) << "one has not answered yet";
+    late({a, a});
+    EXPECT_EQ(given, QList<Files>({{b, c, a, a}}));
+
+    Handle dropped = loadToShelf({[&](Answer answer) {
+                                     late = std::move(answer);
+                                 }},
+                                 give);
+    dropped.reset();
+    late({a});
+    const Handle none = loadToShelf({}, give);
+    const Handle noFiles = loadToShelf({[](const Answer& answer) {
+                                           answer({});
+                                       }},
+                                       give);
+    EXPECT_EQ(given.size(), 1);
+
+    std::thread last;
+    const Handle fromThread =
+        loadToShelf({[&](Answer answer) {
+                        last = std::thread([answer = std::move(answer)] { answer({a}); });
+                    }},
+                    [&, main = std::this_thread::get_id()](const Files& files) {
+                        EXPECT_EQ(std::this_thread::get_id(), main);
+                        give(files);
+                    });
+    last.join();
+    EXPECT_EQ(given.size(), 1);
+    EXPECT_TRUE(eventually([&] { return given.size() == 2; }));
+}
+
+class Drops : public testing::Test {
+protected:
+    FakeDragMonitor drags_;
+    FakeFileTransfer transfers_;
+    QList<Files> given_;
+    FileDrop drop_{drags_, transfers_, [this](const Files& files) {
+                       given_.append(files);
+                   }};
+};
+
+struct DropCase {
+    const char* name;
+    bool files; ///< Whether the source names its file itself.
+    QByteArray key;
+    Files retrieved;
+    Files given;
+
+    friend void PrintTo(const DropCase& tested, std::ostream* out) { *out << tested.name; }
+};
+
+class DropTable : public Drops, public testing::WithParamInterface<DropCase> {};
+
+const QUrl named = FakeDragMonitor().file;
+
+TEST_P(DropTable, gives) {
+    const bool hasKey = !GetParam().key.isEmpty();
+    drags_.key.reset();
+    drags_.begin(GetParam().files);
+    drop_.expect();
+    EXPECT_TRUE(transfers_.keys.isEmpty()) << "what goes once is not fetched before the drop";
+    drop_.take();
+    drags_.key = GetParam().key; // It comes late.
+    drags_.answer(GetParam().files);
+    drags_.answer(GetParam().files);
+    EXPECT_EQ(transfers_.keys, hasKey ? QList{GetParam().key} : QList<QByteArray>());
+    if (hasKey) {
+        EXPECT_TRUE(given_.isEmpty());
+        transfers_.answer(GetParam().retrieved);
+    }
+    EXPECT_EQ(given_,
+              GetParam().given.isEmpty() ? QList<Files>() : QList<Files>({GetParam().given}));
+    drags_.begin(true);
+    EXPECT_LE(given_.size(), 1) << "the next drag is not ours";
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, DropTable,
+                         testing::Values(DropCase{"named", true, {}, {}, {named}},
+                                         DropCase{"handedOver", true, "key", {b, a}, {b, a}},
+                                         DropCase{"handedOverOnly", false, "key", {a}, {a}},
+                                         DropCase{
+                                             "notHandedOverAfterAll", true, "key", {}, {named}},
+                                         DropCase{"noFiles", false, {}, {}, {}},
+                                         DropCase{"noFilesByTheKeyEither", false, "key", {}, {}}),
+                         [](const auto& tested) { return tested.param.name; });
+
+TEST_F(Drops, followEachOther) {
+    for (const char* key : {"first", "second"}) {
+        drags_.key = key;
+        drags_.begin(false);
+        drop_.take();
+    }
+    drags_.key.reset();
+    drags_.begin(true);
+    drop_.take();
+    drags_.begin(true); // The third one's source has told nothing: it is given up.
+    transfers_.answer({a});
+    transfers_.answer({b});
+    EXPECT_EQ(given_, (QList<Files>{{a}, {b}}));
+}
+
+} // namespace
+} // namespace ravelo

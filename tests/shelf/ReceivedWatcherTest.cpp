@@ -1,0 +1,163 @@
+#include "shelf/ReceivedWatcher.h"
+
+#include "base/FileUrl.h"
+#include "fakes/FakeNearby.h"
+#include "fakes/ManualScheduler.h"
+#include "shelf/PartialNames.h"
+
+#include <gtest/gtest.h>
+
+#include <ostream>
+#include <sstream>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// What happens, in words: "+a" a is written and closed, "0a" likewise but stays empty, ">a" comes
+/// from elsewhere, "a>b" is renamed, "-a" is deleted; "[ a b ]" is a listing of what was there
+/// before, "{ a 0b }" one of what came meanwhile.
+FolderNews newsOf(const std::string& words) {
+    using Kind = FolderChange::Kind;
+    static quint32 renaming = 0;
+    FolderNews news;
+    bool listing = false;
+    std::istringstream stream(words);
+    for (std::string word; stream >> word;) {
+        const QByteArray rest = QByteArray::fromStdString(word.substr(1));
+        if (const auto arrow = word.find('>'); arrow != std::string::npos) {
+            const QByteArray from = QByteArray::fromStdString(word.substr(0, arrow));
+            const QByteArray to = QByteArray::fromStdString(word.substr(arrow + 1));
+            const quint32 number = from.isEmpty() ? 0 : ++renaming;
+            if (!from.isEmpty()) {
+                news.changes.append({Kind::movedOut, from, false, number});
+            }
+            if (!to.isEmpty()) {
+                news.changes.append({Kind::movedIn, to, false, number});
+            }
+        } else if (word == "[" || word == "{") {
+            listing = true;
+            news.listing = FolderListing{
+                {}, word == "[" ? FolderListing::Unknown::old : FolderListing::Unknown::arrived};
+        } else if (word == "]" || word == "}") {
+            listing = false;
+        } else if (listing) {
+            news.listing->entries.append(word[0] == '0' ? FolderEntry{rest, true}
+                                                        : FolderEntry{word.c_str(), false});
+        } else {
+            news.changes.append(
+                {word[0] == '-' ? Kind::deleted : Kind::written, rest, word[0] == '0', 0});
+        }
+    }
+    return news;
+}
+
+class Received : public testing::Test {
+protected:
+    [[nodiscard]] std::string names() const {
+        QByteArrayList list;
+        for (const QUrl& url : watcher_.files()) {
+            list.append(filePath(url).mid(6));
+        }
+        return list.join(' ').toStdString();
+    }
+
+    ManualScheduler scheduler_;
+    FakeFolderWatch folder_;
+    ReceivedWatcher watcher_{folder_, scheduler_, u"/down"_s};
+};
+
+struct ReceivedCase {
+    const char* name;
+    const char* happens; ///< After "old" and "old.part" were there; "|" parts what is told apart.
+    const char* files;
+
+    friend void PrintTo(const ReceivedCase& tested, std::ostream* out) { *out << tested.name; }
+};
+
+class ReceivedTable : public Received, public testing::WithParamInterface<ReceivedCase> {};
+
+TEST_P(ReceivedTable, lists) {
+    folder_.tell(newsOf("[ old old.part ]"));
+    EXPECT_EQ(names(), "");
+    std::istringstream stream(GetParam().happens);
+    for (std::string part; std::getline(stream, part, '|');) {
+        folder_.tell(newsOf(part));
+    }
+    scheduler_.advance(Seconds(0.1));
+    EXPECT_EQ(names(), GetParam().files);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, ReceivedTable,
+    testing::Values(ReceivedCase{"inTheOrderOfTheirArrival", "+b +a >c", "b a c"},
+                    ReceivedCase{"writtenTwice", "+a +b +a | +a", "a b"},
+                    ReceivedCase{"writtenAgainOnceItWasGone", "+a +b | -a | +a", "b a"},
+                    ReceivedCase{"downloaded", "+a.part a.part>a", "a"},
+                    ReceivedCase{"downloadedIntoItsPlaceholder", "0a +a.part | a.part>a +a", "a"},
+                    ReceivedCase{"whatBeganBefore", "old.part>b", "b"},
+                    ReceivedCase{"downloadedOverAnOldOne", "a.part>old", "old"},
+                    ReceivedCase{"downloadedOverAReceivedOne", "+a +b a.part>a", "a b"},
+                    ReceivedCase{"halfOfIt", "+a.part +.hidden +x.TMP >b.crdownload", ""},
+                    ReceivedCase{"anOldOneEdited", "+old | .x>old | old.tmp>old", ""},
+                    ReceivedCase{"anOldOneRenamed", "old>new | +new", ""},
+                    ReceivedCase{"aReceivedOneRenamed", "+a +b | a>c", "c b"},
+                    ReceivedCase{"renamedOverAnotherOne", "+a +b | b>a", "a"},
+                    ReceivedCase{"renamedWhileItIsWritten", "0a a>b | +b", "b"},
+                    ReceivedCase{"madeByARenamingOfItsOwn", ".com.x.1>a.crdownload a.crdownload>a",
+                                 "a"},
+                    ReceivedCase{"hidden", "+a a>.a", ""},
+                    ReceivedCase{"deletedAndMovedAway", "+a +b +c | -a b>", "c"},
+                    ReceivedCase{"aRenamingWithoutItsFirstHalf", "x> >a", "a"},
+                    ReceivedCase{"whatWasMissed", "+a +b | { old b 0e c d.part d }", "b c d"},
+                    ReceivedCase{"anotherFolderInItsPlace", "+a +b | [ b c ] +d | +c", "b d"},
+                    ReceivedCase{"aFolderThatWent", "+a | [ ]", ""},
+                    ReceivedCase{"aFolderThatWasMade", "+a | [ ] | { b } +c", "b c"}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST_F(Received, isToldTenTimesASecondAndReceivesForFour) {
+    int calls = 0;
+    const Handle listening = watcher_.onChange([&] { ++calls; });
+    folder_.tell(newsOf("[ old ]"));
+    folder_.tell(newsOf("+old 0x +y.part"));
+    EXPECT_EQ(calls, 0);
+    EXPECT_FALSE(watcher_.receiving());
+    folder_.tell(newsOf("+a +b"));
+    EXPECT_EQ(calls, 1) << "at once";
+    folder_.tell(newsOf("+c"));
+    folder_.tell(newsOf("+d -a"));
+    EXPECT_EQ(names(), "a b");
+    scheduler_.advance(Seconds(0.1));
+    EXPECT_EQ(calls, 2);
+    EXPECT_EQ(names(), "b c d");
+    scheduler_.advance(Seconds(3.8));
+    EXPECT_TRUE(watcher_.receiving());
+    folder_.tell(newsOf("+e"));
+    scheduler_.advance(Seconds(3.9));
+    folder_.tell(newsOf("+e"));
+    EXPECT_TRUE(watcher_.receiving()) << "e came 3.9 s ago";
+    EXPECT_EQ(calls, 3);
+    scheduler_.advance(Seconds(0.1));
+    EXPECT_FALSE(watcher_.receiving());
+    EXPECT_EQ(calls, 4);
+    EXPECT_EQ(scheduler_.pending(), 0);
+}
+
+TEST(PartialName, isKnownByItsEnding) {
+    const auto kindOf = [](const QByteArrayList& names) {
+        std::string kinds;
+        for (const QByteArray& name : names) {
+            kinds += "wtd"[static_cast<int>(kindOfName(name))];
+        }
+        return kinds;
+    };
+    EXPECT_EQ(kindOf({"a", "a.pdf", "part", "a.parts", "a.part.zip", "a.", "\xff", "tmp"}),
+              "wwwwwwww");
+    EXPECT_EQ(kindOf({"a.part", "A.PART", "a.pdf.crdownload", "a.!qB", ".a.part"}), "ddddd");
+    EXPECT_EQ(kindOf({".a", ".goutputstream-X", "a.tmp", "a.Temp", "a~"}), "ttttt");
+}
+
+} // namespace
+} // namespace ravelo

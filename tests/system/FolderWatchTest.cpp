@@ -1,0 +1,172 @@
+// What comes to a real folder, as the watcher of received files is told of it by inotify.
+
+#include "base/FileUrl.h"
+#include "fakes/ManualScheduler.h"
+#include "platform/system/FolderFollower.h"
+#include "platform/system/InotifyFolderWatch.h"
+#include "shelf/ReceivedWatcher.h"
+#include "support/Eventually.h"
+
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <filesystem>
+#include <fstream>
+#include <poll.h>
+
+namespace ravelo {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+void write(const fs::path& path) {
+    EXPECT_TRUE(std::ofstream(path) << "something") << path;
+}
+
+/// Counts what is told.
+class CountedWatch final : public FolderWatch {
+public:
+    Handle watch(const QByteArray& path, std::function<void(const FolderNews&)> tell) override {
+        return watch_.watch(path, [this, tell = std::move(tell)](const FolderNews& news) {
+            ++news_;
+            tell(news);
+        });
+    }
+
+    [[nodiscard]] int news() const { return news_; }
+
+private:
+    InotifyFolderWatch watch_;
+    int news_ = 0;
+};
+
+class FolderWatchTest : public testing::Test {
+protected:
+    /// Once it watches.
+    void start() {
+        watcher_ = std::make_unique<ReceivedWatcher>(watch_, scheduler_,
+                                                     QString::fromStdString(downloads_.string()));
+        ASSERT_TRUE(eventually([this] { return watch_.news() == 1; }));
+    }
+
+    [[nodiscard]] std::string names() const {
+        QByteArrayList names;
+        for (const QUrl& url : watcher_->files()) {
+            names.append(filePath(url).split('/').last());
+        }
+        return names.join(' ').toStdString();
+    }
+
+    [[nodiscard]] testing::AssertionResult shows(const std::string& expected) {
+        return eventually([&] {
+            scheduler_.advance(Seconds(1)); // It tells only so often.
+            return names() == expected;
+        })
+                   ? testing::AssertionSuccess()
+                   : testing::AssertionFailure() << "shows " << names();
+    }
+
+    QTemporaryDir folder_;
+    const fs::path home_ = folder_.path().toStdString();
+    const fs::path downloads_ = home_ / "a" / "b";
+    ManualScheduler scheduler_;
+    CountedWatch watch_;
+    std::unique_ptr<ReceivedWatcher> watcher_;
+};
+
+TEST_F(FolderWatchTest, whatIsWholeAndStillThere) {
+    fs::create_directories(downloads_ / "folder");
+    write(downloads_ / "old");
+    start();
+    std::ofstream slow(downloads_ / "slow");
+    slow << "half" << std::flush;
+    std::ofstream(downloads_ / "placeholder");
+    write(downloads_ / "x.part");
+    fs::rename(downloads_ / "x.part", downloads_ / "x");
+    write(home_ / "elsewhere");
+    fs::rename(home_ / "elsewhere", downloads_ / "b\xff%");
+    EXPECT_TRUE(shows("x b\xff%"));
+    slow.close();
+    fs::rename(downloads_ / "folder", home_ / "folder");
+    fs::rename(home_ / "folder", downloads_ / "folder");
+    EXPECT_TRUE(shows("x b\xff% slow folder"));
+    fs::rename(downloads_ / "x", downloads_ / "y");
+    fs::rename(downloads_ / "b\xff%", home_ / "b");
+    fs::remove(downloads_ / "folder");
+    EXPECT_TRUE(shows("y slow"));
+}
+
+TEST_F(FolderWatchTest, aFolderThatComesGoesAndIsReplaced) {
+    start();
+    fs::create_directories(downloads_);
+    write(downloads_ / "x");
+    EXPECT_TRUE(shows("x")) << "written while we look";
+    fs::rename(home_ / "a", home_ / "c");
+    EXPECT_TRUE(shows(""));
+    write(home_ / "c" / "b" / "y");
+    const int before = watch_.news();
+    fs::rename(home_ / "c", home_ / "a");
+    ASSERT_TRUE(eventually([&] { return watch_.news() > before; }));
+    write(downloads_ / "z");
+    EXPECT_TRUE(shows("z")) << "x and y were there when the folder came";
+    fs::remove_all(downloads_);
+    EXPECT_TRUE(shows(""));
+
+    fs::create_directories(home_ / "one");
+    fs::create_directories(home_ / "two");
+    fs::create_directory_symlink(home_ / "one", downloads_);
+    EXPECT_TRUE(eventually([&, number = 0]() mutable {
+        write(downloads_ / std::to_string(++number));
+        scheduler_.advance(Seconds(1));
+        return !names().empty();
+    })) << "by a link";
+    fs::create_directory_symlink(home_ / "two", home_ / "link");
+    fs::rename(home_ / "link", downloads_);
+    EXPECT_TRUE(shows(""));
+    write(home_ / "one" / "y");
+    write(downloads_ / "z");
+    EXPECT_TRUE(shows("z")) << "by another link";
+}
+
+TEST_F(FolderWatchTest, moreThanTheKernelKeeps) {
+    int most = 0;
+    std::ifstream("/proc/sys/fs/inotify/max_queued_events") >> most;
+    ASSERT_LT(most, 100'000) << "too many for a test";
+    std::vector<FolderNews> told;
+    fs::create_directories(downloads_);
+    FolderFollower follower(QByteArray::fromStdString(downloads_.string()),
+                            [&](FolderNews news) { told.push_back(std::move(news)); });
+    follower.proceed();
+    for (int number = 0; number < most + 1000; ++number) {
+        write(downloads_ / std::to_string(number));
+    }
+    std::ofstream(downloads_ / "empty");
+    pollfd waits{follower.descriptor(), POLLIN, 0};
+    while (::poll(&waits, 1, 0) > 0) {
+        follower.proceed();
+    }
+
+    class Told final : public FolderWatch {
+    public:
+        Handle watch(const QByteArray& /*path*/,
+                     std::function<void(const FolderNews&)> t) override {
+            tell = std::move(t);
+            return {};
+        }
+
+        std::function<void(const FolderNews&)> tell;
+    } watch;
+
+    const ReceivedWatcher watcher(watch, scheduler_, QString());
+    for (const FolderNews& news : told) {
+        watch.tell(news);
+    }
+    scheduler_.advance(Seconds(1));
+    EXPECT_EQ(watcher.files().size(), most + 1000);
+    EXPECT_GT(watcher.files().last().fileName().toInt(), most) << "in their order";
+}
+
+} // namespace
+} // namespace ravelo

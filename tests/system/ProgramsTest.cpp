@@ -1,0 +1,68 @@
+#include "platform/system/DetachedThreads.h"
+#include "platform/system/SystemPrograms.h"
+
+#include "base/Files.h"
+#include "support/Eventually.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <fstream>
+#include <future>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST(DetachedThreads, nobodyWaitsForAJobThatHangs) {
+    std::promise<void> gate;
+    const std::shared_future<void> open = gate.get_future().share();
+    std::string ends;
+    const auto ended = std::make_shared<std::atomic<int>>(0);
+    {
+        DetachedThreads threads;
+        const Handle hung =
+            threads.run([open, ended] { open.wait(), ++*ended; }, [&] { ends += 'h'; });
+        const Handle quick = threads.run([] {}, [&] { ends += 'q'; });
+        (void)threads.run([ended] { ++*ended; }, [&] { ends += 'd'; });
+        EXPECT_TRUE(eventually([&] { return ends == "q" && *ended == 1; })) << ends;
+    }
+    gate.set_value();
+    EXPECT_TRUE(eventually([&] { return *ended == 2; }));
+    EXPECT_EQ(ends, "q") << "nothing is told once all is gone";
+}
+
+TEST(SystemPrograms, findsAndStartsThemWithTheBytesAsTheyAre) {
+    const QTemporaryDir folder;
+    const QByteArray path = qgetenv("PATH");
+    qputenv("PATH", path + ":/no/such:" + folder.path().toUtf8());
+    QFile script(folder.filePath(u"ravelo test"_s));
+    ASSERT_TRUE(script.open(QFile::WriteOnly));
+    script.write("#!/bin/sh\nprintf '<%s>' \"$@\" > \"$0.part\"\nmv \"$0.part\" \"$0.out\"\n");
+    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+    script.close();
+    DetachedThreads threads;
+    SystemPrograms programs(threads);
+    QList<QByteArray> found;
+    const auto note = [&](const QByteArray& program) {
+        found.append(program);
+    };
+    const Handle first = programs.find({u"ravelo-none"_s, u"ravelo test"_s}, note);
+    EXPECT_TRUE(eventually([&] { return found.size() == 1; }));
+    const Handle second = programs.find({u"ravelo-none"_s}, note);
+    EXPECT_TRUE(eventually([&] { return found.size() == 2; }));
+    qputenv("PATH", path);
+    EXPECT_EQ(found, (QList<QByteArray>{script.fileName().toUtf8(), {}}));
+
+    programs.start(found[0], {"--x", "a b;$(id)", "\xff\n", ""});
+    programs.start("/no/such", {});
+    EXPECT_TRUE(eventually([&] { return readFile(script.fileName() + u".out"_s).has_value(); }));
+    EXPECT_EQ(readFile(script.fileName() + u".out"_s), "<--x><a b;$(id)><\xff\n><>");
+}
+
+} // namespace
+} // namespace ravelo
