@@ -569,6 +569,39 @@ TEST_F(Panel, keepsReminders) {
     EXPECT_EQ(world.store.reminders(), QStringList());
 }
 
+TEST_F(Panel, keepsTheKeyboardWhereItIsSeenAroundTimersPresetsAndReminders) {
+    open();
+    clickOn(u"focusNote"_s);
+    type(u"Report"_s);
+    press(view.window(), Qt::Key_Return);
+    press(view.window(), Qt::Key_Return);
+    EXPECT_EQ(world.store.timerLabel(), u"Report"_s) << "one Return too many starts no other timer";
+    press(view.window(), Qt::Key_Tab);
+    EXPECT_TRUE(item(u"stopTimer"_s)->hasActiveFocus());
+    press(view.window(), Qt::Key_Return);
+    EXPECT_FALSE(world.store.timerRunning());
+
+    clickOn(u"presetMenu"_s);
+    clickMiddle(view.window(), in(u"presetChoices"_s, u"item6"_s));
+    EXPECT_TRUE(item(u"preset0"_s)->hasActiveFocus());
+    clickOn(u"addPreset"_s);
+    type(u"Sketches"_s);
+    EXPECT_EQ(view.host().focusControls()->presets().last(), u"Sketches"_s);
+    press(view.window(), Qt::Key_Tab);
+    press(view.window(), Qt::Key_Return);
+    EXPECT_TRUE(item(u"removePreset4"_s)->hasActiveFocus()) << "on to the one before";
+    press(view.window(), Qt::Key_Escape);
+
+    world.store.setReminders({u"one"_s, u"two"_s});
+    clickOn(u"reminderDraft"_s);
+    press(view.window(), Qt::Key_Backtab);
+    press(view.window(), Qt::Key_Return);
+    EXPECT_EQ(world.store.reminders(), QStringList{u"one"_s});
+    press(view.window(), Qt::Key_Return);
+    EXPECT_EQ(world.store.reminders(), QStringList());
+    EXPECT_TRUE(item(u"reminderDraft"_s)->hasActiveFocus());
+}
+
 TEST_F(Panel, startsTheNightShiftAtOnceAndShutsDownOnlyWhenSure) {
     open();
     EXPECT_EQ(item(u"nightShift"_s)->property("tip").toString(),

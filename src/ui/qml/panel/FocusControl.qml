@@ -16,12 +16,15 @@ Box {
     readonly property var minuteChoices: [15, 25, 30, 45, 60, 90, 120]
     readonly property real others: presets.width + minutes.width + 44
 
+    readonly property bool keyed: note.activeFocus || presets.activeFocus || minutes.activeFocus
+        || play.activeFocus
+
     function start() {
         focusing.startFocus(note.text);
         note.clear();
     }
 
-    implicitWidth: note.width + others
+    implicitWidth: note.room + others
     implicitHeight: 32
     radius: 16
     color: Theme.surface2
@@ -32,12 +35,17 @@ Box {
         id: note
         objectName: "focusNote"
         x: 14
-        width: Math.max(60, Math.min(150, control.room - control.others))
+        width: room - 8
+        readonly property real room: Math.max(60, Math.min(150, control.room - control.others))
         height: parent.height
         host: control.host
         placeholder: "Focus…"
         Keys.onReturnPressed: control.start()
         Keys.onEnterPressed: control.start()
+        Keys.onEscapePressed: event => {
+            event.accepted = text !== "";
+            clear();
+        }
     }
 
     MenuButton {

@@ -9,7 +9,34 @@ Popover {
 
     readonly property FocusControls focusing: host.focusControls
 
+    /// Gives the keyboard to a row, else to the button below.
+    function goTo(index: int, removes: bool) {
+        list.forceLayout();
+        list.positionViewAtIndex(index, ListView.Contain);
+        const row = list.itemAtIndex(index) as PresetRow;
+        if (row === null) {
+            add.forceActiveFocus();
+        } else if (removes) {
+            row.cross.forceActiveFocus();
+        } else {
+            row.line.forceActiveFocus();
+            row.line.selectAll();
+        }
+    }
+
+    function remove(index: int, byKey: bool) {
+        focusing.removePreset(index);
+        if (byKey) {
+            goTo(Math.min(index, list.count - 1), true);
+        }
+    }
+
     objectName: "presetEditor"
+    onOpenedChanged: {
+        if (opened) {
+            goTo(0, false);
+        }
+    }
     contentWidth: 232
     contentHeight: 28 + list.height + 12 + 28
     Accessible.role: Accessible.Dialog
@@ -37,65 +64,22 @@ Popover {
         // By number: what is typed into a row must not make the row anew.
         model: editor.focusing.presets.length
 
-        delegate: Item {
-            id: row
-
-            required property int index
-
+        delegate: PresetRow {
             width: list.width
-            height: 32
-
-            FieldFrame {
-                input: line
-                floats: true
-                x: 4
-                width: row.width - 33
-                height: 32
-
-                EditLine {
-                    id: line
-                    objectName: "preset" + row.index
-                    x: 10
-                    width: parent.width - 20
-                    height: parent.height
-                    host: editor.host
-                    placeholder: "Preset"
-                    text: editor.focusing.presets[row.index] ?? ""
-                    onTextEdited: editor.focusing.setPreset(row.index, text)
-                }
-            }
-
-            Pressable {
-                id: remove
-                objectName: "removePreset" + row.index
-                name: "Remove " + line.text
-                x: row.width - 21
-                y: 7.5
-                width: 17
-                height: 17
-                radius: 8.5
-                rest: Theme.none
-                hover: Theme.none
-                press: Theme.none
-                onClicked: editor.focusing.removePreset(row.index)
-
-                Glyph {
-                    size: 17
-                    symbol: "xmark.circle.fill"
-                    color: remove.hovered ? Theme.text2 : Theme.removeGlyph
-                }
-            }
+            host: editor.host
+            onRemoved: byKey => editor.remove(index, byKey)
         }
     }
 
     CapsuleButton {
+        id: add
         objectName: "addPreset"
         y: parent.height - height
         text: "Add preset"
         lead: 19
         onClicked: {
             editor.focusing.addPreset();
-            list.positionViewAtEnd();
+            editor.goTo(list.count - 1, false);
         }
 
         Glyph {

@@ -11,76 +11,67 @@ Item {
     /// They begin at the left; else they end at the right.
     required property bool fromLeft
 
-    readonly property real gap: list.count > 0 ? 14 : 0
+    readonly property real gap: lines.count > 0 ? 14 : 0
 
     implicitHeight: 24
 
-    ListView {
-        id: list
+    function remove(index: int, byKey: bool) {
+        host.focusControls.removeReminder(index);
+        if (byKey) {
+            const next = lines.itemAt(Math.min(index, lines.count - 1)) as ReminderItem;
+            (next ? next.cross : draft).forceActiveFocus();
+        }
+    }
+
+    FadingEdge {
         x: field.x - strip.gap - width
-        width: Math.min(contentWidth, strip.width - field.width - strip.gap)
+        width: Math.min(row.width, strip.width - field.width - strip.gap)
         height: parent.height
-        Accessible.role: Accessible.List
-        Accessible.name: "Reminders"
-        orientation: ListView.Horizontal
-        spacing: 14
-        clip: contentWidth > width
-        interactive: contentWidth > width
-        boundsBehavior: Flickable.StopAtBounds
-        model: strip.host.store.reminders
-        onCountChanged: positionViewAtEnd()
+        edge: FadingEdge.Right
+        length: Math.min(26, Math.max(0, row.width - list.contentX - width))
 
-        delegate: Item {
-            id: reminder
+        Flickable {
+            id: list
 
-            required property int index
-            required property string modelData
-
-            function remove() {
-                strip.host.focusControls.removeReminder(index);
+            function show(begin: real, end: real) {
+                contentX = Math.max(end - width, Math.min(contentX, begin));
             }
 
-            objectName: "reminderLine" + index
-            width: text.width + 16
-            height: 24
-            Accessible.role: Accessible.ListItem
-            Accessible.name: modelData
+            anchors.fill: parent
+            Accessible.role: Accessible.List
+            Accessible.name: "Reminders"
+            contentWidth: row.width
+            clip: contentWidth > width
+            interactive: contentWidth > width
+            boundsBehavior: Flickable.StopAtBounds
 
-            Label {
-                id: text
-                y: 4
-                text: reminder.modelData
-                style: Theme.body
-                color: Theme.roundGlyph
-            }
+            Row {
+                id: row
+                spacing: 14
 
-            Pressable {
-                id: cross
-                objectName: "removeReminder"
-                name: "Remove " + reminder.modelData
-                x: parent.width - 13
-                y: 4
-                width: 16
-                height: 16
-                radius: 8
-                rest: Theme.none
-                hover: Theme.none
-                press: Theme.none
-                onClicked: reminder.remove()
+                Repeater {
+                    id: lines
+                    model: strip.host.store.reminders
+                    onItemAdded: Qt.callLater(list.show, row.width, row.width)
 
-                Glyph {
-                    anchors.centerIn: parent
-                    size: 10
-                    symbol: "xmark"
-                    color: cross.hovered ? Theme.text1 : Theme.removeGlyph
+                    delegate: ReminderItem {
+                        objectName: "reminderLine" + index
+                        onReached: list.show(x, x + width)
+                        onRemoved: byKey => strip.remove(index, byKey)
+                        onMenuRequested: place => {
+                            menu.chosen = index;
+                            menu.openAt(mapToItem(menu.parent, place.x, place.y), false, false);
+                        }
+                    }
                 }
             }
 
-            TapHandler {
-                acceptedButtons: Qt.RightButton
-                onTapped: point => {
-                    menu.chosen = reminder.index;
-                    menu.openAt(reminder.mapToItem(menu.parent, point.position), false, false);
+            // A wheel turns what lies sideways.
+            WheelHandler {
+                onWheel: event => {
+                    const step = event.angleDelta.y + event.angleDelta.x;
+                    const end = Math.max(0, list.contentWidth - list.width);
+                    list.contentX = Math.max(0, Math.min(list.contentX - step, end));
                 }
             }
         }
@@ -88,7 +79,8 @@ Item {
 
     Box {
         id: field
-        x: strip.fromLeft ? list.width + strip.gap : strip.width - width
+        x: strip.fromLeft ? Math.min(row.width, strip.width - width - strip.gap) + strip.gap
+                          : strip.width - width
         width: 70
         height: 24
         radius: 12
@@ -108,6 +100,10 @@ Item {
             Accessible.name: "Add a reminder"
             Keys.onReturnPressed: add()
             Keys.onEnterPressed: add()
+            Keys.onEscapePressed: event => {
+                event.accepted = text !== "";
+                clear();
+            }
 
             function add() {
                 if (strip.host.focusControls.addReminder(text)) {

@@ -9,6 +9,8 @@ Item {
     /// How wide it may get.
     required property real room
 
+    readonly property bool keyed: stop.activeFocus
+
     implicitWidth: stop.x + stop.width
     implicitHeight: 32
 

@@ -10,12 +10,21 @@ Item {
     readonly property bool hasTwoRows: width < 820 - 2 * Theme.insetSide
     readonly property real leftRoom: actions.x - 16 - (hasTwoRows ? 0 : 100)
 
+    readonly property bool timing: host.store.timerRunning
+
     implicitHeight: hasTwoRows ? 64 : 32
+    // The keyboard must not stay behind in what is not to be seen any more, nor go to a button that
+    // the next Return would press.
+    onTimingChanged: {
+        if (timing && starting.keyed || !timing && (running.keyed || running.activeFocus)) {
+            (timing ? running : starting).forceActiveFocus();
+        }
+    }
 
     FocusControl {
         id: starting
         objectName: "focusControl"
-        visible: !bar.host.store.timerRunning
+        visible: !bar.timing
         host: bar.host
         room: bar.leftRoom
     }
@@ -23,7 +32,7 @@ Item {
     RunningTimer {
         id: running
         objectName: "runningTimer"
-        visible: bar.host.store.timerRunning
+        visible: bar.timing
         host: bar.host
         room: bar.leftRoom
     }
