@@ -20,7 +20,8 @@ QList<QUrl> Shelf::selectedFiles() const {
 }
 
 std::optional<Shelf> Shelf::added(const QList<QUrl>& urls) const {
-    const QList<QUrl> parked = files();
+    const QList<QUrl> all = files();
+    const QSet<QUrl> parked(all.begin(), all.end());
     QList<QUrl> fresh;
     std::ranges::copy_if(urls, std::back_inserter(fresh),
                          [&](const QUrl& url) { return !parked.contains(url); });
@@ -33,13 +34,13 @@ std::optional<Shelf> Shelf::added(const QList<QUrl>& urls) const {
     return shelf;
 }
 
-Shelf Shelf::removed(const QUrl& url) const {
+Shelf Shelf::removed(const QSet<QUrl>& urls) const {
     Shelf shelf = *this;
     for (QList<QUrl>& stack : shelf.stacks) {
-        stack.removeAll(url);
+        stack.removeIf([&](const QUrl& url) { return urls.contains(url); });
     }
     shelf.stacks.removeIf([](const QList<QUrl>& stack) { return stack.isEmpty(); });
-    shelf.selected.remove(url);
+    shelf.selected.subtract(urls);
     return shelf;
 }
 

@@ -24,8 +24,8 @@ struct Shelf {
     /// are. A file given twice is kept twice.
     [[nodiscard]] std::optional<Shelf> added(const QList<QUrl>& urls) const;
 
-    /// Without the file, wherever it lies, and without stacks that lose their last file by it.
-    [[nodiscard]] Shelf removed(const QUrl& url) const;
+    /// Without the files, wherever they lie, and without stacks that lose their last file by it.
+    [[nodiscard]] Shelf removed(const QSet<QUrl>& urls) const;
 
     /// With all of `stack` selected, or, where it all is already, none of it.
     [[nodiscard]] Shelf stackToggled(const QList<QUrl>& stack) const;

@@ -265,7 +265,11 @@ void Store::addToShelf(const QList<QUrl>& urls) {
 }
 
 void Store::removeFromShelf(const QUrl& url) {
-    setShelf(shelf_.removed(url));
+    setShelf(shelf_.removed({url}));
+}
+
+void Store::removeFromShelf(const QList<QUrl>& urls) {
+    setShelf(shelf_.removed({urls.begin(), urls.end()}));
 }
 
 void Store::toggleSelectStack(const QList<QUrl>& stack) {
@@ -345,8 +349,7 @@ void Store::tell(void (Store::*changed)()) {
 }
 
 void Store::save() {
-    unsaved_ = data_;
-    unsaved_->shelfStacks = paths(shelf_.stacks);
+    unsaved_ = {data_, shelf_.stacks};
     pendingSave_ = services_.scheduler.after(saveDelay, [this] { write(); });
 }
 
@@ -355,12 +358,13 @@ void Store::write() {
     if (!unsaved_) {
         return;
     }
-    auto job = [path = fileURL(), data = std::move(*unsaved_),
-                file = std::exchange(file_, FileState::ours)] {
+    auto job = [path = fileURL(), snapshot = std::move(*unsaved_),
+                file = std::exchange(file_, FileState::ours)]() mutable {
         if (file == FileState::unreadable) {
             setAsideUnreadable(path);
         }
-        (void)writeFileAtomically(path, encodeStore(data));
+        snapshot.data.shelfStacks = paths(snapshot.stacks);
+        (void)writeFileAtomically(path, encodeStore(snapshot.data));
     };
     unsaved_.reset();
     services_.worker.run(std::move(job));

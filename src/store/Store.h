@@ -99,6 +99,7 @@ public:
     /// As the rules of `Shelf` have it; nothing is saved where nothing changes.
     void addToShelf(const QList<QUrl>& urls);
     void removeFromShelf(const QUrl& url);
+    void removeFromShelf(const QList<QUrl>& urls);
     void toggleSelectStack(const QList<QUrl>& stack);
     void clearSelection();
 
@@ -158,6 +159,12 @@ private:
     /// Whether the file on disk is one of ours or has to be kept for the user to look into.
     enum class FileState { ours, unreadable };
 
+    /// What is to be written; the paths of the shelf are made of it when it is.
+    struct Snapshot {
+        StoreData data;
+        QList<QList<QUrl>> stacks;
+    };
+
     void load();
     void addLinkSnippetsIfNeeded();
     void capture(std::function<void()> job, std::function<void()> add,
@@ -177,7 +184,7 @@ private:
     FileState file_ = FileState::ours;
     int capturesOnTheirWay_ = 0;
     int clearings_ = 0; ///< Tells captures from before the last clearing from later ones.
-    std::optional<StoreData> unsaved_;
+    std::optional<Snapshot> unsaved_;
     Handle pendingSave_;
     FocusTimer timer_;
     Handle timerEnd_;
