@@ -90,7 +90,7 @@ SCENES = [
     ]),
     ("reminders", "11e-reminders.html", ".panel", [
         ("reminderQuestion/bubble", ".pop", ALL),
-        ("topBar/reminderStrip/reminderLine0", ".rem .r", ALL),
+        ("topBar/reminderStrip/reminderLine0", ".rem .r", "xw"),
     ]),
     ("power", "11f-shutdown.html", ".panel", [
         ("topBar/actions/nightShift", ".acts .indigo", "ywh"),

@@ -202,7 +202,7 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
             click(window, middle(window, u"minuteChoices/item8"_s));
         }
     } else if (scene == u"reminders" || scene == u"power") {
-        world.store.setReminders({u"Call the framer"_s});
+        world.store.setReminders({u"Call the framer"_s, u"Send estimate"_s});
         world.store.setReminderOpen(true);
         settle(100);
         click(window, middle(window, scene == u"power" ? scene : u"reminderToggle"_s));

@@ -76,7 +76,7 @@ Item {
                 // As it was when it was asked, while the answer fades.
                 reminderQuestion.text = bar.host.store.reminderOpen
                     ? "Hide reminders under the notch?" : "Show reminders under the notch?";
-                reminderQuestion.openLeftUnder(reminders, 14);
+                reminderQuestion.openLeftUnder(reminders, 26);
             }
         }
 
