@@ -58,8 +58,7 @@ void arrive(XServer& server) {
 
 void call(XServer& /*server*/) {
     auto activate = QDBusMessage::createMethodCall(u"org.ravelo.Ravelo"_s, u"/org/ravelo/Ravelo"_s,
-                                                   u"org.freedesktop.Application"_s,
-                                                   u"Activate"_s);
+                                                   u"org.freedesktop.Application"_s, u"Activate"_s);
     activate << QVariantMap();
     QDBusConnection::sessionBus().asyncCall(activate);
 }

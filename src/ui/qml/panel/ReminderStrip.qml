@@ -37,9 +37,15 @@ Item {
                 contentX = Math.max(end - width, Math.min(contentX, begin));
             }
 
+            function showNewest() {
+                contentX = Math.max(0, contentWidth - width);
+            }
+
             anchors.fill: parent
             Accessible.role: Accessible.List
             Accessible.name: "Reminders"
+            onWidthChanged: showNewest()
+            onContentWidthChanged: showNewest()
             contentWidth: row.width
             clip: contentWidth > width
             interactive: contentWidth > width
@@ -52,7 +58,6 @@ Item {
                 Repeater {
                     id: lines
                     model: strip.host.store.reminders
-                    onItemAdded: Qt.callLater(list.show, row.width, row.width)
 
                     delegate: ReminderItem {
                         objectName: "reminderLine" + index
