@@ -161,4 +161,14 @@ Frame WindowWatch::read() {
     return {seen, {shared_, shared_ + panelSize.width * panelSize.height}};
 }
 
+void openByPointer(XServer& server, WindowWatch& window, Place place) {
+    const int16_t middle = static_cast<int16_t>(server.screen().width_in_pixels / 2);
+    server.move({middle, 2});
+    xcb_flush(server.get());
+    window.awaitSize(panelSize);
+    const int left = middle - panelSize.width / 2;
+    server.move({static_cast<int16_t>(left + place.x), place.y});
+    xcb_flush(server.get());
+}
+
 } // namespace ravelo::bench

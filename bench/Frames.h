@@ -51,4 +51,7 @@ private:
     bool drawn_ = false; ///< Drawn on since it was read last.
 };
 
+/// Opens the panel that `window` watches by the pointer, which then goes on to `place` in it.
+void openByPointer(XServer& server, WindowWatch& window, Place place);
+
 } // namespace ravelo::bench

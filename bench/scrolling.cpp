@@ -23,13 +23,7 @@ int main(int argc, char** argv) {
     }
     XServer server;
     WindowWatch window(server, static_cast<xcb_window_t>(std::strtoul(argv[1], nullptr, 10)));
-    const int16_t middle = static_cast<int16_t>(server.screen().width_in_pixels / 2);
-    server.move({middle, 2});
-    xcb_flush(server.get());
-    window.awaitSize(panelSize);
-    const int16_t left = static_cast<int16_t>(middle - panelSize.width / 2);
-    server.move({static_cast<int16_t>(left + inList.x), inList.y});
-    xcb_flush(server.get());
+    openByPointer(server, window, inList);
     while (window.nextFrame(settling)) { // What the opening draws.
     }
     const auto begun = Clock::now();

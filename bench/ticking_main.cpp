@@ -11,8 +11,9 @@
 using namespace ravelo;
 
 int main(int argc, char** argv) {
-    x11::prepareApplication();
+    Handle preparation = x11::prepareApplication();
     const QGuiApplication application(argc, argv);
+    preparation.reset();
     const auto instance = SingleInstance::claim();
     auto display = x11::X11DisplayServer::create();
     if (!instance || !display) {

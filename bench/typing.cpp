@@ -42,12 +42,7 @@ int main(int argc, char** argv) {
     const int process = std::atoi(argv[2]);
     XServer server;
     WindowWatch window(server, static_cast<xcb_window_t>(std::strtoul(argv[1], nullptr, 10)));
-    const int16_t middle = static_cast<int16_t>(server.screen().width_in_pixels / 2);
-    server.move({middle, 2});
-    xcb_flush(server.get());
-    window.awaitSize(panelSize);
-    const int16_t left = static_cast<int16_t>(middle - panelSize.width / 2);
-    server.move({static_cast<int16_t>(left + inSearch.x), inSearch.y});
+    openByPointer(server, window, inSearch);
     server.click();
     xcb_flush(server.get());
     for (int word = 3; word < argc; ++word) {

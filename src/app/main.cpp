@@ -57,8 +57,9 @@ std::optional<int> askElsewhere(const QStringList& request, char** argv) {
 
 int run(const Command& command, char** argv) {
     const auto environment = QProcessEnvironment::systemEnvironment(); // Next, we change our own.
-    x11::prepareApplication();
+    Handle preparation = x11::prepareApplication();
     const QGuiApplication application(nameAlone, argv);
+    preparation.reset();
     QGuiApplication::setApplicationName(u"ravelo"_s);
     QGuiApplication::setApplicationDisplayName(u"Ravelo"_s);
     QGuiApplication::setQuitOnLastWindowClosed(false);

@@ -47,13 +47,18 @@ struct SessionCase {
 
 class PrepareApplicationTest : public testing::TestWithParam<SessionCase> {};
 
-TEST_P(PrepareApplicationTest, ChoosesThePlatform) {
+TEST_P(PrepareApplicationTest, ChoosesThePlatformForItsOwnApplicationOnly) {
     const Variable display("DISPLAY", GetParam().display);
     const Variable platform("QT_QPA_PLATFORM", GetParam().platform);
     const Variable idleTime("QT_QPA_UPDATE_IDLE_TIME", std::nullopt);
-    prepareApplication();
+    Handle preparation = prepareApplication();
     EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), GetParam().chosen);
     EXPECT_EQ(qgetenv("QT_QPA_UPDATE_IDLE_TIME"), "0");
+    EXPECT_TRUE(qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"));
+    preparation.reset();
+    EXPECT_EQ(qEnvironmentVariableIsSet("QT_QPA_PLATFORM"), GetParam().platform.has_value());
+    EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), GetParam().platform.value_or(QByteArray()));
+    EXPECT_FALSE(qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"));
 }
 
 INSTANTIATE_TEST_SUITE_P(

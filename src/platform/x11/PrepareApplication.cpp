@@ -3,6 +3,11 @@
 #include <QByteArray>
 #include <QtGlobal>
 
+#include <initializer_list>
+#include <optional>
+#include <utility>
+#include <vector>
+
 #include <malloc.h>
 
 namespace ravelo::x11 {
@@ -20,18 +25,34 @@ void keepPixels() {
     qputenv("QT_XCB_NO_MITSHM", "1");
 }
 
+/// Sets them again as they are now.
+Handle keptVariables(std::initializer_list<const char*> names) {
+    std::vector<std::pair<const char*, std::optional<QByteArray>>> before;
+    for (const char* name : names) {
+        before.emplace_back(name, qEnvironmentVariableIsSet(name) ? std::optional(qgetenv(name))
+                                                                  : std::nullopt);
+    }
+    return Handle([before] {
+        for (const auto& [name, value] : before) {
+            value ? qputenv(name, *value) : qunsetenv(name);
+        }
+    });
+}
+
 } // namespace
 
-void prepareApplication() {
+Handle prepareApplication() {
+    Handle before = keptVariables({"QT_QPA_PLATFORM", "QT_XCB_NO_MITSHM"});
     // A session may ask for Wayland for all programs; this adapter cannot do with it.
     const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
     if (qEnvironmentVariableIsSet("DISPLAY") &&
         (platform.isEmpty() || platform.startsWith("wayland"))) {
         qputenv("QT_QPA_PLATFORM", "xcb");
     }
-    // Else each frame that is asked for waits 5 ms before it is drawn.
+    // Else each frame that is asked for waits 5 ms before it is drawn. Read with the first frame.
     qputenv("QT_QPA_UPDATE_IDLE_TIME", "0");
     keepPixels();
+    return before;
 }
 
 } // namespace ravelo::x11
