@@ -8,8 +8,10 @@
 namespace ravelo {
 
 /// Gathers the files that come from several sides at a time. Any thread.
-class URLCollector {
-public:
+struct URLCollector {
+    mutable std::mutex lock; ///< Guards `urls`.
+    QList<QUrl> urls;
+
     void add(const QUrl& url) {
         const std::scoped_lock guard(lock);
         urls.append(url);
@@ -20,10 +22,6 @@ public:
         const std::scoped_lock guard(lock);
         return urls;
     }
-
-private:
-    mutable std::mutex lock; ///< Guards `urls`.
-    QList<QUrl> urls;
 };
 
 } // namespace ravelo

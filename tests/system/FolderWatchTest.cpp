@@ -21,8 +21,8 @@ namespace {
 
 namespace fs = std::filesystem;
 
-void write(const fs::path& path) {
-    EXPECT_TRUE(std::ofstream(path) << "something") << path;
+void write(const fs::path& path, const char* contents = "something") {
+    EXPECT_TRUE(std::ofstream(path) << contents) << path;
 }
 
 /// Counts what is told.
@@ -82,7 +82,7 @@ TEST_F(FolderWatchTest, whatIsWholeAndStillThere) {
     start();
     std::ofstream slow(downloads_ / "slow");
     slow << "half" << std::flush;
-    std::ofstream(downloads_ / "placeholder");
+    write(downloads_ / "placeholder", "");
     write(downloads_ / "x.part");
     fs::rename(downloads_ / "x.part", downloads_ / "x");
     write(home_ / "elsewhere");
@@ -142,7 +142,7 @@ TEST_F(FolderWatchTest, moreThanTheKernelKeeps) {
     for (int number = 0; number < most + 1000; ++number) {
         write(downloads_ / std::to_string(number));
     }
-    std::ofstream(downloads_ / "empty");
+    write(downloads_ / "empty", "");
     pollfd waits{follower.descriptor(), POLLIN, 0};
     while (::poll(&waits, 1, 0) > 0) {
         follower.proceed();

@@ -25,7 +25,7 @@ Handle DetachedThreads::run(std::function<void()> job, std::function<void()> don
         job();
         job = nullptr;
         --*running;
-        mainThread->tell([end = std::move(end)] {
+        mainThread->tell([end] {
             if (const auto call = std::exchange(*end, nullptr)) {
                 call();
             }
