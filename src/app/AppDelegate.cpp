@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "app/Commands.h"
+#include "app/ShelfServices.h"
 #include "base/Files.h"
 #include "clipboard/ClipboardManager.h"
 #include "panel/NotchController.h"
@@ -72,7 +73,8 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       transfers_(std::make_unique<FileTransferPortal>(sessionBus())),
       sound_(std::make_unique<ThemeSound>()),
       nightShift_(std::make_unique<NightShiftScript>(environment)),
-      shutDown_(std::make_unique<LoginShutDown>(systemBus())) {}
+      shutDown_(std::make_unique<LoginShutDown>(systemBus())),
+      shelf_(std::make_unique<ShelfServices>(*scheduler_, display_.icons())) {}
 
 AppDelegate::~AppDelegate() {
     flush();
@@ -111,7 +113,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                                   {&display_.lock(), loginSession_.get(), screenSaver_.get()}},
         rest_);
     view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_,
-                 *nightShift_, *shutDown_},
+                 *nightShift_, *shutDown_,
+                 shelf_->received, shelf_->nearby, shelf_->jobs, shelf_->opener, shelf_->icons},
                 QLocale());
     const auto quit = [] {
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);

@@ -29,6 +29,7 @@ class Preferences;
 class Scheduler;
 class SessionLock;
 class ShutDown;
+struct ShelfServices;
 class Store;
 class Worker;
 
@@ -68,6 +69,8 @@ private:
     std::unique_ptr<AlertSound> sound_;
     std::unique_ptr<NightShift> nightShift_;
     std::unique_ptr<ShutDown> shutDown_;
+
+    std::unique_ptr<ShelfServices> shelf_;
 
     std::unique_ptr<Store> store_;
     std::unique_ptr<AppSettings> settings_;

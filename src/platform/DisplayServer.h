@@ -2,6 +2,7 @@
 
 #include "platform/DragMonitor.h"
 #include "platform/EdgeBarrier.h"
+#include "platform/IconPreference.h"
 #include "platform/MotionPreference.h"
 #include "platform/PanelWindow.h"
 #include "platform/Pasteboard.h"
@@ -31,6 +32,7 @@ public:
     [[nodiscard]] virtual SessionLock& lock() = 0;
 
     [[nodiscard]] virtual MotionPreference& motion() = 0;
+    [[nodiscard]] virtual IconPreference& icons() = 0;
 
     /// Makes the panel out of `window`, which must not have been shown yet and must outlive it.
     [[nodiscard]] virtual std::unique_ptr<PanelWindow> panelWindow(QWindow& window) = 0;

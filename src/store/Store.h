@@ -101,7 +101,7 @@ public:
     void removeFromShelf(const QUrl& url);
     void removeFromShelf(const QList<QUrl>& urls);
     void toggleSelectStack(const QList<QUrl>& stack);
-    void clearSelection();
+    Q_INVOKABLE void clearSelection();
 
     /// Goes up whenever the shelf is to be shown.
     [[nodiscard]] int shelfRequestTick() const { return shelfRequestTick_; }

@@ -1,4 +1,5 @@
 #include "live/support/Clients.h"
+#include "platform/x11/X11IconPreference.h"
 #include "platform/x11/X11MotionPreference.h"
 #include "platform/x11/XSettings.h"
 
@@ -19,12 +20,14 @@ TEST(MotionPreference, followsTheDesktopsSettingsManager) {
     const auto write = [&](const QByteArray& value) {
         config.resize(0);
         config.seek(0);
-        config.write("Net/ThemeName \"Adwaita\"\nGtk/EnableAnimations " + value + "\n");
+        config.write("Net/IconThemeName \"Papirus\"\nGtk/EnableAnimations " + value + "\n");
         config.flush();
     };
     const auto connection = std::move(Connection::create().value());
     Events events(*connection);
-    X11MotionPreference motion(*connection, events);
+    SettingsManager settings(*connection, events);
+    const X11IconPreference icons(settings);
+    X11MotionPreference motion(settings);
     EXPECT_FALSE(motion.isReduced()) << "nobody has asked for it";
     int calls = 0;
     const Handle listening = motion.onChange([&] { ++calls; });
@@ -33,18 +36,25 @@ TEST(MotionPreference, followsTheDesktopsSettingsManager) {
     auto manager =
         std::make_unique<live::Client>(u"xsettingsd"_s, QStringList{u"-c"_s, config.fileName()});
     EXPECT_TRUE(eventually([&] { return motion.isReduced(); })) << "a manager came";
+    EXPECT_EQ(icons.theme(), u"Papirus"_s);
+    // It may have to be told more than once: it reads its signals only when it is up.
+    const auto becomes = [&](bool reduced) {
+        return eventually([&] {
+            kill(static_cast<pid_t>(manager->processId()), SIGHUP);
+            return motion.isReduced() == reduced;
+        });
+    };
     write("1");
-    kill(static_cast<pid_t>(manager->processId()), SIGHUP);
-    EXPECT_TRUE(eventually([&] { return !motion.isReduced(); })) << "the user changed it";
+    EXPECT_TRUE(becomes(false)) << "the user changed it";
     write("0");
-    kill(static_cast<pid_t>(manager->processId()), SIGHUP);
-    EXPECT_TRUE(eventually([&] { return motion.isReduced(); })) << "and changed it back";
+    EXPECT_TRUE(becomes(true)) << "and changed it back";
     manager.reset();
     EXPECT_TRUE(eventually([&] { return !motion.isReduced(); })) << "the manager went";
+    EXPECT_EQ(icons.theme(), QString());
     EXPECT_EQ(calls, 4);
 }
 
-TEST(XSettings, findsAnIntegerInWholePropertiesOnly) {
+TEST(XSettings, findsValuesInWholePropertiesOnly) {
     const QByteArray property = QByteArray::fromHex("00000000"
                                                     "07000000"
                                                     "03000000"
@@ -67,10 +77,13 @@ TEST(XSettings, findsAnIntegerInWholePropertiesOnly) {
     EXPECT_EQ(xsettingsInteger(property, "Numb"), 42);
     EXPECT_EQ(xsettingsInteger(property, "Abc"), std::nullopt) << "a string";
     EXPECT_EQ(xsettingsInteger(property, "Other"), std::nullopt);
+    EXPECT_EQ(xsettingsString(property, "Abc"), "hello");
+    EXPECT_EQ(xsettingsString(property, "Numb"), std::nullopt) << "an integer";
     for (qsizetype length = 0; length < property.size(); ++length) {
         EXPECT_EQ(xsettingsInteger(property.first(length), "Numb"), std::nullopt)
             << "the first " << length << " bytes of it";
     }
+    EXPECT_EQ(xsettingsString(property.first(32), "Abc"), std::nullopt) << "its last letter";
     EXPECT_EQ(xsettingsInteger(QByteArray(64, '\xff'), "Numb"), std::nullopt);
 }
 

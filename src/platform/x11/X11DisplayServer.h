@@ -5,8 +5,10 @@
 #include "platform/x11/Listener.h"
 #include "platform/x11/ManagerSelection.h"
 #include "platform/x11/ScreenSaverStatus.h"
+#include "platform/x11/SettingsManager.h"
 #include "platform/x11/X11DragMonitor.h"
 #include "platform/x11/X11EdgeBarrier.h"
+#include "platform/x11/X11IconPreference.h"
 #include "platform/x11/X11MotionPreference.h"
 #include "platform/x11/X11Pasteboard.h"
 #include "platform/x11/X11Pointer.h"
@@ -35,6 +37,8 @@ public:
 
     [[nodiscard]] MotionPreference& motion() override { return motion_; }
 
+    [[nodiscard]] IconPreference& icons() override { return icons_; }
+
     [[nodiscard]] std::unique_ptr<PanelWindow> panelWindow(QWindow& window) override;
 
 private:
@@ -44,7 +48,9 @@ private:
     Events events_;
     X11Screens screens_;
     ManagerSelection compositor_;
+    SettingsManager settings_;
     X11MotionPreference motion_;
+    X11IconPreference icons_;
     ScreenSaverStatus screenSaver_;
     X11EdgeBarrier barrier_;
     std::unique_ptr<Listener> listener_;

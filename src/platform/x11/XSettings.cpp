@@ -4,6 +4,9 @@
 #include <QDataStream>
 #include <QIODevice>
 
+#include <algorithm>
+#include <utility>
+
 namespace ravelo::x11 {
 
 namespace {
@@ -45,9 +48,10 @@ void skipValue(QDataStream& in, quint8 type) {
     in.device()->seek(end);
 }
 
-} // namespace
-
-std::optional<int32_t> xsettingsInteger(QByteArrayView property, QByteArrayView name) {
+/// Calls `read` at the value of that name and type.
+template <typename Read>
+auto find(QByteArrayView property, QByteArrayView name, Type type, Read read)
+    -> std::optional<decltype(read(std::declval<QDataStream&>()))> {
     QDataStream in(property.toByteArray());
     quint8 bigEndian = 0;
     quint32 settings = 0;
@@ -57,14 +61,36 @@ std::optional<int32_t> xsettingsInteger(QByteArrayView property, QByteArrayView 
     in >> settings;
     for (; settings > 0 && in.status() == QDataStream::Ok; --settings) {
         const Setting setting = readSetting(in);
-        if (setting.name == name && setting.type == integer) {
-            qint32 value = 0;
-            in >> value;
+        if (setting.name == name && setting.type == type) {
+            auto value = read(in);
             return in.status() == QDataStream::Ok ? std::optional(value) : std::nullopt;
         }
         skipValue(in, setting.type);
     }
     return std::nullopt;
+}
+
+} // namespace
+
+std::optional<int32_t> xsettingsInteger(QByteArrayView property, QByteArrayView name) {
+    return find(property, name, integer, [](QDataStream& in) {
+        qint32 value = 0;
+        in >> value;
+        return value;
+    });
+}
+
+std::optional<QByteArray> xsettingsString(QByteArrayView property, QByteArrayView name) {
+    return find(property, name, string, [](QDataStream& in) {
+        quint32 length = 0;
+        in >> length;
+        const QByteArray value =
+            in.device()->read(std::min<qint64>(length, in.device()->bytesAvailable()));
+        if (value.size() != length) {
+            in.setStatus(QDataStream::ReadPastEnd);
+        }
+        return value;
+    });
 }
 
 } // namespace ravelo::x11

@@ -1,13 +1,16 @@
 #pragma once
 
+#include <QByteArray>
 #include <QByteArrayView>
 
 #include <optional>
 
 namespace ravelo::x11 {
 
-/// The integer of this name in the property `_XSETTINGS_SETTINGS` (XSETTINGS 0.5); nothing where
-/// there is none or the property ends before it.
+// The value of this name and kind in the property `_XSETTINGS_SETTINGS` (XSETTINGS 0.5); nothing
+// where there is none or the property ends before it.
 [[nodiscard]] std::optional<int32_t> xsettingsInteger(QByteArrayView property, QByteArrayView name);
+[[nodiscard]] std::optional<QByteArray> xsettingsString(QByteArrayView property,
+                                                        QByteArrayView name);
 
 } // namespace ravelo::x11

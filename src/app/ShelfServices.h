@@ -1,0 +1,35 @@
+#pragma once
+
+#include "base/Handle.h"
+#include "platform/freedesktop/DesktopFileOpener.h"
+#include "platform/freedesktop/IconTheme.h"
+#include "platform/freedesktop/KdeConnect.h"
+#include "platform/system/DetachedThreads.h"
+#include "platform/system/InotifyFolderWatch.h"
+#include "platform/system/SystemPrograms.h"
+#include "shelf/NearbySend.h"
+#include "shelf/ReceivedWatcher.h"
+
+#include <memory>
+
+namespace ravelo {
+
+class IconPreference;
+
+/// What the shelf's tab works with, made of this system's parts. Main thread.
+struct ShelfServices {
+    /// Both must outlive it.
+    ShelfServices(Scheduler& scheduler, IconPreference& preference);
+
+    DetachedThreads jobs;
+    SystemPrograms programs{jobs};
+    KdeConnect devices;
+    InotifyFolderWatch folders;
+    DesktopFileOpener opener;
+    std::shared_ptr<IconTheme> icons; ///< Pictures may still be made when all else is gone.
+    ReceivedWatcher received;
+    NearbySend nearby;
+    Handle themeChange;
+};
+
+} // namespace ravelo

@@ -1,0 +1,22 @@
+#pragma once
+
+#include "base/Handle.h"
+
+#include <QString>
+
+#include <functional>
+
+namespace ravelo {
+
+/// Which icons the user has chosen for the desktop. Main thread.
+class IconPreference {
+public:
+    virtual ~IconPreference() = default;
+
+    /// Name of an icon theme; empty where the desktop does not tell.
+    [[nodiscard]] virtual QString theme() const = 0;
+
+    [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
+};
+
+} // namespace ravelo

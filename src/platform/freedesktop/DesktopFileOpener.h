@@ -1,0 +1,32 @@
+#pragma once
+
+#include "base/Handle.h"
+#include "platform/FileOpener.h"
+
+#include <QDBusConnection>
+#include <QList>
+#include <QObject>
+
+namespace ravelo {
+
+class Programs;
+
+/// xdg-open, and for a file among others the file manager that answers on the session bus
+/// (org.freedesktop.FileManager1).
+class DesktopFileOpener final : public QObject, public FileOpener {
+    Q_OBJECT
+
+public:
+    /// `programs` must outlive it.
+    DesktopFileOpener(QDBusConnection bus, Programs& programs);
+
+    void open(const QUrl& file) override;
+    void showInFolder(const QUrl& file) override;
+
+private:
+    QDBusConnection bus_;
+    Programs& programs_;
+    Handle looking_;
+};
+
+} // namespace ravelo

@@ -1,0 +1,171 @@
+#include "platform/freedesktop/IconTheme.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QImageReader>
+#include <QSettings>
+#include <QStandardPaths>
+
+#include <algorithm>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto fallback = u"hicolor"_s;
+constexpr int mostThemes = 16; ///< Themes may inherit from each other in a circle.
+
+/// A folder of a theme, with icons of one size in device pixels, or of a range of them.
+struct Directory {
+    QString path;
+    int least = 0;
+    int most = 0;
+
+    /// The nearest has the smallest; what has to be made larger looks worst.
+    [[nodiscard]] int distance(int size) const {
+        constexpr int enlarged = 10000;
+        return size < least ? least - size : size > most ? enlarged + size - most : 0;
+    }
+};
+
+Directory directory(QSettings& index, const QString& folder, const QString& name) {
+    index.beginGroup(name);
+    const int scale = std::max(1, index.value("Scale"_L1, 1).toInt());
+    const int size = index.value("Size"_L1).toInt();
+    Directory found{folder + u'/' + name, size * scale, size * scale};
+    if (index.value("Type"_L1).toString() == "Scalable"_L1) {
+        found.least = index.value("MinSize"_L1, size).toInt() * scale;
+        found.most = index.value("MaxSize"_L1, size).toInt() * scale;
+    }
+    const QString context = index.value("Context"_L1).toString().toLower();
+    index.endGroup();
+    const bool ofFiles = context == "mimetypes"_L1 || context == "places"_L1;
+    return ofFiles ? found : Directory();
+}
+
+QStringList endings() {
+    QStringList all{u".png"_s};
+    if (QImageReader::supportedImageFormats().contains("svg")) {
+        all.append(u".svg"_s);
+    }
+    return all;
+}
+
+} // namespace
+
+struct IconTheme::Theme {
+    QList<Directory> directories;
+    QStringList parents;
+
+    [[nodiscard]] QString find(const QString& icon, int size) const {
+        QList<const Directory*> nearest;
+        for (const Directory& one : directories) {
+            nearest.append(&one);
+        }
+        std::ranges::stable_sort(nearest, {}, [size](auto one) { return one->distance(size); });
+        static const QStringList all = endings();
+        for (const Directory* one : nearest) {
+            for (const QString& ending : all) {
+                if (const QString path = one->path + u'/' + icon + ending;
+                    QFileInfo::exists(path)) {
+                    return path;
+                }
+            }
+        }
+        return {};
+    }
+};
+
+IconTheme::IconTheme(QStringList folders) : folders_(std::move(folders)) {}
+
+IconTheme::~IconTheme() = default;
+
+QStringList IconTheme::usualFolders() {
+    QStringList folders{QDir::homePath() + u"/.icons"_s};
+    for (const QString& data :
+         QStandardPaths::standardLocations(QStandardPaths::GenericDataLocation)) {
+        folders.append(data + u"/icons"_s);
+    }
+    return folders;
+}
+
+void IconTheme::setName(const QString& name) {
+    const std::lock_guard lock(mutex_);
+    if (std::exchange(name_, name) != name) {
+        chain_.reset();
+    }
+}
+
+QString IconTheme::find(const QStringList& names, int size) const {
+    for (const Theme& theme : *chain()) {
+        for (const QString& icon : names) {
+            if (const QString path = theme.find(icon, size); !path.isEmpty()) {
+                return path;
+            }
+        }
+    }
+    return {};
+}
+
+std::shared_ptr<const QList<IconTheme::Theme>> IconTheme::chain() const {
+    QString name;
+    {
+        const std::lock_guard lock(mutex_);
+        if (chain_) {
+            return chain_;
+        }
+        name = name_;
+    }
+    auto chain = std::make_shared<QList<Theme>>();
+    QStringList wanted{name, fallback};
+    for (int i = 0; i < wanted.size() && i < mostThemes; ++i) {
+        const Theme& theme = chain->emplace_back(load(wanted[i]));
+        for (const QString& parent : theme.parents) {
+            if (!wanted.contains(parent)) {
+                wanted.insert(wanted.size() - 1, parent); // Before the one that is the last.
+            }
+        }
+    }
+    const std::lock_guard lock(mutex_);
+    if (name == name_) {
+        chain_ = chain;
+    }
+    return chain;
+}
+
+/// What all folders have of a theme; the first that has a description has the say.
+IconTheme::Theme IconTheme::load(const QString& name) const {
+    Theme theme;
+    if (name.isEmpty() || name.contains(u'/')) {
+        return theme;
+    }
+    QStringList homes;
+    QString description;
+    for (const QString& folder : folders_) {
+        const QString home = folder + u'/' + name;
+        if (QFileInfo(home).isDir()) {
+            homes.append(home);
+        }
+        if (const QString file = home + u"/index.theme"_s;
+            description.isEmpty() && QFileInfo::exists(file)) {
+            description = file;
+        }
+    }
+    QSettings index(description, QSettings::IniFormat);
+    theme.parents = index.value("Icon Theme/Inherits"_L1).toStringList();
+    const QStringList names = index.value("Icon Theme/Directories"_L1).toStringList() +
+                              index.value("Icon Theme/ScaledDirectories"_L1).toStringList();
+    for (const QString& home : homes) {
+        for (const QString& one : names) {
+            if (const Directory found = directory(index, home, one); !found.path.isEmpty()) {
+                theme.directories.append(found);
+            }
+        }
+    }
+    return theme;
+}
+
+} // namespace ravelo

@@ -1,0 +1,22 @@
+#include "platform/x11/X11IconPreference.h"
+
+#include "platform/x11/XSettings.h"
+
+#include <utility>
+
+namespace ravelo::x11 {
+
+X11IconPreference::X11IconPreference(SettingsManager& manager)
+    : manager_(manager), changes_(manager.onChange([this] { look(); })) {
+    look();
+}
+
+void X11IconPreference::look() {
+    const QString theme = QString::fromUtf8(
+        xsettingsString(manager_.settings(), "Net/IconThemeName").value_or(QByteArray()));
+    if (std::exchange(theme_, theme) != theme) {
+        listeners_.notify();
+    }
+}
+
+} // namespace ravelo::x11

@@ -1,0 +1,70 @@
+#include "platform/freedesktop/DesktopFileOpener.h"
+#include "PrivateBus.h"
+#include "StandIn.h"
+#include "fakes/FakeNearby.h"
+#include "fakes/ManualScheduler.h"
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+enum class Manager { answers, refuses, none, noBus };
+
+struct ShowCase {
+    const char* name;
+    Manager manager;
+    bool opensFolder;
+};
+
+class ShowInFolder : public testing::TestWithParam<ShowCase> {};
+
+TEST_P(ShowInFolder, asksTheFileManagerOrOpensTheFolder) {
+    PrivateBus bus;
+    QDBusConnection service = bus.connect(u"service"_s);
+    QVariantList asked;
+    StandIn manager([&](const QDBusMessage& call) -> std::optional<QVariant> {
+        asked = call.arguments();
+        if (GetParam().manager == Manager::answers) {
+            return QVariant();
+        }
+        service.send(call.createErrorReply(QDBusError::Failed, u"not today"_s));
+        return std::nullopt;
+    });
+    if (GetParam().manager == Manager::answers || GetParam().manager == Manager::refuses) {
+        manager.serve(service, u"org.freedesktop.FileManager1"_s);
+    }
+    ManualScheduler scheduler;
+    FakePrograms programs(scheduler);
+    programs.installed = {u"xdg-open"_s};
+    DesktopFileOpener opener(GetParam().manager == Manager::noBus
+                                 ? QDBusConnection(u"there is none"_s)
+                                 : bus.connect(u"ours"_s),
+                             programs);
+    opener.showInFolder(QUrl(u"file:///home/some%20one/a%20%C3%BC.txt"_s));
+    const bool served = !GetParam().opensFolder;
+    EXPECT_TRUE(eventually([&] {
+        scheduler.advance(Seconds(0.01));
+        return served ? !asked.isEmpty() : !programs.started.isEmpty();
+    }));
+    if (served) {
+        EXPECT_EQ(asked, (QVariantList{QStringList{u"file:///home/some%20one/a%20%C3%BC.txt"_s},
+                                       QString()}));
+        EXPECT_TRUE(programs.started.isEmpty());
+    } else {
+        EXPECT_EQ(programs.started,
+                  (QList<QList<QByteArray>>{{"/usr/bin/xdg-open", "/home/some one/"}}));
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ShowInFolder,
+                         testing::Values(ShowCase{"answers", Manager::answers, false},
+                                         ShowCase{"refuses", Manager::refuses, true},
+                                         ShowCase{"none", Manager::none, true},
+                                         ShowCase{"noBus", Manager::noBus, true}),
+                         [](const auto& row) { return row.param.name; });
+
+} // namespace
+
+} // namespace ravelo
