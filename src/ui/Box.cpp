@@ -14,6 +14,7 @@ struct BoxLook {
     QColor lineColor;
     double radius = 0;
     double lineWidth = 0;
+    double dash = 0;
 };
 
 class BoxNode final : public PaintNode {
@@ -35,7 +36,7 @@ protected:
         }
         if (look_.lineWidth > 0 && look_.lineColor.alpha() > 0) {
             const double half = look_.lineWidth / 2;
-            painter.setPen(QPen(look_.lineColor, look_.lineWidth));
+            painter.setPen(pen());
             painter.setBrush(Qt::NoBrush);
             painter.drawRoundedRect(rect().adjusted(half, half, -half, -half), radius - half,
                                     radius - half);
@@ -43,6 +44,15 @@ protected:
     }
 
 private:
+    [[nodiscard]] QPen pen() const {
+        QPen pen(look_.lineColor, look_.lineWidth);
+        if (look_.dash > 0) {
+            pen.setDashPattern({look_.dash / look_.lineWidth, look_.dash / look_.lineWidth});
+            pen.setCapStyle(Qt::RoundCap);
+        }
+        return pen;
+    }
+
     [[nodiscard]] QBrush fill() const {
         if (!look_.endColor.isValid()) {
             return look_.color;
@@ -65,7 +75,7 @@ Box::Box(QQuickItem* parent) : QQuickItem(parent) {
 
 QSGNode* Box::updatePaintNode(QSGNode* old, UpdatePaintNodeData* /*data*/) {
     auto* node = old == nullptr ? new BoxNode(window()) : static_cast<BoxNode*>(old);
-    node->set(boundingRect(), {color_, endColor_, lineColor_, radius_, lineWidth_});
+    node->set(boundingRect(), {color_, endColor_, lineColor_, radius_, lineWidth_, dash_});
     return node;
 }
 

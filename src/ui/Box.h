@@ -15,6 +15,8 @@ class Box : public QQuickItem {
     Q_PROPERTY(double radius MEMBER radius_ NOTIFY changed)
     Q_PROPERTY(QColor lineColor MEMBER lineColor_ NOTIFY changed)
     Q_PROPERTY(double lineWidth MEMBER lineWidth_ NOTIFY changed)
+    /// Length of the dashes of the outline and of the gaps between them; 0 where it is whole.
+    Q_PROPERTY(double dash MEMBER dash_ NOTIFY changed)
 
 public:
     explicit Box(QQuickItem* parent = nullptr);
@@ -31,6 +33,7 @@ private:
     QColor lineColor_ = Qt::transparent;
     double radius_ = 0;
     double lineWidth_ = 0;
+    double dash_ = 0;
 };
 
 } // namespace ravelo

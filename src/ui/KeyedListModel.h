@@ -3,7 +3,6 @@
 #include <QAbstractListModel>
 #include <QList>
 #include <QSet>
-#include <QUuid>
 
 #include <algorithm>
 
@@ -38,7 +37,7 @@ protected:
     }
 
 private:
-    using Ids = QSet<QUuid>;
+    using Ids = QSet<decltype(Record::id)>;
 
     static Ids idsOf(const QList<Record>& records) {
         Ids ids;

@@ -130,7 +130,8 @@ void Label::measure() {
 
 std::shared_ptr<const GlyphLine> Label::elided() const {
     const QFont font = style_->font();
-    const QString shown = QFontMetricsF(font).elidedText(text_, Qt::ElideRight, width());
+    const Qt::TextElideMode mode = keepsEnd_ ? Qt::ElideMiddle : Qt::ElideRight;
+    const QString shown = QFontMetricsF(font).elidedText(text_, mode, width());
     return std::make_shared<const GlyphLine>(proportional(shown, font));
 }
 

@@ -23,6 +23,8 @@ class Label : public QQuickItem {
     Q_PROPERTY(ravelo::TextStyle* style READ style WRITE setStyle NOTIFY contentChanged)
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY colorChanged)
     Q_PROPERTY(bool centred MEMBER centred_ NOTIFY contentChanged)
+    /// What is left out where it is too narrow is its middle, not its end.
+    Q_PROPERTY(bool keepsEnd MEMBER keepsEnd_ NOTIFY contentChanged)
     /// All digits as wide as "0", so that the text does not tremble as it counts. (Qt 6.4 cannot
     /// ask a font for its tabular digits.)
     Q_PROPERTY(bool tabular MEMBER tabular_ NOTIFY contentChanged)
@@ -51,6 +53,7 @@ private:
     TextStyle* style_ = nullptr; ///< The theme's, which outlives every label.
     QColor color_ = Qt::white;
     bool centred_ = false;
+    bool keepsEnd_ = false;
     bool tabular_ = false;
     std::shared_ptr<const GlyphLine> natural_; ///< As wide as it wants to be.
     bool glyphsAreStale_ = true;

@@ -1,6 +1,7 @@
 #include "ui/PanelHost.h"
 
 #include "panel/NotchGeometry.h"
+#include "platform/FileOpener.h"
 #include "platform/NightShift.h"
 #include "platform/ShutDown.h"
 
@@ -32,6 +33,11 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       focusControls_(subjects.store, subjects.preferences),
       pasting_(subjects.pasteboard),
       toast_(subjects.scheduler),
+      shelf_(subjects.store, subjects.jobs),
+      received_(subjects.received, subjects.scheduler, locale),
+      sending_(subjects.nearby, toast_),
+      fileDrag_(subjects.jobs, subjects.icons),
+      shelfRequestsSeen_(subjects.store.shelfRequestTick()),
       timerFace_(subjects.store, subjects.scheduler),
       contentSize_(sizeToOpenWith()) {
     connect(controller(), &NotchController::isOpenChanged, this, &PanelHost::follow);
@@ -109,6 +115,20 @@ void PanelHost::openLink(const QUuid& id) {
     }
 }
 
+void PanelHost::openFile(const QUrl& file) {
+    subjects_.opener.open(file);
+    controller()->dismiss();
+}
+
+void PanelHost::showInFolder(const QUrl& file) {
+    subjects_.opener.showInFolder(file);
+    controller()->dismiss();
+}
+
+bool PanelHost::shelfRequested() const {
+    return store()->shelfRequestTick() != shelfRequestsSeen_;
+}
+
 void PanelHost::copySnippet(const QUuid& id) {
     if (const Snippet* snippet = findById(store()->snippets(), id)) {
         controller()->copy(snippet->body);
@@ -129,6 +149,8 @@ void PanelHost::follow() {
         building_.reset();
         setContentSize(controller()->frame().size());
         clips_.refreshDates();
+        received_.refreshDates();
+        shelf_.lookForMissing();
         tellUsage();
         setHasContent(true);
     } else {
@@ -138,6 +160,7 @@ void PanelHost::follow() {
 
 void PanelHost::startAnew() {
     setHasContent(false);
+    shelfRequestsSeen_ = store()->shelfRequestTick();
     toast_.reset();
     clips_.setSearch({});
     snippets_.setSearch({});

@@ -5,9 +5,13 @@
 #include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "ui/ClipListModel.h"
+#include "ui/FileDrag.h"
 #include "ui/FocusControls.h"
 #include "ui/PanelBackground.h"
 #include "ui/Pasting.h"
+#include "ui/ReceivedModel.h"
+#include "ui/Sending.h"
+#include "ui/ShelfContents.h"
 #include "ui/SnippetEditor.h"
 #include "ui/SnippetListModel.h"
 #include "ui/TimerFace.h"
@@ -20,6 +24,7 @@
 
 namespace ravelo {
 
+class FileOpener;
 class NightShift;
 class Pasteboard;
 class ShutDown;
@@ -38,6 +43,11 @@ class PanelHost : public QObject {
     Q_PROPERTY(ravelo::SnippetEditor* snippetEditor READ snippetEditor CONSTANT)
     Q_PROPERTY(ravelo::FocusControls* focusControls READ focusControls CONSTANT)
     Q_PROPERTY(ravelo::Pasting* pasting READ pasting CONSTANT)
+    Q_PROPERTY(ravelo::ShelfContents* shelf READ shelf CONSTANT)
+    Q_PROPERTY(ravelo::ReceivedModel* received READ received CONSTANT)
+    Q_PROPERTY(ravelo::Sending* sending READ sending CONSTANT)
+    Q_PROPERTY(ravelo::FileDrag* fileDrag READ fileDrag CONSTANT)
+    Q_PROPERTY(bool shelfRequested READ shelfRequested CONSTANT)
     Q_PROPERTY(ravelo::Toast* toast READ toast CONSTANT)
     Q_PROPERTY(ravelo::TimerFace* timerFace READ timerFace CONSTANT)
     Q_PROPERTY(bool hasContent READ hasContent NOTIFY hasContentChanged)
@@ -59,6 +69,11 @@ public:
         Preferences& preferences;
         NightShift& nightShift;
         ShutDown& shutDown;
+        ReceivedWatcher& received;
+        NearbySend& nearby;
+        DetachedJobs& jobs;
+        FileOpener& opener;
+        std::shared_ptr<const FileIcons> icons;
     };
 
     PanelHost(Subjects subjects, const QLocale& locale);
@@ -78,6 +93,17 @@ public:
     [[nodiscard]] FocusControls* focusControls() { return &focusControls_; }
 
     [[nodiscard]] Pasting* pasting() { return &pasting_; }
+
+    [[nodiscard]] ShelfContents* shelf() { return &shelf_; }
+
+    [[nodiscard]] ReceivedModel* received() { return &received_; }
+
+    [[nodiscard]] Sending* sending() { return &sending_; }
+
+    [[nodiscard]] FileDrag* fileDrag() { return &fileDrag_; }
+
+    /// The panel opens, or is about to, because the shelf is to be shown.
+    [[nodiscard]] bool shelfRequested() const;
 
     [[nodiscard]] Toast* toast() { return &toast_; }
 
@@ -127,6 +153,10 @@ public:
     /// Of the computer.
     Q_INVOKABLE void shutDown();
 
+    /// Closes the panel too.
+    Q_INVOKABLE void openFile(const QUrl& file);
+    Q_INVOKABLE void showInFolder(const QUrl& file);
+
 Q_SIGNALS:
     void hasContentChanged();
     void contentSizeChanged();
@@ -152,6 +182,11 @@ private:
     FocusControls focusControls_;
     Pasting pasting_;
     Toast toast_;
+    ShelfContents shelf_;
+    ReceivedModel received_;
+    Sending sending_;
+    FileDrag fileDrag_;
+    int shelfRequestsSeen_;
     TimerFace timerFace_;
     bool hasContent_ = false;
     QSizeF contentSize_;

@@ -1,8 +1,11 @@
 #include "ui/PanelView.h"
 
+#include "ui/FileThumb.h"
 #include "ui/Fonts.h"
 #include "ui/ThumbnailProvider.h"
 
+#include <QDir>
+#include <QFileInfo>
 #include <QQmlEngine>
 
 // Made by the build from the QML module. Named here, or the linker would leave them out.
@@ -29,6 +32,22 @@ QWindow* chooseRenderer() {
     return nullptr;
 }
 
+/// "<radius in device pixels>/<file name>": names lead nowhere but into `folder`.
+QQuickImageProvider* clipThumbs(const QDir& folder) {
+    return new ThumbnailProvider([folder](const QString& name, QSize size) {
+        const double radius = name.section(u'/', 0, 0).toDouble();
+        const QString file = QFileInfo(name.section(u'/', 1)).fileName();
+        return thumbnail(folder.filePath(file), size, radius);
+    });
+}
+
+/// As `fileThumbAddress` has it, asked for as wide as the widest is.
+QQuickImageProvider* fileThumbs(const std::shared_ptr<const FileIcons>& icons) {
+    return new ThumbnailProvider([icons](const QString& name, QSize size) {
+        return fileThumb(fileOfThumb(name), size.width() / widestThumb, *icons);
+    });
+}
+
 } // namespace
 
 PanelView::PanelView() : view_(chooseRenderer()) {
@@ -50,7 +69,8 @@ void PanelView::load(PanelHost::Subjects subjects, const QLocale& locale) {
     };
     QObject::connect(&view_, &QWindow::widthChanged, host_.get(), resized);
     QObject::connect(&view_, &QWindow::heightChanged, host_.get(), resized);
-    view_.engine()->addImageProvider(u"thumb"_s, new ThumbnailProvider(subjects.store.clipsDir()));
+    view_.engine()->addImageProvider(u"thumb"_s, clipThumbs(subjects.store.clipsDir()));
+    view_.engine()->addImageProvider(u"file"_s, fileThumbs(subjects.icons));
     view_.setInitialProperties({{u"host"_s, QVariant::fromValue(host_.get())}});
     view_.setSource(QUrl(u"qrc:/Ravelo/qml/panel/Panel.qml"_s));
 }

@@ -1,9 +1,10 @@
 #include "ui/ThumbnailProvider.h"
 
-#include <QFileInfo>
 #include <QImageReader>
 #include <QPainter>
-#include <QPainterPath>
+
+#include <atomic>
+#include <memory>
 
 namespace ravelo {
 
@@ -16,6 +17,10 @@ public:
         return QQuickTextureFactory::textureFactoryForImage(image_);
     }
 
+    void cancel() override { wanted_ = false; }
+
+    [[nodiscard]] bool isWanted() const { return wanted_; }
+
     void finish(const QImage& image) {
         image_ = image;
         Q_EMIT finished();
@@ -23,24 +28,18 @@ public:
 
 private:
     QImage image_;
+    std::atomic<bool> wanted_ = true;
 };
 
-} // namespace
+bool isTurned(const QImageReader& reader) {
+    return reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
+}
 
-QImage thumbnail(const QString& path, QSize size, double radius) {
-    QImageReader reader(path);
-    const QSize natural = reader.size();
-    if (natural.isEmpty() || size.isEmpty()) {
-        return {};
-    }
-    // The part that shows is cut out first: scaling all of a very long picture would fill the
-    // memory.
-    const QSize part = size.scaled(natural, Qt::KeepAspectRatio).expandedTo({1, 1});
-    const QPoint corner((natural.width() - part.width()) / 2,
-                        (natural.height() - part.height()) / 2);
-    reader.setClipRect(QRect(corner, part));
-    reader.setScaledSize(size);
-    const QImage picture = reader.read();
+QSize turned(QSize size, const QImageReader& reader) {
+    return isTurned(reader) ? size.transposed() : size;
+}
+
+QImage rounded(const QImage& picture, QSize size, double radius) {
     if (picture.isNull()) {
         return {};
     }
@@ -54,21 +53,44 @@ QImage thumbnail(const QString& path, QSize size, double radius) {
     return rounded;
 }
 
-ThumbnailProvider::ThumbnailProvider(const QDir& folder) : folder_(folder) {
-    pool_.setMaxThreadCount(1); // A list of pictures should not take all of the processor.
-    pool_.setExpiryTimeout(1000);
+} // namespace
+
+QSize imageSize(const QString& path) {
+    const QImageReader reader(path);
+    return turned(reader.size(), reader);
 }
 
-ThumbnailProvider::~ThumbnailProvider() {
-    pool_.waitForDone();
+QImage thumbnail(const QString& path, QSize size, double radius) {
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    const QSize natural = reader.size();
+    if (natural.isEmpty() || size.isEmpty()) {
+        return {};
+    }
+    // The part that shows is cut out first: scaling all of a very long picture would fill the
+    // memory. A camera that was held upright is turned only after that.
+    const QSize scaled = turned(size, reader);
+    const QSize part = scaled.scaled(natural, Qt::KeepAspectRatio).expandedTo({1, 1});
+    const QPoint corner((natural.width() - part.width()) / 2,
+                        (natural.height() - part.height()) / 2);
+    reader.setClipRect(QRect(corner, part));
+    reader.setScaledSize(scaled);
+    return rounded(reader.read(), size, radius);
+}
+
+QImage thumbnail(const QImage& image, QSize size, double radius) {
+    const QImage wide =
+        image.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    const QPoint corner((wide.width() - size.width()) / 2, (wide.height() - size.height()) / 2);
+    return rounded(wide.copy(QRect(corner, size)), size, radius);
 }
 
 QQuickImageResponse* ThumbnailProvider::requestImageResponse(const QString& id,
                                                              const QSize& requestedSize) {
     auto* response = new ThumbnailResponse; // The engine frees it once it has finished.
-    const double radius = id.section(u'/', 0, 0).toDouble();
-    const QString path = folder_.filePath(QFileInfo(id.section(u'/', 1)).fileName());
-    pool_.start([=] { response->finish(thumbnail(path, requestedSize, radius)); });
+    work_.run([=, make = make_] {
+        response->finish(response->isWanted() ? make(id, requestedSize) : QImage());
+    });
     return response;
 }
 

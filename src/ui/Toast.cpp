@@ -13,7 +13,11 @@ constexpr Seconds toastTime(1.1);
 } // namespace
 
 void Toast::flashCopied() {
-    setText(u"Copied \u2713"_s);
+    flash(u"Copied \u2713"_s);
+}
+
+void Toast::flash(const QString& text) {
+    setText(text);
     ends_.push_back(scheduler_.after(toastTime, [this] {
         // The oldest one is the one that has come.
         const Handle done = std::move(ends_.front());

@@ -24,6 +24,7 @@ public:
     [[nodiscard]] QString text() const { return text_; }
 
     Q_INVOKABLE void flashCopied();
+    void flash(const QString& text);
 
     /// For a panel that starts anew: no message, and no end that is still to come.
     void reset();

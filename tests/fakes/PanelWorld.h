@@ -3,7 +3,9 @@
 #include "clipboard/ClipboardManager.h"
 #include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDisplay.h"
+#include "fakes/FakeFiles.h"
 #include "fakes/FakeLoginItem.h"
+#include "fakes/FakeNearby.h"
 #include "fakes/FakePower.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
@@ -11,6 +13,8 @@
 #include "fakes/MemoryPreferences.h"
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
+#include "shelf/NearbySend.h"
+#include "shelf/ReceivedWatcher.h"
 #include "store/Store.h"
 #include "store/StoreFile.h"
 
@@ -64,6 +68,14 @@ struct PanelWorld {
     FakeAlertSound sound;
     FakeNightShift nightShift;
     FakeShutDown shutDown;
+    FakeNearbyDevices devices;
+    FakePrograms programs{scheduler};
+    FakeDetachedJobs jobs{scheduler};
+    FakeFolderWatch downloads;
+    FakeFileOpener opener;
+    std::shared_ptr<const FileIcons> icons = std::make_shared<NoFileIcons>();
+    NearbySend nearby{{devices, programs, jobs, scheduler}};
+    ReceivedWatcher received{downloads, scheduler, folder.filePath(QStringLiteral("Downloads"))};
     Store store;
     AppSettings settings{preferences, loginItem};
     ClipboardManager clipboard{store, pasteboard, scheduler};

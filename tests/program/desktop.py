@@ -410,6 +410,9 @@ class Ravelo:
     def is_open(self, monitor=MAIN):
         return self._hangs_at_the_top(927, 560, monitor)
 
+    def is_open_for_files(self, monitor=MAIN):
+        return self._hangs_at_the_top(927, 700, monitor)
+
     def open(self, monitor=MAIN):
         """Opens it as a user does, with the pointer, and returns where it is."""
         self.desktop.move(monitor.x + monitor.width // 2, monitor.y + 2)

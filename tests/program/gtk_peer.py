@@ -6,10 +6,12 @@ gtk_peer.py window         a focused window with a text field; prints its text a
 gtk_peer.py fullscreen COLOR LEFT WIDTH HEIGHT  the same, full-screen on a monitor
 gtk_peer.py bar COLOR WIDTH HEIGHT  a dock at the top left that reserves its height
 gtk_peer.py source TEXT    a window with a selected text to drag away; its title tells "dragged"
+gtk_peer.py target         a window to drop files on, left of the panel; prints the list as it came
 
 The title of a window with a text field is the text, for who looks rather than listens.
 """
 
+import json
 import subprocess
 import sys
 
@@ -97,8 +99,20 @@ def show_source(text):
     window.show_all()
 
 
+def show_target():
+    def received(_widget, _context, _x, _y, data, *_):
+        say(json.dumps(data.get_data().decode()))
+
+    window = make_window(20, 300, 200, 200)
+    targets = [Gtk.TargetEntry.new("text/uri-list", 0, 0)]
+    window.drag_dest_set(Gtk.DestDefaults.ALL, targets, Gdk.DragAction.COPY)
+    window.connect("drag-data-received", received)
+    window.connect("map-event", lambda *_: GLib.idle_add(say, "ready") and False)
+    window.show()
+
+
 SHOWN = {"window": show_window, "fullscreen": show_fullscreen, "bar": show_bar,
-         "source": show_source}
+         "source": show_source, "target": show_target}
 if sys.argv[1] in SHOWN:
     SHOWN[sys.argv[1]](*sys.argv[2:])
 else:

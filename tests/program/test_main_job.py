@@ -399,6 +399,54 @@ class Assistive(ProgramCase):
             self.assertIn(wanted, seen)
 
 
+class Shelf(ProgramCase):
+    FILES = ["one a.txt", "zwei ü.txt"]
+    FIRST_TILE = (88, 306)  # Its middle, from the panel's corner.
+
+    def setUp(self):
+        super().setUp()
+        folder = self.desktop.home / "files"
+        folder.mkdir()
+        self.files = [str(folder / name) for name in self.FILES]
+        for file in self.files:
+            pathlib.Path(file).write_text("kept")
+        self.write(self.ravelo.folder / "store.json",
+                   {"clips": [], "snippets": [], "note": "", "note2": "", "drawing": [],
+                    "shelfStacks": [self.files]})
+        self.write(self.desktop.home / "config/ravelo/preferences.json", {"lastTab": "Shelf"})
+        self.ravelo.start()
+
+    @staticmethod
+    def write(path, values):
+        path.parent.mkdir(parents=True)
+        path.write_text(json.dumps(values))
+
+    def open(self):
+        self.desktop.move(WIDTH // 2, 2)
+        return wait_for(self.ravelo.is_open_for_files, "the panel with room for files")
+
+    def drop(self, start, to):
+        self.desktop.drag(start, to)
+        self.desktop.run("xdotool", "mouseup", 1)
+
+    def test_files_are_dragged_out_as_copies_and_stay(self):
+        target = self.desktop.gtk("target")
+        panel = self.open()
+        tile = (panel.x + self.FIRST_TILE[0], self.FIRST_TILE[1])
+        addresses = [pathlib.Path(file).as_uri() + "\r\n" for file in self.files]
+        for dragged in (addresses[:1], addresses):
+            self.desktop.click(*tile)  # Selects the first, and then nothing.
+            self.drop(tile, (panel.x + 600, 400))  # Onto the panel itself, which does not care.
+            self.drop(tile, (120, 450))
+            self.assertEqual(json.loads(target.stdout.readline()), "".join(dragged))
+        self.assertEqual(self.ravelo.is_open_for_files(), panel, "a drag is no click elsewhere")
+        self.assertEqual(self.ravelo.store()["shelfStacks"], [self.files])
+        for file in self.files:
+            self.assertEqual(pathlib.Path(file).read_text(), "kept")
+        self.desktop.click(120, 450)
+        wait_for(self.ravelo.is_collapsed, "the panel to close at a click elsewhere")
+
+
 class OwnersEnd(ProgramCase):
     def setUp(self):
         super().setUp()

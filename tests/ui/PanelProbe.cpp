@@ -7,16 +7,19 @@
 // --behind puts a picture of a screen below; --time prints what N openings cost.
 
 #include "Input.h"
-#include "fakes/PanelWorld.h"
+#include "Subjects.h"
 #include "support/Eventually.h"
 #include "ui/PanelView.h"
 
 #include <QCommandLineParser>
+#include <QDir>
+#include <QDragEnterEvent>
 #include <QElapsedTimer>
 #include <QGuiApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QMimeData>
 #include <QPainter>
 #include <QPainterPath>
 #include <QQuickPaintedItem>
@@ -98,6 +101,61 @@ QList<ClipItem> sampleClips() {
     };
 }
 
+QImage swatches() {
+    QImage image(56, 56, QImage::Format_RGB32);
+    image.fill(QColor(u"#efe9e1"_s));
+    QPainter painter(&image);
+    painter.fillRect(4, 4, 22, 22, QColor(u"#6f8f7f"_s));
+    painter.fillRect(30, 4, 22, 22, QColor(u"#c9a27e"_s));
+    painter.fillRect(4, 30, 22, 22, QColor(u"#d8d2c6"_s));
+    painter.fillRect(30, 30, 22, 22, QColor(u"#3f5a6b"_s));
+    return image;
+}
+
+/// Real files where pictures are to be seen; the rest need not be there but for their kind.
+void park(PanelWorld& world) {
+    const QDir folder(world.folder.path());
+    const auto file = [&](const char* name, const QImage& image = {}) {
+        const QString path = folder.filePath(QString::fromUtf8(name));
+        if (image.isNull()) {
+            QFile(path).open(QIODevice::WriteOnly);
+        } else {
+            image.save(path);
+        }
+        return QUrl::fromLocalFile(path);
+    };
+    const auto wide = [](const QImage& image) {
+        return image.scaled(288, 224, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    };
+    world.store.addToShelf({file("alcove-elevation-east.jpg", wide(room()).copy(0, 32, 288, 224)),
+                            file("alcove-section-plan.png", plan()),
+                            file("swatches.jpg", wide(swatches()).copy(0, 32, 288, 224))});
+    world.store.addToShelf({file("estimate-2026-042.pdf"), file("materials.xlsx")});
+    world.store.addToShelf({file("walkthrough-north.mp4"), file("contract.docx"),
+                            file("evening.jpg", wide(room()).copy(0, 0, 288, 224))});
+    world.store.addToShelf({file("site-photos.zip"), file("invoice.pdf")});
+    world.store.clearSelection();
+}
+
+/// More than anybody parks and receives.
+void parkMany(PanelWorld& world) {
+    QList<QUrl> files;
+    for (int i = 0; i < 200; ++i) {
+        files.append(QUrl::fromLocalFile(u"/nowhere/file %1.pdf"_s.arg(i)));
+    }
+    world.store.addToShelf(files);
+    FolderListing listing{{}, FolderListing::Unknown::arrived};
+    for (int i = 0; i < 10000; ++i) {
+        listing.entries.append({QByteArray::number(i) + ".pdf", false});
+    }
+    world.downloads.tell({listing, {}});
+}
+
+void receive(PanelWorld& world, const QByteArray& name, Seconds then) {
+    world.downloads.tell({{}, {{FolderChange::Kind::written, name}}});
+    world.scheduler.advance(then);
+}
+
 const auto note = u"Tuesday, site visit at Alder Lane\n"
                   "– alcove 1184 × 2310, check the skirting behind the radiator\n"
                   "– client prefers the warmer oak, send two samples by Friday\n"
@@ -140,6 +198,13 @@ void collect(const QQuickItem* item, const QString& path, QJsonObject& into) {
     }
 }
 
+void dragFilesOver(QQuickWindow& window) {
+    QMimeData files;
+    files.setUrls({QUrl(u"file:///home/someone/estimate.pdf"_s)});
+    QDragEnterEvent enter({600, 260}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &enter);
+}
+
 /// The closed panel as a bar: with a timer, with reminders or with both, perhaps beside a notch.
 void playBar(const QString& scene, PanelWorld& world, PanelView& view) {
     const bool notch = scene.contains(u"notch"_s);
@@ -179,6 +244,9 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     world.controller.positionExpanded();
     window.resize(world.controller.frame().size().toSize());
     settle();
+    if (QQuickItem* grid = find(window.contentItem(), u"grid"_s)) {
+        grid->setFocus(false); // Or the first tile shows that it has the keyboard.
+    }
     if (scene == u"full-black") {
         world.settings.setFullBlack(true);
     } else if (scene == u"hover") {
@@ -231,6 +299,15 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     } else if (scene == u"search") {
         click(window, middle(window, u"searchInput"_s));
         find(window.contentItem(), u"searchInput"_s)->setProperty("text", u"larkspur"_s);
+    } else if (scene == u"shelf-drop") {
+        dragFilesOver(window);
+    } else if (scene == u"shelf-selected") {
+        view.host().shelf()->toggle(1);
+        view.host().shelf()->toggle(3);
+        receive(world, "IMG_4821.HEIC", Seconds(1));
+        world.devices.answer({{u"1"_s, u"Pixel"_s}});
+    } else if (scene == u"shelf-menu") {
+        click(window, middle(window, u"tile4"_s), Qt::RightButton);
     } else if (scene == u"notes") {
         click(window, middle(window, u"noteInput"_s));
         find(window.contentItem(), u"noteInput"_s)
@@ -338,12 +415,20 @@ int main(int argc, char** argv) {
     PanelWorld world(data);
     room().save(world.store.imagePath(u"room.png"_s));
     plan().save(world.store.imagePath(u"plan.png"_s));
-    world.settings.setLastTab(scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
+    const bool shelf = scene.startsWith(u"shelf"_s);
+    world.settings.setLastTab(shelf ? u"Shelf"_s : scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
     PanelView view;
-    view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler,
-               world.preferences, world.nightShift, world.shutDown},
-              QLocale(u"en_US"_s));
+    view.load(subjects(world), QLocale(u"en_US"_s));
     view.host().setBackdrop(Backdrop::Blurred);
+    if (shelf) {
+        receive(world, "lighting-quote.pdf", day - minute * 18);
+        receive(world, "floor-samples.pdf", minute * 18);
+    }
+    if (scene == u"shelf-many") {
+        parkMany(world);
+    } else if (shelf && scene != u"shelf-empty" && scene != u"shelf-drop") {
+        park(world);
+    }
     const Date now = world.scheduler.now();
     view.host().setUsage(UsageWindow{42, Date{now.sinceReference + 125.5 * 60}},
                          UsageWindow{78, Date{now.sinceReference + 76.5 * 3600}});

@@ -1,11 +1,6 @@
 // The whole panel on the in-memory platform: what it shows, and what the user's hands do to it.
 
-#include "Input.h"
-#include "fakes/PanelWorld.h"
-#include "support/Eventually.h"
-#include "ui/PanelView.h"
-
-#include <gtest/gtest.h>
+#include "PanelFixture.h"
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -16,91 +11,6 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr Seconds untilBuilt(0.041);
-
-StoreData threeClips() {
-    StoreData data;
-    data.clips = {clip(u"first"_s, Seconds(60)), clip(u"second"_s, Seconds(120)),
-                  clip(u"third"_s, Seconds(180))};
-    data.note = u"remember"_s;
-    return data;
-}
-
-class Panel : public testing::Test {
-public:
-    explicit Panel(const StoreData& data = threeClips()) : world(data) {
-        view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler,
-                   world.preferences, world.nightShift, world.shutDown},
-                  QLocale(u"en_US"_s));
-        view.window().resize(200, 12);
-        view.window().show();
-        view.window().requestActivate();
-        EXPECT_TRUE(eventually([this] { return view.window().isActive(); }));
-        world.scheduler.advance(untilBuilt);
-    }
-
-    /// The pointer goes into the hot zone and on to the panel's middle.
-    void open() {
-        world.pointer.moveTo({720, 3});
-        world.scheduler.advance(Seconds(0.02));
-        ASSERT_TRUE(world.controller.isOpen());
-        view.window().resize(world.controller.frame().size().toSize());
-        world.pointer.moveTo({720, 300});
-        world.scheduler.advance(Seconds(0.02));
-        const QQuickItem* all = view.window().contentItem();
-        ASSERT_TRUE(eventually([&] { return all->size() == world.controller.frame().size(); }));
-        // The rows of a list are laid out with the next frame.
-        view.window().grabWindow();
-    }
-
-    void close() {
-        world.controller.dismiss();
-        view.window().resize(200, 12);
-        world.pointer.moveTo({720, 600});
-        world.scheduler.advance(Seconds(0.02));
-    }
-
-    /// Null where there is none or it is not to be seen.
-    QQuickItem* shown(const QString& name) {
-        QCoreApplication::processEvents();
-        QQuickItem* item = find(view.window().contentItem(), name);
-        return item != nullptr && item->isVisible() ? item : nullptr;
-    }
-
-    /// What takes a moment to appear is waited for.
-    QQuickItem* item(const QString& name) {
-        if (!eventually([&] { return shown(name) != nullptr; })) {
-            ADD_FAILURE() << "not to be seen: " << qPrintable(name);
-            return &nothing;
-        }
-        return shown(name);
-    }
-
-    /// What is named so inside of another.
-    QQuickItem* in(const QString& outer, const QString& name) { return find(item(outer), name); }
-
-    void clickOn(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
-        const QQuickItem* target = item(name);
-        click(view.window(), target->mapToScene(target->boundingRect().center()), button);
-    }
-
-    QString text(const QString& name) { return item(name)->property("text").toString(); }
-
-    void type(const QString& letters) {
-        for (const QChar letter : letters) {
-            press(view.window(), Qt::Key_unknown, Qt::NoModifier, letter);
-        }
-    }
-
-    [[nodiscard]] QString pasteboardText() const {
-        return QString::fromUtf8(world.pasteboard.bytes(plainTextType));
-    }
-
-    PanelWorld world;
-    PanelView view;
-    QQuickItem nothing;
-};
 
 TEST_F(Panel, showsAHandleUntilItOpens) {
     EXPECT_NE(shown(u"handle"_s), nullptr);
@@ -400,11 +310,15 @@ TEST_F(Panel, controlTabGoesThroughTheTabs) {
     EXPECT_TRUE(world.store.note().contains(u'!')) << "the note has the keyboard";
     press(view.window(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
     EXPECT_EQ(world.settings.lastTab(), u"Clipboard"_s);
+    press(view.window(), Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(world.settings.lastTab(), u"Shelf"_s);
+    press(view.window(), Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(world.settings.lastTab(), u"Clipboard"_s);
 }
 
 TEST_F(Panel, keepsTheNoteWithEveryKey) {
     open();
-    click(view.window(), {700, 180}); // The right half of the tabs.
+    clickOn(u"tab1"_s);
     EXPECT_EQ(world.settings.lastTab(), u"Notes"_s);
     clickOn(u"noteInput"_s);
     EXPECT_TRUE(world.window.focused);
@@ -421,9 +335,9 @@ TEST_F(Panel, keepsTheSearchWhileTheNoteIsLookedAt) {
     open();
     clickOn(u"searchInput"_s);
     type(u"second"_s);
-    click(view.window(), {700, 180});
+    clickOn(u"tab1"_s);
     EXPECT_EQ(shown(u"searchInput"_s), nullptr);
-    click(view.window(), {200, 180});
+    clickOn(u"tab0"_s);
     EXPECT_EQ(text(u"searchInput"_s), u"second"_s);
     EXPECT_EQ(view.host().clips()->count(), 1);
 }
@@ -447,6 +361,7 @@ TEST_P(LastTab, isOpenedAgain) {
 INSTANTIATE_TEST_SUITE_P(All, LastTab,
                          testing::Values(TabCase{"clipboard", u"Clipboard"_s, u"list"_s},
                                          TabCase{"notes", u"Notes"_s, u"noteInput"_s},
+                                         TabCase{"shelf", u"Shelf"_s, u"dropCard"_s},
                                          TabCase{"none", {}, u"list"_s},
                                          TabCase{"unknown", u"Sketches"_s, u"list"_s}),
                          [](const auto& row) { return row.param.name; });

@@ -1,7 +1,7 @@
 // The closed panel as a bar: the figure of the timer, and what of the reminders fits.
 
 #include "Input.h"
-#include "fakes/PanelWorld.h"
+#include "Subjects.h"
 #include "support/Eventually.h"
 #include "support/Told.h"
 #include "timer/TimerString.h"
@@ -119,9 +119,7 @@ TEST(FittingTexts, keepNoRoomForANumberThatIsNotShown) {
 class Bar : public testing::Test {
 protected:
     Bar() {
-        view_.load({world_.store, world_.settings, world_.controller, world_.pasteboard,
-                    world_.scheduler, world_.preferences, world_.nightShift, world_.shutDown},
-                   QLocale(u"en_US"_s));
+        view_.load(subjects(world_), QLocale(u"en_US"_s));
         view_.window().show();
         world_.store.setReminderOpen(true);
     }

@@ -9,10 +9,13 @@ QtObject {
     }
 
     readonly property var table: ({
+        "airdrop": "\uF43B",
+        "antenna.radiowaves.left.and.right": "\uF002",
         "bubble.left.and.text.bubble.right": "\uF189",
         "car": "\uF10B",
         "checklist": "\uF5C7",
         "checkmark": "\uF12C",
+        "checkmark.circle.fill": "\uF5E0",
         "checkmark.seal": "\uF565",
         "clock": "\uF150",
         "chevron.down": "\uF140",
@@ -38,6 +41,7 @@ QtObject {
         "stop.fill": "\uF4DB",
         "star": "\uF4D2",
         "trash": "\uF1C0",
+        "tray.and.arrow.down": "\uF24D",
         "tray.full": "\uF2FB",
         "xmark.circle.fill": "\uF159",
         "xmark": "\uF156"

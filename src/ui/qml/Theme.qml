@@ -66,6 +66,18 @@ QtObject {
     readonly property color redFill: "#FF5C52"
     readonly property color pinnedTile: withAlpha(yellow, 0.13)
 
+    readonly property color accentGlyph: "#0C1524"
+    readonly property color selectedTile: withAlpha(accent, 0.16)
+    readonly property color selectedTileLine: withAlpha(accent, 0.85)
+    readonly property color tray: white(0.045)
+    readonly property color trayLine: white(0.05)
+    readonly property color dropLine: white(0.18)
+    readonly property color dropTarget: withAlpha(accent, 0.13)
+    readonly property color dropTargetLine: withAlpha(accent, 0.90)
+    readonly property color banner: withAlpha(green, 0.14)
+    readonly property color bannerLine: withAlpha(green, 0.22)
+    readonly property color bannerText: "#D7F7E5"
+
     readonly property color floating: "#2A2A2F"
     readonly property color floatingField: white(0.06)
     readonly property color floatingFieldLine: white(0.09)
@@ -124,6 +136,7 @@ QtObject {
     readonly property real radiusSmall: 8
     readonly property real radiusRow: 10
     readonly property real radiusPopover: 12
+    readonly property real radiusTray: 16
     readonly property real radiusEditor: 14
 
     // The panel, top to bottom.
@@ -148,6 +161,8 @@ QtObject {
     readonly property int floatingIn: fade(120)
     readonly property int floatingOut: fade(80)
     readonly property int filling: move(400)
+    readonly property int dropping: 160
+    readonly property int bannerIn: fade(300)
     readonly property int tooltipDelay: 500
     /// A spring of response 0.5 s and damping 0.85.
     readonly property var spring: [0.226, 0.097, 0.255, 1.085, 1, 1]

@@ -6,25 +6,37 @@ Pressable {
     id: button
 
     property alias text: label.text
+    property string symbol
     property bool primary: false
+    /// Only its text is to be seen until it is touched.
+    property bool ghost: false
     property bool large: false
     property real sidePad: large ? 16 : 12
     /// Room before the text, for a symbol.
-    property real lead: 0
+    property real lead: symbol === "" ? 0 : 19
 
     name: text
     implicitWidth: Math.max(64, lead + label.implicitWidth + 2 * sidePad)
     implicitHeight: large ? 32 : 28
     radius: height / 2
-    rest: primary ? Theme.primary : Theme.surface3
-    hover: primary ? Theme.primaryHovered : Theme.surface4
+    rest: primary ? Theme.primary : ghost ? Theme.none : Theme.surface3
+    hover: primary ? Theme.primaryHovered : ghost ? Theme.surface3 : Theme.surface4
     press: primary ? Theme.primaryPressed : Theme.pressedButton
+
+    Glyph {
+        visible: button.symbol !== ""
+        x: button.sidePad - 2
+        y: (button.height - size) / 2
+        size: 15
+        symbol: button.symbol
+        color: label.color
+    }
 
     Label {
         id: label
         x: button.lead + (button.width - button.lead - width) / 2
         y: (button.height - 16) / 2
         style: button.large ? Theme.strong : Theme.button
-        color: button.primary ? Theme.onWhite : Theme.text1
+        color: button.primary ? Theme.onWhite : button.ghost && !button.hovered ? Theme.text2 : Theme.text1
     }
 }

@@ -7,6 +7,8 @@ FocusScope {
 
     required property PanelHost host
 
+    required property bool dropTargeted
+
     readonly property bool open: host.controller.isOpen
 
     // Its size does not depend on the window's, which is small until the panel opens.
@@ -24,9 +26,12 @@ FocusScope {
         anchors.fill: parent
         active: slot.host.hasContent
         focus: true
+        // qmllint disable unqualified
         sourceComponent: ContentView {
-            host: slot.host // qmllint disable unqualified
+            host: slot.host
+            dropTargeted: slot.dropTargeted
         }
+        // qmllint enable unqualified
     }
 
     NumberAnimation {

@@ -6,13 +6,17 @@ FocusScope {
     id: content
 
     required property PanelHost host
+    /// Files are being dragged over the panel.
+    required property bool dropTargeted
 
     readonly property bool shown: host.controller.isOpen
     /// The titles are what is remembered.
     readonly property var tabs: [
         { title: "Clipboard", symbol: "doc.on.clipboard" },
-        { title: "Notes", symbol: "note.text" }
+        { title: "Notes", symbol: "note.text" },
+        { title: "Shelf", symbol: "tray.full" }
     ]
+    readonly property int shelfTab: 2
     property int tab: Math.max(0, tabs.findIndex(one => one.title === host.settings.lastTab))
 
     function choose(index: int) {
@@ -40,6 +44,27 @@ FocusScope {
             return;
         }
         event.accepted = true;
+    }
+
+    onDropTargetedChanged: {
+        if (dropTargeted) {
+            host.store.clearSelection();
+            choose(shelfTab);
+        }
+    }
+
+    // The request may be older than this content.
+    Component.onCompleted: {
+        if (host.shelfRequested) {
+            choose(shelfTab);
+        }
+    }
+
+    Connections {
+        target: content.host.store
+        function onShelfRequestTickChanged() {
+            content.choose(content.shelfTab);
+        }
     }
 
     Connections {
@@ -84,7 +109,7 @@ FocusScope {
         onChosen: index => content.choose(index)
     }
 
-    // Both are there all the time: what is searched for stays while the note is looked at.
+    // The first two are there all the time: what is searched for stays while the note is looked at.
     FocusScope {
         id: body
         x: Theme.insetSide
@@ -107,6 +132,21 @@ FocusScope {
             visible: content.tab === 1
             focus: visible
             host: content.host
+        }
+
+        Loader {
+            anchors.fill: parent
+            active: content.tab === content.shelfTab
+            visible: active
+            focus: active
+            // qmllint disable unqualified
+            sourceComponent: ShelfTab {
+                focus: true
+                host: content.host
+                shown: content.shown
+                dropTargeted: content.dropTargeted
+            }
+            // qmllint enable unqualified
         }
 
         NumberAnimation on opacity {

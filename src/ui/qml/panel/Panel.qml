@@ -12,11 +12,17 @@ Item {
     }
 
     // Files only, and only to be copied; what they are the controller learns by itself: here it
-    // would have to be waited for.
+    // would have to be waited for. Not what is dragged out of the panel, and back.
     DropArea {
+        id: drop
+        objectName: "drop"
         anchors.fill: parent
         keys: ["text/uri-list", "application/vnd.portal.filetransfer", "application/vnd.portal.files"]
         onEntered: drag => {
+            if (drag.source) {
+                drag.accepted = false;
+                return;
+            }
             drag.accept(Qt.CopyAction);
             panel.host.controller.onDragEnter();
         }
@@ -62,5 +68,6 @@ Item {
         id: slot // Not centred: the window may still be as narrow as the handle.
         focus: true
         host: panel.host
+        dropTargeted: drop.containsDrag
     }
 }

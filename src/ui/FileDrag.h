@@ -1,0 +1,49 @@
+#pragma once
+
+#include "base/Handle.h"
+
+#include <QImage>
+#include <QList>
+#include <QObject>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QUrl>
+
+#include <memory>
+
+namespace ravelo {
+
+class DetachedJobs;
+class FileIcons;
+
+/// Drags files out of the panel, to be copied wherever they are dropped. Main thread.
+class FileDrag : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("the panel has one")
+
+public:
+    FileDrag(DetachedJobs& jobs, std::shared_ptr<const FileIcons> icons);
+
+    /// These may be dragged soon: gets their icons ready.
+    Q_INVOKABLE void prepare(const QList<QUrl>& files, QQuickItem* from);
+
+    /// Begins one drag, which ends by itself; nothing where there are no files or a drag is on.
+    /// What is begun from may go meanwhile.
+    Q_INVOKABLE void start(const QList<QUrl>& files, QQuickItem* from);
+
+private:
+    void drag(const QList<QUrl>& files, double scale);
+
+    DetachedJobs& jobs_;
+    std::shared_ptr<const FileIcons> icons_;
+    QList<QUrl> prepared_;
+    QList<QImage> pictures_; ///< Of `prepared_`; none before they are ready.
+    bool dragging_ = false;
+    Handle preparing_;
+};
+
+/// Icons that lie behind each other, each a little further up and to the right.
+[[nodiscard]] QImage fanned(const QList<QImage>& icons, double scale);
+
+} // namespace ravelo

@@ -1,0 +1,12 @@
+#pragma once
+
+#include <QImage>
+#include <QString>
+
+namespace ravelo {
+
+/// A sheet of paper, as high as `size` device pixels allow, with the extension on a tag in the
+/// colour of its kind; without a tag where there is no extension.
+[[nodiscard]] QImage filePage(const QString& extension, int size);
+
+} // namespace ravelo

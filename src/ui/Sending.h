@@ -1,0 +1,53 @@
+#pragma once
+
+#include "base/Handle.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QUrl>
+#include <QVariantList>
+
+namespace ravelo {
+
+class NearbySend;
+class Toast;
+
+/// The button that sends files to a device nearby. Main thread.
+class Sending : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("the panel has one")
+    Q_PROPERTY(bool possible READ isPossible NOTIFY changed)
+    Q_PROPERTY(QString advice READ advice NOTIFY changed)
+    Q_PROPERTY(QVariantList devices READ devices NOTIFY changed)
+
+public:
+    Sending(NearbySend& nearby, Toast& toast);
+
+    [[nodiscard]] bool isPossible() const;
+
+    /// What the user could do where it is not possible; empty where it is.
+    [[nodiscard]] QString advice() const;
+
+    /// To choose from: objects with `name` and `id`. Not what is told by its place: one may come or
+    /// go while the user chooses.
+    [[nodiscard]] QVariantList devices() const;
+
+    /// Looks who is there.
+    Q_INVOKABLE void refresh();
+
+    /// To the device of that id, or, where the way leads to none, to whom the desktop's own program
+    /// finds.
+    Q_INVOKABLE void send(const QList<QUrl>& files, const QString& deviceId);
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    NearbySend& nearby_;
+    Toast& toast_;
+    Handle changes_;
+    Handle refreshing_;
+};
+
+} // namespace ravelo

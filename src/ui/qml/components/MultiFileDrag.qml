@@ -1,0 +1,16 @@
+import Ravelo
+
+/// Lies over what stands for files: pressed and moved it drags them out.
+DragSourceView {
+    id: source
+
+    required property PanelHost host
+    required provider
+
+    onPressedChanged: {
+        if (pressed) {
+            host.fileDrag.prepare(files(), source);
+        }
+    }
+    onDragged: host.fileDrag.start(files(), source)
+}

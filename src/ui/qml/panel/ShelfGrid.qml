@@ -1,0 +1,165 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Ravelo
+
+/// The parked files, a tray a stack. Only those in sight exist.
+FocusScope {
+    id: grid
+
+    required property PanelHost host
+    required property bool shown
+
+    readonly property ShelfContents shelf: host.shelf
+    /// The file that the keyboard is at.
+    property int current: 0
+
+    signal menuRequested(Item tile, point place, bool byKey)
+
+    function go(place: int) {
+        current = Math.max(0, Math.min(place, shelf.count - 1));
+        const rect = shelf.rectOf(current);
+        const margin = 8;
+        flick.contentY = Math.max(0, Math.min(rect.y - margin, Math.max(flick.contentY,
+            rect.y + rect.height + margin - flick.height)));
+        tileAt(current)?.forceActiveFocus();
+    }
+
+    function tileAt(place: int): Item {
+        for (let i = 0; i < tiles.count; ++i) {
+            const tile = tiles.itemAt(i) as ShelfTileView;
+            if (tile?.place === place) {
+                return tile;
+            }
+        }
+        return null;
+    }
+
+    function see() {
+        if (flick.height > 0) { // Not while it is being laid out itself.
+            shelf.setSight(flick.contentY, flick.height);
+        }
+    }
+
+    Accessible.role: Accessible.List
+    Accessible.name: "Shelf"
+    activeFocusOnTab: true
+    onWidthChanged: shelf.lay(width)
+    onActiveFocusChanged: {
+        if (activeFocus && !tileAt(current)?.activeFocus) {
+            go(current);
+        }
+    }
+
+    Keys.onPressed: event => {
+        if (event.key === Qt.Key_Left) {
+            go(current - 1);
+        } else if (event.key === Qt.Key_Right) {
+            go(current + 1);
+        } else if (event.key === Qt.Key_Up) {
+            go(shelf.above(current));
+        } else if (event.key === Qt.Key_Down) {
+            go(shelf.below(current));
+        } else if (event.key === Qt.Key_Home) {
+            go(0);
+        } else if (event.key === Qt.Key_End) {
+            go(shelf.count - 1);
+        } else if (event.key === Qt.Key_Space && !event.isAutoRepeat) {
+            shelf.toggle(current);
+        } else if (event.key === Qt.Key_A && event.modifiers === Qt.ControlModifier) {
+            shelf.selectAllOrNone();
+        } else if (event.key === Qt.Key_Delete && !event.isAutoRepeat) {
+            shelf.remove(current);
+            go(current);
+        } else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
+                   && !event.isAutoRepeat) {
+            host.openFile(shelf.fileAt(current));
+        } else if (event.key === Qt.Key_Menu) {
+            grid.menuRequested(tileAt(current), Qt.point(50, 90), true);
+        } else {
+            return;
+        }
+        event.accepted = true;
+    }
+
+    FadingEdge {
+        anchors.fill: parent
+        length: Math.min(26, Math.max(0, flick.contentHeight - flick.contentY - flick.height))
+
+        Flickable {
+            id: flick
+            objectName: "stacks"
+            anchors.fill: parent
+            contentHeight: grid.shelf.height
+            clip: contentHeight > height
+            boundsBehavior: Flickable.StopAtBounds
+            onContentYChanged: grid.see()
+            onHeightChanged: grid.see()
+
+            Repeater {
+                model: grid.shelf.trays
+
+                Box {
+                    id: tray
+
+                    required property int stack
+                    required property rect rect
+
+                    objectName: "tray" + stack
+                    x: rect.x
+                    y: rect.y
+                    width: rect.width
+                    height: rect.height
+                    radius: Theme.radiusTray
+                    color: Theme.tray
+                    lineColor: Theme.trayLine
+                    lineWidth: 1
+
+                    MultiFileDrag {
+                        anchors.fill: parent
+                        host: grid.host
+                        provider: () => grid.shelf.filesToDrag()
+                        onTapped: grid.shelf.toggleStack(tray.stack)
+                    }
+                }
+            }
+
+            Repeater {
+                id: tiles
+                model: grid.shelf.tiles
+
+                ShelfTileView {
+                    id: tile
+                    host: grid.host
+                    shown: grid.shown
+                    onTapped: {
+                        grid.current = place;
+                        grid.shelf.toggle(place);
+                    }
+                    onMenuRequested: place => grid.menuRequested(tile, place, false)
+                    onActiveFocusChanged: {
+                        if (activeFocus) {
+                            ring.control = tile;
+                        }
+                    }
+                }
+            }
+
+            // As narrow as the gap between tiles.
+            Box {
+                id: ring
+
+                property Item control: null
+
+                visible: control?.activeFocus ?? false
+                x: (control?.x ?? 0) - 2
+                y: (control?.y ?? 0) - 2
+                width: 105
+                height: 112
+                radius: Theme.radiusPopover + 2
+                lineColor: Theme.withAlpha(Theme.accent, 0.60)
+                lineWidth: 2
+            }
+        }
+    }
+}

@@ -1,0 +1,95 @@
+import QtQuick
+import Ravelo
+
+/// The parked files and those that have been received.
+FocusScope {
+    id: tab
+
+    required property PanelHost host
+    required property bool shown
+    /// Files are being dragged over the panel.
+    required property bool dropTargeted
+
+    readonly property bool empty: host.shelf.count === 0
+
+    onShownChanged: {
+        if (shown) {
+            host.sending.refresh();
+        }
+    }
+    Component.onCompleted: {
+        if (shown) {
+            host.sending.refresh();
+        }
+    }
+
+    DropCard {
+        objectName: "dropCard"
+        y: 4
+        width: parent.width
+        visible: tab.empty
+        targeted: tab.dropTargeted
+    }
+
+    ShelfHeader {
+        id: header
+        objectName: "shelfHeader"
+        y: 4
+        width: parent.width
+        visible: !tab.empty
+        host: tab.host
+    }
+
+    ShelfGrid {
+        id: grid
+        objectName: "grid"
+        focus: true
+        y: 44
+        width: parent.width
+        height: Math.min(tab.host.shelf.height, tab.height - y - 16 - received.least)
+        visible: !tab.empty
+        host: tab.host
+        shown: tab.shown
+        onMenuRequested: (tile, place, byKey) => {
+            menu.file = tab.host.shelf.fileAt((tile as ShelfTileView).place);
+            menu.parked = true;
+            menu.openAt(tile.mapToItem(menu.parent, place.x, place.y), false, byKey);
+        }
+    }
+
+    ReceivedFiles {
+        id: received
+        objectName: "received"
+        y: tab.empty ? 196 : grid.y + grid.height + 16
+        width: parent.width
+        height: parent.height - y
+        host: tab.host
+        shown: tab.shown
+        onMenuRequested: (row, place, byKey) => {
+            menu.file = (row as ReceivedRow).file;
+            menu.parked = false;
+            menu.openAt(row.mapToItem(menu.parent, place.x, place.y), false, byKey);
+        }
+    }
+
+    Menu {
+        id: menu
+
+        property url file
+        property bool parked
+
+        objectName: "fileMenu"
+        name: "File"
+        host: tab.host
+        entries: {
+            const all = [
+                { text: "Open", chosen: () => tab.host.openFile(file) },
+                { text: "Show in folder", chosen: () => tab.host.showInFolder(file) }
+            ];
+            if (!parked) {
+                all.push({ text: "Put on the shelf", chosen: () => tab.host.shelf.park(file) });
+            }
+            return all;
+        }
+    }
+}

@@ -1,0 +1,480 @@
+// The shelf in the panel: what it shows, and what hands and keys do to the files on it.
+
+#include "PanelFixture.h"
+#include "ui/DragSourceView.h"
+#include "ui/FileThumb.h"
+#include "ui/ShelfLayout.h"
+
+#include <QDragEnterEvent>
+#include <QImageWriter>
+#include <QMimeData>
+
+namespace ravelo {
+
+namespace {
+
+QUrl file(const QString& name) {
+    return QUrl::fromLocalFile(u"/home/someone/"_s + name);
+}
+
+class ShelfTab : public Panel {
+protected:
+    ShelfTab() { world.settings.setLastTab(u"Shelf"_s); }
+
+    /// Files "0", "1" and so on.
+    void park(int first, int last) {
+        QList<QUrl> files;
+        for (int i = first; i <= last; ++i) {
+            files.append(file(QString::number(i)));
+        }
+        world.store.addToShelf(files);
+        world.store.clearSelection();
+    }
+
+    void openByKey() {
+        world.controller.toggle();
+        view.window().resize(world.controller.frame().size().toSize());
+        view.window().grabWindow();
+    }
+
+    [[nodiscard]] QString selected() const { return names(world.store.shelf().selectedFiles()); }
+
+    [[nodiscard]] QString parked() const { return names(world.store.shelf().files()); }
+
+    static QString names(const QList<QUrl>& files) {
+        QStringList names;
+        for (const QUrl& url : files) {
+            names.append(url.fileName());
+        }
+        return names.join(u' ');
+    }
+
+    void dragOver(const QPointF& place) {
+        QMimeData files;
+        files.setUrls({file(u"a"_s)});
+        QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &files, Qt::LeftButton,
+                              Qt::NoModifier);
+        QCoreApplication::sendEvent(&view.window(), &enter);
+    }
+};
+
+struct HeaderCase {
+    const char* name;
+    int files;
+    QList<int> selected;
+    QString count;
+    QString button;
+};
+
+class ShelfHeader : public ShelfTab, public testing::WithParamInterface<HeaderCase> {};
+
+TEST_P(ShelfHeader, tellsWhatThereIs) {
+    park(1, GetParam().files);
+    open();
+    for (const int place : GetParam().selected) {
+        clickOn(u"tile%1"_s.arg(place));
+    }
+    EXPECT_EQ(text(u"shelfCount"_s), GetParam().count);
+    EXPECT_EQ(text(u"selectAll"_s), GetParam().button);
+    EXPECT_EQ(item(u"removeSelected"_s)->isEnabled(), !GetParam().selected.isEmpty());
+    clickOn(u"selectAll"_s);
+    const bool all = GetParam().button == u"Select all";
+    EXPECT_EQ(world.store.shelf().selected.size(), all ? GetParam().files : 0);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, ShelfHeader,
+    testing::Values(HeaderCase{"one", 1, {}, u"1 file"_s, u"Select all"_s},
+                    HeaderCase{"two", 2, {}, u"2 files"_s, u"Select all"_s},
+                    HeaderCase{"oneOfTwo", 2, {1}, u"1 selected"_s, u"Select all"_s},
+                    HeaderCase{"bothOfTwo", 2, {0, 1}, u"2 selected"_s, u"Deselect"_s},
+                    HeaderCase{"oneAgain", 2, {0, 0, 1}, u"1 selected"_s, u"Select all"_s}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(ShelfTab, aTrayTogglesItsStackAndRemoveTakesTheSelected) {
+    park(1, 2);
+    park(3, 3);
+    open();
+    const QPointF tray = item(u"tray0"_s)->mapToScene({0, 0});
+    click(view.window(), tray + QPointF(2, 50)); // Beside its tiles.
+    EXPECT_EQ(selected(), u"1 2"_s);
+    clickOn(u"removeSelected"_s);
+    EXPECT_EQ(parked(), u"3"_s);
+    clickOn(u"tile0"_s);
+    clickOn(u"removeSelected"_s);
+    EXPECT_NE(shown(u"dropCard"_s), nullptr);
+    EXPECT_EQ(shown(u"shelfCount"_s), nullptr);
+}
+
+struct RequestCase {
+    const char* name;
+    void (*happen)(PanelWorld& world);
+};
+
+class ShelfRequest : public Panel, public testing::WithParamInterface<RequestCase> {};
+
+TEST_P(ShelfRequest, showsTheShelf) {
+    world.store.addToShelf({file(u"a"_s)});
+    GetParam().happen(world);
+    EXPECT_TRUE(world.controller.isOpen());
+    EXPECT_NE(shown(u"grid"_s), nullptr);
+    EXPECT_EQ(world.settings.lastTab(), u"Shelf"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ShelfRequest,
+                         testing::Values(RequestCase{"whileClosed",
+                                                     [](PanelWorld& world) {
+                                                         world.controller.onDragEnter();
+                                                     }},
+                                         RequestCase{"beforeTheContentIsBuilt",
+                                                     [](PanelWorld& world) {
+                                                         world.controller.positionExpanded();
+                                                         world.controller.collapse();
+                                                         world.controller.onDragEnter();
+                                                     }},
+                                         RequestCase{"whileOpen",
+                                                     [](PanelWorld& world) {
+                                                         world.controller.positionExpanded();
+                                                         world.store.requestShelf();
+                                                     }}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(ShelfTab, lightsUpAndForgetsTheSelectionWhileFilesAreDraggedOverIt) {
+    open();
+    clickOn(u"tab0"_s);
+    park(1, 1);
+    world.store.toggleSelectStack({file(u"1"_s)});
+    dragOver({400, 300});
+    EXPECT_EQ(selected(), QString());
+    EXPECT_NE(shown(u"grid"_s), nullptr) << "the tab";
+    world.store.removeFromShelf(file(u"1"_s));
+    EXPECT_TRUE(item(u"dropCard"_s)->property("targeted").toBool());
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(&view.window(), &leave);
+    EXPECT_FALSE(item(u"dropCard"_s)->property("targeted").toBool());
+}
+
+struct ShelfKeysCase {
+    const char* name;
+    QList<QKeyCombination> keys;
+    QString selected;
+    QString parked;
+    QString opened;
+};
+
+class ShelfKeys : public ShelfTab, public testing::WithParamInterface<ShelfKeysCase> {};
+
+TEST_P(ShelfKeys, workFromTheFirstTileOn) {
+    park(0, 9); // Eight in a line.
+    park(10, 11);
+    openByKey();
+    for (const QKeyCombination key : GetParam().keys) {
+        press(view.window(), key.key(), key.keyboardModifiers());
+    }
+    EXPECT_EQ(selected(), GetParam().selected);
+    EXPECT_EQ(parked(), GetParam().parked);
+    EXPECT_EQ(names(world.opener.opened), GetParam().opened);
+    EXPECT_EQ(world.controller.isOpen(), GetParam().opened.isEmpty());
+}
+
+const auto all = u"0 1 2 3 4 5 6 7 8 9 10 11"_s;
+
+INSTANTIATE_TEST_SUITE_P(
+    All, ShelfKeys,
+    testing::Values(ShelfKeysCase{"space", {Qt::Key_Space}, u"0"_s, all, {}},
+                    ShelfKeysCase{"sideways",
+                                  {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Space},
+                                  u"2"_s,
+                                  all,
+                                  {}},
+                    ShelfKeysCase{
+                        "down", {Qt::Key_Right, Qt::Key_Down, Qt::Key_Space}, u"9"_s, all, {}},
+                    ShelfKeysCase{"downAndUp",
+                                  {Qt::Key_Down, Qt::Key_Down, Qt::Key_Space, Qt::Key_Up,
+                                   Qt::Key_Up, Qt::Key_Up, Qt::Key_Space},
+                                  u"0 10"_s,
+                                  all,
+                                  {}},
+                    ShelfKeysCase{"delete",
+                                  {Qt::Key_End, Qt::Key_Delete, Qt::Key_Delete, Qt::Key_Space},
+                                  u"9"_s,
+                                  u"0 1 2 3 4 5 6 7 8 9"_s,
+                                  {}},
+                    ShelfKeysCase{"selectAll", {Qt::CTRL | Qt::Key_A}, all, all, {}},
+                    ShelfKeysCase{"return", {Qt::Key_Right, Qt::Key_Return}, {}, all, u"1"_s}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(ShelfTab, opensAFileOrItsFolderByItsMenu) {
+    park(1, 1);
+    for (const auto& [entry, opened] : {std::pair(u"item0"_s, &world.opener.opened),
+                                        std::pair(u"item1"_s, &world.opener.shown)}) {
+        open();
+        clickOn(u"tile0"_s, Qt::RightButton);
+        const QQuickItem* choice = in(u"fileMenu"_s, entry);
+        click(view.window(), choice->mapToScene({20, 10}));
+        EXPECT_EQ(*opened, QList{file(u"1"_s)});
+        EXPECT_FALSE(world.controller.isOpen());
+        close();
+        world.scheduler.advance(untilBuilt);
+    }
+}
+
+TEST_F(ShelfTab, leavesFilesThatAreGoneOutOfADrag) {
+    QFile there(world.folder.filePath(u"there"_s));
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    const QUrl kept = QUrl::fromLocalFile(there.fileName());
+    world.store.addToShelf({kept, file(u"gone"_s)});
+    world.store.clearSelection();
+    open();
+    EXPECT_FALSE(item(u"tile0"_s)->property("missing").toBool());
+    EXPECT_TRUE(item(u"tile1"_s)->property("missing").toBool());
+    EXPECT_EQ(view.host().shelf()->filesToDrag(), QList{kept});
+    clickOn(u"tile1"_s);
+    EXPECT_EQ(view.host().shelf()->filesToDrag(), QList<QUrl>());
+    there.remove();
+    close();
+    world.scheduler.advance(untilBuilt);
+    open();
+    EXPECT_TRUE(item(u"tile0"_s)->property("missing").toBool());
+}
+
+struct SendCase {
+    const char* name;
+    QList<NearbyDevice> devices;
+    bool chooses;
+    bool withAMissing;
+    QString sentTo;
+    QString toast;
+};
+
+class ShelfSending : public ShelfTab, public testing::WithParamInterface<SendCase> {};
+
+TEST_P(ShelfSending, sendsTheSelectedFiles) {
+    QFile there(world.folder.filePath(u"there"_s));
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    world.store.addToShelf({QUrl::fromLocalFile(there.fileName())});
+    park(1, 2);
+    open();
+    clickOn(u"tile0"_s);
+    if (GetParam().withAMissing) {
+        clickOn(u"tile1"_s);
+    }
+    world.devices.answer(GetParam().devices);
+    world.scheduler.advance(Seconds(0.1));
+    clickOn(u"airdrop"_s);
+    if (GetParam().chooses) {
+        EXPECT_TRUE(world.devices.sent.isEmpty());
+        click(view.window(), in(u"deviceMenu"_s, u"item1"_s)->mapToScene({20, 10}));
+    }
+    world.scheduler.advance(Seconds(0.1));
+    world.devices.answerSend(true);
+    ASSERT_EQ(world.devices.sent.size(), GetParam().sentTo.isEmpty() ? 0 : 1);
+    if (!GetParam().sentTo.isEmpty()) {
+        EXPECT_EQ(world.devices.sent[0].deviceId, GetParam().sentTo);
+        EXPECT_EQ(world.devices.sent[0].addresses.size(), 1);
+    }
+    EXPECT_EQ(view.host().toast()->text(), GetParam().toast);
+    EXPECT_EQ(view.host().sending()->advice().isEmpty(), !GetParam().devices.isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ShelfSending,
+                         testing::Values(SendCase{"toNobody", {}, false, false, {}, {}},
+                                         SendCase{"toTheOnlyOne",
+                                                  {{u"p"_s, u"Pixel\nof Ren"_s}},
+                                                  false,
+                                                  false,
+                                                  u"p"_s,
+                                                  u"Sent to Pixel of Ren"_s},
+                                         SendCase{"toTheOneThatIsChosen",
+                                                  {{u"p"_s, u"Pixel"_s}, {u"t"_s, u"Tablet"_s}},
+                                                  true,
+                                                  true,
+                                                  u"t"_s,
+                                                  u"Sent 1 of 2 to Tablet"_s}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(ShelfTab, listsWhatIsReceivedAndTakesItOntoTheShelf) {
+    open();
+    const auto receive = [this](const QByteArray& name) {
+        world.downloads.tell({{}, {{FolderChange::Kind::written, name}}});
+    };
+    receive("first.pdf");
+    world.scheduler.advance(Seconds(300));
+    EXPECT_EQ(shown(u"banner"_s), nullptr) << "that was a while ago";
+    receive("second.pdf");
+    item(u"banner"_s);
+    const auto ago = [this](const QString& row) {
+        return in(row, u"ago"_s)->property("text").toString();
+    };
+    EXPECT_EQ(ago(u"received0"_s), u"5 min. ago"_s);
+    EXPECT_EQ(ago(u"received1"_s), u"just now"_s);
+    const QQuickItem* row = item(u"received0"_s);
+    send(view.window(), QEvent::MouseMove, row->mapToScene({400, 14}));
+    const QQuickItem* park = find(row, u"park"_s);
+    ASSERT_TRUE(park->isVisible());
+    click(view.window(), park->mapToScene({12, 12}));
+    EXPECT_EQ(parked(), u"first.pdf"_s);
+    EXPECT_TRUE(world.opener.opened.isEmpty()) << "the click went through to the row";
+    clickOn(u"received1"_s);
+    EXPECT_EQ(names(world.opener.opened), u"second.pdf"_s);
+}
+
+TEST_F(ShelfTab, makesTilesAndRowsForWhatIsInSightOnly) {
+    park(1, 200);
+    FolderListing listing{{}, FolderListing::Unknown::arrived};
+    for (int i = 0; i < 10000; ++i) {
+        listing.entries.append({QByteArray::number(i) + ".pdf", false});
+    }
+    world.downloads.tell({listing, {}});
+    openByKey();
+    EXPECT_EQ(view.host().received()->rowCount(), 10000);
+    EXPECT_LT(view.host().shelf()->tiles()->rowCount(), 48);
+    EXPECT_EQ(shown(u"tile199"_s), nullptr);
+    press(view.window(), Qt::Key_End);
+    view.window().grabWindow();
+    EXPECT_LT(view.host().shelf()->tiles()->rowCount(), 48);
+    EXPECT_TRUE(item(u"tile199"_s)->hasActiveFocus());
+    EXPECT_NE(shown(u"received9999"_s), nullptr) << "the list ends with the newest";
+    EXPECT_EQ(shown(u"received0"_s), nullptr);
+}
+
+struct PressCase {
+    const char* name;
+    QList<double> moves;
+    int taps;
+    int drags;
+};
+
+class DragSource : public testing::TestWithParam<PressCase> {};
+
+TEST_P(DragSource, tellsAPressThatMovesFromATap) {
+    QQuickWindow window;
+    window.resize(100, 100);
+    DragSourceView source(window.contentItem());
+    source.setSize({100, 100});
+    int taps = 0;
+    int drags = 0;
+    QObject::connect(&source, &DragSourceView::tapped, [&] { ++taps; });
+    QObject::connect(&source, &DragSourceView::dragged, [&] { ++drags; });
+    window.show();
+    for (int again = 1; again <= 2; ++again) {
+        send(window, QEvent::MouseButtonPress, {10, 50});
+        double x = 10;
+        for (const double move : GetParam().moves) {
+            send(window, QEvent::MouseMove, {x += move, 50});
+        }
+        send(window, QEvent::MouseButtonRelease, {x, 50});
+        EXPECT_EQ(taps, again * GetParam().taps);
+        EXPECT_EQ(drags, again * GetParam().drags);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, DragSource,
+                         testing::Values(PressCase{"still", {}, 1, 0},
+                                         PressCase{"trembling", {2, -3, 2}, 1, 0},
+                                         PressCase{"moved", {20}, 0, 1},
+                                         PressCase{"movedLong", {12, 12, 12, 12, -40}, 0, 1}),
+                         [](const auto& row) { return row.param.name; });
+
+struct LayoutCase {
+    const char* name;
+    QList<qsizetype> stacks;
+    double width;
+    QList<QRectF> trays;
+    QList<QPointF> lastTiles; ///< Of each stack.
+};
+
+class Layout : public testing::TestWithParam<LayoutCase> {};
+
+TEST_P(Layout, standsTraysSideBySideAndBreaksLongOnes) {
+    const ShelfLayout layout(GetParam().stacks, GetParam().width);
+    EXPECT_EQ(layout.trays, GetParam().trays);
+    EXPECT_EQ(layout.height, GetParam().trays.isEmpty() ? 0 : GetParam().trays.last().bottom());
+    qsizetype tiles = 0;
+    for (qsizetype i = 0; i < GetParam().stacks.size(); ++i) {
+        tiles += GetParam().stacks[i];
+        EXPECT_EQ(layout.tiles[tiles - 1].topLeft(), GetParam().lastTiles[i]);
+    }
+    EXPECT_EQ(layout.tiles.size(), tiles);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Layout,
+    testing::Values(
+        LayoutCase{"none", {}, 859, {}, {}},
+        LayoutCase{"sideBySide",
+                   {3, 2, 3, 1},
+                   859,
+                   {{0, 0, 315, 116}, {323, 0, 212, 116}, {543, 0, 315, 116}, {0, 124, 109, 116}},
+                   {{210, 4}, {430, 4}, {753, 4}, {4, 128}}},
+        LayoutCase{"wrapped",
+                   {1, 9, 1},
+                   859,
+                   {{0, 0, 109, 116}, {0, 124, 830, 226}, {0, 358, 109, 116}},
+                   {{4, 4}, {4, 238}, {4, 362}}},
+        LayoutCase{"narrowerThanATile", {2}, 50, {{0, 0, 109, 226}}, {{4, 114}}}),
+    [](const auto& row) { return row.param.name; });
+
+class FileThumb : public testing::TestWithParam<std::pair<const char*, QSize>> {};
+
+TEST_P(FileThumb, isThePictureWhereOneCanBeReadAndAnIconElsewhere) {
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(QString::fromUtf8(GetParam().first));
+    QImage wide(200, 100, QImage::Format_RGB32);
+    wide.fill(Qt::green);
+    ASSERT_TRUE(wide.save(path, "png"));
+    const QImage thumb = fileThumb(QUrl::fromLocalFile(path), 1, NoFileIcons());
+    EXPECT_EQ(thumb.size(), GetParam().second);
+    const bool pictured = thumb.size() == QSize(72, 56);
+    EXPECT_EQ(thumb.pixelColor(thumb.rect().center()) == QColor(Qt::green), pictured);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, FileThumb,
+                         testing::Values(std::pair("photo.png", QSize(72, 56)),
+                                         std::pair("PHOTO.HEIC", QSize(72, 56)),
+                                         std::pair("a #1 100% ü.JPeG", QSize(72, 56)),
+                                         std::pair("print.pdf", QSize(64, 64)),
+                                         std::pair("png", QSize(64, 64))));
+
+/// 64 x 32, all green, as telephones write them.
+constexpr auto greenHeic =
+    "AAAAHGZ0eXBoZWljAAAAAG1pZjFoZWljbWlhZgAAAaptZXRhAAAAAAAAACFoZGxyAAAAAAAAAABwaWN0"
+    "AAAAAAAAAAAAAAAAAAAAAA5waXRtAAAAAAACAAAAEGlkYXQAAAAAAEAAIAAAADhpbG9jAQAAAERAAAIA"
+    "AQAAAAAAAAHOAAEAAAAAAAAAHQACAAEAAAAAAAAAAQAAAAAAAAAIAAAAOGlpbmYAAAAAAAIAAAAVaW5m"
+    "ZQIAAAEAAQAAaHZjMQAAAAAVaW5mZQIAAAAAAgAAZ3JpZAAAAADVaXBycAAAALNpcGNvAAAAc2h2Y0MB"
+    "A3AAAAAAAAAAAAAe8AD8/fj4AAAPAyAAAQAYQAEMAf//A3AAAAMAkAAAAwAAAwAeugJAIQABACdCAQED"
+    "cAAAAwCQAAADAAADAB6gIIEFlurkprmwIAAAAwAgAAADACEiAAEABkQBwXPAiQAAABRpc3BlAAAAAAAA"
+    "AEAAAABAAAAAFGlzcGUAAAAAAAAAQAAAACAAAAAQcGl4aQAAAAADCAgIAAAAGmlwbWEAAAAAAAAAAgAB"
+    "AoECAAICA4QAAAAaaXJlZgAAAAAAAAAOZGltZwACAAEAAQAAACVtZGF0AAAAGSgBrxOA+BDhp3/3go//"
+    "0y9X/zZ6786KQz4=";
+
+TEST(FileThumbs, showWhatTelephonesWrite) {
+    const QTemporaryDir folder;
+    QFile file(folder.filePath(u"IMG_4821.HEIC"_s));
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(QByteArray::fromBase64(greenHeic));
+    file.close();
+    const QUrl url = QUrl::fromLocalFile(file.fileName());
+    const QImage thumb = fileThumb(url, 1, NoFileIcons());
+    EXPECT_EQ(thumb.size(), QSize(72, 56));
+    EXPECT_GT(thumb.pixelColor(36, 28).green(), 200);
+    EXPECT_LT(thumb.pixelColor(36, 28).red(), 50);
+    file.resize(300);
+    EXPECT_EQ(fileThumb(url, 1, NoFileIcons()).size(), QSize(64, 64)) << "an icon: it is cut off";
+
+    const QString upright = folder.filePath(u"upright.jpg"_s);
+    QImageWriter camera(upright);
+    camera.setTransformation(QImageIOHandler::TransformationRotate90);
+    ASSERT_TRUE(camera.write(QImage(200, 150, QImage::Format_RGB32)));
+    EXPECT_EQ(fileThumb(QUrl::fromLocalFile(upright), 1, NoFileIcons()).size(), QSize(42, 56));
+}
+
+TEST(FileThumbs, surviveTheWayThroughAnAddress) {
+    const QUrl file = QUrl::fromLocalFile(u"/a b/c#d?e%20ü/ñ.png"_s);
+    const QString address = fileThumbAddress(file);
+    EXPECT_EQ(fileOfThumb(QUrl(address).path().mid(1)), file);
+}
+
+} // namespace
+
+} // namespace ravelo

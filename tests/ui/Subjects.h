@@ -1,0 +1,16 @@
+#pragma once
+
+#include "fakes/PanelWorld.h"
+#include "ui/PanelHost.h"
+
+namespace ravelo {
+
+/// A panel of this world.
+inline PanelHost::Subjects subjects(PanelWorld& world) {
+    return {world.store,     world.settings,    world.controller, world.pasteboard,
+            world.scheduler, world.preferences, world.nightShift, world.shutDown,
+            world.received,  world.nearby,      world.jobs,       world.opener,
+            world.icons};
+}
+
+} // namespace ravelo
