@@ -110,10 +110,7 @@ void ShelfContents::remove(int place) {
 }
 
 void ShelfContents::removeSelected() {
-    const QList<QUrl> files = store_.shelf().selectedFiles();
-    for (const QUrl& file : files) {
-        store_.removeFromShelf(file);
-    }
+    store_.removeFromShelf(store_.shelf().selectedFiles());
 }
 
 void ShelfContents::park(const QUrl& file) {

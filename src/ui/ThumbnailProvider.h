@@ -17,8 +17,7 @@ namespace ravelo {
 /// The same of an image that is read already.
 [[nodiscard]] QImage thumbnail(const QImage& image, QSize size, double radius);
 
-/// Pictures that are made off the main thread, in the size that is asked
-/// for.
+/// Pictures that are made off the main thread, in the size that is asked for.
 class ThumbnailProvider : public QQuickAsyncImageProvider {
 public:
     /// Makes the picture of that name in device pixels. On a thread of its own.
