@@ -3,6 +3,9 @@
 #include "app/Commands.h"
 #include "base/Files.h"
 #include "clipboard/ClipboardManager.h"
+#include "monitor/LiveContext.h"
+#include "monitor/MonitorPlatform.h"
+#include "monitor/PlanUsage.h"
 #include "panel/NotchController.h"
 #include "platform/DisplayServer.h"
 #include "platform/freedesktop/AutostartEntry.h"
@@ -11,9 +14,14 @@
 #include "platform/freedesktop/LoginSession.h"
 #include "platform/freedesktop/LoginShutDown.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
+#include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
+#include "platform/system/DetachedThreads.h"
+#include "platform/system/HttpsThread.h"
+#include "platform/system/InotifyChanges.h"
 #include "platform/system/NightShiftScript.h"
 #include "platform/system/PreferenceFile.h"
+#include "platform/system/SpawnedChild.h"
 #include "platform/system/SystemScheduler.h"
 #include "platform/system/TerminationSignals.h"
 #include "platform/system/WorkerThread.h"
@@ -21,6 +29,8 @@
 #include "store/Store.h"
 #include "ui/PanelView.h"
 
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QStandardPaths>
@@ -72,7 +82,11 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       transfers_(std::make_unique<FileTransferPortal>(sessionBus())),
       sound_(std::make_unique<ThemeSound>()),
       nightShift_(std::make_unique<NightShiftScript>(environment)),
-      shutDown_(std::make_unique<LoginShutDown>(systemBus())) {}
+      shutDown_(std::make_unique<LoginShutDown>(systemBus())),
+      jobs_(std::make_unique<DetachedThreads>()),
+      secrets_(std::make_unique<SecretService>(sessionBus())),
+      https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
+      children_(std::make_unique<SpawnedChild>(*jobs_, environment)) {}
 
 AppDelegate::~AppDelegate() {
     flush();
@@ -97,6 +111,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     clipboard_ = std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_);
     clipboard_->start();
 
+    provideMonitors();
     view_ = std::make_unique<PanelView>();
     window_ = display_.panelWindow(view_->window());
     notch_ = std::make_unique<NotchController>(
@@ -111,7 +126,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                                   {&display_.lock(), loginSession_.get(), screenSaver_.get()}},
         rest_);
     view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_,
-                 *nightShift_, *shutDown_},
+                 *nightShift_, *shutDown_, PlanUsage::shared()},
                 QLocale());
     const auto quit = [] {
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
@@ -119,6 +134,19 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     commands_ = std::make_unique<Commands>(Commands::Services{*store_, *notch_, *scheduler_, quit});
     wire();
     return {};
+}
+
+void AppDelegate::provideMonitors() {
+    const QByteArray home = QFile::encodeName(QDir::homePath());
+    setMonitorPlatform(
+        {[this, home] {
+             return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_}, home,
+                                                  std::make_unique<InotifyChanges>());
+         },
+         [this, home] {
+             return std::make_unique<PlanUsage>(
+                 UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home);
+         }});
 }
 
 void AppDelegate::wire() {

@@ -16,10 +16,13 @@ namespace ravelo {
 
 class AlertSound;
 class AppSettings;
+class ChildProcess;
 class ClipboardManager;
 class Commands;
+class DetachedJobs;
 class DisplayServer;
 class FileTransfer;
+class HttpsClient;
 class LoginItem;
 class NightShift;
 class NotchController;
@@ -27,6 +30,7 @@ class PanelView;
 class PanelWindow;
 class Preferences;
 class Scheduler;
+class SecretStore;
 class SessionLock;
 class ShutDown;
 class Store;
@@ -53,6 +57,7 @@ public:
     void flush();
 
 private:
+    void provideMonitors();
     void wire();
 
     DisplayServer& display_;
@@ -68,6 +73,10 @@ private:
     std::unique_ptr<AlertSound> sound_;
     std::unique_ptr<NightShift> nightShift_;
     std::unique_ptr<ShutDown> shutDown_;
+    std::unique_ptr<DetachedJobs> jobs_;
+    std::unique_ptr<SecretStore> secrets_;
+    std::unique_ptr<HttpsClient> https_;
+    std::unique_ptr<ChildProcess> children_;
 
     std::unique_ptr<Store> store_;
     std::unique_ptr<AppSettings> settings_;

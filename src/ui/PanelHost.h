@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Scheduler.h"
+#include "monitor/PlanUsage.h"
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
@@ -59,6 +60,7 @@ public:
         Preferences& preferences;
         NightShift& nightShift;
         ShutDown& shutDown;
+        PlanUsage& usage;
     };
 
     PanelHost(Subjects subjects, const QLocale& locale);
@@ -105,10 +107,6 @@ public:
     [[nodiscard]] UsageLine session() const { return sessionLine_; }
 
     [[nodiscard]] UsageLine week() const { return weekLine_; }
-
-    /// Nothing where it is not known.
-    void setUsage(const std::optional<UsageWindow>& session,
-                  const std::optional<UsageWindow>& week);
 
     /// The window has got this size.
     void windowResized(QSizeF size);
@@ -157,8 +155,6 @@ private:
     QSizeF contentSize_;
     Backdrop::Kind backdrop_ = Backdrop::Translucent;
     bool reducedMotion_ = false;
-    std::optional<UsageWindow> session_;
-    std::optional<UsageWindow> week_;
     UsageLine sessionLine_;
     UsageLine weekLine_;
     Handle building_;

@@ -8,6 +8,7 @@
 
 #include "Input.h"
 #include "fakes/PanelWorld.h"
+#include "fakes/UsageWorld.h"
 #include "support/Eventually.h"
 #include "ui/PanelView.h"
 
@@ -336,17 +337,17 @@ int main(int argc, char** argv) {
         data.clips = sampleClips();
     }
     PanelWorld world(data);
+    const double now = world.scheduler.now().sinceReference;
+    UsageWorld spent(world.scheduler, {UsageWindow{42, Date{now + 125.5 * 60}},
+                                       UsageWindow{78, Date{now + 76.5 * 3600}}});
     room().save(world.store.imagePath(u"room.png"_s));
     plan().save(world.store.imagePath(u"plan.png"_s));
     world.settings.setLastTab(scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
     PanelView view;
     view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler,
-               world.preferences, world.nightShift, world.shutDown},
+               world.preferences, world.nightShift, world.shutDown, spent.usage},
               QLocale(u"en_US"_s));
     view.host().setBackdrop(Backdrop::Blurred);
-    const Date now = world.scheduler.now();
-    view.host().setUsage(UsageWindow{42, Date{now.sinceReference + 125.5 * 60}},
-                         UsageWindow{78, Date{now.sinceReference + 76.5 * 3600}});
     view.window().resize(200, 12);
     view.window().show();
     view.window().requestActivate();

@@ -2,6 +2,7 @@
 
 #include "Input.h"
 #include "fakes/PanelWorld.h"
+#include "fakes/UsageWorld.h"
 #include "support/Eventually.h"
 #include "ui/PanelView.h"
 
@@ -31,7 +32,7 @@ class Panel : public testing::Test {
 public:
     explicit Panel(const StoreData& data = threeClips()) : world(data) {
         view.load({world.store, world.settings, world.controller, world.pasteboard, world.scheduler,
-                   world.preferences, world.nightShift, world.shutDown},
+                   world.preferences, world.nightShift, world.shutDown, plan.usage},
                   QLocale(u"en_US"_s));
         view.window().resize(200, 12);
         view.window().show();
@@ -98,6 +99,7 @@ public:
     }
 
     PanelWorld world;
+    UsageWorld plan{world.scheduler};
     PanelView view;
     QQuickItem nothing;
 };
@@ -137,6 +139,22 @@ TEST_F(Panel, tellsDatesAnewAtTheOpening) {
     world.scheduler.advance(Seconds(3 * 3600));
     open();
     EXPECT_EQ(find(item(u"card0"_s), u"subtitle"_s)->property("text"), u"3 hr. ago"_s);
+}
+
+TEST_F(Panel, tellsHowMuchOfThePlanIsUsed) {
+    const auto percents = [this] {
+        return in(u"usageSession"_s, u"percent"_s)->property("text").toString() + u' ' +
+               in(u"usageWeek"_s, u"percent"_s)->property("text").toString();
+    };
+    const auto spend = [this](const PlanWindows& windows) {
+        plan.write(windows);
+        world.scheduler.advance(Seconds(5));
+    };
+    spend({UsageWindow{41.5, {}}, {}});
+    open();
+    EXPECT_EQ(percents(), u"42% \u2014"_s);
+    spend({UsageWindow{43, {}}, UsageWindow{130, {}}});
+    EXPECT_EQ(percents(), u"43% 130%"_s);
 }
 
 TEST_F(Panel, showsTheNewestOfWhatWasCopiedWhileItWasClosed) {

@@ -2,6 +2,7 @@
 
 #include "Input.h"
 #include "fakes/PanelWorld.h"
+#include "fakes/UsageWorld.h"
 #include "support/Eventually.h"
 #include "support/Told.h"
 #include "timer/TimerString.h"
@@ -120,7 +121,8 @@ class Bar : public testing::Test {
 protected:
     Bar() {
         view_.load({world_.store, world_.settings, world_.controller, world_.pasteboard,
-                    world_.scheduler, world_.preferences, world_.nightShift, world_.shutDown},
+                    world_.scheduler, world_.preferences, world_.nightShift, world_.shutDown,
+                    plan_.usage},
                    QLocale(u"en_US"_s));
         view_.window().show();
         world_.store.setReminderOpen(true);
@@ -144,6 +146,7 @@ protected:
     }
 
     PanelWorld world_;
+    UsageWorld plan_{world_.scheduler};
     PanelView view_;
 
 private:
