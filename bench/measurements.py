@@ -221,4 +221,16 @@ def rest(options):
     ]
 
 
-MEASUREMENTS = [openings, typing, scrolling, rest]
+# Transcripts.
+
+def transcripts(options):
+    """6,000 transcripts, compared with what find(1) needs to name them."""
+    output = subprocess.run([BUILD / "bench/bench_transcripts", str(options.openings)], check=True,
+                            stdout=subprocess.PIPE, text=True).stdout
+    rows = [[float(word) for word in line.split()] for line in output.splitlines()]
+    first, find, idle = (statistics.median(column) for column in zip(*rows))
+    return [Row("transcripts: first look, median", first, "ms", 3 * find, find),
+            Row("transcripts: nothing new, processor", idle, "ms", 1)]
+
+
+MEASUREMENTS = [openings, typing, scrolling, rest, transcripts]

@@ -4,6 +4,9 @@
 #include "app/ShelfServices.h"
 #include "base/Files.h"
 #include "clipboard/ClipboardManager.h"
+#include "monitor/LiveContext.h"
+#include "monitor/MonitorPlatform.h"
+#include "monitor/PlanUsage.h"
 #include "panel/NotchController.h"
 #include "platform/DisplayServer.h"
 #include "platform/freedesktop/AutostartEntry.h"
@@ -12,9 +15,14 @@
 #include "platform/freedesktop/LoginSession.h"
 #include "platform/freedesktop/LoginShutDown.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
+#include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
+#include "platform/system/DetachedThreads.h"
+#include "platform/system/HttpsThread.h"
+#include "platform/system/InotifyChanges.h"
 #include "platform/system/NightShiftScript.h"
 #include "platform/system/PreferenceFile.h"
+#include "platform/system/SpawnedChild.h"
 #include "platform/system/SystemScheduler.h"
 #include "platform/system/TerminationSignals.h"
 #include "platform/system/WorkerThread.h"
@@ -22,6 +30,8 @@
 #include "store/Store.h"
 #include "ui/PanelView.h"
 
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QStandardPaths>
@@ -74,7 +84,11 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       sound_(std::make_unique<ThemeSound>()),
       nightShift_(std::make_unique<NightShiftScript>(environment)),
       shutDown_(std::make_unique<LoginShutDown>(systemBus())),
-      shelf_(std::make_unique<ShelfServices>(*scheduler_, display_.icons())) {}
+      jobs_(std::make_unique<DetachedThreads>()),
+      secrets_(std::make_unique<SecretService>(sessionBus())),
+      https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
+      children_(std::make_unique<SpawnedChild>(*jobs_, environment)),
+      shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, display_.icons())) {}
 
 AppDelegate::~AppDelegate() {
     flush();
@@ -99,6 +113,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     clipboard_ = std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_);
     clipboard_->start();
 
+    provideMonitors();
     view_ = std::make_unique<PanelView>();
     window_ = display_.panelWindow(view_->window());
     notch_ = std::make_unique<NotchController>(
@@ -113,8 +128,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                                   {&display_.lock(), loginSession_.get(), screenSaver_.get()}},
         rest_);
     view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_,
-                 *nightShift_, *shutDown_,
-                 shelf_->received, shelf_->nearby, shelf_->jobs, shelf_->opener, shelf_->icons},
+                 *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received, shelf_->nearby,
+                 *jobs_, shelf_->opener, shelf_->icons},
                 QLocale());
     const auto quit = [] {
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
@@ -122,6 +137,19 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     commands_ = std::make_unique<Commands>(Commands::Services{*store_, *notch_, *scheduler_, quit});
     wire();
     return {};
+}
+
+void AppDelegate::provideMonitors() {
+    const QByteArray home = QFile::encodeName(QDir::homePath());
+    setMonitorPlatform(
+        {[this, home] {
+             return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_}, home,
+                                                  std::make_unique<InotifyChanges>());
+         },
+         [this, home] {
+             return std::make_unique<PlanUsage>(
+                 UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home);
+         }});
 }
 
 void AppDelegate::wire() {

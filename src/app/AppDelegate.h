@@ -16,10 +16,13 @@ namespace ravelo {
 
 class AlertSound;
 class AppSettings;
+class ChildProcess;
 class ClipboardManager;
 class Commands;
+class DetachedJobs;
 class DisplayServer;
 class FileTransfer;
+class HttpsClient;
 class LoginItem;
 class NightShift;
 class NotchController;
@@ -27,6 +30,7 @@ class PanelView;
 class PanelWindow;
 class Preferences;
 class Scheduler;
+class SecretStore;
 class SessionLock;
 class ShutDown;
 struct ShelfServices;
@@ -54,6 +58,7 @@ public:
     void flush();
 
 private:
+    void provideMonitors();
     void wire();
 
     DisplayServer& display_;
@@ -69,6 +74,10 @@ private:
     std::unique_ptr<AlertSound> sound_;
     std::unique_ptr<NightShift> nightShift_;
     std::unique_ptr<ShutDown> shutDown_;
+    std::unique_ptr<DetachedJobs> jobs_;
+    std::unique_ptr<SecretStore> secrets_;
+    std::unique_ptr<HttpsClient> https_;
+    std::unique_ptr<ChildProcess> children_;
 
     std::unique_ptr<ShelfServices> shelf_;
 

@@ -18,8 +18,10 @@ QString themeOf(const IconPreference& preference) {
 
 } // namespace
 
-ShelfServices::ShelfServices(Scheduler& scheduler, IconPreference& preference)
-    : devices(sessionBus()),
+ShelfServices::ShelfServices(Scheduler& scheduler, DetachedJobs& jobs,
+                             IconPreference& preference)
+    : programs(jobs),
+      devices(sessionBus()),
       opener(sessionBus(), programs),
       icons(std::make_shared<IconTheme>(IconTheme::usualFolders())),
       received(folders, scheduler,

@@ -4,7 +4,6 @@
 #include "platform/freedesktop/DesktopFileOpener.h"
 #include "platform/freedesktop/IconTheme.h"
 #include "platform/freedesktop/KdeConnect.h"
-#include "platform/system/DetachedThreads.h"
 #include "platform/system/InotifyFolderWatch.h"
 #include "platform/system/SystemPrograms.h"
 #include "shelf/NearbySend.h"
@@ -14,15 +13,15 @@
 
 namespace ravelo {
 
+class DetachedJobs;
 class IconPreference;
 
 /// What the shelf's tab works with, made of this system's parts. Main thread.
 struct ShelfServices {
-    /// Both must outlive it.
-    ShelfServices(Scheduler& scheduler, IconPreference& preference);
+    /// They must outlive it.
+    ShelfServices(Scheduler& scheduler, DetachedJobs& jobs, IconPreference& preference);
 
-    DetachedThreads jobs;
-    SystemPrograms programs{jobs};
+    SystemPrograms programs;
     KdeConnect devices;
     InotifyFolderWatch folders;
     DesktopFileOpener opener;

@@ -5,6 +5,9 @@
 #include <QFileInfo>
 #include <QSaveFile>
 
+#include <algorithm>
+#include <cerrno>
+#include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -18,6 +21,32 @@ constexpr auto privateFolder = privateFile | QFile::ExeOwner;
 bool isTaken(const QString& path) {
     const QFileInfo info(path);
     return info.exists() || info.isSymLink();
+}
+
+std::optional<QByteArray> readEnd(int file, qint64 most) {
+    struct stat info = {};
+    if (fstat(file, &info) != 0 || !S_ISREG(info.st_mode)) {
+        return std::nullopt;
+    }
+    const qint64 start = std::max<qint64>(info.st_size - most, 0);
+    QByteArray bytes(std::min<qint64>(info.st_size, most), Qt::Uninitialized);
+    qint64 taken = 0;
+    while (taken < bytes.size()) {
+        const ssize_t count = pread(file, bytes.data() + taken,
+                                    static_cast<size_t>(bytes.size() - taken), start + taken);
+        if (count < 0 && errno == EINTR) {
+            continue;
+        }
+        if (count < 0) {
+            return std::nullopt;
+        }
+        if (count == 0) { // It was cut meanwhile.
+            break;
+        }
+        taken += count;
+    }
+    bytes.truncate(taken);
+    return bytes;
 }
 
 } // namespace
@@ -42,6 +71,16 @@ bool isRegularFile(const QByteArray& path) {
     struct stat info {};
 
     return !path.contains('\0') && ::stat(path.constData(), &info) == 0 && S_ISREG(info.st_mode);
+}
+
+std::optional<QByteArray> readFileEnd(const QByteArray& path, qint64 most) {
+    const int file = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (file < 0) {
+        return std::nullopt;
+    }
+    std::optional<QByteArray> bytes = readEnd(file, most);
+    close(file);
+    return bytes;
 }
 
 bool writeFileAtomically(const QString& path, const QByteArray& bytes) {

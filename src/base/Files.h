@@ -16,6 +16,11 @@ namespace ravelo {
 /// Whether a file is there, by a link or not, that is no folder, pipe or device. Likewise.
 [[nodiscard]] bool isRegularFile(const QByteArray& path);
 
+/// The last `most` bytes of a regular file, all of a shorter one; nothing where it is missing, is
+/// something else or cannot be read. For files of other programs: never waits for a writer, as a
+/// pipe in the file's place would have it. `path` as the system has it. Blocks; any thread.
+[[nodiscard]] std::optional<QByteArray> readFileEnd(const QByteArray& path, qint64 most);
+
 /// Replaces `path` in one step with a file that only its user can read (0600): whoever looks, at
 /// whatever moment, finds the old or the new contents whole. Blocks until the disk has them; any
 /// thread. False, with the old file untouched, where it could not be written.

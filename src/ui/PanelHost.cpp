@@ -52,6 +52,11 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
         }
     });
     connect(store(), &Store::shelfChanged, this, &PanelHost::shelfChanged);
+    connect(&subjects.usage, &PlanUsage::changed, this, [this] {
+        if (controller()->isOpen()) {
+            tellUsage();
+        }
+    });
     tellUsage();
     follow();
 }
@@ -68,13 +73,6 @@ void PanelHost::setReducedMotion(bool reduced) {
         reducedMotion_ = reduced;
         Q_EMIT reducedMotionChanged();
     }
-}
-
-void PanelHost::setUsage(const std::optional<UsageWindow>& session,
-                         const std::optional<UsageWindow>& week) {
-    session_ = session;
-    week_ = week;
-    tellUsage();
 }
 
 void PanelHost::windowResized(QSizeF size) {
@@ -186,8 +184,8 @@ void PanelHost::setContentSize(QSizeF size) {
 
 void PanelHost::tellUsage() {
     const Date now = subjects_.scheduler.now();
-    sessionLine_ = usageLine(session_, now);
-    weekLine_ = usageLine(week_, now);
+    sessionLine_ = usageLine(subjects_.usage.session(), now);
+    weekLine_ = usageLine(subjects_.usage.week(), now);
     Q_EMIT usageChanged();
 }
 

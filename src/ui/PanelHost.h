@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Scheduler.h"
+#include "monitor/PlanUsage.h"
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
@@ -69,6 +70,7 @@ public:
         Preferences& preferences;
         NightShift& nightShift;
         ShutDown& shutDown;
+        PlanUsage& usage;
         ReceivedWatcher& received;
         NearbySend& nearby;
         DetachedJobs& jobs;
@@ -132,10 +134,6 @@ public:
 
     [[nodiscard]] UsageLine week() const { return weekLine_; }
 
-    /// Nothing where it is not known.
-    void setUsage(const std::optional<UsageWindow>& session,
-                  const std::optional<UsageWindow>& week);
-
     /// The window has got this size.
     void windowResized(QSizeF size);
 
@@ -192,8 +190,6 @@ private:
     QSizeF contentSize_;
     Backdrop::Kind backdrop_ = Backdrop::Translucent;
     bool reducedMotion_ = false;
-    std::optional<UsageWindow> session_;
-    std::optional<UsageWindow> week_;
     UsageLine sessionLine_;
     UsageLine weekLine_;
     Handle building_;

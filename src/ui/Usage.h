@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Date.h"
+#include "monitor/UsageWindow.h"
 
 #include <QObject>
 #include <QQmlEngine>
@@ -8,14 +9,6 @@
 #include <optional>
 
 namespace ravelo {
-
-/// How much of one window of the plan is used up.
-struct UsageWindow {
-    double percent = 0;
-    std::optional<Date> resets;
-
-    friend bool operator==(const UsageWindow&, const UsageWindow&) = default;
-};
 
 // NOLINTBEGIN(readability-identifier-naming): QML demands capitals.
 namespace UsageBand {

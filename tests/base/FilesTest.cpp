@@ -113,6 +113,21 @@ TEST_F(Files, WhatCannotBeCopiedIsMoved) {
     EXPECT_TRUE(QFile::exists(path(u"a.unreadable2/inside"_s)));
 }
 
+TEST_F(Files, OfOtherProgramsAreReadFromTheirEnd) {
+    const QString file = path(u"a"_s);
+    const auto end = [](const QString& name, qint64 most) {
+        return readFileEnd(QFile::encodeName(name), most);
+    };
+    EXPECT_EQ(end(file, 5), std::nullopt) << "missing";
+    ASSERT_TRUE(writeFileAtomically(file, "0123456789"));
+    EXPECT_EQ(end(file, 5), "56789");
+    EXPECT_EQ(end(file, 10), "0123456789");
+    EXPECT_EQ(end(file, 11), "0123456789");
+    EXPECT_EQ(end(folder_.path(), 5), std::nullopt) << "a folder";
+    ASSERT_EQ(mkfifo(qPrintable(path(u"pipe"_s)), 0600), 0);
+    EXPECT_EQ(end(path(u"pipe"_s), 5), std::nullopt) << "nobody may ever write to it";
+}
+
 } // namespace
 
 } // namespace ravelo

@@ -14,7 +14,8 @@
 
 namespace ravelo {
 
-/// A service, as far as a test needs it: `answer` answers every call, or leaves it hanging.
+/// A service, as far as a test needs it: `answer` answers every call, with several values by a list
+/// of them, or leaves it hanging.
 class StandIn : public QDBusVirtualObject {
 public:
     using Answer = std::function<std::optional<QVariant>(const QDBusMessage& call)>;
@@ -30,6 +31,9 @@ public:
 
     bool handleMessage(const QDBusMessage& call, const QDBusConnection& connection) override {
         const auto answer = answer_(call);
+        if (answer && answer->typeId() == QMetaType::QVariantList) {
+            return connection.send(call.createReply(answer->toList()));
+        }
         return !answer ||
                connection.send(answer->isValid() ? call.createReply(*answer) : call.createReply());
     }

@@ -2,6 +2,7 @@
 
 #include "Input.h"
 #include "Subjects.h"
+#include "fakes/UsageWorld.h"
 #include "support/Eventually.h"
 #include "ui/PanelView.h"
 
@@ -25,7 +26,7 @@ inline StoreData threeClips() {
 class Panel : public testing::Test {
 public:
     explicit Panel(const StoreData& data = threeClips()) : world(data) {
-        view.load(subjects(world), QLocale(u"en_US"_s));
+        view.load(subjects(world, plan.usage), QLocale(u"en_US"_s));
         view.window().resize(200, 12);
         view.window().show();
         view.window().requestActivate();
@@ -91,6 +92,7 @@ public:
     }
 
     PanelWorld world;
+    UsageWorld plan{world.scheduler};
     PanelView view;
     QQuickItem nothing;
 };

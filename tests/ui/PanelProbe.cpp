@@ -8,6 +8,7 @@
 
 #include "Input.h"
 #include "Subjects.h"
+#include "fakes/UsageWorld.h"
 #include "support/Eventually.h"
 #include "ui/PanelView.h"
 
@@ -413,12 +414,15 @@ int main(int argc, char** argv) {
         data.clips = sampleClips();
     }
     PanelWorld world(data);
+    const double now = world.scheduler.now().sinceReference;
+    UsageWorld spent(world.scheduler, {UsageWindow{42, Date{now + 125.5 * 60}},
+                                       UsageWindow{78, Date{now + 76.5 * 3600}}});
     room().save(world.store.imagePath(u"room.png"_s));
     plan().save(world.store.imagePath(u"plan.png"_s));
     const bool shelf = scene.startsWith(u"shelf"_s);
     world.settings.setLastTab(shelf ? u"Shelf"_s : scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
     PanelView view;
-    view.load(subjects(world), QLocale(u"en_US"_s));
+    view.load(subjects(world, spent.usage), QLocale(u"en_US"_s));
     view.host().setBackdrop(Backdrop::Blurred);
     if (shelf) {
         receive(world, "lighting-quote.pdf", day - minute * 18);
@@ -429,9 +433,6 @@ int main(int argc, char** argv) {
     } else if (shelf && scene != u"shelf-empty" && scene != u"shelf-drop") {
         park(world);
     }
-    const Date now = world.scheduler.now();
-    view.host().setUsage(UsageWindow{42, Date{now.sinceReference + 125.5 * 60}},
-                         UsageWindow{78, Date{now.sinceReference + 76.5 * 3600}});
     view.window().resize(200, 12);
     view.window().show();
     view.window().requestActivate();

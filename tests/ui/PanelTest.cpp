@@ -49,6 +49,22 @@ TEST_F(Panel, tellsDatesAnewAtTheOpening) {
     EXPECT_EQ(find(item(u"card0"_s), u"subtitle"_s)->property("text"), u"3 hr. ago"_s);
 }
 
+TEST_F(Panel, tellsHowMuchOfThePlanIsUsed) {
+    const auto percents = [this] {
+        return in(u"usageSession"_s, u"percent"_s)->property("text").toString() + u' ' +
+               in(u"usageWeek"_s, u"percent"_s)->property("text").toString();
+    };
+    const auto spend = [this](const PlanWindows& windows) {
+        plan.write(windows);
+        world.scheduler.advance(Seconds(5));
+    };
+    spend({UsageWindow{41.5, {}}, {}});
+    open();
+    EXPECT_EQ(percents(), u"42% \u2014"_s);
+    spend({UsageWindow{43, {}}, UsageWindow{130, {}}});
+    EXPECT_EQ(percents(), u"43% 130%"_s);
+}
+
 TEST_F(Panel, showsTheNewestOfWhatWasCopiedWhileItWasClosed) {
     for (int i = 0; i < 20; ++i) {
         world.store.addClip(u"while it was closed %1"_s.arg(i));

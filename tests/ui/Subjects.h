@@ -6,11 +6,11 @@
 namespace ravelo {
 
 /// A panel of this world.
-inline PanelHost::Subjects subjects(PanelWorld& world) {
+inline PanelHost::Subjects subjects(PanelWorld& world, PlanUsage& usage) {
     return {world.store,     world.settings,    world.controller, world.pasteboard,
             world.scheduler, world.preferences, world.nightShift, world.shutDown,
-            world.received,  world.nearby,      world.jobs,       world.opener,
-            world.icons};
+            usage,           world.received,    world.nearby,     world.jobs,
+            world.opener,    world.icons};
 }
 
 } // namespace ravelo

@@ -2,6 +2,7 @@
 
 #include "Input.h"
 #include "Subjects.h"
+#include "fakes/UsageWorld.h"
 #include "support/Eventually.h"
 #include "support/Told.h"
 #include "timer/TimerString.h"
@@ -119,7 +120,7 @@ TEST(FittingTexts, keepNoRoomForANumberThatIsNotShown) {
 class Bar : public testing::Test {
 protected:
     Bar() {
-        view_.load(subjects(world_), QLocale(u"en_US"_s));
+        view_.load(subjects(world_, plan_.usage), QLocale(u"en_US"_s));
         view_.window().show();
         world_.store.setReminderOpen(true);
     }
@@ -142,6 +143,7 @@ protected:
     }
 
     PanelWorld world_;
+    UsageWorld plan_{world_.scheduler};
     PanelView view_;
 
 private:

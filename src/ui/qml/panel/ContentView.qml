@@ -91,12 +91,13 @@ FocusScope {
         host: content.host
     }
 
-    UsageBlock {
+    ContextStatusLine {
         objectName: "usage"
         x: Theme.insetSide
         y: Theme.usageTop + topBar.height - 32
         width: parent.width - 2 * Theme.insetSide
         host: content.host
+        compact: false
     }
 
     TabPicker {

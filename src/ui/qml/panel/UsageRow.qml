@@ -9,7 +9,8 @@ Item {
     required property usageLine usage
     /// As wide as the widest of the block, so that the percents line up.
     required property real resetWidth
-    readonly property real wantedResetWidth: Math.max(90, reset.implicitWidth)
+    required property bool compact
+    readonly property real wantedResetWidth: compact ? 0 : Math.max(90, reset.implicitWidth)
 
     Accessible.role: Accessible.StaticText
     Accessible.name: title + " " + usage.percent + " " + usage.reset
@@ -33,8 +34,9 @@ Item {
     }
 
     Label {
+        objectName: "percent"
         anchors.right: parent.right
-        anchors.rightMargin: row.resetWidth + 8
+        anchors.rightMargin: row.compact ? 0 : row.resetWidth + 8
         text: row.usage.percent
         style: Theme.strong
         tabular: true
@@ -43,6 +45,7 @@ Item {
 
     Label {
         id: reset
+        visible: !row.compact
         anchors.right: parent.right
         text: row.usage.reset
         y: Theme.strong.baseLine(Screen.devicePixelRatio) - style.baseLine(Screen.devicePixelRatio)

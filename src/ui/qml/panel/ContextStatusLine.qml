@@ -1,11 +1,13 @@
 import QtQuick
 import Ravelo
 
-/// The two windows of the plan.
+/// How much of the two windows of the plan is used.
 Box {
     id: block
 
     required property PanelHost host
+    /// Without the times at which the windows start anew.
+    required property bool compact
 
     readonly property real resetWidth: Math.max(session.wantedResetWidth, week.wantedResetWidth)
 
@@ -24,6 +26,7 @@ Box {
         title: "5h session"
         usage: block.host.session
         resetWidth: block.resetWidth
+        compact: block.compact
     }
 
     UsageRow {
@@ -35,6 +38,7 @@ Box {
         title: "Week"
         usage: block.host.week
         resetWidth: block.resetWidth
+        compact: block.compact
     }
 
     MouseArea {

@@ -1,0 +1,94 @@
+// bench_transcripts COUNT: how long it takes to find the newest of 6,000 transcripts, COUNT times.
+// A line each: milliseconds of the first look, of find(1) that only names them, and milliseconds of
+// processor time of a look when nothing is new.
+
+#include "monitor/ContextReader.h"
+#include "platform/system/InotifyChanges.h"
+
+#include <QDir>
+#include <QElapsedTimer>
+#include <QFile>
+#include <QProcess>
+#include <QTemporaryDir>
+
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+
+namespace {
+
+using namespace ravelo;
+using namespace Qt::StringLiterals;
+
+constexpr int projects = 150;
+constexpr int sessions = 40;
+constexpr int idleLooks = 1000;
+
+constexpr auto turn = R"({"message":{"model":"claude-opus-4-6","usage":{"input_tokens":41500}}})"
+                      "\n";
+
+void fill(const QString& root) {
+    for (int project = 0; project < projects; ++project) {
+        const QString folder = u"%1/-home-somebody-project-%2"_s.arg(root).arg(project);
+        QDir().mkpath(folder);
+        for (int session = 0; session < sessions; ++session) {
+            QFile file(u"%1/0b5f6f0e-86d5-4a30-b7c1-%2.jsonl"_s.arg(folder).arg(session, 12, 10,
+                                                                                QChar(u'0')));
+            if (!file.open(QFile::WriteOnly) || file.write(turn) < 0) {
+                qFatal("cannot write %s", qPrintable(file.fileName()));
+            }
+        }
+    }
+}
+
+double milliseconds(const QElapsedTimer& timer) {
+    return static_cast<double>(timer.nsecsElapsed()) / 1e6;
+}
+
+double processorTime() {
+    timespec time = {};
+    clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+    return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+}
+
+double find(const QString& root) {
+    QProcess process;
+    process.setStandardOutputFile(QProcess::nullDevice());
+    QElapsedTimer timer;
+    timer.start();
+    process.start(u"find"_s, {root, u"-name"_s, u"*.jsonl"_s});
+    if (!process.waitForFinished() || process.exitCode() != 0) {
+        qFatal("find does not work");
+    }
+    return milliseconds(timer);
+}
+
+void look(const QByteArray& home) {
+    ContextReader reader(home, std::make_unique<InotifyChanges>());
+    QElapsedTimer timer;
+    timer.start();
+    const ContextReading reading = reader.read();
+    const double cold = milliseconds(timer);
+    if (!reading.turn) {
+        qFatal("nothing was found");
+    }
+    const double before = processorTime();
+    for (int i = 0; i < idleLooks; ++i) {
+        if (!reader.read().turn) {
+            qFatal("what was found is gone");
+        }
+    }
+    const double idle = (processorTime() - before) / idleLooks;
+    std::printf("%g %g %g\n", cold, find(QFile::decodeName(home) + u"/.claude/projects"_s), idle);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QTemporaryDir home;
+    fill(home.filePath(u".claude/projects"_s));
+    for (int i = 0; i < (argc > 1 ? std::atoi(argv[1]) : 1); ++i) {
+        look(QFile::encodeName(home.path()));
+    }
+    return 0;
+}

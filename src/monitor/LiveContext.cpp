@@ -1,0 +1,82 @@
+#include "monitor/LiveContext.h"
+
+#include "base/Scheduler.h"
+#include "monitor/MonitorPlatform.h"
+#include "platform/DetachedJobs.h"
+#include "platform/FolderChanges.h"
+
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <utility>
+
+namespace ravelo {
+
+namespace {
+
+constexpr Seconds interval(5);
+constexpr qint64 million = 1'000'000;
+constexpr qint64 usualLimit = million; ///< Of every model.
+
+} // namespace
+
+LiveContext::LiveContext(Services services, const QByteArray& home,
+                         std::unique_ptr<FolderChanges> changes)
+    : services_(services),
+      limit_(usualLimit),
+      peak_(PeakInfo::at(services.scheduler.now())),
+      reader_(std::make_shared<ContextReader>(home, std::move(changes))) {
+    refresh();
+    timer_ = services_.scheduler.every(interval, [this] { refresh(); });
+}
+
+LiveContext::~LiveContext() = default;
+
+LiveContext& LiveContext::shared() {
+    static LiveContext* const instance = monitorPlatform().makeLiveContext().release();
+    return *instance;
+}
+
+void LiveContext::refresh() {
+    peak_ = PeakInfo::at(services_.scheduler.now());
+    if (reading_) {
+        tell();
+        return;
+    }
+    auto reading = std::make_shared<ContextReading>();
+    reading_ = services_.jobs.run([reader = reader_, reading] { *reading = reader->read(); },
+                                  [this, reading] {
+                                      reading_.reset();
+                                      take(*reading);
+                                  });
+}
+
+void LiveContext::take(const ContextReading& reading) {
+    limit_ = reading.limit.value_or(usualLimit);
+    if (reading.turn) {
+        model_ = prettyModel(reading.turn->usage.model);
+        used_ = reading.turn->usage.tokens;
+        lastActivity_ = reading.turn->modified;
+    }
+    tell();
+}
+
+void LiveContext::tell() {
+    Q_EMIT changed();
+    if (onChange) {
+        onChange();
+    }
+}
+
+QString LiveContext::shortCount(qint64 tokens) {
+    if (tokens < million) {
+        return QString::number(std::llround(static_cast<double>(tokens) / 1000)) + u'k';
+    }
+    // Unlike Qt, rounds a tie as printf does, and unlike printf knows no locale.
+    std::array<char, 32> text = {};
+    const auto end = std::to_chars(text.begin(), text.end(), static_cast<double>(tokens) / million,
+                                   std::chars_format::fixed, 1);
+    return QString::fromLatin1(text.data(), end.ptr - text.data()) + u'M';
+}
+
+} // namespace ravelo

@@ -1,0 +1,67 @@
+#include "monitor/PeakInfo.h"
+
+#include <algorithm>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr int firstHour = 8;
+constexpr int endHour = 14;
+constexpr int longestSearch = 8; ///< Days; a weekend is never that long.
+
+const QTimeZone& newYork() {
+    static const QTimeZone zone("America/New_York");
+    return zone;
+}
+
+bool isWeekday(QDate day) {
+    return day.dayOfWeek() <= Qt::Friday;
+}
+
+Date at(int hour, QDate day) {
+    return toDate(QDateTime(day, QTime(hour, 0), newYork()));
+}
+
+} // namespace
+
+PeakInfo PeakInfo::at(Date now) {
+    const QDate today = toDateTime(now).toTimeZone(newYork()).date();
+    if (isWeekday(today) && now >= ravelo::at(firstHour, today) &&
+        now < ravelo::at(endHour, today)) {
+        return {true, ravelo::at(endHour, today)};
+    }
+    for (int i = 0; i <= longestSearch; ++i) {
+        const QDate day = today.addDays(i);
+        if (isWeekday(day) && ravelo::at(firstHour, day) > now) {
+            return {false, ravelo::at(firstHour, day)};
+        }
+    }
+    return {false, now}; // Only where the system knows no New York.
+}
+
+QString PeakInfo::label(Date now, const QLocale& locale, const QTimeZone& zone) const {
+    if (isPeak) {
+        const QTime end = toDateTime(transition).toTimeZone(zone).time();
+        return u"PEAK · ends "_s + locale.toString(end, u"h:mm Ap"_s);
+    }
+    return u"OFF-PEAK · peak in "_s + dur(transition.sinceReference - now.sinceReference);
+}
+
+QString dur(double seconds) {
+    constexpr qint64 hour = 60;
+    constexpr qint64 day = 24 * hour;
+    constexpr double longest = 1e15; // Minutes; what a number of whole ones can hold.
+    const auto minutes = static_cast<qint64>(std::clamp(seconds / 60, 0.0, longest));
+    if (minutes >= day) {
+        return u"%1d %2h"_s.arg(minutes / day).arg(minutes % day / hour);
+    }
+    if (minutes >= hour) {
+        return u"%1h %2m"_s.arg(minutes / hour).arg(minutes % hour);
+    }
+    return u"%1m"_s.arg(minutes);
+}
+
+} // namespace ravelo

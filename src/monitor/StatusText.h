@@ -1,0 +1,40 @@
+#pragma once
+
+#include "monitor/PeakInfo.h"
+#include "monitor/UsageWindow.h"
+
+#include <QByteArray>
+#include <QLocale>
+#include <QTimeZone>
+
+namespace ravelo {
+
+class LiveContext;
+class PlanUsage;
+
+/// What the monitors know at one moment.
+struct MonitorStatus {
+    QString model; ///< Empty before the first session was found.
+    qint64 used = 0;
+    qint64 limit = 0;
+    std::optional<Date> lastActivity;
+    PeakInfo peak;
+    PlanWindows plan;
+
+    [[nodiscard]] static MonitorStatus of(const LiveContext& context, const PlanUsage& usage,
+                                          Date now);
+};
+
+/// The session's context, where there is one, and the peak hours, in one line.
+[[nodiscard]] QString contextLine(const MonitorStatus& status, Date now, const QLocale& locale,
+                                  const QTimeZone& zone = QTimeZone::systemTimeZone());
+
+/// For people: a line each for the context and the two windows of the plan.
+[[nodiscard]] QString statusText(const MonitorStatus& status, Date now, const QLocale& locale,
+                                 const QTimeZone& zone = QTimeZone::systemTimeZone());
+
+/// For programs: one JSON object, with dates as ISO 8601 in UTC and null for what is not known.
+[[nodiscard]] QByteArray statusJson(const MonitorStatus& status, Date now, const QLocale& locale,
+                                    const QTimeZone& zone = QTimeZone::systemTimeZone());
+
+} // namespace ravelo

@@ -1,0 +1,117 @@
+#include "monitor/Transcript.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QUtf8StringView>
+
+#include <algorithm>
+#include <charconv>
+#include <cmath>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// A whole decimal number with nothing around it but a sign.
+std::optional<qint64> parseInteger(const QString& text) {
+    const QByteArray bytes = text.toUtf8();
+    const char* begin = bytes.begin();
+    if (bytes.startsWith('+') && !bytes.startsWith("+-")) {
+        ++begin;
+    }
+    qint64 number = 0;
+    const auto [rest, error] = std::from_chars(begin, bytes.end(), number);
+    return error == std::errc() && rest == bytes.end() ? std::optional(number) : std::nullopt;
+}
+
+/// A JSON number without its fraction; nothing where it is none or no 64 bits hold it.
+std::optional<qint64> toInteger(const QJsonValue& value) {
+    constexpr double beyond = 0x1p63;
+    if (!value.isDouble()) {
+        return std::nullopt;
+    }
+    const double number = std::trunc(value.toDouble());
+    if (number < -beyond || number >= beyond) {
+        // The nearest double of the largest integers lies beyond them.
+        const qint64 exact = value.toInteger(0);
+        return exact == 0 ? std::nullopt : std::optional(exact);
+    }
+    return value.toInteger(static_cast<qint64>(number));
+}
+
+qint64 tokenTotal(const QJsonObject& usage) {
+    qint64 total = 0;
+    for (const auto& key :
+         {"input_tokens"_L1, "cache_read_input_tokens"_L1, "cache_creation_input_tokens"_L1}) {
+        if (__builtin_add_overflow(total, toInteger(usage.value(key)).value_or(0), &total)) {
+            qFatal("a transcript counts more tokens than a number can hold");
+        }
+    }
+    return total;
+}
+
+std::optional<TurnUsage> usageOf(QByteArrayView line) {
+    if (!line.contains("\"usage\"")) {
+        return std::nullopt; // Spares most lines the parsing.
+    }
+    const QJsonObject entry =
+        QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size())).object();
+    const QJsonObject message = entry.value("message"_L1).toObject();
+    const QJsonValue usage = message.value("usage"_L1);
+    const QString model = message.value("model"_L1).toString();
+    if (!usage.isObject() || entry.value("isSidechain"_L1).toBool() || model.startsWith(u'<')) {
+        return std::nullopt;
+    }
+    const qint64 tokens = tokenTotal(usage.toObject());
+    return tokens >= 1 ? std::optional(TurnUsage{model, tokens}) : std::nullopt;
+}
+
+bool isDateStamp(const QString& piece) {
+    return piece.size() >= 8 && parseInteger(piece);
+}
+
+} // namespace
+
+std::optional<TurnUsage> lastUsage(QByteArrayView window) {
+    if (!QUtf8StringView(window.data(), window.size()).isValidUtf8()) {
+        return std::nullopt;
+    }
+    for (QByteArrayView rest = window; !rest.empty();) {
+        const qsizetype end = rest.lastIndexOf('\n');
+        if (std::optional<TurnUsage> usage = usageOf(rest.sliced(end + 1))) {
+            return usage;
+        }
+        rest = rest.first(std::max<qsizetype>(end, 0));
+    }
+    return std::nullopt;
+}
+
+std::optional<qint64> compactWindow(QByteArrayView settings) {
+    const QJsonValue value =
+        QJsonDocument::fromJson(QByteArray::fromRawData(settings.data(), settings.size()))
+            .object()
+            .value("env"_L1)
+            .toObject()
+            .value("CLAUDE_CODE_AUTO_COMPACT_WINDOW"_L1);
+    return value.isString() ? parseInteger(value.toString()) : toInteger(value);
+}
+
+QString prettyModel(const QString& raw) {
+    QString plain = raw;
+    QStringList pieces = plain.remove(u"[1m]"_s).split(u'-', Qt::SkipEmptyParts);
+    if (!pieces.isEmpty() && pieces.first() == "claude"_L1) {
+        pieces.removeFirst();
+    }
+    pieces.removeIf(isDateStamp);
+    if (pieces.isEmpty()) {
+        return raw;
+    }
+    QString name = pieces.takeFirst();
+    const qsizetype first = name.at(0).isHighSurrogate() ? 2 : 1;
+    name.replace(0, first, name.first(std::min(first, name.size())).toUpper());
+    return pieces.isEmpty() ? name : name + u' ' + pieces.join(u'.');
+}
+
+} // namespace ravelo

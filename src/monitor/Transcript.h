@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QByteArrayView>
+#include <QString>
+
+#include <optional>
+
+// What Claude Code leaves on the disk: its transcripts, a JSON object (RFC 8259) a line, and its
+// settings. Pure functions on bytes.
+
+namespace ravelo {
+
+/// How much of a transcript is looked at, from its end; bytes.
+inline constexpr qint64 transcriptWindow = 1'000'000;
+
+/// What the last turn of an assistant took from its context.
+struct TurnUsage {
+    QString model; ///< As the transcript has it.
+    qint64 tokens = 0;
+
+    friend bool operator==(const TurnUsage&, const TurnUsage&) = default;
+};
+
+/// The last turn that counts in the end of a transcript: of the session itself and of a real model,
+/// with tokens. Its first line may be cut. Nothing where no turn counts or the bytes are not UTF-8,
+/// as when they begin within a character. Counts whose sum no 64 bits hold are a fault that ends
+/// the process.
+[[nodiscard]] std::optional<TurnUsage> lastUsage(QByteArrayView window);
+
+/// The limit of the context that the user set in Claude Code's settings file, as it stands there.
+[[nodiscard]] std::optional<qint64> compactWindow(QByteArrayView settings);
+
+/// "Opus 4.6" for "claude-opus-4-6[1m]".
+[[nodiscard]] QString prettyModel(const QString& raw);
+
+} // namespace ravelo

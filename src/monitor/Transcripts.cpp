@@ -1,0 +1,172 @@
+#include "monitor/Transcripts.h"
+
+#include <dirent.h>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <set>
+#include <string_view>
+#include <utility>
+
+namespace ravelo {
+
+namespace {
+
+constexpr std::string_view extension(".jsonl");
+
+/// A folder that is being listed.
+class Listing {
+public:
+    explicit Listing(const QByteArray& path) {
+        const int folder = open(path.constData(), O_RDONLY | O_DIRECTORY | O_NONBLOCK | O_CLOEXEC);
+        stream_ = folder < 0 ? nullptr : fdopendir(folder);
+        if (stream_ == nullptr && folder >= 0) {
+            close(folder);
+        }
+    }
+
+    ~Listing() {
+        if (stream_ != nullptr) {
+            closedir(stream_);
+        }
+    }
+
+    Listing(const Listing&) = delete;
+    Listing& operator=(const Listing&) = delete;
+
+    [[nodiscard]] bool isOpen() const { return stream_ != nullptr; }
+
+    /// The next entry, hidden ones too; null behind the last.
+    [[nodiscard]] const dirent* next() {
+        const dirent* entry = readdir(stream_);
+        while (entry != nullptr && isSelfOrParent(entry->d_name)) {
+            entry = readdir(stream_);
+        }
+        return entry;
+    }
+
+    /// What an entry or what it links to is; nothing where it went meanwhile.
+    [[nodiscard]] std::optional<struct stat> look(const dirent& entry) const {
+        struct stat info = {};
+        return fstatat(dirfd(stream_), entry.d_name, &info, 0) == 0 ? std::optional(info)
+                                                                    : std::nullopt;
+    }
+
+private:
+    static bool isSelfOrParent(std::string_view name) { return name == "." || name == ".."; }
+
+    DIR* stream_ = nullptr;
+};
+
+/// A name that is all extension has none.
+bool isTranscript(const dirent& entry) {
+    const std::string_view name = entry.d_name;
+    return name.size() > extension.size() && name.ends_with(extension) && entry.d_type != DT_DIR;
+}
+
+qint64 modified(const struct stat& info) {
+    return info.st_mtim.tv_sec * qint64(1'000'000'000) + info.st_mtim.tv_nsec;
+}
+
+bool isNewer(const Transcript& transcript, const std::optional<Transcript>& best) {
+    return !best || transcript.modified > best->modified ||
+           (transcript.modified == best->modified && transcript.path < best->path);
+}
+
+} // namespace
+
+Transcripts::Transcripts(QByteArray root, std::unique_ptr<FolderChanges> changes)
+    : root_(std::move(root)), changes_(std::move(changes)) {}
+
+std::optional<Transcript> Transcripts::newest() {
+    const FolderChanges::Changes changes = changes_->take();
+    if (!lookAtRoot(changes)) {
+        return std::nullopt;
+    }
+    std::optional<Transcript> best;
+    for (auto& entry : folders_) {
+        Folder& folder = entry.second;
+        if (!folder.known || changes.lost || changes.folders.contains(entry.first)) {
+            list(entry.first, folder);
+        }
+        if (folder.newest && isNewer(*folder.newest, best)) {
+            best = folder.newest;
+        }
+    }
+    return best;
+}
+
+bool Transcripts::lookAtRoot(const FolderChanges::Changes& changes) {
+    struct stat info = {};
+    if (stat(root_.constData(), &info) != 0) {
+        forget();
+        return false;
+    }
+    // A folder above it may have been renamed, which is no change of the root itself.
+    const Identity identity{info.st_dev, info.st_ino};
+    if (rootIdentity_ != identity) {
+        forget();
+        rootIdentity_ = identity;
+    }
+    if (!rootKnown_ || changes.lost || changes.folders.contains(root_)) {
+        listRoot();
+    }
+    return true;
+}
+
+void Transcripts::forget() {
+    for (const auto& [path, folder] : folders_) {
+        changes_->unwatch(path);
+    }
+    changes_->unwatch(root_);
+    folders_.clear();
+    rootIdentity_.reset();
+    rootKnown_ = false;
+}
+
+void Transcripts::listRoot() {
+    rootKnown_ = changes_->watch(root_); // First, so that no change falls between.
+    Listing listing(root_);
+    std::set<QByteArray> present;
+    while (const dirent* entry = listing.isOpen() ? listing.next() : nullptr) {
+        if (entry->d_type == DT_DIR || entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN) {
+            const QByteArray path = root_ + '/' + entry->d_name;
+            folders_[path].isLink = entry->d_type != DT_DIR;
+            present.insert(path);
+        }
+    }
+    for (auto folder = folders_.begin(); folder != folders_.end();) {
+        if (present.contains(folder->first)) {
+            ++folder;
+        } else {
+            changes_->unwatch(folder->first);
+            folder = folders_.erase(folder);
+        }
+    }
+}
+
+void Transcripts::list(const QByteArray& path, Folder& folder) {
+    bool hasLinks = folder.isLink;
+    const bool watched = !folder.isLink && changes_->watch(path);
+    folder.newest.reset();
+    Listing listing(path);
+    while (const dirent* entry = listing.isOpen() ? listing.next() : nullptr) {
+        if (!isTranscript(*entry)) {
+            continue;
+        }
+        const std::optional<struct stat> info = listing.look(*entry);
+        hasLinks |= entry->d_type != DT_REG; // What it links to may change unheard.
+        if (!info || !S_ISREG(info->st_mode) ||
+            (folder.newest && modified(*info) < folder.newest->modified)) {
+            continue;
+        }
+        Transcript transcript{path + '/' + entry->d_name, modified(*info), info->st_size};
+        if (isNewer(transcript, folder.newest)) {
+            folder.newest = std::move(transcript);
+        }
+    }
+    folder.known = watched && !hasLinks;
+}
+
+} // namespace ravelo

@@ -1,0 +1,43 @@
+#include "monitor/UsageFile.h"
+
+#include "base/Files.h"
+#include "monitor/UsageReaders.h"
+
+#include <QFile>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 largest = qint64(1) << 20;
+
+QByteArray folder(const QByteArray& home) {
+    return home + "/.ravelo";
+}
+
+QByteArray file(const QByteArray& home) {
+    return folder(home) + "/usage.json";
+}
+
+} // namespace
+
+std::optional<PlanWindows> loadUsage(const QByteArray& home) {
+    const std::optional<QByteArray> bytes = readFileEnd(file(home), largest + 1);
+    return bytes && bytes->size() <= largest ? readUsageFile(*bytes) : std::nullopt;
+}
+
+Result<void> storeUsage(const QByteArray& home, const QByteArray& statusLine) {
+    const std::optional<QByteArray> kept = usageFileOf(statusLine);
+    if (!kept) {
+        return failure(u"there are no rate limits in what was given"_s);
+    }
+    makePrivateFolder(QFile::decodeName(folder(home)));
+    if (const QString path = QFile::decodeName(file(home)); !writeFileAtomically(path, *kept)) {
+        return failure(u"cannot write "_s + path);
+    }
+    return {};
+}
+
+} // namespace ravelo

@@ -1,0 +1,97 @@
+#include "monitor/UsageQuery.h"
+
+#include "base/Files.h"
+#include "platform/ChildProcess.h"
+#include "platform/DetachedJobs.h"
+#include "platform/SecretStore.h"
+
+#include <memory>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double renewBefore = 600; ///< Seconds until the token expires.
+constexpr Seconds renewSpacing(1200);
+constexpr qint64 largestAnswer = qint64(1) << 20;
+constexpr int ok = 200;
+constexpr int unauthorized = 401;
+
+} // namespace
+
+UsageQuery::UsageQuery(Services services, QByteArray home, Endpoint endpoint)
+    : services_(services), home_(std::move(home)), endpoint_(std::move(endpoint)) {}
+
+void UsageQuery::queryAPI(Done done) {
+    done_ = std::move(done);
+    auto bytes = std::make_shared<std::optional<QByteArray>>();
+    step_ = services_.jobs.run(
+        [bytes, path = home_ + "/.claude/.credentials.json"] {
+            *bytes = readFileEnd(path, largestAnswer);
+        },
+        [this, bytes] { takeFile(*bytes); });
+}
+
+void UsageQuery::takeFile(const std::optional<QByteArray>& bytes) {
+    if (const auto credentials = bytes ? readCredentials(*bytes) : std::nullopt) {
+        useCredentials(credentials);
+        return;
+    }
+    step_ = services_.secrets.find(
+        u"Claude Code-credentials"_s, [this](const std::optional<QByteArray>& secret) {
+            useCredentials(secret ? readCredentials(*secret) : std::nullopt);
+        });
+}
+
+void UsageQuery::useCredentials(const std::optional<Credentials>& credentials) {
+    if (!credentials) {
+        finish(std::nullopt);
+        return;
+    }
+    const double now = services_.scheduler.now().sinceReference + referenceInstant;
+    if (credentials->expiresAt && *credentials->expiresAt - now < renewBefore) {
+        // The token at hand still serves this time.
+        renewViaCLI([this, token = credentials->accessToken] { request(token); });
+    } else {
+        request(credentials->accessToken);
+    }
+}
+
+void UsageQuery::request(const QByteArray& token) {
+    const HttpsRequest request{
+        endpoint_.url,
+        {{"Authorization", "Bearer " + token}, {"anthropic-beta", "oauth-2025-04-20"}},
+        endpoint_.timeOut,
+        largestAnswer};
+    step_ = services_.https.get(
+        request, [this](const std::optional<HttpsAnswer>& answer) { takeAnswer(answer); });
+}
+
+void UsageQuery::takeAnswer(const std::optional<HttpsAnswer>& answer) {
+    if (answer && answer->status == unauthorized) {
+        renewViaCLI([this] { finish(std::nullopt); });
+    } else {
+        finish(answer && answer->status == ok ? readUsageAnswer(answer->body) : std::nullopt);
+    }
+}
+
+void UsageQuery::renewViaCLI(std::function<void()> then) {
+    const Seconds now = services_.scheduler.uptime();
+    if (lastRenew_ && now - *lastRenew_ <= renewSpacing) {
+        then();
+        return;
+    }
+    lastRenew_ = now;
+    step_ = services_.children.run(
+        home_ + "/.local/bin/claude",
+        {"-p", ".", "--model", "claude-haiku-4-5-20251001", "--max-turns", "1"}, std::move(then));
+}
+
+void UsageQuery::finish(const std::optional<PlanWindows>& windows) {
+    std::exchange(done_, nullptr)(windows);
+}
+
+} // namespace ravelo

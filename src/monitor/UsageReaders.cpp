@@ -1,0 +1,114 @@
+#include "monitor/UsageReaders.h"
+
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QRegularExpression>
+
+#include <algorithm>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView rateLimits("rate_limits");
+constexpr QLatin1StringView sessionKey("five_hour");
+constexpr QLatin1StringView weekKey("seven_day");
+constexpr QLatin1StringView usedPercentage("used_percentage");
+constexpr QLatin1StringView resetsAt("resets_at");
+
+QJsonDocument parse(QByteArrayView json) {
+    return QJsonDocument::fromJson(QByteArray::fromRawData(json.data(), json.size()));
+}
+
+/// An Internet date and time (RFC 3339) that has a fraction of the second.
+std::optional<Date> parseTime(const QString& text) {
+    static const QRegularExpression form(
+        u"\\A([0-9]{4}-[0-9]{2}-[0-9]{2}T(?:[01][0-9]|2[0-3]):[0-9]{2}:[0-9]{2})(\\.[0-9]+)"
+        "(Z|[+-](?:[01][0-9]|2[0-3]):[0-5][0-9])\\z"_s);
+    const QRegularExpressionMatch match = form.match(text);
+    const QDateTime whole =
+        QDateTime::fromString(match.captured(1) + match.captured(3), Qt::ISODate);
+    if (!match.hasMatch() || !whole.isValid()) {
+        return std::nullopt;
+    }
+    const double seconds = static_cast<double>(whole.toSecsSinceEpoch()) - referenceInstant;
+    return Date{seconds + (u'0' + match.captured(2)).toDouble()};
+}
+
+std::optional<UsageWindow> answeredWindow(const QJsonValue& value) {
+    const QJsonValue percent = value.toObject().value("utilization"_L1);
+    if (!percent.isDouble()) {
+        return std::nullopt;
+    }
+    return UsageWindow{percent.toDouble(), parseTime(value.toObject().value(resetsAt).toString())};
+}
+
+std::optional<UsageWindow> keptWindow(const QJsonValue& value) {
+    const QJsonValue percent = value.toObject().value(usedPercentage);
+    const QJsonValue resets = value.toObject().value(resetsAt);
+    if (!percent.isDouble()) {
+        return std::nullopt;
+    }
+    return UsageWindow{percent.toDouble(),
+                       resets.isDouble() ? std::optional(Date{resets.toDouble() - referenceInstant})
+                                         : std::nullopt};
+}
+
+/// Printable and without blanks: nothing that would end the header it is sent in.
+bool isToken(const QString& text) {
+    return !text.isEmpty() &&
+           std::all_of(text.begin(), text.end(), [](QChar c) { return c > u' ' && c <= u'~'; });
+}
+
+} // namespace
+
+std::optional<PlanWindows> readUsageAnswer(QByteArrayView json) {
+    const QJsonDocument document = parse(json);
+    if (!document.isObject()) {
+        return std::nullopt;
+    }
+    return PlanWindows{answeredWindow(document[sessionKey]), answeredWindow(document[weekKey])};
+}
+
+std::optional<PlanWindows> readUsageFile(QByteArrayView json) {
+    const QJsonValue limits = parse(json)[rateLimits];
+    if (!limits.isObject()) {
+        return std::nullopt;
+    }
+    return PlanWindows{keptWindow(limits[sessionKey]), keptWindow(limits[weekKey])};
+}
+
+std::optional<QByteArray> usageFileOf(QByteArrayView statusLine) {
+    const QJsonValue limits = parse(statusLine)[rateLimits];
+    if (!limits.isObject()) {
+        return std::nullopt;
+    }
+    QJsonObject kept;
+    for (const QLatin1StringView window : {sessionKey, weekKey}) {
+        QJsonObject fields;
+        for (const QLatin1StringView field : {usedPercentage, resetsAt}) {
+            if (const QJsonValue value = limits[window][field]; value.isDouble()) {
+                fields.insert(field, value);
+            }
+        }
+        if (!fields.isEmpty()) {
+            kept.insert(window, fields);
+        }
+    }
+    return QJsonDocument(QJsonObject{{rateLimits, kept}}).toJson();
+}
+
+std::optional<Credentials> readCredentials(QByteArrayView json) {
+    const QJsonValue account = parse(json)["claudeAiOauth"_L1];
+    const QString token = account["accessToken"_L1].toString();
+    if (!isToken(token)) {
+        return std::nullopt;
+    }
+    const QJsonValue expiry = account["expiresAt"_L1];
+    return Credentials{token.toLatin1(),
+                       expiry.isDouble() ? std::optional(expiry.toDouble() / 1000) : std::nullopt};
+}
+
+} // namespace ravelo

@@ -1,0 +1,27 @@
+#include "monitor/UsageWindow.h"
+
+#include "monitor/PeakInfo.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+QString percentText(const std::optional<UsageWindow>& window) {
+    constexpr double largest = 1e15; // What a whole number can hold.
+    return window ? QString::number(std::llround(std::clamp(window->pct, -largest, largest))) + u'%'
+                  : u"\u2014"_s;
+}
+
+QString resetText(const std::optional<UsageWindow>& window, Date now) {
+    if (!window) {
+        return u"sem dados"_s;
+    }
+    return window->resets
+               ? u"reseta em "_s + dur(window->resets->sinceReference - now.sinceReference)
+               : QString();
+}
+
+} // namespace ravelo

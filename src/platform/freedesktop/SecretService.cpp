@@ -1,0 +1,152 @@
+#include "platform/freedesktop/SecretService.h"
+
+#include "platform/freedesktop/BusCall.h"
+
+#include <QDBusArgument>
+#include <QDBusMessage>
+#include <QDBusMetaType>
+#include <QDBusObjectPath>
+#include <QDBusVariant>
+#include <QDeadlineTimer>
+#include <QMap>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr QLatin1StringView name("org.freedesktop.secrets");
+constexpr QLatin1StringView servicePath("/org/freedesktop/secrets");
+constexpr QLatin1StringView serviceInterface("org.freedesktop.Secret.Service");
+constexpr QLatin1StringView itemInterface("org.freedesktop.Secret.Item");
+constexpr QLatin1StringView sessionInterface("org.freedesktop.Secret.Session");
+
+using Attributes = QMap<QString, QString>;
+
+/// The first of the paths; none of an error, which has no paths.
+std::optional<QDBusObjectPath> firstPath(const QVariant& paths) {
+    QList<QDBusObjectPath> list;
+    if (const auto argument = paths.value<QDBusArgument>();
+        argument.currentSignature() == "ao"_L1) {
+        argument >> list;
+    }
+    return list.isEmpty() ? std::nullopt : std::optional(list.first());
+}
+
+/// The value in a Secret structure: session, parameters, value, type of contents.
+std::optional<QByteArray> valueOf(const QVariant& secret) {
+    const auto argument = secret.value<QDBusArgument>();
+    if (argument.currentSignature() != "(oayays)"_L1) {
+        return std::nullopt;
+    }
+    QDBusObjectPath session;
+    QByteArray parameters;
+    QByteArray value;
+    QString type;
+    argument.beginStructure();
+    argument >> session >> parameters >> value >> type;
+    argument.endStructure();
+    return value;
+}
+
+/// One call after the other.
+class Search {
+public:
+    using Done = std::function<void(std::optional<QByteArray>)>;
+
+    Search(QDBusConnection bus, std::chrono::milliseconds patience, Done done)
+        : bus_(std::move(bus)), deadline_(patience), done_(std::move(done)) {}
+
+    ~Search() { closeSession(); }
+
+    Search(const Search&) = delete;
+    Search& operator=(const Search&) = delete;
+
+    void start(const QString& service) {
+        ask(call(servicePath, serviceInterface, u"SearchItems"_s,
+                 {QVariant::fromValue(Attributes{{u"service"_s, service}})}),
+            [this](const QVariantList& found) {
+                // Behind the unlocked items come the locked ones, which stay so.
+                if (const auto item = firstPath(found.value(0))) {
+                    open(*item);
+                } else {
+                    finish(std::nullopt);
+                }
+            });
+    }
+
+private:
+    void open(const QDBusObjectPath& item) {
+        ask(call(servicePath, serviceInterface, u"OpenSession"_s,
+                 {u"plain"_s, QVariant::fromValue(QDBusVariant(QString()))}),
+            [this, item](const QVariantList& opened) {
+                session_ = opened.value(1).value<QDBusObjectPath>();
+                read(item);
+            });
+    }
+
+    void read(const QDBusObjectPath& item) {
+        ask(call(item.path(), itemInterface, u"GetSecret"_s, {QVariant::fromValue(session_)}),
+            [this](const QVariantList& secret) { finish(valueOf(secret.value(0))); });
+    }
+
+    void ask(const QDBusMessage& question, std::function<void(const QVariantList&)> take) {
+        const auto left = std::chrono::milliseconds(std::max<qint64>(deadline_.remainingTime(), 1));
+        step_ = callBus(bus_, question, left, [this, take = std::move(take)](const auto& reply) {
+            if (reply.type() == QDBusMessage::ReplyMessage) {
+                take(reply.arguments());
+            } else {
+                finish(std::nullopt);
+            }
+        });
+    }
+
+    void finish(const std::optional<QByteArray>& secret) {
+        closeSession();
+        const Done done = std::exchange(done_, nullptr); // It may end this search.
+        done(secret);
+    }
+
+    void closeSession() {
+        if (!session_.path().isEmpty()) {
+            const Handle nobodyWaits =
+                callBus(bus_, call(session_.path(), sessionInterface, u"Close"_s, {}),
+                        std::chrono::seconds(1), [](const QDBusMessage&) {});
+            session_ = {};
+        }
+    }
+
+    static QDBusMessage call(const QString& path, const QString& interface, const QString& method,
+                             const QVariantList& arguments) {
+        QDBusMessage message = QDBusMessage::createMethodCall(name, path, interface, method);
+        message.setArguments(arguments);
+        return message;
+    }
+
+    QDBusConnection bus_;
+    QDeadlineTimer deadline_;
+    Done done_;
+    QDBusObjectPath session_;
+    Handle step_;
+};
+
+} // namespace
+
+SecretService::SecretService(QDBusConnection bus, std::chrono::milliseconds patience)
+    : bus_(std::move(bus)), patience_(patience) {
+    qDBusRegisterMetaType<Attributes>();
+}
+
+Handle SecretService::find(const QString& service,
+                           std::function<void(std::optional<QByteArray>)> done) {
+    auto search = std::make_shared<Search>(bus_, patience_, std::move(done));
+    search->start(service);
+    return Handle([search]() mutable { search.reset(); });
+}
+
+} // namespace ravelo

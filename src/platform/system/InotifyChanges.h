@@ -1,0 +1,30 @@
+#pragma once
+
+#include "platform/FolderChanges.h"
+
+#include <QHash>
+
+namespace ravelo {
+
+/// By inotify(7): the kernel counts, and is read only when somebody asks.
+class InotifyChanges final : public FolderChanges {
+public:
+    InotifyChanges();
+    ~InotifyChanges() override;
+
+    InotifyChanges(const InotifyChanges&) = delete;
+    InotifyChanges& operator=(const InotifyChanges&) = delete;
+
+    [[nodiscard]] bool watch(const QByteArray& folder) override;
+    void unwatch(const QByteArray& folder) override;
+    [[nodiscard]] Changes take() override;
+
+private:
+    void note(int watch, quint32 mask, Changes& changes);
+
+    int queue_;
+    QHash<QByteArray, int> watches_;
+    QHash<int, QByteArray> folders_; ///< The same, the other way round.
+};
+
+} // namespace ravelo

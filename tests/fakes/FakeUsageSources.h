@@ -1,0 +1,48 @@
+#pragma once
+
+#include "platform/ChildProcess.h"
+#include "platform/HttpsClient.h"
+#include "platform/SecretStore.h"
+
+#include <QTimer>
+
+#include <memory>
+
+namespace ravelo {
+
+/// Keeps one password, or none, for everybody.
+class FakeSecretStore final : public SecretStore {
+public:
+    [[nodiscard]] Handle find(const QString& service,
+                              std::function<void(std::optional<QByteArray>)> done) override {
+        asked.append(service);
+        auto timer = std::make_shared<QTimer>();
+        timer->setSingleShot(true);
+        timer->callOnTimeout([this, done = std::move(done)] { done(secret); });
+        timer->start(0);
+        return Handle([timer] { timer->stop(); });
+    }
+
+    std::optional<QByteArray> secret;
+    QStringList asked;
+};
+
+/// An Internet that never answers.
+class SilentHttps final : public HttpsClient {
+public:
+    [[nodiscard]] Handle get(const HttpsRequest& /*request*/,
+                             std::function<void(std::optional<HttpsAnswer>)> /*done*/) override {
+        return {};
+    }
+};
+
+/// Programs that start and never end.
+class EndlessChild final : public ChildProcess {
+public:
+    [[nodiscard]] Handle run(const QByteArray& /*path*/, const QList<QByteArray>& /*arguments*/,
+                             std::function<void()> /*done*/) override {
+        return {};
+    }
+};
+
+} // namespace ravelo

@@ -1,0 +1,53 @@
+#pragma once
+
+#include "fakes/FakeNearby.h"
+#include "fakes/FakeUsageSources.h"
+#include "monitor/PlanUsage.h"
+#include "monitor/UsageFile.h"
+
+#include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QTemporaryDir>
+
+namespace ravelo {
+
+/// A plan whose usage is known from its file alone.
+struct UsageWorld {
+    explicit UsageWorld(Scheduler& scheduler, const PlanWindows& windows = {})
+        : jobs(scheduler),
+          usage({scheduler, jobs, secrets, https, children}, (write(windows), home())) {}
+
+    [[nodiscard]] QByteArray home() const { return QFile::encodeName(folder.path()); }
+
+    /// What the file says from now on. Read with the next tick.
+    void write(const PlanWindows& windows) const {
+        const QJsonObject limits{{QStringLiteral("five_hour"), json(windows.session)},
+                                 {QStringLiteral("seven_day"), json(windows.week)}};
+        const QJsonObject statusLine{{QStringLiteral("rate_limits"), limits}};
+        if (!storeUsage(home(), QJsonDocument(statusLine).toJson())) {
+            qFatal("cannot write below %s", home().constData());
+        }
+    }
+
+    static QJsonValue json(const std::optional<UsageWindow>& window) {
+        if (!window) {
+            return QJsonValue::Null;
+        }
+        QJsonObject object{{QStringLiteral("used_percentage"), window->pct}};
+        if (window->resets) {
+            object.insert(QStringLiteral("resets_at"),
+                          window->resets->sinceReference + referenceInstant);
+        }
+        return object;
+    }
+
+    QTemporaryDir folder;
+    FakeDetachedJobs jobs;
+    FakeSecretStore secrets;
+    SilentHttps https;
+    EndlessChild children;
+    PlanUsage usage;
+};
+
+} // namespace ravelo

@@ -1,0 +1,256 @@
+// On a real folder, whose changes are told by the kernel or by nobody.
+
+#include "monitor/LiveContext.h"
+
+#include "fakes/FakeNearby.h"
+#include "fakes/ManualScheduler.h"
+#include "platform/system/InotifyChanges.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTemporaryDir>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Seconds tick(5);
+
+/// Tells what it is told to tell.
+class ScriptedChanges final : public FolderChanges {
+public:
+    struct Script {
+        bool watches = true;
+        Changes next;
+    };
+
+    explicit ScriptedChanges(std::shared_ptr<Script> script) : script_(std::move(script)) {}
+
+    [[nodiscard]] bool watch(const QByteArray& /*folder*/) override { return script_->watches; }
+
+    void unwatch(const QByteArray& /*folder*/) override {}
+
+    [[nodiscard]] Changes take() override { return std::exchange(script_->next, {}); }
+
+private:
+    std::shared_ptr<Script> script_;
+};
+
+class ContextTest : public testing::Test {
+protected:
+    [[nodiscard]] QString path(const QString& name) const {
+        return home_.filePath(u".claude/projects/"_s + name);
+    }
+
+    static void writeFile(const QString& file, const QByteArray& bytes) {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(file).path()));
+        QFile out(file);
+        ASSERT_TRUE(out.open(QFile::WriteOnly));
+        ASSERT_EQ(out.write(bytes), bytes.size());
+    }
+
+    static void setDate(const QString& file, qint64 seconds) {
+        const std::array<timespec, 2> times = {timespec{seconds, 0}, timespec{seconds, 0}};
+        ASSERT_EQ(utimensat(AT_FDCWD, qPrintable(file), times.data(), 0), 0);
+    }
+
+    /// A transcript whose last turn took so many tokens, with its date in seconds since 1970.
+    void write(const QString& name, qint64 tokens, qint64 date, const QByteArray& before = {}) {
+        writeFile(path(name), before + R"({"message":{"model":"claude-opus-4-6","usage":)" +
+                                  R"({"input_tokens":)" + QByteArray::number(tokens) + "}}}\n");
+        setDate(path(name), date);
+    }
+
+    void setLimit(const QByteArray& value) {
+        writeFile(home_.filePath(u".claude/settings.json"_s),
+                  R"({"env":{"CLAUDE_CODE_AUTO_COMPACT_WINDOW":)" + value + "}}");
+    }
+
+    void start(std::unique_ptr<FolderChanges> changes) {
+        context_ =
+            std::make_unique<LiveContext>(LiveContext::Services{scheduler_, jobs_},
+                                          QFile::encodeName(home_.path()), std::move(changes));
+        scheduler_.advance(Seconds(0)); // The files are read a little later.
+    }
+
+    [[nodiscard]] qint64 usedAfterATick() {
+        scheduler_.advance(tick);
+        return context_->used();
+    }
+
+    QTemporaryDir home_;
+    ManualScheduler scheduler_;
+    FakeDetachedJobs jobs_{scheduler_};
+    std::unique_ptr<LiveContext> context_;
+};
+
+using MakeChanges = std::unique_ptr<FolderChanges> (*)();
+
+/// Whoever tells what has changed, the same is seen.
+class LiveContextTest : public ContextTest, public testing::WithParamInterface<MakeChanges> {
+protected:
+    void start() { ContextTest::start(GetParam()()); }
+};
+
+TEST_P(LiveContextTest, followsTheNewestTranscript) {
+    start();
+    EXPECT_EQ(context_->model(), QString());
+    EXPECT_EQ(context_->used(), 0);
+    EXPECT_EQ(context_->limit(), 1000000);
+    EXPECT_EQ(context_->lastActivity(), std::nullopt);
+
+    write(u"a/old.jsonl"_s, 100, 1000);
+    EXPECT_EQ(usedAfterATick(), 100) << "the folder was just made";
+    EXPECT_EQ(context_->model(), u"Opus 4.6"_s);
+    EXPECT_EQ(context_->lastActivity(), Date{1000 - referenceInstant});
+    write(u"b/new.jsonl"_s, 200, 1001);
+    EXPECT_EQ(usedAfterATick(), 200) << "in another project";
+    write(u"a/old.jsonl"_s, 300, 1002);
+    EXPECT_EQ(usedAfterATick(), 300) << "the old session goes on";
+    setDate(path(u"b/new.jsonl"_s), 1003);
+    EXPECT_EQ(usedAfterATick(), 200) << "only its date is new";
+    ASSERT_TRUE(QDir().rename(path(u"a"_s), path(u"c"_s)));
+    write(u"c/old.jsonl"_s, 400, 1004);
+    EXPECT_EQ(usedAfterATick(), 400) << "its project has another name";
+    ASSERT_TRUE(QDir(path(u"c"_s)).removeRecursively());
+    EXPECT_EQ(usedAfterATick(), 200) << "the newest is gone";
+    write(u"c/again.jsonl"_s, 500, 1005);
+    EXPECT_EQ(usedAfterATick(), 500) << "a project of the same name";
+    ASSERT_TRUE(QDir().rename(home_.filePath(u".claude"_s), home_.filePath(u"away"_s)));
+    EXPECT_EQ(usedAfterATick(), 500) << "the last reading stays";
+    write(u"c/again.jsonl"_s, 600, 1);
+    EXPECT_EQ(usedAfterATick(), 600) << "all is made anew in the old place";
+    EXPECT_EQ(context_->lastActivity(), Date{1 - referenceInstant});
+    ASSERT_TRUE(QDir().rename(home_.filePath(u".claude"_s), home_.filePath(u"elsewhere"_s)));
+    write(u"c/again.jsonl"_s, 700, 2);
+    EXPECT_EQ(usedAfterATick(), 700) << "and once more within a tick";
+}
+
+TEST_P(LiveContextTest, knowsWhatIsATranscript) {
+    write(u"b/x.jsonl"_s, 1, 1000);
+    write(u"top.jsonl"_s, 9, 2000);
+    write(u"b/deep/er.jsonl"_s, 9, 2000);
+    write(u"b/x.json"_s, 9, 2000);
+    write(u"b/x.JSONL"_s, 9, 2000);
+    write(u"b/.jsonl"_s, 9, 2000);
+    ASSERT_TRUE(QDir().mkpath(path(u"b/folder.jsonl"_s)));
+    ASSERT_EQ(mkfifo(qPrintable(path(u"b/pipe.jsonl"_s)), 0600), 0);
+    ASSERT_TRUE(QFile::link(path(u"nowhere"_s), path(u"b/broken.jsonl"_s)));
+    start();
+    EXPECT_EQ(context_->used(), 1);
+    write(u"b/y.jsonl"_s, 2, 1000);
+    EXPECT_EQ(usedAfterATick(), 1) << "of one date the first by name";
+    write(u"a/z.jsonl"_s, 3, 1000);
+    EXPECT_EQ(usedAfterATick(), 3);
+    write(u".hidden/.x.jsonl"_s, 4, 1001);
+    EXPECT_EQ(usedAfterATick(), 4);
+
+    write(u"../elsewhere/x.jsonl"_s, 5, 1002);
+    ASSERT_TRUE(QFile::link(path(u"../elsewhere"_s), path(u"link"_s)));
+    EXPECT_EQ(usedAfterATick(), 5) << "a project that is a link";
+    write(u"../elsewhere/x.jsonl"_s, 6, 1003);
+    EXPECT_EQ(usedAfterATick(), 6);
+    write(u"../another/x"_s, 7, 1004);
+    ASSERT_TRUE(QFile::link(path(u"../another/x"_s), path(u"a/link.jsonl"_s)));
+    EXPECT_EQ(usedAfterATick(), 7) << "a transcript that is a link";
+    write(u"../another/x"_s, 8, 1005);
+    EXPECT_EQ(usedAfterATick(), 8);
+}
+
+INSTANTIATE_TEST_SUITE_P(Kernel, LiveContextTest, testing::Values([] {
+                             return std::unique_ptr<FolderChanges>(
+                                 std::make_unique<InotifyChanges>());
+                         }));
+INSTANTIATE_TEST_SUITE_P(Nobody, LiveContextTest, testing::Values([] {
+                             auto script = std::make_shared<ScriptedChanges::Script>();
+                             script->watches = false;
+                             return std::unique_ptr<FolderChanges>(
+                                 std::make_unique<ScriptedChanges>(std::move(script)));
+                         }));
+
+TEST_F(ContextTest, readsNothingTwiceThatHasNotChanged) {
+    write(u"a/x.jsonl"_s, 11, 1000);
+    const auto script = std::make_shared<ScriptedChanges::Script>();
+    start(std::make_unique<ScriptedChanges>(script));
+    EXPECT_EQ(context_->used(), 11);
+    const QByteArray folder = QFile::encodeName(path(u"a"_s));
+
+    write(u"a/x.jsonl"_s, 22, 1000);
+    script->next.folders = {folder};
+    EXPECT_EQ(usedAfterATick(), 11) << "the same date and size";
+    write(u"a/x.jsonl"_s, 33, 1001);
+    EXPECT_EQ(usedAfterATick(), 11) << "nobody told";
+    script->next.folders = {folder};
+    EXPECT_EQ(usedAfterATick(), 33);
+    write(u"a/x.jsonl"_s, 44, 1002);
+    script->next.lost = true;
+    EXPECT_EQ(usedAfterATick(), 44);
+}
+
+TEST_F(ContextTest, looksAtTheEndOfALongTranscript) {
+    const qsizetype limit = transcriptWindow;
+    start(std::make_unique<InotifyChanges>());
+    write(u"a/x.jsonl"_s, 11, 1000, QByteArray(5 * limit, '\n'));
+    EXPECT_EQ(usedAfterATick(), 11);
+
+    const QByteArray turn = R"({"message":{"usage":{"input_tokens":7}}})";
+    writeFile(path(u"a/x.jsonl"_s), turn + QByteArray(limit + 1 - turn.size(), '\n'));
+    EXPECT_EQ(usedAfterATick(), 11) << "the turn begins one byte too early";
+    writeFile(path(u"a/x.jsonl"_s), turn + QByteArray(limit - turn.size(), '\n'));
+    EXPECT_EQ(usedAfterATick(), 7) << "the whole file fits";
+
+    const QByteArray foreign = QByteArray("ä").repeated(limit / 2) + '\n';
+    writeFile(path(u"a/x.jsonl"_s), foreign + turn + QByteArray(limit - turn.size() - 2, '\n'));
+    EXPECT_EQ(usedAfterATick(), 7) << "the window begins within a character";
+    EXPECT_EQ(context_->limit(), 1000000);
+}
+
+TEST_F(ContextTest, takesItsLimitFromTheSettingsFile) {
+    qputenv("CLAUDE_CODE_AUTO_COMPACT_WINDOW", "5");
+    start(std::make_unique<InotifyChanges>());
+    const auto limit = [&](const QByteArray& value) {
+        setLimit(value);
+        scheduler_.advance(tick);
+        return context_->limit();
+    };
+    EXPECT_EQ(context_->limit(), 1000000) << "the environment does not count";
+    EXPECT_EQ(limit("\"400000\""), 400000);
+    EXPECT_EQ(limit("-17"), -17);
+    EXPECT_EQ(limit("\"abc\""), 1000000);
+    EXPECT_EQ(limit("17" + QByteArray(1 << 20, ' ')), 1000000) << "no settings are that large";
+    EXPECT_EQ(limit("18"), 18);
+    ASSERT_TRUE(QFile::remove(home_.filePath(u".claude/settings.json"_s)));
+    scheduler_.advance(tick);
+    EXPECT_EQ(context_->limit(), 1000000);
+    qunsetenv("CLAUDE_CODE_AUTO_COMPACT_WINDOW");
+}
+
+TEST_F(ContextTest, tellsThePeakHoursEvenIfTheDiskDoesNotAnswer) {
+    write(u"a/x.jsonl"_s, 11, 1000);
+    jobs_.hung = true;
+    start(std::make_unique<InotifyChanges>());
+    int changes = 0;
+    bool peak = false;
+    context_->onChange = [&] {
+        ++changes;
+        EXPECT_EQ(context_->peak(), PeakInfo::at(scheduler_.now()));
+        peak |= context_->peak().isPeak;
+    };
+    scheduler_.advance(Seconds(3 * 86400));
+    EXPECT_EQ(changes, 3 * 86400 / 5);
+    EXPECT_TRUE(peak) << "three days in May have a weekday";
+    EXPECT_EQ(scheduler_.pending(), 1) << "one look at a time";
+    context_.reset();
+    EXPECT_EQ(scheduler_.pending(), 0);
+}
+
+} // namespace
+
+} // namespace ravelo

@@ -1,0 +1,303 @@
+// On virtual time, and in all else real: a server that speaks TLS, files, a program that stands in
+// for Claude Code.
+
+#include "monitor/PlanUsage.h"
+
+#include "UsageServer.h"
+#include "base/Files.h"
+#include "fakes/FakeNearby.h"
+#include "fakes/FakeUsageSources.h"
+#include "fakes/ManualScheduler.h"
+#include "platform/system/DetachedThreads.h"
+#include "platform/system/HttpsThread.h"
+#include "platform/system/SpawnedChild.h"
+#include "support/Eventually.h"
+
+#include <gtest/gtest.h>
+
+#include <QDir>
+#include <QFile>
+#include <QTcpServer>
+#include <QTemporaryDir>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Seconds tick(5);
+const PlanWindows inFile{UsageWindow{11, {}}, UsageWindow{22, {}}};
+const PlanWindows answered{UsageWindow{41.5, {}}, UsageWindow{78, {}}};
+
+const QByteArray goodBody = R"({"five_hour":{"utilization":41.5},"seven_day":{"utilization":78}})";
+
+/// Notes its arguments and what its streams are, gives new credentials, and ends.
+const QByteArray claude = R"(#!/bin/sh
+here=$(dirname "$0")
+streams=$(for stream in 0 1 2; do readlink "/proc/$$/fd/$stream"; done | tr -d '0-9\n')
+{
+    for argument; do printf '<%s>' "$argument"; done
+    echo "$streams"
+} >> "$here/runs"
+[ -e "$here/next" ] && mv "$here/next" "$here/../../.claude/.credentials.json"
+seq 100000  # More than a small pipe holds.
+)";
+
+class PlanUsageTest : public testing::Test {
+public:
+    PlanUsageTest() {
+        write(u".ravelo/usage.json"_s, R"({"rate_limits":{"five_hour":{"used_percentage":11},)"
+                                       R"("seven_day":{"used_percentage":22}}})");
+        setToken("token-1");
+        write(u".local/bin/claude"_s, claude);
+        QFile::setPermissions(path(u".local/bin/claude"_s), QFile::ReadOwner | QFile::ExeOwner);
+        server.answer = UsageServer::http("200 OK", goodBody);
+    }
+
+    [[nodiscard]] QString path(const QString& name) const { return home.filePath(name); }
+
+    void write(const QString& name, const QByteArray& bytes) const {
+        ASSERT_TRUE(QDir().mkpath(QFileInfo(path(name)).path()));
+        ASSERT_TRUE(writeFileAtomically(path(name), bytes));
+    }
+
+    static QByteArray credentials(const QByteArray& token, const QByteArray& more = {}) {
+        return R"({"claudeAiOauth":{"accessToken":")" + token + '"' + more + "}}";
+    }
+
+    void setToken(const QByteArray& token, const QByteArray& more = {}) const {
+        write(u".claude/.credentials.json"_s, credentials(token, more));
+    }
+
+    void start(const QString& host = u"localhost"_s, Seconds timeOut = Seconds(15)) {
+        usage = std::make_unique<PlanUsage>(
+            UsageQuery::Services{scheduler, files, secrets, https, children},
+            QFile::encodeName(home.path()), UsageQuery::Endpoint{server.url(host), timeOut});
+        settle();
+    }
+
+    void settle() { settle(*usage); }
+
+    void settle(const PlanUsage& one) {
+        ASSERT_TRUE(eventually([&] {
+            scheduler.advance(Seconds(0)); // Files are read.
+            return !one.fetching();
+        }));
+    }
+
+    /// Lets so much time pass, tick by tick, with every query coming to its end.
+    void pass(Seconds time) {
+        for (Seconds passed(0); passed < time; passed += tick) {
+            scheduler.advance(tick);
+            settle();
+        }
+    }
+
+    [[nodiscard]] PlanWindows windows() const { return {usage->session(), usage->week()}; }
+
+    /// One line each.
+    [[nodiscard]] QByteArrayList runs() const {
+        QByteArrayList lines =
+            readFile(path(u".local/bin/runs"_s)).value_or(QByteArray()).split('\n');
+        lines.removeLast();
+        return lines;
+    }
+
+    QTemporaryDir home;
+    UsageServer server;
+    ManualScheduler scheduler;
+    FakeDetachedJobs files{scheduler};
+    FakeSecretStore secrets;
+    DetachedThreads threads;
+    HttpsThread https{threads, "Ravelo/test", server.trust()};
+    SpawnedChild children{threads, QProcessEnvironment::systemEnvironment()};
+    std::unique_ptr<PlanUsage> usage;
+};
+
+struct AnswerCase {
+    const char* name;
+    QByteArray answer;
+    std::optional<PlanWindows> live;
+    int renewals = 0;
+};
+
+class PlanUsageAnswer : public PlanUsageTest, public testing::WithParamInterface<AnswerCase> {};
+
+TEST_P(PlanUsageAnswer, countsOrTheFileDoes) {
+    server.answer = GetParam().answer;
+    start(u"localhost"_s, GetParam().answer.isEmpty() ? Seconds(0.3) : Seconds(15));
+    EXPECT_EQ(usage->liveOK(), GetParam().live.has_value());
+    EXPECT_TRUE(windows() == GetParam().live.value_or(inFile));
+    EXPECT_EQ(runs().size(), GetParam().renewals);
+}
+
+QByteArray ok(const QByteArray& body) {
+    return UsageServer::http("200 OK", body);
+}
+
+QByteArray sessionThatResets(const QByteArray& time) {
+    return ok(R"({"five_hour":{"utilization":7,"resets_at":")" + time + R"("}})");
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, PlanUsageAnswer,
+    testing::Values(
+        AnswerCase{"both", ok(goodBody), answered},
+        AnswerCase{"oneWithAFraction", sessionThatResets("2025-11-15T19:00:00.000000+00:00"),
+                   PlanWindows{UsageWindow{7, Date{1763233200 - referenceInstant}}, {}}},
+        AnswerCase{"oneWithoutAFraction", sessionThatResets("2025-11-15T19:00:00+00:00"),
+                   PlanWindows{UsageWindow{7, {}}, {}}},
+        AnswerCase{"neither", ok("{}"), PlanWindows{}}, AnswerCase{"noObject", ok("[]"), {}},
+        AnswerCase{"garbage", ok("<html>\xff"), {}}, AnswerCase{"noHttp", "garbage\r\n\r\n", {}},
+        AnswerCase{"cut", ok(goodBody).chopped(1), {}},
+        AnswerCase{"created", UsageServer::http("201 Created", goodBody), {}},
+        AnswerCase{"unauthorized",
+                   UsageServer::http("401 Unauthorized", "{}", "WWW-Authenticate: Bearer\r\n"),
+                   {},
+                   1},
+        AnswerCase{
+            "passwordWanted",
+            UsageServer::http("401 Unauthorized", "{}", "WWW-Authenticate: Basic realm=\"x\"\r\n"),
+            {},
+            1},
+        AnswerCase{"tooMany", UsageServer::http("429 Too Many Requests", goodBody), {}},
+        AnswerCase{"broken", UsageServer::http("500 Internal Server Error", goodBody), {}},
+        AnswerCase{"fiveMegabytes", ok(goodBody + QByteArray(5'000'000, ' ')), {}},
+        AnswerCase{"hang", "", {}}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(PlanUsageTest, asksWithTheTokenAndSaysWhoItIs) {
+    start();
+    const QByteArrayList lines = server.requests().value(0).split('\n');
+    EXPECT_EQ(lines.value(0), "GET /api/oauth/usage HTTP/1.1\r");
+    EXPECT_TRUE(
+        lines.contains("Host: " + server.url(u"localhost"_s).authority().toLatin1() + '\r'));
+    for (const char* header : {"Authorization: Bearer token-1\r", "User-Agent: Ravelo/test\r",
+                               "anthropic-beta: oauth-2025-04-20\r"}) {
+        EXPECT_TRUE(lines.contains(header)) << header;
+    }
+}
+
+TEST_F(PlanUsageTest, carriesTheTokenNowhereElse) {
+    QTcpServer other;
+    ASSERT_TRUE(other.listen(QHostAddress::LocalHost));
+    server.answer = UsageServer::http(
+        "302 Found", goodBody,
+        "Location: https://127.0.0.1:" + QByteArray::number(other.serverPort()) + "/\r\n");
+    start();
+    EXPECT_FALSE(usage->liveOK());
+    EXPECT_FALSE(other.hasPendingConnections()) << "the redirection was followed";
+
+    start(u"127.0.0.1"_s);
+    EXPECT_FALSE(usage->liveOK());
+    EXPECT_EQ(server.requests().size(), 1) << "the certificate is for another host";
+
+    HttpsThread systemTrust(threads, "Ravelo/test");
+    const PlanUsage distrusting({scheduler, files, secrets, systemTrust, children},
+                                QFile::encodeName(home.path()),
+                                {server.url(u"localhost"_s), Seconds(15)});
+    settle(distrusting);
+    EXPECT_EQ(server.requests().size(), 1) << "nobody vouches for the certificate";
+}
+
+TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
+    start();
+    int changes = 0;
+    QObject::connect(usage.get(), &PlanUsage::changed, [&] { ++changes; });
+    pass(Seconds(90));
+    EXPECT_EQ(server.requests().size(), 1);
+    EXPECT_EQ(changes, 0) << "the file does not count while asking succeeds";
+    EXPECT_TRUE(windows() == answered);
+
+    server.answer = UsageServer::http("500 Internal Server Error", "");
+    pass(tick);
+    EXPECT_EQ(server.requests().size(), 2);
+    EXPECT_TRUE(windows() == answered) << "a failure leaves what was known";
+    pass(tick);
+    EXPECT_TRUE(windows() == inFile);
+    write(u".ravelo/usage.json"_s, R"({"rate_limits":{"five_hour":{"used_percentage":33}}})");
+    pass(tick);
+    EXPECT_TRUE(windows() == (PlanWindows{UsageWindow{33, {}}, {}}));
+    write(u".ravelo/usage.json"_s, "{");
+    pass(tick);
+    EXPECT_TRUE(windows() == (PlanWindows{UsageWindow{33, {}}, {}})) << "it makes no sense";
+
+    server.answer = ok(goodBody);
+    pass(Seconds(80));
+    EXPECT_EQ(server.requests().size(), 3);
+    EXPECT_TRUE(windows() == answered);
+}
+
+TEST_F(PlanUsageTest, renewsARefusedTokenAtMostEveryTwentyMinutes) {
+    server.answer = UsageServer::http("401 Unauthorized", "");
+    start();
+    const QByteArray run =
+        "<-p><.><--model><claude-haiku-4-5-20251001><--max-turns><1>pipe:[]pipe:[]pipe:[]";
+    EXPECT_EQ(runs(), QByteArrayList{run});
+    pass(Seconds(1200));
+    EXPECT_EQ(server.requests().size(), 1 + 12) << "every 95 seconds";
+    EXPECT_EQ(runs().size(), 1);
+    pass(Seconds(95));
+    EXPECT_EQ(runs(), (QByteArrayList{run, run}));
+}
+
+TEST_F(PlanUsageTest, renewsATokenThatIsAboutToExpireAndStillUsesIt) {
+    const auto expiringIn = [&](double seconds) {
+        const double now = scheduler.now().sinceReference + referenceInstant;
+        return ",\"expiresAt\":" + QByteArray::number((now + seconds) * 1000, 'f', 0);
+    };
+    setToken("fresh", expiringIn(601));
+    start();
+    EXPECT_EQ(runs().size(), 0);
+    setToken("old", expiringIn(95 + 300));
+    write(u".local/bin/next"_s, credentials("new"));
+    pass(Seconds(95));
+    EXPECT_EQ(runs().size(), 1);
+    EXPECT_FALSE(QFile::exists(path(u".local/bin/next"_s))) << "it had ended before the request";
+    pass(Seconds(95));
+    QByteArrayList tokens;
+    for (const QByteArray& request : server.requests()) {
+        tokens.append(request.mid(request.indexOf("Bearer ") + 7, 5).trimmed());
+    }
+    EXPECT_EQ(tokens, (QByteArrayList{"fresh", "old", "new"}));
+}
+
+TEST_F(PlanUsageTest, goesOnWithoutAToolToRenewBy) {
+    ASSERT_TRUE(QFile::remove(path(u".local/bin/claude"_s)));
+    server.answer = UsageServer::http("401 Unauthorized", "");
+    start();
+    server.answer = ok(goodBody);
+    pass(Seconds(95));
+    EXPECT_TRUE(windows() == answered);
+}
+
+TEST_F(PlanUsageTest, asksTheSecretServiceWhereNoFileHasCredentials) {
+    setToken("");
+    start();
+    EXPECT_EQ(secrets.asked, QStringList{u"Claude Code-credentials"_s});
+    EXPECT_EQ(server.requests().size(), 0);
+    EXPECT_FALSE(usage->liveOK());
+
+    secrets.secret = credentials("secret-token");
+    pass(Seconds(95));
+    EXPECT_TRUE(server.requests().value(0).contains("Bearer secret-token\r\n"));
+    EXPECT_TRUE(windows() == answered);
+    EXPECT_EQ(runs().size(), 0);
+}
+
+TEST_F(PlanUsageTest, mayEndInTheMiddleOfAQuery) {
+    server.answer.clear();
+    usage = std::make_unique<PlanUsage>(
+        UsageQuery::Services{scheduler, files, secrets, https, children},
+        QFile::encodeName(home.path()),
+        UsageQuery::Endpoint{server.url(u"localhost"_s), Seconds(15)});
+    scheduler.advance(Seconds(0));
+    ASSERT_TRUE(eventually([&] { return !server.requests().isEmpty(); }));
+    usage.reset();
+    EXPECT_EQ(scheduler.pending(), 0);
+}
+
+} // namespace
+
+} // namespace ravelo
