@@ -134,7 +134,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     const auto quit = [] {
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     };
-    commands_ = std::make_unique<Commands>(Commands::Services{*store_, *notch_, *scheduler_, quit});
+    commands_ = std::make_unique<Commands>(Commands::Services{
+        *store_, *notch_, *scheduler_, LiveContext::shared(), PlanUsage::shared(), quit});
     wire();
     return {};
 }

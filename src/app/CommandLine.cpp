@@ -17,6 +17,9 @@ Result<Command> parseOption(const QList<QByteArray>& arguments) {
     static const QHash<QByteArray, Command> options = {
         {"--toggle", {Kind::ask, {u"toggle"_s}, {}, IfNoneRuns::startAndAsk}},
         {"--quit", {Kind::ask, {u"quit"_s}, {}, IfNoneRuns::fail}},
+        {"--status", {Kind::ask, {u"status"_s}, {}, IfNoneRuns::readFiles}},
+        {"--status=json", {Kind::ask, {u"status"_s, u"--json"_s}, {}, IfNoneRuns::readFiles}},
+        {"--store-usage", {Kind::storeUsage, {}, {}, {}}},
         {"--help", {Kind::showHelp, {}, {}, {}}},
         {"-h", {Kind::showHelp, {}, {}, {}}},
         {"--version", {Kind::showVersion, {}, {}, {}}},
@@ -81,6 +84,14 @@ screen. Move the pointer there to open it; click elsewhere to close it.
 
   --toggle       open the panel, or close it; starts Ravelo where it is not running
   --quit         end the running Ravelo
+  --status       one line on Claude Code: model, context used / limit, peak hours,
+                 and how much of the plan's five-hour and weekly windows is used;
+                 where no Ravelo runs, as far as files tell it
+  --status=json  the same as one object: model, used and limit in tokens,
+                 lastActivity, peak, isPeak, session and week. These two are null
+                 or have pct, from 0 to 100, and resets; dates are ISO 8601 or null
+  --store-usage  keep what standard input tells of the plan's usage, in the form in
+                 which Claude Code tells its status line
   -h, --help     show this help
   -v, --version  show the version
 

@@ -9,9 +9,10 @@ namespace ravelo {
 
 /// What the user asked for at the command line.
 struct Command {
-    enum class Kind { showHelp, showVersion, ask };
-    /// What to do about a request where no Ravelo runs. By `start` alone all is done.
-    enum class IfNoneRuns { fail, start, startAndAsk };
+    enum class Kind { showHelp, showVersion, storeUsage, ask };
+    /// What to do about a request where no Ravelo runs. By `start` alone all is done; what is asked
+    /// for with `readFiles` can be found out without one, as far as files tell it.
+    enum class IfNoneRuns { fail, start, startAndAsk, readFiles };
 
     Kind kind = Kind::ask;
     QStringList request;     ///< As Commands has it.

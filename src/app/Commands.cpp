@@ -1,7 +1,9 @@
 #include "app/Commands.h"
 
 #include "app/FileArguments.h"
+#include "app/StatusCommands.h"
 #include "base/Scheduler.h"
+#include "monitor/StatusText.h"
 #include "panel/NotchController.h"
 #include "store/Store.h"
 #include "timer/FocusTimer.h"
@@ -166,6 +168,11 @@ Answer shelfList(const Services& services, const QStringList& arguments) {
     return answer;
 }
 
+Answer status(const Services& services, const QStringList& arguments) {
+    const Date now = services.scheduler.now();
+    return statusAnswer(MonitorStatus::of(services.context, services.usage, now), now, arguments);
+}
+
 struct Row {
     QStringList words;
     Result<void> (*check)(const QStringList& arguments);
@@ -177,6 +184,7 @@ const Row* rowFor(const QStringList& request) {
         {{u"show"_s}, nothing, show},
         {{u"toggle"_s}, nothing, toggle},
         {{u"quit"_s}, nothing, quit},
+        {{u"status"_s}, jsonAtMost, status},
         {{u"open"_s}, files, open},
         {{u"timer"_s, u"start"_s}, lengthAndLabel, startTimer},
         {{u"timer"_s, u"stop"_s}, nothing, stopTimer},

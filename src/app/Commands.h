@@ -9,19 +9,23 @@
 
 namespace ravelo {
 
+class LiveContext;
 class NotchController;
+class PlanUsage;
 class Scheduler;
 class Store;
 
 /// What the running program can be asked for by another start of it. A request is the words of the
-/// command line after the program's name, but for these: "show", "toggle", "quit", and "open" with
-/// the absolute paths or file URLs of what to park. Main thread.
+/// command line after the program's name, but for these: "show", "toggle", "quit", "status", and
+/// "open" with the absolute paths or file URLs of what to park. Main thread.
 class Commands {
 public:
     struct Services {
         Store& store;
         NotchController& notch;
         Scheduler& scheduler;
+        const LiveContext& context;
+        const PlanUsage& usage;
         std::function<void()> quit; ///< Later than at once: who asks for it wants an answer.
     };
 

@@ -2,6 +2,7 @@
 #include "app/CommandLine.h"
 #include "app/Console.h"
 #include "app/FileArguments.h"
+#include "app/StatusCommands.h"
 #include "platform/freedesktop/SingleInstance.h"
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
@@ -95,6 +96,9 @@ int ask(Command command, char** argv) {
         return EXIT_FAILURE;
     }
     auto status = askElsewhere(command.request, argv);
+    if (!status && command.ifNoneRuns == Command::IfNoneRuns::readFiles) {
+        return report(statusFromFiles(command.request.mid(1)));
+    }
     if (!status && command.ifNoneRuns == Command::IfNoneRuns::fail) {
         complain(u"not running"_s);
         return EXIT_FAILURE;
@@ -119,6 +123,8 @@ int main(int argc, char** argv) {
         return print(helpText().toUtf8());
     case Command::Kind::showVersion:
         return print(versionText().toUtf8());
+    case Command::Kind::storeUsage:
+        return report(storeUsageFromInput());
     case Command::Kind::ask:
         return ask(*command, argv);
     }

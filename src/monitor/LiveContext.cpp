@@ -16,14 +16,12 @@ namespace {
 
 constexpr Seconds interval(5);
 constexpr qint64 million = 1'000'000;
-constexpr qint64 usualLimit = million; ///< Of every model.
 
 } // namespace
 
 LiveContext::LiveContext(Services services, const QByteArray& home,
                          std::unique_ptr<FolderChanges> changes)
     : services_(services),
-      limit_(usualLimit),
       peak_(PeakInfo::at(services.scheduler.now())),
       reader_(std::make_shared<ContextReader>(home, std::move(changes))) {
     refresh();

@@ -23,6 +23,9 @@ class LiveContext : public QObject {
     Q_OBJECT
 
 public:
+    /// Tokens in the context of every model where the user has set no limit.
+    static constexpr qint64 usualLimit = 1'000'000;
+
     /// Both outlive it.
     struct Services {
         Scheduler& scheduler;
@@ -69,7 +72,7 @@ private:
     Services services_;
     QString model_;
     qint64 used_ = 0;
-    qint64 limit_;
+    qint64 limit_ = usualLimit;
     std::optional<Date> lastActivity_;
     PeakInfo peak_;
     std::shared_ptr<ContextReader> reader_; ///< At work elsewhere while `reading_` is there.

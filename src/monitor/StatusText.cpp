@@ -1,24 +1,22 @@
 #include "monitor/StatusText.h"
 
+#include "monitor/ContextReader.h"
 #include "monitor/LiveContext.h"
 #include "monitor/PlanUsage.h"
+#include "monitor/UsageFile.h"
+#include "platform/FolderChanges.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
 
 #include <cmath>
+#include <utility>
 
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QString planLine(const QString& title, const std::optional<UsageWindow>& window, Date now) {
-    const QString reset = resetText(window, now);
-    return title + u": "_s + percentText(window) + (reset.isEmpty() ? reset : u" · "_s + reset) +
-           u'\n';
-}
 
 QJsonValue json(const std::optional<Date>& date) {
     constexpr double longest = 2.5e11; // Seconds; what has a year of four digits is nearer.
@@ -42,6 +40,21 @@ MonitorStatus MonitorStatus::of(const LiveContext& context, const PlanUsage& usa
             context.lastActivity(), PeakInfo::at(now), {usage.session(), usage.week()}};
 }
 
+MonitorStatus MonitorStatus::fromFiles(const QByteArray& home,
+                                       std::unique_ptr<FolderChanges> changes, Date now) {
+    const ContextReading reading = ContextReader(home, std::move(changes)).read();
+    MonitorStatus status;
+    status.limit = reading.limit.value_or(LiveContext::usualLimit);
+    if (reading.turn) {
+        status.model = prettyModel(reading.turn->usage.model);
+        status.used = reading.turn->usage.tokens;
+        status.lastActivity = reading.turn->modified;
+    }
+    status.peak = PeakInfo::at(now);
+    status.plan = loadUsage(home).value_or(PlanWindows());
+    return status;
+}
+
 QString contextLine(const MonitorStatus& status, Date now, const QLocale& locale,
                     const QTimeZone& zone) {
     QString peak = status.peak.label(now, locale, zone);
@@ -52,11 +65,10 @@ QString contextLine(const MonitorStatus& status, Date now, const QLocale& locale
            LiveContext::shortCount(status.limit) + u" · "_s + peak;
 }
 
-QString statusText(const MonitorStatus& status, Date now, const QLocale& locale,
+QString statusLine(const MonitorStatus& status, Date now, const QLocale& locale,
                    const QTimeZone& zone) {
-    return contextLine(status, now, locale, zone) + u'\n' +
-           planLine(u"5h session"_s, status.plan.session, now) +
-           planLine(u"Week"_s, status.plan.week, now);
+    return contextLine(status, now, locale, zone) + u" · 5h "_s + percentText(status.plan.session) +
+           u" · week "_s + percentText(status.plan.week) + u'\n';
 }
 
 QByteArray statusJson(const MonitorStatus& status, Date now, const QLocale& locale,

@@ -7,8 +7,11 @@
 #include <QLocale>
 #include <QTimeZone>
 
+#include <memory>
+
 namespace ravelo {
 
+class FolderChanges;
 class LiveContext;
 class PlanUsage;
 
@@ -23,14 +26,19 @@ struct MonitorStatus {
 
     [[nodiscard]] static MonitorStatus of(const LiveContext& context, const PlanUsage& usage,
                                           Date now);
+
+    /// What can be known where no monitor runs: the files below `home`, read once. Blocks; any
+    /// thread.
+    [[nodiscard]] static MonitorStatus fromFiles(const QByteArray& home,
+                                                 std::unique_ptr<FolderChanges> changes, Date now);
 };
 
 /// The session's context, where there is one, and the peak hours, in one line.
 [[nodiscard]] QString contextLine(const MonitorStatus& status, Date now, const QLocale& locale,
                                   const QTimeZone& zone = QTimeZone::systemTimeZone());
 
-/// For people: a line each for the context and the two windows of the plan.
-[[nodiscard]] QString statusText(const MonitorStatus& status, Date now, const QLocale& locale,
+/// For bars and prompts: the same and how much of the plan's two windows is used, in one line.
+[[nodiscard]] QString statusLine(const MonitorStatus& status, Date now, const QLocale& locale,
                                  const QTimeZone& zone = QTimeZone::systemTimeZone());
 
 /// For programs: one JSON object, with dates as ISO 8601 in UTC and null for what is not known.

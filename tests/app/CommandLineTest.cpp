@@ -33,6 +33,8 @@ TEST(CommandLine, IsUnderstood) {
         {{}, {Kind::ask, {u"show"_s}, {}, IfNoneRuns::start}},
         {{"--toggle"}, {Kind::ask, {u"toggle"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--quit"}, asks({u"quit"_s})},
+        {{"--status=json"}, {Kind::ask, {u"status"_s, u"--json"_s}, {}, IfNoneRuns::readFiles}},
+        {{"--store-usage"}, {Kind::storeUsage, {}, {}, {}}},
         {{"-h"}, {Kind::showHelp, {}, {}, {}}},
         {{"--version"}, {Kind::showVersion, {}, {}, {}}},
         {{"timer", "stop"}, asks({u"timer"_s, u"stop"_s})},

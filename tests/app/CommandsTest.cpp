@@ -1,6 +1,9 @@
 #include "app/Commands.h"
 
 #include "fakes/PanelWorld.h"
+#include "fakes/UsageWorld.h"
+#include "monitor/LiveContext.h"
+#include "platform/system/InotifyChanges.h"
 
 #include <gtest/gtest.h>
 
@@ -25,10 +28,14 @@ protected:
     [[nodiscard]] QByteArray json() const { return status({u"--json"_s}); }
 
     PanelWorld world_;
+    UsageWorld plan_{world_.scheduler, {UsageWindow{41.5, {}}, UsageWindow{78, {}}}};
+    LiveContext context_{
+        {world_.scheduler, plan_.jobs}, plan_.home(), std::make_unique<InotifyChanges>()};
     int quits_ = 0;
-    Commands commands_{{world_.store, world_.controller, world_.scheduler, [this] {
-                            ++quits_;
-                        }}};
+    Commands commands_{
+        {world_.store, world_.controller, world_.scheduler, context_, plan_.usage, [this] {
+             ++quits_;
+         }}};
 };
 
 TEST_F(CommandsTest, TellsOfTheTimerAtEachMoment) {
@@ -82,6 +89,15 @@ TEST_F(CommandsTest, TakesAnyLabelAndTellsItInOneLine) {
     }
 }
 
+TEST_F(CommandsTest, TellsWhatTheMonitorsKnow) {
+    world_.scheduler.advance(Seconds(5));
+    const QByteArray line = answer({u"status"_s}).output;
+    EXPECT_TRUE(line.endsWith(" · 5h 42% · week 78%\n")) << line.constData();
+    const QByteArray object = answer({u"status"_s, u"--json"_s}).output;
+    EXPECT_TRUE(object.contains("\"session\":{\"pct\":41.5,\"resets\":null}"))
+        << object.constData();
+}
+
 TEST_F(CommandsTest, RefusesWhatMakesNoSenseAndChangesNothing) {
     EXPECT_EQ(answer({u"timer"_s, u"start"_s, u".5"_s, u"kept"_s}), Answer());
     for (const char* minutes : {"", "soon", "0", "0.0", "-1", "+1", "1,5", "1.5.5", "1e2", "0x10",
@@ -91,10 +107,15 @@ TEST_F(CommandsTest, RefusesWhatMakesNoSenseAndChangesNothing) {
         EXPECT_TRUE(refused.errors.contains(u'"' + QString::fromUtf8(minutes) + u'"'));
     }
     const QList<QStringList> requests = {
-        {},           {u""_s},
-        {u"timer"_s}, {u"timer start 1"_s},
-        {u"open"_s},  {u"quit"_s, u"now"_s},
-        {u"show!"_s}, {u"timer"_s, u"stop"_s, u"--now"_s},
+        {},
+        {u""_s},
+        {u"timer"_s},
+        {u"timer start 1"_s},
+        {u"open"_s},
+        {u"quit"_s, u"now"_s},
+        {u"show!"_s},
+        {u"timer"_s, u"stop"_s, u"--now"_s},
+        {u"status"_s, u"json"_s},
     };
     for (const QStringList& request : requests) {
         EXPECT_EQ(answer(request).status, 2) << qPrintable(request.join(u' '));

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "base/Date.h"
+#include "platform/Answer.h"
+
+#include <QStringList>
+
+// What bars, prompts and Claude Code's own status line call.
+
+namespace ravelo {
+
+struct MonitorStatus;
+
+/// One line, or with "--json" one object.
+[[nodiscard]] Answer statusAnswer(const MonitorStatus& status, Date now,
+                                  const QStringList& arguments);
+
+/// The same of what this user's files tell, for where no Ravelo runs. Blocks.
+[[nodiscard]] Answer statusFromFiles(const QStringList& arguments);
+
+/// Keeps what standard input tells of the plan's usage, to its end, for the Ravelo that runs or
+/// will run. Blocks.
+[[nodiscard]] Answer storeUsageFromInput();
+
+} // namespace ravelo
