@@ -1,0 +1,25 @@
+# Completion of ravelo(1) for bash.
+# shellcheck shell=bash
+_ravelo() {
+    local current=${COMP_WORDS[COMP_CWORD]} words=
+    local before=${COMP_WORDS[*]:1:COMP_CWORD-1}
+    COMPREPLY=()
+    case $before in
+    '') words='timer shelf --toggle --settings --setup --status --store-usage --quit --help --version' ;;
+    timer) words='start stop status' ;;
+    'timer status' | --status) words='--json' ;;
+    shelf) words='list' ;;
+    'shelf list') words='--null --json' ;;
+    timer\ * | shelf\ * | --[a-z]*) return ;;
+    esac
+    mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
+    case $before in
+    timer* | shelf* | --[a-z]*) ;;
+    *)
+        compopt -o filenames
+        local file
+        while IFS= read -r file; do COMPREPLY+=("$file"); done < <(compgen -f -- "$current")
+        ;;
+    esac
+}
+complete -F _ravelo ravelo

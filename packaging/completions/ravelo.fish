@@ -1,0 +1,29 @@
+# Completion of ravelo(1) for fish.
+function __ravelo_after
+    set -l words (commandline -opc)
+    test "$words[2..-1]" = "$argv"
+end
+
+function __ravelo_takes_files
+    set -l words (commandline -opc)
+    not string match -qr '^(timer|shelf|--[a-z])' -- "$words[2]"
+end
+
+complete -c ravelo -f
+complete -c ravelo -n __ravelo_takes_files -F
+complete -c ravelo -n __ravelo_after -a timer -d 'The focus timer'
+complete -c ravelo -n __ravelo_after -a shelf -d 'The parked files'
+complete -c ravelo -n __ravelo_after -l toggle -d 'Open the panel, or close it'
+complete -c ravelo -n __ravelo_after -l settings -d 'Show the settings'
+complete -c ravelo -n __ravelo_after -l setup -d 'Show the setup'
+complete -c ravelo -n __ravelo_after -l status -d 'Print what the monitors know'
+complete -c ravelo -n __ravelo_after -l store-usage -d 'Keep what Claude Code tells of the plan'
+complete -c ravelo -n __ravelo_after -l quit -d 'End the running Ravelo'
+complete -c ravelo -n __ravelo_after -s h -l help -d 'Show a short help'
+complete -c ravelo -n __ravelo_after -s v -l version -d 'Show the version'
+complete -c ravelo -n '__ravelo_after timer' -a 'start stop status'
+complete -c ravelo -n '__ravelo_after timer status' -l json -d 'As one object'
+complete -c ravelo -n '__ravelo_after --status' -l json -d 'As one object'
+complete -c ravelo -n '__ravelo_after shelf' -a list -d 'Their paths'
+complete -c ravelo -n '__ravelo_after shelf list' -s 0 -l null -d 'Each ends with a NUL byte'
+complete -c ravelo -n '__ravelo_after shelf list' -l json -d 'As one object'
