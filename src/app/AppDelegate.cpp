@@ -2,6 +2,7 @@
 
 #include "app/Commands.h"
 #include "app/ShelfServices.h"
+#include "app/StatusItemController.h"
 #include "base/Files.h"
 #include "clipboard/ClipboardManager.h"
 #include "monitor/LiveContext.h"
@@ -17,6 +18,7 @@
 #include "platform/freedesktop/ScreenSaverBus.h"
 #include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
+#include "platform/freedesktop/TrayStatusItem.h"
 #include "platform/system/DetachedThreads.h"
 #include "platform/system/HttpsThread.h"
 #include "platform/system/InotifyChanges.h"
@@ -88,6 +90,7 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       secrets_(std::make_unique<SecretService>(sessionBus())),
       https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
       children_(std::make_unique<SpawnedChild>(*jobs_, environment)),
+      tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
       shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, display_.icons())) {}
 
 AppDelegate::~AppDelegate() {
@@ -134,6 +137,10 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     const auto quit = [] {
         QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
     };
+    statusItem_ = std::make_unique<StatusItemController>(
+        StatusItemController::Services{*tray_, *notch_, LiveContext::shared(), *scheduler_, [] {},
+                                       quit},
+        QLocale());
     commands_ = std::make_unique<Commands>(Commands::Services{
         *store_, *notch_, *scheduler_, LiveContext::shared(), PlanUsage::shared(), quit});
     wire();

@@ -32,6 +32,8 @@ class Preferences;
 class Scheduler;
 class SecretStore;
 class SessionLock;
+class StatusItem;
+class StatusItemController;
 class ShutDown;
 struct ShelfServices;
 class Store;
@@ -78,6 +80,7 @@ private:
     std::unique_ptr<SecretStore> secrets_;
     std::unique_ptr<HttpsClient> https_;
     std::unique_ptr<ChildProcess> children_;
+    std::unique_ptr<StatusItem> tray_;
 
     std::unique_ptr<ShelfServices> shelf_;
 
@@ -87,6 +90,7 @@ private:
     std::unique_ptr<PanelView> view_;
     std::unique_ptr<PanelWindow> window_;
     std::unique_ptr<NotchController> notch_;
+    std::unique_ptr<StatusItemController> statusItem_;
     std::unique_ptr<Commands> commands_;
     Handle compositor_;
     Handle motion_;

@@ -7,7 +7,7 @@
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QProcessEnvironment>
 
 #include <algorithm>
@@ -59,11 +59,11 @@ std::optional<int> askElsewhere(const QStringList& request, char** argv) {
 int run(const Command& command, char** argv) {
     const auto environment = QProcessEnvironment::systemEnvironment(); // Next, we change our own.
     Handle preparation = x11::prepareApplication();
-    const QGuiApplication application(nameAlone, argv);
+    const QApplication application(nameAlone, argv); // The status item is made of widgets.
     preparation.reset();
-    QGuiApplication::setApplicationName(u"ravelo"_s);
-    QGuiApplication::setApplicationDisplayName(u"Ravelo"_s);
-    QGuiApplication::setQuitOnLastWindowClosed(false);
+    QApplication::setApplicationName(u"ravelo"_s);
+    QApplication::setApplicationDisplayName(u"Ravelo"_s);
+    QApplication::setQuitOnLastWindowClosed(false);
 
     const auto instance = SingleInstance::claim();
     if (!instance) {
@@ -85,7 +85,7 @@ int run(const Command& command, char** argv) {
     if (command.ifNoneRuns == Command::IfNoneRuns::startAndAsk) {
         (void)report(delegate.answer(command.request));
     }
-    return QGuiApplication::exec();
+    return QApplication::exec();
 }
 
 int ask(Command command, char** argv) {

@@ -9,6 +9,7 @@
 #include "platform/Pointer.h"
 #include "platform/Screens.h"
 #include "platform/SessionLock.h"
+#include "platform/TrayArea.h"
 
 #include <memory>
 
@@ -33,6 +34,7 @@ public:
 
     [[nodiscard]] virtual MotionPreference& motion() = 0;
     [[nodiscard]] virtual IconPreference& icons() = 0;
+    [[nodiscard]] virtual TrayArea& tray() = 0;
 
     /// Makes the panel out of `window`, which must not have been shown yet and must outlive it.
     [[nodiscard]] virtual std::unique_ptr<PanelWindow> panelWindow(QWindow& window) = 0;

@@ -11,9 +11,10 @@ namespace ravelo::x11 {
 /// "Manager Selections"). Main thread.
 class ManagerSelection {
 public:
-    /// A compositor's (EWMH) and a settings manager's (XSETTINGS).
+    /// A compositor's (EWMH), a settings manager's (XSETTINGS) and a tray's (System Tray Protocol).
     static constexpr QByteArrayView compositor{"_NET_WM_CM"};
     static constexpr QByteArrayView settings{"_XSETTINGS"};
+    static constexpr QByteArrayView tray{"_NET_SYSTEM_TRAY"};
 
     /// Both must outlive it. Asks the X server once.
     ManagerSelection(Connection& connection, Events& events, QByteArrayView name);

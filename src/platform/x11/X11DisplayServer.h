@@ -13,6 +13,7 @@
 #include "platform/x11/X11Pasteboard.h"
 #include "platform/x11/X11Pointer.h"
 #include "platform/x11/X11Screens.h"
+#include "platform/x11/X11TrayArea.h"
 
 namespace ravelo::x11 {
 
@@ -39,6 +40,8 @@ public:
 
     [[nodiscard]] IconPreference& icons() override { return icons_; }
 
+    [[nodiscard]] TrayArea& tray() override { return tray_; }
+
     [[nodiscard]] std::unique_ptr<PanelWindow> panelWindow(QWindow& window) override;
 
 private:
@@ -51,6 +54,7 @@ private:
     SettingsManager settings_;
     X11MotionPreference motion_;
     X11IconPreference icons_;
+    X11TrayArea tray_;
     ScreenSaverStatus screenSaver_;
     X11EdgeBarrier barrier_;
     std::unique_ptr<Listener> listener_;

@@ -1,0 +1,36 @@
+#pragma once
+
+#include <QColor>
+#include <QKeySequence>
+#include <QList>
+#include <QSizeF>
+#include <QString>
+
+#include <functional>
+
+class QPainter;
+
+namespace ravelo {
+
+/// An icon with a menu and a tooltip in the bar of the desktop, where it has one. Main thread.
+class StatusItem {
+public:
+    /// Without a title it is a separator.
+    struct Row {
+        QString title;
+        QKeySequence keys; ///< Told to the user; nothing listens to them.
+        std::function<void()> action;
+    };
+
+    /// Draws the icon in one colour, `size` pixels large at the painter's origin.
+    using Draw = std::function<void(QPainter& painter, QSizeF size, const QColor& foreground)>;
+
+    virtual ~StatusItem() = default;
+
+    /// Once. A click on the icon itself does what the first row does.
+    virtual void show(Draw icon, QList<Row> menu) = 0;
+
+    virtual void setToolTip(const QString& text) = 0;
+};
+
+} // namespace ravelo

@@ -1,0 +1,159 @@
+#include "platform/freedesktop/TrayStatusItem.h"
+
+#include "base/Scheduler.h"
+#include "platform/TrayArea.h"
+#include "platform/freedesktop/BusCall.h"
+
+#include <QIcon>
+#include <QIconEngine>
+#include <QMenu>
+#include <QPainter>
+#include <QSystemTrayIcon>
+
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto watcherName = u"org.kde.StatusNotifierWatcher"_s;
+
+/// A panel brings its old tray and its watcher one after the other, and Qt asks only once which of
+/// the two there is.
+constexpr Seconds patience{2};
+
+constexpr std::chrono::seconds questionTimeOut{25};
+
+/// Bars are dark more often than not.
+constexpr QColor unknownForeground(255, 255, 255, 235);
+
+/// Drawn anew in every size. Where the icon is installed, bars take it by its name, in the colour
+/// of their own texts.
+class DrawnIcon final : public QIconEngine {
+public:
+    DrawnIcon(StatusItem::Draw draw, const QColor& foreground)
+        : draw_(std::move(draw)), foreground_(foreground) {}
+
+    void paint(QPainter* painter, const QRect& place, QIcon::Mode /*mode*/,
+               QIcon::State /*state*/) override {
+        painter->save();
+        painter->translate(place.topLeft());
+        draw_(*painter, place.size(), foreground_);
+        painter->restore();
+    }
+
+    QPixmap pixmap(const QSize& size, QIcon::Mode mode, QIcon::State state) override {
+        QPixmap pixmap(size);
+        pixmap.fill(Qt::transparent);
+        QPainter painter(&pixmap);
+        paint(&painter, QRect({}, size), mode, state);
+        return pixmap;
+    }
+
+    QList<QSize> availableSizes(QIcon::Mode /*mode*/, QIcon::State /*state*/) override {
+        QList<QSize> sizes;
+        for (const int side : {16, 18, 22, 24, 32, 48, 64}) {
+            sizes.append({side, side});
+        }
+        return sizes;
+    }
+
+    QString iconName() override {
+        const QString name = u"org.ravelo.Ravelo-symbolic"_s;
+        return QIcon::hasThemeIcon(name) ? name : QString();
+    }
+
+    bool isNull() override { return false; }
+
+    [[nodiscard]] QIconEngine* clone() const override { return new DrawnIcon(draw_, foreground_); }
+
+private:
+    StatusItem::Draw draw_;
+    QColor foreground_;
+};
+
+std::unique_ptr<QMenu> makeMenu(const QList<StatusItem::Row>& rows) {
+    auto menu = std::make_unique<QMenu>();
+    for (const StatusItem::Row& row : rows) {
+        if (row.title.isEmpty()) {
+            menu->addSeparator();
+        } else {
+            menu->addAction(row.title, row.keys, menu.get(), row.action);
+        }
+    }
+    return menu;
+}
+
+} // namespace
+
+TrayStatusItem::TrayStatusItem(QDBusConnection bus, TrayArea& area, Scheduler& scheduler)
+    : bus_(std::move(bus)),
+      area_(area),
+      scheduler_(scheduler),
+      watcher_(watcherName, bus_, QDBusServiceWatcher::WatchForOwnerChange) {}
+
+TrayStatusItem::~TrayStatusItem() = default;
+
+void TrayStatusItem::show(Draw icon, QList<Row> menu) {
+    draw_ = std::move(icon);
+    menu_ = makeMenu(menu);
+    // First listen, then ask: no change falls between.
+    QObject::connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, &watcher_,
+                     [this](const QString&, const QString&, const QString& owner) {
+                         watcherCameOrWent(!owner.isEmpty());
+                     });
+    areaChange_ = area_.onChange([this] { areaChanged(); });
+    auto call =
+        QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
+                                       u"org.freedesktop.DBus"_s, u"NameHasOwner"_s);
+    call << watcherName;
+    question_ = callBus(bus_, call, questionTimeOut, [this](const QDBusMessage& reply) {
+        watcherCameOrWent(reply.arguments().value(0).toBool());
+    });
+    areaChanged();
+}
+
+void TrayStatusItem::setToolTip(const QString& text) {
+    if (std::exchange(toolTip_, text) != text && icon_) { // Else all would be told of nothing new.
+        icon_->setToolTip(text);
+    }
+}
+
+void TrayStatusItem::watcherCameOrWent(bool isThere) {
+    if (isThere && !icon_) {
+        makeIcon();
+    }
+}
+
+void TrayStatusItem::areaChanged() {
+    if (icon_) {
+        icon_->setIcon(drawn());
+    } else if (area_.isThere()) {
+        patience_ = scheduler_.after(patience, [this] { makeIcon(); });
+    } else {
+        patience_.reset();
+    }
+}
+
+/// From then on Qt follows hosts that go and come again.
+void TrayStatusItem::makeIcon() {
+    patience_.reset();
+    icon_ = std::make_unique<QSystemTrayIcon>(drawn());
+    icon_->setToolTip(toolTip_);
+    icon_->setContextMenu(menu_.get());
+    QObject::connect(icon_.get(), &QSystemTrayIcon::activated, menu_.get(),
+                     [this](QSystemTrayIcon::ActivationReason reason) {
+                         if (reason == QSystemTrayIcon::Trigger) {
+                             menu_->actions().constFirst()->trigger();
+                         }
+                     });
+    icon_->show();
+}
+
+QIcon TrayStatusItem::drawn() const {
+    return QIcon(new DrawnIcon(draw_, area_.foreground().value_or(unknownForeground)));
+}
+
+} // namespace ravelo

@@ -1,0 +1,50 @@
+#pragma once
+
+#include "base/Handle.h"
+#include "platform/StatusItem.h"
+
+#include <QDBusConnection>
+#include <QDBusServiceWatcher>
+
+#include <memory>
+
+class QIcon;
+class QMenu;
+class QSystemTrayIcon;
+
+namespace ravelo {
+
+class Scheduler;
+class TrayArea;
+
+/// A StatusNotifierItem (org.kde.StatusNotifierWatcher on the session bus), or else an icon in the
+/// display server's tray; made when one of the two is there. Needs a QApplication. Main thread.
+class TrayStatusItem final : public StatusItem {
+public:
+    /// Area and scheduler outlive it.
+    TrayStatusItem(QDBusConnection bus, TrayArea& area, Scheduler& scheduler);
+    ~TrayStatusItem() override;
+
+    void show(Draw icon, QList<Row> menu) override;
+    void setToolTip(const QString& text) override;
+
+private:
+    void watcherCameOrWent(bool isThere);
+    void areaChanged();
+    void makeIcon();
+    [[nodiscard]] QIcon drawn() const;
+
+    QDBusConnection bus_;
+    TrayArea& area_;
+    Scheduler& scheduler_;
+    QDBusServiceWatcher watcher_;
+    Draw draw_;
+    QString toolTip_;
+    std::unique_ptr<QMenu> menu_; ///< Outlives the icon.
+    std::unique_ptr<QSystemTrayIcon> icon_;
+    Handle question_;
+    Handle patience_;
+    Handle areaChange_;
+};
+
+} // namespace ravelo

@@ -1,0 +1,36 @@
+#pragma once
+
+#include "platform/TrayArea.h"
+#include "platform/x11/ManagerSelection.h"
+
+namespace ravelo::x11 {
+
+/// The tray of the System Tray Protocol, with the colours that GTK's kind tells. Main thread.
+class X11TrayArea final : public TrayArea {
+public:
+    /// Both must outlive it.
+    X11TrayArea(Connection& connection, Events& events);
+
+    [[nodiscard]] bool isThere() const override { return manager_.isOwned(); }
+
+    [[nodiscard]] std::optional<QColor> foreground() const override { return foreground_; }
+
+    [[nodiscard]] Handle onChange(std::function<void()> callback) override {
+        return listeners_.add(std::move(callback));
+    }
+
+private:
+    void handle(const xcb_generic_event_t& event);
+    void follow();
+    void look();
+
+    Connection& connection_;
+    const xcb_atom_t colors_;
+    ManagerSelection manager_;
+    std::optional<QColor> foreground_;
+    Listeners<> listeners_;
+    Handle ownerChange_;
+    Handle subscription_;
+};
+
+} // namespace ravelo::x11
