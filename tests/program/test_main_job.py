@@ -17,6 +17,7 @@ import urllib.parse
 from gi.repository import Gio, GLib
 
 from desktop import WIDTH, Desktop, Ravelo, wait_for
+from tray_host import TrayHost
 
 CAPTURE_LIMIT = 0.9  # Seconds from the copy to store.json: at most one poll and one debounce.
 SAVE_DELAY = 0.4
@@ -593,6 +594,46 @@ class Drops(ProgramCase):
         self.assertLess(self.longest_stall(2), STALL_LIMIT)
         self.drop("answer", [f"file://{self.desktop.home}/a".encode()])
         wait_for(lambda: self.stacks() == [[f"{self.desktop.home}/a"]], "the next drop")
+
+
+class Tray(ProgramCase):
+    ROWS = [("Open Ravelo", []), ("Settings…", [["Control", ","]]), ("Set Up Ravelo Again…", []),
+            ("Check for Updates…", []), (None, []), ("Quit Ravelo", [["Control", "Q"]])]
+
+    def host(self):
+        host = TrayHost(self.desktop.env["DBUS_SESSION_BUS_ADDRESS"])
+        wait_for(lambda: host.serve().items, "the item at a host that came later")
+        return host
+
+    def transcript(self, used):
+        folder = self.desktop.home / ".claude" / "projects" / "work"
+        folder.mkdir(parents=True, exist_ok=True)
+        usage = {"input_tokens": used, "cache_read_input_tokens": 0, "output_tokens": 7}
+        with (folder / "session.jsonl").open("a") as file:
+            print(json.dumps({"type": "assistant", "message": {"model": "claude-opus-4-6",
+                                                               "usage": usage}}), file=file)
+
+    def test_follows_the_session_and_does_what_its_menu_says(self):
+        self.ravelo.start()
+        host = self.host()
+        self.assertEqual([(title, keys) for _, title, keys in host.rows()], self.ROWS)
+        self.assertRegex(host.tooltip(), "^(OFF-)?PEAK · ")
+        sizes = {(width, height): len(pixels) for width, height, pixels in host.read("IconPixmap")}
+        self.assertEqual(sizes[22, 22], 22 * 22 * 4)
+        for used, text in ((12345, "12k"), (124000, "124k")):
+            self.transcript(used)
+            wait_for(lambda: host.tooltip().startswith(f"Opus 4.6 · {text} / "),
+                     f"{text} in the tooltip", timeout=5.5 * SLOWER)
+        host.close()
+        host = self.host()  # A panel that was started anew.
+        host.click("Open Ravelo")
+        wait_for(self.ravelo.is_open, "the panel")
+        self.desktop.click(40, 700)
+        wait_for(self.ravelo.is_collapsed, "the handle")
+        host.activate()
+        wait_for(self.ravelo.is_open, "the panel")
+        host.click("Quit Ravelo")
+        self.assertEqual(self.ravelo.process.wait(20), 0)
 
 
 class CommandLine(ProgramCase):

@@ -8,8 +8,8 @@
 namespace ravelo {
 
 Handle callBus(const QDBusConnection& bus, QDBusMessage call, std::chrono::milliseconds timeOut,
-               std::function<void(const QDBusMessage&)> done) {
-    call.setAutoStartService(false);
+               std::function<void(const QDBusMessage&)> done, Activation activation) {
+    call.setAutoStartService(activation == Activation::allowed);
     auto* const watcher =
         new QDBusPendingCallWatcher(bus.asyncCall(call, static_cast<int>(timeOut.count())));
     const auto end = std::make_shared<decltype(done)>(std::move(done));

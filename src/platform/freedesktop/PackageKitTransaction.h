@@ -1,0 +1,63 @@
+#pragma once
+
+#include "base/Handle.h"
+#include "platform/PackageUpdates.h"
+
+#include <QDBusConnection>
+#include <QDBusServiceWatcher>
+#include <QObject>
+#include <QStringList>
+#include <QVariantList>
+#include <QVariantMap>
+
+#include <functional>
+#include <optional>
+
+class QDBusMessage;
+
+namespace ravelo {
+
+/// One thing that PackageKit is told to do (org.freedesktop.PackageKit.Transaction, version 1.2).
+/// Main thread.
+class PackageKitTransaction final : public QObject {
+    Q_OBJECT
+
+public:
+    /// Identifiers of the packages it told of: "name;version;architecture;data".
+    using Done = tl::expected<QStringList, UpdateProblem>;
+
+    /// Calls `method`; `done` is told of the end, once and later, unless this is destroyed before.
+    PackageKitTransaction(QDBusConnection bus, QString method, QVariantList arguments,
+                          std::function<void(Done)> done);
+
+    /// Percents while they are known.
+    std::function<void(std::optional<int>)> onProgress;
+
+private Q_SLOTS:
+    // NOLINTBEGIN(readability-identifier-naming): as the signals are called.
+    void Package(uint info, const QString& id, const QString& summary);
+    void ErrorCode(uint code, const QString& details);
+    void Finished(uint exit, uint runtime);
+    void PropertiesChanged(const QString& interface, const QVariantMap& changed,
+                           const QStringList& invalidated);
+    // NOLINTEND(readability-identifier-naming)
+
+private:
+    void begin(const QDBusMessage& created);
+    void listen();
+    void call(const QString& method, const QVariantList& arguments,
+              std::function<void(const QDBusMessage&)> done);
+    void end(Done done);
+
+    QDBusConnection bus_;
+    QString method_;
+    QVariantList arguments_;
+    std::function<void(Done)> done_;
+    QString path_;
+    QStringList packages_;
+    std::optional<UpdateProblem> problem_;
+    QDBusServiceWatcher service_;
+    Handle call_;
+};
+
+} // namespace ravelo
