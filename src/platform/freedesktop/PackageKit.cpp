@@ -34,8 +34,7 @@ QString nameIn(const QString& id) {
 
 /// What is behind the architecture: how it was installed and from where, "manual:local".
 bool isFromRepository(const QString& id) {
-    const QString origin = id.section(u';', 3);
-    return !origin.endsWith(":local"_L1) && !origin.endsWith(":"_L1) && origin != "local"_L1;
+    return !id.section(u';', 3).endsWith(":local"_L1);
 }
 
 } // namespace
