@@ -14,14 +14,15 @@ class Scheduler;
 class Store;
 
 /// What the running program can be asked for by another start of it. A request is the words of the
-/// command line after the program's name, but for these: "show", "toggle", "quit", and "open" with
-/// the absolute paths or file URLs of what to park. Main thread.
+/// command line after the program's name, but for these: "show", "toggle", "settings", "setup",
+/// "quit", and "open" with the absolute paths or file URLs of what to park. Main thread.
 class Commands {
 public:
     struct Services {
         Store& store;
         NotchController& notch;
         Scheduler& scheduler;
+        std::function<void()> showSetup;
         std::function<void()> quit; ///< Later than at once: who asks for it wants an answer.
     };
 

@@ -62,6 +62,7 @@ int run(const Command& command, char** argv) {
     preparation.reset();
     QGuiApplication::setApplicationName(u"ravelo"_s);
     QGuiApplication::setApplicationDisplayName(u"Ravelo"_s);
+    QGuiApplication::setDesktopFileName(u"ravelo"_s);
     QGuiApplication::setQuitOnLastWindowClosed(false);
 
     const auto instance = SingleInstance::claim();

@@ -1,6 +1,7 @@
 #include "app/Commands.h"
 
 #include "fakes/PanelWorld.h"
+#include "support/Told.h"
 
 #include <gtest/gtest.h>
 
@@ -25,9 +26,9 @@ protected:
     [[nodiscard]] QByteArray json() const { return status({u"--json"_s}); }
 
     PanelWorld world_;
-    int quits_ = 0;
-    Commands commands_{{world_.store, world_.controller, world_.scheduler, [this] {
-                            ++quits_;
+    int setups_ = 0;
+    Commands commands_{{world_.store, world_.controller, world_.scheduler, [this] { ++setups_; },
+                        [] {
                         }}};
 };
 
@@ -123,6 +124,17 @@ TEST_F(CommandsTest, ParksFilesAndListsThem) {
               "{\"files\":[{\"path\":\"/a\\nb\",\"selected\":true,\"stack\":0},"
               "{\"path\":\"/ü #\",\"selected\":true,\"stack\":0},"
               "{\"path\":\"/d\",\"selected\":true,\"stack\":1}]}\n");
+}
+
+TEST_F(CommandsTest, AsksForTheOtherWindows) {
+    const Told settings(&world_.controller, &NotchController::settingsRequested);
+    EXPECT_EQ(answer({u"show"_s}), Answer());
+    EXPECT_EQ(answer({u"setup"_s}), Answer());
+    EXPECT_EQ(setups_, 1);
+    EXPECT_TRUE(world_.controller.isOpen());
+    EXPECT_EQ(answer({u"settings"_s}), Answer());
+    EXPECT_EQ(settings.count(), 1);
+    EXPECT_FALSE(world_.controller.isOpen()) << "it would lie above them";
 }
 
 } // namespace
