@@ -30,7 +30,9 @@
 #include "platform/system/WorkerThread.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
+#include "ui/OnboardingController.h"
 #include "ui/PanelView.h"
+#include "ui/SettingsWindow.h"
 
 #include <QDir>
 #include <QFile>
@@ -56,6 +58,10 @@ QString configFolder() {
 
 QDBusConnection systemBus() {
     return QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s);
+}
+
+void quitLater() {
+    QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
 // Qt ends the process by exit() when the display server goes, which is how many sessions end.
@@ -134,16 +140,18 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                  *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received, shelf_->nearby,
                  *jobs_, shelf_->opener, shelf_->icons},
                 QLocale());
-    const auto quit = [] {
-        QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
-    };
+    provideWindows();
     statusItem_ = std::make_unique<StatusItemController>(
         StatusItemController::Services{*tray_, *notch_, LiveContext::shared(), *scheduler_, [] {},
-                                       quit},
+                                       quitLater},
         QLocale());
     commands_ = std::make_unique<Commands>(Commands::Services{
-        *store_, *notch_, *scheduler_, LiveContext::shared(), PlanUsage::shared(), quit});
+        *store_, *notch_, *scheduler_, LiveContext::shared(), PlanUsage::shared(),
+        [this] { showSetup(); }, quitLater});
     wire();
+    if (!settings_->onboarded()) {
+        showSetup();
+    }
     return {};
 }
 
@@ -158,6 +166,15 @@ void AppDelegate::provideMonitors() {
              return std::make_unique<PlanUsage>(
                  UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home);
          }});
+}
+
+void AppDelegate::provideWindows() {
+    settingsWindow_ = std::make_unique<SettingsWindow>(
+        SettingsWindow::Subjects{view_->window(), *store_, *settings_, quitLater});
+    onboarding_ =
+        std::make_unique<OnboardingController>(view_->window(), *settings_, display_.screens());
+    QObject::connect(notch_.get(), &NotchController::settingsRequested, settingsWindow_.get(),
+                     &SettingsWindow::show);
 }
 
 void AppDelegate::wire() {
@@ -184,6 +201,14 @@ void AppDelegate::wire() {
         view_->host().snippetEditor()->cancel(); // Leaves no image that nothing refers to.
         flush();
     });
+}
+
+void AppDelegate::openSettings() {
+    notch_->openSettings();
+}
+
+void AppDelegate::showSetup() {
+    onboarding_->show();
 }
 
 Answer AppDelegate::answer(const QStringList& request) {

@@ -26,12 +26,14 @@ class HttpsClient;
 class LoginItem;
 class NightShift;
 class NotchController;
+class OnboardingController;
 class PanelView;
 class PanelWindow;
 class Preferences;
 class Scheduler;
 class SecretStore;
 class SessionLock;
+class SettingsWindow;
 class StatusItem;
 class StatusItemController;
 class ShutDown;
@@ -56,11 +58,15 @@ public:
     /// What another start of the program asked for; see Commands. After launching.
     [[nodiscard]] Answer answer(const QStringList& request);
 
+    void openSettings();
+    void showSetup();
+
     /// Brings to disk what is not there yet and waits for it. Safe to call again, and from atexit.
     void flush();
 
 private:
     void provideMonitors();
+    void provideWindows();
     void wire();
 
     DisplayServer& display_;
@@ -90,6 +96,8 @@ private:
     std::unique_ptr<PanelView> view_;
     std::unique_ptr<PanelWindow> window_;
     std::unique_ptr<NotchController> notch_;
+    std::unique_ptr<SettingsWindow> settingsWindow_;
+    std::unique_ptr<OnboardingController> onboarding_;
     std::unique_ptr<StatusItemController> statusItem_;
     std::unique_ptr<Commands> commands_;
     Handle compositor_;

@@ -73,6 +73,16 @@ Answer toggle(const Services& services, const QStringList& /*arguments*/) {
     return {};
 }
 
+Answer settings(const Services& services, const QStringList& /*arguments*/) {
+    services.notch.openSettings();
+    return {};
+}
+
+Answer setup(const Services& services, const QStringList& /*arguments*/) {
+    services.showSetup();
+    return {};
+}
+
 Answer quit(const Services& services, const QStringList& /*arguments*/) {
     services.quit();
     return {};
@@ -183,6 +193,8 @@ const Row* rowFor(const QStringList& request) {
     static const Row rows[] = {
         {{u"show"_s}, nothing, show},
         {{u"toggle"_s}, nothing, toggle},
+        {{u"settings"_s}, nothing, settings},
+        {{u"setup"_s}, nothing, setup},
         {{u"quit"_s}, nothing, quit},
         {{u"status"_s}, jsonAtMost, status},
         {{u"open"_s}, files, open},

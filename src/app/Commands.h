@@ -16,8 +16,8 @@ class Scheduler;
 class Store;
 
 /// What the running program can be asked for by another start of it. A request is the words of the
-/// command line after the program's name, but for these: "show", "toggle", "quit", "status", and
-/// "open" with the absolute paths or file URLs of what to park. Main thread.
+/// command line after the program's name, but for these: "show", "toggle", "settings", "setup",
+/// "quit", "status", and "open" with the absolute paths or file URLs of what to park. Main thread.
 class Commands {
 public:
     struct Services {
@@ -26,6 +26,7 @@ public:
         Scheduler& scheduler;
         const LiveContext& context;
         const PlanUsage& usage;
+        std::function<void()> showSetup;
         std::function<void()> quit; ///< Later than at once: who asks for it wants an answer.
     };
 

@@ -63,6 +63,7 @@ int run(const Command& command, char** argv) {
     preparation.reset();
     QApplication::setApplicationName(u"ravelo"_s);
     QApplication::setApplicationDisplayName(u"Ravelo"_s);
+    QApplication::setDesktopFileName(u"org.ravelo.Ravelo"_s);
     QApplication::setQuitOnLastWindowClosed(false);
 
     const auto instance = SingleInstance::claim();

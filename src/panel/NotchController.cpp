@@ -205,6 +205,11 @@ void NotchController::toggle() {
     }
 }
 
+void NotchController::openSettings() {
+    dismiss();
+    Q_EMIT settingsRequested();
+}
+
 void NotchController::positionCollapsed() {
     const auto on = screen();
     const BarGeometry bar = on ? barGeometry(*on, settings_.macType()) : BarGeometry();

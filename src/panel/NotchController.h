@@ -80,6 +80,9 @@ public:
     /// By a key: opens with the keyboard in the panel, or closes.
     void toggle();
 
+    /// Closes and asks for the settings.
+    Q_INVOKABLE void openSettings();
+
     /// Tells whether the pointer is over the window, for display servers that tell its place
     /// nowhere else.
     Q_INVOKABLE void setHovered(bool hovered);
@@ -104,6 +107,7 @@ public:
 Q_SIGNALS:
     void isOpenChanged();
     void collapsedChanged();
+    void settingsRequested();
 
 private:
     /// What must stand still for the tick to rest.

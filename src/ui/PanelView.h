@@ -17,7 +17,7 @@ public:
     PanelView();
     ~PanelView();
 
-    [[nodiscard]] QQuickWindow& window() { return view_; }
+    [[nodiscard]] QQuickView& window() { return view_; }
 
     /// Fills the window. Called once; all subjects outlive this view.
     void load(PanelHost::Subjects subjects, const QLocale& locale);

@@ -32,6 +32,8 @@ TEST(CommandLine, IsUnderstood) {
     const Case cases[] = {
         {{}, {Kind::ask, {u"show"_s}, {}, IfNoneRuns::start}},
         {{"--toggle"}, {Kind::ask, {u"toggle"_s}, {}, IfNoneRuns::startAndAsk}},
+        {{"--settings"}, {Kind::ask, {u"settings"_s}, {}, IfNoneRuns::startAndAsk}},
+        {{"--setup"}, {Kind::ask, {u"setup"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--quit"}, asks({u"quit"_s})},
         {{"--status=json"}, {Kind::ask, {u"status"_s, u"--json"_s}, {}, IfNoneRuns::readFiles}},
         {{"--store-usage"}, {Kind::storeUsage, {}, {}, {}}},

@@ -4,6 +4,7 @@
 #include "fakes/UsageWorld.h"
 #include "monitor/LiveContext.h"
 #include "platform/system/InotifyChanges.h"
+#include "support/Told.h"
 
 #include <gtest/gtest.h>
 
@@ -31,11 +32,11 @@ protected:
     UsageWorld plan_{world_.scheduler, {UsageWindow{41.5, {}}, UsageWindow{78, {}}}};
     LiveContext context_{
         {world_.scheduler, plan_.jobs}, plan_.home(), std::make_unique<InotifyChanges>()};
-    int quits_ = 0;
-    Commands commands_{
-        {world_.store, world_.controller, world_.scheduler, context_, plan_.usage, [this] {
-             ++quits_;
-         }}};
+    int setups_ = 0;
+    Commands commands_{{world_.store, world_.controller, world_.scheduler, context_, plan_.usage,
+                        [this] { ++setups_; },
+                        [] {
+                        }}};
 };
 
 TEST_F(CommandsTest, TellsOfTheTimerAtEachMoment) {
@@ -144,6 +145,17 @@ TEST_F(CommandsTest, ParksFilesAndListsThem) {
               "{\"files\":[{\"path\":\"/a\\nb\",\"selected\":true,\"stack\":0},"
               "{\"path\":\"/ü #\",\"selected\":true,\"stack\":0},"
               "{\"path\":\"/d\",\"selected\":true,\"stack\":1}]}\n");
+}
+
+TEST_F(CommandsTest, AsksForTheOtherWindows) {
+    const Told settings(&world_.controller, &NotchController::settingsRequested);
+    EXPECT_EQ(answer({u"show"_s}), Answer());
+    EXPECT_EQ(answer({u"setup"_s}), Answer());
+    EXPECT_EQ(setups_, 1);
+    EXPECT_TRUE(world_.controller.isOpen());
+    EXPECT_EQ(answer({u"settings"_s}), Answer());
+    EXPECT_EQ(settings.count(), 1);
+    EXPECT_FALSE(world_.controller.isOpen()) << "it would lie above them";
 }
 
 } // namespace

@@ -16,7 +16,8 @@ from gi.repository import Atspi  # noqa: E402
 def tell(node, path):
     states = node.get_state_set()
     actions = node.get_action_iface()
-    line = {"name": node.get_name(), "role": node.get_role_name(), "path": path,
+    line = {"name": node.get_name(), "description": node.get_description(),
+            "checked": states.contains(Atspi.StateType.CHECKED), "role": node.get_role_name(), "path": path,
             "showing": states.contains(Atspi.StateType.SHOWING),
             "focused": states.contains(Atspi.StateType.FOCUSED),
             "actions": [actions.get_action_name(i) for i in range(actions.get_n_actions())]

@@ -122,7 +122,7 @@ class Picture:
 class Desktop(contextlib.AbstractContextManager):
     """Use as a context manager. `home` is where everything the program writes must be found.
 
-    `window_manager` is the command that starts one, or nothing; `server` makes the command of the X
+    In it the first-run setup is done. `window_manager` is the command that starts one, or nothing; `server` makes the command of the X
     server.
     """
 
@@ -135,6 +135,9 @@ class Desktop(contextlib.AbstractContextManager):
         runtime, temporary = self.home / "runtime", self.home / "tmp"
         runtime.mkdir(mode=0o700)
         temporary.mkdir()
+        self.preferences = self.home / "config/ravelo/preferences.json"
+        self.preferences.parent.mkdir(parents=True)
+        self.preferences.write_text('{"onboarded": true}')
         self.env = {
             "PATH": os.environ["PATH"],
             "LC_ALL": "C.UTF-8",
@@ -267,9 +270,10 @@ class Desktop(contextlib.AbstractContextManager):
         wait_for(still, "a still picture")
         return pictures[-1]
 
-    def window_of(self, process):
-        """The one visible window of a program, or nothing."""
-        found = self.run("xdotool", "search", "--onlyvisible", "--pid", process.pid)
+    def window_of(self, process, title=""):
+        """The one visible window of a program, or nothing; of those with such a title."""
+        named = ["--all", "--name", title] if title else []
+        found = self.run("xdotool", "search", *named, "--onlyvisible", "--pid", process.pid)
         assert len(found.split()) <= 1, f"more than one visible window: {found.split()}"
         return self.geometry(found.strip()) if found else None
 
@@ -279,6 +283,11 @@ class Desktop(contextlib.AbstractContextManager):
         names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
         values = [re.search(rf"{name}: +(-?\d+)", told) for name in names]
         return Geometry(int(window), *(int(value[1]) for value in values)) if all(values) else None
+
+    def managed_windows(self):
+        """What a taskbar lists: the titles of all windows."""
+        told = self.run("xprop", "-root", "_NET_CLIENT_LIST")
+        return [self.title(window) for window in re.findall(r"0x[0-9a-f]+", told)]
 
     def title(self, window):
         return self.run("xdotool", "getwindowname", window).strip()
@@ -393,10 +402,16 @@ class Ravelo:
     def texts(self):
         return [text for _, text in self.clips()]
 
+    def preferences(self):
+        return json.loads(self.desktop.preferences.read_bytes())
+
     # What it shows.
 
     def panel(self):
-        return self.desktop.window_of(self.process)
+        return self.desktop.window_of(self.process, "^Ravelo$")
+
+    def window(self, title):
+        return self.desktop.window_of(self.process, f"^{title}$")
 
     def _hangs_at_the_top(self, width, height, monitor):
         panel = self.panel()

@@ -22,7 +22,7 @@ from tray_host import TrayHost
 CAPTURE_LIMIT = 0.9  # Seconds from the copy to store.json: at most one poll and one debounce.
 SAVE_DELAY = 0.4
 TOP_BAR, SEARCH, FIRST_ROW, ROW = 44, 220, 300, 40  # Middles from the top; the height of a row.
-NIGHT_SHIFT_RIGHT = 90  # Its middle from the right.
+NIGHT_SHIFT_RIGHT, GEAR_RIGHT = 130, 50  # Their middles from the right.
 
 # How much longer than usual the program may take, where it is built to be checked.
 SLOWER = int(os.environ.get("RAVELO_SLOWER", 1))
@@ -367,8 +367,10 @@ class Keyboard(ProgramCase):
         self.closed_with("second")
 
 
-class Assistive(ProgramCase):
-    def test_what_a_screen_reader_is_told(self):
+class AssistiveCase:
+    """A desktop with a screen reader."""
+
+    def provide_assistance(self):
         del self.desktop.env["NO_AT_BRIDGE"]
         self.desktop.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
         launcher = self.desktop.spawn("/usr/libexec/at-spi-bus-launcher", "--launch-immediately",
@@ -378,17 +380,23 @@ class Assistive(ProgramCase):
         wait_for(lambda: "org.a11y.Bus" in self.desktop.run(
             "gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path", "/",
             "--method", "org.freedesktop.DBus.ListNames"), "the launcher on the bus")
+
+    def told(self):
+        """All that can be seen."""
+        peer = pathlib.Path(__file__).with_name("atspi_peer.py")
+        lines = self.desktop.run("/usr/bin/python3", peer, "ravelo").splitlines()
+        return [node for node in map(json.loads, lines) if node["showing"]]
+
+
+class Assistive(AssistiveCase, ProgramCase):
+    def test_what_a_screen_reader_is_told(self):
+        self.provide_assistance()
         self.ravelo.start()
         self.copy_and_wait("a clip")
         self.ravelo.call("--toggle")
         wait_for(self.ravelo.is_open, "the open panel")
-        peer = pathlib.Path(__file__).with_name("atspi_peer.py")
-
-        def told():
-            lines = self.desktop.run("/usr/bin/python3", peer, "ravelo").splitlines()
-            return [node for node in map(json.loads, lines) if node["showing"]]
-
-        nodes = wait_for(lambda: [n for n in told() if n["focused"]] and told(), "what has the focus")
+        nodes = wait_for(lambda: [n for n in self.told() if n["focused"]] and self.told(),
+                         "what has the focus")
         unnamed = [node for node in nodes if not node["name"] and node["role"] != "page tab list"]
         self.assertEqual(unnamed, [], "they have no name")
         self.assertEqual([node["name"] for node in nodes if node["focused"]], ["Search clipboard…"])
@@ -398,6 +406,74 @@ class Assistive(ProgramCase):
                        ("push button", "New snippet", True), ("list item", "a clip", True),
                        ("list", "Clipboard history", False)):
             self.assertIn(wanted, seen)
+
+
+class Windows(AssistiveCase, ProgramCase):
+    SETUP, SETTINGS = "Ravelo Setup", "Ravelo Settings"
+
+    def expect_window(self, title):
+        window = wait_for(lambda: self.ravelo.window(title), f"the window {title}")
+        wait_for(lambda: self.desktop.focused_window() == str(window.window), "the keyboard in it")
+        self.assertEqual(self.desktop.managed_windows(), [title], "what the taskbar lists")
+        return window
+
+    def expect_none(self):
+        wait_for(lambda: self.desktop.managed_windows() == [], "no window in the taskbar")
+        self.assertEqual(self.ravelo.call("timer", "status"), (0, "no timer\n"), "it runs on")
+
+    def test_the_first_start_asks_and_the_second_does_not(self):
+        self.provide_assistance()
+        self.desktop.preferences.unlink()
+        self.ravelo.start()
+        setup = self.expect_window(self.SETUP)
+        self.assertEqual(setup[3:], (520, 520))
+        self.press("alt+F4")
+        self.expect_none()
+        self.stop()
+
+        self.ravelo.start()
+        setup = self.expect_window(self.SETUP)
+        self.desktop.drag((setup.x + 100, setup.y + 20), (setup.x + 160, setup.y + 50))
+        self.desktop.run("xdotool", "mouseup", 1)
+        wait_for(lambda: self.ravelo.window(self.SETUP)[1:3] == (setup.x + 60, setup.y + 30),
+                 lambda: f"the window moved by its strip: {self.ravelo.window(self.SETUP)}")
+        self.press("Return", "Tab", "Tab")
+        options = wait_for(lambda: [
+            (node["name"], node["description"], node["checked"]) for node in self.told()
+            if node["role"] == "radio button"], "the three options")
+        self.assertEqual(options, [
+            ("Detect automatically", "We found no notch on this display", True),
+            ("MacBook with a notch", "", False),
+            ("No notch", "iMac, Mac mini, older MacBooks, external display", False)])
+        self.press("Down", "Down", "Tab", "Return")
+        self.expect_none()
+        wait_for(lambda: self.ravelo.preferences().get("onboarded"), "setup done, on disk")
+        self.assertEqual(self.ravelo.preferences()["macType"], "none")
+        self.stop()
+
+        self.ravelo.start()
+        self.expect_none()
+        self.assertEqual(self.ravelo.call("--setup"), (0, ""))
+        self.expect_window(self.SETUP)
+
+    def test_the_settings_come_by_option_and_gear_and_end_nothing(self):
+        self.ravelo.process = self.desktop.spawn(self.ravelo.program, "--settings")
+        self.assertEqual(self.expect_window(self.SETTINGS)[3:], (460, 600))
+        self.press("alt+F4")
+        self.expect_none()
+        panel = self.ravelo.open()
+        self.desktop.click(panel.x + panel.width - GEAR_RIGHT, TOP_BAR)
+        window = self.expect_window(self.SETTINGS)
+        self.assertTrue(self.ravelo.is_collapsed(), "the panel makes room")
+        self.press(*["Tab"] * 5, "End")
+        wait_for(lambda: self.ravelo.preferences().get("panelWidth") == 1100, "1100 on disk")
+        self.desktop.click(window.x + window.width - 22, window.y + 20)
+        self.expect_none()
+        self.assertEqual(self.ravelo.call("--settings"), (0, ""))
+        window = self.expect_window(self.SETTINGS)
+        self.desktop.click(window.x + window.width - 60, window.y + window.height - 32)
+        self.wait_for_end()
+        self.assertEqual(self.ravelo.process.returncode, 0)
 
 
 class Shelf(ProgramCase):
@@ -411,16 +487,12 @@ class Shelf(ProgramCase):
         self.files = [str(folder / name) for name in self.FILES]
         for file in self.files:
             pathlib.Path(file).write_text("kept")
-        self.write(self.ravelo.folder / "store.json",
-                   {"clips": [], "snippets": [], "note": "", "note2": "", "drawing": [],
-                    "shelfStacks": [self.files]})
-        self.write(self.desktop.home / "config/ravelo/preferences.json", {"lastTab": "Shelf"})
+        self.ravelo.folder.mkdir(parents=True)
+        (self.ravelo.folder / "store.json").write_text(json.dumps(
+            {"clips": [], "snippets": [], "note": "", "note2": "", "drawing": [],
+             "shelfStacks": [self.files]}))
+        self.desktop.preferences.write_text('{"lastTab": "Shelf", "onboarded": true}')
         self.ravelo.start()
-
-    @staticmethod
-    def write(path, values):
-        path.parent.mkdir(parents=True)
-        path.write_text(json.dumps(values))
 
     def open(self):
         self.desktop.move(WIDTH // 2, 2)
@@ -516,7 +588,7 @@ class HungOwner(ProgramCase):
 
 
 class Focus(ProgramCase):
-    BACK_TO_THE_NOTE = ["shift+Tab"] * 10  # From the search: tabs, buttons, reminders, menus.
+    BACK_TO_THE_NOTE = ["shift+Tab"] * 11  # From the search: tabs, buttons, reminders, menus.
 
     def setUp(self):
         super().setUp()
@@ -642,7 +714,7 @@ class CommandLine(ProgramCase):
         self.assertEqual(self.ravelo.call("--version"), (0, "Ravelo 0.2\n"))
         code, text = self.ravelo.call("--help")
         self.assertEqual(code, 0)
-        for option in ("--version", "--toggle", "--quit"):
+        for option in ("--version", "--toggle", "--settings", "--setup", "--quit"):
             self.assertIn(option, text)
 
     def test_it_reaches_the_running_one(self):

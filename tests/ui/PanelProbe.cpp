@@ -1,4 +1,5 @@
-// Draws the panel with sample data, for comparing it with the drawings of its look.
+// Draws the panel, the settings or the setup with sample data, for comparing it with the drawings
+// of its look.
 //
 //   panel_probe [--scene NAME] [--scale 1|2] [--png FILE] [--behind FILE] [--time N]
 //
@@ -10,7 +11,10 @@
 #include "Subjects.h"
 #include "fakes/UsageWorld.h"
 #include "support/Eventually.h"
+#include "ui/OnboardingController.h"
 #include "ui/PanelView.h"
+#include "ui/SettingsWindow.h"
+#include "ui/TitledWindow.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -319,6 +323,27 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     settle();
 }
 
+/// The window that the scene is about, if it is not the panel.
+QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
+                         OnboardingController& onboarding) {
+    if (scene == u"settings") {
+        settings.show();
+        settle();
+        return settings.window();
+    }
+    if (!scene.startsWith(u"setup"_s)) {
+        return nullptr;
+    }
+    onboarding.show();
+    settle();
+    if (scene == u"setup-mac") {
+        click(*onboarding.window(), middle(*onboarding.window(), u"start"_s));
+        send(*onboarding.window(), QEvent::MouseMove, {5, 300});
+        settle();
+    }
+    return onboarding.window();
+}
+
 /// The part of a picture of the screen that lies behind the window. Painted in the window, because
 /// the offscreen platform has no transparent ones.
 class Behind : public QQuickPaintedItem {
@@ -331,9 +356,11 @@ public:
     }
 
     void paint(QPainter* painter) override {
-        const double left =
-            std::floor((screen_.deviceIndependentSize().width() - window()->width()) / 2);
-        painter->drawImage(QPointF(-left, 0), screen_);
+        const QSizeF beside = (screen_.deviceIndependentSize() - window()->size()) / 2;
+        const bool inTheMiddle = qobject_cast<TitledWindow*>(window()) != nullptr;
+        painter->drawImage(
+            QPointF(-std::floor(beside.width()), inTheMiddle ? -std::floor(beside.height()) : 0),
+            screen_);
     }
 
 private:
@@ -413,6 +440,9 @@ int main(int argc, char** argv) {
     if (scene != u"empty") {
         data.clips = sampleClips();
     }
+    while (scene == u"settings" && data.clips.size() < 47) {
+        data.clips.append(clip(QString::number(data.clips.size()), day));
+    }
     PanelWorld world(data);
     const double now = world.scheduler.now().sinceReference;
     UsageWorld spent(world.scheduler, {UsageWindow{42, Date{now + 125.5 * 60}},
@@ -441,19 +471,27 @@ int main(int argc, char** argv) {
         timeOpenings(options.value(u"time"_s).toInt(), world, view);
         return 0;
     }
-    play(scene, world, view);
+    world.settings.setLaunchAtLogin(true);
+    SettingsWindow settings({view.window(), world.store, world.settings, [] {
+                             }});
+    OnboardingController onboarding(view.window(), world.settings, world.screens);
+    QQuickWindow* window = playTitled(scene, settings, onboarding);
+    if (window == nullptr) {
+        play(scene, world, view);
+        window = &view.window();
+    }
     std::optional<Behind> behind;
     if (options.isSet(u"behind"_s)) {
-        behind.emplace(view.window(), options.value(u"behind"_s));
+        behind.emplace(*window, options.value(u"behind"_s));
     }
 
     if (options.isSet(u"png"_s)) {
-        if (!view.window().grabWindow().save(options.value(u"png"_s))) {
+        if (!window->grabWindow().save(options.value(u"png"_s))) {
             qFatal("cannot write %s", qPrintable(options.value(u"png"_s)));
         }
     }
     QJsonObject rectangles;
-    collect(view.window().contentItem(), {}, rectangles);
+    collect(window->contentItem(), {}, rectangles);
     std::puts(QJsonDocument(rectangles).toJson().constData());
     return 0;
 }

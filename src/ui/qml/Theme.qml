@@ -89,6 +89,25 @@ QtObject {
     readonly property color toast: white(0.95)
     readonly property color onWhite: "#131316"
 
+    readonly property color window: "#1D1D21"
+    readonly property color windowLine: white(0.09)
+    readonly property color rowLine: white(0.06)
+    readonly property color fill: "#4D8DF0"
+    readonly property color knob: white(1)
+    readonly property color sliderTrack: white(0.14)
+    readonly property color switchOff: white(0.16)
+    readonly property color hoveredSwitchOff: white(0.21)
+    readonly property color pressedSwitchOff: white(0.26)
+    readonly property color quit: withAlpha(redFill, 0.16)
+    readonly property color setupText: white(0.68)
+    readonly property color step: white(0.85)
+    readonly property color otherStep: white(0.24)
+    readonly property color selectedOption: withAlpha(accent, 0.12)
+    readonly property color selectedOptionLine: withAlpha(accent, 0.70)
+    readonly property color selectedOptionTile: withAlpha(accent, 0.18)
+    readonly property color selectedOptionGlyph: "#CFE1FF"
+    readonly property color optionMark: white(0.28)
+
     readonly property color handle: Qt.rgba(0, 0, 0, 0.44)
     readonly property color bar: "#000000"
     readonly property color grip: white(0.36)
@@ -116,6 +135,10 @@ QtObject {
 
     readonly property string iconFamily: "Material Design Icons"
 
+    readonly property TextStyle welcome: TextStyle { size: 26; line: 32; weight: Font.DemiBold; tracking: -0.5 }
+    readonly property TextStyle question: TextStyle { size: 22; line: 28; weight: Font.DemiBold; tracking: -0.4 }
+    readonly property TextStyle lead: TextStyle { size: 14; line: 20 }
+    readonly property TextStyle leadLoose: TextStyle { size: 14; line: 22 }
     readonly property TextStyle note: TextStyle { size: 16; line: 25; tracking: -0.1 }
     readonly property TextStyle heading: TextStyle { size: 15; line: 20; weight: Font.DemiBold; tracking: -0.1 }
     readonly property TextStyle tab: TextStyle { size: 14; line: 20; weight: Font.DemiBold; tracking: -0.1 }
@@ -146,6 +169,9 @@ QtObject {
     readonly property real usageTop: 72
     readonly property real tabsTop: 164
     readonly property real bodyTop: 204
+
+    /// What lies behind a window shows through where it is transparent.
+    property bool translucent: true
 
     // Motion, in milliseconds.
     /// The desktop asks for less of it: nothing moves, and what comes or goes fades.

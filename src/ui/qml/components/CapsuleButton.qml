@@ -11,6 +11,8 @@ Pressable {
     /// Only its text is to be seen until it is touched.
     property bool ghost: false
     property bool large: false
+    property alias style: label.style
+    property color textColor: primary ? Theme.onWhite : ghost && !hovered ? Theme.text2 : Theme.text1
     property real sidePad: large ? 16 : 12
     /// Room before the text, for a symbol.
     property real lead: symbol === "" ? 0 : 19
@@ -35,8 +37,8 @@ Pressable {
     Label {
         id: label
         x: button.lead + (button.width - button.lead - width) / 2
-        y: (button.height - 16) / 2
+        y: (button.height - style.line) / 2
         style: button.large ? Theme.strong : Theme.button
-        color: button.primary ? Theme.onWhite : button.ghost && !button.hovered ? Theme.text2 : Theme.text1
+        color: button.textColor
     }
 }

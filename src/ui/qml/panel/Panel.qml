@@ -64,6 +64,12 @@ Item {
         value: panel.host.reducedMotion
     }
 
+    Binding {
+        target: Theme
+        property: "translucent"
+        value: panel.host.backdrop !== Backdrop.Opaque
+    }
+
     ContentSlot {
         id: slot // Not centred: the window may still be as narrow as the handle.
         focus: true

@@ -104,6 +104,14 @@ Item {
             tip: "Shut down the Mac"
             onClicked: confirmPower.openLeftUnder(power, 14)
         }
+
+        RoundButton {
+            objectName: "gear"
+            symbol: "gearshape"
+            glyphSize: 16
+            tip: "Settings"
+            onClicked: bar.host.controller.openSettings()
+        }
     }
 
     Question {

@@ -1,0 +1,44 @@
+#include "ui/TitledWindow.h"
+
+#include <QIcon>
+#include <QQmlEngine>
+#include <QScreen>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+TitledWindow::TitledWindow(QQuickView& panel, const QString& title, QSize size)
+    : QQuickView(panel.engine(), nullptr), panel_(panel) {
+    setTitle(title);
+    setIcon(QIcon::fromTheme(u"ravelo"_s));
+    setFlags(Qt::Window | Qt::FramelessWindowHint);
+    setColor(Qt::transparent);
+    setResizeMode(QQuickView::SizeRootObjectToView);
+    setMinimumSize(size);
+    setMaximumSize(size);
+    resize(size);
+    connect(this, &QWindow::visibleChanged, this, [this](bool visible) {
+        if (!visible) {
+            Q_EMIT closed();
+        }
+    });
+}
+
+void TitledWindow::load(const QString& page, QObject* host) {
+    setInitialProperties({{u"host"_s, QVariant::fromValue(host)}, {u"title"_s, title()}});
+    setSource(QUrl(u"qrc:/Ravelo/qml/"_s + page));
+}
+
+void TitledWindow::bringToFront() {
+    if (!isVisible()) {
+        QRect place(QPoint(), size());
+        place.moveCenter(panel_.screen()->availableGeometry().center());
+        setGeometry(place);
+    }
+    showNormal(); // It may have been minimised.
+    raise();
+    requestActivate();
+}
+
+} // namespace ravelo

@@ -1,0 +1,36 @@
+import QtQuick
+import Ravelo
+
+/// A switch. What it shows is told to it, also after it was pressed.
+Pressable {
+    id: toggle
+
+    required property bool on
+
+    signal toggled(bool on)
+
+    implicitWidth: 38
+    implicitHeight: 22
+    radius: 11
+    rest: on ? Theme.fill : Theme.switchOff
+    hover: on ? Theme.fill : Theme.hoveredSwitchOff
+    press: on ? Theme.fill : Theme.pressedSwitchOff
+    Accessible.role: Accessible.CheckBox
+    Accessible.checkable: true
+    Accessible.checked: on
+    Accessible.onToggleAction: toggle.clicked()
+    onClicked: toggled(!on)
+
+    Knob {
+        objectName: "knob"
+        x: toggle.on ? 18 : 2
+        y: 2
+
+        Behavior on x {
+            NumberAnimation {
+                duration: Theme.move(Theme.hovering)
+                easing.type: Easing.OutQuad
+            }
+        }
+    }
+}

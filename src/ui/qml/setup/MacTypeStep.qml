@@ -1,0 +1,88 @@
+pragma ComponentBehavior: Bound
+
+import QtQuick
+import Ravelo
+
+/// The second step: how the bar is laid out. Each answer takes effect at once.
+FocusScope {
+    id: step
+
+    required property OnboardingController host
+
+    readonly property AppSettings settings: host.settings
+    readonly property var kinds: [
+        {
+            value: "auto", symbol: "wand.and.stars", title: "Detect automatically",
+            detail: "We found " + (host.hasNotch ? "a notch" : "no notch") + " on this display"
+        },
+        { value: "notch", symbol: "macbook", title: "MacBook with a notch", detail: "" },
+        {
+            value: "none", symbol: "display", title: "No notch",
+            detail: "iMac, Mac mini, older MacBooks, external display"
+        }
+    ]
+    /// Whatever else is stored counts as the first.
+    readonly property int current: Math.max(0, kinds.findIndex(one => one.value === settings.macType))
+
+    function moveTo(index: int) {
+        if (index >= 0 && index < kinds.length) {
+            settings.macType = kinds[index].value;
+            options.itemAt(index).forceActiveFocus();
+        }
+    }
+
+    Keys.onReturnPressed: host.finish()
+    Keys.onEnterPressed: host.finish()
+
+    Label {
+        objectName: "heading"
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 72
+        text: "What kind of Mac do you have?"
+        style: Theme.question
+        color: Theme.text1
+    }
+
+    Label {
+        objectName: "line"
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 108
+        text: "This decides how the top timer bar is laid out."
+        style: Theme.lead
+        color: Theme.setupText
+    }
+
+    Repeater {
+        id: options
+        model: step.kinds
+
+        MacTypeOption {
+            required property var modelData
+            required property int index
+
+            objectName: modelData.value
+            x: 32
+            y: 150 + 78 * index
+            width: step.width - 64
+            symbol: modelData.symbol
+            title: modelData.title
+            detail: modelData.detail
+            selected: index === step.current
+            onClicked: step.settings.macType = modelData.value
+            Keys.onUpPressed: step.moveTo(index - 1)
+            Keys.onDownPressed: step.moveTo(index + 1)
+        }
+    }
+
+    CapsuleButton {
+        objectName: "done"
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: 398
+        implicitHeight: 40
+        sidePad: 24
+        style: Theme.tab
+        primary: true
+        text: "Done"
+        onClicked: step.host.finish()
+    }
+}
