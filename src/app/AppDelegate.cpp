@@ -15,6 +15,7 @@
 #include "platform/freedesktop/FileTransferPortal.h"
 #include "platform/freedesktop/LoginSession.h"
 #include "platform/freedesktop/LoginShutDown.h"
+#include "platform/freedesktop/PackageKit.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
 #include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
@@ -33,6 +34,8 @@
 #include "ui/OnboardingController.h"
 #include "ui/PanelView.h"
 #include "ui/SettingsWindow.h"
+#include "ui/UpdateWindow.h"
+#include "updates/Updater.h"
 
 #include <QDir>
 #include <QFile>
@@ -110,6 +113,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     if (!dataLock_.tryLock() && dataLock_.error() == QLockFile::LockFailedError) {
         return failure(u"Ravelo runs in another session and uses "_s + dataFolder());
     }
+    Updater::provide(std::make_unique<PackageKit>(systemBus(), u"ravelo"_s),
+                     u"" RAVELO_VERSION ""_s);
     store_ =
         std::make_unique<Store>(dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_,
                                                               display_.pasteboard(), *sound_});
@@ -142,8 +147,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                 QLocale());
     provideWindows();
     statusItem_ = std::make_unique<StatusItemController>(
-        StatusItemController::Services{*tray_, *notch_, LiveContext::shared(), *scheduler_, [] {},
-                                       quitLater},
+        StatusItemController::Services{*tray_, *notch_, LiveContext::shared(), *scheduler_,
+                                       [this] { updateWindow_->show(); }, quitLater},
         QLocale());
     commands_ = std::make_unique<Commands>(Commands::Services{
         *store_, *notch_, *scheduler_, LiveContext::shared(), PlanUsage::shared(),
@@ -173,6 +178,7 @@ void AppDelegate::provideWindows() {
         SettingsWindow::Subjects{view_->window(), *store_, *settings_, quitLater});
     onboarding_ =
         std::make_unique<OnboardingController>(view_->window(), *settings_, display_.screens());
+    updateWindow_ = std::make_unique<UpdateWindow>(view_->window(), Updater::shared());
     QObject::connect(notch_.get(), &NotchController::settingsRequested, settingsWindow_.get(),
                      &SettingsWindow::show);
 }
@@ -183,6 +189,8 @@ void AppDelegate::wire() {
             notch_->positionCollapsed();
         }
     };
+    statusItem_->onSetup = [this] { showSetup(); };
+    statusItem_->onSettings = [this] { openSettings(); };
     const auto followCompositor = [this] {
         view_->host().setBackdrop(window_->isTranslucent() ? Backdrop::Translucent
                                                            : Backdrop::Opaque);

@@ -39,6 +39,7 @@ class StatusItemController;
 class ShutDown;
 struct ShelfServices;
 class Store;
+class UpdateWindow;
 class Worker;
 
 /// Makes the parts of the program in their order and wires them. Everything lives until the
@@ -98,6 +99,7 @@ private:
     std::unique_ptr<NotchController> notch_;
     std::unique_ptr<SettingsWindow> settingsWindow_;
     std::unique_ptr<OnboardingController> onboarding_;
+    std::unique_ptr<UpdateWindow> updateWindow_;
     std::unique_ptr<StatusItemController> statusItem_;
     std::unique_ptr<Commands> commands_;
     Handle compositor_;

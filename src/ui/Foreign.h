@@ -3,6 +3,7 @@
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
+#include "updates/Updater.h"
 
 #include <QQmlEngine>
 
@@ -21,6 +22,13 @@ struct ForeignAppSettings {
     Q_GADGET
     QML_FOREIGN(ravelo::AppSettings)
     QML_NAMED_ELEMENT(AppSettings)
+    QML_UNCREATABLE("the program has one")
+};
+
+struct ForeignUpdater {
+    Q_GADGET
+    QML_FOREIGN(ravelo::Updater)
+    QML_NAMED_ELEMENT(Updater)
     QML_UNCREATABLE("the program has one")
 };
 

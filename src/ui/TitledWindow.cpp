@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 TitledWindow::TitledWindow(QQuickView& panel, const QString& title, QSize size)
     : QQuickView(panel.engine(), nullptr), panel_(panel) {
     setTitle(title);
-    setIcon(QIcon::fromTheme(u"ravelo"_s));
+    setIcon(QIcon::fromTheme(u"org.ravelo.Ravelo"_s));
     setFlags(Qt::Window | Qt::FramelessWindowHint);
     setColor(Qt::transparent);
     setResizeMode(QQuickView::SizeRootObjectToView);
