@@ -66,7 +66,7 @@ struct IconTheme::Theme {
             nearest.append(&one);
         }
         std::ranges::stable_sort(nearest, {}, [size](auto one) { return one->distance(size); });
-        static const QStringList all = endings();
+        static const auto& all = *new QStringList(endings()); // In use as the process ends.
         for (const Directory* one : nearest) {
             for (const QString& ending : all) {
                 if (const QString path = one->path + u'/' + icon + ending;

@@ -9,6 +9,7 @@ DragSourceView {
 
     onPressedChanged: {
         if (pressed) {
+            host.shelf.lookForMissing();
             host.fileDrag.prepare(files(), source);
         }
     }
