@@ -5,7 +5,6 @@
 
 #include <libheif/heif.h>
 
-#include <algorithm>
 #include <memory>
 
 namespace ravelo {
@@ -82,7 +81,8 @@ QImage decoded(const Library& heif, const heif_image_handle* picture, int height
     const QImage shared(bytes, heif.image_get_width(decoded, heif_channel_interleaved),
                         heif.image_get_height(decoded, heif_channel_interleaved), stride,
                         QImage::Format_RGBA8888);
-    return shared.scaledToHeight(std::min(height, shared.height()), Qt::SmoothTransformation);
+    return shared.height() > height ? shared.scaledToHeight(height, Qt::SmoothTransformation)
+                                    : shared.copy();
 }
 
 } // namespace

@@ -515,7 +515,7 @@ class HungOwner(ProgramCase):
 
 
 class Focus(ProgramCase):
-    BACK_TO_THE_NOTE = ["shift+Tab"] * 10  # From the search: tabs, buttons, reminders, menus.
+    BACK_TO_THE_NOTE = ["shift+Tab"] * 11  # From the search: tabs, buttons, reminders, menus.
 
     def setUp(self):
         super().setUp()

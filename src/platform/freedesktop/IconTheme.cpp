@@ -100,7 +100,8 @@ void IconTheme::setName(const QString& name) {
 }
 
 QString IconTheme::find(const QStringList& names, int size) const {
-    for (const Theme& theme : *chain()) {
+    const auto themes = chain(); // Held: the name may change meanwhile.
+    for (const Theme& theme : *themes) {
         for (const QString& icon : names) {
             if (const QString path = theme.find(icon, size); !path.isEmpty()) {
                 return path;

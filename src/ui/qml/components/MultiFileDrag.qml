@@ -3,6 +3,7 @@ import Ravelo
 /// Lies over what stands for files: pressed and moved it drags them out.
 DragSourceView {
     id: source
+    objectName: "dragSource"
 
     required property PanelHost host
     required provider
