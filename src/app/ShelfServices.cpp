@@ -18,8 +18,7 @@ QString themeOf(const IconPreference& preference) {
 
 } // namespace
 
-ShelfServices::ShelfServices(Scheduler& scheduler, DetachedJobs& jobs,
-                             IconPreference& preference)
+ShelfServices::ShelfServices(Scheduler& scheduler, DetachedJobs& jobs, IconPreference& preference)
     : programs(jobs),
       devices(sessionBus()),
       opener(sessionBus(), programs),

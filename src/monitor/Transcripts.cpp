@@ -126,8 +126,9 @@ void Transcripts::forget() {
 }
 
 void Transcripts::listRoot() {
-    rootKnown_ = changes_->watch(root_); // First, so that no change falls between.
+    const bool watched = changes_->watch(root_); // First, so that no change falls between.
     Listing listing(root_);
+    rootKnown_ = watched && listing.isOpen();
     std::set<QByteArray> present;
     while (const dirent* entry = listing.isOpen() ? listing.next() : nullptr) {
         if (entry->d_type == DT_DIR || entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN) {
@@ -166,7 +167,7 @@ void Transcripts::list(const QByteArray& path, Folder& folder) {
             folder.newest = std::move(transcript);
         }
     }
-    folder.known = watched && !hasLinks;
+    folder.known = watched && listing.isOpen() && !hasLinks;
 }
 
 } // namespace ravelo

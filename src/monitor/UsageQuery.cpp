@@ -16,6 +16,7 @@ namespace {
 
 constexpr double renewBefore = 600; ///< Seconds until the token expires.
 constexpr Seconds renewSpacing(1200);
+constexpr Seconds longestRenewal(600); ///< Longer than any prompt of one full stop takes.
 constexpr qint64 largestAnswer = qint64(1) << 20;
 constexpr int ok = 200;
 constexpr int unauthorized = 401;
@@ -66,8 +67,10 @@ void UsageQuery::request(const QByteArray& token) {
         {{"Authorization", "Bearer " + token}, {"anthropic-beta", "oauth-2025-04-20"}},
         endpoint_.timeOut,
         largestAnswer};
-    step_ = services_.https.get(
-        request, [this](const std::optional<HttpsAnswer>& answer) { takeAnswer(answer); });
+    step_ = services_.https.get(request, [this](const std::optional<HttpsAnswer>& answer) {
+        step_.reset(); // With it the token goes.
+        takeAnswer(answer);
+    });
 }
 
 void UsageQuery::takeAnswer(const std::optional<HttpsAnswer>& answer) {
@@ -85,9 +88,15 @@ void UsageQuery::renewViaCLI(std::function<void()> then) {
         return;
     }
     lastRenew_ = now;
+    const auto goOn = [this, then = std::move(then)] {
+        step_.reset();
+        patience_.reset();
+        then();
+    };
+    patience_ = services_.scheduler.after(longestRenewal, goOn);
     step_ = services_.children.run(
         home_ + "/.local/bin/claude",
-        {"-p", ".", "--model", "claude-haiku-4-5-20251001", "--max-turns", "1"}, std::move(then));
+        {"-p", ".", "--model", "claude-haiku-4-5-20251001", "--max-turns", "1"}, goOn);
 }
 
 void UsageQuery::finish(const std::optional<PlanWindows>& windows) {

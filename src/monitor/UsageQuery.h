@@ -57,6 +57,7 @@ private:
     Done done_;
     std::optional<Seconds> lastRenew_; ///< Uptime.
     Handle step_;
+    Handle patience_; ///< With a renewal.
 };
 
 } // namespace ravelo

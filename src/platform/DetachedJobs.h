@@ -12,8 +12,9 @@ class DetachedJobs {
 public:
     virtual ~DetachedJobs() = default;
 
-    /// Runs `job` off the main thread, then `done` on it, unless the handle was dropped. A job
-    /// touches nothing but the values it holds.
+    /// Runs `job` off the main thread, then, later, `done` on it, unless the handle was dropped. A
+    /// job touches nothing but the values it holds. Where too many hang already, `job` is left out:
+    /// what it would have found out is unknown to `done`.
     [[nodiscard]] virtual Handle run(std::function<void()> job, std::function<void()> done) = 0;
 };
 

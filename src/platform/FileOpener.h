@@ -4,14 +4,14 @@
 
 namespace ravelo {
 
-/// Hands files to the desktop's other programs. Fire and forget: nothing is waited for, and a
-/// desktop without such a program does nothing. Main thread.
+/// Hands files and links to the desktop's other programs. Fire and forget: nothing is waited for,
+/// and a desktop without such a program does nothing. Main thread.
 class FileOpener {
 public:
     virtual ~FileOpener() = default;
 
-    /// Opens a file or a folder with the program that the user has chosen for its kind.
-    virtual void open(const QUrl& file) = 0;
+    /// Opens a file, a folder or a link with the program that the user has chosen for its kind.
+    virtual void open(const QUrl& what) = 0;
 
     /// Opens the folder that a file lies in, with the file selected where that is possible.
     virtual void showInFolder(const QUrl& file) = 0;

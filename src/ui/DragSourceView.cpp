@@ -18,7 +18,12 @@ void DragSourceView::setProvider(const QJSValue& provider) {
 }
 
 QList<QUrl> DragSourceView::files() const {
-    return provider_.isCallable() ? qjsvalue_cast<QList<QUrl>>(provider_.call()) : QList<QUrl>();
+    QList<QUrl> files;
+    // A list of ours or an array of QML's own.
+    for (const QVariant& file : provider_.call().toVariant().value<QVariantList>()) {
+        files.append(file.toUrl());
+    }
+    return files;
 }
 
 void DragSourceView::mousePressEvent(QMouseEvent* event) {
@@ -43,6 +48,9 @@ void DragSourceView::mouseMoveEvent(QMouseEvent* event) {
 }
 
 void DragSourceView::mouseReleaseEvent(QMouseEvent* event) {
+    if (event->button() != Qt::LeftButton) {
+        return;
+    }
     const bool tap = pressed_ && !didDrag_;
     setPressed(false);
     if (tap && contains(event->position())) {

@@ -49,8 +49,7 @@ QList<QImage> pages(const QList<QUrl>& files, int size) {
     return pages;
 }
 
-} // namespace
-
+/// Icons that lie behind each other, each a little further up and to the right.
 QImage fanned(const QList<QImage>& icons, double scale) {
     const double spread = step * static_cast<double>(std::max<qsizetype>(icons.size() - 1, 0));
     const double side = (iconSize + spread) * scale;
@@ -66,11 +65,13 @@ QImage fanned(const QList<QImage>& icons, double scale) {
     return fan;
 }
 
+} // namespace
+
 FileDrag::FileDrag(DetachedJobs& jobs, std::shared_ptr<const FileIcons> icons)
     : jobs_(jobs), icons_(std::move(icons)) {}
 
 void FileDrag::prepare(const QList<QUrl>& files, QQuickItem* from) {
-    if (files == prepared_) {
+    if (files == prepared_ || preparing_) { // One that hangs is enough.
         return;
     }
     prepared_ = files;
@@ -82,7 +83,10 @@ void FileDrag::prepare(const QList<QUrl>& files, QQuickItem* from) {
             pictures->append(fileIcon(file, size, *icons));
         }
     };
-    preparing_ = jobs_.run(std::move(job), [this, pictures] { pictures_ = *pictures; });
+    preparing_ = jobs_.run(std::move(job), [this, pictures] {
+        preparing_.reset();
+        pictures_ = *pictures;
+    });
 }
 
 void FileDrag::start(const QList<QUrl>& files, QQuickItem* from) {

@@ -43,7 +43,4 @@ private:
     Handle preparing_;
 };
 
-/// Icons that lie behind each other, each a little further up and to the right.
-[[nodiscard]] QImage fanned(const QList<QImage>& icons, double scale);
-
 } // namespace ravelo

@@ -22,7 +22,8 @@ struct Kind {
 };
 
 const QList<Kind>& kinds() {
-    static const QList<Kind> all{
+    // Never destroyed: a picture may still be made as the process ends.
+    static const auto& all = *new QList<Kind>{
         {0xe5534b, {u"pdf"_s, u"ps"_s, u"djvu"_s}},
         {0x2e9e63, {u"xls"_s, u"xlsx"_s, u"ods"_s, u"csv"_s, u"tsv"_s}},
         {0x3f7be0, {u"doc"_s, u"docx"_s, u"odt"_s, u"rtf"_s, u"txt"_s, u"md"_s, u"epub"_s}},
@@ -105,11 +106,13 @@ void drawTag(QPainter& painter, const QString& extension) {
 
 QImage filePage(const QString& extension, int size) {
     const double scale = size / sizeAround;
-    QImage page((pageSize * scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    QImage page(size, size, QImage::Format_ARGB32_Premultiplied);
     page.fill(Qt::transparent);
     QPainter painter(&page);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
+    painter.translate((size - pageSize.width() * scale) / 2,
+                      (size - pageSize.height() * scale) / 2);
     painter.scale(scale, scale);
     drawSheet(painter);
     if (!extension.isEmpty()) {

@@ -1,5 +1,7 @@
 #include "ui/FileThumb.h"
 
+#include "base/FileUrl.h"
+#include "base/Files.h"
 #include "platform/FileIcons.h"
 #include "ui/FilePage.h"
 #include "ui/HeifImage.h"
@@ -73,7 +75,8 @@ QImage centred(const QImage& image, int size) {
 QImage fileThumb(const QUrl& file, double scale, const FileIcons& icons) {
     const QString path = file.toLocalFile();
     const QString extension = QFileInfo(path).suffix().toLower();
-    if (std::ranges::find(imageExtensions, extension) != imageExtensions.end()) {
+    const bool named = std::ranges::find(imageExtensions, extension) != imageExtensions.end();
+    if (named && isRegularFile(filePath(file))) { // From a pipe nothing may ever come.
         if (QImage image = preview(path, scale); !image.isNull()) {
             return image;
         }
@@ -96,7 +99,7 @@ QImage fileIcon(const QUrl& file, int size, const FileIcons& icons) {
     if (const QImage icon = found.isEmpty() ? QImage() : themedIcon(found, size); !icon.isNull()) {
         return centred(icon, size);
     }
-    return centred(filePage(QFileInfo(path).suffix(), size), size);
+    return filePage(QFileInfo(path).suffix(), size);
 }
 
 } // namespace ravelo

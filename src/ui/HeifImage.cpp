@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostPixels = 100'000'000;
+constexpr int mostPixels = 50'000'000;
 
 /// The functions of the library under their own names, once it is loaded.
 struct Library {
@@ -65,7 +65,8 @@ Picture smallest(const Library& heif, Picture whole, int height) {
     return heif.image_handle_get_height(small) < height ? std::move(whole) : std::move(found);
 }
 
-QImage decoded(const Library& heif, const heif_image_handle* picture) {
+/// As high as `height`, where it is higher.
+QImage decoded(const Library& heif, const heif_image_handle* picture, int height) {
     const qint64 width = heif.image_handle_get_width(picture);
     heif_image* decoded = nullptr;
     if (width * heif.image_handle_get_height(picture) > mostPixels ||
@@ -80,13 +81,14 @@ QImage decoded(const Library& heif, const heif_image_handle* picture) {
     const QImage shared(bytes, heif.image_get_width(decoded, heif_channel_interleaved),
                         heif.image_get_height(decoded, heif_channel_interleaved), stride,
                         QImage::Format_RGBA8888);
-    return shared.copy();
+    return shared.height() > height ? shared.scaledToHeight(height, Qt::SmoothTransformation)
+                                    : shared.copy();
 }
 
 } // namespace
 
 QImage heifImage(const QString& path, int height) {
-    static const Library heif;
+    static const Library& heif = *new Library; // A picture may be read as the process ends.
     if (!heif.whole) {
         return {};
     }
@@ -98,7 +100,7 @@ QImage heifImage(const QString& path, int height) {
         return {};
     }
     const Picture picture = smallest(heif, Picture(primary, heif.image_handle_release), height);
-    return decoded(heif, picture.get());
+    return decoded(heif, picture.get(), height);
 }
 
 } // namespace ravelo

@@ -5,8 +5,6 @@
 #include "platform/NightShift.h"
 #include "platform/ShutDown.h"
 
-#include <QDesktopServices>
-
 #include <algorithm>
 
 namespace ravelo {
@@ -108,7 +106,7 @@ void PanelHost::copyLastShelf() {
 void PanelHost::openLink(const QUuid& id) {
     const ClipItem* clip = findById(store()->clips(), id);
     if (clip != nullptr && clip->kind == ClipKind::url) {
-        QDesktopServices::openUrl(QUrl(clip->text.trimmed()));
+        subjects_.opener.open(QUrl(clip->text.trimmed()));
         controller()->dismiss();
     }
 }

@@ -3,6 +3,8 @@
 #include "shelf/NearbySend.h"
 #include "ui/Toast.h"
 
+#include <QPointer>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -57,11 +59,12 @@ void Sending::send(const QList<QUrl>& files, const QString& deviceId) {
     for (const NearbyDevice& device : nearby_.devices()) {
         name = device.id == deviceId ? shortName(device.name) : name;
     }
-    nearby_.send(files, deviceId, [this, name, all = files.size()](qsizetype sent) {
-        if (!name.isEmpty()) { // A program of its own tells by itself.
-            toast_.flash(outcome(sent, all) + name);
-        }
-    });
+    nearby_.send(files, deviceId,
+                 [self = QPointer(this), name, all = files.size()](qsizetype sent) {
+                     if (self && !name.isEmpty()) { // A program of its own tells by itself.
+                         self->toast_.flash(outcome(sent, all) + name);
+                     }
+                 });
 }
 
 } // namespace ravelo

@@ -1,6 +1,7 @@
 #include "ui/ShelfContents.h"
 
 #include "base/FileUrl.h"
+#include "base/Files.h"
 #include "platform/DetachedJobs.h"
 #include "store/Store.h"
 
@@ -8,8 +9,6 @@
 
 #include <memory>
 #include <utility>
-
-#include <unistd.h>
 
 namespace ravelo {
 
@@ -24,7 +23,7 @@ constexpr double ahead = 120;
 QSet<QUrl> missingOf(const QList<QUrl>& files) {
     QSet<QUrl> missing;
     for (const QUrl& file : files) {
-        if (access(filePath(file).constData(), F_OK) != 0) {
+        if (!fileExists(filePath(file))) {
             missing.insert(file);
         }
     }
@@ -68,9 +67,17 @@ QString ShelfContents::selectText() const {
 }
 
 void ShelfContents::lookForMissing() {
+    if (looking_) { // It may hang for ever: one at a time.
+        lookAgain_ = true;
+        return;
+    }
     const auto missing = std::make_shared<QSet<QUrl>>();
     looking_ = jobs_.run([missing, files = files_] { *missing = missingOf(files); },
                          [this, missing] {
+                             looking_.reset();
+                             if (std::exchange(lookAgain_, false)) {
+                                 lookForMissing();
+                             }
                              if (std::exchange(missing_, *missing) != *missing) {
                                  showSight();
                              }
@@ -79,7 +86,7 @@ void ShelfContents::lookForMissing() {
 
 void ShelfContents::lay(double width) {
     if (width > 0 && std::exchange(width_, width) != width) {
-        lay();
+        layTiles();
         Q_EMIT changed();
         showSight();
     }
@@ -147,7 +154,7 @@ void ShelfContents::update() {
     const QList<QUrl> before = std::exchange(files_, store_.shelf().files());
     if (files_ != before) {
         ids_ = idsOf(files_);
-        lay();
+        layTiles();
     }
     if (files_.size() > before.size()) {
         lookForMissing();
@@ -157,7 +164,7 @@ void ShelfContents::update() {
     showSight();
 }
 
-void ShelfContents::lay() {
+void ShelfContents::layTiles() {
     QList<qsizetype> sizes;
     for (const QList<QUrl>& stack : store_.shelf().stacks) {
         sizes.append(stack.size());

@@ -52,7 +52,7 @@ public:
     [[nodiscard]] bool isParking() const { return parking_; }
 
     /// Looks for files that are gone. The answer comes later, or never.
-    void lookForMissing();
+    Q_INVOKABLE void lookForMissing();
 
     /// There is so much room for the tiles, in logical pixels.
     Q_INVOKABLE void lay(double width);
@@ -83,7 +83,7 @@ Q_SIGNALS:
 
 private:
     void update();
-    void lay();
+    void layTiles();
     void showSight();
     [[nodiscard]] bool isAllSelected() const;
 
@@ -99,6 +99,7 @@ private:
     double top_ = 0;
     double bottom_ = 0;
     bool parking_ = false;
+    bool lookAgain_ = false;
     Handle looking_;
 };
 

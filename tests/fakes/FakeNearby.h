@@ -1,7 +1,6 @@
 #pragma once
 
 #include "base/Scheduler.h"
-#include "platform/DetachedJobs.h"
 #include "platform/FolderWatch.h"
 #include "platform/NearbyDevices.h"
 #include "platform/Programs.h"
@@ -74,26 +73,6 @@ public:
 
     QStringList installed;
     QList<QList<QByteArray>> started; ///< Each with its arguments.
-
-private:
-    Scheduler& scheduler_;
-};
-
-/// Does each job when time goes on, or never.
-class FakeDetachedJobs final : public DetachedJobs {
-public:
-    explicit FakeDetachedJobs(Scheduler& scheduler) : scheduler_(scheduler) {}
-
-    [[nodiscard]] Handle run(std::function<void()> job, std::function<void()> done) override {
-        return scheduler_.after(Seconds(0), [this, job = std::move(job), done = std::move(done)] {
-            if (!hung) {
-                job();
-                done();
-            }
-        });
-    }
-
-    bool hung = false;
 
 private:
     Scheduler& scheduler_;

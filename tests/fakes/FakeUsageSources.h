@@ -16,7 +16,7 @@ public:
     [[nodiscard]] Handle find(const QString& service,
                               std::function<void(std::optional<QByteArray>)> done) override {
         asked.append(service);
-        auto timer = std::make_shared<QTimer>();
+        const std::shared_ptr<QTimer> timer(new QTimer, [](QTimer* gone) { gone->deleteLater(); });
         timer->setSingleShot(true);
         timer->callOnTimeout([this, done = std::move(done)] { done(secret); });
         timer->start(0);

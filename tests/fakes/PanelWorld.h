@@ -2,6 +2,7 @@
 
 #include "clipboard/ClipboardManager.h"
 #include "fakes/FakeAlertSound.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeDisplay.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeLoginItem.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "fakes/FakeNearby.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeUsageSources.h"
 #include "monitor/PlanUsage.h"
 #include "monitor/UsageFile.h"

@@ -2,7 +2,7 @@
 
 #include "monitor/LiveContext.h"
 
-#include "fakes/FakeNearby.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/ManualScheduler.h"
 #include "platform/system/InotifyChanges.h"
 
@@ -246,7 +246,7 @@ TEST_F(ContextTest, tellsThePeakHoursEvenIfTheDiskDoesNotAnswer) {
     scheduler_.advance(Seconds(3 * 86400));
     EXPECT_EQ(changes, 3 * 86400 / 5);
     EXPECT_TRUE(peak) << "three days in May have a weekday";
-    EXPECT_EQ(scheduler_.pending(), 1) << "one look at a time";
+    EXPECT_EQ(jobs_.given, 1) << "one look at a time";
     context_.reset();
     EXPECT_EQ(scheduler_.pending(), 0);
 }

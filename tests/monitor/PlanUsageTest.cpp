@@ -5,7 +5,7 @@
 
 #include "UsageServer.h"
 #include "base/Files.h"
-#include "fakes/FakeNearby.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeUsageSources.h"
 #include "fakes/ManualScheduler.h"
 #include "platform/system/DetachedThreads.h"

@@ -1,6 +1,7 @@
 #include "shelf/NearbySend.h"
 
 #include "base/FileUrl.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeNearby.h"
 #include "fakes/ManualScheduler.h"
 

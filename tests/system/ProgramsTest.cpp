@@ -30,7 +30,15 @@ TEST(DetachedThreads, nobodyWaitsForAJobThatHangs) {
         const Handle quick = threads.run([] {}, [&] { ends += 'q'; });
         (void)threads.run([ended] { ++*ended; }, [&] { ends += 'd'; });
         EXPECT_TRUE(eventually([&] { return ends == "q" && *ended == 1; })) << ends;
+
+        std::vector<Handle> more;
+        for (int i = 0; i < 20; ++i) {
+            more.push_back(threads.run([open] { open.wait(); }, [&] { ends += 'm'; }));
+        }
+        EXPECT_TRUE(eventually([&] { return ends == "qmmmmm"; }))
+            << "all but 15 are left out: " << ends;
     }
+    ends = "q";
     gate.set_value();
     EXPECT_TRUE(eventually([&] { return *ended == 2; }));
     EXPECT_EQ(ends, "q") << "nothing is told once all is gone";

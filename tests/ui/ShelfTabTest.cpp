@@ -308,6 +308,8 @@ TEST_F(ShelfTab, listsWhatIsReceivedAndTakesItOntoTheShelf) {
     };
     EXPECT_EQ(ago(u"received0"_s), u"5 min. ago"_s);
     EXPECT_EQ(ago(u"received1"_s), u"just now"_s);
+    const auto* source = qobject_cast<DragSourceView*>(in(u"received1"_s, u"dragSource"_s));
+    EXPECT_EQ(names(source->files()), u"second.pdf"_s) << "what would be dragged out";
     const QQuickItem* row = item(u"received0"_s);
     send(view.window(), QEvent::MouseMove, row->mapToScene({400, 14}));
     const QQuickItem* park = find(row, u"park"_s);

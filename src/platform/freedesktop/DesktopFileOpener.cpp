@@ -24,14 +24,18 @@ DesktopFileOpener::DesktopFileOpener(QDBusConnection bus, Programs& programs)
     : bus_(std::move(bus)), programs_(programs) {}
 
 void DesktopFileOpener::open(const QUrl& file) {
-    const QByteArray path = filePath(file);
-    if (!path.isEmpty()) {
-        looking_ = programs_.find({u"xdg-open"_s}, [this, path](const QByteArray& opener) {
-            if (!opener.isEmpty()) {
-                programs_.start(opener, {path});
-            }
-        });
+    const QByteArray what = file.isLocalFile() ? filePath(file) : file.toEncoded();
+    if (what.isEmpty()) {
+        return;
     }
+    waiting_.append(what);
+    looking_ = programs_.find({u"xdg-open"_s}, [this](const QByteArray& opener) {
+        for (const QByteArray& one : std::exchange(waiting_, {})) {
+            if (!opener.isEmpty()) {
+                programs_.start(opener, {one});
+            }
+        }
+    });
 }
 
 void DesktopFileOpener::showInFolder(const QUrl& file) {

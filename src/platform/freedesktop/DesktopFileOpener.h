@@ -3,6 +3,7 @@
 #include "base/Handle.h"
 #include "platform/FileOpener.h"
 
+#include <QByteArray>
 #include <QDBusConnection>
 #include <QList>
 #include <QObject>
@@ -26,6 +27,7 @@ public:
 private:
     QDBusConnection bus_;
     Programs& programs_;
+    QList<QByteArray> waiting_; ///< To be opened once the opener is found.
     Handle looking_;
 };
 

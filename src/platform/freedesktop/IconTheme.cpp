@@ -66,7 +66,7 @@ struct IconTheme::Theme {
             nearest.append(&one);
         }
         std::ranges::stable_sort(nearest, {}, [size](auto one) { return one->distance(size); });
-        static const QStringList all = endings();
+        static const auto& all = *new QStringList(endings()); // In use as the process ends.
         for (const Directory* one : nearest) {
             for (const QString& ending : all) {
                 if (const QString path = one->path + u'/' + icon + ending;
@@ -100,7 +100,8 @@ void IconTheme::setName(const QString& name) {
 }
 
 QString IconTheme::find(const QStringList& names, int size) const {
-    for (const Theme& theme : *chain()) {
+    const auto themes = chain(); // Held: the name may change meanwhile.
+    for (const Theme& theme : *themes) {
         for (const QString& icon : names) {
             if (const QString path = theme.find(icon, size); !path.isEmpty()) {
                 return path;

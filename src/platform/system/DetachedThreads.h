@@ -8,7 +8,7 @@
 
 namespace ravelo {
 
-/// A new thread for each job. While a good many of them hang, no job is done any more.
+/// A new thread for each job, up to a good many of them.
 class DetachedThreads final : public DetachedJobs {
 public:
     /// Leaves those that still run to themselves.

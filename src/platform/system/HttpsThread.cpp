@@ -171,6 +171,7 @@ void HttpsThread::start(const std::shared_ptr<Exchange>& exchange, const QHostAd
     connect(thread, &QThread::finished, this, [this, thread, exchange] {
         std::erase(running_, exchange);
         exchange->thread = nullptr;
+        exchange->request = {}; // What it holds may be secret.
         thread->deleteLater();
         exchange->finish(std::move(exchange->answer));
     });

@@ -18,10 +18,11 @@ constexpr quint32 events = IN_CREATE | IN_DELETE | IN_MODIFY | IN_ATTRIB | IN_MO
 /// The kernel tells only of what is written through itself: not of what another machine, or a
 /// program that serves the file system, writes.
 bool isElsewhere(const QByteArray& folder) {
-    // statfs(2): NFS, CIFS (two), SMB, AFS (two), Ceph, Coda, 9P, FUSE.
-    constexpr std::array<quint32, 10> kinds = {0x6969,     0xFF534D42, 0xFE534D42, 0x517B,
-                                               0x5346414F, 0x6B414653, 0x00C36400, 0x73757245,
-                                               0x01021997, 0x65735546};
+    // statfs(2): NFS, CIFS (two), SMB, AFS (two), Ceph, Coda, 9P, FUSE, Lustre, GPFS, OCFS2,
+    // vboxsf.
+    constexpr std::array<quint32, 14> kinds = {
+        0x6969,     0xFF534D42, 0xFE534D42, 0x517B,     0x5346414F, 0x6B414653, 0x00C36400,
+        0x73757245, 0x01021997, 0x65735546, 0x0BD00BD0, 0x47504653, 0x7461636F, 0x786F4256};
     struct statfs info = {};
     return statfs(folder.constData(), &info) != 0 ||
            std::find(kinds.begin(), kinds.end(), static_cast<quint32>(info.f_type)) != kinds.end();

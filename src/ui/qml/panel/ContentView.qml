@@ -98,6 +98,7 @@ FocusScope {
         width: parent.width - 2 * Theme.insetSide
         host: content.host
         compact: false
+        enabled: !content.dropTargeted // What is dragged over it wants no hint.
     }
 
     TabPicker {

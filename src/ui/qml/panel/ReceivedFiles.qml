@@ -122,19 +122,28 @@ Item {
             highlightMoveDuration: Theme.move(200)
             model: section.received
             onCountChanged: showNewest()
+            onContentHeightChanged: showNewest()
             onHeightChanged: showNewest()
 
+            /// Not under the hands of who looks at older ones.
             function showNewest() {
-                currentIndex = count - 1;
-                positionViewAtEnd();
+                if (!activeFocus && !moved) {
+                    currentIndex = count - 1;
+                    positionViewAtEnd();
+                }
             }
+
+            property bool moved: false
+            onMovementEnded: moved = !atYEnd
 
             Keys.onPressed: event => {
                 if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
                         && !event.isAutoRepeat) {
                     section.host.openFile(section.received.fileAt(currentIndex));
                 } else if (event.key === Qt.Key_Menu) {
-                    section.menuRequested(currentItem, Qt.point(34, 24), true);
+                    if (currentItem) {
+                        section.menuRequested(currentItem, Qt.point(34, 24), true);
+                    }
                 } else {
                     return;
                 }

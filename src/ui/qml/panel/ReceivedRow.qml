@@ -10,7 +10,6 @@ Surface {
     required property url file
     required property string name
     required property string ago
-    property bool current: false
 
     signal menuRequested(point place)
 

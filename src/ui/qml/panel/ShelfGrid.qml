@@ -11,13 +11,14 @@ FocusScope {
     required property bool shown
 
     readonly property ShelfContents shelf: host.shelf
-    /// The file that the keyboard is at.
-    property int current: 0
+    /// The file that the keyboard is at; there may be fewer by now.
+    property int wanted: 0
+    readonly property int current: Math.max(0, Math.min(wanted, shelf.count - 1))
 
     signal menuRequested(Item tile, point place, bool byKey)
 
     function go(place: int) {
-        current = Math.max(0, Math.min(place, shelf.count - 1));
+        wanted = Math.max(0, Math.min(place, shelf.count - 1));
         const rect = shelf.rectOf(current);
         const margin = 8;
         flick.contentY = Math.max(0, Math.min(rect.y - margin, Math.max(flick.contentY,
@@ -69,13 +70,19 @@ FocusScope {
         } else if (event.key === Qt.Key_A && event.modifiers === Qt.ControlModifier) {
             shelf.selectAllOrNone();
         } else if (event.key === Qt.Key_Delete && !event.isAutoRepeat) {
-            shelf.remove(current);
+            if (shelf.hasSelection) {
+                shelf.removeSelected();
+            } else {
+                shelf.remove(current);
+            }
             go(current);
         } else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
                    && !event.isAutoRepeat) {
             host.openFile(shelf.fileAt(current));
         } else if (event.key === Qt.Key_Menu) {
-            grid.menuRequested(tileAt(current), Qt.point(50, 90), true);
+            if (tileAt(current)) {
+                grid.menuRequested(tileAt(current), Qt.point(50, 90), true);
+            }
         } else {
             return;
         }
@@ -119,7 +126,10 @@ FocusScope {
                         anchors.fill: parent
                         host: grid.host
                         provider: () => grid.shelf.filesToDrag()
-                        onTapped: grid.shelf.toggleStack(tray.stack)
+                        onTapped: {
+                            grid.host.controller.typeFocus();
+                            grid.shelf.toggleStack(tray.stack);
+                        }
                     }
                 }
             }
@@ -133,7 +143,10 @@ FocusScope {
                     host: grid.host
                     shown: grid.shown
                     onTapped: {
-                        grid.current = place;
+                        // Or the next key, Delete maybe, would go to the program underneath.
+                        grid.host.controller.typeFocus();
+                        grid.wanted = place;
+                        forceActiveFocus();
                         grid.shelf.toggle(place);
                     }
                     onMenuRequested: place => grid.menuRequested(tile, place, false)

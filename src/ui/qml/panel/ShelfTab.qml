@@ -23,6 +23,14 @@ FocusScope {
         }
     }
 
+    // Files may go, or come back, meanwhile.
+    Timer {
+        running: tab.shown && !tab.empty
+        interval: 2000
+        repeat: true
+        onTriggered: tab.host.shelf.lookForMissing()
+    }
+
     DropCard {
         objectName: "dropCard"
         y: 4
@@ -55,6 +63,18 @@ FocusScope {
             menu.parked = true;
             menu.openAt(tile.mapToItem(menu.parent, place.x, place.y), false, byKey);
         }
+    }
+
+    // As the card does where there is nothing yet.
+    Box {
+        anchors.fill: grid
+        anchors.margins: -4
+        visible: tab.dropTargeted && !tab.empty
+        radius: Theme.radiusTray + 4
+        color: Theme.dropTarget
+        lineColor: Theme.dropTargetLine
+        lineWidth: 1.5
+        dash: 6
     }
 
     ReceivedFiles {

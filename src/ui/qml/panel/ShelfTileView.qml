@@ -101,6 +101,14 @@ Surface {
             drop: 1
         }
 
+        Glyph {
+            anchors.centerIn: parent
+            visible: !image.shows
+            size: 32
+            symbol: "doc.text"
+            color: Theme.text4
+        }
+
         // Nothing is read for a panel that is not seen.
         Image {
             id: image

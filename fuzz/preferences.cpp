@@ -1,0 +1,77 @@
+// Any preferences file: the settings it gives can be changed, and what is written can be read.
+
+#include "Input.h"
+#include "base/Files.h"
+#include "platform/LoginItem.h"
+#include "platform/Worker.h"
+#include "platform/system/PreferenceFile.h"
+#include "settings/AppSettings.h"
+
+#include <QFile>
+#include <QTemporaryDir>
+
+using namespace ravelo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class AtOnce final : public Worker {
+public:
+    void run(std::function<void()> job, std::function<void()> done) override {
+        job();
+        if (done) {
+            done();
+        }
+    }
+
+    void drain() override {}
+};
+
+class NoLogin final : public LoginItem {
+public:
+    [[nodiscard]] bool isEnabled() const override { return enabled_; }
+
+    [[nodiscard]] Result<void> setEnabled(bool enabled) override {
+        enabled_ = enabled;
+        return {};
+    }
+
+private:
+    bool enabled_ = false;
+};
+
+void changeEach(AppSettings& settings) {
+    settings.onLayoutChange = [] {
+    };
+    settings.setBgOpacity(0.4);
+    settings.setFullBlack(!settings.fullBlack());
+    settings.setPanelWidth(700);
+    settings.setHotkeyEnabled(!settings.hotkeyEnabled());
+    settings.setLastTab(settings.lastTab() + u'x');
+    settings.setPinnedBar(!settings.pinnedBar());
+    settings.setMacType(u"notch"_s);
+    settings.setOnboarded(!settings.onboarded());
+    settings.setupLoginItemDefaultIfNeeded();
+}
+
+} // namespace
+
+int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
+    static const QTemporaryDir folder(u"/dev/shm/ravelo-fuzz-XXXXXX"_s);
+    const QString path = folder.filePath(u"preferences.json"_s);
+    QFile file(path);
+    fuzz::require(file.open(QFile::WriteOnly));
+    file.write(fuzz::view(bytes, size).toByteArray());
+    file.close();
+
+    AtOnce worker;
+    NoLogin login;
+    PreferenceFile preferences(path, worker);
+    AppSettings settings(preferences, login);
+    changeEach(settings);
+    PreferenceFile written(path, worker);
+    const AppSettings again(written, login);
+    fuzz::require(again.lastTab() == settings.lastTab() && again.panelWidth() == 700 &&
+                  again.onboarded() == settings.onboarded());
+    return 0;
+}

@@ -1,0 +1,36 @@
+// Whatever an owner of the clipboard offers and answers: lines of types, an empty line, then the
+// bytes that it gives for each of them.
+
+#include "Input.h"
+#include "clipboard/CapturePlan.h"
+#include "platform/x11/SelectionText.h"
+
+#include <QUtf8StringView>
+
+using namespace ravelo;
+
+int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
+    const QByteArray input = fuzz::view(bytes, size).toByteArray();
+    const qsizetype end = std::max<qsizetype>(input.indexOf("\n\n"), 0);
+    const QList<QByteArray> targets = input.first(end).split('\n');
+    const QByteArray given = input.mid(end + 2);
+
+    PasteboardSnapshot snapshot;
+    for (const QByteArray& target : x11::textTargets(targets)) {
+        fuzz::require(x11::isPlainText(target));
+        const auto text = x11::toUtf8(target, targets.last(), given);
+        fuzz::require(!text || QUtf8StringView(*text).isValidUtf8());
+        snapshot.types = QStringList{plainTextType};
+        snapshot.answers.insert(plainTextType, text);
+    }
+    for (const QByteArray& target : targets) {
+        snapshot.types.append(QString::fromUtf8(target));
+    }
+    for (QString next = nextCaptureType(snapshot); !next.isEmpty();
+         next = nextCaptureType(snapshot)) {
+        fuzz::require(!snapshot.answers.contains(next) && !isConcealed(snapshot));
+        snapshot.answers.insert(next, given);
+    }
+    (void)capturedText(snapshot);
+    return 0;
+}

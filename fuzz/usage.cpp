@@ -1,0 +1,20 @@
+// What servers, other programs and the keyring tell of the plan, in any form.
+
+#include "Input.h"
+#include "monitor/UsageReaders.h"
+
+using namespace ravelo;
+
+int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
+    const QByteArrayView input = fuzz::view(bytes, size);
+    (void)readUsageAnswer(input);
+    const auto windows = readUsageFile(input);
+    const auto kept = usageFileOf(input);
+    fuzz::require(windows.has_value() == kept.has_value());
+    fuzz::require(!kept || readUsageFile(*kept) == windows);
+    if (const auto credentials = readCredentials(input)) {
+        fuzz::require(!credentials->accessToken.isEmpty() &&
+                      !credentials->accessToken.contains('\n'));
+    }
+    return 0;
+}
