@@ -156,8 +156,8 @@ SCENES = [
     ]),
     ("settings", "12a-settings.html", ".win", [
         ("window", ".win", ALL),
-        ("title", ".tb|text", "xw"),
-        ("close", ".x", ALL),
+        ("strip/title", ".tb|text", "xw"),
+        ("strip/close", ".x", ALL),
         ("general/heading", "h4:nth-of-type(1)|text", ALL),
         ("general/block", ".cd:nth-of-type(1)", ALL),
         ("general/block/label", ".cd:nth-of-type(1) .ln|text", "xw"),
@@ -183,8 +183,8 @@ SCENES = [
     ]),
     ("setup", "13a-onboarding-welcome.html", ".win", [
         ("window", ".win", ALL),
-        ("title", ".tb|text", "xw"),
-        ("close", ".x", ALL),
+        ("strip/title", ".tb|text", "xw"),
+        ("strip/close", ".x", ALL),
         ("picture", ".win svg", ALL),
         ("heading", ".win > div:nth-of-type(2) > div:nth-child(1)|text", ALL),
         ("line", ".win > div:nth-of-type(2) > div:nth-child(2)", ALL),

@@ -150,9 +150,9 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
         StatusItemController::Services{*tray_, *notch_, LiveContext::shared(), *scheduler_,
                                        [this] { updateWindow_->show(); }, quitLater},
         QLocale());
-    commands_ = std::make_unique<Commands>(Commands::Services{
-        *store_, *notch_, *scheduler_, LiveContext::shared(), PlanUsage::shared(),
-        [this] { showSetup(); }, quitLater});
+    commands_ = std::make_unique<Commands>(
+        Commands::Services{*store_, *notch_, *scheduler_, LiveContext::shared(),
+                           PlanUsage::shared(), [this] { showSetup(); }, quitLater});
     wire();
     if (!settings_->onboarded()) {
         showSetup();
@@ -189,8 +189,12 @@ void AppDelegate::wire() {
             notch_->positionCollapsed();
         }
     };
-    statusItem_->onSetup = [this] { showSetup(); };
-    statusItem_->onSettings = [this] { openSettings(); };
+    statusItem_->onSetup = [this] {
+        showSetup();
+    };
+    statusItem_->onSettings = [this] {
+        openSettings();
+    };
     const auto followCompositor = [this] {
         view_->host().setBackdrop(window_->isTranslucent() ? Backdrop::Translucent
                                                            : Backdrop::Opaque);

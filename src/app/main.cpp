@@ -62,7 +62,6 @@ int run(const Command& command, char** argv) {
     const QApplication application(nameAlone, argv); // The status item is made of widgets.
     preparation.reset();
     QApplication::setApplicationName(u"ravelo"_s);
-    QApplication::setApplicationDisplayName(u"Ravelo"_s);
     QApplication::setDesktopFileName(u"org.ravelo.Ravelo"_s);
     QApplication::setQuitOnLastWindowClosed(false);
 

@@ -31,13 +31,15 @@ void TitledWindow::load(const QString& page, QObject* host) {
 }
 
 void TitledWindow::bringToFront() {
-    if (!isVisible()) {
+    if (isVisible()) {
+        showNormal(); // It may have been minimised.
+        raise();
+    } else {
         QRect place(QPoint(), size());
         place.moveCenter(panel_.screen()->availableGeometry().center());
         setGeometry(place);
+        show();
     }
-    showNormal(); // It may have been minimised.
-    raise();
     requestActivate();
 }
 

@@ -122,8 +122,8 @@ class Picture:
 class Desktop(contextlib.AbstractContextManager):
     """Use as a context manager. `home` is where everything the program writes must be found.
 
-    In it the first-run setup is done. `window_manager` is the command that starts one, or nothing; `server` makes the command of the X
-    server.
+    The first-run setup is done in it. `window_manager` is the command that starts one, or nothing;
+    `server` makes the command of the X server.
     """
 
     def __init__(self, window_manager=OPENBOX, server=xvfb):
@@ -272,10 +272,11 @@ class Desktop(contextlib.AbstractContextManager):
 
     def window_of(self, process, title=""):
         """The one visible window of a program, or nothing; of those with such a title."""
-        named = ["--all", "--name", title] if title else []
-        found = self.run("xdotool", "search", *named, "--onlyvisible", "--pid", process.pid)
-        assert len(found.split()) <= 1, f"more than one visible window: {found.split()}"
-        return self.geometry(found.strip()) if found else None
+        found = [window for window in
+                 self.run("xdotool", "search", "--onlyvisible", "--pid", process.pid).split()
+                 if title in ("", self.title(window))]
+        assert len(found) <= 1, f"more than one visible window: {found}"
+        return self.geometry(found[0]) if found else None
 
     def geometry(self, window):
         """Where a window is, or nothing once it is gone."""
@@ -408,10 +409,10 @@ class Ravelo:
     # What it shows.
 
     def panel(self):
-        return self.desktop.window_of(self.process, "^Ravelo$")
+        return self.desktop.window_of(self.process, "Ravelo")
 
     def window(self, title):
-        return self.desktop.window_of(self.process, f"^{title}$")
+        return self.desktop.window_of(self.process, title)
 
     def _hangs_at_the_top(self, width, height, monitor):
         panel = self.panel()
