@@ -435,8 +435,7 @@ class Windows(AssistiveCase, ProgramCase):
         setup = self.expect_window(self.SETUP)
         self.desktop.drag((setup.x + 100, setup.y + 20), (setup.x + 160, setup.y + 50))
         self.desktop.run("xdotool", "mouseup", 1)
-        # By the way from where the press was taken for a drag.
-        wait_for(lambda: self.ravelo.window(self.SETUP).x > setup.x + 30,
+        wait_for(lambda: self.ravelo.window(self.SETUP)[1:3] == (setup.x + 60, setup.y + 30),
                  lambda: f"the window moved by its strip: {self.ravelo.window(self.SETUP)}")
         self.press("Return", "Tab", "Tab")
         options = wait_for(lambda: [

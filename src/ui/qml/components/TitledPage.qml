@@ -27,12 +27,12 @@ FocusScope {
         width: parent.width
         height: 40
 
-        DragHandler {
-            target: null
-            onActiveChanged: {
-                if (active) {
-                    page.Window.window.startSystemMove();
-                }
+        // Holds on to nothing: the desktop has the pointer from here on, and no release comes.
+        MouseArea {
+            anchors.fill: parent
+            onPressed: mouse => {
+                mouse.accepted = false;
+                page.Window.window.startSystemMove();
             }
         }
 
