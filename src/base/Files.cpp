@@ -89,7 +89,10 @@ bool writeFileAtomically(const QString& path, const QByteArray& bytes) {
         return false;
     }
     // Before the first byte is in it: nobody else may read even half of it.
-    return file.setPermissions(privateFile) && file.write(bytes) == bytes.size() && file.commit();
+    // And flushed: commit() does not see a disk that is full only by then, and leaves an empty
+    // file.
+    return file.setPermissions(privateFile) && file.write(bytes) == bytes.size() && file.flush() &&
+           file.commit();
 }
 
 void makePrivateFolder(const QString& path) {

@@ -364,6 +364,7 @@ void Store::write() {
             setAsideUnreadable(path);
         }
         snapshot.data.shelfStacks = paths(snapshot.stacks);
+        makePrivateFolder(QFileInfo(path).path()); // It may have been removed meanwhile.
         (void)writeFileAtomically(path, encodeStore(snapshot.data));
     };
     unsaved_.reset();

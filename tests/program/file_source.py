@@ -1,0 +1,24 @@
+"""A GTK window without a border at the left, 200 x 200, all of which drags the files named away.
+
+Prints "ready" when it is there, and a line each time a drag ends. Each drag takes the next file.
+"""
+
+import itertools
+import sys
+
+import gi
+
+gi.require_version("Gdk", "3.0")
+gi.require_version("Gtk", "3.0")
+from gi.repository import Gdk, Gtk  # noqa: E402
+
+files = itertools.cycle(sys.argv[1:])
+window = Gtk.Window(title="Files", default_width=200, default_height=200, decorated=False)
+window.move(20, 640)
+window.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, [Gtk.TargetEntry.new("text/uri-list", 0, 0)],
+                       Gdk.DragAction.COPY)
+window.connect("drag-data-get", lambda _w, _c, data, *_: data.set_uris([f"file://{next(files)}"]))
+window.connect("drag-end", lambda *_: print("end", flush=True))
+window.connect("map-event", lambda *_: print("ready", flush=True))
+window.show()
+Gtk.main()
