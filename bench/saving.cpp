@@ -2,12 +2,12 @@
 // each: milliseconds of the main thread, from a further copy to the save's being handed on, and
 // until the file was there, but for the 0.4 s in which a save waits for more.
 
+#include "fakes/FakeAlertSound.h"
+#include "fakes/ManualScheduler.h"
+#include "fakes/MemoryPasteboard.h"
+#include "fakes/MemoryPreferences.h"
 #include "platform/system/WorkerThread.h"
 #include "store/Store.h"
-#include "tests/fakes/FakeAlertSound.h"
-#include "tests/fakes/ManualScheduler.h"
-#include "tests/fakes/MemoryPasteboard.h"
-#include "tests/fakes/MemoryPreferences.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
