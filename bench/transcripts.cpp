@@ -1,6 +1,7 @@
 // bench_transcripts COUNT: how long it takes to find the newest of 6,000 transcripts, COUNT times.
 // A line each: milliseconds of the first look, of find(1) that only names them, and milliseconds of
 // processor time of a look when nothing is new.
+// bench_transcripts HOME: makes the 6,000 below a home that has none.
 
 #include "monitor/ContextReader.h"
 #include "platform/system/InotifyChanges.h"
@@ -12,7 +13,6 @@
 #include <QTemporaryDir>
 
 #include <cstdio>
-#include <cstdlib>
 #include <ctime>
 
 namespace {
@@ -85,9 +85,14 @@ void look(const QByteArray& home) {
 } // namespace
 
 int main(int argc, char** argv) {
+    const QString argument = QFile::decodeName(argc > 1 ? argv[1] : "1");
+    if (argument.startsWith(u'/')) {
+        fill(argument + u"/.claude/projects"_s);
+        return 0;
+    }
     const QTemporaryDir home;
     fill(home.filePath(u".claude/projects"_s));
-    for (int i = 0; i < (argc > 1 ? std::atoi(argv[1]) : 1); ++i) {
+    for (int i = 0; i < argument.toInt(); ++i) {
         look(QFile::encodeName(home.path()));
     }
     return 0;

@@ -3,6 +3,8 @@
 #include <algorithm>
 #include <utility>
 
+#include <malloc.h>
+
 namespace ravelo {
 
 namespace {
@@ -21,14 +23,21 @@ SlowWork::SlowWork() : pool_(new QThreadPool) {
 }
 
 void SlowWork::run(std::function<void()> job) {
+    if (waiting_->fetch_add(1) == 0) {
+        *begun_ = Clock::now(); // What ran last, long ago, does not hang.
+    }
     if (pool_->activeThreadCount() >= pool_->maxThreadCount() &&
         Clock::now() - begun_->load() > stuckAfter) {
         pool_->setMaxThreadCount(std::min(pool_->maxThreadCount() + 1, mostThreads));
     }
     // The last first: a list asks from its end to its begin, and for what came into sight last.
-    const auto work = [job = std::move(job), begun = begun_] {
+    const auto work = [job = std::move(job), begun = begun_, waiting = waiting_]() mutable {
         *begun = Clock::now();
         job();
+        job = nullptr;
+        if (waiting->fetch_sub(1) == 1) {
+            malloc_trim(0); // Whole pictures were read; the process keeps up to 8 MB a thread.
+        }
     };
     pool_->start(work, ++given_);
 }

@@ -27,6 +27,7 @@ private:
 
     QThreadPool* pool_;
     std::atomic<int> given_ = 0;
+    std::shared_ptr<std::atomic<int>> waiting_ = std::make_shared<std::atomic<int>>(0);
     std::shared_ptr<std::atomic<Moment>> begun_ = std::make_shared<std::atomic<Moment>>(Moment());
 };
 
