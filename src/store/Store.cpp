@@ -31,6 +31,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr Seconds saveDelay{0.4};
+constexpr Seconds retryDelay{30}; ///< After a save that failed, as on a full disk.
 
 QString newImageFileName() {
     return uuidText(QUuid::createUuid()) + u".png"_s;
@@ -358,20 +359,29 @@ void Store::write() {
     if (!unsaved_) {
         return;
     }
-    auto job = [path = fileURL(), snapshot = std::move(*unsaved_),
+    retry_.reset();
+    const auto done = std::make_shared<bool>(false);
+    auto job = [done, path = fileURL(), snapshot = std::move(*unsaved_),
                 file = std::exchange(file_, FileState::ours)]() mutable {
         if (file == FileState::unreadable) {
             setAsideUnreadable(path);
         }
         snapshot.data.shelfStacks = paths(snapshot.stacks);
         makePrivateFolder(QFileInfo(path).path()); // It may have been removed meanwhile.
-        (void)writeFileAtomically(path, encodeStore(snapshot.data));
+        *done = writeFileAtomically(path, encodeStore(snapshot.data));
     };
     unsaved_.reset();
-    services_.worker.run(std::move(job));
+    services_.worker.run(std::move(job), [this, done] {
+        if (!*done) {
+            retry_ = services_.scheduler.after(retryDelay, [this] { save(); });
+        }
+    });
 }
 
 void Store::flush() {
+    if (retry_) {
+        save();
+    }
     do {
         write();
         services_.worker.drain();

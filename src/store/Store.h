@@ -186,6 +186,7 @@ private:
     int clearings_ = 0; ///< Tells captures from before the last clearing from later ones.
     std::optional<Snapshot> unsaved_;
     Handle pendingSave_;
+    Handle retry_; ///< Of a save that failed.
     FocusTimer timer_;
     Handle timerEnd_;
     Reminders reminders_;

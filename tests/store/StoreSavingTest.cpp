@@ -64,6 +64,25 @@ TEST_F(StoreSaving, OnlyItsUserCanRead) {
     EXPECT_EQ(mode(store_->imagePath(imageFiles()[0])), 0600U);
 }
 
+TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
+    start();
+    for (const bool atTheEnd : {false, true}) {
+        QFile::remove(storeFile());
+        ASSERT_TRUE(QDir().mkpath(storeFile() + u"/in the way"_s));
+        store_->addClip(u"kept %1"_s.arg(atTheEnd));
+        settle();
+        ASSERT_TRUE(QFileInfo(storeFile()).isDir());
+        ASSERT_TRUE(QDir(storeFile()).removeRecursively());
+        if (atTheEnd) {
+            store_->flush();
+        } else {
+            settle(Seconds(31));
+        }
+        ASSERT_TRUE(QFileInfo(storeFile()).isFile()) << atTheEnd;
+        EXPECT_EQ(saved().clips[0].text, u"kept %1"_s.arg(atTheEnd));
+    }
+}
+
 TEST_F(StoreSaving, BurstGivesOneWriteOfTheStateAtTheLastSave) {
     start();
     store_->flush();
