@@ -138,7 +138,7 @@ def text_files(desktop, count, start=0):
     """Files of texts to copy, no two alike."""
     files = [desktop.home / f"copied-{number}.txt" for number in range(start, start + count)]
     for file in files:
-        file.write_text(f"What somebody copies, {file.name}, and pastes somewhere else. " * 5)
+        file.write_text("\n".join([f"What somebody copies, {file.name}, for elsewhere."] * 5))
     return files
 
 
