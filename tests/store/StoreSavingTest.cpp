@@ -66,6 +66,7 @@ TEST_F(StoreSaving, OnlyItsUserCanRead) {
 
 TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
     start();
+    store_->flush();
     for (const bool atTheEnd : {false, true}) {
         QFile::remove(storeFile());
         ASSERT_TRUE(QDir().mkpath(storeFile() + u"/in the way"_s));
