@@ -371,9 +371,10 @@ void Store::write() {
         *done = writeFileAtomically(path, encodeStore(snapshot.data));
     };
     unsaved_.reset();
-    services_.worker.run(std::move(job), [this, done] {
-        if (!*done) {
-            retry_ = services_.scheduler.after(retryDelay, [this] { save(); });
+    services_.worker.run(std::move(job), [store = QPointer(this), done] {
+        if (store && !*done) {
+            store->retry_ =
+                store->services_.scheduler.after(retryDelay, [store] { store->save(); });
         }
     });
 }

@@ -25,7 +25,8 @@ TEST(MotionPreference, followsTheDesktopsSettingsManager) {
     };
     const auto connection = std::move(Connection::create().value());
     Events events(*connection);
-    SettingsManager settings(*connection, events);
+    ManagerProperty settings(*connection, events, ManagerSelection::settings,
+                             "_XSETTINGS_SETTINGS");
     const X11IconPreference icons(settings);
     X11MotionPreference motion(settings);
     EXPECT_FALSE(motion.isReduced()) << "nobody has asked for it";

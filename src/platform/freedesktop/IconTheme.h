@@ -17,7 +17,7 @@ public:
     explicit IconTheme(QStringList folders);
     ~IconTheme() override;
 
-    /// Those that the specification names, for this user.
+    /// Where themes are installed for this user, by the standard's order.
     [[nodiscard]] static QStringList usualFolders();
 
     /// Empty for none but "hicolor". Any thread.

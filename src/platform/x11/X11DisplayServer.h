@@ -3,9 +3,9 @@
 #include "platform/DisplayServer.h"
 #include "platform/x11/Events.h"
 #include "platform/x11/Listener.h"
+#include "platform/x11/ManagerProperty.h"
 #include "platform/x11/ManagerSelection.h"
 #include "platform/x11/ScreenSaverStatus.h"
-#include "platform/x11/SettingsManager.h"
 #include "platform/x11/X11DragMonitor.h"
 #include "platform/x11/X11EdgeBarrier.h"
 #include "platform/x11/X11IconPreference.h"
@@ -51,7 +51,7 @@ private:
     Events events_;
     X11Screens screens_;
     ManagerSelection compositor_;
-    SettingsManager settings_;
+    ManagerProperty settings_;
     X11MotionPreference motion_;
     X11IconPreference icons_;
     X11TrayArea tray_;

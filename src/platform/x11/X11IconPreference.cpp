@@ -6,14 +6,14 @@
 
 namespace ravelo::x11 {
 
-X11IconPreference::X11IconPreference(SettingsManager& manager)
-    : manager_(manager), changes_(manager.onChange([this] { look(); })) {
+X11IconPreference::X11IconPreference(ManagerProperty& settings)
+    : settings_(settings), changes_(settings.onChange([this] { look(); })) {
     look();
 }
 
 void X11IconPreference::look() {
     const QString theme = QString::fromUtf8(
-        xsettingsString(manager_.settings(), "Net/IconThemeName").value_or(QByteArray()));
+        xsettingsString(settings_.bytes(), "Net/IconThemeName").value_or(QByteArray()));
     if (std::exchange(theme_, theme) != theme) {
         listeners_.notify();
     }

@@ -1,15 +1,15 @@
 #pragma once
 
 #include "platform/IconPreference.h"
-#include "platform/x11/SettingsManager.h"
+#include "platform/x11/ManagerProperty.h"
 
 namespace ravelo::x11 {
 
 /// The setting "Net/IconThemeName". Main thread.
 class X11IconPreference final : public IconPreference {
 public:
-    /// It must outlive this.
-    explicit X11IconPreference(SettingsManager& manager);
+    /// Of the settings manager (XSETTINGS); it must outlive this.
+    explicit X11IconPreference(ManagerProperty& settings);
 
     [[nodiscard]] QString theme() const override { return theme_; }
 
@@ -20,7 +20,7 @@ public:
 private:
     void look();
 
-    SettingsManager& manager_;
+    ManagerProperty& settings_;
     QString theme_;
     Listeners<> listeners_;
     Handle changes_;

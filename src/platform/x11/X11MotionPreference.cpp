@@ -6,13 +6,13 @@
 
 namespace ravelo::x11 {
 
-X11MotionPreference::X11MotionPreference(SettingsManager& manager)
-    : manager_(manager), changes_(manager.onChange([this] { look(); })) {
+X11MotionPreference::X11MotionPreference(ManagerProperty& settings)
+    : settings_(settings), changes_(settings.onChange([this] { look(); })) {
     look();
 }
 
 void X11MotionPreference::look() {
-    const bool reduced = xsettingsInteger(manager_.settings(), "Gtk/EnableAnimations") == 0;
+    const bool reduced = xsettingsInteger(settings_.bytes(), "Gtk/EnableAnimations") == 0;
     if (std::exchange(reduced_, reduced) != reduced) {
         listeners_.notify();
     }

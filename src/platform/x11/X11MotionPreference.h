@@ -1,15 +1,15 @@
 #pragma once
 
 #include "platform/MotionPreference.h"
-#include "platform/x11/SettingsManager.h"
+#include "platform/x11/ManagerProperty.h"
 
 namespace ravelo::x11 {
 
 /// The setting "Gtk/EnableAnimations". Main thread.
 class X11MotionPreference final : public MotionPreference {
 public:
-    /// It must outlive this.
-    explicit X11MotionPreference(SettingsManager& manager);
+    /// Of the settings manager (XSETTINGS); it must outlive this.
+    explicit X11MotionPreference(ManagerProperty& settings);
 
     [[nodiscard]] bool isReduced() const override { return reduced_; }
 
@@ -20,7 +20,7 @@ public:
 private:
     void look();
 
-    SettingsManager& manager_;
+    ManagerProperty& settings_;
     bool reduced_ = false;
     Listeners<> listeners_;
     Handle changes_;

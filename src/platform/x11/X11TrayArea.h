@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/TrayArea.h"
-#include "platform/x11/ManagerSelection.h"
+#include "platform/x11/ManagerProperty.h"
 
 namespace ravelo::x11 {
 
@@ -11,7 +11,7 @@ public:
     /// Both must outlive it.
     X11TrayArea(Connection& connection, Events& events);
 
-    [[nodiscard]] bool isThere() const override { return manager_.isOwned(); }
+    [[nodiscard]] bool isThere() const override { return colors_.isOwned(); }
 
     [[nodiscard]] std::optional<QColor> foreground() const override { return foreground_; }
 
@@ -20,17 +20,12 @@ public:
     }
 
 private:
-    void handle(const xcb_generic_event_t& event);
-    void follow();
     void look();
 
-    Connection& connection_;
-    const xcb_atom_t colors_;
-    ManagerSelection manager_;
+    ManagerProperty colors_;
     std::optional<QColor> foreground_;
     Listeners<> listeners_;
-    Handle ownerChange_;
-    Handle subscription_;
+    Handle changes_;
 };
 
 } // namespace ravelo::x11
