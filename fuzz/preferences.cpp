@@ -10,21 +10,32 @@
 #include <QFile>
 #include <QTemporaryDir>
 
+#include <utility>
+#include <vector>
+
 using namespace ravelo;
 using namespace Qt::StringLiterals;
 
 namespace {
 
-class AtOnce final : public Worker {
+/// Does each job at once and tells at the end.
+class SlowToTell final : public Worker {
 public:
     void run(std::function<void()> job, std::function<void()> done) override {
         job();
-        if (done) {
+        done_.push_back(std::move(done));
+    }
+
+    void drain() override {
+        while (!done_.empty()) {
+            const auto done = std::move(done_.front());
+            done_.erase(done_.begin());
             done();
         }
     }
 
-    void drain() override {}
+private:
+    std::vector<std::function<void()>> done_;
 };
 
 class NoLogin final : public LoginItem {
@@ -33,7 +44,7 @@ public:
 
     [[nodiscard]] Result<void> setEnabled(bool enabled) override {
         enabled_ = enabled;
-        return {};
+        return failure(u"refused"_s);
     }
 
 private:
@@ -64,11 +75,12 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     file.write(fuzz::view(bytes, size).toByteArray());
     file.close();
 
-    AtOnce worker;
+    SlowToTell worker;
     NoLogin login;
     PreferenceFile preferences(path, worker);
     AppSettings settings(preferences, login);
     changeEach(settings);
+    worker.drain();
     PreferenceFile written(path, worker);
     const AppSettings again(written, login);
     fuzz::require(again.lastTab() == settings.lastTab() && again.panelWidth() == 700 &&

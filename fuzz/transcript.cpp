@@ -12,7 +12,7 @@ bool mayOverflow(QByteArrayView bytes) {
     constexpr int digitsThatFit = 17;
     int digits = 0;
     for (const char c : bytes) {
-        if (c == 'e' || c == 'E') {
+        if (digits > 0 && (c == 'e' || c == 'E')) {
             return true;
         }
         digits = c >= '0' && c <= '9' ? digits + 1 : 0;
