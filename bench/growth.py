@@ -80,6 +80,7 @@ def growth(options):
     """One program's life: started with nothing, then more and more of all there is."""
     with Desktop() as desktop:
         add_transcripts(desktop)
+        desktop.env["RAVELO_CORE_DUMPS"] = "1"  # Or only root may see its memory.
         ravelo = Ravelo(desktop, BUILD / "ravelo").start()
         seen = {"after the start": settled(ravelo.process)}
         Copying(desktop, TEXT, text_files(desktop, TEXTS)).wait()

@@ -20,6 +20,7 @@ Life = collections.namedtuple("Life", "noticing started texts pictures use")
 def live(command, seconds):
     """What a program takes from its start on. `pictures` is nothing where it asks for none."""
     with Desktop() as desktop:
+        desktop.env["RAVELO_CORE_DUMPS"] = "1"  # Or only root may see its memory.
         first = text_files(desktop, 1)
         copying = Copying(desktop, TEXT, first, every=20)
         begun = time.monotonic()

@@ -1,4 +1,5 @@
-// bench_transcripts COUNT: how long it takes to find the newest of 6,000 transcripts, COUNT times.
+// bench_transcripts COUNT: how long it takes to find the newest of 6,000 transcripts, one of 300 MB,
+// COUNT times.
 // A line each: milliseconds of the first look, of find(1) that only names them, and milliseconds of
 // processor time of a look when nothing is new.
 // bench_transcripts HOME: makes the 6,000 below a home that has none.
@@ -26,6 +27,23 @@ constexpr int idleLooks = 1000;
 
 constexpr auto turn = R"({"message":{"model":"claude-opus-4-6","usage":{"input_tokens":41500}}})"
                       "\n";
+// The newest is a session of weeks: 300 MB, of which only the end may be read.
+constexpr auto lastTurn = R"({"message":{"model":"claude-opus-4-6","usage":{"input_tokens":77000}}})"
+                          "\n";
+constexpr int lastTokens = 77000;
+constexpr qint64 longest = 300'000'000;
+
+void write(QFile& file, const QByteArray& bytes) {
+    if (file.write(bytes) != bytes.size()) {
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    }
+}
+
+void open(QFile& file) {
+    if (!file.open(QFile::WriteOnly)) {
+        qFatal("cannot write %s", qPrintable(file.fileName()));
+    }
+}
 
 void fill(const QString& root) {
     for (int project = 0; project < projects; ++project) {
@@ -34,11 +52,17 @@ void fill(const QString& root) {
         for (int session = 0; session < sessions; ++session) {
             QFile file(u"%1/0b5f6f0e-86d5-4a30-b7c1-%2.jsonl"_s.arg(folder).arg(session, 12, 10,
                                                                                 QChar(u'0')));
-            if (!file.open(QFile::WriteOnly) || file.write(turn) < 0) {
-                qFatal("cannot write %s", qPrintable(file.fileName()));
-            }
+            open(file);
+            write(file, turn);
         }
     }
+    QFile file(u"%1/-home-somebody-project-0/the-longest.jsonl"_s.arg(root));
+    open(file);
+    const QByteArray turns = QByteArray(turn).repeated(10'000);
+    while (file.pos() < longest) {
+        write(file, turns);
+    }
+    write(file, lastTurn);
 }
 
 double milliseconds(const QElapsedTimer& timer) {
@@ -69,8 +93,8 @@ void look(const QByteArray& home) {
     timer.start();
     const ContextReading reading = reader.read();
     const double cold = milliseconds(timer);
-    if (!reading.turn) {
-        qFatal("nothing was found");
+    if (!reading.turn || reading.turn->usage.tokens != lastTokens) {
+        qFatal("the last turn of the newest was not found");
     }
     const double before = processorTime();
     for (int i = 0; i < idleLooks; ++i) {

@@ -1,7 +1,8 @@
 """A GTK program that copies text after text, as fast as it is told, and tells what stood when.
 
 Standard input: a line "NAME COUNT MILLISECONDS" a series. It answers with a line of JSON a series: a
-list of [before, after, text], where the two are the monotonic clock around the copy.
+list of [after, before, text], where the two are the monotonic clock around the copy. A text is left out
+of which the X server would not have it: of two programs at once the one that asked first comes too late.
 """
 
 import json
@@ -11,11 +12,18 @@ import time
 import gi
 
 gi.require_version("Gdk", "3.0")
+gi.require_version("GdkX11", "3.0")
 gi.require_version("Gtk", "3.0")
-from gi.repository import Gdk, GLib, Gtk  # noqa: E402
+from gi.repository import Gdk, GdkX11, GLib, Gtk  # noqa: E402, F401
+
+from hand import Hand  # noqa: E402
+
+CLIENT = 21  # What is above these bits is the same in all windows of one client (Xlib, Xorg).
 
 clipboard = Gtk.Clipboard.get(Gdk.SELECTION_CLIPBOARD)
 display = Gdk.Display.get_default()
+own = display.get_default_group().get_xid() >> CLIENT
+server = Hand(display.get_name())  # GTK says only what it has asked for itself.
 
 
 def copy(name, number, count, log):
@@ -23,7 +31,8 @@ def copy(name, number, count, log):
     text = f"{name} {number}"
     clipboard.set_text(text, -1)
     display.sync()
-    log.append((before, time.monotonic(), text))
+    if server.selection_owner("CLIPBOARD") >> CLIENT == own:
+        log.append((time.monotonic(), before, text))
     if number == count:
         print(json.dumps(log), flush=True)
 

@@ -1,6 +1,6 @@
 """A GTK window without a border at the left, 200 x 200, all of which drags the files named away.
 
-Prints "ready" when it is there, and a line each time a drag ends. Each drag takes the next file.
+Prints "ready" when it is there, "begin" and "end" of each drag. Each drag takes the next file.
 """
 
 import itertools
@@ -18,6 +18,7 @@ window.move(20, 640)
 window.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, [Gtk.TargetEntry.new("text/uri-list", 0, 0)],
                        Gdk.DragAction.COPY)
 window.connect("drag-data-get", lambda _w, _c, data, *_: data.set_uris([f"file://{next(files)}"]))
+window.connect("drag-begin", lambda *_: print("begin", flush=True))
 window.connect("drag-end", lambda *_: print("end", flush=True))
 window.connect("map-event", lambda *_: print("ready", flush=True))
 window.show()

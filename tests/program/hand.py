@@ -1,4 +1,4 @@
-"""A quick hand: pointer and window geometry over one connection to the X server of its own.
+"""A quick hand: pointer, window geometry and owners of selections over one connection to the X server of its own.
 
 For hundreds of moves a minute, where a program started for each would take all the time.
 """
@@ -17,6 +17,7 @@ class Hand:
         self._x = ctypes.CDLL(ctypes.util.find_library("X11"))
         self._test = ctypes.CDLL(ctypes.util.find_library("Xtst"))
         self._x.XOpenDisplay.restype = ctypes.c_void_p
+        self._x.XInternAtom.restype = self._x.XGetSelectionOwner.restype = ctypes.c_ulong
         self._display = ctypes.c_void_p(self._x.XOpenDisplay(display.encode()))
         assert self._display, f"no X server {display}"
 
@@ -42,3 +43,8 @@ class Hand:
         self._x.XGetWindowAttributes(self._display, ctypes.c_ulong(int(window)),
                                      ctypes.byref(found))
         return found.width, found.height
+
+    def selection_owner(self, name):
+        """The window that owns a selection; 0 where none does."""
+        atom = self._x.XInternAtom(self._display, name.encode(), 0)
+        return self._x.XGetSelectionOwner(self._display, ctypes.c_ulong(atom))
