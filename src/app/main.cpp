@@ -4,6 +4,7 @@
 #include "app/FileArguments.h"
 #include "app/StatusCommands.h"
 #include "platform/freedesktop/SingleInstance.h"
+#include "platform/system/CoreDumps.h"
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
 
@@ -112,6 +113,7 @@ int ask(Command command, char** argv) {
 } // namespace
 
 int main(int argc, char** argv) {
+    forbidCoreDumps();
     const auto command = parseCommandLine({argv + std::min(argc, 1), argv + argc});
     if (!command) {
         complain(command.error().message);

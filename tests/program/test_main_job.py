@@ -7,6 +7,7 @@ RAVELO names the program, QT_PEER the Qt program to copy from and SELECTION_OWNE
 import json
 import os
 import pathlib
+import resource
 import signal
 import statistics
 import subprocess
@@ -188,6 +189,20 @@ class Survival(ProgramCase):
         self.ravelo.start()
         self.copy_and_wait("third")
         self.assertEqual(self.ravelo.texts(), ["third", "second", "first"])
+
+    def test_a_crash_leaves_no_memory_behind_unless_asked_to(self):
+        limits = resource.getrlimit(resource.RLIMIT_CORE)
+        self.addCleanup(resource.setrlimit, resource.RLIMIT_CORE, limits)
+        resource.setrlimit(resource.RLIMIT_CORE, (limits[1], limits[1]))
+        asked = {} if SLOWER > 1 or not limits[1] else {"RAVELO_CORE_DUMPS": "1"}
+        for environment, expected in ({}, os.CLD_KILLED), (asked, os.CLD_DUMPED):
+            if environment or expected == os.CLD_KILLED:
+                self.desktop.env |= environment
+                self.ravelo.start()
+                self.ravelo.process.send_signal(signal.SIGQUIT)
+                end = os.waitid(os.P_PID, self.ravelo.process.pid, os.WEXITED | os.WNOWAIT)
+                self.assertEqual(end.si_code, expected, f"the kind of end with {environment}")
+                self.wait_for_end()
 
     def test_a_torn_file_is_put_aside_and_the_seeds_are_back(self):
         self.ravelo.start()
