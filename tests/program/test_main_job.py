@@ -535,6 +535,42 @@ class Shelf(ProgramCase):
         wait_for(self.ravelo.is_collapsed, "the panel to close at a click elsewhere")
 
 
+class Traces(ProgramCase):
+    """docs/privacy.md: what is kept is where it says, for this user alone, and can be erased."""
+    KEPT = {"data/Ravelo/store.json", "data/Ravelo/clips/IMAGE.png",
+            "config/ravelo/preferences.json", "config/autostart/ravelo.desktop"}
+
+    def files(self):
+        """Below the home, but for what the desktop has put there itself."""
+        paths = (path.relative_to(self.desktop.home) for path in self.desktop.home.rglob("*")
+                 if path.is_file())
+        return {str(path) for path in paths if path.parts[0] not in ("runtime", "tmp")}
+
+    def test_nothing_is_left_elsewhere_and_all_can_be_erased(self):
+        before = self.files() - self.KEPT
+        parked = self.desktop.home / "parked.txt"
+        parked.write_text("in the parked file")
+        self.ravelo.start()
+        self.copy_and_wait("an ordinary text")
+        self.desktop.gtk("image", "c04020ff")
+        self.wait_for_texts("Image")
+        self.assertEqual(self.ravelo.call(parked)[0], 0)
+        wait_for(lambda: not self.ravelo.is_collapsed(), "the panel with the shelf")
+        self.assertEqual(self.ravelo.call("timer", "start", "25", "a label of the timer")[0], 0)
+        self.stop()
+        image = self.ravelo.store()["clips"][0]["imageFileName"]
+        kept = {name.replace("IMAGE.png", image) for name in self.KEPT}
+        self.assertEqual(self.files() - before - {"parked.txt", "ravelo.log"}, kept)
+        for name in kept:
+            path = self.desktop.home / name
+            if not name.endswith(".desktop"):  # Says no more than that there is a Ravelo.
+                self.assertEqual(path.stat().st_mode & 0o077, 0, f"rights of others on {path}")
+            for text, where in {"an ordinary text": "store.json", "in the parked file": "",
+                                "a label of the timer": ""}.items():
+                if text.encode() in path.read_bytes():
+                    self.assertEqual(path.name, where, f"{text!r} was kept")
+
+
 class OwnersEnd(ProgramCase):
     def setUp(self):
         super().setUp()
