@@ -5,14 +5,14 @@
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
 
-#include <QGuiApplication>
+#include <QApplication>
 #include <QProcessEnvironment>
 
 using namespace ravelo;
 
 int main(int argc, char** argv) {
     Handle preparation = x11::prepareApplication();
-    const QGuiApplication application(argc, argv);
+    const QApplication application(argc, argv);
     preparation.reset();
     const auto instance = SingleInstance::claim();
     auto display = x11::X11DisplayServer::create();
@@ -21,5 +21,5 @@ int main(int argc, char** argv) {
     }
     AppDelegate delegate(**display, QProcessEnvironment::systemEnvironment(),
                          HoverTick::Rest::never);
-    return delegate.applicationDidFinishLaunching() ? QGuiApplication::exec() : 1;
+    return delegate.applicationDidFinishLaunching() ? QApplication::exec() : 1;
 }

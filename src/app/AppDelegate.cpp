@@ -43,6 +43,8 @@
 #include <QLocale>
 #include <QStandardPaths>
 
+#include <cerrno>
+#include <csignal>
 #include <cstdlib>
 
 namespace ravelo {
@@ -53,6 +55,10 @@ namespace {
 
 QString dataFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Ravelo"_s;
+}
+
+QString lockFile() {
+    return dataFolder() + u"/lock"_s;
 }
 
 QString configFolder() {
@@ -82,7 +88,7 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
                          HoverTick::Rest rest)
     : display_(display),
       rest_(rest),
-      dataLock_(dataFolder() + u"/lock"_s),
+      dataLock_(lockFile()),
       scheduler_(std::make_unique<SystemScheduler>()),
       worker_(std::make_unique<WorkerThread>()),
       preferences_(std::make_unique<PreferenceFile>(configFolder() + u"/ravelo/preferences.json"_s,
@@ -100,7 +106,16 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
       children_(std::make_unique<SpawnedChild>(*jobs_, environment)),
       tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
-      shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, display_.icons())) {}
+      shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, display_.icons())),
+      view_(std::make_unique<PanelView>()) {}
+
+bool AppDelegate::mayRunAlready() {
+    qint64 process = 0;
+    QString host;
+    QString program;
+    const bool known = QLockFile(lockFile()).getLockInfo(&process, &host, &program);
+    return known && (kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM);
+}
 
 AppDelegate::~AppDelegate() {
     flush();
@@ -128,7 +143,6 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     clipboard_->start();
 
     provideMonitors();
-    view_ = std::make_unique<PanelView>();
     window_ = display_.panelWindow(view_->window());
     notch_ = std::make_unique<NotchController>(
         *store_, *clipboard_, *settings_,

@@ -53,6 +53,10 @@ public:
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
 
+    /// Whether a process of this user had the data in use at its last start and still lives. Cheap
+    /// enough for each start; before or after the application object.
+    [[nodiscard]] static bool mayRunAlready();
+
     /// An error where another session of this user has the data in use.
     [[nodiscard]] Result<void> applicationDidFinishLaunching();
 

@@ -7,6 +7,7 @@
 #include "platform/system/CoreDumps.h"
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
+#include "ui/Fonts.h"
 
 #include <QApplication>
 #include <QProcessEnvironment>
@@ -16,6 +17,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <optional>
+#include <thread>
 
 #include <sys/wait.h>
 #include <unistd.h>
@@ -59,6 +61,7 @@ std::optional<int> askElsewhere(const QStringList& request, char** argv) {
 
 int run(const Command& command, char** argv) {
     const auto environment = QProcessEnvironment::systemEnvironment(); // Next, we change our own.
+    const std::jthread fonts = readFontConfiguration();
     Handle preparation = x11::prepareApplication();
     const QApplication application(nameAlone, argv); // The status item is made of widgets.
     preparation.reset();
@@ -96,7 +99,10 @@ int ask(Command command, char** argv) {
     if (found.paths.isEmpty() && !found.errors.isEmpty()) {
         return EXIT_FAILURE;
     }
-    auto status = askElsewhere(command.request, argv);
+    std::optional<int> status;
+    if (command.ifNoneRuns != Command::IfNoneRuns::startAndAsk || AppDelegate::mayRunAlready()) {
+        status = askElsewhere(command.request, argv);
+    }
     if (!status && command.ifNoneRuns == Command::IfNoneRuns::readFiles) {
         return report(statusFromFiles(command.request.mid(1)));
     }

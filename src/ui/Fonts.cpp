@@ -1,5 +1,6 @@
 #include "ui/Fonts.h"
 
+#include <fontconfig/fontconfig.h>
 #include <ft2build.h>
 #include FT_FREETYPE_H
 #include FT_MODULE_H
@@ -16,6 +17,10 @@ void keepStemsThin() {
         const FT_Bool on = 1;
         FT_Property_Set(qt_getFreetype(), "cff", "no-stem-darkening", &on);
     }
+}
+
+std::jthread readFontConfiguration() {
+    return std::jthread([] { FcInit(); });
 }
 
 } // namespace ravelo

@@ -32,6 +32,10 @@ QWindow* chooseRenderer() {
     return nullptr;
 }
 
+QUrl contentUrl() {
+    return QUrl(u"qrc:/Ravelo/qml/panel/Panel.qml"_s);
+}
+
 /// "<radius in device pixels>/<file name>": names lead nowhere but into `folder`.
 QQuickImageProvider* clipThumbs(const QDir& folder) {
     return new ThumbnailProvider([folder](const QString& name, QSize size) {
@@ -50,7 +54,7 @@ QQuickImageProvider* fileThumbs(const std::shared_ptr<const FileIcons>& icons) {
 
 } // namespace
 
-PanelView::PanelView() : view_(chooseRenderer()) {
+PanelView::PanelView() : view_(chooseRenderer()), content_(view_.engine()) {
     keepStemsThin();
     initModule();
     view_.setTitle(u"Ravelo"_s);
@@ -58,6 +62,7 @@ PanelView::PanelView() : view_(chooseRenderer()) {
     view_.installEventFilter(&copyOnly_);
     view_.setResizeMode(QQuickView::SizeRootObjectToView);
     view_.engine()->addImportPath(u"qrc:/"_s);
+    content_.loadUrl(contentUrl(), QQmlComponent::Asynchronous);
 }
 
 PanelView::~PanelView() = default;
@@ -72,7 +77,7 @@ void PanelView::load(PanelHost::Subjects subjects, const QLocale& locale) {
     view_.engine()->addImageProvider(u"thumb"_s, clipThumbs(subjects.store.clipsDir()));
     view_.engine()->addImageProvider(u"file"_s, fileThumbs(subjects.icons));
     view_.setInitialProperties({{u"host"_s, QVariant::fromValue(host_.get())}});
-    view_.setSource(QUrl(u"qrc:/Ravelo/qml/panel/Panel.qml"_s));
+    view_.setSource(contentUrl());
 }
 
 } // namespace ravelo

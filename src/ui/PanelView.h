@@ -3,6 +3,7 @@
 #include "ui/CopyOnly.h"
 #include "ui/PanelHost.h"
 
+#include <QQmlComponent>
 #include <QQuickView>
 
 #include <memory>
@@ -13,7 +14,7 @@ namespace ravelo {
 /// The window knows neither its place nor its size. Main thread.
 class PanelView {
 public:
-    /// Makes the window, empty and not shown.
+    /// Makes the window, empty and not shown. Its content is compiled in a thread from now on.
     PanelView();
     ~PanelView();
 
@@ -28,6 +29,7 @@ public:
 private:
     std::unique_ptr<PanelHost> host_; // Outlives the content, which is in the view.
     QQuickView view_;
+    QQmlComponent content_;
     CopyOnly copyOnly_;
 };
 
