@@ -61,8 +61,8 @@ std::optional<int> askElsewhere(const QStringList& request, char** argv) {
 
 int run(const Command& command, char** argv) {
     const auto environment = QProcessEnvironment::systemEnvironment(); // Next, we change our own.
-    const std::jthread fonts = readFontConfiguration();
     Handle preparation = x11::prepareApplication();
+    const std::jthread fonts = readFontConfiguration();
     const QApplication application(nameAlone, argv); // The status item is made of widgets.
     preparation.reset();
     QApplication::setApplicationName(u"ravelo"_s);
