@@ -15,6 +15,8 @@
 #include "ui/PanelView.h"
 #include "ui/SettingsWindow.h"
 #include "ui/TitledWindow.h"
+#include "ui/UpdateWindow.h"
+#include "updates/Updater.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -344,6 +346,33 @@ QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
     return onboarding.window();
 }
 
+/// A package service that gets as far as the scene.
+class SceneUpdates : public PackageUpdates {
+public:
+    explicit SceneUpdates(QString scene) : scene_(std::move(scene)) {}
+
+    Handle check(std::function<void(Checked)> done) override {
+        if (scene_ == u"update-none") {
+            done(tl::unexpected(UpdateProblem{UpdateProblem::Kind::noService, {}}));
+        } else if (scene_ == u"update-newest") {
+            done(std::optional<AvailableUpdate>());
+        } else if (scene_ != u"update-checking") {
+            done(AvailableUpdate{u"0.3"_s, u"ravelo;0.3;amd64;ravelo"_s});
+        }
+        return {};
+    }
+
+    Handle install(const AvailableUpdate& /*update*/,
+                   std::function<void(std::optional<int>)> progress,
+                   std::function<void(Installed)> /*done*/) override {
+        progress(40);
+        return {};
+    }
+
+private:
+    QString scene_;
+};
+
 /// The part of a picture of the screen that lies behind the window. Painted in the window, because
 /// the offscreen platform has no transparent ones.
 class Behind : public QQuickPaintedItem {
@@ -479,6 +508,18 @@ int main(int argc, char** argv) {
     if (window == nullptr) {
         play(scene, world, view);
         window = &view.window();
+    }
+    Updater updater(std::make_unique<SceneUpdates>(scene), u"0.2"_s);
+    UpdateWindow updates(view.window(), updater);
+    if (scene.startsWith(u"update-"_s)) {
+        updates.show();
+        if (scene == u"update-installing") {
+            updater.install();
+        }
+        settle();
+        const QWindowList windows = QGuiApplication::topLevelWindows();
+        window = qobject_cast<QQuickWindow*>(
+            *std::ranges::find(windows, u"Ravelo Updates"_s, &QWindow::title));
     }
     std::optional<Behind> behind;
     if (options.isSet(u"behind"_s)) {
