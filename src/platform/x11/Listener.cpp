@@ -93,7 +93,6 @@ void Listener::run() {
         if (connection_->isBroken()) {
             break;
         }
-        xcb_flush(connection_->get());
         sleep();
     }
 }
@@ -119,7 +118,16 @@ void Listener::expire() {
 }
 
 void Listener::dispatch() {
-    while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(connection_->get())}) {
+    const auto next = [xcb = connection_->get()] {
+        Owned<xcb_generic_event_t> event(xcb_poll_for_event(xcb));
+        if (!event) {
+            // To send is to read, too, what comes meanwhile: nobody would be woken for that again.
+            xcb_flush(xcb);
+            event.reset(xcb_poll_for_queued_event(xcb));
+        }
+        return event;
+    };
+    while (const auto event = next()) {
         for (const auto& handler : handlers_) {
             handler->handle(*event);
         }
