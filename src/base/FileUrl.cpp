@@ -2,12 +2,14 @@
 
 #include <QUtf8StringView>
 
+#include <algorithm>
+
 namespace ravelo {
 
-QUrl fileUrl(const QByteArray& path) {
-    if (path.startsWith("//")) { // Qt would take what follows for a host.
-        return fileUrl(path.sliced(1));
-    }
+QUrl fileUrl(const QByteArray& written) {
+    // Of several slashes the last: Qt would take what follows two for a host.
+    const auto name = std::ranges::find_if(written, [](char c) { return c != '/'; });
+    const QByteArray path = written.sliced(std::max<qsizetype>(name - written.begin() - 1, 0));
     if (QUtf8StringView(path).isValidUtf8()) {
         return QUrl::fromLocalFile(QString::fromUtf8(path));
     }

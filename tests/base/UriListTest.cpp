@@ -57,6 +57,9 @@ INSTANTIATE_TEST_SUITE_P(
             "http://h/a\r\nsftp://h/b\r\nsmb://h/c\r\nmailto:x\r\nFILE:///d\r\nfiles:///e\r\n/f",
             {"/d"}},
         ListCase{"folders", "file:///dir/\r\nfile:////dir//\r\nfile:///", {"/dir", "/dir", "/"}},
+        ListCase{"asManySlashesAsAnAnswerHolds", // Nobody may be called once for each.
+                 "file://" + QByteArray(1'000'000, '/') + "a",
+                 {"/a"}},
         ListCase{"nonsense",
                  QByteArray("file:relative\r\nfile:///a%00b\r\nfile\r\nfile:\r\n\xff\xfe\r\n%", 46),
                  {}},
