@@ -83,20 +83,25 @@ void UsageQuery::takeAnswer(const std::optional<HttpsAnswer>& answer) {
 
 void UsageQuery::renewViaCLI(std::function<void()> then) {
     const Seconds now = services_.scheduler.uptime();
-    if (lastRenew_ && now - *lastRenew_ <= renewSpacing) {
+    if (renewal_ || (lastRenew_ && now - *lastRenew_ <= renewSpacing)) {
         then();
         return;
     }
     lastRenew_ = now;
-    const auto goOn = [this, then = std::move(then)] {
-        step_.reset();
+    afterRenewal_ = std::move(then);
+    const auto goOn = [this] {
         patience_.reset();
-        then();
+        if (const auto next = std::exchange(afterRenewal_, nullptr)) {
+            next();
+        }
     };
     patience_ = services_.scheduler.after(longestRenewal, goOn);
-    step_ = services_.children.run(
+    renewal_ = services_.children.run(
         home_ + "/.local/bin/claude",
-        {"-p", ".", "--model", "claude-haiku-4-5-20251001", "--max-turns", "1"}, goOn);
+        {"-p", ".", "--model", "claude-haiku-4-5-20251001", "--max-turns", "1"}, [this, goOn] {
+            renewal_.reset();
+            goOn();
+        });
 }
 
 void UsageQuery::finish(const std::optional<PlanWindows>& windows) {

@@ -57,7 +57,9 @@ private:
     Done done_;
     std::optional<Seconds> lastRenew_; ///< Uptime.
     Handle step_;
+    Handle renewal_;  ///< For as long as the child lives: never are there two.
     Handle patience_; ///< With a renewal.
+    std::function<void()> afterRenewal_;
 };
 
 } // namespace ravelo

@@ -2,6 +2,7 @@
 
 #include "base/SignalsBlocked.h"
 
+#include <system_error>
 #include <thread>
 #include <utility>
 
@@ -27,12 +28,17 @@ Handle DetachedThreads::run(std::function<void()> job, std::function<void()> don
     } else {
         ++*running_;
         const SignalsBlocked blocked;
-        std::thread([job = std::move(job), tell, running = running_]() mutable {
-            job();
-            job = nullptr;
-            --*running;
+        try {
+            std::thread([job = std::move(job), tell, running = running_]() mutable {
+                job();
+                job = nullptr;
+                --*running;
+                tell();
+            }).detach();
+        } catch (const std::system_error&) { // This user may have no more threads now.
+            --*running_;
             tell();
-        }).detach();
+        }
     }
     return Handle([end] { *end = nullptr; });
 }
