@@ -5,17 +5,20 @@
 
 #include <QLoggingCategory>
 
+#include <algorithm>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
-// QJsonValue's readers answer the default for a missing value and for one of another type.
+// QJsonValue's readers answer the default for a missing value and for one of another type. A number
+// that no slider gives would make a panel that nobody can use.
 AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
     : preferences_(preferences),
       loginItem_(loginItem),
-      bgOpacity_(preferences.value(u"bgOpacity"_s).toDouble(0.55)),
+      bgOpacity_(std::clamp(preferences.value(u"bgOpacity"_s).toDouble(0.55), 0.3, 0.85)),
       fullBlack_(preferences.value(u"fullBlack"_s).toBool(false)),
-      panelWidth_(preferences.value(u"panelWidth"_s).toDouble(927)),
+      panelWidth_(std::clamp(preferences.value(u"panelWidth"_s).toDouble(927), 560.0, 1100.0)),
       hotkeyEnabled_(preferences.value(u"hotkeyEnabled"_s).toBool(true)),
       lastTab_(preferences.value(u"lastTab"_s).toString(u"Clipboard"_s)),
       pinnedBar_(preferences.value(u"pinnedBar"_s).toBool(false)),
@@ -112,6 +115,10 @@ void AppSettings::setOnboarded(bool done) {
 void AppSettings::setLaunchAtLogin(bool on) {
     change(launchAtLogin_, on, &AppSettings::launchAtLoginChanged);
     applyLogin();
+}
+
+void AppSettings::refreshLaunchAtLogin() {
+    change(launchAtLogin_, loginItem_.isEnabled(), &AppSettings::launchAtLoginChanged);
 }
 
 void AppSettings::applyLogin() {

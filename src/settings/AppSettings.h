@@ -10,7 +10,7 @@ class LoginItem;
 class Preferences;
 
 /// The user's preferences, read once at construction and written back as they are set. A value of
-/// the wrong type counts as absent.
+/// the wrong type counts as absent, a number beyond its range as the nearest in it.
 /// Main thread only.
 class AppSettings : public QObject {
     Q_OBJECT
@@ -49,6 +49,9 @@ public:
     void setMacType(const QString& type);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at every call.
+
+    /// Reads anew what else may change: desktops have settings for it, too.
+    void refreshLaunchAtLogin();
 
     /// Registers the program to start at login, once in the life of an installation.
     void setupLoginItemDefaultIfNeeded();

@@ -19,6 +19,7 @@ int SettingsWindow::clipCount() const {
 }
 
 void SettingsWindow::show() {
+    subjects_.settings.refreshLaunchAtLogin();
     if (!window_) {
         window_ =
             std::make_unique<TitledWindow>(subjects_.panel, u"Ravelo Settings"_s, QSize(460, 600));

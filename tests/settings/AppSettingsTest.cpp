@@ -8,6 +8,8 @@
 
 #include <gtest/gtest.h>
 
+#include <array>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -80,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
     Table, SettingsField,
     testing::Values(Field{"bgOpacity", &AppSettings::bgOpacityChanged, 0.55, 0.8, u"0.8"_s},
                     Field{"fullBlack", &AppSettings::fullBlackChanged, false, true, 1},
-                    Field{"panelWidth", &AppSettings::panelWidthChanged, 927.0, 1100.5, u"1100"_s},
+                    Field{"panelWidth", &AppSettings::panelWidthChanged, 927.0, 1040.5, u"1100"_s},
                     Field{"hotkeyEnabled", &AppSettings::hotkeyEnabledChanged, true, false,
                           u"false"_s, WrittenBack::no},
                     Field{"lastTab", &AppSettings::lastTabChanged, u"Clipboard"_s, u"Notes"_s, 3},
@@ -88,6 +90,19 @@ INSTANTIATE_TEST_SUITE_P(
                           WrittenBack::no},
                     Field{"macType", &AppSettings::macTypeChanged, u"auto"_s, u"notch"_s, true},
                     Field{"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}));
+
+TEST(SettingsRange, IsThatOfTheSliders) {
+    for (const auto& [stored, width, opacity] :
+         {std::array{-5.0, 560.0, 0.3}, std::array{1e300, 1100.0, 0.85}}) {
+        MemoryPreferences preferences;
+        FakeLoginItem loginItem;
+        preferences.set(u"panelWidth"_s, stored);
+        preferences.set(u"bgOpacity"_s, stored);
+        const AppSettings settings(preferences, loginItem);
+        EXPECT_EQ(settings.panelWidth(), width) << stored;
+        EXPECT_EQ(settings.bgOpacity(), opacity) << stored;
+    }
+}
 
 class LoginSetting : public testing::Test {
 protected:
