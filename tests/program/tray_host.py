@@ -19,7 +19,9 @@ WATCHER_INTERFACE = Gio.DBusNodeInfo.new_for_xml(f"""<node><interface name="{WAT
 class TrayHost:
     """Lives as long as its connection. Its calls run the main context, so that it can answer."""
 
-    def __init__(self, address):
+    def __init__(self, address, shows=True):
+        """`shows` may change: whether a host has registered that shows what the watcher lists."""
+        self.shows, self.asked = shows, False
         self._bus = Gio.DBusConnection.new_for_address_sync(
             address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
             | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
@@ -43,7 +45,8 @@ class TrayHost:
         invocation.return_value(None)
 
     def _told(self, _bus, _sender, _path, _interface, name):
-        return {"IsStatusNotifierHostRegistered": GLib.Variant("b", True),
+        self.asked = self.asked or name == "IsStatusNotifierHostRegistered"
+        return {"IsStatusNotifierHostRegistered": GLib.Variant("b", self.shows),
                 "RegisteredStatusNotifierItems": GLib.Variant("as", self.items),
                 "ProtocolVersion": GLib.Variant("i", 0)}[name]
 

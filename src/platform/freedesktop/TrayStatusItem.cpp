@@ -4,6 +4,7 @@
 #include "platform/TrayArea.h"
 #include "platform/freedesktop/BusCall.h"
 
+#include <QDBusVariant>
 #include <QIcon>
 #include <QIconEngine>
 #include <QMenu>
@@ -25,6 +26,8 @@ const auto watcherName = u"org.kde.StatusNotifierWatcher"_s;
 constexpr Seconds patience{2};
 
 constexpr std::chrono::seconds questionTimeOut{25};
+
+constexpr int mostLooks = 60; ///< For a host: two minutes, longer than a login takes.
 
 /// Bars are dark more often than not.
 constexpr QColor unknownForeground(255, 255, 255, 235);
@@ -110,7 +113,8 @@ void TrayStatusItem::show(Draw icon, QList<Row> menu) {
                                        u"org.freedesktop.DBus"_s, u"NameHasOwner"_s);
     call << watcherName;
     question_ = callBus(bus_, call, questionTimeOut, [this](const QDBusMessage& reply) {
-        watcherCameOrWent(reply.arguments().value(0).toBool());
+        watcherCameOrWent(reply.type() == QDBusMessage::ReplyMessage &&
+                          reply.arguments().value(0).toBool());
     });
     areaChanged();
 }
@@ -122,9 +126,31 @@ void TrayStatusItem::setToolTip(const QString& text) {
 }
 
 void TrayStatusItem::watcherCameOrWent(bool isThere) {
+    question_.reset();
+    nextLook_.reset();
     if (isThere && !icon_) {
-        makeIcon();
+        looks_ = 0;
+        lookForHost();
     }
+}
+
+/// Qt asks once whether anybody shows what the watcher lists, and waits for the answer: so it is
+/// asked here until it is so, as for some seconds of a login it is not.
+void TrayStatusItem::lookForHost() {
+    auto call = QDBusMessage::createMethodCall(watcherName, u"/StatusNotifierWatcher"_s,
+                                               u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
+    call << watcherName << u"IsStatusNotifierHostRegistered"_s;
+    question_ = callBus(bus_, call, questionTimeOut, [this](const QDBusMessage& reply) {
+        if (icon_) {
+            return;
+        }
+        if (reply.type() == QDBusMessage::ReplyMessage &&
+            reply.arguments().value(0).value<QDBusVariant>().variant().toBool()) {
+            makeIcon();
+        } else if (++looks_ < mostLooks) {
+            nextLook_ = scheduler_.after(patience, [this] { lookForHost(); });
+        }
+    });
 }
 
 void TrayStatusItem::areaChanged() {

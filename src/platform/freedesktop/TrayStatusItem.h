@@ -30,6 +30,7 @@ public:
 
 private:
     void watcherCameOrWent(bool isThere);
+    void lookForHost();
     void areaChanged();
     void makeIcon();
     [[nodiscard]] QIcon drawn() const;
@@ -43,6 +44,8 @@ private:
     std::unique_ptr<QMenu> menu_; ///< Outlives the icon.
     std::unique_ptr<QSystemTrayIcon> icon_;
     Handle question_;
+    Handle nextLook_;
+    int looks_ = 0;
     Handle patience_;
     Handle areaChange_;
 };
