@@ -160,13 +160,16 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                  *jobs_, shelf_->opener, shelf_->icons},
                 QLocale());
     provideWindows();
+    const auto checkUpdates = [this] {
+        updateWindow_->show();
+    };
     statusItem_ = std::make_unique<StatusItemController>(
         StatusItemController::Services{*tray_, *notch_, LiveContext::shared(), *scheduler_,
-                                       [this] { updateWindow_->show(); }, quitLater},
+                                       checkUpdates, quitLater},
         QLocale());
     commands_ = std::make_unique<Commands>(
         Commands::Services{*store_, *notch_, *scheduler_, LiveContext::shared(),
-                           PlanUsage::shared(), [this] { showSetup(); }, quitLater});
+                           PlanUsage::shared(), [this] { showSetup(); }, checkUpdates, quitLater});
     wire();
     if (!settings_->onboarded()) {
         showSetup();

@@ -18,6 +18,7 @@ Result<Command> parseOption(const QList<QByteArray>& arguments) {
         {"--toggle", {Kind::ask, {u"toggle"_s}, {}, IfNoneRuns::startAndAsk}},
         {"--settings", {Kind::ask, {u"settings"_s}, {}, IfNoneRuns::startAndAsk}},
         {"--setup", {Kind::ask, {u"setup"_s}, {}, IfNoneRuns::startAndAsk}},
+        {"--updates", {Kind::ask, {u"updates"_s}, {}, IfNoneRuns::startAndAsk}},
         {"--quit", {Kind::ask, {u"quit"_s}, {}, IfNoneRuns::fail}},
         {"--status", {Kind::ask, {u"status"_s}, {}, IfNoneRuns::readFiles}},
         {"--status=json", {Kind::ask, {u"status"_s, u"--json"_s}, {}, IfNoneRuns::readFiles}},
@@ -87,6 +88,7 @@ screen. Move the pointer there to open it; click elsewhere to close it.
   --toggle       open the panel, or close it; starts Ravelo where it is not running
   --settings     open the settings; starts Ravelo where it is not running
   --setup        go through the first-run setup again; starts it likewise
+  --updates      look for a newer version; starts it likewise
   --quit         end the running Ravelo
   --status       one line on Claude Code: model, context used / limit, peak hours,
                  and how much of the plan's five-hour and weekly windows is used;

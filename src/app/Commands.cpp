@@ -83,6 +83,11 @@ Answer setup(const Services& services, const QStringList& /*arguments*/) {
     return {};
 }
 
+Answer updates(const Services& services, const QStringList& /*arguments*/) {
+    services.checkUpdates();
+    return {};
+}
+
 Answer quit(const Services& services, const QStringList& /*arguments*/) {
     services.quit();
     return {};
@@ -195,6 +200,7 @@ const Row* rowFor(const QStringList& request) {
         {{u"toggle"_s}, nothing, toggle},
         {{u"settings"_s}, nothing, settings},
         {{u"setup"_s}, nothing, setup},
+        {{u"updates"_s}, nothing, updates},
         {{u"quit"_s}, nothing, quit},
         {{u"status"_s}, jsonAtMost, status},
         {{u"open"_s}, files, open},

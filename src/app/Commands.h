@@ -17,7 +17,8 @@ class Store;
 
 /// What the running program can be asked for by another start of it. A request is the words of the
 /// command line after the program's name, but for these: "show", "toggle", "settings", "setup",
-/// "quit", "status", and "open" with the absolute paths or file URLs of what to park. Main thread.
+/// "updates", "quit", "status", and "open" with the absolute paths or file URLs of what to park.
+/// Main thread.
 class Commands {
 public:
     struct Services {
@@ -27,6 +28,7 @@ public:
         const LiveContext& context;
         const PlanUsage& usage;
         std::function<void()> showSetup;
+        std::function<void()> checkUpdates;
         std::function<void()> quit; ///< Later than at once: who asks for it wants an answer.
     };
 

@@ -7,6 +7,10 @@
 #include "panel/NotchController.h"
 #include "platform/StatusItem.h"
 
+#include <QGuiApplication>
+#include <QKeyEvent>
+
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
@@ -23,23 +27,23 @@ StatusItemController::StatusItemController(Services services, const QLocale& loc
             callback();
         }
     };
-    const QKeySequence settingsKeys(Qt::CTRL | Qt::Key_Comma);
-    const QKeySequence quitKeys(Qt::CTRL | Qt::Key_Q);
-    services_.item.show(drawStatusIcon, {
-                                            {u"Open Ravelo"_s, {}, open},
-                                            {u"Settings…"_s, settingsKeys,
-                                             [=, this] {
-                                                 run(onSettings);
-                                             }},
-                                            {u"Set Up Ravelo Again…"_s,
-                                             {},
-                                             [=, this] {
-                                                 run(onSetup);
-                                             }},
-                                            {u"Check for Updates…"_s, {}, services_.checkUpdates},
-                                            {},
-                                            {u"Quit Ravelo"_s, quitKeys, services_.quit},
-                                        });
+    menu_ = {
+        {u"Open Ravelo"_s, {}, open},
+        {u"Settings…"_s, QKeySequence(Qt::CTRL | Qt::Key_Comma),
+         [=, this] {
+             run(onSettings);
+         }},
+        {u"Set Up Ravelo Again…"_s,
+         {},
+         [=, this] {
+             run(onSetup);
+         }},
+        {u"Check for Updates…"_s, {}, services_.checkUpdates},
+        {},
+        {u"Quit Ravelo"_s, QKeySequence(Qt::CTRL | Qt::Key_Q), services_.quit},
+    };
+    services_.item.show(drawStatusIcon, menu_);
+    qGuiApp->installEventFilter(this);
     services_.context.onChange = [this] {
         updateTitle();
     };
@@ -56,6 +60,22 @@ void StatusItemController::updateTitle() {
     const MonitorStatus status{context.model(),        context.used(),    context.limit(),
                                context.lastActivity(), PeakInfo::at(now), {}};
     services_.item.setToolTip(contextLine(status, now, locale_));
+}
+
+bool StatusItemController::eventFilter(QObject* target, QEvent* event) {
+    if (event->type() != QEvent::KeyPress || !target->isWindowType()) {
+        return false;
+    }
+    const QKeySequence pressed(static_cast<QKeyEvent*>(event)->keyCombination());
+    if (pressed.isEmpty()) {
+        return false; // Qt has no name for the key: it would be every row's that has none.
+    }
+    const auto row = std::ranges::find(menu_, pressed, &StatusItem::Row::keys);
+    if (row == menu_.end()) {
+        return false;
+    }
+    row->action();
+    return true;
 }
 
 } // namespace ravelo

@@ -1,8 +1,10 @@
 #pragma once
 
 #include "base/Date.h"
+#include "platform/StatusItem.h"
 
 #include <QLocale>
+#include <QObject>
 
 #include <functional>
 
@@ -11,11 +13,10 @@ namespace ravelo {
 class LiveContext;
 class NotchController;
 class Scheduler;
-class StatusItem;
 
-/// The program's item in the bar of the desktop: its menu, and a tooltip with how full the context
-/// of the newest session is. Main thread.
-class StatusItemController {
+/// The program's item in the bar of the desktop: its menu, whose keys work in all windows of the
+/// program, and a tooltip with how full the context of the newest session is. Main thread.
+class StatusItemController : public QObject {
 public:
     struct Services {
         StatusItem& item;
@@ -28,9 +29,7 @@ public:
 
     /// They outlive it.
     StatusItemController(Services services, const QLocale& locale);
-    ~StatusItemController();
-    StatusItemController(const StatusItemController&) = delete;
-    StatusItemController& operator=(const StatusItemController&) = delete;
+    ~StatusItemController() override;
 
     std::function<void()> onSettings;
 
@@ -39,9 +38,12 @@ public:
 
     void updateTitle();
 
+    bool eventFilter(QObject* target, QEvent* event) override;
+
 private:
     Services services_;
     QLocale locale_;
+    QList<StatusItem::Row> menu_;
 };
 
 } // namespace ravelo

@@ -65,7 +65,7 @@ int run(const Command& command, char** argv) {
     const std::jthread fonts = readFontConfiguration();
     const QApplication application(nameAlone, argv); // The status item is made of widgets.
     preparation.reset();
-    QApplication::setApplicationName(u"ravelo"_s);
+    QApplication::setApplicationName(u"Ravelo"_s);
     QApplication::setDesktopFileName(u"org.ravelo.Ravelo"_s);
     QApplication::setQuitOnLastWindowClosed(false);
 
@@ -99,10 +99,10 @@ int ask(Command command, char** argv) {
     if (found.paths.isEmpty() && !found.errors.isEmpty()) {
         return EXIT_FAILURE;
     }
-    std::optional<int> status;
-    if (command.ifNoneRuns != Command::IfNoneRuns::startAndAsk || AppDelegate::mayRunAlready()) {
-        status = askElsewhere(command.request, argv);
-    }
+    const bool starts = command.ifNoneRuns == Command::IfNoneRuns::start ||
+                        command.ifNoneRuns == Command::IfNoneRuns::startAndAsk;
+    auto status = starts && !AppDelegate::mayRunAlready() ? std::nullopt
+                                                          : askElsewhere(command.request, argv);
     if (!status && command.ifNoneRuns == Command::IfNoneRuns::readFiles) {
         return report(statusFromFiles(command.request.mid(1)));
     }

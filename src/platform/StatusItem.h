@@ -18,7 +18,7 @@ public:
     /// Without a title it is a separator.
     struct Row {
         QString title;
-        QKeySequence keys; ///< Told to the user; nothing listens to them.
+        QKeySequence keys; ///< Told to the user; the item itself listens to none.
         std::function<void()> action;
     };
 

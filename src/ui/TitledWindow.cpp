@@ -4,6 +4,8 @@
 #include <QQmlEngine>
 #include <QScreen>
 
+#include <algorithm>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -36,7 +38,9 @@ void TitledWindow::bringToFront() {
         raise();
     } else {
         QRect place(QPoint(), size());
-        place.moveCenter(panel_.screen()->availableGeometry().center());
+        const QRect room = panel_.screen()->availableGeometry();
+        place.moveCenter(room.center());
+        place.moveTop(std::max(place.top(), room.top())); // With its title, where it is too high.
         setGeometry(place);
         show();
     }

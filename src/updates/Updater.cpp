@@ -32,7 +32,7 @@ double Updater::progress() const {
 }
 
 void Updater::checkForUpdates() {
-    if (isBusy()) {
+    if (isBusy() || state_.phase == UpdateState::Phase::installed) { // Until it is started anew.
         return;
     }
     become({UpdateState::Phase::checking, {}, {}, {}});

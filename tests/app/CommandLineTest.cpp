@@ -34,6 +34,7 @@ TEST(CommandLine, IsUnderstood) {
         {{"--toggle"}, {Kind::ask, {u"toggle"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--settings"}, {Kind::ask, {u"settings"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--setup"}, {Kind::ask, {u"setup"_s}, {}, IfNoneRuns::startAndAsk}},
+        {{"--updates"}, {Kind::ask, {u"updates"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--quit"}, asks({u"quit"_s})},
         {{"--status=json"}, {Kind::ask, {u"status"_s, u"--json"_s}, {}, IfNoneRuns::readFiles}},
         {{"--store-usage"}, {Kind::storeUsage, {}, {}, {}}},

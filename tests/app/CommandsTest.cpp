@@ -33,8 +33,9 @@ protected:
     LiveContext context_{
         {world_.scheduler, plan_.jobs}, plan_.home(), std::make_unique<InotifyChanges>()};
     int setups_ = 0;
+    int looks_ = 0; ///< For updates.
     Commands commands_{{world_.store, world_.controller, world_.scheduler, context_, plan_.usage,
-                        [this] { ++setups_; },
+                        [this] { ++setups_; }, [this] { ++looks_; },
                         [] {
                         }}};
 };
@@ -152,6 +153,8 @@ TEST_F(CommandsTest, AsksForTheOtherWindows) {
     EXPECT_EQ(answer({u"show"_s}), Answer());
     EXPECT_EQ(answer({u"setup"_s}), Answer());
     EXPECT_EQ(setups_, 1);
+    EXPECT_EQ(answer({u"updates"_s}), Answer());
+    EXPECT_EQ(looks_, 1);
     EXPECT_TRUE(world_.controller.isOpen());
     EXPECT_EQ(answer({u"settings"_s}), Answer());
     EXPECT_EQ(settings.count(), 1);

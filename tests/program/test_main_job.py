@@ -399,7 +399,7 @@ class AssistiveCase:
     def told(self):
         """All that can be seen."""
         peer = pathlib.Path(__file__).with_name("atspi_peer.py")
-        lines = self.desktop.run("/usr/bin/python3", peer, "ravelo").splitlines()
+        lines = self.desktop.run("/usr/bin/python3", peer, "Ravelo").splitlines()
         return [node for node in map(json.loads, lines) if node["showing"]]
 
 
@@ -452,7 +452,7 @@ class Windows(AssistiveCase, ProgramCase):
         self.desktop.run("xdotool", "mouseup", 1)
         wait_for(lambda: self.ravelo.window(self.SETUP)[1:3] == (setup.x + 60, setup.y + 30),
                  lambda: f"the window moved by its strip: {self.ravelo.window(self.SETUP)}")
-        self.press("Return", "Tab", "Tab")
+        self.press("Return", "Tab")
         options = wait_for(lambda: [
             (node["name"], node["description"], node["checked"]) for node in self.told()
             if node["role"] == "radio button"], "the three options")
@@ -480,11 +480,14 @@ class Windows(AssistiveCase, ProgramCase):
         self.desktop.click(panel.x + panel.width - GEAR_RIGHT, TOP_BAR)
         window = self.expect_window(self.SETTINGS)
         self.assertTrue(self.ravelo.is_collapsed(), "the panel makes room")
-        self.press(*["Tab"] * 5, "End")
+        self.press(*["Tab"] * 4, "End")
         wait_for(lambda: self.ravelo.preferences().get("panelWidth") == 1100, "1100 on disk")
         self.desktop.click(window.x + window.width - 22, window.y + 20)
         self.expect_none()
-        self.assertEqual(self.ravelo.call("--settings"), (0, ""))
+        self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
+        wait_for(lambda: self.desktop.focused_window() == str(self.ravelo.panel().window),
+                 "the keyboard in the panel")
+        self.press("ctrl+comma")  # As the menu of the status item says.
         window = self.expect_window(self.SETTINGS)
         self.desktop.click(window.x + window.width - 60, window.y + window.height - 32)
         self.wait_for_end()
@@ -735,6 +738,15 @@ class Tray(ProgramCase):
         with (folder / "session.jsonl").open("a") as file:
             print(json.dumps({"type": "assistant", "message": {"model": "claude-opus-4-6",
                                                                "usage": usage}}), file=file)
+
+    def test_waits_for_somebody_who_shows_it(self):
+        host = TrayHost(self.desktop.env["DBUS_SESSION_BUS_ADDRESS"], shows=False)
+        self.ravelo.start()
+        wait_for(lambda: host.serve().asked, "the question whether anybody shows it")
+        self.assertEqual(host.items, [])
+        host.shows = True
+        wait_for(lambda: host.serve().items, "the item")
+        self.assertEqual(host.read("Title"), "Ravelo")
 
     def test_follows_the_session_and_does_what_its_menu_says(self):
         self.ravelo.start()

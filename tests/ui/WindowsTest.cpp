@@ -70,8 +70,8 @@ public:
 };
 
 TEST_F(Settings, EachControlKeepsWhatTheKeyboardSetsAtOnce) {
-    for (const char* next : {"close", "launchAtLogin", "fullBlack", "darkness", "panelWidth",
-                             "clearHistory", "quit", "close"}) {
+    for (const char* next : {"launchAtLogin", "fullBlack", "darkness", "panelWidth", "clearHistory",
+                             "quit", "close", "launchAtLogin"}) {
         press(*window, Qt::Key_Tab);
         EXPECT_TRUE(hasFocus(in(window, QString::fromUtf8(next)))) << next;
     }
@@ -248,7 +248,7 @@ TEST_F(Setup, IsDoneByTheKeyboardAlone) {
     };
     press(*window, Qt::Key_Return);
     EXPECT_FALSE(in(window, u"start"_s)->isVisible());
-    for (const char* next : {"close", "auto", "notch"}) {
+    for (const char* next : {"auto", "notch"}) {
         press(*window, Qt::Key_Tab);
         EXPECT_TRUE(hasFocus(in(window, QString::fromUtf8(next)))) << next;
     }

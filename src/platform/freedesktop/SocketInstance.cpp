@@ -76,7 +76,7 @@ SocketInstance::SocketInstance() : lock_(socketPath() + u".lock"_s) {
 
 std::unique_ptr<SocketInstance> SocketInstance::claim() {
     std::unique_ptr<SocketInstance> instance(new SocketInstance);
-    if (!instance->lock_.tryLock()) {
+    if (!instance->lock_.tryLock(300)) { // Who only asks holds it for a moment.
         return nullptr;
     }
     QLocalServer::removeServer(socketPath()); // Left by one that was killed.

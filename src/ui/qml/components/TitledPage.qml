@@ -21,6 +21,12 @@ FocusScope {
         lineWidth: 1
     }
 
+    // Before the strip: by Tab its button comes last.
+    Item {
+        id: body
+        anchors.fill: parent
+    }
+
     Item {
         id: strip
         objectName: "strip"
@@ -55,10 +61,5 @@ FocusScope {
             name: "Close"
             onClicked: page.Window.window.close()
         }
-    }
-
-    Item {
-        id: body
-        anchors.fill: parent
     }
 }

@@ -24,6 +24,8 @@ TitledPage {
         x: 20
         y: 82
         width: parent.width - 40
+        maximumLineCount: 3
+        elide: Text.ElideRight
         text: view.updater.details
     }
 
