@@ -64,7 +64,7 @@ Result<void> AutostartEntry::setEnabled(bool enabled) {
                           u"Type=Application\n"
                           u"Name=Ravelo\n"
                           u"Exec=%1\n"
-                          u"Icon=ravelo\n"
+                          u"Icon=org.ravelo.Ravelo\n"
                           u"Terminal=false\n"
                           u"X-GNOME-Autostart-enabled=true\n"_s;
     QDir().mkpath(QFileInfo(path_).path());
