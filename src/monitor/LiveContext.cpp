@@ -41,11 +41,15 @@ void LiveContext::refresh() {
         tell();
         return;
     }
-    auto reading = std::make_shared<ContextReading>();
+    auto reading = std::make_shared<std::optional<ContextReading>>();
     reading_ = services_.jobs.run([reader = reader_, reading] { *reading = reader->read(); },
                                   [this, reading] {
                                       reading_.reset();
-                                      take(*reading);
+                                      if (*reading) {
+                                          take(**reading);
+                                      } else { // Nobody has looked: all stays as it is.
+                                          tell();
+                                      }
                                   });
 }
 

@@ -33,7 +33,10 @@ Result<void> storeUsage(const QByteArray& home, const QByteArray& statusLine) {
     if (!kept) {
         return failure(u"there are no rate limits in what was given"_s);
     }
-    makePrivateFolder(QFile::decodeName(folder(home)));
+    const QString own = QFile::decodeName(folder(home));
+    if (!QFile::exists(own)) { // Who made it before chose its rights.
+        makePrivateFolder(own);
+    }
     if (const QString path = QFile::decodeName(file(home)); !writeFileAtomically(path, *kept)) {
         return failure(u"cannot write "_s + path);
     }

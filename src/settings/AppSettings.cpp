@@ -5,20 +5,27 @@
 
 #include <QLoggingCategory>
 
-#include <algorithm>
-
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
-// QJsonValue's readers answer the default for a missing value and for one of another type. A number
-// that no slider gives would make a panel that nobody can use.
+namespace {
+
+/// A number that leaves nothing to be seen or used counts as absent.
+double usable(const QJsonValue& value, double lowest, double highest, double standard) {
+    const double number = value.toDouble(standard);
+    return number >= lowest && number <= highest ? number : standard;
+}
+
+} // namespace
+
+// QJsonValue's readers answer the default for a missing value and for one of another type.
 AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
     : preferences_(preferences),
       loginItem_(loginItem),
-      bgOpacity_(std::clamp(preferences.value(u"bgOpacity"_s).toDouble(0.55), 0.3, 0.85)),
+      bgOpacity_(usable(preferences.value(u"bgOpacity"_s), 0, 1, 0.55)),
       fullBlack_(preferences.value(u"fullBlack"_s).toBool(false)),
-      panelWidth_(std::clamp(preferences.value(u"panelWidth"_s).toDouble(927), 560.0, 1100.0)),
+      panelWidth_(usable(preferences.value(u"panelWidth"_s), 200, 10000, 927)),
       hotkeyEnabled_(preferences.value(u"hotkeyEnabled"_s).toBool(true)),
       lastTab_(preferences.value(u"lastTab"_s).toString(u"Clipboard"_s)),
       pinnedBar_(preferences.value(u"pinnedBar"_s).toBool(false)),

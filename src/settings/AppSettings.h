@@ -10,7 +10,8 @@ class LoginItem;
 class Preferences;
 
 /// The user's preferences, read once at construction and written back as they are set. A value of
-/// the wrong type counts as absent, a number beyond its range as the nearest in it.
+/// the wrong type counts as absent, and so does a number with
+/// which the panel could not be seen or used; one beyond the sliders is used.
 /// Main thread only.
 class AppSettings : public QObject {
     Q_OBJECT

@@ -91,9 +91,10 @@ INSTANTIATE_TEST_SUITE_P(
                     Field{"macType", &AppSettings::macTypeChanged, u"auto"_s, u"notch"_s, true},
                     Field{"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}));
 
-TEST(SettingsRange, IsThatOfTheSliders) {
+TEST(SettingsRange, IsWhatCanBeSeen) {
     for (const auto& [stored, width, opacity] :
-         {std::array{-5.0, 560.0, 0.3}, std::array{1e300, 1100.0, 0.85}}) {
+         {std::array{-5.0, 927.0, 0.55}, std::array{1e300, 927.0, 0.55},
+          std::array{0.9, 927.0, 0.9}, std::array{400.0, 400.0, 0.55}}) {
         MemoryPreferences preferences;
         FakeLoginItem loginItem;
         preferences.set(u"panelWidth"_s, stored);

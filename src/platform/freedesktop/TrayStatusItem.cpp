@@ -11,6 +11,7 @@
 #include <QPainter>
 #include <QSystemTrayIcon>
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
@@ -27,7 +28,8 @@ constexpr Seconds patience{2};
 
 constexpr std::chrono::seconds questionTimeOut{25};
 
-constexpr int mostLooks = 60; ///< For a host: two minutes, longer than a login takes.
+constexpr int quickLooks = 60;   ///< For a host: two minutes, longer than a login takes.
+constexpr Seconds slowLooks{60}; ///< From then on: a bar may be started by hand at any time.
 
 /// Bars are dark more often than not.
 constexpr QColor unknownForeground(255, 255, 255, 235);
@@ -147,8 +149,10 @@ void TrayStatusItem::lookForHost() {
         if (reply.type() == QDBusMessage::ReplyMessage &&
             reply.arguments().value(0).value<QDBusVariant>().variant().toBool()) {
             makeIcon();
-        } else if (++looks_ < mostLooks) {
-            nextLook_ = scheduler_.after(patience, [this] { lookForHost(); });
+        } else {
+            looks_ = std::min(looks_ + 1, quickLooks);
+            nextLook_ = scheduler_.after(looks_ < quickLooks ? patience : slowLooks,
+                                         [this] { lookForHost(); });
         }
     });
 }

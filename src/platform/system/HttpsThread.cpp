@@ -2,12 +2,15 @@
 
 #include <QEventLoop>
 #include <QNetworkAccessManager>
+#include <QNetworkProxy>
 #include <QNetworkReply>
 #include <QNetworkRequest>
 #include <QThread>
 #include <QTimer>
 
 #include <netdb.h>
+#include <sys/socket.h>
+#include <unistd.h>
 
 #include <utility>
 
@@ -17,8 +20,18 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// The first address of a host, an IPv4 one before others: those that have both mostly have that
-/// one working. Blocks, for as long as name servers please.
+/// Whether there is a way to an address. Asks the kernel alone, and sends nothing.
+bool isRoutable(const addrinfo& one) {
+    const int probe = socket(one.ai_family, SOCK_DGRAM | SOCK_CLOEXEC, 0);
+    const bool is = probe >= 0 && connect(probe, one.ai_addr, one.ai_addrlen) == 0;
+    if (probe >= 0) {
+        close(probe);
+    }
+    return is;
+}
+
+/// The first address of a host, an IPv4 one with a way to it before others: those that have both
+/// mostly have that one working. Blocks, for as long as name servers please.
 QHostAddress addressOf(const QString& host) {
     addrinfo hints = {};
     hints.ai_socktype = SOCK_STREAM;
@@ -30,7 +43,8 @@ QHostAddress addressOf(const QString& host) {
     QHostAddress address;
     for (const addrinfo* one = found; one != nullptr; one = one->ai_next) {
         if (address.isNull() ||
-            (one->ai_family == AF_INET && address.protocol() != QAbstractSocket::IPv4Protocol)) {
+            (one->ai_family == AF_INET && address.protocol() != QAbstractSocket::IPv4Protocol &&
+             isRoutable(*one))) {
             address = QHostAddress(one->ai_addr);
         }
     }
@@ -73,6 +87,7 @@ bool isBroken(const QNetworkReply& reply) {
 std::optional<HttpsAnswer> answerTo(const QNetworkRequest& request, qint64 largest) {
     QEventLoop loop;
     QNetworkAccessManager manager;
+    manager.setProxy(QNetworkProxy::NoProxy); // The system's is looked for by calls without an end.
     const std::unique_ptr<QNetworkReply> reply(manager.get(request));
     reply->setReadBufferSize(largest + 1);
     QObject::connect(reply.get(), &QNetworkReply::finished, &loop, &QEventLoop::quit);
