@@ -97,25 +97,33 @@ def family(process):
     return known
 
 
-def use(process):
-    """What all threads of a process, and of those it has started, have used up to now."""
-    total = [0, 0, 0]
+def uses(process):
+    """What each thread of a process, and of those it has started, has used up to now."""
+    found = {}
     for member in family(process):
         for thread in pathlib.Path(f"/proc/{member}/task").iterdir():
-            status = dict(line.split(":\t", 1)
-                          for line in (thread / "status").read_text().splitlines()
-                          if "ctxt_switches" in line)
-            total[0] += int(status["voluntary_ctxt_switches"])
-            total[1] += int(status["nonvoluntary_ctxt_switches"])
-            total[2] += int((thread / "schedstat").read_text().split()[0]) / 1e9
-    return Use(*total)
+            with contextlib.suppress(FileNotFoundError, ProcessLookupError):  # It has just ended.
+                status = dict(line.split(":\t", 1)
+                              for line in (thread / "status").read_text().splitlines()
+                              if "ctxt_switches" in line)
+                found[thread.name] = Use(int(status["voluntary_ctxt_switches"]),
+                                         int(status["nonvoluntary_ctxt_switches"]),
+                                         int((thread / "schedstat").read_text().split()[0]) / 1e9)
+    return found
+
+
+def use(process):
+    """The same of all together."""
+    return Use(*map(sum, zip(*uses(process).values())))
 
 
 def use_a_second(process, seconds):
-    before, begin = use(process), time.monotonic()
+    """Of the threads that there are at the end: what one used that has ended is not known."""
+    before, begin = uses(process), time.monotonic()
     time.sleep(seconds)
-    after, passed = use(process), time.monotonic() - begin
-    return Use(*((b - a) / passed for a, b in zip(before, after)))
+    after, passed = uses(process), time.monotonic() - begin
+    pairs = [(before.get(thread, Use(0, 0, 0)), now) for thread, now in after.items()]
+    return Use(*(sum(now[part] - then[part] for then, now in pairs) / passed for part in range(3)))
 
 
 def memory(process):

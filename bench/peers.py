@@ -61,4 +61,7 @@ def peers(options):
     own = live([BUILD / "ravelo"], options.rest)
     for name, command in PEERS.items():
         if shutil.which(command[0]):
-            yield from rows(name, own, live(command, options.rest))
+            try:
+                yield from rows(name, own, live(command, options.rest))
+            except AssertionError as error:  # It does not run everywhere.
+                print(f"{name}: {error}", flush=True)
