@@ -1,7 +1,6 @@
-// bench_transcripts COUNT: how long it takes to find the newest of 6,000 transcripts, one of 300 MB,
-// COUNT times.
-// A line each: milliseconds of the first look, of find(1) that only names them, and milliseconds of
-// processor time of a look when nothing is new.
+// bench_transcripts COUNT: finds the newest of 6,000 transcripts, one of 300 MB, COUNT times.
+// A line each: milliseconds of the first look, of find(1) that only names them, and milliseconds
+// of processor time of a look when nothing is new.
 // bench_transcripts HOME: makes the 6,000 below a home that has none.
 
 #include "monitor/ContextReader.h"
@@ -28,8 +27,9 @@ constexpr int idleLooks = 1000;
 constexpr auto turn = R"({"message":{"model":"claude-opus-4-6","usage":{"input_tokens":41500}}})"
                       "\n";
 // The newest is a session of weeks: 300 MB, of which only the end may be read.
-constexpr auto lastTurn = R"({"message":{"model":"claude-opus-4-6","usage":{"input_tokens":77000}}})"
-                          "\n";
+constexpr auto lastTurn =
+    R"({"message":{"model":"claude-opus-4-6","usage":{"input_tokens":77000}}})"
+    "\n";
 constexpr int lastTokens = 77000;
 constexpr qint64 longest = 300'000'000;
 
