@@ -41,12 +41,13 @@ std::optional<qint64> toInteger(const QJsonValue& value) {
     return value.toInteger(static_cast<qint64>(number));
 }
 
-qint64 tokenTotal(const QJsonObject& usage) {
+/// Nothing if 64 bits cannot hold the sum.
+std::optional<qint64> tokenTotal(const QJsonObject& usage) {
     qint64 total = 0;
     for (const auto& key :
          {"input_tokens"_L1, "cache_read_input_tokens"_L1, "cache_creation_input_tokens"_L1}) {
         if (__builtin_add_overflow(total, toInteger(usage.value(key)).value_or(0), &total)) {
-            qFatal("a transcript counts more tokens than a number can hold");
+            return std::nullopt;
         }
     }
     return total;
@@ -64,8 +65,8 @@ std::optional<TurnUsage> usageOf(QByteArrayView line) {
     if (!usage.isObject() || entry.value("isSidechain"_L1).toBool() || model.startsWith(u'<')) {
         return std::nullopt;
     }
-    const qint64 tokens = tokenTotal(usage.toObject());
-    return tokens >= 1 ? std::optional(TurnUsage{model, tokens}) : std::nullopt;
+    const std::optional<qint64> tokens = tokenTotal(usage.toObject());
+    return tokens && *tokens >= 1 ? std::optional(TurnUsage{model, *tokens}) : std::nullopt;
 }
 
 bool isDateStamp(const QString& piece) {

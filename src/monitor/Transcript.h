@@ -23,8 +23,8 @@ struct TurnUsage {
 
 /// The last turn that counts in the end of a transcript: of the session itself and of a real model,
 /// with tokens. Its first line may be cut. Nothing where no turn counts or the bytes are not UTF-8,
-/// as when they begin within a character. Counts whose sum no 64 bits hold are a fault that ends
-/// the process.
+/// as when they begin within a character. A line whose counts add up to more than 64 bits hold is
+/// ignored like any malformed one: a foreign file must not end the program.
 [[nodiscard]] std::optional<TurnUsage> lastUsage(QByteArrayView window);
 
 /// The limit of the context that the user set in Claude Code's settings file, as it stands there.

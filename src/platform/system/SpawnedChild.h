@@ -8,11 +8,14 @@
 namespace ravelo {
 
 /// By posix_spawn(3), and waited for by a thread that nobody waits for. The program's standard
-/// streams are pipes, to which nothing is ever written and of which nothing is read.
+/// streams are /dev/null. Its working directory is an empty folder that only this user can enter:
+/// many programs obey what they find where they are started. It is always the same folder, so that
+/// programs that remember where they ran remember one place; it is removed at the program's end.
 class SpawnedChild final : public ChildProcess {
 public:
-    /// `jobs` outlives it; `environment` is that of the programs.
-    SpawnedChild(DetachedJobs& jobs, const QProcessEnvironment& environment);
+    /// `jobs` outlives it; `environment` is that of the programs. The folder is made in `parent`,
+    /// a folder that no other user can write to.
+    SpawnedChild(DetachedJobs& jobs, const QProcessEnvironment& environment, QByteArray parent);
 
     [[nodiscard]] Handle run(const QByteArray& path, const QList<QByteArray>& arguments,
                              std::function<void()> done) override;
@@ -20,6 +23,7 @@ public:
 private:
     DetachedJobs& jobs_;
     QList<QByteArray> environment_;
+    QByteArray folder_;
 };
 
 } // namespace ravelo
