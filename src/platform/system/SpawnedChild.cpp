@@ -41,9 +41,10 @@ void remove(const QByteArray& folder) {
     }
 }
 
-/// Makes the folder anew: whatever an earlier run left in it goes.
+/// Empties the folder if an earlier run could not.
 bool makeEmpty(const QByteArray& folder) {
     remove(folder);
+    mkdir(folder.left(folder.lastIndexOf('/')).constData(), S_IRWXU); // As a rule it is there.
     return mkdir(folder.constData(), S_IRWXU) == 0;
 }
 
@@ -85,8 +86,8 @@ void runToItsEnd(const Program& program) {
 } // namespace
 
 SpawnedChild::SpawnedChild(DetachedJobs& jobs, const QProcessEnvironment& environment,
-                           QByteArray parent)
-    : jobs_(jobs), folder_(std::move(parent) + "/ravelo-renewal") {
+                           QByteArray folder)
+    : jobs_(jobs), folder_(std::move(folder)) {
     for (const QString& variable : environment.toStringList()) {
         environment_.append(variable.toLocal8Bit());
     }
