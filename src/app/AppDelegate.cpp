@@ -184,15 +184,19 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
 }
 
 void AppDelegate::provideMonitors() {
-    const QByteArray home = QFile::encodeName(QDir::homePath());
+    // What main() adds to the environment concerns none of these folders.
+    const QByteArrayList others =
+        otherClaudeFolders(home(), QProcessEnvironment::systemEnvironment());
     setMonitorPlatform(
-        {[this, home] {
-             return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_}, home,
-                                                  std::make_unique<InotifyChanges>());
+        {[this, others] {
+             return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_},
+                                                  home(), std::make_unique<InotifyChanges>(),
+                                                  others);
          },
-         [this, home] {
+         [this, others] {
              return std::make_unique<PlanUsage>(
-                 UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home);
+                 UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home(),
+                 PlanUsage::provider(), others);
          }});
 }
 

@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QUtf8StringView>
 
 #include <algorithm>
@@ -69,6 +70,15 @@ std::optional<TurnUsage> usageOf(QByteArrayView line) {
     return tokens && *tokens >= 1 ? std::optional(TurnUsage{model, *tokens}) : std::nullopt;
 }
 
+/// What others call a model that Bedrock calls "us.anthropic.claude-opus-4-6-v1:0", also at the end
+/// of a resource name.
+QString withoutBedrock(const QString& name) {
+    static const QRegularExpression form(
+        u"\\A(?:.*[./])?anthropic\\.(claude-.+?)(?:-v[0-9]+(?::[0-9a-z]+)*)?\\z"_s);
+    const QRegularExpressionMatch match = form.match(name);
+    return match.hasMatch() ? match.captured(1) : name;
+}
+
 bool isDateStamp(const QString& piece) {
     return piece.size() >= 8 && parseInteger(piece);
 }
@@ -89,6 +99,11 @@ std::optional<TurnUsage> lastUsage(QByteArrayView window) {
     return std::nullopt;
 }
 
+QByteArrayView afterFirstLine(QByteArrayView window) {
+    const qsizetype end = window.indexOf('\n');
+    return end < 0 ? QByteArrayView() : window.sliced(end + 1);
+}
+
 std::optional<qint64> compactWindow(QByteArrayView settings) {
     const QJsonValue value =
         QJsonDocument::fromJson(QByteArray::fromRawData(settings.data(), settings.size()))
@@ -101,7 +116,7 @@ std::optional<qint64> compactWindow(QByteArrayView settings) {
 
 QString prettyModel(const QString& raw) {
     QString plain = raw;
-    QStringList pieces = plain.remove(u"[1m]"_s).split(u'-', Qt::SkipEmptyParts);
+    QStringList pieces = withoutBedrock(plain.remove(u"[1m]"_s)).split(u'-', Qt::SkipEmptyParts);
     if (!pieces.isEmpty() && pieces.first() == "claude"_L1) {
         pieces.removeFirst();
     }

@@ -145,6 +145,12 @@ TEST(ModelName, isPretty) {
         {u"3-claude-x"_s, u"3 claude.x"_s},
         {u"opus--12345678901234567890-x2025100"_s, u"Opus 12345678901234567890.x2025100"_s},
         {u"éclair-[1m]1"_s, u"Éclair 1"_s},
+        {u"us.anthropic.claude-sonnet-4-5-20250929-v1:0"_s, u"Sonnet 4.5"_s},
+        {u"anthropic.claude-opus-4-6-v1[1m]"_s, u"Opus 4.6"_s},
+        {u"arn:aws:bedrock:us-east-1:1:inference-profile/eu.anthropic.claude-opus-4-20250514-v1:0"_s,
+         u"Opus 4"_s},
+        {u"arn:aws:bedrock:us-east-1:1:application-inference-profile/x"_s,
+         u"Arn:aws:bedrock:us east.1:1:application.inference.profile/x"_s},
     };
     for (const auto& [raw, pretty] : cases) {
         EXPECT_EQ(prettyModel(raw), pretty) << qPrintable(raw);
