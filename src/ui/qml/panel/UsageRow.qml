@@ -18,6 +18,7 @@ Item {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: title + " " + usage.percent + " " + usage.reset
+    Accessible.description: staleText
     implicitHeight: 27
 
     readonly property color bandColor: {
