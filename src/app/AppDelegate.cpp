@@ -5,6 +5,7 @@
 #include "app/StatusItemController.h"
 #include "base/Files.h"
 #include "clipboard/ClipboardManager.h"
+#include "monitor/ClaudeEnvironment.h"
 #include "monitor/LiveContext.h"
 #include "monitor/MonitorPlatform.h"
 #include "monitor/PlanUsage.h"
@@ -65,6 +66,10 @@ QString configFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
 }
 
+QByteArray home() {
+    return QFile::encodeName(QDir::homePath());
+}
+
 QDBusConnection systemBus() {
     return QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s);
 }
@@ -104,7 +109,8 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       jobs_(std::make_unique<DetachedThreads>()),
       secrets_(std::make_unique<SecretService>(sessionBus())),
       https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
-      children_(std::make_unique<SpawnedChild>(*jobs_, environment)),
+      children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
+                                               renewalFolder(home(), environment))),
       tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
       shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, display_.icons())),
       view_(std::make_unique<PanelView>()) {}
@@ -178,15 +184,19 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
 }
 
 void AppDelegate::provideMonitors() {
-    const QByteArray home = QFile::encodeName(QDir::homePath());
+    // What main() adds to the environment concerns none of these folders.
+    const QByteArrayList others =
+        otherClaudeFolders(home(), QProcessEnvironment::systemEnvironment());
     setMonitorPlatform(
-        {[this, home] {
-             return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_}, home,
-                                                  std::make_unique<InotifyChanges>());
+        {[this, others] {
+             return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_},
+                                                  home(), std::make_unique<InotifyChanges>(),
+                                                  others);
          },
-         [this, home] {
+         [this, others] {
              return std::make_unique<PlanUsage>(
-                 UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home);
+                 UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home(),
+                 PlanUsage::provider(), others);
          }});
 }
 

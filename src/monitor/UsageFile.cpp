@@ -5,6 +5,8 @@
 
 #include <QFile>
 
+#include <sys/stat.h>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -12,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 largest = qint64(1) << 20;
+constexpr double nanosecond = 1e-9;
 
 QByteArray folder(const QByteArray& home) {
     return home + "/.ravelo";
@@ -26,6 +29,16 @@ QByteArray file(const QByteArray& home) {
 std::optional<PlanWindows> loadUsage(const QByteArray& home) {
     const std::optional<QByteArray> bytes = readFileEnd(file(home), largest + 1);
     return bytes && bytes->size() <= largest ? readUsageFile(*bytes) : std::nullopt;
+}
+
+std::optional<Date> usageWritten(const QByteArray& home) {
+    struct stat info = {};
+    if (stat(file(home).constData(), &info) != 0) {
+        return std::nullopt;
+    }
+    const double seconds = static_cast<double>(info.st_mtim.tv_sec) +
+                           static_cast<double>(info.st_mtim.tv_nsec) * nanosecond;
+    return Date{seconds - referenceInstant};
 }
 
 Result<void> storeUsage(const QByteArray& home, const QByteArray& statusLine) {
