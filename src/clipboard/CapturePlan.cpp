@@ -44,4 +44,20 @@ QString capturedText(const PasteboardSnapshot& snapshot) {
         .trimmed();
 }
 
+bool isFromFile(const PasteboardSnapshot& snapshot) {
+    return capturedText(snapshot).isEmpty() &&
+           !snapshot.answers.value(filesType).value_or(QByteArray()).isEmpty();
+}
+
+std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot) {
+    if (!capturedText(snapshot).isEmpty() || hasGoodImage(snapshot)) {
+        return std::nullopt;
+    }
+    if (const auto text = snapshot.tooLarge.find(plainTextType); text != snapshot.tooLarge.end()) {
+        return TooLarge{TooLarge::Kind::text, *text};
+    }
+    const qint64 bytes = oversizedImage(snapshot);
+    return bytes > 0 ? std::optional(TooLarge{TooLarge::Kind::image, bytes}) : std::nullopt;
+}
+
 } // namespace ravelo

@@ -20,4 +20,21 @@ namespace ravelo {
 /// none.
 [[nodiscard]] QString capturedText(const PasteboardSnapshot& snapshot);
 
+/// A list of files: asked for only where there is no text and no picture itself.
+inline constexpr QLatin1StringView filesType("text/uri-list");
+
+/// Whether the image in it can only be that of a file that the owner named.
+[[nodiscard]] bool isFromFile(const PasteboardSnapshot& snapshot);
+
+/// A copy that was not kept because it is too large.
+struct TooLarge {
+    enum class Kind { text, image };
+
+    Kind kind;
+    qint64 bytes; ///< As far as known: it may be more.
+};
+
+/// Nothing where something of the copy can be kept, or none of it was too large.
+[[nodiscard]] std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot);
+
 } // namespace ravelo

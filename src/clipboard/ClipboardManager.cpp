@@ -2,7 +2,6 @@
 
 #include "base/Files.h"
 #include "base/Scheduler.h"
-#include "clipboard/CapturePlan.h"
 #include "clipboard/FileForms.h"
 #include "store/Store.h"
 
@@ -42,9 +41,17 @@ ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Schedul
 void ClipboardManager::start() {
     timer_ = scheduler_.every(pollInterval, [this] { poll(); });
     notice_ = pasteboard_.onChange([this] { poll(); });
+    saveRequests_ = pasteboard_.onSaveRequest([this] {
+        saveAsked_ = true;
+        poll();
+        answerSaveRequest();
+    });
     QObject::connect(&store_, &Store::cleared, &context_, [this] {
         reads_.clear();
-        captured_.reset();
+        if (held_) {
+            held_->clip = Clip::cleared;
+        }
+        answerSaveRequest();
     });
 }
 
@@ -57,25 +64,75 @@ void ClipboardManager::poll() {
     if (count == suppressUntilCount_) {
         return;
     }
-    if (pasteboard_.orphaned()) {
+    if (const auto lost = pasteboard_.orphaned()) {
+        if (held_ && held_->changeCount == *lost) {
+            held_->contents.ownerEnded = scheduler_.uptime();
+        }
         offerAgain();
         return;
     }
     // A read that was answered may still be waiting to be told when the next change is seen, so
     // none is dropped here: the pasteboard itself gives up those whose owner has gone.
-    reads_[count] = pasteboard_.read(nextCaptureType, [this, count](const auto& snapshot) {
-        capture(count, snapshot);
-        reads_.erase(reads_.begin(), reads_.upper_bound(count));
-    });
+    reads_[count] = pasteboard_.read(
+        nextCaptureType, [this, count, seen = scheduler_.uptime()](const auto& snapshot) {
+            finishRead(count, snapshot, seen);
+        });
 }
 
-void ClipboardManager::capture(qint64 count, const PasteboardSnapshot& snapshot) {
-    if (isConcealed(snapshot)) {
+void ClipboardManager::finishRead(qint64 count, const PasteboardSnapshot& snapshot, Seconds seen) {
+    // Contents that came after the count was looked at get a read of their own.
+    if (snapshot.changeCount == count) {
+        capture(snapshot, seen);
+    }
+    reads_.erase(reads_.begin(), reads_.upper_bound(count));
+    answerSaveRequest();
+}
+
+void ClipboardManager::capture(const PasteboardSnapshot& snapshot, Seconds seen) {
+    const auto key = isConcealed(snapshot) ? std::nullopt : contentsKey(snapshot);
+    if (!key) {
         return;
     }
-    auto kept = [this, life = std::weak_ptr(life_), count](const QUuid& clip) {
-        if (!life.expired()) {
-            captured_ = {count, clip};
+    if (isPassedOn(snapshot, *key, seen)) {
+        held_->changeCount = snapshot.changeCount;
+        held_->contents.owner = snapshot.owner.id;
+        held_->contents.ownerEnded.reset();
+        offerAgain();
+        return;
+    }
+    held_ = std::make_shared<Held>(Held{snapshot.changeCount,
+                                        {*key, snapshot.owner.id, seen},
+                                        isFromFile(snapshot) ? Source::file : Source::owner});
+    if (const auto tooLarge = tooLargeToKeep(snapshot)) {
+        held_->clip = Clip::tooLarge;
+        if (onTooLarge) {
+            onTooLarge(*tooLarge);
+        }
+        return;
+    }
+    keep(snapshot);
+}
+
+bool ClipboardManager::isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
+                                  Seconds seen) const {
+    if (!held_) {
+        return false;
+    }
+    HeldContents before = held_->contents;
+    if (const auto& end = snapshot.lastEnd; end && end->changeCount == held_->changeCount) {
+        before.ownerEnded = seen - end->before; // The next owner was quicker than we are.
+    }
+    const bool deleted = held_->clip == Clip::kept && !held_->id.isNull() && !find(held_->id);
+    const auto wanted = deleted || held_->clip == Clip::cleared ? Wanted::no : Wanted::yes;
+    return isHandOver(before, wanted, key, snapshot.owner, seen);
+}
+
+void ClipboardManager::keep(const PasteboardSnapshot& snapshot) {
+    auto kept = [this, weak = std::weak_ptr(held_)](const QUuid& clip) {
+        // Expired where something else was copied since, or we are gone.
+        if (const auto held = weak.lock(); held && held->clip == Clip::pending) {
+            held->clip = Clip::kept;
+            held->id = clip;
             offerAgain(); // The owner may have ended while an image was being written.
         }
     };
@@ -86,26 +143,45 @@ void ClipboardManager::capture(qint64 count, const PasteboardSnapshot& snapshot)
     }
 }
 
-/// Only what went with its owner, never what was copied before it.
-void ClipboardManager::offerAgain() {
-    if (!captured_ || pasteboard_.orphaned() != captured_->changeCount) {
-        return;
-    }
-    const auto forms = formsOf(captured_->clip);
-    if (!forms.isEmpty() && pasteboard_.adopt(forms)) {
-        suppressOwnChange();
+/// Once the contents have been read: what is made of them needs their owner no more.
+void ClipboardManager::answerSaveRequest() {
+    if (saveAsked_ && !reads_.contains(lastChangeCount_)) {
+        saveAsked_ = false;
+        const bool saved = held_ && held_->changeCount == lastChangeCount_ &&
+                           (held_->clip == Clip::pending || held_->clip == Clip::kept) &&
+                           held_->source == Source::owner;
+        pasteboard_.answerSaveRequests(saved ? SaveAnswer::saved : SaveAnswer::refused);
     }
 }
 
-/// Nothing where the user has deleted the clip.
-QList<PasteboardEntry> ClipboardManager::formsOf(const QUuid& id) const {
-    const auto clip = std::ranges::find(store_.clips(), id, &ClipItem::id);
-    if (clip == store_.clips().cend()) {
-        return {};
+/// Only what went with its owner, never what was copied before it.
+void ClipboardManager::offerAgain() {
+    if (!held_ || held_->clip != Clip::kept || held_->source == Source::file ||
+        pasteboard_.orphaned() != held_->changeCount) {
+        return;
     }
-    return clip->kind == ClipKind::image
-               ? imageForms(store_.imagePath(clip->imageFileName))
-               : QList<PasteboardEntry>{{plainTextType, clip->text.toUtf8()}};
+    const ClipItem* clip = find(held_->id);
+    const auto forms = clip ? formsOf(*clip) : QList<PasteboardEntry>();
+    if (forms.isEmpty()) {
+        return;
+    }
+    if (const auto count = pasteboard_.adopt(forms)) {
+        held_->changeCount = *count;
+        held_->contents.owner = 0;
+        suppressOwnChange(*count);
+    }
+}
+
+/// Null where the user has deleted the clip.
+const ClipItem* ClipboardManager::find(const QUuid& clip) const {
+    const auto found = std::ranges::find(store_.clips(), clip, &ClipItem::id);
+    return found == store_.clips().cend() ? nullptr : &*found;
+}
+
+QList<PasteboardEntry> ClipboardManager::formsOf(const ClipItem& clip) const {
+    return clip.kind == ClipKind::image
+               ? imageForms(store_.imagePath(clip.imageFileName))
+               : QList<PasteboardEntry>{{plainTextType, clip.text.toUtf8()}};
 }
 
 void ClipboardManager::copyText(const QString& text) {
@@ -121,15 +197,25 @@ void ClipboardManager::copyFile(const QUrl& url) {
 }
 
 void ClipboardManager::write(const QList<PasteboardEntry>& forms) {
-    if (!forms.isEmpty()) {
-        pasteboard_.write(forms);
-        suppressOwnChange();
+    if (forms.isEmpty()) {
+        return;
+    }
+    const qint64 count = pasteboard_.write(forms);
+    suppressOwnChange(count);
+    PasteboardSnapshot written;
+    for (const PasteboardEntry& form : forms) {
+        written.types.append(form.type);
+        written.answers.insert(form.type, form.bytes);
+    }
+    if (const auto key = contentsKey(written)) {
+        held_ = std::make_shared<Held>(
+            Held{count, {*key, 0, scheduler_.uptime()}, Source::owner, Clip::kept});
     }
 }
 
-void ClipboardManager::suppressOwnChange() {
-    suppressUntilCount_ = pasteboard_.changeCount();
-    lastChangeCount_ = suppressUntilCount_;
+void ClipboardManager::suppressOwnChange(qint64 count) {
+    suppressUntilCount_ = count;
+    lastChangeCount_ = count;
 }
 
 } // namespace ravelo

@@ -1,14 +1,16 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "clipboard/CapturePlan.h"
+#include "clipboard/HandOver.h"
 #include "platform/Pasteboard.h"
 
 #include <QObject>
 #include <QUuid>
 
+#include <functional>
 #include <map>
 #include <memory>
-#include <optional>
 
 class QUrl;
 
@@ -16,10 +18,12 @@ namespace ravelo {
 
 class Scheduler;
 class Store;
+struct ClipItem;
 
 /// Turns changes of the general pasteboard into clips, and puts clips back on it. Contents that
 /// their owner marks as secret are left alone, and so is what the program wrote itself. Where a
-/// program ends and the contents with it, the clip that was made of them takes their place.
+/// program ends and the contents with it, the clip that was made of them takes their place, and a
+/// program that asks for it before it ends is kept waiting until they have been read.
 /// Main thread only.
 class ClipboardManager {
 public:
@@ -38,30 +42,48 @@ public:
     /// the address is not of a file.
     void copyFile(const QUrl& url);
 
+    /// Called once for each copy of which nothing is kept because it is too large.
+    std::function<void(const TooLarge&)> onTooLarge;
+
 private:
-    /// Contents of the pasteboard and the clip that stands for them.
-    struct Capture {
+    /// Where what is made of the contents may come from; a file that its owner named is never
+    /// offered in our name, as its owner might not be allowed to read it.
+    enum class Source { owner, file };
+    enum class Clip { pending, kept, tooLarge, cleared };
+
+    /// The newest contents that were captured or written by us.
+    struct Held {
         qint64 changeCount;
-        QUuid clip;
+        HeldContents contents;
+        Source source = Source::owner;
+        Clip clip = Clip::pending;
+        QUuid id{}; ///< Of the clip, once it is kept; null where we wrote the contents.
     };
 
     void poll();
-    void capture(qint64 count, const PasteboardSnapshot& snapshot);
+    void finishRead(qint64 count, const PasteboardSnapshot& snapshot, Seconds seen);
+    void capture(const PasteboardSnapshot& snapshot, Seconds seen);
+    [[nodiscard]] bool isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
+                                  Seconds seen) const;
+    void keep(const PasteboardSnapshot& snapshot);
+    void answerSaveRequest();
     void offerAgain();
-    [[nodiscard]] QList<PasteboardEntry> formsOf(const QUuid& clip) const;
+    [[nodiscard]] const ClipItem* find(const QUuid& clip) const;
+    [[nodiscard]] QList<PasteboardEntry> formsOf(const ClipItem& clip) const;
     void write(const QList<PasteboardEntry>& forms);
-    void suppressOwnChange();
+    void suppressOwnChange(qint64 count);
 
     Store& store_;
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
     qint64 lastChangeCount_;
-    qint64 suppressUntilCount_ = -1;  ///< The change that we made ourselves.
-    std::optional<Capture> captured_; ///< The newest.
+    qint64 suppressUntilCount_ = -1; ///< The change that we made ourselves.
+    std::shared_ptr<Held> held_;     ///< Null at first.
     Handle timer_;
     Handle notice_;
+    Handle saveRequests_;
+    bool saveAsked_ = false;
     QObject context_;
-    std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true);
     std::map<qint64, Handle>
         reads_; ///< By change count; those up to the newest answer are settled.
 };

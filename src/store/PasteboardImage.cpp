@@ -11,6 +11,8 @@
 #include <QImageReader>
 #include <QSysInfo>
 
+#include <algorithm>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -47,34 +49,40 @@ QStringList candidates(const QStringList& offered) {
     return list;
 }
 
-/// A picture by its contents, whatever its type or name says, and of a bearable size.
-bool isPicture(QImageReader& reader) {
+/// What its contents are, whatever its type or name says.
+enum class Picture { none, good, tooManyPixels };
+
+Picture pictureIn(QImageReader& reader) {
     reader.setDecideFormatFromContent(true);
     reader.setAutoTransform(true);
     if (!reader.canRead() || reader.format().startsWith("svg") || reader.format() == "pdf") {
-        return false;
+        return Picture::none;
     }
     if (!reader.supportsOption(QImageIOHandler::Size)) {
-        return true; // Qt's own limit holds for those.
+        return Picture::good; // Qt's own limit holds for those.
     }
     const QSize size = reader.size();
-    return size.isValid() && qint64(size.width()) * size.height() <= mostPixels;
+    if (!size.isValid()) {
+        return Picture::none;
+    }
+    return qint64(size.width()) * size.height() <= mostPixels ? Picture::good
+                                                              : Picture::tooManyPixels;
 }
 
-bool looksGood(const QString& type, const QByteArray& bytes) {
+Picture pictureIn(const QString& type, const QByteArray& bytes) {
     if (type == pngType || bytes.isEmpty()) {
-        return !bytes.isEmpty();
+        return bytes.isEmpty() ? Picture::none : Picture::good;
     }
     QBuffer buffer;
     buffer.setData(bytes);
     QImageReader reader(&buffer);
-    return isPicture(reader);
+    return pictureIn(reader);
 }
 
 QByteArray decodedToPng(QIODevice& device) {
     QImageReader reader(&device);
     QImage image;
-    if (!isPicture(reader) || !reader.read(&image)) {
+    if (pictureIn(reader) != Picture::good || !reader.read(&image)) {
         return {};
     }
     QBuffer png;
@@ -109,11 +117,29 @@ QString nextImageType(const PasteboardSnapshot& contents) {
         if (answer == contents.answers.end()) {
             return type;
         }
-        if (looksGood(type, answer->value_or(QByteArray()))) {
+        if (pictureIn(type, answer->value_or(QByteArray())) == Picture::good) {
             return {};
         }
     }
     return {};
+}
+
+bool hasGoodImage(const PasteboardSnapshot& contents) {
+    return std::ranges::any_of(candidates(contents.types), [&](const QString& type) {
+        const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
+        return type == filesType ? !bytes.isEmpty() : pictureIn(type, bytes) == Picture::good;
+    });
+}
+
+qint64 oversizedImage(const PasteboardSnapshot& contents) {
+    qint64 largest = 0;
+    for (const QString& type : candidates(contents.types)) {
+        const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
+        const bool tooManyPixels = pictureIn(type, bytes) == Picture::tooManyPixels;
+        largest = std::max({largest, contents.tooLarge.value(type),
+                            tooManyPixels ? qint64(bytes.size()) : qint64(0)});
+    }
+    return largest;
 }
 
 QByteArray pngImage(const PasteboardSnapshot& contents) {

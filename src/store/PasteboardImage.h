@@ -12,6 +12,13 @@ struct PasteboardSnapshot;
 /// passed over for the next; empty once there is one or nothing is left to ask for. Any thread.
 [[nodiscard]] QString nextImageType(const PasteboardSnapshot& contents);
 
+/// Whether such a reading ended with a form worth keeping, or a list of files.
+[[nodiscard]] bool hasGoodImage(const PasteboardSnapshot& contents);
+
+/// The size in bytes of the largest form that the adapter did not take, or that has more pixels
+/// than are kept; 0 where there is none.
+[[nodiscard]] qint64 oversizedImage(const PasteboardSnapshot& contents);
+
 /// The image in what such a reading gave, as PNG: PNG bytes as they are, all else decoded and
 /// encoded again, also the first file of a list of copied files. Empty where there is none that can
 /// be decoded. Takes long and reads files: for the worker. At most 64 MiB of a file are read and

@@ -605,6 +605,31 @@ class OwnersEnd(ProgramCase):
         self.copy_and_wait("next")
         self.assertEqual(self.ravelo.texts(), ["next", "Image", *reversed(ends)])
 
+    def test_what_a_program_copies_as_it_ends_is_kept(self):
+        copies = (("text", "GTK's last", lambda: self.desktop.gtk("leave", "text", "GTK's last")),
+                  ("image", "Image", lambda: self.desktop.gtk("leave", "image", "c04020ff")),
+                  ("text", "Qt's last", lambda: self.qt("--text", "Qt's last", "--leave")))
+        kept = []
+        for kind, text, copy in copies:
+            with self.subTest(text):
+                self.ravelo.process.send_signal(signal.SIGSTOP)  # As on a busy machine.
+                owner = copy()
+                with self.assertRaises(subprocess.TimeoutExpired, msg="it waits to be saved"):
+                    owner.wait(0.5)
+                self.ravelo.process.send_signal(signal.SIGCONT)
+                self.assertEqual(owner.wait(5), 0)
+                kept.insert(0, text)
+                self.wait_for_texts(*kept)
+                targets = "UTF8_STRING" if kind == "text" else "image/png"
+                wait_for(lambda t=targets: t in self.desktop.run(
+                    "xclip", "-o", "-selection", "clipboard", "-t", "TARGETS"), "it to paste")
+        self.assertEqual(self.ravelo.texts(), kept, "no more than what was copied")
+
+    def test_a_program_that_ends_with_a_password_is_not_kept_waiting(self):
+        self.assertEqual(self.qt("--text", "tr0ub4dor&3", "--secret", "--leave").wait(3), 0)
+        self.copy_and_wait("next")
+        self.assertEqual(self.ravelo.texts(), ["next"])
+
     def test_a_password_goes_with_its_program_and_nothing_comes_back(self):
         self.copy_and_wait("before")
         self.qt("--text", "tr0ub4dor&3", "--secret").kill()

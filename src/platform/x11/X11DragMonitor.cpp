@@ -34,7 +34,7 @@ public:
         if (result) {
             bytes_ = result->bytes;
             targets_.clear();
-        } else if (result.error() != TransferFailure::refused) {
+        } else if (result.error().reason != TransferFailure::refused) {
             targets_.clear(); // It would be as slow under another name.
         }
     }
