@@ -87,7 +87,7 @@ void ClipListModel::setSearch(const QString& search) {
     update();
 }
 
-void ClipListModel::setTooLarge(const TooLarge& copy) {
+void ClipListModel::setTooLarge(const TooLargeCopy& copy) {
     tooLarge_ = {
         copy,
         {QUuid::createUuid(), u"Too large to keep"_s, ClipKind::text, scheduler_.now(), false, {}}};

@@ -51,7 +51,7 @@ public:
 
     /// In place of the one before. Not searched for, never stored, gone when the history is
     /// cleared.
-    void setTooLarge(const TooLarge& copy);
+    void setTooLarge(const TooLargeCopy& copy);
     Q_INVOKABLE void dismissTooLarge();
 
     /// Tells every date anew, relative to the present moment.
@@ -73,7 +73,7 @@ private:
 
     /// Its row has a record of its own, which no store knows.
     struct TooLargeRow {
-        TooLarge copy;
+        TooLargeCopy copy;
         ClipItem record;
     };
 

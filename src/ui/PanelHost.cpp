@@ -113,7 +113,7 @@ void PanelHost::openLink(const QUuid& id) {
     }
 }
 
-void PanelHost::tellTooLarge(const TooLarge& copy) {
+void PanelHost::tellTooLarge(const TooLargeCopy& copy) {
     clips_.setTooLarge(copy);
     if (controller()->isOpen()) {
         toast_.flash(tooLargeMessage(copy, locale_));

@@ -146,7 +146,7 @@ public:
 
     /// Says that a copy was not kept: by a row in the panel, at once or at its next opening, which
     /// goes when the panel closes, and by a toast if the panel is open.
-    void tellTooLarge(const TooLarge& copy);
+    void tellTooLarge(const TooLargeCopy& copy);
 
     /// The window has got this size.
     void windowResized(QSizeF size);

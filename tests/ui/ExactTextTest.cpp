@@ -43,8 +43,8 @@ QString oddText() {
                                char16_t(0xfdd0),
                                char16_t(0xfdd1),
                                char16_t(0xfdef)}) {
-        text += QChar(u'a' + text.size() % 26);
-        text += QChar(odd);
+        text += QChar(static_cast<char16_t>(u'a' + text.size() % 26));
+        text += odd;
     }
     return text + u"\r\n\n\r\r\n\u2029\u2029 e\u0301 \U0001F469\u200d\U0001F680 \U0010FFFF "_s;
 }
@@ -98,7 +98,7 @@ std::string readable(const QString& text) {
     for (const QChar one : text) {
         const bool plain = one.isLetterOrNumber() && one.unicode() < 128;
         all += plain ? std::string(1, one.toLatin1())
-                     : u"<%1>"_s.arg(int(one.unicode()), 4, 16, u'0').toStdString();
+                     : u"<%1>"_s.arg(int(one.unicode()), 4, 16, QChar(u'0')).toStdString();
     }
     return all;
 }

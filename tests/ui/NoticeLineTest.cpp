@@ -69,7 +69,9 @@ TEST_F(Panel, tellsAScreenReaderWhatKindOfNoticeItIs) {
               u"Not saved for 1 minute: the disk is full. Nothing is lost while Ravelo runs."_s);
 }
 
-constexpr TooLarge largeText{TooLarge::Kind::text, 14'885'000};
+using Measure = TooLargeCopy::Measure;
+
+constexpr TooLargeCopy largeText{Measure::bytesOfText, 14'885'000};
 
 class TooLargeRow : public Panel {
 protected:
@@ -114,7 +116,7 @@ TEST_F(TooLargeRow, isNeverCopiedAndGoesByItsButtonByDeleteAndWithThePanel) {
     EXPECT_EQ(world.store.clips().size(), 3);
 
     view.host().tellTooLarge(largeText);
-    view.host().tellTooLarge({TooLarge::Kind::image, 80 << 20});
+    view.host().tellTooLarge({Measure::bytesOfImage, 80 << 20});
     EXPECT_EQ(view.host().clips()->count(), 4) << "the newest replaces the one before";
     view.window().grabWindow();
     const QQuickItem* card = item(u"card1"_s);
@@ -142,7 +144,7 @@ TEST_F(Panel, copiesTheFirstClipByReturnAlsoBelowATooLargeOne) {
 
 struct SizeCase {
     const char* name;
-    TooLarge copy;
+    TooLargeCopy copy;
     QString detail;
     QString message;
 };
@@ -156,29 +158,26 @@ TEST_P(TooLargeText, saysHowMuchItIs) {
               u"Too large to keep · "_s + GetParam().message);
 }
 
-constexpr auto bytes = TooLarge::Unit::bytes;
-constexpr auto over = TooLarge::Size::over;
-
 INSTANTIATE_TEST_SUITE_P(
     All, TooLargeText,
     testing::Values(SizeCase{"justOver",
-                             {TooLarge::Kind::text, (8 << 20) + 1},
+                             {Measure::bytesOfText, (8 << 20) + 1},
                              u"Text of 8.1 MB, the limit is 8 MB"_s,
                              u"8.1 MB of text"_s},
                     SizeCase{"unknownText",
-                             {TooLarge::Kind::text, 8 << 20, bytes, over},
+                             {Measure::bytesOfText, 8 << 20},
                              u"Text of more than 8 MB"_s,
                              u"more than 8 MB of text"_s},
                     SizeCase{"image",
-                             {TooLarge::Kind::image, 80 << 20},
+                             {Measure::bytesOfImage, 80 << 20},
                              u"Image of 80 MB, the limit is 64 MB"_s,
                              u"image of 80 MB"_s},
                     SizeCase{"unknownImage",
-                             {TooLarge::Kind::image, 64 << 20, bytes, over},
+                             {Measure::bytesOfImage, 64 << 20},
                              u"Image of more than 64 MB"_s,
                              u"image of more than 64 MB"_s},
                     SizeCase{"manyPixels",
-                             {TooLarge::Kind::image, 50 << 20, TooLarge::Unit::pixels},
+                             {Measure::pixelsOfImage, 50 << 20},
                              u"Image of 50 megapixels, the limit is 32 megapixels"_s,
                              u"image of 50 megapixels"_s}),
     [](const auto& row) { return row.param.name; });

@@ -269,7 +269,7 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     if (scene.startsWith(u"notice-"_s)) {
         notify(scene, world.notices, world.scheduler);
     } else if (scene == u"too-large") {
-        view.host().tellTooLarge({TooLarge::Kind::text, 14'885'000});
+        view.host().tellTooLarge({TooLargeCopy::Measure::bytesOfText, 14'885'000});
     }
     if (QQuickItem* grid = find(window.contentItem(), u"grid"_s)) {
         grid->setFocus(false); // Or the first tile shows that it has the keyboard.
