@@ -9,6 +9,7 @@
 #include "monitor/LiveContext.h"
 #include "monitor/MonitorPlatform.h"
 #include "monitor/PlanUsage.h"
+#include "notices/Notices.h"
 #include "panel/NotchController.h"
 #include "platform/DisplayServer.h"
 #include "platform/freedesktop/AutostartEntry.h"
@@ -113,6 +114,7 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
                                                renewalFolder(home(), environment))),
       tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
       shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, display_.icons())),
+      notices_(std::make_unique<Notices>(*scheduler_)),
       view_(std::make_unique<PanelView>()) {}
 
 bool AppDelegate::mayRunAlready() {
@@ -161,9 +163,9 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                                   *window_,
                                   {&display_.lock(), loginSession_.get(), screenSaver_.get()}},
         rest_);
-    view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_,
-                 *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received, shelf_->nearby,
-                 *jobs_, shelf_->opener, shelf_->icons},
+    view_->load({*store_, *settings_, *notch_, *notices_, display_.pasteboard(), *scheduler_,
+                 *preferences_, *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received,
+                 shelf_->nearby, *jobs_, shelf_->opener, shelf_->icons},
                 QLocale());
     provideWindows();
     const auto checkUpdates = [this] {
@@ -177,6 +179,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
         Commands::Services{*store_, *notch_, *scheduler_, LiveContext::shared(),
                            PlanUsage::shared(), [this] { showSetup(); }, checkUpdates, quitLater});
     wire();
+    wireNotices();
     if (!settings_->onboarded()) {
         showSetup();
     }
@@ -240,6 +243,17 @@ void AppDelegate::wire() {
         view_->host().snippetEditor()->cancel(); // Leaves no image that nothing refers to.
         flush();
     });
+}
+
+/// What the panel says about saving, about files that could not be read and about copies that are
+/// too large.
+void AppDelegate::wireNotices() {
+    notices_->onTryAgain = [this] {
+        store_->save();
+    };
+    notices_->onOpenFolder = [this](const QString& path) {
+        view_->host().showInFolder(QUrl::fromLocalFile(path));
+    };
 }
 
 void AppDelegate::openSettings() {

@@ -25,6 +25,7 @@ class FileTransfer;
 class HttpsClient;
 class LoginItem;
 class NightShift;
+class Notices;
 class NotchController;
 class OnboardingController;
 class PanelView;
@@ -73,6 +74,7 @@ private:
     void provideMonitors();
     void provideWindows();
     void wire();
+    void wireNotices();
 
     DisplayServer& display_;
     HoverTick::Rest rest_;
@@ -95,6 +97,7 @@ private:
 
     std::unique_ptr<ShelfServices> shelf_;
 
+    std::unique_ptr<Notices> notices_;
     std::unique_ptr<Store> store_;
     std::unique_ptr<AppSettings> settings_;
     std::unique_ptr<ClipboardManager> clipboard_;

@@ -12,6 +12,7 @@
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
 #include "fakes/MemoryPreferences.h"
+#include "notices/Notices.h"
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
 #include "shelf/NearbySend.h"
@@ -77,6 +78,7 @@ struct PanelWorld {
     std::shared_ptr<const FileIcons> icons = std::make_shared<NoFileIcons>();
     NearbySend nearby{{devices, programs, jobs, scheduler}};
     ReceivedWatcher received{downloads, scheduler, folder.filePath(QStringLiteral("Downloads"))};
+    Notices notices{scheduler};
     Store store;
     AppSettings settings{preferences, loginItem};
     ClipboardManager clipboard{store, pasteboard, scheduler};

@@ -233,6 +233,21 @@ void playBar(const QString& scene, PanelWorld& world, PanelView& view) {
     settle();
 }
 
+void notify(const QString& scene, Notices& notices, ManualScheduler& scheduler) {
+    if (scene.contains(u"aside"_s)) {
+        notices.putAside(scene.contains(u"preferences"_s) ? Notices::Source::preferences
+                                                          : Notices::Source::store,
+                         scene.contains(u"preferences"_s) ? u"/x/preferences.json.unreadable"_s
+                                                          : u"/x/store.json.unreadable"_s);
+        return;
+    }
+    notices.saveFailed(Notices::Source::store, u"the disk is full"_s);
+    scheduler.advance(minute * 2);
+    if (scene == u"notice-saved-again") {
+        notices.saved(Notices::Source::store);
+    }
+}
+
 void play(const QString& scene, PanelWorld& world, PanelView& view) {
     QQuickWindow& window = view.window();
     if (scene.startsWith(u"bar-"_s)) {
@@ -251,6 +266,11 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     world.controller.positionExpanded();
     window.resize(world.controller.frame().size().toSize());
     settle();
+    if (scene.startsWith(u"notice-"_s)) {
+        notify(scene, world.notices, world.scheduler);
+    } else if (scene == u"too-large") {
+        view.host().tellTooLarge({TooLargeCopy::Measure::bytesOfText, 14'885'000});
+    }
     if (QQuickItem* grid = find(window.contentItem(), u"grid"_s)) {
         grid->setFocus(false); // Or the first tile shows that it has the keyboard.
     }
