@@ -49,7 +49,8 @@ protected:
         return names.join(u' ');
     }
 
-    void dragOver(const QPointF& place) {
+    void dragOver(const QPointF& place, bool hasFiles = true) {
+        world.drags.begin(hasFiles);
         QMimeData files;
         files.setUrls({file(u"a"_s)});
         QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &files, Qt::LeftButton,
@@ -124,12 +125,14 @@ TEST_P(ShelfRequest, showsTheShelf) {
 INSTANTIATE_TEST_SUITE_P(All, ShelfRequest,
                          testing::Values(RequestCase{"whileClosed",
                                                      [](PanelWorld& world) {
+                                                         world.drags.begin(true);
                                                          world.controller.onDragEnter();
                                                      }},
                                          RequestCase{"beforeTheContentIsBuilt",
                                                      [](PanelWorld& world) {
                                                          world.controller.positionExpanded();
                                                          world.controller.collapse();
+                                                         world.drags.begin(true);
                                                          world.controller.onDragEnter();
                                                      }},
                                          RequestCase{"whileOpen",
@@ -144,6 +147,9 @@ TEST_F(ShelfTab, lightsUpAndForgetsTheSelectionWhileFilesAreDraggedOverIt) {
     clickOn(u"tab0"_s);
     park(1, 1);
     world.store.toggleSelectStack({file(u"1"_s)});
+    dragOver({400, 300}, false);
+    EXPECT_EQ(selected(), u"1"_s) << "by what carries no files";
+    EXPECT_EQ(shown(u"grid"_s), nullptr) << "by what carries no files";
     dragOver({400, 300});
     EXPECT_EQ(selected(), QString());
     EXPECT_NE(shown(u"grid"_s), nullptr) << "the tab";
