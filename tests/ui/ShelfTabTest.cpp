@@ -1,6 +1,7 @@
 // The shelf in the panel: what it shows, and what hands and keys do to the files on it.
 
 #include "PanelFixture.h"
+#include "base/FileUrl.h"
 #include "ui/DragSourceView.h"
 #include "ui/FileThumb.h"
 #include "ui/ShelfLayout.h"
@@ -8,6 +9,8 @@
 #include <QDragEnterEvent>
 #include <QImageWriter>
 #include <QMimeData>
+
+#include <cstdio>
 
 namespace ravelo {
 
@@ -477,10 +480,20 @@ TEST(FileThumbs, showWhatTelephonesWrite) {
     EXPECT_EQ(fileThumb(QUrl::fromLocalFile(upright), 1, NoFileIcons()).size(), QSize(42, 56));
 }
 
+TEST(FileThumbs, areMadeOfFilesWhoseNamesAreNotUtf8) {
+    const QTemporaryDir folder;
+    const QString plain = folder.filePath(u"photo.png"_s);
+    ASSERT_TRUE(QImage(200, 100, QImage::Format_RGB32).save(plain));
+    const QByteArray odd = QFile::encodeName(folder.path()) + "/\xe4.png";
+    ASSERT_EQ(std::rename(QFile::encodeName(plain).constData(), odd.constData()), 0);
+    EXPECT_EQ(fileThumb(fileUrl(odd), 1, NoFileIcons()).size(), QSize(72, 56));
+}
+
 TEST(FileThumbs, surviveTheWayThroughAnAddress) {
-    const QUrl file = QUrl::fromLocalFile(u"/a b/c#d?e%20ü/ñ.png"_s);
-    const QString address = fileThumbAddress(file);
-    EXPECT_EQ(fileOfThumb(QUrl(address).path().mid(1)), file);
+    for (const QByteArray path : {"/a b/c#d?e%20ü/ñ.png", "/no utf-8 \xe4.png"}) {
+        const QString address = fileThumbAddress(fileUrl(path));
+        EXPECT_EQ(filePath(fileOfThumb(QUrl(address).path().mid(1))), path);
+    }
 }
 
 } // namespace
