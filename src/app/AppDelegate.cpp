@@ -144,6 +144,9 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
+    if (const auto repaired = loginItem_->repair(); !repaired) {
+        qWarning("Ravelo login-item error: %s", qUtf8Printable(repaired.error().message));
+    }
     settings_ = std::make_unique<AppSettings>(*preferences_, *loginItem_);
     settings_->setupLoginItemDefaultIfNeeded();
 

@@ -68,6 +68,10 @@ Result<Command> parseCommandLine(const QList<QByteArray>& arguments) {
         return Command{Kind::ask, {u"show"_s}, {}, IfNoneRuns::start};
     }
     const QByteArray& first = arguments.first();
+    // So a session manager starts a program that ran when the session was saved (XSMP).
+    if (first == "-session" && arguments.size() == 2) {
+        return Command{Kind::ask, {u"restore"_s}, {}, IfNoneRuns::start};
+    }
     if (first == "timer" || first == "shelf") {
         return parseWords(arguments);
     }
@@ -118,7 +122,8 @@ The rest speaks to the Ravelo that is running:
                  are empty and the numbers 0
   shelf list     the paths of the parked files, a line each; with -0 or --null each
                  ends with a NUL byte; with --json one object: files, an array of
-                 objects with path, stack (counted from 0) and selected
+                 objects with path, stack (counted from 0) and selected, and
+                 with uri if the path is not UTF-8
 
 The exit status is 0 where it is done, 1 where it could not be done or no Ravelo
 is running, 2 where the command makes no sense.

@@ -23,6 +23,12 @@ bool isTaken(const QString& path) {
     return info.exists() || info.isSymLink();
 }
 
+/// 0 where nothing is.
+mode_t modeOf(const QByteArray& path) {
+    struct stat info = {};
+    return !path.contains('\0') && ::stat(path.constData(), &info) == 0 ? info.st_mode : 0;
+}
+
 std::optional<QByteArray> readEnd(int file, qint64 most) {
     struct stat info = {};
     if (fstat(file, &info) != 0 || !S_ISREG(info.st_mode)) {
@@ -68,9 +74,11 @@ bool fileExists(const QByteArray& path) {
 }
 
 bool isRegularFile(const QByteArray& path) {
-    struct stat info {};
+    return S_ISREG(modeOf(path));
+}
 
-    return !path.contains('\0') && ::stat(path.constData(), &info) == 0 && S_ISREG(info.st_mode);
+bool isFolder(const QByteArray& path) {
+    return S_ISDIR(modeOf(path));
 }
 
 std::optional<QByteArray> readFileEnd(const QByteArray& path, qint64 most) {

@@ -16,6 +16,9 @@ namespace ravelo {
 /// Whether a file is there, by a link or not, that is no folder, pipe or device. Likewise.
 [[nodiscard]] bool isRegularFile(const QByteArray& path);
 
+/// Whether a folder is there, by a link or not. Likewise.
+[[nodiscard]] bool isFolder(const QByteArray& path);
+
 /// The last `most` bytes of a regular file, all of a shorter one; nothing where it is missing, is
 /// something else or cannot be read. For files of other programs: never waits for a writer, as a
 /// pipe in the file's place would have it. `path` as the system has it. Blocks; any thread.

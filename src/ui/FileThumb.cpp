@@ -15,6 +15,9 @@
 #include <algorithm>
 #include <array>
 
+#include <fcntl.h>
+#include <unistd.h>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -45,12 +48,27 @@ QImage preview(const QString& path, double scale) {
     return heif.isNull() ? QImage() : thumbnail(heif, previewSize(heif.size(), scale), radius);
 }
 
+/// Qt cannot name a file whose name is not UTF-8: a descriptor stands for it.
+QImage preview(const QByteArray& path, double scale) {
+    if (path.isValidUtf8()) {
+        return preview(QString::fromUtf8(path), scale);
+    }
+    const int file = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (file < 0) {
+        return {};
+    }
+    QImage image = preview(u"/proc/self/fd/%1"_s.arg(file), scale);
+    ::close(file);
+    return image;
+}
+
 /// By the name alone, the most special first.
-QStringList iconNames(const QString& path) {
-    if (QFileInfo(path).isDir()) {
+QStringList iconNames(const QUrl& file) {
+    if (isFolder(filePath(file))) {
         return {u"inode-directory"_s, u"folder"_s};
     }
-    const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension);
+    const QMimeType type =
+        QMimeDatabase().mimeTypeForFile(file.fileName(), QMimeDatabase::MatchExtension);
     return {type.iconName(), type.genericIconName()};
 }
 
@@ -73,10 +91,10 @@ QImage centred(const QImage& image, int size) {
 } // namespace
 
 QImage fileThumb(const QUrl& file, double scale, const FileIcons& icons) {
-    const QString path = file.toLocalFile();
-    const QString extension = QFileInfo(path).suffix().toLower();
+    const QByteArray path = filePath(file);
+    const QString extension = QFileInfo(file.fileName()).suffix().toLower();
     const bool named = std::ranges::find(imageExtensions, extension) != imageExtensions.end();
-    if (named && isRegularFile(filePath(file))) { // From a pipe nothing may ever come.
+    if (named && isRegularFile(path)) { // From a pipe nothing may ever come.
         if (QImage image = preview(path, scale); !image.isNull()) {
             return image;
         }
@@ -94,12 +112,11 @@ QUrl fileOfThumb(const QString& name) {
 }
 
 QImage fileIcon(const QUrl& file, int size, const FileIcons& icons) {
-    const QString path = file.toLocalFile();
-    const QString found = icons.find(iconNames(path), size);
+    const QString found = icons.find(iconNames(file), size);
     if (const QImage icon = found.isEmpty() ? QImage() : themedIcon(found, size); !icon.isNull()) {
         return centred(icon, size);
     }
-    return filePage(QFileInfo(path).suffix(), size);
+    return filePage(QFileInfo(file.fileName()).suffix(), size);
 }
 
 } // namespace ravelo

@@ -364,10 +364,10 @@ class Ravelo:
         self.process = None
         self.log = desktop.home / "ravelo.log"
 
-    def start(self):
+    def start(self, *arguments):
         """Starts it and waits for its handle at the top of the screen."""
         with self.log.open("a") as log:
-            self.process = self.desktop.spawn(self.program, stderr=log)
+            self.process = self.desktop.spawn(self.program, *arguments, stderr=log)
         wait_for(lambda: self.has_ended() or self.is_collapsed(), "the handle, 200 x 12, centred")
         assert not self.has_ended(), f"ravelo ended at once with {self.process.returncode}"
         return self

@@ -709,11 +709,11 @@ class Drops(ProgramCase):
 
     NAMES = [b"a b.txt", b"100%.txt", b"x#y?z", b"two\nlines", "ä".encode(), b"no utf-8 \xe4", b"folder"]
 
-    def drop(self, behaviour, addresses):
-        """The actions that the source was told of, at once and at the end."""
+    def drop(self, behaviour, addresses, after="onto"):
+        """The actions that the source was told of, before it dropped and at the end."""
         offer = "text/uri-list=hex:" + b"".join(line + b"\r\n" for line in addresses).hex()
         source = self.desktop.spawn(os.environ["SELECTION_OWNER"], "XdndSelection", behaviour, offer,
-                                    f"onto:{self.ravelo.panel().window}", stdin=subprocess.PIPE,
+                                    f"{after}:{self.ravelo.panel().window}", stdin=subprocess.PIPE,
                                     stdout=subprocess.PIPE, text=True)
         return [source.stdout.readline().strip() for _ in range(3)][1:]
 
@@ -739,6 +739,12 @@ class Drops(ProgramCase):
         self.ravelo.start()
         self.drop("answer", [b"file:///etc/"])
         wait_for(lambda: self.stacks() == [kept, ["/etc"]], "all found again, and one more")
+
+    def test_a_web_link_changes_nothing_and_is_refused(self):
+        self.ravelo.start()
+        self.assertEqual(self.drop("answer", [b"https://a.example/x"], "refusal"), ["none"] * 2)
+        self.assertTrue(self.ravelo.is_collapsed())
+        self.assertEqual(self.stacks(), [])
 
     def test_a_source_that_hangs_at_the_drop_stalls_nothing(self):
         self.ravelo.start()
@@ -806,6 +812,34 @@ class CommandLine(ProgramCase):
         self.assertEqual(code, 0)
         for option in ("--version", "--toggle", "--settings", "--setup", "--quit"):
             self.assertIn(option, text)
+
+    def test_without_a_display_it_says_so(self):
+        self.desktop.env.pop("QT_QPA_PLATFORM", None)
+        for display in ("", ":4711"):
+            self.desktop.env["DISPLAY"] = display
+            code, text = self.ravelo.call()
+            self.assertEqual((code, text.count("\n")), (1, 1), text)
+            self.assertTrue(text.startswith("ravelo: no display: "), text)
+
+    def test_a_session_manager_restores_it(self):
+        self.ravelo.start("-session", "10ab_123")
+        self.assertTrue(self.ravelo.is_collapsed())
+        self.assertEqual(self.ravelo.call("-session", "10ab_123"), (0, ""))
+        self.assertTrue(self.ravelo.is_collapsed(), "the one that runs already was bothered")
+
+    def test_a_terminal_is_shown_no_control_characters(self):
+        self.ravelo.start()
+        odd = self.desktop.home / "a\nb\x1b[31m"
+        odd.touch()
+        self.assertEqual(self.ravelo.call(str(odd)), (0, ""))
+        self.assertEqual(self.ravelo.call("shelf", "list"), (0, f"{odd}\n"))
+        ours, theirs = os.openpty()
+        self.assertEqual(subprocess.call([self.ravelo.program, "shelf", "list"], env=self.desktop.env,
+                                         stdout=theirs, timeout=20), 0)
+        os.close(theirs)
+        shown = os.read(ours, 4096)
+        os.close(ours)
+        self.assertEqual(shown, f"{self.desktop.home}/a\\nb\\x1b[31m\r\n".encode())
 
     def test_it_reaches_the_running_one(self):
         calls = [

@@ -205,7 +205,8 @@ void collect(const QQuickItem* item, const QString& path, QJsonObject& into) {
     }
 }
 
-void dragFilesOver(QQuickWindow& window) {
+void dragFilesOver(PanelWorld& world, QQuickWindow& window) {
+    world.drags.begin(true);
     QMimeData files;
     files.setUrls({QUrl(u"file:///home/someone/estimate.pdf"_s)});
     QDragEnterEvent enter({600, 260}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
@@ -327,7 +328,7 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         click(window, middle(window, u"searchInput"_s));
         find(window.contentItem(), u"searchInput"_s)->setProperty("text", u"larkspur"_s);
     } else if (scene == u"shelf-drop") {
-        dragFilesOver(window);
+        dragFilesOver(world, window);
     } else if (scene == u"shelf-selected") {
         view.host().shelf()->toggle(1);
         view.host().shelf()->toggle(3);
