@@ -160,7 +160,9 @@ void SaveRequests::reply(const xcb_selection_request_event_t& request, SaveAnswe
     notice.requestor = request.requestor;
     notice.selection = request.selection;
     notice.target = request.target;
-    notice.property = answer == SaveAnswer::saved ? propertyOf(request) : XCB_ATOM_NONE;
+    if (answer == SaveAnswer::saved) {
+        notice.property = propertyOf(request);
+    }
     xcb_send_event(connection_.get(), 0, request.requestor, 0,
                    reinterpret_cast<const char*>(&notice));
 }
