@@ -31,7 +31,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       focusControls_(subjects.store, subjects.preferences),
       pasting_(subjects.pasteboard),
       toast_(subjects.scheduler),
-      shelf_(subjects.store, subjects.jobs),
+      shelf_(subjects.store, subjects.jobs, subjects.scheduler),
       received_(subjects.received, subjects.scheduler, locale),
       sending_(subjects.nearby, toast_),
       fileDrag_(subjects.jobs, subjects.icons),
