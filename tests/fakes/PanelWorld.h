@@ -32,7 +32,7 @@ struct PanelWorld {
 
     /// The store begins with `data`.
     explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
-        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard, sound}),
+        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard, sound, jobs}),
           controller(
               store, clipboard, settings,
               {scheduler, screens, pointer, drags, transfers, barrier, window, {&lock, &otherLock}},
@@ -79,7 +79,7 @@ struct PanelWorld {
     ReceivedWatcher received{downloads, scheduler, folder.filePath(QStringLiteral("Downloads"))};
     Store store;
     AppSettings settings{preferences, loginItem};
-    ClipboardManager clipboard{store, pasteboard, scheduler};
+    ClipboardManager clipboard{store, pasteboard, scheduler, jobs};
     NotchController controller;
 
 private:
