@@ -4,6 +4,7 @@
 #include "base/Scheduler.h"
 #include "clipboard/CapturePlan.h"
 #include "clipboard/FileForms.h"
+#include "platform/DetachedJobs.h"
 #include "store/Store.h"
 
 #include <QBuffer>
@@ -11,6 +12,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace ravelo {
 
@@ -25,6 +27,7 @@ bool isImage(QByteArray bytes) {
     return QImageReader(&buffer).canRead();
 }
 
+/// Not for the main thread.
 QList<PasteboardEntry> imageForms(const QString& path) {
     const auto bytes = readFile(path);
     return bytes && isImage(*bytes) ? QList<PasteboardEntry>{{pngType, *bytes}}
@@ -33,10 +36,12 @@ QList<PasteboardEntry> imageForms(const QString& path) {
 
 } // namespace
 
-ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler)
+ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
+                                   DetachedJobs& jobs)
     : store_(store),
       pasteboard_(pasteboard),
       scheduler_(scheduler),
+      jobs_(jobs),
       lastChangeCount_(pasteboard.changeCount()) {}
 
 void ClipboardManager::start() {
@@ -45,6 +50,7 @@ void ClipboardManager::start() {
     QObject::connect(&store_, &Store::cleared, &context_, [this] {
         reads_.clear();
         captured_.reset();
+        offering_.reset();
     });
 }
 
@@ -86,26 +92,32 @@ void ClipboardManager::capture(qint64 count, const PasteboardSnapshot& snapshot)
     }
 }
 
-/// Only what went with its owner, never what was copied before it.
+/// Only what went with its owner, never what was copied before it, and nothing if the user has
+/// deleted the clip.
 void ClipboardManager::offerAgain() {
     if (!captured_ || pasteboard_.orphaned() != captured_->changeCount) {
         return;
     }
-    const auto forms = formsOf(captured_->clip);
-    if (!forms.isEmpty() && pasteboard_.adopt(forms)) {
-        suppressOwnChange();
+    const auto clip = std::ranges::find(store_.clips(), captured_->clip, &ClipItem::id);
+    if (clip == store_.clips().cend()) {
+        return;
+    }
+    const auto offer = [this, count = captured_->changeCount](const Forms& forms) {
+        if (!forms.isEmpty() && pasteboard_.orphaned() == count && pasteboard_.adopt(forms)) {
+            suppressOwnChange();
+        }
+    };
+    if (clip->kind == ClipKind::image) {
+        offering_ = readImage(store_.imagePath(clip->imageFileName), offer);
+    } else {
+        offer({{plainTextType, clip->text.toUtf8()}});
     }
 }
 
-/// Nothing where the user has deleted the clip.
-QList<PasteboardEntry> ClipboardManager::formsOf(const QUuid& id) const {
-    const auto clip = std::ranges::find(store_.clips(), id, &ClipItem::id);
-    if (clip == store_.clips().cend()) {
-        return {};
-    }
-    return clip->kind == ClipKind::image
-               ? imageForms(store_.imagePath(clip->imageFileName))
-               : QList<PasteboardEntry>{{plainTextType, clip->text.toUtf8()}};
+Handle ClipboardManager::readImage(const QString& path, std::function<void(const Forms&)> done) {
+    const auto forms = std::make_shared<Forms>();
+    return jobs_.run([path, forms] { *forms = imageForms(path); },
+                     [forms, done = std::move(done)] { done(*forms); });
 }
 
 void ClipboardManager::copyText(const QString& text) {
@@ -113,14 +125,19 @@ void ClipboardManager::copyText(const QString& text) {
 }
 
 void ClipboardManager::copyImage(const QString& path) {
-    write(imageForms(path));
+    copying_ = readImage(path, [this, count = pasteboard_.changeCount()](const Forms& forms) {
+        if (pasteboard_.changeCount() == count) { // Else something was copied after it.
+            write(forms);
+        }
+    });
 }
 
 void ClipboardManager::copyFile(const QUrl& url) {
     write(fileForms(url));
 }
 
-void ClipboardManager::write(const QList<PasteboardEntry>& forms) {
+void ClipboardManager::write(const Forms& forms) {
+    copying_.reset();
     if (!forms.isEmpty()) {
         pasteboard_.write(forms);
         suppressOwnChange();

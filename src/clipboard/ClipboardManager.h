@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QUuid>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -14,6 +15,7 @@ class QUrl;
 
 namespace ravelo {
 
+class DetachedJobs;
 class Scheduler;
 class Store;
 
@@ -24,14 +26,16 @@ class Store;
 class ClipboardManager {
 public:
     /// What is on the pasteboard at this moment is never captured.
-    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler);
+    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
+                     DetachedJobs& jobs);
 
     /// Looks every 0.5 s from now on, and at once where the platform tells of a change.
     void start();
 
     void copyText(const QString& text);
 
-    /// Puts a stored image on the pasteboard; does nothing where the file cannot be loaded.
+    /// Puts a stored image on the pasteboard, once it is read; does nothing if the file cannot be
+    /// loaded or something else was copied meanwhile.
     void copyImage(const QString& path);
 
     /// Puts a file on the pasteboard, for file managers to paste a copy of it; does nothing where
@@ -39,6 +43,8 @@ public:
     void copyFile(const QUrl& url);
 
 private:
+    using Forms = QList<PasteboardEntry>;
+
     /// Contents of the pasteboard and the clip that stands for them.
     struct Capture {
         qint64 changeCount;
@@ -48,18 +54,21 @@ private:
     void poll();
     void capture(qint64 count, const PasteboardSnapshot& snapshot);
     void offerAgain();
-    [[nodiscard]] QList<PasteboardEntry> formsOf(const QUuid& clip) const;
-    void write(const QList<PasteboardEntry>& forms);
+    [[nodiscard]] Handle readImage(const QString& path, std::function<void(const Forms&)> done);
+    void write(const Forms& forms);
     void suppressOwnChange();
 
     Store& store_;
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
+    DetachedJobs& jobs_;
     qint64 lastChangeCount_;
     qint64 suppressUntilCount_ = -1;  ///< The change that we made ourselves.
     std::optional<Capture> captured_; ///< The newest.
     Handle timer_;
     Handle notice_;
+    Handle copying_;  ///< An image that is being read to be copied.
+    Handle offering_; ///< Likewise, to be offered again.
     QObject context_;
     std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true);
     std::map<qint64, Handle>
