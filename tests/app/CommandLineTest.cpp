@@ -33,6 +33,8 @@ TEST(CommandLine, IsUnderstood) {
         {{}, {Kind::ask, {u"show"_s}, {}, IfNoneRuns::start}},
         {{"--toggle"}, {Kind::ask, {u"toggle"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--settings"}, {Kind::ask, {u"settings"_s}, {}, IfNoneRuns::startAndAsk}},
+        {{"--take-over"},
+         {Kind::ask, {u"show"_s}, {}, IfNoneRuns::start, DataLock::Claim::takeOver}},
         {{"--setup"}, {Kind::ask, {u"setup"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--updates"}, {Kind::ask, {u"updates"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--quit"}, asks({u"quit"_s})},
