@@ -3,7 +3,6 @@
 #include "app/Commands.h"
 #include "app/ShelfServices.h"
 #include "app/StatusItemController.h"
-#include "base/Files.h"
 #include "clipboard/ClipboardManager.h"
 #include "monitor/ClaudeEnvironment.h"
 #include "monitor/LiveContext.h"
@@ -45,8 +44,6 @@
 #include <QLocale>
 #include <QStandardPaths>
 
-#include <cerrno>
-#include <csignal>
 #include <cstdlib>
 
 namespace ravelo {
@@ -79,6 +76,13 @@ void quitLater() {
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
+/// What a first start does must not be done again if no more than the preferences were lost.
+void rememberFirstStart(Preferences& preferences) {
+    for (const auto key : {"onboarded"_L1, "didSetupLogin"_L1, "seededSiteLinksV1"_L1}) {
+        preferences.set(key, true);
+    }
+}
+
 // Qt ends the process by exit() when the display server goes, which is how many sessions end.
 AppDelegate* flushedAtExit = nullptr;
 
@@ -94,11 +98,12 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
                          HoverTick::Rest rest)
     : display_(display),
       rest_(rest),
-      dataLock_(lockFile()),
+      dataLock_(std::make_unique<DataLock>(lockFile(), dataFolder() + u"/store.json"_s)),
       scheduler_(std::make_unique<SystemScheduler>()),
       worker_(std::make_unique<WorkerThread>()),
-      preferences_(std::make_unique<PreferenceFile>(configFolder() + u"/ravelo/preferences.json"_s,
-                                                    *worker_)),
+      preferences_(std::make_unique<PreferenceFile>(
+          configFolder() + u"/ravelo/preferences.json"_s,
+          PreferenceFile::Services{*scheduler_, *worker_, mayWrite()})),
       loginItem_(std::make_unique<AutostartEntry>(configFolder() + u"/autostart"_s,
                                                   QCoreApplication::applicationFilePath())),
       loginSession_(std::make_unique<LoginSession>(systemBus())),
@@ -118,11 +123,7 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       view_(std::make_unique<PanelView>()) {}
 
 bool AppDelegate::mayRunAlready() {
-    qint64 process = 0;
-    QString host;
-    QString program;
-    const bool known = QLockFile(lockFile()).getLockInfo(&process, &host, &program);
-    return known && (kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM);
+    return DataLock::mayBeHeld(lockFile());
 }
 
 AppDelegate::~AppDelegate() {
@@ -130,17 +131,24 @@ AppDelegate::~AppDelegate() {
     flushedAtExit = nullptr;
 }
 
-Result<void> AppDelegate::applicationDidFinishLaunching() {
-    makePrivateFolder(dataFolder());
-    dataLock_.setStaleLockTime(0); // Held for as long as its process lives.
-    if (!dataLock_.tryLock() && dataLock_.error() == QLockFile::LockFailedError) {
-        return failure(u"Ravelo runs in another session and uses "_s + dataFolder());
+std::function<Result<void>()> AppDelegate::mayWrite() {
+    return [this] {
+        return dataLock_->check();
+    };
+}
+
+Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
+    if (auto claimed = dataLock_->claim(claim); !claimed) {
+        return claimed;
+    }
+    if (preferences_->wasUnreadable()) {
+        rememberFirstStart(*preferences_);
     }
     Updater::provide(std::make_unique<PackageKit>(systemBus(), u"ravelo"_s),
                      u"" RAVELO_VERSION ""_s);
-    store_ =
-        std::make_unique<Store>(dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_,
-                                                              display_.pasteboard(), *sound_});
+    store_ = std::make_unique<Store>(
+        dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_, display_.pasteboard(),
+                                      *sound_, *jobs_, mayWrite()});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
@@ -150,7 +158,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     settings_ = std::make_unique<AppSettings>(*preferences_, *loginItem_);
     settings_->setupLoginItemDefaultIfNeeded();
 
-    clipboard_ = std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_);
+    clipboard_ =
+        std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_, *jobs_);
     clipboard_->start();
 
     provideMonitors();
@@ -275,6 +284,7 @@ void AppDelegate::flush() {
     if (store_) {
         store_->flush();
     }
+    preferences_->flush();
 }
 
 } // namespace ravelo

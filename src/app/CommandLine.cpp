@@ -19,6 +19,7 @@ Result<Command> parseOption(const QList<QByteArray>& arguments) {
         {"--settings", {Kind::ask, {u"settings"_s}, {}, IfNoneRuns::startAndAsk}},
         {"--setup", {Kind::ask, {u"setup"_s}, {}, IfNoneRuns::startAndAsk}},
         {"--updates", {Kind::ask, {u"updates"_s}, {}, IfNoneRuns::startAndAsk}},
+        {"--take-over", {Kind::ask, {u"show"_s}, {}, IfNoneRuns::start, DataLock::Claim::takeOver}},
         {"--quit", {Kind::ask, {u"quit"_s}, {}, IfNoneRuns::fail}},
         {"--status", {Kind::ask, {u"status"_s}, {}, IfNoneRuns::readFiles}},
         {"--status=json", {Kind::ask, {u"status"_s, u"--json"_s}, {}, IfNoneRuns::readFiles}},
@@ -93,6 +94,8 @@ screen. Move the pointer there to open it; click elsewhere to close it.
   --settings     open the settings; starts Ravelo where it is not running
   --setup        go through the first-run setup again; starts it likewise
   --updates      look for a newer version; starts it likewise
+  --take-over    start though another machine that shares this home, or another
+                 session, seems to use the data; a Ravelo there stops saving
   --quit         end the running Ravelo
   --status       one line on Claude Code: model, context used / limit, peak hours,
                  and how much of the plan's five-hour and weekly windows is used;

@@ -99,7 +99,7 @@ int run(const Command& command, char** argv) {
         return 1;
     }
     AppDelegate delegate(**display, environment);
-    if (const auto launched = delegate.applicationDidFinishLaunching(); !launched) {
+    if (const auto launched = delegate.applicationDidFinishLaunching(command.claim); !launched) {
         complain(launched.error().message);
         return 1;
     }

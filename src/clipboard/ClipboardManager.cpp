@@ -3,6 +3,7 @@
 #include "base/Files.h"
 #include "base/Scheduler.h"
 #include "clipboard/FileForms.h"
+#include "platform/DetachedJobs.h"
 #include "store/Store.h"
 
 #include <QBuffer>
@@ -10,6 +11,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace ravelo {
 
@@ -24,6 +26,7 @@ bool isImage(QByteArray bytes) {
     return QImageReader(&buffer).canRead();
 }
 
+/// Not for the main thread.
 QList<PasteboardEntry> imageForms(const QString& path) {
     const auto bytes = readFile(path);
     return bytes && isImage(*bytes) ? QList<PasteboardEntry>{{pngType, *bytes}}
@@ -32,10 +35,12 @@ QList<PasteboardEntry> imageForms(const QString& path) {
 
 } // namespace
 
-ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler)
+ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
+                                   DetachedJobs& jobs)
     : store_(store),
       pasteboard_(pasteboard),
       scheduler_(scheduler),
+      jobs_(jobs),
       lastChangeCount_(pasteboard.changeCount()) {}
 
 void ClipboardManager::start() {
@@ -51,6 +56,7 @@ void ClipboardManager::start() {
         if (held_) {
             held_->clip = Clip::cleared;
         }
+        offering_.reset();
         answerSaveRequest();
     });
 }
@@ -154,34 +160,50 @@ void ClipboardManager::answerSaveRequest() {
     }
 }
 
-/// Only what went with its owner, never what was copied before it.
+/// Only what went with its owner, never what was copied before it, and nothing if the user has
+/// deleted the clip.
 void ClipboardManager::offerAgain() {
-    if (!held_ || held_->clip != Clip::kept || held_->source == Source::file ||
-        pasteboard_.orphaned() != held_->changeCount) {
+    if (!isLost(held_.get())) {
         return;
     }
     const ClipItem* clip = find(held_->id);
-    const auto forms = clip ? formsOf(*clip) : QList<PasteboardEntry>();
-    if (forms.isEmpty()) {
+    if (clip == nullptr) {
         return;
     }
-    if (const auto count = pasteboard_.adopt(forms)) {
-        held_->changeCount = *count;
-        held_->contents.owner = 0;
-        suppressOwnChange(*count);
+    const auto offer = [this, weak = std::weak_ptr(held_)](const Forms& forms) {
+        const auto held = weak.lock();
+        if (forms.isEmpty() || !isLost(held.get())) {
+            return;
+        }
+        if (const auto count = pasteboard_.adopt(forms)) {
+            held->changeCount = *count;
+            held->contents.owner = 0;
+            suppressOwnChange(*count);
+        }
+    };
+    if (clip->kind == ClipKind::image) {
+        offering_ = readImage(store_.imagePath(clip->imageFileName), offer);
+    } else {
+        offer({{plainTextType, clip->text.toUtf8()}});
     }
 }
 
-/// Null where the user has deleted the clip.
+/// Gone with its owner, and ours to offer again.
+bool ClipboardManager::isLost(const Held* held) const {
+    return held != nullptr && held->clip == Clip::kept && held->source != Source::file &&
+           pasteboard_.orphaned() == held->changeCount;
+}
+
+/// Null if the user has deleted the clip.
 const ClipItem* ClipboardManager::find(const QUuid& clip) const {
     const auto found = std::ranges::find(store_.clips(), clip, &ClipItem::id);
     return found == store_.clips().cend() ? nullptr : &*found;
 }
 
-QList<PasteboardEntry> ClipboardManager::formsOf(const ClipItem& clip) const {
-    return clip.kind == ClipKind::image
-               ? imageForms(store_.imagePath(clip.imageFileName))
-               : QList<PasteboardEntry>{{plainTextType, clip.text.toUtf8()}};
+Handle ClipboardManager::readImage(const QString& path, std::function<void(const Forms&)> done) {
+    const auto forms = std::make_shared<Forms>();
+    return jobs_.run([path, forms] { *forms = imageForms(path); },
+                     [forms, done = std::move(done)] { done(*forms); });
 }
 
 void ClipboardManager::copyText(const QString& text) {
@@ -189,14 +211,19 @@ void ClipboardManager::copyText(const QString& text) {
 }
 
 void ClipboardManager::copyImage(const QString& path) {
-    write(imageForms(path));
+    copying_ = readImage(path, [this, count = pasteboard_.changeCount()](const Forms& forms) {
+        if (pasteboard_.changeCount() == count) { // Else something was copied after it.
+            write(forms);
+        }
+    });
 }
 
 void ClipboardManager::copyFile(const QUrl& url) {
     write(fileForms(url));
 }
 
-void ClipboardManager::write(const QList<PasteboardEntry>& forms) {
+void ClipboardManager::write(const Forms& forms) {
+    copying_.reset();
     if (forms.isEmpty()) {
         return;
     }

@@ -16,6 +16,7 @@ class QUrl;
 
 namespace ravelo {
 
+class DetachedJobs;
 class Scheduler;
 class Store;
 struct ClipItem;
@@ -28,14 +29,16 @@ struct ClipItem;
 class ClipboardManager {
 public:
     /// What is on the pasteboard at this moment is never captured.
-    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler);
+    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
+                     DetachedJobs& jobs);
 
     /// Looks every 0.5 s from now on, and at once where the platform tells of a change.
     void start();
 
     void copyText(const QString& text);
 
-    /// Puts a stored image on the pasteboard; does nothing where the file cannot be loaded.
+    /// Puts a stored image on the pasteboard, once it is read; does nothing if the file cannot be
+    /// loaded or something else was copied meanwhile.
     void copyImage(const QString& path);
 
     /// Puts a file on the pasteboard, for file managers to paste a copy of it; does nothing where
@@ -46,6 +49,8 @@ public:
     std::function<void(const TooLarge&)> onTooLarge;
 
 private:
+    using Forms = QList<PasteboardEntry>;
+
     /// Where what is made of the contents may come from; a file that its owner named is never
     /// offered in our name, as its owner might not be allowed to read it.
     enum class Source { owner, file };
@@ -68,14 +73,16 @@ private:
     void keep(const PasteboardSnapshot& snapshot);
     void answerSaveRequest();
     void offerAgain();
+    [[nodiscard]] bool isLost(const Held* held) const;
     [[nodiscard]] const ClipItem* find(const QUuid& clip) const;
-    [[nodiscard]] QList<PasteboardEntry> formsOf(const ClipItem& clip) const;
-    void write(const QList<PasteboardEntry>& forms);
+    [[nodiscard]] Handle readImage(const QString& path, std::function<void(const Forms&)> done);
+    void write(const Forms& forms);
     void suppressOwnChange(qint64 count);
 
     Store& store_;
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
+    DetachedJobs& jobs_;
     qint64 lastChangeCount_;
     qint64 suppressUntilCount_ = -1; ///< The change that we made ourselves.
     std::shared_ptr<Held> held_;     ///< Null at first.
@@ -83,6 +90,8 @@ private:
     Handle notice_;
     Handle saveRequests_;
     bool saveAsked_ = false;
+    Handle copying_;  ///< An image that is being read to be copied.
+    Handle offering_; ///< Likewise, to be offered again.
     QObject context_;
     std::map<qint64, Handle>
         reads_; ///< By change count; those up to the newest answer are settled.

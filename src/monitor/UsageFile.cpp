@@ -50,10 +50,10 @@ Result<void> storeUsage(const QByteArray& home, const QByteArray& statusLine) {
     if (!QFile::exists(own)) { // Who made it before chose its rights.
         makePrivateFolder(own);
     }
-    if (const QString path = QFile::decodeName(file(home)); !writeFileAtomically(path, *kept)) {
-        return failure(u"cannot write "_s + path);
-    }
-    return {};
+    const QString path = QFile::decodeName(file(home));
+    return writeFileAtomically(path, *kept).map_error([&](const Error& error) {
+        return Error{u"cannot write %1: %2"_s.arg(path, error.message)};
+    });
 }
 
 } // namespace ravelo

@@ -1,15 +1,11 @@
 #include "store/PasteboardImage.h"
 
-#include "base/UriList.h"
 #include "platform/Pasteboard.h"
 
 #include <QBuffer>
-#include <QFile>
-#include <QFileInfo>
 #include <QImage>
 #include <QImageIOHandler>
 #include <QImageReader>
-#include <QSysInfo>
 
 #include <algorithm>
 
@@ -21,7 +17,6 @@ namespace {
 
 constexpr auto pngType = "image/png"_L1;
 constexpr auto filesType = "text/uri-list"_L1;
-constexpr qint64 mostFileBytes = qint64{64} * 1024 * 1024;
 /// Four bytes each, as Qt's own limit has it; a screen of 8K just fits in.
 constexpr qint64 mostPixels = qint64{32} * 1024 * 1024;
 /// zlib's level 1: half the time, hardly larger.
@@ -94,21 +89,6 @@ QByteArray bytesToPng(QByteArray bytes) {
     return decodedToPng(buffer);
 }
 
-/// The first file of a list that is on this machine; empty where there is none.
-QString firstFile(const QByteArray& uriList) {
-    return localFiles(uriList, QSysInfo::machineHostName().toUtf8()).value(0).toLocalFile();
-}
-
-QByteArray fileToPng(const QString& path) {
-    const QFileInfo info(path);
-    QFile file(path);
-    // Only a regular file: a pipe or a device could keep the worker waiting for ever.
-    if (!info.isFile() || info.size() > mostFileBytes || !file.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    return decodedToPng(file);
-}
-
 } // namespace
 
 QString nextImageType(const PasteboardSnapshot& contents) {
@@ -142,14 +122,14 @@ qint64 oversizedImage(const PasteboardSnapshot& contents) {
     return largest;
 }
 
-QByteArray pngImage(const PasteboardSnapshot& contents) {
+QByteArray pngImage(const PasteboardSnapshot& contents, const QByteArray& file) {
     for (const QString& type : candidates(contents.types)) {
         const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
         if (bytes.isEmpty()) {
             continue;
         }
         QByteArray png = type == pngType     ? bytes
-                         : type == filesType ? fileToPng(firstFile(bytes))
+                         : type == filesType ? bytesToPng(file)
                                              : bytesToPng(bytes);
         if (!png.isEmpty()) {
             return png;

@@ -20,9 +20,9 @@ struct PasteboardSnapshot;
 [[nodiscard]] qint64 oversizedImage(const PasteboardSnapshot& contents);
 
 /// The image in what such a reading gave, as PNG: PNG bytes as they are, all else decoded and
-/// encoded again, also the first file of a list of copied files. Empty where there is none that can
-/// be decoded. Takes long and reads files: for the worker. At most 64 MiB of a file are read and
-/// at most 128 MiB of pixels decoded.
-[[nodiscard]] QByteArray pngImage(const PasteboardSnapshot& contents);
+/// encoded again. `file` is what is in the file of a list of copied files, see `copiedFile`. Empty
+/// if there is none that can be decoded. Takes long: for the worker. At most 128 MiB of pixels are
+/// decoded.
+[[nodiscard]] QByteArray pngImage(const PasteboardSnapshot& contents, const QByteArray& file);
 
 } // namespace ravelo

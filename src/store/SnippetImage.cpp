@@ -1,12 +1,11 @@
 #include "store/SnippetImage.h"
 
-#include "base/Files.h"
 #include "base/Scheduler.h"
 #include "platform/Pasteboard.h"
 #include "platform/Worker.h"
+#include "store/CopiedFile.h"
+#include "store/ImageFiles.h"
 #include "store/PasteboardImage.h"
-
-#include <QFile>
 
 #include <memory>
 #include <utility>
@@ -50,20 +49,36 @@ private:
                 if (const auto self = weak.lock()) {
                     self->change_.reset();
                     self->timeout_.reset();
-                    self->write(contents);
+                    self->readFile(contents);
                 }
             });
     }
 
-    void write(const PasteboardSnapshot& contents) {
+    void readFile(const PasteboardSnapshot& contents) {
+        const QByteArray path = copiedFile(contents);
+        if (path.isEmpty()) {
+            write(contents, {});
+            return;
+        }
+        file_ = readCopiedFile(services_.jobs, services_.scheduler, path,
+                               [weak = weak_from_this(), contents](const QByteArray& bytes) {
+                                   if (const auto self = weak.lock()) {
+                                       self->write(contents, bytes);
+                                   }
+                               });
+    }
+
+    void write(const PasteboardSnapshot& contents, const QByteArray& file) {
         const auto written = std::make_shared<bool>(false);
-        auto job = [path = path_, contents, written] {
-            const QByteArray png = pngImage(contents);
-            *written = !png.isEmpty() && writeFileAtomically(path, png);
+        auto job = [path = path_, contents, file, written, mayWrite = services_.mayWrite] {
+            *written = writeImage(path, pngImage(contents, file), mayWrite);
         };
         services_.worker.run(std::move(job), [self = shared_from_this(), written] {
             if (!self->done_) {
-                self->services_.worker.run([path = self->path_] { QFile::remove(path); });
+                self->services_.worker.run(
+                    [path = self->path_, mayWrite = self->services_.mayWrite] {
+                        removeImage(path, mayWrite);
+                    });
             } else {
                 self->finish(*written);
             }
@@ -79,6 +94,7 @@ private:
         change_.reset();
         timeout_.reset();
         reading_.reset();
+        file_.reset();
     }
 
     void finish(bool written) {
@@ -93,6 +109,7 @@ private:
     Handle change_;
     Handle timeout_;
     Handle reading_;
+    Handle file_;
 };
 
 } // namespace

@@ -33,7 +33,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       pasting_(subjects.pasteboard),
       toast_(subjects.scheduler),
       links_(subjects.opener, subjects.scheduler, toast_),
-      shelf_(subjects.store, subjects.jobs),
+      shelf_(subjects.store, subjects.jobs, subjects.scheduler),
       received_(subjects.received, subjects.scheduler, locale),
       sending_(subjects.nearby, toast_),
       fileDrag_(subjects.jobs, subjects.icons),

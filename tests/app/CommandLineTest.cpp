@@ -34,6 +34,8 @@ TEST(CommandLine, IsUnderstood) {
         {{"-session", "1_2"}, {Kind::ask, {u"restore"_s}, {}, IfNoneRuns::start}},
         {{"--toggle"}, {Kind::ask, {u"toggle"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--settings"}, {Kind::ask, {u"settings"_s}, {}, IfNoneRuns::startAndAsk}},
+        {{"--take-over"},
+         {Kind::ask, {u"show"_s}, {}, IfNoneRuns::start, DataLock::Claim::takeOver}},
         {{"--setup"}, {Kind::ask, {u"setup"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--updates"}, {Kind::ask, {u"updates"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--quit"}, asks({u"quit"_s})},

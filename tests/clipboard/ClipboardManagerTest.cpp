@@ -2,6 +2,7 @@
 
 #include "clipboard/FileForms.h"
 #include "fakes/FakeAlertSound.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -48,7 +49,7 @@ class Clipboard : public testing::Test {
 public:
     Clipboard() {
         pasteboard.offerText(u"there before the start"_s);
-        manager.emplace(store, pasteboard, scheduler);
+        manager.emplace(store, pasteboard, scheduler, jobs);
         manager->start();
     }
 
@@ -71,7 +72,8 @@ public:
     MemoryPreferences preferences;
     MemoryPasteboard pasteboard{scheduler};
     FakeAlertSound sound;
-    Store store{folder.path(), {scheduler, worker, preferences, pasteboard, sound}};
+    FakeDetachedJobs jobs{scheduler};
+    Store store{folder.path(), {scheduler, worker, preferences, pasteboard, sound, jobs}};
     std::optional<ClipboardManager> manager;
 };
 
@@ -173,12 +175,43 @@ TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
 
     const qint64 before = pasteboard.changeCount();
     manager->copyImage(folder.filePath(u"missing.png"_s));
+    settle();
     manager->copyImage(folder.filePath(u"store.json"_s));
+    settle();
     manager->copyFile(QUrl(u"https://example.org/a.png"_s));
     manager->copyFile(QUrl());
     EXPECT_EQ(pasteboard.changeCount(), before) << "what is none leaves the pasteboard alone";
     EXPECT_EQ(texts(), QStringList());
 }
+
+struct OvertakenCase {
+    const char* name;
+    std::function<void(Clipboard&)> copies; ///< While an image is still being read.
+    const char* expected;                   ///< The text on the pasteboard at the end.
+};
+
+class OvertakenImage : public Clipboard, public testing::WithParamInterface<OvertakenCase> {};
+
+TEST_P(OvertakenImage, givesWayToWhatWasCopiedAfterIt) {
+    const QString path = folder.filePath(u"a.png"_s);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(picture("png")) > 0);
+    file.close();
+    manager->copyImage(path);
+    EXPECT_FALSE(pasteboard.bytes("image/png"_L1).startsWith("\x89PNG"))
+        << "read on the main thread";
+    GetParam().copies(*this);
+    settle();
+    EXPECT_EQ(pasteboard.bytes(plainTextType), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    By, OvertakenImage,
+    testing::Values(
+        OvertakenCase{"us", [](Clipboard& on) { on.manager->copyText(u"text"_s); }, "text"},
+        OvertakenCase{"another", [](Clipboard& on) { on.pasteboard.offerText(u"theirs"_s); },
+                      "theirs"}),
+    [](const auto& row) { return row.param.name; });
 
 struct FileCase {
     const char* name;

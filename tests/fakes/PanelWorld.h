@@ -33,7 +33,7 @@ struct PanelWorld {
 
     /// The store begins with `data`.
     explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
-        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard, sound}),
+        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard, sound, jobs}),
           controller(
               store, clipboard, settings,
               {scheduler, screens, pointer, drags, transfers, barrier, window, {&lock, &otherLock}},
@@ -81,7 +81,7 @@ struct PanelWorld {
     Notices notices{scheduler};
     Store store;
     AppSettings settings{preferences, loginItem};
-    ClipboardManager clipboard{store, pasteboard, scheduler};
+    ClipboardManager clipboard{store, pasteboard, scheduler, jobs};
     NotchController controller;
 
 private:

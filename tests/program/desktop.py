@@ -233,10 +233,12 @@ class Desktop(contextlib.AbstractContextManager):
 
     # The clipboard, as other programs use it.
 
-    def copy_text(self, text):
+    def copy_text(self, text, target=None):
         """Copies with xclip, which stays behind as the owner."""
-        subprocess.run(["xclip", "-selection", "clipboard", "-i"], input=text.encode(), check=True,
-                       env=self.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=20)
+        as_target = ["-target", target] if target else []
+        subprocess.run(["xclip", "-selection", "clipboard", *as_target, "-i"], input=text.encode(),
+                       check=True, env=self.env, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, timeout=20)
 
     def paste_text(self):
         return self.run("xclip", "-selection", "clipboard", "-o")

@@ -220,6 +220,36 @@ class Survival(ProgramCase):
         self.assertEqual(self.ravelo.store()["snippets"][0]["title"], "First reply to lead")
         self.assertEqual((self.ravelo.folder / "store.json.unreadable").read_bytes(), torn)
 
+    def test_preferences_that_are_torn_are_put_aside_and_no_first_start_comes_again(self):
+        torn = '{"onboarded": true, "did'
+        self.desktop.preferences.write_text(torn)
+        self.ravelo.start()
+        aside = self.desktop.preferences.with_name("preferences.json.unreadable")
+        wait_for(lambda: aside.exists() and aside.read_text() == torn, f"{torn} in {aside}")
+        self.copy_and_wait("after")
+        self.assertFalse((self.desktop.home / "config/autostart/ravelo.desktop").exists())
+        self.assertTrue(self.ravelo.preferences()["onboarded"])
+        titles = [snippet["title"] for snippet in self.ravelo.store()["snippets"]]
+        self.assertEqual(len(titles), 8, "the links, which a first start adds, are not added again")
+
+    def test_a_ravelo_that_was_taken_over_saves_nothing_more(self):
+        self.ravelo.start()
+        self.copy_and_wait("before")
+        lock = self.ravelo.folder / "lock"
+        self.assertEqual(lock.stat().st_mode & 0o777, 0o600)
+        lock.unlink()
+        lock.write_text("7\nravelo\nfar.example\nanother machine\nboot\n")
+        self.desktop.copy_text("not ours to save")
+        time.sleep(SAVE_DELAY + 1)
+        self.stop()
+        self.assertEqual(self.ravelo.texts(), ["before"])
+        self.assertTrue(lock.exists(), "the lock of the one that took over")
+        code, told = self.ravelo.call()
+        self.assertEqual((code, "far.example (process 7)" in told), (1, True), told)
+        self.ravelo.start("--take-over")
+        self.copy_and_wait("after")
+        self.assertNotIn("far.example", lock.read_text())
+
     def test_every_way_to_end_keeps_what_was_just_copied(self):
         ends = {
             "SIGTERM": lambda: self.ravelo.process.send_signal(signal.SIGTERM),

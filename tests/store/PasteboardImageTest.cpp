@@ -1,7 +1,9 @@
 #include "store/PasteboardImage.h"
 #include "TestImages.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/MemoryPasteboard.h"
+#include "store/CopiedFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -65,11 +67,16 @@ protected:
         const Handle reading = pasteboard_.read(
             nextImageType, [&](const PasteboardSnapshot& read) { snapshot = read; });
         scheduler_.advance(Seconds(1));
-        return pngImage(snapshot);
+        QByteArray file;
+        const Handle readingFile = readCopiedFile(jobs_, scheduler_, copiedFile(snapshot),
+                                                  [&](const QByteArray& bytes) { file = bytes; });
+        scheduler_.advance(Seconds(0));
+        return pngImage(snapshot, file);
     }
 
     ManualScheduler scheduler_;
     MemoryPasteboard pasteboard_{scheduler_};
+    FakeDetachedJobs jobs_{scheduler_};
 };
 
 TEST_P(OfferedImage, IsTheBestThatCanBeHad) {

@@ -130,10 +130,8 @@ Result<void> AutostartEntry::setEnabled(bool enabled) {
                           u"Terminal=false\n"
                           u"X-GNOME-Autostart-enabled=true\n"_s;
     QDir().mkpath(QFileInfo(path_).path());
-    if (!writeFileAtomically(path_, entry.arg(execArgument(program_)).toUtf8())) {
-        return failure(path_ + u": could not be written"_s);
-    }
-    return {};
+    return writeFileAtomically(path_, entry.arg(execArgument(program_)).toUtf8())
+        .map_error([this](const Error& error) { return Error{path_ + u": "_s + error.message}; });
 }
 
 } // namespace ravelo
