@@ -192,7 +192,8 @@ private:
             return;
         }
         dropped_ = true;
-        const xcb_atom_t action = accepted ? answer.data.data32[finished ? 2 : 4] : XCB_ATOM_NONE;
+        const xcb_atom_t none = XCB_ATOM_NONE;
+        const xcb_atom_t action = accepted ? answer.data.data32[finished ? 2 : 4] : none;
         auto* name = xcb_get_atom_name_reply(xcb_, xcb_get_atom_name(xcb_, action), nullptr);
         std::printf("%.*s\n", name ? xcb_get_atom_name_name_length(name) : 4,
                     name ? xcb_get_atom_name_name(name) : "none");
