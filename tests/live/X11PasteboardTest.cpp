@@ -161,7 +161,7 @@ INSTANTIATE_TEST_SUITE_P(
     testing::Values(HostileCase{"silent", false}, HostileCase{"targetsOnly", true},
                     HostileCase{"refuse", true}, HostileCase{"stallsInPieces", true},
                     HostileCase{"claimsHuge", true, 1 << 20, 2000000000},
-                    HostileCase{"claimsSmall", true},
+                    HostileCase{"claimsSmall", true, 1 << 20, 33 << 18},
                     HostileCase{"inOnePiece", true, (8 << 20) + 1, (8 << 20) + 1}),
     [](const auto& tested) { return tested.param.behaviour; });
 
