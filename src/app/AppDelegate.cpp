@@ -260,11 +260,33 @@ void AppDelegate::wire() {
 /// What the panel says about saving, about files that could not be read and about copies that are
 /// too large.
 void AppDelegate::wireNotices() {
+    using Source = Notices::Source;
+    QObject::connect(store_.get(), &Store::saved, notices_.get(),
+                     [this] { notices_->saved(Source::store); });
+    QObject::connect(
+        store_.get(), &Store::saveFailed, notices_.get(),
+        [this](const QString& reason) { notices_->saveFailed(Source::store, reason); });
+    QObject::connect(store_.get(), &Store::putAside, notices_.get(),
+                     [this](const QString& path) { notices_->putAside(Source::store, path); });
+    preferences_->onSaved = [this](const Result<void>& saved) {
+        saved ? notices_->saved(Source::preferences)
+              : notices_->saveFailed(Source::preferences, saved.error().message);
+    };
+    preferences_->onPutAside = [this] {
+        notices_->putAside(Source::preferences, preferences_->putAside());
+    };
     notices_->onTryAgain = [this] {
         store_->save();
+        preferences_->retry();
     };
     notices_->onOpenFolder = [this](const QString& path) {
         view_->host().showInFolder(QUrl::fromLocalFile(path));
+    };
+    clipboard_->onTooLarge = [this](const TooLarge& copy) {
+        using Measure = TooLargeCopy::Measure;
+        const bool isText = copy.kind == TooLarge::Kind::text;
+        view_->host().tellTooLarge(
+            {isText ? Measure::bytesOfText : Measure::bytesOfImage, copy.bytes});
     };
 }
 
