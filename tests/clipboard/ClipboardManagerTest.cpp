@@ -56,6 +56,7 @@ public:
     void settle() {
         scheduler.advance(Seconds(0.6));
         worker.drain();
+        scheduler.advance(Seconds(0)); // What was written may have to be read again.
     }
 
     [[nodiscard]] QStringList texts() const {

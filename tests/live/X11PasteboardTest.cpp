@@ -184,8 +184,11 @@ TEST_F(X11PasteboardTest, doesNotTakeALateAnswerForTheNextOwners) {
     std::optional<PasteboardSnapshot> overtaken;
     const Handle reading = ask(plainTextType, overtaken);
     for (int round = 0; round < 3; ++round) {
-        const auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "fresh")});
+        auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "fresh")});
         EXPECT_EQ(readText(), QByteArray("fresh"));
+        const qint64 before = board().changeCount();
+        owner.reset(); // Its end must not pass for the next owner's coming.
+        EXPECT_TRUE(eventually([&] { return board().changeCount() != before; }));
     }
     EXPECT_FALSE(overtaken);
 }

@@ -487,6 +487,7 @@ TEST(FileThumbs, areMadeOfFilesWhoseNamesAreNotUtf8) {
     const QByteArray odd = QFile::encodeName(folder.path()) + "/\xe4.png";
     ASSERT_EQ(std::rename(QFile::encodeName(plain).constData(), odd.constData()), 0);
     EXPECT_EQ(fileThumb(fileUrl(odd), 1, NoFileIcons()).size(), QSize(72, 56));
+    EXPECT_EQ(std::remove(odd.constData()), 0); // QTemporaryDir cannot.
 }
 
 TEST(FileThumbs, surviveTheWayThroughAnAddress) {
