@@ -128,9 +128,9 @@ void NotchController::openForFiles() {
 }
 
 bool NotchController::onDragEnter() {
-    dragOver_ = true;
+    dragOver_ = mayCarryFiles(); // Of one that is refused no leaving is reported.
     lookAtDrag();
-    return mayCarryFiles();
+    return dragOver_;
 }
 
 void NotchController::onDragLeave() {

@@ -153,12 +153,13 @@ TEST_F(ShelfTab, lightsUpAndForgetsTheSelectionWhileFilesAreDraggedOverIt) {
     dragOver({400, 300}, false);
     EXPECT_EQ(selected(), u"1"_s) << "by what carries no files";
     EXPECT_EQ(shown(u"grid"_s), nullptr) << "by what carries no files";
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(&view.window(), &leave);
     dragOver({400, 300});
     EXPECT_EQ(selected(), QString());
     EXPECT_NE(shown(u"grid"_s), nullptr) << "the tab";
     world.store.removeFromShelf(file(u"1"_s));
     EXPECT_TRUE(item(u"dropCard"_s)->property("targeted").toBool());
-    QDragLeaveEvent leave;
     QCoreApplication::sendEvent(&view.window(), &leave);
     EXPECT_FALSE(item(u"dropCard"_s)->property("targeted").toBool());
 }
@@ -487,7 +488,7 @@ TEST(FileThumbs, areMadeOfFilesWhoseNamesAreNotUtf8) {
     const QByteArray odd = QFile::encodeName(folder.path()) + "/\xe4.png";
     ASSERT_EQ(std::rename(QFile::encodeName(plain).constData(), odd.constData()), 0);
     EXPECT_EQ(fileThumb(fileUrl(odd), 1, NoFileIcons()).size(), QSize(72, 56));
-    EXPECT_EQ(std::remove(odd.constData()), 0); // QTemporaryDir cannot.
+    EXPECT_EQ(std::remove(odd.constData()), 0); // Qt would not find it.
 }
 
 TEST(FileThumbs, surviveTheWayThroughAnAddress) {
