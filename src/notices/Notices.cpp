@@ -100,8 +100,7 @@ Notices::Notice Notices::worst() const {
     if (savedAgain_) {
         return {SavedAgain, u"Saved again."_s, {}, {}};
     }
-    return aside_.empty() ? Notice()
-                          : fileAside(aside_.begin()->first, aside_.begin()->second);
+    return aside_.empty() ? Notice() : fileAside(aside_.begin()->first, aside_.begin()->second);
 }
 
 Notices::Notice Notices::failing(const Failure& failure) const {

@@ -10,8 +10,8 @@
 
 namespace ravelo {
 
-/// What the panel has to say about the program's own files. One notice is shown at a time, the worst
-/// first; the others wait. In memory only. Main thread.
+/// What the panel has to say about the program's own files. One notice is shown at a time, the
+/// worst first; the others wait. In memory only. Main thread.
 class Notices : public QObject {
     Q_OBJECT
     Q_PROPERTY(Kind kind READ kind NOTIFY changed)

@@ -143,7 +143,7 @@ QList<ClipItem> ClipListModel::found() {
 QString ClipListModel::subtitle(const ClipItem& clip) const {
     const Date now = scheduler_.now();
     const QString ago = relativeDate_.text(clip.date, now);
-    if (isTooLarge(clip)) {
+    if (tooLarge_ && isTooLarge(clip)) {
         const bool recent = now.sinceReference - clip.date.sinceReference < justNow.count();
         return tooLargeDetail(tooLarge_->copy, locale_) + u" \u00b7 "_s +
                (recent ? u"just now"_s : ago);

@@ -32,7 +32,7 @@ const auto again = u"Saved again.||"_s;
 
 QString failing(const QString& time, const QString& reason = u"the disk is full"_s) {
     return u"Not saved for %1:|%2. Nothing is lost while Ravelo runs.|Try again"_s.arg(time,
-                                                                                      reason);
+                                                                                       reason);
 }
 
 const auto storeAside = u"Saved copy put aside:|store.json.unreadable, in Ravelo’s data folder. "
