@@ -241,7 +241,8 @@ class Desktop(contextlib.AbstractContextManager):
                        stderr=subprocess.DEVNULL, timeout=20)
 
     def paste_text(self):
-        return self.run("xclip", "-selection", "clipboard", "-o")
+        """Empty if the owner died before it answered: xclip would wait for ever."""
+        return self.run("timeout", "3", "xclip", "-selection", "clipboard", "-o")
 
     def peer(self, *command):
         """Starts a helper program and returns once it says that it has done what it was told."""
