@@ -116,7 +116,7 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       secrets_(std::make_unique<SecretService>(sessionBus())),
       https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
       children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
-                                               renewalFolder(home(), environment))),
+                                               renewalFolder(home()))),
       tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
       shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, display_.icons())),
       notices_(std::make_unique<Notices>(*scheduler_)),
@@ -260,21 +260,24 @@ void AppDelegate::wire() {
 /// What the panel says about saving, about files that could not be read and about copies that are
 /// too large.
 void AppDelegate::wireNotices() {
-    using Source = Notices::Source;
-    QObject::connect(store_.get(), &Store::saved, notices_.get(),
-                     [this] { notices_->saved(Source::store); });
-    QObject::connect(
-        store_.get(), &Store::saveFailed, notices_.get(),
-        [this](const QString& reason) { notices_->saveFailed(Source::store, reason); });
-    QObject::connect(store_.get(), &Store::putAside, notices_.get(),
-                     [this](const QString& path) { notices_->putAside(Source::store, path); });
-    preferences_->onSaved = [this](const Result<void>& saved) {
-        saved ? notices_->saved(Source::preferences)
-              : notices_->saveFailed(Source::preferences, saved.error().message);
+    const auto follow = [this](Notices::Source source) {
+        return [this, source](const SaveOutcome& outcome) {
+            using Kind = SaveOutcome::Kind;
+            if (!outcome.putAside.isEmpty()) {
+                notices_->putAside(source, outcome.putAside);
+            }
+            if (outcome.kind == Kind::saved) {
+                notices_->saved(source);
+            } else {
+                notices_->saveFailed(source, outcome.reason,
+                                     outcome.kind == Kind::failed ? Notices::Retry::yes
+                                                                  : Notices::Retry::no);
+            }
+        };
     };
-    preferences_->onPutAside = [this] {
-        notices_->putAside(Source::preferences, preferences_->putAside());
-    };
+    QObject::connect(store_.get(), &Store::saveEnded, notices_.get(),
+                     follow(Notices::Source::store));
+    preferences_->onSaved = follow(Notices::Source::preferences);
     notices_->onTryAgain = [this] {
         store_->save();
         preferences_->retry();

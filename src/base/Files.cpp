@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
+#include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
@@ -19,6 +20,7 @@ namespace {
 
 constexpr auto privateFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
 constexpr int longestChainOfLinks = 40; ///< As the kernel has it.
+constexpr char temporarySuffix[] = ".XXXXXX";
 
 bool isTaken(const QString& path) {
     const QFileInfo info(path);
@@ -159,7 +161,7 @@ std::optional<QByteArray> readFileEnd(const QByteArray& path, qint64 most) {
 
 Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes) {
     const QByteArray target = QFile::encodeName(behindLinks(path));
-    QByteArray temporary = target + ".XXXXXX";
+    QByteArray temporary = target + temporarySuffix;
     const int file = mkostemp(temporary.data(), O_CLOEXEC); // Made 0600.
     if (file < 0) {
         return lastFailure();
@@ -179,6 +181,11 @@ Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes) {
         return done;
     }
     return syncFolder(target);
+}
+
+bool isTemporaryName(const QString& name) {
+    static const QRegularExpression form(QStringLiteral("\\.[A-Za-z0-9]{6}$"));
+    return form.match(name).hasMatch();
 }
 
 void makePrivateFolder(const QString& path) {

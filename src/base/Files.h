@@ -38,6 +38,10 @@ enum class Presence {
 /// there, unless only its folder could not be brought to the disk. Blocks; any thread.
 [[nodiscard]] Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes);
 
+/// Whether `name` is that of a temporary file of `writeFileAtomically`, which stays behind if the
+/// program is killed while it writes.
+[[nodiscard]] bool isTemporaryName(const QString& name);
+
 /// Makes a folder, and what is missing above it, that only its user can enter (0700).
 void makePrivateFolder(const QString& path);
 

@@ -156,7 +156,8 @@ void ClipboardManager::answerSaveRequest() {
         const bool saved = held_ && held_->changeCount == lastChangeCount_ &&
                            (held_->clip == Clip::pending || held_->clip == Clip::kept) &&
                            held_->source == Source::owner;
-        pasteboard_.answerSaveRequests(saved ? SaveAnswer::saved : SaveAnswer::refused);
+        pasteboard_.answerSaveRequests(lastChangeCount_,
+                                       saved ? SaveAnswer::saved : SaveAnswer::refused);
     }
 }
 
@@ -211,8 +212,8 @@ void ClipboardManager::copyText(const QString& text) {
 }
 
 void ClipboardManager::copyImage(const QString& path) {
-    copying_ = readImage(path, [this, count = pasteboard_.changeCount()](const Forms& forms) {
-        if (pasteboard_.changeCount() == count) { // Else something was copied after it.
+    copying_ = readImage(path, [this, before = held_](const Forms& forms) {
+        if (held_ == before && reads_.empty()) { // Else something was copied after it.
             write(forms);
         }
     });

@@ -2,8 +2,6 @@
 
 #include <QFile>
 
-#include <unistd.h>
-
 #include <algorithm>
 #include <array>
 
@@ -55,12 +53,8 @@ QProcessEnvironment renewalEnvironment(const QProcessEnvironment& environment) {
     return kept;
 }
 
-QByteArray renewalFolder(const QByteArray& home, const QProcessEnvironment& environment) {
-    QByteArray parent = folder(environment, u"XDG_RUNTIME_DIR"_s);
-    if (parent.isEmpty() || access(parent.constData(), W_OK | X_OK) != 0) {
-        parent = home + "/.cache";
-    }
-    return parent + "/ravelo-renewal";
+QByteArray renewalFolder(const QByteArray& home) {
+    return home + "/.cache/ravelo-renewal";
 }
 
 } // namespace ravelo

@@ -18,9 +18,8 @@ namespace ravelo {
 /// bill the key and renew nothing. Without what loads code into programs, as NODE_OPTIONS does.
 [[nodiscard]] QProcessEnvironment renewalEnvironment(const QProcessEnvironment& environment);
 
-/// A folder for the renewal to run in. Below the runtime folder or the home, never below /tmp:
-/// Claude Code also obeys files in the folders above, which anybody may put there.
-[[nodiscard]] QByteArray renewalFolder(const QByteArray& home,
-                                       const QProcessEnvironment& environment);
+/// A folder for the renewal to run in. Always below the home: Claude Code also obeys files in the
+/// folders above, and XDG_RUNTIME_DIR may lie in /tmp, where anybody can put some.
+[[nodiscard]] QByteArray renewalFolder(const QByteArray& home);
 
 } // namespace ravelo

@@ -21,9 +21,10 @@ QString fileName(const QString& path) {
 
 Notices::Notices(Scheduler& scheduler) : scheduler_(scheduler) {}
 
-void Notices::saveFailed(Source source, const QString& reason) {
+void Notices::saveFailed(Source source, const QString& reason, Retry retry) {
     const auto [failure, isNew] = failures_.try_emplace(source, scheduler_.uptime());
     failure->second.reason = reason;
+    failure->second.retry = retry;
     savedAgain_.reset();
     watchFailure();
     update();
@@ -77,7 +78,7 @@ void Notices::update() {
 /// The notice counts minutes, so it changes with each of them.
 void Notices::watchFailure() {
     nextMinute_.reset();
-    if (const Failure* failure = longestFailure()) {
+    if (const Failure* failure = worstFailure()) {
         const Seconds passed = scheduler_.uptime() - failure->since;
         nextMinute_ = scheduler_.after((std::floor(passed / minute) + 1) * minute - passed, [this] {
             watchFailure();
@@ -86,15 +87,18 @@ void Notices::watchFailure() {
     }
 }
 
-const Notices::Failure* Notices::longestFailure() const {
-    const auto longest = std::ranges::min_element(
-        failures_, {}, [](const auto& entry) { return entry.second.since; });
-    return longest == failures_.end() ? nullptr : &longest->second;
+/// The one that no retry can end, else the longest.
+const Notices::Failure* Notices::worstFailure() const {
+    const auto worst = std::ranges::min_element(failures_, {}, [](const auto& entry) {
+        return std::pair(entry.second.retry == Retry::yes, entry.second.since);
+    });
+    return worst == failures_.end() ? nullptr : &worst->second;
 }
 
 Notices::Notice Notices::worst() const {
-    const Failure* failure = longestFailure();
-    if (failure != nullptr && scheduler_.uptime() - failure->since >= minute) {
+    const Failure* failure = worstFailure();
+    if (failure != nullptr &&
+        (failure->retry == Retry::no || scheduler_.uptime() - failure->since >= minute)) {
         return failing(*failure);
     }
     if (savedAgain_) {
@@ -104,6 +108,9 @@ Notices::Notice Notices::worst() const {
 }
 
 Notices::Notice Notices::failing(const Failure& failure) const {
+    if (failure.retry == Retry::no) {
+        return {SavingFails, u"Not saved any more:"_s, failure.reason + u'.', {}};
+    }
     const auto minutes = static_cast<qint64>((scheduler_.uptime() - failure.since) / minute);
     return {SavingFails,
             (minutes == 1 ? u"Not saved for %1 minute:"_s : u"Not saved for %1 minutes:"_s)

@@ -31,9 +31,12 @@ public:
 
     explicit Notices(Scheduler& scheduler);
 
+    /// Whether a save that failed may succeed later.
+    enum class Retry { yes, no };
+
     /// A save failed. `reason` is a phrase such as "the disk is full". It is shown once saving has
-    /// failed for a minute; until then the next try may succeed.
-    void saveFailed(Source source, const QString& reason);
+    /// failed for a minute, as the next try may succeed; at once if there will be none.
+    void saveFailed(Source source, const QString& reason, Retry retry = Retry::yes);
     void saved(Source source);
 
     /// A file could not be read and lies at `path` now. Shown until it is dismissed or acted upon.
@@ -75,11 +78,12 @@ private:
     struct Failure {
         Seconds since; ///< Uptime.
         QString reason;
+        Retry retry = Retry::yes;
     };
 
     void update();
     void watchFailure();
-    [[nodiscard]] const Failure* longestFailure() const;
+    [[nodiscard]] const Failure* worstFailure() const;
     [[nodiscard]] Notice worst() const;
     [[nodiscard]] Notice failing(const Failure& failure) const;
     [[nodiscard]] static Notice fileAside(Source source, const QString& path);

@@ -101,9 +101,9 @@ public:
     /// another program for this.
     [[nodiscard]] virtual Handle onSaveRequest(std::function<void()> callback) = 0;
 
-    /// Answers all requests that are still waiting. Those whose contents are replaced, or that have
-    /// waited for five seconds, are refused without it.
-    virtual void answerSaveRequests(SaveAnswer answer) = 0;
+    /// Answers all requests that are still waiting for the contents of that change count. Those
+    /// whose contents are replaced, or that have waited for five seconds, are refused without it.
+    virtual void answerSaveRequests(qint64 count, SaveAnswer answer) = 0;
 };
 
 } // namespace ravelo

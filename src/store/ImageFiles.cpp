@@ -21,6 +21,15 @@ bool isAllowed(const OwnFile::Permission& mayWrite) {
     return !mayWrite || mayWrite();
 }
 
+bool isOld(Date written, Date now) {
+    return now.sinceReference - written.sinceReference > oneDay;
+}
+
+/// The file that a save was to replace when it was killed; empty if `name` is none of those.
+QString replacedBy(const QString& name) {
+    return isTemporaryName(name) ? name.chopped(7) : QString();
+}
+
 bool isImageName(const QString& name) {
     return name.endsWith(extension) && parseUuid(name.chopped(extension.size()));
 }
@@ -55,8 +64,8 @@ QSet<QString> imageNames(const StoreData& data) {
 QStringList orphanedImages(const QList<FoundImage>& found, const QSet<QString>& named, Date now) {
     QStringList orphans;
     for (const FoundImage& image : found) {
-        if (isImageName(image.name) && !named.contains(image.name) &&
-            now.sinceReference - image.written.sinceReference > oneDay) {
+        const bool isOurs = isImageName(image.name) || isImageName(replacedBy(image.name));
+        if (isOurs && !named.contains(image.name) && isOld(image.written, now)) {
             orphans.append(image.name);
         }
     }
@@ -68,6 +77,12 @@ void removeOrphanedImages(const QString& folder, const QSet<QString>& named, Dat
     constexpr auto any = QDir::AllEntries | QDir::Hidden | QDir::System;
     if (!isAllowed(mayWrite) || !QDir(folder).entryList({u"*.unreadable*"_s}, any).isEmpty()) {
         return;
+    }
+    for (const QFileInfo& file : QDir(folder).entryInfoList(QDir::Files | QDir::NoSymLinks)) {
+        if (replacedBy(file.fileName()) == "store.json"_L1 &&
+            isOld(toDate(file.lastModified()), now)) {
+            QFile::remove(file.filePath());
+        }
     }
     const QDir clips(folder + u"/clips"_s);
     QList<FoundImage> found;

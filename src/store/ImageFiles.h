@@ -29,12 +29,12 @@ struct FoundImage {
 };
 
 /// Those that a crash, or clips that gave way to texts, left behind: named like an image of ours,
-/// by nobody else, and older than a day.
+/// or like one that was being written, named by no record, and older than a day.
 [[nodiscard]] QStringList orphanedImages(const QList<FoundImage>& found, const QSet<QString>& named,
                                          Date now);
 
-/// Deletes the orphans of `folder`/clips. Never while an unreadable store is kept beside it, which
-/// may name them.
+/// Deletes the orphans of `folder`/clips, and what a killed save left of the store file. Never
+/// while an unreadable store is kept beside it, which may name them.
 void removeOrphanedImages(const QString& folder, const QSet<QString>& named, Date now,
                           const OwnFile::Permission& mayWrite);
 

@@ -363,19 +363,10 @@ void Store::write() {
 }
 
 void Store::written(const SaveOutcome& outcome) {
-    if (!outcome.putAside.isEmpty()) {
-        putAsidePath_ = outcome.putAside;
-        Q_EMIT putAside(outcome.putAside);
-    }
     if (outcome.kind == SaveOutcome::Kind::failed) {
         retry_ = services_.scheduler.after(retryDelay, [this] { save(); });
     }
-    saveFailure_ = outcome.reason;
-    if (outcome.kind == SaveOutcome::Kind::saved) {
-        Q_EMIT saved();
-    } else {
-        Q_EMIT saveFailed(outcome.reason);
-    }
+    Q_EMIT saveEnded(outcome);
 }
 
 void Store::flush() {

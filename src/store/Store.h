@@ -150,20 +150,12 @@ public:
     /// Schedules a write of the whole store, 0.4 s after the last of a burst of calls.
     Q_INVOKABLE void save();
 
-    /// Why the last save failed, in words fit for the user; empty if it did not.
-    [[nodiscard]] const QString& saveFailure() const { return saveFailure_; }
-
-    /// Where a store file that could not be read is kept; empty as long as none was put aside.
-    [[nodiscard]] const QString& putAsidePath() const { return putAsidePath_; }
-
     /// Writes what is pending now and waits for it, with the images that are on their way, but for
     /// copied files that are still being read. For the end of the program; needs no event loop.
     void flush();
 
 Q_SIGNALS:
-    void saved();
-    void saveFailed(const QString& reason);
-    void putAside(const QString& path); ///< The store file could not be read and is kept there.
+    void saveEnded(const ravelo::SaveOutcome& outcome);
     void cleared(); ///< The user wants all of it gone, also what is still being read.
     void clipsChanged();
     void snippetsChanged();
@@ -199,8 +191,6 @@ private:
     Shelf shelf_;
     int shelfRequestTick_ = 0;
     std::shared_ptr<OwnFile> file_; ///< The worker's.
-    QString saveFailure_;
-    QString putAsidePath_;
     Captures captures_;
     int clearings_ = 0; ///< Tells captures from before the last clearing from later ones.
     FileLook look_;

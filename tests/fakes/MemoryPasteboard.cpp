@@ -98,8 +98,8 @@ Handle MemoryPasteboard::onSaveRequest(std::function<void()> callback) {
     return saveListeners_.add(std::move(callback));
 }
 
-void MemoryPasteboard::answerSaveRequests(SaveAnswer answer) {
-    if (std::exchange(saveAsked_, false)) {
+void MemoryPasteboard::answerSaveRequests(qint64 count, SaveAnswer answer) {
+    if (count == changeCount_ && std::exchange(saveAsked_, false)) {
         saveAnswer_ = answer;
     }
 }
@@ -120,9 +120,9 @@ void MemoryPasteboard::replace(const QList<PasteboardEntry>& forms) {
     forms_ = forms;
     silent_ = false;
     orphaned_.reset();
+    answerSaveRequests(changeCount_, SaveAnswer::refused);
     ++changeCount_;
     lastChange_ = scheduler_.uptime();
-    answerSaveRequests(SaveAnswer::refused);
 }
 
 } // namespace ravelo

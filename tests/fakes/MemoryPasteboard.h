@@ -23,7 +23,7 @@ public:
 
     [[nodiscard]] std::optional<qint64> adopt(const QList<PasteboardEntry>& forms) override;
     [[nodiscard]] Handle onSaveRequest(std::function<void()> callback) override;
-    void answerSaveRequests(SaveAnswer answer) override;
+    void answerSaveRequests(qint64 count, SaveAnswer answer) override;
 
     /// The owner asks that its contents be saved, and waits.
     void askToSave();

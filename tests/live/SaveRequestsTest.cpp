@@ -91,18 +91,19 @@ TEST_F(SaveRequestsTest, answersAProgramThatWaitsForItsContentsToBeSaved) {
     asker.ask("SAVE_TARGETS");
     ASSERT_TRUE(eventually([&] { return asked == 1; })) << "not told of it";
     EXPECT_EQ(asker.answer(), "") << "answered for us";
-    board().answerSaveRequests(SaveAnswer::saved);
+    board().answerSaveRequests(board().changeCount(), SaveAnswer::saved);
     EXPECT_EQ(asker.waitForAnswer(), "ANSWER");
     EXPECT_EQ(asker.property("ANSWER").first, "NULL");
 
     asker.ask("SAVE_TARGETS", {}); // As clients of old do.
     ASSERT_TRUE(eventually([&] { return asked == 2; }));
-    board().answerSaveRequests(SaveAnswer::saved);
+    board().answerSaveRequests(board().changeCount(), SaveAnswer::saved);
     EXPECT_EQ(asker.waitForAnswer(), "SAVE_TARGETS");
 
     asker.ask("SAVE_TARGETS");
     ASSERT_TRUE(eventually([&] { return asked == 3; }));
-    board().answerSaveRequests(SaveAnswer::refused);
+    board().answerSaveRequests(board().changeCount() - 1, SaveAnswer::saved); // Comes too late.
+    board().answerSaveRequests(board().changeCount(), SaveAnswer::refused);
     EXPECT_EQ(asker.waitForAnswer(), "refused");
 
     asker.ask("SAVE_TARGETS");

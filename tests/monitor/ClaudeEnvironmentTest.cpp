@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <QTemporaryDir>
-
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -27,20 +25,6 @@ TEST(OtherClaudeFolders, areThatOfTheEnvironmentAndTheOneInTheConfiguration) {
     for (const auto& [chosen, folders] : cases) {
         EXPECT_EQ(otherClaudeFolders("/h", with(u"CLAUDE_CONFIG_DIR"_s, chosen)), folders)
             << qPrintable(chosen);
-    }
-}
-
-TEST(RenewalFolder, isBelowTheRuntimeFolderOrTheHome) {
-    const QTemporaryDir runtime;
-    const std::pair<QString, QByteArray> cases[] = {
-        {runtime.path(), runtime.path().toUtf8() + "/ravelo-renewal"},
-        {runtime.filePath(u"gone"_s), "/h/.cache/ravelo-renewal"},
-        {u"."_s, "/h/.cache/ravelo-renewal"},
-        {u""_s, "/h/.cache/ravelo-renewal"},
-    };
-    for (const auto& [folder, expected] : cases) {
-        EXPECT_EQ(renewalFolder("/h", with(u"XDG_RUNTIME_DIR"_s, folder)), expected)
-            << qPrintable(folder);
     }
 }
 

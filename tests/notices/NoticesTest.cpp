@@ -75,6 +75,13 @@ TEST_F(NoticesTest, aFailureThatIsOverWithinAMinuteIsNotWorthAWord) {
     EXPECT_EQ(shown(), nothing) << "this one has lasted for 59 s only";
 }
 
+TEST_F(NoticesTest, saysAtOnceThatNothingWillBeSavedAnyMore) {
+    notices.saveFailed(store, u"another Ravelo has taken over"_s, Notices::Retry::no);
+    EXPECT_EQ(notices.lead(), u"Not saved any more:"_s);
+    EXPECT_EQ(notices.rest(), u"another Ravelo has taken over."_s);
+    EXPECT_EQ(notices.action(), QString()) << "there is nothing to try again";
+}
+
 TEST_F(NoticesTest, isSavedAgainOnceNothingFailsAnyMore) {
     notices.saveFailed(preferences, u"it is read-only"_s);
     pass(90);

@@ -67,6 +67,9 @@ TEST_F(StoreSaving, OnlyItsUserCanRead) {
 
 TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
     start();
+    QString reason;
+    QObject::connect(store_.get(), &Store::saveEnded, store_.get(),
+                     [&](const SaveOutcome& outcome) { reason = outcome.reason; });
     store_->flush();
     for (const bool atTheEnd : {false, true}) {
         QFile::remove(storeFile());
@@ -74,7 +77,7 @@ TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
         store_->addClip(u"kept %1"_s.arg(atTheEnd));
         settle();
         ASSERT_TRUE(QFileInfo(storeFile()).isDir());
-        EXPECT_EQ(store_->saveFailure(), u"Is a directory"_s);
+        EXPECT_EQ(reason, u"Is a directory"_s);
         ASSERT_TRUE(QDir(storeFile()).removeRecursively());
         if (atTheEnd) {
             store_->flush();
@@ -82,7 +85,7 @@ TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
             settle(Seconds(31));
         }
         ASSERT_TRUE(QFileInfo(storeFile()).isFile()) << atTheEnd;
-        EXPECT_EQ(store_->saveFailure(), QString());
+        EXPECT_EQ(reason, QString());
         EXPECT_EQ(saved().clips[0].text, u"kept %1"_s.arg(atTheEnd));
     }
 }
@@ -98,8 +101,8 @@ TEST_F(StoreSaving, LeavesAloneWhatIsNotOursAnyMore) {
     const StoreData before = saved();
     ours = false;
     QStringList told;
-    QObject::connect(store_.get(), &Store::saveFailed, store_.get(),
-                     [&](const QString& reason) { told.append(reason); });
+    QObject::connect(store_.get(), &Store::saveEnded, store_.get(),
+                     [&](const SaveOutcome& outcome) { told.append(outcome.reason); });
     store_->addImageClip(png(Qt::blue));
     store_->clearClips();
     settle();
@@ -200,7 +203,8 @@ TEST(OrphanedImages, AreOldOursAndNamedByNobody) {
                          {id + u".jpg"_s, 90000, false},
                          {id, 90000, false},
                          {u"mine.png"_s, 90000, false},
-                         {id + u".png.XXXXXX"_s, 90000, false},
+                         {id + u".png.Xy0XXX"_s, 90000, true},
+                         {id + u".png.X.0XXX"_s, 90000, false},
                          {u".png"_s, 90000, false}};
     const Date now{1e9};
     for (const Row& row : table) {
@@ -281,8 +285,8 @@ TEST_P(UnreadableStore, IsSetAsideBeforeItIsReplaced) {
 
     store_->addClip(u"a"_s);
     QStringList told;
-    QObject::connect(store_.get(), &Store::putAside, store_.get(),
-                     [&](const QString& path) { told.append(path); });
+    QObject::connect(store_.get(), &Store::saveEnded, store_.get(),
+                     [&](const SaveOutcome& outcome) { told.append(outcome.putAside); });
     restart();
     EXPECT_EQ(texts(), "a");
     const QString aside = storeFile() + u".unreadable"_s;

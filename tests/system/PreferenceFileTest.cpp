@@ -116,10 +116,14 @@ TEST_F(PreferenceFileTest, SetsAnUnreadableFileAside) {
         EXPECT_TRUE(preferences.wasUnreadable());
         EXPECT_TRUE(preferences.value(u"a"_s).isUndefined());
         EXPECT_EQ(contents(), junk) << "untouched until something is set";
+        QString putAside;
+        preferences.onSaved = [&](const SaveOutcome& outcome) {
+            putAside = outcome.putAside;
+        };
         preferences.set(u"a"_s, 2);
         worker_.drain();
         EXPECT_EQ(contents().simplified(), R"({ "a": 2 })");
-        EXPECT_EQ(preferences.putAside(), path_ + u".unreadable"_s);
+        EXPECT_EQ(putAside, path_ + u".unreadable"_s);
         QFile aside(path_ + u".unreadable"_s);
         EXPECT_EQ(readFile(aside.fileName()), junk);
         EXPECT_TRUE(aside.remove());
@@ -131,8 +135,8 @@ TEST_F(PreferenceFileTest, LivesWithoutADisk) {
     ASSERT_TRUE(file.open(QFile::WriteOnly)) << "a file where the folder should be";
     PreferenceFile preferences(path_, services_);
     QStringList told;
-    preferences.onSaved = [&](const Result<void>& saved) {
-        told.append(saved ? u"saved"_s : saved.error().message);
+    preferences.onSaved = [&](const SaveOutcome& outcome) {
+        told.append(outcome.reason);
     };
     preferences.set(u"a"_s, 1);
     worker_.drain();
@@ -141,7 +145,7 @@ TEST_F(PreferenceFileTest, LivesWithoutADisk) {
     scheduler_.advance(Seconds(31));
     worker_.drain();
     EXPECT_EQ(contents().simplified(), R"({ "a": 1 })") << "tried again";
-    EXPECT_EQ(told, QStringList({u"Not a directory"_s, u"saved"_s}));
+    EXPECT_EQ(told, QStringList({u"Not a directory"_s, QString()}));
     scheduler_.advance(Seconds(100));
     EXPECT_EQ(worker_.pending(), 0) << "nothing is left to try";
 }
@@ -164,8 +168,8 @@ TEST_F(PreferenceFileTest, LeavesAloneWhatIsNotOursAnyMore) {
     };
     PreferenceFile preferences(path_, services_);
     QString reason;
-    preferences.onSaved = [&](const Result<void>& saved) {
-        reason = saved.error().message;
+    preferences.onSaved = [&](const SaveOutcome& outcome) {
+        reason = outcome.reason;
     };
     preferences.set(u"a"_s, 1);
     worker_.drain();

@@ -29,7 +29,6 @@ PreferenceFile::PreferenceFile(QString path, Services services)
 
 PreferenceFile::~PreferenceFile() {
     onSaved = nullptr;
-    onPutAside = nullptr;
     flush();
 }
 
@@ -79,14 +78,8 @@ void PreferenceFile::written(const SaveOutcome& outcome) {
     } else if (outcome.kind == SaveOutcome::Kind::failed) {
         retry_ = services_.scheduler.after(retryDelay, [this] { write(); });
     }
-    if (!outcome.putAside.isEmpty()) {
-        putAside_ = outcome.putAside;
-        if (onPutAside) {
-            onPutAside();
-        }
-    }
     if (onSaved) {
-        onSaved(unsaved_ ? failure(outcome.reason) : Result<void>());
+        onSaved(outcome);
     }
 }
 

@@ -40,9 +40,6 @@ public:
     /// There was a file at the start, and it could not be read: this is not a first start.
     [[nodiscard]] bool wasUnreadable() const { return wasUnreadable_; }
 
-    /// Where the unreadable file is kept; empty as long as none had to be put aside.
-    [[nodiscard]] const QString& putAside() const { return putAside_; }
-
     /// Writes again what could not be written, now.
     void retry();
 
@@ -50,9 +47,7 @@ public:
     void flush();
 
     /// After each write.
-    std::function<void(const Result<void>&)> onSaved;
-    /// Once `putAside` is known.
-    std::function<void()> onPutAside;
+    std::function<void(const SaveOutcome&)> onSaved;
 
 private:
     void write();
@@ -62,7 +57,6 @@ private:
     Services services_;
     QJsonObject values_;
     std::shared_ptr<OwnFile> file_; ///< The worker's.
-    QString putAside_;
     Handle retry_;
     bool wasUnreadable_ = false;
     bool unsaved_ = false; ///< The last write failed.

@@ -94,8 +94,12 @@ std::optional<qint64> X11Pasteboard::adopt(const QList<PasteboardEntry>& forms) 
     return write(forms);
 }
 
-void X11Pasteboard::answerSaveRequests(SaveAnswer answer) {
-    listener_.post([saveRequests = saveRequests_, answer] { saveRequests->answer(answer); });
+void X11Pasteboard::answerSaveRequests(qint64 count, SaveAnswer answer) {
+    listener_.post([saveRequests = saveRequests_, counter = counter_, count, answer] {
+        if (counter->value() == count) { // Else others wait now, whose contents nobody has read.
+            saveRequests->answer(answer);
+        }
+    });
 }
 
 /// The present owner; XCB_NONE where there is none, nothing where the server is gone.

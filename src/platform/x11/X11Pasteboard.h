@@ -44,7 +44,7 @@ public:
         return saveAsked_->add(std::move(callback));
     }
 
-    void answerSaveRequests(SaveAnswer answer) override;
+    void answerSaveRequests(qint64 count, SaveAnswer answer) override;
 
 private:
     using Reads = std::map<SelectionReader::Key, std::function<void(PasteboardSnapshot)>>;
