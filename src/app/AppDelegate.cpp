@@ -113,8 +113,8 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       jobs_(std::make_unique<DetachedThreads>()),
       fileJobs_(std::make_unique<DetachedThreads>(maxFileJobs)),
       copiedFiles_(std::make_unique<DetachedThreads>(maxCopiedFiles)),
-      loginItem_(std::make_unique<AutostartEntry>(configFolder() + u"/autostart"_s,
-                                                  QCoreApplication::applicationFilePath())),
+      loginItem_(std::make_unique<AutostartEntry>(
+          configFolder() + u"/autostart"_s, QCoreApplication::applicationFilePath(), *fileJobs_)),
       loginSession_(std::make_unique<LoginSession>(systemBus())),
       screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())),
       transfers_(std::make_unique<FileTransferPortal>(sessionBus())),
@@ -160,11 +160,14 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
-    if (const auto repaired = loginItem_->repair(); !repaired) {
-        qWarning("Ravelo login-item error: %s", qUtf8Printable(repaired.error().message));
-    }
     settings_ = std::make_unique<AppSettings>(*preferences_, *loginItem_);
     settings_->setupLoginItemDefaultIfNeeded();
+    loginItem_->repair([this](const Result<void>& repaired) {
+        if (!repaired) {
+            qWarning("Ravelo login-item error: %s", qUtf8Printable(repaired.error().message));
+        }
+        settings_->refreshLaunchAtLogin();
+    });
 
     clipboard_ =
         std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_, *jobs_);
