@@ -56,7 +56,7 @@ int main(int argc, char** argv) {
     MemoryPasteboard pasteboard(scheduler);
     FakeAlertSound sound;
     FakeDetachedJobs jobs(scheduler);
-    Store store(folder.path(), {scheduler, worker, preferences, pasteboard, sound, jobs});
+    Store store(folder.path(), {scheduler, worker, preferences, pasteboard, sound, jobs, jobs});
     fill(store);
     scheduler.advance(waiting);
     worker.drain();

@@ -52,6 +52,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Room for two looks at the shelf and what a dead mount has left of earlier ones.
+constexpr int maxFileJobs = 24;
+
+/// Someone may copy a few files in a row; each holds a thread for good if its mount is dead.
+constexpr int maxCopiedFiles = 4;
+
 QString dataFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Ravelo"_s;
 }
@@ -104,21 +110,23 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       preferences_(std::make_unique<PreferenceFile>(
           configFolder() + u"/ravelo/preferences.json"_s,
           PreferenceFile::Services{*scheduler_, *worker_, mayWrite()})),
-      loginItem_(std::make_unique<AutostartEntry>(configFolder() + u"/autostart"_s,
-                                                  QCoreApplication::applicationFilePath())),
+      jobs_(std::make_unique<DetachedThreads>()),
+      fileJobs_(std::make_unique<DetachedThreads>(maxFileJobs)),
+      copiedFiles_(std::make_unique<DetachedThreads>(maxCopiedFiles)),
+      loginItem_(std::make_unique<AutostartEntry>(
+          configFolder() + u"/autostart"_s, QCoreApplication::applicationFilePath(), *fileJobs_)),
       loginSession_(std::make_unique<LoginSession>(systemBus())),
       screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())),
       transfers_(std::make_unique<FileTransferPortal>(sessionBus())),
       sound_(std::make_unique<ThemeSound>()),
       nightShift_(std::make_unique<NightShiftScript>(environment)),
       shutDown_(std::make_unique<LoginShutDown>(systemBus())),
-      jobs_(std::make_unique<DetachedThreads>()),
       secrets_(std::make_unique<SecretService>(sessionBus())),
       https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
       children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
                                                renewalFolder(home()))),
       tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
-      shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, display_.icons())),
+      shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, *fileJobs_, display_.icons())),
       notices_(std::make_unique<Notices>(*scheduler_)),
       view_(std::make_unique<PanelView>()) {}
 
@@ -148,15 +156,18 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
                      u"" RAVELO_VERSION ""_s);
     store_ = std::make_unique<Store>(
         dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_, display_.pasteboard(),
-                                      *sound_, *jobs_, mayWrite()});
+                                      *sound_, *fileJobs_, *copiedFiles_, mayWrite()});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
-    if (const auto repaired = loginItem_->repair(); !repaired) {
-        qWarning("Ravelo login-item error: %s", qUtf8Printable(repaired.error().message));
-    }
     settings_ = std::make_unique<AppSettings>(*preferences_, *loginItem_);
     settings_->setupLoginItemDefaultIfNeeded();
+    loginItem_->repair([this](const Result<void>& repaired) {
+        if (!repaired) {
+            qWarning("Ravelo login-item error: %s", qUtf8Printable(repaired.error().message));
+        }
+        settings_->refreshLaunchAtLogin();
+    });
 
     clipboard_ =
         std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_, *jobs_);
@@ -177,7 +188,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         rest_);
     view_->load({*store_, *settings_, *notch_, *notices_, display_.pasteboard(), *scheduler_,
                  *preferences_, *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received,
-                 shelf_->nearby, *jobs_, shelf_->opener, shelf_->icons},
+                 shelf_->nearby, *fileJobs_, shelf_->opener, shelf_->icons},
                 QLocale());
     provideWindows();
     const auto checkUpdates = [this] {

@@ -84,6 +84,9 @@ private:
     std::unique_ptr<Scheduler> scheduler_;
     std::unique_ptr<Worker> worker_;
     std::unique_ptr<PreferenceFile> preferences_;
+    std::unique_ptr<DetachedJobs> jobs_;
+    std::unique_ptr<DetachedJobs> fileJobs_; ///< For files of the user's, on any mount.
+    std::unique_ptr<DetachedJobs> copiedFiles_;
     std::unique_ptr<LoginItem> loginItem_;
     std::unique_ptr<SessionLock> loginSession_;
     std::unique_ptr<SessionLock> screenSaver_;
@@ -91,7 +94,6 @@ private:
     std::unique_ptr<AlertSound> sound_;
     std::unique_ptr<NightShift> nightShift_;
     std::unique_ptr<ShutDown> shutDown_;
-    std::unique_ptr<DetachedJobs> jobs_;
     std::unique_ptr<SecretStore> secrets_;
     std::unique_ptr<HttpsClient> https_;
     std::unique_ptr<ChildProcess> children_;

@@ -18,14 +18,15 @@ QString themeOf(const IconPreference& preference) {
 
 } // namespace
 
-ShelfServices::ShelfServices(Scheduler& scheduler, DetachedJobs& jobs, IconPreference& preference)
+ShelfServices::ShelfServices(Scheduler& scheduler, DetachedJobs& jobs, DetachedJobs& fileJobs,
+                             IconPreference& preference)
     : programs(jobs),
       devices(sessionBus()),
       opener(sessionBus(), programs, jobs),
       icons(std::make_shared<IconTheme>(IconTheme::usualFolders())),
       received(folders, scheduler,
                QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)),
-      nearby({devices, programs, jobs, scheduler}),
+      nearby({devices, programs, fileJobs, scheduler}),
       themeChange(
           preference.onChange([this, &preference] { icons->setName(themeOf(preference)); })) {
     icons->setName(themeOf(preference));

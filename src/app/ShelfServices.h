@@ -18,8 +18,9 @@ class IconPreference;
 
 /// What the shelf's tab works with, made of this system's parts. Main thread.
 struct ShelfServices {
-    /// They must outlive it.
-    ShelfServices(Scheduler& scheduler, DetachedJobs& jobs, IconPreference& preference);
+    /// They must outlive it. `fileJobs` is for looks at the user's files.
+    ShelfServices(Scheduler& scheduler, DetachedJobs& jobs, DetachedJobs& fileJobs,
+                  IconPreference& preference);
 
     SystemPrograms programs;
     KdeConnect devices;

@@ -27,7 +27,7 @@ bool isTaken(const QString& path) {
     return info.exists() || info.isSymLink();
 }
 
-/// 0 where nothing is.
+/// 0 if there is no such file.
 mode_t modeOf(const QByteArray& path) {
     struct stat info = {};
     return !path.contains('\0') && ::stat(path.constData(), &info) == 0 ? info.st_mode : 0;

@@ -96,7 +96,7 @@ public:
     Q_INVOKABLE void onDragLeave();
 
     /// It was dropped on the panel; its files go to the shelf as they come. False if there are
-    /// none.
+    /// none. True if its source has not answered yet: refused, it would cancel the transfer.
     Q_INVOKABLE bool onDrop();
 
     /// Whether to accept the drag over the window: files, or not known yet.

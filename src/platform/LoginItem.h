@@ -2,6 +2,8 @@
 
 #include "base/Result.h"
 
+#include <functional>
+
 namespace ravelo {
 
 /// Whether the desktop starts this program when the user logs in. Main thread.
@@ -11,8 +13,9 @@ public:
 
     [[nodiscard]] virtual bool isEnabled() const = 0;
 
-    /// Mends what was enabled but no longer works, say because the program has moved.
-    [[nodiscard]] virtual Result<void> repair() { return {}; }
+    /// Mends what is enabled but no longer works, say because the program has moved. Calls `done`
+    /// if there was something to mend, maybe later.
+    virtual void repair(std::function<void(const Result<void>&)> done) { (void)done; }
 
     [[nodiscard]] virtual Result<void> setEnabled(bool enabled) = 0;
 };

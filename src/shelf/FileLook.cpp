@@ -4,6 +4,7 @@
 #include "base/Scheduler.h"
 #include "platform/DetachedJobs.h"
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
@@ -11,8 +12,28 @@ namespace ravelo {
 namespace {
 
 constexpr Seconds patience{2};
-/// Folders that are asked at the same time; each takes a thread, for ever if its server is gone.
-constexpr size_t mostAsked = 6;
+/// Folders that one look asks at the same time; each takes a thread, for ever if its server is
+/// gone.
+constexpr int maxOpen = 6;
+
+/// How many questions, with those that hang from earlier looks, may be under way for another folder
+/// to be asked. A dead mount must not take all threads, nor stop the looks at healthy folders.
+size_t maxAsked(FileLook::Trust trust) {
+    switch (trust) {
+    case FileLook::Trust::answered:
+        return 16;
+    case FileLook::Trust::fresh:
+        return 12;
+    case FileLook::Trust::besideHung:
+        break;
+    }
+    return maxOpen;
+}
+
+/// The folder that contains `folder`; both end with a slash.
+QByteArray parentOf(const QByteArray& folder) {
+    return folder.first(folder.lastIndexOf('/', -2) + 1);
+}
 
 FileLook::Found presences(const QList<QUrl>& files) {
     FileLook::Found found;
@@ -30,30 +51,51 @@ void FileLook::look(const QList<QUrl>& files, std::function<void(const Found&)> 
     waiting_.clear();
     open_ = 0;
     done_ = std::move(done);
+    std::map<QByteArray, QList<QUrl>> folders;
     for (const QUrl& file : files) {
         const QByteArray path = filePath(file);
         found_.insert(file, Presence::unknown);
-        waiting_[path.first(path.lastIndexOf('/') + 1)].append(file);
+        folders[path.first(path.lastIndexOf('/') + 1)].append(file);
     }
-    std::erase_if(waiting_, [this](const auto& folder) { return asked_.contains(folder.first); });
+    std::erase_if(answered_, [&](const QByteArray& folder) { return !folders.contains(folder); });
+    std::erase_if(folders, [this](const auto& folder) { return asked_.contains(folder.first); });
+    for (auto& [folder, inside] : folders) {
+        waiting_[{trustIn(folder), folder}] = std::move(inside);
+    }
     askMore();
     // Also if nothing could be asked: never from within the call.
     limit_ = scheduler_.after(open_ > 0 ? patience : Seconds(0), [this] { finish(); });
 }
 
+FileLook::Trust FileLook::trustIn(const QByteArray& folder) const {
+    if (answered_.contains(folder)) {
+        return Trust::answered;
+    }
+    const bool isBesideHung = std::ranges::any_of(asked_, [&](const auto& hung) {
+        const QByteArray parent = parentOf(hung.first);
+        return parent.size() > 1 && folder.startsWith(parent);
+    });
+    return isBesideHung ? Trust::besideHung : Trust::fresh;
+}
+
 void FileLook::askMore() {
-    while (!waiting_.empty() && asked_.size() < mostAsked) {
+    while (!waiting_.empty() && open_ < maxOpen &&
+           asked_.size() < maxAsked(waiting_.begin()->first.first)) {
         const auto next = waiting_.extract(waiting_.begin());
-        ask(next.key(), next.mapped());
+        ask(next.key().second, next.mapped());
     }
 }
 
 void FileLook::ask(const QByteArray& folder, const QList<QUrl>& files) {
     ++open_;
+    answered_.erase(folder);
     const auto found = std::make_shared<Found>();
     asked_[folder] = jobs_.run([files, found] { *found = presences(files); },
                                [this, folder, found, number = number_] {
                                    asked_.erase(folder);
+                                   if (!found->isEmpty()) { // Empty if the question was left out.
+                                       answered_.insert(folder);
+                                   }
                                    if (number != number_) {
                                        return;
                                    }

@@ -11,6 +11,8 @@
 #include <functional>
 #include <map>
 #include <memory>
+#include <set>
+#include <utility>
 
 namespace ravelo {
 
@@ -18,19 +20,27 @@ class DetachedJobs;
 class Scheduler;
 
 /// Looks which files are there. A file on a mount whose server is gone may never answer: it is
-/// unknown after two seconds, keeps no other folder's files waiting, and is not asked for again as
-/// long as the last question hangs. Main thread.
+/// unknown after two seconds, does not hold up files in other folders, and is not asked for again
+/// while the last question hangs. Main thread.
 class FileLook {
 public:
     using Found = QHash<QUrl, Presence>;
 
+    /// What is known of a folder before it is asked; those that deserve more are asked first.
+    enum class Trust {
+        answered, ///< The last time.
+        fresh,
+        besideHung ///< Maybe on the same dead mount as a folder that hangs.
+    };
+
     FileLook(DetachedJobs& jobs, Scheduler& scheduler) : jobs_(jobs), scheduler_(scheduler) {}
 
-    /// Calls `done` with what is known of each file, later. A look that is still going on is given
-    /// up: its `done` is not called.
+    /// Calls `done` later with what is known of each file. Cancels a look that is still going on:
+    /// its `done` is not called.
     void look(const QList<QUrl>& files, std::function<void(const Found&)> done);
 
 private:
+    [[nodiscard]] Trust trustIn(const QByteArray& folder) const;
     void askMore();
     void ask(const QByteArray& folder, const QList<QUrl>& files);
     void finish();
@@ -39,10 +49,11 @@ private:
     Scheduler& scheduler_;
     Found found_;
     std::function<void(const Found&)> done_;
-    std::map<QByteArray, QList<QUrl>> waiting_; ///< By folder.
-    std::map<QByteArray, Handle> asked_;        ///< By folder; also those that hang from before.
-    int open_ = 0;                              ///< Of those that were asked in this look.
-    int number_ = 0;                            ///< Of this look.
+    std::map<std::pair<Trust, QByteArray>, QList<QUrl>> waiting_; ///< By folder.
+    std::map<QByteArray, Handle> asked_; ///< By folder; also those that hang from before.
+    std::set<QByteArray> answered_;      ///< Folders.
+    int open_ = 0;                       ///< How many of `asked_` were asked in this look.
+    int number_ = 0;                     ///< Of this look.
     Handle limit_;
 };
 

@@ -60,7 +60,7 @@ private:
             write(contents, {});
             return;
         }
-        file_ = readCopiedFile(services_.jobs, services_.scheduler, path,
+        file_ = readCopiedFile(services_.copiedFiles, services_.scheduler, path,
                                [weak = weak_from_this(), contents](const QByteArray& bytes) {
                                    if (const auto self = weak.lock()) {
                                        self->write(contents, bytes);

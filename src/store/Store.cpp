@@ -42,7 +42,7 @@ QString newImageFileName() {
 Store::Store(const QString& folder, Services services)
     : services_(services),
       folder_(QDir(folder).absolutePath()),
-      captures_({services.scheduler, services.worker, services.jobs}),
+      captures_({services.scheduler, services.worker, services.copiedFiles}),
       look_(services.jobs, services.scheduler),
       reminders_(Reminders::load(services.preferences)) {
     makePrivateFolder(folder_);

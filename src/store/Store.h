@@ -51,7 +51,8 @@ public:
         Preferences& preferences;
         Pasteboard& pasteboard;
         AlertSound& sound;
-        DetachedJobs& jobs;
+        DetachedJobs& jobs;        ///< For looks at parked files.
+        DetachedJobs& copiedFiles; ///< For reads of copied files; when full, they give nothing.
         OwnFile::Permission mayWrite = {}; ///< Asked before each change of a file.
     };
 

@@ -15,7 +15,7 @@ namespace {
 /// How far beyond what is in sight there are tiles already.
 constexpr double ahead = 120;
 
-/// What cannot be told is as little to be had as what is gone.
+/// A file that gives no answer is no more usable than one that is gone.
 QSet<QUrl> missingOf(const FileLook::Found& found) {
     QSet<QUrl> missing;
     for (const auto& [file, presence] : found.asKeyValueRange()) {

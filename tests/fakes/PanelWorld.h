@@ -33,7 +33,8 @@ struct PanelWorld {
 
     /// The store begins with `data`.
     explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
-        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard, sound, jobs}),
+        : store(filled(folder, data),
+                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs}),
           controller(
               store, clipboard, settings,
               {scheduler, screens, pointer, drags, transfers, barrier, window, {&lock, &otherLock}},

@@ -1,6 +1,8 @@
 #include "platform/freedesktop/AutostartEntry.h"
 
 #include "base/Files.h"
+#include "fakes/FakeDetachedJobs.h"
+#include "fakes/ManualScheduler.h"
 
 #include <QDir>
 #include <QFile>
@@ -28,7 +30,20 @@ protected:
         ASSERT_TRUE(writeFileAtomically(file(), text));
     }
 
+    [[nodiscard]] AutostartEntry entryFor(const QString& program) {
+        return AutostartEntry(folder(), program, jobs_);
+    }
+
+    std::string repair(AutostartEntry& entry) {
+        std::string end = "nothing to mend";
+        entry.repair([&](const Result<void>& mended) { end = mended ? "mended" : "failed"; });
+        scheduler_.advance(Seconds(0));
+        return end;
+    }
+
     QTemporaryDir config_;
+    ManualScheduler scheduler_;
+    FakeDetachedJobs jobs_{scheduler_};
 };
 
 struct Entry {
@@ -42,19 +57,18 @@ TEST_P(ExistingEntry, CountsAsTheDesktopSeesIt) {
     if (GetParam().text) {
         write(GetParam().text);
     }
-    EXPECT_EQ(AutostartEntry(folder(), u"/here, that's us/ravelo"_s).isEnabled(),
-              GetParam().enabled);
+    EXPECT_EQ(entryFor(u"/here, that's us/ravelo"_s).isEnabled(), GetParam().enabled);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Table, ExistingEntry,
     testing::Values(Entry{nullptr, false}, Entry{"", false},
                     Entry{"[Desktop Entry]\nName=Ravelo\n", false},
-                    Entry{"[Desktop Entry]\nExec=/nowhere/ravelo\n", false},
+                    Entry{"[Desktop Entry]\nExec=/nowhere/ravelo\n", true},
                     Entry{"[Desktop Entry]\nExec=\"/here, that's us/ravelo\"\n", true},
                     Entry{"# by hand\n\n[Desktop Entry]\nExec = \"/bin/sh\" -c true", true},
                     Entry{"[Desktop Entry]\nExec=sh -c ravelo\n", true},
-                    Entry{"[Desktop Entry]\nExec=no-such-program\n", false},
+                    Entry{"[Desktop Entry]\nExec=\n", false},
                     Entry{"[Desktop Entry]\r\nExec=/bin/sh\r\nHidden=true\r\n", false},
                     Entry{"[Desktop Entry]\nExec=/bin/sh\nHidden=false\n", true},
                     Entry{"[Desktop Entry]\nExec=/bin/sh\nX-GNOME-Autostart-enabled=false\n",
@@ -64,23 +78,48 @@ INSTANTIATE_TEST_SUITE_P(
                     Entry{"[Other]\nExec=/bin/sh\n", false}));
 
 TEST_F(Autostart, WritesAnEntryAgainWhoseProgramIsGone) {
-    AutostartEntry entry(folder(), u"/usr/bin/ravelo"_s);
-    EXPECT_TRUE(entry.repair());
+    AutostartEntry entry = entryFor(u"/usr/bin/ravelo"_s);
+    EXPECT_EQ(repair(entry), "nothing to mend");
     EXPECT_FALSE(QFile::exists(file())) << "it was off";
     for (const QByteArray kept :
-         {"[Desktop Entry]\nExec=/gone/ravelo\nHidden=true\n", "[Desktop Entry]\nExec=/bin/sh\n"}) {
+         {"[Desktop Entry]\nExec=/gone/ravelo\nHidden=true\n", "[Desktop Entry]\nExec=/bin/sh\n",
+          "[Desktop Entry]\nExec=sh\n"}) {
         write(kept);
-        EXPECT_TRUE(entry.repair());
+        EXPECT_EQ(repair(entry), "nothing to mend");
         EXPECT_EQ(readFile(file()), kept);
     }
+    for (const QByteArray stale : {"/gone/ravelo", "no-such-program"}) {
+        write("[Desktop Entry]\nExec=" + stale + "\n");
+        EXPECT_EQ(repair(entry), "mended");
+        EXPECT_TRUE(entry.isEnabled());
+        EXPECT_TRUE(readFile(file())->contains("Exec=\"/usr/bin/ravelo\"\n"));
+    }
+}
+
+TEST_F(Autostart, IsOffIfItCannotBeMended) {
+    // What is written beside a file first would have a name that no file can have.
+    const QString longest = config_.filePath(QString(255, u'x'));
+    ASSERT_TRUE(
+        writeFileAtomically(config_.filePath(u"entry"_s), "[Desktop Entry]\nExec=/gone/x\n"));
+    ASSERT_TRUE(QFile::rename(config_.filePath(u"entry"_s), longest));
+    ASSERT_TRUE(QDir().mkpath(folder()) && QFile::link(longest, file()));
+    AutostartEntry entry = entryFor(u"/usr/bin/ravelo"_s);
+    EXPECT_EQ(repair(entry), "failed");
+    EXPECT_FALSE(entry.isEnabled());
+}
+
+TEST_F(Autostart, DoesNotWaitForAProgramOnADeadMount) {
     write("[Desktop Entry]\nExec=/gone/ravelo\n");
-    EXPECT_TRUE(entry.repair());
-    EXPECT_TRUE(entry.isEnabled());
-    EXPECT_TRUE(readFile(file())->contains("Exec=\"/usr/bin/ravelo\"\n"));
+    AutostartEntry entry = entryFor(u"/usr/bin/ravelo"_s);
+    entry.repair([](const Result<void>&) { FAIL() << "mended what may still be there"; });
+    EXPECT_TRUE(entry.isEnabled()) << "it counts until its program is known to be gone";
+    ASSERT_TRUE(entry.setEnabled(false)); // The user is faster than the answer.
+    scheduler_.advance(Seconds(1));
+    EXPECT_FALSE(QFile::exists(file()));
 }
 
 TEST_F(Autostart, IsSwitchedOnAndOff) {
-    AutostartEntry entry(folder(), u"/usr/bin/ravelo"_s);
+    AutostartEntry entry = entryFor(u"/usr/bin/ravelo"_s);
     EXPECT_TRUE(entry.setEnabled(false)) << "off already";
     EXPECT_TRUE(entry.setEnabled(true));
     EXPECT_TRUE(entry.isEnabled());
@@ -91,7 +130,7 @@ TEST_F(Autostart, IsSwitchedOnAndOff) {
 
 TEST_F(Autostart, IsSwitchedOnAgainAfterItWasSwitchedOffElsewhere) {
     write("[Desktop Entry]\nExec=/old/ravelo\nHidden=true\nX-GNOME-Autostart-enabled=false\n");
-    AutostartEntry entry(folder(), u"/usr/bin/ravelo"_s);
+    AutostartEntry entry = entryFor(u"/usr/bin/ravelo"_s);
     EXPECT_TRUE(entry.setEnabled(true));
     EXPECT_TRUE(entry.isEnabled());
     EXPECT_TRUE(readFile(file())->contains("/usr/bin/ravelo"));
@@ -101,20 +140,20 @@ TEST_F(Autostart, IsSwitchedOnAgainAfterItWasSwitchedOffElsewhere) {
 TEST_F(Autostart, SaysWhatCouldNotBeDone) {
     QFile inTheWay(config_.filePath(u"config"_s));
     ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));
-    const Result<void> on = AutostartEntry(folder(), u"/usr/bin/ravelo"_s).setEnabled(true);
+    const Result<void> on = entryFor(u"/usr/bin/ravelo"_s).setEnabled(true);
     ASSERT_FALSE(on);
     EXPECT_TRUE(on.error().message.contains(file())) << qPrintable(on.error().message);
     ASSERT_TRUE(inTheWay.remove());
 
     ASSERT_TRUE(QDir().mkpath(file() + u"/a folder that is not empty"_s));
-    const Result<void> off = AutostartEntry(folder(), u"/usr/bin/ravelo"_s).setEnabled(false);
+    const Result<void> off = entryFor(u"/usr/bin/ravelo"_s).setEnabled(false);
     ASSERT_FALSE(off);
     EXPECT_TRUE(off.error().message.contains(file())) << qPrintable(off.error().message);
 }
 
 TEST_F(Autostart, HasNoFieldCodes) {
     // As the standard has it; GLib up to 2.74 at least finds no program with a percent sign at all.
-    ASSERT_TRUE(AutostartEntry(folder(), u"/opt/100%u/ravelo"_s).setEnabled(true));
+    ASSERT_TRUE(entryFor(u"/opt/100%u/ravelo"_s).setEnabled(true));
     EXPECT_TRUE(readFile(file())->contains("Exec=\"/opt/100%%u/ravelo\"\n"));
 }
 
@@ -129,8 +168,8 @@ TEST_P(StartedProgram, IsTheOneAtThisPath) {
     script.write("#!/bin/sh\necho \"started with $# arguments\"\n");
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     script.close();
-    ASSERT_TRUE(AutostartEntry(folder(), program).setEnabled(true));
-    EXPECT_TRUE(AutostartEntry(folder(), u"/elsewhere/ravelo"_s).isEnabled()) << "read otherwise";
+    ASSERT_TRUE(entryFor(program).setEnabled(true));
+    EXPECT_TRUE(entryFor(u"/elsewhere/ravelo"_s).isEnabled()) << "read otherwise";
 
     const std::string command = "gio launch " + file().toStdString();
     const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);

@@ -105,6 +105,24 @@ TEST_F(FileLooks, ManyFoldersTakeFewThreads) {
     EXPECT_EQ(found_->value(files.last()), Presence::gone);
 }
 
+TEST_F(FileLooks, ManyFoldersOnADeadMountStopNoLaterLook) {
+    QList<QUrl> dead;
+    for (char name = 'a'; name <= 'z'; ++name) {
+        dead.append(fileUrl(QByteArray("/dead/nas/") + name + "/file"));
+    }
+    look(dead);
+    scheduler_.advance(Seconds(2));
+    ASSERT_EQ(jobs_.count(), 6) << "all hang now";
+    for (int healthy = 6; healthy < 20; ++healthy) {
+        const QUrl file = fileUrl("/no" + QByteArray::number(healthy) + "/file");
+        look(dead + QList<QUrl>{file});
+        ASSERT_EQ(jobs_.count(), healthy + 1) << "only the healthy folder is asked";
+        jobs_.finish(healthy);
+        ASSERT_TRUE(found_);
+        EXPECT_EQ(found_->value(file), Presence::gone);
+    }
+}
+
 TEST_F(FileLooks, NothingIsFoundAtOnceAtTheNextMoment) {
     look({});
     EXPECT_FALSE(found_) << "never from within the call";

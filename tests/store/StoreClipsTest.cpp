@@ -95,7 +95,7 @@ TEST_F(CopiedPicture, KeepsItsPlaceInTheOrder) {
 }
 
 TEST_F(CopiedPicture, ThatCannotBeReadHoldsUpNothingForLong) {
-    jobs_.hung = true;
+    copiedFiles_.hung = true;
     copy();
     store_->setNote(u"typed"_s);
     store_->save();
@@ -308,7 +308,7 @@ TEST_F(SnippetImage, OfAFileThatCannotBeReadIsGivenUp) {
     file.close();
     pasteboard_.offer({{u"text/uri-list"_s, QUrl::fromLocalFile(file.fileName()).toEncoded()}});
     for (const bool hung : {true, false}) {
-        jobs_.hung = hung;
+        copiedFiles_.hung = hung;
         const Handle handle = ask();
         settle(Seconds(3));
         ASSERT_EQ(answers_.size(), 1) << "with a hanging mount: " << hung;

@@ -39,7 +39,8 @@ protected:
     }
 
     [[nodiscard]] Store::Services services() {
-        return {scheduler_, worker_, preferences_, pasteboard_, sound_, jobs_, mayWrite_};
+        return {scheduler_, worker_, preferences_, pasteboard_,
+                sound_,     jobs_,   copiedFiles_, mayWrite_};
     }
 
     [[nodiscard]] QString folder() const { return directory_.filePath(QStringLiteral("Ravelo")); }
@@ -82,6 +83,7 @@ protected:
     MemoryPasteboard pasteboard_{scheduler_};
     FakeAlertSound sound_;
     FakeDetachedJobs jobs_{scheduler_};
+    FakeDetachedJobs copiedFiles_{scheduler_};
     OwnFile::Permission mayWrite_;
     std::unique_ptr<Store> store_;
 };

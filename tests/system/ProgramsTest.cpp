@@ -37,10 +37,18 @@ TEST(DetachedThreads, nobodyWaitsForAJobThatHangs) {
         }
         EXPECT_TRUE(eventually([&] { return ends == "qmmmmm"; }))
             << "all but 15 are left out: " << ends;
+
+        DetachedThreads others(1);
+        const Handle other =
+            others.run([open, ended] { ++*ended, open.wait(); }, [&] { ends += 'o'; });
+        EXPECT_TRUE(eventually([&] { return *ended == 2; })) << "left out in a pool of its own";
+        const Handle tooMany = others.run([ended] { ++*ended; }, [&] { ends += 't'; });
+        EXPECT_TRUE(eventually([&] { return ends == "qmmmmmt"; })) << ends;
+        EXPECT_EQ(*ended, 2) << "two jobs in a pool of one";
     }
     ends = "q";
     gate.set_value();
-    EXPECT_TRUE(eventually([&] { return *ended == 2; }));
+    EXPECT_TRUE(eventually([&] { return *ended == 3; }));
     EXPECT_EQ(ends, "q") << "nothing is told once all is gone";
 }
 

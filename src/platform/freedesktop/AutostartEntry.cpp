@@ -1,6 +1,7 @@
 #include "platform/freedesktop/AutostartEntry.h"
 
 #include "base/Files.h"
+#include "platform/DetachedJobs.h"
 
 #include <QDir>
 #include <QFile>
@@ -8,6 +9,8 @@
 #include <QHash>
 #include <QStandardPaths>
 
+#include <memory>
+#include <optional>
 #include <utility>
 
 #include <unistd.h>
@@ -63,7 +66,7 @@ char unescaped(char code) {
 }
 
 /// The opposite of `execArgument`, for the first argument of an Exec line: the program.
-QByteArray programOf(const QByteArray& exec) {
+QByteArray firstArgument(const QByteArray& exec) {
     QByteArray value;
     for (qsizetype at = 0; at < exec.size(); ++at) {
         const bool isEscape = exec[at] == '\\' && at + 1 < exec.size();
@@ -85,35 +88,45 @@ QByteArray programOf(const QByteArray& exec) {
     return program;
 }
 
-enum class State { off, on, stale };
+/// What the desktop starts by the entry; empty if it is switched off or starts nothing.
+QByteArray programOf(const std::optional<QByteArray>& entry) {
+    const auto values = readEntry(entry.value_or(QByteArray()));
+    const bool isOff =
+        values.value("Hidden") == "true" || values.value("X-GNOME-Autostart-enabled") == "false";
+    return isOff ? QByteArray() : firstArgument(values.value("Exec"));
+}
 
-/// As the desktop sees the entry. `own` is there: it runs.
-State stateOf(const QByteArray& entry, const QString& own) {
-    const auto values = readEntry(entry);
-    const QByteArray program = programOf(values.value("Exec"));
-    if (program.isEmpty() || values.value("Hidden") == "true" ||
-        values.value("X-GNOME-Autostart-enabled") == "false") {
-        return State::off;
-    }
-    const QString name = QFile::decodeName(program);
-    const bool isThere =
-        name == own || (program.startsWith('/') ? ::access(program.constData(), X_OK) == 0
-                                                : !QStandardPaths::findExecutable(name).isEmpty());
-    return isThere ? State::on : State::stale;
+/// Blocks, maybe for ever.
+bool isThere(const QByteArray& program) {
+    return program.startsWith('/')
+               ? ::access(program.constData(), X_OK) == 0
+               : !QStandardPaths::findExecutable(QFile::decodeName(program)).isEmpty();
 }
 
 } // namespace
 
-AutostartEntry::AutostartEntry(const QString& folder, QString program)
-    : path_(folder + u"/ravelo.desktop"_s), program_(std::move(program)) {}
+AutostartEntry::AutostartEntry(const QString& folder, QString program, DetachedJobs& jobs)
+    : path_(folder + u"/ravelo.desktop"_s), program_(std::move(program)), jobs_(jobs) {}
 
 bool AutostartEntry::isEnabled() const {
-    return stateOf(readFile(path_).value_or(QByteArray()), program_) == State::on;
+    const QByteArray program = programOf(readFile(path_));
+    return !program.isEmpty() && program != gone_;
 }
 
-Result<void> AutostartEntry::repair() {
-    const bool isStale = stateOf(readFile(path_).value_or(QByteArray()), program_) == State::stale;
-    return isStale ? setEnabled(true) : Result<void>();
+void AutostartEntry::repair(std::function<void(const Result<void>&)> done) {
+    const QByteArray program = programOf(readFile(path_));
+    if (program.isEmpty() || program == QFile::encodeName(program_)) {
+        return;
+    }
+    const auto there = std::make_shared<bool>(true); // It counts as there until it is known.
+    looking_ = jobs_.run([program, there] { *there = isThere(program); },
+                         [this, program, there, done = std::move(done)] {
+                             // The entry may have been changed meanwhile.
+                             if (!*there && programOf(readFile(path_)) == program) {
+                                 gone_ = program;
+                                 done(setEnabled(true));
+                             }
+                         });
 }
 
 Result<void> AutostartEntry::setEnabled(bool enabled) {

@@ -8,12 +8,6 @@
 
 namespace ravelo {
 
-namespace {
-
-constexpr int mostThreads = 16;
-
-} // namespace
-
 Handle DetachedThreads::run(std::function<void()> job, std::function<void()> done) {
     const auto end = std::make_shared<std::function<void()>>(std::move(done)); // Main thread's.
     const auto tell = [end, mainThread = mainThread_] {
@@ -23,7 +17,7 @@ Handle DetachedThreads::run(std::function<void()> job, std::function<void()> don
             }
         });
     };
-    if (*running_ >= mostThreads) {
+    if (*running_ >= max_) {
         tell();
     } else {
         ++*running_;

@@ -8,15 +8,20 @@
 
 namespace ravelo {
 
-/// A new thread for each job, up to a good many of them.
+/// A new thread for each job, up to `max` at a time. Jobs that may hang on something outside this
+/// program's control get an instance of their own, so that they cannot use up the threads of
+/// others.
 class DetachedThreads final : public DetachedJobs {
 public:
+    explicit DetachedThreads(int max = 16) : max_(max) {}
+
     /// Leaves those that still run to themselves.
     ~DetachedThreads() override { mainThread_->close(); }
 
     [[nodiscard]] Handle run(std::function<void()> job, std::function<void()> done) override;
 
 private:
+    int max_;
     std::shared_ptr<MainThread> mainThread_ = std::make_shared<MainThread>();
     std::shared_ptr<std::atomic<int>> running_ = std::make_shared<std::atomic<int>>(0);
 };

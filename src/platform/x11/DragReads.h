@@ -9,9 +9,9 @@
 
 namespace ravelo::x11 {
 
-/// What is being asked of the sources of drags. Unlike with the clipboard, a question goes on when
-/// the selection has a new owner: a slow source still owes the files that were dropped. Made before
-/// the listener starts, then on its thread.
+/// Questions to the sources of drags. Unlike with the clipboard, a question goes on after the
+/// selection has got a new owner: the files of an earlier drop may still be on their way. Made
+/// before the listener starts, then used on its thread.
 class DragReads final : public EventHandler {
 public:
     DragReads(Connection& connection, xcb_atom_t selection)
