@@ -177,14 +177,16 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     window_ = display_.panelWindow(view_->window());
     notch_ = std::make_unique<NotchController>(
         *store_, *clipboard_, *settings_,
-        NotchController::Services{*scheduler_,
-                                  display_.screens(),
-                                  display_.pointer(),
-                                  display_.drags(),
-                                  *transfers_,
-                                  display_.barrier(),
-                                  *window_,
-                                  {&display_.lock(), loginSession_.get(), screenSaver_.get()}},
+        NotchController::Services{
+            *scheduler_,
+            display_.screens(),
+            display_.pointer(),
+            display_.drags(),
+            *transfers_,
+            display_.barrier(),
+            display_.inputGrab(),
+            *window_,
+            {&display_.lock(), &display_.cover(), loginSession_.get(), screenSaver_.get()}},
         rest_);
     view_->load({*store_, *settings_, *notch_, *notices_, display_.pasteboard(), *scheduler_,
                  *preferences_, *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received,

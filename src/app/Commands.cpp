@@ -72,7 +72,7 @@ Answer printed(const QJsonObject& object) {
 }
 
 Answer show(const Services& services, const QStringList& /*arguments*/) {
-    services.notch.positionExpanded();
+    services.notch.open();
     return {};
 }
 

@@ -20,7 +20,7 @@ using namespace Qt::StringLiterals;
 StatusItemController::StatusItemController(Services services, const QLocale& locale)
     : services_(std::move(services)), locale_(locale) {
     const auto open = [this] {
-        services_.notch.positionExpanded();
+        services_.notch.open();
     };
     const auto run = [](const std::function<void()>& callback) {
         if (callback) {

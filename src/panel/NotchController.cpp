@@ -5,6 +5,7 @@
 #include "panel/NotchGeometry.h"
 #include "panel/NotchShape.h"
 #include "platform/DragMonitor.h"
+#include "platform/InputGrab.h"
 #include "platform/Pointer.h"
 #include "platform/SessionLock.h"
 #include "settings/AppSettings.h"
@@ -21,6 +22,10 @@ namespace {
 constexpr double hoverMargin =
     40; ///< How far around the open panel the pointer still counts as on it.
 constexpr Seconds closeDelay{0.35};
+
+/// A window manager holds the keyboard until the key that it was pressed for is released.
+constexpr Seconds grabPatience{0.4};
+constexpr Seconds grabInterval{0.04};
 
 } // namespace
 
@@ -168,7 +173,7 @@ void NotchController::lookAtDrag() {
 void NotchController::onFiles(const QList<QUrl>& urls) {
     store_.addToShelf(urls);
     store_.requestShelf();
-    positionExpanded();
+    open();
 }
 
 bool NotchController::isOver(const QRectF& area, const PointerState& pointer) const {
@@ -230,8 +235,22 @@ void NotchController::toggle() {
     if (isOpen_) {
         dismiss();
     } else {
-        positionExpanded();
+        openBefore(services_.scheduler.uptime() + grabPatience, Keyboard::requested);
+    }
+}
+
+void NotchController::open() {
+    openBefore(services_.scheduler.uptime() + grabPatience, Keyboard::left);
+}
+
+void NotchController::openBefore(Seconds end, Keyboard keyboard) {
+    openWork_.reset();
+    positionExpanded();
+    if (isOpen_ && keyboard == Keyboard::requested) {
         typeFocus();
+    } else if (!isOpen_ && !isLocked() && services_.scheduler.uptime() < end) {
+        openWork_ = services_.scheduler.after(grabInterval,
+                                              [this, end, keyboard] { openBefore(end, keyboard); });
     }
 }
 
@@ -262,8 +281,9 @@ void NotchController::setCollapsed(const Collapsed& collapsed) {
 }
 
 void NotchController::positionExpanded() {
-    const auto on = screen();
-    if (isOpen_ || !on || isLocked()) {
+    const PointerState pointer = look();
+    const auto on = screenFor(pointer.location, services_.screens.all(), services_.screens.main());
+    if (isOpen_ || !on || isLocked() || isInputHeld(pointer)) {
         return;
     }
     isOpen_ = true;
@@ -293,11 +313,20 @@ bool NotchController::isLocked() const {
     return std::ranges::any_of(services_.locks, &SessionLock::isLocked);
 }
 
+/// Whoever holds pointer and keyboard may be a locker that reports to nobody; the source of a drag
+/// may hold both too.
+bool NotchController::isInputHeld(const PointerState& pointer) {
+    return services_.inputGrab.isHeldByAnother() && !filesOver_ &&
+           !(isDragOn(pointer) && !services_.drags.files().value_or(QList<QUrl>()).isEmpty());
+}
+
 void NotchController::lockChanged() {
     if (isLocked()) {
         guard_.follow(std::nullopt);
-        collapse();
+        openWork_.reset();
+        services_.window.returnFocus(); // Only a window that is shown can give it back.
         services_.window.orderOut();
+        collapse();
     } else {
         if (!isOpen_) {
             positionCollapsed();

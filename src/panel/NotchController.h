@@ -21,6 +21,7 @@ class ClipboardManager;
 class DragMonitor;
 class EdgeBarrier;
 class FileTransfer;
+class InputGrab;
 class Pointer;
 class SessionLock;
 class Store;
@@ -45,6 +46,7 @@ public:
         DragMonitor& drags;
         FileTransfer& transfers;
         EdgeBarrier& barrier;
+        InputGrab& inputGrab;
         PanelWindow& window;
         std::vector<SessionLock*> locks; ///< The session is locked while one of them says so.
     };
@@ -73,6 +75,10 @@ public:
     void positionCollapsed();
     void positionExpanded();
     void collapse();
+
+    /// Opens at the user's request. If another program holds the input, tries again for a moment:
+    /// it may be the menu or the key by which the request was made.
+    void open();
 
     /// Closes at the user's wish while the pointer may rest where it would open the panel again:
     /// hovering opens only once the pointer has been elsewhere.
@@ -141,6 +147,8 @@ private:
         friend bool operator==(const Collapsed&, const Collapsed&) = default;
     };
 
+    enum class Keyboard { left, requested };
+
     HoverTick::Next evaluateHover();
     void evaluateOpen(bool inZone, const PointerState& pointer);
     void evaluateCollapsed(bool inZone, const Screen& screen, const PointerState& pointer);
@@ -151,6 +159,8 @@ private:
     [[nodiscard]] bool isOver(const QRectF& area, const PointerState& pointer) const;
     [[nodiscard]] PointerState look();
     [[nodiscard]] std::optional<Screen> screen();
+    [[nodiscard]] bool isInputHeld(const PointerState& pointer);
+    void openBefore(Seconds end, Keyboard keyboard);
     void pressedSomewhere();
     void screensChanged();
     void scheduleClose();
@@ -183,6 +193,7 @@ private:
     FileDrop drop_;
     HoverTick tick_;
     Handle closeWork_;
+    Handle openWork_; ///< Tries again to open.
     Handle pressMonitor_;
     Handle screensMonitor_;
     Handle dragMonitor_;

@@ -3,6 +3,7 @@
 #include "platform/DragMonitor.h"
 #include "platform/EdgeBarrier.h"
 #include "platform/IconPreference.h"
+#include "platform/InputGrab.h"
 #include "platform/MotionPreference.h"
 #include "platform/PanelWindow.h"
 #include "platform/Pasteboard.h"
@@ -32,6 +33,10 @@ public:
     /// As far as the display server itself is told of a locked screen.
     [[nodiscard]] virtual SessionLock& lock() = 0;
 
+    /// Locked while another program's window hides the screen that the panel is on.
+    [[nodiscard]] virtual SessionLock& cover() = 0;
+
+    [[nodiscard]] virtual InputGrab& inputGrab() = 0;
     [[nodiscard]] virtual MotionPreference& motion() = 0;
     [[nodiscard]] virtual IconPreference& icons() = 0;
     [[nodiscard]] virtual TrayArea& tray() = 0;

@@ -4,6 +4,7 @@
 #include "platform/DragMonitor.h"
 #include "platform/EdgeBarrier.h"
 #include "platform/FileTransfer.h"
+#include "platform/InputGrab.h"
 #include "platform/PanelWindow.h"
 #include "platform/Pointer.h"
 #include "platform/Screens.h"
@@ -196,6 +197,13 @@ public:
 private:
     bool locked_ = false;
     Listeners<> listeners_;
+};
+
+class FakeInputGrab final : public InputGrab {
+public:
+    [[nodiscard]] bool isHeldByAnother() override { return held; }
+
+    bool held = false;
 };
 
 class FakePanelWindow final : public PanelWindow {

@@ -33,12 +33,18 @@ struct PanelWorld {
 
     /// The store begins with `data`.
     explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
-        : store(filled(folder, data),
-                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs}),
-          controller(
-              store, clipboard, settings,
-              {scheduler, screens, pointer, drags, transfers, barrier, window, {&lock, &otherLock}},
-              rest) {}
+        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard, sound, jobs, jobs}),
+          controller(store, clipboard, settings,
+                     {scheduler,
+                      screens,
+                      pointer,
+                      drags,
+                      transfers,
+                      barrier,
+                      grab,
+                      window,
+                      {&lock, &otherLock}},
+                     rest) {}
 
     void moveTo(double x, double y) {
         pointer.moveTo({x, y});
@@ -65,6 +71,7 @@ struct PanelWorld {
     FakeDragMonitor drags;
     FakeFileTransfer transfers;
     FakeEdgeBarrier barrier;
+    FakeInputGrab grab;
     FakePanelWindow window;
     FakeSessionLock lock;
     FakeSessionLock otherLock;

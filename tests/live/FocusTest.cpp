@@ -129,7 +129,7 @@ TEST_F(FocusTest, ARequestTakenBackAtOnceIsNone) {
 TEST_F(PanelFixture, ATextFieldTakesWhatIsTyped) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QQuickWindow quick;
-    x11::X11PanelWindow quickPanel(quick, *connection, events, screens, compositor);
+    x11::X11PanelWindow quickPanel(quick, *connection, events, screens, compositor, cover);
     QQmlEngine engine;
     QQmlComponent component(&engine);
     component.setData("import QtQuick\nTextInput { width: 400; height: 200 }", QUrl());

@@ -18,7 +18,11 @@ PanelFixture::PanelFixture()
       events(*connection),
       screens(*connection, events),
       compositor(*connection, events, x11::ManagerSelection::compositor),
-      panel(window, *connection, events, screens, compositor) {}
+      listener(std::move(x11::Listener::create().value())),
+      cover(*listener),
+      panel(window, *connection, events, screens, compositor, cover) {
+    listener->start();
+}
 
 void PanelFixture::show(const QString& monitor, QSizeF size) {
     const x11::Monitor* place = screens.monitor(monitor);

@@ -39,6 +39,8 @@ public:
     x11::Events events;
     x11::X11Screens screens;
     x11::ManagerSelection compositor;
+    std::unique_ptr<x11::Listener> listener;
+    x11::ForeignCover cover;
     RecordingWindow window;
     x11::X11PanelWindow panel;
 };

@@ -61,7 +61,7 @@ public:
 
 TEST_F(PanelTest, ComesAboveWhatWasShownMeanwhile) {
     show(u"DUMMY0"_s, {200, 12});
-    const OtherWindow popup(OtherWindow::Kind::popup, {0, 0, 1920, 1080});
+    const OtherWindow popup(OtherWindow::Kind::popup, {0, 0, 1920, 500});
     ASSERT_TRUE(server.isAbove(popup.id(), id()));
     panel.orderFront();
     EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); }));
@@ -69,7 +69,7 @@ TEST_F(PanelTest, ComesAboveWhatWasShownMeanwhile) {
 
 TEST_F(PanelTest, ComesAboveWhenTheWindowManagerHasNewWindows) {
     show(u"DUMMY0"_s, {200, 12});
-    const OtherWindow popup(OtherWindow::Kind::popup, {0, 0, 1920, 1080});
+    const OtherWindow popup(OtherWindow::Kind::popup, {0, 0, 1920, 500});
     ASSERT_TRUE(server.isAbove(popup.id(), id()));
     const OtherWindow bar(OtherWindow::Kind::dock, {0, 0, 1920, 30});
     EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); }));

@@ -53,16 +53,19 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
       tray_(*connection_, events_),
       screenSaver_(*connection_, events_),
       barrier_(*connection_, [this](QPointF place) { return screens_.toNative(place); }),
+      inputGrab_(*connection_),
       listener_(std::move(listener)),
       pasteboard_(*listener_),
       drags_(*listener_),
       pointer_(*connection_, *listener_, knownPlaces(*connection_),
-               [this](QPoint place) { return screens_.toLogical(place); }) {
+               [this](QPoint place) { return screens_.toLogical(place); }),
+      cover_(*listener_) {
     listener_->start();
 }
 
 std::unique_ptr<PanelWindow> X11DisplayServer::panelWindow(QWindow& window) {
-    return std::make_unique<X11PanelWindow>(window, *connection_, events_, screens_, compositor_);
+    return std::make_unique<X11PanelWindow>(window, *connection_, events_, screens_, compositor_,
+                                            cover_);
 }
 
 } // namespace ravelo::x11

@@ -2,6 +2,7 @@
 
 #include "platform/DisplayServer.h"
 #include "platform/x11/Events.h"
+#include "platform/x11/ForeignCover.h"
 #include "platform/x11/Listener.h"
 #include "platform/x11/ManagerProperty.h"
 #include "platform/x11/ManagerSelection.h"
@@ -9,6 +10,7 @@
 #include "platform/x11/X11DragMonitor.h"
 #include "platform/x11/X11EdgeBarrier.h"
 #include "platform/x11/X11IconPreference.h"
+#include "platform/x11/X11InputGrab.h"
 #include "platform/x11/X11MotionPreference.h"
 #include "platform/x11/X11Pasteboard.h"
 #include "platform/x11/X11Pointer.h"
@@ -36,6 +38,10 @@ public:
 
     [[nodiscard]] SessionLock& lock() override { return screenSaver_; }
 
+    [[nodiscard]] SessionLock& cover() override { return cover_; }
+
+    [[nodiscard]] InputGrab& inputGrab() override { return inputGrab_; }
+
     [[nodiscard]] MotionPreference& motion() override { return motion_; }
 
     [[nodiscard]] IconPreference& icons() override { return icons_; }
@@ -57,10 +63,12 @@ private:
     X11TrayArea tray_;
     ScreenSaverStatus screenSaver_;
     X11EdgeBarrier barrier_;
+    X11InputGrab inputGrab_;
     std::unique_ptr<Listener> listener_;
     X11Pasteboard pasteboard_;
     X11DragMonitor drags_;
     X11Pointer pointer_;
+    ForeignCover cover_;
 };
 
 } // namespace ravelo::x11

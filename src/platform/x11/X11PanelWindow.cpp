@@ -36,10 +36,12 @@ std::vector<xcb_rectangle_t> rectanglesOf(const QRegion& region) {
 } // namespace
 
 X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& events,
-                               const X11Screens& screens, ManagerSelection& compositor)
+                               const X11Screens& screens, ManagerSelection& compositor,
+                               ForeignCover& cover)
     : window_(window),
       screens_(screens),
       compositor_(compositor),
+      cover_(cover),
       focus_(connection, events),
       shadow_(connection.atom("_COMPTON_SHADOW")),
       blurRegion_(connection.atom("_KDE_NET_WM_BLUR_BEHIND_REGION")),
@@ -63,6 +65,7 @@ void X11PanelWindow::place(const Screen& screen, QSizeF size) {
     if (monitor == nullptr) {
         return; // It went away; the notice of that is on its way.
     }
+    cover_.follow(id_, monitor->native);
     const QSize logicalSize = size.toSize();
     const QSize nativeSize = (QSizeF(logicalSize) * monitor->scale).toSize();
     const QPoint corner(monitor->native.x() + (monitor->native.width() - nativeSize.width()) / 2,
@@ -124,7 +127,7 @@ bool X11PanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
 // does not manage. The properties of the root window, which X11Screens watches, tell of it.
 void X11PanelWindow::stayAbove(const xcb_generic_event_t& event) {
     const auto* change = eventAs<xcb_property_notify_event_t>(event, XCB_PROPERTY_NOTIFY);
-    if (change != nullptr && window_.isVisible() &&
+    if (change != nullptr && window_.isVisible() && !cover_.isLocked() &&
         std::find(restackingNotices_.begin(), restackingNotices_.end(), change->atom) !=
             restackingNotices_.end()) {
         window_.raise();

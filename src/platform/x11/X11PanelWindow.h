@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/PanelWindow.h"
+#include "platform/x11/ForeignCover.h"
 #include "platform/x11/InputFocus.h"
 #include "platform/x11/ManagerSelection.h"
 #include "platform/x11/X11Screens.h"
@@ -23,7 +24,7 @@ class X11PanelWindow : public PanelWindow, private QObject {
 public:
     /// All must outlive it; `window` must not have been shown. Makes the native window.
     X11PanelWindow(QWindow& window, Connection& connection, Events& events,
-                   const X11Screens& screens, ManagerSelection& compositor);
+                   const X11Screens& screens, ManagerSelection& compositor, ForeignCover& cover);
 
     void place(const Screen& screen, QSizeF size) override;
     void orderFront() override;
@@ -45,6 +46,7 @@ private:
     QWindow& window_;
     const X11Screens& screens_;
     ManagerSelection& compositor_;
+    ForeignCover& cover_;
     InputFocus focus_;
     const xcb_atom_t shadow_;
     const xcb_atom_t blurRegion_;

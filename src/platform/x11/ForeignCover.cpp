@@ -1,0 +1,22 @@
+#include "platform/x11/ForeignCover.h"
+
+#include "platform/x11/CoverWatch.h"
+
+namespace ravelo::x11 {
+
+ForeignCover::ForeignCover(Listener& listener) : listener_(listener) {
+    auto changed = [&listener, state = state_](bool covered) {
+        listener.tell([state, covered] {
+            state->covered = covered;
+            state->listeners.notify();
+        });
+    };
+    watch_ = std::make_shared<CoverWatch>(listener.connection(), changed);
+    listener.attach(watch_);
+}
+
+void ForeignCover::follow(xcb_window_t panel, QRect monitor) {
+    listener_.post([watch = watch_, panel, monitor] { watch->follow(panel, monitor); });
+}
+
+} // namespace ravelo::x11

@@ -1,0 +1,97 @@
+#include "fakes/PanelWorld.h"
+
+#include <gtest/gtest.h>
+
+namespace ravelo {
+namespace {
+
+struct HeldCase {
+    const char* name;
+    void (*ask)(PanelWorld&);
+    Seconds held; ///< How long another program holds pointer and keyboard.
+    bool opens;
+};
+
+class HeldInput : public testing::TestWithParam<HeldCase> {};
+
+TEST_P(HeldInput, opensNothingButForFilesUnlessItIsReleasedSoon) {
+    PanelWorld world;
+    const auto [name, ask, held, opens] = GetParam();
+    world.grab.held = true;
+    ask(world);
+    const bool atOnce = world.controller.isOpen();
+    world.scheduler.advance(held);
+    world.grab.held = false;
+    world.scheduler.advance(Seconds(5));
+    EXPECT_EQ(world.controller.isOpen(), opens);
+    EXPECT_EQ(atOnce, opens && held == Seconds(0)) << "opened while it was held";
+    EXPECT_TRUE(world.window.shown) << "the handle stays";
+}
+
+void hover(PanelWorld& world) {
+    world.moveTo(720, 5);
+}
+
+void toggle(PanelWorld& world) {
+    world.controller.toggle();
+}
+
+void open(PanelWorld& world) {
+    world.controller.open();
+}
+
+void park(PanelWorld& world) {
+    world.controller.onFiles({world.drags.file});
+}
+
+void dragFiles(PanelWorld& world) {
+    world.beginDrag(true);
+    world.moveTo(720, 100);
+}
+
+void dragText(PanelWorld& world) {
+    world.beginDrag(false);
+    world.moveTo(720, 5);
+}
+
+void dragFilesOntoTheHandle(PanelWorld& world) {
+    world.drags.begin(true);
+    world.controller.onDragEnter();
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, HeldInput,
+    testing::Values(HeldCase{"pointer", hover, Seconds(3), false},
+                    HeldCase{"toggleUnderALocker", toggle, Seconds(0.5), false},
+                    HeldCase{"toggleByAKey", toggle, Seconds(0.3), true},
+                    HeldCase{"openUnderALocker", open, Seconds(0.5), false},
+                    HeldCase{"openByAMenu", open, Seconds(0.3), true},
+                    HeldCase{"filesUnderALocker", park, Seconds(0.5), false},
+                    HeldCase{"draggedFiles", dragFiles, Seconds(0), true},
+                    HeldCase{"draggedText", dragText, Seconds(3), false},
+                    HeldCase{"draggedOntoTheHandle", dragFilesOntoTheHandle, Seconds(0), true}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(HeldInputRequest, aRequestUnderALockIsNotKeptForLater) {
+    PanelWorld world;
+    world.grab.held = true;
+    world.controller.toggle();
+    world.lock.setLocked(true);
+    world.grab.held = false;
+    world.lock.setLocked(false);
+    world.scheduler.advance(Seconds(5));
+    EXPECT_FALSE(world.controller.isOpen());
+}
+
+TEST(HeldInputRequest, aToggleByAKeyTakesTheKeyboardOnceItOpens) {
+    PanelWorld world;
+    world.grab.held = true;
+    world.controller.toggle();
+    world.scheduler.advance(Seconds(0.2));
+    world.grab.held = false;
+    world.scheduler.advance(Seconds(0.1));
+    EXPECT_TRUE(world.window.focused);
+}
+
+} // namespace
+} // namespace ravelo
