@@ -16,7 +16,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     fuzz::require(wait >= Seconds(0) && wait <= Seconds(86400));
     if (const auto credentials = readCredentials(input)) {
         fuzz::require(!credentials->accessToken.isEmpty() &&
-                      !credentials->accessToken.contains('\n'));
+                      !credentials->accessToken.bytes().contains('\n'));
     }
     return 0;
 }

@@ -22,6 +22,7 @@
 #include "platform/freedesktop/ThemeSound.h"
 #include "platform/freedesktop/TrayStatusItem.h"
 #include "platform/system/DetachedThreads.h"
+#include "platform/system/HelperProgram.h"
 #include "platform/system/HttpsThread.h"
 #include "platform/system/InotifyChanges.h"
 #include "platform/system/NightShiftScript.h"
@@ -117,7 +118,8 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
           configFolder() + u"/autostart"_s, QCoreApplication::applicationFilePath(), *fileJobs_)),
       loginSession_(std::make_unique<LoginSession>(systemBus())),
       screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())),
-      transfers_(std::make_unique<FileTransferPortal>(sessionBus())),
+      transfers_(
+          std::make_unique<FileTransferPortal>(helperProgram("ravelo-portal"_L1), environment)),
       sound_(std::make_unique<ThemeSound>()),
       nightShift_(std::make_unique<NightShiftScript>(environment)),
       shutDown_(std::make_unique<LoginShutDown>(systemBus())),

@@ -47,20 +47,21 @@ void UsageQuery::readFiles(const QByteArrayList& folders, TakeCredentials take) 
     step_ = services_.jobs.run(
         [credentials, folders] {
             for (const QByteArray& folder : folders) {
-                const auto bytes = readFileEnd(folder + "/.credentials.json", largestAnswer);
-                *credentials = bytes ? readCredentials(*bytes) : std::nullopt;
+                const Secret file(readFileEnd(folder + "/.credentials.json", largestAnswer)
+                                      .value_or(QByteArray()));
+                *credentials = readCredentials(file.bytes());
                 if (*credentials) {
                     break;
                 }
             }
         },
-        [credentials, take = std::move(take)] { take(*credentials); });
+        [credentials, take = std::move(take)] { take(std::exchange(*credentials, std::nullopt)); });
 }
 
 void UsageQuery::askKeyring() {
     step_ = services_.secrets.find(
-        u"Claude Code-credentials"_s, [this](const std::optional<QByteArray>& secret) {
-            if (const auto credentials = secret ? readCredentials(*secret) : std::nullopt) {
+        u"Claude Code-credentials"_s, [this](const std::optional<Secret>& secret) {
+            if (const auto credentials = secret ? readCredentials(secret->bytes()) : std::nullopt) {
                 useCredentials(credentials);
             } else {
                 readFiles(otherFolders_, [this](const std::optional<Credentials>& other) {
@@ -84,12 +85,12 @@ void UsageQuery::useCredentials(const std::optional<Credentials>& credentials) {
     }
 }
 
-void UsageQuery::request(const QByteArray& token) {
-    const HttpsRequest request{
-        endpoint_.url,
-        {{"Authorization", "Bearer " + token}, {"anthropic-beta", "oauth-2025-04-20"}},
-        endpoint_.timeOut,
-        largestAnswer};
+void UsageQuery::request(const Secret& token) {
+    const HttpsRequest request{endpoint_.url,
+                               {{"anthropic-beta", "oauth-2025-04-20"}},
+                               Secret("Bearer " + token.bytes()),
+                               endpoint_.timeOut,
+                               largestAnswer};
     step_ = services_.https.get(request, [this](const std::optional<HttpsAnswer>& answer) {
         step_.reset(); // With it the token goes.
         takeAnswer(answer);

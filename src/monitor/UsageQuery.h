@@ -57,7 +57,7 @@ private:
     void readFiles(const QByteArrayList& folders, TakeCredentials take);
     void askKeyring();
     void useCredentials(const std::optional<Credentials>& credentials);
-    void request(const QByteArray& token);
+    void request(const Secret& token);
     void takeAnswer(const std::optional<HttpsAnswer>& answer);
     void renewViaCLI(std::function<void()> then);
     void finish(const Outcome& outcome);

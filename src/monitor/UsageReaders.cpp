@@ -61,10 +61,49 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// Printable and without blanks: nothing that would end the header it is sent in.
-bool isToken(const QString& text) {
-    return !text.isEmpty() &&
-           std::all_of(text.begin(), text.end(), [](QChar c) { return c > u' ' && c <= u'~'; });
+/// Printable and without blanks: nothing that would end the header it is sent in. Nobody escapes
+/// what such text consists of, so a backslash is not expected either.
+bool isToken(QByteArrayView text) {
+    return !text.isEmpty() && std::all_of(text.begin(), text.end(),
+                                          [](char c) { return c > ' ' && c <= '~' && c != '\\'; });
+}
+
+/// What is between the quotes of the string that starts at `start`; to the end if it is not closed.
+QByteArrayView stringAt(QByteArrayView json, qsizetype start) {
+    qsizetype end = start + 1;
+    while (end < json.size() && json[end] != '"') {
+        end += json[end] == '\\' ? 2 : 1;
+    }
+    return json.sliced(start + 1, std::min(end, json.size()) - start - 1);
+}
+
+/// Credentials without the contents of any string but the names: Qt's parser would leave copies in
+/// memory that nobody erases.
+struct Redacted {
+    QByteArray json;               ///< Instead of each string its number below.
+    QList<QByteArrayView> strings; ///< As in the original.
+};
+
+Redacted redacted(QByteArrayView json) {
+    Redacted result;
+    for (qsizetype i = 0; i < json.size(); ++i) {
+        if (json[i] != '"') {
+            result.json += json[i];
+            continue;
+        }
+        const QByteArrayView text = stringAt(json, i);
+        i += text.size() + 1;
+        const bool isName = json.sliced(std::min(i + 1, json.size())).trimmed().startsWith(':');
+        result.json += '"';
+        if (isName) {
+            result.json += text;
+        } else {
+            result.json += QByteArray::number(result.strings.size());
+            result.strings.append(text);
+        }
+        result.json += i < json.size() ? "\"" : "";
+    }
+    return result;
 }
 
 } // namespace
@@ -121,13 +160,16 @@ Seconds readRetryAfter(const QByteArray& header, Date now) {
 }
 
 std::optional<Credentials> readCredentials(QByteArrayView json) {
-    const QJsonValue account = parse(json)["claudeAiOauth"_L1];
-    const QString token = account["accessToken"_L1].toString();
+    const Redacted shown = redacted(json);
+    const QJsonValue account = parse(shown.json)["claudeAiOauth"_L1];
+    const QJsonValue number = account["accessToken"_L1];
+    const QByteArrayView token =
+        number.isString() ? shown.strings.value(number.toString().toInt()) : QByteArrayView();
     if (!isToken(token)) {
         return std::nullopt;
     }
     const QJsonValue expiry = account["expiresAt"_L1];
-    return Credentials{token.toLatin1(),
+    return Credentials{Secret(token.toByteArray()),
                        expiry.isDouble() ? std::optional(expiry.toDouble() / 1000) : std::nullopt};
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Scheduler.h"
+#include "base/Secret.h"
 #include "monitor/UsageWindow.h"
 
 #include <QByteArray>
@@ -28,11 +29,11 @@ namespace ravelo {
 [[nodiscard]] Seconds readRetryAfter(const QByteArray& header, Date now);
 
 struct Credentials {
-    QByteArray accessToken;          ///< Fit for an HTTP header.
+    Secret accessToken;              ///< Fit for an HTTP header.
     std::optional<double> expiresAt; ///< Seconds since 1970.
 };
 
-/// As Claude Code keeps them. Nothing where it is logged out.
+/// As Claude Code keeps them. Nothing where it is logged out. Leaves no copy of a token behind.
 [[nodiscard]] std::optional<Credentials> readCredentials(QByteArrayView json);
 
 } // namespace ravelo

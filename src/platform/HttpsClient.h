@@ -2,6 +2,7 @@
 
 #include "base/Handle.h"
 #include "base/Scheduler.h"
+#include "base/Secret.h"
 
 #include <QByteArray>
 #include <QList>
@@ -16,8 +17,9 @@ namespace ravelo {
 struct HttpsRequest {
     QUrl url; ///< Of the scheme "https"; others are not asked for.
     QList<std::pair<QByteArray, QByteArray>> headers;
-    Seconds timeOut;    ///< For all of it, to the last byte of the answer.
-    qint64 largest = 0; ///< Bytes of an answer; one with more counts as none.
+    Secret authorization; ///< The value of the header of that name; empty if there is none.
+    Seconds timeOut;      ///< For all of it, to the last byte of the answer.
+    qint64 largest = 0;   ///< Bytes of an answer; one with more counts as none.
 };
 
 struct HttpsAnswer {

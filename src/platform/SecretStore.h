@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "base/Secret.h"
 
-#include <QByteArray>
 #include <QString>
 
 #include <functional>
@@ -19,7 +19,7 @@ public:
     /// where there is none, where it is locked or where no answer comes soon; not where the handle
     /// was dropped. Unlocks nothing and never makes a question appear.
     [[nodiscard]] virtual Handle find(const QString& service,
-                                      std::function<void(std::optional<QByteArray>)> done) = 0;
+                                      std::function<void(std::optional<Secret>)> done) = 0;
 };
 
 } // namespace ravelo

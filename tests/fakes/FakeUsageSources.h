@@ -14,11 +14,13 @@ namespace ravelo {
 class FakeSecretStore final : public SecretStore {
 public:
     [[nodiscard]] Handle find(const QString& service,
-                              std::function<void(std::optional<QByteArray>)> done) override {
+                              std::function<void(std::optional<Secret>)> done) override {
         asked.append(service);
         const std::shared_ptr<QTimer> timer(new QTimer, [](QTimer* gone) { gone->deleteLater(); });
         timer->setSingleShot(true);
-        timer->callOnTimeout([this, done = std::move(done)] { done(secret); });
+        timer->callOnTimeout([this, done = std::move(done)] {
+            done(secret ? std::optional(Secret(*secret)) : std::nullopt);
+        });
         timer->start(0);
         return Handle([timer] { timer->stop(); });
     }

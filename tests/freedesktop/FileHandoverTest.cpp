@@ -25,6 +25,14 @@ QString described(const QDBusMessage& call) {
            u')';
 }
 
+/// With more in its environment than it should pass on.
+FileTransferPortal portalOn(const QString& address) {
+    QProcessEnvironment environment;
+    environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, address);
+    environment.insert(u"DBUS_VERBOSE"_s, u"1"_s);
+    return {u"" RAVELO_PORTAL ""_s, environment};
+}
+
 class FileHandover : public testing::Test {
 protected:
     static void SetUpTestSuite() { qDBusRegisterMetaType<Names>(); }
@@ -56,7 +64,7 @@ protected:
     PrivateBus bus_;
     QDBusConnection service_ = bus_.connect(u"service"_s);
     KdeConnect kdeConnect_{bus_.connect(u"ours"_s)};
-    FileTransferPortal portal_{bus_.connect(u"ours"_s)};
+    FileTransferPortal portal_ = portalOn(bus_.address());
     std::optional<QVariant> answer_; ///< To every call; nothing hangs.
     QStringList calls_;
     QVariantList arguments_; ///< Of the last call.
@@ -139,12 +147,14 @@ TEST_F(FileHandover, nobodyIsWaitedForForEver) {
                               portal_.retrieve("key", noFiles)};
     const auto dead = QDBusConnection::connectToBus(u"unix:path=/nowhere"_s, u"dead"_s);
     KdeConnect kdeConnect(dead);
-    FileTransferPortal portal(dead);
+    FileTransferPortal portal = portalOn(u"unix:path=/nowhere"_s);
+    FileTransferPortal noChild(u"/nowhere/ravelo-portal"_s, {});
     const Handle gone[] = {kdeConnect.list(noFiles), kdeConnect.send(u"a"_s, {}, notSent),
-                           portal.retrieve("key", noFiles)};
+                           portal.retrieve("key", noFiles), noChild.retrieve("key", noFiles)};
+    (void)portal_.retrieve("key", [](const auto&) { ADD_FAILURE() << "its handle is gone"; });
     (void)kdeConnect.send(u"a"_s, {}, [](bool) { ADD_FAILURE() << "its handle is gone"; });
     EXPECT_EQ(ends, 0) << "answered from within the call";
-    EXPECT_TRUE(eventually([&] { return ends == 6; }));
+    EXPECT_TRUE(eventually([&] { return ends == 7; }));
 }
 
 } // namespace

@@ -45,6 +45,8 @@ public:
         return QDBusConnection::connectToBus(address_, name);
     }
 
+    [[nodiscard]] QString address() const { return address_; }
+
 private:
     QTemporaryDir folder_;
     QProcess daemon_;

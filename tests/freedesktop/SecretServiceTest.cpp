@@ -78,9 +78,9 @@ TEST_P(SecretServiceTest, isAskedForWhatIsNotLocked) {
                           std::chrono::milliseconds(GetParam().hangsAt.isEmpty() ? 20000 : 200));
     int answers = 0;
     std::optional<QByteArray> secret;
-    const Handle search = secrets.find(u"a name"_s, [&](const std::optional<QByteArray>& found) {
+    const Handle search = secrets.find(u"a name"_s, [&](const std::optional<Secret>& found) {
         ++answers;
-        secret = found;
+        secret = found ? std::optional(found->bytes()) : std::nullopt;
     });
     ASSERT_TRUE(
         eventually([&] { return answers > 0 && asked_.size() >= GetParam().asked.size(); }));
@@ -107,11 +107,11 @@ TEST(SecretServiceWithoutABus, hasNothing) {
     SecretService secrets(QDBusConnection(u"no such bus"_s), std::chrono::milliseconds(1));
     secrets
         .find(u"a name"_s,
-              [](const std::optional<QByteArray>&) { ADD_FAILURE() << "nobody wants it any more"; })
+              [](const std::optional<Secret>&) { ADD_FAILURE() << "nobody wants it any more"; })
         .reset();
     bool told = false;
-    const Handle search = secrets.find(u"a name"_s, [&](const std::optional<QByteArray>& found) {
-        EXPECT_EQ(found, std::nullopt);
+    const Handle search = secrets.find(u"a name"_s, [&](const std::optional<Secret>& found) {
+        EXPECT_FALSE(found);
         told = true;
     });
     EXPECT_TRUE(eventually([&] { return told; }));

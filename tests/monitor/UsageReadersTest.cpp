@@ -101,7 +101,7 @@ TEST(Credentials, areThereWhereSomebodyIsLoggedIn) {
     };
     const auto full = read(R"({"accessToken":"a-B_9.~","expiresAt":1763233200500})");
     ASSERT_TRUE(full);
-    EXPECT_EQ(full->accessToken, "a-B_9.~");
+    EXPECT_EQ(full->accessToken.bytes(), "a-B_9.~");
     EXPECT_EQ(full->expiresAt, 1763233200.5);
     EXPECT_EQ(read(R"({"accessToken":"a","expiresAt":"soon"})")->expiresAt, std::nullopt);
     for (const char* account : {"{}", R"({"accessToken":""})", R"({"accessToken":7})", R"("a")",

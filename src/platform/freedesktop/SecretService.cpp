@@ -39,7 +39,7 @@ std::optional<QDBusObjectPath> firstPath(const QVariant& paths) {
 }
 
 /// The value in a Secret structure: session, parameters, value, type of contents.
-std::optional<QByteArray> valueOf(const QVariant& secret) {
+std::optional<Secret> valueOf(const QVariant& secret) {
     const auto argument = secret.value<QDBusArgument>();
     if (argument.currentSignature() != "(oayays)"_L1) {
         return std::nullopt;
@@ -51,13 +51,13 @@ std::optional<QByteArray> valueOf(const QVariant& secret) {
     argument.beginStructure();
     argument >> session >> parameters >> value >> type;
     argument.endStructure();
-    return value;
+    return Secret(std::move(value));
 }
 
 /// One call after the other.
 class Search {
 public:
-    using Done = std::function<void(std::optional<QByteArray>)>;
+    using Done = std::function<void(std::optional<Secret>)>;
 
     Search(QDBusConnection bus, std::chrono::milliseconds patience, Done done)
         : bus_(std::move(bus)), deadline_(patience), done_(std::move(done)) {}
@@ -106,7 +106,7 @@ private:
         });
     }
 
-    void finish(const std::optional<QByteArray>& secret) {
+    void finish(const std::optional<Secret>& secret) {
         closeSession();
         const Done done = std::exchange(done_, nullptr); // It may end this search.
         done(secret);
@@ -143,7 +143,7 @@ SecretService::SecretService(QDBusConnection bus, std::chrono::milliseconds pati
 }
 
 Handle SecretService::find(const QString& service,
-                           std::function<void(std::optional<QByteArray>)> done) {
+                           std::function<void(std::optional<Secret>)> done) {
     auto search = std::make_shared<Search>(bus_, patience_, std::move(done));
     search->start(service);
     return Handle([search]() mutable { search.reset(); });

@@ -18,7 +18,7 @@ public:
                            std::chrono::milliseconds patience = std::chrono::seconds(2));
 
     [[nodiscard]] Handle find(const QString& service,
-                              std::function<void(std::optional<QByteArray>)> done) override;
+                              std::function<void(std::optional<Secret>)> done) override;
 
 private:
     QDBusConnection bus_;

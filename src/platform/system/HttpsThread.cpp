@@ -61,6 +61,9 @@ QNetworkRequest prepared(const HttpsRequest& request, const QHostAddress& addres
     for (const auto& [name, value] : request.headers) {
         prepared.setRawHeader(name, value);
     }
+    if (!request.authorization.isEmpty()) { // Shares the bytes, which are erased with the secret.
+        prepared.setRawHeader("Authorization", request.authorization.bytes());
+    }
     prepared.setRawHeader("Host", request.url.authority(QUrl::FullyEncoded).toLatin1());
     prepared.setRawHeader("User-Agent", userAgent);
     prepared.setRawHeader("Accept-Encoding", "identity"); // What is small stays small.
@@ -186,7 +189,7 @@ void HttpsThread::start(const std::shared_ptr<Exchange>& exchange, const QHostAd
     connect(thread, &QThread::finished, this, [this, thread, exchange] {
         std::erase(running_, exchange);
         exchange->thread = nullptr;
-        exchange->request = {}; // What it holds may be secret.
+        exchange->request = {}; // It may hold a secret.
         thread->deleteLater();
         exchange->finish(std::move(exchange->answer));
     });
