@@ -29,11 +29,8 @@ bool isCalledByRavelo() {
            type == SOCK_SEQPACKET;
 }
 
-/// Nobody's child, so that nobody has to wait for its end; with nothing open but the socket.
+/// Nothing is open but the socket, and no terminal's end reaches this process.
 void detach() {
-    if (fork() != 0) {
-        _exit(EXIT_SUCCESS);
-    }
     setsid();
     closefrom(socketNumber + 1);
     const timeval patience{idleSeconds, 0};
@@ -90,6 +87,9 @@ int main() {
     loadFormats();
     std::thread([] {}).join(); // The first one sets up signals for all others.
     if (!lockDown()) {
+        _exit(EXIT_FAILURE);
+    }
+    if (!send({Status::ready, 0, 0, 0, 0}, {})) {
         _exit(EXIT_FAILURE);
     }
     for (auto order = nextOrder(); order && carryOut(*order); order = nextOrder()) {
