@@ -4,7 +4,8 @@
 
 /// What Ravelo and ravelo-decode say to each other over a SOCK_SEQPACKET socket: one packet a
 /// request, with the descriptor of the picture; one packet a reply, with the descriptor of a sealed
-/// memfd if there is something to return. The first reply answers nothing: it says that all is ready. Both come from the same package, so there is no version.
+/// memfd if there is something to return. The first reply answers nothing: it says that all is
+/// ready. Both come from the same package, so there is no version.
 namespace ravelo::decode {
 
 inline constexpr int socketNumber = 3;          ///< The socket's descriptor in ravelo-decode.
