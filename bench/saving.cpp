@@ -54,7 +54,7 @@ int main(int argc, char** argv) {
     MemoryPreferences preferences;
     MemoryPasteboard pasteboard(scheduler);
     FakeAlertSound sound;
-    Store store(folder.path(), {scheduler, worker, preferences, pasteboard, sound});
+    Store store(folder.path(), {scheduler, worker, preferences, pasteboard, sound, nullptr});
     fill(store);
     scheduler.advance(waiting);
     worker.drain();

@@ -3,11 +3,32 @@
 
 #include "Input.h"
 #include "clipboard/CapturePlan.h"
+#include "platform/ImageDecoder.h"
 #include "platform/x11/SelectionText.h"
 
 #include <QUtf8StringView>
 
 using namespace ravelo;
+
+namespace {
+
+/// Finds a picture in everything that begins like one.
+class Pictures final : public ImageDecoder {
+public:
+    QSize size(const UntrustedPicture& picture) override {
+        return std::get<PictureBytes>(picture).startsWith('P') ? QSize(1, 1) : QSize();
+    }
+
+    QImage filling(const UntrustedPicture& /*picture*/, PictureShape /*shape*/) override {
+        return {};
+    }
+
+    QImage icon(const PictureFile& /*file*/, int /*size*/) override { return {}; }
+
+    QByteArray png(const UntrustedPicture& /*picture*/) override { return {}; }
+};
+
+} // namespace
 
 int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const QByteArray input = fuzz::view(bytes, size).toByteArray();
@@ -15,6 +36,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const QList<QByteArray> targets = input.first(end).split('\n');
     const QByteArray given = input.mid(end + 2);
 
+    Pictures pictures;
     PasteboardSnapshot snapshot;
     for (const QByteArray& target : x11::textTargets(targets)) {
         fuzz::require(x11::isPlainText(target));
@@ -26,8 +48,8 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     for (const QByteArray& target : targets) {
         snapshot.types.append(QString::fromUtf8(target));
     }
-    for (QString next = nextCaptureType(snapshot); !next.isEmpty();
-         next = nextCaptureType(snapshot)) {
+    for (QString next = nextCaptureType(snapshot, pictures); !next.isEmpty();
+         next = nextCaptureType(snapshot, pictures)) {
         // As long as the hint is not read it counts as secret: nothing else may be asked for.
         fuzz::require(!snapshot.answers.contains(next) &&
                       (next == u"x-kde-passwordManagerHint" || !isConcealed(snapshot)));

@@ -20,6 +20,7 @@
 #include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
 #include "platform/freedesktop/TrayStatusItem.h"
+#include "platform/system/DecoderProcess.h"
 #include "platform/system/DetachedThreads.h"
 #include "platform/system/HttpsThread.h"
 #include "platform/system/InotifyChanges.h"
@@ -105,6 +106,7 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       secrets_(std::make_unique<SecretService>(sessionBus())),
       https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
       children_(std::make_unique<SpawnedChild>(*jobs_, environment)),
+      decoder_(std::make_shared<DecoderProcess>(DecoderProcess::installedProgram())),
       tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
       shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, display_.icons())),
       view_(std::make_unique<PanelView>()) {}
@@ -130,16 +132,17 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
     }
     Updater::provide(std::make_unique<PackageKit>(systemBus(), u"ravelo"_s),
                      u"" RAVELO_VERSION ""_s);
-    store_ =
-        std::make_unique<Store>(dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_,
-                                                              display_.pasteboard(), *sound_});
+    store_ = std::make_unique<Store>(dataFolder(),
+                                     Store::Services{*scheduler_, *worker_, *preferences_,
+                                                     display_.pasteboard(), *sound_, decoder_});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
     settings_ = std::make_unique<AppSettings>(*preferences_, *loginItem_);
     settings_->setupLoginItemDefaultIfNeeded();
 
-    clipboard_ = std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_);
+    clipboard_ = std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_,
+                                                    *jobs_, decoder_);
     clipboard_->start();
 
     provideMonitors();
@@ -157,7 +160,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
         rest_);
     view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_,
                  *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received, shelf_->nearby,
-                 *jobs_, shelf_->opener, shelf_->icons},
+                 *jobs_, shelf_->opener, shelf_->icons, decoder_},
                 QLocale());
     provideWindows();
     const auto checkUpdates = [this] {

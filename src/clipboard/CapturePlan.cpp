@@ -15,7 +15,7 @@ bool isUnasked(const PasteboardSnapshot& snapshot, QLatin1StringView type) {
 
 } // namespace
 
-QString nextCaptureType(const PasteboardSnapshot& snapshot) {
+QString nextCaptureType(const PasteboardSnapshot& snapshot, ImageDecoder& decoder) {
     if (isUnasked(snapshot, passwordHint)) {
         return passwordHint;
     }
@@ -25,7 +25,7 @@ QString nextCaptureType(const PasteboardSnapshot& snapshot) {
     if (isUnasked(snapshot, plainTextType)) {
         return plainTextType;
     }
-    return capturedText(snapshot).isEmpty() ? nextImageType(snapshot) : QString();
+    return capturedText(snapshot).isEmpty() ? nextImageType(snapshot, decoder) : QString();
 }
 
 bool isConcealed(const PasteboardSnapshot& snapshot) {

@@ -6,10 +6,12 @@
 
 namespace ravelo {
 
+class ImageDecoder;
+
 /// What to ask a pasteboard for, one type after the other: marks of secrecy before any contents,
-/// text before images, nothing more once the answer is settled. A pure function, to be used as a
-/// `PasteboardPlan` on any thread.
-[[nodiscard]] QString nextCaptureType(const PasteboardSnapshot& snapshot);
+/// text before images, nothing more once the answer is settled. To be used as a `PasteboardPlan`,
+/// on any thread but the main one.
+[[nodiscard]] QString nextCaptureType(const PasteboardSnapshot& snapshot, ImageDecoder& decoder);
 
 /// Whether the owner asks that its contents be kept out of histories:
 /// "org.nspasteboard.ConcealedType" on offer, or "x-kde-passwordManagerHint" with the value

@@ -4,10 +4,10 @@
 #include "base/Scheduler.h"
 #include "clipboard/CapturePlan.h"
 #include "clipboard/FileForms.h"
+#include "platform/DetachedJobs.h"
+#include "platform/ImageDecoder.h"
 #include "store/Store.h"
 
-#include <QBuffer>
-#include <QImageReader>
 #include <QUrl>
 
 #include <algorithm>
@@ -19,24 +19,21 @@ namespace {
 constexpr Seconds pollInterval{0.5};
 constexpr QLatin1StringView pngType("image/png");
 
-bool isImage(QByteArray bytes) {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    return QImageReader(&buffer).canRead();
-}
-
-QList<PasteboardEntry> imageForms(const QString& path) {
+QList<PasteboardEntry> imageForms(const QString& path, ImageDecoder& decoder) {
     const auto bytes = readFile(path);
-    return bytes && isImage(*bytes) ? QList<PasteboardEntry>{{pngType, *bytes}}
-                                    : QList<PasteboardEntry>();
+    return bytes && !decoder.size(*bytes).isEmpty() ? QList<PasteboardEntry>{{pngType, *bytes}}
+                                                    : QList<PasteboardEntry>();
 }
 
 } // namespace
 
-ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler)
+ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
+                                   DetachedJobs& jobs, std::shared_ptr<ImageDecoder> decoder)
     : store_(store),
       pasteboard_(pasteboard),
       scheduler_(scheduler),
+      jobs_(jobs),
+      decoder_(std::move(decoder)),
       lastChangeCount_(pasteboard.changeCount()) {}
 
 void ClipboardManager::start() {
@@ -63,7 +60,10 @@ void ClipboardManager::poll() {
     }
     // A read that was answered may still be waiting to be told when the next change is seen, so
     // none is dropped here: the pasteboard itself gives up those whose owner has gone.
-    reads_[count] = pasteboard_.read(nextCaptureType, [this, count](const auto& snapshot) {
+    const auto plan = [decoder = decoder_](const PasteboardSnapshot& snapshot) {
+        return nextCaptureType(snapshot, *decoder);
+    };
+    reads_[count] = pasteboard_.read(plan, [this, count](const auto& snapshot) {
         capture(count, snapshot);
         reads_.erase(reads_.begin(), reads_.upper_bound(count));
     });
@@ -91,21 +91,36 @@ void ClipboardManager::offerAgain() {
     if (!captured_ || pasteboard_.orphaned() != captured_->changeCount) {
         return;
     }
-    const auto forms = formsOf(captured_->clip);
-    if (!forms.isEmpty() && pasteboard_.adopt(forms)) {
-        suppressOwnChange();
+    const ClipItem* const clip = capturedClip();
+    if (clip == nullptr) {
+        return;
+    }
+    const auto adopt = [this, count = captured_->changeCount](const QList<PasteboardEntry>& forms) {
+        const bool wanted = captured_ && captured_->changeCount == count && capturedClip() &&
+                            pasteboard_.orphaned() == count;
+        if (wanted && !forms.isEmpty() && pasteboard_.adopt(forms)) {
+            suppressOwnChange();
+        }
+    };
+    if (clip->kind == ClipKind::image) {
+        readImage(store_.imagePath(clip->imageFileName), adopt);
+    } else {
+        adopt({{plainTextType, clip->text.toUtf8()}});
     }
 }
 
-/// Nothing where the user has deleted the clip.
-QList<PasteboardEntry> ClipboardManager::formsOf(const QUuid& id) const {
-    const auto clip = std::ranges::find(store_.clips(), id, &ClipItem::id);
-    if (clip == store_.clips().cend()) {
-        return {};
-    }
-    return clip->kind == ClipKind::image
-               ? imageForms(store_.imagePath(clip->imageFileName))
-               : QList<PasteboardEntry>{{plainTextType, clip->text.toUtf8()}};
+/// Null if the user has deleted it.
+const ClipItem* ClipboardManager::capturedClip() const {
+    const auto clip = std::ranges::find(store_.clips(), captured_->clip, &ClipItem::id);
+    return clip == store_.clips().cend() ? nullptr : &*clip;
+}
+
+/// Not for the main thread; what is copied meanwhile takes its place.
+void ClipboardManager::readImage(const QString& path,
+                                 std::function<void(const QList<PasteboardEntry>&)> use) {
+    const auto forms = std::make_shared<QList<PasteboardEntry>>();
+    image_ = jobs_.run([path, forms, decoder = decoder_] { *forms = imageForms(path, *decoder); },
+                       [forms, use = std::move(use)] { use(*forms); });
 }
 
 void ClipboardManager::copyText(const QString& text) {
@@ -113,7 +128,7 @@ void ClipboardManager::copyText(const QString& text) {
 }
 
 void ClipboardManager::copyImage(const QString& path) {
-    write(imageForms(path));
+    readImage(path, [this](const QList<PasteboardEntry>& forms) { write(forms); });
 }
 
 void ClipboardManager::copyFile(const QUrl& url) {
@@ -122,6 +137,7 @@ void ClipboardManager::copyFile(const QUrl& url) {
 
 void ClipboardManager::write(const QList<PasteboardEntry>& forms) {
     if (!forms.isEmpty()) {
+        image_.reset();
         pasteboard_.write(forms);
         suppressOwnChange();
     }

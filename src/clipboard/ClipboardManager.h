@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QUuid>
 
+#include <functional>
 #include <map>
 #include <memory>
 #include <optional>
@@ -14,8 +15,11 @@ class QUrl;
 
 namespace ravelo {
 
+class DetachedJobs;
+class ImageDecoder;
 class Scheduler;
 class Store;
+struct ClipItem;
 
 /// Turns changes of the general pasteboard into clips, and puts clips back on it. Contents that
 /// their owner marks as secret are left alone, and so is what the program wrote itself. Where a
@@ -24,14 +28,16 @@ class Store;
 class ClipboardManager {
 public:
     /// What is on the pasteboard at this moment is never captured.
-    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler);
+    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler, DetachedJobs& jobs,
+                     std::shared_ptr<ImageDecoder> decoder);
 
     /// Looks every 0.5 s from now on, and at once where the platform tells of a change.
     void start();
 
     void copyText(const QString& text);
 
-    /// Puts a stored image on the pasteboard; does nothing where the file cannot be loaded.
+    /// Puts a stored image on the pasteboard, in a moment; does nothing if the file cannot be
+    /// loaded or something else is copied first.
     void copyImage(const QString& path);
 
     /// Puts a file on the pasteboard, for file managers to paste a copy of it; does nothing where
@@ -48,18 +54,22 @@ private:
     void poll();
     void capture(qint64 count, const PasteboardSnapshot& snapshot);
     void offerAgain();
-    [[nodiscard]] QList<PasteboardEntry> formsOf(const QUuid& clip) const;
+    [[nodiscard]] const ClipItem* capturedClip() const;
+    void readImage(const QString& path, std::function<void(const QList<PasteboardEntry>&)> use);
     void write(const QList<PasteboardEntry>& forms);
     void suppressOwnChange();
 
     Store& store_;
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
+    DetachedJobs& jobs_;
+    std::shared_ptr<ImageDecoder> decoder_;
     qint64 lastChangeCount_;
     qint64 suppressUntilCount_ = -1;  ///< The change that we made ourselves.
     std::optional<Capture> captured_; ///< The newest.
     Handle timer_;
     Handle notice_;
+    Handle image_; ///< Being read to be put on the pasteboard.
     QObject context_;
     std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true);
     std::map<qint64, Handle>

@@ -1,14 +1,9 @@
 #include "store/PasteboardImage.h"
 
 #include "base/UriList.h"
+#include "platform/ImageDecoder.h"
 #include "platform/Pasteboard.h"
 
-#include <QBuffer>
-#include <QFile>
-#include <QFileInfo>
-#include <QImage>
-#include <QImageIOHandler>
-#include <QImageReader>
 #include <QSysInfo>
 
 namespace ravelo {
@@ -19,11 +14,6 @@ namespace {
 
 constexpr auto pngType = "image/png"_L1;
 constexpr auto filesType = "text/uri-list"_L1;
-constexpr qint64 mostFileBytes = qint64{64} * 1024 * 1024;
-/// Four bytes each, as Qt's own limit has it; a screen of 8K just fits in.
-constexpr qint64 mostPixels = qint64{32} * 1024 * 1024;
-/// zlib's level 1: half the time, hardly larger.
-constexpr int quickCompression = 80;
 
 /// The forms worth asking for, best first.
 QStringList candidates(const QStringList& offered) {
@@ -47,43 +37,11 @@ QStringList candidates(const QStringList& offered) {
     return list;
 }
 
-/// A picture by its contents, whatever its type or name says, and of a bearable size.
-bool isPicture(QImageReader& reader) {
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    if (!reader.canRead() || reader.format().startsWith("svg") || reader.format() == "pdf") {
-        return false;
-    }
-    if (!reader.supportsOption(QImageIOHandler::Size)) {
-        return true; // Qt's own limit holds for those.
-    }
-    const QSize size = reader.size();
-    return size.isValid() && qint64(size.width()) * size.height() <= mostPixels;
-}
-
-bool looksGood(const QString& type, const QByteArray& bytes) {
+bool looksGood(const QString& type, const QByteArray& bytes, ImageDecoder& decoder) {
     if (type == pngType || bytes.isEmpty()) {
         return !bytes.isEmpty();
     }
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer);
-    return isPicture(reader);
-}
-
-QByteArray decodedToPng(QIODevice& device) {
-    QImageReader reader(&device);
-    QImage image;
-    if (!isPicture(reader) || !reader.read(&image)) {
-        return {};
-    }
-    QBuffer png;
-    return image.save(&png, "PNG", quickCompression) ? png.data() : QByteArray();
-}
-
-QByteArray bytesToPng(QByteArray bytes) {
-    QBuffer buffer(&bytes);
-    return decodedToPng(buffer);
+    return type != filesType && !decoder.size(bytes).isEmpty();
 }
 
 /// The first file of a list that is on this machine; empty where there is none.
@@ -91,40 +49,30 @@ QString firstFile(const QByteArray& uriList) {
     return localFiles(uriList, QSysInfo::machineHostName().toUtf8()).value(0).toLocalFile();
 }
 
-QByteArray fileToPng(const QString& path) {
-    const QFileInfo info(path);
-    QFile file(path);
-    // Only a regular file: a pipe or a device could keep the worker waiting for ever.
-    if (!info.isFile() || info.size() > mostFileBytes || !file.open(QIODevice::ReadOnly)) {
-        return {};
-    }
-    return decodedToPng(file);
-}
-
 } // namespace
 
-QString nextImageType(const PasteboardSnapshot& contents) {
+QString nextImageType(const PasteboardSnapshot& contents, ImageDecoder& decoder) {
     for (const QString& type : candidates(contents.types)) {
         const auto answer = contents.answers.find(type);
         if (answer == contents.answers.end()) {
             return type;
         }
-        if (looksGood(type, answer->value_or(QByteArray()))) {
+        if (looksGood(type, answer->value_or(QByteArray()), decoder)) {
             return {};
         }
     }
     return {};
 }
 
-QByteArray pngImage(const PasteboardSnapshot& contents) {
+QByteArray pngImage(const PasteboardSnapshot& contents, ImageDecoder& decoder) {
     for (const QString& type : candidates(contents.types)) {
         const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
         if (bytes.isEmpty()) {
             continue;
         }
         QByteArray png = type == pngType     ? bytes
-                         : type == filesType ? fileToPng(firstFile(bytes))
-                                             : bytesToPng(bytes);
+                         : type == filesType ? decoder.png(PictureFile{firstFile(bytes)})
+                                             : decoder.png(bytes);
         if (!png.isEmpty()) {
             return png;
         }

@@ -44,9 +44,15 @@ private:
         };
     }
 
+    [[nodiscard]] PasteboardPlan plan() const {
+        return [decoder = services_.decoder](const PasteboardSnapshot& contents) {
+            return nextImageType(contents, *decoder);
+        };
+    }
+
     void read() {
         reading_ = services_.pasteboard.read(
-            nextImageType, [weak = weak_from_this()](const PasteboardSnapshot& contents) {
+            plan(), [weak = weak_from_this()](const PasteboardSnapshot& contents) {
                 if (const auto self = weak.lock()) {
                     self->change_.reset();
                     self->timeout_.reset();
@@ -57,8 +63,8 @@ private:
 
     void write(const PasteboardSnapshot& contents) {
         const auto written = std::make_shared<bool>(false);
-        auto job = [path = path_, contents, written] {
-            const QByteArray png = pngImage(contents);
+        auto job = [path = path_, contents, written, decoder = services_.decoder] {
+            const QByteArray png = pngImage(contents, *decoder);
             *written = !png.isEmpty() && writeFileAtomically(path, png);
         };
         services_.worker.run(std::move(job), [self = shared_from_this(), written] {

@@ -164,8 +164,8 @@ void Store::addClip(const QString& text, Kept kept) {
 void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept) {
     const QString name = newImageFileName();
     const auto written = std::make_shared<bool>(false);
-    auto job = [path = imagePath(name), contents, written] {
-        const QByteArray png = pngImage(contents);
+    auto job = [path = imagePath(name), contents, written, decoder = services_.decoder] {
+        const QByteArray png = pngImage(contents, *decoder);
         *written = !png.isEmpty() && writeFileAtomically(path, png);
     };
     auto add = [this, name, written, kept = std::move(kept), now = services_.scheduler.now()] {

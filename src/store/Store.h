@@ -10,11 +10,13 @@
 #include <QStringList>
 
 #include <functional>
+#include <memory>
 #include <optional>
 
 namespace ravelo {
 
 class AlertSound;
+class ImageDecoder;
 class Pasteboard;
 class Preferences;
 class Scheduler;
@@ -46,6 +48,7 @@ public:
         Preferences& preferences;
         Pasteboard& pasteboard;
         AlertSound& sound;
+        std::shared_ptr<ImageDecoder> decoder; ///< Jobs hold it, too.
     };
 
     /// Loads "store.json" from `folder` (made if missing, 0700) and seeds the snippets.

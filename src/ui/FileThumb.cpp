@@ -1,14 +1,11 @@
 #include "ui/FileThumb.h"
 
-#include "base/FileUrl.h"
-#include "base/Files.h"
 #include "platform/FileIcons.h"
+#include "platform/ImageDecoder.h"
 #include "ui/FilePage.h"
-#include "ui/HeifImage.h"
 #include "ui/ThumbnailProvider.h"
 
 #include <QFileInfo>
-#include <QImageReader>
 #include <QMimeDatabase>
 #include <QPainter>
 
@@ -30,19 +27,9 @@ constexpr double previewRadius = 8;
 constexpr double iconSize = 64;
 
 /// As wide as the image's shape wants it, within what a tile has room for.
-QSize previewSize(QSize natural, double scale) {
-    const double width = previewHeight * natural.width() / natural.height();
-    return (QSizeF(std::clamp(width, narrowestPreview, widestThumb), previewHeight) * scale)
-        .toSize();
-}
-
-QImage preview(const QString& path, double scale) {
-    const double radius = previewRadius * scale;
-    if (const QSize natural = imageSize(path); !natural.isEmpty()) {
-        return thumbnail(path, previewSize(natural, scale), radius);
-    }
-    const QImage heif = heifImage(path, qRound(previewHeight * scale));
-    return heif.isNull() ? QImage() : thumbnail(heif, previewSize(heif.size(), scale), radius);
+PictureShape previewShape(double scale) {
+    return {qRound(previewHeight * scale), qRound(narrowestPreview * scale),
+            qRound(widestThumb * scale)};
 }
 
 /// By the name alone, the most special first.
@@ -52,14 +39,6 @@ QStringList iconNames(const QString& path) {
     }
     const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension);
     return {type.iconName(), type.genericIconName()};
-}
-
-QImage themedIcon(const QString& path, int size) {
-    QImageReader reader(path);
-    if (const QSize natural = reader.size(); !natural.isEmpty()) {
-        reader.setScaledSize(natural.scaled(size, size, Qt::KeepAspectRatio));
-    }
-    return reader.read();
 }
 
 QImage centred(const QImage& image, int size) {
@@ -72,16 +51,16 @@ QImage centred(const QImage& image, int size) {
 
 } // namespace
 
-QImage fileThumb(const QUrl& file, double scale, const FileIcons& icons) {
+QImage fileThumb(const QUrl& file, double scale, const FileIcons& icons, ImageDecoder& decoder) {
     const QString path = file.toLocalFile();
     const QString extension = QFileInfo(path).suffix().toLower();
-    const bool named = std::ranges::find(imageExtensions, extension) != imageExtensions.end();
-    if (named && isRegularFile(filePath(file))) { // From a pipe nothing may ever come.
-        if (QImage image = preview(path, scale); !image.isNull()) {
-            return image;
+    if (std::ranges::find(imageExtensions, extension) != imageExtensions.end()) {
+        const QImage preview = decoder.filling(PictureFile{path}, previewShape(scale));
+        if (!preview.isNull()) {
+            return rounded(preview, previewRadius * scale);
         }
     }
-    return fileIcon(file, qRound(iconSize * scale), icons);
+    return fileIcon(file, qRound(iconSize * scale), icons, decoder);
 }
 
 // QML takes addresses apart and puts them together again; letters and digits it leaves alone.
@@ -93,11 +72,14 @@ QUrl fileOfThumb(const QString& name) {
     return QUrl::fromEncoded(QByteArray::fromHex(name.toLatin1()));
 }
 
-QImage fileIcon(const QUrl& file, int size, const FileIcons& icons) {
+QImage fileIcon(const QUrl& file, int size, const FileIcons& icons, ImageDecoder& decoder) {
     const QString path = file.toLocalFile();
     const QString found = icons.find(iconNames(path), size);
-    if (const QImage icon = found.isEmpty() ? QImage() : themedIcon(found, size); !icon.isNull()) {
-        return centred(icon, size);
+    if (!found.isEmpty()) {
+        const QImage icon = decoder.icon(PictureFile{found}, size);
+        if (!icon.isNull()) {
+            return centred(icon, size);
+        }
     }
     return filePage(QFileInfo(path).suffix(), size);
 }

@@ -2,6 +2,8 @@
 
 #include "clipboard/FileForms.h"
 #include "fakes/FakeAlertSound.h"
+#include "fakes/FakeDetachedJobs.h"
+#include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -48,13 +50,14 @@ class Clipboard : public testing::Test {
 public:
     Clipboard() {
         pasteboard.offerText(u"there before the start"_s);
-        manager.emplace(store, pasteboard, scheduler);
+        manager.emplace(store, pasteboard, scheduler, jobs, decoder);
         manager->start();
     }
 
     void settle() {
         scheduler.advance(Seconds(0.6));
         worker.drain();
+        scheduler.advance(Seconds(0)); // What is then read of an image.
     }
 
     [[nodiscard]] QStringList texts() const {
@@ -71,7 +74,9 @@ public:
     MemoryPreferences preferences;
     MemoryPasteboard pasteboard{scheduler};
     FakeAlertSound sound;
-    Store store{folder.path(), {scheduler, worker, preferences, pasteboard, sound}};
+    FakeDetachedJobs jobs{scheduler};
+    std::shared_ptr<ImageDecoder> decoder = std::make_shared<InProcessDecoder>();
+    Store store{folder.path(), {scheduler, worker, preferences, pasteboard, sound, decoder}};
     std::optional<ClipboardManager> manager;
 };
 
@@ -167,6 +172,11 @@ TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
     settle();
     EXPECT_EQ(pasteboard.bytes("image/png"_L1), picture("png"));
 
+    manager->copyImage(path);
+    manager->copyText(u"sooner"_s);
+    settle();
+    EXPECT_EQ(pasteboard.bytes(plainTextType), "sooner") << "an image that was asked for before";
+
     manager->copyFile(QUrl::fromLocalFile(path));
     settle();
     EXPECT_TRUE(pasteboard.bytes("text/uri-list"_L1).endsWith("/a.png\r\n"));
@@ -176,6 +186,7 @@ TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
     manager->copyImage(folder.filePath(u"store.json"_s));
     manager->copyFile(QUrl(u"https://example.org/a.png"_s));
     manager->copyFile(QUrl());
+    settle();
     EXPECT_EQ(pasteboard.changeCount(), before) << "what is none leaves the pasteboard alone";
     EXPECT_EQ(texts(), QStringList());
 }

@@ -1,5 +1,6 @@
 #include "store/PasteboardImage.h"
 #include "TestImages.h"
+#include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/MemoryPasteboard.h"
 
@@ -63,13 +64,15 @@ protected:
     QByteArray image() {
         PasteboardSnapshot snapshot;
         const Handle reading = pasteboard_.read(
-            nextImageType, [&](const PasteboardSnapshot& read) { snapshot = read; });
+            [this](const PasteboardSnapshot& read) { return nextImageType(read, decoder_); },
+            [&](const PasteboardSnapshot& read) { snapshot = read; });
         scheduler_.advance(Seconds(1));
-        return pngImage(snapshot);
+        return pngImage(snapshot, decoder_);
     }
 
     ManualScheduler scheduler_;
     MemoryPasteboard pasteboard_{scheduler_};
+    InProcessDecoder decoder_;
 };
 
 TEST_P(OfferedImage, IsTheBestThatCanBeHad) {

@@ -3,6 +3,7 @@
 #include "TestImages.h"
 #include "base/Files.h"
 #include "fakes/FakeAlertSound.h"
+#include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -38,7 +39,7 @@ protected:
     }
 
     [[nodiscard]] Store::Services services() {
-        return {scheduler_, worker_, preferences_, pasteboard_, sound_};
+        return {scheduler_, worker_, preferences_, pasteboard_, sound_, decoder_};
     }
 
     [[nodiscard]] QString folder() const { return directory_.filePath(QStringLiteral("Ravelo")); }
@@ -80,6 +81,7 @@ protected:
     MemoryPreferences preferences_;
     MemoryPasteboard pasteboard_{scheduler_};
     FakeAlertSound sound_;
+    std::shared_ptr<ImageDecoder> decoder_ = std::make_shared<InProcessDecoder>();
     std::unique_ptr<Store> store_;
 };
 

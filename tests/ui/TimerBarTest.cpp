@@ -32,7 +32,7 @@ protected:
     MemoryPreferences preferences_;
     MemoryPasteboard pasteboard_{scheduler_};
     FakeAlertSound sound_;
-    Store store_{folder_.path(), {scheduler_, worker_, preferences_, pasteboard_, sound_}};
+    Store store_{folder_.path(), {scheduler_, worker_, preferences_, pasteboard_, sound_, {}}};
     TimerFace face_{store_, scheduler_};
     QStringList figures_;
 };

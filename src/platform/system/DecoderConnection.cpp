@@ -84,8 +84,8 @@ bool waitFor(const Descriptor& socket, std::chrono::milliseconds patience) {
     const auto end = std::chrono::steady_clock::now() + patience;
     pollfd event{socket.number(), POLLIN, 0};
     for (;;) {
-        const auto left = std::chrono::ceil<std::chrono::milliseconds>(
-            end - std::chrono::steady_clock::now());
+        const auto left =
+            std::chrono::ceil<std::chrono::milliseconds>(end - std::chrono::steady_clock::now());
         const int count = poll(&event, 1, static_cast<int>(std::max<int64_t>(left.count(), 0)));
         if (count >= 0 || errno != EINTR) {
             return count > 0;
@@ -174,7 +174,7 @@ Descriptor sealedMemory(const QByteArray& bytes) {
     const bool whole = memory && write(memory.number(), bytes.constData(),
                                        static_cast<size_t>(bytes.size())) == bytes.size();
     return whole && fcntl(memory.number(), F_ADD_SEALS, allSeals) == 0 ? std::move(memory)
-                                                                      : Descriptor();
+                                                                       : Descriptor();
 }
 
 } // namespace ravelo

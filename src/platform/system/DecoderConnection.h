@@ -31,7 +31,8 @@ public:
     /// Waits until it reads requests.
     [[nodiscard]] bool isReady();
 
-    /// Nothing if it has ended, takes longer than `patience`, or says something that makes no sense.
+    /// Nothing if it has ended, takes longer than `patience`, or says something that makes no
+    /// sense.
     [[nodiscard]] std::optional<Answer> receive(std::chrono::milliseconds patience);
 
 private:

@@ -83,9 +83,8 @@ struct DecoderProcess::Source {
 QByteArray DecoderProcess::installedProgram() {
     const QString folder = QCoreApplication::applicationDirPath();
     const QString beside = folder + u"/ravelo-decode"_s;
-    return QFile::encodeName(QFileInfo::exists(beside)
-                                 ? beside
-                                 : folder + u"/../libexec/ravelo/ravelo-decode"_s);
+    return QFile::encodeName(
+        QFileInfo::exists(beside) ? beside : folder + u"/../libexec/ravelo/ravelo-decode"_s);
 }
 
 QSize DecoderProcess::size(const UntrustedPicture& picture) {
@@ -164,7 +163,7 @@ std::optional<DecoderConnection> DecoderProcess::sent(const Source& source,
     }
     auto connection = DecoderConnection::start(program_);
     return connection && connection->send(request, source.descriptor) ? std::move(connection)
-                                                                     : std::nullopt;
+                                                                      : std::nullopt;
 }
 
 std::optional<DecoderConnection> DecoderProcess::idleConnection() {
@@ -189,14 +188,6 @@ void DecoderProcess::giveUp(const QByteArray& identity) {
         bad_.clear();
     }
     bad_.insert(identity);
-}
-
-void DecoderProcess::prepare() {
-    if (auto connection = idleConnection()) {
-        keep(std::move(*connection));
-    } else if (auto started = DecoderConnection::start(program_)) {
-        keep(std::move(*started));
-    }
 }
 
 } // namespace ravelo

@@ -23,9 +23,6 @@ public:
     /// Beside the running program, or where it is installed.
     [[nodiscard]] static QByteArray installedProgram();
 
-    /// Starts a process if none is there: somebody will soon ask. Quick; any thread.
-    void prepare();
-
     [[nodiscard]] QSize size(const UntrustedPicture& picture) override;
     [[nodiscard]] QImage filling(const UntrustedPicture& picture, PictureShape shape) override;
     [[nodiscard]] QImage icon(const PictureFile& file, int size) override;
@@ -51,7 +48,7 @@ private:
     void giveUp(const QByteArray& identity);
 
     const QByteArray program_;
-    std::mutex mutex_; ///< Over what follows; not held while anything is waited for.
+    std::mutex mutex_;       ///< Over what follows; not held while anything is waited for.
     std::vector<Idle> idle_; ///< The longest idle first.
     QSet<QByteArray> bad_;   ///< Pictures that are not tried again.
     QCache<QByteArray, QImage> kept_{1 << 20}; ///< In bytes, by picture and request.
