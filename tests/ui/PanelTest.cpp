@@ -590,6 +590,7 @@ TEST_F(PanelWithImages, showsAnImageOnceItIsDecodedAndASymbolWhereItCannotBe) {
     EXPECT_FALSE(find(item(u"card0"_s), u"symbol"_s)->isVisible());
     EXPECT_TRUE(find(item(u"card1"_s), u"symbol"_s)->isVisible());
     clickOn(u"card0"_s);
+    world.scheduler.advance(Seconds(0)); // It is read off the main thread.
     EXPECT_FALSE(world.pasteboard.bytes("image/png"_L1).isEmpty());
 }
 
