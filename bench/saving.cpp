@@ -3,6 +3,7 @@
 // until the file was there, but for the 0.4 s in which a save waits for more.
 
 #include "fakes/FakeAlertSound.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/MemoryPasteboard.h"
 #include "fakes/MemoryPreferences.h"
@@ -54,7 +55,8 @@ int main(int argc, char** argv) {
     MemoryPreferences preferences;
     MemoryPasteboard pasteboard(scheduler);
     FakeAlertSound sound;
-    Store store(folder.path(), {scheduler, worker, preferences, pasteboard, sound, nullptr});
+    FakeDetachedJobs jobs(scheduler);
+    Store store(folder.path(), {scheduler, worker, preferences, pasteboard, sound, jobs, nullptr});
     fill(store);
     scheduler.advance(waiting);
     worker.drain();

@@ -60,7 +60,7 @@ int main(int argc, char** argv) {
     const auto begun = Clock::now();
     for (const QFileInfo& file : files) {
         work.run([=, path = file.filePath()] {
-            if (reader->filling(PictureFile{path}, tile).isNull()) {
+            if (reader->filling(PictureFile{QFile::encodeName(path)}, tile).isNull()) {
                 std::cerr << "no picture: " << qPrintable(path) << std::endl;
                 std::_Exit(EXIT_FAILURE);
             }

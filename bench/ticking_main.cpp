@@ -21,5 +21,6 @@ int main(int argc, char** argv) {
     }
     AppDelegate delegate(**display, QProcessEnvironment::systemEnvironment(),
                          HoverTick::Rest::never);
-    return delegate.applicationDidFinishLaunching() ? QApplication::exec() : 1;
+    return delegate.applicationDidFinishLaunching(DataLock::Claim::ifFree) ? QApplication::exec()
+                                                                           : 1;
 }

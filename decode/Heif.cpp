@@ -8,8 +8,6 @@ namespace ravelo::decode {
 
 namespace {
 
-constexpr qint64 maxPixels = 50'000'000;
-
 using Handle = std::unique_ptr<heif_image_handle, void (*)(const heif_image_handle*)>;
 using Pixels = std::unique_ptr<heif_image, void (*)(const heif_image*)>;
 
@@ -43,7 +41,7 @@ QSize sizeOf(const heif_image_handle* picture) {
 }
 
 bool isBearable(QSize size) {
-    return !size.isEmpty() && qint64(size.width()) * size.height() <= maxPixels;
+    return !size.isEmpty() && qint64(size.width()) * size.height() <= maxHeifPixels;
 }
 
 Handle thumbnail(const heif_image_handle* whole, int height) {
@@ -85,8 +83,7 @@ QImage decoded(const heif_image_handle* picture) {
 
 QSize heifSize(const QByteArray& bytes) {
     const File file(bytes);
-    const QSize size = file.primary() == nullptr ? QSize() : sizeOf(file.primary());
-    return isBearable(size) ? size : QSize();
+    return file.primary() == nullptr ? QSize() : sizeOf(file.primary());
 }
 
 QImage heifImage(const QByteArray& bytes, int height) {

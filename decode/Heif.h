@@ -6,6 +6,8 @@
 
 namespace ravelo::decode {
 
+inline constexpr qint64 maxHeifPixels = 50'000'000;
+
 /// What telephones write (HEIF, ISO/IEC 23008-12), upright. Empty if it cannot be read.
 [[nodiscard]] QSize heifSize(const QByteArray& bytes);
 

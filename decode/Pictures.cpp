@@ -37,6 +37,12 @@ QSize fitSize(const Request& request, QSize natural) {
     return natural.scaled(request.maxWidth, request.height, Qt::KeepAspectRatio).expandedTo({1, 1});
 }
 
+Picture probed(QSize size, qint64 limit) {
+    const bool bearable = qint64(size.width()) * size.height() <= limit;
+    return size.isEmpty() ? Picture()
+                          : Picture{bearable ? Status::done : Status::tooManyPixels, size, {}, {}};
+}
+
 /// What shows of a picture of this size if it fills `size`.
 QRect visiblePart(QSize natural, QSize size) {
     const QSize part = size.scaled(natural, Qt::KeepAspectRatio).expandedTo({1, 1});
@@ -51,14 +57,14 @@ QByteArray encoded(const QImage& image) {
 
 Picture wholeAsPng(const QImage& image) {
     const QByteArray png = image.isNull() ? QByteArray() : encoded(image);
-    return png.isEmpty() ? Picture() : Picture{image.size(), {}, png};
+    return png.isEmpty() ? Picture() : Picture{Status::done, image.size(), {}, png};
 }
 
 Picture asPixels(const QImage& image, QSize expected) {
     if (image.size() != expected) {
         return {};
     }
-    return {expected, image.convertToFormat(QImage::Format_ARGB32_Premultiplied), {}};
+    return {Status::done, expected, image.convertToFormat(QImage::Format_ARGB32_Premultiplied), {}};
 }
 
 class QtPicture {
@@ -75,15 +81,13 @@ public:
         turn_ = reader_.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     }
 
-    /// Upright; empty if there is none or it is too large to be read for this.
-    [[nodiscard]] QSize size(Kind kind) const {
+    /// Whether it may be read for this.
+    [[nodiscard]] Picture probe(Kind kind) const {
         const bool scaled = format_ == Format::jpeg && (kind == Kind::fill || kind == Kind::icon);
         const qint64 limit = format_ == Format::svg ? std::numeric_limits<qint64>::max()
                              : scaled               ? maxScaledJpegPixels
                                                     : maxPixels;
-        const bool bearable =
-            !stored_.isEmpty() && qint64(stored_.width()) * stored_.height() <= limit;
-        return bearable ? turned(stored_, turn_) : QSize();
+        return probed(turned(stored_, turn_), limit);
     }
 
     Picture filling(const Request& request) {
@@ -114,13 +118,13 @@ private:
 
 Picture fromQt(const Request& request, Format format, const QByteArray& bytes) {
     QtPicture picture(format, bytes);
-    const QSize size = picture.size(request.kind);
-    if (size.isEmpty()) {
-        return {};
+    Picture found = picture.probe(request.kind);
+    if (found.status != Status::done) {
+        return found;
     }
     switch (request.kind) {
     case Kind::probe:
-        return {size, {}, {}};
+        return found;
     case Kind::fill:
         return picture.filling(request);
     case Kind::icon:
@@ -137,7 +141,7 @@ QImage scaled(const QImage& image, QRect part, QSize size) {
 
 Picture fromHeif(const Request& request, const QByteArray& bytes) {
     if (request.kind == Kind::probe) {
-        return {heifSize(bytes), {}, {}};
+        return probed(heifSize(bytes), maxHeifPixels);
     }
     if (request.kind == Kind::png) {
         return wholeAsPng(heifImage(bytes, std::numeric_limits<int>::max()));

@@ -8,9 +8,11 @@
 
 namespace ravelo::decode {
 
-/// One of them, by the kind of request: `size` always, `image` for a fill or an icon, `png`.
+/// One of them, by the kind of request: `size` always if it is a picture, `image` for a fill or an
+/// icon, `png`.
 struct Picture {
-    QSize size; ///< Empty if the request is refused.
+    Status status = Status::refused;
+    QSize size; ///< Empty if it is no picture.
     QImage image;
     QByteArray png;
 };

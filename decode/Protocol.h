@@ -33,8 +33,9 @@ struct Request {
 
 enum class Status : uint32_t {
     done,
-    refused, ///< It is no picture, of no kind that is read here, or too large.
-    ready,   ///< Sent once, unasked, as soon as requests are read.
+    refused, ///< It is no picture or of no kind that is read here.
+    tooManyPixels,
+    ready, ///< Sent once, unasked, as soon as requests are read.
 };
 
 struct Reply {

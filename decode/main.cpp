@@ -64,8 +64,8 @@ bool hasWorkedLong() {
 bool carryOut(const Order& order) {
     limitTime(order.request.milliseconds);
     const Picture picture = decodePicture(order.request, order.bytes);
-    Reply reply{picture.size.isEmpty() ? Status::refused : Status::done, picture.size.width(),
-                picture.size.height(), hasWorkedLong() ? 1U : 0U, 0};
+    Reply reply{picture.status, picture.size.width(), picture.size.height(),
+                hasWorkedLong() ? 1U : 0U, 0};
     const QByteArrayView contents =
         picture.image.isNull()
             ? QByteArrayView(picture.png)

@@ -1,7 +1,7 @@
 // Any preferences file: the settings it gives can be changed, and what is written can be read.
 
 #include "Input.h"
-#include "base/Files.h"
+#include "base/Scheduler.h"
 #include "platform/LoginItem.h"
 #include "platform/Worker.h"
 #include "platform/system/PreferenceFile.h"
@@ -36,6 +36,22 @@ public:
 
 private:
     std::vector<std::function<void()>> done_;
+};
+
+/// A write that fails is not tried again.
+class NoTime final : public Scheduler {
+public:
+    [[nodiscard]] Date now() const override { return {}; }
+
+    [[nodiscard]] Seconds uptime() const override { return {}; }
+
+    [[nodiscard]] Handle after(Seconds /*delay*/, std::function<void()> /*action*/) override {
+        return {};
+    }
+
+    [[nodiscard]] Handle every(Seconds /*interval*/, std::function<void()> /*action*/) override {
+        return {};
+    }
 };
 
 class NoLogin final : public LoginItem {
@@ -76,12 +92,13 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     file.close();
 
     SlowToTell worker;
+    NoTime scheduler;
     NoLogin login;
-    PreferenceFile preferences(path, worker);
+    PreferenceFile preferences(path, {scheduler, worker});
     AppSettings settings(preferences, login);
     changeEach(settings);
     worker.drain();
-    PreferenceFile written(path, worker);
+    PreferenceFile written(path, {scheduler, worker});
     const AppSettings again(written, login);
     fuzz::require(again.lastTab() == settings.lastTab() && again.panelWidth() == 700 &&
                   again.onboarded() == settings.onboarded());

@@ -15,8 +15,10 @@ namespace {
 /// Finds a picture in everything that begins like one.
 class Pictures final : public ImageDecoder {
 public:
-    QSize size(const UntrustedPicture& picture) override {
-        return std::get<PictureBytes>(picture).startsWith('P') ? QSize(1, 1) : QSize();
+    PictureLook look(const UntrustedPicture& picture) override {
+        return std::get<PictureBytes>(picture).startsWith('P')
+                   ? PictureLook{PictureLook::Kind::good, QSize(1, 1)}
+                   : PictureLook();
     }
 
     QImage filling(const UntrustedPicture& /*picture*/, PictureShape /*shape*/) override {
@@ -37,6 +39,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const QByteArray given = input.mid(end + 2);
 
     Pictures pictures;
+    PictureLooks looks;
     PasteboardSnapshot snapshot;
     for (const QByteArray& target : x11::textTargets(targets)) {
         fuzz::require(x11::isPlainText(target));
@@ -48,8 +51,8 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     for (const QByteArray& target : targets) {
         snapshot.types.append(QString::fromUtf8(target));
     }
-    for (QString next = nextCaptureType(snapshot, pictures); !next.isEmpty();
-         next = nextCaptureType(snapshot, pictures)) {
+    for (QString next = nextCaptureType(snapshot, looks, pictures); !next.isEmpty();
+         next = nextCaptureType(snapshot, looks, pictures)) {
         // As long as the hint is not read it counts as secret: nothing else may be asked for.
         fuzz::require(!snapshot.answers.contains(next) &&
                       (next == u"x-kde-passwordManagerHint" || !isConcealed(snapshot)));

@@ -12,6 +12,8 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const auto kept = usageFileOf(input);
     fuzz::require(windows.has_value() == kept.has_value());
     fuzz::require(!kept || readUsageFile(*kept) == windows);
+    const Seconds wait = readRetryAfter(input.toByteArray(), Date{});
+    fuzz::require(wait >= Seconds(0) && wait <= Seconds(86400));
     if (const auto credentials = readCredentials(input)) {
         fuzz::require(!credentials->accessToken.isEmpty() &&
                       !credentials->accessToken.contains('\n'));

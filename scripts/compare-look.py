@@ -62,6 +62,28 @@ SCENES = [
     ("toast", "10-toast.html", ".panel", [
         ("toast", ".toast", ALL),
     ]),
+    ("too-large", "22b-too-large.html", ".panel", [
+        ("list/card2", ".card:nth-child(3)", ALL),
+        ("list/card2/tile", ".card:nth-child(3) .g", ALL),
+        ("list/card2/title", ".card:nth-child(3) .ti|text", ALL),
+        ("toast", ".toast", ALL),
+    ]),
+    ("notice-aside", "24b-notice-put-aside.html", ".panel", [
+        ("notice", ".notice", ALL),
+        ("notice/noticeGlyph", ".notice > i", ALL),
+        ("notice/noticeLead", ".notice .el span:nth-child(1)|text", "xyw"),
+        ("notice/noticeRest", ".notice .lt|text", "xyw"),
+        ("notice/noticeAction", ".notice .btn", ALL),
+        ("notice/noticeDismiss", ".notice .mini", ALL),
+        ("search", ".search", ALL),
+        ("list", ".list", ALL),
+    ]),
+    ("notice-fails", "24c-notice-save-fails.html", ".panel", [
+        ("notice", ".notice", ALL),
+        ("notice/noticeGlyph", ".notice > i", ALL),
+        ("notice/noticeRest", ".notice .lt|text", "xyw"),
+        ("notice/noticeAction", ".notice .btn", ALL),
+    ]),
     ("question", "04-timer-search-confirm.html", ".panel", [
         ("clearQuestion/bubble", ".pop", ALL),
         ("clearQuestion/bubble/no", ".pop .btn:nth-child(1)", ALL),
@@ -277,7 +299,8 @@ document.body.append(out);
 def drawn(folder, drawing, origin, selectors):
     """The rectangles of `selectors` in a drawing."""
     page = (folder / drawing).read_text()
-    page = page.replace('href="ravelo.css"', f'href="{(folder / "ravelo.css").resolve().as_uri()}"')
+    for style in ("ravelo.css", "ravelo-turn2.css"):
+        page = page.replace(f'href="{style}"', f'href="{(folder / style).resolve().as_uri()}"')
     script = MEASURE.replace("ORIGIN", json.dumps(origin)).replace("SELECTORS",
                                                                     json.dumps(selectors))
     with tempfile.TemporaryDirectory() as scratch:

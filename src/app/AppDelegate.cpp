@@ -3,11 +3,12 @@
 #include "app/Commands.h"
 #include "app/ShelfServices.h"
 #include "app/StatusItemController.h"
-#include "base/Files.h"
 #include "clipboard/ClipboardManager.h"
+#include "monitor/ClaudeEnvironment.h"
 #include "monitor/LiveContext.h"
 #include "monitor/MonitorPlatform.h"
 #include "monitor/PlanUsage.h"
+#include "notices/Notices.h"
 #include "panel/NotchController.h"
 #include "platform/DisplayServer.h"
 #include "platform/freedesktop/AutostartEntry.h"
@@ -44,8 +45,6 @@
 #include <QLocale>
 #include <QStandardPaths>
 
-#include <cerrno>
-#include <csignal>
 #include <cstdlib>
 
 namespace ravelo {
@@ -66,12 +65,23 @@ QString configFolder() {
     return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
 }
 
+QByteArray home() {
+    return QFile::encodeName(QDir::homePath());
+}
+
 QDBusConnection systemBus() {
     return QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s);
 }
 
 void quitLater() {
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
+/// What a first start does must not be done again if no more than the preferences were lost.
+void rememberFirstStart(Preferences& preferences) {
+    for (const auto key : {"onboarded"_L1, "didSetupLogin"_L1, "seededSiteLinksV1"_L1}) {
+        preferences.set(key, true);
+    }
 }
 
 // Qt ends the process by exit() when the display server goes, which is how many sessions end.
@@ -89,11 +99,12 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
                          HoverTick::Rest rest)
     : display_(display),
       rest_(rest),
-      dataLock_(lockFile()),
+      dataLock_(std::make_unique<DataLock>(lockFile(), dataFolder() + u"/store.json"_s)),
       scheduler_(std::make_unique<SystemScheduler>()),
       worker_(std::make_unique<WorkerThread>()),
-      preferences_(std::make_unique<PreferenceFile>(configFolder() + u"/ravelo/preferences.json"_s,
-                                                    *worker_)),
+      preferences_(std::make_unique<PreferenceFile>(
+          configFolder() + u"/ravelo/preferences.json"_s,
+          PreferenceFile::Services{*scheduler_, *worker_, mayWrite()})),
       loginItem_(std::make_unique<AutostartEntry>(configFolder() + u"/autostart"_s,
                                                   QCoreApplication::applicationFilePath())),
       loginSession_(std::make_unique<LoginSession>(systemBus())),
@@ -105,18 +116,16 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       jobs_(std::make_unique<DetachedThreads>()),
       secrets_(std::make_unique<SecretService>(sessionBus())),
       https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
-      children_(std::make_unique<SpawnedChild>(*jobs_, environment)),
+      children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
+                                               renewalFolder(home(), environment))),
       decoder_(std::make_shared<DecoderProcess>(DecoderProcess::installedProgram())),
       tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
       shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, display_.icons())),
+      notices_(std::make_unique<Notices>(*scheduler_)),
       view_(std::make_unique<PanelView>()) {}
 
 bool AppDelegate::mayRunAlready() {
-    qint64 process = 0;
-    QString host;
-    QString program;
-    const bool known = QLockFile(lockFile()).getLockInfo(&process, &host, &program);
-    return known && (kill(static_cast<pid_t>(process), 0) == 0 || errno == EPERM);
+    return DataLock::mayBeHeld(lockFile());
 }
 
 AppDelegate::~AppDelegate() {
@@ -124,20 +133,30 @@ AppDelegate::~AppDelegate() {
     flushedAtExit = nullptr;
 }
 
-Result<void> AppDelegate::applicationDidFinishLaunching() {
-    makePrivateFolder(dataFolder());
-    dataLock_.setStaleLockTime(0); // Held for as long as its process lives.
-    if (!dataLock_.tryLock() && dataLock_.error() == QLockFile::LockFailedError) {
-        return failure(u"Ravelo runs in another session and uses "_s + dataFolder());
+std::function<Result<void>()> AppDelegate::mayWrite() {
+    return [this] {
+        return dataLock_->check();
+    };
+}
+
+Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
+    if (auto claimed = dataLock_->claim(claim); !claimed) {
+        return claimed;
+    }
+    if (preferences_->wasUnreadable()) {
+        rememberFirstStart(*preferences_);
     }
     Updater::provide(std::make_unique<PackageKit>(systemBus(), u"ravelo"_s),
                      u"" RAVELO_VERSION ""_s);
-    store_ = std::make_unique<Store>(dataFolder(),
-                                     Store::Services{*scheduler_, *worker_, *preferences_,
-                                                     display_.pasteboard(), *sound_, decoder_});
+    store_ = std::make_unique<Store>(
+        dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_, display_.pasteboard(),
+                                      *sound_, *jobs_, decoder_, mayWrite()});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
+    if (const auto repaired = loginItem_->repair(); !repaired) {
+        qWarning("Ravelo login-item error: %s", qUtf8Printable(repaired.error().message));
+    }
     settings_ = std::make_unique<AppSettings>(*preferences_, *loginItem_);
     settings_->setupLoginItemDefaultIfNeeded();
 
@@ -158,9 +177,9 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
                                   *window_,
                                   {&display_.lock(), loginSession_.get(), screenSaver_.get()}},
         rest_);
-    view_->load({*store_, *settings_, *notch_, display_.pasteboard(), *scheduler_, *preferences_,
-                 *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received, shelf_->nearby,
-                 *jobs_, shelf_->opener, shelf_->icons, decoder_},
+    view_->load({*store_, *settings_, *notch_, *notices_, display_.pasteboard(), *scheduler_,
+                 *preferences_, *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received,
+                 shelf_->nearby, *jobs_, shelf_->opener, shelf_->icons, decoder_},
                 QLocale());
     provideWindows();
     const auto checkUpdates = [this] {
@@ -174,6 +193,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
         Commands::Services{*store_, *notch_, *scheduler_, LiveContext::shared(),
                            PlanUsage::shared(), [this] { showSetup(); }, checkUpdates, quitLater});
     wire();
+    wireNotices();
     if (!settings_->onboarded()) {
         showSetup();
     }
@@ -181,15 +201,19 @@ Result<void> AppDelegate::applicationDidFinishLaunching() {
 }
 
 void AppDelegate::provideMonitors() {
-    const QByteArray home = QFile::encodeName(QDir::homePath());
+    // What main() adds to the environment concerns none of these folders.
+    const QByteArrayList others =
+        otherClaudeFolders(home(), QProcessEnvironment::systemEnvironment());
     setMonitorPlatform(
-        {[this, home] {
-             return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_}, home,
-                                                  std::make_unique<InotifyChanges>());
+        {[this, others] {
+             return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_},
+                                                  home(), std::make_unique<InotifyChanges>(),
+                                                  others);
          },
-         [this, home] {
+         [this, others] {
              return std::make_unique<PlanUsage>(
-                 UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home);
+                 UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home(),
+                 PlanUsage::provider(), others);
          }});
 }
 
@@ -235,6 +259,39 @@ void AppDelegate::wire() {
     });
 }
 
+/// What the panel says about saving, about files that could not be read and about copies that are
+/// too large.
+void AppDelegate::wireNotices() {
+    using Source = Notices::Source;
+    QObject::connect(store_.get(), &Store::saved, notices_.get(),
+                     [this] { notices_->saved(Source::store); });
+    QObject::connect(
+        store_.get(), &Store::saveFailed, notices_.get(),
+        [this](const QString& reason) { notices_->saveFailed(Source::store, reason); });
+    QObject::connect(store_.get(), &Store::putAside, notices_.get(),
+                     [this](const QString& path) { notices_->putAside(Source::store, path); });
+    preferences_->onSaved = [this](const Result<void>& saved) {
+        saved ? notices_->saved(Source::preferences)
+              : notices_->saveFailed(Source::preferences, saved.error().message);
+    };
+    preferences_->onPutAside = [this] {
+        notices_->putAside(Source::preferences, preferences_->putAside());
+    };
+    notices_->onTryAgain = [this] {
+        store_->save();
+        preferences_->retry();
+    };
+    notices_->onOpenFolder = [this](const QString& path) {
+        view_->host().showInFolder(QUrl::fromLocalFile(path));
+    };
+    clipboard_->onTooLarge = [this](const TooLarge& copy) {
+        using Measure = TooLargeCopy::Measure;
+        const bool isText = copy.kind == TooLarge::Kind::text;
+        view_->host().tellTooLarge(
+            {isText ? Measure::bytesOfText : Measure::bytesOfImage, copy.bytes});
+    };
+}
+
 void AppDelegate::openSettings() {
     notch_->openSettings();
 }
@@ -251,6 +308,7 @@ void AppDelegate::flush() {
     if (store_) {
         store_->flush();
     }
+    preferences_->flush();
 }
 
 } // namespace ravelo

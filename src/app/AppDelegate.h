@@ -4,10 +4,11 @@
 #include "base/Result.h"
 #include "panel/HoverTick.h"
 #include "platform/Answer.h"
+#include "platform/system/DataLock.h"
 
-#include <QLockFile>
 #include <QStringList>
 
+#include <functional>
 #include <memory>
 
 class QProcessEnvironment;
@@ -26,11 +27,12 @@ class HttpsClient;
 class ImageDecoder;
 class LoginItem;
 class NightShift;
+class Notices;
 class NotchController;
 class OnboardingController;
 class PanelView;
 class PanelWindow;
-class Preferences;
+class PreferenceFile;
 class Scheduler;
 class SecretStore;
 class SessionLock;
@@ -58,8 +60,8 @@ public:
     /// enough for each start; before or after the application object.
     [[nodiscard]] static bool mayRunAlready();
 
-    /// An error where another session of this user has the data in use.
-    [[nodiscard]] Result<void> applicationDidFinishLaunching();
+    /// An error if another session of this user, or one on another machine, has the data in use.
+    [[nodiscard]] Result<void> applicationDidFinishLaunching(DataLock::Claim claim);
 
     /// What another start of the program asked for; see Commands. After launching.
     [[nodiscard]] Answer answer(const QStringList& request);
@@ -71,16 +73,18 @@ public:
     void flush();
 
 private:
+    [[nodiscard]] std::function<Result<void>()> mayWrite(); ///< To be asked before each save.
     void provideMonitors();
     void provideWindows();
     void wire();
+    void wireNotices();
 
     DisplayServer& display_;
     HoverTick::Rest rest_;
-    QLockFile dataLock_; ///< Two programs that rewrite one store file would undo each other.
+    std::unique_ptr<DataLock> dataLock_;
     std::unique_ptr<Scheduler> scheduler_;
     std::unique_ptr<Worker> worker_;
-    std::unique_ptr<Preferences> preferences_;
+    std::unique_ptr<PreferenceFile> preferences_;
     std::unique_ptr<LoginItem> loginItem_;
     std::unique_ptr<SessionLock> loginSession_;
     std::unique_ptr<SessionLock> screenSaver_;
@@ -97,6 +101,7 @@ private:
 
     std::unique_ptr<ShelfServices> shelf_;
 
+    std::unique_ptr<Notices> notices_;
     std::unique_ptr<Store> store_;
     std::unique_ptr<AppSettings> settings_;
     std::unique_ptr<ClipboardManager> clipboard_;

@@ -19,6 +19,7 @@ Result<Command> parseOption(const QList<QByteArray>& arguments) {
         {"--settings", {Kind::ask, {u"settings"_s}, {}, IfNoneRuns::startAndAsk}},
         {"--setup", {Kind::ask, {u"setup"_s}, {}, IfNoneRuns::startAndAsk}},
         {"--updates", {Kind::ask, {u"updates"_s}, {}, IfNoneRuns::startAndAsk}},
+        {"--take-over", {Kind::ask, {u"show"_s}, {}, IfNoneRuns::start, DataLock::Claim::takeOver}},
         {"--quit", {Kind::ask, {u"quit"_s}, {}, IfNoneRuns::fail}},
         {"--status", {Kind::ask, {u"status"_s}, {}, IfNoneRuns::readFiles}},
         {"--status=json", {Kind::ask, {u"status"_s, u"--json"_s}, {}, IfNoneRuns::readFiles}},
@@ -68,6 +69,10 @@ Result<Command> parseCommandLine(const QList<QByteArray>& arguments) {
         return Command{Kind::ask, {u"show"_s}, {}, IfNoneRuns::start};
     }
     const QByteArray& first = arguments.first();
+    // So a session manager starts a program that ran when the session was saved (XSMP).
+    if (first == "-session" && arguments.size() == 2) {
+        return Command{Kind::ask, {u"restore"_s}, {}, IfNoneRuns::start};
+    }
     if (first == "timer" || first == "shelf") {
         return parseWords(arguments);
     }
@@ -89,6 +94,8 @@ screen. Move the pointer there to open it; click elsewhere to close it.
   --settings     open the settings; starts Ravelo where it is not running
   --setup        go through the first-run setup again; starts it likewise
   --updates      look for a newer version; starts it likewise
+  --take-over    start though another machine that shares this home, or another
+                 session, seems to use the data; a Ravelo there stops saving
   --quit         end the running Ravelo
   --status       one line on Claude Code: model, context used / limit, peak hours,
                  and how much of the plan's five-hour and weekly windows is used;
@@ -118,7 +125,8 @@ The rest speaks to the Ravelo that is running:
                  are empty and the numbers 0
   shelf list     the paths of the parked files, a line each; with -0 or --null each
                  ends with a NUL byte; with --json one object: files, an array of
-                 objects with path, stack (counted from 0) and selected
+                 objects with path, stack (counted from 0) and selected, and
+                 with uri if the path is not UTF-8
 
 The exit status is 0 where it is done, 1 where it could not be done or no Ravelo
 is running, 2 where the command makes no sense.

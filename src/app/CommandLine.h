@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "platform/system/DataLock.h"
 
 #include <QByteArray>
 #include <QStringList>
@@ -18,6 +19,7 @@ struct Command {
     QStringList request;     ///< As Commands has it.
     QList<QByteArray> files; ///< To be resolved and added to the request.
     IfNoneRuns ifNoneRuns = IfNoneRuns::fail;
+    DataLock::Claim claim = DataLock::Claim::ifFree; ///< If it starts.
 
     friend bool operator==(const Command&, const Command&) = default;
 };

@@ -2,6 +2,7 @@
 
 #include "app/FileArguments.h"
 #include "app/StatusCommands.h"
+#include "base/FileUrl.h"
 #include "base/Scheduler.h"
 #include "monitor/StatusText.h"
 #include "panel/NotchController.h"
@@ -9,7 +10,6 @@
 #include "timer/FocusTimer.h"
 #include "timer/TimerString.h"
 
-#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -26,6 +26,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 using Services = Commands::Services;
+
+constexpr qsizetype mostFiles = 1000; ///< More on the shelf at once is a mistake.
 
 // What may follow the words of a command.
 
@@ -47,7 +49,13 @@ Result<void> listFormatAtMost(const QStringList& arguments) {
 }
 
 Result<void> files(const QStringList& arguments) {
-    return arguments.isEmpty() ? failure(u"no files"_s) : Result<void>();
+    if (arguments.isEmpty()) {
+        return failure(u"no files"_s);
+    }
+    return arguments.size() <= mostFiles
+               ? Result<void>()
+               : failure(u"%1 files are too many at once, %2 is the limit"_s.arg(arguments.size())
+                             .arg(mostFiles));
 }
 
 Result<void> lengthAndLabel(const QStringList& arguments) {
@@ -65,6 +73,11 @@ Answer printed(const QJsonObject& object) {
 
 Answer show(const Services& services, const QStringList& /*arguments*/) {
     services.notch.positionExpanded();
+    return {};
+}
+
+/// The desktop session that starts this program again has nothing to ask of one that runs already.
+Answer restore(const Services& /*services*/, const QStringList& /*arguments*/) {
     return {};
 }
 
@@ -158,13 +171,24 @@ Answer timerStatus(const Services& services, const QStringList& arguments) {
     return {0, text.toUtf8() + '\n', {}};
 }
 
+/// A path that is no UTF-8 is no text either: "uri" has it whole.
+QJsonObject described(const QUrl& url) {
+    const QByteArray path = filePath(url);
+    QJsonObject file{{u"path"_s, QString::fromUtf8(path)}};
+    if (!path.isValidUtf8()) {
+        file[u"uri"] = QString::fromLatin1(fileAddress(url));
+    }
+    return file;
+}
+
 QJsonArray described(const Shelf& shelf) {
     QJsonArray files;
     for (qsizetype stack = 0; stack < shelf.stacks.size(); ++stack) {
         for (const QUrl& url : shelf.stacks.at(stack)) {
-            files.append(QJsonObject{{u"path"_s, url.toLocalFile()},
-                                     {u"stack"_s, stack},
-                                     {u"selected"_s, shelf.selected.contains(url)}});
+            QJsonObject file = described(url);
+            file[u"stack"] = stack;
+            file[u"selected"] = shelf.selected.contains(url);
+            files.append(file);
         }
     }
     return files;
@@ -178,7 +202,7 @@ Answer shelfList(const Services& services, const QStringList& arguments) {
     }
     Answer answer;
     for (const QUrl& url : shelf.files()) {
-        answer.output += QFile::encodeName(url.toLocalFile()) + (asksForNul(format) ? '\0' : '\n');
+        answer.output += filePath(url) + (asksForNul(format) ? '\0' : '\n');
     }
     return answer;
 }
@@ -197,6 +221,7 @@ struct Row {
 const Row* rowFor(const QStringList& request) {
     static const Row rows[] = {
         {{u"show"_s}, nothing, show},
+        {{u"restore"_s}, nothing, restore},
         {{u"toggle"_s}, nothing, toggle},
         {{u"settings"_s}, nothing, settings},
         {{u"setup"_s}, nothing, setup},

@@ -16,9 +16,9 @@ class Scheduler;
 class Store;
 
 /// What the running program can be asked for by another start of it. A request is the words of the
-/// command line after the program's name, but for these: "show", "toggle", "settings", "setup",
-/// "updates", "quit", "status", and "open" with the absolute paths or file URLs of what to park.
-/// Main thread.
+/// command line after the program's name, but for these: "show", "restore", "toggle", "settings",
+/// "setup", "updates", "quit", "status", and "open" with the absolute paths or file URLs of what to
+/// park. Main thread.
 class Commands {
 public:
     struct Services {

@@ -4,10 +4,18 @@
 
 namespace ravelo {
 
+/// What a terminal may show of `text`: names of files and models could hold what makes it do
+/// something. Control characters, and bytes that are not UTF-8, become escapes ("\x1b"); `kept`
+/// stays.
+[[nodiscard]] QByteArray harmless(const QByteArray& text, char kept = '\n');
+
+[[nodiscard]] bool printsToTerminal();
+
 /// Says on standard error, line by line, who complains.
 void complain(const QString& text);
 
-/// To standard output, whole. The exit status.
+/// To standard output, whole: to a terminal as `harmless` has it, elsewhere as it is. The exit
+/// status.
 [[nodiscard]] int print(const QByteArray& text);
 
 /// Both for an answer; its status, if all could be printed.

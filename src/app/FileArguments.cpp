@@ -3,6 +3,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <climits>
 #include <filesystem>
 #include <optional>
 #include <system_error>
@@ -33,7 +34,10 @@ std::optional<QByteArray> pathOfUrl(const QByteArray& url) {
 }
 
 tl::unexpected<Error> refused(const char* why, const QByteArray& name) {
-    return failure(QString::fromLatin1(why) + u": "_s + QString::fromUtf8(name));
+    constexpr qsizetype mostShown = 500;
+    const QString shown = QString::fromUtf8(name);
+    return failure(QString::fromLatin1(why) + u": "_s +
+                   (shown.size() > mostShown ? shown.first(mostShown) + u'…' : shown));
 }
 
 /// `shown` is how whoever gave it knows it.
@@ -41,6 +45,9 @@ Result<QString> toPath(const QByteArray& name, const QByteArray& shown) {
     const std::optional<QByteArray> path = isUrl(name) ? pathOfUrl(name) : name;
     if (!path || !path->startsWith('/') || path->contains('\0')) {
         return refused("no file of this machine", shown);
+    }
+    if (path->size() >= PATH_MAX) { // No system call could name it.
+        return refused("its path is too long", shown);
     }
     if (!path->isValidUtf8()) {
         return refused("its name is not UTF-8", shown);

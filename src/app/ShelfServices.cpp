@@ -21,7 +21,7 @@ QString themeOf(const IconPreference& preference) {
 ShelfServices::ShelfServices(Scheduler& scheduler, DetachedJobs& jobs, IconPreference& preference)
     : programs(jobs),
       devices(sessionBus()),
-      opener(sessionBus(), programs),
+      opener(sessionBus(), programs, jobs),
       icons(std::make_shared<IconTheme>(IconTheme::usualFolders())),
       received(folders, scheduler,
                QStandardPaths::writableLocation(QStandardPaths::DownloadLocation)),

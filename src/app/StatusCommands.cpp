@@ -1,5 +1,6 @@
 #include "app/StatusCommands.h"
 
+#include "monitor/ClaudeEnvironment.h"
 #include "monitor/StatusText.h"
 #include "monitor/UsageFile.h"
 #include "platform/system/InotifyChanges.h"
@@ -34,8 +35,11 @@ Answer statusAnswer(const MonitorStatus& status, Date now, const QStringList& ar
 
 Answer statusFromFiles(const QStringList& arguments) {
     const Date now = toDate(QDateTime::currentDateTimeUtc());
-    return statusAnswer(MonitorStatus::fromFiles(home(), std::make_unique<InotifyChanges>(), now),
-                        now, arguments);
+    const QByteArrayList others =
+        otherClaudeFolders(home(), QProcessEnvironment::systemEnvironment());
+    return statusAnswer(
+        MonitorStatus::fromFiles(home(), others, std::make_unique<InotifyChanges>(), now), now,
+        arguments);
 }
 
 Answer storeUsageFromInput() {

@@ -4,6 +4,7 @@
 #include "app/FileArguments.h"
 #include "app/StatusCommands.h"
 #include "platform/freedesktop/SingleInstance.h"
+#include "platform/freedesktop/XdgEnvironment.h"
 #include "platform/system/CoreDumps.h"
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
@@ -31,6 +32,19 @@ constexpr int nobodyRuns = 255; ///< No status of an answer.
 
 /// What Qt gets to see of the command line: it would take files of certain names for options.
 int nameAlone = 1;
+int nameAndSession = 3; ///< With "-session ID", an option of Qt's.
+
+/// Names may hold line feeds: what a terminal is to show one name a line has to come apart first.
+std::optional<Answer> askForConsole(const QStringList& request) {
+    if (request != QStringList{u"shelf"_s, u"list"_s} || !printsToTerminal()) {
+        return SingleInstance::ask(request);
+    }
+    auto answer = SingleInstance::ask(request + QStringList{u"--null"_s});
+    if (answer) {
+        answer->output = harmless(answer->output, '\0').replace('\0', '\n');
+    }
+    return answer;
+}
 
 /// The exit status by the answer of the program that is running already, if there is one. Asks in a
 /// process of its own: only the first application object of a process lets Qt Quick speak to screen
@@ -43,7 +57,7 @@ std::optional<int> askElsewhere(const QStringList& request, char** argv) {
         int status = nobodyRuns;
         {
             const QCoreApplication application(nameAlone, argv);
-            if (const auto answer = SingleInstance::ask(request)) {
+            if (const auto answer = askForConsole(request)) {
                 status = report(*answer);
             }
         }
@@ -61,9 +75,15 @@ std::optional<int> askElsewhere(const QStringList& request, char** argv) {
 
 int run(const Command& command, char** argv) {
     const auto environment = QProcessEnvironment::systemEnvironment(); // Next, we change our own.
+    if (const auto found = x11::findDisplay(); !found) {
+        complain(found.error().message);
+        return EXIT_FAILURE;
+    }
     Handle preparation = x11::prepareApplication();
     const std::jthread fonts = readFontConfiguration();
-    const QApplication application(nameAlone, argv); // The status item is made of widgets.
+    const bool isRestored = command.request.value(0) == "restore"_L1;
+    // The status item is made of widgets.
+    const QApplication application(isRestored ? nameAndSession : nameAlone, argv);
     preparation.reset();
     QApplication::setApplicationName(u"Ravelo"_s);
     QApplication::setDesktopFileName(u"org.ravelo.Ravelo"_s);
@@ -79,7 +99,7 @@ int run(const Command& command, char** argv) {
         return 1;
     }
     AppDelegate delegate(**display, environment);
-    if (const auto launched = delegate.applicationDidFinishLaunching(); !launched) {
+    if (const auto launched = delegate.applicationDidFinishLaunching(command.claim); !launched) {
         complain(launched.error().message);
         return 1;
     }
@@ -120,6 +140,7 @@ int ask(Command command, char** argv) {
 
 int main(int argc, char** argv) {
     forbidCoreDumps();
+    ignoreRelativeXdgPaths();
     const auto command = parseCommandLine({argv + std::min(argc, 1), argv + argc});
     if (!command) {
         complain(command.error().message);

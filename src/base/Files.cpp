@@ -3,24 +3,32 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QSaveFile>
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
+#include <cstdlib>
 #include <fcntl.h>
 #include <sys/stat.h>
+#include <system_error>
 #include <unistd.h>
 
 namespace ravelo {
 
 namespace {
 
-constexpr auto privateFile = QFile::ReadOwner | QFile::WriteOwner;
-constexpr auto privateFolder = privateFile | QFile::ExeOwner;
+constexpr auto privateFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
+constexpr int longestChainOfLinks = 40; ///< As the kernel has it.
 
 bool isTaken(const QString& path) {
     const QFileInfo info(path);
     return info.exists() || info.isSymLink();
+}
+
+/// 0 where nothing is.
+mode_t modeOf(const QByteArray& path) {
+    struct stat info = {};
+    return !path.contains('\0') && ::stat(path.constData(), &info) == 0 ? info.st_mode : 0;
 }
 
 std::optional<QByteArray> readEnd(int file, qint64 most) {
@@ -49,6 +57,62 @@ std::optional<QByteArray> readEnd(int file, qint64 most) {
     return bytes;
 }
 
+/// What errno says, in words for the user.
+Result<void> lastFailure() {
+    switch (const int code = errno) {
+    case ENOSPC:
+    case EDQUOT:
+        return failure(QStringLiteral("the disk is full"));
+    case EROFS:
+    case EACCES:
+    case EPERM:
+        return failure(QStringLiteral("the folder is read-only"));
+    default:
+        return failure(QString::fromStdString(std::generic_category().message(code)));
+    }
+}
+
+/// Who keeps a file elsewhere, with a link to it here, wants it to stay there.
+QString behindLinks(QString path) {
+    for (int i = 0; i < longestChainOfLinks; ++i) {
+        const QString target = QFileInfo(path).symLinkTarget();
+        if (target.isEmpty()) {
+            break;
+        }
+        path = target;
+    }
+    return path;
+}
+
+Result<void> writeAll(int file, const QByteArray& bytes) {
+    for (qsizetype written = 0; written < bytes.size();) {
+        const ssize_t count =
+            write(file, bytes.constData() + written, static_cast<size_t>(bytes.size() - written));
+        if (count < 0 && errno != EINTR) {
+            return lastFailure();
+        }
+        written += std::max<ssize_t>(count, 0);
+    }
+    return {};
+}
+
+/// Some file systems know no syncing, of folders above all; that is no failure of the disk.
+bool isSynced(int file) {
+    return fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
+}
+
+Result<void> syncFolder(const QByteArray& path) {
+    const QByteArray folder = path.first(path.lastIndexOf('/') + 1) + '.';
+    const int file = open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
+    if (file < 0) {
+        return errno == EACCES ? Result<void>() : lastFailure(); // Writable but not readable.
+    }
+    const bool synced = isSynced(file);
+    Result<void> done = synced ? Result<void>() : lastFailure();
+    close(file);
+    return done;
+}
+
 } // namespace
 
 std::optional<QByteArray> readFile(const QString& path) {
@@ -63,14 +127,24 @@ std::optional<QByteArray> readFile(const QString& path) {
     return bytes;
 }
 
-bool fileExists(const QByteArray& path) {
-    return !path.contains('\0') && ::access(path.constData(), F_OK) == 0;
+Presence presenceOf(const QByteArray& path) {
+    struct stat info {};
+
+    if (path.isEmpty() || path.contains('\0')) {
+        return Presence::gone;
+    }
+    if (::stat(path.constData(), &info) == 0) {
+        return Presence::there;
+    }
+    return errno == ENOENT || errno == ENOTDIR ? Presence::gone : Presence::unknown;
 }
 
 bool isRegularFile(const QByteArray& path) {
-    struct stat info {};
+    return S_ISREG(modeOf(path));
+}
 
-    return !path.contains('\0') && ::stat(path.constData(), &info) == 0 && S_ISREG(info.st_mode);
+bool isFolder(const QByteArray& path) {
+    return S_ISDIR(modeOf(path));
 }
 
 std::optional<QByteArray> readFileEnd(const QByteArray& path, qint64 most) {
@@ -83,16 +157,28 @@ std::optional<QByteArray> readFileEnd(const QByteArray& path, qint64 most) {
     return bytes;
 }
 
-bool writeFileAtomically(const QString& path, const QByteArray& bytes) {
-    QSaveFile file(path);
-    if (!file.open(QIODevice::WriteOnly)) {
-        return false;
+Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes) {
+    const QByteArray target = QFile::encodeName(behindLinks(path));
+    QByteArray temporary = target + ".XXXXXX";
+    const int file = mkostemp(temporary.data(), O_CLOEXEC); // Made 0600.
+    if (file < 0) {
+        return lastFailure();
     }
-    // Before the first byte is in it: nobody else may read even half of it.
-    // And flushed: commit() does not see a disk that is full only by then, and leaves an empty
-    // file.
-    return file.setPermissions(privateFile) && file.write(bytes) == bytes.size() && file.flush() &&
-           file.commit();
+    Result<void> done = writeAll(file, bytes);
+    if (done && !isSynced(file)) {
+        done = lastFailure();
+    }
+    if (close(file) != 0 && done) {
+        done = lastFailure();
+    }
+    if (done && rename(temporary.constData(), target.constData()) != 0) {
+        done = lastFailure();
+    }
+    if (!done) {
+        unlink(temporary.constData());
+        return done;
+    }
+    return syncFolder(target);
 }
 
 void makePrivateFolder(const QString& path) {
@@ -101,19 +187,28 @@ void makePrivateFolder(const QString& path) {
     }
 }
 
-void setAsideUnreadable(const QString& path) {
+Result<QString> setAsideUnreadable(const QString& path) {
     if (!isTaken(path)) {
-        return;
+        return QString();
     }
     QString aside = path + QStringLiteral(".unreadable");
     for (int number = 2; isTaken(aside); ++number) {
         aside = path + QStringLiteral(".unreadable%1").arg(number);
     }
-    if (QFile::copy(path, aside)) {
-        QFile::setPermissions(aside, privateFile);
-    } else {
-        QFile::rename(path, aside);
+    const QByteArray from = QFile::encodeName(path);
+    const QByteArray to = QFile::encodeName(aside);
+    // A second name needs neither space nor the right to read.
+    if (linkat(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), AT_SYMLINK_FOLLOW) == 0) {
+        chmod(to.constData(), S_IRUSR | S_IWUSR);
+        return aside;
     }
+    if (const auto bytes = readFile(path); bytes && writeFileAtomically(aside, *bytes)) {
+        return aside;
+    }
+    if (rename(from.constData(), to.constData()) != 0) {
+        return tl::unexpected(lastFailure().error());
+    }
+    return aside;
 }
 
 } // namespace ravelo

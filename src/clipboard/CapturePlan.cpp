@@ -1,7 +1,5 @@
 #include "clipboard/CapturePlan.h"
 
-#include "store/PasteboardImage.h"
-
 namespace ravelo {
 
 namespace {
@@ -15,7 +13,8 @@ bool isUnasked(const PasteboardSnapshot& snapshot, QLatin1StringView type) {
 
 } // namespace
 
-QString nextCaptureType(const PasteboardSnapshot& snapshot, ImageDecoder& decoder) {
+QString nextCaptureType(const PasteboardSnapshot& snapshot, PictureLooks& looks,
+                        ImageDecoder& decoder) {
     if (isUnasked(snapshot, passwordHint)) {
         return passwordHint;
     }
@@ -25,7 +24,7 @@ QString nextCaptureType(const PasteboardSnapshot& snapshot, ImageDecoder& decode
     if (isUnasked(snapshot, plainTextType)) {
         return plainTextType;
     }
-    return capturedText(snapshot).isEmpty() ? nextImageType(snapshot, decoder) : QString();
+    return capturedText(snapshot).isEmpty() ? nextImageType(snapshot, looks, decoder) : QString();
 }
 
 bool isConcealed(const PasteboardSnapshot& snapshot) {
@@ -42,6 +41,23 @@ bool isConcealed(const PasteboardSnapshot& snapshot) {
 QString capturedText(const PasteboardSnapshot& snapshot) {
     return QString::fromUtf8(snapshot.answers.value(plainTextType).value_or(QByteArray()))
         .trimmed();
+}
+
+bool isFromFile(const PasteboardSnapshot& snapshot) {
+    return capturedText(snapshot).isEmpty() &&
+           !snapshot.answers.value(filesType).value_or(QByteArray()).isEmpty();
+}
+
+std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot,
+                                       const PictureLooks& looks) {
+    if (!capturedText(snapshot).isEmpty() || hasGoodImage(snapshot, looks)) {
+        return std::nullopt;
+    }
+    if (const auto text = snapshot.tooLarge.find(plainTextType); text != snapshot.tooLarge.end()) {
+        return TooLarge{TooLarge::Kind::text, *text};
+    }
+    const qint64 bytes = oversizedImage(snapshot, looks);
+    return bytes > 0 ? std::optional(TooLarge{TooLarge::Kind::image, bytes}) : std::nullopt;
 }
 
 } // namespace ravelo

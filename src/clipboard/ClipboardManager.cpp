@@ -2,7 +2,6 @@
 
 #include "base/Files.h"
 #include "base/Scheduler.h"
-#include "clipboard/CapturePlan.h"
 #include "clipboard/FileForms.h"
 #include "platform/DetachedJobs.h"
 #include "platform/ImageDecoder.h"
@@ -11,6 +10,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <utility>
 
 namespace ravelo {
 
@@ -19,6 +19,7 @@ namespace {
 constexpr Seconds pollInterval{0.5};
 constexpr QLatin1StringView pngType("image/png");
 
+/// Not for the main thread.
 QList<PasteboardEntry> imageForms(const QString& path, ImageDecoder& decoder) {
     const auto bytes = readFile(path);
     return bytes && !decoder.size(*bytes).isEmpty() ? QList<PasteboardEntry>{{pngType, *bytes}}
@@ -39,9 +40,18 @@ ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Schedul
 void ClipboardManager::start() {
     timer_ = scheduler_.every(pollInterval, [this] { poll(); });
     notice_ = pasteboard_.onChange([this] { poll(); });
+    saveRequests_ = pasteboard_.onSaveRequest([this] {
+        saveAsked_ = true;
+        poll();
+        answerSaveRequest();
+    });
     QObject::connect(&store_, &Store::cleared, &context_, [this] {
         reads_.clear();
-        captured_.reset();
+        if (held_) {
+            held_->clip = Clip::cleared;
+        }
+        offering_.reset();
+        answerSaveRequest();
     });
 }
 
@@ -54,28 +64,81 @@ void ClipboardManager::poll() {
     if (count == suppressUntilCount_) {
         return;
     }
-    if (pasteboard_.orphaned()) {
+    if (const auto lost = pasteboard_.orphaned()) {
+        if (held_ && held_->changeCount == *lost) {
+            held_->contents.ownerEnded = scheduler_.uptime();
+        }
         offerAgain();
         return;
     }
     // A read that was answered may still be waiting to be told when the next change is seen, so
     // none is dropped here: the pasteboard itself gives up those whose owner has gone.
-    const auto plan = [decoder = decoder_](const PasteboardSnapshot& snapshot) {
-        return nextCaptureType(snapshot, *decoder);
+    const auto looks = std::make_shared<PictureLooks>();
+    const auto plan = [decoder = decoder_, looks](const PasteboardSnapshot& snapshot) {
+        return nextCaptureType(snapshot, *looks, *decoder);
     };
-    reads_[count] = pasteboard_.read(plan, [this, count](const auto& snapshot) {
-        capture(count, snapshot);
-        reads_.erase(reads_.begin(), reads_.upper_bound(count));
-    });
+    reads_[count] = pasteboard_.read(
+        plan, [this, count, looks, seen = scheduler_.uptime()](const auto& snapshot) {
+            finishRead(count, snapshot, *looks, seen);
+        });
 }
 
-void ClipboardManager::capture(qint64 count, const PasteboardSnapshot& snapshot) {
-    if (isConcealed(snapshot)) {
+void ClipboardManager::finishRead(qint64 count, const PasteboardSnapshot& snapshot,
+                                  const PictureLooks& looks, Seconds seen) {
+    // Contents that came after the count was looked at get a read of their own.
+    if (snapshot.changeCount == count) {
+        capture(snapshot, looks, seen);
+    }
+    reads_.erase(reads_.begin(), reads_.upper_bound(count));
+    answerSaveRequest();
+}
+
+void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const PictureLooks& looks,
+                               Seconds seen) {
+    const auto key = isConcealed(snapshot) ? std::nullopt : contentsKey(snapshot);
+    if (!key) {
         return;
     }
-    auto kept = [this, life = std::weak_ptr(life_), count](const QUuid& clip) {
-        if (!life.expired()) {
-            captured_ = {count, clip};
+    if (isPassedOn(snapshot, *key, seen)) {
+        held_->changeCount = snapshot.changeCount;
+        held_->contents.owner = snapshot.owner.id;
+        held_->contents.ownerEnded.reset();
+        offerAgain();
+        return;
+    }
+    held_ = std::make_shared<Held>(Held{snapshot.changeCount,
+                                        {*key, snapshot.owner.id, seen},
+                                        isFromFile(snapshot) ? Source::file : Source::owner});
+    if (const auto tooLarge = tooLargeToKeep(snapshot, looks)) {
+        held_->clip = Clip::tooLarge;
+        if (onTooLarge) {
+            onTooLarge(*tooLarge);
+        }
+        return;
+    }
+    keep(snapshot);
+}
+
+bool ClipboardManager::isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
+                                  Seconds seen) const {
+    if (!held_) {
+        return false;
+    }
+    HeldContents before = held_->contents;
+    if (const auto& end = snapshot.lastEnd; end && end->changeCount == held_->changeCount) {
+        before.ownerEnded = seen - end->before; // The next owner was quicker than we are.
+    }
+    const bool deleted = held_->clip == Clip::kept && !held_->id.isNull() && !find(held_->id);
+    const auto wanted = deleted || held_->clip == Clip::cleared ? Wanted::no : Wanted::yes;
+    return isHandOver(before, wanted, key, snapshot.owner, seen);
+}
+
+void ClipboardManager::keep(const PasteboardSnapshot& snapshot) {
+    auto kept = [this, weak = std::weak_ptr(held_)](const QUuid& clip) {
+        // Expired where something else was copied since, or we are gone.
+        if (const auto held = weak.lock(); held && held->clip == Clip::pending) {
+            held->clip = Clip::kept;
+            held->id = clip;
             offerAgain(); // The owner may have ended while an image was being written.
         }
     };
@@ -86,41 +149,61 @@ void ClipboardManager::capture(qint64 count, const PasteboardSnapshot& snapshot)
     }
 }
 
-/// Only what went with its owner, never what was copied before it.
+/// Once the contents have been read: what is made of them needs their owner no more.
+void ClipboardManager::answerSaveRequest() {
+    if (saveAsked_ && !reads_.contains(lastChangeCount_)) {
+        saveAsked_ = false;
+        const bool saved = held_ && held_->changeCount == lastChangeCount_ &&
+                           (held_->clip == Clip::pending || held_->clip == Clip::kept) &&
+                           held_->source == Source::owner;
+        pasteboard_.answerSaveRequests(saved ? SaveAnswer::saved : SaveAnswer::refused);
+    }
+}
+
+/// Only what went with its owner, never what was copied before it, and nothing if the user has
+/// deleted the clip.
 void ClipboardManager::offerAgain() {
-    if (!captured_ || pasteboard_.orphaned() != captured_->changeCount) {
+    if (!isLost(held_.get())) {
         return;
     }
-    const ClipItem* const clip = capturedClip();
+    const ClipItem* clip = find(held_->id);
     if (clip == nullptr) {
         return;
     }
-    const auto adopt = [this, count = captured_->changeCount](const QList<PasteboardEntry>& forms) {
-        const bool wanted = captured_ && captured_->changeCount == count && capturedClip() &&
-                            pasteboard_.orphaned() == count;
-        if (wanted && !forms.isEmpty() && pasteboard_.adopt(forms)) {
-            suppressOwnChange();
+    const auto offer = [this, weak = std::weak_ptr(held_)](const Forms& forms) {
+        const auto held = weak.lock();
+        if (forms.isEmpty() || !isLost(held.get())) {
+            return;
+        }
+        if (const auto count = pasteboard_.adopt(forms)) {
+            held->changeCount = *count;
+            held->contents.owner = 0;
+            suppressOwnChange(*count);
         }
     };
     if (clip->kind == ClipKind::image) {
-        readImage(store_.imagePath(clip->imageFileName), adopt);
+        offering_ = readImage(store_.imagePath(clip->imageFileName), offer);
     } else {
-        adopt({{plainTextType, clip->text.toUtf8()}});
+        offer({{plainTextType, clip->text.toUtf8()}});
     }
 }
 
-/// Null if the user has deleted it.
-const ClipItem* ClipboardManager::capturedClip() const {
-    const auto clip = std::ranges::find(store_.clips(), captured_->clip, &ClipItem::id);
-    return clip == store_.clips().cend() ? nullptr : &*clip;
+/// Gone with its owner, and ours to offer again.
+bool ClipboardManager::isLost(const Held* held) const {
+    return held != nullptr && held->clip == Clip::kept && held->source != Source::file &&
+           pasteboard_.orphaned() == held->changeCount;
 }
 
-/// Not for the main thread; what is copied meanwhile takes its place.
-void ClipboardManager::readImage(const QString& path,
-                                 std::function<void(const QList<PasteboardEntry>&)> use) {
-    const auto forms = std::make_shared<QList<PasteboardEntry>>();
-    image_ = jobs_.run([path, forms, decoder = decoder_] { *forms = imageForms(path, *decoder); },
-                       [forms, use = std::move(use)] { use(*forms); });
+/// Null if the user has deleted the clip.
+const ClipItem* ClipboardManager::find(const QUuid& clip) const {
+    const auto found = std::ranges::find(store_.clips(), clip, &ClipItem::id);
+    return found == store_.clips().cend() ? nullptr : &*found;
+}
+
+Handle ClipboardManager::readImage(const QString& path, std::function<void(const Forms&)> done) {
+    const auto forms = std::make_shared<Forms>();
+    return jobs_.run([path, forms, decoder = decoder_] { *forms = imageForms(path, *decoder); },
+                     [forms, done = std::move(done)] { done(*forms); });
 }
 
 void ClipboardManager::copyText(const QString& text) {
@@ -128,24 +211,38 @@ void ClipboardManager::copyText(const QString& text) {
 }
 
 void ClipboardManager::copyImage(const QString& path) {
-    readImage(path, [this](const QList<PasteboardEntry>& forms) { write(forms); });
+    copying_ = readImage(path, [this, count = pasteboard_.changeCount()](const Forms& forms) {
+        if (pasteboard_.changeCount() == count) { // Else something was copied after it.
+            write(forms);
+        }
+    });
 }
 
 void ClipboardManager::copyFile(const QUrl& url) {
     write(fileForms(url));
 }
 
-void ClipboardManager::write(const QList<PasteboardEntry>& forms) {
-    if (!forms.isEmpty()) {
-        image_.reset();
-        pasteboard_.write(forms);
-        suppressOwnChange();
+void ClipboardManager::write(const Forms& forms) {
+    copying_.reset();
+    if (forms.isEmpty()) {
+        return;
+    }
+    const qint64 count = pasteboard_.write(forms);
+    suppressOwnChange(count);
+    PasteboardSnapshot written;
+    for (const PasteboardEntry& form : forms) {
+        written.types.append(form.type);
+        written.answers.insert(form.type, form.bytes);
+    }
+    if (const auto key = contentsKey(written)) {
+        held_ = std::make_shared<Held>(
+            Held{count, {*key, 0, scheduler_.uptime()}, Source::owner, Clip::kept});
     }
 }
 
-void ClipboardManager::suppressOwnChange() {
-    suppressUntilCount_ = pasteboard_.changeCount();
-    lastChangeCount_ = suppressUntilCount_;
+void ClipboardManager::suppressOwnChange(qint64 count) {
+    suppressUntilCount_ = count;
+    lastChangeCount_ = count;
 }
 
 } // namespace ravelo

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "clipboard/CapturePlan.h"
+#include "clipboard/HandOver.h"
 #include "platform/Pasteboard.h"
 
 #include <QObject>
@@ -9,21 +11,20 @@
 #include <functional>
 #include <map>
 #include <memory>
-#include <optional>
 
 class QUrl;
 
 namespace ravelo {
 
 class DetachedJobs;
-class ImageDecoder;
 class Scheduler;
 class Store;
 struct ClipItem;
 
 /// Turns changes of the general pasteboard into clips, and puts clips back on it. Contents that
 /// their owner marks as secret are left alone, and so is what the program wrote itself. Where a
-/// program ends and the contents with it, the clip that was made of them takes their place.
+/// program ends and the contents with it, the clip that was made of them takes their place, and a
+/// program that asks for it before it ends is kept waiting until they have been read.
 /// Main thread only.
 class ClipboardManager {
 public:
@@ -36,28 +37,48 @@ public:
 
     void copyText(const QString& text);
 
-    /// Puts a stored image on the pasteboard, in a moment; does nothing if the file cannot be
-    /// loaded or something else is copied first.
+    /// Puts a stored image on the pasteboard, once it is read; does nothing if the file cannot be
+    /// loaded or something else was copied meanwhile.
     void copyImage(const QString& path);
 
     /// Puts a file on the pasteboard, for file managers to paste a copy of it; does nothing where
     /// the address is not of a file.
     void copyFile(const QUrl& url);
 
+    /// Called once for each copy of which nothing is kept because it is too large.
+    std::function<void(const TooLarge&)> onTooLarge;
+
 private:
-    /// Contents of the pasteboard and the clip that stands for them.
-    struct Capture {
+    using Forms = QList<PasteboardEntry>;
+
+    /// Where what is made of the contents may come from; a file that its owner named is never
+    /// offered in our name, as its owner might not be allowed to read it.
+    enum class Source { owner, file };
+    enum class Clip { pending, kept, tooLarge, cleared };
+
+    /// The newest contents that were captured or written by us.
+    struct Held {
         qint64 changeCount;
-        QUuid clip;
+        HeldContents contents;
+        Source source = Source::owner;
+        Clip clip = Clip::pending;
+        QUuid id{}; ///< Of the clip, once it is kept; null where we wrote the contents.
     };
 
     void poll();
-    void capture(qint64 count, const PasteboardSnapshot& snapshot);
+    void finishRead(qint64 count, const PasteboardSnapshot& snapshot, const PictureLooks& looks,
+                    Seconds seen);
+    void capture(const PasteboardSnapshot& snapshot, const PictureLooks& looks, Seconds seen);
+    [[nodiscard]] bool isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
+                                  Seconds seen) const;
+    void keep(const PasteboardSnapshot& snapshot);
+    void answerSaveRequest();
     void offerAgain();
-    [[nodiscard]] const ClipItem* capturedClip() const;
-    void readImage(const QString& path, std::function<void(const QList<PasteboardEntry>&)> use);
-    void write(const QList<PasteboardEntry>& forms);
-    void suppressOwnChange();
+    [[nodiscard]] bool isLost(const Held* held) const;
+    [[nodiscard]] const ClipItem* find(const QUuid& clip) const;
+    [[nodiscard]] Handle readImage(const QString& path, std::function<void(const Forms&)> done);
+    void write(const Forms& forms);
+    void suppressOwnChange(qint64 count);
 
     Store& store_;
     Pasteboard& pasteboard_;
@@ -65,13 +86,15 @@ private:
     DetachedJobs& jobs_;
     std::shared_ptr<ImageDecoder> decoder_;
     qint64 lastChangeCount_;
-    qint64 suppressUntilCount_ = -1;  ///< The change that we made ourselves.
-    std::optional<Capture> captured_; ///< The newest.
+    qint64 suppressUntilCount_ = -1; ///< The change that we made ourselves.
+    std::shared_ptr<Held> held_;     ///< Null at first.
     Handle timer_;
     Handle notice_;
-    Handle image_; ///< Being read to be put on the pasteboard.
+    Handle saveRequests_;
+    bool saveAsked_ = false;
+    Handle copying_;  ///< An image that is being read to be copied.
+    Handle offering_; ///< Likewise, to be offered again.
     QObject context_;
-    std::shared_ptr<const bool> life_ = std::make_shared<const bool>(true);
     std::map<qint64, Handle>
         reads_; ///< By change count; those up to the newest answer are settled.
 };

@@ -4,6 +4,7 @@
 
 #include <sys/stat.h>
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
@@ -13,49 +14,90 @@ namespace {
 constexpr qint64 largestSettings = qint64(1) << 20;
 constexpr double nanosecond = 1e-9;
 
+/// The steps for a transcript of any kind come first; what follows is for one that they find
+/// nothing in. Nothing if it cannot be read.
+std::optional<std::optional<TurnUsage>> readUsage(const QByteArray& path) {
+    const std::optional<QByteArray> window = readFileEnd(path, transcriptWindow);
+    if (!window) {
+        return std::nullopt;
+    }
+    std::optional<TurnUsage> usage = lastUsage(*window);
+    if (!usage && window->size() == transcriptWindow) { // It may begin within a character.
+        usage = lastUsage(afterFirstLine(*window));
+    }
+    if (!usage && window->size() == transcriptWindow) {
+        const QByteArray wide = readFileEnd(path, widestTranscriptWindow).value_or(QByteArray());
+        usage = lastUsage(wide.size() == widestTranscriptWindow ? afterFirstLine(wide) : wide);
+    }
+    return usage;
+}
+
 } // namespace
 
-ContextReader::ContextReader(const QByteArray& home, std::unique_ptr<FolderChanges> changes)
-    : settingsPath_(home + "/.claude/settings.json"),
-      transcripts_(home + "/.claude/projects", std::move(changes)) {}
+ContextReader::ContextReader(const QByteArray& home, std::unique_ptr<FolderChanges> changes,
+                             const QByteArrayList& otherFolders)
+    : changes_(std::move(changes)) {
+    for (const QByteArray& path : QByteArrayList{home + "/.claude"} + otherFolders) {
+        folders_.push_back(
+            {path + "/settings.json", {}, {}, Transcripts(path + "/projects", *changes_), {}});
+    }
+}
 
 ContextReading ContextReader::read() {
-    readSettings();
-    ContextReading reading{limit_, std::nullopt};
-    if (const std::optional<Transcript> newest = transcripts_.newest()) {
-        readTranscript(*newest);
-        if (usage_) {
-            const double seconds = static_cast<double>(newest->modified) * nanosecond;
-            reading.turn = ContextReading::Turn{*usage_, Date{seconds - referenceInstant}};
+    const FolderChanges::Changes changes = changes_->take();
+    readSettings(folders_.front());
+    ContextReading reading{folders_.front().limit, std::nullopt};
+    for (Folder& folder : folders_) {
+        if (reading.turn) {
+            folder.transcripts.forget();
+            continue;
+        }
+        reading.turn = lastTurn(folder, changes);
+        if (reading.turn && !reading.limit) {
+            readSettings(folder);
+            reading.limit = folder.limit;
         }
     }
     return reading;
 }
 
-void ContextReader::readSettings() {
+void ContextReader::readSettings(Folder& folder) {
     struct stat info = {};
-    if (stat(settingsPath_.constData(), &info) != 0) {
-        settingsStamp_.reset();
-        limit_.reset();
+    if (stat(folder.settingsPath.constData(), &info) != 0) {
+        folder.settingsStamp.reset();
+        folder.limit.reset();
         return;
     }
     const Stamp stamp{info.st_dev, info.st_ino,
                       info.st_mtim.tv_sec * qint64(1'000'000'000) + info.st_mtim.tv_nsec,
                       info.st_size};
-    if (settingsStamp_ != stamp) {
-        const std::optional<QByteArray> bytes = readFileEnd(settingsPath_, largestSettings + 1);
-        settingsStamp_ = bytes ? std::optional(stamp) : std::nullopt;
-        limit_ = bytes && bytes->size() <= largestSettings ? compactWindow(*bytes) : std::nullopt;
+    if (folder.settingsStamp != stamp) {
+        const std::optional<QByteArray> bytes =
+            readFileEnd(folder.settingsPath, largestSettings + 1);
+        folder.settingsStamp = bytes ? std::optional(stamp) : std::nullopt;
+        folder.limit =
+            bytes && bytes->size() <= largestSettings ? compactWindow(*bytes) : std::nullopt;
     }
 }
 
-void ContextReader::readTranscript(const Transcript& transcript) {
-    if (transcript == transcript_) {
-        return;
+/// Of the newest transcript that has one: a session that was just opened has none yet.
+std::optional<ContextReading::Turn> ContextReader::lastTurn(Folder& folder,
+                                                            const FolderChanges::Changes& changes) {
+    const std::vector<ReadTranscript> before = std::exchange(folder.read, {});
+    for (const Transcript& transcript : folder.transcripts.newest(changes)) {
+        const auto known = std::ranges::find(before, transcript, &ReadTranscript::transcript);
+        const auto usage =
+            known != before.end() ? std::optional(known->usage) : readUsage(transcript.path);
+        if (!usage) {
+            continue;
+        }
+        folder.read.push_back({transcript, *usage});
+        if (*usage) {
+            const double seconds = static_cast<double>(transcript.modified) * nanosecond;
+            return ContextReading::Turn{**usage, Date{seconds - referenceInstant}};
+        }
     }
-    const std::optional<QByteArray> window = readFileEnd(transcript.path, transcriptWindow);
-    transcript_ = window ? std::optional(transcript) : std::nullopt;
-    usage_ = window ? lastUsage(*window) : std::nullopt;
+    return std::nullopt;
 }
 
 } // namespace ravelo

@@ -5,8 +5,11 @@
 #include "monitor/Transcripts.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 
+#include <memory>
 #include <optional>
+#include <vector>
 
 namespace ravelo {
 
@@ -27,15 +30,14 @@ struct ContextReading {
 /// blocks on the disk.
 class ContextReader {
 public:
-    /// `home` is the user's home folder.
-    ContextReader(const QByteArray& home, std::unique_ptr<FolderChanges> changes);
+    /// `home` is the user's home folder. `otherFolders` may hold Claude Code's files too, and are
+    /// looked at in their order if no turn is found below `home`.
+    ContextReader(const QByteArray& home, std::unique_ptr<FolderChanges> changes,
+                  const QByteArrayList& otherFolders = {});
 
     [[nodiscard]] ContextReading read();
 
 private:
-    void readSettings();
-    void readTranscript(const Transcript& transcript);
-
     struct Stamp {
         quint64 device = 0;
         quint64 number = 0;
@@ -45,12 +47,26 @@ private:
         friend bool operator==(const Stamp&, const Stamp&) = default;
     };
 
-    QByteArray settingsPath_;
-    std::optional<Stamp> settingsStamp_;
-    std::optional<qint64> limit_;
-    Transcripts transcripts_;
-    std::optional<Transcript> transcript_; ///< The one that was read.
-    std::optional<TurnUsage> usage_;       ///< Of that transcript.
+    struct ReadTranscript {
+        Transcript transcript;
+        std::optional<TurnUsage> usage;
+    };
+
+    /// A folder of Claude Code's, and what was read of it.
+    struct Folder {
+        QByteArray settingsPath;
+        std::optional<Stamp> settingsStamp;
+        std::optional<qint64> limit;
+        Transcripts transcripts;
+        std::vector<ReadTranscript> read; ///< Those of the last look.
+    };
+
+    static void readSettings(Folder& folder);
+    static std::optional<ContextReading::Turn> lastTurn(Folder& folder,
+                                                        const FolderChanges::Changes& changes);
+
+    std::unique_ptr<FolderChanges> changes_;
+    std::vector<Folder> folders_;
 };
 
 } // namespace ravelo

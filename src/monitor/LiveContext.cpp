@@ -20,10 +20,10 @@ constexpr qint64 million = 1'000'000;
 } // namespace
 
 LiveContext::LiveContext(Services services, const QByteArray& home,
-                         std::unique_ptr<FolderChanges> changes)
+                         std::unique_ptr<FolderChanges> changes, const QByteArrayList& otherFolders)
     : services_(services),
       peak_(PeakInfo::at(services.scheduler.now())),
-      reader_(std::make_shared<ContextReader>(home, std::move(changes))) {
+      reader_(std::make_shared<ContextReader>(home, std::move(changes), otherFolders)) {
     refresh();
     timer_ = services_.scheduler.every(interval, [this] { refresh(); });
 }

@@ -32,8 +32,9 @@ public:
         DetachedJobs& jobs; ///< For what looks at files.
     };
 
-    /// Begins at once to read below `home`, the user's home folder.
-    LiveContext(Services services, const QByteArray& home, std::unique_ptr<FolderChanges> changes);
+    /// Begins at once to read below `home`, the user's home folder; see ContextReader.
+    LiveContext(Services services, const QByteArray& home, std::unique_ptr<FolderChanges> changes,
+                const QByteArrayList& otherFolders = {});
     ~LiveContext() override;
 
     /// The process's own, made at its first use and never destroyed; see MonitorPlatform.

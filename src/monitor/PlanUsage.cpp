@@ -4,6 +4,7 @@
 #include "monitor/UsageFile.h"
 #include "platform/DetachedJobs.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -15,12 +16,16 @@ namespace {
 
 constexpr Seconds interval(5);
 constexpr Seconds fetchSpacing(90);
+constexpr Seconds longestSpacing(1800);
 
 } // namespace
 
 PlanUsage::PlanUsage(UsageQuery::Services services, const QByteArray& home,
-                     UsageQuery::Endpoint endpoint)
-    : services_(services), home_(home), query_(services, home, std::move(endpoint)) {
+                     UsageQuery::Endpoint endpoint, const QByteArrayList& otherFolders)
+    : services_(services),
+      home_(home),
+      query_(services, home, std::move(endpoint), otherFolders),
+      spacing_(fetchSpacing) {
     refresh();
     timer_ = services_.scheduler.every(interval, [this] { refresh(); });
 }
@@ -38,7 +43,7 @@ UsageQuery::Endpoint PlanUsage::provider() {
 
 void PlanUsage::refresh() {
     const Seconds now = services_.scheduler.uptime();
-    if (!fetching_ && (!lastFetch_ || now - *lastFetch_ > fetchSpacing)) {
+    if (!fetching_ && now >= notBefore_ && (!lastFetch_ || now - *lastFetch_ > spacing_)) {
         fetching_ = true;
         lastFetch_ = now;
         fetchLive();
@@ -49,13 +54,21 @@ void PlanUsage::refresh() {
 }
 
 void PlanUsage::fetchLive() {
-    query_.queryAPI([this](const std::optional<PlanWindows>& windows) {
-        fetching_ = false;
-        liveOK_ = windows.has_value();
-        if (windows) {
-            set(*windows);
-        }
-    });
+    query_.queryAPI([this](const UsageQuery::Outcome& outcome) { take(outcome); });
+}
+
+void PlanUsage::take(const UsageQuery::Outcome& outcome) {
+    fetching_ = false;
+    liveOK_ = outcome.windows.has_value();
+    if (outcome.tooMany) {
+        spacing_ = std::min(2 * spacing_, longestSpacing);
+        notBefore_ = services_.scheduler.uptime() + *outcome.tooMany;
+    }
+    if (outcome.windows) {
+        spacing_ = fetchSpacing;
+        liveAt_ = services_.scheduler.now();
+        set(*outcome.windows);
+    }
 }
 
 void PlanUsage::readFile() {
@@ -63,13 +76,18 @@ void PlanUsage::readFile() {
         return;
     }
     auto windows = std::make_shared<std::optional<PlanWindows>>();
-    reading_ = services_.jobs.run([windows, home = home_] { *windows = loadUsage(home); },
-                                  [this, windows] {
-                                      reading_.reset();
-                                      if (*windows && !liveOK_) {
-                                          set(**windows);
-                                      }
-                                  });
+    reading_ = services_.jobs.run(
+        [windows, home = home_, liveAt = liveAt_] {
+            if (!liveAt || usageWritten(home) >= liveAt) {
+                *windows = loadUsage(home);
+            }
+        },
+        [this, windows] {
+            reading_.reset();
+            if (*windows && !liveOK_) {
+                set(**windows);
+            }
+        });
 }
 
 void PlanUsage::set(const PlanWindows& windows) {

@@ -9,16 +9,17 @@
 
 namespace ravelo {
 
-/// How much of the plan's two windows is used up: asked for every 90 seconds or a little later and,
-/// while asking fails, read from the file "~/.ravelo/usage.json" every five seconds. What fails
+/// How much of the plan's two windows is used up: asked for every 90 seconds or a little later,
+/// less often if the provider finds that too often, and, while asking fails, read from the file
+/// "~/.ravelo/usage.json" every five seconds unless that is older than the last answer. What fails
 /// leaves all as it was. Main thread.
 class PlanUsage : public QObject {
     Q_OBJECT
 
 public:
-    /// Begins at once. `home` is the user's home folder.
+    /// Begins at once. `home` is the user's home folder; for the others see UsageQuery.
     PlanUsage(UsageQuery::Services services, const QByteArray& home,
-              UsageQuery::Endpoint endpoint = provider());
+              UsageQuery::Endpoint endpoint = provider(), const QByteArrayList& otherFolders = {});
     ~PlanUsage() override;
 
     /// The process's own, made at its first use and never destroyed; see MonitorPlatform.
@@ -45,6 +46,7 @@ Q_SIGNALS:
 
 private:
     void fetchLive();
+    void take(const UsageQuery::Outcome& outcome);
     void readFile();
     void set(const PlanWindows& windows);
 
@@ -53,6 +55,9 @@ private:
     UsageQuery query_;
     PlanWindows windows_;
     std::optional<Seconds> lastFetch_; ///< Uptime.
+    Seconds spacing_;                  ///< Of fetches, at least.
+    Seconds notBefore_{0};             ///< Uptime; no fetch earlier.
+    std::optional<Date> liveAt_;       ///< When the last query succeeded.
     bool fetching_ = false;
     bool liveOK_ = false;
     Handle reading_; ///< Of the file.

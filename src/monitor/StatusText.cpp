@@ -26,11 +26,15 @@ QJsonValue json(const std::optional<Date>& date) {
     return toDateTime(*date).toUTC().toString(Qt::ISODate);
 }
 
-QJsonValue json(const std::optional<UsageWindow>& window) {
+QJsonValue json(const std::optional<UsageWindow>& window, Date now) {
     if (!window) {
         return QJsonValue::Null;
     }
-    return QJsonObject{{u"pct"_s, window->pct}, {u"resets"_s, json(window->resets)}};
+    QJsonObject object{{u"pct"_s, window->pct}, {u"resets"_s, json(window->resets)}};
+    if (resetHasPassed(window, now)) {
+        object.insert(u"resetPassed"_s, true);
+    }
+    return object;
 }
 
 } // namespace
@@ -40,9 +44,9 @@ MonitorStatus MonitorStatus::of(const LiveContext& context, const PlanUsage& usa
             context.lastActivity(), PeakInfo::at(now), {usage.session(), usage.week()}};
 }
 
-MonitorStatus MonitorStatus::fromFiles(const QByteArray& home,
+MonitorStatus MonitorStatus::fromFiles(const QByteArray& home, const QByteArrayList& otherFolders,
                                        std::unique_ptr<FolderChanges> changes, Date now) {
-    const ContextReading reading = ContextReader(home, std::move(changes)).read();
+    const ContextReading reading = ContextReader(home, std::move(changes), otherFolders).read();
     MonitorStatus status;
     status.limit = reading.limit.value_or(LiveContext::usualLimit);
     if (reading.turn) {
@@ -79,8 +83,8 @@ QByteArray statusJson(const MonitorStatus& status, Date now, const QLocale& loca
                              {u"lastActivity"_s, json(status.lastActivity)},
                              {u"peak"_s, status.peak.label(now, locale, zone)},
                              {u"isPeak"_s, status.peak.isPeak},
-                             {u"session"_s, json(status.plan.session)},
-                             {u"week"_s, json(status.plan.week)}};
+                             {u"session"_s, json(status.plan.session, now)},
+                             {u"week"_s, json(status.plan.week, now)}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 

@@ -4,6 +4,7 @@
 #include "monitor/UsageWindow.h"
 
 #include <QByteArray>
+#include <QByteArrayList>
 #include <QLocale>
 #include <QTimeZone>
 
@@ -27,9 +28,10 @@ struct MonitorStatus {
     [[nodiscard]] static MonitorStatus of(const LiveContext& context, const PlanUsage& usage,
                                           Date now);
 
-    /// What can be known where no monitor runs: the files below `home`, read once. Blocks; any
-    /// thread.
+    /// What can be known where no monitor runs: the files below `home`, or in `otherFolders` of
+    /// Claude Code's, read once. Blocks; any thread.
     [[nodiscard]] static MonitorStatus fromFiles(const QByteArray& home,
+                                                 const QByteArrayList& otherFolders,
                                                  std::unique_ptr<FolderChanges> changes, Date now);
 };
 
@@ -41,7 +43,8 @@ struct MonitorStatus {
 [[nodiscard]] QString statusLine(const MonitorStatus& status, Date now, const QLocale& locale,
                                  const QTimeZone& zone = QTimeZone::systemTimeZone());
 
-/// For programs: one JSON object, with dates as ISO 8601 in UTC and null for what is not known.
+/// For programs: one JSON object, with dates as ISO 8601 in UTC and null for what is not known. A
+/// window whose reset has passed says so by "resetPassed".
 [[nodiscard]] QByteArray statusJson(const MonitorStatus& status, Date now, const QLocale& locale,
                                     const QTimeZone& zone = QTimeZone::systemTimeZone());
 

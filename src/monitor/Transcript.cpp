@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QRegularExpression>
 #include <QUtf8StringView>
 
 #include <algorithm>
@@ -41,12 +42,13 @@ std::optional<qint64> toInteger(const QJsonValue& value) {
     return value.toInteger(static_cast<qint64>(number));
 }
 
-qint64 tokenTotal(const QJsonObject& usage) {
+/// Nothing if 64 bits cannot hold the sum.
+std::optional<qint64> tokenTotal(const QJsonObject& usage) {
     qint64 total = 0;
     for (const auto& key :
          {"input_tokens"_L1, "cache_read_input_tokens"_L1, "cache_creation_input_tokens"_L1}) {
         if (__builtin_add_overflow(total, toInteger(usage.value(key)).value_or(0), &total)) {
-            qFatal("a transcript counts more tokens than a number can hold");
+            return std::nullopt;
         }
     }
     return total;
@@ -64,8 +66,17 @@ std::optional<TurnUsage> usageOf(QByteArrayView line) {
     if (!usage.isObject() || entry.value("isSidechain"_L1).toBool() || model.startsWith(u'<')) {
         return std::nullopt;
     }
-    const qint64 tokens = tokenTotal(usage.toObject());
-    return tokens >= 1 ? std::optional(TurnUsage{model, tokens}) : std::nullopt;
+    const std::optional<qint64> tokens = tokenTotal(usage.toObject());
+    return tokens && *tokens >= 1 ? std::optional(TurnUsage{model, *tokens}) : std::nullopt;
+}
+
+/// What others call a model that Bedrock calls "us.anthropic.claude-opus-4-6-v1:0", also at the end
+/// of a resource name.
+QString withoutBedrock(const QString& name) {
+    static const QRegularExpression form(
+        u"\\A(?:.*[./])?anthropic\\.(claude-.+?)(?:-v[0-9]+(?::[0-9a-z]+)*)?\\z"_s);
+    const QRegularExpressionMatch match = form.match(name);
+    return match.hasMatch() ? match.captured(1) : name;
 }
 
 bool isDateStamp(const QString& piece) {
@@ -88,6 +99,11 @@ std::optional<TurnUsage> lastUsage(QByteArrayView window) {
     return std::nullopt;
 }
 
+QByteArrayView afterFirstLine(QByteArrayView window) {
+    const qsizetype end = window.indexOf('\n');
+    return end < 0 ? QByteArrayView() : window.sliced(end + 1);
+}
+
 std::optional<qint64> compactWindow(QByteArrayView settings) {
     const QJsonValue value =
         QJsonDocument::fromJson(QByteArray::fromRawData(settings.data(), settings.size()))
@@ -100,7 +116,7 @@ std::optional<qint64> compactWindow(QByteArrayView settings) {
 
 QString prettyModel(const QString& raw) {
     QString plain = raw;
-    QStringList pieces = plain.remove(u"[1m]"_s).split(u'-', Qt::SkipEmptyParts);
+    QStringList pieces = withoutBedrock(plain.remove(u"[1m]"_s)).split(u'-', Qt::SkipEmptyParts);
     if (!pieces.isEmpty() && pieces.first() == "claude"_L1) {
         pieces.removeFirst();
     }

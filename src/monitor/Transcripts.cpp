@@ -5,6 +5,7 @@
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <algorithm>
 #include <set>
 #include <string_view>
 #include <utility>
@@ -14,6 +15,9 @@ namespace ravelo {
 namespace {
 
 constexpr std::string_view extension(".jsonl");
+constexpr size_t mostKept = 8;
+constexpr int entriesForALook = 200; ///< So many are listed for each look that is left out.
+constexpr int mostLeftOut = 60;
 
 /// A folder that is being listed.
 class Listing {
@@ -69,32 +73,57 @@ qint64 modified(const struct stat& info) {
     return info.st_mtim.tv_sec * qint64(1'000'000'000) + info.st_mtim.tv_nsec;
 }
 
-bool isNewer(const Transcript& transcript, const std::optional<Transcript>& best) {
-    return !best || transcript.modified > best->modified ||
-           (transcript.modified == best->modified && transcript.path < best->path);
+bool isNewer(const Transcript& one, const Transcript& other) {
+    return one.modified > other.modified ||
+           (one.modified == other.modified && one.path < other.path);
+}
+
+void keep(std::vector<Transcript>& newest, Transcript transcript) {
+    const auto place = std::ranges::upper_bound(newest, transcript, isNewer);
+    newest.insert(place, std::move(transcript));
+    newest.resize(std::min(newest.size(), mostKept));
 }
 
 } // namespace
 
-Transcripts::Transcripts(QByteArray root, std::unique_ptr<FolderChanges> changes)
-    : root_(std::move(root)), changes_(std::move(changes)) {}
+Transcripts::Transcripts(QByteArray root, FolderChanges& changes)
+    : root_(std::move(root)), changes_(changes) {}
 
-std::optional<Transcript> Transcripts::newest() {
-    const FolderChanges::Changes changes = changes_->take();
+std::vector<Transcript> Transcripts::newest(const FolderChanges::Changes& changes) {
+    unwatched_ = 0;
     if (!lookAtRoot(changes)) {
-        return std::nullopt;
+        return {};
     }
-    std::optional<Transcript> best;
-    for (auto& entry : folders_) {
-        Folder& folder = entry.second;
-        if (!folder.known || changes.lost || changes.folders.contains(entry.first)) {
-            list(entry.first, folder);
+    std::vector<Transcript> newest;
+    for (auto& [path, folder] : folders_) {
+        if (!folder.listed || changes.lost || changes.folders.contains(path) ||
+            (!folder.known && leaveOut_ == 0)) {
+            list(path, folder);
         }
-        if (folder.newest && isNewer(*folder.newest, best)) {
-            best = folder.newest;
+        for (const Transcript& transcript : folder.newest) {
+            keep(newest, transcript);
         }
     }
-    return best;
+    if (leaveOut_ == 0) {
+        leaveOut_ = std::min(unwatched_ / entriesForALook, mostLeftOut);
+    } else {
+        --leaveOut_;
+        if (!newest.empty()) {
+            lookAgain(newest.front());
+        }
+    }
+    return newest;
+}
+
+/// For one whose folder may have changed unheard.
+void Transcripts::lookAgain(Transcript& transcript) {
+    struct stat info = {};
+    if (stat(transcript.path.constData(), &info) == 0 && S_ISREG(info.st_mode)) {
+        transcript.modified = modified(info);
+        transcript.size = info.st_size;
+    } else {
+        leaveOut_ = 0; // Which one is the newest now is to be found out.
+    }
 }
 
 bool Transcripts::lookAtRoot(const FolderChanges::Changes& changes) {
@@ -109,7 +138,8 @@ bool Transcripts::lookAtRoot(const FolderChanges::Changes& changes) {
         forget();
         rootIdentity_ = identity;
     }
-    if (!rootKnown_ || changes.lost || changes.folders.contains(root_)) {
+    if (!rootListed_ || changes.lost || changes.folders.contains(root_) ||
+        (!rootKnown_ && leaveOut_ == 0)) {
         listRoot();
     }
     return true;
@@ -117,20 +147,24 @@ bool Transcripts::lookAtRoot(const FolderChanges::Changes& changes) {
 
 void Transcripts::forget() {
     for (const auto& [path, folder] : folders_) {
-        changes_->unwatch(path);
+        changes_.unwatch(path);
     }
-    changes_->unwatch(root_);
+    changes_.unwatch(root_);
     folders_.clear();
     rootIdentity_.reset();
+    rootListed_ = false;
     rootKnown_ = false;
+    leaveOut_ = 0;
 }
 
 void Transcripts::listRoot() {
-    const bool watched = changes_->watch(root_); // First, so that no change falls between.
+    const bool watched = changes_.watch(root_); // First, so that no change falls between.
     Listing listing(root_);
+    rootListed_ = true;
     rootKnown_ = watched && listing.isOpen();
     std::set<QByteArray> present;
     while (const dirent* entry = listing.isOpen() ? listing.next() : nullptr) {
+        unwatched_ += rootKnown_ ? 0 : 1;
         if (entry->d_type == DT_DIR || entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN) {
             const QByteArray path = root_ + '/' + entry->d_name;
             folders_[path].isLink = entry->d_type != DT_DIR;
@@ -141,7 +175,7 @@ void Transcripts::listRoot() {
         if (present.contains(folder->first)) {
             ++folder;
         } else {
-            changes_->unwatch(folder->first);
+            changes_.unwatch(folder->first);
             folder = folders_.erase(folder);
         }
     }
@@ -149,25 +183,27 @@ void Transcripts::listRoot() {
 
 void Transcripts::list(const QByteArray& path, Folder& folder) {
     bool hasLinks = folder.isLink;
-    const bool watched = !folder.isLink && changes_->watch(path);
-    folder.newest.reset();
+    const bool watched = !folder.isLink && changes_.watch(path);
+    folder.newest.clear();
     Listing listing(path);
+    int entries = 0;
     while (const dirent* entry = listing.isOpen() ? listing.next() : nullptr) {
+        ++entries;
         if (!isTranscript(*entry)) {
             continue;
         }
         const std::optional<struct stat> info = listing.look(*entry);
         hasLinks |= entry->d_type != DT_REG; // What it links to may change unheard.
-        if (!info || !S_ISREG(info->st_mode) ||
-            (folder.newest && modified(*info) < folder.newest->modified)) {
-            continue;
-        }
-        Transcript transcript{path + '/' + entry->d_name, modified(*info), info->st_size};
-        if (isNewer(transcript, folder.newest)) {
-            folder.newest = std::move(transcript);
+        if (info && S_ISREG(info->st_mode)) {
+            if (folder.newest.size() < mostKept ||
+                modified(*info) >= folder.newest.back().modified) {
+                keep(folder.newest, {path + '/' + entry->d_name, modified(*info), info->st_size});
+            }
         }
     }
+    folder.listed = true;
     folder.known = watched && listing.isOpen() && !hasLinks;
+    unwatched_ += folder.known ? 0 : entries;
 }
 
 } // namespace ravelo

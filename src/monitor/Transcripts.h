@@ -5,8 +5,8 @@
 #include <QByteArray>
 
 #include <map>
-#include <memory>
 #include <optional>
+#include <vector>
 
 namespace ravelo {
 
@@ -21,18 +21,27 @@ struct Transcript {
 
 /// Finds the newest of the transcripts (".jsonl") one folder below `root`. Remembers the newest of
 /// each folder and lists only folders that have changed. One thread, whichever; blocks on the disk.
+///
+/// Folders whose changes nobody reports are listed again and again, but the more there is to list
+/// the more looks are left out in between. The newest transcript itself is looked at every time.
 class Transcripts {
 public:
-    Transcripts(QByteArray root, std::unique_ptr<FolderChanges> changes);
+    /// `changes` outlives it.
+    Transcripts(QByteArray root, FolderChanges& changes);
 
-    /// Of several with one date the first by name. Nothing where there is none.
-    [[nodiscard]] std::optional<Transcript> newest();
+    /// The newest few, newest first; of several with one date the first by name. `changes` are
+    /// those since the last time.
+    [[nodiscard]] std::vector<Transcript> newest(const FolderChanges::Changes& changes);
+
+    /// Watches nothing any more, and starts over if asked again.
+    void forget();
 
 private:
     struct Folder {
-        std::optional<Transcript> newest;
+        std::vector<Transcript> newest; ///< Newest first.
         bool isLink = false; ///< It may come to stand for another folder, which nobody would tell.
-        bool known = false;  ///< Listed, and what changes is told.
+        bool listed = false;
+        bool known = false; ///< Listed, and what changes is told.
     };
 
     /// Of a file system's objects, whatever they are called at the moment.
@@ -44,14 +53,17 @@ private:
     };
 
     bool lookAtRoot(const FolderChanges::Changes& changes);
-    void forget();
     void listRoot();
     void list(const QByteArray& path, Folder& folder);
+    void lookAgain(Transcript& transcript);
 
     QByteArray root_;
-    std::unique_ptr<FolderChanges> changes_;
+    FolderChanges& changes_;
     std::optional<Identity> rootIdentity_;
+    bool rootListed_ = false;
     bool rootKnown_ = false;
+    int leaveOut_ = 0;  ///< So many looks do without the folders whose changes nobody reports.
+    int unwatched_ = 0; ///< Entries of such folders that were listed in this look.
     std::map<QByteArray, Folder> folders_;
 };
 

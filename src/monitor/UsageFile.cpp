@@ -5,6 +5,8 @@
 
 #include <QFile>
 
+#include <sys/stat.h>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -12,6 +14,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 largest = qint64(1) << 20;
+constexpr double nanosecond = 1e-9;
 
 QByteArray folder(const QByteArray& home) {
     return home + "/.ravelo";
@@ -28,6 +31,16 @@ std::optional<PlanWindows> loadUsage(const QByteArray& home) {
     return bytes && bytes->size() <= largest ? readUsageFile(*bytes) : std::nullopt;
 }
 
+std::optional<Date> usageWritten(const QByteArray& home) {
+    struct stat info = {};
+    if (stat(file(home).constData(), &info) != 0) {
+        return std::nullopt;
+    }
+    const double seconds = static_cast<double>(info.st_mtim.tv_sec) +
+                           static_cast<double>(info.st_mtim.tv_nsec) * nanosecond;
+    return Date{seconds - referenceInstant};
+}
+
 Result<void> storeUsage(const QByteArray& home, const QByteArray& statusLine) {
     const std::optional<QByteArray> kept = usageFileOf(statusLine);
     if (!kept) {
@@ -37,10 +50,10 @@ Result<void> storeUsage(const QByteArray& home, const QByteArray& statusLine) {
     if (!QFile::exists(own)) { // Who made it before chose its rights.
         makePrivateFolder(own);
     }
-    if (const QString path = QFile::decodeName(file(home)); !writeFileAtomically(path, *kept)) {
-        return failure(u"cannot write "_s + path);
-    }
-    return {};
+    const QString path = QFile::decodeName(file(home));
+    return writeFileAtomically(path, *kept).map_error([&](const Error& error) {
+        return Error{u"cannot write %1: %2"_s.arg(path, error.message)};
+    });
 }
 
 } // namespace ravelo

@@ -7,13 +7,16 @@
 
 #include <optional>
 
-// The file "~/.ravelo/usage.json", in which other programs tell how much of the plan is used. Both
+// The file "~/.ravelo/usage.json", in which other programs tell how much of the plan is used. All
 // block; any thread.
 
 namespace ravelo {
 
 /// Nothing where the file is missing or makes no sense.
 [[nodiscard]] std::optional<PlanWindows> loadUsage(const QByteArray& home);
+
+/// When the file was written; nothing if it is missing.
+[[nodiscard]] std::optional<Date> usageWritten(const QByteArray& home);
 
 /// Keeps what Claude Code gives its status line, as far as `loadUsage` reads it: replaced in one
 /// step, readable by its user alone. An error leaves the file as it is, also where the status line

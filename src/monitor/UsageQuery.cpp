@@ -20,36 +20,59 @@ constexpr Seconds longestRenewal(600); ///< Longer than any prompt of one full s
 constexpr qint64 largestAnswer = qint64(1) << 20;
 constexpr int ok = 200;
 constexpr int unauthorized = 401;
+constexpr int tooManyRequests = 429;
 
 } // namespace
 
-UsageQuery::UsageQuery(Services services, QByteArray home, Endpoint endpoint)
-    : services_(services), home_(std::move(home)), endpoint_(std::move(endpoint)) {}
+UsageQuery::UsageQuery(Services services, QByteArray home, Endpoint endpoint,
+                       QByteArrayList otherFolders)
+    : services_(services),
+      home_(std::move(home)),
+      endpoint_(std::move(endpoint)),
+      otherFolders_(std::move(otherFolders)) {}
 
 void UsageQuery::queryAPI(Done done) {
     done_ = std::move(done);
-    auto bytes = std::make_shared<std::optional<QByteArray>>();
-    step_ = services_.jobs.run(
-        [bytes, path = home_ + "/.claude/.credentials.json"] {
-            *bytes = readFileEnd(path, largestAnswer);
-        },
-        [this, bytes] { takeFile(*bytes); });
+    readFiles({home_ + "/.claude"}, [this](const std::optional<Credentials>& credentials) {
+        if (credentials) {
+            useCredentials(credentials);
+        } else {
+            askKeyring();
+        }
+    });
 }
 
-void UsageQuery::takeFile(const std::optional<QByteArray>& bytes) {
-    if (const auto credentials = bytes ? readCredentials(*bytes) : std::nullopt) {
-        useCredentials(credentials);
-        return;
-    }
+void UsageQuery::readFiles(const QByteArrayList& folders, TakeCredentials take) {
+    auto credentials = std::make_shared<std::optional<Credentials>>();
+    step_ = services_.jobs.run(
+        [credentials, folders] {
+            for (const QByteArray& folder : folders) {
+                const auto bytes = readFileEnd(folder + "/.credentials.json", largestAnswer);
+                *credentials = bytes ? readCredentials(*bytes) : std::nullopt;
+                if (*credentials) {
+                    break;
+                }
+            }
+        },
+        [credentials, take = std::move(take)] { take(*credentials); });
+}
+
+void UsageQuery::askKeyring() {
     step_ = services_.secrets.find(
         u"Claude Code-credentials"_s, [this](const std::optional<QByteArray>& secret) {
-            useCredentials(secret ? readCredentials(*secret) : std::nullopt);
+            if (const auto credentials = secret ? readCredentials(*secret) : std::nullopt) {
+                useCredentials(credentials);
+            } else {
+                readFiles(otherFolders_, [this](const std::optional<Credentials>& other) {
+                    useCredentials(other);
+                });
+            }
         });
 }
 
 void UsageQuery::useCredentials(const std::optional<Credentials>& credentials) {
     if (!credentials) {
-        finish(std::nullopt);
+        finish({});
         return;
     }
     const double now = services_.scheduler.now().sinceReference + referenceInstant;
@@ -74,10 +97,13 @@ void UsageQuery::request(const QByteArray& token) {
 }
 
 void UsageQuery::takeAnswer(const std::optional<HttpsAnswer>& answer) {
-    if (answer && answer->status == unauthorized) {
-        renewViaCLI([this] { finish(std::nullopt); });
+    const int status = answer ? answer->status : 0;
+    if (status == unauthorized) {
+        renewViaCLI([this] { finish({}); });
+    } else if (status == tooManyRequests) {
+        finish({{}, readRetryAfter(answer->retryAfter, services_.scheduler.now())});
     } else {
-        finish(answer && answer->status == ok ? readUsageAnswer(answer->body) : std::nullopt);
+        finish({status == ok ? readUsageAnswer(answer->body) : std::nullopt, {}});
     }
 }
 
@@ -104,8 +130,8 @@ void UsageQuery::renewViaCLI(std::function<void()> then) {
         });
 }
 
-void UsageQuery::finish(const std::optional<PlanWindows>& windows) {
-    std::exchange(done_, nullptr)(windows);
+void UsageQuery::finish(const Outcome& outcome) {
+    std::exchange(done_, nullptr)(outcome);
 }
 
 } // namespace ravelo

@@ -5,6 +5,7 @@
 #include "monitor/UsageReaders.h"
 #include "platform/HttpsClient.h"
 
+#include <QByteArrayList>
 #include <QUrl>
 
 #include <functional>
@@ -35,25 +36,36 @@ public:
         Seconds timeOut;
     };
 
-    UsageQuery(Services services, QByteArray home, Endpoint endpoint);
+    /// `otherFolders` are looked in for credentials after the usual folder and the keyring.
+    UsageQuery(Services services, QByteArray home, Endpoint endpoint, QByteArrayList otherFolders);
 
-    using Done = std::function<void(std::optional<PlanWindows>)>;
+    struct Outcome {
+        std::optional<PlanWindows> windows; ///< None if there is no answer that makes sense.
+        /// If the provider finds that it is asked too often: how long it wants to be left alone,
+        /// zero if it does not say.
+        std::optional<Seconds> tooMany;
+    };
 
-    /// Calls `done` once, with nothing where there is no answer that makes sense. One query at a
-    /// time; not told any more when this object is gone.
+    using Done = std::function<void(const Outcome&)>;
+
+    /// Calls `done` once. One query at a time; not told any more when this object is gone.
     void queryAPI(Done done);
 
 private:
-    void takeFile(const std::optional<QByteArray>& bytes);
+    using TakeCredentials = std::function<void(const std::optional<Credentials>&)>;
+
+    void readFiles(const QByteArrayList& folders, TakeCredentials take);
+    void askKeyring();
     void useCredentials(const std::optional<Credentials>& credentials);
     void request(const QByteArray& token);
     void takeAnswer(const std::optional<HttpsAnswer>& answer);
     void renewViaCLI(std::function<void()> then);
-    void finish(const std::optional<PlanWindows>& windows);
+    void finish(const Outcome& outcome);
 
     Services services_;
     QByteArray home_;
     Endpoint endpoint_;
+    QByteArrayList otherFolders_;
     Done done_;
     std::optional<Seconds> lastRenew_; ///< Uptime.
     Handle step_;

@@ -2,6 +2,7 @@
 
 #include <QJsonDocument>
 #include <QJsonObject>
+#include <QLocale>
 #include <QRegularExpression>
 
 #include <algorithm>
@@ -56,6 +57,10 @@ std::optional<UsageWindow> keptWindow(const QJsonValue& value) {
                                          : std::nullopt};
 }
 
+bool isDigit(char c) {
+    return c >= '0' && c <= '9';
+}
+
 /// Printable and without blanks: nothing that would end the header it is sent in.
 bool isToken(const QString& text) {
     return !text.isEmpty() &&
@@ -98,6 +103,21 @@ std::optional<QByteArray> usageFileOf(QByteArrayView statusLine) {
         }
     }
     return QJsonDocument(QJsonObject{{rateLimits, kept}}).toJson();
+}
+
+Seconds readRetryAfter(const QByteArray& header, Date now) {
+    constexpr double longest = 86400;
+    const QByteArray text = header.trimmed();
+    double seconds = 0;
+    if (!text.isEmpty() && std::all_of(text.begin(), text.end(), isDigit)) {
+        seconds = text.toDouble();
+    } else {
+        QDateTime date = QLocale::c().toDateTime(QString::fromLatin1(text),
+                                                 u"ddd, dd MMM yyyy HH:mm:ss 'GMT'"_s);
+        date.setTimeSpec(Qt::UTC);
+        seconds = date.isValid() ? toDate(date).sinceReference - now.sinceReference : 0;
+    }
+    return Seconds(std::clamp(seconds, 0.0, longest));
 }
 
 std::optional<Credentials> readCredentials(QByteArrayView json) {

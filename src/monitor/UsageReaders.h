@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Scheduler.h"
 #include "monitor/UsageWindow.h"
 
 #include <QByteArray>
@@ -21,6 +22,10 @@ namespace ravelo {
 /// What of Claude Code's status line belongs into the usage file, and nothing else of it: the parts
 /// that `readUsageFile` reads. Nothing where it has no "rate_limits".
 [[nodiscard]] std::optional<QByteArray> usageFileOf(QByteArrayView statusLine);
+
+/// How long a server wants to be left alone, from its header Retry-After (RFC 9110): a number of
+/// seconds or a date. Never more than a day; zero if the header makes no sense.
+[[nodiscard]] Seconds readRetryAfter(const QByteArray& header, Date now);
 
 struct Credentials {
     QByteArray accessToken;          ///< Fit for an HTTP header.

@@ -9,6 +9,10 @@ namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
+bool resetHasPassed(const std::optional<UsageWindow>& window, Date now) {
+    return window && window->resets && *window->resets <= now;
+}
+
 QString percentText(const std::optional<UsageWindow>& window) {
     constexpr double largest = 1e15; // What a whole number can hold.
     return window ? QString::number(std::llround(std::clamp(window->pct, -largest, largest))) + u'%'

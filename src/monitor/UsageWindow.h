@@ -16,6 +16,9 @@ struct UsageWindow {
     friend bool operator==(const UsageWindow&, const UsageWindow&) = default;
 };
 
+/// Whether the window has started anew since, which makes its percents those of the past.
+[[nodiscard]] bool resetHasPassed(const std::optional<UsageWindow>& window, Date now);
+
 /// Both windows of the plan, each where it is known.
 struct PlanWindows {
     std::optional<UsageWindow> session; ///< Five hours.

@@ -31,15 +31,17 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
       settings_(settings),
       services_(std::move(services)),
       guard_(services_.scheduler, services_.screens, services_.drags, services_.barrier),
-      drop_(services_.drags, services_.transfers,
-            [this](const QList<QUrl>& files) { onFiles(files); }),
+      drop_(services_.drags, services_.transfers),
       tick_(services_.scheduler, services_.pointer, rest, [this] { return evaluateHover(); }) {
     idleDragCount_ = services_.drags.changeCount();
     guard_.start();
     connect(&store_, &Store::shelfChanged, this, &NotchController::resizeForShelf);
     pressMonitor_ = services_.pointer.onPress([this] { pressedSomewhere(); });
     screensMonitor_ = services_.screens.onChange([this] { screensChanged(); });
-    dragMonitor_ = services_.drags.onChange([this] { tick_.wake(); });
+    dragMonitor_ = services_.drags.onChange([this] {
+        tick_.wake();
+        lookAtDrag();
+    });
     for (SessionLock* const lock : services_.locks) {
         lockMonitors_.push_back(lock->onChange([this] { lockChanged(); }));
     }
@@ -125,15 +127,42 @@ void NotchController::openForFiles() {
     positionExpanded();
 }
 
-void NotchController::onDragEnter() {
-    drop_.expect();
-    if (!isOpen_) {
-        openForFiles();
-    }
+bool NotchController::onDragEnter() {
+    dragOver_ = mayCarryFiles(); // Of one that is refused no leaving is reported.
+    lookAtDrag();
+    return dragOver_;
 }
 
-void NotchController::onDrop() {
-    drop_.take();
+void NotchController::onDragLeave() {
+    dragOver_ = false;
+    lookAtDrag();
+}
+
+bool NotchController::onDrop() {
+    const bool taken = mayCarryFiles();
+    if (taken) {
+        drop_.take([this, closings = closings_](const QList<QUrl>& files) {
+            // What comes after the user has closed the panel does not open it again.
+            closings == closings_ ? onFiles(files) : store_.addToShelf(files);
+        });
+    }
+    onDragLeave();
+    return taken;
+}
+
+bool NotchController::mayCarryFiles() {
+    return drop_.carries() != Carries::nothing;
+}
+
+void NotchController::lookAtDrag() {
+    const bool over = dragOver_ && drop_.carries() == Carries::files;
+    if (std::exchange(filesOver_, over) == over) {
+        return;
+    }
+    if (over && !isOpen_) {
+        openForFiles();
+    }
+    Q_EMIT filesOverChanged();
 }
 
 void NotchController::onFiles(const QList<QUrl>& urls) {
@@ -183,6 +212,7 @@ void NotchController::collapse() {
     if (!isOpen_) {
         return;
     }
+    ++closings_;
     stripTicks_ = 0;
     closeWork_.reset();
     services_.window.returnFocus();

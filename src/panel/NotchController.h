@@ -33,6 +33,7 @@ class NotchController : public QObject {
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
     Q_PROPERTY(bool showsBar READ showsBar NOTIFY collapsedChanged)
     Q_PROPERTY(double notch READ notch NOTIFY collapsedChanged)
+    Q_PROPERTY(bool filesOver READ filesOver NOTIFY filesOverChanged)
     Q_PROPERTY(QSizeF collapsedSize READ collapsedSize NOTIFY collapsedChanged)
 
 public:
@@ -87,11 +88,22 @@ public:
     /// nowhere else.
     Q_INVOKABLE void setHovered(bool hovered);
 
-    /// A file drag has entered the panel's window: it opens to take it.
-    Q_INVOKABLE void onDragEnter();
+    /// A drag of another program has entered the panel's window: it opens once it is known to
+    /// carry files. False if it is known to carry none.
+    Q_INVOKABLE bool onDragEnter();
 
-    /// That drag was dropped on the panel; its files go to the shelf as they come.
-    Q_INVOKABLE void onDrop();
+    /// That drag has left, or was given up.
+    Q_INVOKABLE void onDragLeave();
+
+    /// It was dropped on the panel; its files go to the shelf as they come. False if there are
+    /// none.
+    Q_INVOKABLE bool onDrop();
+
+    /// Whether to accept the drag over the window: files, or not known yet.
+    Q_INVOKABLE bool mayCarryFiles();
+
+    /// Whether a drag with files is over the window.
+    [[nodiscard]] bool filesOver() const { return filesOver_; }
 
     /// Parks files and opens to show them.
     void onFiles(const QList<QUrl>& urls);
@@ -107,6 +119,7 @@ public:
 Q_SIGNALS:
     void isOpenChanged();
     void collapsedChanged();
+    void filesOverChanged();
     void settingsRequested();
 
 private:
@@ -132,6 +145,7 @@ private:
     void evaluateOpen(bool inZone, const PointerState& pointer);
     void evaluateCollapsed(bool inZone, const Screen& screen, const PointerState& pointer);
     void openForFiles();
+    void lookAtDrag();
     [[nodiscard]] bool isDragOn(const PointerState& pointer) const;
     [[nodiscard]] bool isFileDragNear(const Screen& screen, const PointerState& pointer) const;
     [[nodiscard]] bool isOver(const QRectF& area, const PointerState& pointer) const;
@@ -159,6 +173,9 @@ private:
     qint64 idleDragCount_ = 0; ///< The drag count last seen with no button down.
     bool awaitsLeave_ = false; ///< Dismissed under the pointer: hovering counts once it has left.
     bool hovered_ = false;
+    bool dragOver_ = false;    ///< One of another program is over the window.
+    bool filesOver_ = false;   ///< It is known to carry files.
+    int closings_ = 0;         ///< How often the open panel has been closed.
     bool unseenPress_ = false; ///< A button was down at a look between two ticks.
     Seen lastSeen_;
 

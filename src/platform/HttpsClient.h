@@ -23,6 +23,7 @@ struct HttpsRequest {
 struct HttpsAnswer {
     int status = 0; ///< As in RFC 9110, also one that redirects: no redirection is followed.
     QByteArray body;
+    QByteArray retryAfter; ///< The header of that name; empty if there is none.
 };
 
 /// Asks servers on the Internet, over TLS with certificates that the system trusts. Main thread.

@@ -3,14 +3,13 @@
 #include <QByteArray>
 #include <QImage>
 #include <QSize>
-#include <QString>
 
 #include <variant>
 
 namespace ravelo {
 
 struct PictureFile {
-    QString path;
+    QByteArray path; ///< As the system has it: in any encoding.
 };
 
 /// A file's contents, or what was copied.
@@ -26,6 +25,16 @@ struct PictureShape {
     int maxWidth;
 };
 
+/// What a picture is, by its beginning.
+struct PictureLook {
+    enum class Kind { none, good, tooManyPixels };
+
+    Kind kind = Kind::none;
+    QSize size = {}; ///< In pixels, upright.
+
+    [[nodiscard]] qint64 pixels() const { return qint64{size.width()} * size.height(); }
+};
+
 /// Reads pictures that others made, away from this process. They are PNG, JPEG, GIF, BMP, WebP,
 /// TIFF and HEIF, told by their contents; anything else, what is too large and what takes too long
 /// is no picture, and then what is returned is empty. Blocks, for seconds; any thread but the main
@@ -34,8 +43,14 @@ class ImageDecoder {
 public:
     virtual ~ImageDecoder() = default;
 
-    /// In pixels, upright. The quickest: hardly more than the beginning is read.
-    [[nodiscard]] virtual QSize size(const UntrustedPicture& picture) = 0;
+    /// The quickest: hardly more than the beginning is read.
+    [[nodiscard]] virtual PictureLook look(const UntrustedPicture& picture) = 0;
+
+    /// Empty if it is not a picture that can be read whole.
+    [[nodiscard]] QSize size(const UntrustedPicture& picture) {
+        const PictureLook seen = look(picture);
+        return seen.kind == PictureLook::Kind::good ? seen.size : QSize();
+    }
 
     /// Fills the shape and is cropped around its middle.
     [[nodiscard]] virtual QImage filling(const UntrustedPicture& picture, PictureShape shape) = 0;

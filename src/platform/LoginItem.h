@@ -10,6 +10,10 @@ public:
     virtual ~LoginItem() = default;
 
     [[nodiscard]] virtual bool isEnabled() const = 0;
+
+    /// Mends what was enabled but no longer works, say because the program has moved.
+    [[nodiscard]] virtual Result<void> repair() { return {}; }
+
     [[nodiscard]] virtual Result<void> setEnabled(bool enabled) = 0;
 };
 

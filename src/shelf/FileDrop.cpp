@@ -9,26 +9,27 @@
 
 namespace ravelo {
 
-FileDrop::FileDrop(DragMonitor& drags, FileTransfer& transfers,
-                   std::function<void(const QList<QUrl>&)> done)
-    : drags_(drags),
-      transfers_(transfers),
-      done_(std::move(done)),
-      answers_(drags.onChange([this] { look(); })) {}
+FileDrop::FileDrop(DragMonitor& drags, FileTransfer& transfers)
+    : drags_(drags), transfers_(transfers), answers_(drags.onChange([this] { look(); })) {}
 
-void FileDrop::expect() {
-    (void)drags_.files();
-    (void)drags_.transferKey();
+Carries FileDrop::carries() {
+    const auto files = drags_.files();
+    const auto key = drags_.transferKey();
+    if ((files && !files->isEmpty()) || (key && !key->isEmpty())) {
+        return Carries::files;
+    }
+    return files && key ? Carries::nothing : Carries::unknown;
 }
 
-void FileDrop::take() {
+void FileDrop::take(Done done) {
+    (void)carries(); // So that it is asked.
     Drop& drop = drops_.emplace_back();
-    drop.drag = drags_.changeCount();
+    drop.answers = drags_.answers();
     drop.loading = loadToShelf({[&drop](auto answer) {
                                    drop.answer = std::move(answer);
                                }},
-                               done_);
-    look();
+                               std::move(done));
+    look(drop);
 }
 
 void FileDrop::look() {
@@ -41,12 +42,7 @@ void FileDrop::look(Drop& drop) {
     if (drop.retrieving) {
         return;
     }
-    if (drop.drag != drags_.changeCount()) {
-        end(drop, {});
-        return;
-    }
-    const auto files = drags_.files();
-    const auto key = drags_.transferKey();
+    const auto& [files, key] = *drop.answers;
     if (files && key && key->isEmpty()) {
         end(drop, *files);
     } else if (files && key) {

@@ -7,31 +7,36 @@
 
 #include <functional>
 #include <list>
+#include <memory>
 
 namespace ravelo {
 
 class DragMonitor;
 class FileTransfer;
+struct DragAnswers;
 
-/// Gets the files of a drop on the panel. They may still be on their way when the button goes up:
-/// they are taken when they come, unless another drag has begun by then. Main thread.
+/// What a drag over our window carries, as far as its source has answered.
+enum class Carries { unknown, files, nothing };
+
+/// Gets the files of drops on the panel. They may still be on their way when the button goes up,
+/// and when the next drag begins. Main thread.
 class FileDrop {
 public:
-    /// Hands the files of each drop to `done`, never an empty list.
-    FileDrop(DragMonitor& drags, FileTransfer& transfers,
-             std::function<void(const QList<QUrl>&)> done);
+    using Done = std::function<void(const QList<QUrl>&)>;
 
-    /// The drag that is under way has entered a window of ours: its source is asked now, so that
-    /// the answer is there at the drop.
-    void expect();
+    FileDrop(DragMonitor& drags, FileTransfer& transfers);
 
-    /// The newest drag was dropped on us.
-    void take();
+    /// Of the newest drag. The first call asks its source, so that the answer is there at the drop.
+    [[nodiscard]] Carries carries();
+
+    /// The newest drag was dropped on us: hands its files to `done` once they are there, now or
+    /// later; never an empty list.
+    void take(Done done);
 
 private:
     /// One that is still without its files.
     struct Drop {
-        qint64 drag = 0; ///< The change count of the drag that was dropped.
+        std::shared_ptr<const DragAnswers> answers;
         std::function<void(const QList<QUrl>&)> answer;
         Handle retrieving; ///< Them, by a key.
         Handle loading;
@@ -43,7 +48,6 @@ private:
 
     DragMonitor& drags_;
     FileTransfer& transfers_;
-    std::function<void(const QList<QUrl>&)> done_;
     std::list<Drop> drops_;
     Handle answers_;
 };

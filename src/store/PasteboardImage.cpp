@@ -1,16 +1,16 @@
 #include "store/PasteboardImage.h"
 
-#include "base/UriList.h"
-#include "platform/ImageDecoder.h"
 #include "platform/Pasteboard.h"
 
-#include <QSysInfo>
+#include <algorithm>
 
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
+
+using Kind = PictureLook::Kind;
 
 constexpr auto pngType = "image/png"_L1;
 constexpr auto filesType = "text/uri-list"_L1;
@@ -37,41 +37,58 @@ QStringList candidates(const QStringList& offered) {
     return list;
 }
 
-bool looksGood(const QString& type, const QByteArray& bytes, ImageDecoder& decoder) {
-    if (type == pngType || bytes.isEmpty()) {
-        return !bytes.isEmpty();
+PictureLook lookAt(const QString& type, const QByteArray& bytes, ImageDecoder& decoder) {
+    if (bytes.isEmpty() || type == filesType) {
+        return {};
     }
-    return type != filesType && !decoder.size(bytes).isEmpty();
-}
-
-/// The first file of a list that is on this machine; empty where there is none.
-QString firstFile(const QByteArray& uriList) {
-    return localFiles(uriList, QSysInfo::machineHostName().toUtf8()).value(0).toLocalFile();
+    return type == pngType ? PictureLook{Kind::good} : decoder.look(bytes);
 }
 
 } // namespace
 
-QString nextImageType(const PasteboardSnapshot& contents, ImageDecoder& decoder) {
+QString nextImageType(const PasteboardSnapshot& contents, PictureLooks& looks,
+                      ImageDecoder& decoder) {
     for (const QString& type : candidates(contents.types)) {
         const auto answer = contents.answers.find(type);
         if (answer == contents.answers.end()) {
             return type;
         }
-        if (looksGood(type, answer->value_or(QByteArray()), decoder)) {
+        if (!looks.contains(type)) {
+            looks.insert(type, lookAt(type, answer->value_or(QByteArray()), decoder));
+        }
+        if (looks.value(type).kind == Kind::good) {
             return {};
         }
     }
     return {};
 }
 
-QByteArray pngImage(const PasteboardSnapshot& contents, ImageDecoder& decoder) {
+bool hasGoodImage(const PasteboardSnapshot& contents, const PictureLooks& looks) {
+    const bool hasFiles = !contents.answers.value(filesType).value_or(QByteArray()).isEmpty();
+    return hasFiles || std::ranges::any_of(
+                           looks, [](const PictureLook& look) { return look.kind == Kind::good; });
+}
+
+qint64 oversizedImage(const PasteboardSnapshot& contents, const PictureLooks& looks) {
+    qint64 largest = 0;
+    for (const QString& type : candidates(contents.types)) {
+        const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
+        const bool tooManyPixels = looks.value(type).kind == Kind::tooManyPixels;
+        largest = std::max({largest, contents.tooLarge.value(type),
+                            tooManyPixels ? qint64(bytes.size()) : qint64(0)});
+    }
+    return largest;
+}
+
+QByteArray pngImage(const PasteboardSnapshot& contents, const QByteArray& file,
+                    ImageDecoder& decoder) {
     for (const QString& type : candidates(contents.types)) {
         const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
         if (bytes.isEmpty()) {
             continue;
         }
         QByteArray png = type == pngType     ? bytes
-                         : type == filesType ? decoder.png(PictureFile{firstFile(bytes)})
+                         : type == filesType ? decoder.png(file)
                                              : decoder.png(bytes);
         if (!png.isEmpty()) {
             return png;

@@ -1,22 +1,37 @@
 #pragma once
 
+#include "platform/ImageDecoder.h"
+
 #include <QByteArray>
+#include <QHash>
 #include <QString>
 
 namespace ravelo {
 
-class ImageDecoder;
 struct PasteboardSnapshot;
+
+/// What the forms on a pasteboard are, by their types, as far as one was looked at.
+using PictureLooks = QHash<QString, PictureLook>;
 
 /// The reading plan for the image on a pasteboard: PNG, else TIFF, else any other picture, else
 /// the list of copied files. A form that gave nothing, or nothing that looks like a picture, is
-/// passed over for the next; empty once there is one or nothing is left to ask for. Any thread but
-/// the main one.
-[[nodiscard]] QString nextImageType(const PasteboardSnapshot& contents, ImageDecoder& decoder);
+/// passed over for the next; empty once there is one or nothing is left to ask for. Any thread
+/// but the main one; `looks` goes from one call of a reading to the next, and is then for those
+/// who may not ask the decoder.
+[[nodiscard]] QString nextImageType(const PasteboardSnapshot& contents, PictureLooks& looks,
+                                    ImageDecoder& decoder);
+
+/// Whether such a reading ended with a form worth keeping, or a list of files.
+[[nodiscard]] bool hasGoodImage(const PasteboardSnapshot& contents, const PictureLooks& looks);
+
+/// The size in bytes of the largest form that the adapter did not take, or that has more pixels
+/// than are kept; 0 where there is none.
+[[nodiscard]] qint64 oversizedImage(const PasteboardSnapshot& contents, const PictureLooks& looks);
 
 /// The image in what such a reading gave, as PNG: PNG bytes as they are, all else decoded and
-/// encoded again, also the first file of a list of copied files. Empty where there is none that can
-/// be decoded. Takes long and reads files: for the worker.
-[[nodiscard]] QByteArray pngImage(const PasteboardSnapshot& contents, ImageDecoder& decoder);
+/// encoded again. `file` is what is in the file of a list of copied files, see `copiedFile`. Empty
+/// if there is none that can be decoded. Takes long: for the worker.
+[[nodiscard]] QByteArray pngImage(const PasteboardSnapshot& contents, const QByteArray& file,
+                                  ImageDecoder& decoder);
 
 } // namespace ravelo

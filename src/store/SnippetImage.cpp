@@ -1,12 +1,11 @@
 #include "store/SnippetImage.h"
 
-#include "base/Files.h"
 #include "base/Scheduler.h"
 #include "platform/Pasteboard.h"
 #include "platform/Worker.h"
+#include "store/CopiedFile.h"
+#include "store/ImageFiles.h"
 #include "store/PasteboardImage.h"
-
-#include <QFile>
 
 #include <memory>
 #include <utility>
@@ -45,8 +44,9 @@ private:
     }
 
     [[nodiscard]] PasteboardPlan plan() const {
-        return [decoder = services_.decoder](const PasteboardSnapshot& contents) {
-            return nextImageType(contents, *decoder);
+        return [decoder = services_.decoder,
+                looks = std::make_shared<PictureLooks>()](const PasteboardSnapshot& contents) {
+            return nextImageType(contents, *looks, *decoder);
         };
     }
 
@@ -56,20 +56,37 @@ private:
                 if (const auto self = weak.lock()) {
                     self->change_.reset();
                     self->timeout_.reset();
-                    self->write(contents);
+                    self->readFile(contents);
                 }
             });
     }
 
-    void write(const PasteboardSnapshot& contents) {
+    void readFile(const PasteboardSnapshot& contents) {
+        const QByteArray path = copiedFile(contents);
+        if (path.isEmpty()) {
+            write(contents, {});
+            return;
+        }
+        file_ = readCopiedFile(services_.jobs, services_.scheduler, path,
+                               [weak = weak_from_this(), contents](const QByteArray& bytes) {
+                                   if (const auto self = weak.lock()) {
+                                       self->write(contents, bytes);
+                                   }
+                               });
+    }
+
+    void write(const PasteboardSnapshot& contents, const QByteArray& file) {
         const auto written = std::make_shared<bool>(false);
-        auto job = [path = path_, contents, written, decoder = services_.decoder] {
-            const QByteArray png = pngImage(contents, *decoder);
-            *written = !png.isEmpty() && writeFileAtomically(path, png);
+        auto job = [path = path_, contents, file, written, decoder = services_.decoder,
+                    mayWrite = services_.mayWrite] {
+            *written = writeImage(path, pngImage(contents, file, *decoder), mayWrite);
         };
         services_.worker.run(std::move(job), [self = shared_from_this(), written] {
             if (!self->done_) {
-                self->services_.worker.run([path = self->path_] { QFile::remove(path); });
+                self->services_.worker.run(
+                    [path = self->path_, mayWrite = self->services_.mayWrite] {
+                        removeImage(path, mayWrite);
+                    });
             } else {
                 self->finish(*written);
             }
@@ -85,6 +102,7 @@ private:
         change_.reset();
         timeout_.reset();
         reading_.reset();
+        file_.reset();
     }
 
     void finish(bool written) {
@@ -99,6 +117,7 @@ private:
     Handle change_;
     Handle timeout_;
     Handle reading_;
+    Handle file_;
 };
 
 } // namespace

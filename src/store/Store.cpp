@@ -1,24 +1,24 @@
 #include "store/Store.h"
 
-#include "base/FileUrl.h"
 #include "base/Files.h"
 #include "base/Scheduler.h"
-#include "base/UriList.h"
 #include "base/Uuid.h"
 #include "platform/AlertSound.h"
 #include "platform/Pasteboard.h"
 #include "platform/Preferences.h"
 #include "platform/Worker.h"
 #include "store/ClipHistory.h"
+#include "store/CopiedFile.h"
+#include "store/ImageFiles.h"
 #include "store/PasteboardImage.h"
 #include "store/Seeds.h"
+#include "store/ShelfPaths.h"
 #include "store/SnippetImage.h"
 #include "store/StoreFile.h"
 
 #include <QDir>
 #include <QFileInfo>
 #include <QPointer>
-#include <QUtf8StringView>
 
 #include <algorithm>
 #include <memory>
@@ -37,49 +37,13 @@ QString newImageFileName() {
     return uuidText(QUuid::createUuid()) + u".png"_s;
 }
 
-/// A path as it is, or an address where text cannot hold its bytes.
-QString stored(const QUrl& file) {
-    const QByteArray path = filePath(file);
-    return QString::fromUtf8(QUtf8StringView(path).isValidUtf8() ? path : fileAddress(file));
-}
-
-/// The opposite; an empty URL for what is neither.
-QUrl fromStored(const QString& text) {
-    return text.startsWith(u'/') ? fileUrl(text.toUtf8()) : localFiles(text.toUtf8(), {}).value(0);
-}
-
-QList<QList<QUrl>> existing(const QList<QStringList>& paths) {
-    QList<QList<QUrl>> stacks;
-    for (const QStringList& stack : paths) {
-        QList<QUrl> files;
-        for (const QString& path : stack) {
-            if (const QUrl url = fromStored(path); fileExists(filePath(url))) {
-                files.append(url);
-            }
-        }
-        if (!files.isEmpty()) {
-            stacks.append(std::move(files));
-        }
-    }
-    return stacks;
-}
-
-QList<QStringList> paths(const QList<QList<QUrl>>& stacks) {
-    QList<QStringList> all;
-    for (const QList<QUrl>& stack : stacks) {
-        QStringList& one = all.emplaceBack();
-        for (const QUrl& url : stack) {
-            one.append(stored(url));
-        }
-    }
-    return all;
-}
-
 } // namespace
 
 Store::Store(const QString& folder, Services services)
     : services_(services),
       folder_(QDir(folder).absolutePath()),
+      captures_({services.scheduler, services.worker, services.jobs}),
+      look_(services.jobs, services.scheduler),
       reminders_(Reminders::load(services.preferences)) {
     makePrivateFolder(folder_);
     makePrivateFolder(clipsDir());
@@ -131,13 +95,33 @@ void Store::setNote(const QString& note) {
 void Store::load() {
     const std::optional<QByteArray> bytes = readFile(fileURL());
     std::optional<StoreData> decoded = bytes ? decodeStore(*bytes) : std::nullopt;
+    file_ = std::make_shared<OwnFile>(
+        fileURL(), decoded ? OwnFile::Contents::ours : OwnFile::Contents::unreadable,
+        services_.mayWrite);
     if (!decoded) {
-        file_ = FileState::unreadable;
         return;
     }
     data_ = std::move(*decoded);
-    shelf_.stacks = existing(std::exchange(data_.shelfStacks, {}));
+    shelf_.stacks = shelfStacks(std::exchange(data_.shelfStacks, {}));
     save();
+    if (!shelf_.stacks.isEmpty()) {
+        parkedMeanwhile_.emplace();
+        look_.look(shelf_.files(), [this](const FileLook::Found& found) { dropGone(found); });
+    }
+    services_.worker.run(
+        [folder = folder_, named = imageNames(data_), now = services_.scheduler.now(),
+         mayWrite = services_.mayWrite] { removeOrphanedImages(folder, named, now, mayWrite); });
+}
+
+void Store::dropGone(const FileLook::Found& found) {
+    QSet<QUrl> gone;
+    for (const auto& [file, presence] : found.asKeyValueRange()) {
+        if (presence == Presence::gone && !parkedMeanwhile_->contains(file)) {
+            gone.insert(file);
+        }
+    }
+    parkedMeanwhile_.reset();
+    setShelf(shelf_.removed(gone));
 }
 
 void Store::addLinkSnippetsIfNeeded() {
@@ -154,19 +138,20 @@ void Store::addClip(const QString& text, Kept kept) {
         apply(ClipHistory::added(data_.clips, text, now));
         tellKept(text, kept);
     };
-    if (capturesOnTheirWay_ == 0) {
+    if (captures_.isEmpty()) {
         add();
     } else {
-        capture([] {}, std::move(add), [] {});
+        captures_.add(
+            {}, [](const QByteArray&) {}, unlessCleared(std::move(add), [] {}));
     }
 }
 
 void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept) {
     const QString name = newImageFileName();
     const auto written = std::make_shared<bool>(false);
-    auto job = [path = imagePath(name), contents, written, decoder = services_.decoder] {
-        const QByteArray png = pngImage(contents, *decoder);
-        *written = !png.isEmpty() && writeFileAtomically(path, png);
+    auto job = [path = imagePath(name), contents, written, decoder = services_.decoder,
+                mayWrite = services_.mayWrite](const QByteArray& file) {
+        *written = writeImage(path, pngImage(contents, file, *decoder), mayWrite);
     };
     auto add = [this, name, written, kept = std::move(kept), now = services_.scheduler.now()] {
         if (*written) {
@@ -176,7 +161,8 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept) {
             }
         }
     };
-    capture(std::move(job), std::move(add), [this, name] { removeImages({name}); });
+    captures_.add(copiedFile(contents), std::move(job),
+                  unlessCleared(std::move(add), [this, name] { removeImages({name}); }));
 }
 
 /// The newest unpinned clip is the one, unless it is an image, which has a text too.
@@ -188,17 +174,15 @@ void Store::tellKept(const QString& text, const Kept& kept) const {
     }
 }
 
-/// Runs `job` on the worker and then `add`, or `discard` where the history was cleared meanwhile.
-void Store::capture(std::function<void()> job, std::function<void()> add,
-                    std::function<void()> discard) {
-    ++capturesOnTheirWay_;
-    services_.worker.run(std::move(job), [store = QPointer(this), clearings = clearings_,
-                                          add = std::move(add), discard = std::move(discard)] {
+/// `add`, or `discard` if the history was cleared meanwhile.
+std::function<void()> Store::unlessCleared(std::function<void()> add,
+                                           std::function<void()> discard) {
+    return [store = QPointer(this), clearings = clearings_, add = std::move(add),
+            discard = std::move(discard)] {
         if (store) {
-            --store->capturesOnTheirWay_;
             store->clearings_ == clearings ? add() : discard();
         }
-    });
+    };
 }
 
 void Store::apply(std::optional<ClipChange> change) {
@@ -213,7 +197,9 @@ void Store::apply(std::optional<ClipChange> change) {
 
 void Store::removeImages(const QStringList& imageFileNames) {
     for (const QString& name : imageFileNames) {
-        services_.worker.run([path = imagePath(name)] { QFile::remove(path); });
+        services_.worker.run([path = imagePath(name), mayWrite = services_.mayWrite] {
+            removeImage(path, mayWrite);
+        });
     }
 }
 
@@ -260,6 +246,9 @@ void Store::removeSnippet(const QUuid& id) {
 }
 
 void Store::addToShelf(const QList<QUrl>& urls) {
+    if (parkedMeanwhile_) { // It may be there again.
+        parkedMeanwhile_->unite({urls.begin(), urls.end()});
+    }
     if (auto shelf = shelf_.added(urls)) {
         setShelf(std::move(*shelf));
     }
@@ -360,26 +349,37 @@ void Store::write() {
         return;
     }
     retry_.reset();
-    const auto done = std::make_shared<bool>(false);
-    auto job = [done, path = fileURL(), snapshot = std::move(*unsaved_),
-                file = std::exchange(file_, FileState::ours)]() mutable {
-        if (file == FileState::unreadable) {
-            setAsideUnreadable(path);
-        }
-        snapshot.data.shelfStacks = paths(snapshot.stacks);
-        makePrivateFolder(QFileInfo(path).path()); // It may have been removed meanwhile.
-        *done = writeFileAtomically(path, encodeStore(snapshot.data));
+    const auto outcome = std::make_shared<SaveOutcome>();
+    auto job = [outcome, file = file_, snapshot = std::move(*unsaved_)]() mutable {
+        snapshot.data.shelfStacks = shelfPaths(snapshot.stacks);
+        *outcome = file->write(encodeStore(snapshot.data));
     };
     unsaved_.reset();
-    services_.worker.run(std::move(job), [store = QPointer(this), done] {
-        if (store && !*done) {
-            store->retry_ =
-                store->services_.scheduler.after(retryDelay, [store] { store->save(); });
+    services_.worker.run(std::move(job), [store = QPointer(this), outcome] {
+        if (store) {
+            store->written(*outcome);
         }
     });
 }
 
+void Store::written(const SaveOutcome& outcome) {
+    if (!outcome.putAside.isEmpty()) {
+        putAsidePath_ = outcome.putAside;
+        Q_EMIT putAside(outcome.putAside);
+    }
+    if (outcome.kind == SaveOutcome::Kind::failed) {
+        retry_ = services_.scheduler.after(retryDelay, [this] { save(); });
+    }
+    saveFailure_ = outcome.reason;
+    if (outcome.kind == SaveOutcome::Kind::saved) {
+        Q_EMIT saved();
+    } else {
+        Q_EMIT saveFailed(outcome.reason);
+    }
+}
+
 void Store::flush() {
+    captures_.stopReading();
     if (retry_) {
         save();
     }

@@ -1,7 +1,10 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "base/OwnFile.h"
+#include "shelf/FileLook.h"
 #include "shelf/Shelf.h"
+#include "store/Captures.h"
 #include "store/Records.h"
 #include "timer/FocusTimer.h"
 #include "timer/Reminders.h"
@@ -16,6 +19,7 @@
 namespace ravelo {
 
 class AlertSound;
+class DetachedJobs;
 class ImageDecoder;
 class Pasteboard;
 class Preferences;
@@ -27,7 +31,7 @@ struct PasteboardSnapshot;
 /// The one observable store that every view reads: clips, snippets, notes, sketch and shelf, the
 /// focus timer and the reminders. The timer ends with the program; the reminders are preferences.
 /// Setting a note never saves by itself; the operations do. Saves are debounced and written by the
-/// worker. Failures are silent: what is in memory stays and is written by the next save.
+/// worker. What could not be saved stays in memory and is saved again later, or by the next save.
 /// Main thread only.
 class Store : public QObject {
     Q_OBJECT
@@ -48,10 +52,14 @@ public:
         Preferences& preferences;
         Pasteboard& pasteboard;
         AlertSound& sound;
+        DetachedJobs& jobs;
         std::shared_ptr<ImageDecoder> decoder; ///< Jobs hold it, too.
+        OwnFile::Permission mayWrite = {};     ///< Asked before each change of a file.
     };
 
-    /// Loads "store.json" from `folder` (made if missing, 0700) and seeds the snippets.
+    /// Loads "store.json" from `folder` (made if missing, 0700) and seeds the snippets. Parked
+    /// files that are gone leave the shelf, and images that nothing names their folder, a little
+    /// later.
     Store(const QString& folder, Services services);
 
     /// Drops what is not written yet; see `flush`.
@@ -144,11 +152,20 @@ public:
     /// Schedules a write of the whole store, 0.4 s after the last of a burst of calls.
     Q_INVOKABLE void save();
 
-    /// Writes what is pending now and waits for it, with the images that are on their way. For the
-    /// end of the program; needs no event loop.
+    /// Why the last save failed, in words fit for the user; empty if it did not.
+    [[nodiscard]] const QString& saveFailure() const { return saveFailure_; }
+
+    /// Where a store file that could not be read is kept; empty as long as none was put aside.
+    [[nodiscard]] const QString& putAsidePath() const { return putAsidePath_; }
+
+    /// Writes what is pending now and waits for it, with the images that are on their way, but for
+    /// copied files that are still being read. For the end of the program; needs no event loop.
     void flush();
 
 Q_SIGNALS:
+    void saved();
+    void saveFailed(const QString& reason);
+    void putAside(const QString& path); ///< The store file could not be read and is kept there.
     void cleared(); ///< The user wants all of it gone, also what is still being read.
     void clipsChanged();
     void snippetsChanged();
@@ -159,9 +176,6 @@ Q_SIGNALS:
     void remindersChanged();
 
 private:
-    /// Whether the file on disk is one of ours or has to be kept for the user to look into.
-    enum class FileState { ours, unreadable };
-
     /// What is to be written; the paths of the shelf are made of it when it is.
     struct Snapshot {
         StoreData data;
@@ -170,12 +184,14 @@ private:
 
     void load();
     void addLinkSnippetsIfNeeded();
-    void capture(std::function<void()> job, std::function<void()> add,
-                 std::function<void()> discard);
+    void dropGone(const FileLook::Found& found);
+    [[nodiscard]] std::function<void()> unlessCleared(std::function<void()> add,
+                                                      std::function<void()> discard);
     void apply(std::optional<ClipChange> change);
     void tellKept(const QString& text, const Kept& kept) const; ///< For a text.
     void setShelf(Shelf shelf);
     void write();
+    void written(const SaveOutcome& outcome);
     void finishTimer();
     void tell(void (Store::*changed)()); ///< A signal, and then `onTimerChange`.
 
@@ -184,9 +200,13 @@ private:
     StoreData data_; ///< But for its shelf, which is `shelf_`.
     Shelf shelf_;
     int shelfRequestTick_ = 0;
-    FileState file_ = FileState::ours;
-    int capturesOnTheirWay_ = 0;
+    std::shared_ptr<OwnFile> file_; ///< The worker's.
+    QString saveFailure_;
+    QString putAsidePath_;
+    Captures captures_;
     int clearings_ = 0; ///< Tells captures from before the last clearing from later ones.
+    FileLook look_;
+    std::optional<QSet<QUrl>> parkedMeanwhile_; ///< While the parked files are looked for.
     std::optional<Snapshot> unsaved_;
     Handle pendingSave_;
     Handle retry_; ///< Of a save that failed.

@@ -2,6 +2,9 @@
 
 #include "store/Store.h"
 
+#include <algorithm>
+#include <utility>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -10,6 +13,8 @@ namespace {
 
 /// More than any panel is wide; a clip may be megabytes long.
 constexpr qsizetype titleLength = 1000;
+
+constexpr Seconds justNow(60);
 
 QString title(const ClipItem& clip) {
     if (clip.kind == ClipKind::image) {
@@ -33,7 +38,12 @@ QString icon(ClipKind kind) {
 } // namespace
 
 ClipListModel::ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale)
-    : store_(store), scheduler_(scheduler), textSearch_(locale), relativeDate_(locale) {
+    : store_(store),
+      scheduler_(scheduler),
+      textSearch_(locale),
+      relativeDate_(locale),
+      locale_(locale) {
+    connect(&store, &Store::cleared, this, &ClipListModel::dismissTooLarge);
     connect(&store, &Store::clipsChanged, this, &ClipListModel::update);
     update();
 }
@@ -49,7 +59,7 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
     case titleRole:
         return title(clip);
     case iconRole:
-        return icon(clip.kind);
+        return isTooLarge(clip) ? u"exclamationmark.circle"_s : icon(clip.kind);
     case pinnedRole:
         return clip.pinned;
     case subtitleRole:
@@ -77,6 +87,18 @@ void ClipListModel::setSearch(const QString& search) {
     update();
 }
 
+void ClipListModel::setTooLarge(const TooLargeCopy& copy) {
+    tooLarge_ = {
+        copy,
+        {QUuid::createUuid(), u"Too large to keep"_s, ClipKind::text, scheduler_.now(), false, {}}};
+    update();
+}
+
+void ClipListModel::dismissTooLarge() {
+    tooLarge_.reset();
+    update();
+}
+
 void ClipListModel::refreshDates() {
     if (count() > 0) {
         Q_EMIT dataChanged(index(0), index(count() - 1), {subtitleRole});
@@ -93,11 +115,21 @@ void ClipListModel::update() {
     if (count() != before) {
         Q_EMIT countChanged();
     }
+    const auto row =
+        std::ranges::find_if(rows(), [this](const ClipItem& one) { return isTooLarge(one); });
+    const int now = row == rows().end() ? -1 : static_cast<int>(row - rows().begin());
+    if (std::exchange(tooLargeRow_, now) != now) {
+        Q_EMIT tooLargeRowChanged();
+    }
 }
 
 QList<ClipItem> ClipListModel::found() {
     if (search_.isEmpty()) {
-        return store_.clips();
+        QList<ClipItem> all = store_.clips();
+        if (tooLarge_) {
+            all.insert(std::ranges::find(all, false, &ClipItem::pinned), tooLarge_->record);
+        }
+        return all;
     }
     QList<ClipItem> found;
     for (const ClipItem& clip : store_.clips()) {
@@ -109,8 +141,18 @@ QList<ClipItem> ClipListModel::found() {
 }
 
 QString ClipListModel::subtitle(const ClipItem& clip) const {
-    const QString ago = relativeDate_.text(clip.date, scheduler_.now());
+    const Date now = scheduler_.now();
+    const QString ago = relativeDate_.text(clip.date, now);
+    if (tooLarge_ && isTooLarge(clip)) {
+        const bool recent = now.sinceReference - clip.date.sinceReference < justNow.count();
+        return tooLargeDetail(tooLarge_->copy, locale_) + u" \u00b7 "_s +
+               (recent ? u"just now"_s : ago);
+    }
     return clip.pinned ? u"Pinned \u00b7 "_s + ago : ago;
+}
+
+bool ClipListModel::isTooLarge(const ClipItem& row) const {
+    return tooLarge_ && row.id == tooLarge_->record.id;
 }
 
 } // namespace ravelo

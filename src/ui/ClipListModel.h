@@ -5,21 +5,26 @@
 #include "ui/KeyedListModel.h"
 #include "ui/RelativeDate.h"
 #include "ui/TextSearch.h"
+#include "ui/TooLarge.h"
 
 #include <QQmlEngine>
+
+#include <optional>
 
 namespace ravelo {
 
 class Store;
 
 /// The clipboard history as the panel lists it: those clips that contain `search`, in the store's
-/// order. Main thread.
+/// order, and below the pinned ones a row that tells of a copy too large to keep. Main thread.
 class ClipListModel : public KeyedListModel<ClipItem> {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("the panel has one")
     Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY searchChanged)
     Q_PROPERTY(int count READ count NOTIFY countChanged)
+    /// -1 if there is none.
+    Q_PROPERTY(int tooLargeRow READ tooLargeRow NOTIFY tooLargeRowChanged)
 
 public:
     enum Role {
@@ -42,6 +47,13 @@ public:
 
     [[nodiscard]] int count() const { return rowCount(); }
 
+    [[nodiscard]] int tooLargeRow() const { return tooLargeRow_; }
+
+    /// In place of the one before. Not searched for, never stored, gone when the history is
+    /// cleared.
+    void setTooLarge(const TooLargeCopy& copy);
+    Q_INVOKABLE void dismissTooLarge();
+
     /// Tells every date anew, relative to the present moment.
     void refreshDates();
 
@@ -51,17 +63,28 @@ public:
 Q_SIGNALS:
     void searchChanged();
     void countChanged();
+    void tooLargeRowChanged();
 
 private:
     void update();
     [[nodiscard]] QList<ClipItem> found();
     [[nodiscard]] QString subtitle(const ClipItem& clip) const;
+    [[nodiscard]] bool isTooLarge(const ClipItem& row) const;
+
+    /// Its row has a record of its own, which no store knows.
+    struct TooLargeRow {
+        TooLargeCopy copy;
+        ClipItem record;
+    };
 
     Store& store_;
     const Scheduler& scheduler_;
     TextSearch textSearch_;
     RelativeDate relativeDate_;
+    QLocale locale_;
     QString search_;
+    std::optional<TooLargeRow> tooLarge_;
+    int tooLargeRow_ = -1;
 };
 
 } // namespace ravelo

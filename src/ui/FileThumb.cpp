@@ -1,10 +1,13 @@
 #include "ui/FileThumb.h"
 
+#include "base/FileUrl.h"
+#include "base/Files.h"
 #include "platform/FileIcons.h"
 #include "platform/ImageDecoder.h"
 #include "ui/FilePage.h"
 #include "ui/ThumbnailProvider.h"
 
+#include <QFile>
 #include <QFileInfo>
 #include <QMimeDatabase>
 #include <QPainter>
@@ -33,11 +36,12 @@ PictureShape previewShape(double scale) {
 }
 
 /// By the name alone, the most special first.
-QStringList iconNames(const QString& path) {
-    if (QFileInfo(path).isDir()) {
+QStringList iconNames(const QUrl& file) {
+    if (isFolder(filePath(file))) {
         return {u"inode-directory"_s, u"folder"_s};
     }
-    const QMimeType type = QMimeDatabase().mimeTypeForFile(path, QMimeDatabase::MatchExtension);
+    const QMimeType type =
+        QMimeDatabase().mimeTypeForFile(file.fileName(), QMimeDatabase::MatchExtension);
     return {type.iconName(), type.genericIconName()};
 }
 
@@ -52,10 +56,9 @@ QImage centred(const QImage& image, int size) {
 } // namespace
 
 QImage fileThumb(const QUrl& file, double scale, const FileIcons& icons, ImageDecoder& decoder) {
-    const QString path = file.toLocalFile();
-    const QString extension = QFileInfo(path).suffix().toLower();
+    const QString extension = QFileInfo(file.fileName()).suffix().toLower();
     if (std::ranges::find(imageExtensions, extension) != imageExtensions.end()) {
-        const QImage preview = decoder.filling(PictureFile{path}, previewShape(scale));
+        const QImage preview = decoder.filling(PictureFile{filePath(file)}, previewShape(scale));
         if (!preview.isNull()) {
             return rounded(preview, previewRadius * scale);
         }
@@ -73,15 +76,14 @@ QUrl fileOfThumb(const QString& name) {
 }
 
 QImage fileIcon(const QUrl& file, int size, const FileIcons& icons, ImageDecoder& decoder) {
-    const QString path = file.toLocalFile();
-    const QString found = icons.find(iconNames(path), size);
+    const QString found = icons.find(iconNames(file), size);
     if (!found.isEmpty()) {
-        const QImage icon = decoder.icon(PictureFile{found}, size);
+        const QImage icon = decoder.icon(PictureFile{QFile::encodeName(found)}, size);
         if (!icon.isNull()) {
             return centred(icon, size);
         }
     }
-    return filePage(QFileInfo(path).suffix(), size);
+    return filePage(QFileInfo(file.fileName()).suffix(), size);
 }
 
 } // namespace ravelo

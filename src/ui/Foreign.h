@@ -1,5 +1,6 @@
 #pragma once
 
+#include "notices/Notices.h"
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
@@ -29,6 +30,13 @@ struct ForeignUpdater {
     Q_GADGET
     QML_FOREIGN(ravelo::Updater)
     QML_NAMED_ELEMENT(Updater)
+    QML_UNCREATABLE("the program has one")
+};
+
+struct ForeignNotices {
+    Q_GADGET
+    QML_FOREIGN(ravelo::Notices)
+    QML_NAMED_ELEMENT(Notices)
     QML_UNCREATABLE("the program has one")
 };
 

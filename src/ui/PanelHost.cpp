@@ -25,13 +25,15 @@ const Record* findById(const QList<Record>& records, const QUuid& id) {
 
 PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
     : subjects_(subjects),
+      locale_(locale),
       clips_(subjects.store, subjects.scheduler, locale),
       snippets_(subjects.store, locale),
       snippetEditor_(subjects.store),
       focusControls_(subjects.store, subjects.preferences),
       pasting_(subjects.pasteboard),
       toast_(subjects.scheduler),
-      shelf_(subjects.store, subjects.jobs),
+      links_(subjects.opener, subjects.scheduler, toast_),
+      shelf_(subjects.store, subjects.jobs, subjects.scheduler),
       received_(subjects.received, subjects.scheduler, locale),
       sending_(subjects.nearby, toast_),
       fileDrag_(subjects.jobs, subjects.icons, subjects.decoder),
@@ -49,6 +51,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
             clips_.refreshDates(); // Or the rows beside the new one would seem younger.
         }
     });
+    connect(&links_, &LinkOpening::opened, controller(), &NotchController::dismiss);
     connect(store(), &Store::shelfChanged, this, &PanelHost::shelfChanged);
     connect(&subjects.usage, &PlanUsage::changed, this, [this] {
         if (controller()->isOpen()) {
@@ -105,9 +108,15 @@ void PanelHost::copyLastShelf() {
 
 void PanelHost::openLink(const QUuid& id) {
     const ClipItem* clip = findById(store()->clips(), id);
-    if (clip != nullptr && clip->kind == ClipKind::url) {
-        subjects_.opener.open(QUrl(clip->text.trimmed()));
-        controller()->dismiss();
+    if (clip != nullptr) {
+        links_.open(*clip);
+    }
+}
+
+void PanelHost::tellTooLarge(const TooLargeCopy& copy) {
+    clips_.setTooLarge(copy);
+    if (controller()->isOpen()) {
+        toast_.flash(tooLargeMessage(copy, locale_));
     }
 }
 
@@ -159,6 +168,8 @@ void PanelHost::startAnew() {
     shelfRequestsSeen_ = store()->shelfRequestTick();
     toast_.reset();
     clips_.setSearch({});
+    clips_.dismissTooLarge();
+    links_.reset();
     snippets_.setSearch({});
     snippetEditor_.cancel();
     focusControls_.reload();

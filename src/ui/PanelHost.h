@@ -2,12 +2,14 @@
 
 #include "base/Scheduler.h"
 #include "monitor/PlanUsage.h"
+#include "notices/Notices.h"
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "ui/ClipListModel.h"
 #include "ui/FileDrag.h"
 #include "ui/FocusControls.h"
+#include "ui/LinkOpening.h"
 #include "ui/PanelBackground.h"
 #include "ui/Pasting.h"
 #include "ui/ReceivedModel.h"
@@ -17,6 +19,7 @@
 #include "ui/SnippetListModel.h"
 #include "ui/TimerFace.h"
 #include "ui/Toast.h"
+#include "ui/TooLarge.h"
 #include "ui/Usage.h"
 
 #include <QObject>
@@ -39,6 +42,8 @@ class PanelHost : public QObject {
     Q_PROPERTY(ravelo::Store* store READ store CONSTANT)
     Q_PROPERTY(ravelo::AppSettings* settings READ settings CONSTANT)
     Q_PROPERTY(ravelo::NotchController* controller READ controller CONSTANT)
+    Q_PROPERTY(ravelo::Notices* notices READ notices CONSTANT)
+    Q_PROPERTY(ravelo::LinkOpening* links READ links CONSTANT)
     Q_PROPERTY(ravelo::ClipListModel* clips READ clips CONSTANT)
     Q_PROPERTY(ravelo::SnippetListModel* snippets READ snippets CONSTANT)
     Q_PROPERTY(ravelo::SnippetEditor* snippetEditor READ snippetEditor CONSTANT)
@@ -65,6 +70,7 @@ public:
         Store& store;
         AppSettings& settings;
         NotchController& controller;
+        Notices& notices;
         Pasteboard& pasteboard;
         Scheduler& scheduler;
         Preferences& preferences;
@@ -86,6 +92,10 @@ public:
     [[nodiscard]] AppSettings* settings() const { return &subjects_.settings; }
 
     [[nodiscard]] NotchController* controller() const { return &subjects_.controller; }
+
+    [[nodiscard]] Notices* notices() const { return &subjects_.notices; }
+
+    [[nodiscard]] LinkOpening* links() { return &links_; }
 
     [[nodiscard]] ClipListModel* clips() { return &clips_; }
 
@@ -135,6 +145,10 @@ public:
 
     [[nodiscard]] UsageLine week() const { return weekLine_; }
 
+    /// Says that a copy was not kept: by a row in the panel, at once or at its next opening, which
+    /// goes when the panel closes, and by a toast if the panel is open.
+    void tellTooLarge(const TooLargeCopy& copy);
+
     /// The window has got this size.
     void windowResized(QSizeF size);
 
@@ -144,7 +158,7 @@ public:
     /// Copies the file that was parked last; nothing where none is.
     Q_INVOKABLE void copyLastShelf();
 
-    /// Opens a link in the user's browser and closes the panel; nothing for a clip of another kind.
+    /// As LinkOpening has it; closes the panel if it is opened.
     Q_INVOKABLE void openLink(const QUuid& id);
 
     Q_INVOKABLE void startNightShift();
@@ -175,12 +189,14 @@ private:
     [[nodiscard]] QSizeF sizeToOpenWith() const;
 
     Subjects subjects_;
+    QLocale locale_;
     ClipListModel clips_;
     SnippetListModel snippets_;
     SnippetEditor snippetEditor_;
     FocusControls focusControls_;
     Pasting pasting_;
     Toast toast_;
+    LinkOpening links_;
     ShelfContents shelf_;
     ReceivedModel received_;
     Sending sending_;

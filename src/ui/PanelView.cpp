@@ -6,6 +6,7 @@
 #include "ui/ThumbnailProvider.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QQmlEngine>
 
@@ -42,7 +43,7 @@ QQuickImageProvider* clipThumbs(const QDir& folder, const std::shared_ptr<ImageD
     return new ThumbnailProvider([folder, decoder](const QString& name, QSize size) {
         const double radius = name.section(u'/', 0, 0).toDouble();
         const QString file = QFileInfo(name.section(u'/', 1)).fileName();
-        return rounded(decoder->filling(PictureFile{folder.filePath(file)},
+        return rounded(decoder->filling(PictureFile{QFile::encodeName(folder.filePath(file))},
                                         {size.height(), size.width(), size.width()}),
                        radius);
     });

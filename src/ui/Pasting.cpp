@@ -1,6 +1,7 @@
 #include "ui/Pasting.h"
 
 #include "platform/Pasteboard.h"
+#include "ui/ExactText.h"
 
 #include <QPointer>
 
@@ -15,8 +16,8 @@ QString textOnly(const PasteboardSnapshot& seen) {
     return wanted ? QString(plainTextType) : QString();
 }
 
-QString withBreaks(QString text, QChar lineBreak) {
-    return text.replace(u"\r\n"_s, u"\n"_s).replace(u'\r', u'\n').replace(u'\n', lineBreak);
+QString inOneLine(QString text) {
+    return text.replace(u"\r\n"_s, u" "_s).replace(u'\r', u' ').replace(u'\n', u' ');
 }
 
 void replaceSelection(QQuickItem& field, const QString& text) {
@@ -39,7 +40,12 @@ void Pasting::into(QQuickItem* field, Lines lines) {
             return;
         }
         const QString text = QString::fromUtf8(*bytes);
-        replaceSelection(*target, withBreaks(text, lines == OneLine ? u' ' : u'\n'));
+        if (lines == OneLine) {
+            replaceSelection(*target, inOneLine(text));
+        } else {
+            replaceSelection(*target,
+                             *target->property("textDocument").value<QQuickTextDocument*>(), text);
+        }
     });
 }
 

@@ -26,9 +26,9 @@ public:
     enum Lines { OneLine, ManyLines };
     Q_ENUM(Lines)
 
-    /// Puts the text that is on the pasteboard in the place of the selection of `field` (a
-    /// TextInput or TextEdit), as soon as it comes. A line break becomes a space in a field of one
-    /// line.
+    /// Replaces the selection of `field` by the text that is on the pasteboard, as soon as it
+    /// comes. A field of one line (a TextInput) gets a space for each line break, one of many lines
+    /// (a TextEdit) gets the text as it is.
     Q_INVOKABLE void into(QQuickItem* field, ravelo::Pasting::Lines lines);
 
 private:

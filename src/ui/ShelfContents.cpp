@@ -1,13 +1,9 @@
 #include "ui/ShelfContents.h"
 
-#include "base/FileUrl.h"
-#include "base/Files.h"
-#include "platform/DetachedJobs.h"
 #include "store/Store.h"
 
 #include <QScopedValueRollback>
 
-#include <memory>
 #include <utility>
 
 namespace ravelo {
@@ -19,11 +15,11 @@ namespace {
 /// How far beyond what is in sight there are tiles already.
 constexpr double ahead = 120;
 
-/// Not for the main thread.
-QSet<QUrl> missingOf(const QList<QUrl>& files) {
+/// What cannot be told is as little to be had as what is gone.
+QSet<QUrl> missingOf(const FileLook::Found& found) {
     QSet<QUrl> missing;
-    for (const QUrl& file : files) {
-        if (!fileExists(filePath(file))) {
+    for (const auto& [file, presence] : found.asKeyValueRange()) {
+        if (presence != Presence::there) {
             missing.insert(file);
         }
     }
@@ -42,7 +38,8 @@ QStringList idsOf(const QList<QUrl>& files) {
 
 } // namespace
 
-ShelfContents::ShelfContents(Store& store, DetachedJobs& jobs) : store_(store), jobs_(jobs) {
+ShelfContents::ShelfContents(Store& store, DetachedJobs& jobs, Scheduler& scheduler)
+    : store_(store), look_(jobs, scheduler) {
     connect(&store, &Store::shelfChanged, this, &ShelfContents::update);
     update();
 }
@@ -67,21 +64,21 @@ QString ShelfContents::selectText() const {
 }
 
 void ShelfContents::lookForMissing() {
-    if (looking_) { // It may hang for ever: one at a time.
+    if (looking_) { // The files that it asks for now would count as hanging.
         lookAgain_ = true;
         return;
     }
-    const auto missing = std::make_shared<QSet<QUrl>>();
-    looking_ = jobs_.run([missing, files = files_] { *missing = missingOf(files); },
-                         [this, missing] {
-                             looking_.reset();
-                             if (std::exchange(lookAgain_, false)) {
-                                 lookForMissing();
-                             }
-                             if (std::exchange(missing_, *missing) != *missing) {
-                                 showSight();
-                             }
-                         });
+    looking_ = true;
+    look_.look(files_, [this](const FileLook::Found& found) {
+        const QSet<QUrl> missing = missingOf(found);
+        looking_ = false;
+        if (std::exchange(lookAgain_, false)) {
+            lookForMissing();
+        }
+        if (std::exchange(missing_, missing) != missing) {
+            showSight();
+        }
+    });
 }
 
 void ShelfContents::lay(double width) {

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "base/Handle.h"
+#include "shelf/FileLook.h"
 #include "ui/ShelfLayout.h"
 #include "ui/ShelfModels.h"
 
@@ -11,6 +11,7 @@
 namespace ravelo {
 
 class DetachedJobs;
+class Scheduler;
 class Store;
 
 /// The parked files as the panel shows them and what can be done with them. Only those in sight
@@ -29,7 +30,7 @@ class ShelfContents : public QObject {
     Q_PROPERTY(bool parking READ isParking CONSTANT)
 
 public:
-    ShelfContents(Store& store, DetachedJobs& jobs);
+    ShelfContents(Store& store, DetachedJobs& jobs, Scheduler& scheduler);
 
     [[nodiscard]] ShelfTiles* tiles() { return &tiles_; }
 
@@ -51,7 +52,7 @@ public:
     /// scrolled into sight.
     [[nodiscard]] bool isParking() const { return parking_; }
 
-    /// Looks for files that are gone. The answer comes later, or never.
+    /// Looks for files that are gone or cannot be told. The answer comes later.
     Q_INVOKABLE void lookForMissing();
 
     /// There is so much room for the tiles, in logical pixels.
@@ -88,7 +89,7 @@ private:
     [[nodiscard]] bool isAllSelected() const;
 
     Store& store_;
-    DetachedJobs& jobs_;
+    FileLook look_;
     ShelfTiles tiles_;
     ShelfTrays trays_;
     QList<QUrl> files_;
@@ -99,8 +100,8 @@ private:
     double top_ = 0;
     double bottom_ = 0;
     bool parking_ = false;
+    bool looking_ = false;
     bool lookAgain_ = false;
-    Handle looking_;
 };
 
 } // namespace ravelo

@@ -31,8 +31,11 @@ TEST(CommandLine, IsUnderstood) {
 
     const Case cases[] = {
         {{}, {Kind::ask, {u"show"_s}, {}, IfNoneRuns::start}},
+        {{"-session", "1_2"}, {Kind::ask, {u"restore"_s}, {}, IfNoneRuns::start}},
         {{"--toggle"}, {Kind::ask, {u"toggle"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--settings"}, {Kind::ask, {u"settings"_s}, {}, IfNoneRuns::startAndAsk}},
+        {{"--take-over"},
+         {Kind::ask, {u"show"_s}, {}, IfNoneRuns::start, DataLock::Claim::takeOver}},
         {{"--setup"}, {Kind::ask, {u"setup"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--updates"}, {Kind::ask, {u"updates"_s}, {}, IfNoneRuns::startAndAsk}},
         {{"--quit"}, asks({u"quit"_s})},
@@ -64,6 +67,7 @@ TEST(CommandLine, NamesWhatMakesNoSense) {
 
     const Case cases[] = {
         {{"--nonsense"}, u"--nonsense"_s},
+        {{"-session"}, u"-session"_s},
         {{"--quit", "now"}, u"now"_s},
         {{"a", "--toggle"}, u"--toggle"_s},
         {{"--"}, u"no files"_s},

@@ -1,5 +1,6 @@
 #include "app/Commands.h"
 
+#include "base/FileUrl.h"
 #include "fakes/PanelWorld.h"
 #include "fakes/UsageWorld.h"
 #include "monitor/LiveContext.h"
@@ -148,8 +149,37 @@ TEST_F(CommandsTest, ParksFilesAndListsThem) {
               "{\"path\":\"/d\",\"selected\":true,\"stack\":1}]}\n");
 }
 
+TEST_F(CommandsTest, ListsPathsThatAreNoText) {
+    world_.store.addToShelf({fileUrl("/\xe4 b")});
+    EXPECT_EQ(answer({u"shelf"_s, u"list"_s}).output, "/\xe4 b\n");
+    EXPECT_EQ(answer({u"shelf"_s, u"list"_s, u"--null"_s}).output, QByteArray("/\xe4 b\0", 5));
+    EXPECT_EQ(answer({u"shelf"_s, u"list"_s, u"--json"_s}).output,
+              "{\"files\":[{\"path\":\"/\uFFFD b\",\"selected\":true,\"stack\":0,"
+              "\"uri\":\"file:///%E4%20b\"}]}\n");
+}
+
+TEST_F(CommandsTest, ParksNoMoreFilesThanCanBeMeant) {
+    QStringList request = {u"open"_s};
+    for (int i = 0; i < 1000; ++i) {
+        request.append(u"/%1"_s.arg(i));
+    }
+    EXPECT_EQ(answer(request), Answer());
+    EXPECT_EQ(world_.store.shelf().files().size(), 1000);
+    const Answer refused = answer(request + QStringList{u"/more"_s});
+    EXPECT_EQ(refused.status, 2);
+    EXPECT_EQ(refused.errors, u"1001 files are too many at once, 1000 is the limit"_s);
+    const Answer tooLong = answer({u"open"_s, u'/' + QString(5000, u'x')});
+    EXPECT_EQ(tooLong.status, 1);
+    EXPECT_TRUE(tooLong.errors.startsWith(u"its path is too long: /xxx"_s) &&
+                tooLong.errors.size() < 600)
+        << qPrintable(tooLong.errors);
+    EXPECT_EQ(world_.store.shelf().files().size(), 1000);
+}
+
 TEST_F(CommandsTest, AsksForTheOtherWindows) {
     const Told settings(&world_.controller, &NotchController::settingsRequested);
+    EXPECT_EQ(answer({u"restore"_s}), Answer());
+    EXPECT_FALSE(world_.controller.isOpen()) << "at the start of a session";
     EXPECT_EQ(answer({u"show"_s}), Answer());
     EXPECT_EQ(answer({u"setup"_s}), Answer());
     EXPECT_EQ(setups_, 1);

@@ -60,7 +60,9 @@ TEST_F(Files, ReadersFindTheOldOrTheNewContentsWhole) {
 }
 
 TEST_F(Files, WriteThatFailsLeavesTheOldFile) {
-    EXPECT_FALSE(writeFileAtomically(path(u"none/a"_s), "x"));
+    const Result<void> done = writeFileAtomically(path(u"none/a"_s), "x");
+    ASSERT_FALSE(done);
+    EXPECT_EQ(done.error().message, u"No such file or directory"_s);
     ASSERT_TRUE(QDir(folder_.path()).mkpath(u"taken/by a folder"_s));
     EXPECT_FALSE(writeFileAtomically(path(u"taken"_s), "x"));
     EXPECT_EQ(entries(), QStringList(u"taken"_s));
@@ -73,6 +75,30 @@ TEST_F(Files, WritingTakesAFileBackFromOthers) {
     ASSERT_TRUE(writeFileAtomically(file, "new"));
     EXPECT_EQ(mode(file), 0600U);
     EXPECT_EQ(readFile(file), "new");
+}
+
+TEST_F(Files, WritingFollowsALink) {
+    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"elsewhere"_s));
+    ASSERT_TRUE(QFile::link(path(u"elsewhere/a"_s), path(u"a"_s)));
+    for (const QByteArray contents : {"to nothing yet", "to a file"}) {
+        ASSERT_TRUE(writeFileAtomically(path(u"a"_s), contents));
+        EXPECT_EQ(readFile(path(u"elsewhere/a"_s)), contents);
+    }
+    ASSERT_TRUE(setAsideUnreadable(path(u"a"_s)));
+    ASSERT_TRUE(writeFileAtomically(path(u"a"_s), "new"));
+    EXPECT_EQ(readFile(path(u"a.unreadable"_s)), "to a file");
+}
+
+TEST_F(Files, AreGoneOnlyIfTheSystemSaysSo) {
+    ASSERT_TRUE(writeFileAtomically(path(u"a"_s), ""));
+    ASSERT_TRUE(QFile::link(path(u"loop"_s), path(u"loop"_s)));
+    const std::pair<QString, Presence> table[] = {
+        {path(u"a"_s), Presence::there},   {folder_.path(), Presence::there},
+        {path(u"none"_s), Presence::gone}, {path(u"a/b"_s), Presence::gone},
+        {QString(), Presence::gone},       {path(u"loop"_s), Presence::unknown}};
+    for (const auto& [name, presence] : table) {
+        EXPECT_EQ(presenceOf(QFile::encodeName(name)), presence) << qPrintable(name);
+    }
 }
 
 TEST_F(Files, FolderIsMadeOrMadePrivate) {
@@ -92,11 +118,11 @@ TEST_F(Files, MissingFileCannotBeReadAndAnEmptyOneCan) {
 
 TEST_F(Files, EachUnreadableFileIsKept) {
     const QString file = path(u"a"_s);
-    setAsideUnreadable(file);
+    EXPECT_EQ(setAsideUnreadable(file).value_or(u"failed"_s), QString());
     EXPECT_EQ(entries(), QStringList()) << "there was nothing to keep";
     for (const QByteArray contents : {"1", "2", "3"}) {
         ASSERT_TRUE(writeFileAtomically(file, contents));
-        setAsideUnreadable(file);
+        ASSERT_TRUE(setAsideUnreadable(file));
     }
     EXPECT_EQ(entries(),
               QStringList({u"a"_s, u"a.unreadable"_s, u"a.unreadable2"_s, u"a.unreadable3"_s}));
@@ -108,7 +134,7 @@ TEST_F(Files, EachUnreadableFileIsKept) {
 TEST_F(Files, WhatCannotBeCopiedIsMoved) {
     ASSERT_TRUE(QDir(folder_.path()).mkpath(u"a/inside"_s));
     ASSERT_TRUE(QFile::link(u"nowhere"_s, path(u"a.unreadable"_s)));
-    setAsideUnreadable(path(u"a"_s));
+    EXPECT_EQ(setAsideUnreadable(path(u"a"_s)).value_or(QString()), path(u"a.unreadable2"_s));
     EXPECT_EQ(entries(), QStringList({u"a.unreadable"_s, u"a.unreadable2"_s}));
     EXPECT_TRUE(QFile::exists(path(u"a.unreadable2/inside"_s)));
 }

@@ -1,84 +1,14 @@
-#include "clipboard/ClipboardManager.h"
-
+#include "ClipboardFixture.h"
 #include "clipboard/FileForms.h"
-#include "fakes/FakeAlertSound.h"
-#include "fakes/FakeDetachedJobs.h"
-#include "fakes/InProcessDecoder.h"
-#include "fakes/ManualScheduler.h"
-#include "fakes/ManualWorker.h"
-#include "fakes/MemoryPasteboard.h"
-#include "fakes/MemoryPreferences.h"
-#include "store/Store.h"
 
-#include <QBuffer>
 #include <QFile>
-#include <QImage>
-#include <QTemporaryDir>
 #include <QUrl>
-
-#include <gtest/gtest.h>
 
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
-
-QByteArray picture(const char* format) {
-    QImage image(3, 2, QImage::Format_ARGB32);
-    image.fill(Qt::red);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
-    return bytes;
-}
-
-PasteboardEntry text(const char* utf8) {
-    return {plainTextType, utf8};
-}
-
-QHash<QString, QByteArray> byType(const QList<PasteboardEntry>& forms) {
-    QHash<QString, QByteArray> hash;
-    for (const PasteboardEntry& form : forms) {
-        hash.insert(form.type, form.bytes);
-    }
-    return hash;
-}
-
-class Clipboard : public testing::Test {
-public:
-    Clipboard() {
-        pasteboard.offerText(u"there before the start"_s);
-        manager.emplace(store, pasteboard, scheduler, jobs, decoder);
-        manager->start();
-    }
-
-    void settle() {
-        scheduler.advance(Seconds(0.6));
-        worker.drain();
-        scheduler.advance(Seconds(0)); // What is then read of an image.
-    }
-
-    [[nodiscard]] QStringList texts() const {
-        QStringList list;
-        for (const ClipItem& clip : store.clips()) {
-            list.append(clip.text);
-        }
-        return list;
-    }
-
-    QTemporaryDir folder;
-    ManualScheduler scheduler;
-    ManualWorker worker{ManualWorker::Mode::whenTold};
-    MemoryPreferences preferences;
-    MemoryPasteboard pasteboard{scheduler};
-    FakeAlertSound sound;
-    FakeDetachedJobs jobs{scheduler};
-    std::shared_ptr<ImageDecoder> decoder = std::make_shared<InProcessDecoder>();
-    Store store{folder.path(), {scheduler, worker, preferences, pasteboard, sound, decoder}};
-    std::optional<ClipboardManager> manager;
-};
 
 struct CaptureCase {
     const char* name;
@@ -93,8 +23,6 @@ TEST_P(CaptureTable, keepsWhatTheOwnerMeansToBeKept) {
     settle();
     EXPECT_EQ(texts(), GetParam().expected);
 }
-
-const PasteboardEntry secret{u"x-kde-passwordManagerHint"_s, "secret"};
 
 INSTANTIATE_TEST_SUITE_P(
     Contents, CaptureTable,
@@ -183,13 +111,44 @@ TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
 
     const qint64 before = pasteboard.changeCount();
     manager->copyImage(folder.filePath(u"missing.png"_s));
+    settle();
     manager->copyImage(folder.filePath(u"store.json"_s));
+    settle();
     manager->copyFile(QUrl(u"https://example.org/a.png"_s));
     manager->copyFile(QUrl());
     settle();
     EXPECT_EQ(pasteboard.changeCount(), before) << "what is none leaves the pasteboard alone";
     EXPECT_EQ(texts(), QStringList());
 }
+
+struct OvertakenCase {
+    const char* name;
+    std::function<void(Clipboard&)> copies; ///< While an image is still being read.
+    const char* expected;                   ///< The text on the pasteboard at the end.
+};
+
+class OvertakenImage : public Clipboard, public testing::WithParamInterface<OvertakenCase> {};
+
+TEST_P(OvertakenImage, givesWayToWhatWasCopiedAfterIt) {
+    const QString path = folder.filePath(u"a.png"_s);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(picture("png")) > 0);
+    file.close();
+    manager->copyImage(path);
+    EXPECT_FALSE(pasteboard.bytes("image/png"_L1).startsWith("\x89PNG"))
+        << "read on the main thread";
+    GetParam().copies(*this);
+    settle();
+    EXPECT_EQ(pasteboard.bytes(plainTextType), GetParam().expected);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    By, OvertakenImage,
+    testing::Values(
+        OvertakenCase{"us", [](Clipboard& on) { on.manager->copyText(u"text"_s); }, "text"},
+        OvertakenCase{"another", [](Clipboard& on) { on.pasteboard.offerText(u"theirs"_s); },
+                      "theirs"}),
+    [](const auto& row) { return row.param.name; });
 
 struct FileCase {
     const char* name;
@@ -243,13 +202,6 @@ TEST_P(LossTable, offersAgainOnlyWhatWentWithItsOwner) {
     EXPECT_EQ(store.clips().size(), GetParam().clips);
 }
 
-void lose(Clipboard& on) {
-    on.pasteboard.loseOwner();
-}
-
-const QList<PasteboardEntry> abc = {text("abc")};
-const QList<PasteboardEntry> png = {{u"image/png"_s, picture("png")}};
-
 /// Offered after "abc" was captured, and then lost.
 std::function<void(Clipboard&)> losing(const QList<PasteboardEntry>& offered) {
     return [offered](Clipboard& on) {
@@ -301,6 +253,11 @@ INSTANTIATE_TEST_SUITE_P(
                     LossCase{"concealed", abc, losing({text("pass"), secret}), {}},
                     LossCase{"clearedByAManager", abc, losing({text(""), secret}), {}},
                     LossCase{"namedAsTheImageIs", png, losing({text("Image")}), {}},
+                    LossCase{"passedOnFirst", png,
+                             [](Clipboard& on) {
+                                 on.pasteboard.owner = {2};
+                                 losing(png)(on);
+                             }},
                     LossCase{"givenUp", abc, [](Clipboard& on) { on.pasteboard.release(); }, {}},
                     LossCase{"perhapsGivenUp",
                              abc,

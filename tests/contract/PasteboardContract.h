@@ -88,6 +88,7 @@ TEST_P(PasteboardContract, readsWhatThePlanAsksForAndNothingElse) {
     for (const QString& type : {QString(plainTextType), pngType, QStringLiteral("text/html")}) {
         EXPECT_EQ(snapshot.types.count(type), 1) << qPrintable(type);
     }
+    EXPECT_EQ(snapshot.changeCount, board().changeCount());
     EXPECT_EQ(snapshot.answers.size(), 3);
     EXPECT_EQ(snapshot.answers.value(plainTextType), QByteArray("Gr\xc3\xbc\xc3\x9f"));
     EXPECT_EQ(snapshot.answers.value(pngType), QByteArray("png bytes"));
@@ -118,7 +119,7 @@ TEST_P(PasteboardContract, countsAWriteAtOnceAndTellsNobody) {
     const Handle listening = board().onChange([&] { ++calls; });
     ASSERT_TRUE(read({plainTextType}).types.contains(plainTextType)); // All notices are in.
     calls = 0;
-    board().write({{pngType, "png bytes"}, text("Gr\xc3\xbc\xc3\x9f")});
+    EXPECT_EQ(board().write({{pngType, "png bytes"}, text("Gr\xc3\xbc\xc3\x9f")}), before + 1);
     EXPECT_EQ(board().changeCount(), before + 1);
     EXPECT_EQ(host_->pasted(plainTextType), "Gr\xc3\xbc\xc3\x9f");
     EXPECT_EQ(host_->pasted(QLatin1StringView("image/png")), "png bytes");
@@ -149,7 +150,7 @@ TEST_P(PasteboardContract, isAdoptedOnlyAfterAnOwnersEnd) {
     EXPECT_TRUE(eventually([&] { return calls == 1; })) << "not told of the end";
     EXPECT_EQ(board().orphaned(), before);
     EXPECT_EQ(board().changeCount(), before + 1);
-    EXPECT_TRUE(board().adopt(ours));
+    EXPECT_EQ(board().adopt(ours), before + 2);
     EXPECT_EQ(board().changeCount(), before + 2);
     EXPECT_EQ(host_->pasted(plainTextType), "ours");
     EXPECT_EQ(read({plainTextType}).answers.value(plainTextType), QByteArray("ours"));

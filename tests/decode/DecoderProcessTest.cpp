@@ -56,7 +56,7 @@ protected:
     [[nodiscard]] PictureFile write(const char* name, const QByteArray& bytes) const {
         QFile file(folder.filePath(QString::fromLatin1(name)));
         EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
-        return {file.fileName()};
+        return {QFile::encodeName(file.fileName())};
     }
 
     QTemporaryDir folder;

@@ -37,7 +37,7 @@ protected:
     PictureFile write(const QByteArray& bytes, const QString& name = u"picture.png"_s) {
         QFile file(folder.filePath(name));
         EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
-        return {file.fileName()};
+        return {QFile::encodeName(file.fileName())};
     }
 
     std::unique_ptr<ImageDecoder> decoder = make<Decoder>();
@@ -71,7 +71,8 @@ TYPED_TEST(Decoding, CutsOutTheMiddleAndTurnsUpright) {
     }
     const QString wide = this->folder.filePath(u"wide.png"_s);
     ASSERT_TRUE(striped.save(wide));
-    const QImage middle = this->decoder->filling(PictureFile{wide}, {20, 20, 20});
+    const QImage middle =
+        this->decoder->filling(PictureFile{QFile::encodeName(wide)}, {20, 20, 20});
     EXPECT_EQ(middle.pixelColor(1, 10), QColor(Qt::blue)) << "more than the middle third shows";
     EXPECT_EQ(middle.pixelColor(18, 10), QColor(Qt::blue)) << "more than the middle third shows";
 
@@ -79,8 +80,9 @@ TYPED_TEST(Decoding, CutsOutTheMiddleAndTurnsUpright) {
     QImageWriter camera(upright);
     camera.setTransformation(QImageIOHandler::TransformationRotate90);
     ASSERT_TRUE(camera.write(striped));
-    EXPECT_EQ(this->decoder->size(PictureFile{upright}), QSize(100, 300));
-    EXPECT_EQ(this->decoder->filling(PictureFile{upright}, {30, 1, 90}).size(), QSize(10, 30));
+    EXPECT_EQ(this->decoder->size(PictureFile{QFile::encodeName(upright)}), QSize(100, 300));
+    EXPECT_EQ(this->decoder->filling(PictureFile{QFile::encodeName(upright)}, {30, 1, 90}).size(),
+              QSize(10, 30));
 }
 
 TYPED_TEST(Decoding, TakesDrawingsForIconsOnly) {
@@ -99,10 +101,11 @@ TYPED_TEST(Decoding, RefusesWhatIsNoPictureFile) {
     const QString pipe = this->folder.filePath(u"pipe"_s);
     ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
     const PictureFile big = this->write(samples::picture("bmp"), u"big.bmp"_s);
-    ASSERT_TRUE(QFile::resize(big.path, decode::maxInput + 1));
-    for (const QString& path :
-         {pipe, big.path, this->folder.path(), u"/no/such/file.png"_s, u"/dev/zero"_s}) {
-        EXPECT_EQ(this->decoder->size(PictureFile{path}), QSize()) << qPrintable(path);
+    ASSERT_TRUE(QFile::resize(QFile::decodeName(big.path), decode::maxInput + 1));
+    for (const QByteArray& path :
+         {QFile::encodeName(pipe), big.path, QFile::encodeName(this->folder.path()),
+          QByteArray("/no/such/file.png"), QByteArray("/dev/zero")}) {
+        EXPECT_EQ(this->decoder->size(PictureFile{path}), QSize()) << path.constData();
     }
 }
 
@@ -111,8 +114,11 @@ TYPED_TEST(Decoding, ReadsALargeJpegOnlyToMakeItSmall) {
     large.fill(Qt::gray);
     const QString path = this->folder.filePath(u"large.jpg"_s);
     ASSERT_TRUE(large.save(path, "jpeg"));
-    EXPECT_EQ(this->decoder->filling(PictureFile{path}, {20, 10, 40}).size(), QSize(30, 20));
-    EXPECT_TRUE(this->decoder->png(PictureFile{path}).isEmpty()) << "54 million pixels";
+    const PictureFile file{QFile::encodeName(path)};
+    EXPECT_EQ(this->decoder->filling(file, {20, 10, 40}).size(), QSize(30, 20));
+    EXPECT_TRUE(this->decoder->png(file).isEmpty()) << "54 million pixels";
+    EXPECT_EQ(this->decoder->look(file).kind, PictureLook::Kind::tooManyPixels);
+    EXPECT_EQ(this->decoder->look(file).pixels(), 54'000'000);
 }
 
 } // namespace

@@ -12,6 +12,7 @@
 #include <deque>
 #include <memory>
 #include <utility>
+#include <vector>
 
 namespace ravelo {
 
@@ -71,31 +72,34 @@ public:
 
     [[nodiscard]] std::optional<QList<QUrl>> files() override {
         ++questions;
-        return files_;
+        return drags_.back()->files;
     }
 
-    [[nodiscard]] std::optional<QByteArray> transferKey() override { return key; }
+    [[nodiscard]] std::optional<QByteArray> transferKey() override {
+        return drags_.back()->transferKey;
+    }
+
+    [[nodiscard]] std::shared_ptr<const DragAnswers> answers() override { return drags_.back(); }
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return listeners_.add(std::move(callback));
     }
 
     /// Another program begins a drag; nothing for a source that does not answer.
-    void begin(std::optional<bool> files) {
-        files_ = listOf(files);
+    void begin(std::optional<bool> files, std::optional<QByteArray> key = QByteArray()) {
+        drags_.push_back(std::make_shared<DragAnswers>(DragAnswers{listOf(files), std::move(key)}));
         ++changeCount_;
         listeners_.notify();
     }
 
-    /// The source of the newest drag answers after all.
-    void answer(bool files) {
-        files_ = listOf(files);
+    /// The source of the newest drag, or of one that many before it, answers after all.
+    void answer(bool files, const QByteArray& key = QByteArray(), int before = 0) {
+        *drags_.end()[-1 - before] = {listOf(files), key};
         listeners_.notify();
     }
 
     const QUrl file = QUrl(QStringLiteral("file:///home/someone/a%20file.txt"));
     int questions = 0; ///< How often the source was asked.
-    std::optional<QByteArray> key = QByteArray();
 
 private:
     [[nodiscard]] std::optional<QList<QUrl>> listOf(std::optional<bool> files) const {
@@ -103,7 +107,7 @@ private:
     }
 
     qint64 changeCount_ = 3;
-    std::optional<QList<QUrl>> files_;
+    std::vector<std::shared_ptr<DragAnswers>> drags_ = {std::make_shared<DragAnswers>()};
     Listeners<> listeners_;
 };
 

@@ -5,6 +5,8 @@
 
 #include <QList>
 
+#include <utility>
+
 namespace ravelo {
 
 /// Remembers what it was to open.
@@ -12,10 +14,26 @@ class FakeFileOpener final : public FileOpener {
 public:
     void open(const QUrl& file) override { opened.append(file); }
 
+    [[nodiscard]] Handle findProgram(const QUrl& /*what*/,
+                                     std::function<void(QString name)> done) override {
+        found_ = std::move(done);
+        return Handle([this] { found_ = nullptr; });
+    }
+
+    /// To whom asked for a program.
+    void answer(const QString& name) {
+        if (const auto done = std::exchange(found_, nullptr)) {
+            done(name);
+        }
+    }
+
     void showInFolder(const QUrl& file) override { shown.append(file); }
 
     QList<QUrl> opened;
     QList<QUrl> shown;
+
+private:
+    std::function<void(QString)> found_;
 };
 
 /// A desktop without icons.

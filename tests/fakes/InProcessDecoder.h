@@ -1,18 +1,21 @@
 #pragma once
 
+#include "base/Files.h"
 #include "decode/Pictures.h"
 #include "platform/ImageDecoder.h"
-
-#include <QFile>
-#include <QFileInfo>
 
 namespace ravelo {
 
 /// Decodes right here, as the real one does in its process: fit for pictures that tests make.
 class InProcessDecoder final : public ImageDecoder {
 public:
-    QSize size(const UntrustedPicture& picture) override {
-        return decoded(picture, {decode::Kind::probe, 0, 0, 0, 0}).size;
+    PictureLook look(const UntrustedPicture& picture) override {
+        using Kind = PictureLook::Kind;
+        const decode::Picture found = decoded(picture, {decode::Kind::probe, 0, 0, 0, 0});
+        return {found.status == decode::Status::done            ? Kind::good
+                : found.status == decode::Status::tooManyPixels ? Kind::tooManyPixels
+                                                                : Kind::none,
+                found.size};
     }
 
     QImage filling(const UntrustedPicture& picture, PictureShape shape) override {
@@ -33,10 +36,8 @@ private:
     static QByteArray bytesOf(const PictureBytes& bytes) { return bytes; }
 
     static QByteArray bytesOf(const PictureFile& file) {
-        QFile opened(file.path);
-        const bool readable = QFileInfo(file.path).isFile() && opened.size() <= decode::maxInput &&
-                              opened.open(QFile::ReadOnly);
-        return readable ? opened.readAll() : QByteArray();
+        const auto bytes = readFileEnd(file.path, decode::maxInput + 1);
+        return bytes && bytes->size() <= decode::maxInput ? *bytes : QByteArray();
     }
 
     static decode::Picture decoded(const UntrustedPicture& picture,

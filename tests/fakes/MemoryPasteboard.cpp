@@ -1,6 +1,7 @@
 #include "fakes/MemoryPasteboard.h"
 
 #include <memory>
+#include <utility>
 
 namespace ravelo {
 
@@ -9,6 +10,7 @@ Handle MemoryPasteboard::onChange(std::function<void()> callback) {
 }
 
 Handle MemoryPasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSnapshot)> done) {
+    passTime();
     auto answer = [this, count = changeCount_, plan = std::move(plan), done = std::move(done)] {
         if (count == changeCount_ && !silent_) {
             done(follow(plan));
@@ -19,6 +21,12 @@ Handle MemoryPasteboard::read(PasteboardPlan plan, std::function<void(Pasteboard
 
 PasteboardSnapshot MemoryPasteboard::follow(const PasteboardPlan& plan) {
     PasteboardSnapshot snapshot;
+    snapshot.changeCount = changeCount_;
+    snapshot.owner = owner;
+    snapshot.tooLarge = tooLarge;
+    if (lastEnd_) {
+        snapshot.lastEnd = {lastEnd_->changeCount, lastChange_ - lastEnd_->time};
+    }
     for (const PasteboardEntry& form : forms_) {
         snapshot.types.append(form.type);
     }
@@ -39,8 +47,17 @@ QByteArray MemoryPasteboard::bytes(QLatin1StringView type) const {
     return {};
 }
 
-void MemoryPasteboard::write(const QList<PasteboardEntry>& forms) {
+qint64 MemoryPasteboard::write(const QList<PasteboardEntry>& forms) {
     replace(forms);
+    const qint64 count = changeCount_;
+    passTime();
+    return count;
+}
+
+void MemoryPasteboard::passTime() {
+    if (const auto happens = std::exchange(meanwhile, nullptr)) {
+        happens();
+    }
 }
 
 void MemoryPasteboard::offer(const QList<PasteboardEntry>& forms) {
@@ -68,16 +85,29 @@ void MemoryPasteboard::loseOwner() {
     replace({});
     if (knowsDeaths) {
         orphaned_ = lost;
+        lastEnd_ = {lost, scheduler_.uptime()};
     }
     tell();
 }
 
-bool MemoryPasteboard::adopt(const QList<PasteboardEntry>& forms) {
-    if (!orphaned_) {
-        return false;
+std::optional<qint64> MemoryPasteboard::adopt(const QList<PasteboardEntry>& forms) {
+    return orphaned_ ? std::optional(write(forms)) : std::nullopt;
+}
+
+Handle MemoryPasteboard::onSaveRequest(std::function<void()> callback) {
+    return saveListeners_.add(std::move(callback));
+}
+
+void MemoryPasteboard::answerSaveRequests(SaveAnswer answer) {
+    if (std::exchange(saveAsked_, false)) {
+        saveAnswer_ = answer;
     }
-    replace(forms);
-    return true;
+}
+
+void MemoryPasteboard::askToSave() {
+    saveAsked_ = true;
+    saveAnswer_.reset();
+    saveListeners_.notify();
 }
 
 void MemoryPasteboard::tell() {
@@ -91,6 +121,8 @@ void MemoryPasteboard::replace(const QList<PasteboardEntry>& forms) {
     silent_ = false;
     orphaned_.reset();
     ++changeCount_;
+    lastChange_ = scheduler_.uptime();
+    answerSaveRequests(SaveAnswer::refused);
 }
 
 } // namespace ravelo

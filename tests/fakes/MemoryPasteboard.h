@@ -17,11 +17,29 @@ public:
     [[nodiscard]] Handle onChange(std::function<void()> callback) override;
     [[nodiscard]] Handle read(PasteboardPlan plan,
                               std::function<void(PasteboardSnapshot)> done) override;
-    void write(const QList<PasteboardEntry>& forms) override;
+    qint64 write(const QList<PasteboardEntry>& forms) override;
 
     [[nodiscard]] std::optional<qint64> orphaned() const override { return orphaned_; }
 
-    [[nodiscard]] bool adopt(const QList<PasteboardEntry>& forms) override;
+    [[nodiscard]] std::optional<qint64> adopt(const QList<PasteboardEntry>& forms) override;
+    [[nodiscard]] Handle onSaveRequest(std::function<void()> callback) override;
+    void answerSaveRequests(SaveAnswer answer) override;
+
+    /// The owner asks that its contents be saved, and waits.
+    void askToSave();
+
+    /// What it was answered; nothing while it waits.
+    [[nodiscard]] std::optional<SaveAnswer> saveAnswer() const { return saveAnswer_; }
+
+    /// Who takes the pasteboard by the next calls of `offer`.
+    PasteboardOwner owner{1};
+
+    /// What else is known of the contents, but for the owners.
+    QHash<QString, qint64> tooLarge;
+
+    /// Called once, in between: after the change count was given out and before the reading that
+    /// is asked for, or after our own writing and before it returns.
+    std::function<void()> meanwhile;
 
     /// Another program takes the pasteboard.
     void offer(const QList<PasteboardEntry>& forms);
@@ -54,6 +72,7 @@ public:
 
 private:
     void replace(const QList<PasteboardEntry>& forms);
+    void passTime();
     void tell();
     [[nodiscard]] PasteboardSnapshot follow(const PasteboardPlan& plan);
 
@@ -63,6 +82,17 @@ private:
     QStringList asked_;
     qint64 changeCount_ = 7;
     std::optional<qint64> orphaned_;
+
+    struct End {
+        qint64 changeCount;
+        Seconds time;
+    };
+
+    std::optional<End> lastEnd_;
+    Seconds lastChange_{};
+    Listeners<> saveListeners_;
+    bool saveAsked_ = false;
+    std::optional<SaveAnswer> saveAnswer_;
     bool silent_ = false;
 };
 

@@ -13,6 +13,7 @@
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
 #include "fakes/MemoryPreferences.h"
+#include "notices/Notices.h"
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
 #include "shelf/NearbySend.h"
@@ -33,7 +34,8 @@ struct PanelWorld {
 
     /// The store begins with `data`.
     explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
-        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard, sound, decoder}),
+        : store(filled(folder, data),
+                {scheduler, worker, preferences, pasteboard, sound, jobs, decoder}),
           controller(
               store, clipboard, settings,
               {scheduler, screens, pointer, drags, transfers, barrier, window, {&lock, &otherLock}},
@@ -79,6 +81,7 @@ struct PanelWorld {
     std::shared_ptr<ImageDecoder> decoder = std::make_shared<InProcessDecoder>();
     NearbySend nearby{{devices, programs, jobs, scheduler}};
     ReceivedWatcher received{downloads, scheduler, folder.filePath(QStringLiteral("Downloads"))};
+    Notices notices{scheduler};
     Store store;
     AppSettings settings{preferences, loginItem};
     ClipboardManager clipboard{store, pasteboard, scheduler, jobs, decoder};

@@ -42,21 +42,42 @@ TEST_P(ExistingEntry, CountsAsTheDesktopSeesIt) {
     if (GetParam().text) {
         write(GetParam().text);
     }
-    EXPECT_EQ(AutostartEntry(folder(), u"/usr/bin/ravelo"_s).isEnabled(), GetParam().enabled);
+    EXPECT_EQ(AutostartEntry(folder(), u"/here, that's us/ravelo"_s).isEnabled(),
+              GetParam().enabled);
 }
 
 INSTANTIATE_TEST_SUITE_P(
     Table, ExistingEntry,
     testing::Values(Entry{nullptr, false}, Entry{"", false},
                     Entry{"[Desktop Entry]\nName=Ravelo\n", false},
-                    Entry{"[Desktop Entry]\nExec=/usr/bin/ravelo\n", true},
-                    Entry{"# by hand\n\n[Desktop Entry]\nExec = \"/opt/old place/ravelo\"", true},
-                    Entry{"[Desktop Entry]\r\nExec=/usr/bin/ravelo\r\nHidden=true\r\n", false},
-                    Entry{"[Desktop Entry]\nExec=/usr/bin/ravelo\nHidden=false\n", true},
-                    Entry{"[Desktop Entry]\nExec=/a\nX-GNOME-Autostart-enabled=false\n", false},
-                    Entry{"[Desktop Entry]\nExec=/a\nX-GNOME-Autostart-enabled=true\n", true},
-                    Entry{"[Desktop Entry]\nExec=/a\n[Desktop Action x]\nHidden=true\n", true},
-                    Entry{"[Other]\nExec=/a\n", false}));
+                    Entry{"[Desktop Entry]\nExec=/nowhere/ravelo\n", false},
+                    Entry{"[Desktop Entry]\nExec=\"/here, that's us/ravelo\"\n", true},
+                    Entry{"# by hand\n\n[Desktop Entry]\nExec = \"/bin/sh\" -c true", true},
+                    Entry{"[Desktop Entry]\nExec=sh -c ravelo\n", true},
+                    Entry{"[Desktop Entry]\nExec=no-such-program\n", false},
+                    Entry{"[Desktop Entry]\r\nExec=/bin/sh\r\nHidden=true\r\n", false},
+                    Entry{"[Desktop Entry]\nExec=/bin/sh\nHidden=false\n", true},
+                    Entry{"[Desktop Entry]\nExec=/bin/sh\nX-GNOME-Autostart-enabled=false\n",
+                          false},
+                    Entry{"[Desktop Entry]\nExec=/bin/sh\nX-GNOME-Autostart-enabled=true\n", true},
+                    Entry{"[Desktop Entry]\nExec=/bin/sh\n[Desktop Action x]\nHidden=true\n", true},
+                    Entry{"[Other]\nExec=/bin/sh\n", false}));
+
+TEST_F(Autostart, WritesAnEntryAgainWhoseProgramIsGone) {
+    AutostartEntry entry(folder(), u"/usr/bin/ravelo"_s);
+    EXPECT_TRUE(entry.repair());
+    EXPECT_FALSE(QFile::exists(file())) << "it was off";
+    for (const QByteArray kept :
+         {"[Desktop Entry]\nExec=/gone/ravelo\nHidden=true\n", "[Desktop Entry]\nExec=/bin/sh\n"}) {
+        write(kept);
+        EXPECT_TRUE(entry.repair());
+        EXPECT_EQ(readFile(file()), kept);
+    }
+    write("[Desktop Entry]\nExec=/gone/ravelo\n");
+    EXPECT_TRUE(entry.repair());
+    EXPECT_TRUE(entry.isEnabled());
+    EXPECT_TRUE(readFile(file())->contains("Exec=\"/usr/bin/ravelo\"\n"));
+}
 
 TEST_F(Autostart, IsSwitchedOnAndOff) {
     AutostartEntry entry(folder(), u"/usr/bin/ravelo"_s);
@@ -109,6 +130,7 @@ TEST_P(StartedProgram, IsTheOneAtThisPath) {
     script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
     script.close();
     ASSERT_TRUE(AutostartEntry(folder(), program).setEnabled(true));
+    EXPECT_TRUE(AutostartEntry(folder(), u"/elsewhere/ravelo"_s).isEnabled()) << "read otherwise";
 
     const std::string command = "gio launch " + file().toStdString();
     const std::unique_ptr<FILE, int (*)(FILE*)> pipe(popen(command.c_str(), "r"), pclose);

@@ -1,6 +1,7 @@
 #include "platform/freedesktop/DesktopFileOpener.h"
 #include "PrivateBus.h"
 #include "StandIn.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeNearby.h"
 #include "fakes/ManualScheduler.h"
 
@@ -37,11 +38,12 @@ TEST_P(ShowInFolder, asksTheFileManagerOrOpensTheFolder) {
     }
     ManualScheduler scheduler;
     FakePrograms programs(scheduler);
+    FakeDetachedJobs jobs(scheduler);
     programs.installed = {u"xdg-open"_s};
     DesktopFileOpener opener(GetParam().manager == Manager::noBus
                                  ? QDBusConnection(u"there is none"_s)
                                  : bus.connect(u"ours"_s),
-                             programs);
+                             programs, jobs);
     opener.showInFolder(QUrl(u"file:///home/some%20one/a%20%C3%BC.txt"_s));
     const bool served = !GetParam().opensFolder;
     EXPECT_TRUE(eventually([&] {

@@ -129,6 +129,23 @@ TEST(PackageKit, findsOutWhetherThereIsANewerPackage) {
     EXPECT_EQ(check(empty), PackageUpdates::Checked(problem(Kind::noService)));
 }
 
+TEST(PackageKit, isGivenUpAfterASilence) {
+    PrivateBus bus;
+    QDBusConnection service = bus.connect(u"packagekit"_s);
+    StandIn mute([](const QDBusMessage& call) -> std::optional<QVariant> {
+        return call.member() == "CreateTransaction"_L1
+                   ? QVariant::fromValue(QDBusObjectPath(u"/transaction"_s))
+                   : QVariant();
+    });
+    mute.serve(service, u"org.freedesktop.PackageKit"_s);
+    PackageKit packages(bus.connect(u"ours"_s), u"ravelo"_s, std::chrono::milliseconds(50));
+    std::optional<PackageUpdates::Checked> found;
+    const Handle work = packages.check([&](const auto& checked) { found = checked; });
+    ASSERT_TRUE(eventually([&] { return found.has_value(); })) << "waits for ever";
+    EXPECT_EQ(*found, PackageUpdates::Checked(tl::unexpected(
+                          UpdateProblem{Kind::failed, u"PackageKit does not answer."_s})));
+}
+
 TEST(PackageKit, installsOnlyWhatIsSignedAndTellsHowFarItIs) {
     for (const uint error : {0U, notAuthorized}) {
         PrivateBus bus;

@@ -27,21 +27,32 @@ protected:
 };
 
 TEST_F(SessionLockTest, aScreenSaverThatShowsAlreadyAndOneThatComes) {
-    StandIn saver([](const QDBusMessage&) { return true; });
+    StandIn saver([](const QDBusMessage& call) { return call.interface().contains(u"gnome"); });
     serve(u"org.gnome.ScreenSaver"_s, saver);
+    ASSERT_TRUE(service_.registerService(u"org.freedesktop.ScreenSaver"_s));
     ScreenSaverBus lock(ours_);
     int calls = 0;
     const Handle listening = lock.onChange([&] { ++calls; });
     EXPECT_TRUE(eventually([&] { return lock.isLocked(); })) << "it was asked at the start";
-    const auto say = [&](const QString& interface, bool active) {
+    const auto say = [](QDBusConnection& who, const QString& interface, bool active) {
         auto signal = QDBusMessage::createSignal(u"/anywhere"_s, interface, u"ActiveChanged"_s);
-        service_.send(signal << active);
+        who.send(signal << active);
     };
-    say(u"org.freedesktop.ScreenSaver"_s, true);
-    say(u"org.gnome.ScreenSaver"_s, false);
-    say(u"org.freedesktop.ScreenSaver"_s, false);
+    say(service_, u"org.freedesktop.ScreenSaver"_s, true);
+    say(service_, u"org.gnome.ScreenSaver"_s, false);
+    say(service_, u"org.freedesktop.ScreenSaver"_s, false);
     EXPECT_TRUE(eventually([&] { return !lock.isLocked(); }));
     EXPECT_EQ(calls, 2) << "locked until the last of them has gone";
+
+    QDBusConnection intruder = bus_.connect(u"intruder"_s);
+    say(intruder, u"org.gnome.ScreenSaver"_s, true);
+    ASSERT_TRUE(intruder.registerService(u"org.mate.ScreenSaver"_s)); // Seen after the signal.
+    say(intruder, u"org.mate.ScreenSaver"_s, true);
+    EXPECT_TRUE(eventually([&] { return lock.isLocked(); })) << "by one that came later";
+    EXPECT_EQ(calls, 3);
+    ASSERT_TRUE(intruder.unregisterService(u"org.mate.ScreenSaver"_s));
+    EXPECT_TRUE(eventually([&] { return !lock.isLocked(); })) << "by one that has ended";
+    EXPECT_EQ(calls, 4) << "somebody else than the owner was believed";
 }
 
 TEST_F(SessionLockTest, theHintOfTheUsersGraphicalSession) {

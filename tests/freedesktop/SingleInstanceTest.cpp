@@ -162,5 +162,22 @@ TEST_F(SingleInstanceTest, HasASocketForTheUserAloneAndRefusesWhatIsNoRequest) {
     EXPECT_TRUE(socket.readLine().contains("\"status\":2"));
 }
 
+TEST_F(SingleInstanceTest, WithoutARuntimeFolderTheSocketHasAPrivateOneInTheCache) {
+    const QString cache = runtime_.filePath(u"cache"_s);
+    ASSERT_TRUE(QDir().mkpath(cache));
+    const auto open =
+        QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner | QFile::ReadOther | QFile::ExeOther;
+    ASSERT_TRUE(QFile::setPermissions(cache, open));
+    const QByteArray before = qgetenv("XDG_CACHE_HOME");
+    qputenv("XDG_CACHE_HOME", QFile::encodeName(cache));
+    for (const QString& unfit : {u"/nowhere"_s, cache}) { // Others could enter the second.
+        qputenv("XDG_RUNTIME_DIR", QFile::encodeName(unfit));
+        EXPECT_TRUE(SocketInstance::claim());
+    }
+    before.isNull() ? qunsetenv("XDG_CACHE_HOME") : qputenv("XDG_CACHE_HOME", before);
+    EXPECT_TRUE(QFile::permissions(cache) & QFile::ExeOther) << "everybody's cache was closed";
+    EXPECT_FALSE(QFile::permissions(cache + u"/ravelo"_s) & (QFile::ExeOther | QFile::ExeGroup));
+}
+
 } // namespace
 } // namespace ravelo

@@ -15,12 +15,14 @@
 
 // Another program that owns a selection, well- or ill-behaved, for the tests to read from:
 //
-//     SelectionOwner SELECTION BEHAVIOUR [TARGET=hex:BYTES | TARGET=fill:COUNT]... [onto:WINDOW]
+//     SelectionOwner SELECTION BEHAVIOUR [TARGET=hex:BYTES | TARGET=fill:COUNT]...
+//                    [onto:WINDOW | refusal:WINDOW]
 //
 // It takes the selection and prints the monotonic time in nanoseconds of doing so; at each line on
 // its standard input it takes it again, with the number of the taking behind each value that is not
 // filled; at the end of the input it ends. With a window it then drags over the middle of its upper
-// edge and drops (XDND 5), meaning a move, and prints the action of each answer.
+// edge and drops (XDND 5), meaning a move, and prints the action of the answers to that; with
+// "refusal" it drops only once it is refused, all the same.
 
 namespace {
 
@@ -86,14 +88,15 @@ public:
     }
 
     /// The drag is over the window; what follows comes with the answers.
-    void drag(xcb_window_t onto) {
+    void drag(xcb_window_t onto, bool untilRefused) {
+        untilRefused_ = untilRefused;
         const auto root = xcb_setup_roots_iterator(xcb_get_setup(xcb_)).data->root;
         const auto asked = xcb_translate_coordinates(xcb_, onto, root, 0, 0);
         const auto size = xcb_get_geometry(xcb_, onto);
         auto* corner = xcb_translate_coordinates_reply(xcb_, asked, nullptr);
         auto* area = xcb_get_geometry_reply(xcb_, size, nullptr);
-        const int x = corner->dst_x + area->width / 2;
-        const int y = corner->dst_y + 2;
+        place_ =
+            static_cast<uint32_t>((corner->dst_x + area->width / 2) << 16 | (corner->dst_y + 2));
         std::free(corner);
         std::free(area);
         onto_ = onto;
@@ -104,8 +107,7 @@ public:
             types[count++] = value->first;
         }
         tell("XdndEnter", version << 24, types[0], types[1], types[2]);
-        tell("XdndPosition", 0, static_cast<uint32_t>(x << 16 | y), XCB_CURRENT_TIME,
-             atom("XdndActionMove"));
+        move();
     }
 
     void run() {
@@ -129,6 +131,8 @@ public:
     }
 
 private:
+    void move() { tell("XdndPosition", 0, place_, XCB_CURRENT_TIME, atom("XdndActionMove")); }
+
     struct Value {
         Bytes bytes;
         bool numbered = false;
@@ -179,10 +183,17 @@ private:
 
     void answered(const xcb_client_message_event_t& answer) {
         const bool finished = answer.type == atom("XdndFinished");
-        if (!finished && (answer.type != atom("XdndStatus") || std::exchange(dropped_, true))) {
+        if (!finished && (answer.type != atom("XdndStatus") || dropped_)) {
             return;
         }
-        const xcb_atom_t action = answer.data.data32[finished ? 2 : 4];
+        const bool accepted = (answer.data.data32[1] & 1) != 0;
+        if (!finished && untilRefused_ && accepted) {
+            move();
+            return;
+        }
+        dropped_ = true;
+        const xcb_atom_t none = XCB_ATOM_NONE;
+        const xcb_atom_t action = accepted ? answer.data.data32[finished ? 2 : 4] : none;
         auto* name = xcb_get_atom_name_reply(xcb_, xcb_get_atom_name(xcb_, action), nullptr);
         std::printf("%.*s\n", name ? xcb_get_atom_name_name_length(name) : 4,
                     name ? xcb_get_atom_name_name(name) : "none");
@@ -292,6 +303,8 @@ private:
     xcb_atom_t incr_ = XCB_ATOM_NONE;
     xcb_window_t window_ = XCB_NONE;
     xcb_window_t onto_ = XCB_NONE;
+    uint32_t place_ = 0; ///< On the screen, as XDND has it.
+    bool untilRefused_ = false;
     bool dropped_ = false;
     int taking_ = 0;
     std::map<xcb_atom_t, Value> values_;
@@ -312,8 +325,11 @@ int main(int argc, char** argv) {
         owner.offer(argv[at]);
     }
     owner.take();
-    if (const std::string last = argv[argc - 1]; last.starts_with("onto:")) {
-        owner.drag(static_cast<xcb_window_t>(std::stoul(last.substr(5))));
+    const std::string last = argv[argc - 1];
+    const bool untilRefused = last.starts_with("refusal:");
+    if (untilRefused || last.starts_with("onto:")) {
+        owner.drag(static_cast<xcb_window_t>(std::stoul(last.substr(last.find(':') + 1))),
+                   untilRefused);
     }
     owner.run();
     return 0;

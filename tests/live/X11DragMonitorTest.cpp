@@ -2,6 +2,7 @@
 
 #include <QGuiApplication>
 
+#include <atomic>
 #include <ostream>
 
 namespace ravelo::x11 {
@@ -84,6 +85,31 @@ INSTANTIATE_TEST_SUITE_P(
         DragCase{"Text", u"answer"_s, {offering(u"UTF8_STRING"_s, "file:///tmp/a")}, {}},
         DragCase{"Silence", u"silent"_s, {}, {}}),
     [](const auto& tested) { return tested.param.name; });
+
+TEST(SlowSource, isStillHeardWhenTheNextDragHasBegun) {
+    live::ListenerSession session;
+    const Client slow(live::selectionOwner(),
+                      {u"XdndSelection"_s, u"late"_s, offering(u"text/uri-list"_s, "file:///slow"),
+                       offering(u"application/vnd.portal.filetransfer"_s, "key")});
+    ASSERT_TRUE(eventually([&] { return session.drags.changeCount() == 1; }));
+    EXPECT_EQ(session.drags.files(), std::nullopt);
+    EXPECT_EQ(session.drags.transferKey(), std::nullopt);
+    const auto answers = session.drags.answers();
+    std::atomic<bool> asked = false;
+    session.listener->post([&] {
+        session.listener->catchUp(); // Sends the questions, too.
+        asked = true;
+    });
+    ASSERT_TRUE(eventually([&] { return asked.load(); }));
+    const Client next(live::selectionOwner(), {u"XdndSelection"_s, u"answer"_s,
+                                               offering(u"text/uri-list"_s, "file:///next")});
+    EXPECT_TRUE(eventually([&] { return answers->files && answers->transferKey; }));
+    EXPECT_EQ(answers->files, QList{QUrl(u"file:///slow"_s)});
+    EXPECT_EQ(answers->transferKey, "key");
+    (void)session.drags.files();
+    EXPECT_TRUE(eventually([&] { return session.drags.files().has_value(); }));
+    EXPECT_EQ(session.drags.files(), QList{QUrl(u"file:///next"_s)});
+}
 
 TEST(OwnDrag, isNoDragOfOthers) {
     live::ListenerSession session;

@@ -1,4 +1,4 @@
-#include "ListenerSession.h"
+#include "PasteboardFixture.h"
 
 #include <QClipboard>
 
@@ -15,42 +15,6 @@ using live::offering;
 using namespace Qt::StringLiterals;
 
 const QString hint = u"x-kde-passwordManagerHint"_s;
-
-class X11PasteboardTest : public testing::Test {
-protected:
-    /// Another program takes the clipboard; we have heard of it when this returns.
-    std::unique_ptr<Client> own(const QString& behaviour, const QStringList& offers) {
-        const qint64 before = board().changeCount();
-        auto owner = std::make_unique<Client>(live::selectionOwner(),
-                                              QStringList{u"CLIPBOARD"_s, behaviour} + offers);
-        EXPECT_FALSE(owner->readLine().isEmpty()) << "the other program does not own it";
-        EXPECT_TRUE(eventually([&] { return board().changeCount() != before; })) << "no notice";
-        return owner;
-    }
-
-    Handle ask(const QString& type, std::optional<PasteboardSnapshot>& result) {
-        return board().read(
-            [type](const PasteboardSnapshot& snapshot) {
-                return snapshot.answers.contains(type) ? QString() : type;
-            },
-            [&](PasteboardSnapshot snapshot) { result = std::move(snapshot); });
-    }
-
-    PasteboardSnapshot read(const QString& type) {
-        std::optional<PasteboardSnapshot> result;
-        const Handle reading = ask(type, result);
-        EXPECT_TRUE(eventually([&] { return result.has_value(); })) << "the read never ends";
-        return result.value_or(PasteboardSnapshot());
-    }
-
-    std::optional<QByteArray> readText() {
-        return read(plainTextType).answers.value(plainTextType);
-    }
-
-    [[nodiscard]] X11Pasteboard& board() { return session_.pasteboard; }
-
-    live::ListenerSession session_;
-};
 
 struct TextCase {
     const char* name;
@@ -128,6 +92,7 @@ struct HostileCase {
     const char* behaviour;
     bool listsTypes;
     int size = 1 << 20;
+    qint64 tooLarge = 0; ///< The size that is told.
 
     friend void PrintTo(const HostileCase& tested, std::ostream* out) { *out << tested.behaviour; }
 };
@@ -141,6 +106,7 @@ TEST_P(HostileOwner, neitherStallsUsNorSpoilsTheNextCopy) {
     const auto snapshot = read(plainTextType);
     EXPECT_EQ(snapshot.types.contains(plainTextType), GetParam().listsTypes);
     EXPECT_EQ(snapshot.answers.value(plainTextType), std::nullopt);
+    EXPECT_EQ(snapshot.tooLarge.value(plainTextType), GetParam().tooLarge);
 
     // A second reading is under way while the next program copies.
     std::optional<PasteboardSnapshot> overtaken;
@@ -157,8 +123,9 @@ INSTANTIATE_TEST_SUITE_P(
     Behaviours, HostileOwner,
     testing::Values(HostileCase{"silent", false}, HostileCase{"targetsOnly", true},
                     HostileCase{"refuse", true}, HostileCase{"stallsInPieces", true},
-                    HostileCase{"claimsHuge", true}, HostileCase{"claimsSmall", true},
-                    HostileCase{"inOnePiece", true, (8 << 20) + 1}),
+                    HostileCase{"claimsHuge", true, 1 << 20, 2000000000},
+                    HostileCase{"claimsSmall", true, 1 << 20, 33 << 18},
+                    HostileCase{"inOnePiece", true, (8 << 20) + 1, (8 << 20) + 1}),
     [](const auto& tested) { return tested.param.behaviour; });
 
 TEST_F(X11PasteboardTest, survivesAnOwnerThatDiesWhenAsked) {
@@ -180,8 +147,11 @@ TEST_F(X11PasteboardTest, doesNotTakeALateAnswerForTheNextOwners) {
     std::optional<PasteboardSnapshot> overtaken;
     const Handle reading = ask(plainTextType, overtaken);
     for (int round = 0; round < 3; ++round) {
-        const auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "fresh")});
+        auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "fresh")});
         EXPECT_EQ(readText(), QByteArray("fresh"));
+        const qint64 before = board().changeCount();
+        owner.reset(); // Its end must not pass for the next owner's coming.
+        EXPECT_TRUE(eventually([&] { return board().changeCount() != before; }));
     }
     EXPECT_FALSE(overtaken);
 }
@@ -324,6 +294,34 @@ TEST_F(X11PasteboardTest, leavesAnOrphanToWhoIsQuicker) {
     }
     EXPECT_TRUE(eventually([&] { return board().changeCount() == before + 1; }))
         << "the quicker one's copy is no change";
+}
+
+TEST_F(X11PasteboardTest, tellsCopiesOfOneProgramFromThoseOfAManager) {
+    NearbyClient program(*session_.connection);
+    program.copy("CLIPBOARD", XCB_CURRENT_TIME);
+    ASSERT_TRUE(eventually([&] { return board().changeCount() == 1; }));
+    const auto first = read(plainTextType);
+    const auto owner = own(u"answer"_s, {offering(u"STRING"_s, "x")});
+    const auto second = read(plainTextType);
+    EXPECT_NE(first.owner.id, second.owner.id);
+    EXPECT_EQ(second.changeCount, board().changeCount());
+    EXPECT_FALSE(second.lastEnd) << "nobody has ended";
+
+    program.copy("CLIPBOARD_MANAGER", XCB_CURRENT_TIME);
+    program.copy("CLIPBOARD", XCB_CURRENT_TIME);
+    ASSERT_TRUE(eventually([&] { return board().changeCount() == 3; }));
+    const auto third = read(plainTextType);
+    EXPECT_EQ(third.owner.id, first.owner.id);
+    EXPECT_EQ(third.owner.kind, PasteboardOwner::Kind::manager);
+    EXPECT_EQ(first.owner.kind, PasteboardOwner::Kind::program);
+
+    own(u"answer"_s, {offering(u"STRING"_s, "y")}).reset();
+    ASSERT_TRUE(eventually([&] { return board().changeCount() == 5; }));
+    const auto next = own(u"answer"_s, {offering(u"STRING"_s, "y")});
+    const auto last = read(plainTextType);
+    ASSERT_TRUE(last.lastEnd);
+    EXPECT_EQ(last.lastEnd->changeCount, 4);
+    EXPECT_LT(last.lastEnd->before, Seconds(60));
 }
 
 TEST_F(X11PasteboardTest, tellsOfACopyFromJustAfterItsOwnWrite) {

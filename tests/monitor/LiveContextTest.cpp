@@ -73,10 +73,10 @@ protected:
                   R"({"env":{"CLAUDE_CODE_AUTO_COMPACT_WINDOW":)" + value + "}}");
     }
 
-    void start(std::unique_ptr<FolderChanges> changes) {
-        context_ =
-            std::make_unique<LiveContext>(LiveContext::Services{scheduler_, jobs_},
-                                          QFile::encodeName(home_.path()), std::move(changes));
+    void start(std::unique_ptr<FolderChanges> changes, const QByteArrayList& otherFolders = {}) {
+        context_ = std::make_unique<LiveContext>(LiveContext::Services{scheduler_, jobs_},
+                                                 QFile::encodeName(home_.path()),
+                                                 std::move(changes), otherFolders);
         scheduler_.advance(Seconds(0)); // The files are read a little later.
     }
 
@@ -200,16 +200,83 @@ TEST_F(ContextTest, looksAtTheEndOfALongTranscript) {
     write(u"a/x.jsonl"_s, 11, 1000, QByteArray(5 * limit, '\n'));
     EXPECT_EQ(usedAfterATick(), 11);
 
-    const QByteArray turn = R"({"message":{"usage":{"input_tokens":7}}})";
-    writeFile(path(u"a/x.jsonl"_s), turn + QByteArray(limit + 1 - turn.size(), '\n'));
-    EXPECT_EQ(usedAfterATick(), 11) << "the turn begins one byte too early";
-    writeFile(path(u"a/x.jsonl"_s), turn + QByteArray(limit - turn.size(), '\n'));
+    const auto turn = [](int tokens) {
+        return R"({"message":{"usage":{"input_tokens":)" + QByteArray::number(tokens) + "}}}";
+    };
+    const qsizetype size = turn(7).size();
+    writeFile(path(u"a/x.jsonl"_s), turn(7) + QByteArray(limit - size, '\n'));
     EXPECT_EQ(usedAfterATick(), 7) << "the whole file fits";
-
+    writeFile(path(u"a/x.jsonl"_s), turn(8) + QByteArray(limit + 1 - size, '\n'));
+    EXPECT_EQ(usedAfterATick(), 8) << "the turn begins one byte too early";
     const QByteArray foreign = QByteArray("ä").repeated(limit / 2) + '\n';
-    writeFile(path(u"a/x.jsonl"_s), foreign + turn + QByteArray(limit - turn.size() - 2, '\n'));
-    EXPECT_EQ(usedAfterATick(), 7) << "the window begins within a character";
+    writeFile(path(u"a/x.jsonl"_s), foreign + turn(9) + QByteArray(limit - size - 2, '\n'));
+    EXPECT_EQ(usedAfterATick(), 9) << "the window begins within a character";
+    writeFile(path(u"a/x.jsonl"_s), turn(6) + '\n' + QByteArray(5 * limit, 'x') + '\n');
+    EXPECT_EQ(usedAfterATick(), 6) << "a line of five megabytes follows";
+    const QByteArray wide = foreign + turn(5) + '\n';
+    const qsizetype rest = widestTranscriptWindow + 1 - wide.size();
+    writeFile(path(u"a/x.jsonl"_s), "\xff" + wide + QByteArray(rest, '\n'));
+    EXPECT_EQ(usedAfterATick(), 5) << "the wide window begins within a character";
+    writeFile(path(u"a/x.jsonl"_s), turn(4) + QByteArray(widestTranscriptWindow, '\n'));
+    EXPECT_EQ(usedAfterATick(), 5) << "further back nothing is read";
     EXPECT_EQ(context_->limit(), 1000000);
+}
+
+TEST_F(ContextTest, goesBackToTheNewestTranscriptThatHasATurn) {
+    write(u"a/one.jsonl"_s, 11, 1000);
+    write(u"a/two.jsonl"_s, 22, 1001);
+    write(u"b/three.jsonl"_s, 33, 999);
+    writeFile(path(u"b/opened.jsonl"_s), "{\"type\":\"summary\"}\n");
+    setDate(path(u"b/opened.jsonl"_s), 1002);
+    start(std::make_unique<InotifyChanges>());
+    EXPECT_EQ(context_->used(), 22);
+    EXPECT_EQ(context_->lastActivity(), Date{1001 - referenceInstant});
+    write(u"a/two.jsonl"_s, 0, 1003);
+    EXPECT_EQ(usedAfterATick(), 11) << "neither of the two newest has one";
+    write(u"b/opened.jsonl"_s, 44, 1004);
+    EXPECT_EQ(usedAfterATick(), 44);
+}
+
+TEST_F(ContextTest, looksElsewhereOnlyIfTheUsualFolderHasNoTurn) {
+    const auto elsewhere = [&](const char* name) {
+        return QFile::encodeName(home_.filePath(QLatin1StringView(name)));
+    };
+    write(u"../../chosen/projects/a/x.jsonl"_s, 11, 1000);
+    write(u"../../.config/claude/projects/a/x.jsonl"_s, 22, 2000);
+    writeFile(home_.filePath(u"chosen/settings.json"_s),
+              R"({"env":{"CLAUDE_CODE_AUTO_COMPACT_WINDOW":500}})");
+    start(std::make_unique<InotifyChanges>(), {elsewhere("chosen"), elsewhere(".config/claude")});
+    EXPECT_EQ(context_->used(), 11) << "the first that has one, not the newest";
+    EXPECT_EQ(context_->limit(), 500) << "its own settings";
+    ASSERT_TRUE(QDir(home_.filePath(u"chosen"_s)).removeRecursively());
+    EXPECT_EQ(usedAfterATick(), 22);
+    EXPECT_EQ(context_->limit(), 1000000);
+    write(u"a/x.jsonl"_s, 33, 1);
+    EXPECT_EQ(usedAfterATick(), 33);
+    write(u"../../.config/claude/projects/a/x.jsonl"_s, 44, 3000);
+    EXPECT_EQ(usedAfterATick(), 33);
+    ASSERT_TRUE(QDir(home_.filePath(u".claude"_s)).removeRecursively());
+    EXPECT_EQ(usedAfterATick(), 44) << "what changed meanwhile is seen";
+}
+
+TEST_F(ContextTest, leavesLooksOutIfNobodyReportsTheChangesOfMany) {
+    for (int i = 0; i < 400; ++i) {
+        writeFile(path(u"a/%1.jsonl"_s.arg(i)), {});
+    }
+    write(u"b/x.jsonl"_s, 11, 1LL << 32);
+    auto script = std::make_shared<ScriptedChanges::Script>();
+    script->watches = false;
+    start(std::make_unique<ScriptedChanges>(script));
+    EXPECT_EQ(context_->used(), 11);
+    write(u"c/new.jsonl"_s, 22, (1LL << 32) + 100);
+    for (int look = 0; look < 2; ++look) {
+        write(u"b/x.jsonl"_s, 100 + look, (1LL << 32) + 1 + look);
+        EXPECT_EQ(usedAfterATick(), 100 + look) << "the newest is looked at, nothing is listed";
+    }
+    EXPECT_EQ(usedAfterATick(), 22) << "every third look with four hundred entries";
+    ASSERT_TRUE(QFile::remove(path(u"c/new.jsonl"_s)));
+    EXPECT_EQ(usedAfterATick(), 22);
+    EXPECT_EQ(usedAfterATick(), 101) << "the newest is gone, so the others are listed";
 }
 
 TEST_F(ContextTest, takesItsLimitFromTheSettingsFile) {

@@ -8,6 +8,7 @@
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeUsageSources.h"
 #include "fakes/ManualScheduler.h"
+#include "monitor/ClaudeEnvironment.h"
 #include "platform/system/DetachedThreads.h"
 #include "platform/system/HttpsThread.h"
 #include "platform/system/SpawnedChild.h"
@@ -32,16 +33,21 @@ const PlanWindows answered{UsageWindow{41.5, {}}, UsageWindow{78, {}}};
 
 const QByteArray goodBody = R"({"five_hour":{"utilization":41.5},"seven_day":{"utilization":78}})";
 
-/// Notes its arguments and what its streams are, gives new credentials, and ends.
+/// Notes its arguments, what its streams are, where it runs and its environment, leaves a file
+/// behind, gives new credentials, and ends.
 const QByteArray claude = R"(#!/bin/sh
 here=$(dirname "$0")
+{ pwd; stat -c %a .; ls -A; } > "$here/place"
+tr '\0' '\n' < /proc/$$/environ | sort > "$here/environment"
+: > left-behind
 streams=$(for stream in 0 1 2; do readlink "/proc/$$/fd/$stream"; done | tr -d '0-9\n')
 {
     for argument; do printf '<%s>' "$argument"; done
     echo "$streams"
 } >> "$here/runs"
 [ -e "$here/next" ] && mv "$here/next" "$here/../../.claude/.credentials.json"
-seq 100000  # More than a small pipe holds.
+seq 400000  # More than a pipe holds.
+seq 400000 >&2
 )";
 
 class PlanUsageTest : public testing::Test {
@@ -53,6 +59,7 @@ public:
         write(u".local/bin/claude"_s, claude);
         QFile::setPermissions(path(u".local/bin/claude"_s), QFile::ReadOwner | QFile::ExeOwner);
         server.answer = UsageServer::http("200 OK", goodBody);
+        scheduler.advance(Seconds(1)); // All of that is older than any answer.
     }
 
     [[nodiscard]] QString path(const QString& name) const { return home.filePath(name); }
@@ -60,6 +67,9 @@ public:
     void write(const QString& name, const QByteArray& bytes) const {
         ASSERT_TRUE(QDir().mkpath(QFileInfo(path(name)).path()));
         ASSERT_TRUE(writeFileAtomically(path(name), bytes));
+        QFile file(path(name));
+        ASSERT_TRUE(file.open(QFile::ReadWrite));
+        ASSERT_TRUE(file.setFileTime(toDateTime(scheduler.now()), QFile::FileModificationTime));
     }
 
     static QByteArray credentials(const QByteArray& token, const QByteArray& more = {}) {
@@ -96,6 +106,20 @@ public:
 
     [[nodiscard]] PlanWindows windows() const { return {usage->session(), usage->week()}; }
 
+    /// What a renewal needs among what would steer it.
+    static QProcessEnvironment environment() {
+        QProcessEnvironment environment;
+        for (const char* variable :
+             {"ANTHROPIC_API_KEY=key", "ANTHROPIC_BASE_URL=https://example.com",
+              "CLAUDE_CODE_USE_BEDROCK=1", "NODE_OPTIONS=--require=/tmp/x",
+              "LD_PRELOAD=", "BASH_ENV=/tmp/x", "CLAUDE_CONFIG_DIR=/c", "HOME=/h", "LC_TIME=C",
+              "https_proxy=http://proxy", "PATH=/usr/bin:/bin"}) {
+            const QString text = QString::fromLatin1(variable);
+            environment.insert(text.section(u'=', 0, 0), text.section(u'=', 1));
+        }
+        return environment;
+    }
+
     /// One line each.
     [[nodiscard]] QByteArrayList runs() const {
         QByteArrayList lines =
@@ -111,7 +135,8 @@ public:
     FakeSecretStore secrets;
     DetachedThreads threads;
     HttpsThread https{threads, "Ravelo/test", server.trust()};
-    SpawnedChild children{threads, QProcessEnvironment::systemEnvironment()};
+    SpawnedChild children{threads, renewalEnvironment(environment()),
+                          QFile::encodeName(path(u"cache/renewal"_s))};
     std::unique_ptr<PlanUsage> usage;
 };
 
@@ -215,7 +240,7 @@ TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
     EXPECT_EQ(server.requests().size(), 2);
     EXPECT_TRUE(windows() == answered) << "a failure leaves what was known";
     pass(tick);
-    EXPECT_TRUE(windows() == inFile);
+    EXPECT_TRUE(windows() == answered) << "the file is older";
     write(u".ravelo/usage.json"_s, R"({"rate_limits":{"five_hour":{"used_percentage":33}}})");
     pass(tick);
     EXPECT_TRUE(windows() == (PlanWindows{UsageWindow{33, {}}, {}}));
@@ -229,17 +254,60 @@ TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
     EXPECT_TRUE(windows() == answered);
 }
 
+TEST_F(PlanUsageTest, asksLessOftenIfThatIsTooOften) {
+    const auto tooMany = [](const QByteArray& header) {
+        return UsageServer::http("429 Too Many Requests", "", header);
+    };
+    /// How long until the next request, with the ticks it takes.
+    const auto wait = [&] {
+        const auto before = server.requests().size();
+        Seconds passed(0);
+        for (; server.requests().size() == before && passed < Seconds(90000); passed += tick) {
+            pass(tick);
+        }
+        return passed.count();
+    };
+    server.answer = tooMany("");
+    start();
+    for (const int spacing : {180, 360, 720, 1440, 1800, 1800}) {
+        EXPECT_EQ(wait(), spacing + 5);
+    }
+    server.answer = tooMany("Retry-After: 5400\r\n");
+    EXPECT_EQ(wait(), 1805);
+    EXPECT_EQ(wait(), 5400) << "as the provider says";
+    server.answer = tooMany("Retry-After: 10\r\n");
+    EXPECT_EQ(wait(), 5400);
+    server.answer = ok(goodBody);
+    EXPECT_EQ(wait(), 1805) << "not sooner than without it";
+    server.answer = UsageServer::http("500 Internal Server Error", "");
+    EXPECT_EQ(wait(), 95) << "an answer was given again";
+    EXPECT_EQ(wait(), 95);
+}
+
 TEST_F(PlanUsageTest, renewsARefusedTokenAtMostEveryTwentyMinutes) {
     server.answer = UsageServer::http("401 Unauthorized", "");
     start();
     const QByteArray run =
-        "<-p><.><--model><claude-haiku-4-5-20251001><--max-turns><1>pipe:[]pipe:[]pipe:[]";
+        "<-p><.><--model><claude-haiku-4-5-20251001><--max-turns><1>/dev/null/dev/null/dev/null";
     EXPECT_EQ(runs(), QByteArrayList{run});
     pass(Seconds(1200));
     EXPECT_EQ(server.requests().size(), 1 + 12) << "every 95 seconds";
     EXPECT_EQ(runs().size(), 1);
     pass(Seconds(95));
     EXPECT_EQ(runs(), (QByteArrayList{run, run}));
+}
+
+TEST_F(PlanUsageTest, renewsWhereNothingSteersTheTool) {
+    const QString folder = path(u"cache/renewal"_s);
+    write(u"cache/renewal/.claude/settings.json"_s, "left by whoever");
+    server.answer = UsageServer::http("401 Unauthorized", "");
+    start();
+    EXPECT_EQ(readFile(path(u".local/bin/place"_s)), folder.toUtf8() + "\n700\n")
+        << "an empty folder for this user alone";
+    EXPECT_EQ(readFile(path(u".local/bin/environment"_s)),
+              "CLAUDE_CONFIG_DIR=/c\nHOME=/h\nLC_TIME=C\nPATH=/usr/bin:/bin\n"
+              "https_proxy=http://proxy\n");
+    EXPECT_FALSE(QFile::exists(folder)) << "removed with what was left in it";
 }
 
 TEST_F(PlanUsageTest, renewsATokenThatIsAboutToExpireAndStillUsesIt) {
@@ -284,6 +352,23 @@ TEST_F(PlanUsageTest, asksTheSecretServiceWhereNoFileHasCredentials) {
     EXPECT_TRUE(server.requests().value(0).contains("Bearer secret-token\r\n"));
     EXPECT_TRUE(windows() == answered);
     EXPECT_EQ(runs().size(), 0);
+}
+
+TEST_F(PlanUsageTest, looksElsewhereForCredentialsLast) {
+    setToken("");
+    write(u"other/.credentials.json"_s, credentials("other-token"));
+    const auto run = [&] {
+        usage = std::make_unique<PlanUsage>(
+            UsageQuery::Services{scheduler, files, secrets, https, children},
+            QFile::encodeName(home.path()),
+            UsageQuery::Endpoint{server.url(u"localhost"_s), Seconds(15)},
+            QByteArrayList{"/no/such", QFile::encodeName(path(u"other"_s))});
+        settle();
+        return server.requests().last();
+    };
+    EXPECT_TRUE(run().contains("Bearer other-token\r\n"));
+    secrets.secret = credentials("secret-token");
+    EXPECT_TRUE(run().contains("Bearer secret-token\r\n"));
 }
 
 TEST_F(PlanUsageTest, mayEndInTheMiddleOfAQuery) {

@@ -53,6 +53,14 @@ INSTANTIATE_TEST_SUITE_P(
                    R"("session":{"pct":41.5,"resets":"2026-01-05T12:05:00Z"},"used":41500,)"
                    R"("week":{"pct":78,"resets":null}})"
                    "\n"},
+        StatusCase{"aWindowThatHasReset",
+                   offPeak,
+                   {{}, 0, 1000000, {}, PeakInfo::at(offPeak), {UsageWindow{41.5, offPeak}, {}}},
+                   u"OFF-PEAK · peak in 3h 0m · 5h 42% · week —\n"_s,
+                   R"({"isPeak":false,"lastActivity":null,"limit":1000000,"model":"",)"
+                   R"("peak":"OFF-PEAK · peak in 3h 0m","session":{"pct":41.5,)"
+                   R"("resetPassed":true,"resets":"2026-01-05T10:00:00Z"},"used":0,"week":null})"
+                   "\n"},
         StatusCase{"nothingYetInPeak",
                    inPeak,
                    {{}, 0, 1000000, {}, PeakInfo::at(inPeak), {}},

@@ -135,6 +135,24 @@ TEST(UsageFile, keepsOfTheStatusLineWhatIsReadAgain) {
     EXPECT_EQ(loadUsage(home), std::nullopt) << "larger than any usage file";
 }
 
+TEST(RetryAfter, isANumberOfSecondsOrADate) {
+    const std::pair<const char*, double> cases[] = {
+        {"120", 120},
+        {" 0 ", 0},
+        {"99999999999999999999", 86400},
+        {"Sat, 15 Nov 2025 19:01:30 GMT", 90},
+        {"Sat, 15 Nov 2025 18:00:00 GMT", 0},
+        {"Sun, 15 Nov 2026 19:00:00 GMT", 86400},
+        {"", 0},
+        {"-5", 0},
+        {"1.5", 0},
+        {"soon", 0},
+    };
+    for (const auto& [header, seconds] : cases) {
+        EXPECT_EQ(readRetryAfter(header, at(0)), Seconds(seconds)) << header;
+    }
+}
+
 } // namespace
 
 } // namespace ravelo

@@ -224,20 +224,63 @@ TEST(NotchController, anEnteringDragShowsTheShelfWithNothingSelected) {
     EXPECT_EQ(world.store.shelf().selectedFiles(), QList<QUrl>{world.drags.file});
 }
 
-TEST(NotchController, aDropWhoseFilesComeLateIsTakenUnlessAnotherDragBegan) {
+TEST(NotchController, aDragOnTheHandleOpensOnceItIsKnownToCarryFiles) {
+    PanelWorld world;
+    const QUrl parked(u"file:///parked"_s);
+    world.store.addToShelf({parked});
+    const int before = world.store.shelfRequestTick();
+    const auto untouched = [&] {
+        return !world.controller.isOpen() && !world.controller.filesOver() &&
+               world.store.shelfRequestTick() == before &&
+               world.store.shelf().selected == QSet<QUrl>{parked};
+    };
+    world.beginDrag(std::nullopt);
+    EXPECT_TRUE(world.controller.onDragEnter()) << "refused before it is known";
+    EXPECT_TRUE(untouched());
+    world.drags.answer(false);
+    EXPECT_TRUE(untouched()) << "by a web link";
+    EXPECT_FALSE(world.controller.mayCarryFiles());
+    EXPECT_FALSE(world.controller.onDrop()) << "taken without files";
+    EXPECT_FALSE(world.controller.onDragEnter());
+
+    world.drags.begin(std::nullopt);
+    ASSERT_TRUE(world.controller.onDragEnter());
+    world.controller.onDragLeave();
+    world.drags.answer(true);
+    EXPECT_TRUE(untouched()) << "by a drag that has left";
+    ASSERT_TRUE(world.controller.onDragEnter());
+    EXPECT_TRUE(world.controller.isOpen() && world.controller.filesOver());
+    world.controller.onDragLeave();
+    EXPECT_FALSE(world.controller.filesOver());
+}
+
+struct LateCase {
+    const char* name;
+    bool opens; ///< And closes the panel between the drop and its files.
+};
+
+class LateFiles : public testing::TestWithParam<LateCase> {};
+
+TEST_P(LateFiles, areShownUnlessTheUserHasClosedThePanel) {
     PanelWorld world;
     world.beginDrag(std::nullopt);
     world.controller.onDragEnter();
-    world.controller.onDrop();
-    EXPECT_EQ(world.store.shelf().stacks.size(), 0);
-    world.drags.answer(true);
-    EXPECT_EQ(world.store.shelf().stacks.size(), 1);
-
-    world.drags.begin(std::nullopt);
-    world.controller.onDrop();
-    world.drags.begin(true);
-    EXPECT_EQ(world.store.shelf().stacks.size(), 1) << "files that were never dropped here";
+    EXPECT_TRUE(world.controller.onDrop());
+    if (GetParam().opens) {
+        world.controller.positionExpanded();
+        world.controller.dismiss();
+    }
+    const int before = world.store.shelfRequestTick();
+    world.drags.begin(false); // Another drag loses nothing of the first.
+    world.drags.answer(true, {}, 1);
+    EXPECT_EQ(world.store.shelf().files(), QList<QUrl>{world.drags.file});
+    EXPECT_EQ(world.controller.isOpen(), !GetParam().opens);
+    EXPECT_EQ(world.store.shelfRequestTick(), before + (GetParam().opens ? 0 : 1));
 }
+
+INSTANTIATE_TEST_SUITE_P(All, LateFiles,
+                         testing::Values(LateCase{"leftAlone", false}, LateCase{"closed", true}),
+                         [](const auto& tested) { return std::string(tested.param.name); });
 
 TEST(NotchController, isNotThereWhileTheSessionIsLocked) {
     PanelWorld world;

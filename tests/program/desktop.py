@@ -233,13 +233,16 @@ class Desktop(contextlib.AbstractContextManager):
 
     # The clipboard, as other programs use it.
 
-    def copy_text(self, text):
+    def copy_text(self, text, target=None):
         """Copies with xclip, which stays behind as the owner."""
-        subprocess.run(["xclip", "-selection", "clipboard", "-i"], input=text.encode(), check=True,
-                       env=self.env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, timeout=20)
+        as_target = ["-target", target] if target else []
+        subprocess.run(["xclip", "-selection", "clipboard", *as_target, "-i"], input=text.encode(),
+                       check=True, env=self.env, stdout=subprocess.DEVNULL,
+                       stderr=subprocess.DEVNULL, timeout=20)
 
     def paste_text(self):
-        return self.run("xclip", "-selection", "clipboard", "-o")
+        """Empty if the owner died before it answered: xclip would wait for ever."""
+        return self.run("timeout", "3", "xclip", "-selection", "clipboard", "-o")
 
     def peer(self, *command):
         """Starts a helper program and returns once it says that it has done what it was told."""
@@ -364,10 +367,10 @@ class Ravelo:
         self.process = None
         self.log = desktop.home / "ravelo.log"
 
-    def start(self):
+    def start(self, *arguments):
         """Starts it and waits for its handle at the top of the screen."""
         with self.log.open("a") as log:
-            self.process = self.desktop.spawn(self.program, stderr=log)
+            self.process = self.desktop.spawn(self.program, *arguments, stderr=log)
         wait_for(lambda: self.has_ended() or self.is_collapsed(), "the handle, 200 x 12, centred")
         assert not self.has_ended(), f"ravelo ended at once with {self.process.returncode}"
         return self

@@ -2,6 +2,7 @@
 
 gtk_peer.py text TEXT      owns the clipboard with a text
 gtk_peer.py image COLOR    owns the clipboard with an image of one colour, 64 x 48
+gtk_peer.py leave text TEXT  copies and ends at once, as gnome-screenshot does; the same with an image
 gtk_peer.py window         a focused window with a text field; prints its text at each change
 gtk_peer.py fullscreen COLOR LEFT WIDTH HEIGHT  the same, full-screen on a monitor
 gtk_peer.py bar COLOR WIDTH HEIGHT  a dock at the top left that reserves its height
@@ -37,6 +38,7 @@ def own(what, value):
         clipboard.set_image(image)
     Gdk.Display.get_default().sync()
     say("ready")
+    return clipboard
 
 
 def paint(window, color):
@@ -115,6 +117,9 @@ SHOWN = {"window": show_window, "fullscreen": show_fullscreen, "bar": show_bar,
          "source": show_source, "target": show_target}
 if sys.argv[1] in SHOWN:
     SHOWN[sys.argv[1]](*sys.argv[2:])
+elif sys.argv[1] == "leave":
+    own(*sys.argv[2:]).store()
+    sys.exit()
 else:
     own(*sys.argv[1:])
 Gtk.main()

@@ -1,5 +1,5 @@
 // A Qt program for Ravelo to live beside: it owns the clipboard with what it is told, says "ready"
-// and stays until it is ended.
+// and stays until it is ended, or ends at once.
 
 #include <QClipboard>
 #include <QCommandLineParser>
@@ -39,10 +39,11 @@ int main(int argc, char** argv) {
     const QCommandLineOption text(u"text"_s, u"Offers a text."_s, u"text"_s);
     const QCommandLineOption image(u"image"_s, u"Offers an image of one colour."_s, u"color"_s);
     const QCommandLineOption secret(u"secret"_s, u"Marks it as password managers do."_s);
+    const QCommandLineOption leave(u"leave"_s, u"Ends at once."_s);
     const QCommandLineOption series(u"series"_s, u"Copies so many texts."_s, u"count"_s);
     const QCommandLineOption interval(u"interval"_s, u"Between two texts."_s, u"ms"_s, u"25"_s);
     QCommandLineParser parser;
-    parser.addOptions({text, image, secret, series, interval});
+    parser.addOptions({text, image, secret, leave, series, interval});
     parser.process(application);
 
     if (parser.isSet(series)) {
@@ -62,6 +63,10 @@ int main(int argc, char** argv) {
         mime->setData(u"x-kde-passwordManagerHint"_s, "secret");
     }
     QGuiApplication::clipboard()->setMimeData(mime);
+    if (parser.isSet(leave)) {
+        sayReady();
+        return 0;
+    }
     QTimer::singleShot(0, qGuiApp, sayReady);
     return QGuiApplication::exec();
 }

@@ -220,6 +220,36 @@ class Survival(ProgramCase):
         self.assertEqual(self.ravelo.store()["snippets"][0]["title"], "First reply to lead")
         self.assertEqual((self.ravelo.folder / "store.json.unreadable").read_bytes(), torn)
 
+    def test_preferences_that_are_torn_are_put_aside_and_no_first_start_comes_again(self):
+        torn = '{"onboarded": true, "did'
+        self.desktop.preferences.write_text(torn)
+        self.ravelo.start()
+        aside = self.desktop.preferences.with_name("preferences.json.unreadable")
+        wait_for(lambda: aside.exists() and aside.read_text() == torn, f"{torn} in {aside}")
+        self.copy_and_wait("after")
+        self.assertFalse((self.desktop.home / "config/autostart/ravelo.desktop").exists())
+        self.assertTrue(self.ravelo.preferences()["onboarded"])
+        titles = [snippet["title"] for snippet in self.ravelo.store()["snippets"]]
+        self.assertEqual(len(titles), 8, "the links, which a first start adds, are not added again")
+
+    def test_a_ravelo_that_was_taken_over_saves_nothing_more(self):
+        self.ravelo.start()
+        self.copy_and_wait("before")
+        lock = self.ravelo.folder / "lock"
+        self.assertEqual(lock.stat().st_mode & 0o777, 0o600)
+        lock.unlink()
+        lock.write_text("7\nravelo\nfar.example\nanother machine\nboot\n")
+        self.desktop.copy_text("not ours to save")
+        time.sleep(SAVE_DELAY + 1)
+        self.stop()
+        self.assertEqual(self.ravelo.texts(), ["before"])
+        self.assertTrue(lock.exists(), "the lock of the one that took over")
+        code, told = self.ravelo.call()
+        self.assertEqual((code, "far.example (process 7)" in told), (1, True), told)
+        self.ravelo.start("--take-over")
+        self.copy_and_wait("after")
+        self.assertNotIn("far.example", lock.read_text())
+
     def test_every_way_to_end_keeps_what_was_just_copied(self):
         ends = {
             "SIGTERM": lambda: self.ravelo.process.send_signal(signal.SIGTERM),
@@ -638,6 +668,31 @@ class OwnersEnd(ProgramCase):
         self.copy_and_wait("next")
         self.assertEqual(self.ravelo.texts(), ["next", "Image", *reversed(ends)])
 
+    def test_what_a_program_copies_as_it_ends_is_kept(self):
+        copies = (("text", "GTK's last", lambda: self.desktop.gtk("leave", "text", "GTK's last")),
+                  ("image", "Image", lambda: self.desktop.gtk("leave", "image", "c04020ff")),
+                  ("text", "Qt's last", lambda: self.qt("--text", "Qt's last", "--leave")))
+        kept = []
+        for kind, text, copy in copies:
+            with self.subTest(text):
+                self.ravelo.process.send_signal(signal.SIGSTOP)  # As on a busy machine.
+                owner = copy()
+                with self.assertRaises(subprocess.TimeoutExpired, msg="it waits to be saved"):
+                    owner.wait(0.5)
+                self.ravelo.process.send_signal(signal.SIGCONT)
+                self.assertEqual(owner.wait(5), 0)
+                kept.insert(0, text)
+                self.wait_for_texts(*kept)
+                targets = "UTF8_STRING" if kind == "text" else "image/png"
+                wait_for(lambda t=targets: t in self.desktop.run(
+                    "xclip", "-o", "-selection", "clipboard", "-t", "TARGETS"), "it to paste")
+        self.assertEqual(self.ravelo.texts(), kept, "no more than what was copied")
+
+    def test_a_program_that_ends_with_a_password_is_not_kept_waiting(self):
+        self.assertEqual(self.qt("--text", "tr0ub4dor&3", "--secret", "--leave").wait(3), 0)
+        self.copy_and_wait("next")
+        self.assertEqual(self.ravelo.texts(), ["next"])
+
     def test_a_password_goes_with_its_program_and_nothing_comes_back(self):
         self.copy_and_wait("before")
         self.qt("--text", "tr0ub4dor&3", "--secret").kill()
@@ -717,11 +772,11 @@ class Drops(ProgramCase):
 
     NAMES = [b"a b.txt", b"100%.txt", b"x#y?z", b"two\nlines", "ä".encode(), b"no utf-8 \xe4", b"folder"]
 
-    def drop(self, behaviour, addresses):
-        """The actions that the source was told of, at once and at the end."""
+    def drop(self, behaviour, addresses, after="onto"):
+        """The actions that the source was told of, before it dropped and at the end."""
         offer = "text/uri-list=hex:" + b"".join(line + b"\r\n" for line in addresses).hex()
         source = self.desktop.spawn(os.environ["SELECTION_OWNER"], "XdndSelection", behaviour, offer,
-                                    f"onto:{self.ravelo.panel().window}", stdin=subprocess.PIPE,
+                                    f"{after}:{self.ravelo.panel().window}", stdin=subprocess.PIPE,
                                     stdout=subprocess.PIPE, text=True)
         return [source.stdout.readline().strip() for _ in range(3)][1:]
 
@@ -747,6 +802,12 @@ class Drops(ProgramCase):
         self.ravelo.start()
         self.drop("answer", [b"file:///etc/"])
         wait_for(lambda: self.stacks() == [kept, ["/etc"]], "all found again, and one more")
+
+    def test_a_web_link_changes_nothing_and_is_refused(self):
+        self.ravelo.start()
+        self.assertEqual(self.drop("answer", [b"https://a.example/x"], "refusal"), ["none"] * 2)
+        self.assertTrue(self.ravelo.is_collapsed())
+        self.assertEqual(self.stacks(), [])
 
     def test_a_source_that_hangs_at_the_drop_stalls_nothing(self):
         self.ravelo.start()
@@ -814,6 +875,34 @@ class CommandLine(ProgramCase):
         self.assertEqual(code, 0)
         for option in ("--version", "--toggle", "--settings", "--setup", "--quit"):
             self.assertIn(option, text)
+
+    def test_without_a_display_it_says_so(self):
+        self.desktop.env.pop("QT_QPA_PLATFORM", None)
+        for display in ("", ":4711"):
+            self.desktop.env["DISPLAY"] = display
+            code, text = self.ravelo.call()
+            self.assertEqual((code, text.count("\n")), (1, 1), text)
+            self.assertTrue(text.startswith("ravelo: no display: "), text)
+
+    def test_a_session_manager_restores_it(self):
+        self.ravelo.start("-session", "10ab_123")
+        self.assertTrue(self.ravelo.is_collapsed())
+        self.assertEqual(self.ravelo.call("-session", "10ab_123"), (0, ""))
+        self.assertTrue(self.ravelo.is_collapsed(), "the one that runs already was bothered")
+
+    def test_a_terminal_is_shown_no_control_characters(self):
+        self.ravelo.start()
+        odd = self.desktop.home / "a\nb\x1b[31m"
+        odd.touch()
+        self.assertEqual(self.ravelo.call(str(odd)), (0, ""))
+        self.assertEqual(self.ravelo.call("shelf", "list"), (0, f"{odd}\n"))
+        ours, theirs = os.openpty()
+        self.assertEqual(subprocess.call([self.ravelo.program, "shelf", "list"], env=self.desktop.env,
+                                         stdout=theirs, timeout=20), 0)
+        os.close(theirs)
+        shown = os.read(ours, 4096)
+        os.close(ours)
+        self.assertEqual(shown, f"{self.desktop.home}/a\\nb\\x1b[31m\r\n".encode())
 
     def test_it_reaches_the_running_one(self):
         calls = [

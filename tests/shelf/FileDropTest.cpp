@@ -75,9 +75,11 @@ protected:
     FakeDragMonitor drags_;
     FakeFileTransfer transfers_;
     QList<Files> given_;
-    FileDrop drop_{drags_, transfers_, [this](const Files& files) {
-                       given_.append(files);
-                   }};
+    FileDrop drop_{drags_, transfers_};
+
+    void drop() {
+        drop_.take([this](const Files& files) { given_.append(files); });
+    }
 };
 
 struct DropCase {
@@ -96,14 +98,13 @@ const QUrl named = FakeDragMonitor().file;
 
 TEST_P(DropTable, gives) {
     const bool hasKey = !GetParam().key.isEmpty();
-    drags_.key.reset();
-    drags_.begin(GetParam().files);
-    drop_.expect();
+    drags_.begin(GetParam().files, std::nullopt);
+    EXPECT_EQ(drop_.carries(), GetParam().files ? Carries::files : Carries::unknown);
     EXPECT_TRUE(transfers_.keys.isEmpty()) << "what goes once is not fetched before the drop";
-    drop_.take();
-    drags_.key = GetParam().key; // It comes late.
-    drags_.answer(GetParam().files);
-    drags_.answer(GetParam().files);
+    drop();
+    drags_.answer(GetParam().files, GetParam().key); // It comes late.
+    drags_.answer(GetParam().files, GetParam().key);
+    EXPECT_EQ(drop_.carries(), GetParam().files || hasKey ? Carries::files : Carries::nothing);
     EXPECT_EQ(transfers_.keys, hasKey ? QList{GetParam().key} : QList<QByteArray>());
     if (hasKey) {
         EXPECT_TRUE(given_.isEmpty());
@@ -127,18 +128,19 @@ INSTANTIATE_TEST_SUITE_P(Table, DropTable,
 
 TEST_F(Drops, followEachOther) {
     for (const char* key : {"first", "second"}) {
-        drags_.key = key;
-        drags_.begin(false);
-        drop_.take();
+        drags_.begin(false, key);
+        drop();
     }
-    drags_.key.reset();
-    drags_.begin(true);
-    drop_.take();
-    drags_.key = QByteArray();
-    drags_.begin(true); // The third one's source had told nothing: it is given up.
+    drags_.begin(std::nullopt, std::nullopt); // The third one's source is slow.
+    drop();
+    drags_.begin(false, std::nullopt); // A fourth drag begins meanwhile, and is not dropped here.
     transfers_.answer({a});
     transfers_.answer({b});
     EXPECT_EQ(given_, (QList<Files>{{a}, {b}}));
+    drags_.answer(true, {}, 1);
+    EXPECT_EQ(given_, (QList<Files>{{a}, {b}, {named}})) << "the slow source's are lost";
+    drags_.answer(true);
+    EXPECT_EQ(given_.size(), 3) << "files that were never dropped here";
 }
 
 } // namespace

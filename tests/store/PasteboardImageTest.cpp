@@ -1,8 +1,10 @@
 #include "store/PasteboardImage.h"
 #include "TestImages.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/MemoryPasteboard.h"
+#include "store/CopiedFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>
@@ -63,15 +65,21 @@ protected:
 
     QByteArray image() {
         PasteboardSnapshot snapshot;
+        PictureLooks looks;
         const Handle reading = pasteboard_.read(
-            [this](const PasteboardSnapshot& read) { return nextImageType(read, decoder_); },
+            [&](const PasteboardSnapshot& read) { return nextImageType(read, looks, decoder_); },
             [&](const PasteboardSnapshot& read) { snapshot = read; });
         scheduler_.advance(Seconds(1));
-        return pngImage(snapshot, decoder_);
+        QByteArray file;
+        const Handle readingFile = readCopiedFile(jobs_, scheduler_, copiedFile(snapshot),
+                                                  [&](const QByteArray& bytes) { file = bytes; });
+        scheduler_.advance(Seconds(0));
+        return pngImage(snapshot, file, decoder_);
     }
 
     ManualScheduler scheduler_;
     MemoryPasteboard pasteboard_{scheduler_};
+    FakeDetachedJobs jobs_{scheduler_};
     InProcessDecoder decoder_;
 };
 

@@ -68,11 +68,54 @@ TEST_F(StoreClips, OrderOfCopyingIsKept) {
     EXPECT_EQ(texts(), "4 3 blue 2 red 1") << "nothing to wait for any more";
 }
 
+TEST_F(StoreClips, ImageMakesItsFolderAgain) {
+    ASSERT_TRUE(QDir(store_->clipsDir()).removeRecursively());
+    store_->addImageClip(png(Qt::red));
+    worker_.drain();
+    EXPECT_EQ(texts(), "red");
+}
+
+class CopiedPicture : public StoreClips {
+protected:
+    /// Copies a file, then a text, while a mount hangs or not.
+    void copy() {
+        QFile file(directory_.filePath(u"copied.bmp"_s));
+        ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(picture("bmp", Qt::blue)) > 0);
+        const QString type = u"text/uri-list"_s;
+        store_->addImageClip({{type}, {{type, QUrl::fromLocalFile(file.fileName()).toEncoded()}}});
+        store_->addClip(u"later"_s);
+    }
+};
+
+TEST_F(CopiedPicture, KeepsItsPlaceInTheOrder) {
+    copy();
+    EXPECT_EQ(texts(), "") << "it is read before what came after it is added";
+    settle(Seconds(0));
+    EXPECT_EQ(texts(), "later blue");
+}
+
+TEST_F(CopiedPicture, ThatCannotBeReadHoldsUpNothingForLong) {
+    jobs_.hung = true;
+    copy();
+    store_->setNote(u"typed"_s);
+    store_->save();
+    settle(Seconds(1));
+    EXPECT_EQ(saved().note, u"typed"_s) << "saving does not wait for it";
+    settle(Seconds(1));
+    EXPECT_EQ(texts(), "later");
+    copy();
+    store_->addClip(u"last"_s);
+    store_->flush();
+    EXPECT_EQ(saved().clips.size(), 2) << "nor does the end of the program";
+    EXPECT_EQ(texts(), "last later");
+}
+
 class BadImage : public StoreClips, public testing::WithParamInterface<bool> {};
 
 TEST_P(BadImage, AddsNothing) {
     if (GetParam()) {
         ASSERT_TRUE(QDir(store_->clipsDir()).removeRecursively());
+        ASSERT_TRUE(QFile(store_->clipsDir()).open(QFile::WriteOnly)) << "a file in its place";
     }
     store_->addImageClip(GetParam() ? png(Qt::red) : PasteboardSnapshot{{u"image/bmp"_s}, {}});
     worker_.drain();
@@ -257,6 +300,20 @@ TEST_F(SnippetImage, OfASilentOwnerIsGivenUp) {
     EXPECT_EQ(answers_.size(), 0);
     settle(Seconds(0.2));
     EXPECT_EQ(answers_, QStringList(QString()));
+}
+
+TEST_F(SnippetImage, OfAFileThatCannotBeReadIsGivenUp) {
+    QFile file(directory_.filePath(u"copied.bmp"_s));
+    ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(picture("bmp", Qt::blue)) > 0);
+    file.close();
+    pasteboard_.offer({{u"text/uri-list"_s, QUrl::fromLocalFile(file.fileName()).toEncoded()}});
+    for (const bool hung : {true, false}) {
+        jobs_.hung = hung;
+        const Handle handle = ask();
+        settle(Seconds(3));
+        ASSERT_EQ(answers_.size(), 1) << "with a hanging mount: " << hung;
+        EXPECT_EQ(answers_.takeFirst().isEmpty(), hung);
+    }
 }
 
 class DroppedSnippetImage : public SnippetImage, public testing::WithParamInterface<double> {};

@@ -3,6 +3,7 @@
 #include "TestImages.h"
 #include "base/Files.h"
 #include "fakes/FakeAlertSound.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
@@ -39,7 +40,7 @@ protected:
     }
 
     [[nodiscard]] Store::Services services() {
-        return {scheduler_, worker_, preferences_, pasteboard_, sound_, decoder_};
+        return {scheduler_, worker_, preferences_, pasteboard_, sound_, jobs_, decoder_, mayWrite_};
     }
 
     [[nodiscard]] QString folder() const { return directory_.filePath(QStringLiteral("Ravelo")); }
@@ -81,7 +82,9 @@ protected:
     MemoryPreferences preferences_;
     MemoryPasteboard pasteboard_{scheduler_};
     FakeAlertSound sound_;
+    FakeDetachedJobs jobs_{scheduler_};
     std::shared_ptr<ImageDecoder> decoder_ = std::make_shared<InProcessDecoder>();
+    OwnFile::Permission mayWrite_;
     std::unique_ptr<Store> store_;
 };
 

@@ -1,5 +1,6 @@
 #include "StoreFixture.h"
 #include "base/FileUrl.h"
+#include "store/ImageFiles.h"
 
 #include <QFileInfo>
 
@@ -73,6 +74,7 @@ TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
         store_->addClip(u"kept %1"_s.arg(atTheEnd));
         settle();
         ASSERT_TRUE(QFileInfo(storeFile()).isDir());
+        EXPECT_EQ(store_->saveFailure(), u"Is a directory"_s);
         ASSERT_TRUE(QDir(storeFile()).removeRecursively());
         if (atTheEnd) {
             store_->flush();
@@ -80,8 +82,32 @@ TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
             settle(Seconds(31));
         }
         ASSERT_TRUE(QFileInfo(storeFile()).isFile()) << atTheEnd;
+        EXPECT_EQ(store_->saveFailure(), QString());
         EXPECT_EQ(saved().clips[0].text, u"kept %1"_s.arg(atTheEnd));
     }
+}
+
+TEST_F(StoreSaving, LeavesAloneWhatIsNotOursAnyMore) {
+    bool ours = true;
+    mayWrite_ = [&]() -> Result<void> {
+        return ours ? Result<void>() : failure(u"taken over"_s);
+    };
+    start();
+    store_->addImageClip(png(Qt::red));
+    store_->flush();
+    const StoreData before = saved();
+    ours = false;
+    QStringList told;
+    QObject::connect(store_.get(), &Store::saveFailed, store_.get(),
+                     [&](const QString& reason) { told.append(reason); });
+    store_->addImageClip(png(Qt::blue));
+    store_->clearClips();
+    settle();
+    settle();
+    EXPECT_EQ(told, QStringList(u"taken over"_s));
+    EXPECT_EQ(saved(), before);
+    EXPECT_EQ(imageFiles(), QStringList(before.clips[0].imageFileName));
+    EXPECT_EQ(scheduler_.pending(), 0) << "trying again is of no use";
 }
 
 TEST_F(StoreSaving, BurstGivesOneWriteOfTheStateAtTheLastSave) {
@@ -132,6 +158,96 @@ TEST_F(StoreSaving, VanishedFilesLeaveTheShelf) {
     EXPECT_EQ(saved().shelfStacks, QList<QStringList>({{here, u"/"_s}, {u"/"_s}}));
 }
 
+TEST_F(StoreSaving, FilesThatCannotBeToldStayOnTheShelf) {
+    const QString loop = directory_.filePath(u"loop"_s);
+    ASSERT_TRUE(QFile::link(loop, loop));
+    StoreData data;
+    data.shelfStacks = {{u"/no/such"_s, loop}};
+    write(encodeStore(data));
+    start();
+    settle();
+    EXPECT_EQ(saved().shelfStacks, QList<QStringList>({{loop}}));
+
+    write(encodeStore(data));
+    jobs_.hung = true;
+    start();
+    settle(Seconds(3));
+    EXPECT_EQ(saved().shelfStacks, data.shelfStacks) << "a mount whose server is gone";
+}
+
+TEST_F(StoreSaving, AFileThatWasParkedAgainMeanwhileStays) {
+    StoreData data;
+    data.shelfStacks = {{u"/no/such"_s, u"/no/other"_s}};
+    write(encodeStore(data));
+    start();
+    store_->addToShelf({QUrl(u"file:///no/such"_s)});
+    settle();
+    EXPECT_EQ(saved().shelfStacks, QList<QStringList>({{u"/no/such"_s}}));
+}
+
+TEST(OrphanedImages, AreOldOursAndNamedByNobody) {
+    const QString id = u"0F8FAD5B-D9CB-469F-A165-70867728950E"_s;
+
+    struct Row {
+        QString name;
+        double age;
+        bool orphan;
+    };
+
+    const Row table[] = {{id + u".png"_s, 86401, true},
+                         {id + u".png"_s, 86399, false},
+                         {id + u".png"_s, -86401, false},
+                         {id + u".jpg"_s, 90000, false},
+                         {id, 90000, false},
+                         {u"mine.png"_s, 90000, false},
+                         {id + u".png.XXXXXX"_s, 90000, false},
+                         {u".png"_s, 90000, false}};
+    const Date now{1e9};
+    for (const Row& row : table) {
+        const QList<FoundImage> found = {{row.name, {now.sinceReference - row.age}}};
+        EXPECT_EQ(orphanedImages(found, {}, now).size(), row.orphan ? 1 : 0)
+            << qPrintable(row.name) << ' ' << row.age << " s old";
+        EXPECT_EQ(orphanedImages(found, {row.name}, now), QStringList()) << "named";
+    }
+}
+
+class Orphans : public StoreSaving {
+protected:
+    /// After a start a week later.
+    QStringList imagesAWeekLater() {
+        scheduler_.setNow({toDate(QDateTime::currentDateTime()).sinceReference + 7 * 86400});
+        start();
+        worker_.drain();
+        return imageFiles();
+    }
+
+    Orphans() {
+        start();
+        store_->addImageClip(png(Qt::red));
+        store_->flush();
+        named_ = imageFiles();
+        EXPECT_TRUE(
+            QFile::copy(store_->imagePath(named_[0]),
+                        store_->clipsDir() + u"/0F8FAD5B-D9CB-469F-A165-70867728950E.png"_s));
+    }
+
+    QStringList named_;
+};
+
+TEST_F(Orphans, GoAtALaterStart) {
+    EXPECT_EQ(imagesAWeekLater(), named_);
+}
+
+TEST_F(Orphans, StayWhileTheyMayBelongToAnUnreadableStore) {
+    write("junk");
+    EXPECT_EQ(imagesAWeekLater().size(), 2) << "no store, so nobody knows what is named";
+    store_->addClip(u"a"_s);
+    store_->flush();
+    EXPECT_EQ(imagesAWeekLater().size(), 2) << "put aside, it may name them";
+    ASSERT_TRUE(QFile::remove(storeFile() + u".unreadable"_s));
+    EXPECT_EQ(imagesAWeekLater().size(), 0) << "nobody names them any more";
+}
+
 TEST_F(StoreSaving, AFileIsFoundAgainWhateverItsName) {
     start();
     QList<QUrl> files;
@@ -145,8 +261,8 @@ TEST_F(StoreSaving, AFileIsFoundAgainWhateverItsName) {
     EXPECT_EQ(store_->shelf().files(), files);
     std::remove(filePath(files.last()).constData()); // QTemporaryDir cannot.
     restart();
-    EXPECT_EQ(store_->shelf().files(), files.first(4));
     settle();
+    EXPECT_EQ(store_->shelf().files(), files.first(4));
     store_->addToShelf(files.first(4));
     EXPECT_EQ(scheduler_.pending(), 0) << "nothing to save";
 }
@@ -164,9 +280,14 @@ TEST_P(UnreadableStore, IsSetAsideBeforeItIsReplaced) {
     EXPECT_EQ(QDir(folder()).entryList(QDir::Files), QStringList(u"store.json"_s));
 
     store_->addClip(u"a"_s);
+    QStringList told;
+    QObject::connect(store_.get(), &Store::putAside, store_.get(),
+                     [&](const QString& path) { told.append(path); });
     restart();
     EXPECT_EQ(texts(), "a");
-    EXPECT_EQ(readFile(storeFile() + u".unreadable"_s), GetParam());
+    const QString aside = storeFile() + u".unreadable"_s;
+    EXPECT_EQ(told, QStringList(aside));
+    EXPECT_EQ(readFile(aside), GetParam());
     EXPECT_EQ(mode(storeFile() + u".unreadable"_s), 0600U);
     restart();
     EXPECT_EQ(QDir(folder()).entryList(QDir::Files).size(), 2) << "a good file is not set aside";

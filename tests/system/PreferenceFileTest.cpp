@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "contract/PreferencesContract.h"
+#include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPreferences.h"
 
@@ -41,10 +42,12 @@ public:
 private:
     void start() {
         const QString path = folder_.filePath(u"ravelo/preferences.json"_s);
-        preferences_ = std::make_unique<PreferenceFile>(path, worker_);
+        preferences_ =
+            std::make_unique<PreferenceFile>(path, PreferenceFile::Services{scheduler_, worker_});
     }
 
     QTemporaryDir folder_;
+    ManualScheduler scheduler_;
     ManualWorker worker_{ManualWorker::Mode::whenTold};
     std::unique_ptr<PreferenceFile> preferences_;
 };
@@ -69,11 +72,14 @@ protected:
 
     QTemporaryDir folder_;
     QString path_ = folder_.filePath(u"ravelo/preferences.json"_s);
+    ManualScheduler scheduler_;
     ManualWorker worker_{ManualWorker::Mode::whenTold};
+    PreferenceFile::Services services_{scheduler_, worker_};
 };
 
 TEST_F(PreferenceFileTest, IsWrittenAtOnceForItsUserAlone) {
-    PreferenceFile preferences(path_, worker_);
+    PreferenceFile preferences(path_, services_);
+    EXPECT_FALSE(preferences.wasUnreadable()) << "there was none";
     EXPECT_EQ(worker_.pending(), 0) << "reading writes nothing";
     preferences.set(u"a"_s, 1.5);
     EXPECT_EQ(worker_.pending(), 1);
@@ -86,7 +92,7 @@ TEST_F(PreferenceFileTest, IsWrittenAtOnceForItsUserAlone) {
 }
 
 TEST_F(PreferenceFileTest, ChangesDuringAWriteShareTheNext) {
-    PreferenceFile preferences(path_, worker_);
+    PreferenceFile preferences(path_, services_);
     for (int i = 0; i < 100; ++i) {
         preferences.set(u"a"_s, i);
     }
@@ -98,7 +104,7 @@ TEST_F(PreferenceFileTest, ChangesDuringAWriteShareTheNext) {
 TEST_F(PreferenceFileTest, KeepsWhatItDoesNotKnow) {
     ASSERT_TRUE(QDir(folder_.path()).mkdir(u"ravelo"_s));
     ASSERT_TRUE(writeFileAtomically(path_, R"({"later":{"x":[1]},"a":"text"})"));
-    PreferenceFile(path_, worker_).set(u"a"_s, true);
+    PreferenceFile(path_, services_).set(u"a"_s, true);
     EXPECT_EQ(contents().simplified(), R"({ "a": true, "later": { "x": [ 1 ] } })");
 }
 
@@ -106,12 +112,14 @@ TEST_F(PreferenceFileTest, SetsAnUnreadableFileAside) {
     ASSERT_TRUE(QDir(folder_.path()).mkdir(u"ravelo"_s));
     for (const QByteArray junk : {"", "junk", "[1]", R"({"a":1)"}) {
         ASSERT_TRUE(writeFileAtomically(path_, junk));
-        PreferenceFile preferences(path_, worker_);
+        PreferenceFile preferences(path_, services_);
+        EXPECT_TRUE(preferences.wasUnreadable());
         EXPECT_TRUE(preferences.value(u"a"_s).isUndefined());
         EXPECT_EQ(contents(), junk) << "untouched until something is set";
         preferences.set(u"a"_s, 2);
         worker_.drain();
         EXPECT_EQ(contents().simplified(), R"({ "a": 2 })");
+        EXPECT_EQ(preferences.putAside(), path_ + u".unreadable"_s);
         QFile aside(path_ + u".unreadable"_s);
         EXPECT_EQ(readFile(aside.fileName()), junk);
         EXPECT_TRUE(aside.remove());
@@ -121,10 +129,49 @@ TEST_F(PreferenceFileTest, SetsAnUnreadableFileAside) {
 TEST_F(PreferenceFileTest, LivesWithoutADisk) {
     QFile file(folder_.filePath(u"ravelo"_s));
     ASSERT_TRUE(file.open(QFile::WriteOnly)) << "a file where the folder should be";
-    PreferenceFile preferences(path_, worker_);
+    PreferenceFile preferences(path_, services_);
+    QStringList told;
+    preferences.onSaved = [&](const Result<void>& saved) {
+        told.append(saved ? u"saved"_s : saved.error().message);
+    };
     preferences.set(u"a"_s, 1);
     worker_.drain();
     EXPECT_EQ(preferences.value(u"a"_s), 1);
+    ASSERT_TRUE(file.remove());
+    scheduler_.advance(Seconds(31));
+    worker_.drain();
+    EXPECT_EQ(contents().simplified(), R"({ "a": 1 })") << "tried again";
+    EXPECT_EQ(told, QStringList({u"Not a directory"_s, u"saved"_s}));
+    scheduler_.advance(Seconds(100));
+    EXPECT_EQ(worker_.pending(), 0) << "nothing is left to try";
+}
+
+TEST_F(PreferenceFileTest, TriesOnceMoreAtTheEnd) {
+    QFile file(folder_.filePath(u"ravelo"_s));
+    ASSERT_TRUE(file.open(QFile::WriteOnly));
+    {
+        PreferenceFile preferences(path_, services_);
+        preferences.set(u"a"_s, 1);
+        worker_.drain();
+        ASSERT_TRUE(file.remove());
+    }
+    EXPECT_EQ(contents().simplified(), R"({ "a": 1 })");
+}
+
+TEST_F(PreferenceFileTest, LeavesAloneWhatIsNotOursAnyMore) {
+    services_.mayWrite = [] {
+        return failure(u"taken over"_s);
+    };
+    PreferenceFile preferences(path_, services_);
+    QString reason;
+    preferences.onSaved = [&](const Result<void>& saved) {
+        reason = saved.error().message;
+    };
+    preferences.set(u"a"_s, 1);
+    worker_.drain();
+    EXPECT_EQ(reason, u"taken over"_s);
+    EXPECT_EQ(contents(), "missing");
+    EXPECT_EQ(scheduler_.pending(), 0) << "that will not change";
 }
 
 } // namespace

@@ -205,7 +205,8 @@ void collect(const QQuickItem* item, const QString& path, QJsonObject& into) {
     }
 }
 
-void dragFilesOver(QQuickWindow& window) {
+void dragFilesOver(PanelWorld& world, QQuickWindow& window) {
+    world.drags.begin(true);
     QMimeData files;
     files.setUrls({QUrl(u"file:///home/someone/estimate.pdf"_s)});
     QDragEnterEvent enter({600, 260}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
@@ -233,6 +234,21 @@ void playBar(const QString& scene, PanelWorld& world, PanelView& view) {
     settle();
 }
 
+void notify(const QString& scene, Notices& notices, ManualScheduler& scheduler) {
+    if (scene.contains(u"aside"_s)) {
+        notices.putAside(scene.contains(u"preferences"_s) ? Notices::Source::preferences
+                                                          : Notices::Source::store,
+                         scene.contains(u"preferences"_s) ? u"/x/preferences.json.unreadable"_s
+                                                          : u"/x/store.json.unreadable"_s);
+        return;
+    }
+    notices.saveFailed(Notices::Source::store, u"the disk is full"_s);
+    scheduler.advance(minute * 2);
+    if (scene == u"notice-saved-again") {
+        notices.saved(Notices::Source::store);
+    }
+}
+
 void play(const QString& scene, PanelWorld& world, PanelView& view) {
     QQuickWindow& window = view.window();
     if (scene.startsWith(u"bar-"_s)) {
@@ -251,6 +267,11 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     world.controller.positionExpanded();
     window.resize(world.controller.frame().size().toSize());
     settle();
+    if (scene.startsWith(u"notice-"_s)) {
+        notify(scene, world.notices, world.scheduler);
+    } else if (scene == u"too-large") {
+        view.host().tellTooLarge({TooLargeCopy::Measure::bytesOfText, 14'885'000});
+    }
     if (QQuickItem* grid = find(window.contentItem(), u"grid"_s)) {
         grid->setFocus(false); // Or the first tile shows that it has the keyboard.
     }
@@ -307,7 +328,7 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         click(window, middle(window, u"searchInput"_s));
         find(window.contentItem(), u"searchInput"_s)->setProperty("text", u"larkspur"_s);
     } else if (scene == u"shelf-drop") {
-        dragFilesOver(window);
+        dragFilesOver(world, window);
     } else if (scene == u"shelf-selected") {
         view.host().shelf()->toggle(1);
         view.host().shelf()->toggle(3);

@@ -1,6 +1,7 @@
 // The shelf in the panel: what it shows, and what hands and keys do to the files on it.
 
 #include "PanelFixture.h"
+#include "base/FileUrl.h"
 #include "support/GreenHeic.h"
 #include "ui/DragSourceView.h"
 #include "ui/FileThumb.h"
@@ -9,6 +10,8 @@
 #include <QDragEnterEvent>
 #include <QImageWriter>
 #include <QMimeData>
+
+#include <cstdio>
 
 namespace ravelo {
 
@@ -50,7 +53,8 @@ protected:
         return names.join(u' ');
     }
 
-    void dragOver(const QPointF& place) {
+    void dragOver(const QPointF& place, bool hasFiles = true) {
+        world.drags.begin(hasFiles);
         QMimeData files;
         files.setUrls({file(u"a"_s)});
         QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &files, Qt::LeftButton,
@@ -125,12 +129,14 @@ TEST_P(ShelfRequest, showsTheShelf) {
 INSTANTIATE_TEST_SUITE_P(All, ShelfRequest,
                          testing::Values(RequestCase{"whileClosed",
                                                      [](PanelWorld& world) {
+                                                         world.drags.begin(true);
                                                          world.controller.onDragEnter();
                                                      }},
                                          RequestCase{"beforeTheContentIsBuilt",
                                                      [](PanelWorld& world) {
                                                          world.controller.positionExpanded();
                                                          world.controller.collapse();
+                                                         world.drags.begin(true);
                                                          world.controller.onDragEnter();
                                                      }},
                                          RequestCase{"whileOpen",
@@ -145,12 +151,16 @@ TEST_F(ShelfTab, lightsUpAndForgetsTheSelectionWhileFilesAreDraggedOverIt) {
     clickOn(u"tab0"_s);
     park(1, 1);
     world.store.toggleSelectStack({file(u"1"_s)});
+    dragOver({400, 300}, false);
+    EXPECT_EQ(selected(), u"1"_s) << "by what carries no files";
+    EXPECT_EQ(shown(u"grid"_s), nullptr) << "by what carries no files";
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(&view.window(), &leave);
     dragOver({400, 300});
     EXPECT_EQ(selected(), QString());
     EXPECT_NE(shown(u"grid"_s), nullptr) << "the tab";
     world.store.removeFromShelf(file(u"1"_s));
     EXPECT_TRUE(item(u"dropCard"_s)->property("targeted").toBool());
-    QDragLeaveEvent leave;
     QCoreApplication::sendEvent(&view.window(), &leave);
     EXPECT_FALSE(item(u"dropCard"_s)->property("targeted").toBool());
 }
@@ -465,10 +475,21 @@ TEST(FileThumbs, showWhatTelephonesWrite) {
     EXPECT_EQ(thumbOf(QUrl::fromLocalFile(upright)).size(), QSize(42, 56));
 }
 
+TEST(FileThumbs, areMadeOfFilesWhoseNamesAreNotUtf8) {
+    const QTemporaryDir folder;
+    const QString plain = folder.filePath(u"photo.png"_s);
+    ASSERT_TRUE(QImage(200, 100, QImage::Format_RGB32).save(plain));
+    const QByteArray odd = QFile::encodeName(folder.path()) + "/\xe4.png";
+    ASSERT_EQ(std::rename(QFile::encodeName(plain).constData(), odd.constData()), 0);
+    EXPECT_EQ(thumbOf(fileUrl(odd)).size(), QSize(72, 56));
+    EXPECT_EQ(std::remove(odd.constData()), 0); // Qt would not find it.
+}
+
 TEST(FileThumbs, surviveTheWayThroughAnAddress) {
-    const QUrl file = QUrl::fromLocalFile(u"/a b/c#d?e%20ü/ñ.png"_s);
-    const QString address = fileThumbAddress(file);
-    EXPECT_EQ(fileOfThumb(QUrl(address).path().mid(1)), file);
+    for (const QByteArray path : {"/a b/c#d?e%20ü/ñ.png", "/no utf-8 \xe4.png"}) {
+        const QString address = fileThumbAddress(fileUrl(path));
+        EXPECT_EQ(filePath(fileOfThumb(QUrl(address).path().mid(1))), path);
+    }
 }
 
 } // namespace

@@ -80,6 +80,7 @@ TEST_P(UsageLineOf, aWindowOfThePlan) {
     EXPECT_EQ(line.reset, expected.reset);
     EXPECT_DOUBLE_EQ(line.fraction, expected.fraction);
     EXPECT_EQ(line.band, expected.band);
+    EXPECT_EQ(line.resetPassed, expected.resetPassed);
 }
 
 UsageCase percent(const char* name, double value, const QString& text, double fraction,
@@ -90,7 +91,7 @@ UsageCase percent(const char* name, double value, const QString& text, double fr
 UsageCase minutes(const char* name, double left, const QString& reset) {
     return {name,
             UsageWindow{50, Date{1000 + left * 60}},
-            {true, u"50%"_s, reset, 0.5, UsageBand::Low}};
+            {true, u"50%"_s, reset, 0.5, UsageBand::Low, left <= 0}};
 }
 
 INSTANTIATE_TEST_SUITE_P(

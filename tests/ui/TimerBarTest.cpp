@@ -2,6 +2,7 @@
 
 #include "Input.h"
 #include "Subjects.h"
+#include "fakes/FakeDetachedJobs.h"
 #include "fakes/UsageWorld.h"
 #include "support/Eventually.h"
 #include "support/Told.h"
@@ -32,7 +33,9 @@ protected:
     MemoryPreferences preferences_;
     MemoryPasteboard pasteboard_{scheduler_};
     FakeAlertSound sound_;
-    Store store_{folder_.path(), {scheduler_, worker_, preferences_, pasteboard_, sound_, {}}};
+    FakeDetachedJobs jobs_{scheduler_};
+    Store store_{folder_.path(),
+                 {scheduler_, worker_, preferences_, pasteboard_, sound_, jobs_, {}}};
     TimerFace face_{store_, scheduler_};
     QStringList figures_;
 };

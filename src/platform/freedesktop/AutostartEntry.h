@@ -14,9 +14,12 @@ public:
     /// is to be started.
     AutostartEntry(const QString& folder, QString program);
 
-    /// Also where the entry names another program, say an older place of this one; not where the
-    /// user has switched it off in the desktop's own settings.
+    /// Also if the entry names another program, say an older place of this one, as long as that is
+    /// there; not if the user has switched it off in the desktop's own settings.
     [[nodiscard]] bool isEnabled() const override;
+
+    /// Writes the entry again if it is switched on but its program is gone.
+    [[nodiscard]] Result<void> repair() override;
 
     /// Writes the entry anew, or removes it.
     [[nodiscard]] Result<void> setEnabled(bool enabled) override;

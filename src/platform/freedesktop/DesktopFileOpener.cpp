@@ -1,11 +1,16 @@
 #include "platform/freedesktop/DesktopFileOpener.h"
 
 #include "base/FileUrl.h"
+#include "platform/DetachedJobs.h"
 #include "platform/Programs.h"
+#include "platform/freedesktop/DefaultProgram.h"
 
 #include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
+#include <QLocale>
+#include <QMimeDatabase>
 
+#include <memory>
 #include <utility>
 
 namespace ravelo {
@@ -18,10 +23,30 @@ QUrl folderOf(const QUrl& file) {
     return file.adjusted(QUrl::StripTrailingSlash).adjusted(QUrl::RemoveFilename);
 }
 
+/// "pt_BR", "pt" for Brazil.
+QStringList languages() {
+    const QString language = QLocale().name();
+    return {language, language.section(u'_', 0, 0)};
+}
+
+QString programFor(const QUrl& what) {
+    const auto folders = ProgramFolders::usual();
+    if (!what.isLocalFile()) {
+        return defaultProgram(u"x-scheme-handler/"_s + what.scheme(), folders, languages());
+    }
+    const QMimeType type =
+        QMimeDatabase().mimeTypeForFile(what.path(), QMimeDatabase::MatchExtension);
+    QString name = defaultProgram(type.name(), folders, languages());
+    for (const QString& wider : type.allAncestors()) {
+        name = name.isEmpty() ? defaultProgram(wider, folders, languages()) : name;
+    }
+    return name;
+}
+
 } // namespace
 
-DesktopFileOpener::DesktopFileOpener(QDBusConnection bus, Programs& programs)
-    : bus_(std::move(bus)), programs_(programs) {}
+DesktopFileOpener::DesktopFileOpener(QDBusConnection bus, Programs& programs, DetachedJobs& jobs)
+    : bus_(std::move(bus)), programs_(programs), jobs_(jobs) {}
 
 void DesktopFileOpener::open(const QUrl& file) {
     const QByteArray what = file.isLocalFile() ? filePath(file) : file.toEncoded();
@@ -36,6 +61,12 @@ void DesktopFileOpener::open(const QUrl& file) {
             }
         }
     });
+}
+
+Handle DesktopFileOpener::findProgram(const QUrl& what, std::function<void(QString)> done) {
+    const auto name = std::make_shared<QString>();
+    return jobs_.run([name, what] { *name = programFor(what); },
+                     [name, done = std::move(done)] { done(*name); });
 }
 
 void DesktopFileOpener::showInFolder(const QUrl& file) {

@@ -10,6 +10,7 @@
 
 namespace ravelo {
 
+class DetachedJobs;
 class Programs;
 
 /// xdg-open, and for a file among others the file manager that answers on the session bus
@@ -18,15 +19,18 @@ class DesktopFileOpener final : public QObject, public FileOpener {
     Q_OBJECT
 
 public:
-    /// `programs` must outlive it.
-    DesktopFileOpener(QDBusConnection bus, Programs& programs);
+    /// `programs` and `jobs` must outlive it.
+    DesktopFileOpener(QDBusConnection bus, Programs& programs, DetachedJobs& jobs);
 
     void open(const QUrl& file) override;
+    [[nodiscard]] Handle findProgram(const QUrl& what,
+                                     std::function<void(QString name)> done) override;
     void showInFolder(const QUrl& file) override;
 
 private:
     QDBusConnection bus_;
     Programs& programs_;
+    DetachedJobs& jobs_;
     QList<QByteArray> waiting_; ///< To be opened once the opener is found.
     Handle looking_;
 };

@@ -3,6 +3,7 @@
 #include "platform/freedesktop/PackageKitTransaction.h"
 
 #include <algorithm>
+#include <memory>
 
 namespace ravelo {
 
@@ -44,7 +45,7 @@ Handle PackageKit::check(std::function<void(Checked)> done) {
     const auto isOurs = [name = package_](const QString& id) {
         return nameIn(id) == name;
     };
-    const auto lookForNewer = [=, bus = bus_](bool isKnown) {
+    const auto lookForNewer = [=, bus = bus_, patience = patience_](bool isKnown) {
         begin(step, std::make_unique<Transaction>(
                         bus, u"GetUpdates"_s, QVariantList{noFilter},
                         [=](const Transaction::Done& updates) {
@@ -61,18 +62,21 @@ Handle PackageKit::check(std::function<void(Checked)> done) {
                                 done(tl::unexpected(
                                     UpdateProblem{UpdateProblem::Kind::notFromRepository, {}}));
                             }
-                        }));
+                        },
+                        patience));
     };
-    const auto refresh = [=, bus = bus_](bool isKnown) {
+    const auto refresh = [=, bus = bus_, patience = patience_](bool isKnown) {
         const bool evenIfFresh = false;
-        begin(step, std::make_unique<Transaction>(bus, u"RefreshCache"_s, QVariantList{evenIfFresh},
-                                                  [=](const Transaction::Done& refreshed) {
-                                                      if (refreshed) {
-                                                          lookForNewer(isKnown);
-                                                      } else {
-                                                          done(tl::unexpected(refreshed.error()));
-                                                      }
-                                                  }));
+        begin(step, std::make_unique<Transaction>(
+                        bus, u"RefreshCache"_s, QVariantList{evenIfFresh},
+                        [=](const Transaction::Done& refreshed) {
+                            if (refreshed) {
+                                lookForNewer(isKnown);
+                            } else {
+                                done(tl::unexpected(refreshed.error()));
+                            }
+                        },
+                        patience));
     };
     begin(
         step,
@@ -87,7 +91,8 @@ Handle PackageKit::check(std::function<void(Checked)> done) {
                 } else {
                     done(tl::unexpected(UpdateProblem{UpdateProblem::Kind::notFromRepository, {}}));
                 }
-            }));
+            },
+            patience_));
     return Handle([step] { begin(step, nullptr); });
 }
 

@@ -4,7 +4,7 @@
 
 #include <QDBusConnection>
 
-#include <memory>
+#include <chrono>
 #include <utility>
 
 namespace ravelo {
@@ -13,8 +13,11 @@ namespace ravelo {
 /// is installed and does not run. Main thread.
 class PackageKit final : public PackageUpdates {
 public:
-    PackageKit(QDBusConnection bus, QString package)
-        : bus_(std::move(bus)), package_(std::move(package)) {}
+    /// Looking for updates is given up after `patience` without a word from the service. Installing
+    /// is not: a package may be set up silently for longer.
+    PackageKit(QDBusConnection bus, QString package,
+               std::chrono::milliseconds patience = std::chrono::seconds(30))
+        : bus_(std::move(bus)), package_(std::move(package)), patience_(patience) {}
 
     [[nodiscard]] Handle check(std::function<void(Checked)> done) override;
     [[nodiscard]] Handle install(const AvailableUpdate& update,
@@ -24,6 +27,7 @@ public:
 private:
     QDBusConnection bus_;
     QString package_;
+    std::chrono::milliseconds patience_;
 };
 
 } // namespace ravelo

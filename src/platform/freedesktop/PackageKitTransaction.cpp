@@ -41,12 +41,22 @@ UpdateProblem problemOf(const QDBusMessage& reply) {
 } // namespace
 
 PackageKitTransaction::PackageKitTransaction(QDBusConnection bus, QString method,
-                                             QVariantList arguments, std::function<void(Done)> done)
+                                             QVariantList arguments, std::function<void(Done)> done,
+                                             std::optional<std::chrono::milliseconds> patience)
     : bus_(std::move(bus)),
       method_(std::move(method)),
       arguments_(std::move(arguments)),
       done_(std::move(done)),
       service_(service, bus_, QDBusServiceWatcher::WatchForUnregistration) {
+    silence_.setSingleShot(true);
+    silence_.callOnTimeout([this] {
+        end(tl::unexpected(
+            UpdateProblem{UpdateProblem::Kind::failed, u"PackageKit does not answer."_s}));
+    });
+    if (patience) {
+        silence_.setInterval(*patience);
+        silence_.start();
+    }
     const auto create = QDBusMessage::createMethodCall(service, u"/org/freedesktop/PackageKit"_s,
                                                        service, u"CreateTransaction"_s);
     call_ = callBus(
@@ -59,6 +69,7 @@ void PackageKitTransaction::begin(const QDBusMessage& created) {
         end(tl::unexpected(problemOf(created)));
         return;
     }
+    heard();
     path_ = created.arguments().constFirst().value<QDBusObjectPath>().path();
     listen();
     const QStringList hints{u"interactive=true"_s, u"background=false"_s,
@@ -92,6 +103,7 @@ void PackageKitTransaction::call(const QString& method, const QVariantList& argu
 }
 
 void PackageKitTransaction::Package(uint /*info*/, const QString& id, const QString& /*summary*/) {
+    heard();
     packages_.append(id);
 }
 
@@ -111,6 +123,7 @@ void PackageKitTransaction::Finished(uint exit, uint /*runtime*/) {
 
 void PackageKitTransaction::PropertiesChanged(const QString& interface, const QVariantMap& changed,
                                               const QStringList& /*invalidated*/) {
+    heard();
     const QString percentage = u"Percentage"_s;
     if (interface == transaction && changed.contains(percentage) && onProgress) {
         const uint percent = changed.value(percentage).toUInt();
@@ -119,7 +132,14 @@ void PackageKitTransaction::PropertiesChanged(const QString& interface, const QV
     }
 }
 
+void PackageKitTransaction::heard() {
+    if (silence_.isActive()) {
+        silence_.start(); // From the beginning.
+    }
+}
+
 void PackageKitTransaction::end(Done done) {
+    silence_.stop();
     if (const auto tell = std::exchange(done_, nullptr)) {
         tell(std::move(done)); // Which may destroy this.
     }

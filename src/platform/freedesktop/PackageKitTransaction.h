@@ -7,9 +7,11 @@
 #include <QDBusServiceWatcher>
 #include <QObject>
 #include <QStringList>
+#include <QTimer>
 #include <QVariantList>
 #include <QVariantMap>
 
+#include <chrono>
 #include <functional>
 #include <optional>
 
@@ -27,8 +29,10 @@ public:
     using Done = tl::expected<QStringList, UpdateProblem>;
 
     /// Calls `method`; `done` is told of the end, once and later, unless this is destroyed before.
+    /// With `patience` it ends as a failure after that long without a word from PackageKit.
     PackageKitTransaction(QDBusConnection bus, QString method, QVariantList arguments,
-                          std::function<void(Done)> done);
+                          std::function<void(Done)> done,
+                          std::optional<std::chrono::milliseconds> patience = {});
 
     /// Percents while they are known.
     std::function<void(std::optional<int>)> onProgress;
@@ -47,6 +51,7 @@ private:
     void listen();
     void call(const QString& method, const QVariantList& arguments,
               std::function<void(const QDBusMessage&)> done);
+    void heard();
     void end(Done done);
 
     QDBusConnection bus_;
@@ -57,6 +62,7 @@ private:
     QStringList packages_;
     std::optional<UpdateProblem> problem_;
     QDBusServiceWatcher service_;
+    QTimer silence_;
     Handle call_;
 };
 

@@ -4,12 +4,16 @@
 
 #include <QCryptographicHash>
 #include <QDeadlineTimer>
+#include <QFile>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocalSocket>
 #include <QStandardPaths>
 #include <QThread>
+
+#include <sys/stat.h>
+#include <unistd.h>
 
 namespace ravelo {
 
@@ -19,16 +23,28 @@ namespace {
 
 constexpr qint64 longestRequest = 64 << 20; // Bytes, of what has no end yet.
 
+bool isPrivateFolder(const QByteArray& path) {
+    struct stat info = {};
+    return ::lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) &&
+           info.st_uid == ::geteuid() && (info.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+}
+
+QString socketFolder() {
+    if (const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR"); isPrivateFolder(runtime)) {
+        return QFile::decodeName(runtime);
+    }
+    // One of our own: others share the one above it.
+    const QString folder =
+        QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + u"/ravelo"_s;
+    makePrivateFolder(folder);
+    return folder;
+}
+
 // One session is one display; a file name must not hold what a display name may.
 QString socketPath() {
     const QByteArray display = QCryptographicHash::hash(
         qgetenv("DISPLAY") + '\n' + qgetenv("WAYLAND_DISPLAY"), QCryptographicHash::Sha1);
-    QString folder = QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation);
-    if (folder.isEmpty()) {
-        folder = QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation);
-        makePrivateFolder(folder);
-    }
-    return folder + u"/ravelo-"_s + QString::fromLatin1(display.toHex().left(12));
+    return socketFolder() + u"/ravelo-"_s + QString::fromLatin1(display.toHex().left(12));
 }
 
 QByteArray line(const QJsonDocument& json) {

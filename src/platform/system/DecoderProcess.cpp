@@ -38,6 +38,19 @@ std::chrono::milliseconds patience(const Request& request) {
            std::chrono::seconds(1);
 }
 
+PictureLook lookAt(Status status, QSize size) {
+    switch (status) {
+    case Status::done:
+        return {PictureLook::Kind::good, size};
+    case Status::tooManyPixels:
+        return {PictureLook::Kind::tooManyPixels, size};
+    case Status::refused:
+    case Status::ready:
+        break;
+    }
+    return {};
+}
+
 /// Whether the answer is of the size that was asked for.
 bool fits(const Request& request, const DecoderConnection::Answer& answer) {
     const Reply& reply = answer.reply;
@@ -56,8 +69,8 @@ struct DecoderProcess::Source {
     QByteArray identity;
 
     explicit Source(const PictureFile& file) {
-        const QByteArray path = QFile::encodeName(file.path);
-        Descriptor opened(open(path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+        Descriptor opened(
+            open(file.path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
         struct stat info = {};
         // From a pipe or a device nothing may ever come.
         if (opened && fstat(opened.number(), &info) == 0 && S_ISREG(info.st_mode) &&
@@ -87,12 +100,12 @@ QByteArray DecoderProcess::installedProgram() {
         QFileInfo::exists(beside) ? beside : folder + u"/../libexec/ravelo/ravelo-decode"_s);
 }
 
-QSize DecoderProcess::size(const UntrustedPicture& picture) {
+PictureLook DecoderProcess::look(const UntrustedPicture& picture) {
     const auto answer = ask(Source::of(picture), {Kind::probe, 0, 0, 0, probeTime});
-    return answer && answer->reply.status == Status::done && answer->reply.width > 0 &&
-                   answer->reply.height > 0
-               ? QSize(answer->reply.width, answer->reply.height)
-               : QSize();
+    if (!answer || answer->reply.width <= 0 || answer->reply.height <= 0) {
+        return {};
+    }
+    return lookAt(answer->reply.status, {answer->reply.width, answer->reply.height});
 }
 
 QImage DecoderProcess::filling(const UntrustedPicture& picture, PictureShape shape) {

@@ -23,7 +23,7 @@ public:
     /// Beside the running program, or where it is installed.
     [[nodiscard]] static QByteArray installedProgram();
 
-    [[nodiscard]] QSize size(const UntrustedPicture& picture) override;
+    [[nodiscard]] PictureLook look(const UntrustedPicture& picture) override;
     [[nodiscard]] QImage filling(const UntrustedPicture& picture, PictureShape shape) override;
     [[nodiscard]] QImage icon(const PictureFile& file, int size) override;
     [[nodiscard]] QByteArray png(const UntrustedPicture& picture) override;

@@ -101,7 +101,7 @@ std::optional<HttpsAnswer> answerTo(const QNetworkRequest& request, qint64 large
         return std::nullopt;
     }
     const QVariant status = reply->attribute(QNetworkRequest::HttpStatusCodeAttribute);
-    return HttpsAnswer{status.toInt(), reply->readAll()};
+    return HttpsAnswer{status.toInt(), reply->readAll(), reply->rawHeader("Retry-After")};
 }
 
 } // namespace

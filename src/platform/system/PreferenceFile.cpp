@@ -1,6 +1,7 @@
 #include "platform/system/PreferenceFile.h"
 
 #include "base/Files.h"
+#include "base/Scheduler.h"
 #include "platform/Worker.h"
 
 #include <QFileInfo>
@@ -10,15 +11,26 @@
 
 namespace ravelo {
 
-PreferenceFile::PreferenceFile(QString path, Worker& worker)
-    : path_(std::move(path)), worker_(worker) {
+namespace {
+
+constexpr Seconds retryDelay{30};
+
+} // namespace
+
+PreferenceFile::PreferenceFile(QString path, Services services)
+    : path_(std::move(path)), services_(std::move(services)) {
     const QJsonDocument document = QJsonDocument::fromJson(readFile(path_).value_or(QByteArray()));
-    file_ = document.isObject() ? FileState::ours : FileState::unreadable;
+    wasUnreadable_ = !document.isObject() && QFileInfo::exists(path_);
     values_ = document.object();
+    file_ = std::make_shared<OwnFile>(
+        path_, document.isObject() ? OwnFile::Contents::ours : OwnFile::Contents::unreadable,
+        services_.mayWrite);
 }
 
 PreferenceFile::~PreferenceFile() {
-    worker_.drain();
+    onSaved = nullptr;
+    onPutAside = nullptr;
+    flush();
 }
 
 QJsonValue PreferenceFile::value(const QString& key) const {
@@ -30,28 +42,52 @@ void PreferenceFile::set(const QString& key, const QJsonValue& value) {
         return;
     }
     values_.insert(key, value);
-    if (writing_) {
-        changedMeanwhile_ = true;
-    } else {
+    write();
+}
+
+void PreferenceFile::retry() {
+    if (unsaved_) {
         write();
     }
 }
 
+void PreferenceFile::flush() {
+    services_.worker.drain();
+    retry();
+    services_.worker.drain();
+}
+
 void PreferenceFile::write() {
+    if (writing_) {
+        changedMeanwhile_ = true;
+        return;
+    }
     writing_ = true;
-    auto job = [path = path_, values = values_, file = std::exchange(file_, FileState::ours)] {
-        if (file == FileState::unreadable) {
-            setAsideUnreadable(path);
-        }
-        makePrivateFolder(QFileInfo(path).path());
-        (void)writeFileAtomically(path, QJsonDocument(values).toJson());
+    retry_.reset();
+    const auto outcome = std::make_shared<SaveOutcome>();
+    auto job = [file = file_, values = values_, outcome] {
+        *outcome = file->write(QJsonDocument(values).toJson());
     };
-    worker_.run(std::move(job), [this] {
-        writing_ = false;
-        if (std::exchange(changedMeanwhile_, false)) {
-            write();
+    services_.worker.run(std::move(job), [this, outcome] { written(*outcome); });
+}
+
+void PreferenceFile::written(const SaveOutcome& outcome) {
+    writing_ = false;
+    unsaved_ = outcome.kind != SaveOutcome::Kind::saved;
+    if (std::exchange(changedMeanwhile_, false)) {
+        write();
+    } else if (outcome.kind == SaveOutcome::Kind::failed) {
+        retry_ = services_.scheduler.after(retryDelay, [this] { write(); });
+    }
+    if (!outcome.putAside.isEmpty()) {
+        putAside_ = outcome.putAside;
+        if (onPutAside) {
+            onPutAside();
         }
-    });
+    }
+    if (onSaved) {
+        onSaved(unsaved_ ? failure(outcome.reason) : Result<void>());
+    }
 }
 
 } // namespace ravelo

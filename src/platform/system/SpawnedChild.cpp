@@ -1,6 +1,8 @@
 #include "platform/system/SpawnedChild.h"
 
-#include <array>
+#include <QDir>
+#include <QFile>
+
 #include <cerrno>
 #include <csignal>
 #include <utility>
@@ -8,6 +10,7 @@
 
 #include <fcntl.h>
 #include <spawn.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -15,35 +18,11 @@ namespace ravelo {
 
 namespace {
 
-using Pipe = std::array<int, 2>; // The end to read from, the end to write to.
-using Pipes = std::array<Pipe, 3>;
-
-constexpr int roomy = 1 << 20; ///< Bytes; a program that talks much is not to wait for a reader.
-
-bool openPipes(Pipes& pipes) {
-    for (Pipe& pipe : pipes) {
-        if (pipe2(pipe.data(), O_CLOEXEC) != 0) {
-            return false;
-        }
-        fcntl(pipe[1], F_SETPIPE_SZ, roomy);
-    }
-    return true;
-}
-
-void closePipes(const Pipes& pipes) {
-    for (const Pipe& pipe : pipes) {
-        for (const int end : pipe) {
-            if (end >= 0) {
-                close(end);
-            }
-        }
-    }
-}
-
 struct Program {
     QByteArray path;
     QList<QByteArray> arguments; ///< The first is the path again.
     QList<QByteArray> environment;
+    QByteArray folder; ///< To run in.
 };
 
 /// As execve(2) takes it, valid as long as the list.
@@ -56,16 +35,27 @@ std::vector<char*> terminated(const QList<QByteArray>& list) {
     return pointers;
 }
 
-/// The child's process number, or 0.
-pid_t spawn(const Program& program, const Pipes& pipes) {
-
-    posix_spawn_file_actions_t files;
-    posix_spawn_file_actions_init(&files);
-    for (int stream = 0; stream < 3; ++stream) {
-        const Pipe& pipe = pipes.at(static_cast<size_t>(stream));
-        posix_spawn_file_actions_adddup2(&files, stream == STDIN_FILENO ? pipe[0] : pipe[1],
-                                         stream);
+void remove(const QByteArray& folder) {
+    if (rmdir(folder.constData()) != 0 && errno == ENOTEMPTY) {
+        QDir(QFile::decodeName(folder)).removeRecursively();
     }
+}
+
+/// Empties the folder if an earlier run could not.
+bool makeEmpty(const QByteArray& folder) {
+    remove(folder);
+    mkdir(folder.left(folder.lastIndexOf('/')).constData(), S_IRWXU); // As a rule it is there.
+    return mkdir(folder.constData(), S_IRWXU) == 0;
+}
+
+/// The child's process number, or 0.
+pid_t spawn(const Program& program) {
+    posix_spawn_file_actions_t actions;
+    posix_spawn_file_actions_init(&actions);
+    for (const int stream : {STDIN_FILENO, STDOUT_FILENO, STDERR_FILENO}) {
+        posix_spawn_file_actions_addopen(&actions, stream, "/dev/null", O_RDWR, 0);
+    }
+    posix_spawn_file_actions_addchdir_np(&actions, program.folder.constData());
     posix_spawnattr_t attributes;
     posix_spawnattr_init(&attributes);
     posix_spawnattr_setflags(&attributes, POSIX_SPAWN_SETSIGMASK);
@@ -73,30 +63,31 @@ pid_t spawn(const Program& program, const Pipes& pipes) {
     sigemptyset(&none);
     posix_spawnattr_setsigmask(&attributes, &none);
     pid_t child = 0;
-    if (posix_spawn(&child, program.path.constData(), &files, &attributes,
+    if (posix_spawn(&child, program.path.constData(), &actions, &attributes,
                     terminated(program.arguments).data(),
                     terminated(program.environment).data()) != 0) {
         child = 0;
     }
     posix_spawnattr_destroy(&attributes);
-    posix_spawn_file_actions_destroy(&files);
+    posix_spawn_file_actions_destroy(&actions);
     return child;
 }
 
 void runToItsEnd(const Program& program) {
-    Pipes pipes = {Pipe{-1, -1}, Pipe{-1, -1}, Pipe{-1, -1}};
-    if (openPipes(pipes)) {
-        const pid_t child = spawn(program, pipes);
-        while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
-        }
+    if (!makeEmpty(program.folder)) {
+        return; // Nowhere else is it safe to run.
     }
-    closePipes(pipes);
+    const pid_t child = spawn(program);
+    while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+    }
+    remove(program.folder);
 }
 
 } // namespace
 
-SpawnedChild::SpawnedChild(DetachedJobs& jobs, const QProcessEnvironment& environment)
-    : jobs_(jobs) {
+SpawnedChild::SpawnedChild(DetachedJobs& jobs, const QProcessEnvironment& environment,
+                           QByteArray folder)
+    : jobs_(jobs), folder_(std::move(folder)) {
     for (const QString& variable : environment.toStringList()) {
         environment_.append(variable.toLocal8Bit());
     }
@@ -104,7 +95,7 @@ SpawnedChild::SpawnedChild(DetachedJobs& jobs, const QProcessEnvironment& enviro
 
 Handle SpawnedChild::run(const QByteArray& path, const QList<QByteArray>& arguments,
                          std::function<void()> done) {
-    const Program program{path, QList<QByteArray>{path} + arguments, environment_};
+    const Program program{path, QList<QByteArray>{path} + arguments, environment_, folder_};
     return jobs_.run([program] { runToItsEnd(program); }, std::move(done));
 }
 

@@ -1,8 +1,11 @@
 #pragma once
 
+#include "platform/Pasteboard.h"
+
 #include <QtGlobal>
 
 #include <atomic>
+#include <chrono>
 #include <cstdint>
 #include <mutex>
 #include <optional>
@@ -28,6 +31,7 @@ public:
         }
         orphaned_.reset();
         ++value_;
+        lastCame_ = std::chrono::steady_clock::now();
         return true;
     }
 
@@ -38,6 +42,7 @@ public:
             return false;
         }
         orphaned_ = value_++;
+        lastEnd_ = {*orphaned_, std::chrono::steady_clock::now()};
         return true;
     }
 
@@ -45,6 +50,13 @@ public:
     [[nodiscard]] std::optional<qint64> orphaned() const {
         const std::scoped_lock lock(mutex_);
         return orphaned_;
+    }
+
+    /// The last death, for who asks about the owner that came after it. Any thread.
+    [[nodiscard]] std::optional<OwnerEnd> lastEnd() const {
+        const std::scoped_lock lock(mutex_);
+        return lastEnd_ ? std::optional(OwnerEnd{lastEnd_->value, lastCame_ - lastEnd_->time})
+                        : std::nullopt;
     }
 
     /// Something changed for sure, or is about to: a write of ours is counted before it is done, so
@@ -55,11 +67,13 @@ public:
         ++value_;
     }
 
-    /// The write that was counted took effect before the listener's request `sequence`.
-    void settleOwn(uint32_t sequence) {
+    /// The write that was counted took effect before the listener's request `sequence`. Returns the
+    /// value for it: what else was counted meanwhile came before it, or will be counted again.
+    qint64 settleOwn(uint32_t sequence) {
         const std::scoped_lock lock(mutex_);
         ownWrite_ = sequence;
         orphaned_.reset(); // It may have been told meanwhile, of contents before ours.
+        return value_;
     }
 
 private:
@@ -69,7 +83,15 @@ private:
 
     mutable std::mutex mutex_;
     std::atomic<qint64> value_ = 0;
+
+    struct End {
+        qint64 value;
+        std::chrono::steady_clock::time_point time;
+    };
+
     std::optional<uint32_t> ownWrite_;
+    std::optional<End> lastEnd_;
+    std::chrono::steady_clock::time_point lastCame_;
     std::optional<qint64> orphaned_;
 };
 

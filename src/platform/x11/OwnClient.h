@@ -15,6 +15,9 @@ public:
         return window != XCB_NONE && (window & ~mask_) == base_;
     }
 
+    /// The same for all windows of one client.
+    [[nodiscard]] uint32_t clientOf(xcb_window_t window) const { return window & ~mask_; }
+
 private:
     OwnClient(uint32_t base, uint32_t mask) : base_(base), mask_(mask) {}
 

@@ -17,9 +17,12 @@ qsizetype limitFor(const QByteArray& target) {
 
 } // namespace
 
-PasteboardConversation::PasteboardConversation(Connection& connection, PasteboardPlan plan,
-                                               Done done)
-    : connection_(connection), plan_(std::move(plan)), done_(std::move(done)) {}
+PasteboardConversation::PasteboardConversation(Connection& connection, PasteboardSnapshot known,
+                                               PasteboardPlan plan, Done done)
+    : connection_(connection),
+      plan_(std::move(plan)),
+      done_(std::move(done)),
+      snapshot_(std::move(known)) {}
 
 std::optional<TransferRequest> PasteboardConversation::next() {
     if (step_ == Step::targets) {
@@ -48,8 +51,11 @@ void PasteboardConversation::take(TransferResult result) {
             wanted_ == plainTextType
                 ? toUtf8(target_, connection_.names({&result->type, 1}).front(), result->bytes)
                 : result->bytes;
-    } else if (result.error() != TransferFailure::refused) {
+    } else if (result.error().reason != TransferFailure::refused) {
         fallbacks_.clear(); // It would be as slow or as large under another name.
+    }
+    if (!result && result.error().reason == TransferFailure::tooLarge) {
+        snapshot_.tooLarge.insert(wanted_, result.error().bytes);
     }
 }
 

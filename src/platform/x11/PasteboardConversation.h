@@ -11,8 +11,10 @@ class PasteboardConversation final : public Conversation {
 public:
     using Done = std::function<void(PasteboardSnapshot)>;
 
-    /// `done` is called on the thread of the conversation.
-    PasteboardConversation(Connection& connection, PasteboardPlan plan, Done done);
+    /// `known` is what is known of the owner beforehand. `done` is called on the thread of the
+    /// conversation.
+    PasteboardConversation(Connection& connection, PasteboardSnapshot known, PasteboardPlan plan,
+                           Done done);
 
     [[nodiscard]] std::optional<TransferRequest> next() override;
     void take(TransferResult result) override;

@@ -9,8 +9,11 @@
 #include <vector>
 
 #include <malloc.h>
+#include <xcb/xcb.h>
 
 namespace ravelo::x11 {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -45,6 +48,13 @@ Handle keptVariables(std::initializer_list<const char*> names) {
     });
 }
 
+bool isServerReachable() {
+    xcb_connection_t* const xcb = xcb_connect(nullptr, nullptr);
+    const bool reached = xcb_connection_has_error(xcb) == 0;
+    xcb_disconnect(xcb);
+    return reached;
+}
+
 } // namespace
 
 Handle prepareApplication() {
@@ -60,6 +70,19 @@ Handle prepareApplication() {
     keepPixels();
     shareOneHeap();
     return before;
+}
+
+Result<void> findDisplay() {
+    const QByteArray platform = qgetenv("QT_QPA_PLATFORM");
+    if (!platform.isEmpty() && !platform.startsWith("xcb") && !platform.startsWith("wayland")) {
+        return {};
+    }
+    const QString display = qEnvironmentVariable("DISPLAY");
+    if (display.isEmpty()) {
+        return failure(u"no display: DISPLAY is not set"_s);
+    }
+    return isServerReachable() ? Result<void>()
+                               : failure(u"no display: cannot connect to "_s + display);
 }
 
 } // namespace ravelo::x11

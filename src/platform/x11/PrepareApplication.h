@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "base/Result.h"
 
 namespace ravelo::x11 {
 
@@ -12,5 +13,9 @@ namespace ravelo::x11 {
 /// To be let go once the application object exists: then what only its making reads is as before,
 /// so that programs that are started from here do not get it.
 [[nodiscard]] Handle prepareApplication();
+
+/// Fails, in words for the user, if there is no X server to run on: Qt would abort. A platform
+/// without a display server needs none. Before `prepareApplication`.
+[[nodiscard]] Result<void> findDisplay();
 
 } // namespace ravelo::x11

@@ -56,7 +56,8 @@ std::optional<TimePoint> SelectionReader::deadline() const {
 void SelectionReader::expire(TimePoint now) {
     if (transfer_ && transfer_->deadline() <= now) {
         dropTransfer();
-        entries_.front().conversation->take(tl::unexpected(TransferFailure::tooSlow));
+        entries_.front().conversation->take(
+            tl::unexpected(TransferFailure{TransferFailure::tooSlow}));
         proceed();
     }
 }

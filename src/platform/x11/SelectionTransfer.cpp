@@ -80,14 +80,14 @@ std::optional<TransferResult> SelectionTransfer::handle(const xcb_generic_event_
 
 std::optional<TransferResult> SelectionTransfer::begin(const xcb_selection_notify_event_t& notice) {
     if (notice.property != property_) {
-        return end(tl::unexpected(TransferFailure::refused));
+        return end(tl::unexpected(TransferFailure{TransferFailure::refused}));
     }
     auto piece = readProperty();
     if (!piece) {
         return end(tl::unexpected(piece.error()));
     }
     if (piece->type == XCB_ATOM_NONE) {
-        return end(tl::unexpected(TransferFailure::refused));
+        return end(tl::unexpected(TransferFailure{TransferFailure::refused}));
     }
     if (piece->type != incr_) {
         deleteProperty();
@@ -98,8 +98,9 @@ std::optional<TransferResult> SelectionTransfer::begin(const xcb_selection_notif
     std::memcpy(&least, piece->bytes.constData(),
                 std::min<std::size_t>(sizeof least, static_cast<std::size_t>(piece->bytes.size())));
     if (least > request_.limit) {
-        return end(tl::unexpected(TransferFailure::tooLarge));
+        return end(tl::unexpected(TransferFailure{TransferFailure::tooLarge, least}));
     }
+    announced_ = least;
     state_ = State::incremental;
     deleteProperty();
     waitForOwner();
@@ -141,12 +142,14 @@ tl::expected<SelectionValue, TransferFailure> SelectionTransfer::readProperty() 
         const Owned<xcb_get_property_reply_t> reply(
             xcb_get_property_reply(connection_.get(), cookie, nullptr));
         if (!reply) {
-            return tl::unexpected(TransferFailure::refused);
+            return tl::unexpected(TransferFailure{TransferFailure::refused});
         }
         left = reply->bytes_after;
         const qsizetype length = xcb_get_property_value_length(reply.get());
-        if (value.bytes.size() + length + qsizetype(left) > room) {
-            return tl::unexpected(TransferFailure::tooLarge);
+        const qsizetype whole = value.bytes.size() + length + qsizetype(left);
+        if (whole > room) {
+            const qint64 least = std::max<qint64>(announced_, value_.bytes.size() + whole);
+            return tl::unexpected(TransferFailure{TransferFailure::tooLarge, least});
         }
         value.type = reply->type;
         value.bytes.append(static_cast<const char*>(xcb_get_property_value(reply.get())), length);

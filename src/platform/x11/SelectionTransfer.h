@@ -15,7 +15,12 @@ struct SelectionValue {
     QByteArray bytes;
 };
 
-enum class TransferFailure { refused, tooSlow, tooLarge };
+struct TransferFailure {
+    enum Reason { refused, tooSlow, tooLarge };
+
+    Reason reason;
+    qint64 bytes = 0; ///< Of what is too large: all of it, or the least that it is.
+};
 
 using TransferResult = tl::expected<SelectionValue, TransferFailure>;
 
@@ -79,6 +84,7 @@ private:
     RequestorWindow window_;
     State state_ = State::asked;
     TimePoint deadline_;
+    qint64 announced_ = 0; ///< By the owner, as the least that will come.
     SelectionValue value_;
 };
 

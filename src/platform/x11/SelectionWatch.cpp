@@ -25,7 +25,7 @@ void SelectionWatch::handle(const xcb_generic_event_t& event) {
             const auto cause = notice.subtype == XCB_XFIXES_SELECTION_EVENT_SET_SELECTION_OWNER
                                    ? OwnerChange::Cause::request
                                    : OwnerChange::Cause::death;
-            changed_({cause, notice.owner, event.full_sequence});
+            changed_({cause, notice.owner, event.full_sequence, notice.selection_timestamp});
         }
         return;
     }

@@ -14,6 +14,7 @@ struct OwnerChange {
     Cause cause = Cause::request; ///< A client asked for it, or the owner is gone.
     xcb_window_t owner = XCB_NONE;
     uint32_t sequence = 0; ///< The last request of the listener's that the server did before.
+    xcb_timestamp_t time = XCB_CURRENT_TIME; ///< The server's, at which it took the selection.
 };
 
 /// Sees the owners of one selection change, and reads from them. Made before the listener starts,

@@ -7,14 +7,23 @@
 
 namespace ravelo::x11 {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
-X11Pointer::Known knownPlaces() {
+/// XWayland says so by an extension. Before version 23.1 it had none, but named its outputs itself;
+/// later ones have the compositor's names.
+bool isXWayland(Connection& connection) {
+    constexpr QByteArrayView name("XWAYLAND");
+    const auto cookie = xcb_query_extension(connection.get(), uint16_t(name.size()), name.data());
+    const Owned<xcb_query_extension_reply_t> reply(
+        xcb_query_extension_reply(connection.get(), cookie, nullptr));
     const QScreen* screen = QGuiApplication::primaryScreen();
-    const bool isXWayland = screen != nullptr && screen->name().startsWith("XWAYLAND"_L1);
-    return isXWayland ? X11Pointer::Known::overX11Windows : X11Pointer::Known::everywhere;
+    return (reply && reply->present != 0) ||
+           (screen != nullptr && screen->name().startsWith(QLatin1StringView(name)));
+}
+
+X11Pointer::Known knownPlaces(Connection& connection) {
+    return isXWayland(connection) ? X11Pointer::Known::overX11Windows
+                                  : X11Pointer::Known::everywhere;
 }
 
 } // namespace
@@ -47,7 +56,7 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
       listener_(std::move(listener)),
       pasteboard_(*listener_),
       drags_(*listener_),
-      pointer_(*connection_, *listener_, knownPlaces(),
+      pointer_(*connection_, *listener_, knownPlaces(*connection_),
                [this](QPoint place) { return screens_.toLogical(place); }) {
     listener_->start();
 }

@@ -2,6 +2,7 @@
 
 #include "base/UriList.h"
 #include "platform/x11/OwnClient.h"
+#include "platform/x11/SelectionWatch.h"
 
 #include <QSysInfo>
 
@@ -13,28 +14,31 @@ namespace {
 
 constexpr qsizetype mostBytes = 8 << 20;
 
-/// Asks for targets until one is given. TARGETS is none of them: sources of Qt refuse it while a
-/// drag is on.
+/// Asks for targets until one is given, and nothing more once another drag has begun: its source
+/// would answer. TARGETS is none of them: sources of Qt refuse it while a drag is on.
 class FirstOfTargets final : public Conversation {
 public:
     using Done = std::function<void(const QByteArray&)>;
 
-    /// `done` is given nothing where the source gives nothing or is gone before it has.
-    FirstOfTargets(QList<xcb_atom_t> targets, Done done)
-        : targets_(std::move(targets)), done_(std::move(done)) {}
+    using IsNewest = std::function<bool()>;
+
+    /// `done` is given nothing if the source gives nothing or is gone before it has.
+    FirstOfTargets(QList<xcb_atom_t> targets, IsNewest isNewest, Done done)
+        : targets_(std::move(targets)), isNewest_(std::move(isNewest)), done_(std::move(done)) {}
 
     ~FirstOfTargets() override { done_(bytes_); }
 
     [[nodiscard]] std::optional<TransferRequest> next() override {
-        return targets_.isEmpty() ? std::nullopt
-                                  : std::optional(TransferRequest{targets_.takeFirst(), mostBytes});
+        return targets_.isEmpty() || !isNewest_()
+                   ? std::nullopt
+                   : std::optional(TransferRequest{targets_.takeFirst(), mostBytes});
     }
 
     void take(TransferResult result) override {
         if (result) {
             bytes_ = result->bytes;
             targets_.clear();
-        } else if (result.error() != TransferFailure::refused) {
+        } else if (result.error().reason != TransferFailure::refused) {
             targets_.clear(); // It would be as slow under another name.
         }
     }
@@ -43,6 +47,7 @@ public:
 
 private:
     QList<xcb_atom_t> targets_;
+    IsNewest isNewest_;
     Done done_;
     QByteArray bytes_;
 };
@@ -52,7 +57,8 @@ QList<QUrl> readFiles(const QByteArray& uriList) {
 }
 
 /// It has to be text on its way over the bus; some end it by a NUL.
-QByteArray readKey(QByteArray key) {
+QByteArray readKey(const QByteArray& bytes) {
+    QByteArray key = bytes;
     while (key.endsWith('\0')) {
         key.chop(1);
     }
@@ -63,63 +69,76 @@ QByteArray readKey(QByteArray key) {
 } // namespace
 
 X11DragMonitor::X11DragMonitor(Listener& listener)
-    : listener_(listener), changes_(std::make_shared<Notifier>(listener)) {
-    auto changed = [counter = counter_, changes = changes_,
+    : listener_(listener),
+      changes_(std::make_shared<Notifier>(listener)),
+      reads_(std::make_shared<DragReads>(
+          listener.connection(), listener.connection().atom(QByteArrayLiteral("XdndSelection")))) {
+    auto changed = [counter = counter_, changes = changes_, reads = reads_,
                     own = OwnClient::ofQt()](const OwnerChange& change) {
         if (change.owner != XCB_NONE && !own.owns(change.owner)) {
+            reads->sourceChanged(change.time);
             counter->countForeign(change.sequence);
             changes->notify();
         }
     };
-    watch_ = std::make_shared<SelectionWatch>(listener.connection(),
-                                              QByteArrayLiteral("XdndSelection"), changed);
-    listener.attach(watch_);
+    listener.attach(std::make_shared<SelectionWatch>(listener.connection(),
+                                                     QByteArrayLiteral("XdndSelection"), changed));
+    listener.attach(reads_);
 }
 
 std::optional<QList<QUrl>> X11DragMonitor::files() {
-    return ask(files_, {QByteArrayLiteral("text/uri-list")}, readFiles);
+    return ask(&Drag::filesAsked, &DragAnswers::files, {QByteArrayLiteral("text/uri-list")},
+               readFiles);
 }
 
 std::optional<QByteArray> X11DragMonitor::transferKey() {
     // The second is what the first was called before.
-    return ask(key_,
+    return ask(&Drag::keyAsked, &DragAnswers::transferKey,
                {QByteArrayLiteral("application/vnd.portal.filetransfer"),
                 QByteArrayLiteral("application/vnd.portal.files")},
                readKey);
 }
 
-template <typename Answer, typename Read>
-std::optional<Answer> X11DragMonitor::ask(const std::shared_ptr<Question<Answer>>& question,
-                                          const QList<QByteArray>& targets, Read read) {
-    const qint64 drag = counter_->value();
-    if (drag == 0) {
-        return std::nullopt; // None has begun yet.
+std::shared_ptr<const DragAnswers> X11DragMonitor::answers() {
+    const auto drag = newest();
+    return {drag, &drag->answers};
+}
+
+std::shared_ptr<X11DragMonitor::Drag> X11DragMonitor::newest() {
+    if (const qint64 count = counter_->value(); newest_->count != count) {
+        newest_ = std::make_shared<Drag>(Drag{count, {}});
     }
-    if (question->drag == drag) {
-        return question->answer;
+    return newest_;
+}
+
+template <typename Answer>
+std::optional<Answer>
+X11DragMonitor::ask(bool Drag::*asked, std::optional<Answer> DragAnswers::*answer,
+                    const QList<QByteArray>& targets, Answer (*read)(const QByteArray&)) {
+    const auto drag = newest();
+    // Count 0: none has begun yet.
+    if (drag->count == 0 || std::exchange((*drag).*asked, true)) {
+        return drag->answers.*answer;
     }
-    *question = {drag, std::nullopt};
-    auto done = [&listener = listener_, question, changes = changes_, drag,
+    auto done = [&listener = listener_, changes = changes_, drag, answer,
                  read](const QByteArray& bytes) {
-        listener.tell([question, changes, drag, answer = read(bytes)] {
-            if (question->drag == drag) {
-                question->answer = answer;
-                changes->notify();
-            }
+        listener.tell([changes, drag, answer, value = read(bytes)] {
+            drag->answers.*answer = value;
+            changes->notify();
         });
     };
-    listener_.post(
-        [&listener = listener_, counter = counter_, watch = watch_, drag, targets, done] {
-            listener.catchUp();
-            if (counter->value() != drag) {
-                return;
-            }
-            QList<xcb_atom_t> atoms;
-            for (const QByteArray& target : targets) {
-                atoms.append(listener.connection().atom(target));
-            }
-            watch->reader().add(0, std::make_unique<FirstOfTargets>(atoms, done));
-        });
+    listener_.post([&listener = listener_, counter = counter_, reads = reads_, count = drag->count,
+                    targets, done] {
+        listener.catchUp();
+        QList<xcb_atom_t> atoms;
+        for (const QByteArray& target : targets) {
+            atoms.append(listener.connection().atom(target));
+        }
+        const auto isNewest = [counter, count] {
+            return counter->value() == count;
+        };
+        reads->begin(std::make_unique<FirstOfTargets>(atoms, isNewest, done));
+    });
     return std::nullopt;
 }
 

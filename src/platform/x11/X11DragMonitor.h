@@ -2,11 +2,8 @@
 
 #include "platform/DragMonitor.h"
 #include "platform/x11/ChangeCounter.h"
+#include "platform/x11/DragReads.h"
 #include "platform/x11/Notifier.h"
-#include "platform/x11/SelectionWatch.h"
-
-#include <QList>
-#include <QUrl>
 
 #include <memory>
 
@@ -22,29 +19,32 @@ public:
 
     [[nodiscard]] std::optional<QList<QUrl>> files() override;
     [[nodiscard]] std::optional<QByteArray> transferKey() override;
+    [[nodiscard]] std::shared_ptr<const DragAnswers> answers() override;
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return changes_->add(std::move(callback));
     }
 
 private:
-    /// What the source of one drag was asked and has answered. Main thread.
-    template <typename Answer>
-    struct Question {
-        qint64 drag = 0; ///< The change count of the drag.
-        std::optional<Answer> answer;
+    /// One drag, as its source was asked and has answered. Main thread.
+    struct Drag {
+        qint64 count = 0; ///< The change count.
+        DragAnswers answers;
+        bool filesAsked = false;
+        bool keyAsked = false;
     };
 
-    template <typename Answer, typename Read>
-    std::optional<Answer> ask(const std::shared_ptr<Question<Answer>>& question,
-                              const QList<QByteArray>& targets, Read read);
+    [[nodiscard]] std::shared_ptr<Drag> newest();
+
+    template <typename Answer>
+    std::optional<Answer> ask(bool Drag::*asked, std::optional<Answer> DragAnswers::*answer,
+                              const QList<QByteArray>& targets, Answer (*read)(const QByteArray&));
 
     Listener& listener_;
     std::shared_ptr<ChangeCounter> counter_ = std::make_shared<ChangeCounter>();
     std::shared_ptr<Notifier> changes_;
-    std::shared_ptr<SelectionWatch> watch_;
-    std::shared_ptr<Question<QList<QUrl>>> files_ = std::make_shared<Question<QList<QUrl>>>();
-    std::shared_ptr<Question<QByteArray>> key_ = std::make_shared<Question<QByteArray>>();
+    std::shared_ptr<DragReads> reads_;
+    std::shared_ptr<Drag> newest_ = std::make_shared<Drag>();
 };
 
 } // namespace ravelo::x11

@@ -18,10 +18,14 @@ X11Pasteboard::X11Pasteboard(Listener& listener)
     : listener_(listener),
       ownClient_(OwnClient::ofQt()),
       selection_(listener.connection().atom(selectionName)),
-      changes_(std::make_shared<Notifier>(listener)) {
+      changes_(std::make_shared<Notifier>(listener)),
+      saveAsked_(std::make_shared<Notifier>(listener)),
+      saveRequests_(std::make_shared<SaveRequests>(listener.connection(), ownClient_,
+                                                   [asked = saveAsked_] { asked->notify(); })) {
     QGuiApplication::clipboard()->blockSignals(true);
-    auto changed = [counter = counter_, changes = changes_,
+    auto changed = [counter = counter_, changes = changes_, saveRequests = saveRequests_,
                     own = ownClient_](const OwnerChange& change) {
+        saveRequests->ownerChanged(change.owner);
         if (own.owns(change.owner)) {
             return;
         }
@@ -32,6 +36,7 @@ X11Pasteboard::X11Pasteboard(Listener& listener)
     };
     watch_ = std::make_shared<SelectionWatch>(listener.connection(), selectionName, changed);
     listener.attach(watch_);
+    listener.attach(saveRequests_);
 }
 
 Handle X11Pasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSnapshot)> done) {
@@ -49,13 +54,18 @@ Handle X11Pasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSna
             }
         });
     };
-    listener_.post([&listener = listener_, counter = counter_, watch = watch_, count, key,
-                    plan = std::move(plan), finish = std::move(finish)] {
+    listener_.post([&listener = listener_, counter = counter_, watch = watch_,
+                    saveRequests = saveRequests_, count, key, plan = std::move(plan),
+                    finish = std::move(finish)] {
         // Otherwise the notice of an earlier change could still come and end the reading.
         listener.catchUp();
         if (counter->value() == count) {
-            watch->reader().add(
-                key, std::make_unique<PasteboardConversation>(listener.connection(), plan, finish));
+            PasteboardSnapshot known;
+            known.changeCount = count;
+            known.owner = saveRequests->owner();
+            known.lastEnd = counter->lastEnd();
+            watch->reader().add(key, std::make_unique<PasteboardConversation>(
+                                         listener.connection(), std::move(known), plan, finish));
         }
     });
     return Handle([&listener = listener_, reads = std::weak_ptr(reads_), watch = watch_, key] {
@@ -66,23 +76,26 @@ Handle X11Pasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSna
     });
 }
 
-void X11Pasteboard::write(const QList<PasteboardEntry>& forms) {
+qint64 X11Pasteboard::write(const QList<PasteboardEntry>& forms) {
     auto contents = std::make_unique<QMimeData>();
     for (const PasteboardEntry& form : forms) {
         contents->setData(form.type, form.bytes);
     }
     counter_->count();
     QGuiApplication::clipboard()->setMimeData(contents.release()); // Qt waits for the server.
-    settleWrite();
+    return settleWrite();
 }
 
-bool X11Pasteboard::adopt(const QList<PasteboardEntry>& forms) {
+std::optional<qint64> X11Pasteboard::adopt(const QList<PasteboardEntry>& forms) {
     // The listener may not have heard yet of a program that is quicker than we are.
     if (!orphaned() || owner() != XCB_NONE) {
-        return false;
+        return std::nullopt;
     }
-    write(forms);
-    return true;
+    return write(forms);
+}
+
+void X11Pasteboard::answerSaveRequests(SaveAnswer answer) {
+    listener_.post([saveRequests = saveRequests_, answer] { saveRequests->answer(answer); });
 }
 
 /// The present owner; XCB_NONE where there is none, nothing where the server is gone.
@@ -95,10 +108,10 @@ std::optional<xcb_window_t> X11Pasteboard::owner() {
 }
 
 /// Notices from before the write count no more, but what came after it already does.
-void X11Pasteboard::settleWrite() {
+qint64 X11Pasteboard::settleWrite() {
     xcb_connection_t* xcb = listener_.connection().get();
     const auto cookie = xcb_get_selection_owner(xcb, selection_);
-    counter_->settleOwn(cookie.sequence);
+    const qint64 count = counter_->settleOwn(cookie.sequence);
     const Owned<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(xcb, cookie, nullptr));
     listener_.post({}); // The reply may have brought notices along.
@@ -109,6 +122,7 @@ void X11Pasteboard::settleWrite() {
             changes->notify();
         });
     }
+    return count;
 }
 
 } // namespace ravelo::x11

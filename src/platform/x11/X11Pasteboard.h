@@ -4,6 +4,7 @@
 #include "platform/x11/ChangeCounter.h"
 #include "platform/x11/Notifier.h"
 #include "platform/x11/OwnClient.h"
+#include "platform/x11/SaveRequests.h"
 #include "platform/x11/SelectionWatch.h"
 
 #include <map>
@@ -33,23 +34,31 @@ public:
     /// Where another program has copied after the newest event that Qt has seen, the user's press
     /// in our window included, the server keeps that later copy (ICCCM 2.1); it is then told as a
     /// change.
-    void write(const QList<PasteboardEntry>& forms) override;
+    qint64 write(const QList<PasteboardEntry>& forms) override;
 
     [[nodiscard]] std::optional<qint64> orphaned() const override { return counter_->orphaned(); }
 
-    [[nodiscard]] bool adopt(const QList<PasteboardEntry>& forms) override;
+    [[nodiscard]] std::optional<qint64> adopt(const QList<PasteboardEntry>& forms) override;
+
+    [[nodiscard]] Handle onSaveRequest(std::function<void()> callback) override {
+        return saveAsked_->add(std::move(callback));
+    }
+
+    void answerSaveRequests(SaveAnswer answer) override;
 
 private:
     using Reads = std::map<SelectionReader::Key, std::function<void(PasteboardSnapshot)>>;
 
     [[nodiscard]] std::optional<xcb_window_t> owner();
-    void settleWrite();
+    [[nodiscard]] qint64 settleWrite();
 
     Listener& listener_;
     OwnClient ownClient_;
     xcb_atom_t selection_;
     std::shared_ptr<ChangeCounter> counter_ = std::make_shared<ChangeCounter>();
     std::shared_ptr<Notifier> changes_;
+    std::shared_ptr<Notifier> saveAsked_;
+    std::shared_ptr<SaveRequests> saveRequests_;
     std::shared_ptr<SelectionWatch> watch_;
     std::shared_ptr<Reads> reads_ = std::make_shared<Reads>();
     SelectionReader::Key nextKey_ = 0;

@@ -78,6 +78,9 @@ QtObject {
     readonly property color bannerLine: withAlpha(green, 0.22)
     readonly property color bannerText: "#D7F7E5"
 
+    readonly property color redNotice: withAlpha(redFill, 0.14)
+    readonly property color redNoticeLine: withAlpha(red, 0.24)
+
     readonly property color floating: "#2A2A2F"
     readonly property color floatingField: white(0.06)
     readonly property color floatingFieldLine: white(0.09)
@@ -189,6 +192,8 @@ QtObject {
     readonly property int filling: move(400)
     readonly property int dropping: 160
     readonly property int bannerIn: fade(300)
+    readonly property int noticeIn: 300
+    readonly property int noticeOut: 180
     readonly property int tooltipDelay: 500
     /// A spring of response 0.5 s and damping 0.85.
     readonly property var spring: [0.226, 0.097, 0.255, 1.085, 1, 1]

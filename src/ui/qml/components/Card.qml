@@ -13,6 +13,7 @@ Item {
     property string subtitle
     property string digit
     property bool selected: false
+    property color titleColor: Theme.text1
     default property alias actions: buttons.data
 
     readonly property bool hovered: hover.hovered
@@ -86,7 +87,7 @@ Item {
         width: Math.min(implicitWidth, end.x - 12 - x)
         style: Theme.rowTitle
         text: card.title
-        color: Theme.text1
+        color: card.titleColor
     }
 
     Label {

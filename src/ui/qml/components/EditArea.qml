@@ -10,6 +10,8 @@ TextEdit {
     /// What it is called where it cannot be seen.
     property string name
     property TextStyle style: Theme.note
+    /// To be used instead of `text`, which alters some characters.
+    property alias exactText: exact.text
 
     Accessible.role: Accessible.EditableText
     Accessible.name: name
@@ -30,9 +32,23 @@ TextEdit {
         line: area.style.line
     }
 
+    ExactText {
+        id: exact
+        document: area.textDocument
+    }
+
     Keys.onPressed: event => {
         if (event.matches(StandardKey.Paste)) {
             area.host.pasting.into(area, Pasting.ManyLines);
+            event.accepted = true;
+            return;
+        }
+        const cuts = event.matches(StandardKey.Cut);
+        if (area.selectedText !== "" && (cuts || event.matches(StandardKey.Copy))) {
+            area.host.controller.copy(exact.part(area.selectionStart, area.selectionEnd));
+            if (cuts) {
+                area.remove(area.selectionStart, area.selectionEnd);
+            }
             event.accepted = true;
         }
     }

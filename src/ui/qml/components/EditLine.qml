@@ -18,6 +18,7 @@ TextInput {
     selectionColor: Theme.withAlpha(Theme.accent, 0.45)
     selectedTextColor: Theme.text1
     selectByMouse: true
+    maximumLength: 2147483647 // Qt's own limit would cut a text off as soon as it is edited.
     activeFocusOnPress: true
     activeFocusOnTab: true
     cursorDelegate: Caret {}

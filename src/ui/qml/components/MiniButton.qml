@@ -6,6 +6,7 @@ Pressable {
     id: button
 
     property alias symbol: glyph.symbol
+    property color tint: Theme.icon
 
     implicitWidth: 24
     implicitHeight: 24
@@ -17,6 +18,6 @@ Pressable {
         id: glyph
         anchors.centerIn: parent
         size: 14
-        color: button.hovered ? Theme.white(1) : Theme.icon
+        color: button.hovered ? Theme.white(1) : button.tint
     }
 }

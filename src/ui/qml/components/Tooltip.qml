@@ -1,7 +1,8 @@
 import QtQuick
 import Ravelo
 
-/// A hint that appears under `target` some time after the pointer came to rest on it.
+/// A hint of one or more lines that appears under `target` some time after the pointer came to rest
+/// on it.
 Item {
     id: tooltip
 
@@ -21,20 +22,18 @@ Item {
         sourceComponent: Box {
             parent: tooltip.Window.contentItem // qmllint disable unqualified
             z: 1000
-            width: label.implicitWidth + 20
-            height: 28
+            width: lines.implicitWidth + 20
+            height: lines.implicitHeight + 12
             radius: Theme.radiusSmall
             color: Theme.tooltip
             lineColor: Theme.lineFloating
             lineWidth: 1
 
-            Component.onCompleted: {
-                const centre = tooltip.target.mapToItem(null, tooltip.target.width / 2,
-                                                        tooltip.target.height + 6);
-                const room = parent.width - width - Theme.insetSide;
-                x = Math.round(Math.max(Theme.insetSide, Math.min(centre.x - width / 2, room)));
-                y = Math.round(centre.y);
-            }
+            readonly property point centre: tooltip.target.mapToItem(
+                null, tooltip.target.width / 2, tooltip.target.height + 6)
+            readonly property real room: parent.width - width - Theme.insetSide
+            x: Math.round(Math.max(Theme.insetSide, Math.min(centre.x - width / 2, room)))
+            y: Math.round(centre.y)
 
             Shadow {
                 anchors.fill: parent
@@ -45,13 +44,21 @@ Item {
                 drop: 6
             }
 
-            Label {
-                id: label
+            Column {
+                id: lines
                 x: 10
                 y: 6
-                style: Theme.small
-                text: tooltip.text // qmllint disable unqualified
-                color: Theme.text1
+
+                Repeater {
+                    model: tooltip.text.split("\n") // qmllint disable unqualified
+
+                    Label {
+                        required property string modelData
+                        style: Theme.small
+                        text: modelData
+                        color: Theme.text1
+                    }
+                }
             }
         }
     }

@@ -11,19 +11,27 @@ Card {
     required property var clipId
     required property bool pinned
     required property string imageFileName
+    /// It tells of a copy that was not kept: nothing to copy or pin, and no digit of its own.
+    readonly property bool tooLarge: index === host.clips.tooLargeRow
+    readonly property int place: host.clips.tooLargeRow >= 0 && index > host.clips.tooLargeRow
+        ? index - 1 : index
     required icon
     required title
     required subtitle
 
+    signal deleted
+
     objectName: "card" + index
     highlighted: pinned
-    digit: index < 9 ? index + 1 : ""
+    digit: place < 9 && !tooLarge ? place + 1 : ""
+    titleColor: tooLarge ? Theme.text2 : Theme.text1
     // Nothing is decoded for a panel that is not seen.
     thumbnail: shown && imageFileName !== ""
         ? "image://thumb/" + Theme.radiusTile * Screen.devicePixelRatio + "/" + imageFileName : ""
 
     MiniButton {
         objectName: "pin"
+        visible: !row.tooLarge
         name: row.pinned ? "Unpin" : "Pin"
         symbol: row.pinned ? "pin.slash" : "pin"
         onClicked: row.host.store.togglePin(row.clipId)
@@ -31,8 +39,8 @@ Card {
 
     MiniButton {
         objectName: "delete"
-        name: "Delete"
+        name: row.tooLarge ? "Dismiss" : "Delete"
         symbol: "xmark"
-        onClicked: row.host.store.deleteClip(row.clipId)
+        onClicked: row.deleted()
     }
 }

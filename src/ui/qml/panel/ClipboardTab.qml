@@ -23,6 +23,20 @@ FocusScope {
         field.edited.selectAll();
     }
 
+    /// Where the clip with this number is.
+    function rowOf(number: int): int {
+        const tooLarge = host.clips.tooLargeRow;
+        return tooLarge >= 0 && number >= tooLarge ? number + 1 : number;
+    }
+
+    function remove(row: int) {
+        if (row === host.clips.tooLargeRow) {
+            host.clips.dismissTooLarge();
+        } else {
+            host.store.deleteClip(host.clips.idAt(row));
+        }
+    }
+
     function copy(row: int) {
         if (row >= 0 && row < list.count) {
             list.currentIndex = row;
@@ -31,7 +45,7 @@ FocusScope {
     }
 
     function copyAndClose(row: int) {
-        if (row >= 0 && row < list.count) {
+        if (row >= 0 && row < list.count && row !== host.clips.tooLargeRow) {
             copy(row);
             host.controller.dismiss();
         }
@@ -56,12 +70,12 @@ FocusScope {
         } else if (searching && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             copyAndClose(list.currentIndex);
         } else if (control && event.key >= Qt.Key_1 && event.key <= Qt.Key_9) {
-            copyAndClose(event.key - Qt.Key_1);
+            copyAndClose(rowOf(event.key - Qt.Key_1));
         } else if (control && event.key === Qt.Key_P) {
             host.store.togglePin(selected);
         } else if (event.key === Qt.Key_Delete && searching && field.edited.text === ""
                    && !event.isAutoRepeat) {
-            host.store.deleteClip(selected);
+            remove(list.currentIndex);
         } else {
             return;
         }
@@ -76,7 +90,7 @@ FocusScope {
     // What was copied while this was hidden has pushed the rows on.
     onShownChanged: {
         if (shown) {
-            list.currentIndex = 0;
+            list.currentIndex = Math.min(rowOf(0), list.count - 1);
             list.positionViewAtBeginning();
         }
     }
@@ -88,8 +102,23 @@ FocusScope {
         objectName: "search"
         width: parent.width
         host: tab.host
-        edited.onTextChanged: tab.select(0)
+        edited.onTextChanged: tab.select(tab.rowOf(0))
         edited.Keys.forwardTo: [tab]
+    }
+
+    Question {
+        id: linkQuestion
+        objectName: "linkQuestion"
+        host: tab.host
+        onAccepted: tab.host.links.openAsked()
+    }
+
+    Connections {
+        target: tab.host.links
+        function onAsked(question: string) {
+            linkQuestion.text = question;
+            linkQuestion.openUnder(list.currentItem ?? field, 46);
+        }
     }
 
     SnippetStrip {
@@ -133,6 +162,7 @@ FocusScope {
                 width: list.width
                 selected: index === list.currentIndex
                 onTapped: tab.copy(index)
+                onDeleted: tab.remove(index)
             }
 
             add: Transition {

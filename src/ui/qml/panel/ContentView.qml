@@ -40,6 +40,8 @@ FocusScope {
         } else if (event.key === Qt.Key_F && event.modifiers === Qt.ControlModifier) {
             choose(0);
             clipboard.search();
+        } else if (event.key === Qt.Key_F6) {
+            notice.toggleFocus();
         } else {
             return;
         }
@@ -111,11 +113,20 @@ FocusScope {
         onChosen: index => content.choose(index)
     }
 
+    NoticeLine {
+        id: notice
+        objectName: "notice"
+        x: Theme.insetSide
+        y: Theme.bodyTop + topBar.height - 32
+        width: parent.width - 2 * Theme.insetSide
+        host: content.host
+    }
+
     // The first two are there all the time: what is searched for stays while the note is looked at.
     FocusScope {
         id: body
         x: Theme.insetSide
-        y: Theme.bodyTop + topBar.height - 32
+        y: notice.y + notice.room
         width: parent.width - 2 * Theme.insetSide
         height: parent.height - y - Theme.insetBottom
         focus: true

@@ -51,6 +51,7 @@ Box {
     Tooltip {
         target: block
         hovered: area.containsMouse
-        text: "Plan usage — updates while Claude Code is active"
+        text: ["Plan usage — updates while Claude Code is active", session.staleText,
+               week.staleText].filter(line => line !== "").join("\n")
     }
 }

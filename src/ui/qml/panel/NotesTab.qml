@@ -37,16 +37,11 @@ FocusScope {
                 name: "Quick note"
                 width: parent.width
                 host: tab.host
-                text: tab.host.store.note
-                // What the editor makes of a stored note is no change of it.
-                property bool ready: false
-                Component.onCompleted: {
-                    ready = true;
-                    cursorPosition = length;
-                }
-                onTextChanged: {
-                    if (ready && text !== tab.host.store.note) {
-                        tab.host.store.note = text;
+                exactText: tab.host.store.note
+                Component.onCompleted: cursorPosition = length
+                onExactTextChanged: {
+                    if (exactText !== tab.host.store.note) {
+                        tab.host.store.note = exactText;
                         tab.host.store.save();
                     }
                 }

@@ -16,21 +16,21 @@ Item {
     DropArea {
         id: drop
         objectName: "drop"
+
+        function answer(event: DragEvent, accept: bool) {
+            if (accept) {
+                event.accept(Qt.CopyAction);
+            } else {
+                event.accepted = false;
+            }
+        }
+
         anchors.fill: parent
         keys: ["text/uri-list", "application/vnd.portal.filetransfer", "application/vnd.portal.files"]
-        onEntered: drag => {
-            if (drag.source) {
-                drag.accepted = false;
-                return;
-            }
-            drag.accept(Qt.CopyAction);
-            panel.host.controller.onDragEnter();
-        }
-        onPositionChanged: drag => drag.accept(Qt.CopyAction)
-        onDropped: drop => {
-            drop.accept(Qt.CopyAction);
-            panel.host.controller.onDrop();
-        }
+        onEntered: drag => answer(drag, !drag.source && panel.host.controller.onDragEnter())
+        onPositionChanged: drag => answer(drag, panel.host.controller.mayCarryFiles())
+        onExited: panel.host.controller.onDragLeave()
+        onDropped: drop => answer(drop, panel.host.controller.onDrop())
     }
 
     // Not as large as the window: it shrinks a moment after the panel has closed.
@@ -74,6 +74,6 @@ Item {
         id: slot // Not centred: the window may still be as narrow as the handle.
         focus: true
         host: panel.host
-        dropTargeted: drop.containsDrag
+        dropTargeted: panel.host.controller.filesOver
     }
 }

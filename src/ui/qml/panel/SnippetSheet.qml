@@ -12,8 +12,6 @@ FocusScope {
     /// Stays while the sheet fades.
     property string imageFileName
     property Item focusedBefore
-    /// What a field makes of the text that it is given is no change of it.
-    property bool filling: false
 
     function end() {
         if (focusedBefore) {
@@ -25,10 +23,8 @@ FocusScope {
 
     function begin() {
         focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
-        filling = true;
         title.text = editor.title;
-        body.text = editor.body;
-        filling = false;
+        body.exactText = editor.body;
         host.controller.typeFocus();
         if (editor.title === "") {
             title.forceActiveFocus();
@@ -147,11 +143,7 @@ FocusScope {
                 placeholder: "Title"
                 KeyNavigation.tab: body
                 KeyNavigation.backtab: save
-                onTextChanged: {
-                    if (!layer.filling) {
-                        layer.editor.title = text;
-                    }
-                }
+                onTextChanged: layer.editor.title = text
             }
         }
 
@@ -180,11 +172,7 @@ FocusScope {
                     KeyNavigation.priority: KeyNavigation.BeforeItem
                     KeyNavigation.tab: attach.visible ? attach : remove
                     KeyNavigation.backtab: title
-                    onTextChanged: {
-                        if (!layer.filling) {
-                            layer.editor.body = text;
-                        }
-                    }
+                    onExactTextChanged: layer.editor.body = exactText
                 }
             }
         }

@@ -12,8 +12,13 @@ Item {
     required property bool compact
     readonly property real wantedResetWidth: compact ? 0 : Math.max(90, reset.implicitWidth)
 
+    /// Empty unless the percents are from before the last reset.
+    readonly property string staleText:
+        usage.resetPassed ? `${title} has reset since: ${usage.percent} is from before` : ""
+
     Accessible.role: Accessible.StaticText
     Accessible.name: title + " " + usage.percent + " " + usage.reset
+    Accessible.description: staleText
     implicitHeight: 27
 
     readonly property color bandColor: {

@@ -1,0 +1,125 @@
+#include "notices/Notices.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Seconds minute(60);
+constexpr Seconds savedAgainTime(4);
+
+QString fileName(const QString& path) {
+    return path.section(u'/', -1);
+}
+
+} // namespace
+
+Notices::Notices(Scheduler& scheduler) : scheduler_(scheduler) {}
+
+void Notices::saveFailed(Source source, const QString& reason) {
+    const auto [failure, isNew] = failures_.try_emplace(source, scheduler_.uptime());
+    failure->second.reason = reason;
+    savedAgain_.reset();
+    watchFailure();
+    update();
+}
+
+void Notices::saved(Source source) {
+    if (failures_.erase(source) == 0) {
+        return;
+    }
+    watchFailure();
+    if (failures_.empty() && shown_.kind == SavingFails) {
+        savedAgain_ = scheduler_.after(savedAgainTime, [this] {
+            savedAgain_.reset();
+            update();
+        });
+    }
+    update();
+}
+
+void Notices::putAside(Source source, const QString& path) {
+    aside_[source] = path;
+    update();
+}
+
+void Notices::act() {
+    if (shown_.kind == SavingFails && onTryAgain) {
+        onTryAgain();
+    } else if (shown_.kind == PutAside) {
+        const QString path = aside_.begin()->second;
+        dismiss();
+        if (onOpenFolder) {
+            onOpenFolder(path);
+        }
+    }
+}
+
+void Notices::dismiss() {
+    if (dismissible()) {
+        aside_.erase(aside_.begin());
+        update();
+    }
+}
+
+void Notices::update() {
+    if (Notice now = worst(); now != shown_) {
+        shown_ = std::move(now);
+        Q_EMIT changed();
+    }
+}
+
+/// The notice counts minutes, so it changes with each of them.
+void Notices::watchFailure() {
+    nextMinute_.reset();
+    if (const Failure* failure = longestFailure()) {
+        const Seconds passed = scheduler_.uptime() - failure->since;
+        nextMinute_ = scheduler_.after((std::floor(passed / minute) + 1) * minute - passed, [this] {
+            watchFailure();
+            update();
+        });
+    }
+}
+
+const Notices::Failure* Notices::longestFailure() const {
+    const auto longest = std::ranges::min_element(
+        failures_, {}, [](const auto& entry) { return entry.second.since; });
+    return longest == failures_.end() ? nullptr : &longest->second;
+}
+
+Notices::Notice Notices::worst() const {
+    const Failure* failure = longestFailure();
+    if (failure != nullptr && scheduler_.uptime() - failure->since >= minute) {
+        return failing(*failure);
+    }
+    if (savedAgain_) {
+        return {SavedAgain, u"Saved again."_s, {}, {}};
+    }
+    return aside_.empty() ? Notice() : fileAside(aside_.begin()->first, aside_.begin()->second);
+}
+
+Notices::Notice Notices::failing(const Failure& failure) const {
+    const auto minutes = static_cast<qint64>((scheduler_.uptime() - failure.since) / minute);
+    return {SavingFails,
+            (minutes == 1 ? u"Not saved for %1 minute:"_s : u"Not saved for %1 minutes:"_s)
+                .arg(minutes),
+            failure.reason + u". Nothing is lost while Ravelo runs."_s, u"Try again"_s};
+}
+
+Notices::Notice Notices::fileAside(Source source, const QString& path) {
+    return source == Source::store
+               ? Notice{PutAside, u"Saved copy put aside:"_s,
+                        fileName(path) +
+                            u", in Ravelo\u2019s data folder. The history starts empty."_s,
+                        u"Open folder"_s}
+               : Notice{PutAside, u"Preferences put aside:"_s,
+                        fileName(path) + u". Settings are back at their defaults."_s,
+                        u"Open folder"_s};
+}
+
+} // namespace ravelo

@@ -1,0 +1,63 @@
+#include "store/CopiedFile.h"
+
+#include "base/FileUrl.h"
+#include "base/UriList.h"
+#include "platform/Pasteboard.h"
+#include "platform/TimedJob.h"
+
+#include <QFile>
+#include <QMimeDatabase>
+#include <QSysInfo>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Seconds patience{2};
+constexpr qint64 mostBytes = qint64{64} * 1024 * 1024;
+constexpr qint64 beginning = 4096;
+
+bool beginsLikeAPicture(const QByteArray& bytes) {
+    return QMimeDatabase().mimeTypeForData(bytes).name().startsWith("image/"_L1);
+}
+
+QByteArray read(const QByteArray& path) {
+    // A pipe or a device could keep it waiting for ever.
+    const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
+    if (descriptor < 0) {
+        return {};
+    }
+    struct stat info = {};
+    QFile file;
+    if (fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > mostBytes ||
+        !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
+        close(descriptor);
+        return {};
+    }
+    const QByteArray begin = file.read(beginning);
+    return beginsLikeAPicture(begin) ? begin + file.read(mostBytes) : QByteArray();
+}
+
+} // namespace
+
+QByteArray copiedFile(const PasteboardSnapshot& contents) {
+    const auto list = contents.answers.value(u"text/uri-list"_s).value_or(QByteArray());
+    return filePath(localFiles(list, QSysInfo::machineHostName().toUtf8()).value(0));
+}
+
+Handle readCopiedFile(DetachedJobs& jobs, Scheduler& scheduler, const QByteArray& path,
+                      std::function<void(const QByteArray&)> done) {
+    return runTimed<QByteArray>(
+        jobs, scheduler, patience, [path] { return read(path); },
+        [done = std::move(done)](std::optional<QByteArray> bytes) {
+            done(bytes.value_or(QByteArray()));
+        });
+}
+
+} // namespace ravelo

@@ -1,0 +1,41 @@
+#pragma once
+
+#include "base/Date.h"
+#include "base/OwnFile.h"
+#include "store/Records.h"
+
+#include <QList>
+#include <QSet>
+#include <QString>
+
+namespace ravelo {
+
+// The image files of the clips folder. All of this blocks and is for the worker.
+
+/// Writes an image, as PNG, and makes its folder if that was removed. False if there is no image or
+/// it could not be written.
+[[nodiscard]] bool writeImage(const QString& path, const QByteArray& png,
+                              const OwnFile::Permission& mayWrite);
+
+void removeImage(const QString& path, const OwnFile::Permission& mayWrite);
+
+/// The names of all images of clips and snippets. Any thread.
+[[nodiscard]] QSet<QString> imageNames(const StoreData& data);
+
+/// A file that lies in the clips folder.
+struct FoundImage {
+    QString name;
+    Date written;
+};
+
+/// Those that a crash, or clips that gave way to texts, left behind: named like an image of ours,
+/// by nobody else, and older than a day.
+[[nodiscard]] QStringList orphanedImages(const QList<FoundImage>& found, const QSet<QString>& named,
+                                         Date now);
+
+/// Deletes the orphans of `folder`/clips. Never while an unreadable store is kept beside it, which
+/// may name them.
+void removeOrphanedImages(const QString& folder, const QSet<QString>& named, Date now,
+                          const OwnFile::Permission& mayWrite);
+
+} // namespace ravelo

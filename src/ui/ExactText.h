@@ -1,0 +1,55 @@
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QQuickItem>
+#include <QQuickTextDocument>
+
+namespace ravelo {
+
+/// Replaces the selection of a TextEdit without changing a character of `text`.
+void replaceSelection(QQuickItem& edit, QQuickTextDocument& document, const QString& text);
+
+/// The text of a TextEdit to the character. TextEdit's own `text` has a blank for U+00A0 and a line
+/// feed for U+2028 and for everything that ends a line: CR, CRLF, U+2029, U+FDD0, U+FDD1. The
+/// document itself keeps the first two; which of the others began a line is noted in the line's
+/// format, so that undoing and redoing keep it too. Main thread.
+class ExactText : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QQuickTextDocument* document READ document WRITE setDocument NOTIFY documentChanged)
+    Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
+
+public:
+    using QObject::QObject;
+
+    [[nodiscard]] QQuickTextDocument* document() const { return document_; }
+
+    /// Set once; it belongs to the TextEdit.
+    void setDocument(QQuickTextDocument* document);
+
+    [[nodiscard]] QString text() const { return text_; }
+
+    /// Also forgets what could be undone.
+    void setText(const QString& text);
+
+    /// Between two cursor positions.
+    Q_INVOKABLE [[nodiscard]] QString part(int from, int to) const;
+
+    bool eventFilter(QObject* edit, QEvent* event) override;
+
+Q_SIGNALS:
+    void documentChanged();
+    void textChanged();
+
+private:
+    void fill();
+    void follow();
+    void insert(const QString& text);
+
+    QQuickTextDocument* document_ = nullptr;
+    QString text_;
+    bool filling_ = false;
+};
+
+} // namespace ravelo

@@ -1,0 +1,91 @@
+#pragma once
+
+#include "clipboard/ClipboardManager.h"
+
+#include "fakes/FakeAlertSound.h"
+#include "fakes/FakeDetachedJobs.h"
+#include "fakes/InProcessDecoder.h"
+#include "fakes/ManualScheduler.h"
+#include "fakes/ManualWorker.h"
+#include "fakes/MemoryPasteboard.h"
+#include "fakes/MemoryPreferences.h"
+#include "store/Store.h"
+
+#include <QBuffer>
+#include <QImage>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <optional>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+inline QByteArray picture(const char* format) {
+    QImage image(3, 2, QImage::Format_ARGB32);
+    image.fill(Qt::red);
+    QByteArray bytes;
+    QBuffer buffer(&bytes);
+    buffer.open(QIODevice::WriteOnly);
+    image.save(&buffer, format);
+    return bytes;
+}
+
+inline PasteboardEntry text(const char* utf8) {
+    return {plainTextType, utf8};
+}
+
+inline QHash<QString, QByteArray> byType(const QList<PasteboardEntry>& forms) {
+    QHash<QString, QByteArray> hash;
+    for (const PasteboardEntry& form : forms) {
+        hash.insert(form.type, form.bytes);
+    }
+    return hash;
+}
+
+class Clipboard : public testing::Test {
+public:
+    Clipboard() {
+        pasteboard.offerText(u"there before the start"_s);
+        manager.emplace(store, pasteboard, scheduler, jobs, decoder);
+        manager->start();
+    }
+
+    void settle() {
+        scheduler.advance(Seconds(0.6));
+        worker.drain();
+        scheduler.advance(Seconds(0)); // What was written may have to be read again.
+    }
+
+    [[nodiscard]] QStringList texts() const {
+        QStringList list;
+        for (const ClipItem& clip : store.clips()) {
+            list.append(clip.text);
+        }
+        return list;
+    }
+
+    QTemporaryDir folder;
+    ManualScheduler scheduler;
+    ManualWorker worker{ManualWorker::Mode::whenTold};
+    MemoryPreferences preferences;
+    MemoryPasteboard pasteboard{scheduler};
+    FakeAlertSound sound;
+    FakeDetachedJobs jobs{scheduler};
+    std::shared_ptr<ImageDecoder> decoder = std::make_shared<InProcessDecoder>();
+    Store store{folder.path(), {scheduler, worker, preferences, pasteboard, sound, jobs, decoder}};
+    std::optional<ClipboardManager> manager;
+};
+
+inline const PasteboardEntry secret{u"x-kde-passwordManagerHint"_s, "secret"};
+
+inline void lose(Clipboard& on) {
+    on.pasteboard.loseOwner();
+}
+
+inline const QList<PasteboardEntry> abc = {text("abc")};
+inline const QList<PasteboardEntry> png = {{u"image/png"_s, picture("png")}};
+
+} // namespace ravelo

@@ -1,0 +1,229 @@
+#include "ClipboardFixture.h"
+
+#include <QFile>
+#include <QUrl>
+
+#include <functional>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Happening = std::function<void(Clipboard&)>;
+
+/// Offers it as the copy of one program.
+Happening by(PasteboardOwner owner, const QList<PasteboardEntry>& offered) {
+    return [owner, offered](Clipboard& on) {
+        on.pasteboard.owner = owner;
+        on.pasteboard.offer(offered);
+        on.settle();
+    };
+}
+
+Happening later(double seconds) {
+    return [seconds](Clipboard& on) {
+        on.scheduler.advance(Seconds(seconds));
+    };
+}
+
+void deleteNewest(Clipboard& on) {
+    on.store.deleteClip(on.store.clips().front().id);
+}
+
+void pinNewest(Clipboard& on) {
+    on.store.togglePin(on.store.clips().front().id);
+}
+
+void clearAll(Clipboard& on) {
+    on.store.clearClips();
+}
+
+/// The next owner comes before the manager hears of the end.
+void loseUnseen(Clipboard& on) {
+    on.pasteboard.tellsChanges = false;
+    on.pasteboard.loseOwner();
+}
+
+struct RepeatCase {
+    const char* name;
+    QList<Happening> happens;
+    QStringList expected; ///< Texts of the clips.
+};
+
+class RepeatTable : public Clipboard, public testing::WithParamInterface<RepeatCase> {};
+
+TEST_P(RepeatTable, isACopyUnlessItIsPassedOn) {
+    for (const Happening& happening : GetParam().happens) {
+        happening(*this);
+    }
+    EXPECT_EQ(texts(), GetParam().expected);
+}
+
+const PasteboardOwner one{1};
+const PasteboardOwner other{2};
+const PasteboardOwner passer{3, PasteboardOwner::Kind::manager};
+const QStringList once{u"Image"_s};
+const QStringList twice{u"Image"_s, u"Image"_s};
+
+INSTANTIATE_TEST_SUITE_P(
+    Repeats, RepeatTable,
+    testing::Values(
+        RepeatCase{"byAnotherAtOnce", {by(one, png), later(1), by(other, png)}, once},
+        RepeatCase{"byAThirdAtOnce", {by(one, png), by(other, png), by(one, png)}, once},
+        RepeatCase{"byAnotherLater", {by(one, png), later(2.5), by(other, png)}, twice},
+        RepeatCase{"byTheSameProgram", {by(one, png), by(one, png)}, twice},
+        RepeatCase{"afterSomethingElse",
+                   {by(one, png), by(one, abc), by(other, png)},
+                   {u"Image"_s, u"abc"_s, u"Image"_s}},
+        RepeatCase{"atTheEnd", {by(one, png), later(60), lose, later(1), by(other, png)}, once},
+        RepeatCase{"atTheEndUnseen", {by(one, png), later(60), loseUnseen, by(other, png)}, once},
+        RepeatCase{
+            "longAfterTheEnd", {by(one, png), later(60), lose, later(2.5), by(other, png)}, twice},
+        RepeatCase{"byAManager", {by(one, png), later(60), by(passer, png)}, once},
+        RepeatCase{
+            "somethingElseByAManager", {by(one, png), by(passer, abc)}, {u"abc"_s, u"Image"_s}},
+        RepeatCase{"deleted", {by(one, abc), deleteNewest, by(other, abc)}, {u"abc"_s}},
+        RepeatCase{"cleared", {by(one, abc), clearAll, by(other, abc)}, {u"abc"_s}},
+        RepeatCase{"deletedThenAtTheEnd",
+                   {by(one, abc), later(60), deleteNewest, lose, by(other, abc)},
+                   {}},
+        RepeatCase{"pinnedThenAtTheEnd",
+                   {by(one, abc), later(60), pinNewest, lose, by(other, abc)},
+                   {u"abc"_s}},
+        RepeatCase{"ofWhatWePutThere",
+                   {by(one, abc), by(one, {text("def")}),
+                    [](Clipboard& on) { on.manager->copyText(u"abc"_s); }, by(other, abc)},
+                   {u"def"_s, u"abc"_s}},
+        RepeatCase{"whileTheImageIsWritten",
+                   {[](Clipboard& on) {
+                        on.pasteboard.offer(png);
+                        on.scheduler.advance(Seconds(0.1));
+                    },
+                    by(other, png)},
+                   once}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(Clipboard, anImageReadFromAFileIsNotOfferedInOurName) {
+    const QString path = folder.filePath(u"a.png"_s);
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+    file.write(picture("png"));
+    file.close();
+    pasteboard.offer({{u"text/uri-list"_s, QUrl::fromLocalFile(path).toEncoded()}});
+    settle();
+    EXPECT_EQ(texts(), once);
+    pasteboard.askToSave();
+    EXPECT_EQ(pasteboard.saveAnswer(), SaveAnswer::refused);
+    lose(*this);
+    settle();
+    EXPECT_TRUE(pasteboard.contents().isEmpty());
+}
+
+struct SaveCase {
+    const char* name;
+    QList<PasteboardEntry> offered;
+    SaveAnswer expected;
+    QList<PasteboardEntry> left; ///< On the pasteboard after the owner's end.
+};
+
+class SaveTable : public Clipboard, public testing::WithParamInterface<SaveCase> {};
+
+TEST_P(SaveTable, keepsAnEndingProgramWaitingUntilItsCopyIsRead) {
+    pasteboard.offer(GetParam().offered);
+    pasteboard.askToSave();
+    EXPECT_EQ(pasteboard.saveAnswer(), std::nullopt) << "answered before it was read";
+    scheduler.advance(Seconds(0.01));
+    EXPECT_EQ(pasteboard.saveAnswer(), GetParam().expected);
+    pasteboard.askToSave();
+    EXPECT_EQ(pasteboard.saveAnswer(), GetParam().expected) << "asked again";
+    lose(*this);
+    settle();
+    EXPECT_EQ(byType(pasteboard.contents()), byType(GetParam().left));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Contents, SaveTable,
+    testing::Values(SaveCase{"text", abc, SaveAnswer::saved, abc},
+                    SaveCase{"image", png, SaveAnswer::saved, png},
+                    SaveCase{"blank", {text(" ")}, SaveAnswer::refused, {}},
+                    SaveCase{"unknown", {{u"x/y"_s, "z"}}, SaveAnswer::refused, {}},
+                    SaveCase{"concealed", {text("pass"), secret}, SaveAnswer::refused, {}}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(Clipboard, aCopyThatComesWhileWeLookIsReadOnce) {
+    pasteboard.owner = other;
+    pasteboard.meanwhile = [this] {
+        pasteboard.tellsChanges = false; // Such a notice never comes from within a call.
+        pasteboard.offer(png);
+    };
+    pasteboard.offerText(u"before"_s); // Seen, and replaced before its reading begins.
+    settle();
+    EXPECT_EQ(texts(), once);
+}
+
+TEST_F(Clipboard, aCopyThatComesWhileWeWriteIsKept) {
+    pasteboard.meanwhile = [this] {
+        pasteboard.tellsChanges = false;
+        pasteboard.offerText(u"theirs"_s);
+    };
+    manager->copyText(u"ours"_s);
+    settle();
+    EXPECT_EQ(texts(), QStringList{u"theirs"_s});
+}
+
+struct TooLargeCase {
+    const char* name;
+    QList<PasteboardEntry> offered;
+    QHash<QString, qint64> tooLarge;
+    std::optional<std::pair<TooLarge::Kind, qint64>> expected;
+    qsizetype clips = 0;
+};
+
+class TooLargeTable : public Clipboard, public testing::WithParamInterface<TooLargeCase> {};
+
+TEST_P(TooLargeTable, isSaidOnceACopyOfWhichNothingIsKept) {
+    QList<std::pair<TooLarge::Kind, qint64>> said;
+    manager->onTooLarge = [&](const TooLarge& what) {
+        said.append({what.kind, what.bytes});
+    };
+    pasteboard.tooLarge = GetParam().tooLarge;
+    by(one, GetParam().offered)(*this);
+    by(other, GetParam().offered)(*this); // Passed on.
+    EXPECT_EQ(said.size(), GetParam().expected ? 1 : 0);
+    EXPECT_EQ(said.value(0), GetParam().expected.value_or(said.value(0)));
+    EXPECT_EQ(store.clips().size(), GetParam().clips);
+}
+
+/// 33 million pixels, black.
+QByteArray widePicture() {
+    QImage image(8192, 4097, QImage::Format_Mono);
+    image.fill(0);
+    QBuffer buffer;
+    image.save(&buffer, "BMP");
+    return buffer.data();
+}
+
+const PasteboardEntry refusedPng{u"image/png"_s, {}};
+const PasteboardEntry refusedText{plainTextType, {}};
+const QHash<QString, qint64> largeText{{plainTextType, 9'000'000}};
+const QHash<QString, qint64> largePng{{u"image/png"_s, 70'000'000}};
+
+INSTANTIATE_TEST_SUITE_P(
+    Copies, TooLargeTable,
+    testing::Values(
+        TooLargeCase{"text", {refusedText}, largeText, std::pair(TooLarge::Kind::text, 9'000'000)},
+        TooLargeCase{"image", {refusedPng}, largePng, std::pair(TooLarge::Kind::image, 70'000'000)},
+        TooLargeCase{"pixels",
+                     {{u"image/bmp"_s, widePicture()}},
+                     {},
+                     std::pair(TooLarge::Kind::image, widePicture().size())},
+        TooLargeCase{"otherForm", {refusedPng, {u"image/bmp"_s, picture("bmp")}}, largePng, {}, 1},
+        TooLargeCase{"imageInstead", {refusedText, png.front()}, largeText, {}, 1},
+        TooLargeCase{"refused", {refusedText, refusedPng}, {}, {}}),
+    [](const auto& row) { return row.param.name; });
+
+} // namespace
+} // namespace ravelo

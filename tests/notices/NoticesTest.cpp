@@ -1,0 +1,138 @@
+#include "notices/Notices.h"
+#include "fakes/ManualScheduler.h"
+
+#include <gtest/gtest.h>
+
+#include <QStringList>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr auto store = Notices::Source::store;
+constexpr auto preferences = Notices::Source::preferences;
+
+class NoticesTest : public testing::Test {
+protected:
+    void pass(double seconds) { scheduler.advance(Seconds(seconds)); }
+
+    [[nodiscard]] QString shown() const {
+        const QStringList parts{notices.lead(), notices.rest(), notices.action()};
+        return parts.join(u'|');
+    }
+
+    ManualScheduler scheduler;
+    Notices notices{scheduler};
+};
+
+const auto nothing = u"||"_s;
+const auto again = u"Saved again.||"_s;
+
+QString failing(const QString& time, const QString& reason = u"the disk is full"_s) {
+    return u"Not saved for %1:|%2. Nothing is lost while Ravelo runs.|Try again"_s.arg(time,
+                                                                                       reason);
+}
+
+const auto storeAside = u"Saved copy put aside:|store.json.unreadable, in Ravelo’s data folder. "
+                        "The history starts empty.|Open folder"_s;
+const auto preferencesAside = u"Preferences put aside:|preferences.json.unreadable. Settings are "
+                              "back at their defaults.|Open folder"_s;
+
+TEST_F(NoticesTest, saysAfterAMinuteThatSavingFailsAndCountsOn) {
+    notices.saveFailed(store, u"the disk is full"_s);
+    pass(30);
+    notices.saveFailed(store, u"the disk is full"_s);
+    pass(29.9);
+    EXPECT_EQ(shown(), nothing);
+    pass(0.2);
+    EXPECT_EQ(shown(), failing(u"1 minute"_s)) << "counted from the first failure";
+    notices.dismiss();
+    EXPECT_EQ(notices.kind(), Notices::SavingFails) << "it matters until it is over";
+    pass(60);
+    EXPECT_EQ(shown(), failing(u"2 minutes"_s));
+    notices.saveFailed(store, u"the folder is gone"_s);
+    EXPECT_EQ(shown(), failing(u"2 minutes"_s, u"the folder is gone"_s));
+    pass(3600);
+    EXPECT_EQ(shown(), failing(u"62 minutes"_s, u"the folder is gone"_s));
+    notices.saved(store);
+    EXPECT_EQ(shown(), again);
+    pass(3.9);
+    EXPECT_EQ(shown(), again);
+    pass(0.2);
+    EXPECT_EQ(shown(), nothing);
+    EXPECT_EQ(scheduler.pending(), 0) << "nothing runs by the clock while nothing fails";
+}
+
+TEST_F(NoticesTest, aFailureThatIsOverWithinAMinuteIsNotWorthAWord) {
+    notices.saveFailed(store, u"the disk is full"_s);
+    pass(59);
+    notices.saved(store);
+    EXPECT_EQ(shown(), nothing);
+    notices.saveFailed(store, u"the disk is full"_s);
+    pass(59);
+    EXPECT_EQ(shown(), nothing) << "this one has lasted for 59 s only";
+}
+
+TEST_F(NoticesTest, isSavedAgainOnceNothingFailsAnyMore) {
+    notices.saveFailed(preferences, u"it is read-only"_s);
+    pass(90);
+    notices.saveFailed(store, u"the disk is full"_s);
+    EXPECT_EQ(shown(), failing(u"1 minute"_s, u"it is read-only"_s));
+    notices.saved(preferences);
+    EXPECT_EQ(shown(), nothing) << "the other has only just begun to fail";
+    pass(60);
+    EXPECT_EQ(shown(), failing(u"1 minute"_s));
+    notices.saved(store);
+    EXPECT_EQ(shown(), again);
+    notices.saveFailed(store, u"the disk is full"_s);
+    EXPECT_EQ(shown(), nothing) << "not true any more";
+}
+
+TEST_F(NoticesTest, theWorstComesFirstAndTheOthersWait) {
+    notices.putAside(preferences, u"/home/me/.config/ravelo/preferences.json.unreadable"_s);
+    EXPECT_EQ(shown(), preferencesAside);
+    notices.putAside(store, u"/home/me/.local/share/Ravelo/store.json.unreadable"_s);
+    EXPECT_EQ(shown(), storeAside);
+    notices.saveFailed(store, u"the disk is full"_s);
+    pass(60);
+    EXPECT_EQ(shown(), failing(u"1 minute"_s));
+    notices.saved(store);
+    EXPECT_EQ(shown(), again);
+    pass(4);
+    EXPECT_EQ(shown(), storeAside);
+    notices.dismiss();
+    EXPECT_EQ(shown(), preferencesAside);
+    notices.dismiss();
+    EXPECT_EQ(shown(), nothing);
+    notices.dismiss();
+    EXPECT_EQ(shown(), nothing);
+}
+
+TEST_F(NoticesTest, itsButtonsDoWhatTheySay) {
+    QStringList done;
+    notices.onTryAgain = [&] {
+        done.append(u"try"_s);
+    };
+    notices.onOpenFolder = [&](const QString& path) {
+        done.append(path);
+    };
+    notices.act();
+    EXPECT_EQ(done, QStringList()) << "there is no notice";
+    notices.putAside(store, u"/a/store.json.unreadable"_s);
+    notices.saveFailed(store, u"the disk is full"_s);
+    pass(60);
+    notices.act();
+    EXPECT_EQ(notices.kind(), Notices::SavingFails) << "until it is known that it worked";
+    notices.saved(store);
+    notices.act();
+    pass(4);
+    notices.act();
+    EXPECT_EQ(done, (QStringList{u"try"_s, u"/a/store.json.unreadable"_s}));
+    EXPECT_EQ(shown(), nothing) << "it was seen to";
+}
+
+} // namespace
+
+} // namespace ravelo
