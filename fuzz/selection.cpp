@@ -28,6 +28,8 @@ public:
     QImage icon(const PictureFile& /*file*/, int /*size*/) override { return {}; }
 
     QByteArray png(const UntrustedPicture& /*picture*/) override { return {}; }
+
+    void forget(const PictureFile& /*file*/) override {}
 };
 
 } // namespace

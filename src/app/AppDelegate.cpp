@@ -93,6 +93,18 @@ void flushAtExit() {
     }
 }
 
+TooLargeCopy::Measure measure(TooLarge::Kind kind) {
+    switch (kind) {
+    case TooLarge::Kind::text:
+        return TooLargeCopy::Measure::bytesOfText;
+    case TooLarge::Kind::image:
+        return TooLargeCopy::Measure::bytesOfImage;
+    case TooLarge::Kind::pixels:
+        break;
+    }
+    return TooLargeCopy::Measure::pixelsOfImage;
+}
+
 } // namespace
 
 AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& environment,
@@ -285,10 +297,7 @@ void AppDelegate::wireNotices() {
         view_->host().showInFolder(QUrl::fromLocalFile(path));
     };
     clipboard_->onTooLarge = [this](const TooLarge& copy) {
-        using Measure = TooLargeCopy::Measure;
-        const bool isText = copy.kind == TooLarge::Kind::text;
-        view_->host().tellTooLarge(
-            {isText ? Measure::bytesOfText : Measure::bytesOfImage, copy.bytes});
+        view_->host().tellTooLarge({measure(copy.kind), copy.amount});
     };
 }
 

@@ -56,8 +56,7 @@ std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot,
     if (const auto text = snapshot.tooLarge.find(plainTextType); text != snapshot.tooLarge.end()) {
         return TooLarge{TooLarge::Kind::text, *text};
     }
-    const qint64 bytes = oversizedImage(snapshot, looks);
-    return bytes > 0 ? std::optional(TooLarge{TooLarge::Kind::image, bytes}) : std::nullopt;
+    return oversizedImage(snapshot, looks);
 }
 
 } // namespace ravelo

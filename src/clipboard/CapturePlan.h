@@ -28,14 +28,6 @@ inline constexpr QLatin1StringView filesType("text/uri-list");
 /// Whether the image in it can only be that of a file that the owner named.
 [[nodiscard]] bool isFromFile(const PasteboardSnapshot& snapshot);
 
-/// A copy that was not kept because it is too large.
-struct TooLarge {
-    enum class Kind { text, image };
-
-    Kind kind;
-    qint64 bytes; ///< As far as known: it may be more.
-};
-
 /// Nothing where something of the copy can be kept, or none of it was too large.
 [[nodiscard]] std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot,
                                                      const PictureLooks& looks);

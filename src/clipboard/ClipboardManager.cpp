@@ -110,13 +110,17 @@ void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const Picture
                                         {*key, snapshot.owner.id, seen},
                                         isFromFile(snapshot) ? Source::file : Source::owner});
     if (const auto tooLarge = tooLargeToKeep(snapshot, looks)) {
-        held_->clip = Clip::tooLarge;
-        if (onTooLarge) {
-            onTooLarge(*tooLarge);
-        }
-        return;
+        refuse(*tooLarge);
+    } else {
+        keep(snapshot);
     }
-    keep(snapshot);
+}
+
+void ClipboardManager::refuse(const TooLarge& what) {
+    held_->clip = Clip::tooLarge;
+    if (onTooLarge) {
+        onTooLarge(what);
+    }
 }
 
 bool ClipboardManager::isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
@@ -145,7 +149,11 @@ void ClipboardManager::keep(const PasteboardSnapshot& snapshot) {
     if (const QString text = capturedText(snapshot); !text.isEmpty()) {
         store_.addClip(text, kept);
     } else {
-        store_.addImageClip(snapshot, kept);
+        store_.addImageClip(snapshot, kept, [this, weak = std::weak_ptr(held_)](const auto& what) {
+            if (const auto held = weak.lock(); held && held->clip == Clip::pending) {
+                refuse(what);
+            }
+        });
     }
 }
 

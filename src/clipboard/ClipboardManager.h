@@ -72,6 +72,7 @@ private:
     [[nodiscard]] bool isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
                                   Seconds seen) const;
     void keep(const PasteboardSnapshot& snapshot);
+    void refuse(const TooLarge& what);
     void answerSaveRequest();
     void offerAgain();
     [[nodiscard]] bool isLost(const Held* held) const;

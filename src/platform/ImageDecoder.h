@@ -60,6 +60,9 @@ public:
 
     /// All of it, encoded again as PNG.
     [[nodiscard]] virtual QByteArray png(const UntrustedPicture& picture) = 0;
+
+    /// The file was deleted: nothing that was made of it is kept. Any thread.
+    virtual void forget(const PictureFile& file) = 0;
 };
 
 } // namespace ravelo

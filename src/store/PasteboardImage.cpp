@@ -1,6 +1,7 @@
 #include "store/PasteboardImage.h"
 
 #include "platform/Pasteboard.h"
+#include "store/CopiedFile.h"
 
 #include <algorithm>
 
@@ -69,15 +70,28 @@ bool hasGoodImage(const PasteboardSnapshot& contents, const PictureLooks& looks)
                            looks, [](const PictureLook& look) { return look.kind == Kind::good; });
 }
 
-qint64 oversizedImage(const PasteboardSnapshot& contents, const PictureLooks& looks) {
-    qint64 largest = 0;
+std::optional<TooLarge> oversizedImage(const PasteboardSnapshot& contents,
+                                       const PictureLooks& looks) {
+    qint64 bytes = 0;
+    qint64 pixels = 0;
     for (const QString& type : candidates(contents.types)) {
-        const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
-        const bool tooManyPixels = looks.value(type).kind == Kind::tooManyPixels;
-        largest = std::max({largest, contents.tooLarge.value(type),
-                            tooManyPixels ? qint64(bytes.size()) : qint64(0)});
+        bytes = std::max(bytes, contents.tooLarge.value(type));
+        const PictureLook look = looks.value(type);
+        pixels = std::max(pixels, look.kind == Kind::tooManyPixels ? look.pixels() : 0);
     }
-    return largest;
+    return bytes > 0    ? std::optional(TooLarge{TooLarge::Kind::image, bytes})
+           : pixels > 0 ? std::optional(TooLarge{TooLarge::Kind::pixels, pixels})
+                        : std::nullopt;
+}
+
+std::optional<TooLarge> oversizedFile(const CopiedContents& file, ImageDecoder& decoder) {
+    if (file.tooLarge > 0) {
+        return TooLarge{TooLarge::Kind::image, file.tooLarge};
+    }
+    const PictureLook look = file.bytes.isEmpty() ? PictureLook() : decoder.look(file.bytes);
+    return look.kind == Kind::tooManyPixels
+               ? std::optional(TooLarge{TooLarge::Kind::pixels, look.pixels()})
+               : std::nullopt;
 }
 
 QByteArray pngImage(const PasteboardSnapshot& contents, const QByteArray& file,

@@ -1,13 +1,17 @@
 #pragma once
 
 #include "platform/ImageDecoder.h"
+#include "store/TooLarge.h"
 
 #include <QByteArray>
 #include <QHash>
 #include <QString>
 
+#include <optional>
+
 namespace ravelo {
 
+struct CopiedContents;
 struct PasteboardSnapshot;
 
 /// What the forms on a pasteboard are, by their types, as far as one was looked at.
@@ -24,9 +28,14 @@ using PictureLooks = QHash<QString, PictureLook>;
 /// Whether such a reading ended with a form worth keeping, or a list of files.
 [[nodiscard]] bool hasGoodImage(const PasteboardSnapshot& contents, const PictureLooks& looks);
 
-/// The size in bytes of the largest form that the adapter did not take, or that has more pixels
-/// than are kept; 0 where there is none.
-[[nodiscard]] qint64 oversizedImage(const PasteboardSnapshot& contents, const PictureLooks& looks);
+/// The largest form that the adapter did not take, or else the one with the most pixels that were
+/// too many; nothing if there is none.
+[[nodiscard]] std::optional<TooLarge> oversizedImage(const PasteboardSnapshot& contents,
+                                                     const PictureLooks& looks);
+
+/// Why a copied file gave no image, if it is too large. For the worker.
+[[nodiscard]] std::optional<TooLarge> oversizedFile(const CopiedContents& file,
+                                                    ImageDecoder& decoder);
 
 /// The image in what such a reading gave, as PNG: PNG bytes as they are, all else decoded and
 /// encoded again. `file` is what is in the file of a list of copied files, see `copiedFile`. Empty

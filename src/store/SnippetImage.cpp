@@ -68,9 +68,9 @@ private:
             return;
         }
         file_ = readCopiedFile(services_.jobs, services_.scheduler, path,
-                               [weak = weak_from_this(), contents](const QByteArray& bytes) {
+                               [weak = weak_from_this(), contents](const CopiedContents& file) {
                                    if (const auto self = weak.lock()) {
-                                       self->write(contents, bytes);
+                                       self->write(contents, file.bytes);
                                    }
                                });
     }

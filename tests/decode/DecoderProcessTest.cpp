@@ -84,6 +84,21 @@ TEST_F(CountedDecoder, ServesManyAndKeepsWhatIsSmall) {
     EXPECT_EQ(decoder->filling(file, {9, 9, 9}).size(), QSize(9, 9)) << "no new process came";
 }
 
+TEST_F(CountedDecoder, ForgetsOneFileOnly) {
+    const PictureFile deleted = write("a.png", samples::picture("png"));
+    const PictureFile other = write("b.png", samples::picture("png"));
+    (void)decoder->filling(deleted, {8, 8, 8});
+    (void)decoder->filling(other, {8, 8, 8});
+    ASSERT_EQ(children().size(), 1);
+    kill(children().first().toInt(), SIGKILL);
+    ASSERT_TRUE(eventually([] { return children().isEmpty(); }));
+    decoder->forget(deleted);
+    EXPECT_EQ(decoder->filling(other, {8, 8, 8}).size(), QSize(8, 8));
+    EXPECT_EQ(starts(), 1) << "the other one is forgotten, too";
+    EXPECT_EQ(decoder->filling(deleted, {8, 8, 8}).size(), QSize(8, 8));
+    EXPECT_EQ(starts(), 2) << "it is still kept";
+}
+
 TEST_F(CountedDecoder, TriesOnceWhatKillsIt) {
     const PictureFile file = write("deadly.svg", deadly);
     EXPECT_TRUE(decoder->icon(file, 9).isNull());

@@ -4,6 +4,8 @@
 #include "decode/Pictures.h"
 #include "platform/ImageDecoder.h"
 
+#include <QByteArrayList>
+
 namespace ravelo {
 
 /// Decodes right here, as the real one does in its process: fit for pictures that tests make.
@@ -31,6 +33,10 @@ public:
     QByteArray png(const UntrustedPicture& picture) override {
         return decoded(picture, {decode::Kind::png, 0, 0, 0, 0}).png;
     }
+
+    void forget(const PictureFile& file) override { forgotten.append(file.path); }
+
+    QByteArrayList forgotten;
 
 private:
     static QByteArray bytesOf(const PictureBytes& bytes) { return bytes; }

@@ -72,7 +72,7 @@ protected:
         scheduler_.advance(Seconds(1));
         QByteArray file;
         const Handle readingFile = readCopiedFile(jobs_, scheduler_, copiedFile(snapshot),
-                                                  [&](const QByteArray& bytes) { file = bytes; });
+                                                  [&](const auto& read) { file = read.bytes; });
         scheduler_.advance(Seconds(0));
         return pngImage(snapshot, file, decoder_);
     }

@@ -83,7 +83,7 @@ protected:
     MemoryPasteboard pasteboard_{scheduler_};
     FakeAlertSound sound_;
     FakeDetachedJobs jobs_{scheduler_};
-    std::shared_ptr<ImageDecoder> decoder_ = std::make_shared<InProcessDecoder>();
+    std::shared_ptr<InProcessDecoder> decoder_ = std::make_shared<InProcessDecoder>();
     OwnFile::Permission mayWrite_;
     std::unique_ptr<Store> store_;
 };

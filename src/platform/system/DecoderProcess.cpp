@@ -38,6 +38,12 @@ std::chrono::milliseconds patience(const Request& request) {
            std::chrono::seconds(1);
 }
 
+/// Whether the file still has a name.
+bool isThere(const Descriptor& file) {
+    struct stat info = {};
+    return fstat(file.number(), &info) == 0 && info.st_nlink > 0;
+}
+
 PictureLook lookAt(Status status, QSize size) {
     switch (status) {
     case Status::done:
@@ -127,8 +133,8 @@ QImage DecoderProcess::pixels(const UntrustedPicture& picture, const Request& re
     const QByteArray key = source.identity + bytesOf(request);
     {
         const std::lock_guard lock(mutex_);
-        if (const QImage* const kept = kept_.object(key)) {
-            return *kept;
+        if (const Kept* const kept = kept_.object(key)) {
+            return kept->image;
         }
     }
     const auto answer = ask(source, request);
@@ -138,11 +144,24 @@ QImage DecoderProcess::pixels(const UntrustedPicture& picture, const Request& re
     QImage image(answer->reply.width, answer->reply.height, QImage::Format_ARGB32_Premultiplied);
     std::memcpy(image.bits(), answer->contents.constData(),
                 static_cast<size_t>(answer->contents.size()));
-    if (std::holds_alternative<PictureFile>(picture) && image.sizeInBytes() <= maxKept) {
+    const auto* const file = std::get_if<PictureFile>(&picture);
+    if (file != nullptr && image.sizeInBytes() <= maxKept) {
         const std::lock_guard lock(mutex_);
-        kept_.insert(key, new QImage(image), image.sizeInBytes());
+        if (isThere(source.descriptor)) { // Else `forget` may have been called already.
+            kept_.insert(key, new Kept{image, file->path}, image.sizeInBytes());
+        }
     }
     return image;
+}
+
+void DecoderProcess::forget(const PictureFile& file) {
+    const std::lock_guard lock(mutex_);
+    const QList<QByteArray> keys = kept_.keys();
+    for (const QByteArray& key : keys) {
+        if (kept_.object(key)->path == file.path) {
+            kept_.remove(key);
+        }
+    }
 }
 
 std::optional<DecoderConnection::Answer> DecoderProcess::ask(const Source& source,

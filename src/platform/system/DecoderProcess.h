@@ -27,6 +27,7 @@ public:
     [[nodiscard]] QImage filling(const UntrustedPicture& picture, PictureShape shape) override;
     [[nodiscard]] QImage icon(const PictureFile& file, int size) override;
     [[nodiscard]] QByteArray png(const UntrustedPicture& picture) override;
+    void forget(const PictureFile& file) override;
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -37,6 +38,11 @@ private:
     };
 
     struct Source;
+
+    struct Kept {
+        QImage image;
+        QByteArray path; ///< Of its file.
+    };
 
     [[nodiscard]] std::optional<DecoderConnection::Answer> ask(const Source& source,
                                                                const decode::Request& request);
@@ -51,7 +57,7 @@ private:
     std::mutex mutex_;       ///< Over what follows; not held while anything is waited for.
     std::vector<Idle> idle_; ///< The longest idle first.
     QSet<QByteArray> bad_;   ///< Pictures that are not tried again.
-    QCache<QByteArray, QImage> kept_{1 << 20}; ///< In bytes, by picture and request.
+    QCache<QByteArray, Kept> kept_{1 << 20}; ///< In bytes, by picture and request.
 };
 
 } // namespace ravelo
