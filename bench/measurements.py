@@ -3,6 +3,7 @@
 import itertools
 import statistics
 import subprocess
+import tempfile
 import time
 
 from common import (BUILD, Desktop, Ravelo, Row, clip, drive, fill, p95, running, use, use_a_second)
@@ -144,3 +145,25 @@ def transcripts(options):
     first, find, idle = (statistics.median(column) for column in zip(*rows))
     return [Row("transcripts: first look, median", first, "ms", 3 * find, find),
             Row("transcripts: nothing new, processor", idle, "ms", 1)]
+
+
+# Thumbnails.
+
+THUMBNAILS = 60
+
+
+def thumbnails(options):
+    """Of as many pictures, by ravelo-decode; compared with decoding them in the program itself."""
+    with tempfile.TemporaryDirectory() as folder:
+        for number in range(THUMBNAILS):
+            subprocess.run(["convert", "-size", "1280x800", "plasma:", "-seed", str(number),
+                            f"{folder}/{number}.png"], check=True)
+        times = {"here": [], "there": []}
+        for where in itertools.chain(*itertools.repeat(times, options.openings)):
+            output = subprocess.run([BUILD / "bench/bench_thumbnails", where, folder], check=True,
+                                    stdout=subprocess.PIPE, text=True).stdout
+            times[where].append([float(word) for word in output.split()])
+    for name, column in ("first", 0), ("last", 1):
+        there, here = (statistics.median(row[column] for row in times[where])
+                       for where in ("there", "here"))
+        yield Row(f"thumbnails: the {name} of {THUMBNAILS}, median", there, "ms", here, here)

@@ -56,7 +56,8 @@ int main(int argc, char** argv) {
     MemoryPasteboard pasteboard(scheduler);
     FakeAlertSound sound;
     FakeDetachedJobs jobs(scheduler);
-    Store store(folder.path(), {scheduler, worker, preferences, pasteboard, sound, jobs, jobs});
+    Store store(folder.path(),
+                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, nullptr});
     fill(store);
     scheduler.advance(waiting);
     worker.drain();

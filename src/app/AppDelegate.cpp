@@ -21,6 +21,7 @@
 #include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
 #include "platform/freedesktop/TrayStatusItem.h"
+#include "platform/system/DecoderProcess.h"
 #include "platform/system/DetachedThreads.h"
 #include "platform/system/HelperProgram.h"
 #include "platform/system/HttpsThread.h"
@@ -99,6 +100,18 @@ void flushAtExit() {
     }
 }
 
+TooLargeCopy::Measure measure(TooLarge::Kind kind) {
+    switch (kind) {
+    case TooLarge::Kind::text:
+        return TooLargeCopy::Measure::bytesOfText;
+    case TooLarge::Kind::image:
+        return TooLargeCopy::Measure::bytesOfImage;
+    case TooLarge::Kind::pixels:
+        break;
+    }
+    return TooLargeCopy::Measure::pixelsOfImage;
+}
+
 } // namespace
 
 AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& environment,
@@ -127,6 +140,8 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
       children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
                                                renewalFolder(home()))),
+      decoder_(
+          std::make_shared<DecoderProcess>(QFile::encodeName(helperProgram("ravelo-decode"_L1)))),
       tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
       shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, *fileJobs_, display_.icons())),
       notices_(std::make_unique<Notices>(*scheduler_)),
@@ -158,7 +173,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
                      u"" RAVELO_VERSION ""_s);
     store_ = std::make_unique<Store>(
         dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_, display_.pasteboard(),
-                                      *sound_, *fileJobs_, *copiedFiles_, mayWrite()});
+                                      *sound_, *fileJobs_, *copiedFiles_, decoder_, mayWrite()});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
@@ -171,8 +186,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         settings_->refreshLaunchAtLogin();
     });
 
-    clipboard_ =
-        std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_, *jobs_);
+    clipboard_ = std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_,
+                                                    *jobs_, decoder_);
     clipboard_->start();
 
     provideMonitors();
@@ -192,7 +207,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         rest_);
     view_->load({*store_, *settings_, *notch_, *notices_, display_.pasteboard(), *scheduler_,
                  *preferences_, *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received,
-                 shelf_->nearby, *fileJobs_, shelf_->opener, shelf_->icons},
+                 shelf_->nearby, *fileJobs_, shelf_->opener, shelf_->icons, decoder_},
                 QLocale());
     provideWindows();
     const auto checkUpdates = [this] {
@@ -301,10 +316,7 @@ void AppDelegate::wireNotices() {
         view_->host().showInFolder(QUrl::fromLocalFile(path));
     };
     clipboard_->onTooLarge = [this](const TooLarge& copy) {
-        using Measure = TooLargeCopy::Measure;
-        const bool isText = copy.kind == TooLarge::Kind::text;
-        view_->host().tellTooLarge(
-            {isText ? Measure::bytesOfText : Measure::bytesOfImage, copy.bytes});
+        view_->host().tellTooLarge({measure(copy.kind), copy.amount});
     };
 }
 

@@ -24,6 +24,7 @@ class DetachedJobs;
 class DisplayServer;
 class FileTransfer;
 class HttpsClient;
+class ImageDecoder;
 class LoginItem;
 class NightShift;
 class Notices;
@@ -97,6 +98,7 @@ private:
     std::unique_ptr<SecretStore> secrets_;
     std::unique_ptr<HttpsClient> https_;
     std::unique_ptr<ChildProcess> children_;
+    std::shared_ptr<ImageDecoder> decoder_; ///< Pictures may still be made when all else is gone.
     std::unique_ptr<StatusItem> tray_;
 
     std::unique_ptr<ShelfServices> shelf_;

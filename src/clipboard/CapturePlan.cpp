@@ -1,7 +1,5 @@
 #include "clipboard/CapturePlan.h"
 
-#include "store/PasteboardImage.h"
-
 namespace ravelo {
 
 namespace {
@@ -15,7 +13,8 @@ bool isUnasked(const PasteboardSnapshot& snapshot, QLatin1StringView type) {
 
 } // namespace
 
-QString nextCaptureType(const PasteboardSnapshot& snapshot) {
+QString nextCaptureType(const PasteboardSnapshot& snapshot, PictureLooks& looks,
+                        ImageDecoder& decoder) {
     if (isUnasked(snapshot, passwordHint)) {
         return passwordHint;
     }
@@ -25,7 +24,7 @@ QString nextCaptureType(const PasteboardSnapshot& snapshot) {
     if (isUnasked(snapshot, plainTextType)) {
         return plainTextType;
     }
-    return capturedText(snapshot).isEmpty() ? nextImageType(snapshot) : QString();
+    return capturedText(snapshot).isEmpty() ? nextImageType(snapshot, looks, decoder) : QString();
 }
 
 bool isConcealed(const PasteboardSnapshot& snapshot) {
@@ -49,15 +48,15 @@ bool isFromFile(const PasteboardSnapshot& snapshot) {
            !snapshot.answers.value(filesType).value_or(QByteArray()).isEmpty();
 }
 
-std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot) {
-    if (!capturedText(snapshot).isEmpty() || hasGoodImage(snapshot)) {
+std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot,
+                                       const PictureLooks& looks) {
+    if (!capturedText(snapshot).isEmpty() || hasGoodImage(snapshot, looks)) {
         return std::nullopt;
     }
     if (const auto text = snapshot.tooLarge.find(plainTextType); text != snapshot.tooLarge.end()) {
         return TooLarge{TooLarge::Kind::text, *text};
     }
-    const qint64 bytes = oversizedImage(snapshot);
-    return bytes > 0 ? std::optional(TooLarge{TooLarge::Kind::image, bytes}) : std::nullopt;
+    return oversizedImage(snapshot, looks);
 }
 
 } // namespace ravelo

@@ -1,15 +1,17 @@
 #pragma once
 
 #include "platform/Pasteboard.h"
+#include "store/PasteboardImage.h"
 
 #include <QString>
 
 namespace ravelo {
 
 /// What to ask a pasteboard for, one type after the other: marks of secrecy before any contents,
-/// text before images, nothing more once the answer is settled. A pure function, to be used as a
-/// `PasteboardPlan` on any thread.
-[[nodiscard]] QString nextCaptureType(const PasteboardSnapshot& snapshot);
+/// text before images, nothing more once the answer is settled. To be used as a `PasteboardPlan`,
+/// on any thread but the main one; for `looks` see `nextImageType`.
+[[nodiscard]] QString nextCaptureType(const PasteboardSnapshot& snapshot, PictureLooks& looks,
+                                      ImageDecoder& decoder);
 
 /// Whether the owner asks that its contents be kept out of histories:
 /// "org.nspasteboard.ConcealedType" on offer, or "x-kde-passwordManagerHint" with the value
@@ -26,15 +28,8 @@ inline constexpr QLatin1StringView filesType("text/uri-list");
 /// Whether the image in it can only be that of a file that the owner named.
 [[nodiscard]] bool isFromFile(const PasteboardSnapshot& snapshot);
 
-/// A copy that was not kept because it is too large.
-struct TooLarge {
-    enum class Kind { text, image };
-
-    Kind kind;
-    qint64 bytes; ///< As far as known: it may be more.
-};
-
 /// Nothing where something of the copy can be kept, or none of it was too large.
-[[nodiscard]] std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot);
+[[nodiscard]] std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot,
+                                                     const PictureLooks& looks);
 
 } // namespace ravelo

@@ -4,10 +4,9 @@
 #include "base/Scheduler.h"
 #include "clipboard/FileForms.h"
 #include "platform/DetachedJobs.h"
+#include "platform/ImageDecoder.h"
 #include "store/Store.h"
 
-#include <QBuffer>
-#include <QImageReader>
 #include <QUrl>
 
 #include <algorithm>
@@ -20,27 +19,22 @@ namespace {
 constexpr Seconds pollInterval{0.5};
 constexpr QLatin1StringView pngType("image/png");
 
-bool isImage(QByteArray bytes) {
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::ReadOnly);
-    return QImageReader(&buffer).canRead();
-}
-
 /// Not for the main thread.
-QList<PasteboardEntry> imageForms(const QString& path) {
+QList<PasteboardEntry> imageForms(const QString& path, ImageDecoder& decoder) {
     const auto bytes = readFile(path);
-    return bytes && isImage(*bytes) ? QList<PasteboardEntry>{{pngType, *bytes}}
-                                    : QList<PasteboardEntry>();
+    return bytes && !decoder.size(*bytes).isEmpty() ? QList<PasteboardEntry>{{pngType, *bytes}}
+                                                    : QList<PasteboardEntry>();
 }
 
 } // namespace
 
 ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
-                                   DetachedJobs& jobs)
+                                   DetachedJobs& jobs, std::shared_ptr<ImageDecoder> decoder)
     : store_(store),
       pasteboard_(pasteboard),
       scheduler_(scheduler),
       jobs_(jobs),
+      decoder_(std::move(decoder)),
       lastChangeCount_(pasteboard.changeCount()) {}
 
 void ClipboardManager::start() {
@@ -79,22 +73,28 @@ void ClipboardManager::poll() {
     }
     // A read that was answered may still be waiting to be told when the next change is seen, so
     // none is dropped here: the pasteboard itself gives up those whose owner has gone.
+    const auto looks = std::make_shared<PictureLooks>();
+    const auto plan = [decoder = decoder_, looks](const PasteboardSnapshot& snapshot) {
+        return nextCaptureType(snapshot, *looks, *decoder);
+    };
     reads_[count] = pasteboard_.read(
-        nextCaptureType, [this, count, seen = scheduler_.uptime()](const auto& snapshot) {
-            finishRead(count, snapshot, seen);
+        plan, [this, count, looks, seen = scheduler_.uptime()](const auto& snapshot) {
+            finishRead(count, snapshot, *looks, seen);
         });
 }
 
-void ClipboardManager::finishRead(qint64 count, const PasteboardSnapshot& snapshot, Seconds seen) {
+void ClipboardManager::finishRead(qint64 count, const PasteboardSnapshot& snapshot,
+                                  const PictureLooks& looks, Seconds seen) {
     // Contents that came after the count was looked at get a read of their own.
     if (snapshot.changeCount == count) {
-        capture(snapshot, seen);
+        capture(snapshot, looks, seen);
     }
     reads_.erase(reads_.begin(), reads_.upper_bound(count));
     answerSaveRequest();
 }
 
-void ClipboardManager::capture(const PasteboardSnapshot& snapshot, Seconds seen) {
+void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const PictureLooks& looks,
+                               Seconds seen) {
     const auto key = isConcealed(snapshot) ? std::nullopt : contentsKey(snapshot);
     if (!key) {
         return;
@@ -109,14 +109,18 @@ void ClipboardManager::capture(const PasteboardSnapshot& snapshot, Seconds seen)
     held_ = std::make_shared<Held>(Held{snapshot.changeCount,
                                         {*key, snapshot.owner.id, seen},
                                         isFromFile(snapshot) ? Source::file : Source::owner});
-    if (const auto tooLarge = tooLargeToKeep(snapshot)) {
-        held_->clip = Clip::tooLarge;
-        if (onTooLarge) {
-            onTooLarge(*tooLarge);
-        }
-        return;
+    if (const auto tooLarge = tooLargeToKeep(snapshot, looks)) {
+        refuse(*tooLarge);
+    } else {
+        keep(snapshot);
     }
-    keep(snapshot);
+}
+
+void ClipboardManager::refuse(const TooLarge& what) {
+    held_->clip = Clip::tooLarge;
+    if (onTooLarge) {
+        onTooLarge(what);
+    }
 }
 
 bool ClipboardManager::isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
@@ -145,7 +149,11 @@ void ClipboardManager::keep(const PasteboardSnapshot& snapshot) {
     if (const QString text = capturedText(snapshot); !text.isEmpty()) {
         store_.addClip(text, kept);
     } else {
-        store_.addImageClip(snapshot, kept);
+        store_.addImageClip(snapshot, kept, [this, weak = std::weak_ptr(held_)](const auto& what) {
+            if (const auto held = weak.lock(); held && held->clip == Clip::pending) {
+                refuse(what);
+            }
+        });
     }
 }
 
@@ -203,7 +211,7 @@ const ClipItem* ClipboardManager::find(const QUuid& clip) const {
 
 Handle ClipboardManager::readImage(const QString& path, std::function<void(const Forms&)> done) {
     const auto forms = std::make_shared<Forms>();
-    return jobs_.run([path, forms] { *forms = imageForms(path); },
+    return jobs_.run([path, forms, decoder = decoder_] { *forms = imageForms(path, *decoder); },
                      [forms, done = std::move(done)] { done(*forms); });
 }
 

@@ -29,8 +29,8 @@ struct ClipItem;
 class ClipboardManager {
 public:
     /// What is on the pasteboard at this moment is never captured.
-    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
-                     DetachedJobs& jobs);
+    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler, DetachedJobs& jobs,
+                     std::shared_ptr<ImageDecoder> decoder);
 
     /// Looks every 0.5 s from now on, and at once where the platform tells of a change.
     void start();
@@ -66,11 +66,13 @@ private:
     };
 
     void poll();
-    void finishRead(qint64 count, const PasteboardSnapshot& snapshot, Seconds seen);
-    void capture(const PasteboardSnapshot& snapshot, Seconds seen);
+    void finishRead(qint64 count, const PasteboardSnapshot& snapshot, const PictureLooks& looks,
+                    Seconds seen);
+    void capture(const PasteboardSnapshot& snapshot, const PictureLooks& looks, Seconds seen);
     [[nodiscard]] bool isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
                                   Seconds seen) const;
     void keep(const PasteboardSnapshot& snapshot);
+    void refuse(const TooLarge& what);
     void answerSaveRequest();
     void offerAgain();
     [[nodiscard]] bool isLost(const Held* held) const;
@@ -83,6 +85,7 @@ private:
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
     DetachedJobs& jobs_;
+    std::shared_ptr<ImageDecoder> decoder_;
     qint64 lastChangeCount_;
     qint64 suppressUntilCount_ = -1; ///< The change that we made ourselves.
     std::shared_ptr<Held> held_;     ///< Null at first.

@@ -1,24 +1,23 @@
 #include "store/Captures.h"
 
 #include "platform/Worker.h"
-#include "store/CopiedFile.h"
 
 #include <utility>
 
 namespace ravelo {
 
-void Captures::add(const QByteArray& path, std::function<void(const QByteArray&)> job,
+void Captures::add(const QByteArray& path, std::function<void(const CopiedContents&)> job,
                    std::function<void()> end) {
     const int number = next_++;
     Capture& capture = waiting_[number];
     capture.job = std::move(job);
     capture.end = std::move(end);
     if (path.isEmpty()) {
-        capture.file = QByteArray();
+        capture.file = CopiedContents();
     } else {
         capture.reading = readCopiedFile(services_.jobs, services_.scheduler, path,
-                                         [this, number](const QByteArray& bytes) {
-                                             waiting_.at(number).file = bytes;
+                                         [this, number](const CopiedContents& contents) {
+                                             waiting_.at(number).file = contents;
                                              passOn();
                                          });
     }
@@ -28,7 +27,7 @@ void Captures::add(const QByteArray& path, std::function<void(const QByteArray&)
 void Captures::stopReading() {
     for (auto& [number, capture] : waiting_) {
         capture.reading.reset();
-        capture.file = capture.file.value_or(QByteArray());
+        capture.file = capture.file.value_or(CopiedContents());
     }
     passOn();
 }

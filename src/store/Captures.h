@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "store/CopiedFile.h"
 
 #include <QByteArray>
 
@@ -31,9 +32,9 @@ public:
     [[nodiscard]] bool isEmpty() const { return waiting_.empty() && *working_ == 0; }
 
     /// Reads the file at `path`, unless that is empty, as `readCopiedFile` does, then runs `job`
-    /// with its bytes on the worker, then `end` on the main thread. `end` may come after this
+    /// with its contents on the worker, then `end` on the main thread. `end` may come after this
     /// object is gone.
-    void add(const QByteArray& path, std::function<void(const QByteArray&)> job,
+    void add(const QByteArray& path, std::function<void(const CopiedContents&)> job,
              std::function<void()> end);
 
     /// Goes on without the files that are not read yet. For the end of the program.
@@ -41,9 +42,9 @@ public:
 
 private:
     struct Capture {
-        std::function<void(const QByteArray&)> job;
+        std::function<void(const CopiedContents&)> job;
         std::function<void()> end;
-        std::optional<QByteArray> file; ///< Its bytes, once they need not be waited for any more.
+        std::optional<CopiedContents> file; ///< Once it need not be waited for any more.
         Handle reading;
     };
 

@@ -27,7 +27,7 @@ bool beginsLikeAPicture(const QByteArray& bytes) {
     return QMimeDatabase().mimeTypeForData(bytes).name().startsWith("image/"_L1);
 }
 
-QByteArray read(const QByteArray& path) {
+CopiedContents read(const QByteArray& path) {
     // A pipe or a device could keep it waiting for ever.
     const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (descriptor < 0) {
@@ -35,13 +35,17 @@ QByteArray read(const QByteArray& path) {
     }
     struct stat info = {};
     QFile file;
-    if (fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode) || info.st_size > mostBytes ||
+    if (fstat(descriptor, &info) != 0 || !S_ISREG(info.st_mode) ||
         !file.open(descriptor, QIODevice::ReadOnly, QFileDevice::AutoCloseHandle)) {
         close(descriptor);
         return {};
     }
     const QByteArray begin = file.read(beginning);
-    return beginsLikeAPicture(begin) ? begin + file.read(mostBytes) : QByteArray();
+    if (!beginsLikeAPicture(begin)) {
+        return {};
+    }
+    return info.st_size > mostBytes ? CopiedContents{{}, info.st_size}
+                                    : CopiedContents{begin + file.read(mostBytes)};
 }
 
 } // namespace
@@ -52,11 +56,11 @@ QByteArray copiedFile(const PasteboardSnapshot& contents) {
 }
 
 Handle readCopiedFile(DetachedJobs& jobs, Scheduler& scheduler, const QByteArray& path,
-                      std::function<void(const QByteArray&)> done) {
-    return runTimed<QByteArray>(
+                      std::function<void(const CopiedContents&)> done) {
+    return runTimed<CopiedContents>(
         jobs, scheduler, patience, [path] { return read(path); },
-        [done = std::move(done)](std::optional<QByteArray> bytes) {
-            done(bytes.value_or(QByteArray()));
+        [done = std::move(done)](std::optional<CopiedContents> contents) {
+            done(contents.value_or(CopiedContents()));
         });
 }
 

@@ -17,11 +17,17 @@ struct PasteboardSnapshot;
 /// at. Any thread.
 [[nodiscard]] QByteArray copiedFile(const PasteboardSnapshot& contents);
 
-/// Reads such a file, which may lie on a mount whose server is gone, and calls `done` with its
-/// bytes, later. They are empty if it is no regular file, does not begin like a picture, has more
-/// than 64 MiB or has not been read after two seconds. Main thread.
+/// What is in such a file.
+struct CopiedContents {
+    QByteArray bytes;
+    qint64 tooLarge = 0; ///< Its size, if it was not read because it has more than 64 MiB.
+};
+
+/// Reads such a file, which may lie on a mount whose server is gone, and calls `done` with what is
+/// in it, later. That is nothing if it is no regular file, does not begin like a picture or has not
+/// been read after two seconds. Main thread.
 [[nodiscard]] Handle readCopiedFile(DetachedJobs& jobs, Scheduler& scheduler,
                                     const QByteArray& path,
-                                    std::function<void(const QByteArray&)> done);
+                                    std::function<void(const CopiedContents&)> done);
 
 } // namespace ravelo

@@ -1,11 +1,7 @@
 #include "store/PasteboardImage.h"
 
 #include "platform/Pasteboard.h"
-
-#include <QBuffer>
-#include <QImage>
-#include <QImageIOHandler>
-#include <QImageReader>
+#include "store/CopiedFile.h"
 
 #include <algorithm>
 
@@ -15,12 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+using Kind = PictureLook::Kind;
+
 constexpr auto pngType = "image/png"_L1;
 constexpr auto filesType = "text/uri-list"_L1;
-/// Four bytes each, as Qt's own limit has it; a screen of 8K just fits in.
-constexpr qint64 mostPixels = qint64{32} * 1024 * 1024;
-/// zlib's level 1: half the time, hardly larger.
-constexpr int quickCompression = 80;
 
 /// The forms worth asking for, best first.
 QStringList candidates(const QStringList& offered) {
@@ -44,93 +38,72 @@ QStringList candidates(const QStringList& offered) {
     return list;
 }
 
-/// What its contents are, whatever its type or name says.
-enum class Picture { none, good, tooManyPixels };
-
-Picture pictureIn(QImageReader& reader) {
-    reader.setDecideFormatFromContent(true);
-    reader.setAutoTransform(true);
-    if (!reader.canRead() || reader.format().startsWith("svg") || reader.format() == "pdf") {
-        return Picture::none;
-    }
-    if (!reader.supportsOption(QImageIOHandler::Size)) {
-        return Picture::good; // Qt's own limit holds for those.
-    }
-    const QSize size = reader.size();
-    if (!size.isValid()) {
-        return Picture::none;
-    }
-    return qint64(size.width()) * size.height() <= mostPixels ? Picture::good
-                                                              : Picture::tooManyPixels;
-}
-
-Picture pictureIn(const QString& type, const QByteArray& bytes) {
-    if (type == pngType || bytes.isEmpty()) {
-        return bytes.isEmpty() ? Picture::none : Picture::good;
-    }
-    QBuffer buffer;
-    buffer.setData(bytes);
-    QImageReader reader(&buffer);
-    return pictureIn(reader);
-}
-
-QByteArray decodedToPng(QIODevice& device) {
-    QImageReader reader(&device);
-    QImage image;
-    if (pictureIn(reader) != Picture::good || !reader.read(&image)) {
+PictureLook lookAt(const QString& type, const QByteArray& bytes, ImageDecoder& decoder) {
+    if (bytes.isEmpty() || type == filesType) {
         return {};
     }
-    QBuffer png;
-    return image.save(&png, "PNG", quickCompression) ? png.data() : QByteArray();
-}
-
-QByteArray bytesToPng(QByteArray bytes) {
-    QBuffer buffer(&bytes);
-    return decodedToPng(buffer);
+    return type == pngType ? PictureLook{Kind::good} : decoder.look(bytes);
 }
 
 } // namespace
 
-QString nextImageType(const PasteboardSnapshot& contents) {
+QString nextImageType(const PasteboardSnapshot& contents, PictureLooks& looks,
+                      ImageDecoder& decoder) {
     for (const QString& type : candidates(contents.types)) {
         const auto answer = contents.answers.find(type);
         if (answer == contents.answers.end()) {
             return type;
         }
-        if (pictureIn(type, answer->value_or(QByteArray())) == Picture::good) {
+        if (!looks.contains(type)) {
+            looks.insert(type, lookAt(type, answer->value_or(QByteArray()), decoder));
+        }
+        if (looks.value(type).kind == Kind::good) {
             return {};
         }
     }
     return {};
 }
 
-bool hasGoodImage(const PasteboardSnapshot& contents) {
-    return std::ranges::any_of(candidates(contents.types), [&](const QString& type) {
-        const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
-        return type == filesType ? !bytes.isEmpty() : pictureIn(type, bytes) == Picture::good;
-    });
+bool hasGoodImage(const PasteboardSnapshot& contents, const PictureLooks& looks) {
+    const bool hasFiles = !contents.answers.value(filesType).value_or(QByteArray()).isEmpty();
+    return hasFiles || std::ranges::any_of(
+                           looks, [](const PictureLook& look) { return look.kind == Kind::good; });
 }
 
-qint64 oversizedImage(const PasteboardSnapshot& contents) {
-    qint64 largest = 0;
+std::optional<TooLarge> oversizedImage(const PasteboardSnapshot& contents,
+                                       const PictureLooks& looks) {
+    qint64 bytes = 0;
+    qint64 pixels = 0;
     for (const QString& type : candidates(contents.types)) {
-        const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
-        const bool tooManyPixels = pictureIn(type, bytes) == Picture::tooManyPixels;
-        largest = std::max({largest, contents.tooLarge.value(type),
-                            tooManyPixels ? qint64(bytes.size()) : qint64(0)});
+        bytes = std::max(bytes, contents.tooLarge.value(type));
+        const PictureLook look = looks.value(type);
+        pixels = std::max(pixels, look.kind == Kind::tooManyPixels ? look.pixels() : 0);
     }
-    return largest;
+    return bytes > 0    ? std::optional(TooLarge{TooLarge::Kind::image, bytes})
+           : pixels > 0 ? std::optional(TooLarge{TooLarge::Kind::pixels, pixels})
+                        : std::nullopt;
 }
 
-QByteArray pngImage(const PasteboardSnapshot& contents, const QByteArray& file) {
+std::optional<TooLarge> oversizedFile(const CopiedContents& file, ImageDecoder& decoder) {
+    if (file.tooLarge > 0) {
+        return TooLarge{TooLarge::Kind::image, file.tooLarge};
+    }
+    const PictureLook look = file.bytes.isEmpty() ? PictureLook() : decoder.look(file.bytes);
+    return look.kind == Kind::tooManyPixels
+               ? std::optional(TooLarge{TooLarge::Kind::pixels, look.pixels()})
+               : std::nullopt;
+}
+
+QByteArray pngImage(const PasteboardSnapshot& contents, const QByteArray& file,
+                    ImageDecoder& decoder) {
     for (const QString& type : candidates(contents.types)) {
         const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
         if (bytes.isEmpty()) {
             continue;
         }
         QByteArray png = type == pngType     ? bytes
-                         : type == filesType ? bytesToPng(file)
-                                             : bytesToPng(bytes);
+                         : type == filesType ? decoder.png(file)
+                                             : decoder.png(bytes);
         if (!png.isEmpty()) {
             return png;
         }

@@ -43,9 +43,16 @@ private:
         };
     }
 
+    [[nodiscard]] PasteboardPlan plan() const {
+        return [decoder = services_.decoder,
+                looks = std::make_shared<PictureLooks>()](const PasteboardSnapshot& contents) {
+            return nextImageType(contents, *looks, *decoder);
+        };
+    }
+
     void read() {
         reading_ = services_.pasteboard.read(
-            nextImageType, [weak = weak_from_this()](const PasteboardSnapshot& contents) {
+            plan(), [weak = weak_from_this()](const PasteboardSnapshot& contents) {
                 if (const auto self = weak.lock()) {
                     self->change_.reset();
                     self->timeout_.reset();
@@ -61,17 +68,18 @@ private:
             return;
         }
         file_ = readCopiedFile(services_.copiedFiles, services_.scheduler, path,
-                               [weak = weak_from_this(), contents](const QByteArray& bytes) {
+                               [weak = weak_from_this(), contents](const CopiedContents& file) {
                                    if (const auto self = weak.lock()) {
-                                       self->write(contents, bytes);
+                                       self->write(contents, file.bytes);
                                    }
                                });
     }
 
     void write(const PasteboardSnapshot& contents, const QByteArray& file) {
         const auto written = std::make_shared<bool>(false);
-        auto job = [path = path_, contents, file, written, mayWrite = services_.mayWrite] {
-            *written = writeImage(path, pngImage(contents, file), mayWrite);
+        auto job = [path = path_, contents, file, written, decoder = services_.decoder,
+                    mayWrite = services_.mayWrite] {
+            *written = writeImage(path, pngImage(contents, file, *decoder), mayWrite);
         };
         services_.worker.run(std::move(job), [self = shared_from_this(), written] {
             if (!self->done_) {

@@ -4,6 +4,7 @@
 #include "base/Scheduler.h"
 #include "base/Uuid.h"
 #include "platform/AlertSound.h"
+#include "platform/ImageDecoder.h"
 #include "platform/Pasteboard.h"
 #include "platform/Preferences.h"
 #include "platform/Worker.h"
@@ -17,6 +18,7 @@
 #include "store/StoreFile.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QPointer>
 
@@ -142,23 +144,33 @@ void Store::addClip(const QString& text, Kept kept) {
         add();
     } else {
         captures_.add(
-            {}, [](const QByteArray&) {}, unlessCleared(std::move(add), [] {}));
+            {}, [](const CopiedContents&) {}, unlessCleared(std::move(add), [] {}));
     }
 }
 
-void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept) {
-    const QString name = newImageFileName();
-    const auto written = std::make_shared<bool>(false);
-    auto job = [path = imagePath(name), contents, written,
-                mayWrite = services_.mayWrite](const QByteArray& file) {
-        *written = writeImage(path, pngImage(contents, file), mayWrite);
+void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused refused) {
+    struct Outcome {
+        bool written = false;
+        std::optional<TooLarge> tooLarge;
     };
-    auto add = [this, name, written, kept = std::move(kept), now = services_.scheduler.now()] {
-        if (*written) {
+
+    const QString name = newImageFileName();
+    const auto outcome = std::make_shared<Outcome>();
+    auto job = [path = imagePath(name), contents, outcome, decoder = services_.decoder,
+                mayWrite = services_.mayWrite](const CopiedContents& file) {
+        const QByteArray png = pngImage(contents, file.bytes, *decoder);
+        outcome->written = writeImage(path, png, mayWrite);
+        outcome->tooLarge = png.isEmpty() ? oversizedFile(file, *decoder) : std::nullopt;
+    };
+    auto add = [this, name, outcome, kept = std::move(kept), refused = std::move(refused),
+                now = services_.scheduler.now()] {
+        if (outcome->written) {
             apply(ClipHistory::imageAdded(data_.clips, name, now));
             if (kept) {
                 kept(data_.clips.front().id);
             }
+        } else if (outcome->tooLarge && refused) {
+            refused(*outcome->tooLarge);
         }
     };
     captures_.add(copiedFile(contents), std::move(job),
@@ -197,9 +209,11 @@ void Store::apply(std::optional<ClipChange> change) {
 
 void Store::removeImages(const QStringList& imageFileNames) {
     for (const QString& name : imageFileNames) {
-        services_.worker.run([path = imagePath(name), mayWrite = services_.mayWrite] {
-            removeImage(path, mayWrite);
-        });
+        services_.worker.run(
+            [path = imagePath(name), decoder = services_.decoder, mayWrite = services_.mayWrite] {
+                removeImage(path, mayWrite);
+                decoder->forget(PictureFile{QFile::encodeName(path)});
+            });
     }
 }
 

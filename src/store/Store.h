@@ -6,6 +6,7 @@
 #include "shelf/Shelf.h"
 #include "store/Captures.h"
 #include "store/Records.h"
+#include "store/TooLarge.h"
 #include "timer/FocusTimer.h"
 #include "timer/Reminders.h"
 
@@ -20,6 +21,7 @@ namespace ravelo {
 
 class AlertSound;
 class DetachedJobs;
+class ImageDecoder;
 class Pasteboard;
 class Preferences;
 class Scheduler;
@@ -53,7 +55,8 @@ public:
         AlertSound& sound;
         DetachedJobs& jobs;        ///< For looks at parked files.
         DetachedJobs& copiedFiles; ///< For reads of copied files; when full, they give nothing.
-        OwnFile::Permission mayWrite = {}; ///< Asked before each change of a file.
+        std::shared_ptr<ImageDecoder> decoder; ///< Jobs hold it, too.
+        OwnFile::Permission mayWrite = {};     ///< Asked before each change of a file.
     };
 
     /// Loads "store.json" from `folder` (made if missing, 0700) and seeds the snippets. Parked
@@ -79,6 +82,9 @@ public:
     /// Told which clip stands for what was copied, new or kept from before; never where none does.
     using Kept = std::function<void(const QUuid&)>;
 
+    /// Told that nothing is kept of what was copied, as it is too large.
+    using Refused = std::function<void(const TooLarge&)>;
+
     /// Adds a text, as `ClipHistory::added` has it. Waits behind images that are still being
     /// written, so that the order of the clips is the order of copying.
     void addClip(const QString& text, Kept kept = {});
@@ -86,7 +92,7 @@ public:
     /// Writes the image in what a pasteboard read with `nextImageType` gave (PNG bytes as they are,
     /// all else converted) to the clips folder and, once it is there, adds its clip. Nothing is
     /// added where there is no image or it cannot be written.
-    void addImageClip(const PasteboardSnapshot& contents, Kept kept = {});
+    void addImageClip(const PasteboardSnapshot& contents, Kept kept = {}, Refused refused = {});
 
     Q_INVOKABLE void togglePin(const QUuid& id);
     Q_INVOKABLE void deleteClip(const QUuid& id);
@@ -103,7 +109,8 @@ public:
     /// the handle is dropped before that, `done` is not called and no file stays.
     [[nodiscard]] Handle saveClipboardImageForSnippet(std::function<void(QString)> done);
 
-    /// Deletes files of the clips folder that nothing refers to any more.
+    /// Deletes files of the clips folder that nothing refers to any more, and what was kept of them
+    /// to be shown.
     void removeImages(const QStringList& imageFileNames);
 
     /// As the rules of `Shelf` have it; nothing is saved where nothing changes.

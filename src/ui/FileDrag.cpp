@@ -3,6 +3,7 @@
 #include "base/FileUrl.h"
 #include "platform/DetachedJobs.h"
 #include "platform/FileIcons.h"
+#include "platform/ImageDecoder.h"
 #include "ui/FilePage.h"
 #include "ui/FileThumb.h"
 
@@ -67,8 +68,9 @@ QImage fanned(const QList<QImage>& icons, double scale) {
 
 } // namespace
 
-FileDrag::FileDrag(DetachedJobs& jobs, std::shared_ptr<const FileIcons> icons)
-    : jobs_(jobs), icons_(std::move(icons)) {}
+FileDrag::FileDrag(DetachedJobs& jobs, std::shared_ptr<const FileIcons> icons,
+                   std::shared_ptr<ImageDecoder> decoder)
+    : jobs_(jobs), icons_(std::move(icons)), decoder_(std::move(decoder)) {}
 
 void FileDrag::prepare(const QList<QUrl>& files, QQuickItem* from) {
     if (files == prepared_ || preparing_) { // One that hangs is enough.
@@ -78,9 +80,9 @@ void FileDrag::prepare(const QList<QUrl>& files, QQuickItem* from) {
     pictures_.clear();
     const auto pictures = std::make_shared<QList<QImage>>();
     auto job = [pictures, files = files.first(std::min(files.size(), mostIcons)), icons = icons_,
-                size = qRound(iconSize * scaleOf(*from))] {
+                decoder = decoder_, size = qRound(iconSize * scaleOf(*from))] {
         for (const QUrl& file : files) {
-            pictures->append(fileIcon(file, size, *icons));
+            pictures->append(fileIcon(file, size, *icons, *decoder));
         }
     };
     preparing_ = jobs_.run(std::move(job), [this, pictures] {

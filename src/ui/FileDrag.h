@@ -15,6 +15,7 @@ namespace ravelo {
 
 class DetachedJobs;
 class FileIcons;
+class ImageDecoder;
 
 /// Drags files out of the panel, to be copied wherever they are dropped. Main thread.
 class FileDrag : public QObject {
@@ -23,7 +24,8 @@ class FileDrag : public QObject {
     QML_UNCREATABLE("the panel has one")
 
 public:
-    FileDrag(DetachedJobs& jobs, std::shared_ptr<const FileIcons> icons);
+    FileDrag(DetachedJobs& jobs, std::shared_ptr<const FileIcons> icons,
+             std::shared_ptr<ImageDecoder> decoder);
 
     /// These may be dragged soon: gets their icons ready.
     Q_INVOKABLE void prepare(const QList<QUrl>& files, QQuickItem* from);
@@ -37,6 +39,7 @@ private:
 
     DetachedJobs& jobs_;
     std::shared_ptr<const FileIcons> icons_;
+    std::shared_ptr<ImageDecoder> decoder_;
     QList<QUrl> prepared_;
     QList<QImage> pictures_; ///< Of `prepared_`; none before they are ready.
     bool dragging_ = false;

@@ -3,20 +3,17 @@
 #include "base/FileUrl.h"
 #include "base/Files.h"
 #include "platform/FileIcons.h"
+#include "platform/ImageDecoder.h"
 #include "ui/FilePage.h"
-#include "ui/HeifImage.h"
 #include "ui/ThumbnailProvider.h"
 
+#include <QFile>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QMimeDatabase>
 #include <QPainter>
 
 #include <algorithm>
 #include <array>
-
-#include <fcntl.h>
-#include <unistd.h>
 
 namespace ravelo {
 
@@ -33,33 +30,9 @@ constexpr double previewRadius = 8;
 constexpr double iconSize = 64;
 
 /// As wide as the image's shape wants it, within what a tile has room for.
-QSize previewSize(QSize natural, double scale) {
-    const double width = previewHeight * natural.width() / natural.height();
-    return (QSizeF(std::clamp(width, narrowestPreview, widestThumb), previewHeight) * scale)
-        .toSize();
-}
-
-QImage preview(const QString& path, double scale) {
-    const double radius = previewRadius * scale;
-    if (const QSize natural = imageSize(path); !natural.isEmpty()) {
-        return thumbnail(path, previewSize(natural, scale), radius);
-    }
-    const QImage heif = heifImage(path, qRound(previewHeight * scale));
-    return heif.isNull() ? QImage() : thumbnail(heif, previewSize(heif.size(), scale), radius);
-}
-
-/// Qt cannot name a file whose name is not UTF-8: a descriptor stands for it.
-QImage preview(const QByteArray& path, double scale) {
-    if (path.isValidUtf8()) {
-        return preview(QString::fromUtf8(path), scale);
-    }
-    const int file = ::open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
-    if (file < 0) {
-        return {};
-    }
-    QImage image = preview(u"/proc/self/fd/%1"_s.arg(file), scale);
-    ::close(file);
-    return image;
+PictureShape previewShape(double scale) {
+    return {qRound(previewHeight * scale), qRound(narrowestPreview * scale),
+            qRound(widestThumb * scale)};
 }
 
 /// By the name alone, the most special first.
@@ -72,14 +45,6 @@ QStringList iconNames(const QUrl& file) {
     return {type.iconName(), type.genericIconName()};
 }
 
-QImage themedIcon(const QString& path, int size) {
-    QImageReader reader(path);
-    if (const QSize natural = reader.size(); !natural.isEmpty()) {
-        reader.setScaledSize(natural.scaled(size, size, Qt::KeepAspectRatio));
-    }
-    return reader.read();
-}
-
 QImage centred(const QImage& image, int size) {
     QImage square(size, size, QImage::Format_ARGB32_Premultiplied);
     square.fill(Qt::transparent);
@@ -90,16 +55,15 @@ QImage centred(const QImage& image, int size) {
 
 } // namespace
 
-QImage fileThumb(const QUrl& file, double scale, const FileIcons& icons) {
-    const QByteArray path = filePath(file);
+QImage fileThumb(const QUrl& file, double scale, const FileIcons& icons, ImageDecoder& decoder) {
     const QString extension = QFileInfo(file.fileName()).suffix().toLower();
-    const bool named = std::ranges::find(imageExtensions, extension) != imageExtensions.end();
-    if (named && isRegularFile(path)) { // From a pipe nothing may ever come.
-        if (QImage image = preview(path, scale); !image.isNull()) {
-            return image;
+    if (std::ranges::find(imageExtensions, extension) != imageExtensions.end()) {
+        const QImage preview = decoder.filling(PictureFile{filePath(file)}, previewShape(scale));
+        if (!preview.isNull()) {
+            return rounded(preview, previewRadius * scale);
         }
     }
-    return fileIcon(file, qRound(iconSize * scale), icons);
+    return fileIcon(file, qRound(iconSize * scale), icons, decoder);
 }
 
 // QML takes addresses apart and puts them together again; letters and digits it leaves alone.
@@ -111,10 +75,13 @@ QUrl fileOfThumb(const QString& name) {
     return QUrl::fromEncoded(QByteArray::fromHex(name.toLatin1()));
 }
 
-QImage fileIcon(const QUrl& file, int size, const FileIcons& icons) {
+QImage fileIcon(const QUrl& file, int size, const FileIcons& icons, ImageDecoder& decoder) {
     const QString found = icons.find(iconNames(file), size);
-    if (const QImage icon = found.isEmpty() ? QImage() : themedIcon(found, size); !icon.isNull()) {
-        return centred(icon, size);
+    if (!found.isEmpty()) {
+        const QImage icon = decoder.icon(PictureFile{QFile::encodeName(found)}, size);
+        if (!icon.isNull()) {
+            return centred(icon, size);
+        }
     }
     return filePage(QFileInfo(file.fileName()).suffix(), size);
 }

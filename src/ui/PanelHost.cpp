@@ -36,7 +36,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       shelf_(subjects.store, subjects.jobs, subjects.scheduler),
       received_(subjects.received, subjects.scheduler, locale),
       sending_(subjects.nearby, toast_),
-      fileDrag_(subjects.jobs, subjects.icons),
+      fileDrag_(subjects.jobs, subjects.icons, subjects.decoder),
       shelfRequestsSeen_(subjects.store.shelfRequestTick()),
       timerFace_(subjects.store, subjects.scheduler),
       contentSize_(sizeToOpenWith()) {

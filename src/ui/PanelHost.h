@@ -82,6 +82,7 @@ public:
         DetachedJobs& jobs;
         FileOpener& opener;
         std::shared_ptr<const FileIcons> icons;
+        std::shared_ptr<ImageDecoder> decoder;
     };
 
     PanelHost(Subjects subjects, const QLocale& locale);

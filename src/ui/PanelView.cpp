@@ -1,10 +1,12 @@
 #include "ui/PanelView.h"
 
+#include "platform/ImageDecoder.h"
 #include "ui/FileThumb.h"
 #include "ui/Fonts.h"
 #include "ui/ThumbnailProvider.h"
 
 #include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QQmlEngine>
 
@@ -37,18 +39,21 @@ QUrl contentUrl() {
 }
 
 /// "<radius in device pixels>/<file name>": names lead nowhere but into `folder`.
-QQuickImageProvider* clipThumbs(const QDir& folder) {
-    return new ThumbnailProvider([folder](const QString& name, QSize size) {
+QQuickImageProvider* clipThumbs(const QDir& folder, const std::shared_ptr<ImageDecoder>& decoder) {
+    return new ThumbnailProvider([folder, decoder](const QString& name, QSize size) {
         const double radius = name.section(u'/', 0, 0).toDouble();
         const QString file = QFileInfo(name.section(u'/', 1)).fileName();
-        return thumbnail(folder.filePath(file), size, radius);
+        return rounded(decoder->filling(PictureFile{QFile::encodeName(folder.filePath(file))},
+                                        {size.height(), size.width(), size.width()}),
+                       radius);
     });
 }
 
 /// As `fileThumbAddress` has it, asked for as wide as the widest is.
-QQuickImageProvider* fileThumbs(const std::shared_ptr<const FileIcons>& icons) {
-    return new ThumbnailProvider([icons](const QString& name, QSize size) {
-        return fileThumb(fileOfThumb(name), size.width() / widestThumb, *icons);
+QQuickImageProvider* fileThumbs(const std::shared_ptr<const FileIcons>& icons,
+                                const std::shared_ptr<ImageDecoder>& decoder) {
+    return new ThumbnailProvider([icons, decoder](const QString& name, QSize size) {
+        return fileThumb(fileOfThumb(name), size.width() / widestThumb, *icons, *decoder);
     });
 }
 
@@ -74,8 +79,9 @@ void PanelView::load(PanelHost::Subjects subjects, const QLocale& locale) {
     };
     QObject::connect(&view_, &QWindow::widthChanged, host_.get(), resized);
     QObject::connect(&view_, &QWindow::heightChanged, host_.get(), resized);
-    view_.engine()->addImageProvider(u"thumb"_s, clipThumbs(subjects.store.clipsDir()));
-    view_.engine()->addImageProvider(u"file"_s, fileThumbs(subjects.icons));
+    view_.engine()->addImageProvider(u"thumb"_s,
+                                     clipThumbs(subjects.store.clipsDir(), subjects.decoder));
+    view_.engine()->addImageProvider(u"file"_s, fileThumbs(subjects.icons, subjects.decoder));
     view_.setInitialProperties({{u"host"_s, QVariant::fromValue(host_.get())}});
     view_.setSource(contentUrl());
 }

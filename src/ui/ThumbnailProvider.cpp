@@ -1,6 +1,5 @@
 #include "ui/ThumbnailProvider.h"
 
-#include <QImageReader>
 #include <QPainter>
 
 #include <atomic>
@@ -31,58 +30,20 @@ private:
     std::atomic<bool> wanted_ = true;
 };
 
-bool isTurned(const QImageReader& reader) {
-    return reader.transformation().testFlag(QImageIOHandler::TransformationRotate90);
-}
+} // namespace
 
-QSize turned(QSize size, const QImageReader& reader) {
-    return isTurned(reader) ? size.transposed() : size;
-}
-
-QImage rounded(const QImage& picture, QSize size, double radius) {
+QImage rounded(const QImage& picture, double radius) {
     if (picture.isNull()) {
         return {};
     }
-    QImage rounded(size, QImage::Format_ARGB32_Premultiplied);
+    QImage rounded(picture.size(), QImage::Format_ARGB32_Premultiplied);
     rounded.fill(Qt::transparent);
     QPainter painter(&rounded);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setBrush(QBrush(picture));
     painter.setPen(Qt::NoPen);
-    painter.drawRoundedRect(QRectF(QPointF(0, 0), size), radius, radius);
+    painter.drawRoundedRect(QRectF(rounded.rect()), radius, radius);
     return rounded;
-}
-
-} // namespace
-
-QSize imageSize(const QString& path) {
-    const QImageReader reader(path);
-    return turned(reader.size(), reader);
-}
-
-QImage thumbnail(const QString& path, QSize size, double radius) {
-    QImageReader reader(path);
-    reader.setAutoTransform(true);
-    const QSize natural = reader.size();
-    if (natural.isEmpty() || size.isEmpty()) {
-        return {};
-    }
-    // The part that shows is cut out first: scaling all of a very long picture would fill the
-    // memory. A camera that was held upright is turned only after that.
-    const QSize scaled = turned(size, reader);
-    const QSize part = scaled.scaled(natural, Qt::KeepAspectRatio).expandedTo({1, 1});
-    const QPoint corner((natural.width() - part.width()) / 2,
-                        (natural.height() - part.height()) / 2);
-    reader.setClipRect(QRect(corner, part));
-    reader.setScaledSize(scaled);
-    return rounded(reader.read(), size, radius);
-}
-
-QImage thumbnail(const QImage& image, QSize size, double radius) {
-    const QImage wide =
-        image.scaled(size, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
-    const QPoint corner((wide.width() - size.width()) / 2, (wide.height() - size.height()) / 2);
-    return rounded(wide.copy(QRect(corner, size)), size, radius);
 }
 
 QQuickImageResponse* ThumbnailProvider::requestImageResponse(const QString& id,

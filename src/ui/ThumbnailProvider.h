@@ -7,15 +7,8 @@
 
 namespace ravelo {
 
-/// The size of the image in a file as it is to be seen; empty where there is none.
-[[nodiscard]] QSize imageSize(const QString& path);
-
-/// A picture that fills `size` device pixels, cropped around its middle, with rounded corners;
-/// a null image where the file holds none.
-[[nodiscard]] QImage thumbnail(const QString& path, QSize size, double radius);
-
-/// The same of an image that is read already.
-[[nodiscard]] QImage thumbnail(const QImage& image, QSize size, double radius);
+/// With its corners cut off, in device pixels; null if `picture` is.
+[[nodiscard]] QImage rounded(const QImage& picture, double radius);
 
 /// Pictures that are made off the main thread, in the size that is asked for.
 class ThumbnailProvider : public QQuickAsyncImageProvider {

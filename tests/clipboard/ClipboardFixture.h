@@ -4,6 +4,7 @@
 
 #include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -48,7 +49,7 @@ class Clipboard : public testing::Test {
 public:
     Clipboard() {
         pasteboard.offerText(u"there before the start"_s);
-        manager.emplace(store, pasteboard, scheduler, jobs);
+        manager.emplace(store, pasteboard, scheduler, jobs, decoder);
         manager->start();
     }
 
@@ -73,7 +74,9 @@ public:
     MemoryPasteboard pasteboard{scheduler};
     FakeAlertSound sound;
     FakeDetachedJobs jobs{scheduler};
-    Store store{folder.path(), {scheduler, worker, preferences, pasteboard, sound, jobs}};
+    std::shared_ptr<ImageDecoder> decoder = std::make_shared<InProcessDecoder>();
+    Store store{folder.path(),
+                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, decoder}};
     std::optional<ClipboardManager> manager;
 };
 

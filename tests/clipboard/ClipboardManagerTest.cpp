@@ -100,6 +100,11 @@ TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
     settle();
     EXPECT_EQ(pasteboard.bytes("image/png"_L1), picture("png"));
 
+    manager->copyImage(path);
+    manager->copyText(u"sooner"_s);
+    settle();
+    EXPECT_EQ(pasteboard.bytes(plainTextType), "sooner") << "an image that was asked for before";
+
     manager->copyFile(QUrl::fromLocalFile(path));
     settle();
     EXPECT_TRUE(pasteboard.bytes("text/uri-list"_L1).endsWith("/a.png\r\n"));
@@ -111,6 +116,7 @@ TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
     settle();
     manager->copyFile(QUrl(u"https://example.org/a.png"_s));
     manager->copyFile(QUrl());
+    settle();
     EXPECT_EQ(pasteboard.changeCount(), before) << "what is none leaves the pasteboard alone";
     EXPECT_EQ(texts(), QStringList());
 }

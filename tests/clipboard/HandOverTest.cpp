@@ -187,7 +187,7 @@ class TooLargeTable : public Clipboard, public testing::WithParamInterface<TooLa
 TEST_P(TooLargeTable, isSaidOnceACopyOfWhichNothingIsKept) {
     QList<std::pair<TooLarge::Kind, qint64>> said;
     manager->onTooLarge = [&](const TooLarge& what) {
-        said.append({what.kind, what.bytes});
+        said.append({what.kind, what.amount});
     };
     pasteboard.tooLarge = GetParam().tooLarge;
     by(one, GetParam().offered)(*this);
@@ -219,11 +219,43 @@ INSTANTIATE_TEST_SUITE_P(
         TooLargeCase{"pixels",
                      {{u"image/bmp"_s, widePicture()}},
                      {},
-                     std::pair(TooLarge::Kind::image, widePicture().size())},
+                     std::pair(TooLarge::Kind::pixels, 8192 * 4097)},
         TooLargeCase{"otherForm", {refusedPng, {u"image/bmp"_s, picture("bmp")}}, largePng, {}, 1},
         TooLargeCase{"imageInstead", {refusedText, png.front()}, largeText, {}, 1},
         TooLargeCase{"refused", {refusedText, refusedPng}, {}, {}}),
     [](const auto& row) { return row.param.name; });
+
+constexpr qint64 overLimit = (64 << 20) + 1;
+
+struct LargeFile {
+    const char* name;
+    QByteArray contents;
+    qint64 length;
+    QList<std::pair<TooLarge::Kind, qint64>> said;
+};
+
+TEST_F(Clipboard, aCopiedImageFileThatIsTooLargeIsSaidOnce) {
+    const LargeFile files[] = {
+        {"bytes", picture("png"), overLimit, {{TooLarge::Kind::image, overLimit}}},
+        {"pixels", widePicture(), widePicture().size(), {{TooLarge::Kind::pixels, 8192 * 4097}}},
+        {"noPicture", "text", overLimit, {}}};
+    for (const LargeFile& large : files) {
+        QList<std::pair<TooLarge::Kind, qint64>> said;
+        manager->onTooLarge = [&](const TooLarge& what) {
+            said.append({what.kind, what.amount});
+        };
+        QFile file(folder.filePath(QString::fromLatin1(large.name)));
+        ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(large.contents) > 0);
+        ASSERT_TRUE(file.resize(large.length));
+        const QByteArray list = QUrl::fromLocalFile(file.fileName()).toEncoded();
+        for (const PasteboardOwner& owner : {one, other}) { // The other passes it on.
+            by(owner, {{filesType, list}})(*this);
+            settle(); // A file is read before the worker gets it.
+        }
+        EXPECT_EQ(said, large.said) << large.name;
+        EXPECT_EQ(texts(), QStringList()) << large.name;
+    }
+}
 
 } // namespace
 } // namespace ravelo

@@ -8,6 +8,7 @@
 #include "fakes/FakeLoginItem.h"
 #include "fakes/FakeNearby.h"
 #include "fakes/FakePower.h"
+#include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -33,7 +34,8 @@ struct PanelWorld {
 
     /// The store begins with `data`.
     explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
-        : store(filled(folder, data), {scheduler, worker, preferences, pasteboard, sound, jobs, jobs}),
+        : store(filled(folder, data),
+                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, decoder}),
           controller(store, clipboard, settings,
                      {scheduler,
                       screens,
@@ -84,12 +86,13 @@ struct PanelWorld {
     FakeFolderWatch downloads;
     FakeFileOpener opener;
     std::shared_ptr<const FileIcons> icons = std::make_shared<NoFileIcons>();
+    std::shared_ptr<ImageDecoder> decoder = std::make_shared<InProcessDecoder>();
     NearbySend nearby{{devices, programs, jobs, scheduler}};
     ReceivedWatcher received{downloads, scheduler, folder.filePath(QStringLiteral("Downloads"))};
     Notices notices{scheduler};
     Store store;
     AppSettings settings{preferences, loginItem};
-    ClipboardManager clipboard{store, pasteboard, scheduler, jobs};
+    ClipboardManager clipboard{store, pasteboard, scheduler, jobs, decoder};
     NotchController controller;
 
 private:

@@ -570,6 +570,39 @@ class Shelf(ProgramCase):
         wait_for(self.ravelo.is_collapsed, "the panel to close at a click elsewhere")
 
 
+class Pictures(ProgramCase):
+    """Pictures are read by ravelo-decode alone: what reads them is never in the program itself."""
+
+    def decoders(self):
+        tasks = pathlib.Path(f"/proc/{self.ravelo.process.pid}/task").iterdir()
+        children = " ".join((task / "children").read_text() for task in tasks).split()
+        return [child for child in children
+                if pathlib.Path(f"/proc/{child}/comm").read_text() == "ravelo-decode\n"]
+
+    def mapped(self):
+        lines = pathlib.Path(f"/proc/{self.ravelo.process.pid}/maps").read_text().splitlines()
+        return {line.split()[5] for line in lines if len(line.split()) > 5}
+
+    def test_the_program_maps_no_library_that_reads_them(self):
+        self.desktop.env["RAVELO_CORE_DUMPS"] = "1"  # Or only root could read the list.
+        picture = self.desktop.home / "parked.jpg"
+        self.desktop.run("convert", "-size", "640x400", "plasma:", picture)
+        self.ravelo.start()
+        self.desktop.gtk("image", "c04020ff")
+        self.wait_for_texts("Image")
+        self.assertEqual(self.decoders(), [], "nothing has been shown yet")
+        self.toggle()
+        wait_for(self.decoders, "ravelo-decode for the clip's picture")
+        self.press("Escape")
+        wait_for(self.ravelo.is_collapsed, "the panel to close")
+        self.assertEqual(self.ravelo.call(picture)[0], 0)
+        wait_for(self.ravelo.is_open_for_files, "the panel with the shelf")
+        self.assertEqual(self.ravelo.call("--settings")[0], 0)
+        wait_for(lambda: self.ravelo.window("Ravelo Settings"), "the settings")
+        readers = [path for path in self.mapped() if "/imageformats/" in path or "heif" in path]
+        self.assertEqual(readers, [])
+
+
 class Traces(ProgramCase):
     """docs/privacy.md: what is kept is where it says, for this user alone, and can be erased."""
     KEPT = {"data/Ravelo/store.json", "data/Ravelo/clips/IMAGE.png",

@@ -1,6 +1,7 @@
 #include "store/PasteboardImage.h"
 #include "TestImages.h"
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/MemoryPasteboard.h"
 #include "store/CopiedFile.h"
@@ -64,19 +65,22 @@ protected:
 
     QByteArray image() {
         PasteboardSnapshot snapshot;
+        PictureLooks looks;
         const Handle reading = pasteboard_.read(
-            nextImageType, [&](const PasteboardSnapshot& read) { snapshot = read; });
+            [&](const PasteboardSnapshot& read) { return nextImageType(read, looks, decoder_); },
+            [&](const PasteboardSnapshot& read) { snapshot = read; });
         scheduler_.advance(Seconds(1));
         QByteArray file;
         const Handle readingFile = readCopiedFile(jobs_, scheduler_, copiedFile(snapshot),
-                                                  [&](const QByteArray& bytes) { file = bytes; });
+                                                  [&](const auto& read) { file = read.bytes; });
         scheduler_.advance(Seconds(0));
-        return pngImage(snapshot, file);
+        return pngImage(snapshot, file, decoder_);
     }
 
     ManualScheduler scheduler_;
     MemoryPasteboard pasteboard_{scheduler_};
     FakeDetachedJobs jobs_{scheduler_};
+    InProcessDecoder decoder_;
 };
 
 TEST_P(OfferedImage, IsTheBestThatCanBeHad) {

@@ -4,6 +4,7 @@
 #include "base/Files.h"
 #include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
@@ -39,8 +40,8 @@ protected:
     }
 
     [[nodiscard]] Store::Services services() {
-        return {scheduler_, worker_, preferences_, pasteboard_,
-                sound_,     jobs_,   copiedFiles_, mayWrite_};
+        return {scheduler_, worker_,      preferences_, pasteboard_, sound_,
+                jobs_,      copiedFiles_, decoder_,     mayWrite_};
     }
 
     [[nodiscard]] QString folder() const { return directory_.filePath(QStringLiteral("Ravelo")); }
@@ -84,6 +85,7 @@ protected:
     FakeAlertSound sound_;
     FakeDetachedJobs jobs_{scheduler_};
     FakeDetachedJobs copiedFiles_{scheduler_};
+    std::shared_ptr<InProcessDecoder> decoder_ = std::make_shared<InProcessDecoder>();
     OwnFile::Permission mayWrite_;
     std::unique_ptr<Store> store_;
 };

@@ -2,6 +2,7 @@
 
 #include "PanelFixture.h"
 #include "base/FileUrl.h"
+#include "support/GreenHeic.h"
 #include "ui/DragSourceView.h"
 #include "ui/FileThumb.h"
 #include "ui/ShelfLayout.h"
@@ -427,6 +428,11 @@ INSTANTIATE_TEST_SUITE_P(
         LayoutCase{"narrowerThanATile", {2}, 50, {{0, 0, 109, 226}}, {{4, 114}}}),
     [](const auto& row) { return row.param.name; });
 
+QImage thumbOf(const QUrl& file) {
+    InProcessDecoder decoder;
+    return fileThumb(file, 1, NoFileIcons(), decoder);
+}
+
 class FileThumb : public testing::TestWithParam<std::pair<const char*, QSize>> {};
 
 TEST_P(FileThumb, isThePictureWhereOneCanBeReadAndAnIconElsewhere) {
@@ -435,7 +441,7 @@ TEST_P(FileThumb, isThePictureWhereOneCanBeReadAndAnIconElsewhere) {
     QImage wide(200, 100, QImage::Format_RGB32);
     wide.fill(Qt::green);
     ASSERT_TRUE(wide.save(path, "png"));
-    const QImage thumb = fileThumb(QUrl::fromLocalFile(path), 1, NoFileIcons());
+    const QImage thumb = thumbOf(QUrl::fromLocalFile(path));
     EXPECT_EQ(thumb.size(), GetParam().second);
     const bool pictured = thumb.size() == QSize(72, 56);
     EXPECT_EQ(thumb.pixelColor(thumb.rect().center()) == QColor(Qt::green), pictured);
@@ -448,37 +454,25 @@ INSTANTIATE_TEST_SUITE_P(All, FileThumb,
                                          std::pair("print.pdf", QSize(64, 64)),
                                          std::pair("png", QSize(64, 64))));
 
-/// 64 x 32, all green, as telephones write them.
-constexpr auto greenHeic =
-    "AAAAHGZ0eXBoZWljAAAAAG1pZjFoZWljbWlhZgAAAaptZXRhAAAAAAAAACFoZGxyAAAAAAAAAABwaWN0"
-    "AAAAAAAAAAAAAAAAAAAAAA5waXRtAAAAAAACAAAAEGlkYXQAAAAAAEAAIAAAADhpbG9jAQAAAERAAAIA"
-    "AQAAAAAAAAHOAAEAAAAAAAAAHQACAAEAAAAAAAAAAQAAAAAAAAAIAAAAOGlpbmYAAAAAAAIAAAAVaW5m"
-    "ZQIAAAEAAQAAaHZjMQAAAAAVaW5mZQIAAAAAAgAAZ3JpZAAAAADVaXBycAAAALNpcGNvAAAAc2h2Y0MB"
-    "A3AAAAAAAAAAAAAe8AD8/fj4AAAPAyAAAQAYQAEMAf//A3AAAAMAkAAAAwAAAwAeugJAIQABACdCAQED"
-    "cAAAAwCQAAADAAADAB6gIIEFlurkprmwIAAAAwAgAAADACEiAAEABkQBwXPAiQAAABRpc3BlAAAAAAAA"
-    "AEAAAABAAAAAFGlzcGUAAAAAAAAAQAAAACAAAAAQcGl4aQAAAAADCAgIAAAAGmlwbWEAAAAAAAAAAgAB"
-    "AoECAAICA4QAAAAaaXJlZgAAAAAAAAAOZGltZwACAAEAAQAAACVtZGF0AAAAGSgBrxOA+BDhp3/3go//"
-    "0y9X/zZ6786KQz4=";
-
 TEST(FileThumbs, showWhatTelephonesWrite) {
     const QTemporaryDir folder;
     QFile file(folder.filePath(u"IMG_4821.HEIC"_s));
     ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(QByteArray::fromBase64(greenHeic));
+    file.write(greenHeic());
     file.close();
     const QUrl url = QUrl::fromLocalFile(file.fileName());
-    const QImage thumb = fileThumb(url, 1, NoFileIcons());
+    const QImage thumb = thumbOf(url);
     EXPECT_EQ(thumb.size(), QSize(72, 56));
     EXPECT_GT(thumb.pixelColor(36, 28).green(), 200);
     EXPECT_LT(thumb.pixelColor(36, 28).red(), 50);
     file.resize(300);
-    EXPECT_EQ(fileThumb(url, 1, NoFileIcons()).size(), QSize(64, 64)) << "an icon: it is cut off";
+    EXPECT_EQ(thumbOf(url).size(), QSize(64, 64)) << "an icon: it is cut off";
 
     const QString upright = folder.filePath(u"upright.jpg"_s);
     QImageWriter camera(upright);
     camera.setTransformation(QImageIOHandler::TransformationRotate90);
     ASSERT_TRUE(camera.write(QImage(200, 150, QImage::Format_RGB32)));
-    EXPECT_EQ(fileThumb(QUrl::fromLocalFile(upright), 1, NoFileIcons()).size(), QSize(42, 56));
+    EXPECT_EQ(thumbOf(QUrl::fromLocalFile(upright)).size(), QSize(42, 56));
 }
 
 TEST(FileThumbs, areMadeOfFilesWhoseNamesAreNotUtf8) {
@@ -487,7 +481,7 @@ TEST(FileThumbs, areMadeOfFilesWhoseNamesAreNotUtf8) {
     ASSERT_TRUE(QImage(200, 100, QImage::Format_RGB32).save(plain));
     const QByteArray odd = QFile::encodeName(folder.path()) + "/\xe4.png";
     ASSERT_EQ(std::rename(QFile::encodeName(plain).constData(), odd.constData()), 0);
-    EXPECT_EQ(fileThumb(fileUrl(odd), 1, NoFileIcons()).size(), QSize(72, 56));
+    EXPECT_EQ(thumbOf(fileUrl(odd)).size(), QSize(72, 56));
     EXPECT_EQ(std::remove(odd.constData()), 0); // Qt would not find it.
 }
 

@@ -34,7 +34,8 @@ protected:
     MemoryPasteboard pasteboard_{scheduler_};
     FakeAlertSound sound_;
     FakeDetachedJobs jobs_{scheduler_};
-    Store store_{folder_.path(), {scheduler_, worker_, preferences_, pasteboard_, sound_, jobs_}};
+    Store store_{folder_.path(),
+                 {scheduler_, worker_, preferences_, pasteboard_, sound_, jobs_, {}}};
     TimerFace face_{store_, scheduler_};
     QStringList figures_;
 };

@@ -2,11 +2,11 @@
 
 #include <QDir>
 #include <QFileInfo>
-#include <QImageReader>
 #include <QSettings>
 #include <QStandardPaths>
 
 #include <algorithm>
+#include <array>
 #include <utility>
 
 namespace ravelo {
@@ -46,13 +46,7 @@ Directory directory(QSettings& index, const QString& folder, const QString& name
     return ofFiles ? found : Directory();
 }
 
-QStringList endings() {
-    QStringList all{u".png"_s};
-    if (QImageReader::supportedImageFormats().contains("svg")) {
-        all.append(u".svg"_s);
-    }
-    return all;
-}
+constexpr std::array endings{".png"_L1, ".svg"_L1};
 
 } // namespace
 
@@ -66,9 +60,8 @@ struct IconTheme::Theme {
             nearest.append(&one);
         }
         std::ranges::stable_sort(nearest, {}, [size](auto one) { return one->distance(size); });
-        static const auto& all = *new QStringList(endings()); // In use as the process ends.
         for (const Directory* one : nearest) {
-            for (const QString& ending : all) {
+            for (const auto ending : endings) {
                 if (const QString path = one->path + u'/' + icon + ending;
                     QFileInfo::exists(path)) {
                     return path;

@@ -1,0 +1,75 @@
+// thumbnails here|there FOLDER: makes thumbnails of all pictures in the folder as a list does that
+// is shown for the first time, in this process or by ravelo-decode. Prints the milliseconds until
+// the first and until the last of them.
+
+#include "fakes/InProcessDecoder.h"
+#include "platform/system/DecoderProcess.h"
+#include "ui/SlowWork.h"
+
+#include <QCoreApplication>
+#include <QDir>
+
+#include <chrono>
+#include <condition_variable>
+#include <iostream>
+#include <mutex>
+
+namespace {
+
+using namespace ravelo;
+using Clock = std::chrono::steady_clock;
+
+constexpr PictureShape tile{28, 28, 28};
+
+/// When each came.
+class Arrivals {
+public:
+    void add() {
+        const std::lock_guard lock(mutex_);
+        times_.push_back(Clock::now());
+        changed_.notify_one();
+    }
+
+    [[nodiscard]] std::vector<Clock::time_point> await(size_t count) {
+        std::unique_lock lock(mutex_);
+        changed_.wait(lock, [&] { return times_.size() >= count; });
+        return times_;
+    }
+
+private:
+    std::mutex mutex_;
+    std::condition_variable changed_;
+    std::vector<Clock::time_point> times_;
+};
+
+std::shared_ptr<ImageDecoder> decoder(const QString& where) {
+    if (where == u"here") {
+        return std::make_shared<InProcessDecoder>();
+    }
+    return std::make_shared<DecoderProcess>(RAVELO_DECODE);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    const QCoreApplication application(argc, argv);
+    const QFileInfoList files = QDir(application.arguments().value(2)).entryInfoList(QDir::Files);
+    const auto reader = decoder(application.arguments().value(1));
+    const auto arrivals = std::make_shared<Arrivals>();
+    SlowWork work;
+    const auto begun = Clock::now();
+    for (const QFileInfo& file : files) {
+        work.run([=, path = file.filePath()] {
+            if (reader->filling(PictureFile{QFile::encodeName(path)}, tile).isNull()) {
+                std::cerr << "no picture: " << qPrintable(path) << std::endl;
+                std::_Exit(EXIT_FAILURE);
+            }
+            arrivals->add();
+        });
+    }
+    const auto times = arrivals->await(static_cast<size_t>(files.size()));
+    const auto since = [begun](Clock::time_point then) {
+        return std::chrono::duration<double, std::milli>(then - begun).count();
+    };
+    std::cout << since(times.front()) << ' ' << since(times.back()) << std::endl;
+}

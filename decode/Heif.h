@@ -1,0 +1,17 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QSize>
+
+namespace ravelo::decode {
+
+inline constexpr qint64 maxHeifPixels = 50'000'000;
+
+/// What telephones write (HEIF, ISO/IEC 23008-12), upright. Empty if it cannot be read.
+[[nodiscard]] QSize heifSize(const QByteArray& bytes);
+
+/// The embedded thumbnail if it has `height`, or else all of the picture.
+[[nodiscard]] QImage heifImage(const QByteArray& bytes, int height);
+
+} // namespace ravelo::decode

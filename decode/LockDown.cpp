@@ -1,0 +1,116 @@
+#include "decode/LockDown.h"
+
+#include "decode/Protocol.h"
+
+#include <cerrno>
+#include <cstdint>
+#include <memory>
+
+#include <fcntl.h>
+#include <sched.h>
+#include <seccomp.h>
+#include <sys/mman.h>
+#include <sys/prctl.h>
+#include <sys/resource.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+
+namespace ravelo::decode {
+
+namespace {
+
+constexpr rlim_t maxMemory = rlim_t{1} << 30; ///< Address space, in bytes.
+constexpr rlim_t maxFiles = 64;
+constexpr rlim_t maxProcessorSeconds = 60; ///< In all its life.
+
+bool limit(__rlimit_resource resource, rlim_t value) {
+    const rlimit both{value, value};
+    return setrlimit(resource, &both) == 0;
+}
+
+bool limitResources() {
+#if defined(__SANITIZE_ADDRESS__)
+    const bool memory = true; // Its shadow is larger than any limit.
+#else
+    const bool memory = limit(RLIMIT_AS, maxMemory);
+#endif
+    return memory && limit(RLIMIT_CORE, 0) && limit(RLIMIT_NOFILE, maxFiles) &&
+           limit(RLIMIT_FSIZE, maxOutput) && limit(RLIMIT_CPU, maxProcessorSeconds);
+}
+
+/// As in <linux/landlock.h>, which may be older than the kernel.
+struct LandlockRules {
+    uint64_t files;
+    uint64_t net;
+    uint64_t scopes;
+};
+
+/// Everything that this kernel's Landlock can forbid; true also if it has none.
+bool restrictFiles() {
+    constexpr unsigned askVersion = 1;
+    const long version = syscall(SYS_landlock_create_ruleset, nullptr, 0, askVersion);
+    if (version < 1) {
+        return true;
+    }
+    const unsigned rights = version >= 5 ? 16 : version >= 3 ? 15 : version == 2 ? 14 : 13;
+    const LandlockRules all{(uint64_t{1} << rights) - 1, version >= 4 ? 3U : 0U,
+                            version >= 6 ? 3U : 0U};
+    const size_t known = version >= 6 ? sizeof(all) : version >= 4 ? 16 : 8;
+    const auto rules = static_cast<int>(syscall(SYS_landlock_create_ruleset, &all, known, 0));
+    return rules >= 0 && syscall(SYS_landlock_restrict_self, rules, 0) == 0 && close(rules) == 0;
+}
+
+// What a decoder calls. No thread can come to be but one of this process, no memory that can be
+// executed, and no message can be sent but over the sockets that are open.
+constexpr int allowed[] = {
+    // Pictures in and out.
+    SCMP_SYS(recvmsg), SCMP_SYS(sendmsg), SCMP_SYS(read), SCMP_SYS(pread64), SCMP_SYS(write),
+    SCMP_SYS(lseek), SCMP_SYS(close), SCMP_SYS(memfd_create), SCMP_SYS(ftruncate),
+    // Memory.
+    SCMP_SYS(brk), SCMP_SYS(munmap), SCMP_SYS(mremap), SCMP_SYS(madvise),
+    // Threads and what they wait for.
+    SCMP_SYS(futex), SCMP_SYS(set_robust_list), SCMP_SYS(rseq), SCMP_SYS(sched_yield),
+    SCMP_SYS(sched_getaffinity), SCMP_SYS(gettid), SCMP_SYS(getpid), SCMP_SYS(eventfd2),
+    SCMP_SYS(rt_sigprocmask), SCMP_SYS(rt_sigreturn), SCMP_SYS(restart_syscall), SCMP_SYS(exit),
+    SCMP_SYS(exit_group),
+    // Time and chance.
+    SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday), SCMP_SYS(setitimer), SCMP_SYS(getrandom)};
+
+bool addRules(scmp_filter_ctx filter) {
+    const auto allow = [filter](int call, auto... conditions) {
+        return seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, sizeof...(conditions),
+                                conditions...) == 0;
+    };
+    const scmp_arg_cmp notExecutable = SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0);
+    const scmp_arg_cmp thread = SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD);
+    const scmp_arg_cmp seals = SCMP_A1(SCMP_CMP_EQ, F_ADD_SEALS);
+    const scmp_arg_cmp name = SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME);
+    for (const int call : allowed) {
+        if (!allow(call)) {
+            return false;
+        }
+    }
+    return allow(SCMP_SYS(mmap), notExecutable) && allow(SCMP_SYS(mprotect), notExecutable) &&
+           allow(SCMP_SYS(clone), thread) && allow(SCMP_SYS(fcntl), seals) &&
+           allow(SCMP_SYS(prctl), name) &&
+           // Its flags are in memory, where no filter sees them: clone is used in its place.
+           seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0;
+}
+
+bool filterCalls() {
+    const std::unique_ptr<void, void (*)(scmp_filter_ctx)> filter(
+        seccomp_init(SCMP_ACT_KILL_PROCESS), seccomp_release);
+    return filter &&
+           seccomp_attr_set(filter.get(), SCMP_FLTATR_ACT_BADARCH, SCMP_ACT_KILL_PROCESS) == 0 &&
+           seccomp_attr_set(filter.get(), SCMP_FLTATR_CTL_TSYNC, 1) == 0 &&
+           addRules(filter.get()) && seccomp_load(filter.get()) == 0;
+}
+
+} // namespace
+
+bool lockDown() {
+    return prctl(PR_SET_DUMPABLE, 0) == 0 && prctl(PR_SET_NO_NEW_PRIVS, 1, 0, 0, 0) == 0 &&
+           limitResources() && restrictFiles() && filterCalls();
+}
+
+} // namespace ravelo::decode

@@ -1,0 +1,98 @@
+// Reads pictures that nobody vouches for and returns their pixels, and can do nothing else. Started
+// by Ravelo when there is a picture to read; ends by itself.
+
+#include "decode/Conversation.h"
+#include "decode/LockDown.h"
+#include "decode/Pictures.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <thread>
+
+#include <malloc.h>
+#include <sys/resource.h>
+#include <sys/socket.h>
+#include <sys/time.h>
+#include <unistd.h>
+
+namespace {
+
+using namespace ravelo::decode;
+
+constexpr double busyLife = 20; ///< Seconds of processor time; then a new process takes over.
+
+bool isCalledByRavelo() {
+    int type = 0;
+    socklen_t size = sizeof(type);
+    return getsockopt(socketNumber, SOL_SOCKET, SO_TYPE, &type, &size) == 0 &&
+           type == SOCK_SEQPACKET;
+}
+
+/// Nothing is open but the socket, and no terminal's end reaches this process.
+void detach() {
+    setsid();
+    closefrom(socketNumber + 1);
+    const timeval patience{idleSeconds, 0};
+    setsockopt(socketNumber, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof(patience));
+}
+
+/// Another thread's arena would look into /proc when it shrinks, and Qt's messages for a terminal.
+void avoidFiles() {
+    mallopt(M_ARENA_MAX, 1);
+    setenv("QT_NO_GLIB", "1", 1);
+    qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
+}
+
+/// Kills this process once the time is over; 0 is no limit.
+void limitTime(uint32_t milliseconds) {
+    const auto start = [](__itimer_which timer, uint32_t span) {
+        const itimerval once{
+            {0, 0},
+            {static_cast<time_t>(span / 1000), static_cast<suseconds_t>(span % 1000 * 1000)}};
+        setitimer(timer, &once, nullptr);
+    };
+    start(ITIMER_PROF, milliseconds);
+    start(ITIMER_REAL, milliseconds * realTimeFactor);
+}
+
+bool hasWorkedLong() {
+    return double(std::clock()) / CLOCKS_PER_SEC > busyLife;
+}
+
+/// Whether to go on.
+bool carryOut(const Order& order) {
+    limitTime(order.request.milliseconds);
+    const Picture picture = decodePicture(order.request, order.bytes);
+    Reply reply{picture.status, picture.size.width(), picture.size.height(),
+                hasWorkedLong() ? 1U : 0U, 0};
+    const QByteArrayView contents =
+        picture.image.isNull()
+            ? QByteArrayView(picture.png)
+            : QByteArrayView(picture.image.constBits(), picture.image.sizeInBytes());
+    const bool sent = send(reply, contents);
+    limitTime(0);
+    return sent && reply.last == 0;
+}
+
+} // namespace
+
+int main() {
+    if (!isCalledByRavelo()) {
+        std::fputs("ravelo-decode reads pictures for ravelo, which starts it.\n", stderr);
+        return EXIT_FAILURE;
+    }
+    detach();
+    avoidFiles();
+    loadFormats();
+    std::thread([] {}).join(); // The first one sets up signals for all others.
+    if (!lockDown()) {
+        _exit(EXIT_FAILURE);
+    }
+    if (!send({Status::ready, 0, 0, 0, 0}, {})) {
+        _exit(EXIT_FAILURE);
+    }
+    for (auto order = nextOrder(); order && carryOut(*order); order = nextOrder()) {
+    }
+    _exit(EXIT_SUCCESS);
+}

@@ -1,0 +1,68 @@
+#pragma once
+
+#include <QByteArray>
+#include <QImage>
+#include <QSize>
+
+#include <variant>
+
+namespace ravelo {
+
+struct PictureFile {
+    QByteArray path; ///< As the system has it: in any encoding.
+};
+
+/// A file's contents, or what was copied.
+using PictureBytes = QByteArray;
+
+/// Bytes that nobody vouches for.
+using UntrustedPicture = std::variant<PictureFile, PictureBytes>;
+
+/// Device pixels: a height, and the widths between which a picture may choose by its shape.
+struct PictureShape {
+    int height;
+    int minWidth;
+    int maxWidth;
+};
+
+/// What a picture is, by its beginning.
+struct PictureLook {
+    enum class Kind { none, good, tooManyPixels };
+
+    Kind kind = Kind::none;
+    QSize size = {}; ///< In pixels, upright.
+
+    [[nodiscard]] qint64 pixels() const { return qint64{size.width()} * size.height(); }
+};
+
+/// Reads pictures that others made, away from this process. They are PNG, JPEG, GIF, BMP, WebP,
+/// TIFF and HEIF, told by their contents; anything else, what is too large and what takes too long
+/// is no picture, and then what is returned is empty. Blocks, for seconds; any thread but the main
+/// one, and several at once.
+class ImageDecoder {
+public:
+    virtual ~ImageDecoder() = default;
+
+    /// The quickest: hardly more than the beginning is read.
+    [[nodiscard]] virtual PictureLook look(const UntrustedPicture& picture) = 0;
+
+    /// Empty if it is not a picture that can be read whole.
+    [[nodiscard]] QSize size(const UntrustedPicture& picture) {
+        const PictureLook seen = look(picture);
+        return seen.kind == PictureLook::Kind::good ? seen.size : QSize();
+    }
+
+    /// Fills the shape and is cropped around its middle.
+    [[nodiscard]] virtual QImage filling(const UntrustedPicture& picture, PictureShape shape) = 0;
+
+    /// An icon of the desktop's, which may also be an SVG; fits into a square of `size` pixels.
+    [[nodiscard]] virtual QImage icon(const PictureFile& file, int size) = 0;
+
+    /// All of it, encoded again as PNG.
+    [[nodiscard]] virtual QByteArray png(const UntrustedPicture& picture) = 0;
+
+    /// The file was deleted: nothing that was made of it is kept. Any thread.
+    virtual void forget(const PictureFile& file) = 0;
+};
+
+} // namespace ravelo

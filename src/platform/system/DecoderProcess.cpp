@@ -1,0 +1,216 @@
+#include "platform/system/DecoderProcess.h"
+
+#include <QFile>
+#include <QHash>
+
+#include <cstring>
+#include <utility>
+
+#include <fcntl.h>
+#include <sys/stat.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using namespace decode;
+
+/// Sooner than the process ends, or a request might cross with its end.
+constexpr std::chrono::seconds maxIdle(idleSeconds - 5);
+constexpr qsizetype maxBad = 1000;
+constexpr qsizetype maxKept = 256 * 1024; ///< Bytes of one picture.
+
+constexpr uint32_t probeTime = 500; ///< Milliseconds of a processor.
+constexpr uint32_t smallTime = 2500;
+constexpr uint32_t wholeTime = 5000;
+
+template <typename Value>
+QByteArray bytesOf(const Value& value) {
+    return {reinterpret_cast<const char*>(&value), sizeof(value)};
+}
+
+std::chrono::milliseconds patience(const Request& request) {
+    return std::chrono::milliseconds(request.milliseconds * realTimeFactor) +
+           std::chrono::seconds(1);
+}
+
+/// Whether the file still has a name.
+bool isThere(const Descriptor& file) {
+    struct stat info = {};
+    return fstat(file.number(), &info) == 0 && info.st_nlink > 0;
+}
+
+PictureLook lookAt(Status status, QSize size) {
+    switch (status) {
+    case Status::done:
+        return {PictureLook::Kind::good, size};
+    case Status::tooManyPixels:
+        return {PictureLook::Kind::tooManyPixels, size};
+    case Status::refused:
+    case Status::ready:
+        break;
+    }
+    return {};
+}
+
+/// Whether the answer is of the size that was asked for.
+bool fits(const Request& request, const DecoderConnection::Answer& answer) {
+    const Reply& reply = answer.reply;
+    const bool sized = request.kind == Kind::fill
+                           ? reply.height == request.height && reply.width >= request.minWidth
+                           : reply.height > 0 && reply.height <= request.height && reply.width > 0;
+    return reply.status == Status::done && sized && reply.width <= request.maxWidth &&
+           reply.bytes == int64_t{4} * reply.width * reply.height;
+}
+
+} // namespace
+
+/// An open picture, and by what it is known again.
+struct DecoderProcess::Source {
+    Descriptor descriptor;
+    QByteArray identity;
+
+    explicit Source(const PictureFile& file) {
+        Descriptor opened(
+            open(file.path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+        struct stat info = {};
+        // From a pipe or a device nothing may ever come.
+        if (opened && fstat(opened.number(), &info) == 0 && S_ISREG(info.st_mode) &&
+            info.st_size > 0 && info.st_size <= maxInput) {
+            descriptor = std::move(opened);
+            identity = bytesOf(info.st_dev) + bytesOf(info.st_ino) + bytesOf(info.st_size) +
+                       bytesOf(info.st_mtim);
+        }
+    }
+
+    explicit Source(const PictureBytes& bytes) {
+        if (!bytes.isEmpty() && bytes.size() <= maxInput) {
+            descriptor = sealedMemory(bytes);
+            identity = bytesOf(bytes.size()) + bytesOf(qHash(bytes));
+        }
+    }
+
+    static Source of(const UntrustedPicture& picture) {
+        return std::visit([](const auto& kind) { return Source(kind); }, picture);
+    }
+};
+
+PictureLook DecoderProcess::look(const UntrustedPicture& picture) {
+    const auto answer = ask(Source::of(picture), {Kind::probe, 0, 0, 0, probeTime});
+    if (!answer || answer->reply.width <= 0 || answer->reply.height <= 0) {
+        return {};
+    }
+    return lookAt(answer->reply.status, {answer->reply.width, answer->reply.height});
+}
+
+QImage DecoderProcess::filling(const UntrustedPicture& picture, PictureShape shape) {
+    return pixels(picture, {Kind::fill, shape.height, shape.minWidth, shape.maxWidth, smallTime});
+}
+
+QImage DecoderProcess::icon(const PictureFile& file, int size) {
+    return pixels(file, {Kind::icon, size, 1, size, smallTime});
+}
+
+QByteArray DecoderProcess::png(const UntrustedPicture& picture) {
+    auto answer = ask(Source::of(picture), {Kind::png, 0, 0, 0, wholeTime});
+    return answer && answer->reply.status == Status::done ? std::move(answer->contents)
+                                                          : QByteArray();
+}
+
+QImage DecoderProcess::pixels(const UntrustedPicture& picture, const Request& request) {
+    const Source source = Source::of(picture);
+    const QByteArray key = source.identity + bytesOf(request);
+    {
+        const std::lock_guard lock(mutex_);
+        if (const Kept* const kept = kept_.object(key)) {
+            return kept->image;
+        }
+    }
+    const auto answer = ask(source, request);
+    if (!answer || !fits(request, *answer)) {
+        return {};
+    }
+    QImage image(answer->reply.width, answer->reply.height, QImage::Format_ARGB32_Premultiplied);
+    std::memcpy(image.bits(), answer->contents.constData(),
+                static_cast<size_t>(answer->contents.size()));
+    const auto* const file = std::get_if<PictureFile>(&picture);
+    if (file != nullptr && image.sizeInBytes() <= maxKept) {
+        const std::lock_guard lock(mutex_);
+        if (isThere(source.descriptor)) { // Else `forget` may have been called already.
+            kept_.insert(key, new Kept{image, file->path}, image.sizeInBytes());
+        }
+    }
+    return image;
+}
+
+void DecoderProcess::forget(const PictureFile& file) {
+    const std::lock_guard lock(mutex_);
+    const QList<QByteArray> keys = kept_.keys();
+    for (const QByteArray& key : keys) {
+        if (kept_.object(key)->path == file.path) {
+            kept_.remove(key);
+        }
+    }
+}
+
+std::optional<DecoderConnection::Answer> DecoderProcess::ask(const Source& source,
+                                                             const Request& request) {
+    {
+        const std::lock_guard lock(mutex_);
+        if (!source.descriptor || bad_.contains(source.identity)) {
+            return std::nullopt;
+        }
+    }
+    auto connection = sent(source, request);
+    if (!connection || !connection->isReady()) {
+        return std::nullopt; // The picture is not to blame.
+    }
+    auto answer = connection->receive(patience(request));
+    if (!answer) {
+        giveUp(source.identity);
+    } else if (answer->reply.last == 0) {
+        keep(std::move(*connection));
+    }
+    return answer;
+}
+
+/// To a process that is still there, or to a new one.
+std::optional<DecoderConnection> DecoderProcess::sent(const Source& source,
+                                                      const Request& request) {
+    for (auto old = idleConnection(); old; old = idleConnection()) {
+        if (old->send(request, source.descriptor)) {
+            return old;
+        }
+    }
+    auto connection = DecoderConnection::start(program_);
+    return connection && connection->send(request, source.descriptor) ? std::move(connection)
+                                                                      : std::nullopt;
+}
+
+std::optional<DecoderConnection> DecoderProcess::idleConnection() {
+    const std::lock_guard lock(mutex_);
+    std::erase_if(idle_, [](const Idle& one) { return Clock::now() - one.since > maxIdle; });
+    if (idle_.empty()) {
+        return std::nullopt;
+    }
+    DecoderConnection newest = std::move(idle_.back().connection);
+    idle_.pop_back();
+    return newest;
+}
+
+void DecoderProcess::keep(DecoderConnection connection) {
+    const std::lock_guard lock(mutex_);
+    idle_.push_back({std::move(connection), Clock::now()});
+}
+
+void DecoderProcess::giveUp(const QByteArray& identity) {
+    const std::lock_guard lock(mutex_);
+    if (bad_.size() >= maxBad) {
+        bad_.clear();
+    }
+    bad_.insert(identity);
+}
+
+} // namespace ravelo

@@ -1,0 +1,93 @@
+#include "Samples.h"
+#include "platform/system/DecoderProcess.h"
+
+#include <QFile>
+
+#include <gtest/gtest.h>
+
+#include <atomic>
+#include <thread>
+
+#include <malloc.h>
+#include <unistd.h>
+
+namespace ravelo {
+
+namespace {
+
+constexpr quint32 count = 1000;
+
+qint64 residentBytes() {
+    QFile file(QStringLiteral("/proc/self/statm"));
+    EXPECT_TRUE(file.open(QFile::ReadOnly));
+    return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
+}
+
+void readAll(ImageDecoder& decoder, const QByteArray& picture) {
+    (void)decoder.size(picture);
+    (void)decoder.filling(picture, {28, 28, 40});
+    (void)decoder.png(picture);
+}
+
+/// Does `work` elsewhere, and returns the longest time that this thread then waits for its turn.
+template <typename Work>
+std::chrono::milliseconds longestPause(Work work) {
+    std::atomic<bool> done = false;
+    std::thread worker([&] {
+        work();
+        done = true;
+    });
+    auto longest = std::chrono::steady_clock::duration::zero();
+    for (auto last = std::chrono::steady_clock::now(); !done;) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1));
+        const auto now = std::chrono::steady_clock::now();
+        longest = std::max(longest, now - std::exchange(last, now));
+    }
+    worker.join();
+    return std::chrono::duration_cast<std::chrono::milliseconds>(longest);
+}
+
+void expectNothingMoved(DecoderProcess& decoder, const std::function<void()>& work) {
+    readAll(decoder, samples::picture("png"));
+    malloc_trim(0);
+    const qint64 before = residentBytes();
+    const auto pause = longestPause(work);
+    malloc_trim(0);
+    const qint64 grown = residentBytes() - before;
+    testing::Test::RecordProperty("pause", static_cast<int>(pause.count()));
+    testing::Test::RecordProperty("grown", static_cast<int>(grown / 1024));
+    EXPECT_LT(grown, 8 << 20) << "the pictures were read here";
+    EXPECT_LT(pause, std::chrono::seconds(1)) << "this thread had to wait";
+    EXPECT_EQ(decoder.size(samples::picture("bmp")), QSize(64, 32)) << "nothing is read any more";
+}
+
+class BrokenPictures : public testing::TestWithParam<const char*> {};
+
+TEST_P(BrokenPictures, CostNothingButThemselves) {
+    DecoderProcess decoder(RAVELO_DECODE);
+    const QByteArray whole = samples::picture(GetParam());
+    expectNothingMoved(decoder, [&] {
+        for (quint32 seed = 0; seed < count; ++seed) {
+            readAll(decoder, samples::broken(whole, seed));
+        }
+    });
+}
+
+INSTANTIATE_TEST_SUITE_P(Thousand, BrokenPictures, testing::ValuesIn(samples::formats));
+
+TEST(Bombs, AreRefusedOrMadeSmall) {
+    DecoderProcess decoder(RAVELO_DECODE);
+    const QList<samples::Bomb> bombs = samples::bombs();
+    expectNothingMoved(decoder, [&] {
+        for (const samples::Bomb& bomb : bombs) {
+            readAll(decoder, bomb.bytes);
+        }
+    });
+    for (const samples::Bomb& bomb : bombs.first(3)) {
+        EXPECT_EQ(decoder.size(bomb.bytes), QSize()) << bomb.name;
+    }
+}
+
+} // namespace
+
+} // namespace ravelo

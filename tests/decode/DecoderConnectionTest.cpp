@@ -1,0 +1,115 @@
+// What comes from a decoder that has been taken over.
+
+#include "platform/system/DecoderConnection.h"
+
+#include <QBuffer>
+#include <QImage>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstring>
+
+#include <fcntl.h>
+#include <sys/mman.h>
+#include <sys/socket.h>
+
+namespace ravelo {
+
+namespace {
+
+using namespace decode;
+
+constexpr std::chrono::milliseconds patience(200);
+
+class Liar : public testing::Test {
+protected:
+    Liar() {
+        std::array<int, 2> ends{};
+        EXPECT_EQ(socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()), 0);
+        theirs = Descriptor(ends[0]);
+        ours = std::make_unique<DecoderConnection>(Descriptor(ends[1]));
+    }
+
+    template <typename Packet>
+    void say(Packet packet, const Descriptor& memory) {
+        std::array<char, CMSG_SPACE(sizeof(int))> room{};
+        iovec part{&packet, sizeof(packet)};
+        msghdr message{};
+        message.msg_iov = &part;
+        message.msg_iovlen = 1;
+        if (memory) {
+            message.msg_control = room.data();
+            message.msg_controllen = room.size();
+            cmsghdr* const header = CMSG_FIRSTHDR(&message);
+            header->cmsg_level = SOL_SOCKET;
+            header->cmsg_type = SCM_RIGHTS;
+            header->cmsg_len = CMSG_LEN(sizeof(int));
+            const int number = memory.number();
+            std::memcpy(CMSG_DATA(header), &number, sizeof(number));
+        }
+        ASSERT_EQ(sendmsg(theirs.number(), &message, 0), sizeof(packet));
+    }
+
+    Descriptor theirs;
+    std::unique_ptr<DecoderConnection> ours;
+};
+
+constexpr Reply sixteen{Status::done, 2, 2, 0, 16};
+
+TEST_F(Liar, IsBelievedWhatHolds) {
+    say(sixteen, sealedMemory("0123456789abcdef"));
+    const auto answer = ours->receive(patience);
+    ASSERT_TRUE(answer);
+    EXPECT_EQ(answer->contents, "0123456789abcdef");
+}
+
+TEST_F(Liar, IsNotBelievedWhatItCanStillChange) {
+    const Descriptor open(memfd_create("open", MFD_CLOEXEC | MFD_ALLOW_SEALING));
+    ASSERT_EQ(write(open.number(), "0123456789abcdef", 16), 16);
+    say(sixteen, open);
+    EXPECT_FALSE(ours->receive(patience)) << "memory that is not sealed";
+    ASSERT_EQ(fcntl(open.number(), F_ADD_SEALS, F_SEAL_WRITE | F_SEAL_GROW), 0);
+    say(sixteen, open);
+    EXPECT_FALSE(ours->receive(patience)) << "memory that can still be made smaller";
+}
+
+TEST_F(Liar, IsNotBelievedASizeThatIsNotThere) {
+    say(sixteen, sealedMemory("0123456789abcde"));
+    EXPECT_FALSE(ours->receive(patience)) << "less than it says";
+    say(sixteen, sealedMemory("0123456789abcdefg"));
+    EXPECT_FALSE(ours->receive(patience)) << "more than it says";
+    say(sixteen, Descriptor());
+    EXPECT_FALSE(ours->receive(patience)) << "nothing at all";
+    Reply negative = sixteen;
+    negative.bytes = -16;
+    say(negative, sealedMemory("0123456789abcdef"));
+    EXPECT_FALSE(ours->receive(patience)) << "less than nothing";
+    say(sixteen, Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC)));
+    EXPECT_FALSE(ours->receive(patience)) << "a device";
+}
+
+TEST_F(Liar, IsNotBelievedAPacketOfAnotherSize) {
+    say('x', Descriptor());
+    EXPECT_FALSE(ours->receive(patience)) << "too short";
+    say(std::array<Reply, 2>{Reply{Status::done, 1, 1, 0, 0}, {}}, Descriptor());
+    EXPECT_FALSE(ours->receive(patience)) << "too long";
+    EXPECT_FALSE(ours->receive(std::chrono::milliseconds(1))) << "silence";
+}
+
+TEST(Decoder, IsKilledWhenItsTimeIsOver) {
+    auto decoder = DecoderConnection::start(RAVELO_DECODE);
+    ASSERT_TRUE(decoder && decoder->isReady());
+    QImage image(4000, 4000, QImage::Format_RGB32);
+    image.fill(Qt::green);
+    QBuffer file;
+    ASSERT_TRUE(image.save(&file, "bmp"));
+    const Descriptor large = sealedMemory(file.data());
+    ASSERT_TRUE(decoder->send({Kind::png, 0, 0, 0, 20}, large));
+    EXPECT_FALSE(decoder->receive(std::chrono::seconds(20))) << "it took as long as it liked";
+    EXPECT_FALSE(decoder->send({Kind::probe, 0, 0, 0, 0}, large)) << "it is still there";
+}
+
+} // namespace
+
+} // namespace ravelo

@@ -1,0 +1,154 @@
+#include "platform/system/DecoderProcess.h"
+#include "Samples.h"
+#include "support/Eventually.h"
+
+#include <QDir>
+#include <QFile>
+#include <QFileInfo>
+#include <QTemporaryDir>
+
+#include <gtest/gtest.h>
+
+#include <csignal>
+
+#include <unistd.h>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QByteArray contentsOf(const QString& path) {
+    QFile file(path);
+    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
+}
+
+/// The processes that this one has started and that have not ended.
+QStringList children() {
+    QStringList found;
+    for (const QString& process : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
+        const QByteArray stat = contentsOf(u"/proc/"_s + process + u"/stat"_s);
+        const QByteArrayList fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
+        if (fields.value(1).toInt() == getpid() && fields.value(0) != "Z") {
+            found.append(process);
+        }
+    }
+    return found;
+}
+
+/// A decoder whose starts are counted.
+class CountedDecoder : public testing::Test {
+protected:
+    CountedDecoder() {
+        QFile script(folder.filePath(u"start"_s));
+        EXPECT_TRUE(script.open(QFile::WriteOnly));
+        script.write("#!/bin/sh\necho >>\"${0}ed\"\nexec " RAVELO_DECODE "\n");
+        script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        script.close();
+        decoder = std::make_unique<DecoderProcess>(QFile::encodeName(script.fileName()));
+    }
+
+    [[nodiscard]] qsizetype starts() const {
+        return contentsOf(folder.filePath(u"started"_s)).size();
+    }
+
+    [[nodiscard]] PictureFile write(const char* name, const QByteArray& bytes) const {
+        QFile file(folder.filePath(QString::fromLatin1(name)));
+        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
+        return {QFile::encodeName(file.fileName())};
+    }
+
+    QTemporaryDir folder;
+    std::unique_ptr<DecoderProcess> decoder;
+};
+
+/// There is no font without an application: it ends by abort(3).
+constexpr auto deadly = R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9">)"
+                        R"(<text x="1" y="8">A</text></svg>)";
+
+TEST_F(CountedDecoder, ServesManyAndKeepsWhatIsSmall) {
+    const PictureFile file = write("a.png", samples::picture("png"));
+    EXPECT_EQ(starts(), 0) << "started without need";
+    EXPECT_EQ(decoder->size(samples::picture("bmp")), QSize(64, 32));
+    EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8));
+    EXPECT_EQ(decoder->filling(file, {8, 8, 9}).size(), QSize(9, 8));
+    EXPECT_EQ(starts(), 1) << "a process for each picture";
+    QFile::remove(folder.filePath(u"start"_s));
+    decoder = std::make_unique<DecoderProcess>(RAVELO_DECODE);
+    EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8));
+    ASSERT_EQ(children().size(), 1);
+    kill(children().first().toInt(), SIGKILL);
+    EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8)) << "it is not kept";
+    EXPECT_TRUE(eventually([] { return children().isEmpty(); }));
+    EXPECT_EQ(decoder->filling(file, {9, 9, 9}).size(), QSize(9, 9)) << "no new process came";
+}
+
+TEST_F(CountedDecoder, ForgetsOneFileOnly) {
+    const PictureFile deleted = write("a.png", samples::picture("png"));
+    const PictureFile other = write("b.png", samples::picture("png"));
+    (void)decoder->filling(deleted, {8, 8, 8});
+    (void)decoder->filling(other, {8, 8, 8});
+    ASSERT_EQ(children().size(), 1);
+    kill(children().first().toInt(), SIGKILL);
+    ASSERT_TRUE(eventually([] { return children().isEmpty(); }));
+    decoder->forget(deleted);
+    EXPECT_EQ(decoder->filling(other, {8, 8, 8}).size(), QSize(8, 8));
+    EXPECT_EQ(starts(), 1) << "the other one is forgotten, too";
+    EXPECT_EQ(decoder->filling(deleted, {8, 8, 8}).size(), QSize(8, 8));
+    EXPECT_EQ(starts(), 2) << "it is still kept";
+}
+
+TEST_F(CountedDecoder, TriesOnceWhatKillsIt) {
+    const PictureFile file = write("deadly.svg", deadly);
+    EXPECT_TRUE(decoder->icon(file, 9).isNull());
+    EXPECT_EQ(starts(), 1);
+    EXPECT_TRUE(decoder->icon(file, 9).isNull());
+    EXPECT_EQ(decoder->size(file), QSize());
+    EXPECT_EQ(starts(), 1) << "it was tried again";
+    EXPECT_EQ(decoder->size(samples::picture("png")), QSize(64, 32)) << "others suffer from it";
+    EXPECT_EQ(starts(), 2);
+    const PictureFile mended = write("deadly.svg", QByteArray(deadly).replace("text", "path"));
+    EXPECT_EQ(decoder->icon(mended, 9).size(), QSize(9, 9)) << "a file that has changed";
+}
+
+TEST_F(CountedDecoder, CostsAPictureOnlyIfThereIsNone) {
+    QFile::remove(folder.filePath(u"start"_s));
+    const PictureFile file = write("a.png", samples::picture("png"));
+    EXPECT_EQ(decoder->size(file), QSize());
+    ASSERT_TRUE(QFile::link(QString::fromLatin1(RAVELO_DECODE), folder.filePath(u"start"_s)));
+    EXPECT_EQ(decoder->size(file), QSize(64, 32)) << "the picture is blamed";
+}
+
+TEST(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
+    auto decoder = std::make_unique<DecoderProcess>(RAVELO_DECODE);
+    ASSERT_EQ(decoder->size(samples::picture("png")), QSize(64, 32));
+    ASSERT_EQ(children().size(), 1);
+    const QString process = u"/proc/"_s + children().first();
+    const QByteArray status = contentsOf(process + u"/status"_s);
+    EXPECT_TRUE(status.contains("Seccomp:\t2")) << "no filter of system calls";
+    EXPECT_TRUE(status.contains("NoNewPrivs:\t1"));
+    if (geteuid() == 0) { // Nobody else may look into a process that is not dumpable.
+        EXPECT_EQ(QDir(process + u"/fd"_s)
+                      .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System),
+                  (QStringList{u"0"_s, u"1"_s, u"2"_s, u"3"_s}));
+        EXPECT_EQ(contentsOf(process + u"/environ"_s), "") << "it knows the environment";
+    }
+    decoder.reset();
+    EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it stays";
+}
+
+TEST(DecoderProcessLife, EndsWithoutWork) {
+    const auto decoder = std::make_unique<DecoderProcess>(RAVELO_DECODE);
+    ASSERT_EQ(decoder->size(samples::picture("png")), QSize(64, 32));
+    EXPECT_EQ(children().size(), 1);
+    const auto gone = [] {
+        return children().isEmpty();
+    };
+    EXPECT_TRUE(eventually(gone) || eventually(gone)) << "it stays"; // 20 s are its own time.
+    EXPECT_EQ(decoder->size(samples::picture("png")), QSize(64, 32)) << "none came in its place";
+}
+
+} // namespace
+
+} // namespace ravelo

@@ -1,0 +1,32 @@
+#pragma once
+
+#include <QByteArray>
+#include <QList>
+#include <QSize>
+
+#include <array>
+
+namespace ravelo::samples {
+
+inline constexpr std::array formats{"png", "jpeg", "gif", "bmp", "webp", "tiff", "heif"};
+
+inline constexpr QSize size(64, 32);
+
+/// A valid picture of the format, of that size and all green.
+[[nodiscard]] QByteArray picture(const QByteArray& format);
+
+/// A PNG of this size that is all one colour: hardly any bytes.
+[[nodiscard]] QByteArray emptyPng(QSize pixels);
+
+/// The picture with its bytes cut off, flipped, overwritten, or with huge numbers in it.
+[[nodiscard]] QByteArray broken(const QByteArray& picture, quint32 seed);
+
+/// Valid or nearly so, and made to take all there is of something, or to be taken for another kind.
+struct Bomb {
+    const char* name;
+    QByteArray bytes;
+};
+
+[[nodiscard]] QList<Bomb> bombs();
+
+} // namespace ravelo::samples
