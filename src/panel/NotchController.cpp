@@ -133,7 +133,7 @@ void NotchController::openForFiles() {
 }
 
 bool NotchController::onDragEnter() {
-    dragOver_ = mayCarryFiles(); // Of one that is refused no leaving is reported.
+    dragOver_ = drop_.enter() != Carries::nothing; // If refused, no leaving is reported.
     lookAtDrag();
     return dragOver_;
 }

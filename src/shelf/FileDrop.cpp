@@ -12,9 +12,18 @@ namespace ravelo {
 FileDrop::FileDrop(DragMonitor& drags, FileTransfer& transfers)
     : drags_(drags), transfers_(transfers), answers_(drags.onChange([this] { look(); })) {}
 
+Carries FileDrop::enter() {
+    (void)drags_.files(); // So that it is asked.
+    (void)drags_.transferKey();
+    over_ = drags_.answers();
+    return carries();
+}
+
 Carries FileDrop::carries() {
-    const auto files = drags_.files();
-    const auto key = drags_.transferKey();
+    if (!over_) {
+        return enter();
+    }
+    const auto& [files, key] = *over_;
     if ((files && !files->isEmpty()) || (key && !key->isEmpty())) {
         return Carries::files;
     }
@@ -22,9 +31,9 @@ Carries FileDrop::carries() {
 }
 
 void FileDrop::take(Done done) {
-    (void)carries(); // So that it is asked.
+    (void)carries(); // Also if no drag was reported to enter.
     Drop& drop = drops_.emplace_back();
-    drop.answers = drags_.answers();
+    drop.answers = std::exchange(over_, nullptr);
     drop.loading = loadToShelf({[&drop](auto answer) {
                                    drop.answer = std::move(answer);
                                }},

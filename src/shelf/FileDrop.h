@@ -26,11 +26,14 @@ public:
 
     FileDrop(DragMonitor& drags, FileTransfer& transfers);
 
-    /// Of the newest drag. The first call asks its source, so that the answer is there at the drop.
+    /// The newest drag is over our window: asks its source, so that the answer is there at the
+    /// drop. The rest is about this drag, even if the next one begins before its drop is handled.
+    Carries enter();
+
     [[nodiscard]] Carries carries();
 
-    /// The newest drag was dropped on us: hands its files to `done` once they are there, now or
-    /// later; never an empty list.
+    /// The drag was dropped on us: hands its files to `done` once they are there, now or later;
+    /// never an empty list.
     void take(Done done);
 
 private:
@@ -48,6 +51,7 @@ private:
 
     DragMonitor& drags_;
     FileTransfer& transfers_;
+    std::shared_ptr<const DragAnswers> over_; ///< Of the drag that entered last.
     std::list<Drop> drops_;
     Handle answers_;
 };

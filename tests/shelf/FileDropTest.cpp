@@ -143,5 +143,14 @@ TEST_F(Drops, followEachOther) {
     EXPECT_EQ(given_.size(), 3) << "files that were never dropped here";
 }
 
+TEST_F(Drops, keepTheirFilesIfTheNextDragIsNoticedFirst) {
+    drags_.begin(true);
+    (void)drop_.enter();
+    drags_.begin(false);
+    EXPECT_EQ(drop_.carries(), Carries::files);
+    drop();
+    EXPECT_EQ(given_, QList<Files>{{named}});
+}
+
 } // namespace
 } // namespace ravelo
