@@ -106,16 +106,16 @@ TEST_F(FileLooks, ManyFoldersTakeFewThreads) {
 }
 
 TEST_F(FileLooks, ManyFoldersOnADeadMountStopNoLaterLook) {
-    QList<QUrl> dead;
+    QList<QUrl> hung;
     for (char name = 'a'; name <= 'z'; ++name) {
-        dead.append(fileUrl(QByteArray("/dead/nas/") + name + "/file"));
+        hung.append(fileUrl(QByteArray("/hung/nas/") + name + "/file"));
     }
-    look(dead);
+    look(hung);
     scheduler_.advance(Seconds(2));
     ASSERT_EQ(jobs_.count(), 6) << "all hang now";
     for (int healthy = 6; healthy < 20; ++healthy) {
         const QUrl file = fileUrl("/no" + QByteArray::number(healthy) + "/file");
-        look(dead + QList<QUrl>{file});
+        look(hung + QList<QUrl>{file});
         ASSERT_EQ(jobs_.count(), healthy + 1) << "only the healthy folder is asked";
         jobs_.finish(healthy);
         ASSERT_TRUE(found_);
