@@ -10,6 +10,7 @@
 #include <QDBusConnectionInterface>
 #include <QDBusMetaType>
 
+#include <algorithm>
 #include <ostream>
 
 #include <unistd.h>
@@ -41,7 +42,7 @@ QByteArrayList readEnvironment(uint process) {
     EXPECT_TRUE(file.open(QIODevice::ReadOnly));
     QByteArrayList variables = file.readAll().split('\0');
     variables.removeLast();
-    variables.sort();
+    std::ranges::sort(variables);
     return variables;
 }
 
