@@ -77,14 +77,14 @@ TEST_P(SecretServiceTest, isAskedForWhatIsNotLocked) {
     SecretService secrets(ours_,
                           std::chrono::milliseconds(GetParam().hangsAt.isEmpty() ? 20000 : 200));
     int answers = 0;
-    std::optional<QByteArray> secret;
+    std::optional<Secret> secret;
     const Handle search = secrets.find(u"a name"_s, [&](const std::optional<Secret>& found) {
         ++answers;
-        secret = found ? std::optional(found->bytes()) : std::nullopt;
+        secret = found;
     });
     ASSERT_TRUE(
         eventually([&] { return answers > 0 && asked_.size() >= GetParam().asked.size(); }));
-    EXPECT_EQ(secret, GetParam().secret);
+    EXPECT_EQ(secret ? std::optional(secret->bytes()) : std::nullopt, GetParam().secret);
     EXPECT_EQ(asked_, GetParam().asked);
     EXPECT_EQ(answers, 1);
 }
