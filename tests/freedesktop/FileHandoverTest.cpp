@@ -7,9 +7,13 @@
 #include "platform/freedesktop/FileTransferPortal.h"
 #include "platform/freedesktop/KdeConnect.h"
 
+#include <QDBusConnectionInterface>
 #include <QDBusMetaType>
 
+#include <algorithm>
 #include <ostream>
+
+#include <unistd.h>
 
 namespace ravelo {
 
@@ -31,6 +35,15 @@ FileTransferPortal portalOn(const QString& address) {
     environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, address);
     environment.insert(u"DBUS_VERBOSE"_s, u"1"_s);
     return {u"" RAVELO_PORTAL ""_s, environment};
+}
+
+QByteArrayList readEnvironment(uint process) {
+    QFile file(u"/proc/%1/environ"_s.arg(process));
+    EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+    QByteArrayList variables = file.readAll().split('\0');
+    variables.removeLast();
+    std::ranges::sort(variables);
+    return variables;
 }
 
 class FileHandover : public testing::Test {
@@ -68,7 +81,11 @@ protected:
     std::optional<QVariant> answer_; ///< To every call; nothing hangs.
     QStringList calls_;
     QVariantList arguments_; ///< Of the last call.
+    uint caller_ = 0;        ///< Process number, likewise.
+    QByteArrayList callersEnvironment_;
     StandIn standIn_{[this](const QDBusMessage& call) {
+        caller_ = service_.interface()->servicePid(call.service());
+        callersEnvironment_ = readEnvironment(caller_);
         calls_.append(described(call));
         arguments_ = call.arguments();
         return answer_;
@@ -129,6 +146,10 @@ TEST_F(FileHandover, aKeyGivesFilesOnce) {
     EXPECT_EQ(calls_, QStringList{u"/org/freedesktop/portal/documents "
                                   "org.freedesktop.portal.FileTransfer.RetrieveFiles(sa{sv})"_s});
     EXPECT_EQ(arguments_.value(0), QVariant(u"key ä"_s));
+    EXPECT_NE(caller_, static_cast<uint>(getpid())) << "the portal may not look at us";
+    EXPECT_EQ(
+        callersEnvironment_,
+        (QByteArrayList{"DBUS_SESSION_BUS_ADDRESS=" + bus_.address().toUtf8(), "LC_ALL=C.UTF-8"}));
     answer_ = QVariant(u"what"_s);
     EXPECT_EQ(retrieve("key"), QList<QUrl>());
 }
