@@ -144,8 +144,8 @@ TEST_F(StoreClips, DeletingAndClearingTakeTheirFilesAlong) {
     EXPECT_EQ(texts(), "red");
     EXPECT_EQ(imageFiles(), QStringList(pinned.imageFileName));
     EXPECT_EQ(decoder_->forgotten.size(), 2) << "kept pictures of what was deleted";
-    EXPECT_FALSE(decoder_->forgotten.contains(
-        QFile::encodeName(store_->imagePath(pinned.imageFileName))));
+    EXPECT_FALSE(
+        decoder_->forgotten.contains(QFile::encodeName(store_->imagePath(pinned.imageFileName))));
 }
 
 TEST_F(StoreClips, ClearingTakesWhatIsOnItsWay) {

@@ -13,7 +13,7 @@
 namespace ravelo::x11 {
 
 /// The session's clipboard manager as long as nobody else is (freedesktop's clipboard-manager
-/// specification, ICCCM 2.8): a program that is about to end asks the owner of CLIPBOARD_MANAGER
+/// protocol, ICCCM 2.8): a program that is about to end asks the owner of CLIPBOARD_MANAGER
 /// for SAVE_TARGETS and waits for the answer. Whoever wants the role gets it; we have it again once
 /// its owner has given it up or ended.
 ///
