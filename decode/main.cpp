@@ -1,4 +1,4 @@
-// Reads pictures that nobody vouches for and returns their pixels, and can do nothing else. Started
+// Reads untrusted pictures and returns their pixels, and can do nothing else. Started
 // by Ravelo when there is a picture to read; ends by itself.
 
 #include "decode/Conversation.h"

@@ -32,7 +32,7 @@ public:
     /// Whether we may write at this moment; an error says why not. Any thread.
     using Permission = std::function<Result<void>()>;
 
-    /// No permission is needed if there is nobody to ask.
+    /// Without a permission every write is allowed.
     OwnFile(QString path, Contents contents, Permission permission)
         : path_(std::move(path)), contents_(contents), permission_(std::move(permission)) {}
 

@@ -16,7 +16,7 @@ class Secret {
 public:
     Secret() = default;
 
-    /// Takes over the buffer. If somebody else holds it too, it copies, and theirs is not erased.
+    /// Takes over the buffer. If it is shared, it copies, and the other copy is not erased.
     explicit Secret(QByteArray bytes) : buffer_(std::make_shared<const Buffer>(std::move(bytes))) {}
 
     [[nodiscard]] QByteArray bytes() const { return buffer_ ? buffer_->bytes : QByteArray(); }
