@@ -22,7 +22,7 @@ struct Transcript {
 /// Finds the newest of the transcripts (".jsonl") one folder below `root`. Remembers the newest of
 /// each folder and lists only folders that have changed. One thread, whichever; blocks on the disk.
 ///
-/// Folders whose changes nobody reports are listed again and again, but the more there is to list
+/// Folders that cannot be watched are listed again and again, but the more there is to list
 /// the more looks are left out in between. The newest transcript itself is looked at every time.
 class Transcripts {
 public:
@@ -41,7 +41,7 @@ private:
         std::vector<Transcript> newest; ///< Newest first.
         bool isLink = false; ///< It may come to stand for another folder, which nobody would tell.
         bool listed = false;
-        bool known = false; ///< Listed, and what changes is told.
+        bool known = false; ///< Listed, and its changes are reported.
     };
 
     /// Of a file system's objects, whatever they are called at the moment.
@@ -62,7 +62,7 @@ private:
     std::optional<Identity> rootIdentity_;
     bool rootListed_ = false;
     bool rootKnown_ = false;
-    int leaveOut_ = 0;  ///< So many looks do without the folders whose changes nobody reports.
+    int leaveOut_ = 0;  ///< Looks that still skip the folders that cannot be watched.
     int unwatched_ = 0; ///< Entries of such folders that were listed in this look.
     std::map<QByteArray, Folder> folders_;
 };

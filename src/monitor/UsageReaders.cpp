@@ -78,7 +78,7 @@ QByteArrayView stringAt(QByteArrayView json, qsizetype start) {
 }
 
 /// Credentials without the contents of any string but the names: Qt's parser would leave copies in
-/// memory that nobody erases.
+/// memory that is never erased.
 struct Redacted {
     QByteArray json;               ///< Instead of each string its number below.
     QList<QByteArrayView> strings; ///< As in the original.

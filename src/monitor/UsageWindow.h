@@ -16,7 +16,7 @@ struct UsageWindow {
     friend bool operator==(const UsageWindow&, const UsageWindow&) = default;
 };
 
-/// Whether the window has started anew since, which makes its percents those of the past.
+/// Whether the window has been reset since, so that its percentage is out of date.
 [[nodiscard]] bool resetHasPassed(const std::optional<UsageWindow>& window, Date now);
 
 /// Both windows of the plan, each where it is known.

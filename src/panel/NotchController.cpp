@@ -313,7 +313,7 @@ bool NotchController::isLocked() const {
     return std::ranges::any_of(services_.locks, &SessionLock::isLocked);
 }
 
-/// Whoever holds pointer and keyboard may be a locker that reports to nobody; the source of a drag
+/// A client that holds pointer and keyboard may be an unknown locker; the source of a drag
 /// may hold both too.
 bool NotchController::isInputHeld(const PointerState& pointer) {
     return services_.inputGrab.isHeldByAnother() && !filesOver_ &&

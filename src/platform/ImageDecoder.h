@@ -15,7 +15,7 @@ struct PictureFile {
 /// A file's contents, or what was copied.
 using PictureBytes = QByteArray;
 
-/// Bytes that nobody vouches for.
+/// Untrusted bytes.
 using UntrustedPicture = std::variant<PictureFile, PictureBytes>;
 
 /// Device pixels: a height, and the widths between which a picture may choose by its shape.
