@@ -27,6 +27,11 @@ constexpr Seconds closeDelay{0.35};
 constexpr Seconds grabPatience{0.4};
 constexpr Seconds grabInterval{0.04};
 
+/// A locker takes the input right after its window, and must not show the panel for 50 ms.
+constexpr Seconds takenPatience{0.03};
+constexpr Seconds takenInterval{0.01};
+constexpr Seconds hiddenWhenTaken{1};
+
 } // namespace
 
 NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppSettings& settings,
@@ -50,6 +55,8 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
     for (SessionLock* const lock : services_.locks) {
         lockMonitors_.push_back(lock->onChange([this] { lockChanged(); }));
     }
+    inputMonitor_ = services_.inputGrab.onLikelyTaken(
+        [this] { hideIfInputIsTakenBefore(services_.scheduler.uptime() + takenPatience); });
     lockChanged();
     HotKeyCenter::shared().release();
     store_.onTimerChange = [this] {
@@ -320,13 +327,32 @@ bool NotchController::isInputHeld(const PointerState& pointer) {
            !(isDragOn(pointer) && !services_.drags.files().value_or(QList<QUrl>()).isEmpty());
 }
 
+/// A locker shows its window first and takes the input a few milliseconds later.
+void NotchController::hideIfInputIsTakenBefore(Seconds end) {
+    takenWork_.reset();
+    if (!isOpen_) {
+        return;
+    }
+    if (isInputHeld(look())) {
+        hide();
+        takenWork_ = services_.scheduler.after(hiddenWhenTaken, [this] { lockChanged(); });
+    } else if (services_.scheduler.uptime() < end) {
+        takenWork_ = services_.scheduler.after(takenInterval,
+                                              [this, end] { hideIfInputIsTakenBefore(end); });
+    }
+}
+
+void NotchController::hide() {
+    guard_.follow(std::nullopt);
+    openWork_.reset();
+    services_.window.returnFocus(); // Only a window that is shown can give it back.
+    services_.window.orderOut();
+    collapse();
+}
+
 void NotchController::lockChanged() {
     if (isLocked()) {
-        guard_.follow(std::nullopt);
-        openWork_.reset();
-        services_.window.returnFocus(); // Only a window that is shown can give it back.
-        services_.window.orderOut();
-        collapse();
+        hide();
     } else {
         if (!isOpen_) {
             positionCollapsed();

@@ -166,6 +166,8 @@ private:
     void scheduleClose();
     void resizeForShelf();
     [[nodiscard]] bool isLocked() const;
+    void hideIfInputIsTakenBefore(Seconds end);
+    void hide();
     void lockChanged();
     void setCollapsed(const Collapsed& collapsed);
     void setFrame(const Screen& screen, QSizeF size, const QPainterPath& outline);
@@ -194,9 +196,11 @@ private:
     HoverTick tick_;
     Handle closeWork_;
     Handle openWork_; ///< Tries again to open.
+    Handle takenWork_; ///< Looks again whether a locker has taken the input.
     Handle pressMonitor_;
     Handle screensMonitor_;
     Handle dragMonitor_;
+    Handle inputMonitor_;
     std::vector<Handle> lockMonitors_;
 };
 

@@ -1,5 +1,9 @@
 #pragma once
 
+#include "base/Handle.h"
+
+#include <functional>
+
 namespace ravelo {
 
 /// The exclusive hold on pointer and keyboard that one program may have: screen lockers keep both
@@ -10,6 +14,10 @@ public:
 
     /// Whether another program holds the pointer and the keyboard now. Two round trips at most.
     [[nodiscard]] virtual bool isHeldByAnother() = 0;
+
+    /// Called when another program has shown a window of the kind that lockers take the input with,
+    /// and menus: worth asking again, now and a few milliseconds later.
+    [[nodiscard]] virtual Handle onLikelyTaken(std::function<void()> callback) = 0;
 };
 
 } // namespace ravelo

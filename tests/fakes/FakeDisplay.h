@@ -203,7 +203,12 @@ class FakeInputGrab final : public InputGrab {
 public:
     [[nodiscard]] bool isHeldByAnother() override { return held; }
 
+    [[nodiscard]] Handle onLikelyTaken(std::function<void()> callback) override {
+        return likelyTaken.add(std::move(callback));
+    }
+
     bool held = false;
+    Listeners<> likelyTaken;
 };
 
 class FakePanelWindow final : public PanelWindow {

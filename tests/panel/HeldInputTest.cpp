@@ -93,5 +93,39 @@ TEST(HeldInputRequest, aToggleByAKeyTakesTheKeyboardOnceItOpens) {
     EXPECT_TRUE(world.window.focused);
 }
 
+struct TakenCase {
+    const char* name;
+    bool ofFiles; ///< A drag of files is on, whose source may hold the input too.
+    Seconds takenAfter;
+    bool staysOpen;
+};
+
+class TakenInput : public testing::TestWithParam<TakenCase> {};
+
+TEST_P(TakenInput, hidesTheOpenPanelSoonAfterTheLockersWindow) {
+    PanelWorld world;
+    const auto [name, ofFiles, takenAfter, staysOpen] = GetParam();
+    if (ofFiles) {
+        world.beginDrag(true);
+    }
+    world.moveTo(720, 5);
+    ASSERT_TRUE(world.controller.isOpen());
+    world.grab.likelyTaken.notify();
+    world.scheduler.advance(takenAfter);
+    world.grab.held = true;
+    world.scheduler.advance(Seconds(0.045) - takenAfter);
+    EXPECT_EQ(world.controller.isOpen(), staysOpen);
+    EXPECT_EQ(world.window.shown, staysOpen) << "the window must go, not only close";
+    world.grab.held = false;
+    world.scheduler.advance(Seconds(2));
+    EXPECT_TRUE(world.window.shown) << "the handle comes back";
+}
+
+INSTANTIATE_TEST_SUITE_P(All, TakenInput,
+                         testing::Values(TakenCase{"atOnce", false, Seconds(0), false},
+                                         TakenCase{"soon", false, Seconds(0.015), false},
+                                         TakenCase{"byASourceOfFiles", true, Seconds(0), true}),
+                         [](const auto& row) { return row.param.name; });
+
 } // namespace
 } // namespace ravelo

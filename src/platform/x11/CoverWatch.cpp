@@ -36,8 +36,8 @@ bool hides(Connection& connection, const Questions& asked, const QRect& monitor)
 
 } // namespace
 
-CoverWatch::CoverWatch(Connection& connection, Changed changed)
-    : connection_(connection), changed_(std::move(changed)) {
+CoverWatch::CoverWatch(Connection& connection, Changed changed, std::function<void()> newcomer)
+    : connection_(connection), changed_(std::move(changed)), newcomer_(std::move(newcomer)) {
     const uint32_t mask = XCB_EVENT_MASK_SUBSTRUCTURE_NOTIFY;
     xcb_change_window_attributes(connection.get(), connection.root(), XCB_CW_EVENT_MASK, &mask);
     xcb_flush(connection.get());
@@ -64,6 +64,7 @@ void CoverWatch::handle(const xcb_generic_event_t& event) {
         if (map->override_redirect != 0 && map->window != panel_) {
             newcomers_.push_back({map->window, false});
             lookAgain();
+            newcomer_();
         }
     } else if (const auto* change =
                    eventAs<xcb_configure_notify_event_t>(event, XCB_CONFIGURE_NOTIFY)) {

@@ -19,7 +19,8 @@ class CoverWatch final : public EventHandler {
 public:
     using Changed = std::function<void(bool covered)>;
 
-    CoverWatch(Connection& connection, Changed changed);
+    /// `newcomer` is called for every foreign window that is mapped and not managed.
+    CoverWatch(Connection& connection, Changed changed, std::function<void()> newcomer);
 
     /// The panel's window and the monitor it is on, in the root window's pixels. At the first call,
     /// a locker that was there before us counts too, although the panel was created above it.
@@ -47,6 +48,7 @@ private:
 
     Connection& connection_;
     Changed changed_;
+    std::function<void()> newcomer_;
     xcb_window_t panel_ = XCB_WINDOW_NONE;
     xcb_window_t belowPanel_ = XCB_WINDOW_NONE; ///< The window right below it.
     QRect monitor_;

@@ -11,7 +11,10 @@ ForeignCover::ForeignCover(Listener& listener) : listener_(listener) {
             state->listeners.notify();
         });
     };
-    watch_ = std::make_shared<CoverWatch>(listener.connection(), changed);
+    auto newcomer = [&listener, state = state_] {
+        listener.tell([state] { state->newcomers.notify(); });
+    };
+    watch_ = std::make_shared<CoverWatch>(listener.connection(), changed, newcomer);
     listener.attach(watch_);
 }
 

@@ -28,10 +28,16 @@ public:
         return state_->listeners.add(std::move(callback));
     }
 
+    /// Called when another program has mapped any window that is not managed.
+    [[nodiscard]] Handle onNewcomer(std::function<void()> callback) {
+        return state_->newcomers.add(std::move(callback));
+    }
+
 private:
     struct State {
         bool covered = false;
         Listeners<> listeners;
+        Listeners<> newcomers;
     };
 
     Listener& listener_;

@@ -2,6 +2,7 @@
 
 #include "platform/InputGrab.h"
 #include "platform/x11/Connection.h"
+#include "platform/x11/ForeignCover.h"
 
 namespace ravelo::x11 {
 
@@ -12,12 +13,18 @@ namespace ravelo::x11 {
 /// On the main thread's connection.
 class X11InputGrab final : public InputGrab {
 public:
-    explicit X11InputGrab(Connection& connection) : connection_(connection) {}
+    X11InputGrab(Connection& connection, ForeignCover& cover)
+        : connection_(connection), cover_(cover) {}
 
     [[nodiscard]] bool isHeldByAnother() override { return isInputHeldByAnother(connection_); }
 
+    [[nodiscard]] Handle onLikelyTaken(std::function<void()> callback) override {
+        return cover_.onNewcomer(std::move(callback));
+    }
+
 private:
     Connection& connection_;
+    ForeignCover& cover_;
 };
 
 } // namespace ravelo::x11
