@@ -27,9 +27,9 @@ constexpr Seconds closeDelay{0.35};
 constexpr Seconds grabPatience{0.4};
 constexpr Seconds grabInterval{0.04};
 
-/// A locker takes the input right after its window, and must not show the panel for 50 ms.
-constexpr Seconds takenPatience{0.03};
-constexpr Seconds takenInterval{0.01};
+/// A locker takes the input right after it has shown its window; a slow one, a little later.
+constexpr Seconds firstTakenLook{0.005};
+constexpr Seconds lastTakenLook{0.32};
 constexpr Seconds hiddenWhenTaken{1};
 
 } // namespace
@@ -55,8 +55,8 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
     for (SessionLock* const lock : services_.locks) {
         lockMonitors_.push_back(lock->onChange([this] { lockChanged(); }));
     }
-    inputMonitor_ = services_.inputGrab.onLikelyTaken(
-        [this] { hideIfInputIsTakenBefore(services_.scheduler.uptime() + takenPatience); });
+    inputMonitor_ =
+        services_.inputGrab.onLikelyTaken([this] { hideIfInputIsTaken(firstTakenLook); });
     lockChanged();
     HotKeyCenter::shared().release();
     store_.onTimerChange = [this] {
@@ -327,8 +327,8 @@ bool NotchController::isInputHeld(const PointerState& pointer) {
            !(isDragOn(pointer) && !services_.drags.files().value_or(QList<QUrl>()).isEmpty());
 }
 
-/// A locker shows its window first and takes the input a few milliseconds later.
-void NotchController::hideIfInputIsTakenBefore(Seconds end) {
+/// Looks now and, if nothing is taken, again after a time that doubles.
+void NotchController::hideIfInputIsTaken(Seconds nextLook) {
     takenWork_.reset();
     if (!isOpen_) {
         return;
@@ -336,9 +336,9 @@ void NotchController::hideIfInputIsTakenBefore(Seconds end) {
     if (isInputHeld(look())) {
         hide();
         takenWork_ = services_.scheduler.after(hiddenWhenTaken, [this] { lockChanged(); });
-    } else if (services_.scheduler.uptime() < end) {
-        takenWork_ = services_.scheduler.after(takenInterval,
-                                              [this, end] { hideIfInputIsTakenBefore(end); });
+    } else if (nextLook <= lastTakenLook) {
+        takenWork_ = services_.scheduler.after(
+            nextLook, [this, nextLook] { hideIfInputIsTaken(2 * nextLook); });
     }
 }
 

@@ -166,7 +166,7 @@ private:
     void scheduleClose();
     void resizeForShelf();
     [[nodiscard]] bool isLocked() const;
-    void hideIfInputIsTakenBefore(Seconds end);
+    void hideIfInputIsTaken(Seconds nextLook);
     void hide();
     void lockChanged();
     void setCollapsed(const Collapsed& collapsed);

@@ -1,8 +1,8 @@
 /* Looks at the top of the screen as fast as the server answers, until its standard input ends, and
    prints the frames seen, the frames a second, the largest share of pixels that differ from the one
    at the left edge of their row, in percent, and how many milliseconds after a locker's window came the last
-   such frame was seen. With the argument "mapped" frames count only after that window came, and for
-   the share only those later than 50 ms. */
+   such frame was seen. With the argument "mapped" frames count only after that window came and is
+   drawn, which a compositor may do much later, and for the share only those later than 50 ms. */
 
 #include <poll.h>
 #include <stdint.h>
@@ -57,6 +57,7 @@ int main(int count, char** arguments) {
     const double begin = milliseconds();
     double mapped = waits ? 0 : begin, last = 0, worst = 0;
     long frames = 0;
+    uint32_t desktop = 0;
     struct pollfd input = {0, POLLIN, 0};
     while (poll(&input, 1, 0) == 0) {
         xcb_generic_event_t* event;
@@ -77,8 +78,11 @@ int main(int count, char** arguments) {
             return 1;
         }
         free(reply);
-        ++frames;
-        if (mapped == 0) {
+        const uint32_t outside = pixels[30 * WIDTH];
+        if (frames++ == 0 && waits) {
+            desktop = outside;
+        }
+        if (mapped == 0 || outside == desktop) {
             continue;
         }
         long strange = 0;

@@ -44,6 +44,7 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       cover_(cover),
       focus_(connection, events),
       shadow_(connection.atom("_COMPTON_SHADOW")),
+      skipCloseAnimation_(connection.atom("_KDE_NET_WM_SKIP_CLOSE_ANIMATION")),
       blurRegion_(connection.atom("_KDE_NET_WM_BLUR_BEHIND_REGION")),
       qt_(qtConnection()),
       restackingNotices_{connection.atom("_NET_CLIENT_LIST"),
@@ -138,6 +139,7 @@ void X11PanelWindow::stayAbove(const xcb_generic_event_t& event) {
 void X11PanelWindow::prepareNativeWindow() {
     id_ = static_cast<xcb_window_t>(window_.winId());
     setCardinals(shadow_, {0});
+    setCardinals(skipCloseAnimation_, {1}); // KWin would fade it out above a locker.
     // Nothing of what was shown at one size may be seen for a moment at the next.
     const uint32_t attributes[] = {0, XCB_GRAVITY_BIT_FORGET};
     xcb_change_window_attributes(qt_, id_, XCB_CW_BACK_PIXEL | XCB_CW_BIT_GRAVITY, attributes);

@@ -49,6 +49,7 @@ private:
     ForeignCover& cover_;
     InputFocus focus_;
     const xcb_atom_t shadow_;
+    const xcb_atom_t skipCloseAnimation_;
     const xcb_atom_t blurRegion_;
     std::optional<QPainterPath> outline_;
     double scale_ = 1;     ///< Device pixels in a logical one, where the window was placed last.
