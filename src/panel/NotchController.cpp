@@ -72,8 +72,9 @@ HoverTick::Next NotchController::evaluateHover() {
     }
     if (!pointer.buttonDown) {
         idleDragCount_ = services_.drags.changeCount();
+        pressedOnPanel_ = false;
     }
-    guard_.follow(isDragOn(pointer) ? pointer.location : std::nullopt);
+    guardEdge(pointer);
     const bool inZone =
         pointer.location ? isNearTopCentre(*pointer.location, *on, hotZoneHeight, hotZoneHalfWidth)
                          : hovered_;
@@ -85,6 +86,13 @@ HoverTick::Next NotchController::evaluateHover() {
     const Seen seen{pointer.location, pointer.buttonDown, services_.drags.changeCount()};
     const bool moved = std::exchange(lastSeen_, seen) != seen;
     return moved || closeWork_ ? HoverTick::Next::busy : HoverTick::Next::still;
+}
+
+void NotchController::guardEdge(const PointerState& pointer) {
+    using Source = EdgeGuard::Source;
+    const bool dragged = pointer.leftDown && (draggingOut_ || isDragOn(pointer));
+    guard_.follow(dragged ? pointer.location : std::nullopt,
+                  draggingOut_ ? Source::panel : Source::anotherProgram);
 }
 
 void NotchController::evaluateOpen(bool inZone, const PointerState& pointer) {
@@ -104,8 +112,9 @@ void NotchController::evaluateCollapsed(bool inZone, const Screen& screen,
         return;
     }
     const bool over = inZone || isOver(frame_, pointer);
-    awaitsLeave_ = awaitsLeave_ && over;
-    if (!over || awaitsLeave_) {
+    const bool wasHeldBack = std::exchange(heldBack_, over && isOtherPress(pointer));
+    awaitsLeave_ = over && (awaitsLeave_ || (wasHeldBack && !pointer.buttonDown));
+    if (!over || heldBack_ || awaitsLeave_) {
         stripTicks_ = 0;
         return;
     }
@@ -120,6 +129,12 @@ bool NotchController::isFileDragNear(const Screen& screen, const PointerState& p
     return isDragOn(pointer) && pointer.location &&
            isNearTopCentre(*pointer.location, screen, dragZoneHeight, dragZoneHalfWidth) &&
            !services_.drags.files().value_or(QList<QUrl>()).isEmpty();
+}
+
+/// Of what is no drag: a window that is being moved, which many window managers maximise at the top
+/// edge, or text that is being selected.
+bool NotchController::isOtherPress(const PointerState& pointer) const {
+    return pointer.buttonDown && !pressedOnPanel_ && !isDragOn(pointer);
 }
 
 bool NotchController::isDragOn(const PointerState& pointer) const {
@@ -192,7 +207,8 @@ std::optional<Screen> NotchController::screen() {
 
 void NotchController::pressedSomewhere() {
     tick_.wake();
-    if (isOpen_ && !isOver(frame_, look())) {
+    pressedOnPanel_ = isOver(frame_, look());
+    if (isOpen_ && !pressedOnPanel_) {
         collapse();
     }
 }
@@ -344,6 +360,11 @@ void NotchController::setFrame(const Screen& screen, QSizeF size, const QPainter
 
 void NotchController::setHovered(bool hovered) {
     hovered_ = hovered;
+    tick_.wake();
+}
+
+void NotchController::setDraggingOut(bool dragging) {
+    draggingOut_ = dragging;
     tick_.wake();
 }
 

@@ -111,6 +111,9 @@ public:
     /// Whether a drag with files is over the window.
     [[nodiscard]] bool filesOver() const { return filesOver_; }
 
+    /// Files are being dragged out of the panel.
+    void setDraggingOut(bool dragging);
+
     /// Parks files and opens to show them.
     void onFiles(const QList<QUrl>& urls);
 
@@ -150,10 +153,12 @@ private:
     enum class Keyboard { left, requested };
 
     HoverTick::Next evaluateHover();
+    void guardEdge(const PointerState& pointer);
     void evaluateOpen(bool inZone, const PointerState& pointer);
     void evaluateCollapsed(bool inZone, const Screen& screen, const PointerState& pointer);
     void openForFiles();
     void lookAtDrag();
+    [[nodiscard]] bool isOtherPress(const PointerState& pointer) const;
     [[nodiscard]] bool isDragOn(const PointerState& pointer) const;
     [[nodiscard]] bool isFileDragNear(const Screen& screen, const PointerState& pointer) const;
     [[nodiscard]] bool isOver(const QRectF& area, const PointerState& pointer) const;
@@ -179,10 +184,14 @@ private:
     bool isOpen_ = false;
     Collapsed collapsed_;
     QRectF frame_;
-    int stripTicks_ = 0;       ///< Ticks in a row with the pointer in the zone while collapsed.
-    qint64 idleDragCount_ = 0; ///< The drag count last seen with no button down.
-    bool awaitsLeave_ = false; ///< Dismissed under the pointer: hovering counts once it has left.
+    int stripTicks_ = 0;          ///< Ticks in a row with the pointer in the zone while collapsed.
+    qint64 idleDragCount_ = 0;    ///< The drag count last seen with no button down.
+    bool awaitsLeave_ = false;    ///< Hovering counts once the pointer has left: it was dismissed
+                                  ///< under it, or a press ended there that it was held back for.
+    bool heldBack_ = false;       ///< It would be open but for a press.
+    bool pressedOnPanel_ = false; ///< The newest press.
     bool hovered_ = false;
+    bool draggingOut_ = false; ///< Files, out of the panel.
     bool dragOver_ = false;    ///< One of another program is over the window.
     bool filesOver_ = false;   ///< It is known to carry files.
     int closings_ = 0;         ///< How often the open panel has been closed.

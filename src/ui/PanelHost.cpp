@@ -51,6 +51,8 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
             clips_.refreshDates(); // Or the rows beside the new one would seem younger.
         }
     });
+    connect(&fileDrag_, &FileDrag::draggingChanged, controller(),
+            [this] { controller()->setDraggingOut(fileDrag_.isDragging()); });
     connect(&links_, &LinkOpening::opened, controller(), &NotchController::dismiss);
     connect(store(), &Store::shelfChanged, this, &PanelHost::shelfChanged);
     connect(&subjects.usage, &PlanUsage::changed, this, [this] {
