@@ -223,20 +223,15 @@ public:
 
     void setOutline(const QPainterPath& path) override { outline = path; }
 
-    [[nodiscard]] bool isTranslucent() const override { return translucent_; }
+    [[nodiscard]] ShowThrough showThrough() const override { return ShowThrough::sharp; }
 
-    [[nodiscard]] Handle onTranslucencyChange(std::function<void()> callback) override {
+    [[nodiscard]] Handle onShowThroughChange(std::function<void()> callback) override {
         return listeners_.add(std::move(callback));
     }
 
     void requestFocus() override { focused = true; }
 
     void returnFocus() override { focused = false; }
-
-    void setTranslucent(bool translucent) {
-        translucent_ = translucent;
-        listeners_.notify();
-    }
 
     QString screen;
     QSizeF size;
@@ -247,7 +242,6 @@ public:
     bool focused = false;
 
 private:
-    bool translucent_ = true;
     Listeners<> listeners_;
 };
 
