@@ -23,6 +23,9 @@ constexpr double hoverMargin =
     40; ///< How far around the open panel the pointer still counts as on it.
 constexpr Seconds closeDelay{0.35};
 
+/// How long the bar shows that the timer has ended.
+constexpr Seconds timerEndTime{5};
+
 /// A window manager holds the keyboard until the key that it was pressed for is released.
 constexpr Seconds grabPatience{0.4};
 constexpr Seconds grabInterval{0.04};
@@ -41,6 +44,12 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
     idleDragCount_ = services_.drags.changeCount();
     guard_.start();
     connect(&store_, &Store::shelfChanged, this, &NotchController::resizeForShelf);
+    connect(&store_, &Store::timerEnded, this, &NotchController::showTimerEnd);
+    connect(&store_, &Store::timerChanged, this, [this] {
+        if (store_.timerRunning()) {
+            timerEndShown_.reset();
+        }
+    });
     pressMonitor_ = services_.pointer.onPress([this] { pressedSomewhere(); });
     screensMonitor_ = services_.screens.onChange([this] { screensChanged(); });
     dragMonitor_ = services_.drags.onChange([this] {
@@ -278,15 +287,25 @@ void NotchController::openSettings() {
 void NotchController::positionCollapsed() {
     const auto on = screen();
     const BarGeometry bar = on ? barGeometry(*on, settings_.macType()) : BarGeometry();
-    const bool showsBar = store_.timerRunning() || store_.reminderVisible();
+    const bool timerEnded(timerEndShown_);
+    const bool showsBar = store_.timerRunning() || timerEnded || store_.reminderVisible();
     const QSizeF size = showsBar ? QSizeF(bar.width, bar.height) : handleSize;
-    setCollapsed({showsBar, size, bar.notch});
+    setCollapsed({showsBar, timerEnded, size, bar.notch});
     if (std::exchange(isOpen_, false)) {
         Q_EMIT isOpenChanged();
     }
     if (on) {
         setFrame(*on, size, showsBar ? barOutline(size, bar.notch) : handleOutline(size));
     }
+}
+
+void NotchController::showTimerEnd() {
+    timerEndShown_ = services_.scheduler.after(timerEndTime, [this] {
+        timerEndShown_.reset();
+        if (!isOpen_) {
+            positionCollapsed();
+        }
+    });
 }
 
 void NotchController::setCollapsed(const Collapsed& collapsed) {

@@ -33,6 +33,7 @@ class NotchController : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
     Q_PROPERTY(bool showsBar READ showsBar NOTIFY collapsedChanged)
+    Q_PROPERTY(bool timerEnded READ timerEnded NOTIFY collapsedChanged)
     Q_PROPERTY(double notch READ notch NOTIFY collapsedChanged)
     Q_PROPERTY(bool filesOver READ filesOver NOTIFY filesOverChanged)
     Q_PROPERTY(QSizeF collapsedSize READ collapsedSize NOTIFY collapsedChanged)
@@ -60,8 +61,12 @@ public:
     /// What the panel would open with, in logical pixels.
     [[nodiscard]] QSizeF sizeToOpenWith() const;
 
-    /// Whether the collapsed panel is the bar with the timer or the reminders, not the handle.
+    /// Whether the collapsed panel is the bar with the timer or the reminders, not the handle. It
+    /// stays a while longer than the timer.
     [[nodiscard]] bool showsBar() const { return collapsed_.showsBar; }
+
+    /// Whether the bar shows that the timer has just ended.
+    [[nodiscard]] bool timerEnded() const { return collapsed_.timerEnded; }
 
     /// The width that the bar leaves free in its middle, in logical pixels; 0 for none.
     [[nodiscard]] double notch() const { return collapsed_.notch; }
@@ -144,6 +149,7 @@ private:
     /// What the panel looks like while it is closed.
     struct Collapsed {
         bool showsBar = false;
+        bool timerEnded = false;
         QSizeF size;
         double notch = 0;
 
@@ -156,6 +162,7 @@ private:
     void guardEdge(const PointerState& pointer);
     void evaluateOpen(bool inZone, const PointerState& pointer);
     void evaluateCollapsed(bool inZone, const Screen& screen, const PointerState& pointer);
+    void showTimerEnd();
     void openForFiles();
     void lookAtDrag();
     [[nodiscard]] bool isOtherPress(const PointerState& pointer) const;
@@ -202,7 +209,8 @@ private:
     FileDrop drop_;
     HoverTick tick_;
     Handle closeWork_;
-    Handle openWork_; ///< Tries again to open.
+    Handle timerEndShown_; ///< While the bar shows it.
+    Handle openWork_;      ///< Tries again to open.
     Handle pressMonitor_;
     Handle screensMonitor_;
     Handle dragMonitor_;
