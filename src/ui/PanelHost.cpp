@@ -35,7 +35,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       links_(subjects.opener, subjects.scheduler, toast_),
       shelf_(subjects.store, subjects.jobs, subjects.scheduler),
       received_(subjects.received, subjects.scheduler, locale),
-      sending_(subjects.nearby, toast_),
+      sending_(subjects.nearby, subjects.scheduler, toast_),
       fileDrag_(subjects.jobs, subjects.icons, subjects.decoder),
       shelfRequestsSeen_(subjects.store.shelfRequestTick()),
       timerFace_(subjects.store, subjects.scheduler),
@@ -53,6 +53,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
     });
     connect(&fileDrag_, &FileDrag::draggingChanged, controller(),
             [this] { controller()->setDraggingOut(fileDrag_.isDragging()); });
+    connect(&sending_, &Sending::programStarted, controller(), &NotchController::dismiss);
     connect(&links_, &LinkOpening::opened, controller(), &NotchController::dismiss);
     connect(store(), &Store::shelfChanged, this, &PanelHost::shelfChanged);
     connect(&subjects.usage, &PlanUsage::changed, this, [this] {
