@@ -35,6 +35,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       links_(subjects.opener, subjects.scheduler, toast_),
       shelf_(subjects.store, subjects.jobs, subjects.scheduler),
       received_(subjects.received, subjects.scheduler, locale),
+      ages_(subjects.scheduler, clips_, received_),
       sending_(subjects.nearby, subjects.scheduler, toast_),
       fileDrag_(subjects.jobs, subjects.icons, subjects.decoder),
       shelfRequestsSeen_(subjects.store.shelfRequestTick()),
@@ -44,11 +45,6 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
     connect(settings(), &AppSettings::panelWidthChanged, this, [this] {
         if (!controller()->isOpen()) {
             setContentSize(sizeToOpenWith());
-        }
-    });
-    connect(store(), &Store::clipsChanged, &clips_, [this] {
-        if (controller()->isOpen()) {
-            clips_.refreshDates(); // Or the rows beside the new one would seem younger.
         }
     });
     connect(&fileDrag_, &FileDrag::draggingChanged, controller(),
@@ -156,8 +152,7 @@ void PanelHost::follow() {
     if (controller()->isOpen()) {
         building_.reset();
         setContentSize(controller()->frame().size());
-        clips_.refreshDates();
-        received_.refreshDates();
+        ages_.start();
         shelf_.lookForMissing();
         tellUsage();
         setHasContent(true);
@@ -168,6 +163,7 @@ void PanelHost::follow() {
 
 void PanelHost::startAnew() {
     setHasContent(false);
+    ages_.stop();
     shelfRequestsSeen_ = store()->shelfRequestTick();
     toast_.reset();
     clips_.setSearch({});
