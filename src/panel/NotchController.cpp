@@ -45,11 +45,6 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
     guard_.start();
     connect(&store_, &Store::shelfChanged, this, &NotchController::resizeForShelf);
     connect(&store_, &Store::timerEnded, this, &NotchController::showTimerEnd);
-    connect(&store_, &Store::timerChanged, this, [this] {
-        if (store_.timerRunning()) {
-            timerEndShown_.reset();
-        }
-    });
     pressMonitor_ = services_.pointer.onPress([this] { pressedSomewhere(); });
     screensMonitor_ = services_.screens.onChange([this] { screensChanged(); });
     dragMonitor_ = services_.drags.onChange([this] {
@@ -62,6 +57,9 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
     lockChanged();
     HotKeyCenter::shared().release();
     store_.onTimerChange = [this] {
+        if (store_.timerRunning()) {
+            timerEndShown_.reset();
+        }
         if (!isOpen_) {
             positionCollapsed();
         }
@@ -81,7 +79,6 @@ HoverTick::Next NotchController::evaluateHover() {
     }
     if (!pointer.buttonDown) {
         idleDragCount_ = services_.drags.changeCount();
-        pressedOnPanel_ = false;
     }
     guardEdge(pointer);
     const bool inZone =
@@ -121,9 +118,7 @@ void NotchController::evaluateCollapsed(bool inZone, const Screen& screen,
         return;
     }
     const bool over = inZone || isOver(frame_, pointer);
-    const bool wasHeldBack = std::exchange(heldBack_, over && isOtherPress(pointer));
-    awaitsLeave_ = over && (awaitsLeave_ || (wasHeldBack && !pointer.buttonDown));
-    if (!over || heldBack_ || awaitsLeave_) {
+    if (!hold_.opens(over, pressOf(pointer))) {
         stripTicks_ = 0;
         return;
     }
@@ -140,10 +135,11 @@ bool NotchController::isFileDragNear(const Screen& screen, const PointerState& p
            !services_.drags.files().value_or(QList<QUrl>()).isEmpty();
 }
 
-/// Of what is no drag: a window that is being moved, which many window managers maximise at the top
-/// edge, or text that is being selected.
-bool NotchController::isOtherPress(const PointerState& pointer) const {
-    return pointer.buttonDown && !pressedOnPanel_ && !isDragOn(pointer);
+HoverHold::Press NotchController::pressOf(const PointerState& pointer) const {
+    if (!pointer.buttonDown) {
+        return HoverHold::Press::none;
+    }
+    return isDragOn(pointer) ? HoverHold::Press::drag : HoverHold::Press::other;
 }
 
 bool NotchController::isDragOn(const PointerState& pointer) const {
@@ -216,8 +212,9 @@ std::optional<Screen> NotchController::screen() {
 
 void NotchController::pressedSomewhere() {
     tick_.wake();
-    pressedOnPanel_ = isOver(frame_, look());
-    if (isOpen_ && !pressedOnPanel_) {
+    const bool onPanel = isOver(frame_, look());
+    hold_.pressed(onPanel ? HoverHold::Place::panel : HoverHold::Place::elsewhere);
+    if (isOpen_ && !onPanel) {
         collapse();
     }
 }
@@ -251,7 +248,7 @@ void NotchController::collapse() {
 
 void NotchController::dismiss() {
     if (isOpen_) {
-        awaitsLeave_ = true;
+        hold_.dismissed();
         collapse();
     }
 }

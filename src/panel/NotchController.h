@@ -3,6 +3,7 @@
 #include "base/Handle.h"
 #include "base/Scheduler.h"
 #include "panel/EdgeGuard.h"
+#include "panel/HoverHold.h"
 #include "panel/HoverTick.h"
 #include "platform/PanelWindow.h"
 #include "platform/Screens.h"
@@ -165,7 +166,7 @@ private:
     void showTimerEnd();
     void openForFiles();
     void lookAtDrag();
-    [[nodiscard]] bool isOtherPress(const PointerState& pointer) const;
+    [[nodiscard]] HoverHold::Press pressOf(const PointerState& pointer) const;
     [[nodiscard]] bool isDragOn(const PointerState& pointer) const;
     [[nodiscard]] bool isFileDragNear(const Screen& screen, const PointerState& pointer) const;
     [[nodiscard]] bool isOver(const QRectF& area, const PointerState& pointer) const;
@@ -191,12 +192,9 @@ private:
     bool isOpen_ = false;
     Collapsed collapsed_;
     QRectF frame_;
-    int stripTicks_ = 0;          ///< Ticks in a row with the pointer in the zone while collapsed.
-    qint64 idleDragCount_ = 0;    ///< The drag count last seen with no button down.
-    bool awaitsLeave_ = false;    ///< Hovering counts once the pointer has left: it was dismissed
-                                  ///< under it, or a press ended there that it was held back for.
-    bool heldBack_ = false;       ///< It would be open but for a press.
-    bool pressedOnPanel_ = false; ///< The newest press.
+    int stripTicks_ = 0;       ///< Ticks in a row with the pointer in the zone while collapsed.
+    qint64 idleDragCount_ = 0; ///< The drag count last seen with no button down.
+    HoverHold hold_;
     bool hovered_ = false;
     bool draggingOut_ = false; ///< Files, out of the panel.
     bool dragOver_ = false;    ///< One of another program is over the window.
