@@ -100,6 +100,18 @@ void flushAtExit() {
     }
 }
 
+Backdrop::Kind backdrop(PanelWindow::ShowThrough showThrough) {
+    switch (showThrough) {
+    case PanelWindow::ShowThrough::blurred:
+        return Backdrop::Blurred;
+    case PanelWindow::ShowThrough::sharp:
+        return Backdrop::Translucent;
+    case PanelWindow::ShowThrough::none:
+        break;
+    }
+    return Backdrop::Opaque;
+}
+
 TooLargeCopy::Measure measure(TooLarge::Kind kind) {
     switch (kind) {
     case TooLarge::Kind::text:
@@ -268,11 +280,10 @@ void AppDelegate::wire() {
         openSettings();
     };
     const auto followCompositor = [this] {
-        view_->host().setBackdrop(window_->isTranslucent() ? Backdrop::Translucent
-                                                           : Backdrop::Opaque);
+        view_->host().setBackdrop(backdrop(window_->showThrough()));
     };
     followCompositor();
-    compositor_ = window_->onTranslucencyChange(followCompositor);
+    compositor_ = window_->onShowThroughChange(followCompositor);
     const auto followMotion = [this] {
         view_->host().setReducedMotion(display_.motion().isReduced());
     };

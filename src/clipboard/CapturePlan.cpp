@@ -1,5 +1,10 @@
 #include "clipboard/CapturePlan.h"
 
+#include "base/FileUrl.h"
+#include "base/UriList.h"
+
+#include <QSysInfo>
+
 namespace ravelo {
 
 namespace {
@@ -9,6 +14,21 @@ constexpr QLatin1StringView passwordHint("x-kde-passwordManagerHint");
 
 bool isUnasked(const PasteboardSnapshot& snapshot, QLatin1StringView type) {
     return snapshot.types.contains(type) && !snapshot.answers.contains(type);
+}
+
+/// GTK 4.8 puts the paths of several files on one line.
+bool mayBePathsInALine(const QString& text) {
+    return text.startsWith(u'/') && text.contains(u" /") && !text.contains(u'\n');
+}
+
+/// Their paths, if they are all of this machine.
+QByteArrayList copiedPaths(const PasteboardSnapshot& snapshot) {
+    const QByteArray list = snapshot.answers.value(filesType).value_or(QByteArray());
+    QByteArrayList paths;
+    for (const QUrl& file : localFiles(list, QSysInfo::machineHostName().toUtf8())) {
+        paths.append(filePath(file));
+    }
+    return paths;
 }
 
 } // namespace
@@ -24,7 +44,11 @@ QString nextCaptureType(const PasteboardSnapshot& snapshot, PictureLooks& looks,
     if (isUnasked(snapshot, plainTextType)) {
         return plainTextType;
     }
-    return capturedText(snapshot).isEmpty() ? nextImageType(snapshot, looks, decoder) : QString();
+    const QString text = capturedText(snapshot);
+    if (mayBePathsInALine(text) && isUnasked(snapshot, filesType)) {
+        return filesType;
+    }
+    return text.isEmpty() ? nextImageType(snapshot, looks, decoder) : QString();
 }
 
 bool isConcealed(const PasteboardSnapshot& snapshot) {
@@ -39,6 +63,17 @@ bool isConcealed(const PasteboardSnapshot& snapshot) {
 }
 
 QString capturedText(const PasteboardSnapshot& snapshot) {
+    QString text = offeredText(snapshot);
+    if (mayBePathsInALine(text)) {
+        const QByteArrayList paths = copiedPaths(snapshot);
+        if (text == QString::fromUtf8(paths.join(' ')).trimmed()) {
+            return QString::fromUtf8(paths.join('\n')).trimmed();
+        }
+    }
+    return text;
+}
+
+QString offeredText(const PasteboardSnapshot& snapshot) {
     return QString::fromUtf8(snapshot.answers.value(plainTextType).value_or(QByteArray()))
         .trimmed();
 }

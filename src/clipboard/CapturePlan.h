@@ -19,10 +19,14 @@ namespace ravelo {
 [[nodiscard]] bool isConcealed(const PasteboardSnapshot& snapshot);
 
 /// The text that was read, without white space and line breaks at both ends; empty where there is
-/// none.
+/// none. Of several files it is a line each, however their owner puts their paths together.
 [[nodiscard]] QString capturedText(const PasteboardSnapshot& snapshot);
 
-/// A list of files: asked for only where there is no text and no picture itself.
+/// The same, put together as its owner does.
+[[nodiscard]] QString offeredText(const PasteboardSnapshot& snapshot);
+
+/// A list of files: asked for only if there is no text and no picture itself, or if the text may be
+/// their paths.
 inline constexpr QLatin1StringView filesType("text/uri-list");
 
 /// Whether the image in it can only be that of a file that the owner named.

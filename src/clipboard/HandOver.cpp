@@ -25,7 +25,8 @@ ContentsKey keyOf(ContentsKey::Kind kind, const QByteArray& bytes) {
 } // namespace
 
 std::optional<ContentsKey> contentsKey(const PasteboardSnapshot& snapshot) {
-    if (const QString text = capturedText(snapshot); !text.isEmpty()) {
+    // Not as it was captured: whoever passes a text on may leave the rest out.
+    if (const QString text = offeredText(snapshot); !text.isEmpty()) {
         return keyOf(ContentsKey::Kind::text, text.toUtf8());
     }
     // Asked for in turn until one was good, so it is the largest of what came.

@@ -5,10 +5,6 @@
 #include "platform/EdgeBarrier.h"
 #include "platform/Screens.h"
 
-#include <QLineF>
-
-#include <cmath>
-
 namespace ravelo {
 
 namespace {
@@ -17,10 +13,9 @@ constexpr Seconds retryInterval{3};
 constexpr double guardedHeight = 10;
 constexpr double guardedHalfWidth = 450;
 
-QLineF guardedLine(const Screen& main) {
-    const double y = main.frame.top() + guardedHeight;
-    const double middle = main.frame.center().x();
-    return {middle - guardedHalfWidth, y, middle + guardedHalfWidth, y};
+QRectF guardedStrip(const Screen& main) {
+    return {main.frame.center().x() - guardedHalfWidth, main.frame.top(), 2 * guardedHalfWidth,
+            guardedHeight};
 }
 
 } // namespace
@@ -41,7 +36,7 @@ void EdgeGuard::start() {
     }
 }
 
-void EdgeGuard::follow(std::optional<QPointF> drag) {
+void EdgeGuard::follow(std::optional<QPointF> drag, Source source) {
     if (!drag) {
         held_.reset();
         return;
@@ -50,17 +45,17 @@ void EdgeGuard::follow(std::optional<QPointF> drag) {
     if (state_ != State::guarding || held_ || !main) {
         return;
     }
-    const QLineF line = guardedLine(*main);
+    const QRectF strip = guardedStrip(*main);
     // The source is asked for its types only once the pointer may need to be held: some make their
     // files when they are asked.
-    const bool within = drag->x() >= line.x1() && drag->x() <= line.x2();
-    if (within && !drags_.files().value_or(QList<QUrl>()).isEmpty()) {
-        hold(line);
+    const bool within = drag->x() >= strip.left() && drag->x() <= strip.right();
+    if (within && (source == Source::panel || !drags_.files().value_or(QList<QUrl>()).isEmpty())) {
+        hold(strip);
     }
 }
 
-void EdgeGuard::hold(QLineF line) {
-    if (auto held = barrier_.hold(line)) {
+void EdgeGuard::hold(QRectF strip) {
+    if (auto held = barrier_.hold(strip)) {
         held_ = std::move(*held);
     } else {
         state_ = State::failed;

@@ -3,8 +3,8 @@
 #include "base/Handle.h"
 #include "base/Scheduler.h"
 
-#include <QLineF>
 #include <QPointF>
+#include <QRectF>
 
 #include <optional>
 
@@ -25,14 +25,17 @@ public:
     /// Begins to guard; tries again every 3 s until the process is trusted to hold the pointer.
     void start();
 
-    /// Told at every tick where the pointer is while a drag of another program is under way, and
+    /// Where a drag comes from. Those of the panel carry files.
+    enum class Source { anotherProgram, panel };
+
+    /// Called at every tick with the pointer's place during a drag with the left button, and with
     /// nothing while there is none.
-    void follow(std::optional<QPointF> drag);
+    void follow(std::optional<QPointF> drag, Source source = Source::anotherProgram);
 
     [[nodiscard]] State state() const { return state_; }
 
 private:
-    void hold(QLineF line);
+    void hold(QRectF strip);
 
     Scheduler& scheduler_;
     Screens& screens_;

@@ -23,6 +23,9 @@ constexpr double hoverMargin =
     40; ///< How far around the open panel the pointer still counts as on it.
 constexpr Seconds closeDelay{0.35};
 
+/// How long the bar shows that the timer has ended.
+constexpr Seconds timerEndTime{5};
+
 /// A window manager holds the keyboard until the key that it was pressed for is released.
 constexpr Seconds grabPatience{0.4};
 constexpr Seconds grabInterval{0.04};
@@ -46,6 +49,7 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
     idleDragCount_ = services_.drags.changeCount();
     guard_.start();
     connect(&store_, &Store::shelfChanged, this, &NotchController::resizeForShelf);
+    connect(&store_, &Store::timerEnded, this, &NotchController::showTimerEnd);
     pressMonitor_ = services_.pointer.onPress([this] { pressedSomewhere(); });
     screensMonitor_ = services_.screens.onChange([this] { screensChanged(); });
     dragMonitor_ = services_.drags.onChange([this] {
@@ -60,6 +64,9 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
     lockChanged();
     HotKeyCenter::shared().release();
     store_.onTimerChange = [this] {
+        if (store_.timerRunning()) {
+            timerEndShown_.reset();
+        }
         if (!isOpen_) {
             positionCollapsed();
         }
@@ -80,7 +87,7 @@ HoverTick::Next NotchController::evaluateHover() {
     if (!pointer.buttonDown) {
         idleDragCount_ = services_.drags.changeCount();
     }
-    guard_.follow(isDragOn(pointer) ? pointer.location : std::nullopt);
+    guardEdge(pointer);
     const bool inZone =
         pointer.location ? isNearTopCentre(*pointer.location, *on, hotZoneHeight, hotZoneHalfWidth)
                          : hovered_;
@@ -92,6 +99,13 @@ HoverTick::Next NotchController::evaluateHover() {
     const Seen seen{pointer.location, pointer.buttonDown, services_.drags.changeCount()};
     const bool moved = std::exchange(lastSeen_, seen) != seen;
     return moved || closeWork_ ? HoverTick::Next::busy : HoverTick::Next::still;
+}
+
+void NotchController::guardEdge(const PointerState& pointer) {
+    using Source = EdgeGuard::Source;
+    const bool dragged = pointer.leftDown && (draggingOut_ || isDragOn(pointer));
+    guard_.follow(dragged ? pointer.location : std::nullopt,
+                  draggingOut_ ? Source::panel : Source::anotherProgram);
 }
 
 void NotchController::evaluateOpen(bool inZone, const PointerState& pointer) {
@@ -111,8 +125,7 @@ void NotchController::evaluateCollapsed(bool inZone, const Screen& screen,
         return;
     }
     const bool over = inZone || isOver(frame_, pointer);
-    awaitsLeave_ = awaitsLeave_ && over;
-    if (!over || awaitsLeave_) {
+    if (!hold_.opens(over, pressOf(pointer))) {
         stripTicks_ = 0;
         return;
     }
@@ -127,6 +140,13 @@ bool NotchController::isFileDragNear(const Screen& screen, const PointerState& p
     return isDragOn(pointer) && pointer.location &&
            isNearTopCentre(*pointer.location, screen, dragZoneHeight, dragZoneHalfWidth) &&
            !services_.drags.files().value_or(QList<QUrl>()).isEmpty();
+}
+
+HoverHold::Press NotchController::pressOf(const PointerState& pointer) const {
+    if (!pointer.buttonDown) {
+        return HoverHold::Press::none;
+    }
+    return isDragOn(pointer) ? HoverHold::Press::drag : HoverHold::Press::other;
 }
 
 bool NotchController::isDragOn(const PointerState& pointer) const {
@@ -199,7 +219,9 @@ std::optional<Screen> NotchController::screen() {
 
 void NotchController::pressedSomewhere() {
     tick_.wake();
-    if (isOpen_ && !isOver(frame_, look())) {
+    const bool onPanel = isOver(frame_, look());
+    hold_.pressed(onPanel ? HoverHold::Place::panel : HoverHold::Place::elsewhere);
+    if (isOpen_ && !onPanel) {
         collapse();
     }
 }
@@ -233,7 +255,7 @@ void NotchController::collapse() {
 
 void NotchController::dismiss() {
     if (isOpen_) {
-        awaitsLeave_ = true;
+        hold_.dismissed();
         collapse();
     }
 }
@@ -269,15 +291,25 @@ void NotchController::openSettings() {
 void NotchController::positionCollapsed() {
     const auto on = screen();
     const BarGeometry bar = on ? barGeometry(*on, settings_.macType()) : BarGeometry();
-    const bool showsBar = store_.timerRunning() || store_.reminderVisible();
+    const bool timerEnded(timerEndShown_);
+    const bool showsBar = store_.timerRunning() || timerEnded || store_.reminderVisible();
     const QSizeF size = showsBar ? QSizeF(bar.width, bar.height) : handleSize;
-    setCollapsed({showsBar, size, bar.notch});
+    setCollapsed({showsBar, timerEnded, size, bar.notch});
     if (std::exchange(isOpen_, false)) {
         Q_EMIT isOpenChanged();
     }
     if (on) {
         setFrame(*on, size, showsBar ? barOutline(size, bar.notch) : handleOutline(size));
     }
+}
+
+void NotchController::showTimerEnd() {
+    timerEndShown_ = services_.scheduler.after(timerEndTime, [this] {
+        timerEndShown_.reset();
+        if (!isOpen_) {
+            positionCollapsed();
+        }
+    });
 }
 
 void NotchController::setCollapsed(const Collapsed& collapsed) {
@@ -370,6 +402,11 @@ void NotchController::setFrame(const Screen& screen, QSizeF size, const QPainter
 
 void NotchController::setHovered(bool hovered) {
     hovered_ = hovered;
+    tick_.wake();
+}
+
+void NotchController::setDraggingOut(bool dragging) {
+    draggingOut_ = dragging;
     tick_.wake();
 }
 

@@ -3,6 +3,7 @@
 #include "base/Handle.h"
 #include "base/Scheduler.h"
 #include "panel/EdgeGuard.h"
+#include "panel/HoverHold.h"
 #include "panel/HoverTick.h"
 #include "platform/PanelWindow.h"
 #include "platform/Screens.h"
@@ -33,6 +34,7 @@ class NotchController : public QObject {
     Q_OBJECT
     Q_PROPERTY(bool isOpen READ isOpen NOTIFY isOpenChanged)
     Q_PROPERTY(bool showsBar READ showsBar NOTIFY collapsedChanged)
+    Q_PROPERTY(bool timerEnded READ timerEnded NOTIFY collapsedChanged)
     Q_PROPERTY(double notch READ notch NOTIFY collapsedChanged)
     Q_PROPERTY(bool filesOver READ filesOver NOTIFY filesOverChanged)
     Q_PROPERTY(QSizeF collapsedSize READ collapsedSize NOTIFY collapsedChanged)
@@ -60,8 +62,12 @@ public:
     /// What the panel would open with, in logical pixels.
     [[nodiscard]] QSizeF sizeToOpenWith() const;
 
-    /// Whether the collapsed panel is the bar with the timer or the reminders, not the handle.
+    /// Whether the collapsed panel is the bar with the timer or the reminders, not the handle. It
+    /// stays a while longer than the timer.
     [[nodiscard]] bool showsBar() const { return collapsed_.showsBar; }
+
+    /// Whether the bar shows that the timer has just ended.
+    [[nodiscard]] bool timerEnded() const { return collapsed_.timerEnded; }
 
     /// The width that the bar leaves free in its middle, in logical pixels; 0 for none.
     [[nodiscard]] double notch() const { return collapsed_.notch; }
@@ -111,6 +117,9 @@ public:
     /// Whether a drag with files is over the window.
     [[nodiscard]] bool filesOver() const { return filesOver_; }
 
+    /// Files are being dragged out of the panel.
+    void setDraggingOut(bool dragging);
+
     /// Parks files and opens to show them.
     void onFiles(const QList<QUrl>& urls);
 
@@ -141,6 +150,7 @@ private:
     /// What the panel looks like while it is closed.
     struct Collapsed {
         bool showsBar = false;
+        bool timerEnded = false;
         QSizeF size;
         double notch = 0;
 
@@ -150,10 +160,13 @@ private:
     enum class Keyboard { left, requested };
 
     HoverTick::Next evaluateHover();
+    void guardEdge(const PointerState& pointer);
     void evaluateOpen(bool inZone, const PointerState& pointer);
     void evaluateCollapsed(bool inZone, const Screen& screen, const PointerState& pointer);
+    void showTimerEnd();
     void openForFiles();
     void lookAtDrag();
+    [[nodiscard]] HoverHold::Press pressOf(const PointerState& pointer) const;
     [[nodiscard]] bool isDragOn(const PointerState& pointer) const;
     [[nodiscard]] bool isFileDragNear(const Screen& screen, const PointerState& pointer) const;
     [[nodiscard]] bool isOver(const QRectF& area, const PointerState& pointer) const;
@@ -183,8 +196,9 @@ private:
     QRectF frame_;
     int stripTicks_ = 0;       ///< Ticks in a row with the pointer in the zone while collapsed.
     qint64 idleDragCount_ = 0; ///< The drag count last seen with no button down.
-    bool awaitsLeave_ = false; ///< Dismissed under the pointer: hovering counts once it has left.
+    HoverHold hold_;
     bool hovered_ = false;
+    bool draggingOut_ = false; ///< Files, out of the panel.
     bool dragOver_ = false;    ///< One of another program is over the window.
     bool filesOver_ = false;   ///< It is known to carry files.
     int closings_ = 0;         ///< How often the open panel has been closed.
@@ -195,8 +209,9 @@ private:
     FileDrop drop_;
     HoverTick tick_;
     Handle closeWork_;
-    Handle openWork_; ///< Tries again to open.
-    Handle takenWork_; ///< Looks again whether a locker has taken the input.
+    Handle timerEndShown_; ///< While the bar shows it.
+    Handle openWork_;      ///< Tries again to open.
+    Handle takenWork_;     ///< Looks again whether a locker has taken the input.
     Handle pressMonitor_;
     Handle screensMonitor_;
     Handle dragMonitor_;

@@ -3,11 +3,12 @@
 #include "base/Handle.h"
 #include "base/Result.h"
 
-#include <QLineF>
+#include <QRectF>
 
 namespace ravelo {
 
-/// Keeps the pointer from crossing a line (on X11 a pointer barrier, XFixes 5). Main thread.
+/// Keeps the pointer out of a strip at the top of a screen (on X11 by pointer barriers, XFixes 5).
+/// Main thread.
 class EdgeBarrier {
 public:
     virtual ~EdgeBarrier() = default;
@@ -15,9 +16,10 @@ public:
     /// Whether this process may hold the pointer at all; may become true as the program runs.
     [[nodiscard]] virtual bool isTrusted() = 0;
 
-    /// Lets the pointer cross the horizontal `line` (global logical pixels) downwards only, for as
-    /// long as the handle lives.
-    [[nodiscard]] virtual Result<Handle> hold(QLineF line) = 0;
+    /// Lets the pointer leave `strip` (global logical pixels) but not enter it from below or from
+    /// its sides, for as long as the handle lives. A pointer already in it is moved to its lower
+    /// edge once. The lower edge is not part of the strip, the left and right edges are.
+    [[nodiscard]] virtual Result<Handle> hold(QRectF strip) = 0;
 };
 
 } // namespace ravelo

@@ -32,9 +32,10 @@ public:
     /// transparent windows the window is cut to it.
     virtual void setOutline(const QPainterPath& outline) = 0;
 
-    /// Whether what lies behind can show through at all; changes as compositors come and go.
-    [[nodiscard]] virtual bool isTranslucent() const = 0;
-    [[nodiscard]] virtual Handle onTranslucencyChange(std::function<void()> callback) = 0;
+    /// How what lies behind can show through; changes as compositors and their effects come and go.
+    enum class ShowThrough { none, sharp, blurred };
+    [[nodiscard]] virtual ShowThrough showThrough() const = 0;
+    [[nodiscard]] virtual Handle onShowThroughChange(std::function<void()> callback) = 0;
 
     /// Asks for the keyboard. To be called while an input event to this window is handled; the
     /// focus may come later or never.

@@ -17,6 +17,9 @@ struct PointerState {
     /// Whether any button is down, or was pressed since the state was asked for last: a click
     /// shorter than the time between two questions counts. Wheels are not buttons.
     bool buttonDown = false;
+
+    /// Whether the left button is down right now.
+    bool leftDown = false;
 };
 
 /// The one pointer of the session, wherever it is. Main thread.

@@ -78,16 +78,23 @@ void NearbySend::found(Way way, QList<NearbyDevice> devices) {
 }
 
 void NearbySend::send(const QList<QUrl>& files, const QString& deviceId,
-                      std::function<void(qsizetype)> done) {
-    Sending& sending = sendings_.emplace_back(Sending{deviceId, std::move(done), {}, {}});
+                      std::function<void(Outcome)> done) {
+    Sending& sending = sendings_.emplace_back(Sending{deviceId, std::move(done), 0, {}, {}});
     sending.end = services_.scheduler.after(sendTime, [this, &sending] { end(sending, 0); });
     const auto paths = std::make_shared<QList<QByteArray>>();
     for (const QUrl& file : files) {
         paths->append(filePath(file));
     }
+    const auto folders = std::make_shared<qsizetype>();
     sending.work = services_.jobs.run(
-        [paths] { paths->removeIf([](const QByteArray& path) { return !isRegularFile(path); }); },
-        [this, &sending, paths] { handOver(sending, *paths); });
+        [paths, folders] {
+            *folders = std::ranges::count_if(*paths, isFolder);
+            paths->removeIf([](const QByteArray& path) { return !isRegularFile(path); });
+        },
+        [this, &sending, paths, folders] {
+            sending.folders = *folders;
+            handOver(sending, *paths);
+        });
 }
 
 void NearbySend::handOver(Sending& sending, QList<QByteArray> paths) {
@@ -115,9 +122,10 @@ void NearbySend::handOver(Sending& sending, QList<QByteArray> paths) {
 
 void NearbySend::end(Sending& sending, qsizetype sent) {
     const auto done = std::move(sending.done);
+    const qsizetype folders = sending.folders;
     sendings_.remove_if([&](const Sending& other) { return &other == &sending; });
     if (done) {
-        done(sent);
+        done({sent, folders});
     }
 }
 

@@ -52,12 +52,18 @@ public:
     /// dropped. Several at a time share one look.
     [[nodiscard]] Handle refresh(std::function<void()> done);
 
+    /// What became of files that were to be sent.
+    struct Outcome {
+        qsizetype sent = 0;    ///< Somebody took them.
+        qsizetype folders = 0; ///< Left out as such.
+    };
+
     /// Sends `files` to the device, or by the program where `deviceId` is empty; but for those that
     /// are missing and for folders: a service that comes to one sends nothing of what follows.
-    /// `done`, if any, is told once, later, how many somebody took, 0 where nobody did. That they
-    /// were sent is all that can be said, not that they were received.
+    /// `done`, if any, is called once, later. That files were sent is all that can be said, not
+    /// that they were received.
     void send(const QList<QUrl>& files, const QString& deviceId,
-              std::function<void(qsizetype sent)> done = {});
+              std::function<void(Outcome)> done = {});
 
     /// What the user could do where there is no way, in one sentence.
     [[nodiscard]] static QString advice();
@@ -66,7 +72,8 @@ private:
     /// One that is under way.
     struct Sending {
         QString deviceId;
-        std::function<void(qsizetype)> done;
+        std::function<void(Outcome)> done;
+        qsizetype folders = 0;
         Handle work; ///< The step that is being done.
         Handle end;
     };

@@ -326,6 +326,7 @@ void Store::finishTimer() {
     timer_.start.reset();
     timerEnd_.reset();
     services_.sound.play();
+    Q_EMIT timerEnded();
     tell(&Store::timerChanged);
 }
 

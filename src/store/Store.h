@@ -171,6 +171,7 @@ Q_SIGNALS:
     void shelfChanged();
     void shelfRequestTickChanged();
     void timerChanged();
+    void timerEnded(); ///< By itself; `timerChanged` follows.
     void remindersChanged();
 
 private:

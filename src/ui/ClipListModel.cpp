@@ -105,6 +105,15 @@ void ClipListModel::refreshDates() {
     }
 }
 
+Seconds ClipListModel::untilDatesChange() const {
+    const Date now = scheduler_.now();
+    Seconds until = Seconds::max();
+    for (const ClipItem& clip : rows()) {
+        until = std::min(until, RelativeDate::untilChange(clip.date, now));
+    }
+    return until;
+}
+
 QUuid ClipListModel::idAt(int row) const {
     return row >= 0 && row < count() ? rows()[row].id : QUuid();
 }

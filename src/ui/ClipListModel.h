@@ -57,6 +57,9 @@ public:
     /// Tells every date anew, relative to the present moment.
     void refreshDates();
 
+    /// After how long `refreshDates` makes a difference; the maximum if never.
+    [[nodiscard]] Seconds untilDatesChange() const;
+
     /// An invalid id where there is no such row.
     Q_INVOKABLE [[nodiscard]] QUuid idAt(int row) const;
 

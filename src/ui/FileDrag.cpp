@@ -96,10 +96,15 @@ void FileDrag::start(const QList<QUrl>& files, QQuickItem* from) {
     if (files.isEmpty() || dragging_) {
         return;
     }
-    dragging_ = true;
+    setDragging(true);
     // Later: a drag runs an event loop of its own, in which what was pressed may go.
     QMetaObject::invokeMethod(
         this, [this, files, scale = scaleOf(*from)] { drag(files, scale); }, Qt::QueuedConnection);
+}
+
+void FileDrag::setDragging(bool dragging) {
+    dragging_ = dragging;
+    Q_EMIT draggingChanged();
 }
 
 void FileDrag::drag(const QList<QUrl>& files, double scale) {
@@ -116,7 +121,7 @@ void FileDrag::drag(const QList<QUrl>& files, double scale) {
     const QPointer<FileDrag> alive(this);
     drag->exec(Qt::CopyAction, Qt::CopyAction);
     if (alive) {
-        dragging_ = false;
+        setDragging(false);
     }
 }
 

@@ -34,7 +34,13 @@ public:
     /// What is begun from may go meanwhile.
     Q_INVOKABLE void start(const QList<QUrl>& files, QQuickItem* from);
 
+    [[nodiscard]] bool isDragging() const { return dragging_; }
+
+Q_SIGNALS:
+    void draggingChanged();
+
 private:
+    void setDragging(bool dragging);
     void drag(const QList<QUrl>& files, double scale);
 
     DetachedJobs& jobs_;

@@ -35,7 +35,8 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       links_(subjects.opener, subjects.scheduler, toast_),
       shelf_(subjects.store, subjects.jobs, subjects.scheduler),
       received_(subjects.received, subjects.scheduler, locale),
-      sending_(subjects.nearby, toast_),
+      ages_(subjects.scheduler, clips_, received_),
+      sending_(subjects.nearby, subjects.scheduler, toast_),
       fileDrag_(subjects.jobs, subjects.icons, subjects.decoder),
       shelfRequestsSeen_(subjects.store.shelfRequestTick()),
       timerFace_(subjects.store, subjects.scheduler),
@@ -46,11 +47,9 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
             setContentSize(sizeToOpenWith());
         }
     });
-    connect(store(), &Store::clipsChanged, &clips_, [this] {
-        if (controller()->isOpen()) {
-            clips_.refreshDates(); // Or the rows beside the new one would seem younger.
-        }
-    });
+    connect(&fileDrag_, &FileDrag::draggingChanged, controller(),
+            [this] { controller()->setDraggingOut(fileDrag_.isDragging()); });
+    connect(&sending_, &Sending::programStarted, controller(), &NotchController::dismiss);
     connect(&links_, &LinkOpening::opened, controller(), &NotchController::dismiss);
     connect(store(), &Store::shelfChanged, this, &PanelHost::shelfChanged);
     connect(&subjects.usage, &PlanUsage::changed, this, [this] {
@@ -153,8 +152,7 @@ void PanelHost::follow() {
     if (controller()->isOpen()) {
         building_.reset();
         setContentSize(controller()->frame().size());
-        clips_.refreshDates();
-        received_.refreshDates();
+        ages_.start();
         shelf_.lookForMissing();
         tellUsage();
         setHasContent(true);
@@ -165,6 +163,7 @@ void PanelHost::follow() {
 
 void PanelHost::startAnew() {
     setHasContent(false);
+    ages_.stop();
     shelfRequestsSeen_ = store()->shelfRequestTick();
     toast_.reset();
     clips_.setSearch({});

@@ -13,6 +13,7 @@
 #include "ui/PanelBackground.h"
 #include "ui/Pasting.h"
 #include "ui/ReceivedModel.h"
+#include "ui/RowAges.h"
 #include "ui/Sending.h"
 #include "ui/ShelfContents.h"
 #include "ui/SnippetEditor.h"
@@ -199,6 +200,7 @@ private:
     LinkOpening links_;
     ShelfContents shelf_;
     ReceivedModel received_;
+    RowAges ages_;
     Sending sending_;
     FileDrag fileDrag_;
     int shelfRequestsSeen_;

@@ -5,11 +5,18 @@
 
 #include <QHash>
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Seconds justNow(60);
+
+} // namespace
 
 ReceivedModel::ReceivedModel(ReceivedWatcher& watcher, const Scheduler& scheduler,
                              const QLocale& locale)
@@ -51,6 +58,17 @@ void ReceivedModel::refreshDates() {
     }
 }
 
+Seconds ReceivedModel::untilDatesChange() const {
+    const Date now = scheduler_.now();
+    Seconds until = Seconds::max();
+    for (const ReceivedFile& file : rows()) {
+        const Seconds ago(now.sinceReference - file.came.sinceReference);
+        until = std::min(until,
+                         ago < justNow ? justNow - ago : RelativeDate::untilChange(file.came, now));
+    }
+    return until;
+}
+
 QUrl ReceivedModel::fileAt(int row) const {
     return row >= 0 && row < rowCount() ? rows()[row].id : QUrl();
 }
@@ -76,10 +94,10 @@ void ReceivedModel::update() {
 }
 
 QString ReceivedModel::ago(Date came) const {
-    constexpr double minute = 60;
     const Date now = scheduler_.now();
-    return now.sinceReference - came.sinceReference < minute ? u"just now"_s
-                                                             : relativeDate_.text(came, now);
+    return Seconds(now.sinceReference - came.sinceReference) < justNow
+               ? u"just now"_s
+               : relativeDate_.text(came, now);
 }
 
 } // namespace ravelo

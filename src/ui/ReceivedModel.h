@@ -47,6 +47,9 @@ public:
     /// Tells all times anew, relative to the present moment.
     void refreshDates();
 
+    /// As ClipListModel has it.
+    [[nodiscard]] Seconds untilDatesChange() const;
+
     [[nodiscard]] Q_INVOKABLE QUrl fileAt(int row) const;
 
 Q_SIGNALS:

@@ -24,10 +24,22 @@ int wholeMonths(const QDateTime& from, const QDateTime& to) {
     return months;
 }
 
+constexpr qint64 minute = 60;
+constexpr qint64 hour = 60 * minute;
+constexpr qint64 day = 24 * hour;
+
+/// Of the text; a day is as good as anything longer.
+qint64 unitOf(double seconds) {
+    if (seconds < minute) {
+        return 1;
+    }
+    if (seconds < hour) {
+        return minute;
+    }
+    return seconds < day ? hour : day;
+}
+
 Distance distance(Date from, Date to) {
-    constexpr qint64 minute = 60;
-    constexpr qint64 hour = 60 * minute;
-    constexpr qint64 day = 24 * hour;
     const auto seconds = static_cast<qint64>(to.sinceReference - from.sinceReference);
     if (seconds < minute) {
         return {seconds, UDAT_REL_UNIT_SECOND};
@@ -65,6 +77,13 @@ RelativeDate::RelativeDate(const QLocale& locale)
     : formatter_(std::make_unique<Formatter>(icu::Locale(locale.name().toLatin1().constData()))) {}
 
 RelativeDate::~RelativeDate() = default;
+
+Seconds RelativeDate::untilChange(Date date, Date now) {
+    const double apart = now.sinceReference - date.sinceReference;
+    const auto unit = static_cast<double>(unitOf(std::abs(apart)));
+    const double into = std::fmod(std::abs(apart), unit);
+    return Seconds(apart < 0 ? into : unit - into); // What is to come gets nearer.
+}
 
 QString RelativeDate::text(Date date, Date now) const {
     if (U_FAILURE(formatter_->status)) {

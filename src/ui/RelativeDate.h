@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Date.h"
+#include "base/Scheduler.h"
 
 #include <QLocale>
 #include <QString>
@@ -17,6 +18,9 @@ public:
     ~RelativeDate();
 
     [[nodiscard]] QString text(Date date, Date now) const;
+
+    /// After how long the text may be another one.
+    [[nodiscard]] static Seconds untilChange(Date date, Date now);
 
 private:
     struct Formatter;

@@ -1,6 +1,5 @@
 #include "ui/Sending.h"
 
-#include "shelf/NearbySend.h"
 #include "ui/Toast.h"
 
 #include <QPointer>
@@ -13,13 +12,15 @@ namespace {
 
 constexpr qsizetype longestName = 40;
 
+constexpr Seconds lookInterval{4};
+
 /// A device calls itself whatever it likes.
 QString shortName(const QString& name) {
     const QString line = name.simplified();
     return line.size() > longestName ? line.first(longestName - 1) + u'…' : line;
 }
 
-QString outcome(qsizetype sent, qsizetype all) {
+QString sentence(qsizetype sent, qsizetype all) {
     if (sent == 0) {
         return u"Could not send to "_s;
     }
@@ -28,8 +29,11 @@ QString outcome(qsizetype sent, qsizetype all) {
 
 } // namespace
 
-Sending::Sending(NearbySend& nearby, Toast& toast)
-    : nearby_(nearby), toast_(toast), changes_(nearby.onChange([this] { Q_EMIT changed(); })) {}
+Sending::Sending(NearbySend& nearby, Scheduler& scheduler, Toast& toast)
+    : nearby_(nearby),
+      scheduler_(scheduler),
+      toast_(toast),
+      changes_(nearby.onChange([this] { Q_EMIT changed(); })) {}
 
 bool Sending::isPossible() const {
     return nearby_.way() != NearbySend::Way::none;
@@ -47,6 +51,14 @@ QVariantList Sending::devices() const {
     return devices;
 }
 
+void Sending::setShown(bool shown) {
+    looks_.reset();
+    if (shown) {
+        refresh();
+        looks_ = scheduler_.every(lookInterval, [this] { refresh(); });
+    }
+}
+
 void Sending::refresh() {
     refreshing_ = nearby_.refresh([] {});
 }
@@ -60,11 +72,25 @@ void Sending::send(const QList<QUrl>& files, const QString& deviceId) {
         name = device.id == deviceId ? shortName(device.name) : name;
     }
     nearby_.send(files, deviceId,
-                 [self = QPointer(this), name, all = files.size()](qsizetype sent) {
-                     if (self && !name.isEmpty()) { // A program of its own tells by itself.
-                         self->toast_.flash(outcome(sent, all) + name);
+                 [self = QPointer(this), name, all = files.size()](NearbySend::Outcome outcome) {
+                     if (self) {
+                         self->report(outcome, all, name);
                      }
                  });
+}
+
+/// A program of the desktop, in place of a device, says itself what becomes of the files.
+void Sending::report(NearbySend::Outcome outcome, qsizetype all, const QString& device) {
+    if (outcome.sent == 0 && outcome.folders == all) {
+        toast_.flash(all == 1 ? u"A folder cannot be sent, only files"_s
+                              : u"Folders cannot be sent, only files"_s);
+    } else if (!device.isEmpty()) {
+        toast_.flash(sentence(outcome.sent, all) + device);
+    } else if (outcome.sent > 0) {
+        Q_EMIT programStarted();
+    } else {
+        toast_.flash(u"Could not send"_s);
+    }
 }
 
 } // namespace ravelo

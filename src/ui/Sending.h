@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "shelf/NearbySend.h"
 
 #include <QObject>
 #include <QQmlEngine>
@@ -9,7 +10,7 @@
 
 namespace ravelo {
 
-class NearbySend;
+class Scheduler;
 class Toast;
 
 /// The button that sends files to a device nearby. Main thread.
@@ -22,7 +23,7 @@ class Sending : public QObject {
     Q_PROPERTY(QVariantList devices READ devices NOTIFY changed)
 
 public:
-    Sending(NearbySend& nearby, Toast& toast);
+    Sending(NearbySend& nearby, Scheduler& scheduler, Toast& toast);
 
     [[nodiscard]] bool isPossible() const;
 
@@ -33,8 +34,8 @@ public:
     /// go while the user chooses.
     [[nodiscard]] QVariantList devices() const;
 
-    /// Looks who is there.
-    Q_INVOKABLE void refresh();
+    /// While the button is on the screen it follows who comes into reach, or leaves it.
+    Q_INVOKABLE void setShown(bool shown);
 
     /// To the device of that id, or, where the way leads to none, to whom the desktop's own program
     /// finds.
@@ -42,12 +43,19 @@ public:
 
 Q_SIGNALS:
     void changed();
+    /// A program of the desktop has come up and asks whom to send to.
+    void programStarted();
 
 private:
+    void refresh();
+    void report(NearbySend::Outcome outcome, qsizetype all, const QString& device);
+
     NearbySend& nearby_;
+    Scheduler& scheduler_;
     Toast& toast_;
     Handle changes_;
     Handle refreshing_;
+    Handle looks_; ///< While it is shown.
 };
 
 } // namespace ravelo

@@ -33,6 +33,13 @@ INSTANTIATE_TEST_SUITE_P(
         CaptureCase{"textBeforeImage", {{u"image/png"_s, picture("png")}, text("abc")}, {u"abc"_s}},
         CaptureCase{
             "blankTextThenImage", {text("  "), {u"image/png"_s, picture("png")}}, {u"Image"_s}},
+        CaptureCase{"filesInALine",
+                    {text("/tmp/a b /tmp/c /d"),
+                     {u"text/uri-list"_s, "file:///tmp/a%20b\r\nfile:///tmp/c\r\nfile:///d\r\n"}},
+                    {u"/tmp/a b\n/tmp/c\n/d"_s}},
+        CaptureCase{"otherFilesThanInTheLine",
+                    {text("/tmp/a /tmp/c"), {u"text/uri-list"_s, "file:///tmp/a\r\n"}},
+                    {u"/tmp/a /tmp/c"_s}},
         CaptureCase{"png", {{u"image/png"_s, picture("png")}}, {u"Image"_s}},
         CaptureCase{"bmp", {{u"image/bmp"_s, picture("bmp")}}, {u"Image"_s}},
         CaptureCase{"brokenTiffThenBmp",

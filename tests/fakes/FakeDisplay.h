@@ -22,7 +22,7 @@ public:
     [[nodiscard]] PointerState state() override {
         ++questions;
         const bool clicked = std::exchange(clicked_, false);
-        return {location, buttonDown_ || clicked};
+        return {location, button_ != Qt::NoButton || clicked, button_ == Qt::LeftButton};
     }
 
     [[nodiscard]] Handle onPress(std::function<void()> callback) override {
@@ -39,15 +39,15 @@ public:
         active();
     }
 
-    void press() {
-        buttonDown_ = true;
+    void press(Qt::MouseButton button = Qt::LeftButton) {
+        button_ = button;
         clicked_ = true;
         presses_.notify();
         active();
     }
 
     void release() {
-        buttonDown_ = false;
+        button_ = Qt::NoButton;
         active();
     }
 
@@ -61,7 +61,7 @@ private:
         }
     }
 
-    bool buttonDown_ = false;
+    Qt::MouseButton button_ = Qt::NoButton;
     bool clicked_ = false;
     Listeners<> presses_;
     std::function<void()> wake_;
@@ -166,19 +166,19 @@ class FakeEdgeBarrier final : public EdgeBarrier {
 public:
     [[nodiscard]] bool isTrusted() override { return trusted; }
 
-    [[nodiscard]] Result<Handle> hold(QLineF line) override {
+    [[nodiscard]] Result<Handle> hold(QRectF strip) override {
         ++attempts;
         if (broken) {
             return failure(QStringLiteral("no barrier"));
         }
-        held = line;
+        held = strip;
         return Handle([this] { held.reset(); });
     }
 
     bool trusted = true;
     bool broken = false;
     int attempts = 0;
-    std::optional<QLineF> held;
+    std::optional<QRectF> held;
 };
 
 class FakeSessionLock final : public SessionLock {
@@ -228,20 +228,15 @@ public:
 
     void setOutline(const QPainterPath& path) override { outline = path; }
 
-    [[nodiscard]] bool isTranslucent() const override { return translucent_; }
+    [[nodiscard]] ShowThrough showThrough() const override { return ShowThrough::sharp; }
 
-    [[nodiscard]] Handle onTranslucencyChange(std::function<void()> callback) override {
+    [[nodiscard]] Handle onShowThroughChange(std::function<void()> callback) override {
         return listeners_.add(std::move(callback));
     }
 
     void requestFocus() override { focused = true; }
 
     void returnFocus() override { focused = false; }
-
-    void setTranslucent(bool translucent) {
-        translucent_ = translucent;
-        listeners_.notify();
-    }
 
     QString screen;
     QSizeF size;
@@ -252,7 +247,6 @@ public:
     bool focused = false;
 
 private:
-    bool translucent_ = true;
     Listeners<> listeners_;
 };
 

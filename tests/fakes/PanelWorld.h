@@ -54,9 +54,9 @@ struct PanelWorld {
     }
 
     /// The pointer presses somewhere harmless and a drag begins under it.
-    void beginDrag(std::optional<bool> files) {
+    void beginDrag(std::optional<bool> files, Qt::MouseButton button = Qt::LeftButton) {
         moveTo(100, 500);
-        pointer.press();
+        pointer.press(button);
         scheduler.advance(tick);
         drags.begin(files);
         scheduler.advance(tick);

@@ -122,23 +122,32 @@ TEST_F(PanelTest, IsCutToItsOutlineWhileThereIsNoCompositor) {
     show(u"DUMMY0"_s, {400, 200});
     panel.setOutline(flaredOutline());
     int changes = 0;
-    const Handle subscription = panel.onTranslucencyChange([&] { ++changes; });
+    const Handle subscription = panel.onShowThroughChange([&] { ++changes; });
     ASSERT_TRUE(eventually([&] { return shape(XCB_SHAPE_SK_INPUT) != QRegion(wholeWindow()); }));
     const QRegion outline = shape(XCB_SHAPE_SK_INPUT);
     EXPECT_EQ(shape(XCB_SHAPE_SK_BOUNDING), outline);
-    EXPECT_FALSE(panel.isTranslucent());
+    EXPECT_EQ(panel.showThrough(), PanelWindow::ShowThrough::none);
     {
         const Client picom(u"picom"_s,
                            {u"--backend"_s, u"xrender"_s, u"--config"_s, u"/dev/null"_s});
         ASSERT_TRUE(eventually([&] { return changes == 1; })) << "the compositor is not seen";
-        EXPECT_TRUE(panel.isTranslucent());
+        EXPECT_EQ(panel.showThrough(), PanelWindow::ShowThrough::sharp);
         EXPECT_TRUE(eventually([&] {
             return shape(XCB_SHAPE_SK_BOUNDING) == QRegion(wholeWindow());
         })) << "the window is still cut";
         EXPECT_EQ(shape(XCB_SHAPE_SK_INPUT), outline);
+
+        constexpr auto announcement = "_KDE_NET_WM_BLUR_BEHIND_REGION"; // As KWin makes it.
+        server.setCardinals(server.root(), announcement, {0});
+        ASSERT_TRUE(eventually([&] { return changes == 2; })) << "the blur is not seen";
+        EXPECT_EQ(panel.showThrough(), PanelWindow::ShowThrough::blurred);
+        xcb_delete_property(server.get(), server.root(), server.atom(announcement));
+        xcb_flush(server.get());
+        ASSERT_TRUE(eventually([&] { return changes == 3; })) << "the end of the blur is not seen";
+        EXPECT_EQ(panel.showThrough(), PanelWindow::ShowThrough::sharp);
     }
-    ASSERT_TRUE(eventually([&] { return changes == 2; })) << "the compositor's end is not seen";
-    EXPECT_FALSE(panel.isTranslucent());
+    ASSERT_TRUE(eventually([&] { return changes == 4; })) << "the compositor's end is not seen";
+    EXPECT_EQ(panel.showThrough(), PanelWindow::ShowThrough::none);
     EXPECT_TRUE(eventually([&] { return shape(XCB_SHAPE_SK_BOUNDING) == outline; }))
         << "the window is not cut again";
 }

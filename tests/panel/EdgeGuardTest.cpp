@@ -28,7 +28,7 @@ TEST_P(Guarding, holdsFileDragsAroundTheMiddleOnly) {
     world.scheduler.advance(tick);
     EXPECT_EQ(world.barrier.held.has_value(), GetParam().holds);
     if (GetParam().holds) {
-        EXPECT_EQ(world.barrier.held, QLineF(270, 10, 1170, 10));
+        EXPECT_EQ(world.barrier.held, QRectF(270, 0, 900, 10));
         world.moveTo(10, 500);
         EXPECT_TRUE(world.barrier.held) << "let go while the drag is on";
     }
@@ -47,6 +47,28 @@ INSTANTIATE_TEST_SUITE_P(Drags, Guarding,
                                          GuardCase{
                                              "silentSource", {720, 300}, std::nullopt, false}),
                          [](const auto& row) { return row.param.name; });
+
+TEST(EdgeGuard, holdsNoDragOfAnotherButton) {
+    PanelWorld world;
+    world.beginDrag(true, Qt::RightButton);
+    world.moveTo(720, 300);
+    EXPECT_FALSE(world.barrier.held);
+}
+
+TEST(EdgeGuard, holdsDragsOutOfThePanelToo) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    world.moveTo(720, 300);
+    world.pointer.press();
+    world.scheduler.advance(tick);
+    world.controller.setDraggingOut(true);
+    world.scheduler.advance(tick);
+    EXPECT_EQ(world.barrier.held, QRectF(270, 0, 900, 10));
+    EXPECT_EQ(world.drags.questions, 0) << "its files are known";
+    world.controller.setDraggingOut(false);
+    world.scheduler.advance(tick);
+    EXPECT_FALSE(world.barrier.held) << "held on after the drag";
+}
 
 TEST(EdgeGuard, waitsForTrustAndStartsWithin3Seconds) {
     PanelWorld world;

@@ -155,6 +155,47 @@ TEST(NotchController, dismissedUnderThePointerItWaitsUntilThePointerHasLeft) {
     EXPECT_TRUE(world.controller.isOpen()) << "a file drag always opens";
 }
 
+struct PressCase {
+    const char* name;
+    QPointF press; ///< Where the button went down.
+    bool opens;    ///< While it is down in the hot zone.
+};
+
+class Pressed : public testing::TestWithParam<PressCase> {};
+
+TEST_P(Pressed, hoveringIsHeldBackForAPressElsewhere) {
+    PanelWorld world;
+    const auto [name, press, opens] = GetParam();
+    world.pointer.moveTo(press);
+    world.pointer.press();
+    world.moveTo(720, 5);
+    EXPECT_EQ(world.controller.isOpen(), opens);
+    world.scheduler.advance(Seconds(1));
+    world.pointer.release();
+    world.scheduler.advance(Seconds(1));
+    EXPECT_EQ(world.controller.isOpen(), opens) << "a window was put there";
+    world.moveTo(720, 300);
+    world.moveTo(720, 5);
+    EXPECT_TRUE(world.controller.isOpen());
+}
+
+INSTANTIATE_TEST_SUITE_P(Places, Pressed,
+                         testing::Values(PressCase{"window", {300, 400}, false},
+                                         PressCase{"besideTheHandle", {600, 5}, false},
+                                         PressCase{"handle", {710, 3}, true}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST(NotchController, aDragThatIsNoticedLateOpensAllTheSame) {
+    PanelWorld world;
+    world.moveTo(300, 400);
+    world.pointer.press();
+    world.moveTo(720, 5);
+    ASSERT_FALSE(world.controller.isOpen());
+    world.drags.begin(false);
+    world.scheduler.advance(tick);
+    EXPECT_TRUE(world.controller.isOpen());
+}
+
 TEST(NotchController, whereThePointersPlaceIsUnknownTheWindowsOwnHoverOpensAndCloses) {
     PanelWorld world;
     world.pointer.location = std::nullopt;

@@ -40,7 +40,10 @@ protected:
 
     void send(const QList<QUrl>& files, const QString& device) {
         sent_.reset();
-        nearby_.send(files, device, [this](qsizetype sent) { sent_ = sent; });
+        nearby_.send(files, device, [this](const auto& outcome) {
+            sent_ = outcome.sent;
+            folders_ = outcome.folders;
+        });
         scheduler_.advance(Seconds(0));
     }
 
@@ -51,6 +54,7 @@ protected:
     FakeDetachedJobs jobs_{scheduler_};
     NearbySend nearby_{{devices_, programs_, jobs_, scheduler_}};
     std::optional<qsizetype> sent_;
+    qsizetype folders_ = 0;
 };
 
 TEST_F(Nearby, findsDevicesFirstThenAProgram) {
@@ -100,6 +104,7 @@ TEST_F(Nearby, aDeviceIsGivenWhatItCanTake) {
     EXPECT_EQ(sent_, std::nullopt);
     devices_.answerSend(true);
     EXPECT_EQ(sent_, 3);
+    EXPECT_EQ(folders_, 1) << "/tmp";
     send(files, u"phone"_s);
     devices_.answerSend(false);
     EXPECT_EQ(sent_, 0);

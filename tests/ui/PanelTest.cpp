@@ -49,6 +49,26 @@ TEST_F(Panel, tellsDatesAnewAtTheOpening) {
     EXPECT_EQ(find(item(u"card0"_s), u"subtitle"_s)->property("text"), u"3 hr. ago"_s);
 }
 
+TEST_F(Panel, letsAgesGoOnWhileItIsOpen) {
+    const auto age = [this] {
+        return find(item(u"card0"_s), u"subtitle"_s)->property("text").toString();
+    };
+    world.scheduler.advance(Seconds(10));
+    const int atRest = world.scheduler.pending();
+    open();
+    EXPECT_EQ(age(), u"1 min. ago"_s);
+    world.scheduler.advance(Seconds(60));
+    EXPECT_EQ(age(), u"2 min. ago"_s);
+    world.store.addClip(u"new"_s);
+    world.scheduler.advance(Seconds(5));
+    EXPECT_EQ(age(), u"5 sec. ago"_s);
+    world.scheduler.advance(Seconds(3596));
+    EXPECT_EQ(age(), u"1 hr. ago"_s);
+    close();
+    world.scheduler.advance(Seconds(10));
+    EXPECT_EQ(world.scheduler.pending(), atRest) << "nobody sees them";
+}
+
 TEST_F(Panel, tellsHowMuchOfThePlanIsUsed) {
     const auto percents = [this] {
         return in(u"usageSession"_s, u"percent"_s)->property("text").toString() + u' ' +

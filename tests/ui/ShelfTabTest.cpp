@@ -175,7 +175,7 @@ struct ShelfKeysCase {
 
 class ShelfKeys : public ShelfTab, public testing::WithParamInterface<ShelfKeysCase> {};
 
-TEST_P(ShelfKeys, workFromTheFirstTileOn) {
+TEST_P(ShelfKeys, workFromTheTileThatAnArrowCameTo) {
     park(0, 9); // Eight in a line.
     park(10, 11);
     openByKey();
@@ -192,27 +192,33 @@ const auto all = u"0 1 2 3 4 5 6 7 8 9 10 11"_s;
 
 INSTANTIATE_TEST_SUITE_P(
     All, ShelfKeys,
-    testing::Values(ShelfKeysCase{"space", {Qt::Key_Space}, u"0"_s, all, {}},
-                    ShelfKeysCase{"sideways",
-                                  {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Space},
-                                  u"2"_s,
-                                  all,
-                                  {}},
-                    ShelfKeysCase{
-                        "down", {Qt::Key_Right, Qt::Key_Down, Qt::Key_Space}, u"9"_s, all, {}},
-                    ShelfKeysCase{"downAndUp",
-                                  {Qt::Key_Down, Qt::Key_Down, Qt::Key_Space, Qt::Key_Up,
-                                   Qt::Key_Up, Qt::Key_Up, Qt::Key_Space},
-                                  u"0 10"_s,
-                                  all,
-                                  {}},
-                    ShelfKeysCase{"delete",
-                                  {Qt::Key_End, Qt::Key_Delete, Qt::Key_Delete, Qt::Key_Space},
-                                  u"9"_s,
-                                  u"0 1 2 3 4 5 6 7 8 9"_s,
-                                  {}},
-                    ShelfKeysCase{"selectAll", {Qt::CTRL | Qt::Key_A}, all, all, {}},
-                    ShelfKeysCase{"return", {Qt::Key_Right, Qt::Key_Return}, {}, all, u"1"_s}),
+    testing::Values(
+        ShelfKeysCase{"spaceAtOnce", {Qt::Key_Space}, {}, all, {}},
+        ShelfKeysCase{"returnAtOnce", {Qt::Key_Return}, {}, all, {}},
+        ShelfKeysCase{"deleteAtOnce", {Qt::Key_Delete}, {}, all, {}},
+        ShelfKeysCase{"menuAtOnce", {Qt::Key_Menu, Qt::Key_Return}, {}, all, {}},
+        ShelfKeysCase{"space", {Qt::Key_Right, Qt::Key_Space}, u"0"_s, all, {}},
+        ShelfKeysCase{"sideways",
+                      {Qt::Key_Left, Qt::Key_Right, Qt::Key_Right, Qt::Key_Space},
+                      u"2"_s,
+                      all,
+                      {}},
+        ShelfKeysCase{
+            "down", {Qt::Key_Right, Qt::Key_Right, Qt::Key_Down, Qt::Key_Space}, u"9"_s, all, {}},
+        ShelfKeysCase{"downAndUp",
+                      {Qt::Key_Down, Qt::Key_Down, Qt::Key_Down, Qt::Key_Space, Qt::Key_Up,
+                       Qt::Key_Up, Qt::Key_Up, Qt::Key_Space},
+                      u"0 10"_s,
+                      all,
+                      {}},
+        ShelfKeysCase{"byTab", {Qt::Key_Backtab, Qt::Key_Tab, Qt::Key_Space}, u"0"_s, all, {}},
+        ShelfKeysCase{"delete",
+                      {Qt::Key_End, Qt::Key_Delete, Qt::Key_Delete, Qt::Key_Space},
+                      u"9"_s,
+                      u"0 1 2 3 4 5 6 7 8 9"_s,
+                      {}},
+        ShelfKeysCase{"selectAll", {Qt::CTRL | Qt::Key_A}, all, all, {}},
+        ShelfKeysCase{"return", {Qt::Key_Right, Qt::Key_Right, Qt::Key_Return}, {}, all, u"1"_s}),
     [](const auto& row) { return row.param.name; });
 
 TEST_F(ShelfTab, opensAFileOrItsFolderByItsMenu) {
@@ -303,6 +309,46 @@ INSTANTIATE_TEST_SUITE_P(All, ShelfSending,
                                                   u"t"_s,
                                                   u"Sent 1 of 2 to Tablet"_s}),
                          [](const auto& row) { return row.param.name; });
+
+TEST_F(ShelfTab, lightsItsButtonForDevicesThatComeLaterWhileItShows) {
+    park(1, 1);
+    open();
+    world.devices.answer({});
+    world.scheduler.advance(Seconds(0.1));
+    ASSERT_FALSE(view.host().sending()->isPossible());
+    world.scheduler.advance(Seconds(4));
+    world.devices.answer({{u"p"_s, u"Pixel"_s}});
+    EXPECT_TRUE(view.host().sending()->isPossible());
+    close();
+    const int looks = world.devices.looks;
+    world.scheduler.advance(Seconds(60));
+    EXPECT_EQ(world.devices.looks, looks) << "nobody sees it";
+}
+
+TEST_F(ShelfTab, saysWhyAFolderIsNotSent) {
+    world.store.addToShelf({QUrl::fromLocalFile(world.folder.path())});
+    open();
+    world.devices.answer({{u"p"_s, u"Pixel"_s}});
+    world.scheduler.advance(Seconds(0.1));
+    clickOn(u"airdrop"_s);
+    world.scheduler.advance(Seconds(0.1));
+    EXPECT_EQ(view.host().toast()->text(), u"A folder cannot be sent, only files"_s);
+    EXPECT_TRUE(world.devices.sent.isEmpty());
+}
+
+TEST_F(ShelfTab, makesWayForTheProgramThatSends) {
+    QFile there(world.folder.filePath(u"there"_s));
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    world.store.addToShelf({QUrl::fromLocalFile(there.fileName())});
+    world.programs.installed = {u"blueman-sendto"_s};
+    open();
+    world.devices.answer({});
+    world.scheduler.advance(Seconds(0.1));
+    clickOn(u"airdrop"_s);
+    world.scheduler.advance(Seconds(0.1));
+    EXPECT_EQ(world.programs.started.size(), 1);
+    EXPECT_FALSE(world.controller.isOpen()) << "the panel lies over its window";
+}
 
 TEST_F(ShelfTab, listsWhatIsReceivedAndTakesItOntoTheShelf) {
     open();

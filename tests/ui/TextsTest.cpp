@@ -29,6 +29,8 @@ struct DateCase {
     QLocale locale = english;
 };
 
+constexpr double day = 86400;
+
 class RelativeDateText : public testing::TestWithParam<DateCase> {};
 
 TEST_P(RelativeDateText, tellsTheLargestWholeUnit) {
@@ -36,12 +38,19 @@ TEST_P(RelativeDateText, tellsTheLargestWholeUnit) {
     EXPECT_EQ(dates.text(GetParam().date, GetParam().now), GetParam().text);
 }
 
+TEST_P(RelativeDateText, staysUntilItsNextChange) {
+    const RelativeDate dates(GetParam().locale);
+    const Seconds until = RelativeDate::untilChange(GetParam().date, GetParam().now);
+    EXPECT_GE(until.count(), 0);
+    EXPECT_LE(until.count(), day);
+    const Date before{GetParam().now.sinceReference + std::max(0.0, until.count() - 0.001)};
+    EXPECT_EQ(dates.text(GetParam().date, before), GetParam().text);
+}
+
 DateCase ago(const char* name, double seconds, const QString& text) {
     const Date now = at(2026, 5, 9);
     return {name, {now.sinceReference - seconds}, now, text};
 }
-
-constexpr double day = 86400;
 
 INSTANTIATE_TEST_SUITE_P(
     All, RelativeDateText,

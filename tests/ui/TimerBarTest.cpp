@@ -206,6 +206,36 @@ TEST_F(Bar, leavesNotchAndOtherSideAloneHoweverLongTheTexts) {
     }
 }
 
+TEST_F(Bar, isLitForFiveSecondsAfterTheTimersEnd) {
+    const auto bar = [this] {
+        return find(view_.window().contentItem(), u"bar"_s);
+    };
+    const auto isLit = [&] {
+        return bar()->isVisible() && bar()->property("ended").toBool();
+    };
+    world_.store.startTimer(u"work"_s, 0.1);
+    show({});
+    const auto dark = bar()->property("color").value<QColor>();
+    world_.scheduler.advance(Seconds(5.9));
+    EXPECT_FALSE(isLit());
+    world_.scheduler.advance(Seconds(0.2));
+    EXPECT_TRUE(isLit());
+    EXPECT_NE(bar()->property("color").value<QColor>(), dark);
+    EXPECT_EQ(texts(u"left"_s), QStringList{u"work"_s});
+    EXPECT_EQ(texts(u"right"_s), QStringList{u"00:00"_s});
+    world_.scheduler.advance(Seconds(4.8));
+    EXPECT_TRUE(isLit());
+    world_.scheduler.advance(Seconds(0.2));
+    EXPECT_FALSE(bar()->isVisible());
+
+    world_.store.startTimer(u"work"_s, 0.1);
+    world_.scheduler.advance(Seconds(7));
+    world_.store.startTimer(u"more"_s, 1);
+    EXPECT_FALSE(isLit()) << "another one runs";
+    world_.store.stopTimer();
+    EXPECT_FALSE(bar()->isVisible()) << "stopped by hand";
+}
+
 TEST_F(Bar, doesNotCountWhileItIsNotOnTheScreen) {
     world_.store.startTimer(u"work"_s, 25);
     show({});

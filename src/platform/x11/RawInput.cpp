@@ -24,7 +24,9 @@ std::optional<PointerSight> look(Connection& connection) {
         return std::nullopt;
     }
     constexpr int buttons = XCB_BUTTON_MASK_1 | XCB_BUTTON_MASK_2 | XCB_BUTTON_MASK_3;
-    return PointerSight{{reply->root_x, reply->root_y}, (reply->mask & buttons) != 0};
+    return PointerSight{{reply->root_x, reply->root_y},
+                        (reply->mask & buttons) != 0,
+                        (reply->mask & XCB_BUTTON_MASK_1) != 0};
 }
 
 RawInput::RawInput(Connection& connection, Callbacks callbacks)

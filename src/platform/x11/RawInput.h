@@ -15,6 +15,7 @@ namespace ravelo::x11 {
 struct PointerSight {
     QPoint location; ///< In the server's pixels.
     bool buttonDown = false;
+    bool leftDown = false;
 
     friend bool operator==(const PointerSight&, const PointerSight&) = default;
 };

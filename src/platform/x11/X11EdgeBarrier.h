@@ -5,12 +5,16 @@
 
 #include <QPoint>
 
+#include <xcb/xfixes.h>
+
 #include <functional>
+#include <vector>
 
 namespace ravelo::x11 {
 
-/// Pointer barriers (XFixes 5): they hold relative motion, also under another client's grab, but no
-/// pointer that a program warps. The server removes them with our connection. Main thread.
+/// Pointer barriers (XFixes 5), one below and one at each side: they hold relative motion, also
+/// under another client's grab, but no pointer that a program warps. The server removes them with
+/// our connection. Main thread.
 class X11EdgeBarrier final : public EdgeBarrier {
 public:
     /// From global logical pixels to the server's.
@@ -23,10 +27,19 @@ public:
     /// Always: a server without barriers is none that we connect to.
     [[nodiscard]] bool isTrusted() override { return !connection_.isBroken(); }
 
-    /// One round trip.
-    [[nodiscard]] Result<Handle> hold(QLineF line) override;
+    /// Two round trips.
+    [[nodiscard]] Result<Handle> hold(QRectF strip) override;
 
 private:
+    /// A line that can be crossed in the allowed direction only.
+    struct Barrier {
+        QPoint from;
+        QPoint to;
+        xcb_xfixes_barrier_directions_t allowed;
+    };
+
+    [[nodiscard]] Result<Handle> make(const std::vector<Barrier>& barriers);
+
     Connection& connection_;
     ToNative toNative_;
 };

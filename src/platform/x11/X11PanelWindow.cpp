@@ -45,12 +45,16 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       focus_(connection, events),
       shadow_(connection.atom("_COMPTON_SHADOW")),
       skipCloseAnimation_(connection.atom("_KDE_NET_WM_SKIP_CLOSE_ANIMATION")),
-      blurRegion_(connection.atom("_KDE_NET_WM_BLUR_BEHIND_REGION")),
+      blur_(connection, events),
       qt_(qtConnection()),
       restackingNotices_{connection.atom("_NET_CLIENT_LIST"),
                          connection.atom("_NET_CLIENT_LIST_STACKING"),
                          connection.atom("_NET_WORKAREA")},
-      compositorSubscription_(compositor.onChange([this] { applyOutline(); })),
+      compositorSubscription_(compositor.onChange([this] {
+          applyOutline();
+          showThroughListeners_.notify();
+      })),
+      blurSubscription_(blur_.onChange([this] { showThroughListeners_.notify(); })),
       eventSubscription_(events.onEvent([this](const auto& event) { stayAbove(event); })) {
     window_.setFlags(Qt::X11BypassWindowManagerHint | Qt::FramelessWindowHint |
                      Qt::WindowStaysOnTopHint);
@@ -99,12 +103,15 @@ void X11PanelWindow::setOutline(const QPainterPath& outline) {
     applyOutline();
 }
 
-bool X11PanelWindow::isTranslucent() const {
-    return compositor_.isOwned() && window_.format().hasAlpha();
+PanelWindow::ShowThrough X11PanelWindow::showThrough() const {
+    if (!compositor_.isOwned() || !window_.format().hasAlpha()) {
+        return ShowThrough::none;
+    }
+    return blur_.isAnnounced() ? ShowThrough::blurred : ShowThrough::sharp;
 }
 
-Handle X11PanelWindow::onTranslucencyChange(std::function<void()> callback) {
-    return compositor_.onChange(std::move(callback));
+Handle X11PanelWindow::onShowThroughChange(std::function<void()> callback) {
+    return showThroughListeners_.add(std::move(callback));
 }
 
 void X11PanelWindow::requestFocus() {
@@ -152,7 +159,7 @@ void X11PanelWindow::applyOutline() {
     }
     const auto rectangles = rectanglesOf(outlineRegion(*outline_, scale_));
     setShape(XCB_SHAPE_SK_INPUT, rectangles);
-    if (isTranslucent()) {
+    if (showThrough() != ShowThrough::none) {
         xcb_shape_mask(qt_, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, id_, 0, 0, XCB_PIXMAP_NONE);
     } else {
         setShape(XCB_SHAPE_SK_BOUNDING, rectangles);
@@ -163,7 +170,7 @@ void X11PanelWindow::applyOutline() {
                        {static_cast<uint32_t>(rectangle.x), static_cast<uint32_t>(rectangle.y),
                         rectangle.width, rectangle.height});
     }
-    setCardinals(blurRegion_, blurred);
+    setCardinals(blur_.property(), blurred);
     xcb_flush(qt_);
 }
 

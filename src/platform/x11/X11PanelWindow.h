@@ -1,6 +1,8 @@
 #pragma once
 
+#include "base/Listeners.h"
 #include "platform/PanelWindow.h"
+#include "platform/x11/BlurEffect.h"
 #include "platform/x11/ForeignCover.h"
 #include "platform/x11/InputFocus.h"
 #include "platform/x11/ManagerSelection.h"
@@ -30,8 +32,8 @@ public:
     void orderFront() override;
     void orderOut() override;
     void setOutline(const QPainterPath& outline) override;
-    [[nodiscard]] bool isTranslucent() const override;
-    [[nodiscard]] Handle onTranslucencyChange(std::function<void()> callback) override;
+    [[nodiscard]] ShowThrough showThrough() const override;
+    [[nodiscard]] Handle onShowThroughChange(std::function<void()> callback) override;
     void requestFocus() override;
     void returnFocus() override;
 
@@ -50,13 +52,15 @@ private:
     InputFocus focus_;
     const xcb_atom_t shadow_;
     const xcb_atom_t skipCloseAnimation_;
-    const xcb_atom_t blurRegion_;
+    BlurEffect blur_;
+    Listeners<> showThroughListeners_;
     std::optional<QPainterPath> outline_;
     double scale_ = 1;     ///< Device pixels in a logical one, where the window was placed last.
     xcb_connection_t* qt_; ///< Qt's own connection.
     xcb_window_t id_ = XCB_WINDOW_NONE;
     const std::vector<xcb_atom_t> restackingNotices_;
     Handle compositorSubscription_;
+    Handle blurSubscription_;
     Handle eventSubscription_;
 };
 

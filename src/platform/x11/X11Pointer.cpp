@@ -32,7 +32,7 @@ PointerState X11Pointer::state() {
     if (!seen_ || known_ == Known::overX11Windows) {
         return {std::nullopt, pressed};
     }
-    return {toLogical_(seen_->location), seen_->buttonDown || pressed};
+    return {toLogical_(seen_->location), seen_->buttonDown || pressed, seen_->leftDown};
 }
 
 Handle X11Pointer::onNextActivity(std::function<void()> wake) {

@@ -116,7 +116,6 @@ QtObject {
     readonly property color grip: white(0.36)
     readonly property color ring: white(0.92)
     readonly property color ringTrack: white(0.20)
-    readonly property color dot: white(0.35)
 
     /// Where something so high stands in the middle of an item: on a device pixel, the lower of two.
     function middle(outer: Item, height: real, devicePixelRatio: real): real {

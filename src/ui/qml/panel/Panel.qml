@@ -50,6 +50,7 @@ Item {
         visible: !slot.open && panel.host.controller.showsBar
         host: panel.host
         notch: panel.host.controller.notch
+        ended: panel.host.controller.timerEnded
     }
 
     Binding {

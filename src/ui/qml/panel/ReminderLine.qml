@@ -8,6 +8,7 @@ Row {
     property alias texts: fit.texts
     property alias room: fit.room
     property alias countsRest: fit.countsRest
+    property color color: Theme.text2
     /// How many of the texts are shown.
     readonly property int count: fit.widths.length
 
@@ -18,7 +19,7 @@ Row {
         width: 3
         height: 3
         radius: 1.5
-        color: Theme.dot
+        color: Theme.withAlpha(line.color, 0.35) // qmllint disable unqualified
     }
 
     FittedTexts {
@@ -48,7 +49,7 @@ Row {
                 width: entry.modelData
                 text: fit.texts[entry.index] ?? "" // qmllint disable unqualified
                 style: Theme.chip
-                color: Theme.text2
+                color: line.color // qmllint disable unqualified
             }
         }
     }
@@ -63,6 +64,6 @@ Row {
         visible: text !== ""
         text: fit.rest
         style: Theme.chip
-        color: Theme.text2
+        color: line.color
     }
 }

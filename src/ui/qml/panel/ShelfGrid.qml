@@ -11,9 +11,13 @@ FocusScope {
     required property bool shown
 
     readonly property ShelfContents shelf: host.shelf
-    /// The file that the keyboard is at; there may be fewer by now.
-    property int wanted: 0
-    readonly property int current: Math.max(0, Math.min(wanted, shelf.count - 1))
+    /// The file that the keyboard is at, -1 for none; there may be fewer by now.
+    property int wanted: -1
+    readonly property int current: Math.min(wanted, shelf.count - 1)
+    /// The keyboard has been elsewhere in the panel. Until then it is here because the panel was
+    /// opened, by a key that may be followed by others that were meant for another program.
+    property bool wasElsewhere: false
+    readonly property Item keyboard: Window.activeFocusItem
 
     signal menuRequested(Item tile, point place, bool byKey)
 
@@ -24,6 +28,19 @@ FocusScope {
         flick.contentY = Math.max(0, Math.min(rect.y - margin, Math.max(flick.contentY,
             rect.y + rect.height + margin - flick.height)));
         tileAt(current)?.forceActiveFocus();
+    }
+
+    /// By an arrow: the first one comes to the first file.
+    function step(place: int) {
+        go(current < 0 ? 0 : place);
+    }
+
+    function isAround(item: Item): bool {
+        let around = grid;
+        while (around && around !== item) {
+            around = around.parent;
+        }
+        return around !== null;
     }
 
     function tileAt(place: int): Item {
@@ -46,21 +63,24 @@ FocusScope {
     Accessible.name: "Shelf"
     activeFocusOnTab: true
     onWidthChanged: shelf.lay(width)
+    onKeyboardChanged: {
+        wasElsewhere = wasElsewhere || (keyboard !== null && !activeFocus && !isAround(keyboard));
+    }
     onActiveFocusChanged: {
-        if (activeFocus && !tileAt(current)?.activeFocus) {
+        if (activeFocus && (current >= 0 || wasElsewhere) && !tileAt(current)?.activeFocus) {
             go(current);
         }
     }
 
     Keys.onPressed: event => {
         if (event.key === Qt.Key_Left) {
-            go(current - 1);
+            step(current - 1);
         } else if (event.key === Qt.Key_Right) {
-            go(current + 1);
+            step(current + 1);
         } else if (event.key === Qt.Key_Up) {
-            go(shelf.above(current));
+            step(shelf.above(current));
         } else if (event.key === Qt.Key_Down) {
-            go(shelf.below(current));
+            step(shelf.below(current));
         } else if (event.key === Qt.Key_Home) {
             go(0);
         } else if (event.key === Qt.Key_End) {
@@ -72,13 +92,17 @@ FocusScope {
         } else if (event.key === Qt.Key_Delete && !event.isAutoRepeat) {
             if (shelf.hasSelection) {
                 shelf.removeSelected();
-            } else {
+            } else if (current >= 0) {
                 shelf.remove(current);
             }
-            go(current);
+            if (current >= 0) {
+                go(current);
+            }
         } else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
                    && !event.isAutoRepeat) {
-            host.openFile(shelf.fileAt(current));
+            if (current >= 0) {
+                host.openFile(shelf.fileAt(current));
+            }
         } else if (event.key === Qt.Key_Menu) {
             if (tileAt(current)) {
                 grid.menuRequested(tileAt(current), Qt.point(50, 90), true);

@@ -12,16 +12,9 @@ FocusScope {
 
     readonly property bool empty: host.shelf.count === 0
 
-    onShownChanged: {
-        if (shown) {
-            host.sending.refresh();
-        }
-    }
-    Component.onCompleted: {
-        if (shown) {
-            host.sending.refresh();
-        }
-    }
+    onShownChanged: host.sending.setShown(shown)
+    Component.onCompleted: host.sending.setShown(shown)
+    Component.onDestruction: host.sending.setShown(false)
 
     // Files may go, or come back, meanwhile.
     Timer {

@@ -9,10 +9,16 @@ NotchFill {
     required property PanelHost host
     /// Width of the notch; 0 where there is none.
     property real notch: 0
+    /// The timer has just ended: the whole bar is lit.
+    property bool ended: false
 
-    readonly property bool timing: host.store.timerRunning
+    readonly property bool timing: host.store.timerRunning || ended
     readonly property bool reminding: host.store.reminderVisible
     readonly property var reminders: host.store.reminders
+    readonly property string remaining: ended ? "00:00" : host.timerFace.remaining
+    readonly property color ink: ended ? Theme.onWhite : Theme.text1
+    readonly property color paleInk: ended ? Theme.onWhite : Theme.text3
+    readonly property color reminderInk: ended ? Theme.onWhite : Theme.text2
 
     readonly property real pad: 20
     readonly property real gap: 8
@@ -22,20 +28,21 @@ NotchFill {
 
     flare: 8
     bottomRadius: notch > 0 ? 14 : 12
-    color: Theme.bar
+    color: ended ? Theme.toast : Theme.bar
 
     component Icon: Glyph {
         y: Theme.middle(parent, height, Screen.devicePixelRatio)
         symbol: "checklist"
         size: 15
-        color: Theme.text3
+        color: bar.paleInk // qmllint disable unqualified
     }
 
     component Time: Label {
         anchors.verticalCenter: parent.verticalCenter
         style: Theme.strong
         tabular: true
-        color: Theme.text1
+        text: bar.remaining // qmllint disable unqualified
+        color: bar.ink // qmllint disable unqualified
     }
 
     // The timer, or else the first reminders; these stand in the middle where no notch does.
@@ -57,15 +64,14 @@ NotchFill {
                 anchors.fill: parent
                 anchors.margins: 0.25
                 lineWidth: 2
-                fraction: bar.host.timerFace.fraction
-                color: Theme.ring
+                fraction: bar.ended ? 1 : bar.host.timerFace.fraction
+                color: bar.ended ? Theme.onWhite : Theme.ring
                 trackColor: Theme.ringTrack
             }
         }
 
         Time {
             objectName: "time"
-            text: bar.host.timerFace.remaining
             visible: bar.timing && bar.reminding
         }
 
@@ -78,7 +84,7 @@ NotchFill {
             width: Math.max(0, Math.min(implicitWidth, end - left.x - x))
             text: bar.host.store.timerLabel
             style: Theme.chip
-            color: bar.reminding ? Theme.text3 : Theme.text2
+            color: bar.reminding ? bar.paleInk : bar.reminderInk
         }
 
         Icon {
@@ -90,6 +96,7 @@ NotchFill {
             id: first
             objectName: "reminders"
             visible: bar.reminding && !bar.timing
+            color: bar.reminderInk
             texts: bar.notch > 0 ? bar.reminders.slice(0, Math.ceil(bar.reminders.length / 2))
                                  : bar.reminders
             countsRest: bar.notch === 0
@@ -107,13 +114,13 @@ NotchFill {
 
         Time {
             objectName: "time"
-            text: bar.host.timerFace.remaining
             visible: bar.timing && !bar.reminding
         }
 
         ReminderLine {
             objectName: "reminders"
             visible: bar.reminding && (bar.timing || bar.notch > 0)
+            color: bar.reminderInk
             texts: bar.timing ? bar.reminders : bar.reminders.slice(first.count)
             room: bar.timing ? bar.side - bar.iconRoom : bar.side
         }
