@@ -62,6 +62,15 @@ SCENES = [
     ("toast", "10-toast.html", ".panel", [
         ("toast", ".toast", ALL),
     ]),
+    ("undo", "24a-undo-toast.html", ".panel", [
+        ("toast", ".toast", ALL),
+        ("toast/toastAction", ".toast .ab", ALL),
+    ]),
+    ("search-nothing", "20e-search-nothing-found.html", ".panel", [
+        ("emptyDisc", ".empty .o", ALL),
+        ("emptyTitle", ".empty b", "yh"),
+        ("emptySubtitle", ".empty span:last-child", "yh"),
+    ]),
     ("too-large", "22b-too-large.html", ".panel", [
         ("list/card2", ".card:nth-child(3)", ALL),
         ("list/card2/tile", ".card:nth-child(3) .g", ALL),

@@ -1,5 +1,7 @@
 #include "store/ClipHistory.h"
 
+#include "store/Deleted.h"
+
 #include <QUrl>
 
 #include <algorithm>
@@ -88,6 +90,20 @@ std::optional<ClipChange> ClipHistory::deleted(QList<ClipItem> clips, const QUui
     if (clips.size() == before) {
         return std::nullopt;
     }
+    return ClipChange{std::move(clips), std::move(orphans)};
+}
+
+std::optional<ClipChange> ClipHistory::restored(QList<ClipItem> clips, const ClipItem& clip,
+                                                const QList<QUuid>& order) {
+    const auto stands = [&clip](const ClipItem& one) {
+        return one.id == clip.id || (!one.pinned && !clip.pinned && one.kind == clip.kind &&
+                                     one.kind != ClipKind::image && one.text == clip.text);
+    };
+    if (std::ranges::any_of(std::as_const(clips), stands)) {
+        return std::nullopt;
+    }
+    clips.insert(placeFor(clip.id, order, clips), clip);
+    QStringList orphans = enforceLimit(clips);
     return ClipChange{std::move(clips), std::move(orphans)};
 }
 

@@ -34,6 +34,11 @@ struct ClipHistory {
 
     [[nodiscard]] static std::optional<ClipChange> deleted(QList<ClipItem> clips, const QUuid& id);
 
+    /// A deleted clip comes back, to its old place in a list whose ids were once `order`. Not if
+    /// its text was copied again meanwhile.
+    [[nodiscard]] static std::optional<ClipChange>
+    restored(QList<ClipItem> clips, const ClipItem& clip, const QList<QUuid>& order);
+
     /// Only the pinned clips stay.
     [[nodiscard]] static ClipChange cleared(QList<ClipItem> clips);
 };

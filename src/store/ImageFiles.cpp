@@ -36,12 +36,16 @@ bool isImageName(const QString& name) {
 
 } // namespace
 
-bool writeImage(const QString& path, const QByteArray& png, const OwnFile::Permission& mayWrite) {
-    if (png.isEmpty() || !isAllowed(mayWrite)) {
-        return false;
+Result<void> writeImage(const QString& path, const QByteArray& png,
+                        const OwnFile::Permission& mayWrite) {
+    if (png.isEmpty()) {
+        return failure(u"there is no image"_s);
+    }
+    if (const Result<void> allowed = mayWrite ? mayWrite() : Result<void>(); !allowed) {
+        return allowed;
     }
     makePrivateFolder(QFileInfo(path).path());
-    return writeFileAtomically(path, png).has_value();
+    return writeFileAtomically(path, png);
 }
 
 void removeImage(const QString& path, const OwnFile::Permission& mayWrite) {

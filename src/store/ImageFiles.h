@@ -12,10 +12,10 @@ namespace ravelo {
 
 // The image files of the clips folder. All of this blocks and is for the worker.
 
-/// Writes an image, as PNG, and makes its folder if that was removed. False if there is no image or
-/// it could not be written.
-[[nodiscard]] bool writeImage(const QString& path, const QByteArray& png,
-                              const OwnFile::Permission& mayWrite);
+/// Writes an image, as PNG, and makes its folder if that was removed. An error, in words fit for
+/// the user, if there is no image or it could not be written.
+[[nodiscard]] Result<void> writeImage(const QString& path, const QByteArray& png,
+                                      const OwnFile::Permission& mayWrite);
 
 void removeImage(const QString& path, const OwnFile::Permission& mayWrite);
 

@@ -79,7 +79,7 @@ private:
         const auto written = std::make_shared<bool>(false);
         auto job = [path = path_, contents, file, written, decoder = services_.decoder,
                     mayWrite = services_.mayWrite] {
-            *written = writeImage(path, pngImage(contents, file, *decoder), mayWrite);
+            *written = writeImage(path, pngImage(contents, file, *decoder), mayWrite).has_value();
         };
         services_.worker.run(std::move(job), [self = shared_from_this(), written] {
             if (!self->done_) {

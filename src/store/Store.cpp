@@ -159,7 +159,7 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
     auto job = [path = imagePath(name), contents, outcome, decoder = services_.decoder,
                 mayWrite = services_.mayWrite](const CopiedContents& file) {
         const QByteArray png = pngImage(contents, file.bytes, *decoder);
-        outcome->written = writeImage(path, png, mayWrite);
+        outcome->written = writeImage(path, png, mayWrite).has_value();
         outcome->tooLarge = png.isEmpty() ? oversizedFile(file, *decoder) : std::nullopt;
     };
     auto add = [this, name, outcome, kept = std::move(kept), refused = std::move(refused),
@@ -207,28 +207,8 @@ void Store::apply(std::optional<ClipChange> change) {
     Q_EMIT clipsChanged();
 }
 
-void Store::removeImages(const QStringList& imageFileNames) {
-    for (const QString& name : imageFileNames) {
-        services_.worker.run(
-            [path = imagePath(name), decoder = services_.decoder, mayWrite = services_.mayWrite] {
-                removeImage(path, mayWrite);
-                decoder->forget(PictureFile{QFile::encodeName(path)});
-            });
-    }
-}
-
 void Store::togglePin(const QUuid& id) {
     apply(ClipHistory::pinToggled(data_.clips, id));
-}
-
-void Store::deleteClip(const QUuid& id) {
-    apply(ClipHistory::deleted(data_.clips, id));
-}
-
-void Store::clearClips() {
-    ++clearings_;
-    Q_EMIT cleared();
-    apply(ClipHistory::cleared(data_.clips));
 }
 
 void Store::updateSnippet(const Snippet& snippet) {
@@ -244,19 +224,6 @@ void Store::addSnippet(const Snippet& snippet) {
     data_.snippets.append(snippet);
     save();
     Q_EMIT snippetsChanged();
-}
-
-void Store::removeSnippet(const QUuid& id) {
-    const auto found = std::ranges::find(data_.snippets, id, &Snippet::id);
-    if (found != data_.snippets.end()) {
-        const Snippet removed = *found;
-        data_.snippets.erase(found);
-        if (!removed.imageFileName.isEmpty()) {
-            removeImages({removed.imageFileName});
-        }
-        save();
-        Q_EMIT snippetsChanged();
-    }
 }
 
 void Store::addToShelf(const QList<QUrl>& urls) {

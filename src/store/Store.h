@@ -20,6 +20,7 @@
 namespace ravelo {
 
 class AlertSound;
+class Deleted;
 class DetachedJobs;
 class ImageDecoder;
 class Pasteboard;
@@ -27,6 +28,7 @@ class Preferences;
 class Scheduler;
 class Worker;
 struct ClipChange;
+struct DeletedRecord;
 struct PasteboardSnapshot;
 
 /// The one observable store that every view reads: clips, snippets, notes, sketch and shelf, the
@@ -95,14 +97,30 @@ public:
     void addImageClip(const PasteboardSnapshot& contents, Kept kept = {}, Refused refused = {});
 
     Q_INVOKABLE void togglePin(const QUuid& id);
-    Q_INVOKABLE void deleteClip(const QUuid& id);
+    /// Memory and disk lose what is deleted at once; `kept`, if any, gets it for `restore`.
+    void deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept = {});
     /// Takes away all unpinned clips, also those that are still on their way.
-    Q_INVOKABLE void clearClips();
+    void clearClips(const std::shared_ptr<Deleted>& kept);
+
+    Q_INVOKABLE void clearClips() { clearClips({}); }
+
     void updateSnippet(const Snippet& snippet);
     /// Appends it.
     void addSnippet(const Snippet& snippet);
-    /// Takes it away with its image.
-    Q_INVOKABLE void removeSnippet(const QUuid& id);
+    /// Takes it away with its image. As `deleteClip` has it.
+    void removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept = {});
+
+    /// How many records came back, and why not the others, in words fit for the user.
+    struct Restored {
+        qsizetype count = 0;
+        QString problem;
+    };
+
+    /// Puts back what was deleted, once its images are on the disk again, and calls `done`. What
+    /// was copied again meanwhile counts as back. Nothing comes back if the history was cleared
+    /// since.
+    void restore(const std::shared_ptr<Deleted>& deleted,
+                 std::function<void(const Restored&)> done);
 
     /// Writes the image now on the pasteboard to the clips folder and calls `done` with its file
     /// name, or with an empty one where there is no image. Later, never from within the call. When
@@ -187,6 +205,9 @@ private:
     [[nodiscard]] std::function<void()> unlessCleared(std::function<void()> add,
                                                       std::function<void()> discard);
     void apply(std::optional<ClipChange> change);
+    void forget(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept);
+    void putBack(const QList<DeletedRecord>& records);
+    void saveAtOnce();
     void tellKept(const QString& text, const Kept& kept) const; ///< For a text.
     void setShelf(Shelf shelf);
     void write();

@@ -4,6 +4,7 @@
 
 #include <QFontMetricsF>
 #include <QGlyphRun>
+#include <QTextBoundaryFinder>
 #include <QTextLayout>
 
 #include <cmath>
@@ -64,6 +65,17 @@ GlyphLine proportional(const QString& text, const QFont& font) {
     GlyphLine line;
     append(line, text, font, 0);
     return line;
+}
+
+/// What stays of the end of a file's name: its suffix and a letter before it, as a rule.
+QString endOf(const QString& name) {
+    constexpr qsizetype length = 5;
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, name);
+    letters.setPosition(std::max(qsizetype(0), name.size() - length));
+    if (!letters.isAtBoundary()) {
+        letters.toPreviousBoundary();
+    }
+    return name.mid(letters.position());
 }
 
 class LabelNode final : public PaintNode {
@@ -130,8 +142,11 @@ void Label::measure() {
 
 std::shared_ptr<const GlyphLine> Label::elided() const {
     const QFont font = style_->font();
-    const Qt::TextElideMode mode = keepsEnd_ ? Qt::ElideMiddle : Qt::ElideRight;
-    const QString shown = QFontMetricsF(font).elidedText(text_, mode, width());
+    const QFontMetricsF metrics(font);
+    const QString end = keepsEnd_ ? endOf(text_) : QString();
+    const QString shown = metrics.elidedText(text_.chopped(end.size()), Qt::ElideRight,
+                                             width() - metrics.horizontalAdvance(end)) +
+                          end;
     return std::make_shared<const GlyphLine>(proportional(shown, font));
 }
 

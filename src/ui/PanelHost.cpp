@@ -32,6 +32,7 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       focusControls_(subjects.store, subjects.preferences),
       pasting_(subjects.pasteboard),
       toast_(subjects.scheduler),
+      deleting_(subjects.store, toast_, locale),
       links_(subjects.opener, subjects.scheduler, toast_),
       shelf_(subjects.store, subjects.jobs, subjects.scheduler),
       received_(subjects.received, subjects.scheduler, locale),

@@ -7,6 +7,7 @@
 #include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "ui/ClipListModel.h"
+#include "ui/Deleting.h"
 #include "ui/FileDrag.h"
 #include "ui/FocusControls.h"
 #include "ui/LinkOpening.h"
@@ -56,6 +57,7 @@ class PanelHost : public QObject {
     Q_PROPERTY(ravelo::FileDrag* fileDrag READ fileDrag CONSTANT)
     Q_PROPERTY(bool shelfRequested READ shelfRequested CONSTANT)
     Q_PROPERTY(ravelo::Toast* toast READ toast CONSTANT)
+    Q_PROPERTY(ravelo::Deleting* deleting READ deleting CONSTANT)
     Q_PROPERTY(ravelo::TimerFace* timerFace READ timerFace CONSTANT)
     Q_PROPERTY(bool hasContent READ hasContent NOTIFY hasContentChanged)
     Q_PROPERTY(QSizeF contentSize READ contentSize NOTIFY contentSizeChanged)
@@ -120,6 +122,8 @@ public:
     [[nodiscard]] bool shelfRequested() const;
 
     [[nodiscard]] Toast* toast() { return &toast_; }
+
+    [[nodiscard]] Deleting* deleting() { return &deleting_; }
 
     [[nodiscard]] TimerFace* timerFace() { return &timerFace_; }
 
@@ -197,6 +201,7 @@ private:
     FocusControls focusControls_;
     Pasting pasting_;
     Toast toast_;
+    Deleting deleting_;
     LinkOpening links_;
     ShelfContents shelf_;
     ReceivedModel received_;

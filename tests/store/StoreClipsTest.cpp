@@ -219,7 +219,8 @@ TEST_P(StoreSnippets, AreSavedWhereTheyChange) {
     GetParam().change(*store_, data.snippets[1].id);
     const bool changes = GetParam().titles != u"a b c"_s;
     EXPECT_EQ(told.count(), changes ? 1 : 0);
-    EXPECT_EQ(scheduler_.pending(), changes ? 1 : 0) << "of saves";
+    const bool deletes = GetParam().images.isEmpty(); // Which does not wait.
+    EXPECT_EQ(scheduler_.pending(), changes && !deletes ? 1 : 0) << "of saves";
     settle();
     EXPECT_EQ(titlesOf(saved().snippets), GetParam().titles);
     EXPECT_EQ(saved().snippets, store_->snippets());

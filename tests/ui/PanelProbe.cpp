@@ -281,6 +281,12 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         send(window, QEvent::MouseMove, {643, 417});
     } else if (scene == u"question") {
         click(window, middle(window, u"trash"_s));
+    } else if (scene == u"presets-key") {
+        find(window.contentItem(), u"presetMenu"_s)->forceActiveFocus();
+        press(window, Qt::Key_Return);
+        settle(300);
+        press(window, Qt::Key_Down);
+        press(window, Qt::Key_Down);
     } else if (scene == u"presets" || scene == u"preset-editor") {
         click(window, middle(window, u"presetMenu"_s));
         settle(300);
@@ -324,9 +330,18 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     } else if (scene == u"toast") {
         click(window, middle(window, u"card2"_s));
         send(window, QEvent::MouseMove, {5, 300});
-    } else if (scene == u"search") {
+    } else if (scene == u"undo") {
+        send(window, QEvent::MouseMove, middle(window, u"card2"_s));
+        settle(200);
+        click(window, middle(window, u"card2/delete"_s));
+        send(window, QEvent::MouseMove, {5, 300});
+    } else if (scene.startsWith(u"search"_s)) {
         click(window, middle(window, u"searchInput"_s));
-        find(window.contentItem(), u"searchInput"_s)->setProperty("text", u"larkspur"_s);
+        find(window.contentItem(), u"searchInput"_s)
+            ->setProperty("text", scene == u"search-nothing" ? u"larkspurr"_s : u"larkspur"_s);
+        if (scene == u"search-question") {
+            click(window, middle(window, u"trash"_s));
+        }
     } else if (scene == u"shelf-drop") {
         dragFilesOver(world, window);
     } else if (scene == u"shelf-selected") {
@@ -349,9 +364,15 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
 /// The window that the scene is about, if it is not the panel.
 QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
                          OnboardingController& onboarding) {
-    if (scene == u"settings") {
+    if (scene.startsWith(u"settings"_s)) {
         settings.show();
         settle();
+        if (scene != u"settings") { // "settings-hover", "settings-pressed"
+            const bool pressed = scene == u"settings-pressed";
+            send(*settings.window(), pressed ? QEvent::MouseButtonPress : QEvent::MouseMove,
+                 middle(*settings.window(), u"launchAtLogin"_s));
+            settle(200);
+        }
         return settings.window();
     }
     if (!scene.startsWith(u"setup"_s)) {
@@ -494,12 +515,13 @@ int main(int argc, char** argv) {
         data.clips.append(clip(QString::number(data.clips.size()), day));
     }
     PanelWorld world(data);
-    const double now = world.scheduler.now().sinceReference;
+    const bool shelf = scene.startsWith(u"shelf"_s);
+    // When the picture is taken: what was received for the shelf takes a day to arrive.
+    const double now = world.scheduler.now().sinceReference + (shelf ? day.count() : 0);
     UsageWorld spent(world.scheduler, {UsageWindow{42, Date{now + 125.5 * 60}},
                                        UsageWindow{78, Date{now + 76.5 * 3600}}});
     room().save(world.store.imagePath(u"room.png"_s));
     plan().save(world.store.imagePath(u"plan.png"_s));
-    const bool shelf = scene.startsWith(u"shelf"_s);
     world.settings.setLastTab(shelf ? u"Shelf"_s : scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
     PanelView view;
     view.load(subjects(world, spent.usage), QLocale(u"en_US"_s));

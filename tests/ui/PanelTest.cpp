@@ -204,6 +204,21 @@ INSTANTIATE_TEST_SUITE_P(
                               3}),
     [](const auto& row) { return row.param.name; });
 
+TEST_F(Panel, aSnippetWithoutATitleIsNotSaved) {
+    open();
+    const qsizetype before = world.store.snippets().size();
+    clickOn(u"addSnippet"_s);
+    clickOn(u"bodyInput"_s);
+    clickOn(u"save"_s);
+    EXPECT_TRUE(view.host().snippetEditor()->isEditing()) << "what was typed is lost";
+    EXPECT_TRUE(item(u"titleField"_s)->property("mistaken").toBool()) << "nothing says why";
+    EXPECT_TRUE(item(u"titleInput"_s)->hasActiveFocus());
+    type(u"t"_s);
+    EXPECT_FALSE(item(u"titleField"_s)->property("mistaken").toBool());
+    clickOn(u"save"_s);
+    EXPECT_EQ(world.store.snippets().size(), before + 1);
+}
+
 TEST_F(Panel, escapeClearsTheSearchAndThenCloses) {
     open();
     clickOn(u"searchInput"_s);

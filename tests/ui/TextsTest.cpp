@@ -150,6 +150,37 @@ INSTANTIATE_TEST_SUITE_P(
                   {{2.15, false}, {2.25, true}, {2.55, true}, {2.65, false}}}),
     [](const auto& row) { return row.param.name; });
 
+TEST(Toast, anOfferStaysTenSecondsBelowMessages) {
+    ManualScheduler scheduler;
+    Toast toast(scheduler);
+    const auto shows = [&] {
+        return toast.text() + u'|' + toast.action();
+    };
+    int acted = 0;
+    toast.flashCopied();
+    toast.offer(u"Deleted"_s, u"Undo"_s, [&] { ++acted; });
+    scheduler.advance(Seconds(2));
+    EXPECT_EQ(shows(), u"Deleted|Undo"_s) << "an older message's end took it away";
+    toast.flashCopied();
+    EXPECT_EQ(shows(), u"Copied ✓|"_s);
+    scheduler.advance(Seconds(2));
+    EXPECT_EQ(shows(), u"Deleted|Undo"_s);
+    toast.setHeld(true);
+    scheduler.advance(Seconds(60));
+    EXPECT_EQ(shows(), u"Deleted|Undo"_s) << "its time goes on while it is pointed at";
+    toast.setHeld(false);
+    scheduler.advance(Seconds(5.9));
+    EXPECT_EQ(shows(), u"Deleted|Undo"_s);
+    scheduler.advance(Seconds(0.2));
+    EXPECT_EQ(shows(), u"|"_s);
+    EXPECT_FALSE(toast.act());
+
+    toast.offer(u"Deleted"_s, u"Undo"_s, [&] { ++acted; });
+    EXPECT_TRUE(toast.act());
+    EXPECT_FALSE(toast.act()) << "twice";
+    EXPECT_EQ(acted, 1);
+}
+
 TEST(Toast, aResetLeavesNothingToCome) {
     ManualScheduler scheduler;
     Toast toast(scheduler);

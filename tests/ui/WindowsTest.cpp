@@ -192,7 +192,7 @@ TEST_F(Settings, ClearsAtOnceWhatIsNotPinned) {
     clickOn(window, u"clearHistory"_s);
     ASSERT_EQ(world.store.clips().size(), 1);
     EXPECT_EQ(world.store.clips()[0].text, u"second"_s);
-    EXPECT_EQ(label(u"clips"_s), u"1 items stored"_s);
+    EXPECT_EQ(label(u"clips"_s), u"1 item stored"_s);
 }
 
 TEST_F(Settings, IsHiddenWhenItIsClosedAndUsedAgain) {

@@ -91,12 +91,18 @@ QtObject {
     readonly property color primaryPressed: white(0.82)
     readonly property color toast: white(0.95)
     readonly property color onWhite: "#131316"
+    readonly property color toastButton: withAlpha(onWhite, 0.09)
+    readonly property color hoveredToastButton: withAlpha(onWhite, 0.16)
+    readonly property color pressedToastButton: withAlpha(onWhite, 0.22)
 
     readonly property color window: "#1D1D21"
     readonly property color windowLine: white(0.09)
     readonly property color rowLine: white(0.06)
     readonly property color fill: "#4D8DF0"
+    readonly property color hoveredFill: "#559BFF"
+    readonly property color pressedFill: "#457FD8"
     readonly property color knob: white(1)
+    readonly property color pressedKnob: "#E6E6E6"
     readonly property color sliderTrack: white(0.14)
     readonly property color switchOff: white(0.16)
     readonly property color hoveredSwitchOff: white(0.21)

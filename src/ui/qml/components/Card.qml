@@ -17,6 +17,7 @@ Item {
     default property alias actions: buttons.data
 
     readonly property bool hovered: hover.hovered
+    readonly property real textEnd: width - 12 - (hovered ? buttons.width + 6 : 26)
 
     signal tapped
 
@@ -84,7 +85,7 @@ Item {
         objectName: "title"
         x: 46
         y: 4.5
-        width: Math.min(implicitWidth, end.x - 12 - x)
+        width: Math.min(implicitWidth, card.textEnd - x)
         style: Theme.rowTitle
         text: card.title
         color: card.titleColor
@@ -94,34 +95,35 @@ Item {
         objectName: "subtitle"
         x: 46
         y: 21.5
-        width: Math.min(implicitWidth, end.x - 12 - x)
+        width: Math.min(implicitWidth, card.textEnd - x)
         style: Theme.subtitle
         color: Theme.text3
         text: card.subtitle
     }
 
-    Item {
-        id: end
-        x: card.width - width - (card.hovered ? 6 : 10)
-        width: card.hovered ? buttons.width : 16
-        height: parent.height
+    Label {
+        objectName: "digit"
+        visible: opacity > 0
+        opacity: 1 - buttons.opacity
+        x: card.width - 26
+        y: 13
+        width: 16
+        centred: true
+        style: Theme.digit
+        color: Theme.hint
+        text: card.digit
+    }
 
-        Label {
-            objectName: "digit"
-            visible: !card.hovered
-            y: 13
-            width: 16
-            centred: true
-            style: Theme.digit
-            color: Theme.hint
-            text: card.digit
-        }
+    Row {
+        id: buttons
+        visible: card.hovered || opacity > 0 // Pressed at once it must be there.
+        opacity: card.hovered ? 1 : 0
+        x: card.width - width - 6
+        y: 8
+        spacing: 4
 
-        Row {
-            id: buttons
-            visible: card.hovered
-            y: 8
-            spacing: 4
+        Behavior on opacity {
+            NumberAnimation { duration: Theme.hovering }
         }
     }
 }

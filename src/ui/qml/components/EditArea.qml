@@ -43,6 +43,10 @@ TextEdit {
             event.accepted = true;
             return;
         }
+        if (event.matches(StandardKey.Undo) && !area.canUndo) {
+            event.accepted = area.host.toast.act();
+            return;
+        }
         const cuts = event.matches(StandardKey.Cut);
         if (area.selectedText !== "" && (cuts || event.matches(StandardKey.Copy))) {
             area.host.controller.copy(exact.part(area.selectionStart, area.selectionEnd));

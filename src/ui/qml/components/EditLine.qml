@@ -8,6 +8,8 @@ TextInput {
     required property PanelHost host
     property string placeholder
     property TextStyle style: Theme.body
+    /// The offer of the toast that was the last when something was typed.
+    property int typedAt: -1
 
     Accessible.role: Accessible.EditableText
     Accessible.name: placeholder
@@ -22,18 +24,25 @@ TextInput {
     activeFocusOnPress: true
     activeFocusOnTab: true
     cursorDelegate: Caret {}
+    onTextEdited: typedAt = host.toast.offers()
 
     Keys.onPressed: event => {
         if (event.matches(StandardKey.Paste)) {
             input.host.pasting.into(input, Pasting.OneLine);
             event.accepted = true;
+        } else if (event.matches(StandardKey.Undo)) {
+            // What came last is undone first.
+            const typedSince = input.canUndo && input.typedAt === input.host.toast.offers();
+            event.accepted = !typedSince && input.host.toast.act();
         }
     }
 
     Label {
+        objectName: "hint"
         visible: input.text === "" && input.preeditText === ""
+        x: input.activeFocus ? 2.5 : 0 // Behind the caret.
         y: (input.height - height) / 2
-        width: parent.width
+        width: parent.width - x
         text: input.placeholder
         color: Theme.placeholder
         style: input.style

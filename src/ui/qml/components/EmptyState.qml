@@ -8,6 +8,8 @@ Item {
     property alias symbol: glyph.symbol
     property alias title: title.text
     property alias subtitle: subtitle.text
+    /// A line below, which moves nothing.
+    property alias detail: detail.text
 
     Column {
         anchors.centerIn: parent
@@ -49,6 +51,17 @@ Item {
             anchors.horizontalCenter: parent.horizontalCenter
             style: Theme.bodyLoose
             color: Theme.text3
+
+            Label {
+                id: detail
+                objectName: "emptyDetail"
+                x: (parent.width - width) / 2
+                y: parent.height
+                width: Math.min(implicitWidth, empty.width - 48)
+                visible: text !== ""
+                style: Theme.bodyLoose
+                color: Theme.text3
+            }
         }
     }
 }

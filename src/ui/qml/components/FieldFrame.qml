@@ -8,14 +8,18 @@ Surface {
     required property Item input
     /// It stands on something that floats, not on the panel.
     property bool floats: false
+    property bool lit: input.activeFocus
+    /// What is in it will not do.
+    property bool mistaken: false
 
     radius: Theme.radiusSmall
     rest: floats ? Theme.floatingField : Theme.surface2
     hover: Theme.hoveredField
     press: Theme.hoveredField
-    hovered: hover.hovered && !input.activeFocus
-    lineColor: input.activeFocus ? Theme.withAlpha(Theme.accent, floats ? 0.60 : 0.55)
-                                 : floats ? Theme.floatingFieldLine : Theme.line
+    hovered: hover.hovered && !lit
+    lineColor: mistaken ? Theme.withAlpha(Theme.red, 0.70)
+        : lit ? Theme.withAlpha(Theme.accent, floats ? 0.60 : 0.55)
+        : floats ? Theme.floatingFieldLine : Theme.line
     lineWidth: 1
 
     HoverHandler {
@@ -23,11 +27,12 @@ Surface {
     }
 
     Box {
-        visible: frame.input.activeFocus
+        visible: frame.lit || frame.mistaken
         anchors.fill: parent
         anchors.margins: -3
         radius: parent.radius + 3
-        lineColor: Theme.withAlpha(Theme.accent, frame.floats ? 0.18 : 0.16)
+        lineColor: frame.mistaken ? Theme.withAlpha(Theme.red, 0.14)
+            : Theme.withAlpha(Theme.accent, frame.floats ? 0.18 : 0.16)
         lineWidth: 3
     }
 }

@@ -51,9 +51,13 @@ Popover {
 
         property real widest: 0
 
+        // Room for the ring around an item.
         anchors.fill: parent
-        clip: contentHeight > height
-        interactive: contentHeight > height
+        anchors.margins: -2
+        topMargin: 2
+        bottomMargin: 2
+        clip: interactive
+        interactive: contentHeight > height - 4
         boundsBehavior: Flickable.StopAtBounds
         cacheBuffer: 10000 // The widest of all counts.
         model: menu.entries
@@ -66,7 +70,9 @@ Popover {
             readonly property bool divides: modelData.divider ?? false
 
             objectName: "item" + index
-            width: list.width
+            x: 2
+            z: ring.visible ? 1 : 0
+            width: list.width - 4
             height: divides ? 11 : 28
             radius: Theme.radiusTile
             rest: Theme.none
@@ -106,6 +112,14 @@ Popover {
                 text: item.modelData.text ?? ""
                 style: Theme.body
                 color: Theme.text1
+            }
+
+            FocusRing {
+                id: ring
+                enabled: item.index === menu.current
+                control: item
+                anchors.margins: -2
+                radius: item.radius + 2
             }
 
             MouseArea {

@@ -1,17 +1,20 @@
 import QtQuick
 import Ravelo
 
-/// The short message near the panel's bottom: comes with a spring, rising, and fades.
+/// The short message near the panel's bottom: comes with a spring, rising, and fades. May have a
+/// button.
 Item {
     id: capsule
 
-    required property ToastMessage message
+    required property PanelHost host
 
+    readonly property ToastMessage message: host.toast
     readonly property bool shown: message.text !== ""
+    readonly property bool offers: message.action !== ""
 
     Accessible.role: Accessible.AlertMessage
-    Accessible.name: label.text
-    width: label.implicitWidth + 36
+    Accessible.name: offers ? label.text + ". Undo with Control Z" : label.text
+    width: button.visible ? button.x + button.width + 4 : label.implicitWidth + 36
     height: 36
     opacity: 0
     visible: opacity > 0
@@ -31,13 +34,55 @@ Item {
         height: parent.height
         radius: 18
         color: Theme.toast
+        enabled: capsule.offers
+
+        // What lies below is not pressed by a press beside the button.
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.AllButtons
+            hoverEnabled: true
+        }
+
+        HoverHandler {
+            id: hover
+        }
 
         Label {
             id: label
-            anchors.horizontalCenter: parent.horizontalCenter
+            x: 18
             y: 10
             style: Theme.strong
             color: Theme.onWhite
+        }
+
+        Pressable {
+            id: button
+            objectName: "toastAction"
+            visible: name !== ""
+            x: label.x + label.implicitWidth + 14
+            y: 4
+            width: action.implicitWidth + 26
+            height: 28
+            radius: 14
+            rest: Theme.toastButton
+            hover: Theme.hoveredToastButton
+            press: Theme.pressedToastButton
+            onClicked: {
+                const focused = activeFocus;
+                capsule.message.act();
+                if (focused) {
+                    capsule.host.keyboardFreed();
+                }
+            }
+
+            Label {
+                id: action
+                x: 13
+                y: 6
+                style: Theme.strong
+                color: Theme.onWhite
+                text: button.name
+            }
         }
     }
 
@@ -47,8 +92,16 @@ Item {
         function onTextChanged() {
             if (capsule.shown) {
                 label.text = capsule.message.text;
+                button.name = capsule.message.action;
             }
         }
+    }
+
+    // Nobody is hurried who is about to press it.
+    Binding {
+        target: capsule.message
+        property: "held"
+        value: capsule.offers && (hover.hovered || button.activeFocus)
     }
 
     states: State {

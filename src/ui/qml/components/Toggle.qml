@@ -13,8 +13,8 @@ Pressable {
     implicitHeight: 22
     radius: 11
     rest: on ? Theme.fill : Theme.switchOff
-    hover: on ? Theme.fill : Theme.hoveredSwitchOff
-    press: on ? Theme.fill : Theme.pressedSwitchOff
+    hover: on ? Theme.hoveredFill : Theme.hoveredSwitchOff
+    press: on ? Theme.pressedFill : Theme.pressedSwitchOff
     Accessible.role: Accessible.CheckBox
     Accessible.checkable: true
     Accessible.checked: on
@@ -25,6 +25,7 @@ Pressable {
         objectName: "knob"
         x: toggle.on ? 18 : 2
         y: 2
+        color: toggle.on && toggle.pressed ? Theme.pressedKnob : Theme.knob
 
         Behavior on x {
             NumberAnimation {

@@ -33,7 +33,7 @@ FocusScope {
         if (row === host.clips.tooLargeRow) {
             host.clips.dismissTooLarge();
         } else {
-            host.store.deleteClip(host.clips.idAt(row));
+            host.deleting.deleteClip(host.clips.idAt(row));
         }
     }
 
@@ -135,6 +135,7 @@ FocusScope {
         symbol: "doc.on.clipboard"
         title: "No clipboard history yet"
         subtitle: "Copy anything with ⌘C and it shows up here."
+        detail: tab.host.clips.search === "" ? "" : `Nothing has “${tab.host.clips.search}”`
     }
 
     FadingEdge {

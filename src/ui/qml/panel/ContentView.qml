@@ -42,7 +42,7 @@ FocusScope {
             clipboard.search();
         } else if (event.key === Qt.Key_F6) {
             notice.toggleFocus();
-        } else {
+        } else if (!event.matches(StandardKey.Undo) || !host.toast.act()) {
             return;
         }
         event.accepted = true;
@@ -181,6 +181,6 @@ FocusScope {
     ToastCapsule {
         anchors.horizontalCenter: parent.horizontalCenter
         y: parent.height - height - 26
-        message: content.host.toast
+        host: content.host
     }
 }

@@ -88,6 +88,12 @@ Surface {
                 name: "Put on the shelf"
                 symbol: "tray.full"
                 onClicked: row.host.shelf.park(row.file) // qmllint disable unqualified
+
+                NumberAnimation on opacity {
+                    from: 0
+                    to: 1
+                    duration: Theme.hovering
+                }
             }
         }
     }

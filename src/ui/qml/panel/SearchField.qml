@@ -9,6 +9,7 @@ FieldFrame {
     property alias edited: line
 
     input: line
+    lit: line.activeFocus || question.opened && question.focusedBefore === line
     implicitHeight: 32
     radius: Theme.radiusRow
 
@@ -72,6 +73,6 @@ FieldFrame {
         host: field.host
         text: "Clear clipboard history?"
         yesFirst: true
-        onAccepted: field.host.store.clearClips()
+        onAccepted: field.host.deleting.clearClips()
     }
 }

@@ -21,7 +21,18 @@ FocusScope {
         }
     }
 
+    /// Without a title it stays, and says what is missing.
+    function save() {
+        titleField.mistaken = !editor.canSave;
+        if (editor.canSave) {
+            editor.save();
+        } else {
+            title.forceActiveFocus();
+        }
+    }
+
     function begin() {
+        titleField.mistaken = false;
         focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
         title.text = editor.title;
         body.exactText = editor.body;
@@ -55,7 +66,7 @@ FocusScope {
         if (event.key === Qt.Key_Escape) {
             editor.cancel();
         } else if (returns && (event.modifiers & Qt.ControlModifier || title.activeFocus)) {
-            editor.save();
+            layer.save();
         }
         event.accepted = true; // Nothing below hears a key meanwhile.
     }
@@ -125,6 +136,7 @@ FocusScope {
         }
 
         FieldFrame {
+            id: titleField
             objectName: "titleField"
             input: title
             floats: true
@@ -143,7 +155,10 @@ FocusScope {
                 placeholder: "Title"
                 KeyNavigation.tab: body
                 KeyNavigation.backtab: save
-                onTextChanged: layer.editor.title = text
+                onTextChanged: {
+                    layer.editor.title = text;
+                    titleField.mistaken = false;
+                }
             }
         }
 
@@ -242,7 +257,7 @@ FocusScope {
             y: save.y
             large: true
             text: "Cancel"
-            KeyNavigation.tab: save.enabled ? save : title
+            KeyNavigation.tab: save
             KeyNavigation.backtab: attach.visible ? attach : remove
             onClicked: layer.editor.cancel()
         }
@@ -255,11 +270,10 @@ FocusScope {
             large: true
             sidePad: 20
             primary: true
-            enabled: layer.editor.canSave
             text: "Save"
             KeyNavigation.tab: title
             KeyNavigation.backtab: cancel
-            onClicked: layer.editor.save()
+            onClicked: layer.save()
         }
     }
 }

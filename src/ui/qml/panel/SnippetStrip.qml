@@ -121,6 +121,6 @@ Item {
         objectName: "deleteQuestion"
         host: strip.host
         text: "Delete snippet?"
-        onAccepted: strip.host.store.removeSnippet(strip.chosen)
+        onAccepted: strip.host.deleting.removeSnippet(strip.chosen)
     }
 }

@@ -89,7 +89,7 @@ TitledPage {
 
             SettingRow {
                 objectName: "clips"
-                text: view.host.clipCount + " items stored"
+                text: view.host.clipCount === 1 ? "1 item stored" : view.host.clipCount + " items stored"
 
                 CapsuleButton {
                     objectName: "clearHistory"

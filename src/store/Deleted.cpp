@@ -1,0 +1,81 @@
+#include "store/Deleted.h"
+
+#include "base/Files.h"
+#include "store/ImageFiles.h"
+
+#include <QFile>
+#include <QFileInfo>
+
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QString imagePath(const DeletedRecord& record, const QString& folder) {
+    const QString name = std::visit(
+        [](const auto& one) { return QFileInfo(one.imageFileName).fileName(); }, record.record);
+    return name.isEmpty() ? QString() : folder + u'/' + name;
+}
+
+qint64 sizeOf(const ClipItem& clip) {
+    return clip.text.size() * qint64(sizeof(QChar));
+}
+
+qint64 sizeOf(const Snippet& snippet) {
+    return (snippet.title.size() + snippet.body.size()) * qint64(sizeof(QChar));
+}
+
+qint64 sizeOf(const DeletedRecord& record) {
+    return std::visit([](const auto& one) { return sizeOf(one); }, record.record) +
+           (record.png ? record.png->size() : 0);
+}
+
+} // namespace
+
+void Deleted::add(const QList<DeletedRecord>& records, const QString& folder) {
+    for (DeletedRecord record : records) {
+        const QString path = imagePath(record, folder);
+        const bool hasImage = !path.isEmpty() && isRegularFile(QFile::encodeName(path));
+        const qint64 size = sizeOf(record) + (hasImage ? QFileInfo(path).size() : 0);
+        while (!records_.isEmpty() && bytes_ + size > limit) {
+            bytes_ -= sizeOf(records_.takeFirst());
+            ++lost_;
+        }
+        if (hasImage && size <= limit) {
+            record.png = readFile(path);
+        }
+        if (size > limit || (hasImage && !record.png)) {
+            ++lost_;
+            continue;
+        }
+        bytes_ += sizeOf(record);
+        records_.append(std::move(record));
+    }
+}
+
+Deleted::Restorable Deleted::restore(const QString& folder, const OwnFile::Permission& mayWrite) {
+    Restorable all{{}, std::exchange(lost_, 0), {}};
+    if (all.lost > 0) {
+        all.problem = u"too large to keep in memory"_s;
+    }
+    bytes_ = 0;
+    for (QList<DeletedRecord> records = std::exchange(records_, {}); !records.isEmpty();) {
+        DeletedRecord record = records.takeLast();
+        if (record.png) {
+            const auto written = writeImage(imagePath(record, folder), *record.png, mayWrite);
+            if (!written) {
+                all.problem = written.error().message;
+                ++all.lost;
+                continue;
+            }
+            record.png.reset();
+        }
+        all.records.append(std::move(record));
+    }
+    return all;
+}
+
+} // namespace ravelo

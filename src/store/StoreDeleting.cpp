@@ -1,0 +1,116 @@
+// How the store deletes, and how what was deleted comes back.
+
+#include "base/Files.h"
+#include "platform/ImageDecoder.h"
+#include "platform/Worker.h"
+#include "store/ClipHistory.h"
+#include "store/Deleted.h"
+#include "store/ImageFiles.h"
+#include "store/Store.h"
+
+#include <QFile>
+
+#include <algorithm>
+#include <utility>
+
+namespace ravelo {
+
+void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
+    if (auto change = ClipHistory::deleted(data_.clips, id)) {
+        forget(deletedRecords(data_.clips, change->clips), kept);
+        apply(ClipChange{std::move(change->clips), {}});
+        saveAtOnce();
+    }
+}
+
+void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
+    ++clearings_;
+    Q_EMIT cleared();
+    ClipChange change = ClipHistory::cleared(data_.clips);
+    forget(deletedRecords(data_.clips, change.clips), kept);
+    apply(ClipChange{std::move(change.clips), {}});
+    saveAtOnce();
+}
+
+void Store::removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
+    QList<Snippet> left = data_.snippets;
+    if (left.removeIf([&id](const Snippet& snippet) { return snippet.id == id; }) > 0) {
+        forget(deletedRecords(data_.snippets, left), kept);
+        data_.snippets = std::move(left);
+        saveAtOnce();
+        Q_EMIT snippetsChanged();
+    }
+}
+
+/// Takes the images of the records off the disk, and into memory first if they may come back.
+void Store::forget(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept) {
+    QStringList images;
+    for (const DeletedRecord& record : records) {
+        const QString name =
+            std::visit([](const auto& one) { return one.imageFileName; }, record.record);
+        if (!name.isEmpty()) {
+            images.append(name);
+        }
+    }
+    if (kept) {
+        services_.worker.run([records, folder = clipsDir(), kept = std::weak_ptr(kept)] {
+            if (const auto still = kept.lock()) {
+                still->add(records, folder);
+            }
+        });
+    }
+    removeImages(images);
+}
+
+void Store::removeImages(const QStringList& imageFileNames) {
+    for (const QString& name : imageFileNames) {
+        services_.worker.run(
+            [path = imagePath(name), decoder = services_.decoder, mayWrite = services_.mayWrite] {
+                removeImage(path, mayWrite);
+                decoder->forget(PictureFile{QFile::encodeName(path)});
+            });
+    }
+}
+
+void Store::restore(const std::shared_ptr<Deleted>& deleted,
+                    std::function<void(const Restored&)> done) {
+    const auto restorable = std::make_shared<Deleted::Restorable>();
+    auto discard = [this, restorable] {
+        forget(restorable->records, {});
+    };
+    auto putBackAll = [this, restorable, done = std::move(done)] {
+        putBack(restorable->records);
+        done({restorable->records.size(), restorable->problem});
+    };
+    services_.worker.run(
+        [deleted, restorable, folder = clipsDir(), mayWrite = services_.mayWrite] {
+            *restorable = deleted->restore(folder, mayWrite);
+        },
+        unlessCleared(std::move(putBackAll), std::move(discard)));
+}
+
+void Store::putBack(const QList<DeletedRecord>& records) {
+    ClipChange clips{data_.clips, {}};
+    for (const DeletedRecord& deleted : records) {
+        if (const auto* clip = std::get_if<ClipItem>(&deleted.record)) {
+            if (auto change = ClipHistory::restored(clips.clips, *clip, deleted.order)) {
+                clips.clips = std::move(change->clips);
+                clips.orphanedImages += change->orphanedImages;
+            }
+        } else {
+            const auto& snippet = std::get<Snippet>(deleted.record);
+            data_.snippets.insert(placeFor(snippet.id, deleted.order, data_.snippets), snippet);
+        }
+    }
+    apply(std::move(clips));
+    Q_EMIT snippetsChanged();
+    saveAtOnce();
+}
+
+/// Deleted is deleted: not 0.4 s later, when the program may have been killed.
+void Store::saveAtOnce() {
+    save();
+    write();
+}
+
+} // namespace ravelo

@@ -1,0 +1,92 @@
+#include "ui/Deleting.h"
+
+#include "store/Deleted.h"
+#include "store/Store.h"
+#include "ui/Toast.h"
+
+#include <QPointer>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+struct Deleting::Offered {
+    std::shared_ptr<Deleted> records = std::make_shared<Deleted>();
+    qsizetype clips = 0;
+    qsizetype cleared = 0; ///< Clips, too.
+    qsizetype snippets = 0;
+
+    [[nodiscard]] qsizetype count() const { return clips + cleared + snippets; }
+};
+
+Deleting::Deleting(Store& store, Toast& toast, const QLocale& locale)
+    : store_(store), toast_(toast), locale_(locale) {}
+
+void Deleting::deleteClip(const QUuid& id) {
+    const qsizetype before = store_.clips().size();
+    const auto what = offered();
+    store_.deleteClip(id, what->records);
+    what->clips += before - store_.clips().size();
+    offer(what);
+}
+
+void Deleting::clearClips() {
+    const qsizetype before = store_.clips().size();
+    const auto what = offered();
+    store_.clearClips(what->records);
+    what->cleared += before - store_.clips().size();
+    offer(what);
+}
+
+void Deleting::removeSnippet(const QUuid& id) {
+    const qsizetype before = store_.snippets().size();
+    const auto what = offered();
+    store_.removeSnippet(id, what->records);
+    what->snippets += before - store_.snippets().size();
+    offer(what);
+}
+
+std::shared_ptr<Deleting::Offered> Deleting::offered() {
+    const auto still = last_.lock();
+    return still ? still : std::make_shared<Offered>();
+}
+
+void Deleting::offer(const std::shared_ptr<Offered>& what) {
+    if (what->count() > 0) {
+        last_ = what;
+        toast_.offer(message(*what), u"Undo"_s, [this, what] { undo(*what); });
+    }
+}
+
+void Deleting::undo(const Offered& what) {
+    last_.reset(); // What is deleted from now on does not come back with it.
+    store_.restore(what.records,
+                   [self = QPointer(this), count = what.count()](const Store::Restored& restored) {
+                       if (!self) {
+                           return;
+                       }
+                       if (restored.count == count) {
+                           self->toast_.flash(u"Restored \u2713"_s);
+                       } else if (restored.count == 0) {
+                           self->toast_.flash(u"Could not undo: "_s + restored.problem);
+                       } else {
+                           self->toast_.flash(u"Restored %1 of %2: %3"_s.arg(
+                               self->locale_.toString(restored.count),
+                               self->locale_.toString(count), restored.problem));
+                       }
+                   });
+}
+
+QString Deleting::message(const Offered& what) const {
+    const QString count = locale_.toString(what.count());
+    if (what.cleared == what.count()) {
+        return u"History cleared \u00b7 "_s +
+               (what.cleared == 1 ? u"1 clip"_s : count + u" clips"_s);
+    }
+    if (what.count() == 1) {
+        return what.snippets == 1 ? u"Snippet deleted"_s : u"Deleted"_s;
+    }
+    return count + u" deleted"_s;
+}
+
+} // namespace ravelo

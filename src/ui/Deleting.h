@@ -1,0 +1,44 @@
+#pragma once
+
+#include <QLocale>
+#include <QObject>
+#include <QQmlEngine>
+#include <QUuid>
+
+#include <memory>
+
+namespace ravelo {
+
+class Store;
+class Toast;
+
+/// Deletes, and lets it be undone as long as the toast that says so is there. What is deleted
+/// meanwhile joins in: one undo brings all of it back. Main thread.
+class Deleting : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("the panel has one")
+
+public:
+    Deleting(Store& store, Toast& toast, const QLocale& locale);
+
+    Q_INVOKABLE void deleteClip(const QUuid& id);
+    /// All that are not pinned.
+    Q_INVOKABLE void clearClips();
+    Q_INVOKABLE void removeSnippet(const QUuid& id);
+
+private:
+    struct Offered;
+
+    [[nodiscard]] std::shared_ptr<Offered> offered();
+    void offer(const std::shared_ptr<Offered>& what);
+    void undo(const Offered& what);
+    [[nodiscard]] QString message(const Offered& what) const;
+
+    Store& store_;
+    Toast& toast_;
+    QLocale locale_;
+    std::weak_ptr<Offered> last_; ///< Lives as long as the toast offers it.
+};
+
+} // namespace ravelo
