@@ -61,6 +61,17 @@ TEST_F(CoverTest, StaysAboveAPanelThatIsRaisedByMistake) {
     EXPECT_TRUE(cover.isLocked());
 }
 
+TEST_F(CoverTest, SaysThatAnyOfThoseHasComeAndNeverThePanelItself) {
+    int newcomers = 0;
+    const Handle appearance = cover.onNewcomer([&] { ++newcomers; });
+    panel.orderOut();
+    panel.orderFront();
+    const OtherWindow game(OtherWindow::Kind::fullScreen, mainMonitor);
+    const OtherWindow grabber(OtherWindow::Kind::popup, {0, 0, 1, 1});
+    EXPECT_TRUE(eventually([&] { return newcomers > 0; }));
+    EXPECT_EQ(newcomers, 1) << "only the grabber's window is not managed";
+}
+
 struct GrabCase {
     const char* name;
     bool pointer;
@@ -71,7 +82,7 @@ class GrabTest : public PanelFixture, public testing::WithParamInterface<GrabCas
 
 TEST_P(GrabTest, IsHeldIfBothAre) {
     const auto [name, pointer, keyboard] = GetParam();
-    x11::X11InputGrab grab(*connection);
+    x11::X11InputGrab grab(*connection, cover);
     EXPECT_FALSE(grab.isHeldByAnother());
     xcb_connection_t* other = server.get();
     if (pointer) {
