@@ -5,6 +5,7 @@
 #include "panel/EdgeGuard.h"
 #include "panel/HoverHold.h"
 #include "panel/HoverTick.h"
+#include "panel/TakenInput.h"
 #include "platform/PanelWindow.h"
 #include "platform/Screens.h"
 #include "shelf/FileDrop.h"
@@ -179,7 +180,7 @@ private:
     void scheduleClose();
     void resizeForShelf();
     [[nodiscard]] bool isLocked() const;
-    void hideIfInputIsTaken(Seconds nextLook);
+    [[nodiscard]] TakenInput::Look hideIfInputIsTaken();
     void hide();
     void lockChanged();
     void setCollapsed(const Collapsed& collapsed);
@@ -208,14 +209,14 @@ private:
     EdgeGuard guard_;
     FileDrop drop_;
     HoverTick tick_;
+    TakenInput takenInput_;
     Handle closeWork_;
     Handle timerEndShown_; ///< While the bar shows it.
     Handle openWork_;      ///< Tries again to open.
-    Handle takenWork_;     ///< Looks again whether a locker has taken the input.
+    Handle reappearWork_;  ///< After the input was taken.
     Handle pressMonitor_;
     Handle screensMonitor_;
     Handle dragMonitor_;
-    Handle inputMonitor_;
     std::vector<Handle> lockMonitors_;
 };
 

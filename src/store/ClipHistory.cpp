@@ -93,13 +93,16 @@ std::optional<ClipChange> ClipHistory::deleted(QList<ClipItem> clips, const QUui
     return ClipChange{std::move(clips), std::move(orphans)};
 }
 
-std::optional<ClipChange> ClipHistory::restored(QList<ClipItem> clips, const ClipItem& clip,
-                                                const QList<QUuid>& order) {
-    const auto stands = [&clip](const ClipItem& one) {
+bool ClipHistory::has(const QList<ClipItem>& clips, const ClipItem& clip) {
+    return std::ranges::any_of(clips, [&clip](const ClipItem& one) {
         return one.id == clip.id || (!one.pinned && !clip.pinned && one.kind == clip.kind &&
                                      one.kind != ClipKind::image && one.text == clip.text);
-    };
-    if (std::ranges::any_of(std::as_const(clips), stands)) {
+    });
+}
+
+std::optional<ClipChange> ClipHistory::restored(QList<ClipItem> clips, const ClipItem& clip,
+                                                const QList<QUuid>& order) {
+    if (has(clips, clip)) {
         return std::nullopt;
     }
     clips.insert(placeFor(clip.id, order, clips), clip);

@@ -34,6 +34,9 @@ struct ClipHistory {
 
     [[nodiscard]] static std::optional<ClipChange> deleted(QList<ClipItem> clips, const QUuid& id);
 
+    /// The clip itself, or its text copied again.
+    [[nodiscard]] static bool has(const QList<ClipItem>& clips, const ClipItem& clip);
+
     /// A deleted clip comes back, to its old place in a list whose ids were once `order`. Not if
     /// its text was copied again meanwhile.
     [[nodiscard]] static std::optional<ClipChange>

@@ -81,7 +81,7 @@ public:
     [[nodiscard]] QString note() const;
     void setNote(const QString& note);
 
-    /// Told which clip stands for what was copied, new or kept from before; never where none does.
+    /// Called with the clip that holds the copy, new or old; not called if there is none.
     using Kept = std::function<void(const QUuid&)>;
 
     /// Told that nothing is kept of what was copied, as it is too large.
@@ -110,15 +110,15 @@ public:
     /// Takes it away with its image. As `deleteClip` has it.
     void removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept = {});
 
-    /// How many records came back, and why not the others, in words fit for the user.
     struct Restored {
-        qsizetype count = 0;
-        QString problem;
+        qsizetype count = 0;   ///< Records that are back.
+        QString problem;       ///< Why not all, in words fit for the user.
+        bool canRetry = false; ///< What could not be written is still in memory.
     };
 
     /// Puts back what was deleted, once its images are on the disk again, and calls `done`. What
-    /// was copied again meanwhile counts as back. Nothing comes back if the history was cleared
-    /// since.
+    /// was copied again meanwhile counts as back. If the history is
+    /// cleared before this has finished, its unpinned clips do not come back.
     void restore(const std::shared_ptr<Deleted>& deleted,
                  std::function<void(const Restored&)> done);
 
@@ -205,8 +205,8 @@ private:
     [[nodiscard]] std::function<void()> unlessCleared(std::function<void()> add,
                                                       std::function<void()> discard);
     void apply(std::optional<ClipChange> change);
-    void forget(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept);
-    void putBack(const QList<DeletedRecord>& records);
+    void takeOffDisk(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept);
+    qsizetype putBack(const QList<DeletedRecord>& records);
     void saveAtOnce();
     void tellKept(const QString& text, const Kept& kept) const; ///< For a text.
     void setShelf(Shelf shelf);

@@ -1,6 +1,5 @@
 // How the store deletes, and how what was deleted comes back.
 
-#include "base/Files.h"
 #include "platform/ImageDecoder.h"
 #include "platform/Worker.h"
 #include "store/ClipHistory.h"
@@ -15,9 +14,11 @@
 
 namespace ravelo {
 
+using namespace Qt::StringLiterals;
+
 void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
     if (auto change = ClipHistory::deleted(data_.clips, id)) {
-        forget(deletedRecords(data_.clips, change->clips), kept);
+        takeOffDisk(deletedRecords(data_.clips, change->clips), kept);
         apply(ClipChange{std::move(change->clips), {}});
         saveAtOnce();
     }
@@ -27,7 +28,7 @@ void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
     ++clearings_;
     Q_EMIT cleared();
     ClipChange change = ClipHistory::cleared(data_.clips);
-    forget(deletedRecords(data_.clips, change.clips), kept);
+    takeOffDisk(deletedRecords(data_.clips, change.clips), kept);
     apply(ClipChange{std::move(change.clips), {}});
     saveAtOnce();
 }
@@ -35,7 +36,7 @@ void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
 void Store::removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
     QList<Snippet> left = data_.snippets;
     if (left.removeIf([&id](const Snippet& snippet) { return snippet.id == id; }) > 0) {
-        forget(deletedRecords(data_.snippets, left), kept);
+        takeOffDisk(deletedRecords(data_.snippets, left), kept);
         data_.snippets = std::move(left);
         saveAtOnce();
         Q_EMIT snippetsChanged();
@@ -43,7 +44,7 @@ void Store::removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept)
 }
 
 /// Takes the images of the records off the disk, and into memory first if they may come back.
-void Store::forget(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept) {
+void Store::takeOffDisk(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept) {
     QStringList images;
     for (const DeletedRecord& record : records) {
         const QString name =
@@ -75,21 +76,33 @@ void Store::removeImages(const QStringList& imageFileNames) {
 void Store::restore(const std::shared_ptr<Deleted>& deleted,
                     std::function<void(const Restored&)> done) {
     const auto restorable = std::make_shared<Deleted::Restorable>();
-    auto discard = [this, restorable] {
-        forget(restorable->records, {});
+    auto putBackAll = [this, restorable, done] {
+        const qsizetype back = putBack(restorable->records);
+        const bool all = back == restorable->records.size();
+        done({back, all ? restorable->problem : u"the history is full"_s, restorable->someStay});
     };
-    auto putBackAll = [this, restorable, done = std::move(done)] {
-        putBack(restorable->records);
-        done({restorable->records.size(), restorable->problem});
+    auto putBackWhatClearingKeeps = [this, restorable, done] {
+        QList<DeletedRecord> cleared;
+        restorable->records.removeIf([&cleared](const DeletedRecord& one) {
+            const auto* clip = std::get_if<ClipItem>(&one.record);
+            const bool gone = clip != nullptr && !clip->pinned;
+            if (gone) {
+                cleared.append(one);
+            }
+            return gone;
+        });
+        takeOffDisk(cleared, {});
+        done({putBack(restorable->records), u"the history was cleared"_s, false});
     };
     services_.worker.run(
         [deleted, restorable, folder = clipsDir(), mayWrite = services_.mayWrite] {
             *restorable = deleted->restore(folder, mayWrite);
         },
-        unlessCleared(std::move(putBackAll), std::move(discard)));
+        unlessCleared(std::move(putBackAll), std::move(putBackWhatClearingKeeps)));
 }
 
-void Store::putBack(const QList<DeletedRecord>& records) {
+/// Returns how many are there afterwards.
+qsizetype Store::putBack(const QList<DeletedRecord>& records) {
     ClipChange clips{data_.clips, {}};
     for (const DeletedRecord& deleted : records) {
         if (const auto* clip = std::get_if<ClipItem>(&deleted.record)) {
@@ -105,9 +118,13 @@ void Store::putBack(const QList<DeletedRecord>& records) {
     apply(std::move(clips));
     Q_EMIT snippetsChanged();
     saveAtOnce();
+    return std::ranges::count_if(records, [this](const DeletedRecord& one) {
+        const auto* clip = std::get_if<ClipItem>(&one.record);
+        return clip == nullptr || ClipHistory::has(data_.clips, *clip);
+    });
 }
 
-/// Deleted is deleted: not 0.4 s later, when the program may have been killed.
+/// So that a deletion survives a kill right after it.
 void Store::saveAtOnce() {
     save();
     write();

@@ -14,6 +14,7 @@ FocusScope {
     /// The file that the keyboard is at, -1 for none; there may be fewer by now.
     property int wanted: -1
     readonly property int current: Math.min(wanted, shelf.count - 1)
+    readonly property int count: shelf.count
     /// The keyboard has been elsewhere in the panel. Until then it is here because the panel was
     /// opened, by a key that may be followed by others that were meant for another program.
     property bool wasElsewhere: false
@@ -62,6 +63,11 @@ FocusScope {
     Accessible.role: Accessible.List
     Accessible.name: "Shelf"
     activeFocusOnTab: true
+    onCountChanged: {
+        if (count === 0) {
+            wanted = -1; // No key acts on the next file before an arrow has chosen it.
+        }
+    }
     onWidthChanged: shelf.lay(width)
     onKeyboardChanged: {
         wasElsewhere = wasElsewhere || (keyboard !== null && !activeFocus && !isAround(keyboard));
