@@ -38,9 +38,10 @@ bool isConcealed(const PasteboardSnapshot& snapshot) {
     return !hint || hint->trimmed().startsWith("secret");
 }
 
-QString capturedText(const PasteboardSnapshot& snapshot) {
-    return QString::fromUtf8(snapshot.answers.value(plainTextType).value_or(QByteArray()))
-        .trimmed();
+QString capturedText(const PasteboardSnapshot& snapshot, TextEnds ends) {
+    QString text = QString::fromUtf8(snapshot.answers.value(plainTextType).value_or(QByteArray()));
+    QString trimmed = text.trimmed();
+    return ends == TextEnds::trimmed || trimmed.isEmpty() ? trimmed : text;
 }
 
 bool isFromFile(const PasteboardSnapshot& snapshot) {

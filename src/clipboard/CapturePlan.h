@@ -18,9 +18,12 @@ namespace ravelo {
 /// "secret". A hint that cannot be read counts as secret.
 [[nodiscard]] bool isConcealed(const PasteboardSnapshot& snapshot);
 
-/// The text that was read, without white space and line breaks at both ends; empty where there is
-/// none.
-[[nodiscard]] QString capturedText(const PasteboardSnapshot& snapshot);
+/// What becomes of white space and line breaks at both ends of a text.
+enum class TextEnds { trimmed, kept };
+
+/// The text that was read; empty where there is nothing but white space.
+[[nodiscard]] QString capturedText(const PasteboardSnapshot& snapshot,
+                                   TextEnds ends = TextEnds::trimmed);
 
 /// A list of files: asked for only where there is no text and no picture itself.
 inline constexpr QLatin1StringView filesType("text/uri-list");

@@ -192,7 +192,7 @@ std::optional<Screen> NotchController::screen() {
 
 void NotchController::pressedSomewhere() {
     tick_.wake();
-    if (isOpen_ && !isOver(frame_, look())) {
+    if (isOpen_ && !isOver(frame_, look()) && !services_.pointer.isOverOwnWindow()) {
         collapse();
     }
 }
@@ -293,18 +293,24 @@ void NotchController::positionExpanded() {
 }
 
 void NotchController::placeExpanded(const Screen& screen) {
-    const QSizeF size = sizeToOpenWith();
+    const QSizeF size = sizeOn(screen);
     setFrame(screen, size, panelOutline(size));
 }
 
-QSizeF NotchController::sizeToOpenWith() const {
+QSizeF NotchController::sizeToOpenWith() {
+    const auto on = screen();
+    return on ? sizeOn(*on) : QSizeF();
+}
+
+QSizeF NotchController::sizeOn(const Screen& screen) const {
     const bool empty = store_.shelf().stacks.isEmpty();
-    return expandedSize(settings_.panelWidth(), empty ? ShelfContent::none : ShelfContent::files);
+    return expandedSize(settings_.panelWidth(), empty ? ShelfContent::none : ShelfContent::files,
+                        screen);
 }
 
 void NotchController::resizeForShelf() {
     const auto on = screen();
-    if (isOpen_ && on && std::abs(sizeToOpenWith().height() - frame_.height()) > 1) {
+    if (isOpen_ && on && std::abs(sizeOn(*on).height() - frame_.height()) > 1) {
         placeExpanded(*on);
     }
 }

@@ -57,8 +57,8 @@ public:
 
     [[nodiscard]] bool isOpen() const { return isOpen_; }
 
-    /// What the panel would open with, in logical pixels.
-    [[nodiscard]] QSizeF sizeToOpenWith() const;
+    /// What the panel would open with, in logical pixels; empty without a screen.
+    [[nodiscard]] QSizeF sizeToOpenWith();
 
     /// Whether the collapsed panel is the bar with the timer or the reminders, not the handle.
     [[nodiscard]] bool showsBar() const { return collapsed_.showsBar; }
@@ -170,6 +170,7 @@ private:
     void setCollapsed(const Collapsed& collapsed);
     void setFrame(const Screen& screen, QSizeF size, const QPainterPath& outline);
     void placeExpanded(const Screen& screen);
+    [[nodiscard]] QSizeF sizeOn(const Screen& screen) const;
 
     Store& store_;
     ClipboardManager& clipboard_;

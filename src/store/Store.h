@@ -5,6 +5,7 @@
 #include "shelf/FileLook.h"
 #include "shelf/Shelf.h"
 #include "store/Captures.h"
+#include "store/ClipHistory.h"
 #include "store/Records.h"
 #include "store/TooLarge.h"
 #include "timer/FocusTimer.h"
@@ -26,7 +27,6 @@ class Pasteboard;
 class Preferences;
 class Scheduler;
 class Worker;
-struct ClipChange;
 struct PasteboardSnapshot;
 
 /// The one observable store that every view reads: clips, snippets, notes, sketch and shelf, the
@@ -78,6 +78,10 @@ public:
     [[nodiscard]] const Shelf& shelf() const;
     [[nodiscard]] QString note() const;
     void setNote(const QString& note);
+
+    /// Counts from the next copy or pin on, but that newer clips come first is seen at once. What
+    /// is too many goes with the next copy: who chooses another limit by mistake loses nothing.
+    void setHistoryRules(const HistoryRules& rules);
 
     /// Told which clip stands for what was copied, new or kept from before; never where none does.
     using Kept = std::function<void(const QUuid&)>;
@@ -194,6 +198,7 @@ private:
     void tell(void (Store::*changed)()); ///< A signal, and then `onTimerChange`.
 
     Services services_;
+    HistoryRules rules_;
     QString folder_;
     StoreData data_; ///< But for its shelf, which is `shelf_`.
     Shelf shelf_;

@@ -522,16 +522,16 @@ int main(int argc, char** argv) {
         return 0;
     }
     world.settings.setLaunchAtLogin(true);
-    SettingsWindow settings({view.window(), world.store, world.settings, [] {
+    SettingsWindow settings({{view.window()}, world.store, world.settings, [] {
                              }});
-    OnboardingController onboarding(view.window(), world.settings, world.screens);
+    OnboardingController onboarding({view.window()}, world.settings, world.screens);
     QQuickWindow* window = playTitled(scene, settings, onboarding);
     if (window == nullptr) {
         play(scene, world, view);
         window = &view.window();
     }
     Updater updater(std::make_unique<SceneUpdates>(scene), u"0.2"_s);
-    UpdateWindow updates(view.window(), updater);
+    UpdateWindow updates({view.window()}, updater);
     if (scene.startsWith(u"update-"_s)) {
         updates.show();
         if (scene == u"update-installing") {

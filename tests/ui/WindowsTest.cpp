@@ -3,7 +3,6 @@
 #include "PanelFixture.h"
 #include "ui/OnboardingController.h"
 #include "ui/SettingsWindow.h"
-#include "ui/TitledWindow.h"
 
 #include <QAccessible>
 #include <QWheelEvent>
@@ -35,10 +34,10 @@ public:
     [[nodiscard]] QJsonValue kept(const QString& key) const { return world.preferences.value(key); }
 
     int quits = 0;
-    SettingsWindow settings{{view.window(), world.store, world.settings, [this] {
+    SettingsWindow settings{{{view.window()}, world.store, world.settings, [this] {
                                  ++quits;
                              }}};
-    OnboardingController setup{view.window(), world.settings, world.screens};
+    OnboardingController setup{{view.window()}, world.settings, world.screens};
 };
 
 class Settings : public Windows {

@@ -15,6 +15,7 @@ Item {
 
         Box {
             objectName: "emptyDisc"
+            visible: empty.height >= 140
             anchors.horizontalCenter: parent.horizontalCenter
             width: 64
             height: 64
@@ -30,7 +31,7 @@ Item {
         }
         Item {
             width: 1
-            height: 16
+            height: empty.height >= 140 ? 16 : 0
         }
         Label {
             id: title

@@ -15,6 +15,13 @@ FocusScope {
     property int wanted: 0
     readonly property int current: Math.max(0, Math.min(wanted, shelf.count - 1))
 
+    /// What is seen of it where what it is in scrolls.
+    property real sightTop: 0
+    property real sightHeight: height
+
+    /// A tile by the keyboard: its top, 0 in the first row, and its bottom.
+    signal reached(real top, real bottom)
+
     signal menuRequested(Item tile, point place, bool byKey)
 
     function go(place: int) {
@@ -23,6 +30,8 @@ FocusScope {
         const margin = 8;
         flick.contentY = Math.max(0, Math.min(rect.y - margin, Math.max(flick.contentY,
             rect.y + rect.height + margin - flick.height)));
+        reached(rect.y <= margin ? 0 : rect.y, rect.y + rect.height);
+        see();
         tileAt(current)?.forceActiveFocus();
     }
 
@@ -38,7 +47,7 @@ FocusScope {
 
     function see() {
         if (flick.height > 0) { // Not while it is being laid out itself.
-            shelf.setSight(flick.contentY, flick.height);
+            shelf.setSight(flick.contentY + sightTop, Math.min(flick.height, sightHeight));
         }
     }
 
@@ -46,6 +55,8 @@ FocusScope {
     Accessible.name: "Shelf"
     activeFocusOnTab: true
     onWidthChanged: shelf.lay(width)
+    onSightTopChanged: see()
+    onSightHeightChanged: see()
     onActiveFocusChanged: {
         if (activeFocus && !tileAt(current)?.activeFocus) {
             go(current);
