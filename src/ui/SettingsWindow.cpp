@@ -1,5 +1,4 @@
 #include "ui/SettingsWindow.h"
-
 #include <utility>
 
 namespace ravelo {

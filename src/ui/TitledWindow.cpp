@@ -6,6 +6,7 @@
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace ravelo {
 
@@ -60,11 +61,14 @@ void TitledWindow::fit() {
     const QSize frame = wanted_.boundedTo(screen).boundedTo(available);
     const bool shadowed = frame_ && frame_->isTranslucent();
     const QMargins room = shadowed ? roomAround(frame, available) : QMargins();
-    inside_ = QRectF(QPointF(room.left(), room.top()), frame);
+    const QRectF before = std::exchange(inside_, QRectF(QPointF(room.left(), room.top()), frame));
     const QSize size = frame.grownBy(room);
     setMinimumSize(size);
     setMaximumSize(size);
     resize(size);
+    if (isVisible() && before.topLeft() != inside_.topLeft()) { // The frame stays where it is.
+        setPosition(position() + (before.topLeft() - inside_.topLeft()).toPoint());
+    }
     if (frame_) {
         frame_->setRoom(room);
     }

@@ -200,6 +200,7 @@ FocusScope {
             clip: true
             topMargin: tab.head > 0 ? tab.head + 36 : 0
             onTopMarginChanged: positionViewAtBeginning()
+            Component.onCompleted: positionViewAtBeginning()
             onContentHeightChanged: {
                 if (tab.head > 0 && !moving) {
                     returnToBounds();

@@ -22,7 +22,8 @@ FocusScope {
     readonly property bool compact: height < 480
     readonly property real gap: compact ? 8 : 12
     readonly property real rowEnd: topBar.y + 32
-    readonly property real headHeight: topBar.height - 32 + (usage.visible ? usage.height + gap : 0)
+    readonly property real headHeight: topBar.height - 32
+        + (host.showsClaudeCode ? usage.height + gap : 0)
     /// How far it has been scrolled away.
     readonly property real lifted: compact ? Math.min(headHeight, scrolled) : 0
     readonly property Flickable flick: tab === 0 ? clipboard.flick : tab === 1 ? notes.flick
