@@ -223,11 +223,12 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
                 QLocale());
     provideWindows();
     const auto checkUpdates = [this] {
+        notch_->dismiss(); // It would cover the window.
         updateWindow_->show();
     };
     statusItem_ = std::make_unique<StatusItemController>(
         StatusItemController::Services{*tray_, *notch_, LiveContext::shared(), *scheduler_,
-                                       checkUpdates, quitLater},
+                                       *settings_, checkUpdates, quitLater},
         QLocale());
     commands_ = std::make_unique<Commands>(
         Commands::Services{*store_, *notch_, *scheduler_, LiveContext::shared(),
@@ -258,11 +259,13 @@ void AppDelegate::provideMonitors() {
 }
 
 void AppDelegate::provideWindows() {
+    const TitledWindow::Beside beside{view_->window(), [this](QWindow& window) {
+                                          return display_.windowFrame(window);
+                                      }};
     settingsWindow_ = std::make_unique<SettingsWindow>(
-        SettingsWindow::Subjects{view_->window(), *store_, *settings_, quitLater});
-    onboarding_ =
-        std::make_unique<OnboardingController>(view_->window(), *settings_, display_.screens());
-    updateWindow_ = std::make_unique<UpdateWindow>(view_->window(), Updater::shared());
+        SettingsWindow::Subjects{beside, *store_, *settings_, quitLater});
+    onboarding_ = std::make_unique<OnboardingController>(beside, *settings_, display_.screens());
+    updateWindow_ = std::make_unique<UpdateWindow>(beside, Updater::shared());
     QObject::connect(notch_.get(), &NotchController::settingsRequested, settingsWindow_.get(),
                      &SettingsWindow::show);
 }
@@ -273,6 +276,7 @@ void AppDelegate::wire() {
             notch_->positionCollapsed();
         }
     };
+    wireSettings();
     statusItem_->onSetup = [this] {
         showSetup();
     };
@@ -296,6 +300,26 @@ void AppDelegate::wire() {
         view_->host().snippetEditor()->cancel(); // Leaves no image that nothing refers to.
         flush();
     });
+}
+
+/// What the user chose counts from now on, without a restart.
+void AppDelegate::wireSettings() {
+    const auto follow = [this] {
+        store_->setHistoryRules({settings_->newestFirst() ? HistoryRules::Order::newerFirst
+                                                          : HistoryRules::Order::olderFirst,
+                                 settings_->historyLength()});
+        clipboard_->setTextEnds(settings_->keepTextsExactly() ? TextEnds::kept : TextEnds::trimmed);
+    };
+    follow();
+    for (const auto changed : {&AppSettings::newestFirstChanged, &AppSettings::historyLengthChanged,
+                               &AppSettings::keepTextsExactlyChanged}) {
+        QObject::connect(settings_.get(), changed, notch_.get(), follow);
+    }
+    const auto look = [this] {
+        view_->host().setClaudeCodeInstalled(LiveContext::shared().installed());
+    };
+    look();
+    QObject::connect(&LiveContext::shared(), &LiveContext::changed, notch_.get(), look);
 }
 
 /// What the panel says about saving, about files that could not be read and about copies that are
@@ -336,6 +360,7 @@ void AppDelegate::openSettings() {
 }
 
 void AppDelegate::showSetup() {
+    notch_->dismiss(); // It would cover the window.
     onboarding_->show();
 }
 

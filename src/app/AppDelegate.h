@@ -78,6 +78,7 @@ private:
     void provideWindows();
     void wire();
     void wireNotices();
+    void wireSettings();
 
     DisplayServer& display_;
     HoverTick::Rest rest_;

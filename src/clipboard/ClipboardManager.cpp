@@ -146,7 +146,7 @@ void ClipboardManager::keep(const PasteboardSnapshot& snapshot) {
             offerAgain(); // The owner may have ended while an image was being written.
         }
     };
-    if (const QString text = capturedText(snapshot); !text.isEmpty()) {
+    if (const QString text = capturedText(snapshot, textEnds_); !text.isEmpty()) {
         store_.addClip(text, kept);
     } else {
         store_.addImageClip(snapshot, kept, [this, weak = std::weak_ptr(held_)](const auto& what) {

@@ -3,6 +3,7 @@
 #include "base/Files.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <utility>
@@ -37,7 +38,9 @@ std::optional<std::optional<TurnUsage>> readUsage(const QByteArray& path) {
 ContextReader::ContextReader(const QByteArray& home, std::unique_ptr<FolderChanges> changes,
                              const QByteArrayList& otherFolders)
     : changes_(std::move(changes)) {
-    for (const QByteArray& path : QByteArrayList{home + "/.claude"} + otherFolders) {
+    const QByteArrayList folders = QByteArrayList{home + "/.claude"} + otherFolders;
+    signs_ = folders + QByteArrayList{home + "/.local/bin/claude"};
+    for (const QByteArray& path : folders) {
         folders_.push_back(
             {path + "/settings.json", {}, {}, Transcripts(path + "/projects", *changes_), {}});
     }
@@ -46,7 +49,10 @@ ContextReader::ContextReader(const QByteArray& home, std::unique_ptr<FolderChang
 ContextReading ContextReader::read() {
     const FolderChanges::Changes changes = changes_->take();
     readSettings(folders_.front());
-    ContextReading reading{folders_.front().limit, std::nullopt};
+    ContextReading reading{folders_.front().limit, std::nullopt,
+                           std::ranges::any_of(signs_, [](const QByteArray& path) {
+                               return access(path.constData(), F_OK) == 0;
+                           })};
     for (Folder& folder : folders_) {
         if (reading.turn) {
             folder.transcripts.forget();

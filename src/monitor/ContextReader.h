@@ -24,6 +24,7 @@ struct ContextReading {
 
     std::optional<qint64> limit; ///< Where the settings have one.
     std::optional<Turn> turn;    ///< Where there is one that counts.
+    bool installed = false;      ///< One of Claude Code's folders, or its program, is there.
 };
 
 /// Reads the files, and none again that could be read and has not changed. One thread, whichever;
@@ -67,6 +68,7 @@ private:
 
     std::unique_ptr<FolderChanges> changes_;
     std::vector<Folder> folders_;
+    QByteArrayList signs_; ///< Paths of which one is there if Claude Code is.
 };
 
 } // namespace ravelo

@@ -54,6 +54,7 @@ void LiveContext::refresh() {
 }
 
 void LiveContext::take(const ContextReading& reading) {
+    installed_ = reading.installed;
     limit_ = reading.limit.value_or(usualLimit);
     if (reading.turn) {
         model_ = prettyModel(reading.turn->usage.model);

@@ -51,6 +51,9 @@ public:
 
     [[nodiscard]] const std::optional<Date>& lastActivity() const { return lastActivity_; }
 
+    /// Whether Claude Code is on this computer; yes until somebody has looked.
+    [[nodiscard]] bool installed() const { return installed_; }
+
     [[nodiscard]] const PeakInfo& peak() const { return peak_; }
 
     /// Looks everything up anew. The files are read elsewhere and their news come later; while they
@@ -76,6 +79,7 @@ private:
     qint64 limit_ = usualLimit;
     std::optional<Date> lastActivity_;
     PeakInfo peak_;
+    bool installed_ = true;
     std::shared_ptr<ContextReader> reader_; ///< At work elsewhere while `reading_` is there.
     Handle reading_;
     Handle timer_;

@@ -19,13 +19,16 @@ QString percentText(const std::optional<UsageWindow>& window) {
                   : u"\u2014"_s;
 }
 
-QString resetText(const std::optional<UsageWindow>& window, Date now) {
+QString timeLeftText(const std::optional<UsageWindow>& window, Date now) {
     if (!window) {
         return u"sem dados"_s;
     }
-    return window->resets
-               ? u"reseta em "_s + dur(window->resets->sinceReference - now.sinceReference)
-               : QString();
+    return window->resets ? dur(window->resets->sinceReference - now.sinceReference) : QString();
+}
+
+QString resetText(const std::optional<UsageWindow>& window, Date now) {
+    const QString left = timeLeftText(window, now);
+    return window && window->resets ? u"reseta em "_s + left : left;
 }
 
 } // namespace ravelo

@@ -32,6 +32,9 @@ struct PlanWindows {
 
 /// How long until the window starts anew; empty where that is not known, and in words where the
 /// window is not.
+[[nodiscard]] QString timeLeftText(const std::optional<UsageWindow>& window, Date now);
+
+/// The same as a sentence.
 [[nodiscard]] QString resetText(const std::optional<UsageWindow>& window, Date now);
 
 } // namespace ravelo

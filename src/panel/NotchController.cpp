@@ -218,7 +218,7 @@ void NotchController::pressedSomewhere() {
     tick_.wake();
     const bool onPanel = isOver(frame_, look());
     hold_.pressed(onPanel ? HoverHold::Place::panel : HoverHold::Place::elsewhere);
-    if (isOpen_ && !onPanel) {
+    if (isOpen_ && !onPanel && !services_.pointer.isOverOwnWindow()) {
         collapse();
     }
 }
@@ -329,18 +329,24 @@ void NotchController::positionExpanded() {
 }
 
 void NotchController::placeExpanded(const Screen& screen) {
-    const QSizeF size = sizeToOpenWith();
+    const QSizeF size = sizeOn(screen);
     setFrame(screen, size, panelOutline(size));
 }
 
-QSizeF NotchController::sizeToOpenWith() const {
+QSizeF NotchController::sizeToOpenWith() {
+    const auto on = screen();
+    return on ? sizeOn(*on) : QSizeF();
+}
+
+QSizeF NotchController::sizeOn(const Screen& screen) const {
     const bool empty = store_.shelf().stacks.isEmpty();
-    return expandedSize(settings_.panelWidth(), empty ? ShelfContent::none : ShelfContent::files);
+    return expandedSize(settings_.panelWidth(), empty ? ShelfContent::none : ShelfContent::files,
+                        screen);
 }
 
 void NotchController::resizeForShelf() {
     const auto on = screen();
-    if (isOpen_ && on && std::abs(sizeToOpenWith().height() - frame_.height()) > 1) {
+    if (isOpen_ && on && std::abs(sizeOn(*on).height() - frame_.height()) > 1) {
         placeExpanded(*on);
     }
 }

@@ -60,8 +60,8 @@ public:
 
     [[nodiscard]] bool isOpen() const { return isOpen_; }
 
-    /// What the panel would open with, in logical pixels.
-    [[nodiscard]] QSizeF sizeToOpenWith() const;
+    /// What the panel would open with, in logical pixels; empty without a screen.
+    [[nodiscard]] QSizeF sizeToOpenWith();
 
     /// Whether the collapsed panel is the bar with the timer or the reminders, not the handle. It
     /// stays a while longer than the timer.
@@ -186,6 +186,7 @@ private:
     void setCollapsed(const Collapsed& collapsed);
     void setFrame(const Screen& screen, QSizeF size, const QPainterPath& outline);
     void placeExpanded(const Screen& screen);
+    [[nodiscard]] QSizeF sizeOn(const Screen& screen) const;
 
     Store& store_;
     ClipboardManager& clipboard_;

@@ -5,6 +5,7 @@
 #include "shelf/FileLook.h"
 #include "shelf/Shelf.h"
 #include "store/Captures.h"
+#include "store/ClipHistory.h"
 #include "store/Records.h"
 #include "store/TooLarge.h"
 #include "timer/FocusTimer.h"
@@ -27,7 +28,6 @@ class Pasteboard;
 class Preferences;
 class Scheduler;
 class Worker;
-struct ClipChange;
 struct DeletedRecord;
 struct PasteboardSnapshot;
 
@@ -80,6 +80,10 @@ public:
     [[nodiscard]] const Shelf& shelf() const;
     [[nodiscard]] QString note() const;
     void setNote(const QString& note);
+
+    /// Counts from the next copy or pin on, but that newer clips come first is seen at once. What
+    /// is too many goes with the next copy: who chooses another limit by mistake loses nothing.
+    void setHistoryRules(const HistoryRules& rules);
 
     /// Called with the clip that holds the copy, new or old; not called if there is none.
     using Kept = std::function<void(const QUuid&)>;
@@ -206,7 +210,7 @@ private:
                                                       std::function<void()> discard);
     void apply(std::optional<ClipChange> change);
     void takeOffDisk(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept);
-    qsizetype putBack(const QList<DeletedRecord>& records);
+    void putBack(const QList<DeletedRecord>& records);
     void saveAtOnce();
     void tellKept(const QString& text, const Kept& kept) const; ///< For a text.
     void setShelf(Shelf shelf);
@@ -216,6 +220,7 @@ private:
     void tell(void (Store::*changed)()); ///< A signal, and then `onTimerChange`.
 
     Services services_;
+    HistoryRules rules_;
     QString folder_;
     StoreData data_; ///< But for its shelf, which is `shelf_`.
     Shelf shelf_;

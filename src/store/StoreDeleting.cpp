@@ -9,7 +9,6 @@
 
 #include <QFile>
 
-#include <algorithm>
 #include <utility>
 
 namespace ravelo {
@@ -77,9 +76,8 @@ void Store::restore(const std::shared_ptr<Deleted>& deleted,
                     std::function<void(const Restored&)> done) {
     const auto restorable = std::make_shared<Deleted::Restorable>();
     auto putBackAll = [this, restorable, done] {
-        const qsizetype back = putBack(restorable->records);
-        const bool all = back == restorable->records.size();
-        done({back, all ? restorable->problem : u"the history is full"_s, restorable->someStay});
+        putBack(restorable->records);
+        done({restorable->records.size(), restorable->problem, restorable->someStay});
     };
     auto putBackWhatClearingKeeps = [this, restorable, done] {
         QList<DeletedRecord> cleared;
@@ -92,7 +90,8 @@ void Store::restore(const std::shared_ptr<Deleted>& deleted,
             return gone;
         });
         takeOffDisk(cleared, {});
-        done({putBack(restorable->records), u"the history was cleared"_s, false});
+        putBack(restorable->records);
+        done({restorable->records.size(), u"the history was cleared"_s, false});
     };
     services_.worker.run(
         [deleted, restorable, folder = clipsDir(), mayWrite = services_.mayWrite] {
@@ -101,14 +100,12 @@ void Store::restore(const std::shared_ptr<Deleted>& deleted,
         unlessCleared(std::move(putBackAll), std::move(putBackWhatClearingKeeps)));
 }
 
-/// Returns how many are there afterwards.
-qsizetype Store::putBack(const QList<DeletedRecord>& records) {
+void Store::putBack(const QList<DeletedRecord>& records) {
     ClipChange clips{data_.clips, {}};
     for (const DeletedRecord& deleted : records) {
         if (const auto* clip = std::get_if<ClipItem>(&deleted.record)) {
             if (auto change = ClipHistory::restored(clips.clips, *clip, deleted.order)) {
-                clips.clips = std::move(change->clips);
-                clips.orphanedImages += change->orphanedImages;
+                clips = std::move(*change);
             }
         } else {
             const auto& snippet = std::get<Snippet>(deleted.record);
@@ -118,10 +115,6 @@ qsizetype Store::putBack(const QList<DeletedRecord>& records) {
     apply(std::move(clips));
     Q_EMIT snippetsChanged();
     saveAtOnce();
-    return std::ranges::count_if(records, [this](const DeletedRecord& one) {
-        const auto* clip = std::get_if<ClipItem>(&one.record);
-        return clip == nullptr || ClipHistory::has(data_.clips, *clip);
-    });
 }
 
 /// So that a deletion survives a kill right after it.

@@ -237,6 +237,23 @@ TEST_F(ContextTest, goesBackToTheNewestTranscriptThatHasATurn) {
     EXPECT_EQ(usedAfterATick(), 44);
 }
 
+TEST_F(ContextTest, knowsWhetherClaudeCodeIsInstalled) {
+    const QString other = home_.filePath(u"elsewhere"_s);
+    start(std::make_unique<InotifyChanges>(), {QFile::encodeName(other)});
+    EXPECT_FALSE(context_->installed());
+    for (const QString& sign : {other, home_.filePath(u".local/bin/claude"_s)}) {
+        writeFile(sign, {});
+        scheduler_.advance(tick);
+        EXPECT_TRUE(context_->installed()) << qPrintable(sign);
+        QFile::remove(sign);
+        scheduler_.advance(tick);
+        EXPECT_FALSE(context_->installed()) << qPrintable(sign);
+    }
+    setLimit("1000");
+    scheduler_.advance(tick);
+    EXPECT_TRUE(context_->installed()) << "its usual folder";
+}
+
 TEST_F(ContextTest, looksElsewhereOnlyIfTheUsualFolderHasNoTurn) {
     const auto elsewhere = [&](const char* name) {
         return QFile::encodeName(home_.filePath(QLatin1StringView(name)));

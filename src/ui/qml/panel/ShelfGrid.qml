@@ -20,6 +20,13 @@ FocusScope {
     property bool wasElsewhere: false
     readonly property Item keyboard: Window.activeFocusItem
 
+    /// What is seen of it where what it is in scrolls.
+    property real sightTop: 0
+    property real sightHeight: height
+
+    /// A tile by the keyboard: its top, 0 in the first row, and its bottom.
+    signal reached(real top, real bottom)
+
     signal menuRequested(Item tile, point place, bool byKey)
 
     function go(place: int) {
@@ -28,6 +35,8 @@ FocusScope {
         const margin = 8;
         flick.contentY = Math.max(0, Math.min(rect.y - margin, Math.max(flick.contentY,
             rect.y + rect.height + margin - flick.height)));
+        reached(rect.y <= margin ? 0 : rect.y, rect.y + rect.height);
+        see();
         tileAt(current)?.forceActiveFocus();
     }
 
@@ -56,7 +65,7 @@ FocusScope {
 
     function see() {
         if (flick.height > 0) { // Not while it is being laid out itself.
-            shelf.setSight(flick.contentY, flick.height);
+            shelf.setSight(flick.contentY + sightTop, Math.min(flick.height, sightHeight));
         }
     }
 
@@ -72,6 +81,8 @@ FocusScope {
     onKeyboardChanged: {
         wasElsewhere = wasElsewhere || (keyboard !== null && !activeFocus && !isAround(keyboard));
     }
+    onSightTopChanged: see()
+    onSightHeightChanged: see()
     onActiveFocusChanged: {
         if (activeFocus && (current >= 0 || wasElsewhere) && !tileAt(current)?.activeFocus) {
             go(current);
