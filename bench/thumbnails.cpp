@@ -4,7 +4,7 @@
 
 #include "fakes/InProcessDecoder.h"
 #include "platform/system/DecoderProcess.h"
-#include "ui/SlowWork.h"
+#include "ui/images/SlowWork.h"
 
 #include <QCoreApplication>
 #include <QDir>

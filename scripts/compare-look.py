@@ -381,7 +381,7 @@ def main():
     if not 2 <= len(sys.argv) <= 3:
         sys.exit(__doc__)
     root = pathlib.Path(__file__).resolve().parent.parent
-    probe = sys.argv[2] if len(sys.argv) == 3 else root / "build/dev/tests/ui/panel_probe"
+    probe = sys.argv[2] if len(sys.argv) == 3 else root / "build/dev/tools/panel_probe/panel_probe"
     sys.exit(0 if compare(pathlib.Path(sys.argv[1]), probe) else 1)
 
 

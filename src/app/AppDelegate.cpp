@@ -34,10 +34,10 @@
 #include "platform/system/WorkerThread.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
-#include "ui/OnboardingController.h"
 #include "ui/PanelView.h"
-#include "ui/SettingsWindow.h"
-#include "ui/UpdateWindow.h"
+#include "ui/windows/OnboardingController.h"
+#include "ui/windows/SettingsWindow.h"
+#include "ui/windows/UpdateWindow.h"
 #include "updates/Updater.h"
 
 #include <QDir>
@@ -284,12 +284,12 @@ void AppDelegate::wire() {
         openSettings();
     };
     const auto followCompositor = [this] {
-        view_->host().setBackdrop(backdrop(window_->showThrough()));
+        view_->features().state.setBackdrop(backdrop(window_->showThrough()));
     };
     followCompositor();
     compositor_ = window_->onShowThroughChange(followCompositor);
     const auto followMotion = [this] {
-        view_->host().setReducedMotion(display_.motion().isReduced());
+        view_->features().state.setReducedMotion(display_.motion().isReduced());
     };
     followMotion();
     motion_ = display_.motion().onChange(followMotion);
@@ -297,7 +297,7 @@ void AppDelegate::wire() {
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, notch_.get(),
                      [this] { flush(); });
     QObject::connect(qGuiApp, &QCoreApplication::aboutToQuit, notch_.get(), [this] {
-        view_->host().snippetEditor()->cancel(); // Leaves no image that nothing refers to.
+        view_->features().snippets.editor()->cancel(); // Leaves no image that nothing refers to.
         flush();
     });
 }
@@ -316,7 +316,7 @@ void AppDelegate::wireSettings() {
         QObject::connect(settings_.get(), changed, notch_.get(), follow);
     }
     const auto look = [this] {
-        view_->host().setClaudeCodeInstalled(LiveContext::shared().installed());
+        view_->features().usage.setInstalled(LiveContext::shared().installed());
     };
     look();
     QObject::connect(&LiveContext::shared(), &LiveContext::changed, notch_.get(), look);
@@ -348,10 +348,10 @@ void AppDelegate::wireNotices() {
         preferences_->retry();
     };
     notices_->onOpenFolder = [this](const QString& path) {
-        view_->host().showInFolder(QUrl::fromLocalFile(path));
+        view_->features().shelf->showInFolder(QUrl::fromLocalFile(path));
     };
     clipboard_->onTooLarge = [this](const TooLarge& copy) {
-        view_->host().tellTooLarge({measure(copy.kind), copy.amount});
+        view_->features().clips->showTooLarge({measure(copy.kind), copy.amount});
     };
 }
 

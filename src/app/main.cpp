@@ -8,7 +8,7 @@
 #include "platform/system/CoreDumps.h"
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
-#include "ui/Fonts.h"
+#include "ui/theme/Fonts.h"
 
 #include <QApplication>
 #include <QProcessEnvironment>

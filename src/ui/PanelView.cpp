@@ -1,22 +1,16 @@
 #include "ui/PanelView.h"
 
+#include "notices/Notices.h"
 #include "platform/ImageDecoder.h"
-#include "ui/FileThumb.h"
-#include "ui/Fonts.h"
-#include "ui/ThumbnailProvider.h"
+#include "ui/Modules.h"
+#include "ui/images/FileThumb.h"
+#include "ui/theme/Fonts.h"
+#include "ui/images/ThumbnailProvider.h"
 
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
 #include <QQmlEngine>
-
-// Made by the build from the QML module. Named here, or the linker would leave them out.
-void qml_register_types_Ravelo(); // NOLINT(readability-identifier-naming)
-
-static void initModule() { // In no namespace: the macro declares a function where it stands.
-    qml_register_types_Ravelo();
-    Q_INIT_RESOURCE(qmlcache_ui);
-}
 
 namespace ravelo {
 
@@ -35,7 +29,7 @@ QWindow* chooseRenderer() {
 }
 
 QUrl contentUrl() {
-    return QUrl(u"qrc:/Ravelo/qml/panel/Panel.qml"_s);
+    return QUrl(u"qrc:/Ravelo/Panel/Panel.qml"_s);
 }
 
 /// "<radius in device pixels>/<file name>": names lead nowhere but into `folder`.
@@ -61,7 +55,7 @@ QQuickImageProvider* fileThumbs(const std::shared_ptr<const FileIcons>& icons,
 
 PanelView::PanelView() : view_(chooseRenderer()), content_(view_.engine()) {
     keepStemsThin();
-    initModule();
+    registerModules();
     view_.setTitle(u"Ravelo"_s);
     view_.setColor(Qt::transparent);
     view_.installEventFilter(&copyOnly_);
@@ -72,17 +66,31 @@ PanelView::PanelView() : view_(chooseRenderer()), content_(view_.engine()) {
 
 PanelView::~PanelView() = default;
 
-void PanelView::load(PanelHost::Subjects subjects, const QLocale& locale) {
-    host_ = std::make_unique<PanelHost>(subjects, locale);
+void PanelView::load(const PanelFeatures::Services& services, const QLocale& locale) {
+    features_ = std::make_unique<PanelFeatures>(services, locale, view_, *view_.engine());
+    PanelFeatures& all = *features_;
     const auto resized = [this] {
-        host_->windowResized(view_.size());
+        features_->state.windowResized(view_.size());
     };
-    QObject::connect(&view_, &QWindow::widthChanged, host_.get(), resized);
-    QObject::connect(&view_, &QWindow::heightChanged, host_.get(), resized);
+    QObject::connect(&view_, &QWindow::widthChanged, &all.state, resized);
+    QObject::connect(&view_, &QWindow::heightChanged, &all.state, resized);
     view_.engine()->addImageProvider(u"thumb"_s,
-                                     clipThumbs(subjects.store.clipsDir(), subjects.decoder));
-    view_.engine()->addImageProvider(u"file"_s, fileThumbs(subjects.icons, subjects.decoder));
-    view_.setInitialProperties({{u"host"_s, QVariant::fromValue(host_.get())}});
+                                     clipThumbs(services.store.clipsDir(), services.decoder));
+    view_.engine()->addImageProvider(u"file"_s, fileThumbs(services.icons, services.decoder));
+    for (const Tab* tab : all.tabs.list()) {
+        pages_.push_back(std::make_unique<QQmlComponent>(view_.engine(), tab->page(),
+                                                         QQmlComponent::Asynchronous));
+    }
+    view_.setInitialProperties({{u"controller"_s, QVariant::fromValue(&services.controller)},
+                                {u"panelState"_s, QVariant::fromValue(&all.state)},
+                                {u"tabs"_s, QVariant::fromValue(&all.tabs)},
+                                {u"focusing"_s, QVariant::fromValue(&all.focus)},
+                                {u"usage"_s, QVariant::fromValue(&all.usage)},
+                                {u"snippets"_s, QVariant::fromValue(&all.snippets)},
+                                {u"shelfFiles"_s, QVariant::fromValue(all.shelf)},
+                                {u"notices"_s, QVariant::fromValue(&services.notices)},
+                                {u"toast"_s, QVariant::fromValue(&all.toast)},
+                                {u"actions"_s, QVariant::fromValue(&all.actions)}});
     view_.setSource(contentUrl());
 }
 

@@ -1,12 +1,13 @@
 #pragma once
 
-#include "ui/CopyOnly.h"
-#include "ui/PanelHost.h"
+#include "ui/PanelFeatures.h"
+#include "ui/panel/CopyOnly.h"
 
 #include <QQmlComponent>
 #include <QQuickView>
 
 #include <memory>
+#include <vector>
 
 namespace ravelo {
 
@@ -20,16 +21,17 @@ public:
 
     [[nodiscard]] QQuickView& window() { return view_; }
 
-    /// Fills the window. Called once; all subjects outlive this view.
-    void load(PanelHost::Subjects subjects, const QLocale& locale);
+    /// Fills the window. Called once; all services outlive this view.
+    void load(const PanelFeatures::Services& services, const QLocale& locale);
 
     /// Only after `load`.
-    [[nodiscard]] PanelHost& host() { return *host_; }
+    [[nodiscard]] PanelFeatures& features() { return *features_; }
 
 private:
-    std::unique_ptr<PanelHost> host_; // Outlives the content, which is in the view.
+    std::unique_ptr<PanelFeatures> features_; // Outlive the content, which is in the view.
     QQuickView view_;
     QQmlComponent content_;
+    std::vector<std::unique_ptr<QQmlComponent>> pages_; ///< Of the tabs, kept compiled.
     CopyOnly copyOnly_;
 };
 

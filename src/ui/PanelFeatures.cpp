@@ -1,0 +1,54 @@
+#include "ui/PanelFeatures.h"
+
+#include "panel/NotchController.h"
+#include "ui/notes/Notes.h"
+
+namespace ravelo {
+
+PanelFeatures::PanelFeatures(const Services& services, const QLocale& locale,
+                             const QQuickWindow& window, QQmlEngine& engine)
+    : typing(services.pasteboard, engine),
+      toast(services.scheduler),
+      deleting(services.store, toast, locale),
+      snippets({services.store, services.controller, toast, deleting}, locale),
+      focus(services.store, services.preferences, services.scheduler),
+      usage({services.usage, services.controller, services.settings, services.scheduler}),
+      actions(services.nightShift, services.shutDown),
+      tabs(services.settings),
+      state(services.controller, services.settings, services.scheduler) {
+    // From left to right.
+    clips = &tabs.add<Clips>(Clips::Services{services.store, services.controller, services.opener,
+                                             services.scheduler, toast, deleting, snippets},
+                             locale);
+    tabs.add<Notes>(services.store);
+    shelf = &tabs.add<ShelfFiles>(
+        ShelfFiles::Services{services.store, services.controller, services.opener,
+                             services.scheduler, services.jobs, services.received, services.nearby,
+                             toast, services.icons, services.decoder},
+        locale);
+    followTyping(services.controller, window);
+    followState();
+}
+
+void PanelFeatures::followTyping(NotchController& controller, const QQuickWindow& window) {
+    typing.setUndo(window, toast);
+    QObject::connect(&typing, &Typing::copied, &controller, &NotchController::copy);
+    QObject::connect(&typing, &Typing::keyboardWanted, &controller,
+                     [&controller, &window](const QQuickWindow* wanted) {
+                         if (wanted == &window) {
+                             controller.typeFocus();
+                         }
+                     });
+}
+
+void PanelFeatures::followState() {
+    QObject::connect(&state, &PanelState::opened, &tabs, &Tabs::begin);
+    QObject::connect(&state, &PanelState::opened, &usage, &Usage::refresh);
+    QObject::connect(&state, &PanelState::closed, &toast, &Toast::reset);
+    QObject::connect(&state, &PanelState::closed, &tabs, &Tabs::reset);
+    QObject::connect(&state, &PanelState::closed, &snippets, &Snippets::reset);
+    QObject::connect(&state, &PanelState::closed, &focus, &Focus::reload);
+    state.start();
+}
+
+} // namespace ravelo

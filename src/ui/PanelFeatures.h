@@ -1,0 +1,69 @@
+#pragma once
+
+#include "ui/clips/Clips.h"
+#include "ui/controls/Toast.h"
+#include "ui/focus/Focus.h"
+#include "ui/lists/Deleting.h"
+#include "ui/panel/PanelActions.h"
+#include "ui/panel/PanelState.h"
+#include "ui/panel/Tabs.h"
+#include "ui/shelf/ShelfFiles.h"
+#include "ui/snippets/Snippets.h"
+#include "ui/text/Typing.h"
+#include "ui/usage/Usage.h"
+
+namespace ravelo {
+
+class Notices;
+class Pasteboard;
+class Preferences;
+
+/// All that the panel shows, each part made of what it needs. This is where the tabs are listed.
+/// Main thread.
+class PanelFeatures {
+public:
+    /// All of it outlives the panel.
+    struct Services {
+        Store& store;
+        AppSettings& settings;
+        NotchController& controller;
+        Notices& notices;
+        Pasteboard& pasteboard;
+        Scheduler& scheduler;
+        Preferences& preferences;
+        NightShift& nightShift;
+        ShutDown& shutDown;
+        PlanUsage& usage;
+        ReceivedWatcher& received;
+        NearbySend& nearby;
+        DetachedJobs& jobs;
+        FileOpener& opener;
+        std::shared_ptr<const FileIcons> icons;
+        std::shared_ptr<ImageDecoder> decoder;
+    };
+
+    /// `window` is the panel's, still empty, and `engine` the one of all windows.
+    PanelFeatures(const Services& services, const QLocale& locale, const QQuickWindow& window,
+                  QQmlEngine& engine);
+    PanelFeatures(const PanelFeatures&) = delete;
+    PanelFeatures& operator=(const PanelFeatures&) = delete;
+
+    Typing typing;
+    Toast toast;
+    Deleting deleting;
+    Snippets snippets;
+    Focus focus;
+    Usage usage;
+    PanelActions actions;
+    Tabs tabs;
+    PanelState state;
+    // Owned by `tabs`.
+    Clips* clips = nullptr;
+    ShelfFiles* shelf = nullptr;
+
+private:
+    void followTyping(NotchController& controller, const QQuickWindow& window);
+    void followState();
+};
+
+} // namespace ravelo

@@ -1,0 +1,167 @@
+#include "ui/clips/ClipListModel.h"
+
+#include "store/Store.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// More than any panel is wide; a clip may be megabytes long.
+constexpr qsizetype titleLength = 1000;
+
+constexpr Seconds justNow(60);
+
+QString title(const ClipItem& clip) {
+    if (clip.kind == ClipKind::image) {
+        return ClipListModel::tr("Image");
+    }
+    return clip.text.left(titleLength).replace(u'\n', u' ');
+}
+
+QString icon(ClipKind kind) {
+    switch (kind) {
+    case ClipKind::url:
+        return u"link"_s;
+    case ClipKind::image:
+        return u"photo"_s;
+    case ClipKind::text:
+        break;
+    }
+    return u"doc.text"_s;
+}
+
+} // namespace
+
+ClipListModel::ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale)
+    : store_(store),
+      scheduler_(scheduler),
+      textSearch_(locale),
+      relativeDate_(locale),
+      locale_(locale) {
+    connect(&store, &Store::cleared, this, &ClipListModel::dismissTooLarge);
+    connect(&store, &Store::clipsChanged, this, &ClipListModel::update);
+    update();
+}
+
+QVariant ClipListModel::data(const QModelIndex& index, int role) const {
+    if (!checkIndex(index, CheckIndexOption::IndexIsValid)) {
+        return {};
+    }
+    const ClipItem& clip = rows()[index.row()];
+    switch (role) {
+    case clipIdRole:
+        return clip.id;
+    case titleRole:
+        return title(clip);
+    case iconRole:
+        return isTooLarge(clip) ? u"exclamationmark.circle"_s : icon(clip.kind);
+    case pinnedRole:
+        return clip.pinned;
+    case subtitleRole:
+        return subtitle(clip);
+    case imageFileNameRole:
+        return clip.imageFileName;
+    default:
+        return {};
+    }
+}
+
+QHash<int, QByteArray> ClipListModel::roleNames() const {
+    return {{clipIdRole, "clipId"},     {titleRole, "title"},
+            {iconRole, "icon"},         {pinnedRole, "pinned"},
+            {subtitleRole, "subtitle"}, {imageFileNameRole, "imageFileName"}};
+}
+
+void ClipListModel::setSearch(const QString& search) {
+    if (search == search_) {
+        return;
+    }
+    search_ = search;
+    textSearch_.setWanted(search);
+    Q_EMIT searchChanged();
+    update();
+}
+
+void ClipListModel::setTooLarge(const TooLargeCopy& copy) {
+    tooLarge_ = {
+        copy,
+        {QUuid::createUuid(), tr("Too large to keep"), ClipKind::text, scheduler_.now(), false, {}}};
+    update();
+}
+
+void ClipListModel::dismissTooLarge() {
+    tooLarge_.reset();
+    update();
+}
+
+void ClipListModel::refreshDates() {
+    if (count() > 0) {
+        Q_EMIT dataChanged(index(0), index(count() - 1), {subtitleRole});
+    }
+}
+
+Seconds ClipListModel::untilDatesChange() const {
+    const Date now = scheduler_.now();
+    Seconds until = Seconds::max();
+    for (const ClipItem& clip : rows()) {
+        until = std::min(until, RelativeDate::untilChange(clip.date, now));
+    }
+    return until;
+}
+
+QUuid ClipListModel::idAt(int row) const {
+    return row >= 0 && row < count() ? rows()[row].id : QUuid();
+}
+
+void ClipListModel::update() {
+    const int before = count();
+    takeOver(found());
+    if (count() != before) {
+        Q_EMIT countChanged();
+    }
+    const auto row =
+        std::ranges::find_if(rows(), [this](const ClipItem& one) { return isTooLarge(one); });
+    const int now = row == rows().end() ? -1 : static_cast<int>(row - rows().begin());
+    if (std::exchange(tooLargeRow_, now) != now) {
+        Q_EMIT tooLargeRowChanged();
+    }
+}
+
+QList<ClipItem> ClipListModel::found() {
+    if (search_.isEmpty()) {
+        QList<ClipItem> all = store_.clips();
+        if (tooLarge_) {
+            all.insert(std::ranges::find(all, false, &ClipItem::pinned), tooLarge_->record);
+        }
+        return all;
+    }
+    QList<ClipItem> found;
+    for (const ClipItem& clip : store_.clips()) {
+        if (textSearch_.finds(clip.id, clip.text)) {
+            found.append(clip);
+        }
+    }
+    return found;
+}
+
+QString ClipListModel::subtitle(const ClipItem& clip) const {
+    const Date now = scheduler_.now();
+    const QString ago = relativeDate_.text(clip.date, now);
+    if (tooLarge_ && isTooLarge(clip)) {
+        const bool recent = now.sinceReference - clip.date.sinceReference < justNow.count();
+        return tooLargeDetail(tooLarge_->copy, locale_) + u" \u00b7 "_s +
+               (recent ? tr("just now") : ago);
+    }
+    return clip.pinned ? tr("Pinned \u00b7 %1").arg(ago) : ago;
+}
+
+bool ClipListModel::isTooLarge(const ClipItem& row) const {
+    return tooLarge_ && row.id == tooLarge_->record.id;
+}
+
+} // namespace ravelo

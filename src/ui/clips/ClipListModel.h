@@ -1,0 +1,91 @@
+#pragma once
+
+#include "base/Scheduler.h"
+#include "store/Records.h"
+#include "ui/lists/KeyedListModel.h"
+#include "ui/lists/RelativeDate.h"
+#include "ui/lists/RowAges.h"
+#include "ui/lists/TextSearch.h"
+#include "ui/clips/TooLarge.h"
+
+#include <QQmlEngine>
+
+#include <optional>
+
+namespace ravelo {
+
+class Store;
+
+/// The clipboard history as the panel lists it: those clips that contain `search`, in the store's
+/// order, and below the pinned ones a row that tells of a copy too large to keep. Main thread.
+class ClipListModel : public KeyedListModel<ClipItem>, public AgingRows {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made in C++")
+    Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY searchChanged)
+    Q_PROPERTY(int count READ count NOTIFY countChanged)
+    /// -1 if there is none.
+    Q_PROPERTY(int tooLargeRow READ tooLargeRow NOTIFY tooLargeRowChanged)
+
+public:
+    enum Role {
+        clipIdRole = Qt::UserRole,
+        titleRole,
+        iconRole, ///< Name of a symbol.
+        pinnedRole,
+        subtitleRole,
+        imageFileNameRole,
+    };
+
+    ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale);
+
+    [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
+    [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
+
+    [[nodiscard]] QString search() const { return search_; }
+
+    void setSearch(const QString& search);
+
+    [[nodiscard]] int count() const { return rowCount(); }
+
+    [[nodiscard]] int tooLargeRow() const { return tooLargeRow_; }
+
+    /// In place of the one before. Not searched for, never stored, gone when the history is
+    /// cleared.
+    void setTooLarge(const TooLargeCopy& copy);
+    Q_INVOKABLE void dismissTooLarge();
+
+    void refreshDates() override;
+    [[nodiscard]] Seconds untilDatesChange() const override;
+
+    /// An invalid id where there is no such row.
+    Q_INVOKABLE [[nodiscard]] QUuid idAt(int row) const;
+
+Q_SIGNALS:
+    void searchChanged();
+    void countChanged();
+    void tooLargeRowChanged();
+
+private:
+    void update();
+    [[nodiscard]] QList<ClipItem> found();
+    [[nodiscard]] QString subtitle(const ClipItem& clip) const;
+    [[nodiscard]] bool isTooLarge(const ClipItem& row) const;
+
+    /// Its row has a record of its own, which no store knows.
+    struct TooLargeRow {
+        TooLargeCopy copy;
+        ClipItem record;
+    };
+
+    Store& store_;
+    const Scheduler& scheduler_;
+    TextSearch textSearch_;
+    RelativeDate relativeDate_;
+    QLocale locale_;
+    QString search_;
+    std::optional<TooLargeRow> tooLarge_;
+    int tooLargeRow_ = -1;
+};
+
+} // namespace ravelo

@@ -1,0 +1,72 @@
+#pragma once
+
+#include "ui/clips/ClipListModel.h"
+#include "ui/clips/LinkOpening.h"
+#include "ui/controls/Tab.h"
+#include "ui/lists/RowAges.h"
+#include "ui/snippets/Snippets.h"
+
+namespace ravelo {
+
+class Deleting;
+class NotchController;
+
+/// The tab with the clipboard history and the snippets. Main thread.
+class Clips : public Tab {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made in C++")
+    Q_PROPERTY(ravelo::ClipListModel* list READ list CONSTANT)
+    Q_PROPERTY(ravelo::LinkOpening* links READ links CONSTANT)
+    Q_PROPERTY(ravelo::Snippets* snippets READ snippets CONSTANT)
+
+public:
+    /// All of it outlives the tab.
+    struct Services {
+        Store& store;
+        NotchController& controller;
+        FileOpener& opener;
+        Scheduler& scheduler;
+        Toast& toast;
+        Deleting& deleting;
+        Snippets& snippets;
+    };
+
+    Clips(Services services, const QLocale& locale);
+
+    [[nodiscard]] ClipListModel* list() { return &list_; }
+
+    [[nodiscard]] LinkOpening* links() { return &links_; }
+
+    [[nodiscard]] Snippets* snippets() { return &services_.snippets; }
+
+    void begin() override;
+    void reset() override;
+
+    /// Says that a copy was not kept: by a row, at once or at the next opening, which goes when the
+    /// panel closes, and by a toast if the panel is open.
+    void showTooLarge(const TooLargeCopy& copy);
+
+    /// In clips and snippets.
+    Q_INVOKABLE void search(const QString& text);
+
+    Q_INVOKABLE void copy(int row);
+    Q_INVOKABLE void copyAndClose(int row);
+    /// As LinkOpening has it; closes the panel if it is opened.
+    Q_INVOKABLE void openLink(int row);
+    Q_INVOKABLE void togglePin(int row);
+    Q_INVOKABLE void remove(int row);
+    /// All that are not pinned.
+    Q_INVOKABLE void clear();
+
+private:
+    [[nodiscard]] const ClipItem* clipAt(int row) const;
+
+    Services services_;
+    QLocale locale_;
+    ClipListModel list_;
+    LinkOpening links_;
+    RowAges ages_;
+};
+
+} // namespace ravelo

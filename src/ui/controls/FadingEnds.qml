@@ -1,0 +1,15 @@
+import QtQuick
+import Ravelo.Paint
+
+/// Fades out towards the bottom and the top.
+FadingEdge {
+    default property alias content: upper.data
+    property alias topLength: upper.length
+
+    FadingEdge {
+        id: upper
+        anchors.fill: parent
+        edge: FadingEdge.Top
+        length: 0
+    }
+}

@@ -1,0 +1,62 @@
+#pragma once
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QUrl>
+
+namespace ravelo {
+
+/// One of several tabs: what the row of tabs shows of it, and the page below. Main thread.
+class Tab : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("each feature has its own")
+    Q_PROPERTY(QString title READ title CONSTANT)
+    Q_PROPERTY(QString symbol READ symbol CONSTANT)
+    Q_PROPERTY(QUrl page READ page CONSTANT)
+    Q_PROPERTY(bool kept READ isKept CONSTANT)
+    Q_PROPERTY(bool searchable READ isSearchable CONSTANT)
+
+public:
+    struct Look {
+        enum class Page { kept, dropped };
+        enum class Search { none, has };
+
+        QString key;    ///< What the preferences remember; never shown, never changed.
+        QString title;  ///< In the user's language.
+        QString symbol; ///< Name of a symbol.
+        QUrl page;      ///< A QML file whose root is a TabPage.
+        Page whileHidden = Page::kept;
+        Search search = Search::none;
+    };
+
+    explicit Tab(Look look) : look_(std::move(look)) {}
+
+    [[nodiscard]] QString key() const { return look_.key; }
+
+    [[nodiscard]] QString title() const { return look_.title; }
+
+    [[nodiscard]] QString symbol() const { return look_.symbol; }
+
+    [[nodiscard]] QUrl page() const { return look_.page; }
+
+    /// Whether the page exists while another tab is shown.
+    [[nodiscard]] bool isKept() const { return look_.whileHidden == Look::Page::kept; }
+
+    [[nodiscard]] bool isSearchable() const { return look_.search == Look::Search::has; }
+
+    /// It is about to be on the screen.
+    virtual void begin() {}
+
+    /// It is not on the screen any more and forgets what was opened, typed or searched for.
+    virtual void reset() {}
+
+Q_SIGNALS:
+    /// It wants to be the tab that is shown.
+    void requested();
+
+private:
+    Look look_;
+};
+
+} // namespace ravelo

@@ -1,0 +1,24 @@
+import QtQuick
+import Ravelo.Controls
+
+/// The page of a tab. The base of each tab's own.
+FocusScope {
+    required property TabPlace place
+
+    readonly property bool shown: place.shown
+    readonly property bool dropTargeted: place.dropTargeted
+    readonly property real head: place.head
+    /// What scrolls the page.
+    property Flickable flick: null
+
+    /// Takes the keyboard to the page's search.
+    function search() {
+    }
+
+    /// Ends a search; false if there is none.
+    function clearSearch(): bool {
+        return false;
+    }
+
+    focus: true
+}

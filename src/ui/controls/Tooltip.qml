@@ -1,0 +1,66 @@
+import QtQuick
+import Ravelo.Paint
+import Ravelo.Theme
+
+/// A hint of one or more lines that appears under `target` some time after the pointer came to rest
+/// on it.
+Item {
+    id: tooltip
+
+    required property Item target
+    required property string text
+    property bool hovered: false
+
+    onHoveredChanged: hovered ? delay.restart() : delay.stop()
+
+    Timer {
+        id: delay
+        interval: Theme.tooltipDelay
+    }
+
+    Loader {
+        active: tooltip.hovered && !delay.running
+        sourceComponent: Box {
+            parent: tooltip.Window.contentItem // qmllint disable unqualified
+            z: 1000
+            width: lines.implicitWidth + 20
+            height: lines.implicitHeight + 12
+            radius: Theme.radiusSmall
+            color: Theme.tooltip
+            lineColor: Theme.lineFloating
+            lineWidth: 1
+
+            readonly property point centre: tooltip.target.mapToItem(
+                null, tooltip.target.width / 2, tooltip.target.height + 6)
+            readonly property real room: parent.width - width - Theme.insetSide
+            x: Math.round(Math.max(Theme.insetSide, Math.min(centre.x - width / 2, room)))
+            y: Math.round(centre.y)
+
+            Shadow {
+                anchors.fill: parent
+                z: -1
+                radius: parent.radius
+                color: Qt.rgba(0, 0, 0, 0.40)
+                blur: 18
+                drop: 6
+            }
+
+            Column {
+                id: lines
+                x: 10
+                y: 6
+
+                Repeater {
+                    model: tooltip.text.split("\n") // qmllint disable unqualified
+
+                    Label {
+                        required property string modelData
+                        style: Theme.small
+                        text: modelData
+                        color: Theme.text1
+                    }
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,56 @@
+import QtQuick
+import Ravelo.Controls
+import Ravelo.Notes
+import Ravelo.Paint
+import Ravelo.Text
+import Ravelo.Theme
+
+/// The quick note. Every change is kept at once.
+TabPage {
+    id: tab
+
+    readonly property Notes notes: place.tab as Notes
+    readonly property real top: head - Math.min(head, Math.max(0, scrolled.contentY + head))
+
+    flick: scrolled
+
+    Label {
+        objectName: "caption"
+        y: tab.top + 8
+        text: qsTr("Quick note")
+        color: Theme.caption
+        style: Theme.body
+    }
+
+    Box {
+        objectName: "editor"
+        y: tab.top + 32
+        width: parent.width
+        height: parent.height - y
+        radius: Theme.radiusEditor
+        color: Theme.surface1
+        lineColor: editor.activeFocus ? Theme.withAlpha(Theme.accent, 0.45) : Theme.line
+        lineWidth: 1
+
+        ScrolledEdit {
+            id: scrolled
+            x: 11
+            y: 11 - tab.top // Stays where it is while the box grows over what is scrolled away.
+            width: parent.width - 22
+            height: tab.height - 32 - 22
+            head: tab.head
+            edit: editor
+
+            EditArea {
+                id: editor
+                objectName: "noteInput"
+                focus: true
+                name: qsTr("Quick note")
+                width: parent.width
+                exactText: tab.notes.text
+                Component.onCompleted: cursorPosition = length
+                onExactTextChanged: tab.notes.text = exactText
+            }
+        }
+    }
+}

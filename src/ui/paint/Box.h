@@ -1,0 +1,40 @@
+#pragma once
+
+#include "ui/paint/PaintedItem.h"
+
+#include <QColor>
+
+namespace ravelo {
+
+/// A rounded rectangle: filled, or filled from left to right, and outlined within its bounds.
+class Box : public PaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)
+    /// Colour of the right end; invalid (the default) if the fill is even.
+    Q_PROPERTY(QColor endColor MEMBER endColor_ NOTIFY changed)
+    Q_PROPERTY(double radius MEMBER radius_ NOTIFY changed)
+    Q_PROPERTY(QColor lineColor MEMBER lineColor_ NOTIFY changed)
+    Q_PROPERTY(double lineWidth MEMBER lineWidth_ NOTIFY changed)
+    /// Length of the dashes of the outline and of the gaps between them; 0 if it is solid.
+    Q_PROPERTY(double dash MEMBER dash_ NOTIFY changed)
+
+public:
+    using PaintedItem::PaintedItem;
+
+protected:
+    void paint(QPainter& painter) override;
+
+private:
+    [[nodiscard]] QBrush fill() const;
+    [[nodiscard]] QPen pen() const;
+
+    QColor color_ = Qt::transparent;
+    QColor endColor_;
+    QColor lineColor_ = Qt::transparent;
+    double radius_ = 0;
+    double lineWidth_ = 0;
+    double dash_ = 0;
+};
+
+} // namespace ravelo

@@ -1,0 +1,101 @@
+#include "ui/paint/FadingEdge.h"
+
+#include <algorithm>
+
+namespace ravelo {
+
+namespace {
+
+QRect devicePixels(const QPainter& painter, const QRectF& rect) {
+    return painter.deviceTransform().mapRect(rect).toAlignedRect();
+}
+
+/// Painted over the children.
+class Cover final : public PaintedItem {
+public:
+    Cover(FadingEdge& owner, std::shared_ptr<const QImage> behind)
+        : PaintedItem(&owner), owner_(owner), behind_(std::move(behind)) {
+        setZ(1000);
+    }
+
+protected:
+    [[nodiscard]] QRectF paintedRect() const override { return owner_.strip(); }
+
+    void paint(QPainter& painter) override {
+        const QRectF strip = owner_.strip();
+        const QLinearGradient mask = owner_.mask();
+        const QRect place = devicePixels(painter, strip);
+        if (behind_->size() != place.size()) {
+            return;
+        }
+        painter.setRenderHint(QPainter::Antialiasing, false);
+        painter.setOpacity(1);
+        painter.setCompositionMode(QPainter::CompositionMode_DestinationIn);
+        painter.fillRect(strip, mask);
+
+        QImage rest = *behind_;
+        QPainter eraser(&rest);
+        eraser.setCompositionMode(QPainter::CompositionMode_DestinationOut);
+        const QTransform toStrip = painter.deviceTransform();
+        eraser.setTransform(toStrip * QTransform::fromTranslate(-place.x(), -place.y()));
+        eraser.fillRect(strip, mask);
+        eraser.end();
+
+        painter.setCompositionMode(QPainter::CompositionMode_Plus);
+        painter.drawImage(strip, rest);
+    }
+
+private:
+    FadingEdge& owner_;
+    std::shared_ptr<const QImage> behind_;
+};
+
+} // namespace
+
+FadingEdge::FadingEdge(QQuickItem* parent)
+    : PaintedItem(parent), behind_(std::make_shared<QImage>()), cover_(new Cover(*this, behind_)) {
+    connect(this, &PaintedItem::changed, cover_, &QQuickItem::update);
+}
+
+QRectF FadingEdge::strip() const {
+    const double span = std::min(length_, edge_ == Right ? width() : height());
+    switch (edge_) {
+    case Right:
+        return {width() - span, 0, span, height()};
+    case Top:
+        return {0, 0, width(), span};
+    case Bottom:
+        break;
+    }
+    return {0, height() - span, width(), span};
+}
+
+QLinearGradient FadingEdge::mask() const {
+    const QRectF area = strip();
+    QLinearGradient gradient(edge_ == Top ? area.bottomLeft() : area.topLeft(),
+                             edge_ == Right    ? area.topRight()
+                             : edge_ == Bottom ? area.bottomLeft()
+                                               : area.topLeft());
+    gradient.setColorAt(0, Qt::black);
+    gradient.setColorAt(1, Qt::transparent);
+    return gradient;
+}
+
+void FadingEdge::paint(QPainter& painter) {
+    if (painter.device()->devType() != QInternal::Image) {
+        return;
+    }
+    // The cover is painted again exactly where and when this is.
+    const auto& target = *static_cast<QImage*>(painter.device());
+    *behind_ = target.copy(devicePixels(painter, strip()))
+                   .convertToFormat(QImage::Format_ARGB32_Premultiplied);
+    behind_->setDevicePixelRatio(1);
+}
+
+void FadingEdge::geometryChange(const QRectF& now, const QRectF& before) {
+    PaintedItem::geometryChange(now, before);
+    cover_->setSize(now.size());
+    Q_EMIT changed();
+}
+
+} // namespace ravelo

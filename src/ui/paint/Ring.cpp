@@ -1,0 +1,18 @@
+#include "ui/paint/Ring.h"
+
+namespace ravelo {
+
+void Ring::paint(QPainter& painter) {
+    constexpr double degree = 16; // QPainter counts angles in these, counter-clockwise.
+    const double inset = lineWidth_ / 2;
+    const QRectF circle = boundingRect().adjusted(inset, inset, -inset, -inset);
+    painter.setBrush(Qt::NoBrush);
+    painter.setPen(QPen(trackColor_, lineWidth_));
+    painter.drawEllipse(circle);
+    if (fraction_ > 0) {
+        painter.setPen(QPen(color_, lineWidth_, Qt::SolidLine, Qt::RoundCap));
+        painter.drawArc(circle, qRound(90 * degree), qRound(-fraction_ * 360 * degree));
+    }
+}
+
+} // namespace ravelo

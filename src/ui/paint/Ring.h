@@ -1,0 +1,31 @@
+#pragma once
+
+#include "ui/paint/PaintedItem.h"
+
+#include <QColor>
+
+namespace ravelo {
+
+/// A ring within the item's bounds, of which a part, clockwise from the top, stands out.
+class Ring : public PaintedItem {
+    Q_OBJECT
+    QML_ELEMENT
+    Q_PROPERTY(double fraction MEMBER fraction_ NOTIFY changed) ///< 0 to 1.
+    Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)
+    Q_PROPERTY(QColor trackColor MEMBER trackColor_ NOTIFY changed)
+    Q_PROPERTY(double lineWidth MEMBER lineWidth_ NOTIFY changed)
+
+public:
+    using PaintedItem::PaintedItem;
+
+protected:
+    void paint(QPainter& painter) override;
+
+private:
+    double fraction_ = 0;
+    QColor color_ = Qt::white;
+    QColor trackColor_ = Qt::transparent;
+    double lineWidth_ = 1;
+};
+
+} // namespace ravelo

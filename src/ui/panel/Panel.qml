@@ -1,0 +1,109 @@
+import QtQuick
+import Ravelo.Controls
+import Ravelo.Focus
+import Ravelo.Panel
+import Ravelo.Shelf
+import Ravelo.Snippets
+import Ravelo.Theme
+import Ravelo.Usage
+
+/// All that the panel's window shows: a handle, a bar, or the content, hanging from the same edge.
+Item {
+    id: panel
+
+    required property NotchController controller
+    required property PanelState panelState
+    required property Tabs tabs
+    required property Focus focusing
+    required property Usage usage
+    required property Snippets snippets
+    required property ShelfFiles shelfFiles
+    required property Notices notices
+    required property ToastMessage toast
+    required property PanelActions actions
+
+    HoverHandler {
+        onHoveredChanged: panel.controller.setHovered(hovered)
+    }
+
+    // Files only, and only to be copied; what they are the controller learns by itself: here it
+    // would have to be waited for. Not what is dragged out of the panel, and back.
+    DropArea {
+        id: drop
+        objectName: "drop"
+
+        function answer(event: DragEvent, accept: bool) {
+            if (accept) {
+                event.accept(Qt.CopyAction);
+            } else {
+                event.accepted = false;
+            }
+        }
+
+        anchors.fill: parent
+        keys: ["text/uri-list", "application/vnd.portal.filetransfer", "application/vnd.portal.files"]
+        onEntered: drag => answer(drag, !drag.source && panel.controller.onDragEnter())
+        onPositionChanged: drag => answer(drag, panel.controller.mayCarryFiles())
+        onExited: panel.controller.onDragLeave()
+        onDropped: drop => answer(drop, panel.controller.onDrop())
+    }
+
+    // Not as large as the window: it shrinks a moment after the panel has closed.
+    HandleView {
+        objectName: "handle"
+        width: panel.controller.collapsedSize.width
+        height: panel.controller.collapsedSize.height
+        visible: !slot.open && !panel.controller.showsBar
+        backdrop: panel.panelState.backdrop
+    }
+
+    TimerBarView {
+        id: bar
+        objectName: "bar"
+        width: panel.controller.collapsedSize.width
+        height: panel.controller.collapsedSize.height
+        visible: !slot.open && panel.controller.showsBar
+        focusing: panel.focusing
+        notch: panel.controller.notch
+        ended: panel.controller.timerEnded
+    }
+
+    Binding {
+        target: panel.focusing.face
+        property: "shown"
+        value: (bar.visible || slot.open) && panel.Window.visibility !== Window.Hidden
+    }
+
+    Binding {
+        target: Theme
+        property: "reducedMotion"
+        value: panel.panelState.reducedMotion
+    }
+
+    Binding {
+        target: Theme
+        property: "translucent"
+        value: panel.panelState.backdrop !== Backdrop.Opaque
+    }
+
+    ContentSlot {
+        id: slot // Not centred: the window may still be as narrow as the handle.
+        focus: true
+        panelState: panel.panelState
+        open: panel.controller.isOpen
+        // qmllint disable unqualified
+        content: ContentView {
+            controller: panel.controller
+            panelState: panel.panelState
+            tabs: panel.tabs
+            focusing: panel.focusing
+            usage: panel.usage
+            snippets: panel.snippets
+            shelfFiles: panel.shelfFiles
+            notices: panel.notices
+            toast: panel.toast
+            actions: panel.actions
+        }
+        // qmllint enable unqualified
+    }
+}

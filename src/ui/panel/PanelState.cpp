@@ -1,0 +1,91 @@
+#include "ui/panel/PanelState.h"
+
+#include "base/Scheduler.h"
+#include "panel/NotchController.h"
+#include "settings/AppSettings.h"
+
+namespace ravelo {
+
+namespace {
+
+/// Long enough for the closed panel to be gone from the screen, shorter than any hand.
+constexpr Seconds buildDelay(0.04);
+
+} // namespace
+
+PanelState::PanelState(NotchController& controller, AppSettings& settings, Scheduler& scheduler)
+    : controller_(controller),
+      settings_(settings),
+      scheduler_(scheduler),
+      contentSize_(controller.sizeToOpenWith()) {
+    connect(&settings, &AppSettings::bgOpacityChanged, this, &PanelState::darknessChanged);
+    connect(&settings, &AppSettings::fullBlackChanged, this, &PanelState::darknessChanged);
+    connect(&settings, &AppSettings::panelWidthChanged, this, [this] {
+        if (!controller_.isOpen()) {
+            setContentSize(controller_.sizeToOpenWith());
+        }
+    });
+}
+
+void PanelState::start() {
+    connect(&controller_, &NotchController::isOpenChanged, this, &PanelState::follow);
+    follow();
+}
+
+double PanelState::darkness() const {
+    return settings_.bgOpacity();
+}
+
+bool PanelState::fullBlack() const {
+    return settings_.fullBlack();
+}
+
+void PanelState::setBackdrop(Backdrop::Kind backdrop) {
+    if (backdrop != backdrop_) {
+        backdrop_ = backdrop;
+        Q_EMIT backdropChanged();
+    }
+}
+
+void PanelState::setReducedMotion(bool reduced) {
+    if (reduced != reducedMotion_) {
+        reducedMotion_ = reduced;
+        Q_EMIT reducedMotionChanged();
+    }
+}
+
+void PanelState::windowResized(QSizeF size) {
+    if (controller_.isOpen()) {
+        setContentSize(size);
+    }
+}
+
+void PanelState::follow() {
+    if (controller_.isOpen()) {
+        building_.reset();
+        setContentSize(controller_.frame().size());
+        Q_EMIT opened();
+        setHasContent(true);
+    } else {
+        setHasContent(false);
+        Q_EMIT closed();
+        setContentSize(controller_.sizeToOpenWith());
+        building_ = scheduler_.after(buildDelay, [this] { setHasContent(true); });
+    }
+}
+
+void PanelState::setHasContent(bool has) {
+    if (has != hasContent_) {
+        hasContent_ = has;
+        Q_EMIT hasContentChanged();
+    }
+}
+
+void PanelState::setContentSize(QSizeF size) {
+    if (!size.isEmpty() && size != contentSize_) {
+        contentSize_ = size;
+        Q_EMIT contentSizeChanged();
+    }
+}
+
+} // namespace ravelo

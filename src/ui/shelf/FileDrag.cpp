@@ -1,0 +1,128 @@
+#include "ui/shelf/FileDrag.h"
+
+#include "base/FileUrl.h"
+#include "platform/DetachedJobs.h"
+#include "platform/FileIcons.h"
+#include "platform/ImageDecoder.h"
+#include "ui/images/FilePage.h"
+#include "ui/images/FileThumb.h"
+
+#include <QDrag>
+#include <QFileInfo>
+#include <QMimeData>
+#include <QPainter>
+#include <QPixmap>
+#include <QPointer>
+#include <QQuickWindow>
+
+#include <algorithm>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr double iconSize = 56;
+constexpr double step = 2;         ///< From one icon to the next.
+constexpr qsizetype mostIcons = 8; ///< Of those behind hardly anything is seen.
+
+double scaleOf(const QQuickItem& item) {
+    return item.window() == nullptr ? 1 : item.window()->effectiveDevicePixelRatio();
+}
+
+/// As RFC 2483 has it.
+QByteArray uriList(const QList<QUrl>& files) {
+    QByteArray list;
+    for (const QUrl& file : files) {
+        list += fileAddress(file) + "\r\n";
+    }
+    return list;
+}
+
+/// What stands in for icons that are still being looked for.
+QList<QImage> pages(const QList<QUrl>& files, int size) {
+    QList<QImage> pages;
+    for (const QUrl& file : files.first(std::min(files.size(), mostIcons))) {
+        pages.append(filePage(QFileInfo(file.fileName()).suffix(), size));
+    }
+    return pages;
+}
+
+/// Icons that lie behind each other, each a little further up and to the right.
+QImage fanned(const QList<QImage>& icons, double scale) {
+    const double spread = step * static_cast<double>(std::max<qsizetype>(icons.size() - 1, 0));
+    const double side = (iconSize + spread) * scale;
+    QImage fan(QSizeF(side, side).toSize(), QImage::Format_ARGB32_Premultiplied);
+    fan.fill(Qt::transparent);
+    QPainter painter(&fan);
+    for (qsizetype i = icons.size() - 1; i >= 0; --i) {
+        const double offset = step * static_cast<double>(i);
+        painter.drawImage(QPointF(offset, spread - offset) * scale, icons[i]);
+    }
+    painter.end();
+    fan.setDevicePixelRatio(scale);
+    return fan;
+}
+
+} // namespace
+
+FileDrag::FileDrag(DetachedJobs& jobs, std::shared_ptr<const FileIcons> icons,
+                   std::shared_ptr<ImageDecoder> decoder)
+    : jobs_(jobs), icons_(std::move(icons)), decoder_(std::move(decoder)) {}
+
+void FileDrag::prepare(const QList<QUrl>& files, QQuickItem* from) {
+    if (files == prepared_ || preparing_) { // One that hangs is enough.
+        return;
+    }
+    prepared_ = files;
+    pictures_.clear();
+    const auto pictures = std::make_shared<QList<QImage>>();
+    auto job = [pictures, files = files.first(std::min(files.size(), mostIcons)), icons = icons_,
+                decoder = decoder_, size = qRound(iconSize * scaleOf(*from))] {
+        for (const QUrl& file : files) {
+            pictures->append(fileIcon(file, size, *icons, *decoder));
+        }
+    };
+    preparing_ = jobs_.run(std::move(job), [this, pictures] {
+        preparing_.reset();
+        pictures_ = *pictures;
+    });
+}
+
+void FileDrag::start(const QList<QUrl>& files, QQuickItem* from) {
+    from->ungrabMouse();
+    if (files.isEmpty() || dragging_) {
+        return;
+    }
+    setDragging(true);
+    // Later: a drag runs an event loop of its own, in which what was pressed may go.
+    QMetaObject::invokeMethod(
+        this, [this, files, scale = scaleOf(*from)] { drag(files, scale); }, Qt::QueuedConnection);
+}
+
+void FileDrag::setDragging(bool dragging) {
+    dragging_ = dragging;
+    Q_EMIT draggingChanged();
+}
+
+void FileDrag::drag(const QList<QUrl>& files, double scale) {
+    const int size = qRound(iconSize * scale);
+    const bool ready = files == prepared_ && !pictures_.isEmpty();
+    const QImage fan = fanned(ready ? pictures_ : pages(files, size), scale);
+    auto* data = new QMimeData;
+    data->setData(u"text/uri-list"_s, uriList(files));
+    auto* drag = new QDrag(this); // Qt frees it, with its data, once it is over.
+    drag->setMimeData(data);
+    drag->setPixmap(QPixmap::fromImage(fan));
+    const double below = fan.height() / scale - iconSize / 2;
+    drag->setHotSpot(QPointF(iconSize / 2, below).toPoint());
+    const QPointer<FileDrag> alive(this);
+    drag->exec(Qt::CopyAction, Qt::CopyAction);
+    if (alive) {
+        setDragging(false);
+    }
+}
+
+} // namespace ravelo

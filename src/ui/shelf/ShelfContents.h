@@ -1,0 +1,107 @@
+#pragma once
+
+#include "shelf/FileLook.h"
+#include "ui/shelf/ShelfLayout.h"
+#include "ui/shelf/ShelfModels.h"
+
+#include <QObject>
+#include <QQmlEngine>
+#include <QSet>
+
+namespace ravelo {
+
+class DetachedJobs;
+class Scheduler;
+class Store;
+
+/// The parked files as the panel shows them and what can be done with them. Only those in sight
+/// have a tile, however many there are. Main thread.
+class ShelfContents : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made in C++")
+    Q_PROPERTY(ravelo::ShelfTiles* tiles READ tiles CONSTANT)
+    Q_PROPERTY(ravelo::ShelfTrays* trays READ trays CONSTANT)
+    Q_PROPERTY(int count READ count NOTIFY changed)
+    Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY changed)
+    Q_PROPERTY(QString header READ header NOTIFY changed)
+    Q_PROPERTY(QString selectText READ selectText NOTIFY changed)
+    Q_PROPERTY(double height READ height NOTIFY changed)
+    Q_PROPERTY(bool parking READ isParking CONSTANT)
+
+public:
+    ShelfContents(Store& store, DetachedJobs& jobs, Scheduler& scheduler);
+
+    [[nodiscard]] ShelfTiles* tiles() { return &tiles_; }
+
+    [[nodiscard]] ShelfTrays* trays() { return &trays_; }
+
+    [[nodiscard]] int count() const { return static_cast<int>(files_.size()); }
+
+    [[nodiscard]] bool hasSelection() const;
+
+    [[nodiscard]] QString header() const;
+
+    /// Of the button that selects all, or none.
+    [[nodiscard]] QString selectText() const;
+
+    /// Of all tiles, in logical pixels.
+    [[nodiscard]] double height() const { return layout_.height; }
+
+    /// A tile that is made just now stands for a file that has just come, not for one that was
+    /// scrolled into sight.
+    [[nodiscard]] bool isParking() const { return parking_; }
+
+    /// Looks for files that are gone or cannot be told. The answer comes later.
+    Q_INVOKABLE void lookForMissing();
+
+    /// There is so much room for the tiles, in logical pixels.
+    Q_INVOKABLE void lay(double width);
+
+    /// What part of them is in sight.
+    Q_INVOKABLE void setSight(double top, double height);
+
+    Q_INVOKABLE void toggle(int place);
+    Q_INVOKABLE void toggleStack(int stack);
+    Q_INVOKABLE void selectAllOrNone();
+    Q_INVOKABLE void remove(int place);
+    Q_INVOKABLE void removeSelected();
+    Q_INVOKABLE void park(const QUrl& file);
+
+    /// The selected files, or all where none is.
+    [[nodiscard]] Q_INVOKABLE QList<QUrl> chosen() const;
+
+    /// Those of `chosen` that are not known to be gone.
+    [[nodiscard]] Q_INVOKABLE QList<QUrl> filesToDrag() const;
+
+    [[nodiscard]] Q_INVOKABLE QUrl fileAt(int place) const;
+    [[nodiscard]] Q_INVOKABLE QRectF rectOf(int place) const;
+    [[nodiscard]] Q_INVOKABLE int above(int place) const;
+    [[nodiscard]] Q_INVOKABLE int below(int place) const;
+
+Q_SIGNALS:
+    void changed();
+
+private:
+    void update();
+    void layTiles();
+    void showSight();
+    [[nodiscard]] bool isAllSelected() const;
+
+    Store& store_;
+    FileLook look_;
+    ShelfTiles tiles_;
+    ShelfTrays trays_;
+    QList<QUrl> files_;
+    QStringList ids_; ///< One a file.
+    QSet<QUrl> missing_;
+    ShelfLayout layout_;
+    double width_ = 0;
+    double top_ = 0;
+    double bottom_ = 0;
+    bool parking_ = false;
+    bool looking_ = false;
+    bool lookAgain_ = false;
+};
+
+} // namespace ravelo

@@ -1,0 +1,33 @@
+#include "ui/snippets/Snippets.h"
+
+#include "panel/NotchController.h"
+#include "store/Store.h"
+#include "ui/controls/Toast.h"
+#include "ui/lists/Deleting.h"
+
+#include <algorithm>
+
+namespace ravelo {
+
+Snippets::Snippets(Services services, const QLocale& locale)
+    : services_(services), list_(services.store, locale), editor_(services.store) {}
+
+void Snippets::reset() {
+    list_.setSearch({});
+    editor_.cancel();
+}
+
+void Snippets::copy(const QUuid& id) {
+    const auto& snippets = services_.store.snippets();
+    const auto found = std::ranges::find(snippets, id, &Snippet::id);
+    if (found != snippets.end()) {
+        services_.controller.copy(found->body);
+        services_.toast.flashCopied();
+    }
+}
+
+void Snippets::remove(const QUuid& id) {
+    services_.deleting.removeSnippet(id);
+}
+
+} // namespace ravelo

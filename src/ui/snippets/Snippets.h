@@ -1,0 +1,47 @@
+#pragma once
+
+#include "ui/snippets/SnippetEditor.h"
+#include "ui/snippets/SnippetListModel.h"
+
+namespace ravelo {
+
+class Deleting;
+class NotchController;
+class Toast;
+
+/// The snippets and what can be done with them. Main thread.
+class Snippets : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made in C++")
+    Q_PROPERTY(ravelo::SnippetListModel* list READ list CONSTANT)
+    Q_PROPERTY(ravelo::SnippetEditor* editor READ editor CONSTANT)
+
+public:
+    /// All of it outlives this.
+    struct Services {
+        Store& store;
+        NotchController& controller;
+        Toast& toast;
+        Deleting& deleting;
+    };
+
+    Snippets(Services services, const QLocale& locale);
+
+    [[nodiscard]] SnippetListModel* list() { return &list_; }
+
+    [[nodiscard]] SnippetEditor* editor() { return &editor_; }
+
+    /// They are not on the screen any more.
+    void reset();
+
+    Q_INVOKABLE void copy(const QUuid& id);
+    Q_INVOKABLE void remove(const QUuid& id);
+
+private:
+    Services services_;
+    SnippetListModel list_;
+    SnippetEditor editor_;
+};
+
+} // namespace ravelo

@@ -1,0 +1,26 @@
+import QtQuick
+import Ravelo.Text
+
+/// Lies over a text field: a press asks for the keyboard, the middle button pastes. Everything but
+/// the middle button goes on to the field.
+MouseArea {
+    id: watch
+
+    required property Item field
+    required property int lines
+
+    anchors.fill: parent
+    acceptedButtons: Qt.LeftButton | Qt.RightButton | Qt.MiddleButton
+    cursorShape: Qt.IBeamCursor
+
+    onPressed: mouse => {
+        Typing.wantKeyboard(field);
+        if (mouse.button === Qt.MiddleButton) {
+            field.forceActiveFocus();
+            field.cursorPosition = field.positionAt(mouse.x, mouse.y);
+            Typing.paste(field, lines);
+        } else {
+            mouse.accepted = false;
+        }
+    }
+}

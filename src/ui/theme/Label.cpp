@@ -1,0 +1,145 @@
+#include "ui/theme/Label.h"
+
+#include <QFontMetricsF>
+#include <QGlyphRun>
+#include <QTextBoundaryFinder>
+#include <QTextLayout>
+
+#include <cmath>
+#include <vector>
+
+namespace ravelo {
+
+/// Text as it is drawn.
+struct GlyphLine {
+    struct Piece {
+        QGlyphRun glyphs; ///< Their base line at y 0.
+        double x = 0;
+    };
+
+    std::vector<Piece> pieces;
+    double width = 0;
+};
+
+namespace {
+
+void append(GlyphLine& line, const QString& text, const QFont& font, double cell) {
+    QTextLayout layout(text, font);
+    layout.beginLayout();
+    const QTextLine only = layout.createLine();
+    layout.endLayout();
+    const double width = only.horizontalAdvance();
+    const double x = line.width + (cell > 0 ? (cell - width) / 2 : 0);
+    for (QGlyphRun& run : layout.glyphRuns()) {
+        QList<QPointF> positions = run.positions();
+        for (QPointF& position : positions) {
+            position.ry() -= only.ascent();
+        }
+        run.setPositions(positions);
+        line.pieces.push_back({run, x});
+    }
+    line.width += cell > 0 ? cell : width;
+}
+
+/// Every digit in a cell as wide as "0".
+GlyphLine tabular(const QString& text, const QFont& font) {
+    GlyphLine line;
+    const double cell = QFontMetricsF(font).horizontalAdvance(u'0');
+    for (qsizetype start = 0; start < text.size();) {
+        qsizetype end = start;
+        while (end < text.size() && !text[end].isDigit()) {
+            ++end;
+        }
+        const bool digit = end == start;
+        end = digit ? start + 1 : end;
+        append(line, text.mid(start, end - start), font, digit ? cell : 0);
+        start = end;
+    }
+    return line;
+}
+
+GlyphLine proportional(const QString& text, const QFont& font) {
+    GlyphLine line;
+    append(line, text, font, 0);
+    return line;
+}
+
+/// What stays of the end of a file's name: its suffix and a letter before it, as a rule.
+QString endOf(const QString& name) {
+    constexpr qsizetype length = 5;
+    QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, name);
+    letters.setPosition(std::max(qsizetype(0), name.size() - length));
+    if (!letters.isAtBoundary()) {
+        letters.toPreviousBoundary();
+    }
+    return name.mid(letters.position());
+}
+
+} // namespace
+
+Label::Label(QQuickItem* parent) : PaintedItem(parent) {
+    connect(this, &Label::contentChanged, this, &Label::measure);
+}
+
+void Label::setStyle(TextStyle* style) {
+    style_ = style;
+    Q_EMIT contentChanged();
+}
+
+void Label::componentComplete() {
+    PaintedItem::componentComplete();
+    measure();
+}
+
+void Label::measure() {
+    if (style_ == nullptr || !isComponentComplete()) {
+        return; // Once, not with every property that is set at the beginning.
+    }
+    natural_ = std::make_shared<const GlyphLine>(tabular_ ? tabular(text_, style_->font())
+                                                          : proportional(text_, style_->font()));
+    setImplicitSize(natural_->width, style_->line());
+    line_.reset();
+    update();
+}
+
+std::shared_ptr<const GlyphLine> Label::elided() const {
+    const QFont font = style_->font();
+    const QFontMetricsF metrics(font);
+    const QString end = keepsEnd_ ? endOf(text_) : QString();
+    const QString shown = metrics.elidedText(text_.chopped(end.size()), Qt::ElideRight,
+                                             width() - metrics.horizontalAdvance(end)) +
+                          end;
+    return std::make_shared<const GlyphLine>(proportional(shown, font));
+}
+
+void Label::geometryChange(const QRectF& now, const QRectF& before) {
+    PaintedItem::geometryChange(now, before);
+    if (now.size() != before.size()) {
+        line_.reset();
+        update();
+    }
+}
+
+QRectF Label::paintedRect() const {
+    if (text_.isEmpty() || style_ == nullptr) {
+        return {};
+    }
+    return boundingRect().adjusted(-2, -1, 2, 1); // Letters may lean out of their line.
+}
+
+void Label::paint(QPainter& painter) {
+    if (!line_) {
+        line_ = natural_->width <= width() + 0.01 ? natural_ : elided();
+    }
+    painter.setPen(color_);
+    const double scale = painter.device()->devicePixelRatio();
+    const double top = painter.transform().dy();
+    const double base = top + style_->metrics().baseLine(scale);
+    const double y = std::round(base * scale) / scale - top;
+    const double indent = centred_ ? (width() - line_->width) / 2 : 0;
+    for (const GlyphLine::Piece& piece : line_->pieces) {
+        painter.drawGlyphRun(QPointF(indent + piece.x, y), piece.glyphs);
+    }
+}
+
+} // namespace ravelo

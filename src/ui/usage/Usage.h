@@ -1,0 +1,56 @@
+#pragma once
+
+#include "ui/usage/UsageLine.h"
+
+namespace ravelo {
+
+class AppSettings;
+class NotchController;
+class PlanUsage;
+class Scheduler;
+
+/// How much of the plan is used, as the panel shows it. Follows it while the panel is open. Main
+/// thread.
+class Usage : public QObject {
+    Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("made in C++")
+    Q_PROPERTY(ravelo::UsageLine session READ session NOTIFY changed)
+    Q_PROPERTY(ravelo::UsageLine week READ week NOTIFY changed)
+    Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
+
+public:
+    /// All of it outlives this.
+    struct Services {
+        PlanUsage& plan;
+        const NotchController& controller;
+        const AppSettings& settings;
+        const Scheduler& scheduler;
+    };
+
+    explicit Usage(Services services);
+
+    [[nodiscard]] UsageLine session() const { return session_; }
+
+    [[nodiscard]] UsageLine week() const { return week_; }
+
+    /// Whether there is anything to show of it.
+    [[nodiscard]] bool isShown() const;
+
+    /// Whether the tool is on this computer.
+    void setInstalled(bool installed);
+
+    void refresh();
+
+Q_SIGNALS:
+    void changed();
+    void shownChanged();
+
+private:
+    Services services_;
+    bool installed_ = true;
+    UsageLine session_;
+    UsageLine week_;
+};
+
+} // namespace ravelo

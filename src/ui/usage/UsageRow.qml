@@ -1,0 +1,90 @@
+import QtQuick
+import Ravelo.Paint
+import Ravelo.Theme
+import Ravelo.Usage
+
+/// One window of the plan: name, how much is used, when it starts anew, and a bar.
+Item {
+    id: row
+
+    required property string title
+    required property usageLine usage
+    /// As wide as the widest of the block, so that the percents line up.
+    required property real resetWidth
+    /// Only how much time is left.
+    required property bool compact
+    readonly property real wantedResetWidth: compact ? reset.implicitWidth
+                                                     : Math.max(90, reset.implicitWidth)
+
+    /// Empty unless the percents are from before the last reset.
+    readonly property string staleText:
+        usage.resetPassed ? qsTr("%1 has reset since: %2 is from before").arg(title).arg(usage.percent) : ""
+
+    Accessible.role: Accessible.StaticText
+    Accessible.name: title + " " + usage.percent + " " + usage.reset
+    Accessible.description: staleText
+    implicitHeight: 27
+
+    readonly property color bandColor: {
+        switch (usage.band) {
+        case UsageBand.Critical:
+            return Theme.red;
+        case UsageBand.High:
+            return Theme.yellow;
+        default:
+            return Theme.green;
+        }
+    }
+
+    Label {
+        text: row.title
+        style: Theme.strong
+        color: Theme.text1
+    }
+
+    Label {
+        objectName: "percent"
+        anchors.right: parent.right
+        anchors.rightMargin: row.resetWidth > 0 ? row.resetWidth + 8 : 0
+        text: row.usage.percent
+        style: Theme.strong
+        tabular: true
+        color: Theme.text1
+    }
+
+    Label {
+        id: reset
+        anchors.right: parent.right
+        text: row.compact ? row.usage.left : row.usage.reset
+        y: Theme.strong.baseLine(Screen.devicePixelRatio) - style.baseLine(Screen.devicePixelRatio)
+        style: Theme.subtitle
+        tabular: true
+        color: Theme.text4
+    }
+
+    Box {
+        objectName: "track"
+        y: 22
+        width: parent.width
+        height: 5
+        radius: 2.5
+        color: Theme.surface3
+
+        Box {
+            visible: row.usage.known
+            width: Math.max(5, row.usage.fraction * parent.width)
+            height: 5
+            radius: 2.5
+            color: Theme.withAlpha(row.bandColor, 0.7)
+            endColor: row.bandColor
+
+            Behavior on width {
+                enabled: row.visible
+                NumberAnimation {
+                    duration: Theme.filling
+                    easing.type: Easing.InOutQuad
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,109 @@
+import QtQuick
+import Ravelo.Controls
+import Ravelo.Theme
+import Ravelo.Windows
+
+/// How the program starts and looks, and what is stored.
+Column {
+    id: page
+
+    required property SettingsWindow host
+
+    readonly property AppSettings settings: host.settings
+
+    spacing: 12
+
+    SettingsSection {
+        objectName: "general"
+        title: qsTr("General")
+
+        SwitchRow {
+            preference: "launchAtLogin"
+            text: qsTr("Start automatically at login")
+            on: page.settings.launchAtLogin
+            onToggled: on => page.settings.launchAtLogin = on
+        }
+
+        Paragraph {
+            objectName: "hint"
+            x: 14
+            width: parent.width - 28
+            height: implicitHeight + 12
+            text: qsTr("Open by moving the mouse to the top-center. A live timer pins a small bar at the top while it runs.")
+        }
+    }
+
+    SettingsSection {
+        objectName: "appearance"
+        title: qsTr("Appearance")
+
+        SwitchRow {
+            preference: "fullBlack"
+            text: qsTr("Full black (for notch Macs)")
+            on: page.settings.fullBlack
+            onToggled: on => page.settings.fullBlack = on
+        }
+
+        SettingRow {
+            text: qsTr("Darkness")
+
+            Slider {
+                objectName: "darkness"
+                name: qsTr("Darkness")
+                given: page.settings.bgOpacity
+                minimumValue: 0.3
+                maximumValue: 0.85
+                onChosen: value => page.settings.bgOpacity = value
+            }
+        }
+
+        SettingRow {
+            objectName: "widthRow"
+            text: qsTr("Width: ") + Math.round(page.settings.panelWidth)
+
+            Slider {
+                objectName: "panelWidth"
+                name: qsTr("Width")
+                given: page.settings.panelWidth
+                minimumValue: 560
+                maximumValue: 1100
+                stepSize: 10
+                onChosen: value => page.settings.panelWidth = value
+            }
+        }
+    }
+
+    SettingsSection {
+        objectName: "clipboard"
+        title: qsTr("Clipboard")
+
+        SettingRow {
+            objectName: "clips"
+            text: page.host.clipCount === 1 ? qsTr("1 item stored") : page.host.clipCount + qsTr(" items stored")
+
+            CapsuleButton {
+                objectName: "clearHistory"
+                text: qsTr("Clear history")
+                onClicked: page.host.clearClips()
+            }
+        }
+    }
+
+    SettingsSection {
+        objectName: "sync"
+        title: qsTr("iPhone sync")
+
+        Item {
+            width: parent.width
+            height: 12
+        }
+
+        Paragraph {
+            objectName: "hint"
+            x: 14
+            width: parent.width - 28
+            height: implicitHeight + 12
+            text: qsTr("Your data is saved locally on this Mac. Syncing to an iPhone app is the next phase — it needs an Apple Developer account and a companion iOS app.")
+        }
+    }
+}

@@ -1,0 +1,48 @@
+import QtQuick
+import Ravelo.Paint
+import Ravelo.Theme
+
+/// What is set, at the right what sets it, and perhaps below it what it does.
+Item {
+    id: row
+
+    property alias text: label.text
+    property alias note: note.text
+    default property alias control: place.data
+
+    width: parent?.width ?? 0
+    implicitHeight: note.text === "" ? 44 : 40 + note.implicitHeight + 12
+
+    Box {
+        visible: row.y > 0
+        x: 14
+        width: parent.width - x
+        height: 1
+        color: Theme.rowLine
+    }
+
+    Label {
+        id: label
+        objectName: "label"
+        x: 14
+        y: 14
+        tabular: true
+        style: Theme.body
+        color: Theme.text1
+    }
+
+    Item {
+        id: place
+        x: parent.width - 12 - childrenRect.width
+        y: (44 - childrenRect.height) / 2
+    }
+
+    Paragraph {
+        id: note
+        objectName: "note"
+        visible: text !== ""
+        x: 14
+        y: 40
+        width: parent.width - 28
+    }
+}

@@ -1,0 +1,64 @@
+import QtQuick
+import Ravelo.Controls
+import Ravelo.Theme
+import Ravelo.Windows
+
+/// The first step.
+FocusScope {
+    id: step
+
+    signal done
+
+    Keys.onReturnPressed: done()
+    Keys.onEnterPressed: done()
+
+    ScrolledPage {
+        id: scrolled
+        y: 40
+        width: parent.width
+        height: start.y - y - 8
+        contentHeight: line.y + line.height
+
+        WelcomePicture {
+            objectName: "picture"
+            x: 100
+            y: 24
+            width: 320
+            height: 186
+        }
+
+        Label {
+            objectName: "heading"
+            x: (scrolled.width - width) / 2
+            y: 246
+            text: qsTr("Welcome to Ravelo")
+            style: Theme.welcome
+            color: Theme.text1
+        }
+
+        Paragraph {
+            id: line
+            objectName: "line"
+            x: 90
+            y: 288
+            width: 340
+            horizontalAlignment: Text.AlignHCenter
+            text: qsTr("Clipboard, shelf, snippets and a focus timer — one hover away at the top of your screen.")
+            style: Theme.leadLoose
+            color: Theme.setupText
+        }
+    }
+
+    CapsuleButton {
+        id: start
+        objectName: "start"
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Math.min(396, parent.height - 86)
+        implicitHeight: 40
+        sidePad: 24
+        style: Theme.tab
+        primary: true
+        text: qsTr("Get started")
+        onClicked: step.done()
+    }
+}

@@ -1,0 +1,16 @@
+#pragma once
+
+#include "fakes/PanelWorld.h"
+#include "ui/PanelFeatures.h"
+
+namespace ravelo {
+
+/// A panel of this world.
+inline PanelFeatures::Services services(PanelWorld& world, PlanUsage& usage) {
+    return {world.store,      world.settings,  world.controller,  world.notices,
+            world.pasteboard, world.scheduler, world.preferences, world.nightShift,
+            world.shutDown,   usage,           world.received,    world.nearby,
+            world.jobs,       world.opener,    world.icons,       world.decoder};
+}
+
+} // namespace ravelo

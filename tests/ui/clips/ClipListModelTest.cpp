@@ -1,0 +1,258 @@
+#include "ui/clips/ClipListModel.h"
+#include "fakes/PanelWorld.h"
+
+#include <gtest/gtest.h>
+
+#include <random>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const QLocale english(QLocale::English, QLocale::UnitedStates);
+
+/// Keeps a copy of a model's ids by its row signals alone, as a view does.
+class Mirror {
+public:
+    explicit Mirror(const ClipListModel& model) : model_(model) {
+        take();
+        QObject::connect(&model, &ClipListModel::rowsInserted, &context_,
+                         [this](const QModelIndex&, int first, int last) {
+                             for (int row = first; row <= last; ++row) {
+                                 ids.insert(row, model_.idAt(row));
+                             }
+                             ++inserts;
+                         });
+        QObject::connect(&model, &ClipListModel::rowsRemoved, &context_,
+                         [this](const QModelIndex&, int first, int last) {
+                             ids.remove(first, last - first + 1);
+                             ++removes;
+                         });
+        QObject::connect(&model, &ClipListModel::rowsMoved, &context_,
+                         [this](const QModelIndex&, int first, int, const QModelIndex&, int to) {
+                             ids.move(first, to > first ? to - 1 : to);
+                             ++moves;
+                         });
+        QObject::connect(&model, &ClipListModel::modelReset, &context_, [this] { ++resets; });
+    }
+
+    QList<QUuid> ids;
+    int inserts = 0;
+    int removes = 0;
+    int moves = 0;
+    int resets = 0;
+
+private:
+    void take() {
+        for (int row = 0; row < model_.count(); ++row) {
+            ids.append(model_.idAt(row));
+        }
+    }
+
+    const ClipListModel& model_;
+    QObject context_;
+};
+
+QList<QUuid> idsOf(const QList<ClipItem>& clips) {
+    QList<QUuid> ids;
+    for (const ClipItem& clip : clips) {
+        ids.append(clip.id);
+    }
+    return ids;
+}
+
+StoreData fiveClips() {
+    StoreData data;
+    for (const char* text : {"one", "two", "three", "four", "five"}) {
+        data.clips.append(clip(QString::fromLatin1(text), Seconds(60)));
+    }
+    return data;
+}
+
+TEST(ClipListModel, tellsTheViewOfAChangeAsWhatItIs) {
+    struct Case {
+        const char* name;
+        void (*change)(Store& store);
+        int inserts;
+        int removes;
+        int moves;
+    };
+
+    const Case cases[] = {
+        {"copied", [](Store& store) { store.addClip(u"six"_s); }, 1, 0, 0},
+        {"copied again", [](Store& store) { store.addClip(u"four"_s); }, 1, 1, 0},
+        {"deleted", [](Store& store) { store.deleteClip(store.clips()[2].id); }, 0, 1, 0},
+        {"pinned from the end", [](Store& store) { store.togglePin(store.clips()[4].id); }, 0, 0,
+         1},
+        {"cleared", [](Store& store) { store.clearClips(); }, 0, 1, 0},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        PanelWorld world(fiveClips());
+        const ClipListModel model(world.store, world.scheduler, english);
+        const Mirror mirror(model);
+        c.change(world.store);
+        EXPECT_EQ(mirror.ids, idsOf(world.store.clips()));
+        EXPECT_EQ(mirror.inserts, c.inserts);
+        EXPECT_EQ(mirror.removes, c.removes);
+        EXPECT_EQ(mirror.moves, c.moves);
+        EXPECT_EQ(mirror.resets, 0);
+    }
+}
+
+TEST(ClipListModel, tellsTheViewOfAClipThatChangesInItsPlace) {
+    PanelWorld world(fiveClips());
+    const ClipListModel model(world.store, world.scheduler, english);
+    QList<int> changed;
+    QObject::connect(&model, &ClipListModel::dataChanged, &model,
+                     [&](const QModelIndex& first) { changed.append(first.row()); });
+    world.store.togglePin(world.store.clips()[0].id);
+    EXPECT_EQ(changed, QList<int>{0});
+    EXPECT_EQ(model.data(model.index(0), ClipListModel::pinnedRole), true);
+}
+
+ClipItem pinned(ClipItem item) {
+    item.pinned = true;
+    return item;
+}
+
+TEST(ClipListModel, makesTheTextsOfARowOfTheClip) {
+    struct Case {
+        ClipItem item;
+        QString title;
+        QString icon;
+        QString subtitle;
+    };
+
+    const Case cases[] = {
+        {clip(u"a text"_s, Seconds(300)), u"a text"_s, u"doc.text"_s, u"5 min. ago"_s},
+        {clip(u"one\ntwo\n\nfour"_s, Seconds(12)), u"one two  four"_s, u"doc.text"_s,
+         u"12 sec. ago"_s},
+        {clip(u"https://a.example"_s, Seconds(7200), ClipKind::url), u"https://a.example"_s,
+         u"link"_s, u"2 hr. ago"_s},
+        {clip(u"Image"_s, Seconds(60), ClipKind::image), u"Image"_s, u"photo"_s, u"1 min. ago"_s},
+        {clip(u"x"_s, Seconds(60), ClipKind::image), u"Image"_s, u"photo"_s, u"1 min. ago"_s},
+        {pinned(clip(u"kept"_s, Seconds(2 * 86400))), u"kept"_s, u"doc.text"_s,
+         u"Pinned · 2 days ago"_s},
+        {clip(QString(1 << 20, u'm'), Seconds(1)), QString(1000, u'm'), u"doc.text"_s,
+         u"1 sec. ago"_s},
+    };
+    for (const Case& c : cases) {
+        StoreData data;
+        data.clips = {c.item};
+        PanelWorld world(data);
+        const ClipListModel model(world.store, world.scheduler, english);
+        const QModelIndex row = model.index(0);
+        EXPECT_EQ(model.data(row, ClipListModel::titleRole).toString(), c.title);
+        EXPECT_EQ(model.data(row, ClipListModel::iconRole).toString(), c.icon);
+        EXPECT_EQ(model.data(row, ClipListModel::subtitleRole).toString(), c.subtitle);
+    }
+}
+
+struct SearchCase {
+    const char* name;
+    QString search;
+    QStringList texts;
+    QList<int> found;
+    QLocale locale = english;
+};
+
+class Search : public testing::TestWithParam<SearchCase> {};
+
+TEST_P(Search, findsTheClipsThatContainIt) {
+    StoreData data;
+    for (const QString& text : GetParam().texts) {
+        data.clips.append(clip(text, Seconds(60)));
+    }
+    PanelWorld world(data);
+    ClipListModel model(world.store, world.scheduler, GetParam().locale);
+    model.setSearch(GetParam().search);
+    QList<QUuid> expected;
+    for (const int row : GetParam().found) {
+        expected.append(world.store.clips()[row].id);
+    }
+    EXPECT_EQ(Mirror(model).ids, expected);
+    model.setSearch({});
+    EXPECT_EQ(Mirror(model).ids, idsOf(world.store.clips()));
+}
+
+const QLocale turkish(QLocale::Turkish, QLocale::Turkey);
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Search,
+    testing::Values(SearchCase{"inside", u"ABC"_s, {u"xabcx"_s, u"ab c"_s, u"Abc"_s}, {0, 2}},
+                    SearchCase{"nothing", u"q"_s, {u"one"_s, u"two"_s}, {}},
+                    SearchCase{"blank", u" "_s, {u"one two"_s, u"three"_s}, {0}},
+                    SearchCase{"noPattern", u".*"_s, {u"one"_s, u"a.*b"_s}, {1}},
+                    SearchCase{"umlauts", u"ÄRGER"_s, {u"ärger"_s, u"arger"_s}, {0}},
+                    SearchCase{"composedOrNot", u"caf\u00e9"_s, {u"cafe\u0301"_s, u"cafe"_s}, {0}},
+                    SearchCase{"notInAComposedLetter",
+                               u"cafe"_s,
+                               {QString(60, u'-') + u"cafe\u0301"_s, u"CAFE \u0301"_s},
+                               {1}},
+                    SearchCase{"sharpS", u"STRASSE"_s, {u"Hauptstraße 5"_s}, {0}},
+                    SearchCase{"dottedI", u"i"_s, {u"I"_s, u"\u0130"_s}, {1}, turkish},
+                    SearchCase{"dotlessI", u"\u0131"_s, {u"I"_s, u"i"_s}, {0}, turkish}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(ClipListModel, findsTheSameAsAPlainSearchAtEveryLetterTypedAndTakenBack) {
+    std::mt19937 random(7); // NOLINT(*-msc51-cpp): the same texts each time.
+    const auto word = [&random](qsizetype most) {
+        QString text(static_cast<qsizetype>(random() % (most + 1)), u'a');
+        for (QChar& letter : text) {
+            letter = u"abAB@{"_s[static_cast<qsizetype>(random() % 6)];
+        }
+        return text;
+    };
+    StoreData data;
+    for (int i = 0; i < 40; ++i) {
+        data.clips.append(clip(word(200), Seconds(60)));
+    }
+    PanelWorld world(data);
+    ClipListModel model(world.store, world.scheduler, english);
+    for (int round = 0; round < 20; ++round) {
+        const QString wanted = word(8);
+        for (qsizetype step = 1; step < 2 * wanted.size(); ++step) {
+            const QString typed = wanted.first(wanted.size() - std::abs(wanted.size() - step));
+            model.setSearch(typed);
+            QList<QUuid> expected;
+            for (const ClipItem& clip : world.store.clips()) {
+                if (clip.text.contains(typed, Qt::CaseInsensitive)) {
+                    expected.append(clip.id);
+                }
+            }
+            ASSERT_EQ(Mirror(model).ids, expected) << qPrintable(typed);
+        }
+    }
+}
+
+TEST(ClipListModel, aClipCopiedDuringASearchIsListedOnlyIfItFits) {
+    PanelWorld world(fiveClips());
+    ClipListModel model(world.store, world.scheduler, english);
+    model.setSearch(u"f"_s);
+    world.store.addClip(u"six"_s);
+    world.store.addClip(u"fifty"_s);
+    ASSERT_EQ(model.count(), 3);
+    EXPECT_EQ(model.data(model.index(0), ClipListModel::titleRole), u"fifty"_s);
+}
+
+TEST(ClipListModel, tellsDatesAnewWhenAsked) {
+    PanelWorld world(fiveClips());
+    ClipListModel model(world.store, world.scheduler, english);
+    QList<int> roles;
+    QObject::connect(&model, &ClipListModel::dataChanged, &model,
+                     [&](const QModelIndex&, const QModelIndex& last, const QList<int>& which) {
+                         EXPECT_EQ(last.row(), 4);
+                         roles = which;
+                     });
+    world.scheduler.advance(Seconds(3 * 3600));
+    model.refreshDates();
+    EXPECT_EQ(roles, QList<int>{ClipListModel::subtitleRole});
+    EXPECT_EQ(model.data(model.index(0), ClipListModel::subtitleRole), u"3 hr. ago"_s);
+}
+
+} // namespace
+
+} // namespace ravelo

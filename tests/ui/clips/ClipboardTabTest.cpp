@@ -1,0 +1,222 @@
+// The clipboard history in the panel, by hand and by key.
+
+#include "panel_fixture/PanelFixture.h"
+
+#include <QImage>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST_F(Panel, showsTheNewestOfWhatWasCopiedWhileItWasClosed) {
+    for (int i = 0; i < 20; ++i) {
+        world.store.addClip(u"while it was closed %1"_s.arg(i));
+    }
+    open();
+    const QQuickItem* newest = item(u"card0"_s);
+    EXPECT_EQ(find(newest, u"title"_s)->property("text"), u"while it was closed 19"_s);
+    EXPECT_EQ(newest->mapToScene({0, 0}), QPointF(34, 280));
+}
+
+TEST_F(Panel, staysAtTheNewestWhileMoreIsCopied) {
+    open();
+    for (int i = 0; i < 20; ++i) {
+        world.store.addClip(u"while it was open %1"_s.arg(i));
+    }
+    EXPECT_TRUE(eventually([this] {
+        view.window().grabWindow();
+        return item(u"card0"_s)->mapToScene({0, 0}) == QPointF(34, 280);
+    }));
+}
+
+TEST_F(Panel, copiesWhatIsClicked) {
+    open();
+    clickOn(u"card1"_s);
+    EXPECT_EQ(pasteboardText(), u"second"_s);
+    item(u"toast"_s);
+    EXPECT_EQ(world.store.clips().size(), 3) << "its own copy became a clip";
+    clickOn(u"chip0"_s);
+    EXPECT_EQ(pasteboardText(), world.store.snippets().first().body);
+}
+
+TEST_F(Panel, pinsAndDeletesByTheButtonsOfTheRowUnderThePointer) {
+    open();
+    EXPECT_EQ(shown(u"pin"_s), nullptr);
+    const QQuickItem* card = item(u"card2"_s);
+    send(view.window(), QEvent::MouseMove, card->mapToScene({400, 20}));
+    ASSERT_TRUE(find(card, u"pin"_s)->isVisible());
+    clickMiddle(view.window(), find(card, u"pin"_s));
+    EXPECT_EQ(world.store.clips().first().text, u"third"_s);
+    EXPECT_TRUE(world.store.clips().first().pinned);
+    EXPECT_EQ(pasteboardText(), QString()) << "the click went through to the row";
+}
+
+TEST_F(Panel, asksBeforeItClearsTheHistory) {
+    struct Case {
+        const char* name;
+        std::function<void()> answer;
+        qsizetype left;
+    };
+
+    const Case cases[] = {
+        {"elsewhere",
+         [this] {
+             click(view.window(), {300, 400});
+         },
+         3},
+        {"Escape", [this] { pressKeys(u"Esc"_s); }, 3},
+        {"no", [this] { clickIn(u"clearQuestion"_s, u"no"_s); }, 3},
+        {"yes", [this] { clickIn(u"clearQuestion"_s, u"yes"_s); }, 1},
+        {"Return", [this] { pressKeys(u"Return"_s); }, 1},
+    };
+    open();
+    world.store.togglePin(world.store.clips().first().id);
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        if (world.store.clips().size() < 3) {
+            world.store.addClip(u"one"_s);
+            world.store.addClip(u"two"_s);
+        }
+        clickOn(u"trash"_s);
+        EXPECT_EQ(world.store.clips().size(), 3);
+        EXPECT_TRUE(world.window.focused) << "Return would go elsewhere";
+        item(u"clearQuestion"_s);
+        c.answer();
+        EXPECT_EQ(world.store.clips().size(), c.left);
+        EXPECT_TRUE(eventually([this] { return shown(u"clearQuestion"_s) == nullptr; }));
+        EXPECT_TRUE(world.controller.isOpen());
+    }
+}
+
+TEST_F(Panel, escapeClearsTheSearchAndThenCloses) {
+    open();
+    clickOn(u"searchInput"_s);
+    EXPECT_TRUE(world.window.focused);
+    type(u"second"_s);
+    EXPECT_EQ(view.features().clips->list()->count(), 1);
+    press(Qt::Key_Escape);
+    EXPECT_EQ(view.features().clips->list()->count(), 3);
+    EXPECT_TRUE(world.controller.isOpen());
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(world.controller.isOpen());
+}
+
+TEST_F(Panel, aSearchWithoutAMatchShowsTheEmptyState) {
+    open();
+    EXPECT_EQ(shown(u"emptyTitle"_s), nullptr);
+    clickOn(u"searchInput"_s);
+    type(u"nowhere"_s);
+    EXPECT_EQ(text(u"emptyTitle"_s), u"No clipboard history yet"_s);
+    EXPECT_EQ(text(u"emptySubtitle"_s), u"Copy anything with ⌘C and it shows up here."_s);
+}
+
+TEST_F(Panel, keepsTheSearchWhileTheNoteIsLookedAt) {
+    open();
+    clickOn(u"searchInput"_s);
+    type(u"second"_s);
+    clickOn(u"tab1"_s);
+    EXPECT_EQ(shown(u"searchInput"_s), nullptr);
+    clickOn(u"tab0"_s);
+    EXPECT_EQ(text(u"searchInput"_s), u"second"_s);
+    EXPECT_EQ(view.features().clips->list()->count(), 1);
+}
+
+struct KeysCase {
+    const char* name;
+    const char* keys;
+    QString pasteboard;
+    bool open;
+    QString clips = u"0 1 2 3 4 5 6 7 8 9 10 11"_s; ///< What is left, in order.
+};
+
+class Keys : public Panel, public testing::WithParamInterface<KeysCase> {
+protected:
+    Keys() : Panel(twelveClips()) {}
+
+    static StoreData twelveClips() {
+        StoreData data;
+        for (int i = 0; i < 12; ++i) {
+            data.clips.append(clip(QString::number(i), Seconds(60 * (i + 1))));
+        }
+        return data;
+    }
+};
+
+TEST_P(Keys, workOnTheListInAPanelThatAKeyHasOpened) {
+    openByKey();
+    EXPECT_TRUE(world.window.focused);
+    pressKeys(QString::fromLatin1(GetParam().keys));
+    QStringList left;
+    for (const ClipItem& one : world.store.clips()) {
+        left.append(one.text + (one.pinned ? u"*"_s : QString()));
+    }
+    EXPECT_EQ(left.join(u' '), GetParam().clips);
+    EXPECT_EQ(pasteboardText(), GetParam().pasteboard);
+    EXPECT_EQ(world.controller.isOpen(), GetParam().open);
+    EXPECT_EQ(world.window.focused, GetParam().open) << "the keyboard goes with the panel";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Keys,
+    testing::Values(
+        KeysCase{"returnCopiesTheFirst", "Return", u"0"_s, false},
+        KeysCase{"arrowsMove", "Up Down Down Up Return", u"1"_s, false},
+        KeysCase{"pagesMove", "PgDown PgDown PgDown Enter", u"11"_s, false},
+        KeysCase{"pagesMoveBack", "PgDown PgUp Return", u"0"_s, false},
+        KeysCase{"controlDigitsCopy", "Ctrl+9", u"8"_s, false},
+        KeysCase{"deleteDeletes", "Down Del", {}, true, u"0 2 3 4 5 6 7 8 9 10 11"_s},
+        KeysCase{"deleteEditsASearch", "1 Home Del", {}, true},
+        KeysCase{"aSearchStartsAtItsFirst", "Down Down 1 Return", u"1"_s, false},
+        // As the history sorts itself at a pin.
+        KeysCase{"controlPPins", "Down Ctrl+P", {}, true, u"1* 11 10 9 8 7 6 5 4 3 2 0"_s},
+        KeysCase{"controlReturnOpensNoText", "Ctrl+Return", {}, true},
+        KeysCase{"controlFSearchesFromAnotherTab", "Ctrl+Tab Ctrl+F 7 Return", u"7"_s, false},
+        KeysCase{"escapeClearsThenCloses", "5 Esc Esc", {}, false}),
+    [](const auto& row) { return row.param.name; });
+
+class PanelWithImages : public Panel {
+public:
+    PanelWithImages() : Panel(data()) {
+        QImage green(40, 40, QImage::Format_RGB32);
+        green.fill(Qt::green);
+        EXPECT_TRUE(green.save(world.store.imagePath(u"there.png"_s)));
+    }
+
+    // Qt frees the texture of a picture that nobody shows with the next frame only.
+    ~PanelWithImages() override {
+        close();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+        view.window().releaseResources();
+        view.window().grabWindow();
+    }
+
+    static StoreData data() {
+        StoreData data;
+        data.clips = {clip(u"Image"_s, Seconds(1), ClipKind::image),
+                      clip(u"Image"_s, Seconds(2), ClipKind::image)};
+        data.clips[0].imageFileName = u"there.png"_s;
+        data.clips[1].imageFileName = u"missing.png"_s;
+        return data;
+    }
+
+    QRgb pixelOfTile(const QString& card) {
+        const QQuickItem* tile = find(item(card), u"tile"_s);
+        return view.window().grabWindow().pixel(tile->mapToScene({3, 14}).toPoint());
+    }
+};
+
+TEST_F(PanelWithImages, showsAnImageOnceItIsDecodedAndASymbolWhereItCannotBe) {
+    open();
+    EXPECT_TRUE(eventually([this] { return pixelOfTile(u"card0"_s) == QColor(Qt::green).rgb(); }));
+    EXPECT_FALSE(find(item(u"card0"_s), u"symbol"_s)->isVisible());
+    EXPECT_TRUE(find(item(u"card1"_s), u"symbol"_s)->isVisible());
+    clickOn(u"card0"_s);
+    world.scheduler.advance(Seconds(0)); // It is read off the main thread.
+    EXPECT_FALSE(world.pasteboard.bytes("image/png"_L1).isEmpty());
+}
+
+} // namespace
+
+} // namespace ravelo

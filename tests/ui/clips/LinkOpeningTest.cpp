@@ -1,0 +1,101 @@
+#include "ui/clips/LinkOpening.h"
+#include "panel_fixture/PanelFixture.h"
+
+namespace ravelo {
+
+namespace {
+
+enum class Done { nothing, opened, asked, refused };
+
+struct LinkCase {
+    const char* name;
+    QString text;
+    ClipKind kind;
+    Done done;
+};
+
+class CtrlReturn : public testing::TestWithParam<LinkCase> {};
+
+TEST_P(CtrlReturn, opensWhatCannotDoHarmAndAsksOrRefusesOtherwise) {
+    ManualScheduler scheduler;
+    FakeFileOpener opener;
+    Toast toast(scheduler);
+    LinkOpening links(opener, scheduler, toast);
+    QString asked;
+    QObject::connect(&links, &LinkOpening::asked, &links,
+                     [&](const QString& question) { asked = question; });
+    links.open(clip(GetParam().text, Seconds(1), GetParam().kind));
+    const Done done = GetParam().done;
+    EXPECT_EQ(opener.opened,
+              done == Done::opened ? QList{QUrl(GetParam().text.trimmed())} : QList<QUrl>());
+    EXPECT_EQ(toast.text(), done == Done::refused ? u"Not opened"_s : QString()) << "at once";
+    opener.answer(u"Door"_s);
+    EXPECT_EQ(asked, done == Done::asked ? u"Open with Door?"_s : QString());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, CtrlReturn,
+    testing::Values(
+        LinkCase{"http", u" http://a.example/x "_s, ClipKind::url, Done::opened},
+        LinkCase{"httpsInCapitals", u"HTTPS://a.example"_s, ClipKind::url, Done::opened},
+        LinkCase{"mail", u"mailto:ren@a.example"_s, ClipKind::text, Done::opened},
+        LinkCase{"mailInASentence", u"mailto: is a scheme"_s, ClipKind::text, Done::nothing},
+        LinkCase{"program", u"zoommtg://join?x=1"_s, ClipKind::url, Done::asked},
+        LinkCase{"file", u"file:///home/me/x.desktop"_s, ClipKind::url, Done::asked},
+        LinkCase{"script", u"javascript:alert(1)"_s, ClipKind::text, Done::refused},
+        LinkCase{"scriptAsALink", u"JavaScript://a.example/%0aalert(1)"_s, ClipKind::url,
+                 Done::refused},
+        LinkCase{"data", u"data:text/html,<script></script>"_s, ClipKind::text, Done::refused},
+        LinkCase{"vbscript", u"vbscript:msgbox"_s, ClipKind::text, Done::refused},
+        LinkCase{"text", u"one:two"_s, ClipKind::text, Done::nothing},
+        LinkCase{"image", u"https://a.example"_s, ClipKind::image, Done::nothing}),
+    [](const auto& row) { return row.param.name; });
+
+TEST(LinkOpening, saysSoIfNothingOpensItOrNobodyKnows) {
+    ManualScheduler scheduler;
+    FakeFileOpener opener;
+    Toast toast(scheduler);
+    LinkOpening links(opener, scheduler, toast);
+    const ClipItem link = clip(u"gopher://a.example"_s, Seconds(1), ClipKind::url);
+    links.open(link);
+    opener.answer({});
+    EXPECT_EQ(toast.text(), u"Nothing here opens gopher links"_s);
+    toast.reset();
+    links.open(link);
+    scheduler.advance(Seconds(2));
+    EXPECT_EQ(toast.text(), u"Not opened"_s) << "the disk does not answer";
+}
+
+class LinkQuestion : public Panel {
+protected:
+    LinkQuestion() : Panel(data()) {}
+
+    static StoreData data() {
+        StoreData data;
+        data.clips = {clip(u"zoommtg://join"_s, Seconds(60), ClipKind::url)};
+        return data;
+    }
+
+    void ask() {
+        press(Qt::Key_Return, Qt::ControlModifier);
+        world.opener.answer(u"  Zoom\nWorkplace "_s);
+        EXPECT_EQ(text(u"linkQuestion"_s), u"Open with Zoom Workplace?"_s);
+    }
+};
+
+TEST_F(LinkQuestion, returnMeansNo) {
+    openByKey();
+    ask();
+    press(Qt::Key_Return);
+    EXPECT_TRUE(eventually([this] { return shown(u"linkQuestion"_s) == nullptr; }));
+    EXPECT_TRUE(world.opener.opened.isEmpty());
+    EXPECT_TRUE(world.controller.isOpen());
+    ask();
+    clickIn(u"linkQuestion"_s, u"yes"_s);
+    EXPECT_EQ(world.opener.opened, QList<QUrl>{QUrl(u"zoommtg://join"_s)});
+    EXPECT_FALSE(world.controller.isOpen());
+}
+
+} // namespace
+
+} // namespace ravelo

@@ -1,0 +1,159 @@
+// The whole panel on the in-memory platform: its opening and closing, and what belongs to no tab.
+
+#include "panel_fixture/PanelFixture.h"
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+TEST_F(Panel, showsAHandleUntilItOpens) {
+    EXPECT_NE(shown(u"handle"_s), nullptr);
+    EXPECT_EQ(shown(u"panel"_s), nullptr);
+    open();
+    EXPECT_EQ(shown(u"handle"_s), nullptr);
+    EXPECT_EQ(item(u"panel"_s)->size(), QSizeF(927, 560));
+}
+
+TEST_F(Panel, hasItsNextContentReadySoonAfterItCloses) {
+    EXPECT_TRUE(view.features().state.hasContent());
+    open();
+    close();
+    EXPECT_FALSE(view.features().state.hasContent());
+    world.scheduler.advance(untilBuilt);
+    EXPECT_TRUE(view.features().state.hasContent());
+    EXPECT_EQ(view.features().state.contentSize(), QSizeF(927, 560));
+    EXPECT_EQ(find(view.window().contentItem(), u"panel"_s)->size(), QSizeF(927, 560))
+        << "hidden content must not be laid out anew at the opening";
+}
+
+TEST_F(Panel, opensAlsoBeforeItsContentIsBuilt) {
+    open();
+    close();
+    open();
+    EXPECT_NE(shown(u"card0"_s), nullptr);
+}
+
+TEST_F(Panel, tellsDatesAnewAtTheOpening) {
+    open();
+    rebuild();
+    view.window().grabWindow(); // The hidden rows exist by now.
+    world.scheduler.advance(Seconds(3 * 3600));
+    open();
+    EXPECT_EQ(find(item(u"card0"_s), u"subtitle"_s)->property("text"), u"3 hr. ago"_s);
+}
+
+TEST_F(Panel, letsAgesGoOnWhileItIsOpen) {
+    const auto age = [this] {
+        return find(item(u"card0"_s), u"subtitle"_s)->property("text").toString();
+    };
+    world.scheduler.advance(Seconds(10));
+    const int atRest = world.scheduler.pending();
+    open();
+    EXPECT_EQ(age(), u"1 min. ago"_s);
+    world.scheduler.advance(Seconds(60));
+    EXPECT_EQ(age(), u"2 min. ago"_s);
+    world.store.addClip(u"new"_s);
+    world.scheduler.advance(Seconds(5));
+    EXPECT_EQ(age(), u"5 sec. ago"_s);
+    world.scheduler.advance(Seconds(3596));
+    EXPECT_EQ(age(), u"1 hr. ago"_s);
+    close();
+    world.scheduler.advance(Seconds(10));
+    EXPECT_EQ(world.scheduler.pending(), atRest) << "nobody sees them";
+}
+
+TEST_F(Panel, tellsHowMuchOfThePlanIsUsed) {
+    const auto percents = [this] {
+        return property(u"usageSession"_s, u"percent"_s, "text").toString() + u' ' +
+               property(u"usageWeek"_s, u"percent"_s, "text").toString();
+    };
+    const auto spend = [this](const PlanWindows& windows) {
+        plan.write(windows);
+        world.scheduler.advance(Seconds(5));
+    };
+    spend({UsageWindow{41.5, {}}, {}});
+    open();
+    EXPECT_EQ(percents(), u"42% \u2014"_s);
+    spend({UsageWindow{43, {}}, UsageWindow{130, {}}});
+    EXPECT_EQ(percents(), u"43% 130%"_s);
+}
+
+TEST_F(Panel, startsAnewAtEachOpening) {
+    open();
+    clickOn(u"searchInput"_s);
+    type(u"second"_s);
+    clickOn(u"trash"_s);
+    rebuild();
+    open();
+    EXPECT_EQ(text(u"searchInput"_s), QString());
+    EXPECT_EQ(shown(u"clearQuestion"_s), nullptr);
+    EXPECT_NE(shown(u"card2"_s), nullptr);
+}
+
+TEST_F(Panel, controlTabGoesThroughTheTabs) {
+    world.controller.toggle();
+    press(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(world.settings.lastTab(), u"Notes"_s);
+    type(u"!"_s);
+    EXPECT_TRUE(world.store.note().contains(u'!')) << "the note has the keyboard";
+    press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(world.settings.lastTab(), u"Clipboard"_s);
+    press(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
+    EXPECT_EQ(world.settings.lastTab(), u"Shelf"_s);
+    press(Qt::Key_Tab, Qt::ControlModifier);
+    EXPECT_EQ(world.settings.lastTab(), u"Clipboard"_s);
+}
+
+TEST_F(Panel, opensItsLastTabAgain) {
+    for (const auto& [lastTab, shows] : {std::pair(u"Clipboard"_s, u"list"_s),
+                                         {u"Notes"_s, u"noteInput"_s},
+                                         {u"Shelf"_s, u"dropCard"_s},
+                                         {QString(), u"list"_s},
+                                         {u"Sketches"_s, u"list"_s}}) {
+        world.settings.setLastTab(lastTab);
+        rebuild();
+        open();
+        EXPECT_NE(shown(shows), nullptr) << qPrintable(lastTab);
+    }
+}
+
+TEST_F(Panel, keepsTheNoteWithEveryKey) {
+    open();
+    clickOn(u"tab1"_s);
+    EXPECT_EQ(world.settings.lastTab(), u"Notes"_s);
+    clickOn(u"noteInput"_s);
+    EXPECT_TRUE(world.window.focused);
+    press(Qt::Key_End, Qt::ControlModifier);
+    type(u"!"_s);
+    EXPECT_EQ(world.store.note(), u"remember!"_s);
+    world.scheduler.advance(Seconds(0.5));
+    QFile file(world.store.fileURL());
+    ASSERT_TRUE(file.open(QIODevice::ReadOnly));
+    EXPECT_EQ(decodeStore(file.readAll()).value_or(StoreData()).note, u"remember!"_s);
+}
+
+TEST_F(Panel, startsTheNightShiftAtOnceAndShutsDownOnlyWhenSure) {
+    open();
+    EXPECT_EQ(item(u"nightShift"_s)->property("tip").toString(),
+              u"Turno da noite — apaga a tela em ~5s e trabalha no pendente"_s);
+    EXPECT_EQ(item(u"power"_s)->property("tip").toString(), u"Shut down the Mac"_s);
+    clickOn(u"nightShift"_s);
+    clickOn(u"nightShift"_s);
+    EXPECT_EQ(world.nightShift.starts, 2);
+    clickOn(u"power"_s);
+    EXPECT_EQ(text(u"powerQuestion"_s), u"Shut down the Mac?"_s);
+    EXPECT_TRUE(in(u"powerQuestion"_s, u"no"_s)->hasActiveFocus());
+    press(Qt::Key_Return);
+    EXPECT_TRUE(eventually([this] { return shown(u"powerQuestion"_s) == nullptr; }));
+    EXPECT_EQ(world.shutDown.requests, 0);
+    clickOn(u"power"_s);
+    clickIn(u"powerQuestion"_s, u"yes"_s);
+    EXPECT_EQ(world.shutDown.requests, 1);
+    EXPECT_TRUE(eventually([this] { return shown(u"powerQuestion"_s) == nullptr; }));
+}
+
+} // namespace
+
+} // namespace ravelo

@@ -1,0 +1,445 @@
+// The shelf in the panel: what it shows, and what hands and keys do to the files on it.
+
+#include "panel_fixture/PanelFixture.h"
+#include "ui/shelf/DragSourceView.h"
+#include "ui/shelf/ShelfLayout.h"
+
+#include <QDragEnterEvent>
+#include <QMimeData>
+
+namespace ravelo {
+
+namespace {
+
+QUrl file(const QString& name) {
+    return QUrl::fromLocalFile(u"/home/someone/"_s + name);
+}
+
+class ShelfTab : public Panel {
+protected:
+    ShelfTab() { world.settings.setLastTab(u"Shelf"_s); }
+
+    /// Files "0", "1" and so on.
+    void park(int first, int last) {
+        QList<QUrl> files;
+        for (int i = first; i <= last; ++i) {
+            files.append(file(QString::number(i)));
+        }
+        world.store.addToShelf(files);
+        world.store.clearSelection();
+    }
+
+    [[nodiscard]] QString selected() const { return names(world.store.shelf().selectedFiles()); }
+
+    [[nodiscard]] QString parked() const { return names(world.store.shelf().files()); }
+
+    static QString names(const QList<QUrl>& files) {
+        QStringList names;
+        for (const QUrl& url : files) {
+            names.append(url.fileName());
+        }
+        return names.join(u' ');
+    }
+
+    void dragOver(const QPointF& place, bool hasFiles = true) {
+        world.drags.begin(hasFiles);
+        QMimeData files;
+        files.setUrls({file(u"a"_s)});
+        QDragEnterEvent enter(place.toPoint(), Qt::CopyAction, &files, Qt::LeftButton,
+                              Qt::NoModifier);
+        QCoreApplication::sendEvent(&view.window(), &enter);
+    }
+};
+
+TEST_F(ShelfTab, saysInItsHeaderWhatThereIs) {
+    struct Case {
+        int files;
+        QList<int> selected;
+        QString count;
+        QString button;
+    };
+
+    const Case cases[] = {
+        {1, {}, u"1 file"_s, u"Select all"_s},
+        {2, {}, u"2 files"_s, u"Select all"_s},
+        {2, {1}, u"1 selected"_s, u"Select all"_s},
+        {2, {0, 1}, u"2 selected"_s, u"Deselect"_s},
+        {2, {0, 0, 1}, u"1 selected"_s, u"Select all"_s},
+    };
+    open();
+    for (const Case& c : cases) {
+        SCOPED_TRACE(qPrintable(c.count + u' ' + c.button));
+        world.store.removeFromShelf(world.store.shelf().files());
+        park(1, c.files);
+        for (const int place : c.selected) {
+            clickOn(u"tile%1"_s.arg(place));
+        }
+        EXPECT_EQ(text(u"shelfCount"_s), c.count);
+        EXPECT_EQ(text(u"selectAll"_s), c.button);
+        EXPECT_EQ(item(u"removeSelected"_s)->isEnabled(), !c.selected.isEmpty());
+        clickOn(u"selectAll"_s);
+        const bool all = c.button == u"Select all";
+        EXPECT_EQ(world.store.shelf().selected.size(), all ? c.files : 0);
+    }
+}
+
+TEST_F(ShelfTab, aTrayTogglesItsStackAndRemoveTakesTheSelected) {
+    park(1, 2);
+    park(3, 3);
+    open();
+    const QPointF tray = item(u"tray0"_s)->mapToScene({0, 0});
+    click(view.window(), tray + QPointF(2, 50)); // Beside its tiles.
+    EXPECT_EQ(selected(), u"1 2"_s);
+    clickOn(u"removeSelected"_s);
+    EXPECT_EQ(parked(), u"3"_s);
+    clickOn(u"tile0"_s);
+    clickOn(u"removeSelected"_s);
+    EXPECT_NE(shown(u"dropCard"_s), nullptr);
+    EXPECT_EQ(shown(u"shelfCount"_s), nullptr);
+}
+
+struct RequestCase {
+    const char* name;
+    void (*happen)(PanelWorld& world);
+};
+
+class ShelfRequest : public Panel, public testing::WithParamInterface<RequestCase> {};
+
+TEST_P(ShelfRequest, showsTheShelf) {
+    world.store.addToShelf({file(u"a"_s)});
+    GetParam().happen(world);
+    EXPECT_TRUE(world.controller.isOpen());
+    EXPECT_NE(shown(u"grid"_s), nullptr);
+    EXPECT_EQ(world.settings.lastTab(), u"Shelf"_s);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ShelfRequest,
+                         testing::Values(RequestCase{"whileClosed",
+                                                     [](PanelWorld& world) {
+                                                         world.drags.begin(true);
+                                                         world.controller.onDragEnter();
+                                                     }},
+                                         RequestCase{"beforeTheContentIsBuilt",
+                                                     [](PanelWorld& world) {
+                                                         world.controller.positionExpanded();
+                                                         world.controller.collapse();
+                                                         world.drags.begin(true);
+                                                         world.controller.onDragEnter();
+                                                     }},
+                                         RequestCase{"whileOpen",
+                                                     [](PanelWorld& world) {
+                                                         world.controller.positionExpanded();
+                                                         world.store.requestShelf();
+                                                     }}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(ShelfTab, lightsUpAndForgetsTheSelectionWhileFilesAreDraggedOverIt) {
+    open();
+    clickOn(u"tab0"_s);
+    park(1, 1);
+    world.store.toggleSelectStack({file(u"1"_s)});
+    dragOver({400, 300}, false);
+    EXPECT_EQ(selected(), u"1"_s) << "by what carries no files";
+    EXPECT_EQ(shown(u"grid"_s), nullptr) << "by what carries no files";
+    QDragLeaveEvent leave;
+    QCoreApplication::sendEvent(&view.window(), &leave);
+    dragOver({400, 300});
+    EXPECT_EQ(selected(), QString());
+    EXPECT_NE(shown(u"grid"_s), nullptr) << "the tab";
+    world.store.removeFromShelf(file(u"1"_s));
+    EXPECT_TRUE(item(u"dropCard"_s)->property("targeted").toBool());
+    QCoreApplication::sendEvent(&view.window(), &leave);
+    EXPECT_FALSE(item(u"dropCard"_s)->property("targeted").toBool());
+}
+
+struct ShelfKeysCase {
+    const char* name;
+    const char* keys;
+    QString selected;
+    QString opened = {};
+    QString parked = u"0 1 2 3 4 5 6 7 8 9 10 11"_s;
+};
+
+class ShelfKeys : public ShelfTab, public testing::WithParamInterface<ShelfKeysCase> {};
+
+TEST_P(ShelfKeys, workFromTheTileThatAnArrowCameTo) {
+    park(0, 9); // Eight in a line.
+    park(10, 11);
+    openByKey();
+    pressKeys(QString::fromLatin1(GetParam().keys));
+    EXPECT_EQ(selected(), GetParam().selected);
+    EXPECT_EQ(parked(), GetParam().parked);
+    EXPECT_EQ(names(world.opener.opened), GetParam().opened);
+    EXPECT_EQ(world.controller.isOpen(), GetParam().opened.isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, ShelfKeys,
+    testing::Values(
+        ShelfKeysCase{"spaceAtOnce", "Space", {}}, ShelfKeysCase{"returnAtOnce", "Return", {}},
+        ShelfKeysCase{"deleteAtOnce", "Del", {}}, ShelfKeysCase{"menuAtOnce", "Menu Return", {}},
+        ShelfKeysCase{"space", "Right Space", u"0"_s},
+        ShelfKeysCase{"sideways", "Left Right Right Space", u"2"_s},
+        ShelfKeysCase{"down", "Right Right Down Space", u"9"_s},
+        ShelfKeysCase{"downAndUp", "Down Down Down Space Up Up Up Space", u"0 10"_s},
+        ShelfKeysCase{"byTab", "Backtab Tab Space", u"0"_s},
+        ShelfKeysCase{"delete", "End Del Del Space", u"9"_s, {}, u"0 1 2 3 4 5 6 7 8 9"_s},
+        ShelfKeysCase{"selectAll", "Ctrl+A", u"0 1 2 3 4 5 6 7 8 9 10 11"_s},
+        ShelfKeysCase{"return", "Right Right Return", {}, u"1"_s}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(ShelfTab, opensAFileOrItsFolderByItsMenu) {
+    park(1, 1);
+    for (const auto& [entry, opened] : {std::pair(u"item0"_s, &world.opener.opened),
+                                        std::pair(u"item1"_s, &world.opener.shown)}) {
+        open();
+        clickOn(u"tile0"_s, Qt::RightButton);
+        const QQuickItem* choice = in(u"fileMenu"_s, entry);
+        click(view.window(), choice->mapToScene({20, 10}));
+        EXPECT_EQ(*opened, QList{file(u"1"_s)});
+        EXPECT_FALSE(world.controller.isOpen());
+        close();
+        world.scheduler.advance(untilBuilt);
+    }
+}
+
+TEST_F(ShelfTab, leavesFilesThatAreGoneOutOfADrag) {
+    QFile there(world.folder.filePath(u"there"_s));
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    const QUrl kept = QUrl::fromLocalFile(there.fileName());
+    world.store.addToShelf({kept, file(u"gone"_s)});
+    world.store.clearSelection();
+    open();
+    EXPECT_FALSE(item(u"tile0"_s)->property("missing").toBool());
+    EXPECT_TRUE(item(u"tile1"_s)->property("missing").toBool());
+    EXPECT_EQ(view.features().shelf->parked()->filesToDrag(), QList{kept});
+    clickOn(u"tile1"_s);
+    EXPECT_EQ(view.features().shelf->parked()->filesToDrag(), QList<QUrl>());
+    there.remove();
+    rebuild();
+    open();
+    EXPECT_TRUE(item(u"tile0"_s)->property("missing").toBool());
+}
+
+struct SendCase {
+    const char* name;
+    QList<NearbyDevice> devices;
+    bool chooses;
+    bool withAMissing;
+    QString sentTo;
+    QString toast;
+};
+
+class ShelfSending : public ShelfTab, public testing::WithParamInterface<SendCase> {};
+
+TEST_P(ShelfSending, sendsTheSelectedFiles) {
+    QFile there(world.folder.filePath(u"there"_s));
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    world.store.addToShelf({QUrl::fromLocalFile(there.fileName())});
+    park(1, 2);
+    open();
+    clickOn(u"tile0"_s);
+    if (GetParam().withAMissing) {
+        clickOn(u"tile1"_s);
+    }
+    world.devices.answer(GetParam().devices);
+    world.scheduler.advance(Seconds(0.1));
+    clickOn(u"airdrop"_s);
+    if (GetParam().chooses) {
+        EXPECT_TRUE(world.devices.sent.isEmpty());
+        click(view.window(), in(u"deviceMenu"_s, u"item1"_s)->mapToScene({20, 10}));
+    }
+    world.scheduler.advance(Seconds(0.1));
+    world.devices.answerSend(true);
+    ASSERT_EQ(world.devices.sent.size(), GetParam().sentTo.isEmpty() ? 0 : 1);
+    if (!GetParam().sentTo.isEmpty()) {
+        EXPECT_EQ(world.devices.sent[0].deviceId, GetParam().sentTo);
+        EXPECT_EQ(world.devices.sent[0].addresses.size(), 1);
+    }
+    EXPECT_EQ(view.features().toast.text(), GetParam().toast);
+    EXPECT_EQ(view.features().shelf->sending()->advice().isEmpty(), !GetParam().devices.isEmpty());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, ShelfSending,
+                         testing::Values(SendCase{"toNobody", {}, false, false, {}, {}},
+                                         SendCase{"toTheOnlyOne",
+                                                  {{u"p"_s, u"Pixel\nof Ren"_s}},
+                                                  false,
+                                                  false,
+                                                  u"p"_s,
+                                                  u"Sent to Pixel of Ren"_s},
+                                         SendCase{"toTheOneThatIsChosen",
+                                                  {{u"p"_s, u"Pixel"_s}, {u"t"_s, u"Tablet"_s}},
+                                                  true,
+                                                  true,
+                                                  u"t"_s,
+                                                  u"Sent 1 of 2 to Tablet"_s}),
+                         [](const auto& row) { return row.param.name; });
+
+TEST_F(ShelfTab, lightsItsButtonForDevicesThatComeLaterWhileItShows) {
+    park(1, 1);
+    open();
+    world.devices.answer({});
+    world.scheduler.advance(Seconds(0.1));
+    ASSERT_FALSE(view.features().shelf->sending()->isPossible());
+    world.scheduler.advance(Seconds(4));
+    world.devices.answer({{u"p"_s, u"Pixel"_s}});
+    EXPECT_TRUE(view.features().shelf->sending()->isPossible());
+    close();
+    const int looks = world.devices.looks;
+    world.scheduler.advance(Seconds(60));
+    EXPECT_EQ(world.devices.looks, looks) << "nobody sees it";
+}
+
+TEST_F(ShelfTab, saysWhyAFolderIsNotSent) {
+    world.store.addToShelf({QUrl::fromLocalFile(world.folder.path())});
+    open();
+    world.devices.answer({{u"p"_s, u"Pixel"_s}});
+    world.scheduler.advance(Seconds(0.1));
+    clickOn(u"airdrop"_s);
+    world.scheduler.advance(Seconds(0.1));
+    EXPECT_EQ(view.features().toast.text(), u"A folder cannot be sent, only files"_s);
+    EXPECT_TRUE(world.devices.sent.isEmpty());
+}
+
+TEST_F(ShelfTab, makesWayForTheProgramThatSends) {
+    QFile there(world.folder.filePath(u"there"_s));
+    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
+    world.store.addToShelf({QUrl::fromLocalFile(there.fileName())});
+    world.programs.installed = {u"blueman-sendto"_s};
+    open();
+    world.devices.answer({});
+    world.scheduler.advance(Seconds(0.1));
+    clickOn(u"airdrop"_s);
+    world.scheduler.advance(Seconds(0.1));
+    EXPECT_EQ(world.programs.started.size(), 1);
+    EXPECT_FALSE(world.controller.isOpen()) << "the panel lies over its window";
+}
+
+TEST_F(ShelfTab, listsWhatIsReceivedAndTakesItOntoTheShelf) {
+    open();
+    const auto receive = [this](const QByteArray& name) {
+        world.downloads.tell({{}, {{FolderChange::Kind::written, name}}});
+    };
+    receive("first.pdf");
+    world.scheduler.advance(Seconds(300));
+    EXPECT_EQ(shown(u"banner"_s), nullptr) << "that was a while ago";
+    receive("second.pdf");
+    item(u"banner"_s);
+    const auto ago = [this](const QString& row) {
+        return property(row, u"ago"_s, "text").toString();
+    };
+    EXPECT_EQ(ago(u"received0"_s), u"5 min. ago"_s);
+    EXPECT_EQ(ago(u"received1"_s), u"just now"_s);
+    const auto* source = qobject_cast<DragSourceView*>(in(u"received1"_s, u"dragSource"_s));
+    EXPECT_EQ(names(source->files()), u"second.pdf"_s) << "what would be dragged out";
+    const QQuickItem* row = item(u"received0"_s);
+    send(view.window(), QEvent::MouseMove, row->mapToScene({400, 14}));
+    const QQuickItem* park = find(row, u"park"_s);
+    ASSERT_TRUE(park->isVisible());
+    click(view.window(), park->mapToScene({12, 12}));
+    EXPECT_EQ(parked(), u"first.pdf"_s);
+    EXPECT_TRUE(world.opener.opened.isEmpty()) << "the click went through to the row";
+    clickOn(u"received1"_s);
+    EXPECT_EQ(names(world.opener.opened), u"second.pdf"_s);
+}
+
+TEST_F(ShelfTab, makesTilesAndRowsForWhatIsInSightOnly) {
+    park(1, 200);
+    FolderListing listing{{}, FolderListing::Unknown::arrived};
+    for (int i = 0; i < 10000; ++i) {
+        listing.entries.append({QByteArray::number(i) + ".pdf", false});
+    }
+    world.downloads.tell({listing, {}});
+    openByKey();
+    EXPECT_EQ(view.features().shelf->received()->rowCount(), 10000);
+    EXPECT_LT(view.features().shelf->parked()->tiles()->rowCount(), 48);
+    EXPECT_EQ(shown(u"tile199"_s), nullptr);
+    press(Qt::Key_End);
+    view.window().grabWindow();
+    EXPECT_LT(view.features().shelf->parked()->tiles()->rowCount(), 48);
+    EXPECT_TRUE(item(u"tile199"_s)->hasActiveFocus());
+    EXPECT_NE(shown(u"received9999"_s), nullptr) << "the list ends with the newest";
+    EXPECT_EQ(shown(u"received0"_s), nullptr);
+}
+
+struct PressCase {
+    const char* name;
+    QList<double> moves;
+    int taps;
+    int drags;
+};
+
+class DragSource : public testing::TestWithParam<PressCase> {};
+
+TEST_P(DragSource, tellsAPressThatMovesFromATap) {
+    QQuickWindow window;
+    window.resize(100, 100);
+    DragSourceView source(window.contentItem());
+    source.setSize({100, 100});
+    int taps = 0;
+    int drags = 0;
+    QObject::connect(&source, &DragSourceView::tapped, [&] { ++taps; });
+    QObject::connect(&source, &DragSourceView::dragged, [&] { ++drags; });
+    window.show();
+    for (int again = 1; again <= 2; ++again) {
+        send(window, QEvent::MouseButtonPress, {10, 50});
+        double x = 10;
+        for (const double move : GetParam().moves) {
+            send(window, QEvent::MouseMove, {x += move, 50});
+        }
+        send(window, QEvent::MouseButtonRelease, {x, 50});
+        EXPECT_EQ(taps, again * GetParam().taps);
+        EXPECT_EQ(drags, again * GetParam().drags);
+    }
+}
+
+INSTANTIATE_TEST_SUITE_P(All, DragSource,
+                         testing::Values(PressCase{"still", {}, 1, 0},
+                                         PressCase{"trembling", {2, -3, 2}, 1, 0},
+                                         PressCase{"moved", {20}, 0, 1},
+                                         PressCase{"movedLong", {12, 12, 12, 12, -40}, 0, 1}),
+                         [](const auto& row) { return row.param.name; });
+
+struct LayoutCase {
+    const char* name;
+    QList<qsizetype> stacks;
+    double width;
+    QList<QRectF> trays;
+    QList<QPointF> lastTiles; ///< Of each stack.
+};
+
+class Layout : public testing::TestWithParam<LayoutCase> {};
+
+TEST_P(Layout, standsTraysSideBySideAndBreaksLongOnes) {
+    const ShelfLayout layout(GetParam().stacks, GetParam().width);
+    EXPECT_EQ(layout.trays, GetParam().trays);
+    EXPECT_EQ(layout.height, GetParam().trays.isEmpty() ? 0 : GetParam().trays.last().bottom());
+    qsizetype tiles = 0;
+    for (qsizetype i = 0; i < GetParam().stacks.size(); ++i) {
+        tiles += GetParam().stacks[i];
+        EXPECT_EQ(layout.tiles[tiles - 1].topLeft(), GetParam().lastTiles[i]);
+    }
+    EXPECT_EQ(layout.tiles.size(), tiles);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, Layout,
+    testing::Values(
+        LayoutCase{"none", {}, 859, {}, {}},
+        LayoutCase{"sideBySide",
+                   {3, 2, 3, 1},
+                   859,
+                   {{0, 0, 315, 116}, {323, 0, 212, 116}, {543, 0, 315, 116}, {0, 124, 109, 116}},
+                   {{210, 4}, {430, 4}, {753, 4}, {4, 128}}},
+        LayoutCase{"wrapped",
+                   {1, 9, 1},
+                   859,
+                   {{0, 0, 109, 116}, {0, 124, 830, 226}, {0, 358, 109, 116}},
+                   {{4, 4}, {4, 238}, {4, 362}}},
+        LayoutCase{"narrowerThanATile", {2}, 50, {{0, 0, 109, 226}}, {{4, 114}}}),
+    [](const auto& row) { return row.param.name; });
+
+} // namespace
+
+} // namespace ravelo

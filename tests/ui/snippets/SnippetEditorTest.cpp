@@ -1,0 +1,121 @@
+#include "ui/snippets/SnippetEditor.h"
+#include "panel_fixture/PanelFixture.h"
+
+#include <gtest/gtest.h>
+
+#include <QBuffer>
+#include <QImage>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class SnippetEditing : public testing::Test {
+protected:
+    [[nodiscard]] const QList<Snippet>& snippets() const { return world.store.snippets(); }
+
+    void offerImage() {
+        QImage red(4, 4, QImage::Format_RGB32);
+        red.fill(Qt::red);
+        QByteArray png;
+        QBuffer buffer(&png);
+        red.save(&buffer, "PNG");
+        world.pasteboard.offer({{u"image/png"_s, png}});
+    }
+
+    /// Whatever was asked for comes.
+    void attach() {
+        editor.attachImage();
+        settle();
+    }
+
+    void settle() {
+        for (int i = 0; i < 3; ++i) {
+            world.scheduler.advance(Seconds(1));
+            world.worker.drain();
+        }
+    }
+
+    [[nodiscard]] QStringList images() {
+        settle();
+        return QDir(world.store.clipsDir()).entryList(QDir::Files);
+    }
+
+    PanelWorld world;
+    SnippetEditor editor{world.store};
+    const Snippet first = world.store.snippets().first();
+};
+
+TEST_F(SnippetEditing, keepsItsHandsOffTheStoreUntilItIsSaved) {
+    editor.edit(first.id);
+    editor.setTitle(u"changed"_s);
+    editor.setBody(u"also"_s);
+    EXPECT_EQ(snippets().first(), first);
+    editor.cancel();
+    EXPECT_FALSE(editor.isEditing());
+    EXPECT_EQ(snippets().first(), first);
+
+    editor.edit(first.id);
+    EXPECT_EQ(editor.title(), first.title) << "of the last time";
+    editor.setTitle(u"changed"_s);
+    editor.save();
+    EXPECT_FALSE(editor.isEditing());
+    EXPECT_EQ(snippets().first(), Snippet({first.id, u"changed"_s, first.body, first.icon, {}}));
+}
+
+TEST_F(SnippetEditing, appendsANewOneOnceItHasATitle) {
+    editor.editNew();
+    editor.setBody(u"body"_s);
+    editor.setTitle(u" \n"_s);
+    EXPECT_FALSE(editor.canSave());
+    editor.save();
+    EXPECT_TRUE(editor.isEditing());
+    EXPECT_EQ(snippets().size(), 18);
+    editor.setTitle(u"title"_s);
+    editor.save();
+    ASSERT_EQ(snippets().size(), 19);
+    EXPECT_EQ(snippets().last(),
+              Snippet({snippets().last().id, u"title"_s, u"body"_s, u"doc.text"_s, {}}));
+}
+
+TEST_F(SnippetEditing, attachesTheImageOnThePasteboardAndLeavesNoOtherBehind) {
+    editor.edit(first.id);
+    attach();
+    EXPECT_EQ(editor.imageFileName(), QString()) << "there was none";
+    offerImage();
+    attach();
+    EXPECT_EQ(QStringList{editor.imageFileName()}, images());
+    editor.cancel();
+    EXPECT_EQ(images(), QStringList()) << "nothing refers to it";
+
+    editor.edit(first.id);
+    attach();
+    editor.removeImage();
+    attach();
+    editor.save();
+    EXPECT_EQ(images(), QStringList{snippets().first().imageFileName});
+    editor.edit(first.id);
+    editor.attachImage();
+    editor.cancel();
+    EXPECT_EQ(images(), QStringList{snippets().first().imageFileName}) << "it came too late";
+}
+
+TEST_F(Panel, aSnippetWithoutATitleIsNotSaved) {
+    open();
+    const qsizetype before = world.store.snippets().size();
+    clickOn(u"addSnippet"_s);
+    clickOn(u"bodyInput"_s);
+    clickOn(u"save"_s);
+    EXPECT_TRUE(view.features().snippets.editor()->isEditing()) << "what was typed is lost";
+    EXPECT_TRUE(item(u"titleField"_s)->property("mistaken").toBool()) << "nothing says why";
+    EXPECT_TRUE(item(u"titleInput"_s)->hasActiveFocus());
+    type(u"t"_s);
+    EXPECT_FALSE(item(u"titleField"_s)->property("mistaken").toBool());
+    clickOn(u"save"_s);
+    EXPECT_EQ(world.store.snippets().size(), before + 1);
+}
+
+} // namespace
+} // namespace ravelo

@@ -1,0 +1,341 @@
+// The settings and the setup on the in-memory platform: by keyboard, by mouse, and what is kept.
+
+#include "panel_fixture/PanelFixture.h"
+#include "ui/windows/OnboardingController.h"
+#include "ui/windows/SettingsWindow.h"
+
+#include <QAccessible>
+#include <QWheelEvent>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Windows : public Panel {
+public:
+    QQuickItem* in(QQuickWindow* window, const QString& name) {
+        QQuickItem* found = find(window->contentItem(), name);
+        if (found == nullptr) {
+            ADD_FAILURE() << "there is no " << qPrintable(name);
+            return &nothing;
+        }
+        return found;
+    }
+
+    void clickOn(QQuickWindow* window, const QString& name) {
+        const QQuickItem* target = in(window, name);
+        click(*window, target->mapToScene(target->boundingRect().center()));
+    }
+
+    [[nodiscard]] static bool hasFocus(const QQuickItem* item) { return item->hasActiveFocus(); }
+
+    [[nodiscard]] QJsonValue kept(const QString& key) const { return world.preferences.value(key); }
+
+    int quits = 0;
+    SettingsWindow settings{{{view.window()}, world.store, world.settings, [this] {
+                                 ++quits;
+                             }}};
+    OnboardingController setup{{view.window()}, world.settings, world.screens};
+};
+
+class Settings : public Windows {
+public:
+    Settings() {
+        settings.show();
+        window = settings.window();
+        EXPECT_TRUE(eventually([this] { return window->isActive(); }));
+    }
+
+    QString label(const QString& row) {
+        return in(window, row)->findChild<QQuickItem*>(u"label"_s)->property("text").toString();
+    }
+
+    /// `place` is a part of the slider's length.
+    QPointF on(const QString& slider, double place) {
+        const QQuickItem* item = in(window, slider);
+        return item->mapToScene({9 + place * (item->width() - 18), item->height() / 2});
+    }
+
+    void turn(const QString& slider, int angle) {
+        const QPointF place = on(slider, 0.5);
+        QWheelEvent event(place, window->mapToGlobal(place), {}, {0, angle}, Qt::NoButton,
+                          Qt::NoModifier, Qt::NoScrollPhase, false);
+        QCoreApplication::sendEvent(window, &event);
+    }
+
+    TitledWindow* window = nullptr;
+};
+
+TEST_F(Settings, EachControlKeepsWhatTheKeyboardSetsAtOnce) {
+    for (const char* next : {"tab0", "launchAtLogin", "fullBlack", "darkness", "panelWidth",
+                             "clearHistory", "quit", "close", "tab0"}) {
+        press(*window, Qt::Key_Tab);
+        EXPECT_TRUE(hasFocus(in(window, QString::fromUtf8(next)))) << next;
+    }
+
+    struct Case {
+        QString control;
+        int key;
+        QString preference;
+        QJsonValue kept;
+    };
+
+    const Case cases[] = {
+        {u"fullBlack"_s, Qt::Key_Space, u"fullBlack"_s, true},
+        {u"fullBlack"_s, Qt::Key_Return, u"fullBlack"_s, false},
+        {u"darkness"_s, Qt::Key_Right, u"bgOpacity"_s, 0.561},
+        {u"darkness"_s, Qt::Key_PageDown, u"bgOpacity"_s, 0.451},
+        {u"darkness"_s, Qt::Key_Home, u"bgOpacity"_s, 0.3},
+        {u"darkness"_s, Qt::Key_Left, u"bgOpacity"_s, 0.3},
+        {u"darkness"_s, Qt::Key_End, u"bgOpacity"_s, 0.85},
+        {u"darkness"_s, Qt::Key_Up, u"bgOpacity"_s, 0.85},
+        {u"panelWidth"_s, Qt::Key_Right, u"panelWidth"_s, 930},
+        {u"panelWidth"_s, Qt::Key_Down, u"panelWidth"_s, 920},
+        {u"panelWidth"_s, Qt::Key_PageUp, u"panelWidth"_s, 1020},
+        {u"panelWidth"_s, Qt::Key_End, u"panelWidth"_s, 1100},
+        {u"panelWidth"_s, Qt::Key_Right, u"panelWidth"_s, 1100},
+        {u"panelWidth"_s, Qt::Key_Home, u"panelWidth"_s, 560},
+        {u"panelWidth"_s, Qt::Key_Left, u"panelWidth"_s, 560},
+    };
+    EXPECT_TRUE(kept(u"panelWidth"_s).isUndefined()) << "to be shown writes nothing";
+    for (const Case& c : cases) {
+        in(window, c.control)->forceActiveFocus();
+        press(*window, c.key);
+        EXPECT_NEAR(kept(c.preference).toDouble(), c.kept.toDouble(), 1e-9)
+            << qPrintable(c.control) << " " << c.key;
+        EXPECT_EQ(kept(c.preference).toBool(), c.kept.toBool());
+    }
+    in(window, u"launchAtLogin"_s)->forceActiveFocus();
+    press(*window, Qt::Key_Space);
+    EXPECT_TRUE(world.loginItem.enabled);
+    press(*window, Qt::Key_Space);
+    EXPECT_FALSE(world.loginItem.enabled);
+}
+
+TEST_F(Settings, TheOtherPagesKeepWhatIsSetAtOnce) {
+    struct Case {
+        int page;
+        QString control;
+        int key;
+        QJsonValue kept;
+    };
+
+    const Case cases[] = {
+        {Qt::Key_2, u"newestFirst"_s, Qt::Key_Space, true},
+        {Qt::Key_2, u"newestFirst"_s, Qt::Key_Space, false},
+        {Qt::Key_2, u"keepTextsExactly"_s, Qt::Key_Return, true},
+        {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 200},
+        {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 1000},
+        {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 1000},
+        {Qt::Key_3, u"historyLength"_s, Qt::Key_Up, 200},
+        {Qt::Key_4, u"hideClaudeCode"_s, Qt::Key_Space, true},
+    };
+    for (const Case& c : cases) {
+        press(*window, c.page, Qt::ControlModifier);
+        in(window, c.control)->forceActiveFocus();
+        press(*window, c.key);
+        EXPECT_EQ(kept(c.control), c.kept) << qPrintable(c.control);
+    }
+    EXPECT_EQ(world.settings.historyLength(), 200);
+
+    press(*window, Qt::Key_3, Qt::ControlModifier);
+    clickOn(window, u"historyLength"_s);
+    EXPECT_TRUE(eventually([this] { return in(window, u"item0"_s)->isVisible(); }));
+    clickOn(window, u"item0"_s);
+    EXPECT_EQ(kept(u"historyLength"_s), 60);
+}
+
+TEST_F(Settings, TheMouseSetsTheSame) {
+    clickOn(window, u"fullBlack"_s);
+    EXPECT_EQ(kept(u"fullBlack"_s), true);
+    clickOn(window, u"launchAtLogin"_s);
+    EXPECT_TRUE(world.loginItem.enabled);
+
+    click(*window, on(u"darkness"_s, 0.8));
+    EXPECT_NEAR(kept(u"bgOpacity"_s).toDouble(), 0.74, 1e-9);
+    click(*window, on(u"panelWidth"_s, 0.25));
+    EXPECT_EQ(kept(u"panelWidth"_s), 700) << "695 is no step";
+    EXPECT_EQ(label(u"widthRow"_s), u"Width: 700"_s);
+
+    // Held beside its middle it does not jump, and it follows beyond the ends.
+    const QPointF held = on(u"panelWidth"_s, 140.0 / 540) + QPointF(5, 0);
+    send(*window, QEvent::MouseMove, held);
+    send(*window, QEvent::MouseButtonPress, held);
+    EXPECT_EQ(kept(u"panelWidth"_s), 700);
+    for (const auto& [x, width] : {std::pair(0.5, 830), {2.0, 1100}, {-2.0, 560}}) {
+        QMouseEvent drag(QEvent::MouseMove, on(u"panelWidth"_s, x) + QPointF(5, 0),
+                         window->mapToGlobal(held), Qt::NoButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(window, &drag);
+        EXPECT_EQ(kept(u"panelWidth"_s), width);
+    }
+    send(*window, QEvent::MouseButtonRelease, held);
+
+    turn(u"panelWidth"_s, 60); // Half a notch, as touchpads send them.
+    EXPECT_EQ(kept(u"panelWidth"_s), 560);
+    turn(u"panelWidth"_s, 60);
+    EXPECT_EQ(kept(u"panelWidth"_s), 570);
+    turn(u"panelWidth"_s, -240);
+    EXPECT_EQ(kept(u"panelWidth"_s), 560);
+}
+
+TEST_F(Settings, AnAssistiveProgramSetsTheSame) {
+    const auto accessible = [this](const QString& name) {
+        return QAccessible::queryAccessibleInterface(in(window, name));
+    };
+    QAccessibleInterface* width = accessible(u"panelWidth"_s);
+    EXPECT_EQ(width->role(), QAccessible::Slider);
+    EXPECT_EQ(width->text(QAccessible::Name), u"Width"_s);
+    for (const auto& [wanted, got] : {std::pair(703.0, 700), {5000.0, 1100}, {5000.0, 1100}}) {
+        width->valueInterface()->setCurrentValue(wanted);
+        EXPECT_EQ(kept(u"panelWidth"_s), got);
+        EXPECT_EQ(width->valueInterface()->currentValue(), got);
+    }
+    QAccessibleInterface* black = accessible(u"fullBlack"_s);
+    EXPECT_EQ(black->role(), QAccessible::CheckBox);
+    EXPECT_FALSE(black->state().checked);
+    black->actionInterface()->doAction(QAccessibleActionInterface::toggleAction());
+    EXPECT_EQ(kept(u"fullBlack"_s), true);
+    EXPECT_TRUE(black->state().checked);
+}
+
+TEST_F(Settings, ShowsWhatIsChangedElsewhereAndSurvivesAnyNumber) {
+    const auto place = [this](const QString& slider) {
+        return in(window, slider)->findChild<QQuickItem*>(u"knob"_s)->x();
+    };
+    for (const auto& [width, left] :
+         {std::pair(560.0, 0.0), {1100.0, 182.0}, {-3.0, 0.0}, {1e9, 182.0}, {830.0, 91.0}}) {
+        world.settings.setPanelWidth(width);
+        EXPECT_EQ(label(u"widthRow"_s), u"Width: "_s + QString::number(width, 'f', 0));
+        EXPECT_NEAR(place(u"panelWidth"_s), left, 1e-6);
+        EXPECT_EQ(kept(u"panelWidth"_s), width) << "to be shown changes nothing";
+    }
+    world.settings.setBgOpacity(7);
+    EXPECT_EQ(place(u"darkness"_s), 182);
+    in(window, u"darkness"_s)->forceActiveFocus();
+    press(*window, Qt::Key_Left);
+    EXPECT_EQ(kept(u"bgOpacity"_s), 0.85);
+}
+
+TEST_F(Settings, ClearsAtOnceWhatIsNotPinned) {
+    EXPECT_EQ(label(u"clips"_s), u"3 items stored"_s);
+    world.store.togglePin(world.store.clips()[1].id);
+    clickOn(window, u"clearHistory"_s);
+    ASSERT_EQ(world.store.clips().size(), 1);
+    EXPECT_EQ(world.store.clips()[0].text, u"second"_s);
+    EXPECT_EQ(label(u"clips"_s), u"1 item stored"_s);
+}
+
+TEST_F(Settings, IsHiddenWhenItIsClosedAndUsedAgain) {
+    EXPECT_EQ(window->title(), u"Ravelo Settings"_s);
+    EXPECT_EQ(window->size(), QSize(460, 600));
+    const auto ways = {+[](Settings& s) { press(*s.window, Qt::Key_Escape); },
+                       +[](Settings& s) {
+                           s.window->close();
+                       }};
+    for (int way = 0; const auto& close : ways) {
+        SCOPED_TRACE(++way);
+        close(*this);
+        EXPECT_FALSE(window->isVisible());
+        EXPECT_EQ(quits, 0);
+        settings.show();
+        EXPECT_EQ(settings.window(), window);
+        EXPECT_TRUE(eventually([this] { return window->isActive(); }));
+    }
+    clickOn(window, u"quit"_s);
+    EXPECT_EQ(quits, 1);
+}
+
+TEST_F(Windows, TheGearClosesThePanelAndAsksForTheSettings) {
+    QObject::connect(&world.controller, &NotchController::settingsRequested, &settings,
+                     &SettingsWindow::show);
+    open();
+    Panel::clickOn(u"gear"_s);
+    EXPECT_FALSE(world.controller.isOpen());
+    ASSERT_NE(settings.window(), nullptr);
+    EXPECT_TRUE(settings.window()->isVisible());
+}
+
+class Setup : public Windows {
+protected:
+    Setup() { start(); }
+
+    void start() {
+        setup.show();
+        window = setup.window();
+        EXPECT_TRUE(eventually([this] { return window->isActive(); }));
+        EXPECT_TRUE(in(window, u"start"_s)->isVisible()) << "from the beginning";
+    }
+
+    QString detail() { return in(window, u"auto"_s)->property("detail").toString(); }
+
+    QPointer<TitledWindow> window;
+};
+
+TEST_F(Setup, IsDoneByTheKeyboardAlone) {
+    int layouts = 0;
+    world.settings.onLayoutChange = [&] {
+        ++layouts;
+    };
+    press(*window, Qt::Key_Return);
+    EXPECT_FALSE(in(window, u"start"_s)->isVisible());
+    for (const char* next : {"auto", "notch"}) {
+        press(*window, Qt::Key_Tab);
+        EXPECT_TRUE(hasFocus(in(window, QString::fromUtf8(next)))) << next;
+    }
+    EXPECT_TRUE(kept(u"macType"_s).isUndefined());
+    press(*window, Qt::Key_Space);
+    EXPECT_EQ(kept(u"macType"_s), u"notch"_s);
+    press(*window, Qt::Key_Down);
+    EXPECT_EQ(kept(u"macType"_s), u"none"_s);
+    EXPECT_TRUE(hasFocus(in(window, u"none"_s)));
+    EXPECT_EQ(layouts, 2);
+    EXPECT_FALSE(world.settings.onboarded());
+    press(*window, Qt::Key_Tab);
+    press(*window, Qt::Key_Return);
+    EXPECT_EQ(kept(u"onboarded"_s), true);
+    EXPECT_EQ(setup.window(), nullptr);
+    EXPECT_TRUE(eventually([this] { return window.isNull(); }));
+}
+
+TEST_F(Setup, IsDoneByTheMouseAndTellsOfTheNotch) {
+    press(*window, Qt::Key_Escape);
+    EXPECT_EQ(setup.window(), nullptr);
+    EXPECT_TRUE(kept(u"onboarded"_s).isUndefined()) << "closed is not done";
+    start();
+    clickOn(window, u"start"_s);
+    EXPECT_EQ(detail(), u"We found no notch on this display"_s);
+    Screen notched = world.screens.screens.front();
+    notched.leftOfNotch = QRectF(0, 0, 600, 32);
+    notched.rightOfNotch = QRectF(800, 0, 640, 32);
+    world.screens.change({notched});
+    EXPECT_EQ(detail(), u"We found a notch on this display"_s);
+    world.screens.change({});
+    EXPECT_EQ(detail(), u"We found no notch on this display"_s);
+
+    const auto selected = [this] {
+        QStringList names;
+        for (const QString& name : {u"auto"_s, u"notch"_s, u"none"_s}) {
+            if (in(window, name)->property("selected").toBool()) {
+                names.append(name);
+            }
+        }
+        return names;
+    };
+    world.settings.setMacType(u"nonsense"_s);
+    EXPECT_EQ(selected(), QStringList(u"auto"_s));
+    for (const QString& name : {u"none"_s, u"notch"_s, u"auto"_s}) {
+        clickOn(window, name);
+        EXPECT_EQ(kept(u"macType"_s), name);
+        EXPECT_EQ(selected(), QStringList(name));
+    }
+    clickOn(window, u"done"_s);
+    EXPECT_EQ(kept(u"onboarded"_s), true);
+    EXPECT_EQ(setup.window(), nullptr);
+    EXPECT_TRUE(eventually([this] { return window.isNull(); }));
+}
+
+} // namespace
+
+} // namespace ravelo

@@ -1,0 +1,595 @@
+// Draws the panel, the settings or the setup with sample data, for comparing it with the drawings
+// of its look.
+//
+//   panel_probe [--scene NAME] [--scale 1|2] [--screen WxH] [--png FILE] [--behind FILE] [--time N]
+//
+// writes the picture (of the closed panel as a bar in scenes such as "bar-timer-reminders-notch")
+// and prints the rectangles of all named elements as JSON, in logical pixels of the window.
+// --behind puts a picture of a screen below; --time prints what N openings cost.
+
+#include "fakes/UsageWorld.h"
+#include "panel_fixture/Input.h"
+#include "panel_fixture/Services.h"
+#include "support/Eventually.h"
+#include "ui/PanelView.h"
+#include "ui/windows/OnboardingController.h"
+#include "ui/windows/SettingsWindow.h"
+#include "ui/windows/TitledWindow.h"
+#include "ui/windows/UpdateWindow.h"
+#include "updates/Updater.h"
+
+#include <QCommandLineParser>
+#include <QDir>
+#include <QDragEnterEvent>
+#include <QElapsedTimer>
+#include <QGuiApplication>
+#include <QJsonArray>
+#include <QJsonDocument>
+#include <QJsonObject>
+#include <QMimeData>
+#include <QPainter>
+#include <QPainterPath>
+#include <QQuickPaintedItem>
+#include <QThread>
+
+#include <algorithm>
+#include <cstdio>
+#include <ctime>
+#include <vector>
+
+using namespace ravelo;
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr Seconds minute(60);
+constexpr Seconds hour(3600);
+constexpr Seconds day(86400);
+
+QImage room() {
+    QImage image(56, 56, QImage::Format_RGB32);
+    image.fill(QColor(u"#e9d9c6"_s));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    const auto block = [&painter](const QRectF& rect, double radius, const QString& color) {
+        painter.setBrush(QColor(color));
+        painter.drawRoundedRect(rect, radius, radius);
+    };
+    block({0, 38, 56, 18}, 0, u"#b98f6b"_s);
+    block({33, 8, 15, 16}, 1, u"#a9c9d6"_s);
+    block({6, 28, 30, 13}, 4, u"#54757a"_s);
+    block({9, 23, 24, 9}, 4, u"#668a8e"_s);
+    block({43, 24, 1.6, 18}, 0, u"#4b3a2c"_s);
+    painter.setBrush(QColor(u"#f6c96b"_s));
+    painter.drawPolygon(QPolygonF({{38, 26}, {41, 18}, {47, 18}, {50, 26}}));
+    return image;
+}
+
+QImage plan() {
+    QImage image(56, 56, QImage::Format_RGB32);
+    image.fill(QColor(u"#23406b"_s));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(QColor(u"#d7e6ff"_s), 1.6));
+    painter.drawRect(QRectF(9, 9, 38, 38));
+    painter.drawLines(
+        QList<QLineF>{{9, 27, 25, 27}, {31, 27, 47, 27}, {27, 47, 27, 35}, {27, 9, 27, 19}});
+    return image;
+}
+
+ClipItem image(const QString& fileName, Seconds ago) {
+    ClipItem item = clip(u"Image"_s, ago, ClipKind::image);
+    item.imageFileName = fileName;
+    return item;
+}
+
+ClipItem pinned(ClipItem item) {
+    item.pinned = true;
+    return item;
+}
+
+QList<ClipItem> sampleClips() {
+    return {
+        pinned(clip(u"Larkspur Interiors — 48 Alder Lane, studio 3, ring twice"_s, day * 22)),
+        pinned(clip(u"https://larkspur.example/booking"_s, day * 2, ClipKind::url)),
+        clip(u"Deposit received, thank you! Your date is confirmed for Thursday at 9:30."_s,
+             Seconds(12)),
+        image(u"room.png"_s, minute * 2),
+        clip(u"https://docs.larkspur.example/estimates/2026-042?view=print"_s, minute * 5,
+             ClipKind::url),
+        clip(u"Oak veneer panels, 18 mm, 2440 × 1220 — 6 sheets, matt lacquer"_s, minute * 14),
+        clip(u"git rebase --onto main feature/estimates~3 feature/estimates"_s, minute * 26),
+        image(u"plan.png"_s, minute * 41),
+        clip(u"ren@larkspur.example"_s, hour),
+        clip(u"Alcove measured twice: 1184 × 2310 mm, skirting 90 mm, socket on the left"_s,
+             hour * 2),
+        clip(u"https://maps.example/route/48-alder-lane"_s, hour * 3, ClipKind::url),
+    };
+}
+
+QImage swatches() {
+    QImage image(56, 56, QImage::Format_RGB32);
+    image.fill(QColor(u"#efe9e1"_s));
+    QPainter painter(&image);
+    painter.fillRect(4, 4, 22, 22, QColor(u"#6f8f7f"_s));
+    painter.fillRect(30, 4, 22, 22, QColor(u"#c9a27e"_s));
+    painter.fillRect(4, 30, 22, 22, QColor(u"#d8d2c6"_s));
+    painter.fillRect(30, 30, 22, 22, QColor(u"#3f5a6b"_s));
+    return image;
+}
+
+/// Real files where pictures are to be seen; the rest need not be there but for their kind.
+void park(PanelWorld& world) {
+    const QDir folder(world.folder.path());
+    const auto file = [&](const char* name, const QImage& image = {}) {
+        const QString path = folder.filePath(QString::fromUtf8(name));
+        if (image.isNull()) {
+            QFile(path).open(QIODevice::WriteOnly);
+        } else {
+            image.save(path);
+        }
+        return QUrl::fromLocalFile(path);
+    };
+    const auto wide = [](const QImage& image) {
+        return image.scaled(288, 224, Qt::KeepAspectRatioByExpanding, Qt::SmoothTransformation);
+    };
+    world.store.addToShelf({file("alcove-elevation-east.jpg", wide(room()).copy(0, 32, 288, 224)),
+                            file("alcove-section-plan.png", plan()),
+                            file("swatches.jpg", wide(swatches()).copy(0, 32, 288, 224))});
+    world.store.addToShelf({file("estimate-2026-042.pdf"), file("materials.xlsx")});
+    world.store.addToShelf({file("walkthrough-north.mp4"), file("contract.docx"),
+                            file("evening.jpg", wide(room()).copy(0, 0, 288, 224))});
+    world.store.addToShelf({file("site-photos.zip"), file("invoice.pdf")});
+    world.store.clearSelection();
+}
+
+/// More than anybody parks and receives.
+void parkMany(PanelWorld& world) {
+    QList<QUrl> files;
+    for (int i = 0; i < 200; ++i) {
+        files.append(QUrl::fromLocalFile(u"/nowhere/file %1.pdf"_s.arg(i)));
+    }
+    world.store.addToShelf(files);
+    FolderListing listing{{}, FolderListing::Unknown::arrived};
+    for (int i = 0; i < 10000; ++i) {
+        listing.entries.append({QByteArray::number(i) + ".pdf", false});
+    }
+    world.downloads.tell({listing, {}});
+}
+
+void receive(PanelWorld& world, const QByteArray& name, Seconds then) {
+    world.downloads.tell({{}, {{FolderChange::Kind::written, name}}});
+    world.scheduler.advance(then);
+}
+
+const auto note = u"Tuesday, site visit at Alder Lane\n"
+                  "– alcove 1184 × 2310, check the skirting behind the radiator\n"
+                  "– client prefers the warmer oak, send two samples by Friday\n"
+                  "– ask the electrician about moving the left socket\n"
+                  "\n"
+                  "Estimate: 6 sheets veneer + lacquer, two days on site.\n"
+                  "Call the framer about the mirror before noon."_s;
+
+/// Lets the program run until nothing is loading or moving any more.
+void settle(int milliseconds = 700) {
+    QElapsedTimer timer;
+    timer.start();
+    while (timer.elapsed() < milliseconds) {
+        QCoreApplication::processEvents();
+        QThread::msleep(2);
+    }
+}
+
+/// `path` are names, each below the one before.
+QPointF middle(QQuickWindow& window, const QString& path) {
+    const QQuickItem* item = window.contentItem();
+    for (const QString& name : path.split(u'/')) {
+        item = find(item, name);
+        if (item == nullptr) {
+            qFatal("there is no element \"%s\"", qPrintable(path));
+        }
+    }
+    return item->mapToScene(item->boundingRect().center());
+}
+
+void collect(const QQuickItem* item, const QString& path, QJsonObject& into) {
+    for (const QQuickItem* child : item->childItems()) {
+        QString childPath = path;
+        if (!child->objectName().isEmpty() && child->isVisible()) {
+            childPath = path.isEmpty() ? child->objectName() : path + u'/' + child->objectName();
+            const QRectF rect = child->mapRectToScene(child->boundingRect());
+            into[childPath] = QJsonArray{rect.x(), rect.y(), child->width(), child->height()};
+        }
+        collect(child, childPath, into);
+    }
+}
+
+void dragFilesOver(PanelWorld& world, QQuickWindow& window) {
+    world.drags.begin(true);
+    QMimeData files;
+    files.setUrls({QUrl(u"file:///home/someone/estimate.pdf"_s)});
+    QDragEnterEvent enter({600, 260}, Qt::CopyAction, &files, Qt::LeftButton, Qt::NoModifier);
+    QCoreApplication::sendEvent(&window, &enter);
+}
+
+/// The closed panel as a bar: with a timer, with reminders or with both, perhaps beside a notch.
+void playBar(const QString& scene, PanelWorld& world, PanelView& view) {
+    const bool notch = scene.contains(u"notch"_s);
+    world.screens.screens.front().visibleFrame.setTop(notch ? 32 : 28);
+    world.settings.setMacType(notch ? u"notch"_s : u"none"_s);
+    if (scene.contains(u"timer"_s)) {
+        constexpr double left = 24 * 60 + 12.5;
+        constexpr double length = left / 0.62;
+        world.store.startTimer(u"Estimates"_s, length / 60);
+        world.scheduler.advance(Seconds(length - left));
+    }
+    if (scene.contains(u"reminders"_s)) {
+        const QString last = notch ? u"Order the veneer"_s : u"Order veneer"_s;
+        world.store.setReminders({u"Call the framer"_s, u"Send estimate"_s, last});
+        world.store.setReminderOpen(true);
+    }
+    world.controller.positionCollapsed();
+    view.window().resize(world.controller.frame().size().toSize());
+    settle();
+}
+
+void notify(const QString& scene, Notices& notices, ManualScheduler& scheduler) {
+    if (scene.contains(u"aside"_s)) {
+        notices.putAside(scene.contains(u"preferences"_s) ? Notices::Source::preferences
+                                                          : Notices::Source::store,
+                         scene.contains(u"preferences"_s) ? u"/x/preferences.json.unreadable"_s
+                                                          : u"/x/store.json.unreadable"_s);
+        return;
+    }
+    notices.saveFailed(Notices::Source::store, u"the disk is full"_s);
+    scheduler.advance(minute * 2);
+    if (scene == u"notice-saved-again") {
+        notices.saved(Notices::Source::store);
+    }
+}
+
+void play(const QString& scene, PanelWorld& world, PanelView& view) {
+    QQuickWindow& window = view.window();
+    if (scene.startsWith(u"bar-"_s)) {
+        playBar(scene, world, view);
+        return;
+    }
+    if (scene == u"handle") {
+        settle();
+        return;
+    }
+    if (scene == u"running") {
+        world.store.startTimer(u"Estimates"_s, (24 * 60 + 12.5) / 60);
+    } else if (scene == u"narrow") {
+        world.settings.setPanelWidth(560);
+    }
+    if (scene.startsWith(u"small"_s)) {
+        world.store.setReminders({u"Call the framer"_s});
+        world.store.setReminderOpen(true);
+    }
+    world.controller.positionExpanded();
+    window.resize(world.controller.frame().size().toSize());
+    settle();
+    if (scene == u"small-scrolled"_s) {
+        find(window.contentItem(), u"list"_s)->setProperty("contentY", 54);
+        settle();
+    }
+    if (scene.startsWith(u"notice-"_s)) {
+        notify(scene, world.notices, world.scheduler);
+    } else if (scene == u"too-large") {
+        view.features().clips->showTooLarge({TooLargeCopy::Measure::bytesOfText, 14'885'000});
+    }
+    if (QQuickItem* grid = find(window.contentItem(), u"grid"_s)) {
+        grid->setFocus(false); // Or the first tile shows that it has the keyboard.
+    }
+    if (scene == u"full-black") {
+        world.settings.setFullBlack(true);
+    } else if (scene == u"hover") {
+        send(window, QEvent::MouseMove, {643, 417});
+    } else if (scene == u"question") {
+        click(window, middle(window, u"trash"_s));
+    } else if (scene == u"presets-key") {
+        find(window.contentItem(), u"presetMenu"_s)->forceActiveFocus();
+        press(window, Qt::Key_Return);
+        settle(300);
+        press(window, Qt::Key_Down);
+        press(window, Qt::Key_Down);
+    } else if (scene == u"presets" || scene == u"preset-editor") {
+        click(window, middle(window, u"presetMenu"_s));
+        settle(300);
+        send(window, QEvent::MouseMove, middle(window, u"presetChoices/item1"_s));
+        if (scene == u"preset-editor") {
+            click(window, middle(window, u"presetChoices/item6"_s));
+            settle(300);
+            click(window, middle(window, u"preset1"_s));
+        }
+    } else if (scene == u"minutes" || scene == u"custom-minutes") {
+        click(window, middle(window, u"minutesMenu"_s));
+        settle(300);
+        send(window, QEvent::MouseMove, middle(window, u"minuteChoices/item8"_s));
+        if (scene == u"custom-minutes") {
+            click(window, middle(window, u"minuteChoices/item8"_s));
+        }
+    } else if (scene == u"reminders" || scene == u"power") {
+        world.store.setReminders({u"Call the framer"_s, u"Send estimate"_s});
+        world.store.setReminderOpen(true);
+        settle(100);
+        click(window, middle(window, scene == u"power" ? scene : u"reminderToggle"_s));
+    } else if (scene == u"running" || scene == u"narrow") {
+        world.store.setReminders({u"Call the framer"_s, u"Send estimate"_s});
+        world.store.setReminderOpen(true);
+    } else if (scene == u"chip") {
+        send(window, QEvent::MouseMove, middle(window, u"chip1"_s));
+    } else if (scene == u"menu") {
+        click(window, middle(window, u"chip1"_s), Qt::RightButton);
+        send(window, QEvent::MouseMove, middle(window, u"item0"_s));
+    } else if (scene == u"editor") {
+        Snippet snippet = world.store.snippets()[6];
+        snippet.imageFileName = u"plan.png"_s;
+        world.store.updateSnippet(snippet);
+        view.features().snippets.editor()->edit(snippet.id);
+        settle(2500);
+        return;
+    } else if (scene == u"editor-new") {
+        click(window, middle(window, u"addSnippet"_s));
+        settle(2500);
+        return;
+    } else if (scene == u"toast") {
+        click(window, middle(window, u"card2"_s));
+        send(window, QEvent::MouseMove, {5, 300});
+    } else if (scene == u"undo") {
+        send(window, QEvent::MouseMove, middle(window, u"card2"_s));
+        settle(200);
+        click(window, middle(window, u"card2/delete"_s));
+        send(window, QEvent::MouseMove, {5, 300});
+    } else if (scene.startsWith(u"search"_s)) {
+        click(window, middle(window, u"searchInput"_s));
+        find(window.contentItem(), u"searchInput"_s)
+            ->setProperty("text", scene == u"search-nothing" ? u"larkspurr"_s : u"larkspur"_s);
+        if (scene == u"search-question") {
+            click(window, middle(window, u"trash"_s));
+        }
+    } else if (scene == u"shelf-drop") {
+        dragFilesOver(world, window);
+    } else if (scene == u"shelf-selected") {
+        view.features().shelf->parked()->toggle(1);
+        view.features().shelf->parked()->toggle(3);
+        receive(world, "IMG_4821.HEIC", Seconds(1));
+        world.devices.answer({{u"1"_s, u"Pixel"_s}});
+    } else if (scene == u"shelf-menu") {
+        click(window, middle(window, u"tile4"_s), Qt::RightButton);
+    } else if (scene == u"notes") {
+        click(window, middle(window, u"noteInput"_s));
+        find(window.contentItem(), u"noteInput"_s)
+            ->setProperty("cursorPosition", static_cast<int>(note.size()));
+        settle(200); // The caret has not blinked yet.
+        return;
+    }
+    settle();
+}
+
+/// The window that the scene is about, if it is not the panel.
+QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
+                         OnboardingController& onboarding) {
+    if (scene.startsWith(u"settings"_s)) {
+        settings.show();
+        settle();
+        if (scene != u"settings") { // "settings-hover", "settings-pressed"
+            const bool pressed = scene == u"settings-pressed";
+            send(*settings.window(), pressed ? QEvent::MouseButtonPress : QEvent::MouseMove,
+                 middle(*settings.window(), u"launchAtLogin"_s));
+            settle(200);
+        }
+        return settings.window();
+    }
+    if (!scene.startsWith(u"setup"_s)) {
+        return nullptr;
+    }
+    onboarding.show();
+    settle();
+    if (scene == u"setup-mac") {
+        click(*onboarding.window(), middle(*onboarding.window(), u"start"_s));
+        send(*onboarding.window(), QEvent::MouseMove, {5, 300});
+        settle();
+    }
+    return onboarding.window();
+}
+
+/// A package service that gets as far as the scene.
+class SceneUpdates : public PackageUpdates {
+public:
+    explicit SceneUpdates(QString scene) : scene_(std::move(scene)) {}
+
+    Handle check(std::function<void(Checked)> done) override {
+        if (scene_ == u"update-none") {
+            done(tl::unexpected(UpdateProblem{UpdateProblem::Kind::noService, {}}));
+        } else if (scene_ == u"update-newest") {
+            done(std::optional<AvailableUpdate>());
+        } else if (scene_ != u"update-checking") {
+            done(AvailableUpdate{u"0.3"_s, u"ravelo;0.3;amd64;ravelo"_s});
+        }
+        return {};
+    }
+
+    Handle install(const AvailableUpdate& /*update*/,
+                   std::function<void(std::optional<int>)> progress,
+                   std::function<void(Installed)> /*done*/) override {
+        progress(40);
+        return {};
+    }
+
+private:
+    QString scene_;
+};
+
+/// The part of a picture of the screen that lies behind the window. Painted in the window, because
+/// the offscreen platform has no transparent ones.
+class Behind : public QQuickPaintedItem {
+public:
+    Behind(QQuickWindow& window, const QString& file) : screen_(file) {
+        setParentItem(window.contentItem());
+        setZ(-1);
+        setSize({2000, 2000});
+        screen_.setDevicePixelRatio(window.devicePixelRatio());
+    }
+
+    void paint(QPainter* painter) override {
+        const QSizeF beside = (screen_.deviceIndependentSize() - window()->size()) / 2;
+        const bool inTheMiddle = qobject_cast<TitledWindow*>(window()) != nullptr;
+        painter->drawImage(
+            QPointF(-std::floor(beside.width()), inTheMiddle ? -std::floor(beside.height()) : 0),
+            screen_);
+    }
+
+private:
+    QImage screen_;
+};
+
+/// Milliseconds of this thread's own work: what else runs on the machine does not count.
+class Stopwatch {
+public:
+    [[nodiscard]] double elapsed() const { return now() - start_; }
+
+private:
+    [[nodiscard]] static double now() {
+        timespec time{};
+        clock_gettime(CLOCK_THREAD_CPUTIME_ID, &time);
+        return static_cast<double>(time.tv_sec) * 1e3 + static_cast<double>(time.tv_nsec) / 1e6;
+    }
+
+    double start_ = now();
+};
+
+void report(const char* what, std::vector<double> times) {
+    std::sort(times.begin(), times.end());
+    std::fprintf(stderr, "%-30s median %6.2f ms, p95 %6.2f ms\n", what, times[times.size() / 2],
+                 times[times.size() * 95 / 100]);
+}
+
+void timeOpenings(int count, PanelWorld& world, PanelView& view) {
+    std::vector<double> closings;
+    std::vector<double> builds;
+    std::vector<double> calls;
+    std::vector<double> frames;
+    for (int i = 0; i < count; ++i) {
+        const Stopwatch closing;
+        world.controller.positionCollapsed();
+        view.window().resize(200, 12);
+        closings.push_back(closing.elapsed());
+        settle(30);
+        const Stopwatch building;
+        world.scheduler.advance(Seconds(0.05));
+        builds.push_back(building.elapsed());
+        settle(60);
+        const Stopwatch opening;
+        world.controller.positionExpanded();
+        view.window().resize(world.controller.frame().size().toSize());
+        calls.push_back(opening.elapsed());
+        view.window().grabWindow();
+        frames.push_back(opening.elapsed());
+        settle(120);
+    }
+    report("closing", closings);
+    report("building the hidden content", builds);
+    report("opening", calls);
+    report("opening with its first frame", frames);
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    for (int i = 1; i + 1 < argc; ++i) {
+        if (QByteArrayView(argv[i]) == "--scale") {
+            qputenv("QT_SCALE_FACTOR", argv[i + 1]);
+        }
+    }
+    const QGuiApplication application(argc, argv);
+    QCommandLineParser options;
+    options.addOptions({{u"scene"_s, u"What to show."_s, u"name"_s, u"clipboard"_s},
+                        {u"scale"_s, u"Device pixels a logical one."_s, u"factor"_s, u"1"_s},
+                        {u"screen"_s, u"How large the screen is."_s, u"size"_s},
+                        {u"png"_s, u"Where to write the picture."_s, u"file"_s},
+                        {u"behind"_s, u"A picture of the screen below."_s, u"file"_s},
+                        {u"time"_s, u"How many openings to time."_s, u"count"_s}});
+    options.process(application);
+    const QString scene = options.value(u"scene"_s);
+
+    StoreData data;
+    data.note = note;
+    if (scene != u"empty") {
+        data.clips = sampleClips();
+    }
+    while (scene == u"settings" && data.clips.size() < 47) {
+        data.clips.append(clip(QString::number(data.clips.size()), day));
+    }
+    PanelWorld world(data);
+    const QString usual = scene.startsWith(u"small"_s) ? u"640x400"_s : u"1440x900"_s;
+    const QStringList size =
+        (options.isSet(u"screen"_s) ? options.value(u"screen"_s) : usual).split(u'x');
+    const QRectF screen(0, 0, size.value(0).toDouble(), size.value(1).toDouble());
+    world.screens.change({{u"one"_s, screen, screen.adjusted(0, 28, 0, 0), {}, {}}});
+    const bool shelf = scene.startsWith(u"shelf"_s);
+    // When the picture is taken: what was received for the shelf takes a day to arrive.
+    const double now = world.scheduler.now().sinceReference + (shelf ? day.count() : 0);
+    UsageWorld spent(world.scheduler, {UsageWindow{42, Date{now + 125.5 * 60}},
+                                       UsageWindow{78, Date{now + 76.5 * 3600}}});
+    room().save(world.store.imagePath(u"room.png"_s));
+    plan().save(world.store.imagePath(u"plan.png"_s));
+    world.settings.setLastTab(shelf ? u"Shelf"_s : scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
+    PanelView view;
+    view.load(services(world, spent.usage), QLocale(u"en_US"_s));
+    view.features().state.setBackdrop(Backdrop::Blurred);
+    if (shelf) {
+        receive(world, "lighting-quote.pdf", day - minute * 18);
+        receive(world, "floor-samples.pdf", minute * 18);
+    }
+    if (scene == u"shelf-many") {
+        parkMany(world);
+    } else if (shelf && scene != u"shelf-empty" && scene != u"shelf-drop") {
+        park(world);
+    }
+    view.window().resize(200, 12);
+    view.window().show();
+    view.window().requestActivate();
+    world.scheduler.advance(Seconds(0.05));
+    if (options.isSet(u"time"_s)) {
+        timeOpenings(options.value(u"time"_s).toInt(), world, view);
+        return 0;
+    }
+    world.settings.setLaunchAtLogin(true);
+    SettingsWindow settings({{view.window()}, world.store, world.settings, [] {
+                             }});
+    OnboardingController onboarding({view.window()}, world.settings, world.screens);
+    QQuickWindow* window = playTitled(scene, settings, onboarding);
+    if (window == nullptr) {
+        play(scene, world, view);
+        window = &view.window();
+    }
+    Updater updater(std::make_unique<SceneUpdates>(scene), u"0.2"_s);
+    UpdateWindow updates({view.window()}, updater);
+    if (scene.startsWith(u"update-"_s)) {
+        updates.show();
+        if (scene == u"update-installing") {
+            updater.install();
+        }
+        settle();
+        const QWindowList windows = QGuiApplication::topLevelWindows();
+        window = qobject_cast<QQuickWindow*>(
+            *std::ranges::find(windows, u"Ravelo Updates"_s, &QWindow::title));
+    }
+    std::optional<Behind> behind;
+    if (options.isSet(u"behind"_s)) {
+        behind.emplace(*window, options.value(u"behind"_s));
+    }
+
+    if (options.isSet(u"png"_s)) {
+        if (!window->grabWindow().save(options.value(u"png"_s))) {
+            qFatal("cannot write %s", qPrintable(options.value(u"png"_s)));
+        }
+    }
+    QJsonObject rectangles;
+    collect(window->contentItem(), {}, rectangles);
+    std::puts(QJsonDocument(rectangles).toJson().constData());
+    return 0;
+}
