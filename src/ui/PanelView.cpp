@@ -1,11 +1,12 @@
 #include "ui/PanelView.h"
 
 #include "notices/Notices.h"
+#include "panel/NotchController.h"
 #include "platform/ImageDecoder.h"
 #include "ui/Modules.h"
 #include "ui/images/FileThumb.h"
-#include "ui/theme/Fonts.h"
 #include "ui/images/ThumbnailProvider.h"
+#include "ui/theme/Fonts.h"
 
 #include <QDir>
 #include <QFile>

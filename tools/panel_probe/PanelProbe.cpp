@@ -323,7 +323,7 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         send(window, QEvent::MouseMove, middle(window, u"chip1"_s));
     } else if (scene == u"menu") {
         click(window, middle(window, u"chip1"_s), Qt::RightButton);
-        send(window, QEvent::MouseMove, middle(window, u"item0"_s));
+        send(window, QEvent::MouseMove, middle(window, u"snippetMenu/item0"_s));
     } else if (scene == u"editor") {
         Snippet snippet = world.store.snippets()[6];
         snippet.imageFileName = u"plan.png"_s;

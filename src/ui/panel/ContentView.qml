@@ -218,10 +218,12 @@ FocusScope {
 
     SnippetSheet {
         anchors.fill: parent
+        z: 2
         editor: content.snippets.editor
     }
 
     ToastCapsule {
+        z: 2
         anchors.horizontalCenter: parent.horizontalCenter
         y: parent.height - height - 26
         message: content.toast

@@ -98,7 +98,7 @@ TEST_F(PanelUndo, isReachedByThePointerAndLetsNothingThrough) {
     const QString title = world.store.snippets().first().title;
     press(Qt::Key_Tab);
     clickOn(u"chip0"_s, Qt::RightButton);
-    clickOn(u"item1"_s);
+    clickIn(u"snippetMenu"_s, u"item1"_s);
     clickIn(u"deleteQuestion"_s, u"yes"_s);
     EXPECT_EQ(toast(), u"Snippet deleted"_s);
     const QString copied = pasteboardText();

@@ -85,13 +85,13 @@ protected:
     FieldWindow() {
         QQmlComponent component(view.window().engine());
         component.setData("import Ravelo.Text\nEditLine { placeholder: \"Field\" }", QUrl());
-        field.reset(qobject_cast<QQuickItem*>(component.create()));
-        window.setContent({}, nullptr, field.get());
+        field = qobject_cast<QQuickItem*>(component.create());
+        window.setContent({}, nullptr, field);
         window.bringToFront();
         EXPECT_TRUE(eventually([this] { return window.isActive(); }));
     }
 
-    std::unique_ptr<QQuickItem> field;
+    QQuickItem* field = nullptr; ///< Owned by the window.
     TitledWindow window{{view.window()}, u"Test"_s, QSize(200, 100)};
 };
 
