@@ -87,8 +87,9 @@ public:
 
     QString text(const QString& name) { return item(name)->property("text").toString(); }
 
-    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) {
-        ravelo::press(view.window(), key, modifiers);
+    void press(int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
+               const QString& text = {}) {
+        ravelo::press(view.window(), key, modifiers, text);
     }
 
     static void press(QQuickWindow& window, int key,
