@@ -11,7 +11,7 @@ import Ravelo.Theme
 TabPage {
     id: tab
 
-    readonly property Clips clips: place.tab as Clips
+    readonly property Clips clips: feature as Clips
     readonly property real scrolled: head > 0 ? list.contentY - list.originY + list.topMargin : 0
     /// How far the snippets have gone behind the search.
     readonly property real chipsLifted: Math.max(0, Math.min(36, scrolled - head))

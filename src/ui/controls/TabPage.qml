@@ -4,6 +4,8 @@ import Ravelo.Controls
 /// The page of a tab. The base of each tab's own.
 FocusScope {
     required property TabPlace place
+    /// Not bound to the place, which may lose it before this page is gone.
+    required property Tab feature
 
     readonly property bool shown: place.shown
     readonly property bool dropTargeted: place.dropTargeted

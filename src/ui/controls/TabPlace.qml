@@ -18,7 +18,7 @@ Loader {
 
     function follow() {
         if (wanted) {
-            setSource(tab.page, { place: slot });
+            setSource(tab.page, { place: slot, feature: tab });
         } else {
             source = "";
         }

@@ -9,7 +9,7 @@ import Ravelo.Theme
 TabPage {
     id: tab
 
-    readonly property Notes notes: place.tab as Notes
+    readonly property Notes notes: feature as Notes
     readonly property real begin: head - Math.min(head, Math.max(0, scrolled.contentY + head))
 
     flick: scrolled

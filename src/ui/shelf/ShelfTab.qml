@@ -8,7 +8,7 @@ import Ravelo.Theme
 TabPage {
     id: tab
 
-    readonly property ShelfFiles shelfFiles: place.tab as ShelfFiles
+    readonly property ShelfFiles shelfFiles: feature as ShelfFiles
     /// Too low for two lists that scroll by themselves.
     readonly property bool whole: head > 0 || height < 300
 

@@ -19,9 +19,15 @@ protected:
         face_.setShown(true);
     }
 
-    PanelWorld world_;
-    ManualScheduler& scheduler_ = world_.scheduler;
-    Store& store_ = world_.store;
+    QTemporaryDir folder_;
+    ManualScheduler scheduler_;
+    ManualWorker worker_;
+    MemoryPreferences preferences_;
+    MemoryPasteboard pasteboard_{scheduler_};
+    FakeAlertSound sound_;
+    FakeDetachedJobs jobs_{scheduler_};
+    Store store_{folder_.path(),
+                 {scheduler_, worker_, preferences_, pasteboard_, sound_, jobs_, jobs_, {}}};
     TimerFace face_{store_, scheduler_};
     QStringList figures_;
 };
