@@ -103,7 +103,7 @@ FocusScope {
     function showCurrent() {
         revealing.stop();
         if (list.currentIndex <= 0) {
-            list.positionViewAtBeginning(); // With all that is above it.
+            list.showTop();
         } else {
             list.positionViewAtIndex(list.currentIndex, ListView.Contain);
         }
@@ -114,7 +114,7 @@ FocusScope {
         if (shown) {
             list.currentIndex = Math.min(rowOf(0), list.count - 1);
             revealing.stop();
-            list.positionViewAtBeginning();
+            list.showTop();
         }
     }
 
@@ -168,7 +168,7 @@ FocusScope {
             host: tab.host
             onReached: {
                 if (tab.chipsLifted > 0) {
-                    list.positionViewAtBeginning();
+                    list.showTop();
                 }
             }
         }
@@ -195,13 +195,19 @@ FocusScope {
         ListView {
             id: list
             objectName: "list"
+
+            // ListView's own way to the beginning leaves the margin out.
+            function showTop() {
+                contentY = originY - topMargin;
+            }
+
             Accessible.role: Accessible.List
             Accessible.name: "Clipboard history"
             anchors.fill: parent
             clip: true
             topMargin: tab.head > 0 ? tab.head + 36 : 0
-            onTopMarginChanged: positionViewAtBeginning()
-            Component.onCompleted: positionViewAtBeginning()
+            onTopMarginChanged: showTop()
+            Component.onCompleted: showTop()
             onContentHeightChanged: {
                 if (tab.head > 0 && !moving) {
                     returnToBounds();
