@@ -21,10 +21,10 @@
 #include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
 #include "platform/freedesktop/TrayStatusItem.h"
+#include "platform/system/CurlClient.h"
 #include "platform/system/DecoderProcess.h"
 #include "platform/system/DetachedThreads.h"
 #include "platform/system/HelperProgram.h"
-#include "platform/system/HttpsThread.h"
 #include "platform/system/InotifyChanges.h"
 #include "platform/system/NightShiftScript.h"
 #include "platform/system/PreferenceFile.h"
@@ -149,7 +149,7 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       nightShift_(std::make_unique<NightShiftScript>(environment)),
       shutDown_(std::make_unique<LoginShutDown>(systemBus())),
       secrets_(std::make_unique<SecretService>(sessionBus())),
-      https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
+      https_(std::make_unique<CurlClient>(QByteArray("Ravelo/" RAVELO_VERSION), environment)),
       children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
                                                renewalFolder(home()))),
       decoder_(

@@ -89,7 +89,7 @@ void UsageQuery::request(const Secret& token) {
     const HttpsRequest request{endpoint_.url,
                                {{"anthropic-beta", "oauth-2025-04-20"}},
                                Secret("Bearer " + token.bytes()),
-                               endpoint_.timeOut,
+                               endpoint_.timeout,
                                largestAnswer};
     step_ = services_.https.get(request, [this](const std::optional<HttpsAnswer>& answer) {
         step_.reset(); // With it the token goes.

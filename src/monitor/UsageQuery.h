@@ -33,7 +33,7 @@ public:
 
     struct Endpoint {
         QUrl url;
-        Seconds timeOut;
+        Seconds timeout;
     };
 
     /// `otherFolders` are looked in for credentials after the usual folder and the keyring.

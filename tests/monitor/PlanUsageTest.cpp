@@ -9,8 +9,8 @@
 #include "fakes/FakeUsageSources.h"
 #include "fakes/ManualScheduler.h"
 #include "monitor/ClaudeEnvironment.h"
+#include "platform/system/CurlClient.h"
 #include "platform/system/DetachedThreads.h"
-#include "platform/system/HttpsThread.h"
 #include "platform/system/SpawnedChild.h"
 #include "support/Eventually.h"
 
@@ -120,6 +120,19 @@ public:
         return environment;
     }
 
+    [[nodiscard]] CurlClient client(const QStringList& options = {},
+                                    const QProcessEnvironment& proxies = {}) const {
+        return {"Ravelo/test", proxies, QStringList{u"--cacert"_s, server.authority()} + options};
+    }
+
+    /// Whether a client of its own gets an answer.
+    [[nodiscard]] bool succeeds(HttpsClient& by, Seconds timeout = Seconds(15)) {
+        const PlanUsage one({scheduler, files, secrets, by, children},
+                            QFile::encodeName(home.path()), {server.url(u"localhost"_s), timeout});
+        settle(one);
+        return one.liveOK();
+    }
+
     /// One line each.
     [[nodiscard]] QByteArrayList runs() const {
         QByteArrayList lines =
@@ -134,7 +147,7 @@ public:
     FakeDetachedJobs files{scheduler};
     FakeSecretStore secrets;
     DetachedThreads threads;
-    HttpsThread https{threads, "Ravelo/test", server.trust()};
+    CurlClient https = client();
     SpawnedChild children{threads, renewalEnvironment(environment()),
                           QFile::encodeName(path(u"cache/renewal"_s))};
     std::unique_ptr<PlanUsage> usage;
@@ -218,12 +231,49 @@ TEST_F(PlanUsageTest, carriesTheTokenNowhereElse) {
     EXPECT_FALSE(usage->liveOK());
     EXPECT_EQ(server.requests().size(), 1) << "the certificate is for another host";
 
-    HttpsThread systemTrust(threads, "Ravelo/test");
-    const PlanUsage distrusting({scheduler, files, secrets, systemTrust, children},
-                                QFile::encodeName(home.path()),
-                                {server.url(u"localhost"_s), Seconds(15)});
-    settle(distrusting);
+    CurlClient systemTrust("Ravelo/test", {});
+    EXPECT_FALSE(succeeds(systemTrust));
     EXPECT_EQ(server.requests().size(), 1) << "nobody vouches for the certificate";
+}
+
+TEST_F(PlanUsageTest, asksThroughTheProxyOfTheEnvironment) {
+    Proxy proxy;
+    const std::pair<const char*, const char*> cases[] = {{"", "CONNECT"}, {"localhost", ""}};
+    for (const auto& [exception, connect] : cases) {
+        QProcessEnvironment environment;
+        environment.insert(u"https_proxy"_s, proxy.url());
+        environment.insert(u"no_proxy"_s, QString::fromLatin1(exception));
+        proxy.received.clear();
+        CurlClient proxied = client({}, environment);
+        EXPECT_TRUE(succeeds(proxied));
+        EXPECT_TRUE(proxy.received.startsWith(connect)) << proxy.received.toStdString();
+        EXPECT_EQ(proxy.received.isEmpty(), *connect == 0) << proxy.received.toStdString();
+        EXPECT_FALSE(proxy.received.contains("token-1"));
+    }
+}
+
+TEST_F(PlanUsageTest, asksAtTheNextAddressIfTheFirstDoesNotAnswer) {
+    const SilentAddress silent(server.port());
+    CurlClient both = client({u"--resolve"_s, u"localhost:%1:%2,127.0.0.1"_s.arg(server.port())
+                                                  .arg(QLatin1StringView(SilentAddress::address))});
+    EXPECT_TRUE(succeeds(both, Seconds(6)));
+}
+
+TEST_F(PlanUsageTest, leavesNothingOfTheTokenInTheArgumentsOrTheEnvironment) {
+    server.answer.clear();
+    usage = std::make_unique<PlanUsage>(
+        UsageQuery::Services{scheduler, files, secrets, https, children},
+        QFile::encodeName(home.path()),
+        UsageQuery::Endpoint{server.url(u"localhost"_s), Seconds(15)});
+    scheduler.advance(Seconds(0));
+    ASSERT_TRUE(eventually([&] { return !server.requests().isEmpty(); }));
+    const auto* const curl = https.findChild<QProcess*>();
+    ASSERT_TRUE(curl);
+    const QString process = u"/proc/%1/"_s.arg(curl->processId());
+    const QByteArray arguments = readFile(process + u"cmdline"_s).value_or(QByteArray());
+    EXPECT_TRUE(arguments.contains("/api/oauth/usage")) << "that is not the request";
+    EXPECT_FALSE(arguments.contains("token-1"));
+    EXPECT_EQ(readFile(process + u"environ"_s), QByteArray("LC_ALL=C.UTF-8\0", 15));
 }
 
 TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
