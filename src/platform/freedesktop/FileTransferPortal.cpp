@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr std::chrono::seconds timeout{5};     // It may have thousands of files to look at.
+constexpr std::chrono::seconds timeout{5};     // Enough for thousands of files.
 constexpr qint64 maxOutput = qint64(16) << 20; // Thousands of the longest paths.
 
 QList<QUrl> filesIn(const QByteArray& output) {
