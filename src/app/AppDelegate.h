@@ -74,7 +74,8 @@ public:
 
 private:
     [[nodiscard]] std::function<Result<void>()> mayWrite(); ///< To be asked before each save.
-    void provideMonitors();
+    [[nodiscard]] LiveContext& liveContext();
+    [[nodiscard]] PlanUsage& planUsage();
     void provideWindows();
     void wire();
     void wireNotices();
