@@ -323,10 +323,10 @@ void AppDelegate::wireSettings() {
         QObject::connect(settings_.get(), changed, notch_.get(), follow);
     }
     const auto look = [this] {
-        view_->host().setClaudeCodeInstalled(LiveContext::shared().installed());
+        view_->host().setClaudeCodeInstalled(liveContext().installed());
     };
     look();
-    QObject::connect(&LiveContext::shared(), &LiveContext::changed, notch_.get(), look);
+    QObject::connect(&liveContext(), &LiveContext::changed, notch_.get(), look);
 }
 
 /// What the panel says about saving, about files that could not be read and about copies that are
