@@ -100,10 +100,16 @@ FocusScope {
         }
     }
 
+    /// With all that is above the rows.
+    function showBeginning() {
+        list.positionViewAtBeginning();
+        list.contentY = list.originY - list.topMargin;
+    }
+
     function showCurrent() {
         revealing.stop();
         if (list.currentIndex <= 0) {
-            list.positionViewAtBeginning(); // With all that is above it.
+            showBeginning();
         } else {
             list.positionViewAtIndex(list.currentIndex, ListView.Contain);
         }
@@ -114,7 +120,7 @@ FocusScope {
         if (shown) {
             list.currentIndex = Math.min(rowOf(0), list.count - 1);
             revealing.stop();
-            list.positionViewAtBeginning();
+            showBeginning();
         }
     }
 
@@ -168,7 +174,7 @@ FocusScope {
             host: tab.host
             onReached: {
                 if (tab.chipsLifted > 0) {
-                    list.positionViewAtBeginning();
+                    tab.showBeginning();
                 }
             }
         }
@@ -199,8 +205,8 @@ FocusScope {
             anchors.fill: parent
             clip: true
             topMargin: tab.head > 0 ? tab.head + 36 : 0
-            onTopMarginChanged: positionViewAtBeginning()
-            Component.onCompleted: positionViewAtBeginning()
+            onTopMarginChanged: tab.showBeginning()
+            Component.onCompleted: tab.showBeginning()
             onContentHeightChanged: {
                 if (tab.head > 0 && !moving) {
                     returnToBounds();

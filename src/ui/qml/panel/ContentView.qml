@@ -138,7 +138,7 @@ FocusScope {
         y: content.rowEnd
         z: 1
         width: parent.width
-        height: tabs.y - y
+        height: picker.y - y
         clip: content.lifted > 0
 
         ContextStatusLine {
@@ -155,7 +155,7 @@ FocusScope {
     }
 
     TabPicker {
-        id: tabs
+        id: picker
         objectName: "tabs"
         x: Theme.insetSide
         y: content.rowEnd + content.gap + content.headHeight - content.lifted
@@ -170,7 +170,7 @@ FocusScope {
         id: notice
         objectName: "notice"
         x: Theme.insetSide
-        y: tabs.y + tabs.height + 8
+        y: picker.y + picker.height + 8
         z: 1
         width: parent.width - 2 * Theme.insetSide
         host: content.host
