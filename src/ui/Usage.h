@@ -41,7 +41,7 @@ public:
     double fraction = 0; ///< Of the bar that is filled, 0 to 1.
     UsageBand::Kind band = UsageBand::Low;
     bool resetPassed = false; ///< It has started anew since; the percents are old.
-    QString left;             ///< `reset` in short: only how much time is left.
+    QString left = {};        ///< `reset` in short: only how much time is left.
 
     [[nodiscard]] int bandNumber() const { return band; }
 

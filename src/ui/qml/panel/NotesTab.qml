@@ -9,11 +9,11 @@ FocusScope {
     /// Height of what is above the tabs and scrolls away with the note; 0 if it stays.
     required property real head
     readonly property Flickable flick: scrolled
-    readonly property real begin: head - Math.min(head, Math.max(0, scrolled.contentY + head))
+    readonly property real headInSight: head - Math.min(head, Math.max(0, scrolled.contentY + head))
 
     Label {
         objectName: "caption"
-        y: tab.begin + 8
+        y: tab.headInSight + 8
         text: "Quick note"
         color: Theme.caption
         style: Theme.body
@@ -21,7 +21,7 @@ FocusScope {
 
     Box {
         objectName: "editor"
-        y: tab.begin + 32
+        y: tab.headInSight + 32
         width: parent.width
         height: parent.height - y
         radius: Theme.radiusEditor
@@ -32,7 +32,7 @@ FocusScope {
         ScrolledEdit {
             id: scrolled
             x: 11
-            y: 11 - tab.begin // Stays where it is while the box grows over what is scrolled away.
+            y: 11 - tab.headInSight // Stays where it is while the box grows over what is scrolled away.
             width: parent.width - 22
             height: tab.height - 32 - 22
             head: tab.head
