@@ -20,9 +20,16 @@ Flickable {
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     topMargin: head
-    onHeadChanged: Qt.callLater(showCaret) // Once the height is changed, too.
+    onHeadChanged: later.restart()
     contentWidth: width
     contentHeight: Math.max(edit.implicitHeight, height - head)
+
+    // Once the height has changed, too.
+    Timer {
+        id: later
+        interval: 0
+        onTriggered: view.showCaret()
+    }
 
     Binding {
         target: view.edit
