@@ -9,24 +9,27 @@ Flickable {
     /// How far the text begins below the top until it is scrolled.
     property real head: 0
 
-    /// Brings the caret into sight.
-    function follow() {
+    function showCaret() {
         const caret = edit.cursorRectangle;
         const highest = caret.y + caret.height - height;
         const lowest = caret.y > 0 ? caret.y : -head; // The first line with all above it.
-        contentY = Math.max(-head, Math.min(Math.max(highest, Math.min(contentY, lowest)),
-                                            contentHeight - height));
+        const wanted = Math.max(highest, Math.min(contentY, lowest));
+        contentY = Math.max(-head, Math.min(wanted, contentHeight - height));
     }
 
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     topMargin: head
-    onHeadChanged: {
-        contentY = -head;
-        follow();
-    }
+    onHeadChanged: later.restart()
     contentWidth: width
     contentHeight: Math.max(edit.implicitHeight, height - head)
+
+    // Once the height has changed, too.
+    Timer {
+        id: later
+        interval: 0
+        onTriggered: view.showCaret()
+    }
 
     Binding {
         target: view.edit
@@ -37,7 +40,7 @@ Flickable {
     Connections {
         target: view.edit
         function onCursorRectangleChanged() {
-            view.follow();
+            view.showCaret();
         }
     }
 }

@@ -40,7 +40,7 @@ FocusScope {
         if (row === host.clips.tooLargeRow) {
             host.clips.dismissTooLarge();
         } else {
-            host.deleting.deleteClip(host.clips.idAt(row));
+            host.store.deleteClip(host.clips.idAt(row));
         }
     }
 
@@ -100,10 +100,16 @@ FocusScope {
         }
     }
 
+    /// With all that is above the rows.
+    function showBeginning() {
+        list.positionViewAtBeginning();
+        list.contentY = list.originY - list.topMargin;
+    }
+
     function showCurrent() {
         revealing.stop();
         if (list.currentIndex <= 0) {
-            list.showTop();
+            showBeginning();
         } else {
             list.positionViewAtIndex(list.currentIndex, ListView.Contain);
         }
@@ -114,7 +120,7 @@ FocusScope {
         if (shown) {
             list.currentIndex = Math.min(rowOf(0), list.count - 1);
             revealing.stop();
-            list.showTop();
+            showBeginning();
         }
     }
 
@@ -168,7 +174,7 @@ FocusScope {
             host: tab.host
             onReached: {
                 if (tab.chipsLifted > 0) {
-                    list.showTop();
+                    tab.showBeginning();
                 }
             }
         }
@@ -182,7 +188,6 @@ FocusScope {
         symbol: "doc.on.clipboard"
         title: "No clipboard history yet"
         subtitle: "Copy anything with ⌘C and it shows up here."
-        detail: tab.host.clips.search === "" ? "" : `Nothing has “${tab.host.clips.search}”`
     }
 
     FadingEnds {
@@ -195,19 +200,13 @@ FocusScope {
         ListView {
             id: list
             objectName: "list"
-
-            // ListView's own way to the beginning leaves the margin out.
-            function showTop() {
-                contentY = originY - topMargin;
-            }
-
             Accessible.role: Accessible.List
             Accessible.name: "Clipboard history"
             anchors.fill: parent
             clip: true
             topMargin: tab.head > 0 ? tab.head + 36 : 0
-            onTopMarginChanged: showTop()
-            Component.onCompleted: showTop()
+            onTopMarginChanged: tab.showBeginning()
+            Component.onCompleted: tab.showBeginning()
             onContentHeightChanged: {
                 if (tab.head > 0 && !moving) {
                     returnToBounds();
