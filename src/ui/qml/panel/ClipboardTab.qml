@@ -40,7 +40,7 @@ FocusScope {
         if (row === host.clips.tooLargeRow) {
             host.clips.dismissTooLarge();
         } else {
-            host.store.deleteClip(host.clips.idAt(row));
+            host.deleting.deleteClip(host.clips.idAt(row));
         }
     }
 
@@ -100,16 +100,10 @@ FocusScope {
         }
     }
 
-    /// With all that is above the rows.
-    function showBeginning() {
-        list.positionViewAtBeginning();
-        list.contentY = list.originY - list.topMargin;
-    }
-
     function showCurrent() {
         revealing.stop();
         if (list.currentIndex <= 0) {
-            showBeginning();
+            list.showTop();
         } else {
             list.positionViewAtIndex(list.currentIndex, ListView.Contain);
         }
@@ -120,7 +114,7 @@ FocusScope {
         if (shown) {
             list.currentIndex = Math.min(rowOf(0), list.count - 1);
             revealing.stop();
-            showBeginning();
+            list.showTop();
         }
     }
 
@@ -174,7 +168,7 @@ FocusScope {
             host: tab.host
             onReached: {
                 if (tab.chipsLifted > 0) {
-                    tab.showBeginning();
+                    list.showTop();
                 }
             }
         }
@@ -188,6 +182,7 @@ FocusScope {
         symbol: "doc.on.clipboard"
         title: "No clipboard history yet"
         subtitle: "Copy anything with ⌘C and it shows up here."
+        detail: tab.host.clips.search === "" ? "" : `Nothing has “${tab.host.clips.search}”`
     }
 
     FadingEnds {
@@ -200,13 +195,20 @@ FocusScope {
         ListView {
             id: list
             objectName: "list"
+
+            // ListView's own way to the beginning leaves the margin out.
+            function showTop() {
+                positionViewAtBeginning();
+                contentY = originY - topMargin;
+            }
+
             Accessible.role: Accessible.List
             Accessible.name: "Clipboard history"
             anchors.fill: parent
             clip: true
             topMargin: tab.head > 0 ? tab.head + 36 : 0
-            onTopMarginChanged: tab.showBeginning()
-            Component.onCompleted: tab.showBeginning()
+            onTopMarginChanged: showTop()
+            Component.onCompleted: showTop()
             onContentHeightChanged: {
                 if (tab.head > 0 && !moving) {
                     returnToBounds();
