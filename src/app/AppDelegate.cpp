@@ -160,7 +160,7 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       nightShift_(std::make_unique<NightShiftScript>(environment)),
       shutDown_(std::make_unique<LoginShutDown>(systemBus())),
       secrets_(std::make_unique<SecretService>(sessionBus())),
-      https_(std::make_unique<CurlClient>(QByteArray("Ravelo/" RAVELO_VERSION), environment)),
+      https_(std::make_unique<CurlClient>((u"Ravelo/" RAVELO_VERSION ""_s).toUtf8(), environment)),
       children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
                                                renewalFolder(home()))),
       decoder_(

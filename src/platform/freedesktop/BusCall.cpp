@@ -15,8 +15,8 @@ Handle callBus(const QDBusConnection& bus, QDBusMessage call, std::chrono::milli
     const auto end = std::make_shared<decltype(done)>(std::move(done));
     const auto finish = [watcher, end] {
         watcher->deleteLater();
-        if (const auto call = std::exchange(*end, nullptr)) {
-            call(watcher->reply());
+        if (const auto report = std::exchange(*end, nullptr)) {
+            report(watcher->reply());
         }
     };
     if (watcher->isFinished()) { // On a dead bus, where it never emits `finished`.
