@@ -54,8 +54,8 @@ Box {
     Tooltip {
         target: block
         hovered: area.containsMouse
-        text: ["Plan usage — updates while Claude Code is active",
-               block.compact ? block.whole : "", session.staleText,
-               week.staleText].filter(line => line !== "").join("\n")
+        text: Array.of("Plan usage — updates while Claude Code is active",
+                       block.compact ? block.whole : "", session.staleText, week.staleText)
+            .filter(line => line !== "").join("\n")
     }
 }
