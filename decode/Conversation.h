@@ -13,10 +13,10 @@ struct Order {
     QByteArray bytes; ///< Of the picture; empty if they could not be read or are too many.
 };
 
-/// Waits for the next one; nothing once the other side has gone or after `idleSeconds`.
+/// Waits for the next request; nothing if the other side has closed or after `idleSeconds`.
 [[nodiscard]] std::optional<Order> nextOrder();
 
-/// `contents` goes along in a sealed memfd. False if the other side has gone.
+/// `contents` is sent in a sealed memfd. False if the other side has closed.
 bool send(Reply reply, QByteArrayView contents);
 
 } // namespace ravelo::decode

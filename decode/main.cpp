@@ -1,5 +1,5 @@
-// Reads untrusted pictures and returns their pixels, and can do nothing else. Started
-// by Ravelo when there is a picture to read; ends by itself.
+// Reads untrusted pictures and returns their pixels, and cannot do anything else. Ravelo starts it
+// when there is a picture to read; it ends by itself.
 
 #include "decode/Conversation.h"
 #include "decode/LockDown.h"
@@ -29,22 +29,22 @@ bool isCalledByRavelo() {
            type == SOCK_SEQPACKET;
 }
 
-/// Nothing is open but the socket, and no terminal's end reaches this process.
+/// Closes everything but the socket and leaves the terminal.
 void detach() {
     setsid();
     closefrom(socketNumber + 1);
-    const timeval patience{idleSeconds, 0};
-    setsockopt(socketNumber, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof(patience));
+    const timeval timeout{idleSeconds, 0};
+    setsockopt(socketNumber, SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof(timeout));
 }
 
-/// Another thread's arena would look into /proc when it shrinks, and Qt's messages for a terminal.
+/// Other arenas of malloc read /proc when they shrink, and Qt's messages check for a terminal.
 void avoidFiles() {
     mallopt(M_ARENA_MAX, 1);
     setenv("QT_NO_GLIB", "1", 1);
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
 }
 
-/// Kills this process once the time is over; 0 is no limit.
+/// Kills this process after the time; 0 is no limit.
 void limitTime(uint32_t milliseconds) {
     const auto start = [](__itimer_which timer, uint32_t span) {
         const itimerval once{
@@ -60,7 +60,7 @@ bool hasWorkedLong() {
     return double(std::clock()) / CLOCKS_PER_SEC > busyLife;
 }
 
-/// Whether to go on.
+/// Whether to continue.
 bool carryOut(const Order& order) {
     limitTime(order.request.milliseconds);
     const Picture picture = decodePicture(order.request, order.bytes);
@@ -85,7 +85,7 @@ int main() {
     detach();
     avoidFiles();
     loadFormats();
-    std::thread([] {}).join(); // The first one sets up signals for all others.
+    std::thread([] {}).join(); // The first thread sets up signal handling.
     if (!lockDown()) {
         _exit(EXIT_FAILURE);
     }

@@ -14,9 +14,11 @@ bool resetHasPassed(const std::optional<UsageWindow>& window, Date now) {
 }
 
 QString percentText(const std::optional<UsageWindow>& window) {
-    constexpr double largest = 1e15; // What a whole number can hold.
-    return window ? QString::number(std::llround(std::clamp(window->pct, -largest, largest))) + u'%'
-                  : u"\u2014"_s;
+    constexpr double maxPercent = 1e15; // Fits into 64 bits.
+    return window
+               ? QString::number(std::llround(std::clamp(window->pct, -maxPercent, maxPercent))) +
+                     u'%'
+               : u"\u2014"_s;
 }
 
 QString timeLeftText(const std::optional<UsageWindow>& window, Date now) {

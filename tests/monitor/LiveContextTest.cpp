@@ -214,10 +214,10 @@ TEST_F(ContextTest, looksAtTheEndOfALongTranscript) {
     writeFile(path(u"a/x.jsonl"_s), turn(6) + '\n' + QByteArray(5 * limit, 'x') + '\n');
     EXPECT_EQ(usedAfterATick(), 6) << "a line of five megabytes follows";
     const QByteArray wide = foreign + turn(5) + '\n';
-    const qsizetype rest = widestTranscriptWindow + 1 - wide.size();
+    const qsizetype rest = maxTranscriptWindow + 1 - wide.size();
     writeFile(path(u"a/x.jsonl"_s), "\xff" + wide + QByteArray(rest, '\n'));
     EXPECT_EQ(usedAfterATick(), 5) << "the wide window begins within a character";
-    writeFile(path(u"a/x.jsonl"_s), turn(4) + QByteArray(widestTranscriptWindow, '\n'));
+    writeFile(path(u"a/x.jsonl"_s), turn(4) + QByteArray(maxTranscriptWindow, '\n'));
     EXPECT_EQ(usedAfterATick(), 5) << "further back nothing is read";
     EXPECT_EQ(context_->limit(), 1000000);
 }

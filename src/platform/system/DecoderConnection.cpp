@@ -29,7 +29,7 @@ union Ancillary {
     std::array<char, CMSG_SPACE(sizeof(int))> room;
 };
 
-/// With no environment, no other descriptor and no signal held back. 0 if it could not be started.
+/// Without environment, other descriptors or blocked signals. 0 if it could not be started.
 pid_t spawn(const QByteArray& program, int socket) {
     posix_spawn_file_actions_t files;
     posix_spawn_file_actions_init(&files);
@@ -68,7 +68,7 @@ Descriptor descriptorIn(msghdr& message) {
     return Descriptor(file);
 }
 
-/// Nothing if there are not just as many, or somebody may still change them.
+/// Nothing if the size differs or the memory is not sealed.
 std::optional<QByteArray> contents(const Descriptor& memory, int64_t size) {
     struct stat info = {};
     if (size <= 0 || size > maxOutput || !memory || fstat(memory.number(), &info) != 0 ||
@@ -76,12 +76,12 @@ std::optional<QByteArray> contents(const Descriptor& memory, int64_t size) {
         return std::nullopt;
     }
     QByteArray bytes(size, Qt::Uninitialized);
-    const ssize_t taken = pread(memory.number(), bytes.data(), static_cast<size_t>(size), 0);
-    return taken == size ? std::optional(bytes) : std::nullopt;
+    const ssize_t count = pread(memory.number(), bytes.data(), static_cast<size_t>(size), 0);
+    return count == size ? std::optional(bytes) : std::nullopt;
 }
 
-bool waitFor(const Descriptor& socket, std::chrono::milliseconds patience) {
-    const auto end = std::chrono::steady_clock::now() + patience;
+bool waitFor(const Descriptor& socket, std::chrono::milliseconds timeout) {
+    const auto end = std::chrono::steady_clock::now() + timeout;
     pollfd event{socket.number(), POLLIN, 0};
     for (;;) {
         const auto left =
@@ -106,8 +106,8 @@ std::optional<DecoderConnection> DecoderConnection::start(const QByteArray& prog
     if (child == 0) {
         return std::nullopt;
     }
-    // It ends by itself, at any time; to fork once more, so that it is nobody's child, would take
-    // it longer than to read most pictures.
+    // It ends by itself at any time, so something must reap it: forking twice would take longer
+    // than reading most pictures.
     std::thread([child] {
         while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
         }
@@ -141,7 +141,7 @@ bool DecoderConnection::isReady() {
 }
 
 std::optional<DecoderConnection::Answer>
-DecoderConnection::receive(std::chrono::milliseconds patience) {
+DecoderConnection::receive(std::chrono::milliseconds timeout) {
     Answer answer{};
     Ancillary ancillary{};
     iovec packet{&answer.reply, sizeof(answer.reply)};
@@ -150,7 +150,7 @@ DecoderConnection::receive(std::chrono::milliseconds patience) {
     message.msg_iovlen = 1;
     message.msg_control = ancillary.room.data();
     message.msg_controllen = ancillary.room.size();
-    if (!waitFor(socket_, patience)) {
+    if (!waitFor(socket_, timeout)) {
         return std::nullopt;
     }
     const ssize_t size = recvmsg(socket_.number(), &message, MSG_CMSG_CLOEXEC | MSG_DONTWAIT);

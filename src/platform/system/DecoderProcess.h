@@ -13,9 +13,9 @@
 
 namespace ravelo {
 
-/// By ravelo-decode, started when there is something to read. Each request in parallel has a
-/// process of its own, and each process serves many. A picture that kills it, or that it works on
-/// for too long, is not tried again until its file changes; small pictures of files are kept.
+/// Uses ravelo-decode, started on demand. Parallel requests use separate processes, and each
+/// process serves many requests. A picture that kills it or takes too long is not tried again until
+/// its file changes; small pictures of files are cached.
 class DecoderProcess final : public ImageDecoder {
 public:
     explicit DecoderProcess(QByteArray program) : program_(std::move(program)) {}
@@ -51,10 +51,10 @@ private:
     void giveUp(const QByteArray& identity);
 
     const QByteArray program_;
-    std::mutex mutex_;       ///< Over what follows; not held while anything is waited for.
-    std::vector<Idle> idle_; ///< The longest idle first.
-    QSet<QByteArray> bad_;   ///< Pictures that are not tried again.
-    QCache<QByteArray, Kept> kept_{1 << 20}; ///< In bytes, by picture and request.
+    std::mutex mutex_;                       ///< Guards what follows; not held while waiting.
+    std::vector<Idle> idle_;                 ///< Longest idle first.
+    QSet<QByteArray> bad_;                   ///< Not to be tried again.
+    QCache<QByteArray, Kept> kept_{1 << 20}; ///< By picture and request; the limit is in bytes.
 };
 
 } // namespace ravelo

@@ -93,7 +93,7 @@ TabPage {
     function showCurrent() {
         revealing.stop();
         if (list.currentIndex <= 0) {
-            list.positionViewAtBeginning(); // With all that is above it.
+            list.showTop();
         } else {
             list.positionViewAtIndex(list.currentIndex, ListView.Contain);
         }
@@ -104,7 +104,7 @@ TabPage {
         if (shown) {
             list.currentIndex = Math.min(rowOf(0), list.count - 1);
             revealing.stop();
-            list.positionViewAtBeginning();
+            list.showTop();
         }
     }
 
@@ -163,7 +163,7 @@ TabPage {
             snippets: tab.clips.snippets
             onReached: {
                 if (tab.chipsLifted > 0) {
-                    list.positionViewAtBeginning();
+                    list.showTop();
                 }
             }
         }
@@ -190,13 +190,20 @@ TabPage {
         ListView {
             id: list
             objectName: "list"
+
+            // ListView's own way to the beginning leaves the margin out.
+            function showTop() {
+                positionViewAtBeginning();
+                contentY = originY - topMargin;
+            }
+
             Accessible.role: Accessible.List
             Accessible.name: qsTr("Clipboard history")
             anchors.fill: parent
             clip: true
             topMargin: tab.head > 0 ? tab.head + 36 : 0
-            onTopMarginChanged: positionViewAtBeginning()
-            Component.onCompleted: positionViewAtBeginning()
+            onTopMarginChanged: showTop()
+            Component.onCompleted: showTop()
             onContentHeightChanged: {
                 if (tab.head > 0 && !moving) {
                     returnToBounds();

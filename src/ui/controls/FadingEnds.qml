@@ -5,6 +5,8 @@ import Ravelo.Paint
 FadingEdge {
     default property alias content: upper.data
     property alias topLength: upper.length
+    /// The parent of what is in it.
+    readonly property Item inside: upper
 
     FadingEdge {
         id: upper

@@ -10,13 +10,13 @@ TabPage {
     id: tab
 
     readonly property Notes notes: feature as Notes
-    readonly property real begin: head - Math.min(head, Math.max(0, scrolled.contentY + head))
+    readonly property real headInSight: head - Math.min(head, Math.max(0, scrolled.contentY + head))
 
     flick: scrolled
 
     Label {
         objectName: "caption"
-        y: tab.begin + 8
+        y: tab.headInSight + 8
         text: qsTr("Quick note")
         color: Theme.caption
         style: Theme.body
@@ -24,7 +24,7 @@ TabPage {
 
     Box {
         objectName: "editor"
-        y: tab.begin + 32
+        y: tab.headInSight + 32
         width: parent.width
         height: parent.height - y
         radius: Theme.radiusEditor
@@ -35,7 +35,7 @@ TabPage {
         ScrolledEdit {
             id: scrolled
             x: 11
-            y: 11 - tab.begin // Stays where it is while the box grows over what is scrolled away.
+            y: 11 - tab.headInSight // Stays where it is while the box grows over what is scrolled away.
             width: parent.width - 22
             height: tab.height - 32 - 22
             head: tab.head

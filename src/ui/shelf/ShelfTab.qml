@@ -28,8 +28,16 @@ TabPage {
         onTriggered: tab.shelfFiles.parked.lookForMissing()
     }
 
+    FadingEnds {
+        id: ends
+        anchors.fill: parent
+        length: tab.whole ? Math.min(26, Math.max(0, page.contentHeight - page.contentY - page.height)) : 0
+        topLength: tab.whole ? Math.min(18, Math.max(0, page.contentY)) : 0
+    }
+
     Flickable {
         id: page
+        parent: ends.inside
 
         function show(top: real, bottom: real) {
             const wanted = Math.max(bottom + 26 - height, Math.min(contentY, top > 0 ? top : -topMargin));

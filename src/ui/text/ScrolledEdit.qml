@@ -9,12 +9,27 @@ Flickable {
     /// How far the text begins below the top until it is scrolled.
     property real head: 0
 
+    function showCaret() {
+        const caret = edit.cursorRectangle;
+        const highest = caret.y + caret.height - height;
+        const lowest = caret.y > 0 ? caret.y : -head; // The first line with all above it.
+        const wanted = Math.max(highest, Math.min(contentY, lowest));
+        contentY = Math.max(-head, Math.min(wanted, contentHeight - height));
+    }
+
     clip: true
     boundsBehavior: Flickable.StopAtBounds
     topMargin: head
-    onHeadChanged: contentY = -head
+    onHeadChanged: later.restart()
     contentWidth: width
     contentHeight: Math.max(edit.implicitHeight, height - head)
+
+    // Once the height has changed, too.
+    Timer {
+        id: later
+        interval: 0
+        onTriggered: view.showCaret()
+    }
 
     Binding {
         target: view.edit
@@ -25,11 +40,7 @@ Flickable {
     Connections {
         target: view.edit
         function onCursorRectangleChanged() {
-            const caret = view.edit.cursorRectangle;
-            const highest = caret.y + caret.height - view.height;
-            const lowest = caret.y > 0 ? caret.y : -view.head; // The first line with all above it.
-            const wanted = Math.max(highest, Math.min(view.contentY, lowest));
-            view.contentY = Math.max(-view.head, Math.min(wanted, view.contentHeight - view.height));
+            view.showCaret();
         }
     }
 }

@@ -15,8 +15,7 @@ Box {
     readonly property real resetWidth: Math.max(session.wantedResetWidth, week.wantedResetWidth)
 
     readonly property real half: (width - 28 - 24) / 2
-    readonly property string whole: [session, week].map(
-        row => `${row.title}: ${row.usage.percent} ${row.usage.reset}`).join("\n")
+    readonly property string whole: session.Accessible.name + "\n" + week.Accessible.name
 
     implicitHeight: compact ? 44 : 80
     radius: Theme.radiusRow
@@ -58,8 +57,8 @@ Box {
     Tooltip {
         target: block
         hovered: area.containsMouse
-        text: [qsTr("Plan usage — updates while Claude Code is active"),
-               block.compact ? block.whole : "", session.staleText,
-               week.staleText].filter(line => line !== "").join("\n")
+        text: Array.of(qsTr("Plan usage — updates while Claude Code is active"),
+                       block.compact ? block.whole : "", session.staleText, week.staleText)
+            .filter(line => line !== "").join("\n")
     }
 }

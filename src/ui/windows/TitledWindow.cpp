@@ -56,7 +56,7 @@ void TitledWindow::load(const QString& page, QObject* host) {
 
 void TitledWindow::fit() {
     constexpr int margin = 20;
-    const QSize available = panel_.screen()->availableGeometry().size();
+    const QSize available = free().size();
     const QSize screen = panel_.screen()->size() - QSize(margin, margin);
     const QSize frame = wanted_.boundedTo(screen).boundedTo(available);
     const bool shadowed = frame_ && frame_->isTranslucent();
@@ -77,11 +77,20 @@ void TitledWindow::fit() {
     }
 }
 
+/// What neither the desktop's bars nor the closed panel cover.
+QRect TitledWindow::free() const {
+    constexpr int highestBar = 100; // An open panel will have closed.
+    QRect room = panel_.screen()->availableGeometry();
+    if (panel_.isVisible() && panel_.height() <= highestBar) {
+        room.setTop(std::max(room.top(), panel_.y() + panel_.height()));
+    }
+    return room;
+}
+
 void TitledWindow::place() {
     QRectF frame = inside_;
-    const QRectF room = panel_.screen()->availableGeometry();
-    frame.moveCenter(room.center());
-    frame.moveTop(std::max(frame.top(), room.top())); // With its title, where it is too high.
+    frame.moveCenter(QRectF(panel_.screen()->availableGeometry()).center());
+    frame.moveTop(std::max(frame.top(), qreal(free().top()))); // With its title, in little room.
     setPosition((frame.topLeft() - inside_.topLeft()).toPoint());
 }
 

@@ -36,6 +36,7 @@ Q_SIGNALS:
 private:
     void fit();
     void place();
+    [[nodiscard]] QRect free() const;
 
     QQuickView& panel_;
     QSize wanted_;

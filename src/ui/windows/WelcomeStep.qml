@@ -19,18 +19,23 @@ FocusScope {
         height: start.y - y - 8
         contentHeight: line.y + line.height
 
+        /// In a low window the picture is smaller, so that the words are seen.
+        readonly property real part: Math.max(0.5, Math.min(1, (height - 122) / 222))
+
         WelcomePicture {
             objectName: "picture"
             x: 100
             y: 24
             width: 320
             height: 186
+            scale: scrolled.part
+            transformOrigin: Item.Top
         }
 
         Label {
             objectName: "heading"
             x: (scrolled.width - width) / 2
-            y: 246
+            y: 24 + 222 * scrolled.part
             text: qsTr("Welcome to Ravelo")
             style: Theme.welcome
             color: Theme.text1
@@ -40,7 +45,7 @@ FocusScope {
             id: line
             objectName: "line"
             x: 90
-            y: 288
+            y: 66 + 222 * scrolled.part
             width: 340
             horizontalAlignment: Text.AlignHCenter
             text: qsTr("Clipboard, shelf, snippets and a focus timer — one hover away at the top of your screen.")
