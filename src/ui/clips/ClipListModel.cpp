@@ -88,9 +88,13 @@ void ClipListModel::setSearch(const QString& search) {
 }
 
 void ClipListModel::setTooLarge(const TooLargeCopy& copy) {
-    tooLarge_ = {
-        copy,
-        {QUuid::createUuid(), tr("Too large to keep"), ClipKind::text, scheduler_.now(), false, {}}};
+    tooLarge_ = {copy,
+                 {QUuid::createUuid(),
+                  tr("Too large to keep"),
+                  ClipKind::text,
+                  scheduler_.now(),
+                  false,
+                  {}}};
     update();
 }
 

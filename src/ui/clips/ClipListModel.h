@@ -2,11 +2,11 @@
 
 #include "base/Scheduler.h"
 #include "store/Records.h"
+#include "ui/clips/TooLarge.h"
 #include "ui/lists/KeyedListModel.h"
 #include "ui/lists/RelativeDate.h"
 #include "ui/lists/RowAges.h"
 #include "ui/lists/TextSearch.h"
-#include "ui/clips/TooLarge.h"
 
 #include <QQmlEngine>
 

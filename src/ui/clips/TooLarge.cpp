@@ -58,7 +58,8 @@ QString tooLargeDetail(const TooLargeCopy& copy, const QLocale& locale) {
     const bool text = copy.measure == Measure::bytesOfText;
     const QString much = amount(copy, locale);
     if (!isKnown(copy)) {
-        return text ? TooLargeText::tr("Text of %1").arg(much) : TooLargeText::tr("Image of %1").arg(much);
+        return text ? TooLargeText::tr("Text of %1").arg(much)
+                    : TooLargeText::tr("Image of %1").arg(much);
     }
     return (text ? TooLargeText::tr("Text of %1, the limit is %2")
                  : TooLargeText::tr("Image of %1, the limit is %2"))

@@ -26,8 +26,8 @@ Loader {
 
     property bool complete: false
 
-    visible: current
-    focus: current
+    visible: current && status === Loader.Ready
+    focus: visible // Not before the page is complete: it acts on the keyboard.
     onWantedChanged: {
         if (complete) {
             follow();

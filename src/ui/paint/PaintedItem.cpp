@@ -19,8 +19,8 @@ public:
 
     void render(const RenderState* state) override {
         QQuickWindow* window = item_.window();
-        auto* resource = window->rendererInterface()->getResource(
-            window, QSGRendererInterface::PainterResource);
+        auto* resource =
+            window->rendererInterface()->getResource(window, QSGRendererInterface::PainterResource);
         auto* painter = static_cast<QPainter*>(resource);
         // An empty region means "nothing to paint" here, not "no clip".
         if (painter == nullptr || state->clipRegion()->isEmpty()) {

@@ -25,8 +25,8 @@ public:
     virtual bool act() = 0;
 };
 
-/// What the text fields of all windows of an engine need beyond themselves. It pastes: a field's own
-/// paste would read the clipboard on the main thread and hang for as long as its owner does not
+/// What the text fields of all windows of an engine need beyond themselves. It pastes: a field's
+/// own paste would read the clipboard on the main thread and hang for as long as its owner does not
 /// answer; this one asks and goes on. Others learn here when a window wants the keyboard, or has
 /// lost track of it. Main thread.
 class Typing : public QObject {

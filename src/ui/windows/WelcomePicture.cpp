@@ -90,7 +90,8 @@ void paintPointer(QPainter& painter) {
 void WelcomePicture::paint(QPainter& painter) {
     paintDesktop(painter);
     paintPanel(painter);
-    painter.strokePath(rounded({0.5, 0.5, fullWidth - 1, fullHeight - 1}, 13.5), QPen(white(0.10), 1));
+    painter.strokePath(rounded({0.5, 0.5, fullWidth - 1, fullHeight - 1}, 13.5),
+                       QPen(white(0.10), 1));
     paintPointer(painter);
 }
 
