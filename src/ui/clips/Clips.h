@@ -12,7 +12,7 @@ class Deleting;
 class NotchController;
 
 /// The tab with the clipboard history and the snippets. Main thread.
-class Clips : public Tab {
+class Clips : public ravelo::Tab {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")

@@ -6,7 +6,8 @@
 
 namespace ravelo {
 
-/// One of several tabs: what the row of tabs shows of it, and the page below. Main thread.
+/// One of several tabs: what the row of tabs shows of it, and the page below. Those derived from
+/// it name it in full, or qmllint would not find it. Main thread.
 class Tab : public QObject {
     Q_OBJECT
     QML_ELEMENT

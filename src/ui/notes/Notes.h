@@ -7,7 +7,7 @@ namespace ravelo {
 class Store;
 
 /// The tab with the quick note. Main thread.
-class Notes : public Tab {
+class Notes : public ravelo::Tab {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")

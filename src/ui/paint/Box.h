@@ -7,7 +7,7 @@
 namespace ravelo {
 
 /// A rounded rectangle: filled, or filled from left to right, and outlined within its bounds.
-class Box : public PaintedItem {
+class Box : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)

@@ -13,7 +13,7 @@ namespace ravelo {
 /// The software scene graph has no mask. So what lies behind is kept before the children are
 /// painted, and blended back over them afterwards, the more the nearer to the edge. No child may be
 /// an opaque rectangle: what it covers is never painted and so cannot be kept.
-class FadingEdge : public PaintedItem {
+class FadingEdge : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Edge edge MEMBER edge_ NOTIFY changed)

@@ -8,7 +8,7 @@
 namespace ravelo {
 
 /// The outline that hangs from the top edge of the screen, filled with one colour.
-class NotchFill : public PaintedItem {
+class NotchFill : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)

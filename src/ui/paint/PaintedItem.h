@@ -8,7 +8,7 @@ namespace ravelo {
 
 /// An item that paints straight into the window, antialiased and at any fraction of a pixel, which
 /// the software scene graph's own rectangles cannot. Only for that scene graph: it renders on the
-/// main thread.
+/// main thread. Those derived from it name it in full, or qmllint would not find it.
 class PaintedItem : public QQuickItem {
     Q_OBJECT
     QML_ANONYMOUS

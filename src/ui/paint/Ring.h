@@ -7,7 +7,7 @@
 namespace ravelo {
 
 /// A ring within the item's bounds, of which a part, clockwise from the top, stands out.
-class Ring : public PaintedItem {
+class Ring : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(double fraction MEMBER fraction_ NOTIFY changed) ///< 0 to 1.

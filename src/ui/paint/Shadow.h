@@ -8,7 +8,7 @@
 namespace ravelo {
 
 /// The soft shadow of a rounded rectangle of this item's size. Painted around it, never under it.
-class Shadow : public PaintedItem {
+class Shadow : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)

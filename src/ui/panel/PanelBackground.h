@@ -35,7 +35,7 @@ struct PanelMaterial {
 [[nodiscard]] QImage panelImage(QSizeF size, double scale, const PanelMaterial& material);
 
 /// Shows it.
-class PanelBackground : public PaintedItem {
+class PanelBackground : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(ravelo::Backdrop::Kind backdrop MEMBER backdrop_ NOTIFY changed)

@@ -14,7 +14,7 @@ class NotchController;
 class Toast;
 
 /// The tab with the parked and the received files. Main thread.
-class ShelfFiles : public Tab {
+class ShelfFiles : public ravelo::Tab {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")

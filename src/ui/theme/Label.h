@@ -16,7 +16,7 @@ struct GlyphLine;
 ///
 /// Stands in for Text, which knows neither lines of a fixed height nor digits of one width, and
 /// costs more.
-class Label : public PaintedItem {
+class Label : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QString text MEMBER text_ NOTIFY contentChanged)
