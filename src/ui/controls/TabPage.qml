@@ -4,8 +4,9 @@ import Ravelo.Controls
 /// The page of a tab. The base of each tab's own.
 FocusScope {
     required property TabPlace place
-    /// Not bound to the place, which may lose it before this page is gone.
-    required property Tab feature
+    /// Its Tab. Not bound to the place, which may lose it before this page is gone. Not typed:
+    /// the compiler of Qt 6.4 turns a cast between object types into code that is none.
+    required property var feature
 
     readonly property bool shown: place.shown
     readonly property bool dropTargeted: place.dropTargeted
