@@ -177,6 +177,7 @@ bool AppDelegate::mayRunAlready() {
 AppDelegate::~AppDelegate() {
     flush();
     flushedAtExit = nullptr;
+    view_->unload();
 }
 
 std::function<Result<void>()> AppDelegate::mayWrite() {

@@ -95,4 +95,8 @@ void PanelView::load(const PanelFeatures::Services& services, const QLocale& loc
     view_.setSource(contentUrl());
 }
 
+void PanelView::unload() {
+    view_.setSource({});
+}
+
 } // namespace ravelo

@@ -24,6 +24,9 @@ public:
     /// Fills the window. Called once; all services outlive this view.
     void load(const PanelFeatures::Services& services, const QLocale& locale);
 
+    /// Ends the content, which reads services until then.
+    void unload();
+
     /// Only after `load`.
     [[nodiscard]] PanelFeatures& features() { return *features_; }
 

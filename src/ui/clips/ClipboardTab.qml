@@ -90,8 +90,12 @@ TabPage {
         }
     }
 
-    function showCurrent() {
+    function stopScrolling() {
         revealing.stop();
+    }
+
+    function showCurrent() {
+        stopScrolling();
         if (list.currentIndex <= 0) {
             list.showTop();
         } else {
@@ -103,7 +107,7 @@ TabPage {
     onShownChanged: {
         if (shown) {
             list.currentIndex = Math.min(rowOf(0), list.count - 1);
-            revealing.stop();
+            stopScrolling();
             list.showTop();
         }
     }

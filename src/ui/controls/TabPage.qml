@@ -14,6 +14,10 @@ FocusScope {
     /// What scrolls the page.
     property Flickable flick: null
 
+    /// Ends an animation that scrolls.
+    function stopScrolling() {
+    }
+
     /// Takes the keyboard to the page's search.
     function search() {
     }

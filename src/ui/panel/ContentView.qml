@@ -44,6 +44,7 @@ FocusScope {
 
     /// Down for a positive distance.
     function scrollBy(distance: real) {
+        page.stopScrolling();
         const begin = flick.originY - flick.topMargin;
         const end = flick.originY + flick.contentHeight - flick.height;
         flick.contentY = Math.max(begin, Math.min(flick.contentY + distance, end));
