@@ -8,12 +8,15 @@
 /// ready. Both come from the same package, so there is no version.
 namespace ravelo::decode {
 
-inline constexpr int socketNumber = 3;          ///< The socket's descriptor in ravelo-decode.
-inline constexpr int idleSeconds = 20;          ///< It ends after that long without a request.
-inline constexpr int64_t maxInput = 64 << 20;   ///< Bytes of a picture.
-inline constexpr int64_t maxOutput = 160 << 20; ///< Bytes of a reply.
-inline constexpr int maxSide = 4096;            ///< Pixels, of a picture that is asked for.
-inline constexpr uint32_t realTimeFactor = 4;   ///< A busy machine may take that much longer.
+inline constexpr int socketNumber = 3; ///< The socket's descriptor in ravelo-decode.
+inline constexpr int idleSeconds = 20; ///< It ends after that long without a request.
+/// Bytes of a picture and of a reply: what is made can be read back. A PNG of `maxPixels` has
+/// fewer.
+inline constexpr int64_t maxBytes = 160 << 20;
+/// Pixels that are read whole, so that what is kept can be shown. A screen of 8K just fits in.
+inline constexpr int64_t maxPixels = 32 << 20;
+inline constexpr int maxSide = 4096;          ///< Pixels, of a picture that is asked for.
+inline constexpr uint32_t realTimeFactor = 4; ///< A busy machine may take that much longer.
 
 enum class Kind : uint32_t {
     probe, ///< The natural size, upright.

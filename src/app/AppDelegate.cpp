@@ -153,7 +153,8 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
                                                renewalFolder(home()))),
       decoder_(
-          std::make_shared<DecoderProcess>(QFile::encodeName(helperProgram("ravelo-decode"_L1)))),
+          std::make_shared<DecoderProcess>(QFile::encodeName(helperProgram("ravelo-decode"_L1)),
+                                           QFile::encodeName(Store::clipsFolder(dataFolder())))),
       tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
       shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, *fileJobs_, display_.icons())),
       notices_(std::make_unique<Notices>(*scheduler_)),

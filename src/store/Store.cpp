@@ -63,7 +63,11 @@ QString Store::fileURL() const {
 }
 
 QString Store::clipsDir() const {
-    return folder_ + u"/clips"_s;
+    return clipsFolder(folder_);
+}
+
+QString Store::clipsFolder(const QString& folder) {
+    return QDir(folder).absolutePath() + u"/clips"_s;
 }
 
 QString Store::imagePath(const QString& imageFileName) const {

@@ -71,6 +71,8 @@ public:
 
     [[nodiscard]] QString fileURL() const;
     [[nodiscard]] QString clipsDir() const;
+    /// What that is for a store in `folder`.
+    [[nodiscard]] static QString clipsFolder(const QString& folder);
     /// Absolute path of an image in the clips folder.
     [[nodiscard]] QString imagePath(const QString& imageFileName) const;
 

@@ -10,8 +10,8 @@
 
 namespace ravelo {
 
-/// The socket to one ravelo-decode, which ends when it is closed. What comes from there is not
-/// trusted. Blocks; one thread at a time.
+/// The socket to one ravelo-decode, which is killed with it. What comes from there is not trusted.
+/// Blocks; one thread at a time.
 class DecoderConnection {
 public:
     struct Answer {
@@ -22,8 +22,15 @@ public:
     /// Starts the program, which nobody has to wait for; nothing if that fails.
     [[nodiscard]] static std::optional<DecoderConnection> start(const QByteArray& program);
 
-    /// Speaks with whoever has the other end.
-    explicit DecoderConnection(Descriptor socket) : socket_(std::move(socket)) {}
+    /// Speaks with whoever has the other end; `process` is its pidfd, if it is to be killed.
+    explicit DecoderConnection(Descriptor socket, Descriptor process = {})
+        : socket_(std::move(socket)), process_(std::move(process)) {}
+
+    DecoderConnection(DecoderConnection&&) noexcept = default;
+    DecoderConnection& operator=(DecoderConnection&&) noexcept = default;
+    DecoderConnection(const DecoderConnection&) = delete;
+    DecoderConnection& operator=(const DecoderConnection&) = delete;
+    ~DecoderConnection();
 
     /// False if nobody is there any more.
     [[nodiscard]] bool send(const decode::Request& request, const Descriptor& picture);
@@ -37,10 +44,8 @@ public:
 
 private:
     Descriptor socket_;
+    Descriptor process_;
     bool ready_ = false;
 };
-
-/// A sealed memfd with these bytes.
-[[nodiscard]] Descriptor sealedMemory(const QByteArray& bytes);
 
 } // namespace ravelo

@@ -14,11 +14,15 @@
 namespace ravelo {
 
 /// By ravelo-decode, started when there is something to read. Each request in parallel has a
-/// process of its own, and each process serves many. A picture that kills it, or that it works on
-/// for too long, is not tried again until its file changes; small pictures of files are kept.
+/// process of its own. A process serves many pictures of our own folder or many files from
+/// elsewhere, never both, and only one that was copied: a picture that takes it over sees no
+/// others. One that kills it, or that it works on for too long, is not tried again until its file
+/// changes; small pictures of files are kept.
 class DecoderProcess final : public ImageDecoder {
 public:
-    explicit DecoderProcess(QByteArray program) : program_(std::move(program)) {}
+    /// `ownFolder` has the pictures that the program keeps itself.
+    DecoderProcess(QByteArray program, const QByteArray& ownFolder)
+        : program_(std::move(program)), ownFolder_(ownFolder + '/') {}
 
     [[nodiscard]] PictureLook look(const UntrustedPicture& picture) override;
     [[nodiscard]] QImage filling(const UntrustedPicture& picture, PictureShape shape) override;
@@ -29,7 +33,10 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
+    enum class Origin { own, elsewhere, copied };
+
     struct Idle {
+        Origin origin;
         DecoderConnection connection;
         Clock::time_point since;
     };
@@ -44,16 +51,19 @@ private:
     [[nodiscard]] std::optional<DecoderConnection::Answer> ask(const Source& source,
                                                                const decode::Request& request);
     [[nodiscard]] QImage pixels(const UntrustedPicture& picture, const decode::Request& request);
-    [[nodiscard]] std::optional<DecoderConnection> idleConnection();
+    [[nodiscard]] Origin originOf(const UntrustedPicture& picture) const;
+    [[nodiscard]] Source sourceOf(const UntrustedPicture& picture) const;
+    [[nodiscard]] std::optional<DecoderConnection> idleConnection(Origin origin);
     [[nodiscard]] std::optional<DecoderConnection> sent(const Source& source,
                                                         const decode::Request& request);
-    void keep(DecoderConnection connection);
+    void keep(Origin origin, DecoderConnection connection);
     void giveUp(const QByteArray& identity);
 
     const QByteArray program_;
-    std::mutex mutex_;       ///< Over what follows; not held while anything is waited for.
-    std::vector<Idle> idle_; ///< The longest idle first.
-    QSet<QByteArray> bad_;   ///< Pictures that are not tried again.
+    const QByteArray ownFolder_; ///< With a slash at its end.
+    std::mutex mutex_;           ///< Guards the members below; never held while waiting.
+    std::vector<Idle> idle_;     ///< The longest idle first.
+    QSet<QByteArray> bad_;       ///< Pictures that are not tried again.
     QCache<QByteArray, Kept> kept_{1 << 20}; ///< In bytes, by picture and request.
 };
 
