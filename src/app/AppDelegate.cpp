@@ -184,9 +184,10 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     }
     Updater::provide(std::make_unique<PackageKit>(systemBus(), u"ravelo"_s),
                      u"" RAVELO_VERSION ""_s);
-    store_ = std::make_unique<Store>(
-        dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_, display_.pasteboard(),
-                                      *sound_, *fileJobs_, *copiedFiles_, decoder_, mayWrite()});
+    store_ = std::make_unique<Store>(dataFolder(),
+                                     Store::Services{*scheduler_, *worker_, *preferences_,
+                                                     display_.pasteboard(), *sound_, *fileJobs_,
+                                                     *copiedFiles_, *jobs_, decoder_, mayWrite()});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
@@ -199,8 +200,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         settings_->refreshLaunchAtLogin();
     });
 
-    clipboard_ = std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_,
-                                                    *jobs_, decoder_);
+    clipboard_ =
+        std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_, *jobs_);
     clipboard_->start();
 
     provideMonitors();

@@ -45,6 +45,9 @@ INSTANTIATE_TEST_SUITE_P(
         CaptureCase{"brokenTiffThenBmp",
                     {{u"image/tiff"_s, "II*"}, {u"image/bmp"_s, picture("bmp")}},
                     {u"Image"_s}},
+        CaptureCase{"onlyTheBeginningOfATiffThenBmp",
+                    {{u"image/tiff"_s, picture("tiff").first(8)}, {u"image/bmp"_s, picture("bmp")}},
+                    {u"Image"_s}},
         CaptureCase{"noImageAtAll", {{u"image/tiff"_s, "II*"}}, {}},
         CaptureCase{"concealedText", {text("pass"), {u"org.nspasteboard.ConcealedType"_s, ""}}, {}},
         CaptureCase{"passwordHint", {text("pass"), secret}, {}},
@@ -126,6 +129,17 @@ TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
     settle();
     EXPECT_EQ(pasteboard.changeCount(), before) << "what is none leaves the pasteboard alone";
     EXPECT_EQ(texts(), QStringList());
+}
+
+TEST_F(Clipboard, aStoredImageIsCopiedWithoutADecoder) {
+    const QString path = folder.filePath(u"scan.png"_s);
+    const QByteArray scan = picture("png").replace(16, 8, QByteArray(8, '\x7f')); // Its size.
+    QFile file(path);
+    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(scan) > 0);
+    file.close();
+    manager->copyImage(path);
+    settle();
+    EXPECT_EQ(pasteboard.bytes("image/png"_L1), scan) << "too large to be decoded";
 }
 
 struct OvertakenCase {

@@ -148,6 +148,21 @@ TEST_F(StoreClips, DeletingAndClearingTakeTheirFilesAlong) {
         decoder_->forgotten.contains(QFile::encodeName(store_->imagePath(pinned.imageFileName))));
 }
 
+TEST_F(StoreClips, DeletingDoesNotWaitForAnImageThatIsConverted) {
+    const QUuid deleted = add(u"deleted"_s);
+    settle();
+    conversions_.hung = true;
+    store_->addImageClip(png(Qt::red));
+    scheduler_.advance(Seconds(0.1));
+    EXPECT_EQ(worker_.pending(), 0) << "the worker has to convert it";
+    store_->deleteClip(deleted);
+    settle(Seconds(0));
+    EXPECT_EQ(saved().clips.size(), 0);
+    store_->flush();
+    EXPECT_EQ(texts(), "red") << "the end of the program waits for it";
+    EXPECT_EQ(saved().clips.size(), 1);
+}
+
 TEST_F(StoreClips, ClearingTakesWhatIsOnItsWay) {
     store_->addImageClip(png(Qt::red));
     store_->addClip(u"secret"_s);

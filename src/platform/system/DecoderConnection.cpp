@@ -10,10 +10,11 @@
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
-#include <sys/pidfd.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace ravelo {
 
@@ -90,7 +91,8 @@ std::optional<DecoderConnection> DecoderConnection::start(const QByteArray& prog
     if (child == 0) {
         return std::nullopt;
     }
-    Descriptor process(pidfd_open(child, 0)); // Before anybody waits for it: its number is its own.
+    Descriptor process(static_cast<int>(
+        syscall(SYS_pidfd_open, child, 0))); // Before anybody waits for it: its number is its own.
     // It ends by itself, at any time; to fork once more, so that it is nobody's child, would take
     // it longer than to read most pictures.
     std::thread([child] {
@@ -104,7 +106,7 @@ std::optional<DecoderConnection> DecoderConnection::start(const QByteArray& prog
 
 DecoderConnection::~DecoderConnection() {
     if (process_) { // One that has been taken over would not end by itself.
-        pidfd_send_signal(process_.number(), SIGKILL, nullptr, 0);
+        syscall(SYS_pidfd_send_signal, process_.number(), SIGKILL, nullptr, 0);
     }
 }
 
