@@ -98,8 +98,8 @@ private:
     /// was cleared, or we are gone.
     template <typename Action>
     [[nodiscard]] auto whileHeld(Action action) {
-        return [weak = std::weak_ptr(held_), action = std::move(action)](const auto& result) {
-            if (const auto held = weak.lock(); held && held->isPending()) {
+        return [this, weak = std::weak_ptr(held_), action = std::move(action)](const auto& result) {
+            if (const auto held = weak.lock(); held && held == held_ && held->isPending()) {
                 action(*held, result);
             }
         };

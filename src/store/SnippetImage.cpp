@@ -1,6 +1,7 @@
 #include "store/SnippetImage.h"
 
 #include "base/Scheduler.h"
+#include "platform/DetachedJobs.h"
 #include "platform/Pasteboard.h"
 #include "platform/Worker.h"
 #include "store/CopiedFile.h"

@@ -21,6 +21,7 @@ class CaptureTable : public Clipboard, public testing::WithParamInterface<Captur
 TEST_P(CaptureTable, keepsWhatTheOwnerMeansToBeKept) {
     pasteboard.offer(GetParam().offered);
     settle();
+    settle(); // Another form may have to be asked for.
     EXPECT_EQ(texts(), GetParam().expected);
 }
 
@@ -45,8 +46,9 @@ INSTANTIATE_TEST_SUITE_P(
         CaptureCase{"brokenTiffThenBmp",
                     {{u"image/tiff"_s, "II*"}, {u"image/bmp"_s, picture("bmp")}},
                     {u"Image"_s}},
-        CaptureCase{"onlyTheBeginningOfATiffThenBmp",
-                    {{u"image/tiff"_s, picture("tiff").first(8)}, {u"image/bmp"_s, picture("bmp")}},
+        CaptureCase{"onlyTheBeginningOfAWebpThenBmp",
+                    {{u"image/webp"_s, QByteArray("RIFF\0\0\0\0WEBP", 12)},
+                     {u"image/bmp"_s, picture("bmp")}},
                     {u"Image"_s}},
         CaptureCase{"noImageAtAll", {{u"image/tiff"_s, "II*"}}, {}},
         CaptureCase{"concealedText", {text("pass"), {u"org.nspasteboard.ConcealedType"_s, ""}}, {}},

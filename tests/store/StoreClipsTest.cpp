@@ -71,7 +71,7 @@ TEST_F(StoreClips, OrderOfCopyingIsKept) {
 TEST_F(StoreClips, ImageMakesItsFolderAgain) {
     ASSERT_TRUE(QDir(store_->clipsDir()).removeRecursively());
     store_->addImageClip(png(Qt::red));
-    worker_.drain();
+    settle(Seconds(0));
     EXPECT_EQ(texts(), "red");
 }
 
@@ -118,7 +118,7 @@ TEST_P(BadImage, AddsNothing) {
         ASSERT_TRUE(QFile(store_->clipsDir()).open(QFile::WriteOnly)) << "a file in its place";
     }
     store_->addImageClip(GetParam() ? png(Qt::red) : PasteboardSnapshot{{u"image/bmp"_s}, {}});
-    worker_.drain();
+    settle(Seconds(0));
     expectNoSave();
     EXPECT_EQ(texts(), "");
     EXPECT_EQ(imageFiles(), QStringList());
@@ -177,7 +177,7 @@ TEST_F(StoreClips, ClearingTakesWhatIsOnItsWay) {
 TEST_F(StoreClips, PushedOutImageLosesItsFileOnlyToAnImage) {
     store_->addImageClip(png(Qt::red));
     store_->addImageClip(png(Qt::blue));
-    worker_.drain();
+    settle(Seconds(0));
     for (int i = 0; i < 59; ++i) {
         add(QString::number(i));
     }
