@@ -8,21 +8,21 @@ namespace ravelo::decode {
 
 namespace {
 
-/// All at once, so that a file that is cut short meanwhile does no harm.
+/// A copy, because the file may be truncated meanwhile.
 QByteArray readAll(int file) {
     const off_t size = lseek(file, 0, SEEK_END);
     if (size <= 0 || size > maxBytes) {
         return {};
     }
     QByteArray bytes(size, Qt::Uninitialized);
-    qsizetype taken = 0;
-    while (taken < bytes.size()) {
+    qsizetype done = 0;
+    while (done < bytes.size()) {
         const ssize_t count =
-            pread(file, bytes.data() + taken, static_cast<size_t>(bytes.size() - taken), taken);
+            pread(file, bytes.data() + done, static_cast<size_t>(bytes.size() - done), done);
         if (count <= 0) {
             return {};
         }
-        taken += count;
+        done += count;
     }
     return bytes;
 }

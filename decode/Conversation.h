@@ -13,13 +13,13 @@ struct Order {
     int file; ///< The picture: to be closed.
 };
 
-/// Waits for the next one; nothing once the other side has gone or after `idleSeconds`.
+/// Waits for the next request; nothing if the other side has closed or after `idleSeconds`.
 [[nodiscard]] std::optional<Order> nextOrder();
 
 /// All bytes of the picture; empty if they could not be read or are too many. Closes the file.
 [[nodiscard]] QByteArray takeBytes(int file);
 
-/// `contents` goes along in a sealed memfd. False if the other side has gone.
+/// `contents` is sent in a sealed memfd. False if the other side has closed.
 bool send(Reply reply, QByteArrayView contents);
 
 } // namespace ravelo::decode

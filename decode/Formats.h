@@ -10,7 +10,7 @@ namespace ravelo::decode {
 /// The only formats that are read.
 enum class Format { none, png, jpeg, gif, bmp, webp, tiff, heif, svg };
 
-/// By the first bytes alone, whatever a name or a type says.
+/// By the first bytes only, whatever its name or type.
 [[nodiscard]] Format formatOf(QByteArrayView bytes);
 
 /// Whether it begins like a picture of which a PNG can be made: any of them but a drawing, which is
@@ -20,7 +20,7 @@ enum class Format { none, png, jpeg, gif, bmp, webp, tiff, heif, svg };
 /// How many pixels a PNG says it has; nothing if it has no such beginning.
 [[nodiscard]] std::optional<int64_t> pngPixels(QByteArrayView bytes);
 
-/// What Qt calls it; null if Qt does not read it here.
+/// Qt's name for it; null if Qt does not read it here.
 [[nodiscard]] const char* qtName(Format format);
 
 } // namespace ravelo::decode

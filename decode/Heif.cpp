@@ -15,7 +15,7 @@ bool worked(const heif_error& error) {
     return error.code == heif_error_Ok;
 }
 
-/// A file, read from bytes that must outlive it.
+/// Does not own the bytes.
 class File {
 public:
     explicit File(const QByteArray& bytes) {

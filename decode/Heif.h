@@ -8,10 +8,10 @@ namespace ravelo::decode {
 
 inline constexpr qint64 maxHeifPixels = 50'000'000;
 
-/// What telephones write (HEIF, ISO/IEC 23008-12), upright. Empty if it cannot be read.
+/// HEIF (ISO/IEC 23008-12), as written by phones; upright. Empty if it cannot be read.
 [[nodiscard]] QSize heifSize(const QByteArray& bytes);
 
-/// The embedded thumbnail if it has `height`, or else all of the picture.
+/// The embedded thumbnail if it has `height`, otherwise the whole picture.
 [[nodiscard]] QImage heifImage(const QByteArray& bytes, int height);
 
 } // namespace ravelo::decode

@@ -21,7 +21,7 @@ namespace {
 
 constexpr rlim_t maxMemory = rlim_t{1} << 30; ///< Address space, in bytes.
 constexpr rlim_t maxFiles = 64;
-constexpr rlim_t maxProcessorSeconds = 60; ///< In all its life.
+constexpr rlim_t maxProcessorSeconds = 60; ///< For its whole life.
 
 bool limit(__rlimit_resource resource, rlim_t value) {
     const rlimit both{value, value};
@@ -30,7 +30,7 @@ bool limit(__rlimit_resource resource, rlim_t value) {
 
 bool limitResources() {
 #if defined(__SANITIZE_ADDRESS__)
-    const bool memory = true; // Its shadow is larger than any limit.
+    const bool memory = true; // The shadow memory of the sanitizer exceeds any limit.
 #else
     const bool memory = limit(RLIMIT_AS, maxMemory);
 #endif
@@ -38,14 +38,14 @@ bool limitResources() {
            limit(RLIMIT_FSIZE, maxBytes) && limit(RLIMIT_CPU, maxProcessorSeconds);
 }
 
-/// As in <linux/landlock.h>, which may be older than the kernel.
+/// From <linux/landlock.h>, whose version may be older than the kernel.
 struct LandlockRules {
     uint64_t files;
     uint64_t net;
     uint64_t scopes;
 };
 
-/// Everything that this kernel's Landlock can forbid; true also if it has none.
+/// Forbids everything that this kernel's Landlock can; true also without Landlock.
 bool restrictFiles() {
     constexpr unsigned askVersion = 1;
     const long version = syscall(SYS_landlock_create_ruleset, nullptr, 0, askVersion);
@@ -73,7 +73,7 @@ constexpr int allowed[] = {
     SCMP_SYS(sched_getaffinity), SCMP_SYS(gettid), SCMP_SYS(getpid), SCMP_SYS(eventfd2),
     SCMP_SYS(rt_sigprocmask), SCMP_SYS(rt_sigreturn), SCMP_SYS(restart_syscall), SCMP_SYS(exit),
     SCMP_SYS(exit_group),
-    // Time and chance.
+    // Time and random numbers.
     SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday), SCMP_SYS(setitimer), SCMP_SYS(getrandom)};
 
 bool addRules(scmp_filter_ctx filter) {
@@ -93,7 +93,7 @@ bool addRules(scmp_filter_ctx filter) {
     return allow(SCMP_SYS(mmap), notExecutable) && allow(SCMP_SYS(mprotect), notExecutable) &&
            allow(SCMP_SYS(clone), thread) && allow(SCMP_SYS(fcntl), seals) &&
            allow(SCMP_SYS(prctl), name) &&
-           // Its flags are in memory, where no filter sees them: clone is used in its place.
+           // A filter cannot see its flags, which are in memory, so clone is used instead.
            seccomp_rule_add(filter, SCMP_ACT_ERRNO(ENOSYS), SCMP_SYS(clone3), 0) == 0;
 }
 

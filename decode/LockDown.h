@@ -2,9 +2,9 @@
 
 namespace ravelo::decode {
 
-/// From now on this process can use the memory it may still get and the descriptors it has, and can
-/// do nothing else: no file, no address, no program and no process can be opened or started. What
-/// it tries nevertheless kills it. False if that could not be had: then nothing must be read.
+/// From now on this process can only use memory and its open descriptors; it cannot open files,
+/// make connections or start programs and processes. An attempt kills it. If this returns false,
+/// nothing must be read.
 [[nodiscard]] bool lockDown();
 
 } // namespace ravelo::decode

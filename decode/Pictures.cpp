@@ -13,17 +13,17 @@ namespace ravelo::decode {
 
 namespace {
 
-/// A JPEG is made smaller while it is read.
+/// A JPEG is scaled down while it is read.
 constexpr qint64 maxScaledJpegPixels = 128 << 20;
 constexpr int maxMegabytes = 128; ///< Of pixels, at four bytes each.
-/// zlib's level 1: half the time, hardly larger.
+/// zlib level 1: half the time, hardly larger.
 constexpr int quickCompression = 80;
 
 QSize turned(QSize size, bool turn) {
     return turn ? size.transposed() : size;
 }
 
-/// The size to fill, by the natural size.
+/// The size to fill for a picture of this size.
 QSize fillSize(const Request& request, QSize natural) {
     const double width = double(request.height) * natural.width() / natural.height();
     const auto least = double(request.minWidth);
@@ -41,7 +41,7 @@ Picture probed(QSize size, qint64 limit) {
                           : Picture{bearable ? Status::done : Status::tooManyPixels, size, {}, {}};
 }
 
-/// What shows of a picture of this size if it fills `size`.
+/// The part of the picture that is visible if it fills `size`.
 QRect visiblePart(QSize natural, QSize size) {
     const QSize part = size.scaled(natural, Qt::KeepAspectRatio).expandedTo({1, 1});
     return {QPoint((natural.width() - part.width()) / 2, (natural.height() - part.height()) / 2),
@@ -79,7 +79,7 @@ public:
         turn_ = reader_.transformation().testFlag(QImageIOHandler::TransformationRotate90);
     }
 
-    /// Whether it may be read for this.
+    /// Whether it may be read for this request.
     [[nodiscard]] Picture probe(Kind kind) const {
         const bool scaled = format_ == Format::jpeg && (kind == Kind::fill || kind == Kind::icon);
         const qint64 limit = format_ == Format::svg ? std::numeric_limits<qint64>::max()
@@ -90,8 +90,8 @@ public:
 
     Picture filling(const Request& request) {
         const QSize size = fillSize(request, turned(stored_, turn_));
-        // The part that shows is cut out first: scaling all of a very long picture would fill the
-        // memory. A camera that was held upright is turned only after that.
+        // Crop first, because scaling a very long picture as a whole would exhaust the memory.
+        // The orientation is applied after that.
         reader_.setClipRect(visiblePart(stored_, turned(size, turn_)));
         reader_.setScaledSize(turned(size, turn_));
         return asPixels(reader_.read(), size);

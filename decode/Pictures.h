@@ -8,11 +8,10 @@
 
 namespace ravelo::decode {
 
-/// One of them, by the kind of request: `size` always if it is a picture, `image` for a fill or an
-/// icon, `png`.
+/// `size` if it is a picture, and `image` or `png` depending on the request.
 struct Picture {
     Status status = Status::refused;
-    QSize size; ///< Empty if it is no picture.
+    QSize size; ///< Empty if it is not a picture.
     QImage image;
     QByteArray png;
 };
@@ -20,7 +19,7 @@ struct Picture {
 /// Reads untrusted bytes: only in a process that is locked down. Needs no application object.
 [[nodiscard]] Picture decodePicture(const Request& request, const QByteArray& bytes);
 
-/// Loads everything that reading and writing a picture of any format needs of the disk.
+/// Loads everything from the disk that is needed to read and write any format.
 void loadFormats();
 
 } // namespace ravelo::decode

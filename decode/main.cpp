@@ -1,5 +1,5 @@
-// Reads untrusted pictures and returns their pixels, and can do nothing else. Started
-// by Ravelo when there is a picture to read; ends by itself.
+// Reads untrusted pictures and returns their pixels, and cannot do anything else. Ravelo starts it
+// when there is a picture to read; it ends by itself.
 
 #include "decode/Conversation.h"
 #include "decode/LockDown.h"
@@ -29,12 +29,12 @@ bool isCalledByRavelo() {
            type == SOCK_SEQPACKET;
 }
 
-/// Nothing is open but the socket, and no terminal's end reaches this process.
+/// Closes everything but the socket and leaves the terminal.
 void detach() {
     setsid();
     closefrom(socketNumber + 1);
-    const timeval patience{idleSeconds, 0};
-    setsockopt(socketNumber, SOL_SOCKET, SO_RCVTIMEO, &patience, sizeof(patience));
+    const timeval timeout{idleSeconds, 0};
+    setsockopt(socketNumber, SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof(timeout));
 }
 
 /// A second malloc arena would read /proc when it shrinks, and Qt's message handler looks for a
@@ -45,7 +45,7 @@ void avoidFiles() {
     qInstallMessageHandler([](QtMsgType, const QMessageLogContext&, const QString&) {});
 }
 
-/// Kills this process once the time is over; 0 is no limit.
+/// Kills this process after the time; 0 is no limit.
 void limitTime(uint32_t milliseconds) {
     const auto start = [](__itimer_which timer, uint32_t span) {
         const itimerval once{
@@ -61,7 +61,7 @@ bool hasWorkedLong() {
     return double(std::clock()) / CLOCKS_PER_SEC > busyLife;
 }
 
-/// Whether to go on.
+/// Whether to continue.
 bool carryOut(const Order& order) {
     limitTime(order.request.milliseconds); // Of reading, too: a file's mount may die meanwhile.
     const Picture picture = decodePicture(order.request, takeBytes(order.file));
@@ -86,7 +86,7 @@ int main() {
     detach();
     avoidFiles();
     loadFormats();
-    std::thread([] {}).join(); // The first one sets up signals for all others.
+    std::thread([] {}).join(); // The first thread sets up signal handling.
     if (!lockDown()) {
         _exit(EXIT_FAILURE);
     }

@@ -1,7 +1,7 @@
 // Any end of a transcript, and any settings of Claude Code.
 
-#include "monitor/Transcript.h"
 #include "Input.h"
+#include "monitor/TranscriptParser.h"
 
 using namespace ravelo;
 

@@ -1,6 +1,6 @@
-// Asks the file-transfer portal for the files under a key and prints their paths. The portal wants
-// to look at /proc/PID/root of its caller, which Ravelo allows nobody; this process holds no
-// secrets. Reads the key from standard input; each path it prints ends with a NUL.
+// Gets the files for a key from the file-transfer portal and prints their paths. The portal reads
+// /proc/PID/root of its caller, which Ravelo forbids; this process has no secrets. Reads the key
+// from standard input; each path in the output ends with a NUL.
 
 #include <QCoreApplication>
 #include <QDBusConnection>
@@ -18,10 +18,10 @@ namespace {
 
 using namespace Qt::StringLiterals;
 
-constexpr int timeOut = 5000; ///< In ms. There may be thousands of files to look at.
+constexpr int timeout = 5000; ///< In ms; enough for thousands of files.
 constexpr qint64 maxKey = 4096;
 
-/// Empty if there is none or it is too long.
+/// Empty if missing or too long.
 QByteArray keyFromInput() {
     QFile input;
     if (!input.open(STDIN_FILENO, QIODevice::ReadOnly | QIODevice::Unbuffered)) {
@@ -40,8 +40,8 @@ QDBusMessage retrieveFiles(const QByteArray& key) {
         u"org.freedesktop.portal.Documents"_s, u"/org/freedesktop/portal/documents"_s,
         u"org.freedesktop.portal.FileTransfer"_s, u"RetrieveFiles"_s);
     call << QString::fromUtf8(key) << QVariantMap();
-    call.setAutoStartService(false); // If it does not run, nobody left files with it.
-    return QDBusConnection::sessionBus().call(call, QDBus::Block, timeOut);
+    call.setAutoStartService(false); // If it does not run, it has no files.
+    return QDBusConnection::sessionBus().call(call, QDBus::Block, timeout);
 }
 
 } // namespace

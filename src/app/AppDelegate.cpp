@@ -6,7 +6,6 @@
 #include "clipboard/ClipboardManager.h"
 #include "monitor/ClaudeEnvironment.h"
 #include "monitor/LiveContext.h"
-#include "monitor/MonitorPlatform.h"
 #include "monitor/PlanUsage.h"
 #include "notices/Notices.h"
 #include "panel/NotchController.h"
@@ -21,10 +20,10 @@
 #include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
 #include "platform/freedesktop/TrayStatusItem.h"
+#include "platform/system/CurlClient.h"
 #include "platform/system/DecoderProcess.h"
 #include "platform/system/DetachedThreads.h"
 #include "platform/system/HelperProgram.h"
-#include "platform/system/HttpsThread.h"
 #include "platform/system/InotifyChanges.h"
 #include "platform/system/NightShiftScript.h"
 #include "platform/system/PreferenceFile.h"
@@ -124,6 +123,18 @@ TooLargeCopy::Measure measure(TooLarge::Kind kind) {
     return TooLargeCopy::Measure::pixelsOfImage;
 }
 
+Updater& updater() {
+    return Updater::shared([] {
+        return std::make_unique<Updater>(std::make_unique<PackageKit>(systemBus(), u"ravelo"_s),
+                                         u"" RAVELO_VERSION ""_s);
+    });
+}
+
+/// What main() adds to the environment concerns none of these folders.
+QByteArrayList claudeFolders() {
+    return otherClaudeFolders(home(), QProcessEnvironment::systemEnvironment());
+}
+
 } // namespace
 
 AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& environment,
@@ -149,7 +160,7 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       nightShift_(std::make_unique<NightShiftScript>(environment)),
       shutDown_(std::make_unique<LoginShutDown>(systemBus())),
       secrets_(std::make_unique<SecretService>(sessionBus())),
-      https_(std::make_unique<HttpsThread>(*jobs_, (u"Ravelo/" RAVELO_VERSION ""_s).toLatin1())),
+      https_(std::make_unique<CurlClient>((u"Ravelo/" RAVELO_VERSION ""_s).toUtf8(), environment)),
       children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
                                                renewalFolder(home()))),
       decoder_(
@@ -182,8 +193,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     if (preferences_->wasUnreadable()) {
         rememberFirstStart(*preferences_);
     }
-    Updater::provide(std::make_unique<PackageKit>(systemBus(), u"ravelo"_s),
-                     u"" RAVELO_VERSION ""_s);
+    updater();
     store_ = std::make_unique<Store>(dataFolder(),
                                      Store::Services{*scheduler_, *worker_, *preferences_,
                                                      display_.pasteboard(), *sound_, *fileJobs_,
@@ -204,7 +214,6 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_, *jobs_);
     clipboard_->start();
 
-    provideMonitors();
     window_ = display_.panelWindow(view_->window());
     notch_ = std::make_unique<NotchController>(
         *store_, *clipboard_, *settings_,
@@ -220,20 +229,21 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
             {&display_.lock(), &display_.cover(), loginSession_.get(), screenSaver_.get()}},
         rest_);
     view_->load({*store_, *settings_, *notch_, *notices_, display_.pasteboard(), *scheduler_,
-                 *preferences_, *nightShift_, *shutDown_, PlanUsage::shared(), shelf_->received,
+                 *preferences_, *nightShift_, *shutDown_, planUsage(), shelf_->received,
                  shelf_->nearby, *fileJobs_, shelf_->opener, shelf_->icons, decoder_},
                 QLocale());
     provideWindows();
     const auto checkUpdates = [this] {
+        notch_->dismiss(); // It would cover the window.
         updateWindow_->show();
     };
     statusItem_ = std::make_unique<StatusItemController>(
-        StatusItemController::Services{*tray_, *notch_, LiveContext::shared(), *scheduler_,
+        StatusItemController::Services{*tray_, *notch_, liveContext(), *scheduler_, *settings_,
                                        checkUpdates, quitLater},
         QLocale());
     commands_ = std::make_unique<Commands>(
-        Commands::Services{*store_, *notch_, *scheduler_, LiveContext::shared(),
-                           PlanUsage::shared(), [this] { showSetup(); }, checkUpdates, quitLater});
+        Commands::Services{*store_, *notch_, *scheduler_, liveContext(), planUsage(),
+                           [this] { showSetup(); }, checkUpdates, quitLater});
     wire();
     wireNotices();
     if (!settings_->onboarded()) {
@@ -242,29 +252,29 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     return {};
 }
 
-void AppDelegate::provideMonitors() {
-    // What main() adds to the environment concerns none of these folders.
-    const QByteArrayList others =
-        otherClaudeFolders(home(), QProcessEnvironment::systemEnvironment());
-    setMonitorPlatform(
-        {[this, others] {
-             return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_},
-                                                  home(), std::make_unique<InotifyChanges>(),
-                                                  others);
-         },
-         [this, others] {
-             return std::make_unique<PlanUsage>(
-                 UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home(),
-                 PlanUsage::provider(), others);
-         }});
+LiveContext& AppDelegate::liveContext() {
+    return LiveContext::shared([this] {
+        return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_}, home(),
+                                             std::make_unique<InotifyChanges>(), claudeFolders());
+    });
+}
+
+PlanUsage& AppDelegate::planUsage() {
+    return PlanUsage::shared([this] {
+        return std::make_unique<PlanUsage>(
+            UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home(),
+            PlanUsage::provider(), claudeFolders());
+    });
 }
 
 void AppDelegate::provideWindows() {
+    const TitledWindow::Beside beside{view_->window(), [this](QWindow& window) {
+                                          return display_.windowFrame(window);
+                                      }};
     settingsWindow_ = std::make_unique<SettingsWindow>(
-        SettingsWindow::Subjects{view_->window(), *store_, *settings_, quitLater});
-    onboarding_ =
-        std::make_unique<OnboardingController>(view_->window(), *settings_, display_.screens());
-    updateWindow_ = std::make_unique<UpdateWindow>(view_->window(), Updater::shared());
+        SettingsWindow::Subjects{beside, *store_, *settings_, quitLater});
+    onboarding_ = std::make_unique<OnboardingController>(beside, *settings_, display_.screens());
+    updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());
     QObject::connect(notch_.get(), &NotchController::settingsRequested, settingsWindow_.get(),
                      &SettingsWindow::show);
 }
@@ -275,6 +285,7 @@ void AppDelegate::wire() {
             notch_->positionCollapsed();
         }
     };
+    wireSettings();
     statusItem_->onSetup = [this] {
         showSetup();
     };
@@ -298,6 +309,26 @@ void AppDelegate::wire() {
         view_->host().snippetEditor()->cancel(); // Leaves no image that nothing refers to.
         flush();
     });
+}
+
+/// What the user chose counts from now on, without a restart.
+void AppDelegate::wireSettings() {
+    const auto follow = [this] {
+        store_->setHistoryRules({settings_->newestFirst() ? HistoryRules::Order::newerFirst
+                                                          : HistoryRules::Order::olderFirst,
+                                 settings_->historyLength()});
+        clipboard_->setTextEnds(settings_->keepTextsExactly() ? TextEnds::kept : TextEnds::trimmed);
+    };
+    follow();
+    for (const auto changed : {&AppSettings::newestFirstChanged, &AppSettings::historyLengthChanged,
+                               &AppSettings::keepTextsExactlyChanged}) {
+        QObject::connect(settings_.get(), changed, notch_.get(), follow);
+    }
+    const auto look = [this] {
+        view_->host().setClaudeCodeInstalled(liveContext().installed());
+    };
+    look();
+    QObject::connect(&liveContext(), &LiveContext::changed, notch_.get(), look);
 }
 
 /// What the panel says about saving, about files that could not be read and about copies that are
@@ -338,6 +369,7 @@ void AppDelegate::openSettings() {
 }
 
 void AppDelegate::showSetup() {
+    notch_->dismiss(); // It would cover the window.
     onboarding_->show();
 }
 

@@ -25,6 +25,7 @@ class DisplayServer;
 class FileTransfer;
 class HttpsClient;
 class ImageDecoder;
+class LiveContext;
 class LoginItem;
 class NightShift;
 class Notices;
@@ -32,6 +33,7 @@ class NotchController;
 class OnboardingController;
 class PanelView;
 class PanelWindow;
+class PlanUsage;
 class PreferenceFile;
 class Scheduler;
 class SecretStore;
@@ -74,10 +76,12 @@ public:
 
 private:
     [[nodiscard]] std::function<Result<void>()> mayWrite(); ///< To be asked before each save.
-    void provideMonitors();
+    [[nodiscard]] LiveContext& liveContext();
+    [[nodiscard]] PlanUsage& planUsage();
     void provideWindows();
     void wire();
     void wireNotices();
+    void wireSettings();
 
     DisplayServer& display_;
     HoverTick::Rest rest_;

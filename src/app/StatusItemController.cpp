@@ -6,6 +6,7 @@
 #include "monitor/StatusText.h"
 #include "panel/NotchController.h"
 #include "platform/StatusItem.h"
+#include "settings/AppSettings.h"
 
 #include <QGuiApplication>
 #include <QKeyEvent>
@@ -47,6 +48,8 @@ StatusItemController::StatusItemController(Services services, const QLocale& loc
     services_.context.onChange = [this] {
         updateTitle();
     };
+    connect(&services_.settings, &AppSettings::hideClaudeCodeChanged, this,
+            &StatusItemController::updateTitle);
     updateTitle();
 }
 
@@ -56,6 +59,10 @@ StatusItemController::~StatusItemController() {
 
 void StatusItemController::updateTitle() {
     const LiveContext& context = services_.context;
+    if (services_.settings.hideClaudeCode() && !context.installed()) {
+        services_.item.setToolTip(u"Ravelo"_s);
+        return;
+    }
     const Date now = services_.scheduler.now();
     const MonitorStatus status{context.model(),        context.used(),    context.limit(),
                                context.lastActivity(), PeakInfo::at(now), {}};

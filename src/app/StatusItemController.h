@@ -10,6 +10,7 @@
 
 namespace ravelo {
 
+class AppSettings;
 class LiveContext;
 class NotchController;
 class Scheduler;
@@ -23,6 +24,7 @@ public:
         NotchController& notch;
         LiveContext& context; ///< Its `onChange` is taken.
         Scheduler& scheduler;
+        const AppSettings& settings;
         std::function<void()> checkUpdates;
         std::function<void()> quit;
     };

@@ -6,8 +6,8 @@
 
 namespace ravelo {
 
-/// A moment as seconds since 2001-01-01 00:00:00 UTC, the form in which records are stored; held as
-/// it was read, so that a date survives any number of loads and saves to the last bit.
+/// Seconds since 2001-01-01 00:00:00 UTC, as records are stored. Kept as read, so that loading and
+/// saving never changes a date, not even in the last bit.
 struct Date {
     double sinceReference = 0;
 

@@ -7,7 +7,7 @@
 namespace ravelo {
 
 QUrl fileUrl(const QByteArray& written) {
-    // Of several slashes the last: Qt would take what follows two for a host.
+    // Keep one leading slash: Qt reads what follows two as a host.
     const auto name = std::ranges::find_if(written, [](char c) { return c != '/'; });
     const QByteArray path = written.sliced(std::max<qsizetype>(name - written.begin() - 1, 0));
     if (QUtf8StringView(path).isValidUtf8()) {

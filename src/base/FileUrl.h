@@ -5,17 +5,17 @@
 
 namespace ravelo {
 
-// A path is any row of bytes but NUL, in whatever encoding, or in none. As a QString it may no
-// longer name its file; a URL keeps it, percent-encoded where it must be.
+// A path is a sequence of any bytes but NUL, not always valid text. Converting it to a QString may
+// change it; a percent-encoded URL does not.
 
-/// The one URL that stands for an absolute path: equal paths have equal URLs, and no others do.
+/// The canonical URL of an absolute path: URLs are equal exactly if the paths are.
 [[nodiscard]] QUrl fileUrl(const QByteArray& path);
 
-/// The bytes of its path; empty for what is no local file. The opposite of `fileUrl`.
+/// The inverse of `fileUrl`: the bytes of the path, or empty if it is not a local file.
 [[nodiscard]] QByteArray filePath(const QUrl& url);
 
-/// In the form in which addresses are handed to other programs (RFC 8089): "file:///" and all but
-/// unreserved characters percent-encoded, as GLib's programs write them; empty likewise.
+/// The form for other programs (RFC 8089): "file:///", with all but unreserved characters
+/// percent-encoded, as GLib writes it. Empty if it is not a local file.
 [[nodiscard]] QByteArray fileAddress(const QUrl& url);
 
 } // namespace ravelo

@@ -19,7 +19,7 @@ namespace ravelo {
 namespace {
 
 constexpr auto privateFolder = QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner;
-constexpr int longestChainOfLinks = 40; ///< As the kernel has it.
+constexpr int maxLinks = 40; ///< As in the kernel.
 constexpr char temporarySuffix[] = ".XXXXXX";
 
 bool isTaken(const QString& path) {
@@ -27,39 +27,39 @@ bool isTaken(const QString& path) {
     return info.exists() || info.isSymLink();
 }
 
-/// 0 if there is no such file.
+/// 0 if it does not exist.
 mode_t modeOf(const QByteArray& path) {
     struct stat info = {};
     return !path.contains('\0') && ::stat(path.constData(), &info) == 0 ? info.st_mode : 0;
 }
 
-std::optional<QByteArray> readEnd(int file, qint64 most) {
+std::optional<QByteArray> readEnd(int file, qint64 max) {
     struct stat info = {};
     if (fstat(file, &info) != 0 || !S_ISREG(info.st_mode)) {
         return std::nullopt;
     }
-    const qint64 start = std::max<qint64>(info.st_size - most, 0);
-    QByteArray bytes(std::min<qint64>(info.st_size, most), Qt::Uninitialized);
-    qint64 taken = 0;
-    while (taken < bytes.size()) {
-        const ssize_t count = pread(file, bytes.data() + taken,
-                                    static_cast<size_t>(bytes.size() - taken), start + taken);
+    const qint64 start = std::max<qint64>(info.st_size - max, 0);
+    QByteArray bytes(std::min<qint64>(info.st_size, max), Qt::Uninitialized);
+    qint64 done = 0;
+    while (done < bytes.size()) {
+        const ssize_t count = pread(file, bytes.data() + done,
+                                    static_cast<size_t>(bytes.size() - done), start + done);
         if (count < 0 && errno == EINTR) {
             continue;
         }
         if (count < 0) {
             return std::nullopt;
         }
-        if (count == 0) { // It was cut meanwhile.
+        if (count == 0) { // Truncated meanwhile.
             break;
         }
-        taken += count;
+        done += count;
     }
-    bytes.truncate(taken);
+    bytes.truncate(done);
     return bytes;
 }
 
-/// What errno says, in words for the user.
+/// A message for the user, from errno.
 Result<void> lastFailure() {
     switch (const int code = errno) {
     case ENOSPC:
@@ -74,9 +74,9 @@ Result<void> lastFailure() {
     }
 }
 
-/// Who keeps a file elsewhere, with a link to it here, wants it to stay there.
+/// Users who keep the file elsewhere and link to it want to keep the link.
 QString behindLinks(QString path) {
-    for (int i = 0; i < longestChainOfLinks; ++i) {
+    for (int i = 0; i < maxLinks; ++i) {
         const QString target = QFileInfo(path).symLinkTarget();
         if (target.isEmpty()) {
             break;
@@ -98,7 +98,7 @@ Result<void> writeAll(int file, const QByteArray& bytes) {
     return {};
 }
 
-/// Some file systems know no syncing, of folders above all; that is no failure of the disk.
+/// Some file systems cannot sync, above all folders; that is not a failure of the disk.
 bool isSynced(int file) {
     return fsync(file) == 0 || errno == EINVAL || errno == ENOSYS || errno == EOPNOTSUPP;
 }
@@ -149,12 +149,12 @@ bool isFolder(const QByteArray& path) {
     return S_ISDIR(modeOf(path));
 }
 
-std::optional<QByteArray> readFileEnd(const QByteArray& path, qint64 most) {
+std::optional<QByteArray> readFileEnd(const QByteArray& path, qint64 max) {
     const int file = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (file < 0) {
         return std::nullopt;
     }
-    std::optional<QByteArray> bytes = readEnd(file, most);
+    std::optional<QByteArray> bytes = readEnd(file, max);
     close(file);
     return bytes;
 }
@@ -204,7 +204,7 @@ Result<QString> setAsideUnreadable(const QString& path) {
     }
     const QByteArray from = QFile::encodeName(path);
     const QByteArray to = QFile::encodeName(aside);
-    // A second name needs neither space nor the right to read.
+    // A hard link needs neither space nor read permission.
     if (linkat(AT_FDCWD, from.constData(), AT_FDCWD, to.constData(), AT_SYMLINK_FOLLOW) == 0) {
         chmod(to.constData(), S_IRUSR | S_IWUSR);
         return aside;

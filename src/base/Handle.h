@@ -5,8 +5,8 @@
 
 namespace ravelo {
 
-/// What keeps a timer, a subscription or a pending answer alive: destroying or resetting it
-/// cancels. Move-only. Belongs to the thread that got it.
+/// Owns a timer, a subscription or a pending answer: destroying or resetting it cancels. Move-only;
+/// for the thread that got it.
 class [[nodiscard]] Handle {
 public:
     Handle() = default;

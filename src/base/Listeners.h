@@ -9,8 +9,8 @@
 
 namespace ravelo {
 
-/// Callbacks waiting for one kind of notice. A listener may be added or dropped while a notice is
-/// being given; one that is dropped is not called any more. Handles may outlive the list.
+/// The callbacks for one kind of event. Callbacks may be added and dropped while they are being
+/// called; a dropped one is not called again. Handles may outlive the list.
 template <typename... Args>
 class Listeners {
 public:

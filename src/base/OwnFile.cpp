@@ -19,7 +19,7 @@ SaveOutcome OwnFile::write(const QByteArray& bytes) {
         putAside = *kept;
         contents_ = Contents::ours;
     }
-    makePrivateFolder(QFileInfo(path_).path()); // It may have been removed meanwhile.
+    makePrivateFolder(QFileInfo(path_).path()); // Possibly removed meanwhile.
     const Result<void> written = writeFileAtomically(path_, bytes);
     return written ? SaveOutcome{SaveOutcome::Kind::saved, {}, putAside}
                    : SaveOutcome{SaveOutcome::Kind::failed, written.error().message, putAside};

@@ -9,34 +9,33 @@
 
 namespace ravelo {
 
-/// How a save went.
+/// The outcome of a save.
 struct SaveOutcome {
     enum class Kind {
         saved,
-        failed,   ///< It may work later.
-        forbidden ///< The file is not ours to write any more.
+        failed,   ///< May succeed later.
+        forbidden ///< We may not write the file any more.
     };
 
     Kind kind = Kind::saved;
-    QString reason; ///< Unless saved; in words fit for the user.
+    QString reason; ///< Unless saved; for the user.
     QString
-        putAside; ///< Where an unreadable file in its place is kept now; empty if there was none.
+        putAside; ///< Where the unreadable file that was there is kept; empty if there was none.
 };
 
-/// A file that we write whole, again and again. The contents that were there before are ours or
-/// make no sense to us; in that case they are put aside before the first write. Made on the main
-/// thread and then left to the worker, whose jobs share it.
+/// A file that is always written as a whole. If what is there at first cannot be parsed, it is put
+/// aside before the first write. Created on the main thread, then used by the worker's jobs only.
 class OwnFile {
 public:
     enum class Contents { ours, unreadable };
-    /// Whether we may write at this moment; an error says why not. Any thread.
+    /// Whether we may write now; an error gives the reason. Any thread.
     using Permission = std::function<Result<void>()>;
 
-    /// Without a permission every write is allowed.
+    /// Without one every write is allowed.
     OwnFile(QString path, Contents contents, Permission permission)
         : path_(std::move(path)), contents_(contents), permission_(std::move(permission)) {}
 
-    /// Makes its folder if that is missing (0700). Blocks until the disk has it.
+    /// Creates a missing folder (0700). Blocks until it is synced.
     [[nodiscard]] SaveOutcome write(const QByteArray& bytes);
 
 private:

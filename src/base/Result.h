@@ -6,7 +6,7 @@
 
 namespace ravelo {
 
-/// Why something did not work, in words fit for a log line.
+/// The reason for a failure, as one line of a log.
 struct Error {
     QString message;
 };

@@ -10,22 +10,22 @@ namespace ravelo {
 
 using Seconds = std::chrono::duration<double>;
 
-/// The only source of time and of delayed work. Main thread only; callbacks run there, never from
-/// within the call that asked for them.
+/// The only source of time and of delayed work. Main thread; never runs a callback from within the
+/// call that scheduled it.
 class Scheduler {
 public:
     virtual ~Scheduler() = default;
 
-    /// Wall clock. It jumps when the user or the network sets it.
+    /// The wall clock, which jumps when it is set.
     [[nodiscard]] virtual Date now() const = 0;
 
-    /// Time since the machine started. Never jumps and goes on while the machine sleeps.
+    /// Time since boot, including time asleep. Never jumps.
     [[nodiscard]] virtual Seconds uptime() const = 0;
 
-    /// Runs `action` once, `delay` from now.
+    /// Runs `action` once, after `delay`.
     [[nodiscard]] virtual Handle after(Seconds delay, std::function<void()> action) = 0;
 
-    /// Runs `action` every `interval`, first one interval from now, until the handle is dropped.
+    /// Runs `action` every `interval`, first after one interval, until the handle is dropped.
     [[nodiscard]] virtual Handle every(Seconds interval, std::function<void()> action) = 0;
 };
 

@@ -9,14 +9,14 @@
 
 namespace ravelo {
 
-/// Bytes that are overwritten with zeros when the last copy of this value goes. Copies share the
-/// bytes, and so do copies of `bytes()`: what is still held of them then is zeros. Copies that
-/// others make of the contents are theirs to erase.
+/// Bytes that are overwritten with zeros when the last copy of this value is destroyed. Copies
+/// share the bytes, and so do copies of `bytes()`, which are zeros from then on. Whoever makes a
+/// deep copy must erase it.
 class Secret {
 public:
     Secret() = default;
 
-    /// Takes over the buffer. If it is shared, it copies, and the other copy is not erased.
+    /// Owns the buffer. If it is shared, this copies it, and the original is not erased.
     explicit Secret(QByteArray bytes) : buffer_(std::make_shared<const Buffer>(std::move(bytes))) {}
 
     [[nodiscard]] QByteArray bytes() const { return buffer_ ? buffer_->bytes : QByteArray(); }
@@ -30,7 +30,7 @@ private:
         explicit Buffer(QByteArray from) : bytes(std::move(from)) { bytes.detach(); }
 
         ~Buffer() {
-            // Not data(): that would copy if others still share it.
+            // Not data(), which would detach if it is shared.
             explicit_bzero(const_cast<char*>(bytes.constData()), static_cast<size_t>(bytes.size()));
         }
 

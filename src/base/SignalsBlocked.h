@@ -4,8 +4,8 @@
 
 namespace ravelo {
 
-/// While it lives, new threads start with all signals blocked: signals to the program are the main
-/// thread's to handle.
+/// While it lives, new threads start with all signals blocked, so that the main thread handles
+/// them.
 class SignalsBlocked {
 public:
     SignalsBlocked() {

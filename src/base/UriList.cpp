@@ -13,7 +13,7 @@ bool isSame(QByteArrayView a, QByteArrayView b) {
     return a.compare(b, Qt::CaseInsensitive) == 0;
 }
 
-/// As a number, or -1.
+/// The value of a hexadecimal digit, or -1.
 int hexDigit(char digit) {
     const auto c = static_cast<unsigned char>(digit);
     if (std::isxdigit(c) == 0) {
@@ -22,7 +22,7 @@ int hexDigit(char digit) {
     return std::isdigit(c) != 0 ? c - '0' : std::tolower(c) - 'a' + 10;
 }
 
-/// A percent sign with no number behind it stands for itself.
+/// A percent sign without two digits stands for itself.
 QByteArray decoded(QByteArrayView text) {
     QByteArray bytes;
     bytes.reserve(text.size());
@@ -39,7 +39,7 @@ QByteArray decoded(QByteArrayView text) {
     return bytes;
 }
 
-/// Absolute and without a slash at its end, or empty where it can be no path.
+/// Absolute and without a trailing slash; empty if it is not a path.
 QByteArray pathOf(QByteArrayView address, QByteArrayView hostName) {
     constexpr QByteArrayView scheme("file:");
     if (!isSame(address.first(std::min(scheme.size(), address.size())), scheme)) {
@@ -68,7 +68,7 @@ QByteArray pathOf(QByteArrayView address, QByteArrayView hostName) {
 QList<QUrl> localFiles(const QByteArray& uriList, const QByteArray& hostName) {
     QList<QUrl> files;
     for (QByteArray line : uriList.split('\n')) {
-        line.replace('\0', QByteArray()); // Some end what they send by one.
+        line.replace('\0', QByteArray()); // Some programs terminate the list with one.
         const QByteArray path = pathOf(line.trimmed(), hostName);
         if (!path.isEmpty()) {
             files.append(fileUrl(path));

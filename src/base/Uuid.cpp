@@ -9,7 +9,7 @@ QString uuidText(const QUuid& id) {
 }
 
 std::optional<QUuid> parseUuid(const QString& text) {
-    // QUuid alone would also take braces, other digits than hexadecimal ones and shorter groups.
+    // QUuid alone would also accept braces, non-hexadecimal digits and shorter groups.
     static const QRegularExpression canonical(
         QStringLiteral("\\A[0-9A-Fa-f]{8}(-[0-9A-Fa-f]{4}){3}-[0-9A-Fa-f]{12}\\z"));
     if (!canonical.match(text).hasMatch()) {

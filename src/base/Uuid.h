@@ -10,7 +10,7 @@ namespace ravelo {
 /// The canonical text of a UUID (RFC 9562): 36 characters, upper-case hexadecimal.
 [[nodiscard]] QString uuidText(const QUuid& id);
 
-/// Accepts exactly the 36-character form, digits in either case; anything else is no UUID.
+/// Accepts only the 36-character form, in either case.
 [[nodiscard]] std::optional<QUuid> parseUuid(const QString& text);
 
 } // namespace ravelo

@@ -61,15 +61,16 @@ bool isConcealed(const PasteboardSnapshot& snapshot) {
     return !hint || hint->trimmed().startsWith("secret");
 }
 
-QString capturedText(const PasteboardSnapshot& snapshot) {
-    QString text = offeredText(snapshot);
-    if (mayBePathsInALine(text)) {
+QString capturedText(const PasteboardSnapshot& snapshot, TextEnds ends) {
+    QString text = QString::fromUtf8(snapshot.answers.value(plainTextType).value_or(QByteArray()));
+    QString trimmed = text.trimmed();
+    if (mayBePathsInALine(trimmed)) {
         const QByteArrayList paths = copiedPaths(snapshot);
-        if (text == QString::fromUtf8(paths.join(' ')).trimmed()) {
+        if (trimmed == QString::fromUtf8(paths.join(' ')).trimmed()) {
             return QString::fromUtf8(paths.join('\n')).trimmed();
         }
     }
-    return text;
+    return ends == TextEnds::trimmed || trimmed.isEmpty() ? trimmed : text;
 }
 
 QString offeredText(const PasteboardSnapshot& snapshot) {

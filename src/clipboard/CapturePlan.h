@@ -18,11 +18,15 @@ namespace ravelo {
 /// "secret". A hint that cannot be read counts as secret.
 [[nodiscard]] bool isConcealed(const PasteboardSnapshot& snapshot);
 
-/// The text that was read, without white space and line breaks at both ends; empty where there is
-/// none. Of several files it is a line each, however their owner puts their paths together.
-[[nodiscard]] QString capturedText(const PasteboardSnapshot& snapshot);
+/// What becomes of white space and line breaks at both ends of a text.
+enum class TextEnds { trimmed, kept };
 
-/// The same text, as its owner joined it.
+/// The text that was read; empty if there is nothing but white space. Of several files it is a line
+/// each, however their owner puts their paths together.
+[[nodiscard]] QString capturedText(const PasteboardSnapshot& snapshot,
+                                   TextEnds ends = TextEnds::trimmed);
+
+/// The same text, as its owner joined it; without white space at both ends.
 [[nodiscard]] QString offeredText(const PasteboardSnapshot& snapshot);
 
 /// A list of files: asked for only if there is no text and no picture itself, or if the text may be

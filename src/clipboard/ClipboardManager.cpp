@@ -143,7 +143,7 @@ bool ClipboardManager::isPassedOn(const PasteboardSnapshot& snapshot, const Cont
 }
 
 void ClipboardManager::keep(const PasteboardSnapshot& snapshot, const QStringList& useless) {
-    const QString text = capturedText(snapshot);
+    const QString text = capturedText(snapshot, textEnds_);
     if (text.isEmpty()) {
         keepImage(snapshot, useless);
         return;

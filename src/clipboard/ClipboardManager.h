@@ -35,6 +35,9 @@ public:
     /// Looks every 0.5 s from now on, and at once where the platform tells of a change.
     void start();
 
+    /// Of the texts that are captured from now on.
+    void setTextEnds(TextEnds ends) { textEnds_ = ends; }
+
     void copyText(const QString& text);
 
     /// Puts a stored image on the pasteboard, once it is read; does nothing if the file is no PNG
@@ -109,6 +112,7 @@ private:
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
     DetachedJobs& jobs_;
+    TextEnds textEnds_ = TextEnds::trimmed;
     qint64 lastChangeCount_;
     qint64 suppressUntilCount_ = -1; ///< The change that we made ourselves.
     std::shared_ptr<Held> held_;     ///< Null at first.

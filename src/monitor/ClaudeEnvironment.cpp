@@ -14,16 +14,16 @@ namespace {
 constexpr std::array needed = {
     "HOME"_L1, "PATH"_L1, "USER"_L1, "LOGNAME"_L1, "SHELL"_L1, "TMPDIR"_L1, "LANG"_L1,
     "LANGUAGE"_L1,
-    // Where its files and the keyring are.
+    // To find its files and the keyring.
     "CLAUDE_CONFIG_DIR"_L1, "XDG_CONFIG_HOME"_L1, "XDG_DATA_HOME"_L1, "XDG_STATE_HOME"_L1,
     "XDG_CACHE_HOME"_L1, "XDG_RUNTIME_DIR"_L1, "DBUS_SESSION_BUS_ADDRESS"_L1,
-    // How it gets to the Internet.
+    // Proxies and certificates.
     "http_proxy"_L1, "https_proxy"_L1, "all_proxy"_L1, "no_proxy"_L1, "HTTP_PROXY"_L1,
     "HTTPS_PROXY"_L1, "ALL_PROXY"_L1, "NO_PROXY"_L1, "SSL_CERT_FILE"_L1, "SSL_CERT_DIR"_L1,
     "NODE_EXTRA_CA_CERTS"_L1, "CLAUDE_CODE_CLIENT_CERT"_L1, "CLAUDE_CODE_CLIENT_KEY"_L1,
     "CLAUDE_CODE_CLIENT_KEY_PASSPHRASE"_L1};
 
-/// An absolute path without a slash at its end, or nothing.
+/// An absolute path without a trailing slash, or empty.
 QByteArray folder(const QProcessEnvironment& environment, const QString& name) {
     QByteArray path = QFile::encodeName(environment.value(name));
     while (path.size() > 1 && path.endsWith('/')) {

@@ -4,22 +4,22 @@
 #include <QByteArrayList>
 #include <QProcessEnvironment>
 
-// What the environment says about where Claude Code keeps its files, and what of it Claude Code
-// gets when we run it ourselves. `home` is the user's home folder.
+// Claude Code's folders according to the environment, and the environment that we run Claude Code
+// in. `home` is the user's home folder.
 
 namespace ravelo {
 
-/// Where Claude Code may keep its files if not in `home`/.claude, likelier ones first.
+/// Where Claude Code may keep its files if not in `home`/.claude, the likelier first.
 [[nodiscard]] QByteArrayList otherClaudeFolders(const QByteArray& home,
                                                 const QProcessEnvironment& environment);
 
-/// What Claude Code needs to renew its credentials, and nothing else. Without the ANTHROPIC_* and
-/// CLAUDE_CODE_* settings that choose another account, server or model: with an API key it would
-/// bill the key and renew nothing. Without what loads code into programs, as NODE_OPTIONS does.
+/// Only what Claude Code needs to renew its credentials. Without ANTHROPIC_* and CLAUDE_CODE_*,
+/// which choose another account, server or model: with an API key it would bill the key and renew
+/// nothing. Without variables that load code into programs, like NODE_OPTIONS.
 [[nodiscard]] QProcessEnvironment renewalEnvironment(const QProcessEnvironment& environment);
 
-/// A folder for the renewal to run in. Always below the home: Claude Code also obeys files in the
-/// folders above, and XDG_RUNTIME_DIR may lie in /tmp, where anybody can put some.
+/// The folder that the renewal runs in. Always below the home folder: Claude Code also obeys files
+/// in the parent folders, and XDG_RUNTIME_DIR may be in /tmp, where anybody can create files.
 [[nodiscard]] QByteArray renewalFolder(const QByteArray& home);
 
 } // namespace ravelo

@@ -3,6 +3,7 @@
 #include "base/Files.h"
 
 #include <sys/stat.h>
+#include <unistd.h>
 
 #include <algorithm>
 #include <utility>
@@ -11,11 +12,10 @@ namespace ravelo {
 
 namespace {
 
-constexpr qint64 largestSettings = qint64(1) << 20;
+constexpr qint64 maxSettings = qint64(1) << 20;
 constexpr double nanosecond = 1e-9;
 
-/// The steps for a transcript of any kind come first; what follows is for one that they find
-/// nothing in. Nothing if it cannot be read.
+/// Tries the end of the transcript first, then more of it. Nothing if it cannot be read.
 std::optional<std::optional<TurnUsage>> readUsage(const QByteArray& path) {
     const std::optional<QByteArray> window = readFileEnd(path, transcriptWindow);
     if (!window) {
@@ -26,8 +26,8 @@ std::optional<std::optional<TurnUsage>> readUsage(const QByteArray& path) {
         usage = lastUsage(afterFirstLine(*window));
     }
     if (!usage && window->size() == transcriptWindow) {
-        const QByteArray wide = readFileEnd(path, widestTranscriptWindow).value_or(QByteArray());
-        usage = lastUsage(wide.size() == widestTranscriptWindow ? afterFirstLine(wide) : wide);
+        const QByteArray wide = readFileEnd(path, maxTranscriptWindow).value_or(QByteArray());
+        usage = lastUsage(wide.size() == maxTranscriptWindow ? afterFirstLine(wide) : wide);
     }
     return usage;
 }
@@ -37,16 +37,21 @@ std::optional<std::optional<TurnUsage>> readUsage(const QByteArray& path) {
 ContextReader::ContextReader(const QByteArray& home, std::unique_ptr<FolderChanges> changes,
                              const QByteArrayList& otherFolders)
     : changes_(std::move(changes)) {
-    for (const QByteArray& path : QByteArrayList{home + "/.claude"} + otherFolders) {
+    const QByteArrayList folders = QByteArrayList{home + "/.claude"} + otherFolders;
+    signs_ = folders + QByteArrayList{home + "/.local/bin/claude"};
+    for (const QByteArray& path : folders) {
         folders_.push_back(
-            {path + "/settings.json", {}, {}, Transcripts(path + "/projects", *changes_), {}});
+            {path + "/settings.json", {}, {}, TranscriptFinder(path + "/projects", *changes_), {}});
     }
 }
 
 ContextReading ContextReader::read() {
     const FolderChanges::Changes changes = changes_->take();
     readSettings(folders_.front());
-    ContextReading reading{folders_.front().limit, std::nullopt};
+    ContextReading reading{folders_.front().limit, std::nullopt,
+                           std::ranges::any_of(signs_, [](const QByteArray& path) {
+                               return access(path.constData(), F_OK) == 0;
+                           })};
     for (Folder& folder : folders_) {
         if (reading.turn) {
             folder.transcripts.forget();
@@ -72,15 +77,13 @@ void ContextReader::readSettings(Folder& folder) {
                       info.st_mtim.tv_sec * qint64(1'000'000'000) + info.st_mtim.tv_nsec,
                       info.st_size};
     if (folder.settingsStamp != stamp) {
-        const std::optional<QByteArray> bytes =
-            readFileEnd(folder.settingsPath, largestSettings + 1);
+        const std::optional<QByteArray> bytes = readFileEnd(folder.settingsPath, maxSettings + 1);
         folder.settingsStamp = bytes ? std::optional(stamp) : std::nullopt;
-        folder.limit =
-            bytes && bytes->size() <= largestSettings ? compactWindow(*bytes) : std::nullopt;
+        folder.limit = bytes && bytes->size() <= maxSettings ? compactWindow(*bytes) : std::nullopt;
     }
 }
 
-/// Of the newest transcript that has one: a session that was just opened has none yet.
+/// From the newest transcript with a turn: a new session has none yet.
 std::optional<ContextReading::Turn> ContextReader::lastTurn(Folder& folder,
                                                             const FolderChanges::Changes& changes) {
     const std::vector<ReadTranscript> before = std::exchange(folder.read, {});

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "base/Date.h"
-#include "monitor/Transcript.h"
-#include "monitor/Transcripts.h"
+#include "monitor/TranscriptFinder.h"
+#include "monitor/TranscriptParser.h"
 
 #include <QByteArray>
 #include <QByteArrayList>
@@ -13,7 +13,7 @@
 
 namespace ravelo {
 
-/// What Claude Code's files say of the newest session.
+/// The newest session, according to Claude Code's files.
 struct ContextReading {
     struct Turn {
         TurnUsage usage;
@@ -22,16 +22,16 @@ struct ContextReading {
         friend bool operator==(const Turn&, const Turn&) = default;
     };
 
-    std::optional<qint64> limit; ///< Where the settings have one.
-    std::optional<Turn> turn;    ///< Where there is one that counts.
+    std::optional<qint64> limit; ///< If set by the user.
+    std::optional<Turn> turn;    ///< If there is one that counts.
+    bool installed = false;      ///< One of Claude Code's folders, or its program, is there.
 };
 
-/// Reads the files, and none again that could be read and has not changed. One thread, whichever;
-/// blocks on the disk.
+/// Reads the files again only if they have changed. Any one thread; blocks on the disk.
 class ContextReader {
 public:
-    /// `home` is the user's home folder. `otherFolders` may hold Claude Code's files too, and are
-    /// looked at in their order if no turn is found below `home`.
+    /// `home` is the user's home folder. `otherFolders` are searched in their order if there is no
+    /// turn below `home`.
     ContextReader(const QByteArray& home, std::unique_ptr<FolderChanges> changes,
                   const QByteArrayList& otherFolders = {});
 
@@ -52,13 +52,13 @@ private:
         std::optional<TurnUsage> usage;
     };
 
-    /// A folder of Claude Code's, and what was read of it.
+    /// One of Claude Code's folders and what was read from it.
     struct Folder {
         QByteArray settingsPath;
         std::optional<Stamp> settingsStamp;
         std::optional<qint64> limit;
-        Transcripts transcripts;
-        std::vector<ReadTranscript> read; ///< Those of the last look.
+        TranscriptFinder transcripts;
+        std::vector<ReadTranscript> read; ///< By the last call.
     };
 
     static void readSettings(Folder& folder);
@@ -67,6 +67,7 @@ private:
 
     std::unique_ptr<FolderChanges> changes_;
     std::vector<Folder> folders_;
+    QByteArrayList signs_; ///< Paths of which one is there if Claude Code is.
 };
 
 } // namespace ravelo

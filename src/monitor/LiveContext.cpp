@@ -1,7 +1,6 @@
 #include "monitor/LiveContext.h"
 
 #include "base/Scheduler.h"
-#include "monitor/MonitorPlatform.h"
 #include "platform/DetachedJobs.h"
 #include "platform/FolderChanges.h"
 
@@ -30,15 +29,15 @@ LiveContext::LiveContext(Services services, const QByteArray& home,
 
 LiveContext::~LiveContext() = default;
 
-LiveContext& LiveContext::shared() {
-    static LiveContext* const instance = monitorPlatform().makeLiveContext().release();
+LiveContext& LiveContext::shared(const std::function<std::unique_ptr<LiveContext>()>& make) {
+    static LiveContext* const instance = make().release();
     return *instance;
 }
 
 void LiveContext::refresh() {
     peak_ = PeakInfo::at(services_.scheduler.now());
     if (reading_) {
-        tell();
+        notify();
         return;
     }
     auto reading = std::make_shared<std::optional<ContextReading>>();
@@ -46,24 +45,25 @@ void LiveContext::refresh() {
                                   [this, reading] {
                                       reading_.reset();
                                       if (*reading) {
-                                          take(**reading);
-                                      } else { // Nobody has looked: all stays as it is.
-                                          tell();
+                                          apply(**reading);
+                                      } else { // Not read: everything stays as it is.
+                                          notify();
                                       }
                                   });
 }
 
-void LiveContext::take(const ContextReading& reading) {
+void LiveContext::apply(const ContextReading& reading) {
+    installed_ = reading.installed;
     limit_ = reading.limit.value_or(usualLimit);
     if (reading.turn) {
         model_ = prettyModel(reading.turn->usage.model);
         used_ = reading.turn->usage.tokens;
         lastActivity_ = reading.turn->modified;
     }
-    tell();
+    notify();
 }
 
-void LiveContext::tell() {
+void LiveContext::notify() {
     Q_EMIT changed();
     if (onChange) {
         onChange();
@@ -74,7 +74,7 @@ QString LiveContext::shortCount(qint64 tokens) {
     if (tokens < million) {
         return QString::number(std::llround(static_cast<double>(tokens) / 1000)) + u'k';
     }
-    // Unlike Qt, rounds a tie as printf does, and unlike printf knows no locale.
+    // Rounds ties like printf, unlike Qt, but without its locale.
     std::array<char, 32> text = {};
     const auto end = std::to_chars(text.begin(), text.end(), static_cast<double>(tokens) / million,
                                    std::chars_format::fixed, 1);

@@ -17,13 +17,13 @@ class DetachedJobs;
 class FolderChanges;
 class Scheduler;
 
-/// How full the context of the newest Claude Code session is, looked up every five seconds. What
-/// is not found leaves the last reading as it is. Main thread, which never waits for a file.
+/// How full the context of the newest Claude Code session is, updated every five seconds. If
+/// nothing is found, the last reading stays. Main thread; never waits for a file.
 class LiveContext : public QObject {
     Q_OBJECT
 
 public:
-    /// Tokens in the context of every model where the user has set no limit.
+    /// Tokens; for every model, unless the user has set a limit.
     static constexpr qint64 usualLimit = 1'000'000;
 
     /// Both outlive it.
@@ -32,13 +32,14 @@ public:
         DetachedJobs& jobs; ///< For what looks at files.
     };
 
-    /// Begins at once to read below `home`, the user's home folder; see ContextReader.
+    /// Starts reading at once; see ContextReader.
     LiveContext(Services services, const QByteArray& home, std::unique_ptr<FolderChanges> changes,
                 const QByteArrayList& otherFolders = {});
     ~LiveContext() override;
 
-    /// The process's own, made at its first use and never destroyed; see MonitorPlatform.
-    [[nodiscard]] static LiveContext& shared();
+    /// The process's own: the first call makes it, and nothing destroys it or what it is made from.
+    [[nodiscard]] static LiveContext&
+    shared(const std::function<std::unique_ptr<LiveContext>()>& make);
 
     /// For display: "Opus 4.6". Empty until a session was found.
     [[nodiscard]] const QString& model() const { return model_; }
@@ -46,29 +47,31 @@ public:
     /// Tokens.
     [[nodiscard]] qint64 used() const { return used_; }
 
-    /// Tokens; whatever the user has set, also nonsense.
+    /// Tokens; what the user has set is not validated.
     [[nodiscard]] qint64 limit() const { return limit_; }
 
     [[nodiscard]] const std::optional<Date>& lastActivity() const { return lastActivity_; }
 
+    /// Whether Claude Code is on this computer; yes until somebody has looked.
+    [[nodiscard]] bool installed() const { return installed_; }
+
     [[nodiscard]] const PeakInfo& peak() const { return peak_; }
 
-    /// Looks everything up anew. The files are read elsewhere and their news come later; while they
-    /// are being read they are not read once more.
+    /// Updates everything. Files are read on another thread, one read at a time.
     void refresh();
 
     /// At the end of every refresh.
     std::function<void()> onChange;
 
-    /// A count of tokens in short: "12k", "1.2M".
+    /// A short form of a count of tokens: "12k", "1.2M".
     [[nodiscard]] static QString shortCount(qint64 tokens);
 
 Q_SIGNALS:
     void changed();
 
 private:
-    void take(const ContextReading& reading);
-    void tell();
+    void apply(const ContextReading& reading);
+    void notify();
 
     Services services_;
     QString model_;
@@ -76,7 +79,8 @@ private:
     qint64 limit_ = usualLimit;
     std::optional<Date> lastActivity_;
     PeakInfo peak_;
-    std::shared_ptr<ContextReader> reader_; ///< At work elsewhere while `reading_` is there.
+    bool installed_ = true;
+    std::shared_ptr<ContextReader> reader_; ///< In use by another thread while `reading_` is set.
     Handle reading_;
     Handle timer_;
 };

@@ -10,7 +10,7 @@ namespace {
 
 constexpr int firstHour = 8;
 constexpr int endHour = 14;
-constexpr int longestSearch = 8; ///< Days; a weekend is never that long.
+constexpr int maxSearch = 8; ///< Days; no weekend is that long.
 
 const QTimeZone& newYork() {
     static const QTimeZone zone("America/New_York");
@@ -33,13 +33,13 @@ PeakInfo PeakInfo::at(Date now) {
         now < ravelo::at(endHour, today)) {
         return {true, ravelo::at(endHour, today)};
     }
-    for (int i = 0; i <= longestSearch; ++i) {
+    for (int i = 0; i <= maxSearch; ++i) {
         const QDate day = today.addDays(i);
         if (isWeekday(day) && ravelo::at(firstHour, day) > now) {
             return {false, ravelo::at(firstHour, day)};
         }
     }
-    return {false, now}; // Only where the system knows no New York.
+    return {false, now}; // Only if the system lacks the time zone.
 }
 
 QString PeakInfo::label(Date now, const QLocale& locale, const QTimeZone& zone) const {
@@ -53,8 +53,8 @@ QString PeakInfo::label(Date now, const QLocale& locale, const QTimeZone& zone) 
 QString dur(double seconds) {
     constexpr qint64 hour = 60;
     constexpr qint64 day = 24 * hour;
-    constexpr double longest = 1e15; // Minutes; what a number of whole ones can hold.
-    const auto minutes = static_cast<qint64>(std::clamp(seconds / 60, 0.0, longest));
+    constexpr double maxMinutes = 1e15; // Fits into 64 bits.
+    const auto minutes = static_cast<qint64>(std::clamp(seconds / 60, 0.0, maxMinutes));
     if (minutes >= day) {
         return u"%1d %2h"_s.arg(minutes / day).arg(minutes % day / hour);
     }

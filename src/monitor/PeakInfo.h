@@ -8,23 +8,21 @@
 
 namespace ravelo {
 
-/// Whether the provider's peak hours are on: Monday to Friday from 08:00 to 14:00 in New York, by
-/// the clock there (IANA time zone America/New_York).
+/// The provider's peak hours: Monday to Friday, 08:00 to 14:00 in America/New_York.
 struct PeakInfo {
     bool isPeak = false;
-    Date transition; ///< The end of the peak, or, off peak, the begin of the next.
+    Date transition; ///< The end of this peak or the start of the next.
 
     [[nodiscard]] static PeakInfo at(Date now);
 
-    /// In one line, with the time of day as the user's clock in `zone` shows it.
+    /// One line, with the time of day in `zone`.
     [[nodiscard]] QString label(Date now, const QLocale& locale,
                                 const QTimeZone& zone = QTimeZone::systemTimeZone()) const;
 
     friend bool operator==(const PeakInfo&, const PeakInfo&) = default;
 };
 
-/// Time that is left, cut to its two largest units: "2d 17h", "5h 7m", "42m". "0m" where it is
-/// over.
+/// Remaining time in its two largest units: "2d 17h", "5h 7m", "42m". "0m" if there is none.
 [[nodiscard]] QString dur(double seconds);
 
 } // namespace ravelo

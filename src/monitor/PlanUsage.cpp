@@ -1,6 +1,5 @@
 #include "monitor/PlanUsage.h"
 
-#include "monitor/MonitorPlatform.h"
 #include "monitor/UsageFile.h"
 #include "platform/DetachedJobs.h"
 
@@ -16,7 +15,7 @@ namespace {
 
 constexpr Seconds interval(5);
 constexpr Seconds fetchSpacing(90);
-constexpr Seconds longestSpacing(1800);
+constexpr Seconds maxSpacing(1800);
 
 } // namespace
 
@@ -32,8 +31,8 @@ PlanUsage::PlanUsage(UsageQuery::Services services, const QByteArray& home,
 
 PlanUsage::~PlanUsage() = default;
 
-PlanUsage& PlanUsage::shared() {
-    static PlanUsage* const instance = monitorPlatform().makePlanUsage().release();
+PlanUsage& PlanUsage::shared(const std::function<std::unique_ptr<PlanUsage>()>& make) {
+    static PlanUsage* const instance = make().release();
     return *instance;
 }
 
@@ -54,14 +53,14 @@ void PlanUsage::refresh() {
 }
 
 void PlanUsage::fetchLive() {
-    query_.queryAPI([this](const UsageQuery::Outcome& outcome) { take(outcome); });
+    query_.queryAPI([this](const UsageQuery::Outcome& outcome) { handle(outcome); });
 }
 
-void PlanUsage::take(const UsageQuery::Outcome& outcome) {
+void PlanUsage::handle(const UsageQuery::Outcome& outcome) {
     fetching_ = false;
     liveOK_ = outcome.windows.has_value();
     if (outcome.tooMany) {
-        spacing_ = std::min(2 * spacing_, longestSpacing);
+        spacing_ = std::min(2 * spacing_, maxSpacing);
         notBefore_ = services_.scheduler.uptime() + *outcome.tooMany;
     }
     if (outcome.windows) {

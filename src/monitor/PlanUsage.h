@@ -5,34 +5,35 @@
 
 #include <QObject>
 
+#include <functional>
+#include <memory>
 #include <optional>
 
 namespace ravelo {
 
-/// How much of the plan's two windows is used up: asked for every 90 seconds or a little later,
-/// less often if the provider finds that too often, and, while asking fails, read from the file
-/// "~/.ravelo/usage.json" every five seconds unless that is older than the last answer. What fails
-/// leaves all as it was. Main thread.
+/// How much of the plan's two windows is used up. Queried every 90 seconds, or less often if the
+/// provider refuses that; while queries fail, read from "~/.ravelo/usage.json" every five seconds,
+/// unless the file is older than the last answer. A failure changes nothing. Main thread.
 class PlanUsage : public QObject {
     Q_OBJECT
 
 public:
-    /// Begins at once. `home` is the user's home folder; for the others see UsageQuery.
+    /// Starts at once. `home` is the user's home folder; see UsageQuery.
     PlanUsage(UsageQuery::Services services, const QByteArray& home,
               UsageQuery::Endpoint endpoint = provider(), const QByteArrayList& otherFolders = {});
     ~PlanUsage() override;
 
-    /// The process's own, made at its first use and never destroyed; see MonitorPlatform.
-    [[nodiscard]] static PlanUsage& shared();
+    /// The process's own: the first call makes it, and nothing destroys it or what it is made from.
+    [[nodiscard]] static PlanUsage& shared(const std::function<std::unique_ptr<PlanUsage>()>& make);
 
-    /// Where the real numbers are.
+    /// The provider's API.
     [[nodiscard]] static UsageQuery::Endpoint provider();
 
     [[nodiscard]] const std::optional<UsageWindow>& session() const { return windows_.session; }
 
     [[nodiscard]] const std::optional<UsageWindow>& week() const { return windows_.week; }
 
-    /// A query is on its way.
+    /// A query is running.
     [[nodiscard]] bool fetching() const { return fetching_; }
 
     /// The last query succeeded.
@@ -41,12 +42,12 @@ public:
     void refresh();
 
 Q_SIGNALS:
-    /// The windows were set, also where they stayed the same.
+    /// The windows were set, even to the same values.
     void changed();
 
 private:
     void fetchLive();
-    void take(const UsageQuery::Outcome& outcome);
+    void handle(const UsageQuery::Outcome& outcome);
     void readFile();
     void set(const PlanWindows& windows);
 
@@ -55,9 +56,9 @@ private:
     UsageQuery query_;
     PlanWindows windows_;
     std::optional<Seconds> lastFetch_; ///< Uptime.
-    Seconds spacing_;                  ///< Of fetches, at least.
-    Seconds notBefore_{0};             ///< Uptime; no fetch earlier.
-    std::optional<Date> liveAt_;       ///< When the last query succeeded.
+    Seconds spacing_;                  ///< Minimum time between fetches.
+    Seconds notBefore_{0};             ///< Uptime of the earliest next fetch.
+    std::optional<Date> liveAt_;       ///< Time of the last success.
     bool fetching_ = false;
     bool liveOK_ = false;
     Handle reading_; ///< Of the file.

@@ -19,8 +19,8 @@ using namespace Qt::StringLiterals;
 namespace {
 
 QJsonValue json(const std::optional<Date>& date) {
-    constexpr double longest = 2.5e11; // Seconds; what has a year of four digits is nearer.
-    if (!date || std::abs(date->sinceReference) > longest) {
+    constexpr double maxSeconds = 2.5e11; // Seconds; keeps the year at four digits.
+    if (!date || std::abs(date->sinceReference) > maxSeconds) {
         return QJsonValue::Null;
     }
     return toDateTime(*date).toUTC().toString(Qt::ISODate);

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 largest = qint64(1) << 20;
+constexpr qint64 maxSize = qint64(1) << 20;
 constexpr double nanosecond = 1e-9;
 
 QByteArray folder(const QByteArray& home) {
@@ -27,8 +27,8 @@ QByteArray file(const QByteArray& home) {
 } // namespace
 
 std::optional<PlanWindows> loadUsage(const QByteArray& home) {
-    const std::optional<QByteArray> bytes = readFileEnd(file(home), largest + 1);
-    return bytes && bytes->size() <= largest ? readUsageFile(*bytes) : std::nullopt;
+    const std::optional<QByteArray> bytes = readFileEnd(file(home), maxSize + 1);
+    return bytes && bytes->size() <= maxSize ? readUsageFile(*bytes) : std::nullopt;
 }
 
 std::optional<Date> usageWritten(const QByteArray& home) {
@@ -44,10 +44,10 @@ std::optional<Date> usageWritten(const QByteArray& home) {
 Result<void> storeUsage(const QByteArray& home, const QByteArray& statusLine) {
     const std::optional<QByteArray> kept = usageFileOf(statusLine);
     if (!kept) {
-        return failure(u"there are no rate limits in what was given"_s);
+        return failure(u"the input has no rate limits"_s);
     }
     const QString own = QFile::decodeName(folder(home));
-    if (!QFile::exists(own)) { // Who made it before chose its rights.
+    if (!QFile::exists(own)) { // Otherwise its permissions are the choice of whoever created it.
         makePrivateFolder(own);
     }
     const QString path = QFile::decodeName(file(home));

@@ -16,8 +16,8 @@ namespace {
 
 constexpr double renewBefore = 600; ///< Seconds until the token expires.
 constexpr Seconds renewSpacing(1200);
-constexpr Seconds longestRenewal(600); ///< Longer than any prompt of one full stop takes.
-constexpr qint64 largestAnswer = qint64(1) << 20;
+constexpr Seconds maxRenewal(600); ///< No one-character prompt takes that long.
+constexpr qint64 maxAnswer = qint64(1) << 20;
 constexpr int ok = 200;
 constexpr int unauthorized = 401;
 constexpr int tooManyRequests = 429;
@@ -42,20 +42,22 @@ void UsageQuery::queryAPI(Done done) {
     });
 }
 
-void UsageQuery::readFiles(const QByteArrayList& folders, TakeCredentials take) {
+void UsageQuery::readFiles(const QByteArrayList& folders, HandleCredentials handle) {
     auto credentials = std::make_shared<std::optional<Credentials>>();
     step_ = services_.jobs.run(
         [credentials, folders] {
             for (const QByteArray& folder : folders) {
-                const Secret file(readFileEnd(folder + "/.credentials.json", largestAnswer)
-                                      .value_or(QByteArray()));
+                const Secret file(
+                    readFileEnd(folder + "/.credentials.json", maxAnswer).value_or(QByteArray()));
                 *credentials = readCredentials(file.bytes());
                 if (*credentials) {
                     break;
                 }
             }
         },
-        [credentials, take = std::move(take)] { take(std::exchange(*credentials, std::nullopt)); });
+        [credentials, handle = std::move(handle)] {
+            handle(std::exchange(*credentials, std::nullopt));
+        });
 }
 
 void UsageQuery::askKeyring() {
@@ -78,7 +80,7 @@ void UsageQuery::useCredentials(const std::optional<Credentials>& credentials) {
     }
     const double now = services_.scheduler.now().sinceReference + referenceInstant;
     if (credentials->expiresAt && *credentials->expiresAt - now < renewBefore) {
-        // The token at hand still serves this time.
+        // The old token is still used this time.
         renewViaCLI([this, token = credentials->accessToken] { request(token); });
     } else {
         request(credentials->accessToken);
@@ -89,15 +91,15 @@ void UsageQuery::request(const Secret& token) {
     const HttpsRequest request{endpoint_.url,
                                {{"anthropic-beta", "oauth-2025-04-20"}},
                                Secret("Bearer " + token.bytes()),
-                               endpoint_.timeOut,
-                               largestAnswer};
+                               endpoint_.timeout,
+                               maxAnswer};
     step_ = services_.https.get(request, [this](const std::optional<HttpsAnswer>& answer) {
-        step_.reset(); // With it the token goes.
-        takeAnswer(answer);
+        step_.reset(); // Erases the token.
+        handleAnswer(answer);
     });
 }
 
-void UsageQuery::takeAnswer(const std::optional<HttpsAnswer>& answer) {
+void UsageQuery::handleAnswer(const std::optional<HttpsAnswer>& answer) {
     const int status = answer ? answer->status : 0;
     if (status == unauthorized) {
         renewViaCLI([this] { finish({}); });
@@ -117,12 +119,12 @@ void UsageQuery::renewViaCLI(std::function<void()> then) {
     lastRenew_ = now;
     afterRenewal_ = std::move(then);
     const auto goOn = [this] {
-        patience_.reset();
+        renewalTimeout_.reset();
         if (const auto next = std::exchange(afterRenewal_, nullptr)) {
             next();
         }
     };
-    patience_ = services_.scheduler.after(longestRenewal, goOn);
+    renewalTimeout_ = services_.scheduler.after(maxRenewal, goOn);
     renewal_ = services_.children.run(
         home_ + "/.local/bin/claude",
         {"-p", ".", "--model", "claude-haiku-4-5-20251001", "--max-turns", "1"}, [this, goOn] {

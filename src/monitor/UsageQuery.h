@@ -17,15 +17,14 @@ class ChildProcess;
 class DetachedJobs;
 class SecretStore;
 
-/// Asks the provider how much of the plan is used, in the name of the user: with the access token
-/// that Claude Code keeps, which goes nowhere but into this one request, and is renewed by Claude
-/// Code itself. Main thread; nothing here waits.
+/// Queries the provider for the plan's usage, with Claude Code's access token. The token is used
+/// for this request only and renewed by Claude Code itself. Main thread; never waits.
 class UsageQuery {
 public:
-    /// All of it outlives the query.
+    /// Outlive the query.
     struct Services {
         Scheduler& scheduler;
-        DetachedJobs& jobs; ///< For what looks at files.
+        DetachedJobs& jobs; ///< For reading files.
         SecretStore& secrets;
         HttpsClient& https;
         ChildProcess& children;
@@ -33,32 +32,31 @@ public:
 
     struct Endpoint {
         QUrl url;
-        Seconds timeOut;
+        Seconds timeout;
     };
 
-    /// `otherFolders` are looked in for credentials after the usual folder and the keyring.
+    /// `otherFolders` are searched for credentials after the usual folder and the keyring.
     UsageQuery(Services services, QByteArray home, Endpoint endpoint, QByteArrayList otherFolders);
 
     struct Outcome {
-        std::optional<PlanWindows> windows; ///< None if there is no answer that makes sense.
-        /// If the provider finds that it is asked too often: how long it wants to be left alone,
-        /// zero if it does not say.
+        std::optional<PlanWindows> windows; ///< None if there was no valid answer.
+        /// If the provider refuses so many requests: how long to wait, or zero if it did not say.
         std::optional<Seconds> tooMany;
     };
 
     using Done = std::function<void(const Outcome&)>;
 
-    /// Calls `done` once. One query at a time; not told any more when this object is gone.
+    /// Calls `done` once, unless this object is destroyed before. One query at a time.
     void queryAPI(Done done);
 
 private:
-    using TakeCredentials = std::function<void(const std::optional<Credentials>&)>;
+    using HandleCredentials = std::function<void(const std::optional<Credentials>&)>;
 
-    void readFiles(const QByteArrayList& folders, TakeCredentials take);
+    void readFiles(const QByteArrayList& folders, HandleCredentials handle);
     void askKeyring();
     void useCredentials(const std::optional<Credentials>& credentials);
     void request(const Secret& token);
-    void takeAnswer(const std::optional<HttpsAnswer>& answer);
+    void handleAnswer(const std::optional<HttpsAnswer>& answer);
     void renewViaCLI(std::function<void()> then);
     void finish(const Outcome& outcome);
 
@@ -69,8 +67,8 @@ private:
     Done done_;
     std::optional<Seconds> lastRenew_; ///< Uptime.
     Handle step_;
-    Handle renewal_;  ///< For as long as the child lives: never are there two.
-    Handle patience_; ///< With a renewal.
+    Handle renewal_;        ///< As long as the child lives, so that there is only one.
+    Handle renewalTimeout_; ///< Stops waiting for the renewal.
     std::function<void()> afterRenewal_;
 };
 

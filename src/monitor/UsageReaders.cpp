@@ -23,7 +23,7 @@ QJsonDocument parse(QByteArrayView json) {
     return QJsonDocument::fromJson(QByteArray::fromRawData(json.data(), json.size()));
 }
 
-/// An Internet date and time (RFC 3339) that has a fraction of the second.
+/// An RFC 3339 time with a fraction of a second.
 std::optional<Date> parseTime(const QString& text) {
     static const QRegularExpression form(
         u"\\A([0-9]{4}-[0-9]{2}-[0-9]{2}T(?:[01][0-9]|2[0-3]):[0-9]{2}:[0-9]{2})(\\.[0-9]+)"
@@ -61,14 +61,14 @@ bool isDigit(char c) {
     return c >= '0' && c <= '9';
 }
 
-/// Printable and without blanks: nothing that would end the header it is sent in. Nobody escapes
-/// what such text consists of, so a backslash is not expected either.
+/// Printable and without blanks, so that it cannot end the header that it is sent in. Such text
+/// needs no escapes in JSON, so there is no backslash either.
 bool isToken(QByteArrayView text) {
     return !text.isEmpty() && std::all_of(text.begin(), text.end(),
                                           [](char c) { return c > ' ' && c <= '~' && c != '\\'; });
 }
 
-/// What is between the quotes of the string that starts at `start`; to the end if it is not closed.
+/// The contents of the string that starts at `start`; up to the end if it is not closed.
 QByteArrayView stringAt(QByteArrayView json, qsizetype start) {
     qsizetype end = start + 1;
     while (end < json.size() && json[end] != '"') {
@@ -77,11 +77,11 @@ QByteArrayView stringAt(QByteArrayView json, qsizetype start) {
     return json.sliced(start + 1, std::min(end, json.size()) - start - 1);
 }
 
-/// Credentials without the contents of any string but the names: Qt's parser would leave copies in
-/// memory that is never erased.
+/// Credentials without the contents of strings other than names, because Qt's parser would leave
+/// copies of them in memory.
 struct Redacted {
-    QByteArray json;               ///< Instead of each string its number below.
-    QList<QByteArrayView> strings; ///< As in the original.
+    QByteArray json;               ///< Each string is replaced by its index in `strings`.
+    QList<QByteArrayView> strings; ///< Parts of the original.
 };
 
 Redacted redacted(QByteArrayView json) {
@@ -145,7 +145,7 @@ std::optional<QByteArray> usageFileOf(QByteArrayView statusLine) {
 }
 
 Seconds readRetryAfter(const QByteArray& header, Date now) {
-    constexpr double longest = 86400;
+    constexpr double maxDelay = 86400;
     const QByteArray text = header.trimmed();
     double seconds = 0;
     if (!text.isEmpty() && std::all_of(text.begin(), text.end(), isDigit)) {
@@ -156,7 +156,7 @@ Seconds readRetryAfter(const QByteArray& header, Date now) {
         date.setTimeSpec(Qt::UTC);
         seconds = date.isValid() ? toDate(date).sinceReference - now.sinceReference : 0;
     }
-    return Seconds(std::clamp(seconds, 0.0, longest));
+    return Seconds(std::clamp(seconds, 0.0, maxDelay));
 }
 
 std::optional<Credentials> readCredentials(QByteArrayView json) {

@@ -7,33 +7,33 @@
 #include <QByteArray>
 #include <QByteArrayView>
 
-// The two forms in which the plan's usage is told, and the credentials to ask for it. Pure
-// functions on JSON (RFC 8259).
+// The two formats of the plan's usage, and the credentials for querying it. Pure functions on JSON
+// (RFC 8259).
 
 namespace ravelo {
 
-/// What the provider answers: percents, and times as RFC 3339 with a fraction of the second; a time
-/// in another form counts as not told. Nothing where it is no object.
+/// The provider's answer: percentages, and times as RFC 3339 with a fraction of a second; a time in
+/// another form counts as missing. Nothing if it is not an object.
 [[nodiscard]] std::optional<PlanWindows> readUsageAnswer(QByteArrayView json);
 
-/// What the usage file holds, in the form of Claude Code's status line: percents, and times in
-/// seconds since 1970. Nothing where it has no "rate_limits".
+/// The usage file, in the format of Claude Code's status line: percentages, and times in seconds
+/// since 1970. Nothing if it has no "rate_limits".
 [[nodiscard]] std::optional<PlanWindows> readUsageFile(QByteArrayView json);
 
-/// What of Claude Code's status line belongs into the usage file, and nothing else of it: the parts
-/// that `readUsageFile` reads. Nothing where it has no "rate_limits".
+/// The parts of Claude Code's status line that `readUsageFile` reads, and nothing else. Nothing if
+/// it has no "rate_limits".
 [[nodiscard]] std::optional<QByteArray> usageFileOf(QByteArrayView statusLine);
 
-/// How long a server wants to be left alone, from its header Retry-After (RFC 9110): a number of
-/// seconds or a date. Never more than a day; zero if the header makes no sense.
+/// The delay that a Retry-After header (RFC 9110) asks for, as a number of seconds or a date. At
+/// most a day; zero if the header is malformed.
 [[nodiscard]] Seconds readRetryAfter(const QByteArray& header, Date now);
 
 struct Credentials {
-    Secret accessToken;              ///< Fit for an HTTP header.
+    Secret accessToken;              ///< Valid in an HTTP header.
     std::optional<double> expiresAt; ///< Seconds since 1970.
 };
 
-/// As Claude Code keeps them. Nothing where it is logged out. Leaves no copy of a token behind.
+/// From Claude Code's file. Nothing if logged out. Leaves no copy of the token behind.
 [[nodiscard]] std::optional<Credentials> readCredentials(QByteArrayView json);
 
 } // namespace ravelo

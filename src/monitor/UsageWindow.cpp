@@ -14,18 +14,23 @@ bool resetHasPassed(const std::optional<UsageWindow>& window, Date now) {
 }
 
 QString percentText(const std::optional<UsageWindow>& window) {
-    constexpr double largest = 1e15; // What a whole number can hold.
-    return window ? QString::number(std::llround(std::clamp(window->pct, -largest, largest))) + u'%'
-                  : u"\u2014"_s;
+    constexpr double maxPercent = 1e15; // Fits into 64 bits.
+    return window
+               ? QString::number(std::llround(std::clamp(window->pct, -maxPercent, maxPercent))) +
+                     u'%'
+               : u"\u2014"_s;
 }
 
-QString resetText(const std::optional<UsageWindow>& window, Date now) {
+QString timeLeftText(const std::optional<UsageWindow>& window, Date now) {
     if (!window) {
         return u"sem dados"_s;
     }
-    return window->resets
-               ? u"reseta em "_s + dur(window->resets->sinceReference - now.sinceReference)
-               : QString();
+    return window->resets ? dur(window->resets->sinceReference - now.sinceReference) : QString();
+}
+
+QString resetText(const std::optional<UsageWindow>& window, Date now) {
+    const QString left = timeLeftText(window, now);
+    return window && window->resets ? u"reseta em "_s + left : left;
 }
 
 } // namespace ravelo

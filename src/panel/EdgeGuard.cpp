@@ -14,8 +14,9 @@ constexpr double guardedHeight = 10;
 constexpr double guardedHalfWidth = 450;
 
 QRectF guardedStrip(const Screen& main) {
-    return {main.frame.center().x() - guardedHalfWidth, main.frame.top(), 2 * guardedHalfWidth,
-            guardedHeight};
+    const QRectF strip(main.frame.center().x() - guardedHalfWidth, main.frame.top(),
+                       2 * guardedHalfWidth, guardedHeight);
+    return strip & main.frame; // A narrow monitor may have a neighbour.
 }
 
 } // namespace

@@ -18,8 +18,9 @@ public:
     /// Where a button went down.
     void pressed(Place place) { place_ = place; }
 
-    /// To be asked at every tick while the panel is closed; `over`: the pointer is in the zone.
-    [[nodiscard]] bool opens(bool over, Press press) {
+    /// At every tick while the panel is closed. Returns whether the panel opens; `over`: the
+    /// pointer is in the zone.
+    [[nodiscard]] bool update(bool over, Press press) {
         if (press == Press::none) {
             place_ = Place::elsewhere;
         }

@@ -30,9 +30,6 @@ constexpr Seconds timerEndTime{5};
 constexpr Seconds grabPatience{0.4};
 constexpr Seconds grabInterval{0.04};
 
-/// A locker takes the input right after it has shown its window; a slow one, a little later.
-constexpr Seconds firstTakenLook{0.005};
-constexpr Seconds lastTakenLook{0.32};
 constexpr Seconds hiddenWhenTaken{1};
 
 } // namespace
@@ -45,7 +42,9 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
       services_(std::move(services)),
       guard_(services_.scheduler, services_.screens, services_.drags, services_.barrier),
       drop_(services_.drags, services_.transfers),
-      tick_(services_.scheduler, services_.pointer, rest, [this] { return evaluateHover(); }) {
+      tick_(services_.scheduler, services_.pointer, rest, [this] { return evaluateHover(); }),
+      takenInput_(services_.scheduler, services_.inputGrab,
+                  [this] { return hideIfInputIsTaken(); }) {
     idleDragCount_ = services_.drags.changeCount();
     guard_.start();
     connect(&store_, &Store::shelfChanged, this, &NotchController::resizeForShelf);
@@ -59,8 +58,6 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
     for (SessionLock* const lock : services_.locks) {
         lockMonitors_.push_back(lock->onChange([this] { lockChanged(); }));
     }
-    inputMonitor_ =
-        services_.inputGrab.onLikelyTaken([this] { hideIfInputIsTaken(firstTakenLook); });
     lockChanged();
     HotKeyCenter::shared().release();
     store_.onTimerChange = [this] {
@@ -125,7 +122,7 @@ void NotchController::evaluateCollapsed(bool inZone, const Screen& screen,
         return;
     }
     const bool over = inZone || isOver(frame_, pointer);
-    if (!hold_.opens(over, pressOf(pointer))) {
+    if (!hold_.update(over, pressOf(pointer))) {
         stripTicks_ = 0;
         return;
     }
@@ -221,7 +218,7 @@ void NotchController::pressedSomewhere() {
     tick_.wake();
     const bool onPanel = isOver(frame_, look());
     hold_.pressed(onPanel ? HoverHold::Place::panel : HoverHold::Place::elsewhere);
-    if (isOpen_ && !onPanel) {
+    if (isOpen_ && !onPanel && !services_.pointer.isOverOwnWindow()) {
         collapse();
     }
 }
@@ -332,18 +329,24 @@ void NotchController::positionExpanded() {
 }
 
 void NotchController::placeExpanded(const Screen& screen) {
-    const QSizeF size = sizeToOpenWith();
+    const QSizeF size = sizeOn(screen);
     setFrame(screen, size, panelOutline(size));
 }
 
-QSizeF NotchController::sizeToOpenWith() const {
+QSizeF NotchController::sizeToOpenWith() {
+    const auto on = screen();
+    return on ? sizeOn(*on) : QSizeF();
+}
+
+QSizeF NotchController::sizeOn(const Screen& screen) const {
     const bool empty = store_.shelf().stacks.isEmpty();
-    return expandedSize(settings_.panelWidth(), empty ? ShelfContent::none : ShelfContent::files);
+    return expandedSize(settings_.panelWidth(), empty ? ShelfContent::none : ShelfContent::files,
+                        screen);
 }
 
 void NotchController::resizeForShelf() {
     const auto on = screen();
-    if (isOpen_ && on && std::abs(sizeToOpenWith().height() - frame_.height()) > 1) {
+    if (isOpen_ && on && std::abs(sizeOn(*on).height() - frame_.height()) > 1) {
         placeExpanded(*on);
     }
 }
@@ -359,19 +362,17 @@ bool NotchController::isInputHeld(const PointerState& pointer) {
            !(isDragOn(pointer) && !services_.drags.files().value_or(QList<QUrl>()).isEmpty());
 }
 
-/// Looks now and, if nothing is taken, again after a time that doubles.
-void NotchController::hideIfInputIsTaken(Seconds nextLook) {
-    takenWork_.reset();
+TakenInput::Look NotchController::hideIfInputIsTaken() {
     if (!isOpen_) {
-        return;
+        return TakenInput::Look::enough;
     }
-    if (isInputHeld(look())) {
-        hide();
-        takenWork_ = services_.scheduler.after(hiddenWhenTaken, [this] { lockChanged(); });
-    } else if (nextLook <= lastTakenLook) {
-        takenWork_ = services_.scheduler.after(
-            nextLook, [this, nextLook] { hideIfInputIsTaken(2 * nextLook); });
+    if (!isInputHeld(look())) {
+        return TakenInput::Look::again;
     }
+    hide();
+    // What took the input says nothing when it gives it back, and may have been a menu.
+    reappearWork_ = services_.scheduler.after(hiddenWhenTaken, [this] { lockChanged(); });
+    return TakenInput::Look::enough;
 }
 
 void NotchController::hide() {

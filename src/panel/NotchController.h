@@ -5,6 +5,7 @@
 #include "panel/EdgeGuard.h"
 #include "panel/HoverHold.h"
 #include "panel/HoverTick.h"
+#include "panel/TakenInput.h"
 #include "platform/PanelWindow.h"
 #include "platform/Screens.h"
 #include "shelf/FileDrop.h"
@@ -59,8 +60,8 @@ public:
 
     [[nodiscard]] bool isOpen() const { return isOpen_; }
 
-    /// What the panel would open with, in logical pixels.
-    [[nodiscard]] QSizeF sizeToOpenWith() const;
+    /// What the panel would open with, in logical pixels; empty without a screen.
+    [[nodiscard]] QSizeF sizeToOpenWith();
 
     /// Whether the collapsed panel is the bar with the timer or the reminders, not the handle. It
     /// stays a while longer than the timer.
@@ -179,12 +180,13 @@ private:
     void scheduleClose();
     void resizeForShelf();
     [[nodiscard]] bool isLocked() const;
-    void hideIfInputIsTaken(Seconds nextLook);
+    [[nodiscard]] TakenInput::Look hideIfInputIsTaken();
     void hide();
     void lockChanged();
     void setCollapsed(const Collapsed& collapsed);
     void setFrame(const Screen& screen, QSizeF size, const QPainterPath& outline);
     void placeExpanded(const Screen& screen);
+    [[nodiscard]] QSizeF sizeOn(const Screen& screen) const;
 
     Store& store_;
     ClipboardManager& clipboard_;
@@ -208,14 +210,14 @@ private:
     EdgeGuard guard_;
     FileDrop drop_;
     HoverTick tick_;
+    TakenInput takenInput_;
     Handle closeWork_;
     Handle timerEndShown_; ///< While the bar shows it.
     Handle openWork_;      ///< Tries again to open.
-    Handle takenWork_;     ///< Looks again whether a locker has taken the input.
+    Handle reappearWork_;  ///< After the input was taken.
     Handle pressMonitor_;
     Handle screensMonitor_;
     Handle dragMonitor_;
-    Handle inputMonitor_;
     std::vector<Handle> lockMonitors_;
 };
 

@@ -21,6 +21,12 @@ double measuredNotch(const Screen& screen) {
     return std::max(0.0, screen.rightOfNotch->left() - screen.leftOfNotch->right());
 }
 
+/// In whole pixels: at a fractional scale the screen itself has none.
+QSizeF largestSize(const Screen& screen) {
+    return {std::floor(screen.frame.width() - screenMargin),
+            std::floor(screen.frame.height() - screenMargin)};
+}
+
 // QRectF::contains takes the far edges in as well: two screens side by side would share a column.
 bool contains(const QRectF& frame, QPointF point) {
     return point.x() >= frame.left() && point.x() < frame.right() && point.y() >= frame.top() &&
@@ -33,15 +39,17 @@ BarGeometry barGeometry(const Screen& screen, const QString& displayKind) {
     const double height = std::max(screen.visibleFrame.top() - screen.frame.top(), leastBarHeight);
     const double measured = measuredNotch(screen);
     const bool plain = displayKind == "none"_L1 || (displayKind != "notch"_L1 && measured <= 0);
+    const double widest = largestSize(screen).width();
     if (plain) {
-        return {plainBarWidth, height, 0};
+        return {std::min(plainBarWidth, widest), height, 0};
     }
     const double notch = measured > 0 ? measured : assumedNotch;
-    return {std::max(notchBarWidth, 3 * notch), height, notch};
+    return {std::min(std::max(notchBarWidth, 3 * notch), widest), height, notch};
 }
 
-QSizeF expandedSize(double panelWidth, ShelfContent shelf) {
-    return {panelWidth, shelf == ShelfContent::files ? 700.0 : 560.0};
+QSizeF expandedSize(double panelWidth, ShelfContent shelf, const Screen& screen) {
+    const double height = shelf == ShelfContent::files ? 700.0 : 560.0;
+    return QSizeF(panelWidth, height).boundedTo(largestSize(screen));
 }
 
 QRectF hangingFrame(const Screen& screen, QSizeF size) {

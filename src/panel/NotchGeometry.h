@@ -20,6 +20,9 @@ inline constexpr double hotZoneHalfWidth = 160;
 inline constexpr double dragZoneHeight = 140;
 inline constexpr double dragZoneHalfWidth = 300;
 
+/// How much narrower and lower than its screen the panel stays, at least.
+inline constexpr double screenMargin = 20;
+
 /// The collapsed bar that shows a timer or reminders.
 struct BarGeometry {
     double width = 0;
@@ -34,7 +37,8 @@ struct BarGeometry {
 
 enum class ShelfContent { none, files };
 
-[[nodiscard]] QSizeF expandedSize(double panelWidth, ShelfContent shelf);
+/// At most the screen less `screenMargin` in both directions.
+[[nodiscard]] QSizeF expandedSize(double panelWidth, ShelfContent shelf, const Screen& screen);
 
 /// A box of `size` hanging from the middle of the top edge of `screen`.
 [[nodiscard]] QRectF hangingFrame(const Screen& screen, QSizeF size);

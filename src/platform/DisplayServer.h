@@ -11,6 +11,7 @@
 #include "platform/Screens.h"
 #include "platform/SessionLock.h"
 #include "platform/TrayArea.h"
+#include "platform/WindowFrame.h"
 
 #include <memory>
 
@@ -19,7 +20,7 @@ class QWindow;
 namespace ravelo {
 
 /// All that one kind of display server provides; each adapter makes one. Owns what it hands out,
-/// but for panel windows, which must go before it does.
+/// but for panel windows and frames, which must go before it does.
 class DisplayServer {
 public:
     virtual ~DisplayServer() = default;
@@ -43,6 +44,9 @@ public:
 
     /// Makes the panel out of `window`, which must not have been shown yet and must outlive it.
     [[nodiscard]] virtual std::unique_ptr<PanelWindow> panelWindow(QWindow& window) = 0;
+
+    /// See MakeWindowFrame.
+    [[nodiscard]] virtual std::unique_ptr<WindowFrame> windowFrame(QWindow& window) = 0;
 };
 
 } // namespace ravelo

@@ -48,18 +48,18 @@ struct FolderNews {
     QList<FolderChange> changes;
 };
 
-/// Tells what happens to the entries of a folder, by their names' bytes, in order; not to what they
-/// contain. Main thread.
+/// Reports changes to the entries of a folder, in order and by the bytes of their names, but not to
+/// the contents of subfolders. Main thread.
 class FolderWatch {
 public:
     virtual ~FolderWatch() = default;
 
     /// Watches `path`, beginning with a listing, for as long as the handle lives. The folder may be
-    /// missing (an empty listing), come, be replaced, or be on a disk that does not answer: then
-    /// nothing is told. Never waits; what happens quickly is told together. Costs nothing while
+    /// missing (an empty listing), be created or replaced, or be on a disk that does not answer, in
+    /// which case nothing is reported. Never waits; combines quick changes. Costs nothing while
     /// nothing happens.
     [[nodiscard]] virtual Handle watch(const QByteArray& path,
-                                       std::function<void(const FolderNews&)> tell) = 0;
+                                       std::function<void(const FolderNews&)> notify) = 0;
 };
 
 } // namespace ravelo

@@ -15,27 +15,27 @@
 namespace ravelo {
 
 struct HttpsRequest {
-    QUrl url; ///< Of the scheme "https"; others are not asked for.
+    QUrl url; ///< Must begin with "https:"; others get no answer.
     QList<std::pair<QByteArray, QByteArray>> headers;
     Secret authorization; ///< The value of the header of that name; empty if there is none.
-    Seconds timeOut;      ///< For all of it, to the last byte of the answer.
-    qint64 largest = 0;   ///< Bytes of an answer; one with more counts as none.
+    Seconds timeout;      ///< For all of it, to the last byte of the answer.
+    qint64 maxBody = 0;   ///< Bytes; a longer answer counts as none.
 };
 
 struct HttpsAnswer {
-    int status = 0; ///< As in RFC 9110, also one that redirects: no redirection is followed.
+    int status = 0; ///< As in RFC 9110. Redirections are not followed.
     QByteArray body;
     QByteArray retryAfter; ///< The header of that name; empty if there is none.
 };
 
-/// Asks servers on the Internet, over TLS with certificates that the system trusts. Main thread.
+/// Sends requests over TLS, to servers with a certificate that the system trusts. Main thread.
 class HttpsClient {
 public:
     virtual ~HttpsClient() = default;
 
-    /// GET. Calls `done` once, later, with nothing where no answer came within the bounds of the
-    /// request; not where the handle was dropped. Why it failed is not told, so that nothing of a
-    /// request can get into a log.
+    /// GET. Calls `done` once, later, with nothing if there was no answer within the limits of the
+    /// request; never after the handle was dropped. Reports no reason for a failure, so that
+    /// nothing of a request can get into a log.
     [[nodiscard]] virtual Handle get(const HttpsRequest& request,
                                      std::function<void(std::optional<HttpsAnswer>)> done) = 0;
 };

@@ -30,6 +30,10 @@ public:
     /// Asks the display server; at most one round trip.
     [[nodiscard]] virtual PointerState state() = 0;
 
+    /// Whether a press now would reach a window of our own that the desktop manages. A few round
+    /// trips while there is such a window, else none.
+    [[nodiscard]] virtual bool isOverOwnWindow() = 0;
+
     /// Called for each press of the left or right button anywhere, other programs' windows
     /// included. Where a display server does not tell of such presses it is never called.
     [[nodiscard]] virtual Handle onPress(std::function<void()> callback) = 0;

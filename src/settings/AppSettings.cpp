@@ -5,6 +5,9 @@
 
 #include <QLoggingCategory>
 
+#include <algorithm>
+#include <array>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -15,6 +18,12 @@ namespace {
 double usable(const QJsonValue& value, double lowest, double highest, double standard) {
     const double number = value.toDouble(standard);
     return number >= lowest && number <= highest ? number : standard;
+}
+
+int knownLength(const QJsonValue& value) {
+    constexpr std::array known{60, 200, 1000};
+    const int length = value.toInt(known.front());
+    return std::ranges::find(known, length) != known.end() ? length : known.front();
 }
 
 } // namespace
@@ -30,6 +39,10 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       lastTab_(preferences.value(u"lastTab"_s).toString(u"Clipboard"_s)),
       pinnedBar_(preferences.value(u"pinnedBar"_s).toBool(false)),
       macType_(preferences.value(u"macType"_s).toString(u"auto"_s)),
+      newestFirst_(preferences.value(u"newestFirst"_s).toBool(false)),
+      historyLength_(knownLength(preferences.value(u"historyLength"_s))),
+      keepTextsExactly_(preferences.value(u"keepTextsExactly"_s).toBool(false)),
+      hideClaudeCode_(preferences.value(u"hideClaudeCode"_s).toBool(false)),
       onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
       launchAtLogin_(loginItem.isEnabled()) {}
 
@@ -59,6 +72,22 @@ bool AppSettings::pinnedBar() const {
 
 QString AppSettings::macType() const {
     return macType_;
+}
+
+bool AppSettings::newestFirst() const {
+    return newestFirst_;
+}
+
+int AppSettings::historyLength() const {
+    return historyLength_;
+}
+
+bool AppSettings::keepTextsExactly() const {
+    return keepTextsExactly_;
+}
+
+bool AppSettings::hideClaudeCode() const {
+    return hideClaudeCode_;
 }
 
 bool AppSettings::onboarded() const {
@@ -112,6 +141,26 @@ void AppSettings::setMacType(const QString& type) {
     if (change(macType_, type, &AppSettings::macTypeChanged) && onLayoutChange) {
         onLayoutChange();
     }
+}
+
+void AppSettings::setNewestFirst(bool on) {
+    preferences_.set(u"newestFirst"_s, on);
+    change(newestFirst_, on, &AppSettings::newestFirstChanged);
+}
+
+void AppSettings::setHistoryLength(int clips) {
+    preferences_.set(u"historyLength"_s, clips);
+    change(historyLength_, knownLength(clips), &AppSettings::historyLengthChanged);
+}
+
+void AppSettings::setKeepTextsExactly(bool on) {
+    preferences_.set(u"keepTextsExactly"_s, on);
+    change(keepTextsExactly_, on, &AppSettings::keepTextsExactlyChanged);
+}
+
+void AppSettings::setHideClaudeCode(bool on) {
+    preferences_.set(u"hideClaudeCode"_s, on);
+    change(hideClaudeCode_, on, &AppSettings::hideClaudeCodeChanged);
 }
 
 void AppSettings::setOnboarded(bool done) {

@@ -23,6 +23,13 @@ class AppSettings : public QObject {
     Q_PROPERTY(QString lastTab READ lastTab WRITE setLastTab NOTIFY lastTabChanged)
     Q_PROPERTY(bool pinnedBar READ pinnedBar WRITE setPinnedBar NOTIFY pinnedBarChanged)
     Q_PROPERTY(QString macType READ macType WRITE setMacType NOTIFY macTypeChanged)
+    Q_PROPERTY(bool newestFirst READ newestFirst WRITE setNewestFirst NOTIFY newestFirstChanged)
+    Q_PROPERTY(
+        int historyLength READ historyLength WRITE setHistoryLength NOTIFY historyLengthChanged)
+    Q_PROPERTY(bool keepTextsExactly READ keepTextsExactly WRITE setKeepTextsExactly NOTIFY
+                   keepTextsExactlyChanged)
+    Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
+                   hideClaudeCodeChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
     Q_PROPERTY(
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
@@ -38,6 +45,14 @@ public:
     [[nodiscard]] bool pinnedBar() const;
     /// "auto", "notch" or "none"; other texts count as "auto".
     [[nodiscard]] QString macType() const;
+    /// Also after a pin the newer clips come first.
+    [[nodiscard]] bool newestFirst() const;
+    /// How many unpinned clips are kept: 60, 200 or 1,000. Any other number counts as absent.
+    [[nodiscard]] int historyLength() const;
+    /// White space at the ends of a copied text is kept.
+    [[nodiscard]] bool keepTextsExactly() const;
+    /// Nothing is shown of Claude Code where it is not installed.
+    [[nodiscard]] bool hideClaudeCode() const;
     [[nodiscard]] bool onboarded() const;
     [[nodiscard]] bool launchAtLogin() const;
 
@@ -48,6 +63,10 @@ public:
     void setLastTab(const QString& tab);
     void setPinnedBar(bool on); ///< Until the program ends: not written back.
     void setMacType(const QString& type);
+    void setNewestFirst(bool on);
+    void setHistoryLength(int clips);
+    void setKeepTextsExactly(bool on);
+    void setHideClaudeCode(bool on);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at every call.
 
@@ -69,6 +88,10 @@ Q_SIGNALS:
     void lastTabChanged();
     void pinnedBarChanged();
     void macTypeChanged();
+    void newestFirstChanged();
+    void historyLengthChanged();
+    void keepTextsExactlyChanged();
+    void hideClaudeCodeChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
 
@@ -87,6 +110,10 @@ private:
     QString lastTab_;
     bool pinnedBar_;
     QString macType_;
+    bool newestFirst_;
+    int historyLength_;
+    bool keepTextsExactly_;
+    bool hideClaudeCode_;
     bool onboarded_;
     bool launchAtLogin_;
 };

@@ -5,6 +5,7 @@
 #include <QUrl>
 
 #include <algorithm>
+#include <functional>
 #include <utility>
 
 namespace ravelo {
@@ -37,16 +38,15 @@ QStringList remove(QList<ClipItem>& clips, Predicate isDoomed) {
     return images;
 }
 
-QStringList enforceLimit(QList<ClipItem>& clips) {
+QStringList enforceLimit(QList<ClipItem>& clips, int limit) {
     int unpinned = 0;
-    return remove(clips, [&](const ClipItem& clip) {
-        return !clip.pinned && ++unpinned > ClipHistory::limit;
-    });
+    return remove(clips, [&](const ClipItem& clip) { return !clip.pinned && ++unpinned > limit; });
 }
 
 } // namespace
 
-std::optional<ClipChange> ClipHistory::added(QList<ClipItem> clips, const QString& text, Date now) {
+std::optional<ClipChange> ClipHistory::added(QList<ClipItem> clips, const QString& text, Date now,
+                                             const HistoryRules& rules) {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty()) {
         return std::nullopt;
@@ -62,26 +62,45 @@ std::optional<ClipChange> ClipHistory::added(QList<ClipItem> clips, const QStrin
                    now,
                    false,
                    {}});
-    enforceLimit(clips);
+    enforceLimit(clips, rules.limit);
     return ClipChange{std::move(clips), {}};
 }
 
-ClipChange ClipHistory::imageAdded(QList<ClipItem> clips, const QString& imageFileName, Date now) {
+ClipChange ClipHistory::imageAdded(QList<ClipItem> clips, const QString& imageFileName, Date now,
+                                   const HistoryRules& rules) {
     clips.prepend({QUuid::createUuid(), u"Image"_s, ClipKind::image, now, false, imageFileName});
-    QStringList orphans = enforceLimit(clips);
+    QStringList orphans = enforceLimit(clips, rules.limit);
     return {std::move(clips), std::move(orphans)};
 }
 
-std::optional<ClipChange> ClipHistory::pinToggled(QList<ClipItem> clips, const QUuid& id) {
+std::optional<ClipChange> ClipHistory::pinToggled(QList<ClipItem> clips, const QUuid& id,
+                                                  HistoryRules::Order order) {
     const auto clip = std::ranges::find(clips, id, &ClipItem::id);
     if (clip == clips.end()) {
         return std::nullopt;
     }
     clip->pinned = !clip->pinned;
-    std::ranges::stable_sort(clips, [](const ClipItem& a, const ClipItem& b) {
-        return a.pinned != b.pinned ? a.pinned : a.date < b.date;
+    std::ranges::stable_sort(clips, [order](const ClipItem& a, const ClipItem& b) {
+        if (a.pinned != b.pinned) {
+            return a.pinned;
+        }
+        return order == HistoryRules::Order::newerFirst ? b.date < a.date : a.date < b.date;
     });
     return ClipChange{std::move(clips), {}};
+}
+
+std::optional<ClipChange> ClipHistory::newerFirst(const QList<ClipItem>& clips) {
+    QList<ClipItem> byDate = clips;
+    std::ranges::stable_sort(byDate, std::greater<>(), [](const ClipItem& clip) {
+        return std::pair(clip.pinned, clip.date.sinceReference);
+    });
+    auto pinned = byDate.cbegin();
+    auto others = std::ranges::find(std::as_const(byDate), false, &ClipItem::pinned);
+    QList<ClipItem> sorted;
+    for (const ClipItem& clip : clips) {
+        sorted.append(clip.pinned ? *pinned++ : *others++);
+    }
+    return sorted == clips ? std::nullopt : std::optional(ClipChange{std::move(sorted), {}});
 }
 
 std::optional<ClipChange> ClipHistory::deleted(QList<ClipItem> clips, const QUuid& id) {
@@ -103,8 +122,7 @@ std::optional<ClipChange> ClipHistory::restored(QList<ClipItem> clips, const Cli
         return std::nullopt;
     }
     clips.insert(placeFor(clip.id, order, clips), clip);
-    QStringList orphans = enforceLimit(clips);
-    return ClipChange{std::move(clips), std::move(orphans)};
+    return ClipChange{std::move(clips), {}};
 }
 
 ClipChange ClipHistory::cleared(QList<ClipItem> clips) {

@@ -40,16 +40,16 @@ void Deleted::add(const QList<DeletedRecord>& records, const QString& folder) {
         const QString path = imagePath(record, folder);
         const bool hasImage = !path.isEmpty() && isRegularFile(QFile::encodeName(path));
         const qint64 size = sizeOf(record) + (hasImage ? QFileInfo(path).size() : 0);
-        while (!records_.isEmpty() && bytes_ + size > limit) {
-            bytes_ -= sizeOf(records_.takeFirst());
-            ++lost_;
-        }
         if (hasImage && size <= limit) {
             record.png = readFile(path);
         }
         if (size > limit || (hasImage && !record.png)) {
-            ++lost_;
+            someLost_ = true;
             continue;
+        }
+        while (!records_.isEmpty() && bytes_ + size > limit) {
+            bytes_ -= sizeOf(records_.takeFirst());
+            someLost_ = true;
         }
         bytes_ += sizeOf(record);
         records_.append(std::move(record));
@@ -57,22 +57,24 @@ void Deleted::add(const QList<DeletedRecord>& records, const QString& folder) {
 }
 
 Deleted::Restorable Deleted::restore(const QString& folder, const OwnFile::Permission& mayWrite) {
-    Restorable all{{}, std::exchange(lost_, 0), {}};
-    if (all.lost > 0) {
+    Restorable all;
+    if (std::exchange(someLost_, false)) {
         all.problem = u"too large to keep in memory"_s;
     }
-    bytes_ = 0;
     for (QList<DeletedRecord> records = std::exchange(records_, {}); !records.isEmpty();) {
         DeletedRecord record = records.takeLast();
+        const qint64 size = sizeOf(record);
         if (record.png) {
             const auto written = writeImage(imagePath(record, folder), *record.png, mayWrite);
             if (!written) {
                 all.problem = written.error().message;
-                ++all.lost;
+                all.someStay = true;
+                records_.prepend(std::move(record));
                 continue;
             }
             record.png.reset();
         }
+        bytes_ -= size;
         all.records.append(std::move(record));
     }
     return all;

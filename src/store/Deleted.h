@@ -69,8 +69,7 @@ template <typename Record>
 }
 
 /// What was deleted and may come back: in memory alone, with its images. If it is too much, what
-/// was deleted first is lost. Made on the main thread and then left to the worker, whose jobs share
-/// it.
+/// was deleted first is lost. Created on the main thread; after that only the worker's jobs use it.
 class Deleted {
 public:
     /// Bytes.
@@ -82,17 +81,17 @@ public:
 
     struct Restorable {
         QList<DeletedRecord> records; ///< In the order in which they are to be put back.
-        qsizetype lost = 0;
-        QString problem; ///< Why some are lost, in words fit for the user.
+        QString problem;              ///< Why not all, in words fit for the user.
+        bool someStay = false;        ///< Their images could not be written: worth another try.
     };
 
-    /// Hands over all records, with their images written to `folder` again.
+    /// Hands over the records whose images are written to `folder` again; the others stay.
     [[nodiscard]] Restorable restore(const QString& folder, const OwnFile::Permission& mayWrite);
 
 private:
     QList<DeletedRecord> records_;
     qint64 bytes_ = 0;
-    qsizetype lost_ = 0;
+    bool someLost_ = false;
 };
 
 } // namespace ravelo

@@ -139,9 +139,16 @@ void Store::addLinkSnippetsIfNeeded() {
     }
 }
 
+void Store::setHistoryRules(const HistoryRules& rules) {
+    rules_ = rules;
+    if (rules.order == HistoryRules::Order::newerFirst) {
+        apply(ClipHistory::newerFirst(data_.clips));
+    }
+}
+
 void Store::addClip(const QString& text, Kept kept) {
     auto add = [this, text, kept = std::move(kept), now = services_.scheduler.now()] {
-        apply(ClipHistory::added(data_.clips, text, now));
+        apply(ClipHistory::added(data_.clips, text, now, rules_));
         tellKept(text, kept);
     };
     if (captures_.isEmpty()) {
@@ -169,7 +176,7 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
     auto add = [this, name, outcome, kept = std::move(kept), refused = std::move(refused),
                 now = services_.scheduler.now()] {
         if (outcome->written) {
-            apply(ClipHistory::imageAdded(data_.clips, name, now));
+            apply(ClipHistory::imageAdded(data_.clips, name, now, rules_));
             if (kept) {
                 kept(data_.clips.front().id);
             }
@@ -213,7 +220,7 @@ void Store::apply(std::optional<ClipChange> change) {
 }
 
 void Store::togglePin(const QUuid& id) {
-    apply(ClipHistory::pinToggled(data_.clips, id));
+    apply(ClipHistory::pinToggled(data_.clips, id, rules_.order));
 }
 
 void Store::updateSnippet(const Snippet& snippet) {

@@ -5,6 +5,7 @@
 #include "shelf/FileLook.h"
 #include "shelf/Shelf.h"
 #include "store/Captures.h"
+#include "store/ClipHistory.h"
 #include "store/Records.h"
 #include "store/TooLarge.h"
 #include "timer/FocusTimer.h"
@@ -27,7 +28,6 @@ class Pasteboard;
 class Preferences;
 class Scheduler;
 class Worker;
-struct ClipChange;
 struct DeletedRecord;
 struct PasteboardSnapshot;
 
@@ -84,7 +84,11 @@ public:
     [[nodiscard]] QString note() const;
     void setNote(const QString& note);
 
-    /// Told which clip stands for what was copied, new or kept from before; never where none does.
+    /// Counts from the next copy or pin on, but that newer clips come first is seen at once. What
+    /// is too many goes with the next copy: who chooses another limit by mistake loses nothing.
+    void setHistoryRules(const HistoryRules& rules);
+
+    /// Called with the clip that holds the copy, new or old; not called if there is none.
     using Kept = std::function<void(const QUuid&)>;
 
     /// Told that nothing is kept of an image that was copied: it is too large or, if it is nothing,
@@ -114,15 +118,15 @@ public:
     /// Takes it away with its image. As `deleteClip` has it.
     void removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept = {});
 
-    /// How many records came back, and why not the others, in words fit for the user.
     struct Restored {
-        qsizetype count = 0;
-        QString problem;
+        qsizetype count = 0;   ///< Records that are back.
+        QString problem;       ///< Why not all, in words fit for the user.
+        bool canRetry = false; ///< What could not be written is still in memory.
     };
 
     /// Puts back what was deleted, once its images are on the disk again, and calls `done`. What
-    /// was copied again meanwhile counts as back. Nothing comes back if the history was cleared
-    /// since.
+    /// was copied again meanwhile counts as back. If the history is
+    /// cleared before this has finished, its unpinned clips do not come back.
     void restore(const std::shared_ptr<Deleted>& deleted,
                  std::function<void(const Restored&)> done);
 
@@ -209,7 +213,7 @@ private:
     [[nodiscard]] std::function<void()> unlessCleared(std::function<void()> add,
                                                       std::function<void()> discard);
     void apply(std::optional<ClipChange> change);
-    void forget(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept);
+    void takeOffDisk(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept);
     void putBack(const QList<DeletedRecord>& records);
     void saveAtOnce();
     void tellKept(const QString& text, const Kept& kept) const; ///< For a text.
@@ -220,6 +224,7 @@ private:
     void tell(void (Store::*changed)()); ///< A signal, and then `onTimerChange`.
 
     Services services_;
+    HistoryRules rules_;
     QString folder_;
     StoreData data_; ///< But for its shelf, which is `shelf_`.
     Shelf shelf_;

@@ -1,6 +1,5 @@
 // How the store deletes, and how what was deleted comes back.
 
-#include "base/Files.h"
 #include "platform/ImageDecoder.h"
 #include "platform/Worker.h"
 #include "store/ClipHistory.h"
@@ -10,14 +9,15 @@
 
 #include <QFile>
 
-#include <algorithm>
 #include <utility>
 
 namespace ravelo {
 
+using namespace Qt::StringLiterals;
+
 void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
     if (auto change = ClipHistory::deleted(data_.clips, id)) {
-        forget(deletedRecords(data_.clips, change->clips), kept);
+        takeOffDisk(deletedRecords(data_.clips, change->clips), kept);
         apply(ClipChange{std::move(change->clips), {}});
         saveAtOnce();
     }
@@ -28,7 +28,7 @@ void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
     captures_.drop();
     Q_EMIT cleared();
     ClipChange change = ClipHistory::cleared(data_.clips);
-    forget(deletedRecords(data_.clips, change.clips), kept);
+    takeOffDisk(deletedRecords(data_.clips, change.clips), kept);
     apply(ClipChange{std::move(change.clips), {}});
     saveAtOnce();
 }
@@ -36,7 +36,7 @@ void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
 void Store::removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
     QList<Snippet> left = data_.snippets;
     if (left.removeIf([&id](const Snippet& snippet) { return snippet.id == id; }) > 0) {
-        forget(deletedRecords(data_.snippets, left), kept);
+        takeOffDisk(deletedRecords(data_.snippets, left), kept);
         data_.snippets = std::move(left);
         saveAtOnce();
         Q_EMIT snippetsChanged();
@@ -44,7 +44,7 @@ void Store::removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept)
 }
 
 /// Takes the images of the records off the disk, and into memory first if they may come back.
-void Store::forget(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept) {
+void Store::takeOffDisk(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept) {
     QStringList images;
     for (const DeletedRecord& record : records) {
         const QString name =
@@ -76,18 +76,29 @@ void Store::removeImages(const QStringList& imageFileNames) {
 void Store::restore(const std::shared_ptr<Deleted>& deleted,
                     std::function<void(const Restored&)> done) {
     const auto restorable = std::make_shared<Deleted::Restorable>();
-    auto discard = [this, restorable] {
-        forget(restorable->records, {});
-    };
-    auto putBackAll = [this, restorable, done = std::move(done)] {
+    auto putBackAll = [this, restorable, done] {
         putBack(restorable->records);
-        done({restorable->records.size(), restorable->problem});
+        done({restorable->records.size(), restorable->problem, restorable->someStay});
+    };
+    auto putBackWhatClearingKeeps = [this, restorable, done] {
+        QList<DeletedRecord> cleared;
+        restorable->records.removeIf([&cleared](const DeletedRecord& one) {
+            const auto* clip = std::get_if<ClipItem>(&one.record);
+            const bool gone = clip != nullptr && !clip->pinned;
+            if (gone) {
+                cleared.append(one);
+            }
+            return gone;
+        });
+        takeOffDisk(cleared, {});
+        putBack(restorable->records);
+        done({restorable->records.size(), u"the history was cleared"_s, false});
     };
     services_.worker.run(
         [deleted, restorable, folder = clipsDir(), mayWrite = services_.mayWrite] {
             *restorable = deleted->restore(folder, mayWrite);
         },
-        unlessCleared(std::move(putBackAll), std::move(discard)));
+        unlessCleared(std::move(putBackAll), std::move(putBackWhatClearingKeeps)));
 }
 
 void Store::putBack(const QList<DeletedRecord>& records) {
@@ -95,8 +106,7 @@ void Store::putBack(const QList<DeletedRecord>& records) {
     for (const DeletedRecord& deleted : records) {
         if (const auto* clip = std::get_if<ClipItem>(&deleted.record)) {
             if (auto change = ClipHistory::restored(clips.clips, *clip, deleted.order)) {
-                clips.clips = std::move(change->clips);
-                clips.orphanedImages += change->orphanedImages;
+                clips = std::move(*change);
             }
         } else {
             const auto& snippet = std::get<Snippet>(deleted.record);
@@ -108,7 +118,7 @@ void Store::putBack(const QList<DeletedRecord>& records) {
     saveAtOnce();
 }
 
-/// Deleted is deleted: not 0.4 s later, when the program may have been killed.
+/// So that a deletion survives a kill right after it.
 void Store::saveAtOnce() {
     save();
     write();

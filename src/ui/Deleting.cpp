@@ -1,7 +1,6 @@
 #include "ui/Deleting.h"
 
 #include "store/Deleted.h"
-#include "store/Store.h"
 #include "ui/Toast.h"
 
 #include <QPointer>
@@ -15,6 +14,7 @@ struct Deleting::Offered {
     qsizetype clips = 0;
     qsizetype cleared = 0; ///< Clips, too.
     qsizetype snippets = 0;
+    qsizetype restored = 0;
 
     [[nodiscard]] qsizetype count() const { return clips + cleared + snippets; }
 };
@@ -54,27 +54,35 @@ std::shared_ptr<Deleting::Offered> Deleting::offered() {
 void Deleting::offer(const std::shared_ptr<Offered>& what) {
     if (what->count() > 0) {
         last_ = what;
-        toast_.offer(message(*what), u"Undo"_s, [this, what] { undo(*what); });
+        toast_.offer(message(*what), u"Undo"_s, [this, what] { undo(what); });
     }
 }
 
-void Deleting::undo(const Offered& what) {
+void Deleting::undo(const std::shared_ptr<Offered>& what) {
     last_.reset(); // What is deleted from now on does not come back with it.
-    store_.restore(what.records,
-                   [self = QPointer(this), count = what.count()](const Store::Restored& restored) {
-                       if (!self) {
-                           return;
-                       }
-                       if (restored.count == count) {
-                           self->toast_.flash(u"Restored \u2713"_s);
-                       } else if (restored.count == 0) {
-                           self->toast_.flash(u"Could not undo: "_s + restored.problem);
-                       } else {
-                           self->toast_.flash(u"Restored %1 of %2: %3"_s.arg(
-                               self->locale_.toString(restored.count),
-                               self->locale_.toString(count), restored.problem));
-                       }
-                   });
+    store_.restore(what->records, [self = QPointer(this), what](const Store::Restored& restored) {
+        if (self) {
+            self->report(what, restored);
+        }
+    });
+}
+
+void Deleting::report(const std::shared_ptr<Offered>& what, const Store::Restored& restored) {
+    what->restored += restored.count;
+    if (what->restored == what->count()) {
+        toast_.flash(u"Restored \u2713"_s);
+        return;
+    }
+    const QString problem =
+        what->restored == 0
+            ? u"Could not undo: "_s + restored.problem
+            : u"Restored %1 of %2: %3"_s.arg(locale_.toString(what->restored),
+                                             locale_.toString(what->count()), restored.problem);
+    if (restored.canRetry) {
+        toast_.offer(problem, u"Try again"_s, [this, what] { undo(what); });
+    } else {
+        toast_.flash(problem);
+    }
 }
 
 QString Deleting::message(const Offered& what) const {

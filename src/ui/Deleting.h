@@ -1,5 +1,7 @@
 #pragma once
 
+#include "store/Store.h"
+
 #include <QLocale>
 #include <QObject>
 #include <QQmlEngine>
@@ -9,11 +11,10 @@
 
 namespace ravelo {
 
-class Store;
 class Toast;
 
-/// Deletes, and lets it be undone as long as the toast that says so is there. What is deleted
-/// meanwhile joins in: one undo brings all of it back. Main thread.
+/// Deletes; can be undone while the toast shows. Further deletions in that time join the same undo.
+/// Main thread.
 class Deleting : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -32,7 +33,8 @@ private:
 
     [[nodiscard]] std::shared_ptr<Offered> offered();
     void offer(const std::shared_ptr<Offered>& what);
-    void undo(const Offered& what);
+    void undo(const std::shared_ptr<Offered>& what);
+    void report(const std::shared_ptr<Offered>& what, const Store::Restored& restored);
     [[nodiscard]] QString message(const Offered& what) const;
 
     Store& store_;

@@ -117,14 +117,24 @@ FadingEdge::FadingEdge(QQuickItem* parent)
 }
 
 QRectF FadingEdge::strip() const {
-    const double span = std::min(length_, edge_ == Bottom ? height() : width());
-    return edge_ == Bottom ? QRectF(0, height() - span, width(), span)
-                           : QRectF(width() - span, 0, span, height());
+    const double span = std::min(length_, edge_ == Right ? width() : height());
+    switch (edge_) {
+    case Right:
+        return {width() - span, 0, span, height()};
+    case Top:
+        return {0, 0, width(), span};
+    case Bottom:
+        break;
+    }
+    return {0, height() - span, width(), span};
 }
 
 QLinearGradient FadingEdge::mask() const {
     const QRectF area = strip();
-    QLinearGradient gradient(area.topLeft(), edge_ == Bottom ? area.bottomLeft() : area.topRight());
+    QLinearGradient gradient(edge_ == Top ? area.bottomLeft() : area.topLeft(),
+                             edge_ == Right    ? area.topRight()
+                             : edge_ == Bottom ? area.bottomLeft()
+                                               : area.topLeft());
     gradient.setColorAt(0, Qt::black);
     gradient.setColorAt(1, Qt::transparent);
     return gradient;

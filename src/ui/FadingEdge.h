@@ -19,7 +19,7 @@ class FadingEdge : public QQuickItem {
 
 public:
     // NOLINTNEXTLINE(readability-identifier-naming): QML demands capitals.
-    enum Edge { Bottom, Right };
+    enum Edge { Bottom, Right, Top };
     Q_ENUM(Edge)
 
     explicit FadingEdge(QQuickItem* parent = nullptr);

@@ -28,14 +28,26 @@ void LineSpacing::apply() {
     const QTextDocument& text = *document_->textDocument();
     QTextBlockFormat format;
     format.setLineHeight(line_, QTextBlockFormat::FixedHeight);
-    for (QTextBlock block = text.begin(); block.isValid(); block = block.next()) {
-        if (block.blockFormat().lineHeight() != line_) {
-            QTextCursor cursor(block);
-            cursor.joinPreviousEditBlock();
+    const auto differs = [this](const QTextBlock& block) {
+        return block.blockFormat().lineHeight() != line_;
+    };
+    QTextBlock block = text.begin();
+    while (block.isValid() && !differs(block)) {
+        block = block.next();
+    }
+    if (!block.isValid()) {
+        return;
+    }
+    // One edit for all: at the end of each, the rest of the text is laid out.
+    QTextCursor cursor(block);
+    cursor.joinPreviousEditBlock();
+    for (; block.isValid(); block = block.next()) {
+        if (differs(block)) {
+            cursor.setPosition(block.position());
             cursor.mergeBlockFormat(format);
-            cursor.endEditBlock();
         }
     }
+    cursor.endEditBlock();
 }
 
 } // namespace ravelo

@@ -1,7 +1,6 @@
 #include "ui/OnboardingController.h"
 
 #include "platform/Screens.h"
-#include "ui/TitledWindow.h"
 
 #include <utility>
 
@@ -9,9 +8,9 @@ namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
-OnboardingController::OnboardingController(QQuickView& panel, AppSettings& settings,
+OnboardingController::OnboardingController(TitledWindow::Beside beside, AppSettings& settings,
                                            Screens& screens)
-    : panel_(panel),
+    : beside_(std::move(beside)),
       settings_(settings),
       screens_(screens),
       screensMonitor_(screens.onChange([this] { Q_EMIT hasNotchChanged(); })) {}
@@ -27,7 +26,7 @@ bool OnboardingController::hasNotch() const {
 
 void OnboardingController::show() {
     if (window_ == nullptr) {
-        window_ = new TitledWindow(panel_, u"Ravelo Setup"_s, QSize(520, 520));
+        window_ = new TitledWindow(beside_, u"Ravelo Setup"_s, QSize(520, 520));
         connect(window_, &TitledWindow::closed, this, &OnboardingController::drop);
         window_->load(u"setup/OnboardingView.qml"_s, this);
     }

@@ -2,16 +2,14 @@
 
 #include "base/Handle.h"
 #include "settings/AppSettings.h"
+#include "ui/TitledWindow.h"
 
 #include <QObject>
 #include <QQmlEngine>
 
-class QQuickView;
-
 namespace ravelo {
 
 class Screens;
-class TitledWindow;
 
 /// The first-run setup. Its window exists from `show` until it is finished or closed; closed, setup
 /// is still to be done. Main thread.
@@ -24,7 +22,7 @@ class OnboardingController : public QObject {
 
 public:
     /// All outlive it.
-    OnboardingController(QQuickView& panel, AppSettings& settings, Screens& screens);
+    OnboardingController(TitledWindow::Beside beside, AppSettings& settings, Screens& screens);
     ~OnboardingController() override;
 
     [[nodiscard]] AppSettings* settings() const { return &settings_; }
@@ -46,7 +44,7 @@ Q_SIGNALS:
 private:
     void drop();
 
-    QQuickView& panel_;
+    TitledWindow::Beside beside_;
     AppSettings& settings_;
     Screens& screens_;
     TitledWindow* window_ = nullptr; ///< Owned. Not deleted at once: what closes it is in it.

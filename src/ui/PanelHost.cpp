@@ -6,6 +6,7 @@
 #include "platform/ShutDown.h"
 
 #include <algorithm>
+#include <utility>
 
 namespace ravelo {
 
@@ -41,16 +42,18 @@ PanelHost::PanelHost(Subjects subjects, const QLocale& locale)
       fileDrag_(subjects.jobs, subjects.icons, subjects.decoder),
       shelfRequestsSeen_(subjects.store.shelfRequestTick()),
       timerFace_(subjects.store, subjects.scheduler),
-      contentSize_(sizeToOpenWith()) {
+      contentSize_(subjects.controller.sizeToOpenWith()) {
     connect(controller(), &NotchController::isOpenChanged, this, &PanelHost::follow);
     connect(settings(), &AppSettings::panelWidthChanged, this, [this] {
         if (!controller()->isOpen()) {
-            setContentSize(sizeToOpenWith());
+            setContentSize(controller()->sizeToOpenWith());
         }
     });
     connect(&fileDrag_, &FileDrag::draggingChanged, controller(),
             [this] { controller()->setDraggingOut(fileDrag_.isDragging()); });
     connect(&sending_, &Sending::programStarted, controller(), &NotchController::dismiss);
+    connect(settings(), &AppSettings::hideClaudeCodeChanged, this,
+            &PanelHost::showsClaudeCodeChanged);
     connect(&links_, &LinkOpening::opened, controller(), &NotchController::dismiss);
     connect(store(), &Store::shelfChanged, this, &PanelHost::shelfChanged);
     connect(&subjects.usage, &PlanUsage::changed, this, [this] {
@@ -73,6 +76,12 @@ void PanelHost::setReducedMotion(bool reduced) {
     if (reduced != reducedMotion_) {
         reducedMotion_ = reduced;
         Q_EMIT reducedMotionChanged();
+    }
+}
+
+void PanelHost::setClaudeCodeInstalled(bool installed) {
+    if (std::exchange(claudeCodeInstalled_, installed) != installed) {
+        Q_EMIT showsClaudeCodeChanged();
     }
 }
 
@@ -173,7 +182,7 @@ void PanelHost::startAnew() {
     snippets_.setSearch({});
     snippetEditor_.cancel();
     focusControls_.reload();
-    setContentSize(sizeToOpenWith());
+    setContentSize(controller()->sizeToOpenWith());
     building_ = subjects_.scheduler.after(buildDelay, [this] { setHasContent(true); });
 }
 
@@ -185,7 +194,7 @@ void PanelHost::setHasContent(bool has) {
 }
 
 void PanelHost::setContentSize(QSizeF size) {
-    if (size != contentSize_) {
+    if (!size.isEmpty() && size != contentSize_) {
         contentSize_ = size;
         Q_EMIT contentSizeChanged();
     }
@@ -196,10 +205,6 @@ void PanelHost::tellUsage() {
     sessionLine_ = usageLine(subjects_.usage.session(), now);
     weekLine_ = usageLine(subjects_.usage.week(), now);
     Q_EMIT usageChanged();
-}
-
-QSizeF PanelHost::sizeToOpenWith() const {
-    return controller()->sizeToOpenWith();
 }
 
 } // namespace ravelo

@@ -63,6 +63,7 @@ class PanelHost : public QObject {
     Q_PROPERTY(QSizeF contentSize READ contentSize NOTIFY contentSizeChanged)
     Q_PROPERTY(ravelo::Backdrop::Kind backdrop READ backdrop NOTIFY backdropChanged)
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY reducedMotionChanged)
+    Q_PROPERTY(bool showsClaudeCode READ showsClaudeCode NOTIFY showsClaudeCodeChanged)
     Q_PROPERTY(bool shelfEmpty READ shelfEmpty NOTIFY shelfChanged)
     Q_PROPERTY(ravelo::UsageLine session READ session NOTIFY usageChanged)
     Q_PROPERTY(ravelo::UsageLine week READ week NOTIFY usageChanged)
@@ -150,6 +151,12 @@ public:
 
     [[nodiscard]] UsageLine week() const { return weekLine_; }
 
+    [[nodiscard]] bool showsClaudeCode() const {
+        return claudeCodeInstalled_ || !settings()->hideClaudeCode();
+    }
+
+    void setClaudeCodeInstalled(bool installed);
+
     /// Says that a copy was not kept: by a row in the panel, at once or at its next opening, which
     /// goes when the panel closes, and by a toast if the panel is open.
     void tellTooLarge(const TooLargeCopy& copy);
@@ -180,6 +187,7 @@ Q_SIGNALS:
     void contentSizeChanged();
     void backdropChanged();
     void reducedMotionChanged();
+    void showsClaudeCodeChanged();
     void shelfChanged();
     void usageChanged();
     /// What had the keyboard before something floated is not there: it goes where content starts.
@@ -191,7 +199,6 @@ private:
     void setHasContent(bool has);
     void setContentSize(QSizeF size);
     void tellUsage();
-    [[nodiscard]] QSizeF sizeToOpenWith() const;
 
     Subjects subjects_;
     QLocale locale_;
@@ -214,6 +221,7 @@ private:
     QSizeF contentSize_;
     Backdrop::Kind backdrop_ = Backdrop::Translucent;
     bool reducedMotion_ = false;
+    bool claudeCodeInstalled_ = true;
     UsageLine sessionLine_;
     UsageLine weekLine_;
     Handle building_;

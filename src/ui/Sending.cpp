@@ -63,15 +63,12 @@ void Sending::refresh() {
     refreshing_ = nearby_.refresh([] {});
 }
 
-void Sending::send(const QList<QUrl>& files, const QString& deviceId) {
+void Sending::send(const QList<QUrl>& files, const QVariantMap& device) {
     if (files.isEmpty() || !isPossible()) {
         return;
     }
-    QString name;
-    for (const NearbyDevice& device : nearby_.devices()) {
-        name = device.id == deviceId ? shortName(device.name) : name;
-    }
-    nearby_.send(files, deviceId,
+    const QString name = device.value(u"name"_s).toString();
+    nearby_.send(files, device.value(u"id"_s).toString(),
                  [self = QPointer(this), name, all = files.size()](NearbySend::Outcome outcome) {
                      if (self) {
                          self->report(outcome, all, name);

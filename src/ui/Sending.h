@@ -30,16 +30,15 @@ public:
     /// What the user could do where it is not possible; empty where it is.
     [[nodiscard]] QString advice() const;
 
-    /// To choose from: objects with `name` and `id`. Not what is told by its place: one may come or
-    /// go while the user chooses.
+    /// To choose from: objects with `name` and `id`. Devices may come and go while the user
+    /// chooses.
     [[nodiscard]] QVariantList devices() const;
 
     /// While the button is on the screen it follows who comes into reach, or leaves it.
     Q_INVOKABLE void setShown(bool shown);
 
-    /// To the device of that id, or, where the way leads to none, to whom the desktop's own program
-    /// finds.
-    Q_INVOKABLE void send(const QList<QUrl>& files, const QString& deviceId);
+    /// To that one of the devices or, if there is none, with the desktop's own sending program.
+    Q_INVOKABLE void send(const QList<QUrl>& files, const QVariantMap& device);
 
 Q_SIGNALS:
     void changed();

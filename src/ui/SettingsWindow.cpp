@@ -1,7 +1,4 @@
 #include "ui/SettingsWindow.h"
-
-#include "ui/TitledWindow.h"
-
 #include <utility>
 
 namespace ravelo {
@@ -22,7 +19,7 @@ void SettingsWindow::show() {
     subjects_.settings.refreshLaunchAtLogin();
     if (!window_) {
         window_ =
-            std::make_unique<TitledWindow>(subjects_.panel, u"Ravelo Settings"_s, QSize(460, 600));
+            std::make_unique<TitledWindow>(subjects_.beside, u"Ravelo Settings"_s, QSize(460, 600));
         window_->load(u"settings/SettingsView.qml"_s, this);
     }
     window_->bringToFront();

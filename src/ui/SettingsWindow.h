@@ -2,6 +2,7 @@
 
 #include "settings/AppSettings.h"
 #include "store/Store.h"
+#include "ui/TitledWindow.h"
 
 #include <QObject>
 #include <QQmlEngine>
@@ -9,11 +10,7 @@
 #include <functional>
 #include <memory>
 
-class QQuickView;
-
 namespace ravelo {
-
-class TitledWindow;
 
 /// The settings window: made at the first use and kept. Closed, it is hidden. Main thread.
 class SettingsWindow : public QObject {
@@ -27,7 +24,7 @@ class SettingsWindow : public QObject {
 public:
     /// All of it outlives the window.
     struct Subjects {
-        QQuickView& panel;
+        TitledWindow::Beside beside;
         Store& store;
         AppSettings& settings;
         std::function<void()> quit; ///< Ends the program, later than at once.

@@ -4,6 +4,7 @@
 
 #include <QPainterPath>
 
+#include <algorithm>
 #include <cmath>
 #include <numeric>
 #include <vector>
@@ -55,19 +56,24 @@ QImage blurredAndTurned(const QImage& from, const std::vector<double>& weights) 
 }
 
 QImage shadowImage(QSizeF size, double scale, double margin, const ShadowLook& look) {
-    const QSize pixels =
-        (QSizeF(size.width() + 2 * margin, size.height() + 2 * margin) * scale).toSize();
-    QImage shape(pixels, QImage::Format_Alpha8);
+    const QSizeF whole(size.width() + 2 * margin, size.height() + 2 * margin);
+    const QSize pixels = (whole * scale).toSize();
+    // What is very soft has no details: it is made small, or a large one would take seconds.
+    constexpr double softEnough = 6;
+    const double shrink = std::max(1.0, look.blur / 2 * scale / softEnough);
+    const QSize drawn = (whole * scale / shrink).toSize().expandedTo({1, 1});
+    QImage shape(drawn, QImage::Format_Alpha8);
     shape.fill(0);
     QPainter painter(&shape);
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.scale(scale, scale);
+    painter.scale(drawn.width() / whole.width(), drawn.height() / whole.height());
     painter.setPen(Qt::NoPen);
     painter.setBrush(look.color);
     painter.drawRoundedRect(QRectF(QPointF(margin, margin), size), look.radius, look.radius);
     painter.end();
-    const auto weights = bell(look.blur / 2 * scale);
-    const QImage soft = blurredAndTurned(blurredAndTurned(shape, weights), weights);
+    const auto weights = bell(look.blur / 2 * scale / shrink);
+    const QImage soft = blurredAndTurned(blurredAndTurned(shape, weights), weights)
+                            .scaled(pixels, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 
     QImage tinted(pixels, QImage::Format_ARGB32_Premultiplied);
     tinted.fill(QColor(look.color.red(), look.color.green(), look.color.blue()));

@@ -2,24 +2,45 @@
 
 #include <QIcon>
 #include <QQmlEngine>
+#include <QQuickItem>
 #include <QScreen>
 
 #include <algorithm>
+#include <utility>
 
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
-TitledWindow::TitledWindow(QQuickView& panel, const QString& title, QSize size)
-    : QQuickView(panel.engine(), nullptr), panel_(panel) {
+namespace {
+
+/// How far the shadow reaches: as far as it is blurred, and it is cast downwards.
+constexpr QMargins shadowReach(72, 72 - 24, 72, 72 + 24);
+
+/// The room for the shadow; less of it, down to none, where the screen has not that much.
+QMargins roomAround(QSize frame, QSize screen) {
+    const QSize spare = screen - frame;
+    const double across = double(spare.width()) / (shadowReach.left() + shadowReach.right());
+    const double down = double(spare.height()) / (shadowReach.top() + shadowReach.bottom());
+    const double part = std::clamp(std::min(across, down), 0.0, 1.0);
+    return {int(shadowReach.left() * part), int(shadowReach.top() * part),
+            int(shadowReach.right() * part), int(shadowReach.bottom() * part)};
+}
+
+} // namespace
+
+TitledWindow::TitledWindow(const Beside& beside, const QString& title, QSize size)
+    : QQuickView(beside.panel.engine(), nullptr), panel_(beside.panel), wanted_(size) {
     setTitle(title);
     setIcon(QIcon::fromTheme(u"org.ravelo.Ravelo"_s));
     setFlags(Qt::Window | Qt::FramelessWindowHint);
     setColor(Qt::transparent);
     setResizeMode(QQuickView::SizeRootObjectToView);
-    setMinimumSize(size);
-    setMaximumSize(size);
-    resize(size);
+    if (beside.makeFrame) {
+        frame_ = beside.makeFrame(*this);
+        translucency_ = frame_->onTranslucencyChange([this] { fit(); });
+    }
+    fit();
     connect(this, &QWindow::visibleChanged, this, [this](bool visible) {
         if (!visible) {
             Q_EMIT closed();
@@ -28,20 +49,60 @@ TitledWindow::TitledWindow(QQuickView& panel, const QString& title, QSize size)
 }
 
 void TitledWindow::load(const QString& page, QObject* host) {
-    setInitialProperties({{u"host"_s, QVariant::fromValue(host)}, {u"title"_s, title()}});
+    setInitialProperties(
+        {{u"host"_s, QVariant::fromValue(host)}, {u"title"_s, title()}, {u"frame"_s, inside_}});
     setSource(QUrl(u"qrc:/Ravelo/qml/"_s + page));
 }
 
+void TitledWindow::fit() {
+    constexpr int margin = 20;
+    const QSize available = free().size();
+    const QSize screen = panel_.screen()->size() - QSize(margin, margin);
+    const QSize frame = wanted_.boundedTo(screen).boundedTo(available);
+    const bool shadowed = frame_ && frame_->isTranslucent();
+    const QMargins room = shadowed ? roomAround(frame, available) : QMargins();
+    const QRectF before = std::exchange(inside_, QRectF(QPointF(room.left(), room.top()), frame));
+    const QSize size = frame.grownBy(room);
+    setMinimumSize(size);
+    setMaximumSize(size);
+    resize(size);
+    if (isVisible() && before.topLeft() != inside_.topLeft()) { // The frame stays where it is.
+        setPosition(position() + (before.topLeft() - inside_.topLeft()).toPoint());
+    }
+    if (frame_) {
+        frame_->setRoom(room);
+    }
+    if (rootObject() != nullptr) {
+        rootObject()->setProperty("frame", inside_);
+    }
+}
+
+/// What neither the desktop's bars nor the closed panel cover.
+QRect TitledWindow::free() const {
+    constexpr int highestBar = 100; // An open panel will have closed.
+    QRect room = panel_.screen()->availableGeometry();
+    if (panel_.isVisible() && panel_.height() <= highestBar) {
+        room.setTop(std::max(room.top(), panel_.y() + panel_.height()));
+    }
+    return room;
+}
+
+void TitledWindow::place() {
+    QRectF frame = inside_;
+    frame.moveCenter(QRectF(panel_.screen()->availableGeometry()).center());
+    frame.moveTop(std::max(frame.top(), qreal(free().top()))); // With its title, in little room.
+    setPosition((frame.topLeft() - inside_.topLeft()).toPoint());
+}
+
 void TitledWindow::bringToFront() {
+    connect(panel_.screen(), &QScreen::availableGeometryChanged, this, &TitledWindow::fit,
+            Qt::UniqueConnection);
+    fit();
     if (isVisible()) {
         showNormal(); // It may have been minimised.
         raise();
     } else {
-        QRect place(QPoint(), size());
-        const QRect room = panel_.screen()->availableGeometry();
-        place.moveCenter(room.center());
-        place.moveTop(std::max(place.top(), room.top())); // With its title, where it is too high.
-        setGeometry(place);
+        place();
         show();
     }
     requestActivate();

@@ -1,18 +1,27 @@
 #pragma once
 
+#include "platform/WindowFrame.h"
+
 #include <QQuickView>
 
 namespace ravelo {
 
-/// A window beside the panel: the desktop manages it like any other, but its title strip is our own
-/// and its size is fixed. Closing it never ends the program. Main thread.
+/// A window beside the panel: the desktop manages it like any other, but its title strip and its
+/// shadow are our own, and only the screen decides its size. Closing it never ends the program.
+/// Main thread.
 class TitledWindow : public QQuickView {
     Q_OBJECT
 
 public:
-    /// Shares the panel's QML engine and opens on the panel's screen; `panel` outlives it. `size`
-    /// is in logical pixels.
-    TitledWindow(QQuickView& panel, const QString& title, QSize size);
+    /// What the windows have in common; the panel outlives them.
+    struct Beside {
+        QQuickView& panel;              ///< They share its QML engine and open on its screen.
+        MakeWindowFrame makeFrame = {}; ///< Without one they have no shadow.
+    };
+
+    /// `size` is that of its frame, in logical pixels; on a screen without room for it the window
+    /// is smaller.
+    TitledWindow(const Beside& beside, const QString& title, QSize size);
 
     /// `page` is a file of our QML module; it gets `host` as its property and `title`.
     void load(const QString& page, QObject* host);
@@ -25,7 +34,15 @@ Q_SIGNALS:
     void closed();
 
 private:
+    void fit();
+    void place();
+    [[nodiscard]] QRect free() const;
+
     QQuickView& panel_;
+    QSize wanted_;
+    QRectF inside_; ///< The window's frame within the window.
+    std::unique_ptr<WindowFrame> frame_;
+    Handle translucency_;
 };
 
 } // namespace ravelo

@@ -20,6 +20,8 @@ class Toast : public QObject {
     QML_UNCREATABLE("the panel has one")
     Q_PROPERTY(QString text READ text NOTIFY textChanged)
     Q_PROPERTY(QString action READ action NOTIFY textChanged)
+    /// Also while another message lies over the offer.
+    Q_PROPERTY(bool offering READ isOffering NOTIFY textChanged)
     Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY heldChanged)
 
 public:
@@ -30,6 +32,8 @@ public:
 
     /// What the button says; empty while there is none.
     [[nodiscard]] QString action() const;
+
+    [[nodiscard]] bool isOffering() const { return offer_.has_value(); }
 
     Q_INVOKABLE void flashCopied();
     void flash(const QString& text);

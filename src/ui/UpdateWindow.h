@@ -1,5 +1,6 @@
 #pragma once
 
+#include "ui/TitledWindow.h"
 #include "updates/Updater.h"
 
 #include <QObject>
@@ -7,11 +8,7 @@
 
 #include <memory>
 
-class QQuickView;
-
 namespace ravelo {
-
-class TitledWindow;
 
 /// The window that tells of updates: made at the first use and kept. Closed, it is hidden. Main
 /// thread.
@@ -23,7 +20,7 @@ class UpdateWindow : public QObject {
 
 public:
     /// Both outlive it.
-    UpdateWindow(QQuickView& panel, Updater& updater);
+    UpdateWindow(TitledWindow::Beside beside, Updater& updater);
     ~UpdateWindow() override;
 
     [[nodiscard]] Updater* updater() const { return &updater_; }
@@ -32,7 +29,7 @@ public:
     void show();
 
 private:
-    QQuickView& panel_;
+    TitledWindow::Beside beside_;
     Updater& updater_;
     std::unique_ptr<TitledWindow> window_;
 };

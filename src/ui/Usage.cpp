@@ -17,9 +17,13 @@ UsageBand::Kind band(double percent) {
 
 UsageLine usageLine(const std::optional<UsageWindow>& window, Date now) {
     const double percent = window ? window->pct : 0;
-    return {window.has_value(),     percentText(window),
-            resetText(window, now), std::clamp(percent / 100, 0.0, 1.0),
-            band(percent),          resetHasPassed(window, now)};
+    return {window.has_value(),
+            percentText(window),
+            resetText(window, now),
+            std::clamp(percent / 100, 0.0, 1.0),
+            band(percent),
+            resetHasPassed(window, now),
+            timeLeftText(window, now)};
 }
 
 } // namespace ravelo

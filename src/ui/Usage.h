@@ -28,6 +28,7 @@ class UsageLine {
     Q_PROPERTY(bool known MEMBER known)
     Q_PROPERTY(QString percent MEMBER percent)
     Q_PROPERTY(QString reset MEMBER reset)
+    Q_PROPERTY(QString left MEMBER left)
     Q_PROPERTY(bool resetPassed MEMBER resetPassed)
     Q_PROPERTY(double fraction MEMBER fraction)
     /// A UsageBand; as a number, for QML cannot take an enumeration from a value.
@@ -40,6 +41,7 @@ public:
     double fraction = 0; ///< Of the bar that is filled, 0 to 1.
     UsageBand::Kind band = UsageBand::Low;
     bool resetPassed = false; ///< It has started anew since; the percents are old.
+    QString left = {};        ///< `reset` in short: only how much time is left.
 
     [[nodiscard]] int bandNumber() const { return band; }
 

@@ -11,23 +11,21 @@ using Phase = UpdateState::Phase;
 UpdateMessage message(const UpdateProblem& problem) {
     switch (problem.kind) {
     case UpdateProblem::Kind::noService:
-        return {
-            u"Updates cannot be looked up here"_s,
-            u"PackageKit does not run on this system. Update Ravelo with your package manager."_s};
+        return {u"Cannot check for updates"_s,
+                u"PackageKit is not available. Update Ravelo with your package manager."_s};
     case UpdateProblem::Kind::notFromRepository:
         return {
-            u"Ravelo does not come from a repository"_s,
-            u"So nobody here knows of newer versions. Install the newest package over this one, or "
-            "build it anew."_s};
+            u"Ravelo was not installed from a repository"_s,
+            u"So the system does not know of newer versions. Install the newest package over this "
+            "one, or build it again."_s};
     case UpdateProblem::Kind::notAllowed:
-        return {
-            u"The system does not allow it"_s,
-            u"No permission was given, or no service that gives it (polkit) runs. Update Ravelo "
-            "with your package manager."_s};
+        return {u"Not allowed"_s, u"Permission was denied, or polkit, which grants it, is not "
+                                  u"running. Update Ravelo with "
+                                  "your package manager."_s};
     case UpdateProblem::Kind::failed:
         break;
     }
-    return {u"That did not work"_s, problem.details};
+    return {u"The update failed"_s, problem.details};
 }
 
 } // namespace
@@ -51,11 +49,11 @@ UpdateMessage message(const UpdateState& state, const QString& current) {
     case Phase::idle:
         break;
     case Phase::checking:
-        return {u"Looking for updates…"_s, {}};
+        return {u"Checking for updates…"_s, {}};
     case Phase::newest:
-        return {u"This is the newest version"_s, u"Ravelo "_s + current};
+        return {u"Ravelo is up to date"_s, u"You have Ravelo "_s + current + u'.'};
     case Phase::available:
-        return {newer + u" is there"_s, u"You have "_s + current + u'.'};
+        return {newer + u" is available"_s, u"You have "_s + current + u'.'};
     case Phase::installing:
         return {u"Installing "_s + newer + u'…',
                 state.percent ? QString::number(*state.percent) + u" %"_s : QString()};

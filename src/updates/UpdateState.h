@@ -8,13 +8,13 @@
 
 namespace ravelo {
 
-/// How far looking for an update and installing it have come.
+/// The progress of checking for an update and installing it.
 struct UpdateState {
     enum class Phase { idle, checking, newest, available, installing, installed, problem };
 
     Phase phase = Phase::idle;
-    AvailableUpdate update;     ///< From `available` on.
-    std::optional<int> percent; ///< While installing, where it is known.
+    AvailableUpdate update;     ///< Valid from `available` on.
+    std::optional<int> percent; ///< While installing, if known.
     UpdateProblem problem;
 
     [[nodiscard]] bool isBusy() const {
@@ -27,7 +27,7 @@ struct UpdateState {
     friend bool operator==(const UpdateState&, const UpdateState&) = default;
 };
 
-/// In words for the user.
+/// Shown to the user.
 struct UpdateMessage {
     QString title;
     QString details; ///< May be empty.

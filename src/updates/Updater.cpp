@@ -4,27 +4,14 @@
 
 namespace ravelo {
 
-namespace {
-
-std::unique_ptr<Updater>& provided() {
-    static auto* const updater = new std::unique_ptr<Updater>; // Never destroyed.
-    return *updater;
-}
-
-} // namespace
-
 Updater::Updater(std::unique_ptr<PackageUpdates> service, QString current)
     : service_(std::move(service)), current_(std::move(current)) {}
 
 Updater::~Updater() = default;
 
-void Updater::provide(std::unique_ptr<PackageUpdates> service, const QString& current) {
-    provided() = std::make_unique<Updater>(std::move(service), current);
-}
-
-Updater& Updater::shared() {
-    Q_ASSERT(provided());
-    return *provided();
+Updater& Updater::shared(const std::function<std::unique_ptr<Updater>()>& make) {
+    static Updater* const instance = make().release();
+    return *instance;
 }
 
 double Updater::progress() const {
@@ -32,7 +19,7 @@ double Updater::progress() const {
 }
 
 void Updater::checkForUpdates() {
-    if (isBusy() || state_.phase == UpdateState::Phase::installed) { // Until it is started anew.
+    if (isBusy() || state_.phase == UpdateState::Phase::installed) { // Until Ravelo is restarted.
         return;
     }
     become({UpdateState::Phase::checking, {}, {}, {}});

@@ -4,12 +4,13 @@
 
 #include <QObject>
 
+#include <functional>
 #include <memory>
 
 namespace ravelo {
 
-/// Looks for a newer version of this program when its user asks for it, and installs it when told
-/// to. Main thread.
+/// Checks for a newer version of this program and installs it, both only when the user asks for it.
+/// Main thread.
 class Updater : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString title READ title NOTIFY changed)
@@ -23,11 +24,8 @@ public:
     Updater(std::unique_ptr<PackageUpdates> service, QString current);
     ~Updater() override;
 
-    /// How `shared` asks for updates; once, before its first use.
-    static void provide(std::unique_ptr<PackageUpdates> service, const QString& current);
-
-    /// The process's own, never destroyed.
-    [[nodiscard]] static Updater& shared();
+    /// The process's own: the first call makes it, and nothing destroys it.
+    [[nodiscard]] static Updater& shared(const std::function<std::unique_ptr<Updater>()>& make);
 
     [[nodiscard]] const UpdateState& state() const { return state_; }
 
@@ -39,13 +37,13 @@ public:
 
     [[nodiscard]] bool canInstall() const { return state_.phase == UpdateState::Phase::available; }
 
-    /// From 0 to 1 while it installs and it is known, else -1.
+    /// From 0 to 1 while installing, or -1 if unknown.
     [[nodiscard]] double progress() const;
 
-    /// Anew, unless it is at work already.
+    /// Does nothing while it is checking or installing.
     Q_INVOKABLE void checkForUpdates();
 
-    /// What was found.
+    /// Installs the update that was found.
     Q_INVOKABLE void install();
 
 Q_SIGNALS:

@@ -60,6 +60,19 @@ INSTANTIATE_TEST_SUITE_P(
                     {u"abc"_s}}),
     [](const auto& row) { return row.param.name; });
 
+TEST_F(Clipboard, keepsTheEndsOfATextIfItIsTold) {
+    manager->setTextEnds(TextEnds::kept);
+    for (const char* copied : {" abc\n", "abc", " \n "}) {
+        pasteboard.offer({text(copied)});
+        settle();
+    }
+    EXPECT_EQ(texts(), QStringList({u"abc"_s, u" abc\n"_s})) << "blanks alone are no text";
+    manager->setTextEnds(TextEnds::trimmed);
+    pasteboard.offer({text(" def ")});
+    settle();
+    EXPECT_EQ(texts().first(), u"def"_s);
+}
+
 TEST_F(Clipboard, leavesWhatWasThereBeforeTheStart) {
     settle();
     EXPECT_EQ(texts(), QStringList());

@@ -5,7 +5,7 @@
 #include <array>
 #include <csignal>
 #include <cstdlib>
-#include <cstring>
+#include <string_view>
 #include <thread>
 
 #include <fcntl.h>
@@ -17,77 +17,48 @@
 
 namespace {
 
-struct Act {
-    const char* name;
-    void (*run)();
-};
-
 void map(int protection) {
     if (mmap(nullptr, 4096, protection, MAP_PRIVATE | MAP_ANONYMOUS, -1, 0) == MAP_FAILED) {
         _exit(EXIT_FAILURE);
     }
 }
 
-constexpr std::array acts{
-    Act{"nothing",
-        [] {
-        }},
-    Act{"memory",
-        [] {
-            map(PROT_READ | PROT_WRITE);
-        }},
-    Act{"thread",
-        [] {
-            std::thread([] {}).join();
-        }},
-    Act{"open",
-        [] {
-            (void)open("/etc/hostname", O_RDONLY);
-        }},
-    Act{"create",
-        [] {
-            (void)open("/tmp/ravelo-forbidden", O_WRONLY | O_CREAT, 0600);
-        }},
-    Act{"unlink",
-        [] {
-            (void)unlink("/tmp/ravelo-forbidden");
-        }},
-    Act{"stat",
-        [] {
-            struct stat info = {};
-            (void)stat("/etc/hostname", &info);
-        }},
-    Act{"socket",
-        [] {
-            (void)socket(AF_INET, SOCK_STREAM, 0);
-        }},
-    Act{"connect",
-        [] {
-            const sockaddr address{AF_UNIX, "/tmp/x"};
-            (void)connect(STDERR_FILENO, &address, sizeof(address));
-        }},
-    Act{"exec",
-        [] {
-            std::array arguments{const_cast<char*>("/bin/true"), static_cast<char*>(nullptr)};
-            (void)execv("/bin/true", arguments.data());
-        }},
-    Act{"fork",
-        [] {
-            (void)fork();
-        }},
-    Act{"kill",
-        [] {
-            (void)kill(getppid(), 0);
-        }},
-    Act{"ptrace",
-        [] {
-            (void)ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
-        }},
-    Act{"executable memory",
-        [] {
-            map(PROT_READ | PROT_WRITE | PROT_EXEC);
-        }},
-};
+/// False if it does not know the act.
+bool run(std::string_view act) {
+    struct stat info = {};
+    const sockaddr address{AF_UNIX, "/tmp/x"};
+    std::array arguments{const_cast<char*>("/bin/true"), static_cast<char*>(nullptr)};
+    if (act == "memory") {
+        map(PROT_READ | PROT_WRITE);
+    } else if (act == "thread") {
+        std::thread([] {}).join();
+    } else if (act == "open") {
+        (void)open("/etc/hostname", O_RDONLY);
+    } else if (act == "create") {
+        (void)open("/tmp/ravelo-forbidden", O_WRONLY | O_CREAT, 0600);
+    } else if (act == "unlink") {
+        (void)unlink("/tmp/ravelo-forbidden");
+    } else if (act == "stat") {
+        (void)stat("/etc/hostname", &info);
+    } else if (act == "socket") {
+        (void)socket(AF_INET, SOCK_STREAM, 0);
+    } else if (act == "connect") {
+        (void)connect(STDERR_FILENO, &address, sizeof(address));
+    } else if (act == "exec") {
+        (void)execv("/bin/true", arguments.data());
+    } else if (act == "fork") {
+        (void)fork();
+    } else if (act == "kill") {
+        (void)kill(getppid(), 0);
+    } else if (act == "ptrace") {
+        (void)ptrace(PTRACE_TRACEME, 0, nullptr, nullptr);
+    } else if (act == "executable memory") {
+        map(PROT_READ | PROT_WRITE | PROT_EXEC);
+    } else {
+        return act == "nothing";
+    }
+    return true;
+}
 
 } // namespace
 
@@ -96,11 +67,5 @@ int main(int /*count*/, char** arguments) {
     if (!ravelo::decode::lockDown()) {
         return EXIT_FAILURE;
     }
-    for (const Act& act : acts) {
-        if (std::strcmp(act.name, arguments[1]) == 0) {
-            act.run();
-            _exit(EXIT_SUCCESS);
-        }
-    }
-    _exit(EXIT_FAILURE);
+    _exit(run(arguments[1]) ? EXIT_SUCCESS : EXIT_FAILURE);
 }

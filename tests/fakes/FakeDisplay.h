@@ -25,6 +25,8 @@ public:
         return {location, button_ != Qt::NoButton || clicked, button_ == Qt::LeftButton};
     }
 
+    [[nodiscard]] bool isOverOwnWindow() override { return overOwnWindow; }
+
     [[nodiscard]] Handle onPress(std::function<void()> callback) override {
         return presses_.add(std::move(callback));
     }
@@ -53,6 +55,7 @@ public:
 
     std::optional<QPointF> location = QPointF(400, 600);
     int questions = 0; ///< How often the display server was asked.
+    bool overOwnWindow = false;
 
 private:
     void active() {

@@ -14,86 +14,72 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ProgramCase {
-    const char* name;
-    std::map<QString, QByteArray> files;
-    QString program;
-};
-
 QByteArray entry(const QByteArray& name, const QByteArray& more = {}) {
     return "[Desktop Entry]\nType=Application\nName=" + name + "\n" + more +
            "[Desktop Action x]\nName=Wrong\n";
 }
 
-class DefaultProgram : public testing::TestWithParam<ProgramCase> {};
+TEST(DefaultProgram, isTheOneThatTheDesktopWouldStart) {
+    struct Case {
+        const char* name;
+        std::map<const char*, QByteArray> files; ///< Besides those of two programs.
+        const char* program;
+    };
 
-TEST_P(DefaultProgram, isTheOneThatTheDesktopWouldStart) {
-    const QTemporaryDir folder;
-    for (const auto& [path, contents] : GetParam().files) {
-        const QString absolute = folder.filePath(path);
-        QDir().mkpath(absolute.section(u'/', 0, -2));
-        QFile file(absolute);
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(contents);
+    const QByteArray opensA = "door=a.desktop;\n";
+    const QByteArray opensB =
+        "[Default Applications]\nx-scheme-handler/door=gone.desktop;b.desktop;\n";
+    const QByteArray cache = "[MIME Cache]\nx-scheme-handler/";
+    const char* const cachePath = "system/applications/mimeinfo.cache";
+    const char* const userList = "config/mimeapps.list";
+    const Case cases[] = {
+        {"none", {}, ""},
+        {"installed", {{cachePath, cache + opensA}}, "A"},
+        {"chosen by the user", {{userList, opensB}, {cachePath, cache + opensA}}, "B"},
+        {"of this desktop",
+         {{userList, "[Default Applications]\nx-scheme-handler/" + opensA},
+          {"config/kde-mimeapps.list", opensB}},
+         "B"},
+        {"removed by the user",
+         {{userList, "[Removed Associations]\nx-scheme-handler/" + opensA},
+          {cachePath, cache + opensA}},
+         ""},
+        {"hidden by the user",
+         {{cachePath, cache + opensA},
+          {"user/applications/a.desktop", entry("A", "Hidden=true\n")}},
+         ""},
+        {"in a folder",
+         {{cachePath, cache + "door=org-kde-a.desktop\n"},
+          {"system/applications/org/kde-a.desktop", entry("Deep")}},
+         "Deep"},
+        {"in the user's language",
+         {{cachePath, cache + "door=c.desktop\n"},
+          {"system/applications/c.desktop", entry("Door", "Name[de]=T\nName[pt]=Porta\n")}},
+         "Porta"},
+        {"outside of the folder",
+         {{cachePath, cache + "door=../x.desktop\n"}, {"system/x.desktop", entry("X")}},
+         ""},
+        {"garbage", {{cachePath, "\xff]=[\n=\nx-scheme-handler/door\n[[]"}}, ""},
+    };
+    for (auto [name, files, program] : cases) {
+        const QTemporaryDir folder;
+        files.insert({{"system/applications/a.desktop", entry("A")},
+                      {"system/applications/b.desktop", entry("B")}});
+        for (const auto& [path, contents] : files) {
+            const QString absolute = folder.filePath(QString::fromLatin1(path));
+            QDir().mkpath(absolute.section(u'/', 0, -2));
+            QFile file(absolute);
+            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+            file.write(contents);
+        }
+        const ProgramFolders folders{{folder.filePath(u"config"_s)},
+                                     {folder.filePath(u"user"_s), folder.filePath(u"system"_s)},
+                                     {u"kde"_s}};
+        EXPECT_EQ(defaultProgram(u"x-scheme-handler/door"_s, folders, {u"pt_BR"_s, u"pt"_s}),
+                  QString::fromLatin1(program))
+            << name;
     }
-    const ProgramFolders folders{{folder.filePath(u"config"_s)},
-                                 {folder.filePath(u"user"_s), folder.filePath(u"system"_s)},
-                                 {u"kde"_s}};
-    EXPECT_EQ(defaultProgram(u"x-scheme-handler/door"_s, folders, {u"pt_BR"_s, u"pt"_s}),
-              GetParam().program);
 }
-
-const auto apps = u"system/applications/"_s;
-const QByteArray opensB = "[Default Applications]\nx-scheme-handler/door=gone.desktop;b.desktop;\n";
-const QByteArray cacheA = "[MIME Cache]\nx-scheme-handler/door=a.desktop;\n";
-
-INSTANTIATE_TEST_SUITE_P(
-    All, DefaultProgram,
-    testing::Values(
-        ProgramCase{"none", {}, {}},
-        ProgramCase{"installed",
-                    {{apps + u"mimeinfo.cache"_s, cacheA}, {apps + u"a.desktop"_s, entry("A")}},
-                    u"A"_s},
-        ProgramCase{"chosenByTheUser",
-                    {{u"config/mimeapps.list"_s, opensB},
-                     {apps + u"mimeinfo.cache"_s, cacheA},
-                     {apps + u"a.desktop"_s, entry("A")},
-                     {apps + u"b.desktop"_s, entry("B")}},
-                    u"B"_s},
-        ProgramCase{"ofThisDesktop",
-                    {{u"config/mimeapps.list"_s, cacheA},
-                     {u"config/kde-mimeapps.list"_s, opensB},
-                     {apps + u"b.desktop"_s, entry("B")}},
-                    u"B"_s},
-        ProgramCase{"removedByTheUser",
-                    {{u"config/mimeapps.list"_s,
-                      "[Removed Associations]\nx-scheme-handler/door=a.desktop\n"},
-                     {apps + u"mimeinfo.cache"_s, cacheA},
-                     {apps + u"a.desktop"_s, entry("A")}},
-                    {}},
-        ProgramCase{"hiddenByTheUser",
-                    {{apps + u"mimeinfo.cache"_s, cacheA},
-                     {apps + u"a.desktop"_s, entry("A")},
-                     {u"user/applications/a.desktop"_s, entry("A", "Hidden=true\n")}},
-                    {}},
-        ProgramCase{"inAFolder",
-                    {{apps + u"mimeinfo.cache"_s,
-                      "[MIME Cache]\nx-scheme-handler/door=org-kde-a.desktop\n"},
-                     {apps + u"org/kde-a.desktop"_s, entry("Deep")}},
-                    u"Deep"_s},
-        ProgramCase{"inTheUsersLanguage",
-                    {{apps + u"mimeinfo.cache"_s, cacheA},
-                     {apps + u"a.desktop"_s, entry("Door", "Name[de]=T\nName[pt]=Porta\n")}},
-                    u"Porta"_s},
-        ProgramCase{
-            "outsideOfTheFolder",
-            {{apps + u"mimeinfo.cache"_s, "[MIME Cache]\nx-scheme-handler/door=../x.desktop\n"},
-             {u"system/x.desktop"_s, entry("X")}},
-            {}},
-        ProgramCase{"garbage",
-                    {{apps + u"mimeinfo.cache"_s, "\xff]=[\n=\nx-scheme-handler/door\n[[]"}},
-                    {}}),
-    [](const auto& row) { return row.param.name; });
 
 } // namespace
 

@@ -19,8 +19,7 @@ TEST(LoginShutDown, asksTheLoginServiceWhichMayAskTheUser) {
         return true;
     });
     QDBusConnection service = bus.connect(u"service"_s);
-    ASSERT_TRUE(service.registerVirtualObject(u"/"_s, &login, QDBusConnection::SubPath));
-    ASSERT_TRUE(service.registerService(u"org.freedesktop.login1"_s));
+    login.serve(service, u"org.freedesktop.login1"_s);
     shutDown.request();
     ASSERT_TRUE(eventually([&] { return !calls.isEmpty(); }));
     EXPECT_EQ(calls.size(), 1);

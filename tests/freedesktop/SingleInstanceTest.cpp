@@ -38,7 +38,7 @@ struct Way {
     const char* name;
     std::unique_ptr<SingleInstance> (*claim)(PrivateBus& bus);
     std::optional<Answer> (*ask)(PrivateBus& bus, const QStringList& request,
-                                 std::chrono::milliseconds patience);
+                                 std::chrono::milliseconds timeout);
 
     friend void PrintTo(const Way& way, std::ostream* out) { *out << way.name; }
 };
@@ -49,14 +49,14 @@ const Way overBus{
         static int claims = 0;
         return BusInstance::claim(bus.connect(u"claims %1"_s.arg(++claims)));
     },
-    [](PrivateBus& bus, const QStringList& request, std::chrono::milliseconds patience) {
-        return BusInstance::ask(bus.connect(u"asks"_s), request, patience);
+    [](PrivateBus& bus, const QStringList& request, std::chrono::milliseconds timeout) {
+        return BusInstance::ask(bus.connect(u"asks"_s), request, timeout);
     }};
 const Way overSocket{
     "Socket",
     [](PrivateBus& /*bus*/) -> std::unique_ptr<SingleInstance> { return SocketInstance::claim(); },
-    [](PrivateBus& /*bus*/, const QStringList& request, std::chrono::milliseconds patience) {
-        return SocketInstance::ask(request, patience);
+    [](PrivateBus& /*bus*/, const QStringList& request, std::chrono::milliseconds timeout) {
+        return SocketInstance::ask(request, timeout);
     }};
 
 class SingleInstanceTest : public testing::Test {
@@ -77,10 +77,9 @@ class EitherWay : public SingleInstanceTest, public testing::WithParamInterface<
 protected:
     std::unique_ptr<SingleInstance> claim() { return GetParam().claim(bus_); }
 
-    std::optional<Answer> ask(const QStringList& request,
-                              std::chrono::milliseconds patience = 20s) {
+    std::optional<Answer> ask(const QStringList& request, std::chrono::milliseconds timeout = 20s) {
         return elsewhere<std::optional<Answer>>(
-            [&] { return GetParam().ask(bus_, request, patience); });
+            [&] { return GetParam().ask(bus_, request, timeout); });
     }
 };
 

@@ -214,10 +214,10 @@ TEST_F(ContextTest, looksAtTheEndOfALongTranscript) {
     writeFile(path(u"a/x.jsonl"_s), turn(6) + '\n' + QByteArray(5 * limit, 'x') + '\n');
     EXPECT_EQ(usedAfterATick(), 6) << "a line of five megabytes follows";
     const QByteArray wide = foreign + turn(5) + '\n';
-    const qsizetype rest = widestTranscriptWindow + 1 - wide.size();
+    const qsizetype rest = maxTranscriptWindow + 1 - wide.size();
     writeFile(path(u"a/x.jsonl"_s), "\xff" + wide + QByteArray(rest, '\n'));
     EXPECT_EQ(usedAfterATick(), 5) << "the wide window begins within a character";
-    writeFile(path(u"a/x.jsonl"_s), turn(4) + QByteArray(widestTranscriptWindow, '\n'));
+    writeFile(path(u"a/x.jsonl"_s), turn(4) + QByteArray(maxTranscriptWindow, '\n'));
     EXPECT_EQ(usedAfterATick(), 5) << "further back nothing is read";
     EXPECT_EQ(context_->limit(), 1000000);
 }
@@ -235,6 +235,23 @@ TEST_F(ContextTest, goesBackToTheNewestTranscriptThatHasATurn) {
     EXPECT_EQ(usedAfterATick(), 11) << "neither of the two newest has one";
     write(u"b/opened.jsonl"_s, 44, 1004);
     EXPECT_EQ(usedAfterATick(), 44);
+}
+
+TEST_F(ContextTest, knowsWhetherClaudeCodeIsInstalled) {
+    const QString other = home_.filePath(u"elsewhere"_s);
+    start(std::make_unique<InotifyChanges>(), {QFile::encodeName(other)});
+    EXPECT_FALSE(context_->installed());
+    for (const QString& sign : {other, home_.filePath(u".local/bin/claude"_s)}) {
+        writeFile(sign, {});
+        scheduler_.advance(tick);
+        EXPECT_TRUE(context_->installed()) << qPrintable(sign);
+        QFile::remove(sign);
+        scheduler_.advance(tick);
+        EXPECT_FALSE(context_->installed()) << qPrintable(sign);
+    }
+    setLimit("1000");
+    scheduler_.advance(tick);
+    EXPECT_TRUE(context_->installed()) << "its usual folder";
 }
 
 TEST_F(ContextTest, looksElsewhereOnlyIfTheUsualFolderHasNoTurn) {

@@ -9,8 +9,8 @@
 #include "fakes/FakeUsageSources.h"
 #include "fakes/ManualScheduler.h"
 #include "monitor/ClaudeEnvironment.h"
+#include "platform/system/CurlClient.h"
 #include "platform/system/DetachedThreads.h"
-#include "platform/system/HttpsThread.h"
 #include "platform/system/SpawnedChild.h"
 #include "support/Eventually.h"
 
@@ -80,10 +80,18 @@ public:
         write(u".claude/.credentials.json"_s, credentials(token, more));
     }
 
-    void start(const QString& host = u"localhost"_s, Seconds timeOut = Seconds(15)) {
-        usage = std::make_unique<PlanUsage>(
-            UsageQuery::Services{scheduler, files, secrets, https, children},
-            QFile::encodeName(home.path()), UsageQuery::Endpoint{server.url(host), timeOut});
+    [[nodiscard]] std::unique_ptr<PlanUsage> asking(HttpsClient& by,
+                                                    const QString& host = u"localhost"_s,
+                                                    Seconds timeout = Seconds(15),
+                                                    const QByteArrayList& otherFolders = {}) {
+        return std::make_unique<PlanUsage>(
+            UsageQuery::Services{scheduler, files, secrets, by, children},
+            QFile::encodeName(home.path()), UsageQuery::Endpoint{server.url(host), timeout},
+            otherFolders);
+    }
+
+    void start(const QString& host = u"localhost"_s, Seconds timeout = Seconds(15)) {
+        usage = asking(https, host, timeout);
         settle();
     }
 
@@ -120,6 +128,18 @@ public:
         return environment;
     }
 
+    [[nodiscard]] CurlClient client(const QStringList& options = {},
+                                    const QProcessEnvironment& proxies = {}) const {
+        return {"Ravelo/test", proxies, QStringList{u"--cacert"_s, server.authority()} + options};
+    }
+
+    /// Whether a client of its own gets an answer.
+    [[nodiscard]] bool succeeds(HttpsClient& by, Seconds timeout = Seconds(15)) {
+        const auto one = asking(by, u"localhost"_s, timeout);
+        settle(*one);
+        return one->liveOK();
+    }
+
     /// One line each.
     [[nodiscard]] QByteArrayList runs() const {
         QByteArrayList lines =
@@ -134,7 +154,7 @@ public:
     FakeDetachedJobs files{scheduler};
     FakeSecretStore secrets;
     DetachedThreads threads;
-    HttpsThread https{threads, "Ravelo/test", server.trust()};
+    CurlClient https = client();
     SpawnedChild children{threads, renewalEnvironment(environment()),
                           QFile::encodeName(path(u"cache/renewal"_s))};
     std::unique_ptr<PlanUsage> usage;
@@ -161,21 +181,11 @@ QByteArray ok(const QByteArray& body) {
     return UsageServer::http("200 OK", body);
 }
 
-QByteArray sessionThatResets(const QByteArray& time) {
-    return ok(R"({"five_hour":{"utilization":7,"resets_at":")" + time + R"("}})");
-}
-
 INSTANTIATE_TEST_SUITE_P(
     All, PlanUsageAnswer,
     testing::Values(
-        AnswerCase{"both", ok(goodBody), answered},
-        AnswerCase{"oneWithAFraction", sessionThatResets("2025-11-15T19:00:00.000000+00:00"),
-                   PlanWindows{UsageWindow{7, Date{1763233200 - referenceInstant}}, {}}},
-        AnswerCase{"oneWithoutAFraction", sessionThatResets("2025-11-15T19:00:00+00:00"),
-                   PlanWindows{UsageWindow{7, {}}, {}}},
-        AnswerCase{"neither", ok("{}"), PlanWindows{}}, AnswerCase{"noObject", ok("[]"), {}},
-        AnswerCase{"garbage", ok("<html>\xff"), {}}, AnswerCase{"noHttp", "garbage\r\n\r\n", {}},
-        AnswerCase{"cut", ok(goodBody).chopped(1), {}},
+        AnswerCase{"both", ok(goodBody), answered}, AnswerCase{"noObject", ok("[]"), {}},
+        AnswerCase{"noHttp", "garbage\r\n\r\n", {}}, AnswerCase{"cut", ok(goodBody).chopped(1), {}},
         AnswerCase{"created", UsageServer::http("201 Created", goodBody), {}},
         AnswerCase{"unauthorized",
                    UsageServer::http("401 Unauthorized", "{}", "WWW-Authenticate: Bearer\r\n"),
@@ -218,12 +228,32 @@ TEST_F(PlanUsageTest, carriesTheTokenNowhereElse) {
     EXPECT_FALSE(usage->liveOK());
     EXPECT_EQ(server.requests().size(), 1) << "the certificate is for another host";
 
-    HttpsThread systemTrust(threads, "Ravelo/test");
-    const PlanUsage distrusting({scheduler, files, secrets, systemTrust, children},
-                                QFile::encodeName(home.path()),
-                                {server.url(u"localhost"_s), Seconds(15)});
-    settle(distrusting);
+    CurlClient systemTrust("Ravelo/test", {});
+    EXPECT_FALSE(succeeds(systemTrust));
     EXPECT_EQ(server.requests().size(), 1) << "nobody vouches for the certificate";
+}
+
+TEST_F(PlanUsageTest, asksThroughTheProxyOfTheEnvironment) {
+    Proxy proxy;
+    const std::pair<const char*, const char*> cases[] = {{"", "CONNECT"}, {"localhost", ""}};
+    for (const auto& [exception, connect] : cases) {
+        QProcessEnvironment environment;
+        environment.insert(u"https_proxy"_s, proxy.url());
+        environment.insert(u"no_proxy"_s, QString::fromLatin1(exception));
+        proxy.received.clear();
+        CurlClient proxied = client({}, environment);
+        EXPECT_TRUE(succeeds(proxied));
+        EXPECT_TRUE(proxy.received.startsWith(connect)) << proxy.received.toStdString();
+        EXPECT_EQ(proxy.received.isEmpty(), *connect == 0) << proxy.received.toStdString();
+        EXPECT_FALSE(proxy.received.contains("token-1"));
+    }
+}
+
+TEST_F(PlanUsageTest, asksAtTheNextAddressIfTheFirstDoesNotAnswer) {
+    const SilentAddress silent(server.port());
+    CurlClient both = client({u"--resolve"_s, u"localhost:%1:%2,127.0.0.1"_s.arg(server.port())
+                                                  .arg(QLatin1StringView(SilentAddress::address))});
+    EXPECT_TRUE(succeeds(both, Seconds(6)));
 }
 
 TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
@@ -358,11 +388,8 @@ TEST_F(PlanUsageTest, looksElsewhereForCredentialsLast) {
     setToken("");
     write(u"other/.credentials.json"_s, credentials("other-token"));
     const auto run = [&] {
-        usage = std::make_unique<PlanUsage>(
-            UsageQuery::Services{scheduler, files, secrets, https, children},
-            QFile::encodeName(home.path()),
-            UsageQuery::Endpoint{server.url(u"localhost"_s), Seconds(15)},
-            QByteArrayList{"/no/such", QFile::encodeName(path(u"other"_s))});
+        usage = asking(https, u"localhost"_s, Seconds(15),
+                       {"/no/such", QFile::encodeName(path(u"other"_s))});
         settle();
         return server.requests().last();
     };
@@ -371,14 +398,19 @@ TEST_F(PlanUsageTest, looksElsewhereForCredentialsLast) {
     EXPECT_TRUE(run().contains("Bearer secret-token\r\n"));
 }
 
-TEST_F(PlanUsageTest, mayEndInTheMiddleOfAQuery) {
+TEST_F(PlanUsageTest, showsNobodyTheTokenAndMayEndInTheMiddleOfAQuery) {
     server.answer.clear();
-    usage = std::make_unique<PlanUsage>(
-        UsageQuery::Services{scheduler, files, secrets, https, children},
-        QFile::encodeName(home.path()),
-        UsageQuery::Endpoint{server.url(u"localhost"_s), Seconds(15)});
+    usage = asking(https);
     scheduler.advance(Seconds(0));
     ASSERT_TRUE(eventually([&] { return !server.requests().isEmpty(); }));
+    const auto* const curl = https.findChild<QProcess*>();
+    ASSERT_TRUE(curl);
+    const QString process = u"/proc/%1/"_s.arg(curl->processId());
+    const QByteArray arguments = readFile(process + u"cmdline"_s).value_or(QByteArray());
+    EXPECT_TRUE(arguments.contains("/api/oauth/usage")) << "that is not the request";
+    EXPECT_FALSE(arguments.contains("token-1"));
+    EXPECT_EQ(readFile(process + u"environ"_s), QByteArray("LC_ALL=C.UTF-8\0", 15));
+
     usage.reset();
     EXPECT_EQ(scheduler.pending(), 0);
 }

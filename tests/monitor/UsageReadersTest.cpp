@@ -53,47 +53,42 @@ TEST(UsageAnswer, hasTimesWithAFractionOnly) {
     }
 }
 
-using Windows = std::optional<PlanWindows>;
+TEST(UsageReaders, readEachWindowThatHasAPercentage) {
+    using Windows = std::optional<PlanWindows>;
 
-struct ReaderCase {
-    const char* name;
-    Windows (*read)(QByteArrayView);
-    QByteArray json;
-    Windows windows;
-};
+    struct Case {
+        const char* name;
+        Windows (*read)(QByteArrayView);
+        QByteArray json;
+        Windows windows;
+    };
 
-class UsageReader : public testing::TestWithParam<ReaderCase> {};
-
-TEST_P(UsageReader, takesEachWindowThatHasAPercentage) {
-    EXPECT_TRUE(GetParam().read(GetParam().json) == GetParam().windows);
+    const Case cases[] = {
+        {"answerWithBoth", readUsageAnswer,
+         R"({"five_hour":{"utilization":7},"seven_day":{"utilization":130.5},"x":1})",
+         PlanWindows{UsageWindow{7, {}}, UsageWindow{130.5, {}}}},
+        {"answerWithOne", readUsageAnswer,
+         R"({"seven_day":{"utilization":0,"resets_at":"2025-11-15T19:00:00.0Z"}})",
+         PlanWindows{{}, UsageWindow{0, at(0)}}},
+        {"answerWithNeither", readUsageAnswer,
+         R"({"five_hour":{"utilization":"7"},"seven_day":[{"utilization":7}]})", PlanWindows{}},
+        {"answerThatIsNoObject", readUsageAnswer, "[]", {}},
+        {"answerThatIsNoJson", readUsageAnswer, "<html>", {}},
+        {"fileWithBoth", readUsageFile,
+         R"({"model":{},"rate_limits":{"five_hour":{"used_percentage":23.5,)"
+         R"("resets_at":1763233200},"seven_day":{"used_percentage":1,"resets_at":"x"}}})",
+         PlanWindows{UsageWindow{23.5, at(0)}, UsageWindow{1, {}}}},
+        {"fileWithNeither", readUsageFile, R"({"rate_limits":{"seven_day":7}})", PlanWindows{}},
+        {"fileWithoutLimits",
+         readUsageFile,
+         R"({"rate_limits":[],"five_hour":{"used_percentage":1}})",
+         {}},
+        {"fileThatIsNoJson", readUsageFile, R"({"rate_limits":{)", {}},
+    };
+    for (const Case& c : cases) {
+        EXPECT_TRUE(c.read(c.json) == c.windows) << c.name;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, UsageReader,
-    testing::Values(
-        ReaderCase{"answerWithBoth", readUsageAnswer,
-                   R"({"five_hour":{"utilization":7},"seven_day":{"utilization":130.5},"x":1})",
-                   PlanWindows{UsageWindow{7, {}}, UsageWindow{130.5, {}}}},
-        ReaderCase{"answerWithOne", readUsageAnswer,
-                   R"({"seven_day":{"utilization":0,"resets_at":"2025-11-15T19:00:00.0Z"}})",
-                   PlanWindows{{}, UsageWindow{0, at(0)}}},
-        ReaderCase{"answerWithNeither", readUsageAnswer,
-                   R"({"five_hour":{"utilization":"7"},"seven_day":[{"utilization":7}]})",
-                   PlanWindows{}},
-        ReaderCase{"answerThatIsNoObject", readUsageAnswer, "[]", {}},
-        ReaderCase{"answerThatIsNoJson", readUsageAnswer, "<html>", {}},
-        ReaderCase{"fileWithBoth", readUsageFile,
-                   R"({"model":{},"rate_limits":{"five_hour":{"used_percentage":23.5,)"
-                   R"("resets_at":1763233200},"seven_day":{"used_percentage":1,"resets_at":"x"}}})",
-                   PlanWindows{UsageWindow{23.5, at(0)}, UsageWindow{1, {}}}},
-        ReaderCase{"fileWithNeither", readUsageFile, R"({"rate_limits":{"seven_day":7}})",
-                   PlanWindows{}},
-        ReaderCase{"fileWithoutLimits",
-                   readUsageFile,
-                   R"({"rate_limits":[],"five_hour":{"used_percentage":1}})",
-                   {}},
-        ReaderCase{"fileThatIsNoJson", readUsageFile, R"({"rate_limits":{)", {}}),
-    [](const auto& row) { return row.param.name; });
 
 TEST(Credentials, areThereWhereSomebodyIsLoggedIn) {
     const auto read = [](const QByteArray& account) {

@@ -11,35 +11,22 @@
 
 #include <memory>
 
+#include <arpa/inet.h>
+#include <sys/socket.h>
+#include <unistd.h>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
 UsageServer::UsageServer() {
-    run({u"req"_s, u"-x509"_s, u"-newkey"_s, u"ec"_s, u"-pkeyopt"_s, u"ec_paramgen_curve:P-256"_s,
-         u"-nodes"_s, u"-subj"_s, u"/CN=authority"_s, u"-keyout"_s, u"authority.key"_s, u"-out"_s,
-         u"authority.pem"_s});
-    run({u"req"_s,
-         u"-x509"_s,
-         u"-newkey"_s,
-         u"ec"_s,
-         u"-pkeyopt"_s,
-         u"ec_paramgen_curve:P-256"_s,
-         u"-nodes"_s,
-         u"-subj"_s,
-         u"/CN=server"_s,
-         u"-addext"_s,
-         u"subjectAltName=DNS:localhost"_s,
-         u"-addext"_s,
-         u"basicConstraints=critical,CA:FALSE"_s,
-         u"-CA"_s,
-         u"authority.pem"_s,
-         u"-CAkey"_s,
-         u"authority.key"_s,
-         u"-keyout"_s,
-         u"server.key"_s,
-         u"-out"_s,
-         u"server.pem"_s});
+    const QString newCertificate =
+        u"req -x509 -newkey ec -pkeyopt ec_paramgen_curve:P-256 -nodes -keyout %1.key -out %1.pem "
+        "-subj /CN=%1"_s;
+    run(newCertificate.arg(u"authority"_s));
+    run(newCertificate.arg(u"server"_s) +
+        u" -addext subjectAltName=DNS:localhost -addext basicConstraints=critical,CA:FALSE "
+        "-CA authority.pem -CAkey authority.key"_s);
     QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
     tls.setLocalCertificate(QSslCertificate::fromPath(folder_.filePath(u"server.pem"_s)).value(0));
     tls.setPrivateKey(
@@ -50,10 +37,10 @@ UsageServer::UsageServer() {
                      [this] { serve(server_.nextPendingConnection()); });
 }
 
-void UsageServer::run(const QStringList& openssl) const {
+void UsageServer::run(const QString& openssl) const {
     QProcess process;
     process.setWorkingDirectory(folder_.path());
-    process.start(u"openssl"_s, openssl);
+    process.start(u"openssl"_s, openssl.split(u' '));
     EXPECT_TRUE(process.waitForFinished() && process.exitCode() == 0)
         << process.readAllStandardError().toStdString();
 }
@@ -83,10 +70,51 @@ QUrl UsageServer::url(const QString& host) const {
     return {u"https://%1:%2/api/oauth/usage"_s.arg(host).arg(server_.serverPort())};
 }
 
-QSslConfiguration UsageServer::trust() const {
-    QSslConfiguration tls = QSslConfiguration::defaultConfiguration();
-    tls.setCaCertificates(QSslCertificate::fromPath(folder_.filePath(u"authority.pem"_s)));
-    return tls;
+Proxy::Proxy() {
+    EXPECT_TRUE(server_.listen(QHostAddress::LocalHost));
+    QObject::connect(&server_, &QTcpServer::pendingConnectionAvailable, &server_,
+                     [this] { serve(server_.nextPendingConnection()); });
+}
+
+void Proxy::serve(QTcpSocket* client) {
+    auto* const target = new QTcpSocket(client);
+    QObject::connect(client, &QTcpSocket::readyRead, client, [this, client, target] {
+        const QByteArray bytes = client->readAll();
+        received += bytes;
+        if (target->state() == QTcpSocket::UnconnectedState) {
+            const QUrl url(u"//"_s + QString::fromLatin1(bytes.split(' ').value(1)));
+            target->connectToHost(QHostAddress::LocalHost, static_cast<quint16>(url.port()));
+            client->write("HTTP/1.1 200 OK\r\n\r\n");
+        } else {
+            target->write(bytes);
+        }
+    });
+    QObject::connect(target, &QTcpSocket::readyRead, client,
+                     [client, target] { client->write(target->readAll()); });
+    QObject::connect(target, &QTcpSocket::disconnected, client, &QTcpSocket::disconnectFromHost);
+    QObject::connect(client, &QTcpSocket::disconnected, client, &QTcpSocket::deleteLater);
+}
+
+SilentAddress::SilentAddress(quint16 port) {
+    sockaddr_in place = {};
+    place.sin_family = AF_INET;
+    place.sin_port = htons(port);
+    inet_pton(AF_INET, address, &place.sin_addr);
+    auto* const at = reinterpret_cast<sockaddr*>(&place);
+    for (int& one : sockets_) {
+        one = socket(AF_INET, SOCK_STREAM | SOCK_CLOEXEC | SOCK_NONBLOCK, 0);
+    }
+    EXPECT_EQ(bind(sockets_[0], at, sizeof place), 0);
+    EXPECT_EQ(listen(sockets_[0], 0), 0);
+    for (const int filling : {sockets_[1], sockets_[2]}) {
+        connect(filling, at, sizeof place);
+    }
+}
+
+SilentAddress::~SilentAddress() {
+    for (const int one : sockets_) {
+        close(one);
+    }
 }
 
 } // namespace ravelo

@@ -127,5 +127,17 @@ INSTANTIATE_TEST_SUITE_P(All, TakenInput,
                                          TakenCase{"byASourceOfFiles", true, Seconds(0), true}),
                          [](const auto& row) { return row.param.name; });
 
+TEST(TakenInputEnd, theHandleComesBackThoughMoreWindowsCome) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    world.grab.held = true;
+    world.grab.likelyTaken.notify();
+    ASSERT_FALSE(world.window.shown);
+    world.scheduler.advance(Seconds(0.5));
+    world.grab.likelyTaken.notify();
+    world.scheduler.advance(Seconds(2));
+    EXPECT_TRUE(world.window.shown);
+}
+
 } // namespace
 } // namespace ravelo

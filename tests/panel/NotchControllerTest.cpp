@@ -97,6 +97,19 @@ TEST(NotchController, closesOnAPressElsewhereOnly) {
     EXPECT_EQ(world.controller.frame(), QRectF(620, 0, 200, 12));
 }
 
+TEST(NotchController, aPressIntoAWindowOfOurOwnIsNoPressElsewhere) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    world.moveTo(100, 800);
+    world.pointer.overOwnWindow = true;
+    world.pointer.press();
+    EXPECT_TRUE(world.controller.isOpen());
+    world.pointer.release();
+    world.pointer.overOwnWindow = false;
+    world.pointer.press();
+    EXPECT_FALSE(world.controller.isOpen());
+}
+
 TEST(NotchController, theDelayedCloseFiresWhereTicksStopComing) {
     PanelWorld world;
     world.moveTo(720, 5);

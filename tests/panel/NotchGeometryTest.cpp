@@ -93,11 +93,40 @@ TEST(Placement, hangsFromTheMiddleOfTheTopEdge) {
     const Screen second{
         u"2"_s, QRectF(1440, 120, 1920, 1080), QRectF(1440, 120, 1920, 1080), {}, {}};
     EXPECT_EQ(hangingFrame(second, handleSize), QRectF(2300, 120, 200, 12));
-    EXPECT_EQ(hangingFrame(second, expandedSize(927, ShelfContent::none)),
+    EXPECT_EQ(hangingFrame(second, expandedSize(927, ShelfContent::none, second)),
               QRectF(1936.5, 120, 927, 560));
-    EXPECT_EQ(hangingFrame(second, expandedSize(800, ShelfContent::files)),
+    EXPECT_EQ(hangingFrame(second, expandedSize(800, ShelfContent::files, second)),
               QRectF(2000, 120, 800, 700));
 }
+
+struct SizeCase {
+    const char* name;
+    QSizeF screen;
+    QSizeF empty; ///< Of a panel 927 wide, with an empty shelf.
+    QSizeF files; ///< With files on it.
+    double bar;   ///< Width of the bar with an assumed notch.
+};
+
+class SizeTable : public testing::TestWithParam<SizeCase> {};
+
+TEST_P(SizeTable, isSmallerThanItsScreen) {
+    const SizeCase& row = GetParam();
+    const Screen screen{u"s"_s, QRectF({1440, 0}, row.screen), {}, {}, {}};
+    EXPECT_EQ(expandedSize(927, ShelfContent::none, screen), row.empty);
+    EXPECT_EQ(expandedSize(927, ShelfContent::files, screen), row.files);
+    EXPECT_EQ(barGeometry(screen, u"notch"_s).width, row.bar);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Screens, SizeTable,
+    testing::Values(SizeCase{"least", {640, 400}, {620, 380}, {620, 380}, 620},
+                    SizeCase{"small", {800, 480}, {780, 460}, {780, 460}, 640},
+                    SizeCase{"twice1440", {720, 450}, {700, 430}, {700, 430}, 640},
+                    SizeCase{"netbook", {1024, 600}, {927, 560}, {927, 580}, 640},
+                    SizeCase{"laptop", {1366, 768}, {927, 560}, {927, 700}, 640},
+                    SizeCase{"portrait", {1080, 1920}, {927, 560}, {927, 700}, 640},
+                    SizeCase{"fraction", {910.7, 512.1}, {890, 492}, {890, 492}, 640}),
+    [](const auto& row) { return row.param.name; });
 
 TEST(ScreenChoice, takesTheScreenUnderThePointerElseTheMainOne) {
     const Screen left{u"left"_s, QRectF(0, 0, 1000, 800), {}, {}, {}};

@@ -505,6 +505,32 @@ class Windows(AssistiveCase, ProgramCase):
         self.assertEqual(self.ravelo.call("--setup"), (0, ""))
         self.expect_window(self.SETUP)
 
+    def test_windows_of_its_own_are_not_elsewhere_and_not_under_the_panel(self):
+        self.ravelo.start()
+        self.ravelo.open()
+        self.assertEqual(self.ravelo.call("--settings"), (0, ""))
+        window = self.expect_window(self.SETTINGS)
+        self.assertTrue(self.ravelo.is_collapsed(), "it would cover the window")
+        beside = window.x + 60, window.y + window.height - 30  # Below the open panel.
+        self.desktop.move(*beside)  # Hovering opens once the pointer has been elsewhere,
+        self.ravelo.call("status")  # for longer than a jump there and back.
+        self.ravelo.open()
+        self.desktop.click(*beside)
+        self.ravelo.call("status")  # Answered after the press was heard of.
+        self.assertTrue(self.ravelo.is_open(), "a press into the settings is none elsewhere")
+        self.press("Escape")
+        self.expect_none()
+        self.assertTrue(self.ravelo.is_open())
+        self.desktop.click(*beside)
+        wait_for(self.ravelo.is_collapsed, "a press elsewhere to close the panel")
+
+        self.ravelo.open()
+        self.assertEqual(self.ravelo.call("--updates"), (0, ""))
+        self.expect_window("Ravelo Updates")
+        self.assertTrue(self.ravelo.is_collapsed(), "it would cover the window")
+        self.press("Return")
+        self.expect_none()
+
     def test_the_settings_come_by_option_and_gear_and_end_nothing(self):
         self.ravelo.process = self.desktop.spawn(self.ravelo.program, "--settings")
         self.assertEqual(self.expect_window(self.SETTINGS)[3:], (460, 600))
@@ -514,7 +540,7 @@ class Windows(AssistiveCase, ProgramCase):
         self.desktop.click(panel.x + panel.width - GEAR_RIGHT, TOP_BAR)
         window = self.expect_window(self.SETTINGS)
         self.assertTrue(self.ravelo.is_collapsed(), "the panel makes room")
-        self.press(*["Tab"] * 4, "End")
+        self.press(*["Tab"] * 5, "End")
         wait_for(lambda: self.ravelo.preferences().get("panelWidth") == 1100, "1100 on disk")
         self.desktop.click(window.x + window.width - 22, window.y + 20)
         self.expect_none()

@@ -80,16 +80,20 @@ TEST_P(SettingsField, IsToldAndKeptWhenItIsSet) {
 
 INSTANTIATE_TEST_SUITE_P(
     Table, SettingsField,
-    testing::Values(Field{"bgOpacity", &AppSettings::bgOpacityChanged, 0.55, 0.8, u"0.8"_s},
-                    Field{"fullBlack", &AppSettings::fullBlackChanged, false, true, 1},
-                    Field{"panelWidth", &AppSettings::panelWidthChanged, 927.0, 1040.5, u"1100"_s},
-                    Field{"hotkeyEnabled", &AppSettings::hotkeyEnabledChanged, true, false,
-                          u"false"_s, WrittenBack::no},
-                    Field{"lastTab", &AppSettings::lastTabChanged, u"Clipboard"_s, u"Notes"_s, 3},
-                    Field{"pinnedBar", &AppSettings::pinnedBarChanged, false, true, u"true"_s,
-                          WrittenBack::no},
-                    Field{"macType", &AppSettings::macTypeChanged, u"auto"_s, u"notch"_s, true},
-                    Field{"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}));
+    testing::Values(
+        Field{"bgOpacity", &AppSettings::bgOpacityChanged, 0.55, 0.8, u"0.8"_s},
+        Field{"fullBlack", &AppSettings::fullBlackChanged, false, true, 1},
+        Field{"panelWidth", &AppSettings::panelWidthChanged, 927.0, 1040.5, u"1100"_s},
+        Field{"hotkeyEnabled", &AppSettings::hotkeyEnabledChanged, true, false, u"false"_s,
+              WrittenBack::no},
+        Field{"lastTab", &AppSettings::lastTabChanged, u"Clipboard"_s, u"Notes"_s, 3},
+        Field{"pinnedBar", &AppSettings::pinnedBarChanged, false, true, u"true"_s, WrittenBack::no},
+        Field{"macType", &AppSettings::macTypeChanged, u"auto"_s, u"notch"_s, true},
+        Field{"newestFirst", &AppSettings::newestFirstChanged, false, true, 1},
+        Field{"historyLength", &AppSettings::historyLengthChanged, 60, 1000, u"200"_s},
+        Field{"keepTextsExactly", &AppSettings::keepTextsExactlyChanged, false, true, u"true"_s},
+        Field{"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
+        Field{"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}));
 
 TEST(SettingsRange, IsWhatCanBeSeen) {
     for (const auto& [stored, width, opacity] :
@@ -102,6 +106,15 @@ TEST(SettingsRange, IsWhatCanBeSeen) {
         const AppSettings settings(preferences, loginItem);
         EXPECT_EQ(settings.panelWidth(), width) << stored;
         EXPECT_EQ(settings.bgOpacity(), opacity) << stored;
+    }
+}
+
+TEST(SettingsRange, HasThreeLengthsOfTheHistory) {
+    for (const auto& [stored, length] : {std::pair(200, 200), {0, 60}, {-1, 60}, {61, 60}}) {
+        MemoryPreferences preferences;
+        FakeLoginItem loginItem;
+        preferences.set(u"historyLength"_s, stored);
+        EXPECT_EQ(AppSettings(preferences, loginItem).historyLength(), length) << stored;
     }
 }
 

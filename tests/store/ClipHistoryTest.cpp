@@ -170,6 +170,54 @@ INSTANTIATE_TEST_SUITE_P(Table, ToggledPin,
                                          Step{"b@2 a@1", -1, nullptr, {}},
                                          Step{"", -1, nullptr, {}}));
 
+using Order = HistoryRules::Order;
+
+class NewestFirst : public testing::TestWithParam<Step> {};
+
+TEST_P(NewestFirst, IsKeptAfterAPin) {
+    const QList<ClipItem> before = list(QString::fromUtf8(GetParam().before));
+    const auto change =
+        ClipHistory::pinToggled(before, idAt(before, GetParam().index), Order::newerFirst);
+    ASSERT_TRUE(change);
+    EXPECT_EQ(shorthand(change->clips), GetParam().after);
+    EXPECT_FALSE(ClipHistory::newerFirst(change->clips)) << "it is sorted already";
+}
+
+INSTANTIATE_TEST_SUITE_P(Table, NewestFirst,
+                         testing::Values(Step{"c@3 b@2 a@1", 1, "*b@2 c@3 a@1", {}},
+                                         Step{"*b@2 c@3 a@1", 2, "*b@2 *a@1 c@3", {}},
+                                         Step{"d@4 *b@2 *a@1 c@3", 1, "*a@1 d@4 c@3 b@2", {}},
+                                         Step{"z@1 y@1 *w@1", 1, "*y@1 *w@1 z@1", {}}));
+
+class SwitchedToNewestFirst : public testing::TestWithParam<std::pair<const char*, const char*>> {};
+
+TEST_P(SwitchedToNewestFirst, MovesNoneAcrossAPinnedOne) {
+    const auto& [before, after] = GetParam();
+    const auto change = ClipHistory::newerFirst(list(QString::fromUtf8(before)));
+    EXPECT_EQ(change ? shorthand(change->clips) : "unchanged", after);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Table, SwitchedToNewestFirst,
+    testing::Values(std::pair("", "unchanged"), std::pair("b@2 *z@5 a@1", "unchanged"),
+                    std::pair("*a@1 *b@2 c@3 d@4", "*b@2 *a@1 d@4 c@3"),
+                    std::pair("e@5 *a@1 *b@2 c@3 d@4", "e@5 *b@2 *a@1 d@4 c@3"),
+                    std::pair("*a@1 *b@2", "*b@2 *a@1"), std::pair("y@1 x@1", "unchanged")));
+
+TEST(ClipHistory, IsAsLongAsItIsTold) {
+    QList<ClipItem> clips;
+    for (int i = 0; i < 300; ++i) {
+        clips.append(list(u"%1.png@1"_s.arg(i)));
+    }
+    for (const auto& [limit, length] : {std::pair(60, 60), {200, 200}, {1000, 301}}) {
+        const HistoryRules rules{Order::olderFirst, limit};
+        EXPECT_EQ(ClipHistory::added(clips, u"a"_s, {9}, rules)->clips.size(), length) << limit;
+        const ClipChange change = ClipHistory::imageAdded(clips, u"a.png"_s, {9}, rules);
+        EXPECT_EQ(change.clips.size(), length) << limit;
+        EXPECT_EQ(change.orphanedImages.size(), 301 - length) << limit;
+    }
+}
+
 class DeletedClip : public testing::TestWithParam<Step> {};
 
 TEST_P(DeletedClip, LeavesTheOthers) {

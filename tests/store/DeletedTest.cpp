@@ -2,6 +2,7 @@
 
 #include "store/Deleted.h"
 #include "StoreFixture.h"
+#include "store/ClipHistory.h"
 
 namespace ravelo {
 
@@ -139,38 +140,61 @@ TEST_F(Undo, textsComeBackWhereImagesCannot) {
     EXPECT_EQ(restored.count, 1);
     EXPECT_EQ(restored.problem, u"the disk is full"_s);
     EXPECT_EQ(texts(), "a");
+    ASSERT_TRUE(restored.canRetry);
+    full = false;
+    EXPECT_EQ(undo().count, 1) << "the image is lost after one attempt";
+    EXPECT_EQ(imageFiles().size(), 1);
 }
 
-TEST_F(Undo, neverComesAfterAClearing) {
+TEST_F(Undo, bringsOnlyWhatIsNotInTheHistoryBackAfterAClearing) {
     store_->addImageClip(png(Qt::red));
     settle();
+    const QList<Snippet> snippets = store_->snippets();
     store_->deleteClip(store_->clips()[0].id, deleted_);
+    store_->removeSnippet(snippets[0].id, deleted_);
     worker_.drain();
-    store_->restore(deleted_, [](const Store::Restored&) { FAIL() << "it is back"; });
+    Store::Restored restored;
+    store_->restore(deleted_, [&](const Store::Restored& outcome) { restored = outcome; });
     store_->clearClips();
     worker_.drain();
     worker_.drain();
     EXPECT_EQ(texts(), "");
     EXPECT_EQ(imageFiles(), QStringList());
+    EXPECT_EQ(store_->snippets(), snippets);
+    EXPECT_EQ(restored.count, 1);
+    EXPECT_EQ(restored.problem, u"the history was cleared"_s);
+}
+
+TEST_F(Undo, bringsTheOldestBackAboveTheLimitUntilTheNextCopy) {
+    const int limit = HistoryRules().limit;
+    for (int i = 0; i < limit; ++i) {
+        store_->addClip(u"text %1"_s.arg(i));
+    }
+    remove(u"text 0"_s);
+    store_->addClip(u"new"_s);
+    EXPECT_EQ(undo().count, 1);
+    EXPECT_EQ(store_->clips().back().text, u"text 0"_s);
+    store_->addClip(u"newer"_s);
+    EXPECT_EQ(store_->clips().size(), limit);
 }
 
 TEST_F(Undo, keepsTheLastDeletedOfWhatIsTooMuch) {
     QDir folder(store_->clipsDir());
     const auto record = [&](const QString& name) {
         QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.resize(qint64(30) << 20));
+        const qint64 mebibytes = name == u"large.png" ? 65 : 30;
+        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.resize(mebibytes << 20));
         ClipItem clip;
         clip.id = QUuid::createUuid();
         clip.imageFileName = name;
         return DeletedRecord{clip, {clip.id}, {}};
     };
-    for (const QString& name : {u"1.png"_s, u"2.png"_s, u"3.png"_s}) {
+    for (const QString& name : {u"1.png"_s, u"2.png"_s, u"3.png"_s, u"large.png"_s}) {
         deleted_->add({record(name)}, folder.path());
         folder.remove(name);
     }
     const Deleted::Restorable all = deleted_->restore(folder.path(), {});
     EXPECT_EQ(imageFiles(), QStringList({u"2.png"_s, u"3.png"_s}));
-    EXPECT_EQ(all.lost, 1);
     EXPECT_EQ(all.problem, u"too large to keep in memory"_s);
 }
 

@@ -148,20 +148,20 @@ TEST_F(FolderWatchTest, moreThanTheKernelKeeps) {
         follower.proceed();
     }
 
-    class Told final : public FolderWatch {
+    class ToldWatch final : public FolderWatch {
     public:
         Handle watch(const QByteArray& /*path*/,
-                     std::function<void(const FolderNews&)> t) override {
-            tell = std::move(t);
+                     std::function<void(const FolderNews&)> notify) override {
+            call = std::move(notify);
             return {};
         }
 
-        std::function<void(const FolderNews&)> tell;
+        std::function<void(const FolderNews&)> call;
     } watch;
 
     const ReceivedWatcher watcher(watch, scheduler_, QString());
     for (const FolderNews& news : told) {
-        watch.tell(news);
+        watch.call(news);
     }
     scheduler_.advance(Seconds(1));
     EXPECT_EQ(watcher.files().size(), most + 1000);

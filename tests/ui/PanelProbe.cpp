@@ -1,7 +1,7 @@
 // Draws the panel, the settings or the setup with sample data, for comparing it with the drawings
 // of its look.
 //
-//   panel_probe [--scene NAME] [--scale 1|2] [--png FILE] [--behind FILE] [--time N]
+//   panel_probe [--scene NAME] [--scale 1|2] [--screen WxH] [--png FILE] [--behind FILE] [--time N]
 //
 // writes the picture (of the closed panel as a bar in scenes such as "bar-timer-reminders-notch")
 // and prints the rectangles of all named elements as JSON, in logical pixels of the window.
@@ -264,9 +264,17 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     } else if (scene == u"narrow") {
         world.settings.setPanelWidth(560);
     }
+    if (scene.startsWith(u"small"_s)) {
+        world.store.setReminders({u"Call the framer"_s});
+        world.store.setReminderOpen(true);
+    }
     world.controller.positionExpanded();
     window.resize(world.controller.frame().size().toSize());
     settle();
+    if (scene == u"small-scrolled"_s) {
+        find(window.contentItem(), u"list"_s)->setProperty("contentY", 54);
+        settle();
+    }
     if (scene.startsWith(u"notice-"_s)) {
         notify(scene, world.notices, world.scheduler);
     } else if (scene == u"too-large") {
@@ -500,6 +508,7 @@ int main(int argc, char** argv) {
     QCommandLineParser options;
     options.addOptions({{u"scene"_s, u"What to show."_s, u"name"_s, u"clipboard"_s},
                         {u"scale"_s, u"Device pixels a logical one."_s, u"factor"_s, u"1"_s},
+                        {u"screen"_s, u"How large the screen is."_s, u"size"_s},
                         {u"png"_s, u"Where to write the picture."_s, u"file"_s},
                         {u"behind"_s, u"A picture of the screen below."_s, u"file"_s},
                         {u"time"_s, u"How many openings to time."_s, u"count"_s}});
@@ -515,6 +524,11 @@ int main(int argc, char** argv) {
         data.clips.append(clip(QString::number(data.clips.size()), day));
     }
     PanelWorld world(data);
+    const QString usual = scene.startsWith(u"small"_s) ? u"640x400"_s : u"1440x900"_s;
+    const QStringList size =
+        (options.isSet(u"screen"_s) ? options.value(u"screen"_s) : usual).split(u'x');
+    const QRectF screen(0, 0, size.value(0).toDouble(), size.value(1).toDouble());
+    world.screens.change({{u"one"_s, screen, screen.adjusted(0, 28, 0, 0), {}, {}}});
     const bool shelf = scene.startsWith(u"shelf"_s);
     // When the picture is taken: what was received for the shelf takes a day to arrive.
     const double now = world.scheduler.now().sinceReference + (shelf ? day.count() : 0);
@@ -544,16 +558,16 @@ int main(int argc, char** argv) {
         return 0;
     }
     world.settings.setLaunchAtLogin(true);
-    SettingsWindow settings({view.window(), world.store, world.settings, [] {
+    SettingsWindow settings({{view.window()}, world.store, world.settings, [] {
                              }});
-    OnboardingController onboarding(view.window(), world.settings, world.screens);
+    OnboardingController onboarding({view.window()}, world.settings, world.screens);
     QQuickWindow* window = playTitled(scene, settings, onboarding);
     if (window == nullptr) {
         play(scene, world, view);
         window = &view.window();
     }
     Updater updater(std::make_unique<SceneUpdates>(scene), u"0.2"_s);
-    UpdateWindow updates(view.window(), updater);
+    UpdateWindow updates({view.window()}, updater);
     if (scene.startsWith(u"update-"_s)) {
         updates.show();
         if (scene == u"update-installing") {

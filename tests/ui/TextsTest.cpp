@@ -90,6 +90,8 @@ TEST_P(UsageLineOf, aWindowOfThePlan) {
     EXPECT_DOUBLE_EQ(line.fraction, expected.fraction);
     EXPECT_EQ(line.band, expected.band);
     EXPECT_EQ(line.resetPassed, expected.resetPassed);
+    QString left = expected.reset;
+    EXPECT_EQ(line.left, left.remove(u"reseta em "_s));
 }
 
 UsageCase percent(const char* name, double value, const QString& text, double fraction,

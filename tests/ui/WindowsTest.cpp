@@ -3,7 +3,6 @@
 #include "PanelFixture.h"
 #include "ui/OnboardingController.h"
 #include "ui/SettingsWindow.h"
-#include "ui/TitledWindow.h"
 
 #include <QAccessible>
 #include <QWheelEvent>
@@ -35,10 +34,10 @@ public:
     [[nodiscard]] QJsonValue kept(const QString& key) const { return world.preferences.value(key); }
 
     int quits = 0;
-    SettingsWindow settings{{view.window(), world.store, world.settings, [this] {
+    SettingsWindow settings{{{view.window()}, world.store, world.settings, [this] {
                                  ++quits;
                              }}};
-    OnboardingController setup{view.window(), world.settings, world.screens};
+    OnboardingController setup{{view.window()}, world.settings, world.screens};
 };
 
 class Settings : public Windows {
@@ -70,8 +69,8 @@ public:
 };
 
 TEST_F(Settings, EachControlKeepsWhatTheKeyboardSetsAtOnce) {
-    for (const char* next : {"launchAtLogin", "fullBlack", "darkness", "panelWidth", "clearHistory",
-                             "quit", "close", "launchAtLogin"}) {
+    for (const char* next : {"tab0", "launchAtLogin", "fullBlack", "darkness", "panelWidth",
+                             "clearHistory", "quit", "close", "tab0"}) {
         press(*window, Qt::Key_Tab);
         EXPECT_TRUE(hasFocus(in(window, QString::fromUtf8(next)))) << next;
     }
@@ -113,6 +112,39 @@ TEST_F(Settings, EachControlKeepsWhatTheKeyboardSetsAtOnce) {
     EXPECT_TRUE(world.loginItem.enabled);
     press(*window, Qt::Key_Space);
     EXPECT_FALSE(world.loginItem.enabled);
+}
+
+TEST_F(Settings, TheOtherPagesKeepWhatIsSetAtOnce) {
+    struct Case {
+        int page;
+        QString control;
+        int key;
+        QJsonValue kept;
+    };
+
+    const Case cases[] = {
+        {Qt::Key_2, u"newestFirst"_s, Qt::Key_Space, true},
+        {Qt::Key_2, u"newestFirst"_s, Qt::Key_Space, false},
+        {Qt::Key_2, u"keepTextsExactly"_s, Qt::Key_Return, true},
+        {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 200},
+        {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 1000},
+        {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 1000},
+        {Qt::Key_3, u"historyLength"_s, Qt::Key_Up, 200},
+        {Qt::Key_4, u"hideClaudeCode"_s, Qt::Key_Space, true},
+    };
+    for (const Case& c : cases) {
+        press(*window, c.page, Qt::ControlModifier);
+        in(window, c.control)->forceActiveFocus();
+        press(*window, c.key);
+        EXPECT_EQ(kept(c.control), c.kept) << qPrintable(c.control);
+    }
+    EXPECT_EQ(world.settings.historyLength(), 200);
+
+    press(*window, Qt::Key_3, Qt::ControlModifier);
+    clickOn(window, u"historyLength"_s);
+    EXPECT_TRUE(eventually([this] { return in(window, u"item0"_s)->isVisible(); }));
+    clickOn(window, u"item0"_s);
+    EXPECT_EQ(kept(u"historyLength"_s), 60);
 }
 
 TEST_F(Settings, TheMouseSetsTheSame) {

@@ -54,18 +54,18 @@ TEST_F(UpdaterTest, TellsWhateverIsFound) {
         return tl::unexpected(UpdateProblem{kind, details});
     };
     const Case cases[] = {
-        {std::nullopt, u"This is the newest version"_s, u"Ravelo 0.2"_s, false},
-        {problem(Kind::noService, {}), u"Updates cannot be looked up here"_s,
-         u"PackageKit does not run"_s, false},
-        {problem(Kind::notFromRepository, {}), u"Ravelo does not come from a repository"_s,
+        {std::nullopt, u"Ravelo is up to date"_s, u"You have Ravelo 0.2."_s, false},
+        {problem(Kind::noService, {}), u"Cannot check for updates"_s,
+         u"PackageKit is not available"_s, false},
+        {problem(Kind::notFromRepository, {}), u"Ravelo was not installed from a repository"_s,
          u"newest package"_s, false},
-        {problem(Kind::notAllowed, u"no"_s), u"The system does not allow it"_s, u"polkit"_s, false},
-        {problem(Kind::failed, u"No network"_s), u"That did not work"_s, u"No network"_s, false},
-        {update, u"Ravelo 0.3 is there"_s, u"You have 0.2."_s, true},
+        {problem(Kind::notAllowed, u"no"_s), u"Not allowed"_s, u"polkit"_s, false},
+        {problem(Kind::failed, u"No network"_s), u"The update failed"_s, u"No network"_s, false},
+        {update, u"Ravelo 0.3 is available"_s, u"You have 0.2."_s, true},
     };
     for (const Case& c : cases) {
         updater_.checkForUpdates();
-        EXPECT_EQ(updater_.title(), u"Looking for updates…"_s);
+        EXPECT_EQ(updater_.title(), u"Checking for updates…"_s);
         updater_.checkForUpdates(); // Impatient.
         service_.checked(c.found);
         EXPECT_EQ(updater_.title(), c.title);

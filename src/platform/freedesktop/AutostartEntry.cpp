@@ -23,7 +23,7 @@ namespace {
 
 constexpr auto mainGroup = "[Desktop Entry]";
 
-/// The keys of the main group with their values as they stand there.
+/// The keys of the main group with their raw values.
 QHash<QByteArray, QByteArray> readEntry(const QByteArray& bytes) {
     QHash<QByteArray, QByteArray> values;
     bool inMainGroup = false;
@@ -37,8 +37,8 @@ QHash<QByteArray, QByteArray> readEntry(const QByteArray& bytes) {
     return values;
 }
 
-/// One argument of an Exec line: quoted, since a path may hold anything, and escaped twice, as a
-/// quoted argument and as a value of the file.
+/// An argument of an Exec line: quoted, because a path may contain anything, and escaped twice, as
+/// a quoted argument and as a value.
 QString execArgument(QString argument) {
     for (const QChar special : u"\\\"`$"_s) {
         argument.replace(special, u'\\' + QString(special));
@@ -49,7 +49,7 @@ QString execArgument(QString argument) {
     return u'"' + argument + u'"';
 }
 
-/// The character that a backslash and `code` stand for in a value of the file.
+/// The character for a backslash and `code` in a value.
 char unescaped(char code) {
     switch (code) {
     case 's':
@@ -65,7 +65,7 @@ char unescaped(char code) {
     }
 }
 
-/// The opposite of `execArgument`, for the first argument of an Exec line: the program.
+/// The inverse of `execArgument`, for the program in an Exec line.
 QByteArray firstArgument(const QByteArray& exec) {
     QByteArray value;
     for (qsizetype at = 0; at < exec.size(); ++at) {
@@ -88,7 +88,7 @@ QByteArray firstArgument(const QByteArray& exec) {
     return program;
 }
 
-/// What the desktop starts by the entry; empty if it is switched off or starts nothing.
+/// The program that the desktop starts; empty if there is none or it is disabled.
 QByteArray programOf(const std::optional<QByteArray>& entry) {
     const auto values = readEntry(entry.value_or(QByteArray()));
     const bool isOff =
@@ -96,7 +96,7 @@ QByteArray programOf(const std::optional<QByteArray>& entry) {
     return isOff ? QByteArray() : firstArgument(values.value("Exec"));
 }
 
-/// Blocks, maybe for ever.
+/// May block for ever.
 bool isThere(const QByteArray& program) {
     return program.startsWith('/')
                ? ::access(program.constData(), X_OK) == 0
@@ -118,7 +118,7 @@ void AutostartEntry::repair(std::function<void(const Result<void>&)> done) {
     if (program.isEmpty() || program == QFile::encodeName(program_)) {
         return;
     }
-    const auto there = std::make_shared<bool>(true); // It counts as there until it is known.
+    const auto there = std::make_shared<bool>(true); // Assumed until known.
     looking_ = jobs_.run([program, there] { *there = isThere(program); },
                          [this, program, there, done = std::move(done)] {
                              // The entry may have been changed meanwhile.

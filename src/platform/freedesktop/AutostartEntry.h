@@ -10,29 +10,28 @@ namespace ravelo {
 
 class DetachedJobs;
 
-/// Start at login by an entry in the user's autostart folder (freedesktop.org Desktop Application
+/// Starts the program at login by an entry in the user's autostart folder (Desktop Application
 /// Autostart Specification 0.5, Desktop Entry Specification 1.5). Main thread.
 class AutostartEntry final : public LoginItem {
 public:
-    /// `folder`: "autostart" in the user's XDG config folder. `program`: the absolute path of what
-    /// is to be started.
+    /// `folder` is "autostart" in the user's XDG config folder, `program` an absolute path.
     AutostartEntry(const QString& folder, QString program, DetachedJobs& jobs);
 
-    /// Also if the entry names another program, say an older place of this one, unless `repair` has
-    /// found it gone; not if the user has switched it off in the desktop's own settings.
+    /// True also if the entry names another program, for example an older path of this one, unless
+    /// `repair` has found it missing; false if it is disabled in the desktop's settings.
     [[nodiscard]] bool isEnabled() const override;
 
-    /// Writes the entry again if it is switched on but its program is gone. The program may be on a
-    /// mount whose server is gone: nobody waits for the answer.
+    /// Rewrites the entry if it is enabled but its program is missing. Checks that without
+    /// blocking, because the program may be on a dead mount.
     void repair(std::function<void(const Result<void>&)> done) override;
 
-    /// Writes the entry again, or removes it.
+    /// Writes or removes the entry.
     [[nodiscard]] Result<void> setEnabled(bool enabled) override;
 
 private:
     QString path_;
     QString program_;
-    QByteArray gone_; ///< A program that the entry named, once it is known to be gone.
+    QByteArray gone_; ///< The program in the entry, if found missing.
     DetachedJobs& jobs_;
     Handle looking_;
 };

@@ -15,16 +15,16 @@ Handle callBus(const QDBusConnection& bus, QDBusMessage call, std::chrono::milli
     const auto end = std::make_shared<decltype(done)>(std::move(done));
     const auto finish = [watcher, end] {
         watcher->deleteLater();
-        if (const auto tell = std::exchange(*end, nullptr)) {
-            tell(watcher->reply());
+        if (const auto report = std::exchange(*end, nullptr)) {
+            report(watcher->reply());
         }
     };
-    if (watcher->isFinished()) { // On a dead bus; nothing is told of it then.
+    if (watcher->isFinished()) { // On a dead bus, where it never emits `finished`.
         QMetaObject::invokeMethod(watcher, finish, Qt::QueuedConnection);
     } else {
         QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, finish);
     }
-    return Handle([end] { *end = nullptr; }); // The watcher goes when the call ends.
+    return Handle([end] { *end = nullptr; }); // The watcher is deleted when the call ends.
 }
 
 } // namespace ravelo

@@ -12,9 +12,8 @@ namespace ravelo {
 
 enum class Activation { none, allowed };
 
-/// Calls and hands the answer to `done`: once, later, on the main thread; an error where none came
-/// in time or the bus is gone. Never where the handle was dropped. Starts no service unless
-/// allowed to.
+/// Calls `done` once, later, on the main thread, with the answer, or with an error if none came in
+/// time or the bus is gone; not after the handle was dropped. Starts no service unless allowed.
 [[nodiscard]] Handle callBus(const QDBusConnection& bus, QDBusMessage call,
                              std::chrono::milliseconds timeOut,
                              std::function<void(const QDBusMessage&)> done,

@@ -30,7 +30,7 @@ BusInstance::BusInstance(const QDBusConnection& bus) {
 
 std::unique_ptr<BusInstance> BusInstance::claim(const QDBusConnection& bus) {
     std::unique_ptr<BusInstance> instance(new BusInstance(bus));
-    // The object first: whoever sees the name must find it.
+    // The object first, so that it exists when the name appears.
     QDBusConnection(bus).registerObject(objectPath, instance.get());
     const auto reply =
         bus.interface()->registerService(busName, QDBusConnectionInterface::DontQueueService);
@@ -41,11 +41,11 @@ std::unique_ptr<BusInstance> BusInstance::claim(const QDBusConnection& bus) {
 }
 
 std::optional<Answer> BusInstance::ask(const QDBusConnection& bus, const QStringList& request,
-                                       std::chrono::milliseconds patience) {
+                                       std::chrono::milliseconds timeout) {
     auto call = QDBusMessage::createMethodCall(busName, objectPath, busName, u"Ask"_s);
     call.setAutoStartService(false);
     call << request;
-    const QDBusMessage reply = bus.call(call, QDBus::Block, static_cast<int>(patience.count()));
+    const QDBusMessage reply = bus.call(call, QDBus::Block, static_cast<int>(timeout.count()));
     if (reply.type() == QDBusMessage::ReplyMessage && reply.signature() == "iays"_L1) {
         const QVariantList values = reply.arguments();
         return Answer{values.at(0).toInt(), values.at(1).toByteArray(), values.at(2).toString()};

@@ -14,7 +14,7 @@ namespace ravelo {
 /// The session bus, on a connection of ours.
 [[nodiscard]] QDBusConnection sessionBus();
 
-/// The one that owns our name on the session bus.
+/// The instance that owns our name on the session bus.
 class BusInstance final : public QObject, public SingleInstance {
     Q_OBJECT
 
@@ -22,13 +22,13 @@ public:
     [[nodiscard]] static std::unique_ptr<BusInstance> claim(const QDBusConnection& bus);
     [[nodiscard]] static std::optional<Answer> ask(const QDBusConnection& bus,
                                                    const QStringList& request,
-                                                   std::chrono::milliseconds patience = answerTime);
+                                                   std::chrono::milliseconds timeout = answerTime);
 
 private:
     explicit BusInstance(const QDBusConnection& bus);
 };
 
-/// What a script asks by words, any of those of the command line; see `Answer` for what comes back.
+/// For scripts: the words of the command line in, an `Answer` out.
 class AskAdaptor final : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.ravelo.Ravelo")
@@ -44,7 +44,7 @@ private:
     BusInstance& instance_;
 };
 
-/// What a desktop asks (Desktop Entry Specification, D-Bus Activation).
+/// For desktops (Desktop Entry Specification, D-Bus Activation).
 class ApplicationAdaptor final : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.freedesktop.Application")

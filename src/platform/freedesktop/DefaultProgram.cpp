@@ -13,14 +13,14 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 largestFile = 1 << 20;
+constexpr qint64 maxFile = 1 << 20;
 
 using Group = QHash<QString, QString>;
 using KeyFile = QHash<QString, Group>;
 
-/// Nothing in it where it cannot be read.
+/// Empty if it cannot be read.
 KeyFile readKeyFile(const QString& path) {
-    const auto bytes = readFileEnd(QFile::encodeName(path), largestFile);
+    const auto bytes = readFileEnd(QFile::encodeName(path), maxFile);
     KeyFile file;
     Group* group = nullptr;
     for (const QString& raw : QString::fromUtf8(bytes.value_or(QByteArray())).split(u'\n')) {
@@ -39,7 +39,7 @@ QStringList idsIn(const KeyFile& file, const QString& group, const QString& mime
     return file.value(group).value(mimeType).split(u';', Qt::SkipEmptyParts);
 }
 
-/// All that say which program opens what, the most important first.
+/// The files with associations, the most important first.
 QList<KeyFile> associations(const ProgramFolders& folders) {
     QList<KeyFile> files;
     const auto add = [&](const QString& folder) {
@@ -58,7 +58,7 @@ QList<KeyFile> associations(const ProgramFolders& folders) {
     return files;
 }
 
-/// In the order in which they are asked whether they are installed.
+/// In the order of preference.
 QStringList candidates(const QList<KeyFile>& files, const QString& mimeType) {
     QStringList ids;
     for (const KeyFile& file : files) {
@@ -77,7 +77,7 @@ QStringList candidates(const QList<KeyFile>& files, const QString& mimeType) {
     return ids;
 }
 
-/// A dash in an id may stand for a folder.
+/// A dash in an ID may stand for a slash.
 Group desktopEntry(QString id, const QStringList& dataFolders) {
     for (qsizetype dash = 0; dash >= 0; dash = id.indexOf(u'-')) {
         if (dash > 0) {
@@ -114,7 +114,7 @@ QString defaultProgram(const QString& mimeType, const ProgramFolders& folders,
                        const QStringList& languages) {
     for (const QString& id : candidates(associations(folders), mimeType)) {
         if (id.contains(u'/')) {
-            continue; // No id, but a way out of the folder.
+            continue; // Not an ID: it would leave the folder.
         }
         const Group entry = desktopEntry(id, folders.data);
         const bool hidden = entry.value(u"Hidden"_s) == u"true";

@@ -75,7 +75,7 @@ void DesktopFileOpener::showInFolder(const QUrl& file) {
                                                u"org.freedesktop.FileManager1"_s, u"ShowItems"_s);
     call << QStringList{QString::fromLatin1(fileAddress(file))} << QString();
     const QDBusPendingCall answer = bus_.asyncCall(call);
-    if (answer.isFinished()) { // There is no bus; nobody would tell.
+    if (answer.isFinished()) { // Without a bus it never emits `finished`.
         open(folderOf(file));
         return;
     }

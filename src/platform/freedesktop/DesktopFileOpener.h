@@ -13,8 +13,8 @@ namespace ravelo {
 class DetachedJobs;
 class Programs;
 
-/// xdg-open, and for a file among others the file manager that answers on the session bus
-/// (org.freedesktop.FileManager1).
+/// Uses xdg-open, and to show a file in its folder org.freedesktop.FileManager1 on the session
+/// bus.
 class DesktopFileOpener final : public QObject, public FileOpener {
     Q_OBJECT
 
@@ -31,7 +31,7 @@ private:
     QDBusConnection bus_;
     Programs& programs_;
     DetachedJobs& jobs_;
-    QList<QByteArray> waiting_; ///< To be opened once the opener is found.
+    QList<QByteArray> waiting_; ///< Opened when the opener is found.
     Handle looking_;
 };
 

@@ -7,11 +7,12 @@
 
 namespace ravelo {
 
-/// org.freedesktop.portal.FileTransfer on the session bus. The portal refuses a caller that it may
-/// not inspect, and nobody may inspect us: a short-lived child, `ravelo-portal`, asks for us.
+/// org.freedesktop.portal.FileTransfer on the session bus. The portal refuses callers that it
+/// cannot inspect, as it cannot inspect us, so a short-lived child, `ravelo-portal`, makes the
+/// call.
 class FileTransferPortal final : public FileTransfer {
 public:
-    /// `program` is where ravelo-portal is. Of `environment` it gets what names the bus.
+    /// `program` is the path of ravelo-portal. It gets the variables of `environment` for the bus.
     FileTransferPortal(QString program, const QProcessEnvironment& environment);
 
     [[nodiscard]] Handle retrieve(const QByteArray& key,

@@ -16,18 +16,18 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const auto fallback = u"hicolor"_s;
-constexpr int mostThemes = 16; ///< Themes may inherit from each other in a circle.
+constexpr int maxThemes = 16; ///< Themes may inherit in a cycle.
 
-/// A folder of a theme, with icons of one size in device pixels, or of a range of them.
+/// A folder of a theme, with icons of one size or a range of sizes, in device pixels.
 struct Directory {
     QString path;
-    int least = 0;
-    int most = 0;
+    int min = 0;
+    int max = 0;
 
-    /// The nearest has the smallest; what has to be made larger looks worst.
+    /// The best match has the smallest; enlarged icons look worst.
     [[nodiscard]] int distance(int size) const {
         constexpr int enlarged = 10000;
-        return size < least ? least - size : size > most ? enlarged + size - most : 0;
+        return size < min ? min - size : size > max ? enlarged + size - max : 0;
     }
 };
 
@@ -37,8 +37,8 @@ Directory directory(QSettings& index, const QString& folder, const QString& name
     const int size = index.value("Size"_L1).toInt();
     Directory found{folder + u'/' + name, size * scale, size * scale};
     if (index.value("Type"_L1).toString() == "Scalable"_L1) {
-        found.least = index.value("MinSize"_L1, size).toInt() * scale;
-        found.most = index.value("MaxSize"_L1, size).toInt() * scale;
+        found.min = index.value("MinSize"_L1, size).toInt() * scale;
+        found.max = index.value("MaxSize"_L1, size).toInt() * scale;
     }
     const QString context = index.value("Context"_L1).toString().toLower();
     index.endGroup();
@@ -93,7 +93,7 @@ void IconTheme::setName(const QString& name) {
 }
 
 QString IconTheme::find(const QStringList& names, int size) const {
-    const auto themes = chain(); // Held: the name may change meanwhile.
+    const auto themes = chain(); // A copy, because the name may change meanwhile.
     for (const Theme& theme : *themes) {
         for (const QString& icon : names) {
             if (const QString path = theme.find(icon, size); !path.isEmpty()) {
@@ -115,11 +115,11 @@ std::shared_ptr<const QList<IconTheme::Theme>> IconTheme::chain() const {
     }
     auto chain = std::make_shared<QList<Theme>>();
     QStringList wanted{name, fallback};
-    for (int i = 0; i < wanted.size() && i < mostThemes; ++i) {
+    for (int i = 0; i < wanted.size() && i < maxThemes; ++i) {
         const Theme& theme = chain->emplace_back(load(wanted[i]));
         for (const QString& parent : theme.parents) {
             if (!wanted.contains(parent)) {
-                wanted.insert(wanted.size() - 1, parent); // Before the one that is the last.
+                wanted.insert(wanted.size() - 1, parent); // Before "hicolor", which stays last.
             }
         }
     }
@@ -130,7 +130,7 @@ std::shared_ptr<const QList<IconTheme::Theme>> IconTheme::chain() const {
     return chain;
 }
 
-/// What all folders have of a theme; the first that has a description has the say.
+/// The parts of a theme in all folders; the first description counts.
 IconTheme::Theme IconTheme::load(const QString& name) const {
     Theme theme;
     if (name.isEmpty() || name.contains(u'/')) {

@@ -9,18 +9,18 @@
 
 namespace ravelo {
 
-/// The icons of an icon theme and of those it inherits from, with "hicolor" as the last (Icon Theme
-/// Specification 0.13). Only the contexts in which kinds of files are.
+/// The icons of a theme and its parents, finally "hicolor" (Icon Theme Specification 0.13). Only
+/// from the contexts with icons of files.
 class IconTheme final : public FileIcons {
 public:
-    /// Looks below these folders, the first first.
+    /// Searches these folders in their order.
     explicit IconTheme(QStringList folders);
     ~IconTheme() override;
 
-    /// Where themes are installed for this user, by the standard's order.
+    /// The user's and the system's theme folders, in the order of the standard.
     [[nodiscard]] static QStringList usualFolders();
 
-    /// Empty for none but "hicolor". Any thread.
+    /// Empty for "hicolor" only. Any thread.
     void setName(const QString& name);
 
     [[nodiscard]] QString find(const QStringList& names, int size) const override;
@@ -32,9 +32,9 @@ private:
     [[nodiscard]] Theme load(const QString& name) const;
 
     const QStringList folders_;
-    mutable std::mutex mutex_; ///< Over what follows; not held while files are looked for.
+    mutable std::mutex mutex_; ///< Guards what follows; not held while reading files.
     QString name_;
-    mutable std::shared_ptr<const QList<Theme>> chain_; ///< Of `name_`; null until it is asked for.
+    mutable std::shared_ptr<const QList<Theme>> chain_; ///< For `name_`; null until needed.
 };
 
 } // namespace ravelo

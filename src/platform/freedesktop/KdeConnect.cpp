@@ -19,7 +19,7 @@ const auto service = u"org.kde.kdeconnect"_s;
 constexpr std::chrono::seconds lookTimeOut{2};
 constexpr std::chrono::seconds sendTimeOut{5};
 
-/// It becomes a part of an object's path.
+/// Valid in an object path.
 bool isAddressable(const QString& id) {
     return !id.isEmpty() && std::ranges::all_of(id, [](QChar c) {
         return c == u'_' || (c.unicode() < 128 && c.isLetterOrNumber());
@@ -46,7 +46,7 @@ Handle KdeConnect::list(std::function<void(QList<NearbyDevice>)> done) {
         QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
                                        u"org.freedesktop.DBus"_s, u"NameHasOwner"_s);
     call << service;
-    const auto step = std::make_shared<Handle>(); // The call that is under way.
+    const auto step = std::make_shared<Handle>(); // The current call.
     *step = callBus(bus_, call, lookTimeOut,
                     [this, step, done = std::move(done)](const QDBusMessage& reply) {
                         if (reply.arguments().value(0).toBool()) {

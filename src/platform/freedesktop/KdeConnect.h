@@ -8,7 +8,7 @@
 
 namespace ravelo {
 
-/// Devices as KDE Connect knows them (org.kde.kdeconnect on the session bus).
+/// The devices of KDE Connect (org.kde.kdeconnect on the session bus).
 class KdeConnect final : public NearbyDevices {
 public:
     explicit KdeConnect(QDBusConnection bus) : bus_(std::move(bus)) {}

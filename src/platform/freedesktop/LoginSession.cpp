@@ -34,13 +34,13 @@ QString pathOf(const QVariant& display) {
 } // namespace
 
 LoginSession::LoginSession(QDBusConnection bus) : bus_(std::move(bus)) {
-    // The user's graphical session: our own process may be a service that belongs to none.
+    // The user's graphical session, because our process may be a service without one.
     ask(userPath, userInterface, u"Display"_s,
         [this](const QVariant& display) { follow(pathOf(display)); });
 }
 
 void LoginSession::follow(const QString& sessionPath) {
-    // First listen, then ask: no change falls between.
+    // Connect before asking, so that no change is missed.
     bus_.connect(service, sessionPath, propertiesInterface, u"PropertiesChanged"_s, this,
                  SLOT(propertiesChanged(QString, QVariantMap, QStringList)));
     ask(sessionPath, sessionInterface, lockedHint,

@@ -9,13 +9,12 @@
 
 namespace ravelo {
 
-/// The session's LockedHint as the login service knows it (org.freedesktop.login1 on the system
-/// bus). Main thread.
+/// The session's LockedHint (org.freedesktop.login1 on the system bus). Main thread.
 class LoginSession final : public QObject, public SessionLock {
     Q_OBJECT
 
 public:
-    /// Looks for our own session; waits for nothing.
+    /// Starts looking for our session; does not wait.
     explicit LoginSession(QDBusConnection bus);
 
     [[nodiscard]] bool isLocked() const override { return locked_; }

@@ -18,7 +18,7 @@ void LoginShutDown::request() {
     constexpr bool interactive = true;
     call << interactive;
     call.setInteractiveAuthorizationAllowed(true);
-    bus_.asyncCall(call); // What it answers changes nothing.
+    bus_.asyncCall(call); // The answer does not matter.
 }
 
 } // namespace ravelo

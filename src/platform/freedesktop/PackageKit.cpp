@@ -18,10 +18,10 @@ constexpr qulonglong noFilter = 0;
 constexpr qulonglong onlyInstalled = 1U << 2U;
 constexpr qulonglong onlyTrusted = 1U << 1U;
 
-/// The transaction that is under way; each one's end begins the next.
+/// The current transaction; its end starts the next.
 using Step = std::shared_ptr<std::unique_ptr<Transaction>>;
 
-/// A transaction must not go while it tells of its end.
+/// A transaction must not be destroyed while it reports its end.
 void begin(const Step& step, std::unique_ptr<Transaction> next) {
     if (*step) {
         step->release()->deleteLater();
@@ -33,7 +33,7 @@ QString nameIn(const QString& id) {
     return id.section(u';', 0, 0);
 }
 
-/// What is behind the architecture: how it was installed and from where, "manual:local".
+/// The part after the architecture: how and from where it was installed, "manual:local".
 bool isFromRepository(const QString& id) {
     return !id.section(u';', 3).endsWith(":local"_L1);
 }
@@ -45,7 +45,7 @@ Handle PackageKit::check(std::function<void(Checked)> done) {
     const auto isOurs = [name = package_](const QString& id) {
         return nameIn(id) == name;
     };
-    const auto lookForNewer = [=, bus = bus_, patience = patience_](bool isKnown) {
+    const auto lookForNewer = [=, bus = bus_, timeout = timeout_](bool isKnown) {
         begin(step, std::make_unique<Transaction>(
                         bus, u"GetUpdates"_s, QVariantList{noFilter},
                         [=](const Transaction::Done& updates) {
@@ -63,9 +63,9 @@ Handle PackageKit::check(std::function<void(Checked)> done) {
                                     UpdateProblem{UpdateProblem::Kind::notFromRepository, {}}));
                             }
                         },
-                        patience));
+                        timeout));
     };
-    const auto refresh = [=, bus = bus_, patience = patience_](bool isKnown) {
+    const auto refresh = [=, bus = bus_, timeout = timeout_](bool isKnown) {
         const bool evenIfFresh = false;
         begin(step, std::make_unique<Transaction>(
                         bus, u"RefreshCache"_s, QVariantList{evenIfFresh},
@@ -76,7 +76,7 @@ Handle PackageKit::check(std::function<void(Checked)> done) {
                                 done(tl::unexpected(refreshed.error()));
                             }
                         },
-                        patience));
+                        timeout));
     };
     begin(
         step,
@@ -92,7 +92,7 @@ Handle PackageKit::check(std::function<void(Checked)> done) {
                     done(tl::unexpected(UpdateProblem{UpdateProblem::Kind::notFromRepository, {}}));
                 }
             },
-            patience_));
+            timeout_));
     return Handle([step] { begin(step, nullptr); });
 }
 

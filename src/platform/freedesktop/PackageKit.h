@@ -9,15 +9,15 @@
 
 namespace ravelo {
 
-/// Updates by PackageKit (org.freedesktop.PackageKit on the system bus), which is started where it
-/// is installed and does not run. Main thread.
+/// Updates by PackageKit (org.freedesktop.PackageKit on the system bus), started if installed. Main
+/// thread.
 class PackageKit final : public PackageUpdates {
 public:
-    /// Looking for updates is given up after `patience` without a word from the service. Installing
-    /// is not: a package may be set up silently for longer.
+    /// Checking fails after `timeout` without a signal from the service. Installing does not,
+    /// because configuring a package may take longer than that.
     PackageKit(QDBusConnection bus, QString package,
-               std::chrono::milliseconds patience = std::chrono::seconds(30))
-        : bus_(std::move(bus)), package_(std::move(package)), patience_(patience) {}
+               std::chrono::milliseconds timeout = std::chrono::seconds(30))
+        : bus_(std::move(bus)), package_(std::move(package)), timeout_(timeout) {}
 
     [[nodiscard]] Handle check(std::function<void(Checked)> done) override;
     [[nodiscard]] Handle install(const AvailableUpdate& update,
@@ -27,7 +27,7 @@ public:
 private:
     QDBusConnection bus_;
     QString package_;
-    std::chrono::milliseconds patience_;
+    std::chrono::milliseconds timeout_;
 };
 
 } // namespace ravelo

@@ -15,7 +15,7 @@ namespace {
 const auto service = u"org.freedesktop.PackageKit"_s;
 const auto transaction = u"org.freedesktop.PackageKit.Transaction"_s;
 
-/// It may have to be started, and it answers only when it has looked who asks.
+/// It may have to be started, and it checks the caller before it answers.
 constexpr std::chrono::seconds timeOut{25};
 
 // Numbers of the protocol (pk-enum.h).
@@ -42,7 +42,7 @@ UpdateProblem problemOf(const QDBusMessage& reply) {
 
 PackageKitTransaction::PackageKitTransaction(QDBusConnection bus, QString method,
                                              QVariantList arguments, std::function<void(Done)> done,
-                                             std::optional<std::chrono::milliseconds> patience)
+                                             std::optional<std::chrono::milliseconds> timeout)
     : bus_(std::move(bus)),
       method_(std::move(method)),
       arguments_(std::move(arguments)),
@@ -53,8 +53,8 @@ PackageKitTransaction::PackageKitTransaction(QDBusConnection bus, QString method
         end(tl::unexpected(
             UpdateProblem{UpdateProblem::Kind::failed, u"PackageKit does not answer."_s}));
     });
-    if (patience) {
-        silence_.setInterval(*patience);
+    if (timeout) {
+        silence_.setInterval(*timeout);
         silence_.start();
     }
     const auto create = QDBusMessage::createMethodCall(service, u"/org/freedesktop/PackageKit"_s,
@@ -134,14 +134,14 @@ void PackageKitTransaction::PropertiesChanged(const QString& interface, const QV
 
 void PackageKitTransaction::heard() {
     if (silence_.isActive()) {
-        silence_.start(); // From the beginning.
+        silence_.start(); // Restarts it.
     }
 }
 
 void PackageKitTransaction::end(Done done) {
     silence_.stop();
-    if (const auto tell = std::exchange(done_, nullptr)) {
-        tell(std::move(done)); // Which may destroy this.
+    if (const auto call = std::exchange(done_, nullptr)) {
+        call(std::move(done)); // Which may destroy this.
     }
 }
 

@@ -19,22 +19,22 @@ class QDBusMessage;
 
 namespace ravelo {
 
-/// One thing that PackageKit is told to do (org.freedesktop.PackageKit.Transaction, version 1.2).
+/// One org.freedesktop.PackageKit.Transaction (version 1.2).
 /// Main thread.
 class PackageKitTransaction final : public QObject {
     Q_OBJECT
 
 public:
-    /// Identifiers of the packages it told of: "name;version;architecture;data".
+    /// The IDs of the reported packages: "name;version;architecture;data".
     using Done = tl::expected<QStringList, UpdateProblem>;
 
-    /// Calls `method`; `done` is told of the end, once and later, unless this is destroyed before.
-    /// With `patience` it ends as a failure after that long without a word from PackageKit.
+    /// Calls `method`, and `done` once at the end, later, unless this is destroyed before. Fails
+    /// after `timeout`, if any, without a signal from PackageKit.
     PackageKitTransaction(QDBusConnection bus, QString method, QVariantList arguments,
                           std::function<void(Done)> done,
-                          std::optional<std::chrono::milliseconds> patience = {});
+                          std::optional<std::chrono::milliseconds> timeout = {});
 
-    /// Percents while they are known.
+    /// The percentage, if known.
     std::function<void(std::optional<int>)> onProgress;
 
 private Q_SLOTS:

@@ -39,7 +39,8 @@ ScreenSaverBus::ScreenSaverBus(QDBusConnection bus) : bus_(std::move(bus)) {
             });
     for (const Saver& saver : savers) {
         watcher_.addWatchedService(saver.name);
-        // From any path: some send it from two. From anyone, since to name the sender would block.
+        // From any path, because some send from two, and from any sender, because matching one
+        // blocks.
         bus_.connect({}, {}, saver.name, u"ActiveChanged"_s, this,
                      SLOT(activeChanged(bool, QDBusMessage)));
         auto call = QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,

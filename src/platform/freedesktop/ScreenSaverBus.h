@@ -13,14 +13,14 @@
 
 namespace ravelo {
 
-/// What the desktops' own screen savers and lockers say on the session bus: the signal
-/// ActiveChanged of org.freedesktop.ScreenSaver and its kin. Only the owner of such a name is
-/// believed, and only while it owns it. Main thread.
+/// The state of screen savers and lockers on the session bus: the signal ActiveChanged of
+/// org.freedesktop.ScreenSaver and similar names. Only the owner of such a name is believed, and
+/// only while it owns it. Main thread.
 class ScreenSaverBus final : public QObject, public SessionLock {
     Q_OBJECT
 
 public:
-    /// Asks those that run and listens to all; waits for none.
+    /// Asks those that run and listens to all; does not wait.
     explicit ScreenSaverBus(QDBusConnection bus);
 
     [[nodiscard]] bool isLocked() const override { return !active_.isEmpty(); }
@@ -39,8 +39,8 @@ private:
 
     QDBusConnection bus_;
     QDBusServiceWatcher watcher_;
-    QHash<QString, QString> owners_; ///< Of the savers' names, as far as they are known.
-    QSet<QString> active_;           ///< The interfaces whose saver shows; some programs speak two.
+    QHash<QString, QString> owners_; ///< The known owners of the names.
+    QSet<QString> active_;           ///< Interfaces with an active saver; some programs have two.
     Listeners<> listeners_;
 };
 

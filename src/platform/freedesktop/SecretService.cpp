@@ -28,7 +28,7 @@ constexpr QLatin1StringView sessionInterface("org.freedesktop.Secret.Session");
 
 using Attributes = QMap<QString, QString>;
 
-/// The first of the paths; none of an error, which has no paths.
+/// The first of the paths; none if there are none or it is an error.
 std::optional<QDBusObjectPath> firstPath(const QVariant& paths) {
     QList<QDBusObjectPath> list;
     if (const auto argument = paths.value<QDBusArgument>();
@@ -59,8 +59,8 @@ class Search {
 public:
     using Done = std::function<void(std::optional<Secret>)>;
 
-    Search(QDBusConnection bus, std::chrono::milliseconds patience, Done done)
-        : bus_(std::move(bus)), deadline_(patience), done_(std::move(done)) {}
+    Search(QDBusConnection bus, std::chrono::milliseconds timeout, Done done)
+        : bus_(std::move(bus)), deadline_(timeout), done_(std::move(done)) {}
 
     ~Search() { closeSession(); }
 
@@ -71,7 +71,7 @@ public:
         ask(call(servicePath, serviceInterface, u"SearchItems"_s,
                  {QVariant::fromValue(Attributes{{u"service"_s, service}})}),
             [this](const QVariantList& found) {
-                // Behind the unlocked items come the locked ones, which stay so.
+                // Locked items follow in a second list, which we ignore.
                 if (const auto item = firstPath(found.value(0))) {
                     open(*item);
                 } else {
@@ -108,7 +108,7 @@ private:
 
     void finish(const std::optional<Secret>& secret) {
         closeSession();
-        const Done done = std::exchange(done_, nullptr); // It may end this search.
+        const Done done = std::exchange(done_, nullptr); // The callback may destroy this search.
         done(secret);
     }
 
@@ -137,14 +137,14 @@ private:
 
 } // namespace
 
-SecretService::SecretService(QDBusConnection bus, std::chrono::milliseconds patience)
-    : bus_(std::move(bus)), patience_(patience) {
+SecretService::SecretService(QDBusConnection bus, std::chrono::milliseconds timeout)
+    : bus_(std::move(bus)), timeout_(timeout) {
     qDBusRegisterMetaType<Attributes>();
 }
 
 Handle SecretService::find(const QString& service,
                            std::function<void(std::optional<Secret>)> done) {
-    auto search = std::make_shared<Search>(bus_, patience_, std::move(done));
+    auto search = std::make_shared<Search>(bus_, timeout_, std::move(done));
     search->start(service);
     return Handle([search]() mutable { search.reset(); });
 }

@@ -8,21 +8,21 @@
 
 namespace ravelo {
 
-/// The Secret Service of the desktop (org.freedesktop.secrets on the session bus), where it runs
-/// already. Items are found by their attribute "service" and read in a plain session: whoever could
-/// listen on the user's bus could ask as well.
+/// The Secret Service (org.freedesktop.secrets on the session bus), if it runs already. Items are
+/// found by their attribute "service" and read in a plain session: whoever can listen on the user's
+/// bus can also ask for them.
 class SecretService final : public SecretStore {
 public:
-    /// A search that takes longer than `patience` has found nothing.
+    /// A search finds nothing after `timeout`.
     explicit SecretService(QDBusConnection bus,
-                           std::chrono::milliseconds patience = std::chrono::seconds(2));
+                           std::chrono::milliseconds timeout = std::chrono::seconds(2));
 
     [[nodiscard]] Handle find(const QString& service,
                               std::function<void(std::optional<Secret>)> done) override;
 
 private:
     QDBusConnection bus_;
-    std::chrono::milliseconds patience_;
+    std::chrono::milliseconds timeout_;
 };
 
 } // namespace ravelo

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Asking for the bus where there is none would start one of its own for the display.
+// Connecting without a bus would start one for the display.
 bool hasSessionBus() {
     const QString runtime = qEnvironmentVariable("XDG_RUNTIME_DIR");
     return qEnvironmentVariableIsSet("DBUS_SESSION_BUS_ADDRESS") ||

@@ -11,10 +11,9 @@
 
 namespace ravelo {
 
-/// Makes one program out of all its starts in a user's session, and lets the others ask the one
-/// that runs: by a name on the session bus, or by a lock file and a local socket where there is no
-/// bus. Neither lets another user in: the bus daemon refuses them, and the socket is the user's
-/// alone (0600) in a folder of the same kind. Main thread.
+/// Runs only one instance per session and lets others send it requests: by a name on the session
+/// bus or, without a bus, by a lock file and a local socket. Other users have no access: the bus
+/// daemon refuses them, and socket (0600) and folder (0700) are for the user only. Main thread.
 class SingleInstance {
 public:
     SingleInstance() = default;
@@ -22,20 +21,20 @@ public:
     SingleInstance& operator=(const SingleInstance&) = delete;
     virtual ~SingleInstance() = default;
 
-    /// Becomes the one of this session; nothing where there is one already.
+    /// Becomes the instance of this session; nothing if there is one already.
     [[nodiscard]] static std::unique_ptr<SingleInstance> claim();
 
-    /// Asks the one that runs, and waits for its answer a few seconds at most; where it gives none,
-    /// the answer is that. Nothing where none runs.
+    /// Sends a request to the running instance and waits a few seconds for its answer; `silence` if
+    /// none comes. Nothing if none runs.
     [[nodiscard]] static std::optional<Answer> ask(const QStringList& request);
 
-    /// What `ask` gives for one that runs but keeps silent.
+    /// The result of `ask` if the running instance does not answer.
     [[nodiscard]] static Answer silence();
 
-    /// Answers what other starts ask, from the event loop. A request is a list of words, any text.
+    /// Answers requests, from the event loop. A request is a list of words, any text.
     std::function<Answer(const QStringList& request)> onRequest;
 
-    /// The answer, also before somebody answers.
+    /// The answer, also if `onRequest` is not set.
     [[nodiscard]] Answer answer(const QStringList& request) const;
 
 protected:

@@ -21,7 +21,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 longestRequest = 64 << 20; // Bytes, of what has no end yet.
+constexpr qint64 maxRequest = 64 << 20; // Bytes before the end of the line.
 
 bool isPrivateFolder(const QByteArray& path) {
     struct stat info = {};
@@ -33,14 +33,14 @@ QString socketFolder() {
     if (const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR"); isPrivateFolder(runtime)) {
         return QFile::decodeName(runtime);
     }
-    // One of our own: others share the one above it.
+    // A folder of our own, because others share its parent.
     const QString folder =
         QStandardPaths::writableLocation(QStandardPaths::GenericCacheLocation) + u"/ravelo"_s;
     makePrivateFolder(folder);
     return folder;
 }
 
-// One session is one display; a file name must not hold what a display name may.
+// One instance per display, whose name may contain what a file name must not.
 QString socketPath() {
     const QByteArray display = QCryptographicHash::hash(
         qgetenv("DISPLAY") + '\n' + qgetenv("WAYLAND_DISPLAY"), QCryptographicHash::Sha1);
@@ -58,7 +58,7 @@ QByteArray written(const QStringList& request) {
 QByteArray written(const Answer& answer) {
     return line(QJsonDocument(QJsonObject{
         {u"status"_s, answer.status},
-        {u"output"_s, QString::fromLatin1(answer.output.toBase64())}, // May be no text.
+        {u"output"_s, QString::fromLatin1(answer.output.toBase64())}, // May not be text.
         {u"errors"_s, answer.errors},
     }));
 }
@@ -85,31 +85,31 @@ int left(const QDeadlineTimer& deadline) {
 } // namespace
 
 SocketInstance::SocketInstance() : lock_(socketPath() + u".lock"_s) {
-    lock_.setStaleLockTime(0); // Held for as long as its process lives, however long that is.
+    lock_.setStaleLockTime(0); // Valid as long as its process lives.
     server_.setSocketOptions(QLocalServer::UserAccessOption);
     QObject::connect(&server_, &QLocalServer::newConnection, &server_, [this] { accept(); });
 }
 
 std::unique_ptr<SocketInstance> SocketInstance::claim() {
     std::unique_ptr<SocketInstance> instance(new SocketInstance);
-    if (!instance->lock_.tryLock(300)) { // Who only asks holds it for a moment.
+    if (!instance->lock_.tryLock(300)) { // `ask` holds it for a moment.
         return nullptr;
     }
-    QLocalServer::removeServer(socketPath()); // Left by one that was killed.
+    QLocalServer::removeServer(socketPath()); // Left by a killed instance.
     instance->server_.listen(socketPath());
     return instance;
 }
 
 std::optional<Answer> SocketInstance::ask(const QStringList& request,
-                                          std::chrono::milliseconds patience) {
+                                          std::chrono::milliseconds timeout) {
     QLockFile lock(socketPath() + u".lock"_s);
     lock.setStaleLockTime(0);
     if (lock.tryLock()) {
         return std::nullopt;
     }
-    const QDeadlineTimer deadline(patience);
+    const QDeadlineTimer deadline(timeout);
     QLocalSocket socket;
-    // The one that holds the lock may not be listening yet.
+    // The instance may not listen yet.
     for (socket.connectToServer(socketPath()); !socket.waitForConnected(left(deadline));
          socket.connectToServer(socketPath())) {
         if (deadline.hasExpired()) {
@@ -141,7 +141,7 @@ void SocketInstance::serve(QLocalSocket& socket) const {
         const auto request = toRequest(socket.readLine());
         socket.write(written(request ? answer(*request) : Answer{2, {}, u"no request"_s}));
         socket.flush();
-    } else if (socket.bytesAvailable() > longestRequest) {
+    } else if (socket.bytesAvailable() > maxRequest) {
         socket.abort();
     }
 }

@@ -9,13 +9,13 @@ class QLocalSocket;
 
 namespace ravelo {
 
-/// The one that holds the lock file of this user and display, and listens on the socket beside it.
-/// Request and answer are a line of JSON each.
+/// The instance that holds the lock file of this user and display and listens on the socket beside
+/// it. Request and answer are one line of JSON each.
 class SocketInstance final : public SingleInstance {
 public:
     [[nodiscard]] static std::unique_ptr<SocketInstance> claim();
     [[nodiscard]] static std::optional<Answer> ask(const QStringList& request,
-                                                   std::chrono::milliseconds patience = answerTime);
+                                                   std::chrono::milliseconds timeout = answerTime);
 
 private:
     SocketInstance();

@@ -13,8 +13,7 @@ namespace {
 
 std::atomic_flag underWay;
 
-/// Of the process and never destroyed: that would unload the driver for ALSA from under the thread
-/// that still plays.
+/// Never destroyed: that would unload the ALSA driver while a thread still plays.
 ca_context* context() {
     static ca_context* const only = [] {
         ca_context* made = nullptr;
@@ -24,9 +23,9 @@ ca_context* context() {
     return only;
 }
 
-/// Stands still where the sound server does: libcanberra waits half a minute for one.
+/// May hang with the sound server: libcanberra waits half a minute.
 void begin() {
-    // Also for the threads of libcanberra: a sound server that goes is not to end the program.
+    // Also for the threads of libcanberra: a sound server that ends must not end this program.
     sigset_t all;
     sigfillset(&all);
     pthread_sigmask(SIG_BLOCK, &all, nullptr);
@@ -41,7 +40,7 @@ void ThemeSound::play() {
     if (!underWay.test_and_set()) {
         try {
             std::thread(begin).detach();
-        } catch (const std::system_error&) { // The machine is at its limit: no sound.
+        } catch (const std::system_error&) { // The thread limit is reached; no sound.
             underWay.clear();
         }
     }

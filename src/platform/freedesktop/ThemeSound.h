@@ -4,9 +4,8 @@
 
 namespace ravelo {
 
-/// The sound "complete" of the desktop's sound theme, as loud as the desktop plays such sounds
-/// (freedesktop.org Sound Naming Specification, by libcanberra). Costs nothing before the first
-/// sound. Main thread.
+/// The sound "complete" of the desktop's sound theme (Sound Naming Specification, by libcanberra),
+/// at the desktop's volume. Costs nothing before the first sound. Main thread.
 class ThemeSound final : public AlertSound {
 public:
     void play() override;

@@ -22,20 +22,20 @@ namespace {
 
 const auto watcherName = u"org.kde.StatusNotifierWatcher"_s;
 
-/// A panel brings its old tray and its watcher one after the other, and Qt asks only once which of
-/// the two there is.
-constexpr Seconds patience{2};
+/// A panel starts its old tray and its watcher one after the other, and Qt checks only once which
+/// of them exists.
+constexpr Seconds hostTimeout{2};
 
 constexpr std::chrono::seconds questionTimeOut{25};
 
-constexpr int quickLooks = 60;   ///< For a host: two minutes, longer than a login takes.
-constexpr Seconds slowLooks{60}; ///< From then on: a bar may be started by hand at any time.
+constexpr int quickLooks = 60;   ///< Two minutes, longer than a login takes.
+constexpr Seconds slowLooks{60}; ///< After that, because a bar may be started at any time.
 
-/// Bars are dark more often than not.
+/// Most bars are dark.
 constexpr QColor unknownForeground(255, 255, 255, 235);
 
-/// Drawn anew in every size. Where the icon is installed, bars take it by its name, in the colour
-/// of their own texts.
+/// Drawn for each size. If the icon is installed, bars use it by its name, in the colour of their
+/// text.
 class DrawnIcon final : public QIconEngine {
 public:
     DrawnIcon(StatusItem::Draw draw, const QColor& foreground)
@@ -104,7 +104,7 @@ TrayStatusItem::~TrayStatusItem() = default;
 void TrayStatusItem::show(Draw icon, QList<Row> menu) {
     draw_ = std::move(icon);
     menu_ = makeMenu(menu);
-    // First listen, then ask: no change falls between.
+    // Connect before asking, so that no change is missed.
     QObject::connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, &watcher_,
                      [this](const QString&, const QString&, const QString& owner) {
                          watcherCameOrWent(!owner.isEmpty());
@@ -122,7 +122,7 @@ void TrayStatusItem::show(Draw icon, QList<Row> menu) {
 }
 
 void TrayStatusItem::setToolTip(const QString& text) {
-    if (std::exchange(toolTip_, text) != text && icon_) { // Else all would be told of nothing new.
+    if (std::exchange(toolTip_, text) != text && icon_) { // Do not notify without a change.
         icon_->setToolTip(text);
     }
 }
@@ -136,8 +136,8 @@ void TrayStatusItem::watcherCameOrWent(bool isThere) {
     }
 }
 
-/// Qt asks once whether anybody shows what the watcher lists, and waits for the answer: so it is
-/// asked here until it is so, as for some seconds of a login it is not.
+/// Qt checks only once, blocking, whether a host shows the items of the watcher. For some seconds
+/// after login there is none, so this waits for it.
 void TrayStatusItem::lookForHost() {
     auto call = QDBusMessage::createMethodCall(watcherName, u"/StatusNotifierWatcher"_s,
                                                u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
@@ -151,7 +151,7 @@ void TrayStatusItem::lookForHost() {
             makeIcon();
         } else {
             looks_ = std::min(looks_ + 1, quickLooks);
-            nextLook_ = scheduler_.after(looks_ < quickLooks ? patience : slowLooks,
+            nextLook_ = scheduler_.after(looks_ < quickLooks ? hostTimeout : slowLooks,
                                          [this] { lookForHost(); });
         }
     });
@@ -161,15 +161,15 @@ void TrayStatusItem::areaChanged() {
     if (icon_) {
         icon_->setIcon(drawn());
     } else if (area_.isThere()) {
-        patience_ = scheduler_.after(patience, [this] { makeIcon(); });
+        hostTimeout_ = scheduler_.after(hostTimeout, [this] { makeIcon(); });
     } else {
-        patience_.reset();
+        hostTimeout_.reset();
     }
 }
 
-/// From then on Qt follows hosts that go and come again.
+/// After that, Qt follows hosts itself.
 void TrayStatusItem::makeIcon() {
-    patience_.reset();
+    hostTimeout_.reset();
     icon_ = std::make_unique<QSystemTrayIcon>(drawn());
     icon_->setToolTip(toolTip_);
     icon_->setContextMenu(menu_.get());

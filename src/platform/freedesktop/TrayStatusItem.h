@@ -17,8 +17,8 @@ namespace ravelo {
 class Scheduler;
 class TrayArea;
 
-/// A StatusNotifierItem (org.kde.StatusNotifierWatcher on the session bus), or else an icon in the
-/// display server's tray; made when one of the two is there. Needs a QApplication. Main thread.
+/// A StatusNotifierItem (org.kde.StatusNotifierWatcher on the session bus) or an icon in the
+/// display server's tray; created when one of the two exists. Needs a QApplication. Main thread.
 class TrayStatusItem final : public StatusItem {
 public:
     /// Area and scheduler outlive it.
@@ -46,7 +46,7 @@ private:
     Handle question_;
     Handle nextLook_;
     int looks_ = 0;
-    Handle patience_;
+    Handle hostTimeout_;
     Handle areaChange_;
 };
 

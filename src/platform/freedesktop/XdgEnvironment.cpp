@@ -9,7 +9,7 @@ void ignoreRelativeXdgPaths() {
     for (const char* variable :
          {"XDG_DATA_HOME", "XDG_CONFIG_HOME", "XDG_STATE_HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR",
           "XDG_DATA_DIRS", "XDG_CONFIG_DIRS"}) {
-        // A single folder's name may hold a colon.
+        // These are single folders, whose names may contain colons.
         const bool isList = QByteArrayView(variable).endsWith("S");
         const QByteArray value = qgetenv(variable);
         QByteArrayList paths = isList ? value.split(':') : QByteArrayList{value};

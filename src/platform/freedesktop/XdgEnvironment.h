@@ -2,9 +2,8 @@
 
 namespace ravelo {
 
-/// Takes relative paths out of this process's XDG variables: the XDG Base Directory Specification
-/// 0.8 has them ignored, but Qt follows them to wherever the program was started. Before anything
-/// asks for a folder.
+/// Removes relative paths from this process's XDG variables: according to the XDG Base Directory
+/// Specification 0.8 they are to be ignored, but Qt uses them. Call before using any folder.
 void ignoreRelativeXdgPaths();
 
 } // namespace ravelo

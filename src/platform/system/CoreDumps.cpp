@@ -8,7 +8,7 @@ namespace ravelo {
 
 void forbidCoreDumps() {
     if (qgetenv("RAVELO_CORE_DUMPS") != "1") {
-        // Not by a resource limit: what is started from here would inherit it.
+        // Not a resource limit, which the programs started from here would inherit.
         prctl(PR_SET_DUMPABLE, 0);
     }
 }

@@ -22,9 +22,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int mostAttempts = 10; ///< Others may replace the file between our looks at it.
+constexpr int maxAttempts = 10; ///< Others may replace the file between our steps.
 
-/// Who wrote a lock. The lines are those of QLockFile, and one that no other lock has.
+/// The writer of a lock. The lines are those of QLockFile and one of our own.
 struct Owner {
     qint64 process = 0;
     QString host;
@@ -39,7 +39,7 @@ struct Owner {
 
     [[nodiscard]] bool isElsewhere() const {
         if (process <= 0) {
-            return false; // Nobody got as far as to write it.
+            return false; // It was never written.
         }
         const QByteArray here = QSysInfo::machineUniqueId();
         return machine.isEmpty() || here.isEmpty() ? host != QSysInfo::machineHostName()
@@ -98,14 +98,14 @@ DataLock::~DataLock() {
 
 Result<void> DataLock::claim(Claim claim) {
     const std::scoped_lock lock(mutex_);
-    return take(claim);
+    return acquire(claim);
 }
 
-Result<void> DataLock::take(Claim claim) {
+Result<void> DataLock::acquire(Claim claim) {
     const QByteArray path = QFile::encodeName(path_);
     const QString folder = QFileInfo(path_).path();
     makePrivateFolder(folder);
-    for (int attempt = 0; attempt < mostAttempts; ++attempt) {
+    for (int attempt = 0; attempt < maxAttempts; ++attempt) {
         const int file = open(path.constData(), O_RDWR | O_CREAT | O_CLOEXEC, S_IRUSR | S_IWUSR);
         if (file < 0) {
             return {};
@@ -132,11 +132,11 @@ Result<void> DataLock::take(Claim claim) {
 
 Result<void> DataLock::keep(int file) {
     const QByteArray contents = newContents();
-    fchmod(file, S_IRUSR | S_IWUSR); // Older versions let others read it.
+    fchmod(file, S_IRUSR | S_IWUSR); // Older versions created it readable for others.
     if (ftruncate(file, 0) != 0 ||
         pwrite(file, contents.constData(), static_cast<size_t>(contents.size()), 0) !=
             contents.size()) {
-        close(file); // On a full disk; later, then.
+        close(file); // For example a full disk: try again later.
         return {};
     }
     file_ = file;
@@ -152,13 +152,13 @@ Result<void> DataLock::check() {
     const std::optional<QByteArray> found = readFile(path_);
     Result<void> allowed;
     if (ours_.isEmpty()) {
-        allowed = take(Claim::ifFree);
+        allowed = acquire(Claim::ifFree);
     } else if (found && *found != ours_) {
         allowed = failure(u"another Ravelo has taken over"_s);
     } else if (!found && presenceOf(QFile::encodeName(path_)) == Presence::gone) {
         if (presenceOf(QFile::encodeName(data_)) == Presence::gone) {
-            letGo(); // The whole folder was removed: there is nothing of anybody else's.
-            allowed = take(Claim::ifFree);
+            letGo(); // The whole folder was removed, so nobody else has data in it.
+            allowed = acquire(Claim::ifFree);
         } else {
             allowed = failure(u"its lock was removed"_s);
         }

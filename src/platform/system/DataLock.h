@@ -10,39 +10,38 @@
 
 namespace ravelo {
 
-/// Says whose the data are: two programs that rewrite one store file would undo each other. A file
-/// beside the data that names its process and its machine, and that the kernel keeps locked as long
-/// as the process lives. On a home that is shared over the network only what is in the file says
-/// whether it lives on another machine, so that must not be guessed.
+/// Ownership of the data: two programs that rewrite the same store file would undo each other's
+/// changes. A file beside the data names the process and the machine, and is locked while the
+/// process lives. If the home folder is shared over the network, whether a process on another
+/// machine still lives is not known and must not be guessed.
 class DataLock {
 public:
     enum class Claim {
         ifFree,
-        takeOver ///< Whoever has it: they notice before their next save and stop saving.
+        takeOver ///< Whoever has it notices before the next save and stops saving.
     };
 
-    /// `path` is the lock's own, `data` the file that is written under it.
+    /// `path` is the lock file, `data` the file that it protects.
     DataLock(QString path, QString data);
 
-    /// Gives the lock back if it is still ours.
+    /// Releases the lock if it is still ours.
     ~DataLock();
 
     DataLock(const DataLock&) = delete;
     DataLock& operator=(const DataLock&) = delete;
 
-    /// An error, in words for the user, if somebody else has the data. If the lock cannot be made
-    /// at all, as on a read-only disk, it is left for later.
+    /// An error for the user if another process has the data. If the lock cannot be created at all,
+    /// for example on a read-only disk, succeeds and tries again later.
     [[nodiscard]] Result<void> claim(Claim claim);
 
-    /// Whether the data are still ours, or are now. Once they are not, it stays so. Blocks; any
-    /// thread.
+    /// Whether the data are ours; once lost, they stay lost. Blocks; any thread.
     [[nodiscard]] Result<void> check();
 
-    /// Whether a process that is named there may live. Cheap.
+    /// Whether the process named in the file may be alive. Cheap.
     [[nodiscard]] static bool mayBeHeld(const QString& path);
 
 private:
-    [[nodiscard]] Result<void> take(Claim claim);
+    [[nodiscard]] Result<void> acquire(Claim claim);
     [[nodiscard]] Result<void> keep(int file);
     void letGo();
 
@@ -50,8 +49,8 @@ private:
     const QString data_;
     std::mutex mutex_;
     int file_ = -1;
-    QByteArray ours_;           ///< What we wrote into it; empty if we never had it.
-    std::optional<Error> lost_; ///< Why, once we do not have it any more.
+    QByteArray ours_;           ///< What we wrote; empty if we never had the lock.
+    std::optional<Error> lost_; ///< The reason, once it is lost.
 };
 
 } // namespace ravelo

@@ -24,7 +24,7 @@ using namespace decode;
 
 constexpr std::chrono::milliseconds startTime(5000); ///< On a busy machine.
 
-/// With no environment, no other descriptor and no signal held back. 0 if it could not be started.
+/// Without environment, other descriptors or blocked signals. 0 if it could not be started.
 pid_t spawn(const QByteArray& program, int socket) {
     posix_spawn_file_actions_t files;
     posix_spawn_file_actions_init(&files);
@@ -53,7 +53,7 @@ pid_t spawn(const QByteArray& program, int socket) {
     return child;
 }
 
-/// Nothing if there are not just as many, or somebody may still change them.
+/// Nothing if the size differs or the memory is not sealed.
 std::optional<QByteArray> contents(const Descriptor& memory, int64_t size) {
     struct stat info = {};
     if (size <= 0 || size > maxBytes || !memory || fstat(memory.number(), &info) != 0 ||
@@ -61,12 +61,12 @@ std::optional<QByteArray> contents(const Descriptor& memory, int64_t size) {
         return std::nullopt;
     }
     QByteArray bytes(size, Qt::Uninitialized);
-    const ssize_t taken = pread(memory.number(), bytes.data(), static_cast<size_t>(size), 0);
-    return taken == size ? std::optional(bytes) : std::nullopt;
+    const ssize_t count = pread(memory.number(), bytes.data(), static_cast<size_t>(size), 0);
+    return count == size ? std::optional(bytes) : std::nullopt;
 }
 
-bool waitFor(const Descriptor& socket, std::chrono::milliseconds patience) {
-    const auto end = std::chrono::steady_clock::now() + patience;
+bool waitFor(const Descriptor& socket, std::chrono::milliseconds timeout) {
+    const auto end = std::chrono::steady_clock::now() + timeout;
     pollfd event{socket.number(), POLLIN, 0};
     for (;;) {
         const auto left =
@@ -91,10 +91,10 @@ std::optional<DecoderConnection> DecoderConnection::start(const QByteArray& prog
     if (child == 0) {
         return std::nullopt;
     }
-    Descriptor process(static_cast<int>(
-        syscall(SYS_pidfd_open, child, 0))); // Before anybody waits for it: its number is its own.
-    // It ends by itself, at any time; to fork once more, so that it is nobody's child, would take
-    // it longer than to read most pictures.
+    // Opened before the child can be reaped, so the number cannot mean another process.
+    Descriptor process(static_cast<int>(syscall(SYS_pidfd_open, child, 0)));
+    // It ends by itself at any time, so something must reap it: forking twice would take longer
+    // than reading most pictures.
     std::thread([child] {
         while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
         }
@@ -123,9 +123,9 @@ bool DecoderConnection::isReady() {
 }
 
 std::optional<DecoderConnection::Answer>
-DecoderConnection::receive(std::chrono::milliseconds patience) {
+DecoderConnection::receive(std::chrono::milliseconds timeout) {
     Answer answer{};
-    if (!waitFor(socket_, patience)) {
+    if (!waitFor(socket_, timeout)) {
         return std::nullopt;
     }
     const Received received =

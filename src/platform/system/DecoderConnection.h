@@ -10,19 +10,19 @@
 
 namespace ravelo {
 
-/// The socket to one ravelo-decode, which is killed with it. What comes from there is not trusted.
+/// The socket to one ravelo-decode, which is killed with it. Its replies are not trusted.
 /// Blocks; one thread at a time.
 class DecoderConnection {
 public:
     struct Answer {
         decode::Reply reply;
-        QByteArray contents; ///< As many bytes as the reply says.
+        QByteArray contents; ///< As long as the reply says.
     };
 
-    /// Starts the program, which nobody has to wait for; nothing if that fails.
+    /// Starts the program, which needs no waiting for; nothing if that fails.
     [[nodiscard]] static std::optional<DecoderConnection> start(const QByteArray& program);
 
-    /// Speaks with whoever has the other end; `process` is its pidfd, if it is to be killed.
+    /// Uses an existing socket; `process` is the pidfd of the other side, if that is to be killed.
     explicit DecoderConnection(Descriptor socket, Descriptor process = {})
         : socket_(std::move(socket)), process_(std::move(process)) {}
 
@@ -32,15 +32,14 @@ public:
     DecoderConnection& operator=(const DecoderConnection&) = delete;
     ~DecoderConnection();
 
-    /// False if nobody is there any more.
+    /// False if the other side has closed.
     [[nodiscard]] bool send(const decode::Request& request, const Descriptor& picture);
 
-    /// Waits until it reads requests.
+    /// Waits until it is ready for requests.
     [[nodiscard]] bool isReady();
 
-    /// Nothing if it has ended, takes longer than `patience`, or says something that makes no
-    /// sense.
-    [[nodiscard]] std::optional<Answer> receive(std::chrono::milliseconds patience);
+    /// Nothing if it has ended, takes longer than `timeout` or sends an invalid reply.
+    [[nodiscard]] std::optional<Answer> receive(std::chrono::milliseconds timeout);
 
 private:
     Descriptor socket_;

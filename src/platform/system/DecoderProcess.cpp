@@ -20,12 +20,12 @@ namespace {
 
 using namespace decode;
 
-/// Sooner than the process ends, or a request might cross with its end.
+/// Less than the idle time of the process, which could otherwise end just before a request.
 constexpr std::chrono::seconds maxIdle(idleSeconds - 5);
 constexpr qsizetype maxBad = 1000;
-constexpr qsizetype maxKept = 256 * 1024; ///< Bytes of one picture.
+constexpr qsizetype maxKept = 256 * 1024; ///< Bytes, for one picture.
 
-constexpr uint32_t probeTime = 500; ///< Milliseconds of a processor.
+constexpr uint32_t probeTime = 500; ///< Milliseconds of processor time.
 constexpr uint32_t smallTime = 2500;
 constexpr uint32_t wholeTime = 5000;
 
@@ -34,7 +34,7 @@ QByteArray bytesOf(const Value& value) {
     return {reinterpret_cast<const char*>(&value), sizeof(value)};
 }
 
-std::chrono::milliseconds patience(const Request& request) {
+std::chrono::milliseconds timeoutOf(const Request& request) {
     return std::chrono::milliseconds(request.milliseconds * realTimeFactor) +
            std::chrono::seconds(1);
 }
@@ -58,7 +58,7 @@ PictureLook lookAt(Status status, QSize size) {
     return {};
 }
 
-/// Whether the answer is of the size that was asked for.
+/// Whether the reply has the requested size.
 bool fits(const Request& request, const DecoderConnection::Answer& answer) {
     const Reply& reply = answer.reply;
     const bool sized = request.kind == Kind::fill
@@ -70,7 +70,7 @@ bool fits(const Request& request, const DecoderConnection::Answer& answer) {
 
 } // namespace
 
-/// An open picture, and by what it is known again.
+/// An open picture and its key in the cache.
 struct DecoderProcess::Source {
     Origin origin = Origin::elsewhere;
     Descriptor descriptor;
@@ -80,7 +80,7 @@ struct DecoderProcess::Source {
         Descriptor opened(
             open(file.path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
         struct stat info = {};
-        // From a pipe or a device nothing may ever come.
+        // A pipe or a device may block for ever.
         if (opened && fstat(opened.number(), &info) == 0 && S_ISREG(info.st_mode) &&
             info.st_size > 0 && info.st_size <= maxBytes) {
             descriptor = std::move(opened);
@@ -151,7 +151,7 @@ QImage DecoderProcess::pixels(const UntrustedPicture& picture, const Request& re
     const auto* const file = std::get_if<PictureFile>(&picture);
     if (file != nullptr && image.sizeInBytes() <= maxKept) {
         const std::lock_guard lock(mutex_);
-        if (isThere(source.descriptor)) { // Else `forget` may have been called already.
+        if (isThere(source.descriptor)) { // Otherwise `forget` may have been called before.
             kept_.insert(key, new Kept{image, file->path}, image.sizeInBytes());
         }
     }
@@ -178,9 +178,9 @@ std::optional<DecoderConnection::Answer> DecoderProcess::ask(const Source& sourc
     }
     auto connection = sent(source, request);
     if (!connection || !connection->isReady()) {
-        return std::nullopt; // The picture is not to blame.
+        return std::nullopt; // Not the fault of the picture.
     }
-    auto answer = connection->receive(patience(request));
+    auto answer = connection->receive(timeoutOf(request));
     if (!answer) {
         giveUp(source.identity);
     } else if (answer->reply.last == 0) {
@@ -189,7 +189,7 @@ std::optional<DecoderConnection::Answer> DecoderProcess::ask(const Source& sourc
     return answer;
 }
 
-/// To a process that is still there, or to a new one.
+/// Uses an idle process or starts one.
 std::optional<DecoderConnection> DecoderProcess::sent(const Source& source,
                                                       const Request& request) {
     for (auto old = idleConnection(source.origin); old; old = idleConnection(source.origin)) {

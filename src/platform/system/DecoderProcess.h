@@ -13,11 +13,10 @@
 
 namespace ravelo {
 
-/// By ravelo-decode, started when there is something to read. Each request in parallel has a
-/// process of its own. A process serves many pictures of our own folder or many files from
-/// elsewhere, never both, and only one that was copied: a picture that takes it over sees no
-/// others. One that kills it, or that it works on for too long, is not tried again until its file
-/// changes; small pictures of files are kept.
+/// Uses ravelo-decode, started on demand. Parallel requests use separate processes. A process
+/// serves many pictures of our own folder or many files from elsewhere, never both, and only one
+/// that was copied: a picture that takes it over sees none of another origin. One that kills it or
+/// takes too long is not tried again until its file changes; small pictures of files are cached.
 class DecoderProcess final : public ImageDecoder {
 public:
     /// `ownFolder` has the pictures that the program keeps itself.
@@ -62,9 +61,9 @@ private:
     const QByteArray program_;
     const QByteArray ownFolder_; ///< With a slash at its end.
     std::mutex mutex_;           ///< Guards the members below; never held while waiting.
-    std::vector<Idle> idle_;     ///< The longest idle first.
-    QSet<QByteArray> bad_;       ///< Pictures that are not tried again.
-    QCache<QByteArray, Kept> kept_{1 << 20}; ///< In bytes, by picture and request.
+    std::vector<Idle> idle_;     ///< Longest idle first.
+    QSet<QByteArray> bad_;       ///< Not to be tried again.
+    QCache<QByteArray, Kept> kept_{1 << 20}; ///< By picture and request; the limit is in bytes.
 };
 
 } // namespace ravelo

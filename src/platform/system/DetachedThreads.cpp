@@ -9,29 +9,30 @@
 namespace ravelo {
 
 Handle DetachedThreads::run(std::function<void()> job, std::function<void()> done) {
-    const auto end = std::make_shared<std::function<void()>>(std::move(done)); // Main thread's.
-    const auto tell = [end, mainThread = mainThread_] {
-        mainThread->tell([end] {
+    const auto end =
+        std::make_shared<std::function<void()>>(std::move(done)); // For the main thread only.
+    const auto finish = [end, mainThread = mainThread_] {
+        mainThread->post([end] {
             if (const auto call = std::exchange(*end, nullptr)) {
                 call();
             }
         });
     };
     if (*running_ >= max_) {
-        tell();
+        finish();
     } else {
         ++*running_;
         const SignalsBlocked blocked;
         try {
-            std::thread([job = std::move(job), tell, running = running_]() mutable {
+            std::thread([job = std::move(job), finish, running = running_]() mutable {
                 job();
                 job = nullptr;
                 --*running;
-                tell();
+                finish();
             }).detach();
-        } catch (const std::system_error&) { // This user may have no more threads now.
+        } catch (const std::system_error&) { // The thread limit is reached.
             --*running_;
-            tell();
+            finish();
         }
     }
     return Handle([end] { *end = nullptr; });

@@ -8,14 +8,13 @@
 
 namespace ravelo {
 
-/// A new thread for each job, up to `max` at a time. Jobs that may hang on something outside this
-/// program's control get an instance of their own, so that they cannot use up the threads of
-/// others.
+/// A new thread for each job, up to `max` at a time. Use separate instances for jobs that may hang
+/// for different reasons, so that one kind cannot use up the threads of another.
 class DetachedThreads final : public DetachedJobs {
 public:
     explicit DetachedThreads(int max = 16) : max_(max) {}
 
-    /// Leaves those that still run to themselves.
+    /// Does not wait for running jobs.
     ~DetachedThreads() override { mainThread_->close(); }
 
     [[nodiscard]] Handle run(std::function<void()> job, std::function<void()> done) override;

@@ -15,13 +15,13 @@ namespace ravelo {
 
 namespace {
 
-// IN_MASK_ADD: the folder may be the one above itself, by a link.
+// IN_MASK_ADD: by a link, the folder may be its own parent.
 constexpr uint32_t self = IN_DELETE_SELF | IN_MOVE_SELF | IN_ONLYDIR | IN_MASK_ADD;
 constexpr uint32_t ofFolder = IN_CLOSE_WRITE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE | self;
 constexpr uint32_t ofAbove = IN_CREATE | IN_MOVED_TO | IN_MOVED_FROM | IN_DELETE | self;
 constexpr uint32_t ofGone = IN_DELETE_SELF | IN_MOVE_SELF | IN_UNMOUNT | IN_IGNORED;
 
-constexpr int steadyTries = 5; ///< Folders may come while the nearest one is being looked for.
+constexpr int steadyTries = 5; ///< Folders may appear during the search for the nearest.
 
 struct Found {
     FolderEntry entry;
@@ -32,7 +32,7 @@ bool isEmptyFile(const struct stat& info) {
     return S_ISREG(info.st_mode) && info.st_size == 0;
 }
 
-/// What has just been written may be gone again: then it was not empty as far as we know.
+/// A file that is gone again counts as not empty.
 bool isEmptyFile(const QByteArray& path) {
     struct stat info {};
 
@@ -62,9 +62,9 @@ std::vector<Found> entriesOf(const QByteArray& path, Detail detail) {
 
 } // namespace
 
-FolderFollower::FolderFollower(QByteArray path, Tell tell)
+FolderFollower::FolderFollower(QByteArray path, Notify notify)
     : path_(std::move(path)),
-      tell_(std::move(tell)),
+      notify_(std::move(notify)),
       inotify_(inotify_init1(IN_CLOEXEC | IN_NONBLOCK)) {
     while (path_.size() > 1 && path_.endsWith('/')) {
         path_.chop(1);
@@ -78,7 +78,7 @@ FolderFollower::~FolderFollower() {
 void FolderFollower::proceed() {
     read();
     if (!changes_.isEmpty()) {
-        tell_({{}, std::exchange(changes_, {})});
+        notify_({{}, std::exchange(changes_, {})});
     }
     if (std::exchange(looksAgain_, false)) {
         watchAbove();
@@ -95,12 +95,12 @@ void FolderFollower::read() {
     const ssize_t size = ::read(inotify_, buffer.data(), buffer.size());
     for (ssize_t at = 0; at < size;) {
         const auto& event = *reinterpret_cast<const inotify_event*>(&buffer[at]);
-        take(event);
+        handle(event);
         at += static_cast<ssize_t>(sizeof event) + event.len;
     }
 }
 
-void FolderFollower::take(const inotify_event& event) {
+void FolderFollower::handle(const inotify_event& event) {
     const bool gone = (event.mask & ofGone) != 0;
     if ((event.mask & IN_Q_OVERFLOW) != 0) {
         missed_ = true;
@@ -108,19 +108,19 @@ void FolderFollower::take(const inotify_event& event) {
     }
     if (event.wd == above_ && (gone || (event.len > 0 && below_ == event.name))) {
         looksAgain_ = true;
-        // Just made, it was empty: whatever is in it has come since.
+        // A new folder is empty, so all its entries are new.
         const bool made = (event.mask & IN_CREATE) != 0 && (event.mask & IN_ISDIR) != 0;
         unknown_ = made ? FolderListing::Unknown::arrived : FolderListing::Unknown::old;
     }
     if (event.wd == folder_) {
         looksAgain_ = looksAgain_ || gone;
         if (event.len > 0) {
-            takeChange(event);
+            handleChange(event);
         }
     }
 }
 
-void FolderFollower::takeChange(const inotify_event& event) {
+void FolderFollower::handleChange(const inotify_event& event) {
     using Kind = FolderChange::Kind;
     const QByteArray name(event.name);
     if ((event.mask & IN_CLOSE_WRITE) != 0) {
@@ -134,7 +134,7 @@ void FolderFollower::takeChange(const inotify_event& event) {
     }
 }
 
-/// So that we are told when the next folder on the way comes.
+/// To be notified when the next folder on the path is created.
 void FolderFollower::watchAbove() {
     for (int tries = 0; tries < steadyTries; ++tries) {
         const int before = above_;
@@ -146,7 +146,7 @@ void FolderFollower::watchAbove() {
     }
 }
 
-/// The nearest folder above ours that can be watched; -1 for none.
+/// Watches the nearest possible parent; -1 if there is none.
 int FolderFollower::watchNearest() {
     for (qsizetype end = path_.lastIndexOf('/'); end >= 0;
          end = end > 0 ? path_.lastIndexOf('/', end - 1) : -1) {
@@ -163,7 +163,7 @@ int FolderFollower::watchNearest() {
 void FolderFollower::watchFolder() {
     const int before = folder_;
     folder_ = inotify_add_watch(inotify_, path_.constData(), ofFolder);
-    drop(before); // Elsewhere now, or gone.
+    drop(before); // Moved or removed.
     if (folder_ != before || first_) {
         list(first_ ? FolderListing::Unknown::old : unknown_);
     }
@@ -191,7 +191,7 @@ void FolderFollower::list(FolderListing::Unknown unknown) {
             listing.entries.append(found.entry);
         }
     }
-    tell_({std::move(listing), {}});
+    notify_({std::move(listing), {}});
 }
 
 } // namespace ravelo

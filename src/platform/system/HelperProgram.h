@@ -5,9 +5,8 @@
 
 namespace ravelo {
 
-/// Where a small program of ours is: beside the running one, as in a build tree, or in
-/// ../libexec/ravelo from there, as it is installed. It need not be there. Needs the application
-/// object.
+/// The path of one of our helper programs: beside the running program, as in a build tree, or in
+/// ../libexec/ravelo, as installed. It may not exist. Needs the application object.
 [[nodiscard]] QString helperProgram(QLatin1StringView name);
 
 } // namespace ravelo

@@ -15,8 +15,7 @@ namespace {
 constexpr quint32 events = IN_CREATE | IN_DELETE | IN_MODIFY | IN_ATTRIB | IN_MOVE | IN_MOVE_SELF |
                            IN_DELETE_SELF | IN_ONLYDIR;
 
-/// The kernel tells only of what is written through itself: not of what another machine, or a
-/// program that serves the file system, writes.
+/// inotify reports no changes by another machine or by the program that serves the file system.
 bool isElsewhere(const QByteArray& folder) {
     // statfs(2): NFS, CIFS (two), SMB, AFS (two), Ceph, Coda, 9P, FUSE, Lustre, GPFS, OCFS2,
     // vboxsf.
@@ -45,11 +44,11 @@ bool InotifyChanges::watch(const QByteArray& folder) {
     }
     const int watch = inotify_add_watch(queue_, folder.constData(), events);
     if (watches_.value(folder, -1) != watch) {
-        unwatch(folder); // Another folder was in its place.
+        unwatch(folder); // The folder was replaced.
     }
     const auto other = folders_.constFind(watch);
     if (watch < 0 || (other != folders_.cend() && *other != folder)) {
-        return false; // Two paths to one folder: its changes are told of the first alone.
+        return false; // Two paths to one folder: changes are reported for the first only.
     }
     watches_.insert(folder, watch);
     folders_.insert(watch, folder);
@@ -90,10 +89,10 @@ void InotifyChanges::note(int watch, quint32 mask, Changes& changes) {
     }
     const auto folder = folders_.constFind(watch);
     if (folder == folders_.cend()) {
-        return; // Left of one that is watched no more.
+        return; // From a watch that was removed.
     }
     changes.folders.insert(*folder);
-    if ((mask & IN_IGNORED) != 0) { // It is gone, or its file system is.
+    if ((mask & IN_IGNORED) != 0) { // Deleted or unmounted.
         watches_.remove(*folder);
         folders_.erase(folder);
     }

@@ -6,7 +6,7 @@
 
 namespace ravelo {
 
-/// By inotify(7): the kernel counts, and is read only when somebody asks.
+/// By inotify(7), whose events are read only on request.
 class InotifyChanges final : public FolderChanges {
 public:
     InotifyChanges();
@@ -24,7 +24,7 @@ private:
 
     int queue_;
     QHash<QByteArray, int> watches_;
-    QHash<int, QByteArray> folders_; ///< The same, the other way round.
+    QHash<int, QByteArray> folders_; ///< The inverse.
 };
 
 } // namespace ravelo

@@ -19,20 +19,20 @@ namespace ravelo {
 
 namespace {
 
-/// A thread that is not stuck ends in far less.
-constexpr std::chrono::milliseconds patience{200};
+/// Enough for any thread that is not stuck.
+constexpr std::chrono::milliseconds endTimeout{200};
 
-/// What both threads hold.
+/// Shared by both threads.
 class Watching : public std::enable_shared_from_this<Watching> {
 public:
-    explicit Watching(std::function<void(const FolderNews&)> tell) : tell_(std::move(tell)) {}
+    explicit Watching(std::function<void(const FolderNews&)> notify) : notify_(std::move(notify)) {}
 
     ~Watching() { close(stop_); }
 
     Watching(const Watching&) = delete;
     Watching& operator=(const Watching&) = delete;
 
-    /// The thread's whole life.
+    /// The thread.
     void follow(const QByteArray& path) {
         FolderFollower follower(path, [this](FolderNews news) { add(std::move(news)); });
         pollfd waits[] = {{follower.descriptor(), POLLIN, 0}, {stop_, POLLIN, 0}};
@@ -45,18 +45,18 @@ public:
         end_.notify_all();
     }
 
-    /// Main thread: tells no more.
+    /// Main thread. No more notifications.
     void stop() {
         mainThread_.close();
-        tell_ = nullptr;
+        notify_ = nullptr;
         const uint64_t one = 1;
         [[maybe_unused]] const auto written = ::write(stop_, &one, sizeof one);
         std::unique_lock lock(mutex_);
-        end_.wait_for(lock, patience, [this] { return ended_; });
+        end_.wait_for(lock, endTimeout, [this] { return ended_; });
     }
 
 private:
-    /// However much comes before the main thread gets to it, it is called once.
+    /// Called once for all news that came before.
     void add(FolderNews news) {
         const std::scoped_lock lock(mutex_);
         if (news.listing || pending_.empty()) {
@@ -65,7 +65,7 @@ private:
             pending_.back().changes.append(std::move(news.changes));
         }
         if (!std::exchange(called_, true)) {
-            mainThread_.tell([self = shared_from_this()] { self->deliver(); });
+            mainThread_.post([self = shared_from_this()] { self->deliver(); });
         }
     }
 
@@ -77,16 +77,16 @@ private:
             called_ = false;
         }
         for (const FolderNews& news : all) {
-            if (const auto tell = tell_) { // Being told may end the watch.
-                tell(news);
+            if (const auto notify = notify_) { // The callback may end the watch.
+                notify(news);
             }
         }
     }
 
     MainThread mainThread_;
     int stop_ = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    std::function<void(const FolderNews&)> tell_; ///< The main thread's own.
-    std::mutex mutex_;                            ///< Guards what follows.
+    std::function<void(const FolderNews&)> notify_; ///< For the main thread only.
+    std::mutex mutex_;                              ///< Guards what follows.
     std::vector<FolderNews> pending_;
     bool called_ = false;
     bool ended_ = false;
@@ -96,8 +96,8 @@ private:
 } // namespace
 
 Handle InotifyFolderWatch::watch(const QByteArray& path,
-                                 std::function<void(const FolderNews&)> tell) {
-    const auto watching = std::make_shared<Watching>(std::move(tell));
+                                 std::function<void(const FolderNews&)> notify) {
+    const auto watching = std::make_shared<Watching>(std::move(notify));
     const SignalsBlocked blocked;
     std::thread thread([watching, path] { watching->follow(path); });
     pthread_setname_np(thread.native_handle(), "folder-watch");

@@ -4,13 +4,13 @@
 
 namespace ravelo {
 
-/// Folders by inotify(7), which tells a file that was closed from one that was just made. Each has
-/// a thread, asleep while nothing happens: even asking for the watch of a folder on a dead network
-/// mount may never return, so nobody waits for that thread for long.
+/// By inotify(7), which tells closed files from new ones. Each folder has a thread, which sleeps
+/// while nothing happens: on a dead network mount even adding a watch may never return, so the
+/// thread is not waited for for long.
 class InotifyFolderWatch final : public FolderWatch {
 public:
     [[nodiscard]] Handle watch(const QByteArray& path,
-                               std::function<void(const FolderNews&)> tell) override;
+                               std::function<void(const FolderNews&)> notify) override;
 };
 
 } // namespace ravelo

@@ -9,15 +9,15 @@
 
 namespace ravelo {
 
-/// The way back to the main thread for threads that may outlive all else: they share it, and once
-/// it is closed nothing comes through any more.
+/// Calls functions on the main thread, for threads that may outlive everything else. After `close`
+/// it calls nothing.
 class MainThread {
 public:
-    /// Runs `news` on the main thread. Any thread.
-    void tell(std::function<void()> news) {
+    /// Runs `call` on the main thread. Any thread.
+    void post(std::function<void()> call) {
         const std::scoped_lock lock(mutex_);
         if (context_) {
-            QMetaObject::invokeMethod(context_.get(), std::move(news), Qt::QueuedConnection);
+            QMetaObject::invokeMethod(context_.get(), std::move(call), Qt::QueuedConnection);
         }
     }
 

@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Empty where the user has none, or one that runs nothing.
+/// Empty if the user has none that can run anything.
 QString loginShell() {
     std::array<char, 4096> texts{};
     passwd entry{};
@@ -46,13 +46,13 @@ NightShiftScript::NightShiftScript(const QProcessEnvironment& environment, QStri
     : environment_(environment), shell_(std::move(shell)) {}
 
 void NightShiftScript::start() {
-    // Elsewhere, because a start lasts until the shell is found on the disk and loaded.
+    // On a thread, because starting waits until the shell has been loaded from the disk.
     try {
         std::thread([shell = shell_, environment = environment_] {
             startBy(shell, environment) || startBy(loginShell(), environment) ||
                 startBy(u"/bin/sh"_s, environment);
         }).detach();
-    } catch (const std::system_error&) { // The machine is at its limit; nothing is started.
+    } catch (const std::system_error&) { // The thread limit is reached; nothing is started.
     }
 }
 

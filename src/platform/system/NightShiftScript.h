@@ -7,11 +7,11 @@
 
 namespace ravelo {
 
-/// Runs the script ~/.qvx/bin/turno-noite by a login shell, in a session of its own that outlives
-/// this program, with this program's standard streams. Main thread.
+/// Runs the script ~/.qvx/bin/turno-noite in a login shell, in a new session that outlives this
+/// program, with this program's standard streams. Main thread.
 class NightShiftScript final : public NightShift {
 public:
-    /// `environment` is the script's. Where there is no `shell`, the user's login shell runs it.
+    /// `environment` is for the script. If `shell` does not exist, the user's login shell runs it.
     explicit NightShiftScript(const QProcessEnvironment& environment,
                               QString shell = QStringLiteral("/bin/zsh"));
 

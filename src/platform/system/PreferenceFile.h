@@ -13,10 +13,10 @@ namespace ravelo {
 class Scheduler;
 class Worker;
 
-/// The preferences as one JSON object (RFC 8259) in a file that only its user can read. Read once,
-/// at construction; every change goes to the worker at once, and changes that come during a write
-/// share the next one. A file that is no JSON object is put aside before it is replaced. After a
-/// failed write the values stay in memory and are written again later, or with the next change.
+/// The preferences as a JSON object (RFC 8259) in a file that only its user can read. Read once, at
+/// construction; written after each change, with changes during a write combined. A file that is
+/// not a JSON object is put aside before it is replaced. A failed write is retried later or with
+/// the next change.
 class PreferenceFile final : public Preferences {
 public:
     struct Services {
@@ -25,10 +25,10 @@ public:
         OwnFile::Permission mayWrite = {};
     };
 
-    /// Makes the file's folder with the first write. The services outlive this object.
+    /// The first write creates the folder. The services must outlive this.
     PreferenceFile(QString path, Services services);
 
-    /// Waits until the last change is written, or has failed once more.
+    /// Waits until the last change is written or has failed again.
     ~PreferenceFile() override;
 
     PreferenceFile(const PreferenceFile&) = delete;
@@ -37,13 +37,13 @@ public:
     [[nodiscard]] QJsonValue value(const QString& key) const override;
     void set(const QString& key, const QJsonValue& value) override;
 
-    /// There was a file at the start, and it could not be read: this is not a first start.
+    /// The file existed at the start but could not be read, so this is not the first start.
     [[nodiscard]] bool wasUnreadable() const { return wasUnreadable_; }
 
-    /// Writes again what could not be written, now.
+    /// Retries a failed write now.
     void retry();
 
-    /// Like `retry`, and waits for it. For the end of the program; needs no event loop.
+    /// Like `retry`, but waits for it without an event loop, for the end of the program.
     void flush();
 
     /// After each write.
@@ -56,7 +56,7 @@ private:
     QString path_;
     Services services_;
     QJsonObject values_;
-    std::shared_ptr<OwnFile> file_; ///< The worker's.
+    std::shared_ptr<OwnFile> file_; ///< For the worker only.
     Handle retry_;
     bool wasUnreadable_ = false;
     bool unsaved_ = false; ///< The last write failed.

@@ -20,12 +20,12 @@ namespace {
 
 struct Program {
     QByteArray path;
-    QList<QByteArray> arguments; ///< The first is the path again.
+    QList<QByteArray> arguments; ///< Starting with the path.
     QList<QByteArray> environment;
-    QByteArray folder; ///< To run in.
+    QByteArray folder; ///< The working directory.
 };
 
-/// As execve(2) takes it, valid as long as the list.
+/// For execve(2); valid as long as the list.
 std::vector<char*> terminated(const QList<QByteArray>& list) {
     std::vector<char*> pointers;
     for (const QByteArray& one : list) {
@@ -41,14 +41,14 @@ void remove(const QByteArray& folder) {
     }
 }
 
-/// Empties the folder if an earlier run could not.
+/// Also empties a folder left by an earlier run.
 bool makeEmpty(const QByteArray& folder) {
     remove(folder);
-    mkdir(folder.left(folder.lastIndexOf('/')).constData(), S_IRWXU); // As a rule it is there.
+    mkdir(folder.left(folder.lastIndexOf('/')).constData(), S_IRWXU); // Usually it exists.
     return mkdir(folder.constData(), S_IRWXU) == 0;
 }
 
-/// The child's process number, or 0.
+/// The child's process ID, or 0.
 pid_t spawn(const Program& program) {
     posix_spawn_file_actions_t actions;
     posix_spawn_file_actions_init(&actions);

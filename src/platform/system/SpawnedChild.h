@@ -7,14 +7,14 @@
 
 namespace ravelo {
 
-/// By posix_spawn(3), and waited for by a thread that nobody waits for. The program's standard
-/// streams are /dev/null. Its working directory is an empty folder that only this user can enter:
-/// many programs obey what they find where they are started. It is always the same folder, because
-/// some programs keep notes about every folder they ran in. It is removed when the program ends.
+/// By posix_spawn(3); a detached thread waits for the program. Its standard streams are /dev/null.
+/// Its working directory is an empty folder that only this user can enter, because many programs
+/// obey files in it. The folder is always the same, because some programs remember every folder
+/// they ran in, and is removed when the program ends.
 class SpawnedChild final : public ChildProcess {
 public:
-    /// `jobs` outlives it; `environment` is that of the programs. `folder` is where they run: what
-    /// is in it is deleted, and no other user may be able to write to the folder above it.
+    /// `jobs` outlives it; `environment` is for the programs. `folder` is their working directory:
+    /// its contents are deleted, and no other user may have write access to its parent.
     SpawnedChild(DetachedJobs& jobs, const QProcessEnvironment& environment, QByteArray folder);
 
     [[nodiscard]] Handle run(const QByteArray& path, const QList<QByteArray>& arguments,

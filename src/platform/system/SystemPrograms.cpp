@@ -14,15 +14,15 @@ namespace ravelo {
 
 namespace {
 
-/// QProcess takes no arguments that are not text.
+/// QProcess accepts only text as arguments.
 void startDetached(const QByteArray& path, const QList<QByteArray>& arguments) {
     std::vector<char*> argv = {const_cast<char*>(path.constData())};
     for (const QByteArray& argument : arguments) {
         argv.push_back(const_cast<char*>(argument.constData()));
     }
     argv.push_back(nullptr);
-    // Twice, so that the program is nobody's child. After a fork among threads nothing may be
-    // called but what is safe in a signal handler.
+    // Twice, so that the program need not be waited for. After fork only async-signal-safe
+    // functions may be called.
     const pid_t child = fork();
     if (child == 0) {
         setsid();
@@ -54,7 +54,7 @@ Handle SystemPrograms::find(const QStringList& names, std::function<void(QByteAr
 }
 
 void SystemPrograms::start(const QByteArray& path, const QList<QByteArray>& arguments) {
-    // Not dropped before it has run: the handle only keeps its end from being told.
+    // Dropping the handle does not stop it, only the notification of its end.
     const Handle started = jobs_.run([path, arguments] { startDetached(path, arguments); }, [] {});
 }
 

@@ -15,7 +15,7 @@ namespace ravelo {
 namespace {
 
 constexpr qint64 second = 1'000'000'000;
-constexpr double longestWait = 1e9; // Seconds; 30 years keep the sums below far from overflow.
+constexpr double maxWait = 1e9; // Seconds; 30 years, so that sums do not overflow.
 
 qint64 read(clockid_t clock) {
     timespec time = {};
@@ -24,7 +24,7 @@ qint64 read(clockid_t clock) {
 }
 
 qint64 nanoseconds(Seconds time) {
-    return std::llround(std::clamp(time.count(), 0.0, longestWait) * static_cast<double>(second));
+    return std::llround(std::clamp(time.count(), 0.0, maxWait) * static_cast<double>(second));
 }
 
 } // namespace
@@ -33,19 +33,19 @@ qint64 nextOnGrid(qint64 due, qint64 interval, qint64 now) {
     return due + interval * (1 + std::max<qint64>(now - due, 0) / interval);
 }
 
-/// What waits, in order of its time, and the kernel timer that is set to the first of it.
+/// The waiting actions by time, and the kernel timer, set to the first.
 class SystemScheduler::Queue {
 public:
     struct Key {
         qint64 due = 0;
-        qint64 serial = 0; ///< Those of one moment run in the order in which they were given.
+        qint64 serial = 0; ///< Keeps the order of actions at the same time.
 
         friend auto operator<=>(const Key&, const Key&) = default;
     };
 
     struct Entry {
         Key key;
-        qint64 interval = 0; ///< 0 for what runs once.
+        qint64 interval = 0; ///< 0 if it runs once.
         std::function<void()> action;
     };
 
@@ -84,7 +84,7 @@ public:
                 entry->key.due = nextOnGrid(entry->key.due, entry->interval, now);
                 entries_.emplace(entry->key, entry);
             }
-            arm(); // Before the action, which may run an event loop of its own.
+            arm(); // Before the action, which may run an event loop.
             entry->action();
         }
         arm();
@@ -102,7 +102,7 @@ private:
     }
 
     int timer_;
-    qint64 armed_ = 0; ///< The moment the timer is set to; 0 where it is off.
+    qint64 armed_ = 0; ///< When the timer will fire; 0 if it is off.
     qint64 nextSerial_ = 0;
     std::map<Key, std::shared_ptr<Entry>> entries_;
 };

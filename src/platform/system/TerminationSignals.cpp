@@ -12,7 +12,7 @@ namespace ravelo {
 
 namespace {
 
-// A signal handler may do nothing but write a number.
+// write is async-signal-safe.
 int wakeFd = -1;
 
 extern "C" void wakeUp(int /*signal*/) {
@@ -28,7 +28,7 @@ Handle onTerminationSignal(std::function<void()> callback) {
     QObject::connect(notifier.get(), &QSocketNotifier::activated, notifier.get(),
                      [callback = std::move(callback)] {
                          uint64_t count = 0;
-                         [[maybe_unused]] const auto taken = read(wakeFd, &count, sizeof count);
+                         [[maybe_unused]] const auto drained = read(wakeFd, &count, sizeof count);
                          callback();
                      });
     struct sigaction action = {};

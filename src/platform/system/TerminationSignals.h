@@ -6,8 +6,8 @@
 
 namespace ravelo {
 
-/// Calls `callback` from the event loop when the process is told to end by SIGTERM, SIGINT or
-/// SIGHUP, which then end it no more by themselves. Once in the life of a process. Main thread.
+/// Handles SIGTERM, SIGINT and SIGHUP by calling `callback` from the event loop. Call once per
+/// process. Main thread.
 [[nodiscard]] Handle onTerminationSignal(std::function<void()> callback);
 
 } // namespace ravelo

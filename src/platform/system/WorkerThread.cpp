@@ -35,7 +35,7 @@ void WorkerThread::work() {
             const auto job = std::exchange(tasks_.front().job, nullptr);
             lock.unlock();
             job();
-        } // What the job held goes here too, not with the lock.
+        } // Destroys what the job held, without the lock.
         lock.lock();
         auto done = std::move(tasks_.front().done);
         tasks_.pop_front();
@@ -50,7 +50,7 @@ void WorkerThread::work() {
     }
 }
 
-/// One at a time: an end may drain and so run the ends behind it in its turn.
+/// One at a time: `done` may drain, which runs those after it.
 void WorkerThread::runDone() {
     std::unique_lock lock(mutex_);
     while (!done_.empty()) {

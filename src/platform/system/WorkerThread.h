@@ -11,8 +11,8 @@
 
 namespace ravelo {
 
-/// A thread of its own, asleep while there is nothing to do. Draining needs no event loop, so that
-/// it also works while the process is on its way out (atexit(3)).
+/// A thread that sleeps while there is nothing to do. Draining needs no event loop, so it also
+/// works in atexit(3).
 class WorkerThread final : public Worker {
 public:
     WorkerThread();
@@ -32,11 +32,11 @@ private:
     void work();
     void runDone();
 
-    QObject context_; ///< Brings the ends of jobs to the main thread.
+    QObject context_; ///< For queued calls to the main thread.
     std::mutex mutex_;
     std::condition_variable wake_;
     std::condition_variable idle_;
-    std::deque<Task> tasks_; ///< The first is being worked on, the others wait.
+    std::deque<Task> tasks_; ///< The first is running, the others wait.
     std::deque<std::function<void()>> done_;
     bool stop_ = false;
     std::thread thread_;

@@ -1,6 +1,7 @@
 #include "platform/x11/X11DisplayServer.h"
 
 #include "platform/x11/X11PanelWindow.h"
+#include "platform/x11/X11WindowFrame.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -66,6 +67,10 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
 std::unique_ptr<PanelWindow> X11DisplayServer::panelWindow(QWindow& window) {
     return std::make_unique<X11PanelWindow>(window, *connection_, events_, screens_, compositor_,
                                             cover_);
+}
+
+std::unique_ptr<WindowFrame> X11DisplayServer::windowFrame(QWindow& window) {
+    return std::make_unique<X11WindowFrame>(window, *connection_, compositor_);
 }
 
 } // namespace ravelo::x11

@@ -49,6 +49,7 @@ public:
     [[nodiscard]] TrayArea& tray() override { return tray_; }
 
     [[nodiscard]] std::unique_ptr<PanelWindow> panelWindow(QWindow& window) override;
+    [[nodiscard]] std::unique_ptr<WindowFrame> windowFrame(QWindow& window) override;
 
 private:
     X11DisplayServer(std::unique_ptr<Connection> connection, std::unique_ptr<Listener> listener);

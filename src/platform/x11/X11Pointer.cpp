@@ -1,8 +1,29 @@
 #include "platform/x11/X11Pointer.h"
 
+#include <QGuiApplication>
+#include <QWindow>
+
+#include <algorithm>
 #include <utility>
+#include <vector>
 
 namespace ravelo::x11 {
+
+namespace {
+
+/// Those that are shown and that the window manager manages.
+std::vector<xcb_window_t> ownWindows() {
+    std::vector<xcb_window_t> ids;
+    for (QWindow* const window : QGuiApplication::topLevelWindows()) {
+        if (window->isVisible() && window->type() == Qt::Window &&
+            !window->flags().testFlag(Qt::X11BypassWindowManagerHint)) {
+            ids.push_back(static_cast<xcb_window_t>(window->winId()));
+        }
+    }
+    return ids;
+}
+
+} // namespace
 
 X11Pointer::X11Pointer(Connection& connection, Listener& listener, Known known, ToLogical toLogical)
     : connection_(connection),
@@ -33,6 +54,22 @@ PointerState X11Pointer::state() {
         return {std::nullopt, pressed};
     }
     return {toLogical_(seen_->location), seen_->buttonDown || pressed, seen_->leftDown};
+}
+
+bool X11Pointer::isOverOwnWindow() {
+    const std::vector<xcb_window_t> own = ownWindows();
+    constexpr int deepest = 8; // The root, perhaps a desktop, the manager's frame, ours.
+    xcb_window_t window = own.empty() ? xcb_window_t(XCB_WINDOW_NONE) : connection_.root();
+    for (int depth = 0; depth < deepest && window != XCB_WINDOW_NONE; ++depth) {
+        const auto cookie = xcb_query_pointer(connection_.get(), window);
+        const Owned<xcb_query_pointer_reply_t> reply(
+            xcb_query_pointer_reply(connection_.get(), cookie, nullptr));
+        window = reply ? reply->child : xcb_window_t(XCB_WINDOW_NONE);
+        if (std::ranges::find(own, window) != own.end()) {
+            return true;
+        }
+    }
+    return false;
 }
 
 Handle X11Pointer::onNextActivity(std::function<void()> wake) {

@@ -22,6 +22,7 @@ public:
     X11Pointer(Connection& connection, Listener& listener, Known known, ToLogical toLogical);
 
     [[nodiscard]] PointerState state() override;
+    [[nodiscard]] bool isOverOwnWindow() override;
 
     [[nodiscard]] Handle onPress(std::function<void()> callback) override {
         return presses_->add(std::move(callback));

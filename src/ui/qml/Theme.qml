@@ -122,6 +122,7 @@ QtObject {
     readonly property color grip: white(0.36)
     readonly property color ring: white(0.92)
     readonly property color ringTrack: white(0.20)
+    readonly property color scrollMark: white(0.26)
 
     /// Where something so high stands in the middle of an item: on a device pixel, the lower of two.
     function middle(outer: Item, height: real, devicePixelRatio: real): real {
@@ -170,13 +171,10 @@ QtObject {
     readonly property real radiusTray: 16
     readonly property real radiusEditor: 14
 
-    // The panel, top to bottom.
+    // The panel.
     readonly property real insetTop: 28
     readonly property real insetSide: 34
     readonly property real insetBottom: 18
-    readonly property real usageTop: 72
-    readonly property real tabsTop: 164
-    readonly property real bodyTop: 204
 
     /// What lies behind a window shows through where it is transparent.
     property bool translucent: true
@@ -194,6 +192,7 @@ QtObject {
     readonly property int toastLeaving: fade(200)
     readonly property int floatingIn: fade(120)
     readonly property int floatingOut: fade(80)
+    readonly property int revealing: move(160)
     readonly property int filling: move(400)
     readonly property int dropping: 160
     readonly property int bannerIn: fade(300)

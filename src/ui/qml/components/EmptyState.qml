@@ -17,6 +17,7 @@ Item {
 
         Box {
             objectName: "emptyDisc"
+            visible: empty.height >= 140
             anchors.horizontalCenter: parent.horizontalCenter
             width: 64
             height: 64
@@ -32,7 +33,7 @@ Item {
         }
         Item {
             width: 1
-            height: 16
+            height: empty.height >= 140 ? 16 : 0
         }
         Label {
             id: title

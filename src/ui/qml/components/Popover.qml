@@ -6,7 +6,8 @@ import Ravelo
 FocusScope {
     id: popover
 
-    required property PanelHost host
+    /// Null in a window, which has the keyboard by itself.
+    property PanelHost host: null
     property bool opened: false
     /// Of what floats, without the room around it.
     property real contentWidth
@@ -40,7 +41,7 @@ FocusScope {
         keyed = byKey;
         focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
         opened = true;
-        host.controller.typeFocus();
+        host?.controller.typeFocus();
         forceActiveFocus();
     }
 
@@ -50,7 +51,7 @@ FocusScope {
             if (focusedBefore) {
                 focusedBefore.forceActiveFocus();
             } else {
-                host.keyboardFreed();
+                host?.keyboardFreed();
             }
             closed();
         }

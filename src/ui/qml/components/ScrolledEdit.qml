@@ -6,11 +6,30 @@ Flickable {
     id: view
 
     required property EditArea edit
+    /// How far the text begins below the top until it is scrolled.
+    property real head: 0
+
+    function showCaret() {
+        const caret = edit.cursorRectangle;
+        const highest = caret.y + caret.height - height;
+        const lowest = caret.y > 0 ? caret.y : -head; // The first line with all above it.
+        const wanted = Math.max(highest, Math.min(contentY, lowest));
+        contentY = Math.max(-head, Math.min(wanted, contentHeight - height));
+    }
 
     clip: true
     boundsBehavior: Flickable.StopAtBounds
+    topMargin: head
+    onHeadChanged: later.restart()
     contentWidth: width
-    contentHeight: Math.max(edit.implicitHeight, height)
+    contentHeight: Math.max(edit.implicitHeight, height - head)
+
+    // Once the height has changed, too.
+    Timer {
+        id: later
+        interval: 0
+        onTriggered: view.showCaret()
+    }
 
     Binding {
         target: view.edit
@@ -21,10 +40,7 @@ Flickable {
     Connections {
         target: view.edit
         function onCursorRectangleChanged() {
-            const caret = view.edit.cursorRectangle;
-            const highest = caret.y + caret.height - view.height;
-            const wanted = Math.max(highest, Math.min(view.contentY, caret.y));
-            view.contentY = Math.max(0, Math.min(wanted, view.contentHeight - view.height));
+            view.showCaret();
         }
     }
 }

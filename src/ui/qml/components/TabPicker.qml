@@ -7,9 +7,12 @@ import Ravelo
 Box {
     id: picker
 
-    /// Of objects with `title` and `symbol`.
+    /// Of objects with `title` and perhaps `symbol`.
     required property var tabs
     property int current: 0
+    property TextStyle style: Theme.tab
+    /// By Tab only the chosen one is reached; the arrows lead to the others.
+    property bool oneStop: false
 
     readonly property real part: (width - 4) / tabs.length
 
@@ -31,7 +34,7 @@ Box {
         x: 2 + picker.current * picker.part
         y: 2
         width: picker.part
-        height: 28
+        height: picker.height - 4
         radius: Theme.radiusSmall
         color: Theme.selectedTab
 
@@ -58,13 +61,14 @@ Box {
 
             objectName: "tab" + index
             name: modelData.title
+            activeFocusOnTab: selected || !picker.oneStop
             Accessible.role: Accessible.PageTab
             Accessible.selectable: true
             Accessible.selected: selected
             x: 2 + index * picker.part
             y: 2
             width: picker.part
-            height: 28
+            height: picker.height - 4
             radius: Theme.radiusSmall
             rest: Theme.none
             hover: selected ? Theme.none : Theme.hoveredTab
@@ -84,14 +88,15 @@ Box {
 
                 Glyph {
                     anchors.verticalCenter: parent.verticalCenter
-                    symbol: tab.modelData.symbol
+                    visible: tab.modelData.symbol !== undefined
+                    symbol: tab.modelData.symbol ?? ""
                     color: label.color
                 }
 
                 Label {
                     id: label
                     text: tab.modelData.title
-                    style: Theme.tab
+                    style: picker.style
                     color: tab.selected ? Theme.text1
                                         : tab.hovered ? Theme.hoveredTabText : Theme.text3
                 }

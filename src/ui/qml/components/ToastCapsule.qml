@@ -34,9 +34,10 @@ Item {
         height: parent.height
         radius: 18
         color: Theme.toast
-        enabled: capsule.offers
+        enabled: capsule.message.offering
 
-        // What lies below is not pressed by a press beside the button.
+        // What lies below is not pressed by a press beside the button, nor by one on the button that
+        // comes just when another message is shown in its place.
         MouseArea {
             anchors.fill: parent
             acceptedButtons: Qt.AllButtons
@@ -97,7 +98,7 @@ Item {
         }
     }
 
-    // Nobody is hurried who is about to press it.
+    // The time stops while the pointer or the keyboard is on it.
     Binding {
         target: capsule.message
         property: "held"

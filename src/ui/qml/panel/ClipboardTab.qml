@@ -9,6 +9,13 @@ FocusScope {
 
     required property PanelHost host
     required property bool shown
+    /// Height of what is above the tabs and scrolls away with the list, and the snippets with it;
+    /// 0 if all of it stays.
+    required property real head
+    readonly property Flickable flick: list
+    readonly property real scrolled: head > 0 ? list.contentY - list.originY + list.topMargin : 0
+    /// How far the snippets have gone behind the search.
+    readonly property real chipsLifted: Math.max(0, Math.min(36, scrolled - head))
 
     /// Takes the search away; false where there is none.
     function clearSearch(): bool {
@@ -84,15 +91,39 @@ FocusScope {
 
     function select(row: int) {
         list.currentIndex = Math.max(0, Math.min(row, list.count - 1));
-        list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+        const before = list.contentY;
+        showCurrent();
+        if (head > 0 && shown && list.contentY !== before) {
+            revealing.to = list.contentY;
+            list.contentY = before;
+            revealing.restart();
+        }
+    }
+
+    function showCurrent() {
+        revealing.stop();
+        if (list.currentIndex <= 0) {
+            list.showTop();
+        } else {
+            list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+        }
     }
 
     // What was copied while this was hidden has pushed the rows on.
     onShownChanged: {
         if (shown) {
             list.currentIndex = Math.min(rowOf(0), list.count - 1);
-            list.positionViewAtBeginning();
+            revealing.stop();
+            list.showTop();
         }
+    }
+
+    NumberAnimation {
+        id: revealing
+        target: list
+        property: "contentY"
+        duration: Theme.revealing
+        easing.type: Easing.OutCubic
     }
 
     Keys.onPressed: event => handle(event)
@@ -100,6 +131,8 @@ FocusScope {
     SearchField {
         id: field
         objectName: "search"
+        y: tab.head - Math.min(tab.head, Math.max(0, tab.scrolled))
+        z: 1 // The list is behind, as far up as it can get.
         width: parent.width
         host: tab.host
         edited.onTextChanged: tab.select(tab.rowOf(0))
@@ -121,14 +154,28 @@ FocusScope {
         }
     }
 
-    SnippetStrip {
-        y: 40
+    Item {
+        y: field.y + 36
+        z: 1
         width: parent.width
-        host: tab.host
+        height: 36 - tab.chipsLifted
+        clip: tab.chipsLifted > 0
+
+        SnippetStrip {
+            id: chips
+            y: 4 - tab.chipsLifted
+            width: parent.width
+            host: tab.host
+            onReached: {
+                if (tab.chipsLifted > 0) {
+                    list.showTop();
+                }
+            }
+        }
     }
 
     EmptyState {
-        y: 76
+        y: tab.head + 76
         width: parent.width
         height: parent.height - y
         visible: list.count === 0
@@ -138,19 +185,35 @@ FocusScope {
         detail: tab.host.clips.search === "" ? "" : `Nothing has “${tab.host.clips.search}”`
     }
 
-    FadingEdge {
-        y: 76
+    FadingEnds {
+        y: tab.head > 0 ? 40 : 76
         width: parent.width
         height: parent.height - y
         length: Math.min(26, Math.max(0, list.contentHeight - list.contentY - list.height))
+        topLength: tab.head > 0 ? Math.min(18, Math.max(0, tab.scrolled - list.topMargin)) : 0
 
         ListView {
             id: list
             objectName: "list"
+
+            // ListView's own way to the beginning leaves the margin out.
+            function showTop() {
+                positionViewAtBeginning();
+                contentY = originY - topMargin;
+            }
+
             Accessible.role: Accessible.List
             Accessible.name: "Clipboard history"
             anchors.fill: parent
             clip: true
+            topMargin: tab.head > 0 ? tab.head + 36 : 0
+            onTopMarginChanged: showTop()
+            Component.onCompleted: showTop()
+            onContentHeightChanged: {
+                if (tab.head > 0 && !moving) {
+                    returnToBounds();
+                }
+            }
             cacheBuffer: 80
             boundsBehavior: Flickable.StopAtBounds
             // What is copied meanwhile must not scroll the list away from its beginning.

@@ -17,6 +17,32 @@ FocusScope {
         { title: "Shelf", symbol: "tray.full" }
     ]
     readonly property int shelfTab: 2
+    /// Too low for all of it: what is between the top bar and the tabs scrolls away with what is
+    /// below them.
+    readonly property bool compact: height < 480
+    readonly property real gap: compact ? 8 : 12
+    readonly property real rowEnd: topBar.y + 32
+    readonly property real headHeight: topBar.height - 32
+        + (host.showsClaudeCode ? usage.height + gap : 0)
+    /// How far it has been scrolled away.
+    readonly property real lifted: compact ? Math.min(headHeight, scrolled) : 0
+    readonly property Flickable flick: tab === 0 ? clipboard.flick : tab === 1 ? notes.flick
+        : (shelf.item as ShelfTab)?.flick ?? null
+    readonly property real scrolled: flick ? flick.contentY - flick.originY + flick.topMargin : 0
+
+    /// Down for a positive distance.
+    function scrollBy(distance: real) {
+        const begin = flick.originY - flick.topMargin;
+        const end = flick.originY + flick.contentHeight - flick.height;
+        flick.contentY = Math.max(begin, Math.min(flick.contentY + distance, end));
+    }
+
+    function isIn(item: Item, outer: Item): bool {
+        while (item && item !== outer) {
+            item = item.parent;
+        }
+        return item !== null;
+    }
     property int tab: Math.max(0, tabs.findIndex(one => one.title === host.settings.lastTab))
 
     function choose(index: int) {
@@ -76,6 +102,19 @@ FocusScope {
         }
     }
 
+    // What the keyboard reaches comes back into view.
+    readonly property Item focused: Window.activeFocusItem // qmllint disable unqualified
+    onFocusedChanged: {
+        if (lifted > 0 && isIn(focused, topBar.reminders)) {
+            scrollBy(-scrolled);
+        }
+    }
+
+    WheelHandler {
+        enabled: content.compact && content.flick !== null
+        onWheel: event => content.scrollBy(-event.angleDelta.y)
+    }
+
     PanelBackground {
         objectName: "panel"
         anchors.fill: parent
@@ -88,25 +127,39 @@ FocusScope {
         id: topBar
         objectName: "topBar"
         x: Theme.insetSide
-        y: Theme.insetTop
+        y: content.compact ? 16 : Theme.insetTop
+        z: 1
         width: parent.width - 2 * Theme.insetSide
         host: content.host
+        lifted: content.lifted
     }
 
-    ContextStatusLine {
-        objectName: "usage"
-        x: Theme.insetSide
-        y: Theme.usageTop + topBar.height - 32
-        width: parent.width - 2 * Theme.insetSide
-        host: content.host
-        compact: false
-        enabled: !content.dropTargeted // What is dragged over it wants no hint.
+    Item {
+        y: content.rowEnd
+        z: 1
+        width: parent.width
+        height: picker.y - y
+        clip: content.lifted > 0
+
+        ContextStatusLine {
+            id: usage
+            objectName: "usage"
+            x: Theme.insetSide
+            y: topBar.height - 32 + content.gap - content.lifted
+            width: parent.width - 2 * Theme.insetSide
+            visible: content.host.showsClaudeCode
+            host: content.host
+            compact: content.compact
+            enabled: !content.dropTargeted // What is dragged over it wants no hint.
+        }
     }
 
     TabPicker {
+        id: picker
         objectName: "tabs"
         x: Theme.insetSide
-        y: Theme.tabsTop + topBar.height - 32
+        y: content.rowEnd + content.gap + content.headHeight - content.lifted
+        z: 1
         width: parent.width - 2 * Theme.insetSide
         tabs: content.tabs
         current: content.tab
@@ -117,7 +170,8 @@ FocusScope {
         id: notice
         objectName: "notice"
         x: Theme.insetSide
-        y: Theme.bodyTop + topBar.height - 32
+        y: picker.y + picker.height + 8
+        z: 1
         width: parent.width - 2 * Theme.insetSide
         host: content.host
     }
@@ -126,9 +180,9 @@ FocusScope {
     FocusScope {
         id: body
         x: Theme.insetSide
-        y: notice.y + notice.room
+        y: notice.y + notice.room - (content.compact ? content.headHeight - content.lifted : 0)
         width: parent.width - 2 * Theme.insetSide
-        height: parent.height - y - Theme.insetBottom
+        height: parent.height - y - (content.compact ? 12 : Theme.insetBottom)
         focus: true
 
         ClipboardTab {
@@ -138,16 +192,20 @@ FocusScope {
             focus: visible
             host: content.host
             shown: content.shown
+            head: content.compact ? content.headHeight : 0
         }
 
         NotesTab {
+            id: notes
             anchors.fill: parent
             visible: content.tab === 1
             focus: visible
             host: content.host
+            head: content.compact ? content.headHeight : 0
         }
 
         Loader {
+            id: shelf
             anchors.fill: parent
             active: content.tab === content.shelfTab
             visible: active
@@ -158,8 +216,15 @@ FocusScope {
                 host: content.host
                 shown: content.shown
                 dropTargeted: content.dropTargeted
+                head: content.compact ? content.headHeight : 0
             }
             // qmllint enable unqualified
+        }
+
+        ScrollMark {
+            x: parent.width + 4
+            visible: content.compact
+            flick: content.flick
         }
 
         NumberAnimation on opacity {

@@ -6,12 +6,15 @@ Box {
     id: block
 
     required property PanelHost host
-    /// Without the times at which the windows start anew.
+    /// Side by side, with only how much time is left.
     required property bool compact
 
     readonly property real resetWidth: Math.max(session.wantedResetWidth, week.wantedResetWidth)
 
-    implicitHeight: 80
+    readonly property real half: (width - 28 - 24) / 2
+    readonly property string whole: session.Accessible.name + "\n" + week.Accessible.name
+
+    implicitHeight: compact ? 44 : 80
     radius: Theme.radiusRow
     color: Theme.surface1
     lineColor: Theme.line
@@ -22,22 +25,22 @@ Box {
         objectName: "usageSession"
         x: 14
         y: 9
-        width: parent.width - 28
+        width: block.compact ? block.half : parent.width - 28
         title: "5h session"
         usage: block.host.session
-        resetWidth: block.resetWidth
+        resetWidth: block.compact ? wantedResetWidth : block.resetWidth
         compact: block.compact
     }
 
     UsageRow {
         id: week
         objectName: "usageWeek"
-        x: 14
-        y: 44
-        width: parent.width - 28
+        x: block.compact ? parent.width - 14 - width : 14
+        y: block.compact ? 9 : 44
+        width: block.compact ? block.half : parent.width - 28
         title: "Week"
         usage: block.host.week
-        resetWidth: block.resetWidth
+        resetWidth: block.compact ? wantedResetWidth : block.resetWidth
         compact: block.compact
     }
 
@@ -51,7 +54,8 @@ Box {
     Tooltip {
         target: block
         hovered: area.containsMouse
-        text: ["Plan usage — updates while Claude Code is active", session.staleText,
-               week.staleText].filter(line => line !== "").join("\n")
+        text: Array.of("Plan usage — updates while Claude Code is active",
+                       block.compact ? block.whole : "", session.staleText, week.staleText)
+            .filter(line => line !== "").join("\n")
     }
 }

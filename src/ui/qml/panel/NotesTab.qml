@@ -6,10 +6,14 @@ FocusScope {
     id: tab
 
     required property PanelHost host
+    /// Height of what is above the tabs and scrolls away with the note; 0 if it stays.
+    required property real head
+    readonly property Flickable flick: scrolled
+    readonly property real headInSight: head - Math.min(head, Math.max(0, scrolled.contentY + head))
 
     Label {
         objectName: "caption"
-        y: 8
+        y: tab.headInSight + 8
         text: "Quick note"
         color: Theme.caption
         style: Theme.body
@@ -17,7 +21,7 @@ FocusScope {
 
     Box {
         objectName: "editor"
-        y: 32
+        y: tab.headInSight + 32
         width: parent.width
         height: parent.height - y
         radius: Theme.radiusEditor
@@ -26,8 +30,12 @@ FocusScope {
         lineWidth: 1
 
         ScrolledEdit {
-            anchors.fill: parent
-            anchors.margins: 11
+            id: scrolled
+            x: 11
+            y: 11 - tab.headInSight // Stays where it is while the box grows over what is scrolled away.
+            width: parent.width - 22
+            height: tab.height - 32 - 22
+            head: tab.head
             edit: editor
 
             EditArea {

@@ -14,6 +14,9 @@ Item {
     /// With room for the last few of its rows.
     readonly property real least: rows.begin + Math.min(received.count, 3) * 28
 
+    /// With room for more than are of interest at once; the others scroll.
+    readonly property real full: rows.begin + Math.max(1, Math.min(received.count, 8)) * 28
+
     signal menuRequested(Item row, point place, bool byKey)
 
     Label {

@@ -14,10 +14,18 @@ FocusScope {
     /// The file that the keyboard is at, -1 for none; there may be fewer by now.
     property int wanted: -1
     readonly property int current: Math.min(wanted, shelf.count - 1)
+    readonly property int count: shelf.count
     /// The keyboard has been elsewhere in the panel. Until then it is here because the panel was
     /// opened, by a key that may be followed by others that were meant for another program.
     property bool wasElsewhere: false
     readonly property Item keyboard: Window.activeFocusItem
+
+    /// What is seen of it where what it is in scrolls.
+    property real sightTop: 0
+    property real sightHeight: height
+
+    /// A tile by the keyboard: its top, 0 in the first row, and its bottom.
+    signal reached(real top, real bottom)
 
     signal menuRequested(Item tile, point place, bool byKey)
 
@@ -27,6 +35,8 @@ FocusScope {
         const margin = 8;
         flick.contentY = Math.max(0, Math.min(rect.y - margin, Math.max(flick.contentY,
             rect.y + rect.height + margin - flick.height)));
+        reached(rect.y <= margin ? 0 : rect.y, rect.y + rect.height);
+        see();
         tileAt(current)?.forceActiveFocus();
     }
 
@@ -55,17 +65,24 @@ FocusScope {
 
     function see() {
         if (flick.height > 0) { // Not while it is being laid out itself.
-            shelf.setSight(flick.contentY, flick.height);
+            shelf.setSight(flick.contentY + sightTop, Math.min(flick.height, sightHeight));
         }
     }
 
     Accessible.role: Accessible.List
     Accessible.name: "Shelf"
     activeFocusOnTab: true
+    onCountChanged: {
+        if (count === 0) {
+            wanted = -1; // No key acts on the next file before an arrow has chosen it.
+        }
+    }
     onWidthChanged: shelf.lay(width)
     onKeyboardChanged: {
         wasElsewhere = wasElsewhere || (keyboard !== null && !activeFocus && !isAround(keyboard));
     }
+    onSightTopChanged: see()
+    onSightHeightChanged: see()
     onActiveFocusChanged: {
         if (activeFocus && (current >= 0 || wasElsewhere) && !tileAt(current)?.activeFocus) {
             go(current);

@@ -73,9 +73,10 @@ Item {
             onClicked: {
                 const devices = header.host.sending.devices;
                 if (devices.length > 1) {
+                    menu.offer(devices);
                     menu.openLeftUnder(airdrop, 0);
                 } else {
-                    header.host.sending.send(header.shelf.chosen(), devices[0]?.id ?? "");
+                    header.host.sending.send(header.shelf.chosen(), devices[0] ?? {});
                 }
             }
 
@@ -92,9 +93,13 @@ Item {
         objectName: "deviceMenu"
         name: "Send to"
         host: header.host
-        entries: Array.from(header.host.sending.devices, device => ({
-            text: device.name,
-            chosen: () => header.host.sending.send(header.shelf.chosen(), device.id)
-        }))
+
+        // Not bound to the devices: what comes into reach must not move what is being chosen.
+        function offer(devices: var) {
+            entries = Array.from(devices, device => ({
+                text: device.name,
+                chosen: () => header.host.sending.send(header.shelf.chosen(), device)
+            }));
+        }
     }
 }

@@ -9,6 +9,11 @@ FocusScope {
     required property bool shown
     /// Files are being dragged over the panel.
     required property bool dropTargeted
+    /// Height of what is above the tabs and scrolls away with all of this; 0 if it stays.
+    required property real head
+    readonly property Flickable flick: page
+    /// Too low for two lists that scroll by themselves.
+    readonly property bool whole: head > 0 || height < 300
 
     readonly property bool empty: host.shelf.count === 0
 
@@ -24,64 +29,98 @@ FocusScope {
         onTriggered: tab.host.shelf.lookForMissing()
     }
 
-    DropCard {
-        objectName: "dropCard"
-        y: 4
-        width: parent.width
-        visible: tab.empty
-        targeted: tab.dropTargeted
+    FadingEnds {
+        id: ends
+        anchors.fill: parent
+        length: tab.whole ? Math.min(26, Math.max(0, page.contentHeight - page.contentY - page.height)) : 0
+        topLength: tab.whole ? Math.min(18, Math.max(0, page.contentY)) : 0
     }
 
-    ShelfHeader {
-        id: header
-        objectName: "shelfHeader"
-        y: 4
-        width: parent.width
-        visible: !tab.empty
-        host: tab.host
-    }
+    Flickable {
+        id: page
+        parent: ends.inside
 
-    ShelfGrid {
-        id: grid
-        objectName: "grid"
-        focus: true
-        y: 44
-        width: parent.width
-        height: Math.min(tab.host.shelf.height, tab.height - y - 16 - received.least)
-        visible: !tab.empty
-        host: tab.host
-        shown: tab.shown
-        onMenuRequested: (tile, place, byKey) => {
-            menu.file = tab.host.shelf.fileAt((tile as ShelfTileView).place);
-            menu.parked = true;
-            menu.openAt(tile.mapToItem(menu.parent, place.x, place.y), false, byKey);
+        function show(top: real, bottom: real) {
+            const wanted = Math.max(bottom + 26 - height, Math.min(contentY, top > 0 ? top : -topMargin));
+            contentY = Math.max(-topMargin, Math.min(wanted, contentHeight - height));
         }
-    }
 
-    // As the card does where there is nothing yet.
-    Box {
-        anchors.fill: grid
-        anchors.margins: -4
-        visible: tab.dropTargeted && !tab.empty
-        radius: Theme.radiusTray + 4
-        color: Theme.dropTarget
-        lineColor: Theme.dropTargetLine
-        lineWidth: 1.5
-        dash: 6
-    }
+        anchors.fill: parent
+        clip: tab.whole
+        interactive: tab.whole
+        boundsBehavior: Flickable.StopAtBounds
+        topMargin: tab.head
+        onTopMarginChanged: contentY = -topMargin
+        contentHeight: tab.whole ? received.y + received.height : height - tab.head
+        onContentHeightChanged: returnToBounds()
 
-    ReceivedFiles {
-        id: received
-        objectName: "received"
-        y: tab.empty ? 196 : grid.y + grid.height + 16
-        width: parent.width
-        height: parent.height - y
-        host: tab.host
-        shown: tab.shown
-        onMenuRequested: (row, place, byKey) => {
-            menu.file = (row as ReceivedRow).file;
-            menu.parked = false;
-            menu.openAt(row.mapToItem(menu.parent, place.x, place.y), false, byKey);
+        DropCard {
+            objectName: "dropCard"
+            y: 4
+            width: page.width
+            visible: tab.empty
+            targeted: tab.dropTargeted
+        }
+
+        ShelfHeader {
+            id: header
+            objectName: "shelfHeader"
+            y: 4
+            width: page.width
+            visible: !tab.empty
+            host: tab.host
+        }
+
+        ShelfGrid {
+            id: grid
+            objectName: "grid"
+            focus: true
+            y: 44
+            width: page.width
+            height: tab.whole ? tab.host.shelf.height
+                              : Math.min(tab.host.shelf.height, tab.height - y - 16 - received.least)
+            sightTop: tab.whole ? page.contentY - y : 0
+            sightHeight: tab.whole ? page.height : height
+            onReached: (top, bottom) => {
+                if (tab.whole) {
+                    page.show(top === 0 ? 0 : y + top, y + bottom);
+                }
+            }
+            visible: !tab.empty
+            host: tab.host
+            shown: tab.shown
+            onMenuRequested: (tile, place, byKey) => {
+                menu.file = tab.host.shelf.fileAt((tile as ShelfTileView).place);
+                menu.parked = true;
+                menu.openAt(tile.mapToItem(menu.parent, place.x, place.y), false, byKey);
+            }
+        }
+
+        // As the card does where there is nothing yet.
+        Box {
+            anchors.fill: grid
+            anchors.margins: -4
+            visible: tab.dropTargeted && !tab.empty
+            radius: Theme.radiusTray + 4
+            color: Theme.dropTarget
+            lineColor: Theme.dropTargetLine
+            lineWidth: 1.5
+            dash: 6
+        }
+
+        ReceivedFiles {
+            id: received
+            objectName: "received"
+            y: tab.empty ? 196 : grid.y + grid.height + 16
+            width: page.width
+            height: tab.whole ? full : tab.height - y
+            host: tab.host
+            shown: tab.shown
+            onMenuRequested: (row, place, byKey) => {
+                menu.file = (row as ReceivedRow).file;
+                menu.parked = false;
+                menu.openAt(row.mapToItem(menu.parent, place.x, place.y), false, byKey);
+            }
         }
     }
 

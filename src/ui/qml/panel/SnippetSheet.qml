@@ -97,9 +97,11 @@ FocusScope {
         id: sheet
         objectName: "sheet"
         anchors.horizontalCenter: parent.horizontalCenter
-        y: 84
+        y: layer.height < 560 ? (layer.height - height) / 2 : 84
         width: 420
-        height: 394
+        height: 394 - cut
+        /// The text scrolls in less room if the panel is too low.
+        readonly property real cut: Math.max(0, 394 + 2 * 14 - layer.height)
         scale: layer.editing ? 1 : 1 - Theme.move(4) / 100
 
         Behavior on scale {
@@ -169,7 +171,7 @@ FocusScope {
             x: 20
             y: 104
             width: parent.width - 40
-            height: 150
+            height: 150 - sheet.cut
 
             ScrolledEdit {
                 anchors.fill: parent
@@ -196,7 +198,7 @@ FocusScope {
             objectName: "snippetImage"
             visible: layer.imageFileName !== ""
             x: 20
-            y: 266
+            y: 266 - sheet.cut
             width: 56
             height: 56
             asynchronous: true
@@ -211,7 +213,7 @@ FocusScope {
             objectName: "removeImage"
             visible: layer.imageFileName !== ""
             x: 90
-            y: 280
+            y: 280 - sheet.cut
             text: "Remove image"
             KeyNavigation.tab: cancel
             KeyNavigation.backtab: body
@@ -228,7 +230,7 @@ FocusScope {
             objectName: "attachImage"
             visible: layer.imageFileName === ""
             x: 20
-            y: 278
+            y: 278 - sheet.cut
             large: true
             sidePad: 14
             lead: 24 // The symbol is further out than the text.
@@ -266,7 +268,7 @@ FocusScope {
             id: save
             objectName: "save"
             x: parent.width - width - 20
-            y: 342
+            y: 342 - sheet.cut
             large: true
             sidePad: 20
             primary: true

@@ -11,6 +11,9 @@ Item {
     /// The snippet that the menu and the question are about.
     property var chosen
 
+    /// By the keyboard.
+    signal reached
+
     implicitHeight: 28
 
     Connections {
@@ -38,6 +41,11 @@ Item {
             Accessible.role: Accessible.List
             Accessible.name: "Snippets"
             activeFocusOnTab: count > 0
+            onActiveFocusChanged: {
+                if (activeFocus) {
+                    strip.reached();
+                }
+            }
             orientation: ListView.Horizontal
             spacing: 6
             cacheBuffer: 0 // What is made ahead is in the way of a search that takes it away.
@@ -93,6 +101,11 @@ Item {
         radius: 14
         rest: Theme.surface2
         onClicked: strip.host.snippetEditor.editNew()
+        onActiveFocusChanged: {
+            if (activeFocus) {
+                strip.reached();
+            }
+        }
 
         Glyph {
             anchors.centerIn: parent

@@ -8,6 +8,10 @@ Item {
     required property PanelHost host
     /// In a narrow panel the reminders have a row of their own.
     readonly property bool hasTwoRows: width < 820 - 2 * Theme.insetSide
+    /// How far the reminders in their own row have been scrolled up behind the first one.
+    property real lifted: 0
+    readonly property Item reminders: strip
+
     readonly property real leftRoom: actions.x - 16 - (hasTwoRows ? 0 : 100)
 
     readonly property bool timing: host.store.timerRunning
@@ -37,16 +41,24 @@ Item {
         room: bar.leftRoom
     }
 
-    ReminderStrip {
+    Item {
         readonly property real begin: bar.hasTwoRows ? 0 : 16
             + (running.visible ? running.width : starting.width)
 
-        objectName: "reminderStrip"
         x: begin
-        y: bar.hasTwoRows ? 40 : 4
+        y: bar.hasTwoRows ? 34 : 0
         width: (bar.hasTwoRows ? bar.width : actions.x - 16) - begin
-        host: bar.host
-        fromLeft: bar.hasTwoRows
+        height: bar.hasTwoRows ? Math.max(0, 34 - bar.lifted) : 32
+        clip: bar.hasTwoRows && bar.lifted > 0
+
+        ReminderStrip {
+            id: strip
+            objectName: "reminderStrip"
+            y: bar.hasTwoRows ? 6 - bar.lifted : 4
+            width: parent.width
+            host: bar.host
+            fromLeft: bar.hasTwoRows
+        }
     }
 
     Row {
@@ -65,7 +77,7 @@ Item {
         }
 
         RoundButton {
-            id: reminders
+            id: reminderButton
             objectName: "reminderToggle"
             symbol: "checklist"
             tint: bar.host.store.reminderOpen ? Theme.roundGlyph : Theme.roundGlyphOff
@@ -76,7 +88,7 @@ Item {
                 // As it was when it was asked, while the answer fades.
                 reminderQuestion.text = bar.host.store.reminderOpen
                     ? "Hide reminders under the notch?" : "Show reminders under the notch?";
-                reminderQuestion.openLeftUnder(reminders, 26);
+                reminderQuestion.openLeftUnder(reminderButton, 26);
             }
         }
 

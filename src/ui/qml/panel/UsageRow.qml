@@ -9,8 +9,10 @@ Item {
     required property usageLine usage
     /// As wide as the widest of the block, so that the percents line up.
     required property real resetWidth
+    /// Only how much time is left.
     required property bool compact
-    readonly property real wantedResetWidth: compact ? 0 : Math.max(90, reset.implicitWidth)
+    readonly property real wantedResetWidth: compact ? reset.implicitWidth
+                                                     : Math.max(90, reset.implicitWidth)
 
     /// Empty unless the percents are from before the last reset.
     readonly property string staleText:
@@ -41,7 +43,7 @@ Item {
     Label {
         objectName: "percent"
         anchors.right: parent.right
-        anchors.rightMargin: row.compact ? 0 : row.resetWidth + 8
+        anchors.rightMargin: row.resetWidth > 0 ? row.resetWidth + 8 : 0
         text: row.usage.percent
         style: Theme.strong
         tabular: true
@@ -50,9 +52,8 @@ Item {
 
     Label {
         id: reset
-        visible: !row.compact
         anchors.right: parent.right
-        text: row.usage.reset
+        text: row.compact ? row.usage.left : row.usage.reset
         y: Theme.strong.baseLine(Screen.devicePixelRatio) - style.baseLine(Screen.devicePixelRatio)
         style: Theme.subtitle
         tabular: true

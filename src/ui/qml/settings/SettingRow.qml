@@ -1,15 +1,16 @@
 import QtQuick
 import Ravelo
 
-/// What is set, and at the right what sets it.
+/// What is set, at the right what sets it, and perhaps below it what it does.
 Item {
     id: row
 
     property alias text: label.text
+    property alias note: note.text
     default property alias control: place.data
 
     width: parent?.width ?? 0
-    implicitHeight: 44
+    implicitHeight: note.text === "" ? 44 : 40 + note.implicitHeight + 12
 
     Box {
         visible: row.y > 0
@@ -32,6 +33,15 @@ Item {
     Item {
         id: place
         x: parent.width - 12 - childrenRect.width
-        y: (parent.height - childrenRect.height) / 2
+        y: (44 - childrenRect.height) / 2
+    }
+
+    Paragraph {
+        id: note
+        objectName: "note"
+        visible: text !== ""
+        x: 14
+        y: 40
+        width: parent.width - 28
     }
 }

@@ -7,113 +7,83 @@ TitledPage {
 
     required property SettingsWindow host
 
-    readonly property AppSettings settings: host.settings
+    readonly property var pages: [
+        { title: "General", file: "GeneralPage.qml" },
+        { title: "Capture", file: "CapturePage.qml" },
+        { title: "Storage", file: "StoragePage.qml" },
+        { title: "More", file: "MorePage.qml" }
+    ]
+    property int page: 0
 
-    Column {
+    function choose(index: int) {
+        if (index !== page && index >= 0 && index < pages.length) {
+            page = index;
+            scrolled.scrollToTop();
+            pageChange.restart();
+        }
+    }
+
+    Keys.onPressed: event => {
+        const backwards = event.key === Qt.Key_Backtab;
+        if (!(event.modifiers & Qt.ControlModifier)) {
+            return;
+        } else if (event.key === Qt.Key_Tab || backwards) {
+            choose((page + (backwards ? pages.length - 1 : 1)) % pages.length);
+        } else if (event.key >= Qt.Key_1 && event.key < Qt.Key_1 + pages.length) {
+            choose(event.key - Qt.Key_1);
+        } else {
+            return;
+        }
+        event.accepted = true;
+    }
+
+    TabPicker {
+        objectName: "pages"
+        Accessible.name: "Settings pages"
         x: 20
-        y: 52
+        y: 40
         width: parent.width - 40
-        spacing: 16
+        height: 28
+        style: Theme.strong
+        oneStop: true
+        tabs: view.pages
+        current: view.page
+        onChosen: index => view.choose(index)
+    }
 
-        SettingsSection {
-            objectName: "general"
-            title: "General"
+    ScrolledPage {
+        id: scrolled
+        objectName: "page"
+        y: 68
+        width: parent.width
+        height: parent.height - y - 58
+        contentHeight: 12 + shown.height + 6
 
-            SettingRow {
-                text: "Start automatically at login"
+        Loader {
+            id: shown
+            x: 20
+            y: 12
+            width: scrolled.width - 40
 
-                Toggle {
-                    objectName: "launchAtLogin"
-                    name: "Start automatically at login"
-                    on: view.settings.launchAtLogin
-                    onToggled: on => view.settings.launchAtLogin = on
+            function load() {
+                setSource(view.pages[view.page].file, { host: view.host });
+            }
+
+            Component.onCompleted: load()
+
+            Connections {
+                target: view
+                function onPageChanged() {
+                    shown.load();
                 }
             }
 
-            Paragraph {
-                objectName: "hint"
-                x: 14
-                width: parent.width - 28
-                height: implicitHeight + 12
-                text: "Open by moving the mouse to the top-center. A live timer pins a small bar at the top while it runs."
-            }
-        }
-
-        SettingsSection {
-            objectName: "appearance"
-            title: "Appearance"
-
-            SettingRow {
-                text: "Full black (for notch Macs)"
-
-                Toggle {
-                    objectName: "fullBlack"
-                    name: "Full black (for notch Macs)"
-                    on: view.settings.fullBlack
-                    onToggled: on => view.settings.fullBlack = on
-                }
-            }
-
-            SettingRow {
-                text: "Darkness"
-
-                Slider {
-                    objectName: "darkness"
-                    name: "Darkness"
-                    given: view.settings.bgOpacity
-                    minimumValue: 0.3
-                    maximumValue: 0.85
-                    onChosen: value => view.settings.bgOpacity = value
-                }
-            }
-
-            SettingRow {
-                objectName: "widthRow"
-                text: "Width: " + Math.round(view.settings.panelWidth)
-
-                Slider {
-                    objectName: "panelWidth"
-                    name: "Width"
-                    given: view.settings.panelWidth
-                    minimumValue: 560
-                    maximumValue: 1100
-                    stepSize: 10
-                    onChosen: value => view.settings.panelWidth = value
-                }
-            }
-        }
-
-        SettingsSection {
-            objectName: "clipboard"
-            title: "Clipboard"
-
-            SettingRow {
-                objectName: "clips"
-                text: view.host.clipCount === 1 ? "1 item stored" : view.host.clipCount + " items stored"
-
-                CapsuleButton {
-                    objectName: "clearHistory"
-                    text: "Clear history"
-                    onClicked: view.host.store.clearClips()
-                }
-            }
-        }
-
-        SettingsSection {
-            objectName: "sync"
-            title: "iPhone sync"
-
-            Item {
-                width: parent.width
-                height: 12
-            }
-
-            Paragraph {
-                objectName: "hint"
-                x: 14
-                width: parent.width - 28
-                height: implicitHeight + 12
-                text: "Your data is saved locally on this Mac. Syncing to an iPhone app is the next phase — it needs an Apple Developer account and a companion iOS app."
+            NumberAnimation on opacity {
+                id: pageChange
+                running: false
+                from: 0
+                to: 1
+                duration: Theme.floatingIn
             }
         }
     }

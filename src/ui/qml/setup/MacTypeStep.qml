@@ -34,50 +34,59 @@ FocusScope {
     Keys.onReturnPressed: host.finish()
     Keys.onEnterPressed: host.finish()
 
-    Label {
-        objectName: "heading"
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 72
-        text: "What kind of Mac do you have?"
-        style: Theme.question
-        color: Theme.text1
-    }
+    ScrolledPage {
+        id: scrolled
+        y: 40
+        width: parent.width
+        height: done.y - y - 8
+        contentHeight: 110 + 78 * step.kinds.length - 10
 
-    Label {
-        objectName: "line"
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 108
-        text: "This decides how the top timer bar is laid out."
-        style: Theme.lead
-        color: Theme.setupText
-    }
+        Label {
+            objectName: "heading"
+            x: (scrolled.width - width) / 2
+            y: 32
+            text: "What kind of Mac do you have?"
+            style: Theme.question
+            color: Theme.text1
+        }
 
-    Repeater {
-        id: options
-        model: step.kinds
+        Label {
+            objectName: "line"
+            x: (scrolled.width - width) / 2
+            y: 68
+            text: "This decides how the top timer bar is laid out."
+            style: Theme.lead
+            color: Theme.setupText
+        }
 
-        MacTypeOption {
-            required property var modelData
-            required property int index
+        Repeater {
+            id: options
+            model: step.kinds
 
-            objectName: modelData.value
-            x: 32
-            y: 150 + 78 * index
-            width: step.width - 64
-            symbol: modelData.symbol
-            title: modelData.title
-            detail: modelData.detail
-            selected: index === step.current
-            onClicked: step.settings.macType = modelData.value
-            Keys.onUpPressed: step.moveTo(index - 1)
-            Keys.onDownPressed: step.moveTo(index + 1)
+            MacTypeOption {
+                required property var modelData
+                required property int index
+
+                objectName: modelData.value
+                x: 32
+                y: 110 + 78 * index
+                width: step.width - 64
+                symbol: modelData.symbol
+                title: modelData.title
+                detail: modelData.detail
+                selected: index === step.current
+                onClicked: step.settings.macType = modelData.value
+                Keys.onUpPressed: step.moveTo(index - 1)
+                Keys.onDownPressed: step.moveTo(index + 1)
+            }
         }
     }
 
     CapsuleButton {
+        id: done
         objectName: "done"
         anchors.horizontalCenter: parent.horizontalCenter
-        y: 398
+        y: Math.min(398, parent.height - 86)
         implicitHeight: 40
         sidePad: 24
         style: Theme.tab

@@ -10,38 +10,53 @@ FocusScope {
     Keys.onReturnPressed: done()
     Keys.onEnterPressed: done()
 
-    WelcomePicture {
-        objectName: "picture"
-        x: 100
-        y: 64
-        width: 320
-        height: 186
-    }
+    ScrolledPage {
+        id: scrolled
+        y: 40
+        width: parent.width
+        height: start.y - y - 8
+        contentHeight: line.y + line.height
 
-    Label {
-        objectName: "heading"
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: 286
-        text: "Welcome to Ravelo"
-        style: Theme.welcome
-        color: Theme.text1
-    }
+        /// In a low window the picture is smaller, so that the words are seen.
+        readonly property real part: Math.max(0.5, Math.min(1, (height - 122) / 222))
 
-    Paragraph {
-        objectName: "line"
-        x: 90
-        y: 328
-        width: 340
-        horizontalAlignment: Text.AlignHCenter
-        text: "Clipboard, shelf, snippets and a focus timer — one hover away at the top of your screen."
-        style: Theme.leadLoose
-        color: Theme.setupText
+        WelcomePicture {
+            objectName: "picture"
+            x: 100
+            y: 24
+            width: 320
+            height: 186
+            scale: scrolled.part
+            transformOrigin: Item.Top
+        }
+
+        Label {
+            objectName: "heading"
+            x: (scrolled.width - width) / 2
+            y: 24 + 222 * scrolled.part
+            text: "Welcome to Ravelo"
+            style: Theme.welcome
+            color: Theme.text1
+        }
+
+        Paragraph {
+            id: line
+            objectName: "line"
+            x: 90
+            y: 66 + 222 * scrolled.part
+            width: 340
+            horizontalAlignment: Text.AlignHCenter
+            text: "Clipboard, shelf, snippets and a focus timer — one hover away at the top of your screen."
+            style: Theme.leadLoose
+            color: Theme.setupText
+        }
     }
 
     CapsuleButton {
+        id: start
         objectName: "start"
         anchors.horizontalCenter: parent.horizontalCenter
-        y: 396
+        y: Math.min(396, parent.height - 86)
         implicitHeight: 40
         sidePad: 24
         style: Theme.tab

@@ -9,6 +9,18 @@ TitledPage {
 
     readonly property Updater updater: host.updater
 
+    // Unless another button has the keyboard.
+    Keys.onReturnPressed: press()
+    Keys.onEnterPressed: press()
+
+    function press() {
+        if (updater.canInstall) {
+            updater.install();
+        } else {
+            Window.window.close();
+        }
+    }
+
     Label {
         objectName: "message"
         x: 20

@@ -1,4 +1,4 @@
-#include "monitor/Transcript.h"
+#include "monitor/TranscriptParser.h"
 
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A whole decimal number with nothing around it but a sign.
+/// A decimal integer, with a sign at most.
 std::optional<qint64> parseInteger(const QString& text) {
     const QByteArray bytes = text.toUtf8();
     const char* begin = bytes.begin();
@@ -27,7 +27,7 @@ std::optional<qint64> parseInteger(const QString& text) {
     return error == std::errc() && rest == bytes.end() ? std::optional(number) : std::nullopt;
 }
 
-/// A JSON number without its fraction; nothing where it is none or no 64 bits hold it.
+/// A JSON number without its fraction; nothing if it is not a number or does not fit.
 std::optional<qint64> toInteger(const QJsonValue& value) {
     constexpr double beyond = 0x1p63;
     if (!value.isDouble()) {
@@ -35,14 +35,14 @@ std::optional<qint64> toInteger(const QJsonValue& value) {
     }
     const double number = std::trunc(value.toDouble());
     if (number < -beyond || number >= beyond) {
-        // The nearest double of the largest integers lies beyond them.
+        // The largest integers round up to this as doubles.
         const qint64 exact = value.toInteger(0);
         return exact == 0 ? std::nullopt : std::optional(exact);
     }
     return value.toInteger(static_cast<qint64>(number));
 }
 
-/// Nothing if 64 bits cannot hold the sum.
+/// Nothing if the sum overflows.
 std::optional<qint64> tokenTotal(const QJsonObject& usage) {
     qint64 total = 0;
     for (const auto& key :
@@ -56,7 +56,7 @@ std::optional<qint64> tokenTotal(const QJsonObject& usage) {
 
 std::optional<TurnUsage> usageOf(QByteArrayView line) {
     if (!line.contains("\"usage\"")) {
-        return std::nullopt; // Spares most lines the parsing.
+        return std::nullopt; // Cheaper than parsing.
     }
     const QJsonObject entry =
         QJsonDocument::fromJson(QByteArray::fromRawData(line.data(), line.size())).object();
@@ -70,8 +70,7 @@ std::optional<TurnUsage> usageOf(QByteArrayView line) {
     return tokens && *tokens >= 1 ? std::optional(TurnUsage{model, *tokens}) : std::nullopt;
 }
 
-/// What others call a model that Bedrock calls "us.anthropic.claude-opus-4-6-v1:0", also at the end
-/// of a resource name.
+/// "claude-opus-4-6" for "us.anthropic.claude-opus-4-6-v1:0", also at the end of a resource name.
 QString withoutBedrock(const QString& name) {
     static const QRegularExpression form(
         u"\\A(?:.*[./])?anthropic\\.(claude-.+?)(?:-v[0-9]+(?::[0-9a-z]+)*)?\\z"_s);

@@ -10,7 +10,7 @@
 
 namespace ravelo {
 
-/// A transcript as its folder lists it.
+/// A transcript file.
 struct Transcript {
     QByteArray path;
     qint64 modified = 0; ///< Nanoseconds since 1970.
@@ -19,32 +19,31 @@ struct Transcript {
     friend bool operator==(const Transcript&, const Transcript&) = default;
 };
 
-/// Finds the newest of the transcripts (".jsonl") one folder below `root`. Remembers the newest of
-/// each folder and lists only folders that have changed. One thread, whichever; blocks on the disk.
+/// Finds the newest transcripts (".jsonl") in the folders below `root`. Remembers the newest of
+/// each folder and lists only folders that have changed. Any one thread; blocks on the disk.
 ///
-/// Folders that cannot be watched are listed again and again, but the more there is to list
-/// the more looks are left out in between. The newest transcript itself is looked at every time.
-class Transcripts {
+/// Folders that cannot be watched are listed repeatedly, the less often the more entries they have.
+/// The newest transcript itself is checked every time.
+class TranscriptFinder {
 public:
     /// `changes` outlives it.
-    Transcripts(QByteArray root, FolderChanges& changes);
+    TranscriptFinder(QByteArray root, FolderChanges& changes);
 
-    /// The newest few, newest first; of several with one date the first by name. `changes` are
-    /// those since the last time.
+    /// The newest few, newest first; equal dates by name. `changes` are those since the last call.
     [[nodiscard]] std::vector<Transcript> newest(const FolderChanges::Changes& changes);
 
-    /// Watches nothing any more, and starts over if asked again.
+    /// Stops watching; the next call starts over.
     void forget();
 
 private:
     struct Folder {
         std::vector<Transcript> newest; ///< Newest first.
-        bool isLink = false; ///< It may come to stand for another folder, which nobody would tell.
+        bool isLink = false;            ///< Its target may change unnoticed.
         bool listed = false;
-        bool known = false; ///< Listed, and its changes are reported.
+        bool known = false; ///< Listed and watched.
     };
 
-    /// Of a file system's objects, whatever they are called at the moment.
+    /// Identifies a folder, whatever its name.
     struct Identity {
         quint64 device = 0;
         quint64 number = 0;
@@ -62,8 +61,8 @@ private:
     std::optional<Identity> rootIdentity_;
     bool rootListed_ = false;
     bool rootKnown_ = false;
-    int leaveOut_ = 0;  ///< Looks that still skip the folders that cannot be watched.
-    int unwatched_ = 0; ///< Entries of such folders that were listed in this look.
+    int skipsLeft_ = 0; ///< Calls that still skip unwatched folders.
+    int unwatched_ = 0; ///< Entries of unwatched folders listed in this call.
     std::map<QByteArray, Folder> folders_;
 };
 

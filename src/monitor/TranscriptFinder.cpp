@@ -1,4 +1,4 @@
-#include "monitor/Transcripts.h"
+#include "monitor/TranscriptFinder.h"
 
 #include <dirent.h>
 #include <fcntl.h>
@@ -15,11 +15,11 @@ namespace ravelo {
 namespace {
 
 constexpr std::string_view extension(".jsonl");
-constexpr size_t mostKept = 8;
-constexpr int entriesForALook = 200; ///< So many are listed for each look that is left out.
-constexpr int mostLeftOut = 60;
+constexpr size_t maxKept = 8;
+constexpr int entriesPerSkip = 200; ///< Unwatched entries for each skipped call.
+constexpr int maxSkipped = 60;
 
-/// A folder that is being listed.
+/// A folder being listed.
 class Listing {
 public:
     explicit Listing(const QByteArray& path) {
@@ -41,7 +41,7 @@ public:
 
     [[nodiscard]] bool isOpen() const { return stream_ != nullptr; }
 
-    /// The next entry, hidden ones too; null behind the last.
+    /// The next entry, also a hidden one; null at the end.
     [[nodiscard]] const dirent* next() {
         const dirent* entry = readdir(stream_);
         while (entry != nullptr && isSelfOrParent(entry->d_name)) {
@@ -50,7 +50,7 @@ public:
         return entry;
     }
 
-    /// What an entry or what it links to is; nothing where it went meanwhile.
+    /// Follows links; nothing if the entry is gone.
     [[nodiscard]] std::optional<struct stat> look(const dirent& entry) const {
         struct stat info = {};
         return fstatat(dirfd(stream_), entry.d_name, &info, 0) == 0 ? std::optional(info)
@@ -63,7 +63,7 @@ private:
     DIR* stream_ = nullptr;
 };
 
-/// A name that is all extension has none.
+/// ".jsonl" itself is not one.
 bool isTranscript(const dirent& entry) {
     const std::string_view name = entry.d_name;
     return name.size() > extension.size() && name.ends_with(extension) && entry.d_type != DT_DIR;
@@ -81,15 +81,15 @@ bool isNewer(const Transcript& one, const Transcript& other) {
 void keep(std::vector<Transcript>& newest, Transcript transcript) {
     const auto place = std::ranges::upper_bound(newest, transcript, isNewer);
     newest.insert(place, std::move(transcript));
-    newest.resize(std::min(newest.size(), mostKept));
+    newest.resize(std::min(newest.size(), maxKept));
 }
 
 } // namespace
 
-Transcripts::Transcripts(QByteArray root, FolderChanges& changes)
+TranscriptFinder::TranscriptFinder(QByteArray root, FolderChanges& changes)
     : root_(std::move(root)), changes_(changes) {}
 
-std::vector<Transcript> Transcripts::newest(const FolderChanges::Changes& changes) {
+std::vector<Transcript> TranscriptFinder::newest(const FolderChanges::Changes& changes) {
     unwatched_ = 0;
     if (!lookAtRoot(changes)) {
         return {};
@@ -97,17 +97,17 @@ std::vector<Transcript> Transcripts::newest(const FolderChanges::Changes& change
     std::vector<Transcript> newest;
     for (auto& [path, folder] : folders_) {
         if (!folder.listed || changes.lost || changes.folders.contains(path) ||
-            (!folder.known && leaveOut_ == 0)) {
+            (!folder.known && skipsLeft_ == 0)) {
             list(path, folder);
         }
         for (const Transcript& transcript : folder.newest) {
             keep(newest, transcript);
         }
     }
-    if (leaveOut_ == 0) {
-        leaveOut_ = std::min(unwatched_ / entriesForALook, mostLeftOut);
+    if (skipsLeft_ == 0) {
+        skipsLeft_ = std::min(unwatched_ / entriesPerSkip, maxSkipped);
     } else {
-        --leaveOut_;
+        --skipsLeft_;
         if (!newest.empty()) {
             lookAgain(newest.front());
         }
@@ -115,37 +115,37 @@ std::vector<Transcript> Transcripts::newest(const FolderChanges::Changes& change
     return newest;
 }
 
-/// For one whose folder may have changed unheard.
-void Transcripts::lookAgain(Transcript& transcript) {
+/// For one in an unwatched folder.
+void TranscriptFinder::lookAgain(Transcript& transcript) {
     struct stat info = {};
     if (stat(transcript.path.constData(), &info) == 0 && S_ISREG(info.st_mode)) {
         transcript.modified = modified(info);
         transcript.size = info.st_size;
     } else {
-        leaveOut_ = 0; // Which one is the newest now is to be found out.
+        skipsLeft_ = 0; // Find the new newest one next time.
     }
 }
 
-bool Transcripts::lookAtRoot(const FolderChanges::Changes& changes) {
+bool TranscriptFinder::lookAtRoot(const FolderChanges::Changes& changes) {
     struct stat info = {};
     if (stat(root_.constData(), &info) != 0) {
         forget();
         return false;
     }
-    // A folder above it may have been renamed, which is no change of the root itself.
+    // Renaming a parent folder is not reported as a change of the root.
     const Identity identity{info.st_dev, info.st_ino};
     if (rootIdentity_ != identity) {
         forget();
         rootIdentity_ = identity;
     }
     if (!rootListed_ || changes.lost || changes.folders.contains(root_) ||
-        (!rootKnown_ && leaveOut_ == 0)) {
+        (!rootKnown_ && skipsLeft_ == 0)) {
         listRoot();
     }
     return true;
 }
 
-void Transcripts::forget() {
+void TranscriptFinder::forget() {
     for (const auto& [path, folder] : folders_) {
         changes_.unwatch(path);
     }
@@ -154,11 +154,11 @@ void Transcripts::forget() {
     rootIdentity_.reset();
     rootListed_ = false;
     rootKnown_ = false;
-    leaveOut_ = 0;
+    skipsLeft_ = 0;
 }
 
-void Transcripts::listRoot() {
-    const bool watched = changes_.watch(root_); // First, so that no change falls between.
+void TranscriptFinder::listRoot() {
+    const bool watched = changes_.watch(root_); // First, so that no change is missed.
     Listing listing(root_);
     rootListed_ = true;
     rootKnown_ = watched && listing.isOpen();
@@ -181,7 +181,7 @@ void Transcripts::listRoot() {
     }
 }
 
-void Transcripts::list(const QByteArray& path, Folder& folder) {
+void TranscriptFinder::list(const QByteArray& path, Folder& folder) {
     bool hasLinks = folder.isLink;
     const bool watched = !folder.isLink && changes_.watch(path);
     folder.newest.clear();
@@ -193,9 +193,9 @@ void Transcripts::list(const QByteArray& path, Folder& folder) {
             continue;
         }
         const std::optional<struct stat> info = listing.look(*entry);
-        hasLinks |= entry->d_type != DT_REG; // What it links to may change unheard.
+        hasLinks |= entry->d_type != DT_REG; // The target of a link may change unnoticed.
         if (info && S_ISREG(info->st_mode)) {
-            if (folder.newest.size() < mostKept ||
+            if (folder.newest.size() < maxKept ||
                 modified(*info) >= folder.newest.back().modified) {
                 keep(folder.newest, {path + '/' + entry->d_name, modified(*info), info->st_size});
             }

@@ -1,4 +1,4 @@
-#include "monitor/Transcript.h"
+#include "monitor/TranscriptParser.h"
 #include "monitor/LiveContext.h"
 
 #include <gtest/gtest.h>
@@ -28,73 +28,66 @@ QByteArray turn(qint64 input, const QByteArray& more = {}) {
 const QByteArray tool = R"({"type":"user","message":{"content":"said \"usage\" of nothing"}})"
                         "\n";
 
-struct UsageCase {
-    const char* name;
-    QByteArray transcript;
-    std::optional<qint64> tokens;
-    QString model = u"claude-opus-4-6"_s;
-};
+TEST(LastUsage, isThatOfTheLastTurnThatCounts) {
+    struct Case {
+        const char* name;
+        QByteArray transcript;
+        std::optional<qint64> tokens;
+        QString model = u"claude-opus-4-6"_s;
+    };
 
-class LastUsage : public testing::TestWithParam<UsageCase> {};
-
-TEST_P(LastUsage, isThatOfTheLastTurnThatCounts) {
-    const std::optional<TurnUsage> usage = lastUsage(GetParam().transcript);
-    ASSERT_EQ(usage.has_value(), GetParam().tokens.has_value());
-    if (usage) {
-        EXPECT_EQ(*usage, (TurnUsage{GetParam().model, *GetParam().tokens}));
+    const Case cases[] = {
+        {"nothing", "", {}},
+        {"emptyLines", "\n\n" + turn(5) + "\n\n", 5},
+        {"laterOne", turn(5) + turn(6), 6},
+        {"noLineEnd", turn(5) + turn(6).chopped(1), 6},
+        {"returns", "\r\n" + turn(6).chopped(1) + "\r\n", 6},
+        {"behindItTools", turn(5) + tool + tool, 5},
+        {"behindItGarbage",
+         turn(5) + R"({"usage": [})"
+                   "\n[\"usage\"]\n",
+         5},
+        {"behindItASidechain", turn(5) + turn(6, R"("isSidechain":true,)"), 5},
+        {"noSidechain", turn(5) + turn(6, R"("isSidechain":false,)"), 6},
+        {"aSidechainIsTrueAndNotOne", turn(5) + turn(6, R"("isSidechain":1,)"), 6},
+        {"behindItAPlaceholder", turn(5) + turn("<synthetic>", R"({"input_tokens":6})"), 5},
+        {"behindItNoTokens", turn(5) + turn(0), 5},
+        {"behindItFewerThanNone", turn(5) + turn(-7), 5},
+        {"noModel", R"({"message":{"usage":{"input_tokens":6}}})", 6, u""_s},
+        {"aModelThatIsNoText", R"({"message":{"model":4,"usage":{"input_tokens":6}}})", 6, u""_s},
+        {"noMessage", R"({"usage":{"input_tokens":6}})", {}},
+        {"usageThatIsNoObject", turn(5) + turn("m", "7"), 5},
+        {"threeSorts",
+         turn("claude-opus-4-6", R"({"input_tokens":1,"cache_read_input_tokens":20,)"
+                                 R"("cache_creation_input_tokens":300,"output_tokens":4000})"),
+         321},
+        {"noNumbers",
+         turn("claude-opus-4-6", R"({"input_tokens":"1","cache_read_input_tokens":true,)"
+                                 R"("cache_creation_input_tokens":2.9})"),
+         2},
+        {"theLargest",
+         turn("claude-opus-4-6",
+              R"({"input_tokens":9223372036854775807,"cache_read_input_tokens":1e19})"),
+         std::numeric_limits<qint64>::max()},
+        {"behindItASumBeyond64Bits",
+         turn(5) + turn("m", R"({"input_tokens":9223372036854775807,)"
+                             R"("cache_read_input_tokens":1})"),
+         5},
+        {"behindItASumBelow64Bits",
+         turn(5) + turn("m", R"({"input_tokens":-9223372036854775808,)"
+                             R"("cache_read_input_tokens":-1})"),
+         5},
+        {"cutAtTheBegin", turn(5).mid(9) + turn(6), 6},
+        {"cutAtTheBeginAlone", turn(5).mid(9), {}},
+        {"cutWithinACharacter", QByteArray("é\n").mid(1) + turn(6), {}},
+        {"otherScripts", QByteArray("é中😀\n") + turn(6), 6},
+    };
+    for (const Case& c : cases) {
+        const std::optional<TurnUsage> usage = lastUsage(c.transcript);
+        EXPECT_EQ(usage, c.tokens ? std::optional(TurnUsage{c.model, *c.tokens}) : std::nullopt)
+            << c.name;
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, LastUsage,
-    testing::Values(
-        UsageCase{"nothing", "", {}}, UsageCase{"emptyLines", "\n\n" + turn(5) + "\n\n", 5},
-        UsageCase{"laterOne", turn(5) + turn(6), 6},
-        UsageCase{"noLineEnd", turn(5) + turn(6).chopped(1), 6},
-        UsageCase{"returns", "\r\n" + turn(6).chopped(1) + "\r\n", 6},
-        UsageCase{"behindItTools", turn(5) + tool + tool, 5},
-        UsageCase{"behindItGarbage",
-                  turn(5) + R"({"usage": [})"
-                            "\n[\"usage\"]\n",
-                  5},
-        UsageCase{"behindItASidechain", turn(5) + turn(6, R"("isSidechain":true,)"), 5},
-        UsageCase{"noSidechain", turn(5) + turn(6, R"("isSidechain":false,)"), 6},
-        UsageCase{"aSidechainIsTrueAndNotOne", turn(5) + turn(6, R"("isSidechain":1,)"), 6},
-        UsageCase{"behindItAPlaceholder", turn(5) + turn("<synthetic>", R"({"input_tokens":6})"),
-                  5},
-        UsageCase{"behindItNoTokens", turn(5) + turn(0), 5},
-        UsageCase{"behindItFewerThanNone", turn(5) + turn(-7), 5},
-        UsageCase{"noModel", R"({"message":{"usage":{"input_tokens":6}}})", 6, u""_s},
-        UsageCase{"aModelThatIsNoText", R"({"message":{"model":4,"usage":{"input_tokens":6}}})", 6,
-                  u""_s},
-        UsageCase{"noMessage", R"({"usage":{"input_tokens":6}})", {}},
-        UsageCase{"usageThatIsNoObject", turn(5) + turn("m", "7"), 5},
-        UsageCase{"threeSorts",
-                  turn("claude-opus-4-6",
-                       R"({"input_tokens":1,"cache_read_input_tokens":20,)"
-                       R"("cache_creation_input_tokens":300,"output_tokens":4000})"),
-                  321},
-        UsageCase{"noNumbers",
-                  turn("claude-opus-4-6", R"({"input_tokens":"1","cache_read_input_tokens":true,)"
-                                          R"("cache_creation_input_tokens":2.9})"),
-                  2},
-        UsageCase{"theLargest",
-                  turn("claude-opus-4-6",
-                       R"({"input_tokens":9223372036854775807,"cache_read_input_tokens":1e19})"),
-                  std::numeric_limits<qint64>::max()},
-        UsageCase{"behindItASumBeyond64Bits",
-                  turn(5) + turn("m", R"({"input_tokens":9223372036854775807,)"
-                                      R"("cache_read_input_tokens":1})"),
-                  5},
-        UsageCase{"behindItASumBelow64Bits",
-                  turn(5) + turn("m", R"({"input_tokens":-9223372036854775808,)"
-                                      R"("cache_read_input_tokens":-1})"),
-                  5},
-        UsageCase{"cutAtTheBegin", turn(5).mid(9) + turn(6), 6},
-        UsageCase{"cutAtTheBeginAlone", turn(5).mid(9), {}},
-        UsageCase{"cutWithinACharacter", QByteArray("é\n").mid(1) + turn(6), {}},
-        UsageCase{"otherScripts", QByteArray("é中😀\n") + turn(6), 6}),
-    [](const auto& row) { return row.param.name; });
 
 TEST(CompactWindow, isTakenAsItIsFromTheSettings) {
     struct Case {

@@ -1,0 +1,44 @@
+import QtQuick
+import Ravelo
+
+/// A part of a window that scrolls if it is too low for what it holds. What has the keyboard comes
+/// into view.
+FadingEnds {
+    id: page
+
+    default property alias body: flick.flickableData
+    property alias contentHeight: flick.contentHeight
+
+    readonly property Item focused: Window.activeFocusItem // qmllint disable unqualified
+
+    function scrollToTop() {
+        flick.contentY = 0;
+    }
+
+    onFocusedChanged: {
+        const spare = 26;
+        let inside = focused;
+        while (inside && inside !== flick.contentItem) {
+            inside = inside.parent;
+        }
+        if (inside && contentHeight > height) {
+            const top = focused.mapToItem(flick.contentItem, 0, 0).y;
+            const lowest = Math.min(top - spare, contentHeight - height);
+            const highest = top + focused.height + spare - height;
+            flick.contentY = Math.max(0, Math.min(lowest, Math.max(flick.contentY, highest)));
+        }
+    }
+
+    length: Math.min(26, Math.max(0, contentHeight - flick.contentY - height))
+    topLength: Math.min(26, Math.max(0, flick.contentY))
+
+    content: Flickable {
+        id: flick
+        anchors.fill: parent
+        clip: contentHeight > height
+        interactive: contentHeight > height
+        boundsBehavior: Flickable.StopAtBounds
+        onContentHeightChanged: returnToBounds()
+        onHeightChanged: returnToBounds()
+    }
+}
