@@ -42,11 +42,11 @@ private:
     std::vector<Clock::time_point> times_;
 };
 
-std::shared_ptr<ImageDecoder> decoder(const QString& where) {
+std::shared_ptr<ImageDecoder> decoder(const QString& where, const QString& folder) {
     if (where == u"here") {
         return std::make_shared<InProcessDecoder>();
     }
-    return std::make_shared<DecoderProcess>(RAVELO_DECODE);
+    return std::make_shared<DecoderProcess>(RAVELO_DECODE, QFile::encodeName(folder));
 }
 
 } // namespace
@@ -54,7 +54,7 @@ std::shared_ptr<ImageDecoder> decoder(const QString& where) {
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QFileInfoList files = QDir(application.arguments().value(2)).entryInfoList(QDir::Files);
-    const auto reader = decoder(application.arguments().value(1));
+    const auto reader = decoder(application.arguments().value(1), application.arguments().value(2));
     const auto arrivals = std::make_shared<Arrivals>();
     SlowWork work;
     const auto begun = Clock::now();

@@ -1,6 +1,7 @@
 #include "decode/Formats.h"
 
 #include <QByteArray>
+#include <QtEndian>
 
 #include <algorithm>
 #include <array>
@@ -46,6 +47,22 @@ Format formatOf(QByteArrayView bytes) {
     };
     const auto* const found = std::ranges::find_if(magics, fits);
     return found != magics.end() ? found->format : isSvg(bytes) ? Format::svg : Format::none;
+}
+
+bool isRaster(QByteArrayView bytes) {
+    const Format format = formatOf(bytes);
+    return format != Format::none && format != Format::svg;
+}
+
+std::optional<int64_t> pngPixels(QByteArrayView bytes) {
+    constexpr qsizetype width = 16; // After the signature, a length and "IHDR".
+    constexpr qsizetype height = 20;
+    if (formatOf(bytes) != Format::png || bytes.size() < height + 4 ||
+        bytes.sliced(12, 4) != QByteArrayView("IHDR")) {
+        return std::nullopt;
+    }
+    return int64_t{qFromBigEndian<quint32>(bytes.data() + width)} *
+           qFromBigEndian<quint32>(bytes.data() + height);
 }
 
 const char* qtName(Format format) {

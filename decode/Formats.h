@@ -2,6 +2,9 @@
 
 #include <QByteArrayView>
 
+#include <cstdint>
+#include <optional>
+
 namespace ravelo::decode {
 
 /// The only formats that are read.
@@ -9,6 +12,13 @@ enum class Format { none, png, jpeg, gif, bmp, webp, tiff, heif, svg };
 
 /// By the first bytes only, whatever its name or type.
 [[nodiscard]] Format formatOf(QByteArrayView bytes);
+
+/// Whether it begins like a picture of which a PNG can be made: any of them but a drawing, which is
+/// a document, has no size of its own and can draw in other files.
+[[nodiscard]] bool isRaster(QByteArrayView bytes);
+
+/// How many pixels a PNG says it has; nothing if it has no such beginning.
+[[nodiscard]] std::optional<int64_t> pngPixels(QByteArrayView bytes);
 
 /// Qt's name for it; null if Qt does not read it here.
 [[nodiscard]] const char* qtName(Format format);

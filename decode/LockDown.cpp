@@ -35,7 +35,7 @@ bool limitResources() {
     const bool memory = limit(RLIMIT_AS, maxMemory);
 #endif
     return memory && limit(RLIMIT_CORE, 0) && limit(RLIMIT_NOFILE, maxFiles) &&
-           limit(RLIMIT_FSIZE, maxOutput) && limit(RLIMIT_CPU, maxProcessorSeconds);
+           limit(RLIMIT_FSIZE, maxBytes) && limit(RLIMIT_CPU, maxProcessorSeconds);
 }
 
 /// From <linux/landlock.h>, whose version may be older than the kernel.
@@ -60,8 +60,8 @@ bool restrictFiles() {
     return rules >= 0 && syscall(SYS_landlock_restrict_self, rules, 0) == 0 && close(rules) == 0;
 }
 
-// What a decoder calls. It can create threads but no processes, map no executable memory, and send
-// messages only over open sockets.
+// What a decoder calls. New threads stay in this process, no memory becomes executable, and
+// messages go only over open sockets.
 constexpr int allowed[] = {
     // Pictures in and out.
     SCMP_SYS(recvmsg), SCMP_SYS(sendmsg), SCMP_SYS(read), SCMP_SYS(pread64), SCMP_SYS(write),

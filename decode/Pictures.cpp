@@ -13,10 +13,8 @@ namespace ravelo::decode {
 
 namespace {
 
-constexpr qint64 megapixel = qint64{1024} * 1024;
-constexpr qint64 maxPixels = 32 * megapixel; ///< Enough for an 8K screen.
 /// A JPEG is scaled down while it is read.
-constexpr qint64 maxScaledJpegPixels = 128 * megapixel;
+constexpr qint64 maxScaledJpegPixels = 128 << 20;
 constexpr int maxMegabytes = 128; ///< Of pixels, at four bytes each.
 /// zlib level 1: half the time, hardly larger.
 constexpr int quickCompression = 80;
@@ -140,10 +138,12 @@ QImage scaled(const QImage& image, QRect part, QSize size) {
 }
 
 Picture fromHeif(const Request& request, const QByteArray& bytes) {
-    if (request.kind == Kind::probe) {
-        return probed(heifSize(bytes), maxHeifPixels);
+    const bool whole = request.kind == Kind::probe || request.kind == Kind::png;
+    const Picture found = probed(heifSize(bytes), whole ? maxPixels : maxHeifPixels);
+    if (found.status != Status::done || request.kind == Kind::probe) {
+        return found;
     }
-    if (request.kind == Kind::png) {
+    if (whole) {
         return wholeAsPng(heifImage(bytes, std::numeric_limits<int>::max()));
     }
     const QImage image = heifImage(bytes, request.height);
@@ -192,7 +192,7 @@ QByteArray smallPicture(Format format) {
 
 Picture decodePicture(const Request& request, const QByteArray& bytes) {
     const Format format = formatOf(bytes);
-    if (!isSane(request) || format == Format::none || bytes.size() > maxInput ||
+    if (!isSane(request) || format == Format::none || bytes.size() > maxBytes ||
         (format == Format::svg && request.kind != Kind::icon)) {
         return {};
     }

@@ -8,12 +8,16 @@
 /// Both programs are in one package, so there is no version.
 namespace ravelo::decode {
 
-inline constexpr int socketNumber = 3;          ///< The descriptor of the socket in ravelo-decode.
-inline constexpr int idleSeconds = 20;          ///< It ends after this time without a request.
-inline constexpr int64_t maxInput = 64 << 20;   ///< Bytes of a picture.
-inline constexpr int64_t maxOutput = 160 << 20; ///< Bytes of a reply.
-inline constexpr int maxSide = 4096;            ///< Pixels, of a requested picture.
-inline constexpr uint32_t realTimeFactor = 4;   ///< For a busy machine.
+inline constexpr int socketNumber = 3; ///< The descriptor of the socket in ravelo-decode.
+inline constexpr int idleSeconds = 20; ///< It ends after this time without a request.
+/// Bytes of a picture and of a reply: what is made can be read back. A PNG of `maxPixels` has
+/// fewer.
+inline constexpr int64_t maxBytes = 160 << 20;
+/// Pixels that are read whole, so that what is kept can be shown. Enough for an 8K
+/// screen.
+inline constexpr int64_t maxPixels = 32 << 20;
+inline constexpr int maxSide = 4096;          ///< Pixels, of a requested picture.
+inline constexpr uint32_t realTimeFactor = 4; ///< For a busy machine.
 
 enum class Kind : uint32_t {
     probe, ///< The natural size, upright.

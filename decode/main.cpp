@@ -37,7 +37,8 @@ void detach() {
     setsockopt(socketNumber, SOL_SOCKET, SO_RCVTIMEO, &timeout, sizeof(timeout));
 }
 
-/// Other arenas of malloc read /proc when they shrink, and Qt's messages check for a terminal.
+/// A second malloc arena would read /proc when it shrinks, and Qt's message handler looks for a
+/// terminal.
 void avoidFiles() {
     mallopt(M_ARENA_MAX, 1);
     setenv("QT_NO_GLIB", "1", 1);
@@ -62,8 +63,8 @@ bool hasWorkedLong() {
 
 /// Whether to continue.
 bool carryOut(const Order& order) {
-    limitTime(order.request.milliseconds);
-    const Picture picture = decodePicture(order.request, order.bytes);
+    limitTime(order.request.milliseconds); // Of reading, too: a file's mount may die meanwhile.
+    const Picture picture = decodePicture(order.request, takeBytes(order.file));
     Reply reply{picture.status, picture.size.width(), picture.size.height(),
                 hasWorkedLong() ? 1U : 0U, 0};
     const QByteArrayView contents =

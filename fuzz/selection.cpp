@@ -3,36 +3,11 @@
 
 #include "Input.h"
 #include "clipboard/CapturePlan.h"
-#include "platform/ImageDecoder.h"
 #include "platform/x11/SelectionText.h"
 
 #include <QUtf8StringView>
 
 using namespace ravelo;
-
-namespace {
-
-/// Finds a picture in everything that begins like one.
-class Pictures final : public ImageDecoder {
-public:
-    PictureLook look(const UntrustedPicture& picture) override {
-        return std::get<PictureBytes>(picture).startsWith('P')
-                   ? PictureLook{PictureLook::Kind::good, QSize(1, 1)}
-                   : PictureLook();
-    }
-
-    QImage filling(const UntrustedPicture& /*picture*/, PictureShape /*shape*/) override {
-        return {};
-    }
-
-    QImage icon(const PictureFile& /*file*/, int /*size*/) override { return {}; }
-
-    QByteArray png(const UntrustedPicture& /*picture*/) override { return {}; }
-
-    void forget(const PictureFile& /*file*/) override {}
-};
-
-} // namespace
 
 int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const QByteArray input = fuzz::view(bytes, size).toByteArray();
@@ -40,8 +15,6 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const QList<QByteArray> targets = input.first(end).split('\n');
     const QByteArray given = input.mid(end + 2);
 
-    Pictures pictures;
-    PictureLooks looks;
     PasteboardSnapshot snapshot;
     for (const QByteArray& target : x11::textTargets(targets)) {
         fuzz::require(x11::isPlainText(target));
@@ -53,8 +26,8 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     for (const QByteArray& target : targets) {
         snapshot.types.append(QString::fromUtf8(target));
     }
-    for (QString next = nextCaptureType(snapshot, looks, pictures); !next.isEmpty();
-         next = nextCaptureType(snapshot, looks, pictures)) {
+    for (QString next = nextCaptureType(snapshot); !next.isEmpty();
+         next = nextCaptureType(snapshot)) {
         // As long as the hint is not read it counts as secret: nothing else may be asked for.
         fuzz::require(!snapshot.answers.contains(next) &&
                       (next == u"x-kde-passwordManagerHint" || !isConcealed(snapshot)));

@@ -164,7 +164,8 @@ AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& envi
       children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
                                                renewalFolder(home()))),
       decoder_(
-          std::make_shared<DecoderProcess>(QFile::encodeName(helperProgram("ravelo-decode"_L1)))),
+          std::make_shared<DecoderProcess>(QFile::encodeName(helperProgram("ravelo-decode"_L1)),
+                                           QFile::encodeName(Store::clipsFolder(dataFolder())))),
       tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
       shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, *fileJobs_, display_.icons())),
       notices_(std::make_unique<Notices>(*scheduler_)),
@@ -194,9 +195,10 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         rememberFirstStart(*preferences_);
     }
     updater();
-    store_ = std::make_unique<Store>(
-        dataFolder(), Store::Services{*scheduler_, *worker_, *preferences_, display_.pasteboard(),
-                                      *sound_, *fileJobs_, *copiedFiles_, decoder_, mayWrite()});
+    store_ = std::make_unique<Store>(dataFolder(),
+                                     Store::Services{*scheduler_, *worker_, *preferences_,
+                                                     display_.pasteboard(), *sound_, *fileJobs_,
+                                                     *copiedFiles_, *jobs_, decoder_, mayWrite()});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
@@ -209,8 +211,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         settings_->refreshLaunchAtLogin();
     });
 
-    clipboard_ = std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_,
-                                                    *jobs_, decoder_);
+    clipboard_ =
+        std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_, *jobs_);
     clipboard_->start();
 
     window_ = display_.panelWindow(view_->window());

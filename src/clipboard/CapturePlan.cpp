@@ -33,8 +33,7 @@ QByteArrayList copiedPaths(const PasteboardSnapshot& snapshot) {
 
 } // namespace
 
-QString nextCaptureType(const PasteboardSnapshot& snapshot, PictureLooks& looks,
-                        ImageDecoder& decoder) {
+QString nextCaptureType(const PasteboardSnapshot& snapshot, const QStringList& useless) {
     if (isUnasked(snapshot, passwordHint)) {
         return passwordHint;
     }
@@ -48,7 +47,7 @@ QString nextCaptureType(const PasteboardSnapshot& snapshot, PictureLooks& looks,
     if (mayBePathsInALine(text) && isUnasked(snapshot, filesType)) {
         return filesType;
     }
-    return text.isEmpty() ? nextImageType(snapshot, looks, decoder) : QString();
+    return text.isEmpty() ? nextImageType(snapshot, useless) : QString();
 }
 
 bool isConcealed(const PasteboardSnapshot& snapshot) {
@@ -84,15 +83,14 @@ bool isFromFile(const PasteboardSnapshot& snapshot) {
            !snapshot.answers.value(filesType).value_or(QByteArray()).isEmpty();
 }
 
-std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot,
-                                       const PictureLooks& looks) {
-    if (!capturedText(snapshot).isEmpty() || hasGoodImage(snapshot, looks)) {
+std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot) {
+    if (!capturedText(snapshot).isEmpty() || !imageType(snapshot).isEmpty()) {
         return std::nullopt;
     }
     if (const auto text = snapshot.tooLarge.find(plainTextType); text != snapshot.tooLarge.end()) {
         return TooLarge{TooLarge::Kind::text, *text};
     }
-    return oversizedImage(snapshot, looks);
+    return oversizedImage(snapshot);
 }
 
 } // namespace ravelo

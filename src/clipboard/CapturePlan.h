@@ -9,9 +9,9 @@ namespace ravelo {
 
 /// What to ask a pasteboard for, one type after the other: marks of secrecy before any contents,
 /// text before images, nothing more once the answer is settled. To be used as a `PasteboardPlan`,
-/// on any thread but the main one; for `looks` see `nextImageType`.
-[[nodiscard]] QString nextCaptureType(const PasteboardSnapshot& snapshot, PictureLooks& looks,
-                                      ImageDecoder& decoder);
+/// on any thread; for `useless` see `nextImageType`.
+[[nodiscard]] QString nextCaptureType(const PasteboardSnapshot& snapshot,
+                                      const QStringList& useless = {});
 
 /// Whether the owner asks that its contents be kept out of histories:
 /// "org.nspasteboard.ConcealedType" on offer, or "x-kde-passwordManagerHint" with the value
@@ -36,8 +36,7 @@ inline constexpr QLatin1StringView filesType("text/uri-list");
 /// Whether the image in it can only be that of a file that the owner named.
 [[nodiscard]] bool isFromFile(const PasteboardSnapshot& snapshot);
 
-/// Nothing where something of the copy can be kept, or none of it was too large.
-[[nodiscard]] std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot,
-                                                     const PictureLooks& looks);
+/// Nothing if something of the copy may be kept, or none of it has too many bytes.
+[[nodiscard]] std::optional<TooLarge> tooLargeToKeep(const PasteboardSnapshot& snapshot);
 
 } // namespace ravelo

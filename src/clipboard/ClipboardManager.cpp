@@ -4,7 +4,7 @@
 #include "base/Scheduler.h"
 #include "clipboard/FileForms.h"
 #include "platform/DetachedJobs.h"
-#include "platform/ImageDecoder.h"
+#include "store/ImageFiles.h"
 #include "store/Store.h"
 
 #include <QUrl>
@@ -20,21 +20,20 @@ constexpr Seconds pollInterval{0.5};
 constexpr QLatin1StringView pngType("image/png");
 
 /// Not for the main thread.
-QList<PasteboardEntry> imageForms(const QString& path, ImageDecoder& decoder) {
+QList<PasteboardEntry> imageForms(const QString& path) {
     const auto bytes = readFile(path);
-    return bytes && !decoder.size(*bytes).isEmpty() ? QList<PasteboardEntry>{{pngType, *bytes}}
-                                                    : QList<PasteboardEntry>();
+    return bytes && isPng(*bytes) ? QList<PasteboardEntry>{{pngType, *bytes}}
+                                  : QList<PasteboardEntry>();
 }
 
 } // namespace
 
 ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
-                                   DetachedJobs& jobs, std::shared_ptr<ImageDecoder> decoder)
+                                   DetachedJobs& jobs)
     : store_(store),
       pasteboard_(pasteboard),
       scheduler_(scheduler),
       jobs_(jobs),
-      decoder_(std::move(decoder)),
       lastChangeCount_(pasteboard.changeCount()) {}
 
 void ClipboardManager::start() {
@@ -73,30 +72,36 @@ void ClipboardManager::poll() {
     }
     // A read that was answered may still be waiting to be told when the next change is seen, so
     // none is dropped here: the pasteboard itself gives up those whose owner has gone.
-    const auto looks = std::make_shared<PictureLooks>();
-    const auto plan = [decoder = decoder_, looks](const PasteboardSnapshot& snapshot) {
-        return nextCaptureType(snapshot, *looks, *decoder);
+    read(count, {});
+}
+
+void ClipboardManager::read(qint64 count, const QStringList& useless) {
+    const auto plan = [useless](const PasteboardSnapshot& snapshot) {
+        return nextCaptureType(snapshot, useless);
     };
     reads_[count] = pasteboard_.read(
-        plan, [this, count, looks, seen = scheduler_.uptime()](const auto& snapshot) {
-            finishRead(count, snapshot, *looks, seen);
+        plan, [this, count, useless, seen = scheduler_.uptime()](const auto& snapshot) {
+            finishRead(count, snapshot, useless, seen);
         });
 }
 
 void ClipboardManager::finishRead(qint64 count, const PasteboardSnapshot& snapshot,
-                                  const PictureLooks& looks, Seconds seen) {
+                                  const QStringList& useless, Seconds seen) {
     // Contents that came after the count was looked at get a read of their own.
     if (snapshot.changeCount == count) {
-        capture(snapshot, looks, seen);
+        capture(snapshot, useless, seen);
     }
     reads_.erase(reads_.begin(), reads_.upper_bound(count));
     answerSaveRequest();
 }
 
-void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const PictureLooks& looks,
+void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const QStringList& useless,
                                Seconds seen) {
     const auto key = isConcealed(snapshot) ? std::nullopt : contentsKey(snapshot);
     if (!key) {
+        if (held_ && held_->changeCount == snapshot.changeCount) {
+            refuse({}); // There is no other form either.
+        }
         return;
     }
     if (isPassedOn(snapshot, *key, seen)) {
@@ -109,17 +114,17 @@ void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const Picture
     held_ = std::make_shared<Held>(Held{snapshot.changeCount,
                                         {*key, snapshot.owner.id, seen},
                                         isFromFile(snapshot) ? Source::file : Source::owner});
-    if (const auto tooLarge = tooLargeToKeep(snapshot, looks)) {
+    if (const auto tooLarge = tooLargeToKeep(snapshot)) {
         refuse(*tooLarge);
     } else {
-        keep(snapshot);
+        keep(snapshot, useless);
     }
 }
 
-void ClipboardManager::refuse(const TooLarge& what) {
-    held_->clip = Clip::tooLarge;
-    if (onTooLarge) {
-        onTooLarge(what);
+void ClipboardManager::refuse(const std::optional<TooLarge>& tooLarge) {
+    held_->clip = Clip::refused;
+    if (tooLarge && onTooLarge) {
+        onTooLarge(*tooLarge);
     }
 }
 
@@ -137,32 +142,46 @@ bool ClipboardManager::isPassedOn(const PasteboardSnapshot& snapshot, const Cont
     return isHandOver(before, wanted, key, snapshot.owner, seen);
 }
 
-void ClipboardManager::keep(const PasteboardSnapshot& snapshot) {
-    auto kept = [this, weak = std::weak_ptr(held_)](const QUuid& clip) {
-        // Expired where something else was copied since, or we are gone.
-        if (const auto held = weak.lock(); held && held->clip == Clip::pending) {
-            held->clip = Clip::kept;
-            held->id = clip;
-            offerAgain(); // The owner may have ended while an image was being written.
-        }
-    };
-    if (const QString text = capturedText(snapshot, textEnds_); !text.isEmpty()) {
-        store_.addClip(text, kept);
-    } else {
-        store_.addImageClip(snapshot, kept, [this, weak = std::weak_ptr(held_)](const auto& what) {
-            if (const auto held = weak.lock(); held && held->clip == Clip::pending) {
-                refuse(what);
-            }
-        });
+void ClipboardManager::keep(const PasteboardSnapshot& snapshot, const QStringList& useless) {
+    const QString text = capturedText(snapshot, textEnds_);
+    if (text.isEmpty()) {
+        keepImage(snapshot, useless);
+        return;
     }
+    store_.addClip(text, whileHeld([this](Held& held, const QUuid& clip) { kept(held, clip); }));
 }
 
-/// Once the contents have been read: what is made of them needs their owner no more.
+void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStringList& useless) {
+    held_->clip = Clip::converting;
+    const QString type = imageType(snapshot);
+    const QStringList tried = useless + QStringList{type};
+    const bool mayRetry = !type.isEmpty() && hasOtherForm(snapshot.types, tried);
+    store_.addImageClip(
+        snapshot, whileHeld([this](Held& held, const QUuid& clip) { kept(held, clip); }),
+        whileHeld([this, mayRetry, tried](Held& held, const std::optional<TooLarge>& tooLarge) {
+            if (!tooLarge && mayRetry && held.changeCount == lastChangeCount_) {
+                read(held.changeCount, tried);
+            } else {
+                refuse(tooLarge);
+                answerSaveRequest();
+            }
+        }));
+}
+
+void ClipboardManager::kept(Held& held, const QUuid& clip) {
+    held.clip = Clip::kept;
+    held.id = clip;
+    answerSaveRequest();
+    offerAgain(); // The owner may have ended while an image was being written.
+}
+
+/// Once it is known whether there will be a clip: it needs the owner of the contents no more.
 void ClipboardManager::answerSaveRequest() {
-    if (saveAsked_ && !reads_.contains(lastChangeCount_)) {
+    const bool known = held_ && held_->changeCount == lastChangeCount_;
+    if (saveAsked_ && !reads_.contains(lastChangeCount_) &&
+        !(known && held_->clip == Clip::converting)) {
         saveAsked_ = false;
-        const bool saved = held_ && held_->changeCount == lastChangeCount_ &&
-                           (held_->clip == Clip::pending || held_->clip == Clip::kept) &&
+        const bool saved = known && (held_->clip == Clip::pending || held_->clip == Clip::kept) &&
                            held_->source == Source::owner;
         pasteboard_.answerSaveRequests(lastChangeCount_,
                                        saved ? SaveAnswer::saved : SaveAnswer::refused);
@@ -211,7 +230,7 @@ const ClipItem* ClipboardManager::find(const QUuid& clip) const {
 
 Handle ClipboardManager::readImage(const QString& path, std::function<void(const Forms&)> done) {
     const auto forms = std::make_shared<Forms>();
-    return jobs_.run([path, forms, decoder = decoder_] { *forms = imageForms(path, *decoder); },
+    return jobs_.run([path, forms] { *forms = imageForms(path); },
                      [forms, done = std::move(done)] { done(*forms); });
 }
 

@@ -29,8 +29,8 @@ struct ClipItem;
 class ClipboardManager {
 public:
     /// What is on the pasteboard at this moment is never captured.
-    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler, DetachedJobs& jobs,
-                     std::shared_ptr<ImageDecoder> decoder);
+    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
+                     DetachedJobs& jobs);
 
     /// Looks every 0.5 s from now on, and at once where the platform tells of a change.
     void start();
@@ -40,8 +40,8 @@ public:
 
     void copyText(const QString& text);
 
-    /// Puts a stored image on the pasteboard, once it is read; does nothing if the file cannot be
-    /// loaded or something else was copied meanwhile.
+    /// Puts a stored image on the pasteboard, once it is read; does nothing if the file is no PNG
+    /// or something else was copied meanwhile.
     void copyImage(const QString& path);
 
     /// Puts a file on the pasteboard, for file managers to paste a copy of it; does nothing where
@@ -57,7 +57,13 @@ private:
     /// Where what is made of the contents may come from; a file that its owner named is never
     /// offered in our name, as its owner might not be allowed to read it.
     enum class Source { owner, file };
-    enum class Clip { pending, kept, tooLarge, cleared };
+    enum class Clip {
+        pending,
+        converting, ///< Pending, and may still turn out to be nothing that can be kept.
+        kept,
+        refused,
+        cleared
+    };
 
     /// The newest contents that were captured or written by us.
     struct Held {
@@ -66,16 +72,23 @@ private:
         Source source = Source::owner;
         Clip clip = Clip::pending;
         QUuid id{}; ///< Of the clip, once it is kept; null where we wrote the contents.
+
+        [[nodiscard]] bool isPending() const {
+            return clip == Clip::pending || clip == Clip::converting;
+        }
     };
 
     void poll();
-    void finishRead(qint64 count, const PasteboardSnapshot& snapshot, const PictureLooks& looks,
+    void read(qint64 count, const QStringList& useless);
+    void finishRead(qint64 count, const PasteboardSnapshot& snapshot, const QStringList& useless,
                     Seconds seen);
-    void capture(const PasteboardSnapshot& snapshot, const PictureLooks& looks, Seconds seen);
+    void capture(const PasteboardSnapshot& snapshot, const QStringList& useless, Seconds seen);
     [[nodiscard]] bool isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
                                   Seconds seen) const;
-    void keep(const PasteboardSnapshot& snapshot);
-    void refuse(const TooLarge& what);
+    void keep(const PasteboardSnapshot& snapshot, const QStringList& useless);
+    void keepImage(const PasteboardSnapshot& snapshot, const QStringList& useless);
+    void kept(Held& held, const QUuid& clip);
+    void refuse(const std::optional<TooLarge>& tooLarge);
     void answerSaveRequest();
     void offerAgain();
     [[nodiscard]] bool isLost(const Held* held) const;
@@ -84,11 +97,21 @@ private:
     void write(const Forms& forms);
     void suppressOwnChange(qint64 count);
 
+    /// Calls `action` with what is held now, unless something else was copied since, the history
+    /// was cleared, or we are gone.
+    template <typename Action>
+    [[nodiscard]] auto whileHeld(Action action) {
+        return [this, weak = std::weak_ptr(held_), action = std::move(action)](const auto& result) {
+            if (const auto held = weak.lock(); held && held == held_ && held->isPending()) {
+                action(*held, result);
+            }
+        };
+    }
+
     Store& store_;
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
     DetachedJobs& jobs_;
-    std::shared_ptr<ImageDecoder> decoder_;
     TextEnds textEnds_ = TextEnds::trimmed;
     qint64 lastChangeCount_;
     qint64 suppressUntilCount_ = -1; ///< The change that we made ourselves.

@@ -25,7 +25,7 @@ struct PictureShape {
     int maxWidth;
 };
 
-/// What a picture is, by its beginning.
+/// What a picture is, by its beginning. `good` can be read whole.
 struct PictureLook {
     enum class Kind { none, good, tooManyPixels };
 
@@ -43,7 +43,7 @@ class ImageDecoder {
 public:
     virtual ~ImageDecoder() = default;
 
-    /// The quickest: hardly more than the beginning is read.
+    /// The quickest: all of it is passed on, but only its beginning decoded.
     [[nodiscard]] virtual PictureLook look(const UntrustedPicture& picture) = 0;
 
     /// Empty if it is not a picture that can be read whole.

@@ -2,11 +2,11 @@
 
 #include "base/FileUrl.h"
 #include "base/UriList.h"
+#include "decode/Formats.h"
 #include "platform/Pasteboard.h"
 #include "platform/TimedJob.h"
 
 #include <QFile>
-#include <QMimeDatabase>
 #include <QSysInfo>
 
 #include <fcntl.h>
@@ -23,10 +23,6 @@ constexpr Seconds patience{2};
 constexpr qint64 mostBytes = qint64{64} * 1024 * 1024;
 constexpr qint64 beginning = 4096;
 
-bool beginsLikeAPicture(const QByteArray& bytes) {
-    return QMimeDatabase().mimeTypeForData(bytes).name().startsWith("image/"_L1);
-}
-
 CopiedContents read(const QByteArray& path) {
     // A pipe or a device could keep it waiting for ever.
     const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
@@ -41,7 +37,7 @@ CopiedContents read(const QByteArray& path) {
         return {};
     }
     const QByteArray begin = file.read(beginning);
-    if (!beginsLikeAPicture(begin)) {
+    if (!decode::isRaster(begin)) {
         return {};
     }
     return info.st_size > mostBytes ? CopiedContents{{}, info.st_size}

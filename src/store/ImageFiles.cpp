@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "base/Uuid.h"
+#include "decode/Formats.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -35,6 +36,10 @@ bool isImageName(const QString& name) {
 }
 
 } // namespace
+
+bool isPng(QByteArrayView bytes) {
+    return decode::formatOf(bytes) == decode::Format::png;
+}
 
 Result<void> writeImage(const QString& path, const QByteArray& png,
                         const OwnFile::Permission& mayWrite) {

@@ -4,6 +4,7 @@
 #include "base/OwnFile.h"
 #include "store/Records.h"
 
+#include <QByteArrayView>
 #include <QList>
 #include <QSet>
 #include <QString>
@@ -11,6 +12,9 @@
 namespace ravelo {
 
 // The image files of the clips folder. All of this blocks and is for the worker.
+
+/// Whether it begins like one.
+[[nodiscard]] bool isPng(QByteArrayView bytes);
 
 /// Writes an image, as PNG, and makes its folder if that was removed. An error, in words fit for
 /// the user, if there is no image or it could not be written.

@@ -1,5 +1,8 @@
 #include "store/PasteboardImage.h"
 
+#include "decode/Formats.h"
+#include "decode/Protocol.h"
+#include "platform/ImageDecoder.h"
 #include "platform/Pasteboard.h"
 #include "store/CopiedFile.h"
 
@@ -11,9 +14,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-using Kind = PictureLook::Kind;
-
 constexpr auto pngType = "image/png"_L1;
+constexpr qsizetype mostTries = 4; ///< An owner may name hundreds of forms.
 constexpr auto filesType = "text/uri-list"_L1;
 
 /// The forms worth asking for, best first.
@@ -38,77 +40,73 @@ QStringList candidates(const QStringList& offered) {
     return list;
 }
 
-PictureLook lookAt(const QString& type, const QByteArray& bytes, ImageDecoder& decoder) {
-    if (bytes.isEmpty() || type == filesType) {
-        return {};
+KeptImage converted(const QByteArray& bytes, ImageDecoder& decoder) {
+    KeptImage kept{decoder.png(bytes), {}};
+    if (kept.png.isEmpty()) {
+        const PictureLook look = decoder.look(bytes);
+        if (look.kind == PictureLook::Kind::tooManyPixels) {
+            kept.tooLarge = TooLarge{TooLarge::Kind::pixels, look.pixels()};
+        }
     }
-    return type == pngType ? PictureLook{Kind::good} : decoder.look(bytes);
+    return kept;
 }
 
 } // namespace
 
-QString nextImageType(const PasteboardSnapshot& contents, PictureLooks& looks,
-                      ImageDecoder& decoder) {
+QString nextImageType(const PasteboardSnapshot& contents, const QStringList& useless) {
     for (const QString& type : candidates(contents.types)) {
         const auto answer = contents.answers.find(type);
         if (answer == contents.answers.end()) {
-            return type;
-        }
-        if (!looks.contains(type)) {
-            looks.insert(type, lookAt(type, answer->value_or(QByteArray()), decoder));
-        }
-        if (looks.value(type).kind == Kind::good) {
+            if (!useless.contains(type)) {
+                return type;
+            }
+        } else if (decode::isRaster(answer->value_or(QByteArray()))) {
             return {};
         }
     }
     return {};
 }
 
-bool hasGoodImage(const PasteboardSnapshot& contents, const PictureLooks& looks) {
-    const bool hasFiles = !contents.answers.value(filesType).value_or(QByteArray()).isEmpty();
-    return hasFiles || std::ranges::any_of(
-                           looks, [](const PictureLook& look) { return look.kind == Kind::good; });
-}
-
-std::optional<TooLarge> oversizedImage(const PasteboardSnapshot& contents,
-                                       const PictureLooks& looks) {
-    qint64 bytes = 0;
-    qint64 pixels = 0;
-    for (const QString& type : candidates(contents.types)) {
-        bytes = std::max(bytes, contents.tooLarge.value(type));
-        const PictureLook look = looks.value(type);
-        pixels = std::max(pixels, look.kind == Kind::tooManyPixels ? look.pixels() : 0);
-    }
-    return bytes > 0    ? std::optional(TooLarge{TooLarge::Kind::image, bytes})
-           : pixels > 0 ? std::optional(TooLarge{TooLarge::Kind::pixels, pixels})
-                        : std::nullopt;
-}
-
-std::optional<TooLarge> oversizedFile(const CopiedContents& file, ImageDecoder& decoder) {
-    if (file.tooLarge > 0) {
-        return TooLarge{TooLarge::Kind::image, file.tooLarge};
-    }
-    const PictureLook look = file.bytes.isEmpty() ? PictureLook() : decoder.look(file.bytes);
-    return look.kind == Kind::tooManyPixels
-               ? std::optional(TooLarge{TooLarge::Kind::pixels, look.pixels()})
-               : std::nullopt;
-}
-
-QByteArray pngImage(const PasteboardSnapshot& contents, const QByteArray& file,
-                    ImageDecoder& decoder) {
+QString imageType(const PasteboardSnapshot& contents) {
     for (const QString& type : candidates(contents.types)) {
         const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
-        if (bytes.isEmpty()) {
-            continue;
-        }
-        QByteArray png = type == pngType     ? bytes
-                         : type == filesType ? decoder.png(file)
-                                             : decoder.png(bytes);
-        if (!png.isEmpty()) {
-            return png;
+        if (type == filesType ? !bytes.isEmpty() : decode::isRaster(bytes)) {
+            return type;
         }
     }
     return {};
+}
+
+bool hasOtherForm(const QStringList& types, const QStringList& useless) {
+    return useless.size() < mostTries && !nextImageType({types, {}}, useless).isEmpty();
+}
+
+std::optional<TooLarge> oversizedImage(const PasteboardSnapshot& contents) {
+    qint64 bytes = 0;
+    for (const QString& type : candidates(contents.types)) {
+        bytes = std::max(bytes, contents.tooLarge.value(type));
+    }
+    return bytes > 0 ? std::optional(TooLarge{TooLarge::Kind::image, bytes}) : std::nullopt;
+}
+
+KeptImage imageToKeep(const PasteboardSnapshot& contents, const CopiedContents& file,
+                      ImageDecoder& decoder) {
+    const QString type = imageType(contents);
+    if (type.isEmpty()) {
+        return {};
+    }
+    if (type == filesType) {
+        return file.tooLarge > 0 ? KeptImage{{}, TooLarge{TooLarge::Kind::image, file.tooLarge}}
+                                 : converted(file.bytes, decoder);
+    }
+    const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
+    if (type != pngType) {
+        return converted(bytes, decoder);
+    }
+    const auto pixels = decode::pngPixels(bytes);
+    return pixels && *pixels > decode::maxPixels
+               ? KeptImage{{}, TooLarge{TooLarge::Kind::pixels, *pixels}}
+               : KeptImage{bytes, {}};
 }
 
 } // namespace ravelo

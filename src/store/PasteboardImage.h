@@ -1,46 +1,47 @@
 #pragma once
 
-#include "platform/ImageDecoder.h"
 #include "store/TooLarge.h"
 
 #include <QByteArray>
-#include <QHash>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 
 namespace ravelo {
 
+class ImageDecoder;
 struct CopiedContents;
 struct PasteboardSnapshot;
 
-/// What the forms on a pasteboard are, by their types, as far as one was looked at.
-using PictureLooks = QHash<QString, PictureLook>;
-
 /// The reading plan for the image on a pasteboard: PNG, else TIFF, else any other picture, else
-/// the list of copied files. A form that gave nothing, or nothing that looks like a picture, is
-/// passed over for the next; empty once there is one or nothing is left to ask for. Any thread
-/// but the main one; `looks` goes from one call of a reading to the next, and is then for those
-/// who may not ask the decoder.
-[[nodiscard]] QString nextImageType(const PasteboardSnapshot& contents, PictureLooks& looks,
-                                    ImageDecoder& decoder);
+/// the list of copied files. A form that gave nothing, or nothing that begins like a picture, is
+/// passed over for the next, and so are those that proved `useless`; empty once there is one or
+/// nothing is left to ask for. Any thread.
+[[nodiscard]] QString nextImageType(const PasteboardSnapshot& contents,
+                                    const QStringList& useless = {});
 
-/// Whether such a reading ended with a form worth keeping, or a list of files.
-[[nodiscard]] bool hasGoodImage(const PasteboardSnapshot& contents, const PictureLooks& looks);
+/// The form worth keeping with which such a reading ended, a list of files included; empty if there
+/// is none.
+[[nodiscard]] QString imageType(const PasteboardSnapshot& contents);
 
-/// The largest form that the adapter did not take, or else the one with the most pixels that were
-/// too many; nothing if there is none.
-[[nodiscard]] std::optional<TooLarge> oversizedImage(const PasteboardSnapshot& contents,
-                                                     const PictureLooks& looks);
+/// Whether an owner of these types has another form to be asked for after those that proved
+/// useless.
+[[nodiscard]] bool hasOtherForm(const QStringList& types, const QStringList& useless);
 
-/// Why a copied file gave no image, if it is too large. For the worker.
-[[nodiscard]] std::optional<TooLarge> oversizedFile(const CopiedContents& file,
-                                                    ImageDecoder& decoder);
+/// The largest form that the adapter did not take; nothing if there is none.
+[[nodiscard]] std::optional<TooLarge> oversizedImage(const PasteboardSnapshot& contents);
+
+/// What is kept of an image; neither of the two if it cannot be decoded.
+struct KeptImage {
+    QByteArray png;
+    std::optional<TooLarge> tooLarge;
+};
 
 /// The image in what such a reading gave, as PNG: PNG bytes as they are, all else decoded and
-/// encoded again. `file` is what is in the file of a list of copied files, see `copiedFile`. Empty
-/// if there is none that can be decoded. Takes long: for the worker.
-[[nodiscard]] QByteArray pngImage(const PasteboardSnapshot& contents, const QByteArray& file,
-                                  ImageDecoder& decoder);
+/// encoded again. `file` is what is in the file of a list of copied files, see `copiedFile`. What
+/// the decoder would not read back is too large. Takes seconds; any thread but the main one.
+[[nodiscard]] KeptImage imageToKeep(const PasteboardSnapshot& contents, const CopiedContents& file,
+                                    ImageDecoder& decoder);
 
 } // namespace ravelo

@@ -1,6 +1,7 @@
 #include "store/SnippetImage.h"
 
 #include "base/Scheduler.h"
+#include "platform/DetachedJobs.h"
 #include "platform/Pasteboard.h"
 #include "platform/Worker.h"
 #include "store/CopiedFile.h"
@@ -44,9 +45,8 @@ private:
     }
 
     [[nodiscard]] PasteboardPlan plan() const {
-        return [decoder = services_.decoder,
-                looks = std::make_shared<PictureLooks>()](const PasteboardSnapshot& contents) {
-            return nextImageType(contents, *looks, *decoder);
+        return [useless = useless_](const PasteboardSnapshot& contents) {
+            return nextImageType(contents, useless);
         };
     }
 
@@ -64,22 +64,43 @@ private:
     void readFile(const PasteboardSnapshot& contents) {
         const QByteArray path = copiedFile(contents);
         if (path.isEmpty()) {
-            write(contents, {});
+            convert(contents, {});
             return;
         }
         file_ = readCopiedFile(services_.copiedFiles, services_.scheduler, path,
                                [weak = weak_from_this(), contents](const CopiedContents& file) {
                                    if (const auto self = weak.lock()) {
-                                       self->write(contents, file.bytes);
+                                       self->convert(contents, file);
                                    }
                                });
     }
 
-    void write(const PasteboardSnapshot& contents, const QByteArray& file) {
+    void convert(const PasteboardSnapshot& contents, const CopiedContents& file) {
+        const auto image = std::make_shared<KeptImage>();
+        converting_ = services_.conversions.run(
+            [contents, file, image, decoder = services_.decoder] {
+                *image = imageToKeep(contents, file, *decoder);
+            },
+            [weak = weak_from_this(), image, contents] {
+                if (const auto self = weak.lock()) {
+                    self->converted(contents, image->png);
+                }
+            });
+    }
+
+    void converted(const PasteboardSnapshot& contents, const QByteArray& png) {
+        useless_.append(imageType(contents));
+        if (png.isEmpty() && hasOtherForm(contents.types, useless_)) {
+            start();
+        } else {
+            write(png);
+        }
+    }
+
+    void write(const QByteArray& png) {
         const auto written = std::make_shared<bool>(false);
-        auto job = [path = path_, contents, file, written, decoder = services_.decoder,
-                    mayWrite = services_.mayWrite] {
-            *written = writeImage(path, pngImage(contents, file, *decoder), mayWrite).has_value();
+        auto job = [path = path_, png, written, mayWrite = services_.mayWrite] {
+            *written = writeImage(path, png, mayWrite).has_value();
         };
         services_.worker.run(std::move(job), [self = shared_from_this(), written] {
             if (!self->done_) {
@@ -103,6 +124,7 @@ private:
         timeout_.reset();
         reading_.reset();
         file_.reset();
+        converting_.reset();
     }
 
     void finish(bool written) {
@@ -118,6 +140,8 @@ private:
     Handle timeout_;
     Handle reading_;
     Handle file_;
+    Handle converting_;
+    QStringList useless_; ///< Forms that could not be decoded.
 };
 
 } // namespace

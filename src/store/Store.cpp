@@ -44,7 +44,7 @@ QString newImageFileName() {
 Store::Store(const QString& folder, Services services)
     : services_(services),
       folder_(QDir(folder).absolutePath()),
-      captures_({services.scheduler, services.worker, services.copiedFiles}),
+      captures_({services.scheduler, services.worker, services.copiedFiles, services.conversions}),
       look_(services.jobs, services.scheduler),
       reminders_(Reminders::load(services.preferences)) {
     makePrivateFolder(folder_);
@@ -63,7 +63,11 @@ QString Store::fileURL() const {
 }
 
 QString Store::clipsDir() const {
-    return folder_ + u"/clips"_s;
+    return clipsFolder(folder_);
+}
+
+QString Store::clipsFolder(const QString& folder) {
+    return QDir(folder).absolutePath() + u"/clips"_s;
 }
 
 QString Store::imagePath(const QString& imageFileName) const {
@@ -150,24 +154,24 @@ void Store::addClip(const QString& text, Kept kept) {
     if (captures_.isEmpty()) {
         add();
     } else {
-        captures_.add(
-            {}, [](const CopiedContents&) {}, unlessCleared(std::move(add), [] {}));
+        captures_.add({}, {{}, {}, unlessCleared(std::move(add), [] {})});
     }
 }
 
 void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused refused) {
     struct Outcome {
+        KeptImage image;
         bool written = false;
-        std::optional<TooLarge> tooLarge;
     };
 
     const QString name = newImageFileName();
     const auto outcome = std::make_shared<Outcome>();
-    auto job = [path = imagePath(name), contents, outcome, decoder = services_.decoder,
-                mayWrite = services_.mayWrite](const CopiedContents& file) {
-        const QByteArray png = pngImage(contents, file.bytes, *decoder);
-        outcome->written = writeImage(path, png, mayWrite).has_value();
-        outcome->tooLarge = png.isEmpty() ? oversizedFile(file, *decoder) : std::nullopt;
+    auto convert = [contents, outcome, decoder = services_.decoder](const CopiedContents& file) {
+        outcome->image = imageToKeep(contents, file, *decoder);
+    };
+    auto write = [path = imagePath(name), outcome, mayWrite = services_.mayWrite] {
+        outcome->written = writeImage(path, outcome->image.png, mayWrite).has_value();
+        outcome->image.png.clear();
     };
     auto add = [this, name, outcome, kept = std::move(kept), refused = std::move(refused),
                 now = services_.scheduler.now()] {
@@ -176,12 +180,13 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
             if (kept) {
                 kept(data_.clips.front().id);
             }
-        } else if (outcome->tooLarge && refused) {
-            refused(*outcome->tooLarge);
+        } else if (refused) {
+            refused(outcome->image.tooLarge);
         }
     };
-    captures_.add(copiedFile(contents), std::move(job),
-                  unlessCleared(std::move(add), [this, name] { removeImages({name}); }));
+    captures_.add(copiedFile(contents),
+                  {std::move(convert), std::move(write),
+                   unlessCleared(std::move(add), [this, name] { removeImages({name}); })});
 }
 
 /// The newest unpinned clip is the one, unless it is an image, which has a text too.
@@ -359,7 +364,7 @@ void Store::written(const SaveOutcome& outcome) {
 }
 
 void Store::flush() {
-    captures_.stopReading();
+    captures_.handOver();
     if (retry_) {
         save();
     }

@@ -57,6 +57,7 @@ public:
         AlertSound& sound;
         DetachedJobs& jobs;        ///< For looks at parked files.
         DetachedJobs& copiedFiles; ///< For reads of copied files; when full, they give nothing.
+        DetachedJobs& conversions; ///< To make PNG of images, which always ends.
         std::shared_ptr<ImageDecoder> decoder; ///< Jobs hold it, too.
         OwnFile::Permission mayWrite = {};     ///< Asked before each change of a file.
     };
@@ -71,6 +72,8 @@ public:
 
     [[nodiscard]] QString fileURL() const;
     [[nodiscard]] QString clipsDir() const;
+    /// What that is for a store in `folder`.
+    [[nodiscard]] static QString clipsFolder(const QString& folder);
     /// Absolute path of an image in the clips folder.
     [[nodiscard]] QString imagePath(const QString& imageFileName) const;
 
@@ -88,8 +91,9 @@ public:
     /// Called with the clip that holds the copy, new or old; not called if there is none.
     using Kept = std::function<void(const QUuid&)>;
 
-    /// Told that nothing is kept of what was copied, as it is too large.
-    using Refused = std::function<void(const TooLarge&)>;
+    /// Told that nothing is kept of an image that was copied: it is too large or, if it is nothing,
+    /// cannot be decoded or written. Never after the history was cleared.
+    using Refused = std::function<void(const std::optional<TooLarge>&)>;
 
     /// Adds a text, as `ClipHistory::added` has it. Waits behind images that are still being
     /// written, so that the order of the clips is the order of copying.

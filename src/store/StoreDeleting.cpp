@@ -25,6 +25,7 @@ void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
 
 void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
     ++clearings_;
+    captures_.drop();
     Q_EMIT cleared();
     ClipChange change = ClipHistory::cleared(data_.clips);
     takeOffDisk(deletedRecords(data_.clips, change.clips), kept);

@@ -49,7 +49,7 @@ class Clipboard : public testing::Test {
 public:
     Clipboard() {
         pasteboard.offerText(u"there before the start"_s);
-        manager.emplace(store, pasteboard, scheduler, jobs, decoder);
+        manager.emplace(store, pasteboard, scheduler, jobs);
         manager->start();
     }
 
@@ -76,7 +76,7 @@ public:
     FakeDetachedJobs jobs{scheduler};
     std::shared_ptr<ImageDecoder> decoder = std::make_shared<InProcessDecoder>();
     Store store{folder.path(),
-                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, decoder}};
+                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, jobs, decoder}};
     std::optional<ClipboardManager> manager;
 };
 

@@ -122,6 +122,17 @@ TEST_F(Clipboard, anImageReadFromAFileIsNotOfferedInOurName) {
     EXPECT_TRUE(pasteboard.contents().isEmpty());
 }
 
+/// 33 million pixels, black.
+QByteArray widePicture(const char* format) {
+    QImage image(8192, 4097, QImage::Format_Mono);
+    image.fill(0);
+    QBuffer buffer;
+    image.save(&buffer, format);
+    return buffer.data();
+}
+
+const QList<PasteboardEntry> widePng{{u"image/png"_s, widePicture("PNG")}};
+
 struct SaveCase {
     const char* name;
     QList<PasteboardEntry> offered;
@@ -136,6 +147,10 @@ TEST_P(SaveTable, keepsAnEndingProgramWaitingUntilItsCopyIsRead) {
     pasteboard.askToSave();
     EXPECT_EQ(pasteboard.saveAnswer(), std::nullopt) << "answered before it was read";
     scheduler.advance(Seconds(0.01));
+    if (GetParam().offered.front().type.startsWith("image/"_L1)) {
+        EXPECT_EQ(pasteboard.saveAnswer(), std::nullopt) << "answered before it was written";
+        worker.drain();
+    }
     EXPECT_EQ(pasteboard.saveAnswer(), GetParam().expected);
     pasteboard.askToSave();
     EXPECT_EQ(pasteboard.saveAnswer(), GetParam().expected) << "asked again";
@@ -148,6 +163,11 @@ INSTANTIATE_TEST_SUITE_P(
     Contents, SaveTable,
     testing::Values(SaveCase{"text", abc, SaveAnswer::saved, abc},
                     SaveCase{"image", png, SaveAnswer::saved, png},
+                    SaveCase{"tooManyPixels", widePng, SaveAnswer::refused, {}},
+                    SaveCase{"noPicture",
+                             {{u"image/bmp"_s, picture("bmp").first(20)}},
+                             SaveAnswer::refused,
+                             {}},
                     SaveCase{"blank", {text(" ")}, SaveAnswer::refused, {}},
                     SaveCase{"unknown", {{u"x/y"_s, "z"}}, SaveAnswer::refused, {}},
                     SaveCase{"concealed", {text("pass"), secret}, SaveAnswer::refused, {}}),
@@ -197,15 +217,6 @@ TEST_P(TooLargeTable, isSaidOnceACopyOfWhichNothingIsKept) {
     EXPECT_EQ(store.clips().size(), GetParam().clips);
 }
 
-/// 33 million pixels, black.
-QByteArray widePicture() {
-    QImage image(8192, 4097, QImage::Format_Mono);
-    image.fill(0);
-    QBuffer buffer;
-    image.save(&buffer, "BMP");
-    return buffer.data();
-}
-
 const PasteboardEntry refusedPng{u"image/png"_s, {}};
 const PasteboardEntry refusedText{plainTextType, {}};
 const QHash<QString, qint64> largeText{{plainTextType, 9'000'000}};
@@ -217,9 +228,10 @@ INSTANTIATE_TEST_SUITE_P(
         TooLargeCase{"text", {refusedText}, largeText, std::pair(TooLarge::Kind::text, 9'000'000)},
         TooLargeCase{"image", {refusedPng}, largePng, std::pair(TooLarge::Kind::image, 70'000'000)},
         TooLargeCase{"pixels",
-                     {{u"image/bmp"_s, widePicture()}},
+                     {{u"image/bmp"_s, widePicture("BMP")}},
                      {},
                      std::pair(TooLarge::Kind::pixels, 8192 * 4097)},
+        TooLargeCase{"pixelsOfPng", widePng, {}, std::pair(TooLarge::Kind::pixels, 8192 * 4097)},
         TooLargeCase{"otherForm", {refusedPng, {u"image/bmp"_s, picture("bmp")}}, largePng, {}, 1},
         TooLargeCase{"imageInstead", {refusedText, png.front()}, largeText, {}, 1},
         TooLargeCase{"refused", {refusedText, refusedPng}, {}, {}}),
@@ -237,7 +249,10 @@ struct LargeFile {
 TEST_F(Clipboard, aCopiedImageFileThatIsTooLargeIsSaidOnce) {
     const LargeFile files[] = {
         {"bytes", picture("png"), overLimit, {{TooLarge::Kind::image, overLimit}}},
-        {"pixels", widePicture(), widePicture().size(), {{TooLarge::Kind::pixels, 8192 * 4097}}},
+        {"pixels",
+         widePicture("BMP"),
+         widePicture("BMP").size(),
+         {{TooLarge::Kind::pixels, 8192 * 4097}}},
         {"noPicture", "text", overLimit, {}}};
     for (const LargeFile& large : files) {
         QList<std::pair<TooLarge::Kind, qint64>> said;

@@ -2,6 +2,7 @@
 #include "platform/system/DecoderProcess.h"
 
 #include <QFile>
+#include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
@@ -23,7 +24,21 @@ qint64 residentBytes() {
     return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
 }
 
-void readAll(ImageDecoder& decoder, const QByteArray& picture) {
+/// Files: each picture that was copied would cost a process of its own.
+class Files {
+public:
+    PictureFile next(const QByteArray& picture) {
+        QFile file(folder_.filePath(QString::number(count_++)));
+        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(picture) == picture.size());
+        return {QFile::encodeName(file.fileName())};
+    }
+
+private:
+    QTemporaryDir folder_;
+    int count_ = 0;
+};
+
+void readAll(ImageDecoder& decoder, const PictureFile& picture) {
     (void)decoder.size(picture);
     (void)decoder.filling(picture, {28, 28, 40});
     (void)decoder.png(picture);
@@ -48,7 +63,8 @@ std::chrono::milliseconds longestPause(Work work) {
 }
 
 void expectNothingMoved(DecoderProcess& decoder, const std::function<void()>& work) {
-    readAll(decoder, samples::picture("png"));
+    Files files;
+    readAll(decoder, files.next(samples::picture("png")));
     malloc_trim(0);
     const qint64 before = residentBytes();
     const auto pause = longestPause(work);
@@ -64,11 +80,12 @@ void expectNothingMoved(DecoderProcess& decoder, const std::function<void()>& wo
 class BrokenPictures : public testing::TestWithParam<const char*> {};
 
 TEST_P(BrokenPictures, CostNothingButThemselves) {
-    DecoderProcess decoder(RAVELO_DECODE);
+    DecoderProcess decoder(RAVELO_DECODE, "/nowhere");
     const QByteArray whole = samples::picture(GetParam());
+    Files files;
     expectNothingMoved(decoder, [&] {
         for (quint32 seed = 0; seed < count; ++seed) {
-            readAll(decoder, samples::broken(whole, seed));
+            readAll(decoder, files.next(samples::broken(whole, seed)));
         }
     });
 }
@@ -76,11 +93,12 @@ TEST_P(BrokenPictures, CostNothingButThemselves) {
 INSTANTIATE_TEST_SUITE_P(Thousand, BrokenPictures, testing::ValuesIn(samples::formats));
 
 TEST(Bombs, AreRefusedOrMadeSmall) {
-    DecoderProcess decoder(RAVELO_DECODE);
+    DecoderProcess decoder(RAVELO_DECODE, "/nowhere");
     const QList<samples::Bomb> bombs = samples::bombs();
+    Files files;
     expectNothingMoved(decoder, [&] {
         for (const samples::Bomb& bomb : bombs) {
-            readAll(decoder, bomb.bytes);
+            readAll(decoder, files.next(bomb.bytes));
         }
     });
     for (const samples::Bomb& bomb : bombs.first(3)) {

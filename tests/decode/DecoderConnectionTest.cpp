@@ -1,8 +1,10 @@
-// What comes from a decoder that has been count over.
+// What comes from a decoder that has been taken over.
 
 #include "platform/system/DecoderConnection.h"
+#include "decode/Packets.h"
 
 #include <QBuffer>
+#include <QDir>
 #include <QImage>
 
 #include <gtest/gtest.h>
@@ -32,33 +34,40 @@ protected:
     }
 
     template <typename Packet>
-    void say(Packet packet, const Descriptor& memory) {
-        std::array<char, CMSG_SPACE(sizeof(int))> room{};
-        iovec part{&packet, sizeof(packet)};
+    void say(const Packet& packet, const Descriptor& memory) {
+        ASSERT_TRUE(sendPacket(theirs.number(), &packet, sizeof(packet), memory.number()));
+    }
+
+    /// A reply cut to `size` bytes, with the descriptor twice.
+    void sayTwice(Reply reply, size_t size, const Descriptor& memory) {
+        const std::array numbers{memory.number(), memory.number()};
+        std::array<char, CMSG_SPACE(sizeof(numbers))> room{};
+        iovec part{&reply, size};
         msghdr message{};
         message.msg_iov = &part;
         message.msg_iovlen = 1;
-        if (memory) {
-            message.msg_control = room.data();
-            message.msg_controllen = room.size();
-            cmsghdr* const header = CMSG_FIRSTHDR(&message);
-            header->cmsg_level = SOL_SOCKET;
-            header->cmsg_type = SCM_RIGHTS;
-            header->cmsg_len = CMSG_LEN(sizeof(int));
-            const int number = memory.number();
-            std::memcpy(CMSG_DATA(header), &number, sizeof(number));
-        }
-        ASSERT_EQ(sendmsg(theirs.number(), &message, 0), sizeof(packet));
+        message.msg_control = room.data();
+        message.msg_controllen = room.size();
+        cmsghdr* const header = CMSG_FIRSTHDR(&message);
+        header->cmsg_level = SOL_SOCKET;
+        header->cmsg_type = SCM_RIGHTS;
+        header->cmsg_len = CMSG_LEN(sizeof(numbers));
+        std::memcpy(CMSG_DATA(header), numbers.data(), sizeof(numbers));
+        ASSERT_EQ(sendmsg(theirs.number(), &message, 0), static_cast<ssize_t>(size));
     }
 
     Descriptor theirs;
     std::unique_ptr<DecoderConnection> ours;
 };
 
+Descriptor sealed(const QByteArray& bytes) {
+    return Descriptor(sealedMemory(bytes));
+}
+
 constexpr Reply sixteen{Status::done, 2, 2, 0, 16};
 
 TEST_F(Liar, IsBelievedWhatHolds) {
-    say(sixteen, sealedMemory("0123456789abcdef"));
+    say(sixteen, sealed("0123456789abcdef"));
     const auto answer = ours->receive(timeout);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->contents, "0123456789abcdef");
@@ -81,10 +90,10 @@ TEST_F(Liar, IsNotBelievedASizeThatIsNotThere) {
         say(reply, memory);
         return ours->receive(timeout).has_value();
     };
-    EXPECT_FALSE(lie(sixteen, sealedMemory("0123456789abcde"))) << "less than it says";
-    EXPECT_FALSE(lie(sixteen, sealedMemory("0123456789abcdefg"))) << "more than it says";
+    EXPECT_FALSE(lie(sixteen, sealed("0123456789abcde"))) << "less than it says";
+    EXPECT_FALSE(lie(sixteen, sealed("0123456789abcdefg"))) << "more than it says";
     EXPECT_FALSE(lie(sixteen, Descriptor())) << "nothing at all";
-    EXPECT_FALSE(lie(negative, sealedMemory("0123456789abcdef"))) << "less than nothing";
+    EXPECT_FALSE(lie(negative, sealed("0123456789abcdef"))) << "less than nothing";
     EXPECT_FALSE(lie(sixteen, Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC)))) << "a device";
 }
 
@@ -96,6 +105,26 @@ TEST_F(Liar, IsNotBelievedAPacketOfAnotherSize) {
     EXPECT_FALSE(ours->receive(std::chrono::milliseconds(1))) << "silence";
 }
 
+qsizetype openDescriptors() {
+    return QDir(QStringLiteral("/proc/self/fd")).entryList(QDir::AllEntries | QDir::System).size();
+}
+
+TEST_F(Liar, LeavesNoDescriptorBehind) {
+    const Descriptor memory = sealed("0123456789abcdef");
+    const qsizetype before = openDescriptors();
+    Reply empty = sixteen;
+    empty.bytes = 0;
+    sayTwice(sixteen, sizeof(sixteen), memory);
+    EXPECT_FALSE(ours->receive(timeout)) << "two descriptors";
+    sayTwice(empty, sizeof(empty), memory);
+    EXPECT_FALSE(ours->receive(timeout)) << "two descriptors for nothing";
+    say(empty, memory);
+    EXPECT_FALSE(ours->receive(timeout)) << "a descriptor for nothing";
+    sayTwice(empty, 0, memory);
+    EXPECT_FALSE(ours->receive(timeout)) << "an empty packet";
+    EXPECT_EQ(openDescriptors(), before) << "descriptors that nobody closes";
+}
+
 TEST(Decoder, IsKilledWhenItsTimeIsOver) {
     auto decoder = DecoderConnection::start(RAVELO_DECODE);
     ASSERT_TRUE(decoder && decoder->isReady());
@@ -103,7 +132,7 @@ TEST(Decoder, IsKilledWhenItsTimeIsOver) {
     image.fill(Qt::green);
     QBuffer file;
     ASSERT_TRUE(image.save(&file, "bmp"));
-    const Descriptor large = sealedMemory(file.data());
+    const Descriptor large = sealed(file.data());
     ASSERT_TRUE(decoder->send({Kind::png, 0, 0, 0, 20}, large));
     EXPECT_FALSE(decoder->receive(std::chrono::seconds(20))) << "it took as long as it liked";
     EXPECT_FALSE(decoder->send({Kind::probe, 0, 0, 0, 0}, large)) << "it is still there";

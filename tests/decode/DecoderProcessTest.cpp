@@ -46,7 +46,8 @@ protected:
         script.write("#!/bin/sh\necho >>\"${0}ed\"\nexec " RAVELO_DECODE "\n");
         script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
         script.close();
-        decoder = std::make_unique<DecoderProcess>(QFile::encodeName(script.fileName()));
+        decoder = std::make_unique<DecoderProcess>(QFile::encodeName(script.fileName()),
+                                                   QFile::encodeName(folder.filePath(u"own"_s)));
     }
 
     [[nodiscard]] qsizetype starts() const {
@@ -70,18 +71,39 @@ constexpr auto deadly = R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" hei
 TEST_F(CountedDecoder, ServesManyAndKeepsWhatIsSmall) {
     const PictureFile file = write("a.png", samples::picture("png"));
     EXPECT_EQ(starts(), 0) << "started without need";
-    EXPECT_EQ(decoder->size(samples::picture("bmp")), QSize(64, 32));
+    EXPECT_EQ(decoder->size(file), QSize(64, 32));
     EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8));
     EXPECT_EQ(decoder->filling(file, {8, 8, 9}).size(), QSize(9, 8));
     EXPECT_EQ(starts(), 1) << "a process for each picture";
     QFile::remove(folder.filePath(u"start"_s));
-    decoder = std::make_unique<DecoderProcess>(RAVELO_DECODE);
+    decoder = std::make_unique<DecoderProcess>(RAVELO_DECODE, "/nowhere");
     EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8));
     ASSERT_EQ(children().size(), 1);
     kill(children().first().toInt(), SIGKILL);
     EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8)) << "it is not kept";
     EXPECT_TRUE(eventually([] { return children().isEmpty(); }));
     EXPECT_EQ(decoder->filling(file, {9, 9, 9}).size(), QSize(9, 9)) << "no new process came";
+}
+
+TEST_F(CountedDecoder, KeepsPicturesOfDifferentOriginApart) {
+    ASSERT_TRUE(QDir(folder.path()).mkdir(u"own"_s));
+    const PictureFile own = write("own/a.png", samples::picture("png"));
+    const PictureFile other = write("a.png", samples::picture("png"));
+    const PictureBytes copied = samples::picture("png");
+
+    const struct {
+        UntrustedPicture picture;
+        int starts;
+        const char* what;
+    } steps[] = {{own, 1, "the first one of ours"}, {other, 2, "a file of others sees ours"},
+                 {own, 2, "ours have a process"},   {copied, 3, "what was copied sees a file"},
+                 {copied, 4, "the next copy"},      {other, 4, "other files have a process"},
+                 {own, 4, "ours have it still"}};
+
+    for (const auto& step : steps) {
+        EXPECT_EQ(decoder->size(step.picture), QSize(64, 32)) << step.what;
+        EXPECT_EQ(starts(), step.starts) << step.what;
+    }
 }
 
 TEST_F(CountedDecoder, ForgetsOneFileOnly) {
@@ -120,9 +142,15 @@ TEST_F(CountedDecoder, CostsAPictureOnlyIfThereIsNone) {
     EXPECT_EQ(decoder->size(file), QSize(64, 32)) << "the picture is blamed";
 }
 
-TEST(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
-    auto decoder = std::make_unique<DecoderProcess>(RAVELO_DECODE);
-    ASSERT_EQ(decoder->size(samples::picture("png")), QSize(64, 32));
+class DecoderProcessLife : public CountedDecoder {
+protected:
+    DecoderProcessLife() { decoder = std::make_unique<DecoderProcess>(RAVELO_DECODE, "/nowhere"); }
+
+    PictureFile file = write("a.png", samples::picture("png"));
+};
+
+TEST_F(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
+    ASSERT_EQ(decoder->size(file), QSize(64, 32));
     ASSERT_EQ(children().size(), 1);
     const QString process = u"/proc/"_s + children().first();
     const QByteArray status = contentsOf(process + u"/status"_s);
@@ -138,15 +166,25 @@ TEST(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
     EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it stays";
 }
 
-TEST(DecoderProcessLife, EndsWithoutWork) {
-    const auto decoder = std::make_unique<DecoderProcess>(RAVELO_DECODE);
-    ASSERT_EQ(decoder->size(samples::picture("png")), QSize(64, 32));
+TEST_F(CountedDecoder, IsKilledIfItDoesNotEnd) {
+    QFile script(folder.filePath(u"start"_s));
+    ASSERT_TRUE(script.open(QFile::WriteOnly));
+    script.write("#!/bin/sh\nexec sleep 1000\n");
+    script.close();
+    auto connection = DecoderConnection::start(QFile::encodeName(script.fileName()));
+    ASSERT_EQ(children().size(), 1);
+    connection.reset();
+    EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it sleeps on";
+}
+
+TEST_F(DecoderProcessLife, EndsWithoutWork) {
+    ASSERT_EQ(decoder->size(file), QSize(64, 32));
     EXPECT_EQ(children().size(), 1);
     const auto gone = [] {
         return children().isEmpty();
     };
     EXPECT_TRUE(eventually(gone) || eventually(gone)) << "it stays"; // 20 s are its own time.
-    EXPECT_EQ(decoder->size(samples::picture("png")), QSize(64, 32)) << "none came in its place";
+    EXPECT_EQ(decoder->size(file), QSize(64, 32)) << "none came in its place";
 }
 
 } // namespace

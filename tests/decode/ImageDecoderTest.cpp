@@ -28,7 +28,7 @@ std::unique_ptr<ImageDecoder> make<InProcessDecoder>() {
 
 template <>
 std::unique_ptr<ImageDecoder> make<DecoderProcess>() {
-    return std::make_unique<DecoderProcess>(RAVELO_DECODE);
+    return std::make_unique<DecoderProcess>(RAVELO_DECODE, "/nowhere");
 }
 
 template <typename Decoder>
@@ -101,7 +101,7 @@ TYPED_TEST(Decoding, RefusesWhatIsNoPictureFile) {
     const QString pipe = this->folder.filePath(u"pipe"_s);
     ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
     const PictureFile big = this->write(samples::picture("bmp"), u"big.bmp"_s);
-    ASSERT_TRUE(QFile::resize(QFile::decodeName(big.path), decode::maxInput + 1));
+    ASSERT_TRUE(QFile::resize(QFile::decodeName(big.path), decode::maxBytes + 1));
     for (const QByteArray& path :
          {QFile::encodeName(pipe), big.path, QFile::encodeName(this->folder.path()),
           QByteArray("/no/such/file.png"), QByteArray("/dev/zero")}) {

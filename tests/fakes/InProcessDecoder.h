@@ -42,8 +42,8 @@ private:
     static QByteArray bytesOf(const PictureBytes& bytes) { return bytes; }
 
     static QByteArray bytesOf(const PictureFile& file) {
-        const auto bytes = readFileEnd(file.path, decode::maxInput + 1);
-        return bytes && bytes->size() <= decode::maxInput ? *bytes : QByteArray();
+        const auto bytes = readFileEnd(file.path, decode::maxBytes + 1);
+        return bytes && bytes->size() <= decode::maxBytes ? *bytes : QByteArray();
     }
 
     static decode::Picture decoded(const UntrustedPicture& picture,

@@ -35,7 +35,7 @@ struct PanelWorld {
     /// The store begins with `data`.
     explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
         : store(filled(folder, data),
-                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, decoder}),
+                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, jobs, decoder}),
           controller(store, clipboard, settings,
                      {scheduler,
                       screens,
@@ -92,7 +92,7 @@ struct PanelWorld {
     Notices notices{scheduler};
     Store store;
     AppSettings settings{preferences, loginItem};
-    ClipboardManager clipboard{store, pasteboard, scheduler, jobs, decoder};
+    ClipboardManager clipboard{store, pasteboard, scheduler, jobs};
     NotchController controller;
 
 private:

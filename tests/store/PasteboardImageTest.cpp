@@ -65,16 +65,15 @@ protected:
 
     QByteArray image() {
         PasteboardSnapshot snapshot;
-        PictureLooks looks;
-        const Handle reading = pasteboard_.read(
-            [&](const PasteboardSnapshot& read) { return nextImageType(read, looks, decoder_); },
-            [&](const PasteboardSnapshot& read) { snapshot = read; });
+        const Handle reading =
+            pasteboard_.read([&](const PasteboardSnapshot& read) { return nextImageType(read); },
+                             [&](const PasteboardSnapshot& read) { snapshot = read; });
         scheduler_.advance(Seconds(1));
-        QByteArray file;
+        CopiedContents file;
         const Handle readingFile = readCopiedFile(jobs_, scheduler_, copiedFile(snapshot),
-                                                  [&](const auto& read) { file = read.bytes; });
+                                                  [&](const auto& read) { file = read; });
         scheduler_.advance(Seconds(0));
-        return pngImage(snapshot, file, decoder_);
+        return imageToKeep(snapshot, file, decoder_).png;
     }
 
     ManualScheduler scheduler_;
@@ -99,7 +98,7 @@ INSTANTIATE_TEST_SUITE_P(
         Offer{"image/bmp=bmp:blue image/jpeg=jpeg:red", "image/jpeg", "red"},
         Offer{"image/gif=junk image/webp=webp:blue", "image/webp", "blue"},
         Offer{"image/x-rare=png:red image/gif=junk", "image/gif image/x-rare", "red"},
-        Offer{"image/bmp=bomb image/x-rare=bmp:blue", "image/bmp image/x-rare", "blue"},
+        Offer{"image/bmp=svg image/x-rare=bmp:blue", "image/bmp image/x-rare", "blue"},
         Offer{"image/bmp=bomb", "image/bmp", "none"}, Offer{"image/bmp=svg", "image/bmp", "none"},
         Offer{"image/svg+xml=svg text/plain=svg", "", "none"},
         Offer{"text/html=x text/plain=y", "", "none"},

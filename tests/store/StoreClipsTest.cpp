@@ -71,7 +71,7 @@ TEST_F(StoreClips, OrderOfCopyingIsKept) {
 TEST_F(StoreClips, ImageMakesItsFolderAgain) {
     ASSERT_TRUE(QDir(store_->clipsDir()).removeRecursively());
     store_->addImageClip(png(Qt::red));
-    worker_.drain();
+    settle(Seconds(0));
     EXPECT_EQ(texts(), "red");
 }
 
@@ -118,7 +118,7 @@ TEST_P(BadImage, AddsNothing) {
         ASSERT_TRUE(QFile(store_->clipsDir()).open(QFile::WriteOnly)) << "a file in its place";
     }
     store_->addImageClip(GetParam() ? png(Qt::red) : PasteboardSnapshot{{u"image/bmp"_s}, {}});
-    worker_.drain();
+    settle(Seconds(0));
     expectNoSave();
     EXPECT_EQ(texts(), "");
     EXPECT_EQ(imageFiles(), QStringList());
@@ -148,6 +148,21 @@ TEST_F(StoreClips, DeletingAndClearingTakeTheirFilesAlong) {
         decoder_->forgotten.contains(QFile::encodeName(store_->imagePath(pinned.imageFileName))));
 }
 
+TEST_F(StoreClips, DeletingDoesNotWaitForAnImageThatIsConverted) {
+    const QUuid deleted = add(u"deleted"_s);
+    settle();
+    conversions_.hung = true;
+    store_->addImageClip(png(Qt::red));
+    scheduler_.advance(Seconds(0.1));
+    EXPECT_EQ(worker_.pending(), 0) << "the worker has to convert it";
+    store_->deleteClip(deleted);
+    settle(Seconds(0));
+    EXPECT_EQ(saved().clips.size(), 0);
+    store_->flush();
+    EXPECT_EQ(texts(), "red") << "the end of the program waits for it";
+    EXPECT_EQ(saved().clips.size(), 1);
+}
+
 TEST_F(StoreClips, ClearingTakesWhatIsOnItsWay) {
     store_->addImageClip(png(Qt::red));
     store_->addClip(u"secret"_s);
@@ -162,7 +177,7 @@ TEST_F(StoreClips, ClearingTakesWhatIsOnItsWay) {
 TEST_F(StoreClips, PushedOutImageLosesItsFileOnlyToAnImage) {
     store_->addImageClip(png(Qt::red));
     store_->addImageClip(png(Qt::blue));
-    worker_.drain();
+    settle(Seconds(0));
     for (int i = 0; i < 59; ++i) {
         add(QString::number(i));
     }

@@ -41,7 +41,7 @@ protected:
 
     [[nodiscard]] Store::Services services() {
         return {scheduler_, worker_,      preferences_, pasteboard_, sound_,
-                jobs_,      copiedFiles_, decoder_,     mayWrite_};
+                jobs_,      copiedFiles_, conversions_, decoder_,    mayWrite_};
     }
 
     [[nodiscard]] QString folder() const { return directory_.filePath(QStringLiteral("Ravelo")); }
@@ -85,6 +85,7 @@ protected:
     FakeAlertSound sound_;
     FakeDetachedJobs jobs_{scheduler_};
     FakeDetachedJobs copiedFiles_{scheduler_};
+    FakeDetachedJobs conversions_{scheduler_};
     std::shared_ptr<InProcessDecoder> decoder_ = std::make_shared<InProcessDecoder>();
     OwnFile::Permission mayWrite_;
     std::unique_ptr<Store> store_;

@@ -1,18 +1,20 @@
 #include "platform/system/DecoderConnection.h"
 
+#include "decode/Packets.h"
+
 #include <array>
 #include <cerrno>
 #include <csignal>
-#include <cstring>
 #include <thread>
 
 #include <fcntl.h>
 #include <poll.h>
 #include <spawn.h>
-#include <sys/mman.h>
 #include <sys/socket.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
+#include <unistd.h>
 
 namespace ravelo {
 
@@ -21,13 +23,6 @@ namespace {
 using namespace decode;
 
 constexpr std::chrono::milliseconds startTime(5000); ///< On a busy machine.
-constexpr int allSeals = F_SEAL_SEAL | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
-
-/// Room for one descriptor beside a packet.
-union Ancillary {
-    cmsghdr header;
-    std::array<char, CMSG_SPACE(sizeof(int))> room;
-};
 
 /// Without environment, other descriptors or blocked signals. 0 if it could not be started.
 pid_t spawn(const QByteArray& program, int socket) {
@@ -58,20 +53,10 @@ pid_t spawn(const QByteArray& program, int socket) {
     return child;
 }
 
-Descriptor descriptorIn(msghdr& message) {
-    const cmsghdr* const header = CMSG_FIRSTHDR(&message);
-    int file = -1;
-    if (header != nullptr && header->cmsg_type == SCM_RIGHTS &&
-        header->cmsg_len == CMSG_LEN(sizeof(int))) {
-        std::memcpy(&file, CMSG_DATA(header), sizeof(file));
-    }
-    return Descriptor(file);
-}
-
 /// Nothing if the size differs or the memory is not sealed.
 std::optional<QByteArray> contents(const Descriptor& memory, int64_t size) {
     struct stat info = {};
-    if (size <= 0 || size > maxOutput || !memory || fstat(memory.number(), &info) != 0 ||
+    if (size <= 0 || size > maxBytes || !memory || fstat(memory.number(), &info) != 0 ||
         info.st_size != size || fcntl(memory.number(), F_GET_SEALS) != allSeals) {
         return std::nullopt;
     }
@@ -106,30 +91,27 @@ std::optional<DecoderConnection> DecoderConnection::start(const QByteArray& prog
     if (child == 0) {
         return std::nullopt;
     }
+    // Opened before the child can be reaped, so the number cannot mean another process.
+    Descriptor process(static_cast<int>(syscall(SYS_pidfd_open, child, 0)));
     // It ends by itself at any time, so something must reap it: forking twice would take longer
     // than reading most pictures.
     std::thread([child] {
         while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
         }
     }).detach();
-    return DecoderConnection(std::move(ours));
+    return process ? std::optional<DecoderConnection>(std::in_place, std::move(ours),
+                                                      std::move(process))
+                   : std::nullopt;
+}
+
+DecoderConnection::~DecoderConnection() {
+    if (process_) { // One that has been taken over would not end by itself.
+        syscall(SYS_pidfd_send_signal, process_.number(), SIGKILL, nullptr, 0);
+    }
 }
 
 bool DecoderConnection::send(const Request& request, const Descriptor& picture) {
-    Request copy = request;
-    Ancillary ancillary{};
-    iovec packet{&copy, sizeof(copy)};
-    msghdr message{};
-    message.msg_iov = &packet;
-    message.msg_iovlen = 1;
-    message.msg_control = ancillary.room.data();
-    message.msg_controllen = ancillary.room.size();
-    ancillary.header.cmsg_level = SOL_SOCKET;
-    ancillary.header.cmsg_type = SCM_RIGHTS;
-    ancillary.header.cmsg_len = CMSG_LEN(sizeof(int));
-    const int file = picture.number();
-    std::memcpy(CMSG_DATA(&ancillary.header), &file, sizeof(file));
-    return sendmsg(socket_.number(), &message, MSG_NOSIGNAL) == sizeof(copy);
+    return sendPacket(socket_.number(), &request, sizeof(request), picture.number());
 }
 
 bool DecoderConnection::isReady() {
@@ -143,22 +125,16 @@ bool DecoderConnection::isReady() {
 std::optional<DecoderConnection::Answer>
 DecoderConnection::receive(std::chrono::milliseconds timeout) {
     Answer answer{};
-    Ancillary ancillary{};
-    iovec packet{&answer.reply, sizeof(answer.reply)};
-    msghdr message{};
-    message.msg_iov = &packet;
-    message.msg_iovlen = 1;
-    message.msg_control = ancillary.room.data();
-    message.msg_controllen = ancillary.room.size();
     if (!waitFor(socket_, timeout)) {
         return std::nullopt;
     }
-    const ssize_t size = recvmsg(socket_.number(), &message, MSG_CMSG_CLOEXEC | MSG_DONTWAIT);
-    const Descriptor memory = size > 0 ? descriptorIn(message) : Descriptor();
-    if (size != sizeof(answer.reply) || (message.msg_flags & (MSG_TRUNC | MSG_CTRUNC)) != 0) {
+    const Received received =
+        receivePacket(socket_.number(), &answer.reply, sizeof(answer.reply), MSG_DONTWAIT);
+    const Descriptor memory(received.file);
+    if (!received.whole) {
         return std::nullopt;
     }
-    if (answer.reply.bytes == 0) {
+    if (answer.reply.bytes == 0 && !memory) {
         return answer;
     }
     auto bytes = contents(memory, answer.reply.bytes);
@@ -167,14 +143,6 @@ DecoderConnection::receive(std::chrono::milliseconds timeout) {
     }
     answer.contents = std::move(*bytes);
     return answer;
-}
-
-Descriptor sealedMemory(const QByteArray& bytes) {
-    Descriptor memory(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
-    const bool whole = memory && write(memory.number(), bytes.constData(),
-                                       static_cast<size_t>(bytes.size())) == bytes.size();
-    return whole && fcntl(memory.number(), F_ADD_SEALS, allSeals) == 0 ? std::move(memory)
-                                                                       : Descriptor();
 }
 
 } // namespace ravelo

@@ -10,7 +10,7 @@
 
 namespace ravelo {
 
-/// The socket to one ravelo-decode, which ends when it is closed. Its replies are not trusted.
+/// The socket to one ravelo-decode, which is killed with it. Its replies are not trusted.
 /// Blocks; one thread at a time.
 class DecoderConnection {
 public:
@@ -22,8 +22,15 @@ public:
     /// Starts the program, which needs no waiting for; nothing if that fails.
     [[nodiscard]] static std::optional<DecoderConnection> start(const QByteArray& program);
 
-    /// Uses an existing socket.
-    explicit DecoderConnection(Descriptor socket) : socket_(std::move(socket)) {}
+    /// Uses an existing socket; `process` is the pidfd of the other side, if that is to be killed.
+    explicit DecoderConnection(Descriptor socket, Descriptor process = {})
+        : socket_(std::move(socket)), process_(std::move(process)) {}
+
+    DecoderConnection(DecoderConnection&&) noexcept = default;
+    DecoderConnection& operator=(DecoderConnection&&) noexcept = default;
+    DecoderConnection(const DecoderConnection&) = delete;
+    DecoderConnection& operator=(const DecoderConnection&) = delete;
+    ~DecoderConnection();
 
     /// False if the other side has closed.
     [[nodiscard]] bool send(const decode::Request& request, const Descriptor& picture);
@@ -36,10 +43,8 @@ public:
 
 private:
     Descriptor socket_;
+    Descriptor process_;
     bool ready_ = false;
 };
-
-/// A sealed memfd with these bytes.
-[[nodiscard]] Descriptor sealedMemory(const QByteArray& bytes);
 
 } // namespace ravelo

@@ -1,8 +1,11 @@
 #include "platform/system/DecoderProcess.h"
 
+#include "decode/Packets.h"
+
 #include <QFile>
 #include <QHash>
 
+#include <algorithm>
 #include <cstring>
 #include <utility>
 
@@ -69,6 +72,7 @@ bool fits(const Request& request, const DecoderConnection::Answer& answer) {
 
 /// An open picture and its key in the cache.
 struct DecoderProcess::Source {
+    Origin origin = Origin::elsewhere;
     Descriptor descriptor;
     QByteArray identity;
 
@@ -78,7 +82,7 @@ struct DecoderProcess::Source {
         struct stat info = {};
         // A pipe or a device may block for ever.
         if (opened && fstat(opened.number(), &info) == 0 && S_ISREG(info.st_mode) &&
-            info.st_size > 0 && info.st_size <= maxInput) {
+            info.st_size > 0 && info.st_size <= maxBytes) {
             descriptor = std::move(opened);
             identity = bytesOf(info.st_dev) + bytesOf(info.st_ino) + bytesOf(info.st_size) +
                        bytesOf(info.st_mtim);
@@ -86,19 +90,28 @@ struct DecoderProcess::Source {
     }
 
     explicit Source(const PictureBytes& bytes) {
-        if (!bytes.isEmpty() && bytes.size() <= maxInput) {
-            descriptor = sealedMemory(bytes);
+        if (!bytes.isEmpty() && bytes.size() <= maxBytes) {
+            descriptor = Descriptor(sealedMemory(bytes));
             identity = bytesOf(bytes.size()) + bytesOf(qHash(bytes));
         }
     }
-
-    static Source of(const UntrustedPicture& picture) {
-        return std::visit([](const auto& kind) { return Source(kind); }, picture);
-    }
 };
 
+DecoderProcess::Origin DecoderProcess::originOf(const UntrustedPicture& picture) const {
+    const auto* const file = std::get_if<PictureFile>(&picture);
+    return file == nullptr                     ? Origin::copied
+           : file->path.startsWith(ownFolder_) ? Origin::own
+                                               : Origin::elsewhere;
+}
+
+DecoderProcess::Source DecoderProcess::sourceOf(const UntrustedPicture& picture) const {
+    Source source = std::visit([](const auto& kind) { return Source(kind); }, picture);
+    source.origin = originOf(picture);
+    return source;
+}
+
 PictureLook DecoderProcess::look(const UntrustedPicture& picture) {
-    const auto answer = ask(Source::of(picture), {Kind::probe, 0, 0, 0, probeTime});
+    const auto answer = ask(sourceOf(picture), {Kind::probe, 0, 0, 0, probeTime});
     if (!answer || answer->reply.width <= 0 || answer->reply.height <= 0) {
         return {};
     }
@@ -114,13 +127,13 @@ QImage DecoderProcess::icon(const PictureFile& file, int size) {
 }
 
 QByteArray DecoderProcess::png(const UntrustedPicture& picture) {
-    auto answer = ask(Source::of(picture), {Kind::png, 0, 0, 0, wholeTime});
+    auto answer = ask(sourceOf(picture), {Kind::png, 0, 0, 0, wholeTime});
     return answer && answer->reply.status == Status::done ? std::move(answer->contents)
                                                           : QByteArray();
 }
 
 QImage DecoderProcess::pixels(const UntrustedPicture& picture, const Request& request) {
-    const Source source = Source::of(picture);
+    const Source source = sourceOf(picture);
     const QByteArray key = source.identity + bytesOf(request);
     {
         const std::lock_guard lock(mutex_);
@@ -171,7 +184,7 @@ std::optional<DecoderConnection::Answer> DecoderProcess::ask(const Source& sourc
     if (!answer) {
         giveUp(source.identity);
     } else if (answer->reply.last == 0) {
-        keep(std::move(*connection));
+        keep(source.origin, std::move(*connection));
     }
     return answer;
 }
@@ -179,7 +192,7 @@ std::optional<DecoderConnection::Answer> DecoderProcess::ask(const Source& sourc
 /// Uses an idle process or starts one.
 std::optional<DecoderConnection> DecoderProcess::sent(const Source& source,
                                                       const Request& request) {
-    for (auto old = idleConnection(); old; old = idleConnection()) {
+    for (auto old = idleConnection(source.origin); old; old = idleConnection(source.origin)) {
         if (old->send(request, source.descriptor)) {
             return old;
         }
@@ -189,20 +202,25 @@ std::optional<DecoderConnection> DecoderProcess::sent(const Source& source,
                                                                       : std::nullopt;
 }
 
-std::optional<DecoderConnection> DecoderProcess::idleConnection() {
+std::optional<DecoderConnection> DecoderProcess::idleConnection(Origin origin) {
     const std::lock_guard lock(mutex_);
     std::erase_if(idle_, [](const Idle& one) { return Clock::now() - one.since > maxIdle; });
-    if (idle_.empty()) {
+    const auto newest = std::find_if(idle_.rbegin(), idle_.rend(),
+                                     [origin](const Idle& one) { return one.origin == origin; });
+    if (newest == idle_.rend()) {
         return std::nullopt;
     }
-    DecoderConnection newest = std::move(idle_.back().connection);
-    idle_.pop_back();
-    return newest;
+    DecoderConnection connection = std::move(newest->connection);
+    idle_.erase(std::next(newest).base());
+    return connection;
 }
 
-void DecoderProcess::keep(DecoderConnection connection) {
+void DecoderProcess::keep(Origin origin, DecoderConnection connection) {
+    if (origin == Origin::copied) {
+        return; // It ends here.
+    }
     const std::lock_guard lock(mutex_);
-    idle_.push_back({std::move(connection), Clock::now()});
+    idle_.push_back({origin, std::move(connection), Clock::now()});
 }
 
 void DecoderProcess::giveUp(const QByteArray& identity) {

@@ -13,12 +13,15 @@
 
 namespace ravelo {
 
-/// Uses ravelo-decode, started on demand. Parallel requests use separate processes, and each
-/// process serves many requests. A picture that kills it or takes too long is not tried again until
-/// its file changes; small pictures of files are cached.
+/// Uses ravelo-decode, started on demand. Parallel requests use separate processes. A process
+/// serves many pictures of our own folder or many files from elsewhere, never both, and only one
+/// that was copied: a picture that takes it over sees none of another origin. One that kills it or
+/// takes too long is not tried again until its file changes; small pictures of files are cached.
 class DecoderProcess final : public ImageDecoder {
 public:
-    explicit DecoderProcess(QByteArray program) : program_(std::move(program)) {}
+    /// `ownFolder` has the pictures that the program keeps itself.
+    DecoderProcess(QByteArray program, const QByteArray& ownFolder)
+        : program_(std::move(program)), ownFolder_(ownFolder + '/') {}
 
     [[nodiscard]] PictureLook look(const UntrustedPicture& picture) override;
     [[nodiscard]] QImage filling(const UntrustedPicture& picture, PictureShape shape) override;
@@ -29,7 +32,10 @@ public:
 private:
     using Clock = std::chrono::steady_clock;
 
+    enum class Origin { own, elsewhere, copied };
+
     struct Idle {
+        Origin origin;
         DecoderConnection connection;
         Clock::time_point since;
     };
@@ -44,16 +50,19 @@ private:
     [[nodiscard]] std::optional<DecoderConnection::Answer> ask(const Source& source,
                                                                const decode::Request& request);
     [[nodiscard]] QImage pixels(const UntrustedPicture& picture, const decode::Request& request);
-    [[nodiscard]] std::optional<DecoderConnection> idleConnection();
+    [[nodiscard]] Origin originOf(const UntrustedPicture& picture) const;
+    [[nodiscard]] Source sourceOf(const UntrustedPicture& picture) const;
+    [[nodiscard]] std::optional<DecoderConnection> idleConnection(Origin origin);
     [[nodiscard]] std::optional<DecoderConnection> sent(const Source& source,
                                                         const decode::Request& request);
-    void keep(DecoderConnection connection);
+    void keep(Origin origin, DecoderConnection connection);
     void giveUp(const QByteArray& identity);
 
     const QByteArray program_;
-    std::mutex mutex_;                       ///< Guards what follows; not held while waiting.
-    std::vector<Idle> idle_;                 ///< Longest idle first.
-    QSet<QByteArray> bad_;                   ///< Not to be tried again.
+    const QByteArray ownFolder_; ///< With a slash at its end.
+    std::mutex mutex_;           ///< Guards the members below; never held while waiting.
+    std::vector<Idle> idle_;     ///< Longest idle first.
+    QSet<QByteArray> bad_;       ///< Not to be tried again.
     QCache<QByteArray, Kept> kept_{1 << 20}; ///< By picture and request; the limit is in bytes.
 };
 

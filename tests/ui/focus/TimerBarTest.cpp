@@ -27,7 +27,7 @@ protected:
     FakeAlertSound sound_;
     FakeDetachedJobs jobs_{scheduler_};
     Store store_{folder_.path(),
-                 {scheduler_, worker_, preferences_, pasteboard_, sound_, jobs_, jobs_, {}}};
+                 {scheduler_, worker_, preferences_, pasteboard_, sound_, jobs_, jobs_, jobs_, {}}};
     TimerFace face_{store_, scheduler_};
     QStringList figures_;
 };
