@@ -61,8 +61,9 @@ std::optional<int64_t> pngPixels(QByteArrayView bytes) {
         bytes.sliced(12, 4) != QByteArrayView("IHDR")) {
         return std::nullopt;
     }
-    return int64_t{qFromBigEndian<quint32>(bytes.data() + width)} *
-           qFromBigEndian<quint32>(bytes.data() + height);
+    const auto across = qFromBigEndian<qint32>(bytes.data() + width);
+    const auto down = qFromBigEndian<qint32>(bytes.data() + height);
+    return across > 0 && down > 0 ? std::optional(int64_t{across} * down) : std::nullopt;
 }
 
 const char* qtName(Format format) {

@@ -17,7 +17,7 @@ enum class Format { none, png, jpeg, gif, bmp, webp, tiff, heif, svg };
 /// a document, has no size of its own and can draw in other files.
 [[nodiscard]] bool isRaster(QByteArrayView bytes);
 
-/// How many pixels a PNG says it has; nothing if it has no such beginning.
+/// How many pixels a PNG says it has; nothing if it does not begin like a valid one.
 [[nodiscard]] std::optional<int64_t> pngPixels(QByteArrayView bytes);
 
 /// Qt's name for it; null if Qt does not read it here.

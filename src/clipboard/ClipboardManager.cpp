@@ -111,9 +111,12 @@ void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const QString
         offerAgain();
         return;
     }
-    held_ = std::make_shared<Held>(Held{snapshot.changeCount,
-                                        {*key, snapshot.owner.id, seen},
-                                        isFromFile(snapshot) ? Source::file : Source::owner});
+    HeldContents contents{*key, snapshot.owner.id, seen};
+    if (held_ && held_->changeCount == snapshot.changeCount) {
+        contents = held_->contents; // Another owner is asked for the form that was read first.
+    }
+    held_ = std::make_shared<Held>(
+        Held{snapshot.changeCount, contents, isFromFile(snapshot) ? Source::file : Source::owner});
     if (const auto tooLarge = tooLargeToKeep(snapshot)) {
         refuse(*tooLarge);
     } else {
@@ -177,12 +180,13 @@ void ClipboardManager::kept(Held& held, const QUuid& clip) {
 
 /// Once it is known whether there will be a clip: it needs the owner of the contents no more.
 void ClipboardManager::answerSaveRequest() {
-    const bool known = held_ && held_->changeCount == lastChangeCount_;
+    // Files are never offered again, so what becomes of their contents need not be waited for.
+    const bool known =
+        held_ && held_->changeCount == lastChangeCount_ && held_->source == Source::owner;
     if (saveAsked_ && !reads_.contains(lastChangeCount_) &&
         !(known && held_->clip == Clip::converting)) {
         saveAsked_ = false;
-        const bool saved = known && (held_->clip == Clip::pending || held_->clip == Clip::kept) &&
-                           held_->source == Source::owner;
+        const bool saved = known && (held_->clip == Clip::pending || held_->clip == Clip::kept);
         pasteboard_.answerSaveRequests(lastChangeCount_,
                                        saved ? SaveAnswer::saved : SaveAnswer::refused);
     }

@@ -100,13 +100,12 @@ KeptImage imageToKeep(const PasteboardSnapshot& contents, const CopiedContents& 
                                  : converted(file.bytes, decoder);
     }
     const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
-    if (type != pngType) {
+    const auto pixels = decode::pngPixels(bytes);
+    if (!pixels) { // Whatever the owner calls it.
         return converted(bytes, decoder);
     }
-    const auto pixels = decode::pngPixels(bytes);
-    return pixels && *pixels > decode::maxPixels
-               ? KeptImage{{}, TooLarge{TooLarge::Kind::pixels, *pixels}}
-               : KeptImage{bytes, {}};
+    return *pixels > decode::maxPixels ? KeptImage{{}, TooLarge{TooLarge::Kind::pixels, *pixels}}
+                                       : KeptImage{bytes, {}};
 }
 
 } // namespace ravelo

@@ -8,6 +8,7 @@
 #include "store/ImageFiles.h"
 #include "store/PasteboardImage.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -15,8 +16,8 @@ namespace ravelo {
 
 namespace {
 
-/// Several forms, each with the time that an adapter gives it; longer and the user has moved on.
-constexpr Seconds patience{10};
+/// For all forms together: after that the user has moved on.
+constexpr Seconds timeout{10};
 
 /// The handle that the caller holds keeps it alive; what it waits for knows it weakly.
 class Request : public std::enable_shared_from_this<Request> {
@@ -25,9 +26,8 @@ public:
         : services_(services), path_(std::move(path)), done_(std::move(done)) {}
 
     void start() {
-        change_ = services_.pasteboard.onChange(guarded(&Request::read));
-        timeout_ = services_.scheduler.after(patience, guarded(&Request::giveUp));
-        read();
+        deadline_ = services_.scheduler.uptime() + timeout;
+        ask();
     }
 
     void cancel() {
@@ -48,6 +48,19 @@ private:
         return [useless = useless_](const PasteboardSnapshot& contents) {
             return nextImageType(contents, useless);
         };
+    }
+
+    void ask() {
+        change_ = services_.pasteboard.onChange(guarded(&Request::readOther));
+        timeout_ = services_.scheduler.after(
+            std::max(Seconds(0), deadline_ - services_.scheduler.uptime()),
+            guarded(&Request::giveUp));
+        read();
+    }
+
+    void readOther() {
+        useless_.clear();
+        read();
     }
 
     void read() {
@@ -89,9 +102,10 @@ private:
     }
 
     void converted(const PasteboardSnapshot& contents, const QByteArray& png) {
-        useless_.append(imageType(contents));
-        if (png.isEmpty() && hasOtherForm(contents.types, useless_)) {
-            start();
+        const QString type = imageType(contents);
+        useless_.append(type);
+        if (png.isEmpty() && !type.isEmpty() && hasOtherForm(contents.types, useless_)) {
+            ask();
         } else {
             write(png);
         }
@@ -136,6 +150,7 @@ private:
     Store::Services services_;
     QString path_;
     std::function<void(bool)> done_;
+    Seconds deadline_{};
     Handle change_;
     Handle timeout_;
     Handle reading_;

@@ -5,6 +5,7 @@
 #include <array>
 #include <cerrno>
 #include <csignal>
+#include <system_error>
 #include <thread>
 
 #include <fcntl.h>
@@ -95,10 +96,17 @@ std::optional<DecoderConnection> DecoderConnection::start(const QByteArray& prog
     Descriptor process(static_cast<int>(syscall(SYS_pidfd_open, child, 0)));
     // It ends by itself at any time, so something must reap it: forking twice would take longer
     // than reading most pictures.
-    std::thread([child] {
+    const auto reap = [child] {
         while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
         }
-    }).detach();
+    };
+    try {
+        std::thread(reap).detach();
+    } catch (const std::system_error&) { // No more threads.
+        kill(child, SIGKILL);
+        reap();
+        return std::nullopt;
+    }
     return process ? std::optional<DecoderConnection>(std::in_place, std::move(ours),
                                                       std::move(process))
                    : std::nullopt;

@@ -33,14 +33,14 @@ Card {
     MiniButton {
         objectName: "pin"
         visible: !row.tooLarge
-        name: row.pinned ? qsTr("UnpinqsTr(") : qsTr(")Pin")
+        name: row.pinned ? qsTr("Unpin") : qsTr("Pin")
         symbol: row.pinned ? "pin.slash" : "pin"
         onClicked: row.clips.togglePin(row.index)
     }
 
     MiniButton {
         objectName: "delete"
-        name: row.tooLarge ? qsTr("DismissqsTr(") : qsTr(")Delete")
+        name: row.tooLarge ? qsTr("Dismiss") : qsTr("Delete")
         symbol: "xmark"
         onClicked: row.deleted()
     }
