@@ -57,7 +57,7 @@ int main(int argc, char** argv) {
     FakeAlertSound sound;
     FakeDetachedJobs jobs(scheduler);
     Store store(folder.path(),
-                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, nullptr});
+                {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, jobs, nullptr});
     fill(store);
     scheduler.advance(waiting);
     worker.drain();

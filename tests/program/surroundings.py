@@ -56,6 +56,7 @@ class Surroundings(contextlib.ExitStack):
             self.close()
         except AssertionError:
             self.ravelo.process.kill()
+            self.ravelo.process.wait()  # Or the next one would ask it to come to the front.
             self.ravelo.start()
 
     @contextlib.contextmanager
