@@ -8,6 +8,8 @@
 #include "store/ImageFiles.h"
 #include "store/PasteboardImage.h"
 
+#include <QStringList>
+
 #include <memory>
 #include <utility>
 
@@ -15,18 +17,18 @@ namespace ravelo {
 
 namespace {
 
-/// Several forms, each with the time that an adapter gives it; longer and the user has moved on.
-constexpr Seconds patience{10};
+/// Enough for several forms at the adapter's timeout; after that the user has moved on.
+constexpr Seconds timeout{10};
 
-/// The handle that the caller holds keeps it alive; what it waits for knows it weakly.
+/// Kept alive by the caller's handle; callbacks hold it weakly.
 class Request : public std::enable_shared_from_this<Request> {
 public:
-    Request(const Store::Services& services, QString path, std::function<void(bool)> done)
+    Request(const StoreServices& services, QString path, std::function<void(bool)> done)
         : services_(services), path_(std::move(path)), done_(std::move(done)) {}
 
     void start() {
         change_ = services_.pasteboard.onChange(guarded(&Request::read));
-        timeout_ = services_.scheduler.after(patience, guarded(&Request::giveUp));
+        timeout_ = services_.scheduler.after(timeout, guarded(&Request::giveUp));
         read();
     }
 
@@ -133,7 +135,7 @@ private:
         }
     }
 
-    Store::Services services_;
+    StoreServices services_;
     QString path_;
     std::function<void(bool)> done_;
     Handle change_;
@@ -146,7 +148,7 @@ private:
 
 } // namespace
 
-Handle saveSnippetImage(const Store::Services& services, const QString& path,
+Handle saveSnippetImage(const StoreServices& services, const QString& path,
                         std::function<void(bool)> done) {
     const auto request = std::make_shared<Request>(services, path, std::move(done));
     request->start();
