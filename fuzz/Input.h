@@ -8,12 +8,12 @@
 
 namespace ravelo::fuzz {
 
-/// What libFuzzer gives, without a copy, so that the sanitizer sees every byte read beyond it.
+/// libFuzzer's input, not copied, so that the sanitizer sees reads beyond its end.
 inline QByteArrayView view(const uint8_t* bytes, size_t size) {
     return {reinterpret_cast<const char*>(bytes), static_cast<qsizetype>(size)};
 }
 
-/// A promise of the parser that no input may break.
+/// A promise of the parser that must hold for any input.
 inline void require(bool holds) {
     if (!holds) {
         std::abort();
@@ -22,5 +22,5 @@ inline void require(bool holds) {
 
 } // namespace ravelo::fuzz
 
-/// What every target defines; see libFuzzer.
+/// The entry point of every target; see libFuzzer.
 extern "C" int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size);

@@ -15,7 +15,7 @@ constexpr Request probe{Kind::probe, 0, 0, 0, 0};
 constexpr Request fill{Kind::fill, 28, 20, 36, 0};
 constexpr Request png{Kind::png, 0, 0, 0, 0};
 
-/// To encode a large picture takes longer than to read a hundred small ones.
+/// Encoding a large picture takes longer than reading a hundred small ones.
 constexpr int maxEncoded = 256 * 256;
 
 } // namespace
@@ -25,7 +25,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     (void)loaded;
     const QByteArray picture = fuzz::view(bytes, size).toByteArray();
     if (formatOf(picture) != FORMAT) {
-        return -1; // Of no use to this target.
+        return -1; // Not for this target.
     }
     const QSize natural = decodePicture(probe, picture).size;
     const Picture filled = decodePicture(fill, picture);

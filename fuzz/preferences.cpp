@@ -1,4 +1,4 @@
-// Any preferences file: the settings it gives can be changed, and what is written can be read.
+// Any preferences file: its settings can be changed, and the result can be read.
 
 #include "Input.h"
 #include "base/Scheduler.h"
@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Does each job at once and tells at the end.
+/// Runs each job and its end at once.
 class SlowToTell final : public Worker {
 public:
     void run(std::function<void()> job, std::function<void()> done) override {
@@ -38,7 +38,7 @@ private:
     std::vector<std::function<void()>> done_;
 };
 
-/// A write that fails is not tried again.
+/// A failed write is not retried.
 class NoTime final : public Scheduler {
 public:
     [[nodiscard]] Date now() const override { return {}; }

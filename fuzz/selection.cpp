@@ -1,5 +1,5 @@
-// Whatever an owner of the clipboard offers and answers: lines of types, an empty line, then the
-// bytes that it gives for each of them.
+// Offers and answers of a clipboard owner: lines of types, an empty line, then the bytes for each
+// of them.
 
 #include "Input.h"
 #include "clipboard/CapturePlan.h"
@@ -28,7 +28,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     }
     for (QString next = nextCaptureType(snapshot); !next.isEmpty();
          next = nextCaptureType(snapshot)) {
-        // As long as the hint is not read it counts as secret: nothing else may be asked for.
+        // Until it is read, the hint counts as secret: nothing else may be requested.
         fuzz::require(!snapshot.answers.contains(next) &&
                       (next == u"x-kde-passwordManagerHint" || !isConcealed(snapshot)));
         snapshot.answers.insert(next, given);

@@ -1,4 +1,4 @@
-// Any store file: it is refused, or comes back the same from what it is written as.
+// Any store file: it is refused, or survives a round trip.
 
 #include "Input.h"
 #include "store/StoreFile.h"

@@ -1,4 +1,4 @@
-// Any list of addresses that is dropped.
+// Any dropped list of URLs.
 
 #include "base/UriList.h"
 #include "Input.h"

@@ -1,4 +1,4 @@
-// What servers, other programs and the keyring tell of the plan, in any form.
+// Any answer about the plan from servers, other programs and the keyring.
 
 #include "Input.h"
 #include "monitor/UsageReaders.h"

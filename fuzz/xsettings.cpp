@@ -1,4 +1,4 @@
-// Whatever a settings manager may have put into its property.
+// Any property of a settings manager.
 
 #include "platform/x11/XSettings.h"
 #include "Input.h"

@@ -353,16 +353,18 @@ void AppDelegate::wireNotices() {
     QObject::connect(store_.get(), &Store::saveEnded, notices_.get(),
                      follow(Notices::Source::store));
     preferences_->onSaved = follow(Notices::Source::preferences);
-    notices_->onTryAgain = [this] {
+    QObject::connect(notices_.get(), &Notices::tryAgain, notices_.get(), [this] {
         store_->save();
         preferences_->retry();
-    };
-    notices_->onOpenFolder = [this](const QString& path) {
-        view_->features().shelf->showInFolder(QUrl::fromLocalFile(path));
-    };
-    clipboard_->onTooLarge = [this](const TooLarge& copy) {
-        view_->features().clips->showTooLarge({measure(copy.kind), copy.amount});
-    };
+    });
+    QObject::connect(notices_.get(), &Notices::openFolder, notices_.get(),
+                     [this](const QString& path) {
+                         view_->features().shelf->showInFolder(QUrl::fromLocalFile(path));
+                     });
+    QObject::connect(clipboard_.get(), &ClipboardManager::tooLarge, clipboard_.get(),
+                     [this](const TooLarge& copy) {
+                         view_->features().clips->showTooLarge({measure(copy.kind), copy.amount});
+                     });
 }
 
 void AppDelegate::openSettings() {

@@ -21,7 +21,7 @@ bool mayBePathsInALine(const QString& text) {
     return text.startsWith(u'/') && text.contains(u" /") && !text.contains(u'\n');
 }
 
-/// Their paths, if they are all of this machine.
+/// Their paths if they are all on this machine.
 QByteArrayList copiedPaths(const PasteboardSnapshot& snapshot) {
     const QByteArray list = snapshot.answers.value(filesType).value_or(QByteArray());
     QByteArrayList paths;

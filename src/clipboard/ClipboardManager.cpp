@@ -44,7 +44,7 @@ void ClipboardManager::start() {
         poll();
         answerSaveRequest();
     });
-    QObject::connect(&store_, &Store::cleared, &context_, [this] {
+    connect(&store_, &Store::cleared, this, [this] {
         reads_.clear();
         if (held_) {
             held_->clip = Clip::cleared;
@@ -70,8 +70,8 @@ void ClipboardManager::poll() {
         offerAgain();
         return;
     }
-    // A read that was answered may still be waiting to be told when the next change is seen, so
-    // none is dropped here: the pasteboard itself gives up those whose owner has gone.
+    // Earlier reads go on: an answer may already be on its way, and the pasteboard itself drops
+    // reads whose owner has gone.
     read(count, {});
 }
 
@@ -87,7 +87,7 @@ void ClipboardManager::read(qint64 count, const QStringList& useless) {
 
 void ClipboardManager::finishRead(qint64 count, const PasteboardSnapshot& snapshot,
                                   const QStringList& useless, Seconds seen) {
-    // Contents that came after the count was looked at get a read of their own.
+    // Contents newer than the count get a read of their own.
     if (snapshot.changeCount == count) {
         capture(snapshot, useless, seen);
     }
@@ -100,7 +100,7 @@ void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const QString
     const auto key = isConcealed(snapshot) ? std::nullopt : contentsKey(snapshot);
     if (!key) {
         if (held_ && held_->changeCount == snapshot.changeCount) {
-            refuse({}); // There is no other form either.
+            refuse({}); // There was no other form.
         }
         return;
     }
@@ -117,17 +117,17 @@ void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const QString
     }
     held_ = std::make_shared<Held>(
         Held{snapshot.changeCount, contents, isFromFile(snapshot) ? Source::file : Source::owner});
-    if (const auto tooLarge = tooLargeToKeep(snapshot)) {
-        refuse(*tooLarge);
+    if (const auto reason = tooLargeToKeep(snapshot)) {
+        refuse(*reason);
     } else {
         keep(snapshot, useless);
     }
 }
 
-void ClipboardManager::refuse(const std::optional<TooLarge>& tooLarge) {
+void ClipboardManager::refuse(const std::optional<TooLarge>& reason) {
     held_->clip = Clip::refused;
-    if (tooLarge && onTooLarge) {
-        onTooLarge(*tooLarge);
+    if (reason) {
+        Q_EMIT tooLarge(*reason);
     }
 }
 
@@ -138,7 +138,7 @@ bool ClipboardManager::isPassedOn(const PasteboardSnapshot& snapshot, const Cont
     }
     HeldContents before = held_->contents;
     if (const auto& end = snapshot.lastEnd; end && end->changeCount == held_->changeCount) {
-        before.ownerEnded = seen - end->before; // The next owner was quicker than we are.
+        before.ownerEnded = seen - end->before; // The next owner came before we noticed.
     }
     const bool deleted = held_->clip == Clip::kept && !held_->id.isNull() && !find(held_->id);
     const auto wanted = deleted || held_->clip == Clip::cleared ? Wanted::no : Wanted::yes;
@@ -161,11 +161,11 @@ void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStri
     const bool mayRetry = !type.isEmpty() && hasOtherForm(snapshot.types, tried);
     store_.addImageClip(
         snapshot, whileHeld([this](Held& held, const QUuid& clip) { kept(held, clip); }),
-        whileHeld([this, mayRetry, tried](Held& held, const std::optional<TooLarge>& tooLarge) {
-            if (!tooLarge && mayRetry && held.changeCount == lastChangeCount_) {
+        whileHeld([this, mayRetry, tried](Held& held, const std::optional<TooLarge>& reason) {
+            if (!reason && mayRetry && held.changeCount == lastChangeCount_) {
                 read(held.changeCount, tried);
             } else {
-                refuse(tooLarge);
+                refuse(reason);
                 answerSaveRequest();
             }
         }));
@@ -178,7 +178,7 @@ void ClipboardManager::kept(Held& held, const QUuid& clip) {
     offerAgain(); // The owner may have ended while an image was being written.
 }
 
-/// Once it is known whether there will be a clip: it needs the owner of the contents no more.
+/// As soon as it is certain whether there will be a clip, since the owner is not needed after that.
 void ClipboardManager::answerSaveRequest() {
     // Files are never offered again, so what becomes of their contents need not be waited for.
     const bool known =
@@ -192,7 +192,7 @@ void ClipboardManager::answerSaveRequest() {
     }
 }
 
-/// Only what went with its owner, never what was copied before it, and nothing if the user has
+/// Only what its owner took along, never anything copied earlier, and nothing if the user has
 /// deleted the clip.
 void ClipboardManager::offerAgain() {
     if (!isLost(held_.get())) {
@@ -220,7 +220,7 @@ void ClipboardManager::offerAgain() {
     }
 }
 
-/// Gone with its owner, and ours to offer again.
+/// It is gone with its owner, and we may offer it.
 bool ClipboardManager::isLost(const Held* held) const {
     return held != nullptr && held->clip == Clip::kept && held->source != Source::file &&
            pasteboard_.orphaned() == held->changeCount;
@@ -244,7 +244,7 @@ void ClipboardManager::copyText(const QString& text) {
 
 void ClipboardManager::copyImage(const QString& path) {
     copying_ = readImage(path, [this, before = held_](const Forms& forms) {
-        if (held_ == before && reads_.empty()) { // Else something was copied after it.
+        if (held_ == before && reads_.empty()) { // Otherwise something newer was copied.
             write(forms);
         }
     });

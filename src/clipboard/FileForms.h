@@ -6,9 +6,9 @@
 
 namespace ravelo {
 
-/// One file as a pasteboard object that file managers paste as a copy: a list of one address
-/// (RFC 2483, RFC 8089), the same as GNOME's programs and those after them hand it on, and its path
-/// for whoever takes text only. Empty for what is no file. The file itself is not looked at.
+/// One file in forms that file managers paste as a copy: a list of one URL (RFC 2483, RFC 8089),
+/// the same as GNOME's file managers exchange it, and its path as text. Empty if it is not a file.
+/// The file itself is not read.
 [[nodiscard]] QList<PasteboardEntry> fileForms(const QUrl& url);
 
 } // namespace ravelo

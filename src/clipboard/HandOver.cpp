@@ -25,11 +25,11 @@ ContentsKey keyOf(ContentsKey::Kind kind, const QByteArray& bytes) {
 } // namespace
 
 std::optional<ContentsKey> contentsKey(const PasteboardSnapshot& snapshot) {
-    // Not as it was captured: whoever passes a text on may leave the rest out.
+    // Untrimmed text could differ: programs that pass a text on may drop the rest.
     if (const QString text = offeredText(snapshot); !text.isEmpty()) {
         return keyOf(ContentsKey::Kind::text, text.toUtf8());
     }
-    // Asked for in turn until one was good, so it is the largest of what came.
+    // They were requested in turn until one was good, so the good one is the largest.
     QByteArray image;
     for (auto answer = snapshot.answers.cbegin(); answer != snapshot.answers.cend(); ++answer) {
         if (isImageForm(answer.key()) && answer->value_or(QByteArray()).size() > image.size()) {

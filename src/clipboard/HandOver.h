@@ -6,7 +6,7 @@
 
 namespace ravelo {
 
-/// Tells the contents of a pasteboard from others without keeping them.
+/// Identifies the contents of a pasteboard without keeping them.
 struct ContentsKey {
     enum class Kind { text, image, tooLarge };
 
@@ -17,24 +17,24 @@ struct ContentsKey {
     friend bool operator==(const ContentsKey&, const ContentsKey&) = default;
 };
 
-/// By the text, else by the images that were read; nothing where there is neither.
+/// By the text, or else by the images that were read; nothing if there is neither.
 [[nodiscard]] std::optional<ContentsKey> contentsKey(const PasteboardSnapshot& snapshot);
 
 /// Contents that are on the pasteboard, or were until their owner ended.
 struct HeldContents {
     ContentsKey key;
     quint32 owner = 0;
-    Seconds since{};                     ///< The first capture, by the scheduler's uptime.
-    std::optional<Seconds> ownerEnded{}; ///< Likewise.
+    Seconds since{};                     ///< Uptime of the first capture.
+    std::optional<Seconds> ownerEnded{}; ///< Uptime.
 };
 
-/// Whether the user still wants what was made of the contents before.
+/// Whether the user still wants the clip made of the earlier contents.
 enum class Wanted { yes, no };
 
-/// Whether `next`, seen at `now`, is no copy but the same contents passed on: by a clipboard
-/// manager, or by anyone else within two seconds of the former owner's end or of the first capture.
-/// One program that copies the same twice has copied twice, and so has the user who deleted the
-/// clip in between; only what is passed on after an end does not bring a deleted clip back.
+/// Whether `next`, seen at `now`, is not a new copy but the same contents passed on: by a clipboard
+/// manager, or by any other program within two seconds of the former owner's end or of the first
+/// capture. The same program copying again is a new copy, and so is a copy after the user deleted
+/// the clip; but what is passed on after an owner's end never brings a deleted clip back.
 [[nodiscard]] bool isHandOver(const HeldContents& before, Wanted wanted, const ContentsKey& next,
                               const PasteboardOwner& owner, Seconds now);
 

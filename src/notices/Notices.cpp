@@ -50,14 +50,12 @@ void Notices::putAside(Source source, const QString& path) {
 }
 
 void Notices::act() {
-    if (shown_.kind == SavingFails && onTryAgain) {
-        onTryAgain();
+    if (shown_.kind == SavingFails) {
+        Q_EMIT tryAgain();
     } else if (shown_.kind == PutAside) {
         const QString path = aside_.begin()->second;
         dismiss();
-        if (onOpenFolder) {
-            onOpenFolder(path);
-        }
+        Q_EMIT openFolder(path);
     }
 }
 
@@ -87,7 +85,7 @@ void Notices::watchFailure() {
     }
 }
 
-/// The one that no retry can end, else the longest.
+/// The one that no retry can end, else the one that has lasted longest.
 const Notices::Failure* Notices::worstFailure() const {
     const auto worst = std::ranges::min_element(failures_, {}, [](const auto& entry) {
         return std::pair(entry.second.retry == Retry::yes, entry.second.since);

@@ -5,13 +5,12 @@
 #include <QObject>
 #include <QString>
 
-#include <functional>
 #include <map>
 
 namespace ravelo {
 
-/// What the panel has to say about the program's own files. One notice is shown at a time, the
-/// worst first; the others wait. In memory only. Main thread.
+/// The panel's messages about the program's own files. Shows one at a time, the worst first. In
+/// memory only. Main thread.
 class Notices : public QObject {
     Q_OBJECT
     Q_PROPERTY(Kind kind READ kind NOTIFY changed)
@@ -34,18 +33,14 @@ public:
     /// Whether a save that failed may succeed later.
     enum class Retry { yes, no };
 
-    /// A save failed. `reason` is a phrase such as "the disk is full". It is shown once saving has
-    /// failed for a minute, as the next try may succeed; at once if there will be none.
+    /// A save failed. `reason` is a phrase such as "the disk is full". Shown once saving has failed
+    /// for a minute, since the next try may succeed; at once if there will be none.
     void saveFailed(Source source, const QString& reason, Retry retry = Retry::yes);
     void saved(Source source);
 
-    /// A file could not be read and lies at `path` now. Shown until it is dismissed or acted upon.
+    /// A file could not be read and was moved to `path`. Shown until the user dismisses it or opens
+    /// the folder.
     void putAside(Source source, const QString& path);
-
-    /// "Try again" was pressed: save whatever failed.
-    std::function<void()> onTryAgain;
-    /// "Open folder" was pressed: show the file in its folder.
-    std::function<void(const QString& path)> onOpenFolder;
 
     /// What is shown now.
     [[nodiscard]] Kind kind() const { return shown_.kind; }
@@ -59,11 +54,13 @@ public:
     [[nodiscard]] bool dismissible() const { return shown_.kind == PutAside; }
 
     Q_INVOKABLE void act();
-    /// Does nothing if what is shown cannot be dismissed.
+    /// Does nothing if the notice cannot be dismissed.
     Q_INVOKABLE void dismiss();
 
 Q_SIGNALS:
     void changed();
+    void tryAgain();                      ///< Save whatever failed.
+    void openFolder(const QString& path); ///< Show the file in its folder.
 
 private:
     struct Notice {
@@ -93,7 +90,7 @@ private:
     std::map<Source, QString> aside_;
     Notice shown_;
     Handle nextMinute_;
-    Handle savedAgain_; ///< Set as long as that is shown.
+    Handle savedAgain_; ///< Set while "Saved again." is shown.
 };
 
 } // namespace ravelo

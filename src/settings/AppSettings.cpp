@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// A number that leaves nothing to be seen or used counts as absent.
+/// A number that makes the panel invisible or unusable counts as absent.
 double usable(const QJsonValue& value, double lowest, double highest, double standard) {
     const double number = value.toDouble(standard);
     return number >= lowest && number <= highest ? number : standard;
@@ -28,7 +28,7 @@ int knownLength(const QJsonValue& value) {
 
 } // namespace
 
-// QJsonValue's readers answer the default for a missing value and for one of another type.
+// QJsonValue's getters return the default for missing values and other types.
 AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
     : preferences_(preferences),
       loginItem_(loginItem),

@@ -9,10 +9,9 @@ namespace ravelo {
 class LoginItem;
 class Preferences;
 
-/// The user's preferences, read once at construction and written back as they are set. A value of
-/// the wrong type counts as absent, and so does a number with
-/// which the panel could not be seen or used; one beyond the sliders is used.
-/// Main thread only.
+/// The user's preferences, read once at construction and written when they are set. A value of the
+/// wrong type counts as absent, and so does a number that makes the panel invisible or unusable;
+/// other numbers beyond the sliders' ranges are used. Main thread only.
 class AppSettings : public QObject {
     Q_OBJECT
     Q_PROPERTY(double bgOpacity READ bgOpacity WRITE setBgOpacity NOTIFY bgOpacityChanged)
@@ -45,13 +44,13 @@ public:
     [[nodiscard]] bool pinnedBar() const;
     /// "auto", "notch" or "none"; other texts count as "auto".
     [[nodiscard]] QString macType() const;
-    /// Also after a pin the newer clips come first.
+    /// Newer clips come first, also after a pin.
     [[nodiscard]] bool newestFirst() const;
     /// How many unpinned clips are kept: 60, 200 or 1,000. Any other number counts as absent.
     [[nodiscard]] int historyLength() const;
-    /// White space at the ends of a copied text is kept.
+    /// Copied texts keep white space at their ends.
     [[nodiscard]] bool keepTextsExactly() const;
-    /// Nothing is shown of Claude Code where it is not installed.
+    /// Hides Claude Code's usage if it is not installed.
     [[nodiscard]] bool hideClaudeCode() const;
     [[nodiscard]] bool onboarded() const;
     [[nodiscard]] bool launchAtLogin() const;
@@ -68,12 +67,12 @@ public:
     void setKeepTextsExactly(bool on);
     void setHideClaudeCode(bool on);
     void setOnboarded(bool done);
-    void setLaunchAtLogin(bool on); ///< Registers or unregisters at every call.
+    void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
 
-    /// Reads anew what else may change: desktops have settings for it, too.
+    /// Reads the state again: desktops have settings for it, too.
     void refreshLaunchAtLogin();
 
-    /// Registers the program to start at login, once in the life of an installation.
+    /// Registers the program to start at login, once per installation.
     void setupLoginItemDefaultIfNeeded();
 
     std::function<void()> onLayoutChange; ///< After each change of `macType`, once it is written.

@@ -14,8 +14,8 @@ namespace {
 
 struct Group {
     URLCollector collector;
-    std::atomic<qsizetype> missing = 0;           ///< Those that have not answered yet.
-    std::function<void(const QList<QUrl>&)> done; ///< The main thread's own.
+    std::atomic<qsizetype> missing = 0;           ///< Answers to come.
+    std::function<void(const QList<QUrl>&)> done; ///< For the main thread only.
 };
 
 void end(Group& group) {

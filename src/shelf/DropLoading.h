@@ -9,13 +9,13 @@
 
 namespace ravelo {
 
-/// One dropped item: asked once, it answers once, at once or later, on any thread, with its files;
-/// with none where it is something else.
+/// One dropped item. Answers a question once, now or later and on any thread, with its files; with
+/// none if it is something else.
 using ItemProvider = std::function<void(std::function<void(const QList<QUrl>&)> answer)>;
 
-/// Asks all `providers` and hands their files, in the order of the answers, to `done` once all have
-/// answered; never an empty list, and not where the handle was dropped. Main thread, as is `done`;
-/// it may be called from within.
+/// Asks all `providers` and calls `done` with their files, in the order of the answers, once all
+/// have answered; not if there are no files or the handle was dropped. Main thread, also `done`,
+/// which may be called from within.
 [[nodiscard]] Handle loadToShelf(const QList<ItemProvider>& providers,
                                  std::function<void(const QList<QUrl>&)> done);
 

@@ -13,7 +13,7 @@ FileDrop::FileDrop(DragMonitor& drags, FileTransfer& transfers)
     : drags_(drags), transfers_(transfers), answers_(drags.onChange([this] { look(); })) {}
 
 Carries FileDrop::enter() {
-    (void)drags_.files(); // So that it is asked.
+    (void)drags_.files(); // Asks the source.
     (void)drags_.transferKey();
     over_ = drags_.answers();
     return carries();
@@ -31,7 +31,7 @@ Carries FileDrop::carries() {
 }
 
 void FileDrop::take(Done done) {
-    (void)carries(); // Also if no drag was reported to enter.
+    (void)carries(); // Even if no drag was reported to enter.
     Drop& drop = drops_.emplace_back();
     drop.answers = std::exchange(over_, nullptr);
     drop.loading = loadToShelf({[&drop](auto answer) {
@@ -55,7 +55,7 @@ void FileDrop::look(Drop& drop) {
     if (files && key && key->isEmpty()) {
         end(drop, *files);
     } else if (files && key) {
-        // The key comes first: a source that is locked up names its files as it sees them itself.
+        // Prefer the key: sandboxed sources name files as they see them themselves.
         drop.retrieving =
             transfers_.retrieve(*key, [this, &drop, named = *files](const QList<QUrl>& retrieved) {
                 end(drop, retrieved.isEmpty() ? named : retrieved);
@@ -64,7 +64,7 @@ void FileDrop::look(Drop& drop) {
 }
 
 void FileDrop::end(Drop& drop, const QList<QUrl>& files) {
-    std::list<Drop> ended; // It goes once all is done.
+    std::list<Drop> ended; // Destroyed at the end.
     ended.splice(ended.end(), drops_,
                  std::ranges::find_if(drops_, [&](const Drop& other) { return &other == &drop; }));
     drop.answer(files);

@@ -15,33 +15,33 @@ class DragMonitor;
 class FileTransfer;
 struct DragAnswers;
 
-/// What a drag over our window carries, as far as its source has answered.
+/// What a drag over our window carries, as far as is known.
 enum class Carries { unknown, files, nothing };
 
-/// Gets the files of drops on the panel. They may still be on their way when the button goes up,
-/// and when the next drag begins. Main thread.
+/// Gets the files of drops on the panel. They may arrive after the button is released, and after
+/// the next drag has begun. Main thread.
 class FileDrop {
 public:
     using Done = std::function<void(const QList<QUrl>&)>;
 
     FileDrop(DragMonitor& drags, FileTransfer& transfers);
 
-    /// The newest drag is over our window: asks its source, so that the answer is there at the
-    /// drop. The rest is about this drag, even if the next one begins before its drop is handled.
+    /// The newest drag entered our window: asks its source, to have the answer at the drop. The
+    /// other functions are about this drag, even if the next one begins before the drop is handled.
     Carries enter();
 
     [[nodiscard]] Carries carries();
 
-    /// The drag was dropped on us: hands its files to `done` once they are there, now or later;
-    /// never an empty list.
+    /// The drag was dropped on us. Calls `done` with its files, now or later; not if there are
+    /// none.
     void take(Done done);
 
 private:
-    /// One that is still without its files.
+    /// A drop that waits for its files.
     struct Drop {
         std::shared_ptr<const DragAnswers> answers;
         std::function<void(const QList<QUrl>&)> answer;
-        Handle retrieving; ///< Them, by a key.
+        Handle retrieving; ///< The files, by a key.
         Handle loading;
     };
 
@@ -51,7 +51,7 @@ private:
 
     DragMonitor& drags_;
     FileTransfer& transfers_;
-    std::shared_ptr<const DragAnswers> over_; ///< Of the drag that entered last.
+    std::shared_ptr<const DragAnswers> over_; ///< The drag that entered last.
     std::list<Drop> drops_;
     Handle answers_;
 };

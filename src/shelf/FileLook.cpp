@@ -11,13 +11,12 @@ namespace ravelo {
 
 namespace {
 
-constexpr Seconds patience{2};
-/// Folders that one look asks at the same time; each takes a thread, for ever if its server is
-/// gone.
+constexpr Seconds timeout{2};
+/// Folders checked at the same time; each takes a thread, for ever if its server is gone.
 constexpr int maxOpen = 6;
 
-/// How many questions, with those that hang from earlier looks, may be under way for another folder
-/// to be asked. A dead mount must not take all threads, nor stop the looks at healthy folders.
+/// Max checks under way, including hanging ones, for another to start. A dead mount must not take
+/// all threads, nor block the checks of healthy folders.
 size_t maxAsked(FileLook::Trust trust) {
     switch (trust) {
     case FileLook::Trust::answered:
@@ -63,8 +62,8 @@ void FileLook::look(const QList<QUrl>& files, std::function<void(const Found&)> 
         waiting_[{trustIn(folder), folder}] = std::move(inside);
     }
     askMore();
-    // Also if nothing could be asked: never from within the call.
-    limit_ = scheduler_.after(open_ > 0 ? patience : Seconds(0), [this] { finish(); });
+    // Later even if nothing was asked: `done` is never called from within look().
+    limit_ = scheduler_.after(open_ > 0 ? timeout : Seconds(0), [this] { finish(); });
 }
 
 FileLook::Trust FileLook::trustIn(const QByteArray& folder) const {
@@ -93,7 +92,7 @@ void FileLook::ask(const QByteArray& folder, const QList<QUrl>& files) {
     asked_[folder] = jobs_.run([files, found] { *found = presences(files); },
                                [this, folder, found, number = number_] {
                                    asked_.erase(folder);
-                                   if (!found->isEmpty()) { // Empty if the question was left out.
+                                   if (!found->isEmpty()) { // Empty if the check was dropped.
                                        answered_.insert(folder);
                                    }
                                    if (number != number_) {

@@ -19,24 +19,24 @@ namespace ravelo {
 class DetachedJobs;
 class Scheduler;
 
-/// Looks which files are there. A file on a mount whose server is gone may never answer: it is
-/// unknown after two seconds, does not hold up files in other folders, and is not asked for again
-/// while the last question hangs. Main thread.
+/// Checks which files exist. A file on a dead mount may never answer: it is unknown after two
+/// seconds, does not delay files in other folders, and is not checked again while the last check
+/// hangs. Main thread.
 class FileLook {
 public:
     using Found = QHash<QUrl, Presence>;
 
-    /// What is known of a folder before it is asked; those that deserve more are asked first.
+    /// What is known of a folder before it is checked; the most trusted go first.
     enum class Trust {
-        answered, ///< The last time.
+        answered, ///< Last time.
         fresh,
         besideHung ///< Maybe on the same dead mount as a folder that hangs.
     };
 
     FileLook(DetachedJobs& jobs, Scheduler& scheduler) : jobs_(jobs), scheduler_(scheduler) {}
 
-    /// Calls `done` later with what is known of each file. Cancels a look that is still going on:
-    /// its `done` is not called.
+    /// Calls `done` later with what is known of each file. Cancels a look in progress: its `done`
+    /// is not called.
     void look(const QList<QUrl>& files, std::function<void(const Found&)> done);
 
 private:
@@ -50,9 +50,9 @@ private:
     Found found_;
     std::function<void(const Found&)> done_;
     std::map<std::pair<Trust, QByteArray>, QList<QUrl>> waiting_; ///< By folder.
-    std::map<QByteArray, Handle> asked_; ///< By folder; also those that hang from before.
+    std::map<QByteArray, Handle> asked_; ///< By folder; including hanging ones.
     std::set<QByteArray> answered_;      ///< Folders.
-    int open_ = 0;                       ///< How many of `asked_` were asked in this look.
+    int open_ = 0;                       ///< Those of `asked_` from this look.
     int number_ = 0;                     ///< Of this look.
     Handle limit_;
 };

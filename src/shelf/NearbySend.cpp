@@ -15,11 +15,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// Longer than the services take for theirs: what may hang besides is a disk.
+// Longer than the timeouts of the services: a disk may hang in addition.
 constexpr Seconds lookTime{6};
 constexpr Seconds sendTime{10};
 
-/// GNOME's and Blueman's. Both take paths and ask the user for the device.
+/// GNOME's and Blueman's. Both accept paths and ask the user for the device.
 QStringList senders() {
     return {u"bluetooth-sendto"_s, u"blueman-sendto"_s};
 }
@@ -38,7 +38,7 @@ Handle NearbySend::refresh(std::function<void()> done) {
     if (!looking_) {
         look();
     }
-    // Later ones find other devices: these are not what was asked for.
+    // Later refreshes find other devices.
     auto once = std::make_shared<std::function<void()>>(std::move(done));
     return refreshed_.add([once] {
         if (const auto call = std::exchange(*once, nullptr)) {
@@ -105,7 +105,7 @@ void NearbySend::handOver(Sending& sending, QList<QByteArray> paths) {
         end(sending, program_.isEmpty() ? 0 : paths.size());
         return;
     }
-    // The services know names as texts.
+    // The services expect text.
     paths.removeIf([](const QByteArray& path) { return !path.isValidUtf8(); });
     if (paths.isEmpty()) {
         end(sending, 0);

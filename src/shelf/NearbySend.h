@@ -16,17 +16,17 @@ namespace ravelo {
 class DetachedJobs;
 class Programs;
 
-/// Sends files to a device nearby: to one that is paired with this machine or, where there is none,
-/// by the desktop's own program for it. Main thread; nothing here waits.
+/// Sends files to a device nearby: one that is paired with this machine or, if there is none,
+/// through the desktop's own program. Main thread; never waits.
 class NearbySend {
 public:
     enum class Way {
-        none,    ///< Nothing is installed, or nothing is in reach: see `advice`.
+        none,    ///< Nothing installed or in reach: see `advice`.
         devices, ///< To one of `devices`.
-        program, ///< A program asks the user whom to send to.
+        program, ///< A program asks the user for the device.
     };
 
-    /// All of it outlives this.
+    /// All outlive this object.
     struct Services {
         NearbyDevices& devices;
         Programs& programs;
@@ -37,10 +37,10 @@ public:
     explicit NearbySend(Services services);
     ~NearbySend();
 
-    /// What the last refresh found; none before the first.
+    /// Found by the last refresh; `none` before the first.
     [[nodiscard]] Way way() const { return way_; }
 
-    /// Paired and within reach, by name; empty unless that is the way.
+    /// Paired and in reach, sorted by name; empty unless `way` is `devices`.
     [[nodiscard]] const QList<NearbyDevice>& devices() const { return devices_; }
 
     /// After a change of `way` or `devices`.
@@ -48,33 +48,32 @@ public:
         return changes_.add(std::move(callback));
     }
 
-    /// Looks anew and calls `done` once, later, within a few seconds; not where the handle is
-    /// dropped. Several at a time share one look.
+    /// Looks again and calls `done` once, within a few seconds; not if the handle is dropped.
+    /// Concurrent calls share one look.
     [[nodiscard]] Handle refresh(std::function<void()> done);
 
-    /// What became of files that were to be sent.
+    /// The outcome of sending.
     struct Outcome {
-        qsizetype sent = 0;    ///< Somebody took them.
-        qsizetype folders = 0; ///< Left out as such.
+        qsizetype sent = 0;    ///< Accepted by the service.
+        qsizetype folders = 0; ///< Skipped.
     };
 
-    /// Sends `files` to the device, or by the program where `deviceId` is empty; but for those that
-    /// are missing and for folders: a service that comes to one sends nothing of what follows.
-    /// `done`, if any, is called once, later. That files were sent is all that can be said, not
-    /// that they were received.
+    /// Sends `files` to the device, or through the program if `deviceId` is empty. Skips missing
+    /// files and folders: a service that finds one sends nothing after it. `done`, if any, is
+    /// called once, later. Whether the files were received is not known.
     void send(const QList<QUrl>& files, const QString& deviceId,
               std::function<void(Outcome)> done = {});
 
-    /// What the user could do where there is no way, in one sentence.
+    /// Advice for the user if there is no way, as one sentence.
     [[nodiscard]] static QString advice();
 
 private:
-    /// One that is under way.
+    /// A sending in progress.
     struct Sending {
         QString deviceId;
         std::function<void(Outcome)> done;
         qsizetype folders = 0;
-        Handle work; ///< The step that is being done.
+        Handle work; ///< The current step.
         Handle end;
     };
 
@@ -86,7 +85,7 @@ private:
     Services services_;
     Way way_ = Way::none;
     QList<NearbyDevice> devices_;
-    QByteArray program_; ///< Where it is; empty for none.
+    QByteArray program_; ///< Its path; empty if there is none.
     Listeners<> changes_;
     Listeners<> refreshed_;
     Handle looking_;

@@ -10,7 +10,7 @@ namespace {
 
 using namespace std::string_view_literals;
 
-/// In lower case, without the dot.
+/// Lower-case suffix without the dot.
 constexpr std::array downloads = {"part"sv,       "partial"sv,    "filepart"sv,   "download"sv,
                                   "crdownload"sv, "opdownload"sv, "wkdownload"sv, "aria2"sv,
                                   "!qb"sv,        "!ut"sv};

@@ -5,12 +5,13 @@
 namespace ravelo {
 
 enum class NameKind {
-    whole,     ///< As the user sees it.
-    temporary, ///< Hidden, or of some program's own: a copy that replaces a file, a backup.
-    download,  ///< Of a transfer that is under way.
+    whole,     ///< A finished file.
+    temporary, ///< Hidden, a backup, or a copy about to replace a file.
+    download,  ///< A transfer in progress.
 };
 
-/// What the name alone says of a file, by what browsers, file managers and download programs do.
+/// Judges a file by its name, following the habits of browsers, file managers and download
+/// programs.
 [[nodiscard]] NameKind kindOfName(const QByteArray& name);
 
 } // namespace ravelo

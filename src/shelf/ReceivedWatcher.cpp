@@ -37,11 +37,11 @@ void ReceivedWatcher::take(const FolderNews& news) {
         });
     }
     if (changed_ && !pause_) {
-        tell();
+        notify();
     }
 }
 
-void ReceivedWatcher::tell() {
+void ReceivedWatcher::notify() {
     changed_ = false;
     files_.clear();
     for (const auto& [arrival, url] : received_) {
@@ -50,7 +50,7 @@ void ReceivedWatcher::tell() {
     pause_ = scheduler_.after(pauseTime, [this] {
         pause_.reset();
         if (changed_) {
-            tell();
+            notify();
         }
     });
     changes_.notify();
@@ -81,7 +81,7 @@ void ReceivedWatcher::takeListing(const FolderListing& listing) {
 void ReceivedWatcher::takeChange(const FolderChange& change) {
     switch (change.kind) {
     case FolderChange::Kind::written:
-        // A browser keeps the place of what it downloads with an empty file.
+        // Browsers reserve the name of a download with an empty file.
         if (kindOfName(change.name) == NameKind::whole && !change.isEmpty &&
             !known_.contains(change.name)) {
             arrive(change.name);
@@ -114,12 +114,12 @@ void ReceivedWatcher::movedIn(const FolderChange& change) {
             arrive(name);
         }
         break;
-    case NameKind::temporary: // Over an older file: somebody has changed it.
+    case NameKind::temporary: // Over an older file, which has changed then.
         if (!known_.contains(name)) {
             arrive(name);
         }
         break;
-    case NameKind::whole: // Not new by its new name; still to be finished where it was.
+    case NameKind::whole: // A rename makes no file new, but it may still have to be finished.
         if (from.known && !received) {
             place(name, *from.known);
         }

@@ -15,10 +15,9 @@
 
 namespace ravelo {
 
-/// The files that have come to the user's folder for downloads since the program started. A file
-/// counts once it is whole: closed after writing, or renamed into place; so does a folder that is
-/// moved in. Hidden files and those with the name of a download that is under way never do.
-/// Main thread.
+/// The files that arrived in the downloads folder since the program started. A file counts once it
+/// is complete: closed after writing, or renamed into place; so does a folder that is moved in.
+/// Hidden files and unfinished downloads never count. Main thread.
 class ReceivedWatcher {
 public:
     ReceivedWatcher(FolderWatch& watch, Scheduler& scheduler, QString folder);
@@ -29,23 +28,23 @@ public:
     /// The watched folder, which may be missing.
     [[nodiscard]] const QString& folder() const { return folder_; }
 
-    /// In the order in which they came, those that are still there.
+    /// In order of arrival, those that still exist.
     [[nodiscard]] const QList<QUrl>& files() const { return files_; }
 
-    /// Whether one came within the last four seconds.
+    /// Whether one arrived within the last four seconds.
     [[nodiscard]] bool receiving() const { return static_cast<bool>(receivingEnd_); }
 
-    /// After `files` or `receiving` changed; for a flood of files ten times a second.
+    /// Notified after `files` or `receiving` changed; during a flood of files ten times a second.
     [[nodiscard]] Handle onChange(std::function<void()> callback) {
         return changes_.add(std::move(callback));
     }
 
 private:
-    /// Counts up with the arrivals; `old` for what was there before.
+    /// Increases with each arrival; `old` for what was there before.
     using Arrival = qint64;
     static constexpr Arrival old = 0;
 
-    /// The first half of a renaming.
+    /// The first half of a rename.
     struct MovedOut {
         quint32 renaming = 0;
         QByteArray name;
@@ -53,7 +52,7 @@ private:
     };
 
     void take(const FolderNews& news);
-    void tell();
+    void notify();
     void takeListing(const FolderListing& listing);
     void takeChange(const FolderChange& change);
     void movedIn(const FolderChange& change);
@@ -63,15 +62,15 @@ private:
 
     Scheduler& scheduler_;
     QString folder_;
-    QHash<QByteArray, Arrival> known_; ///< The whole files of the folder.
+    QHash<QByteArray, Arrival> known_; ///< The complete files of the folder.
     std::map<Arrival, QUrl> received_;
     Arrival lastArrival_ = old;
     MovedOut movedOut_;
-    bool arrived_ = false; ///< Something new, by the news that are being taken.
-    bool changed_ = false; ///< The list, since it was told.
+    bool arrived_ = false; ///< The news being handled brought something new.
+    bool changed_ = false; ///< The list, since the last notification.
     QList<QUrl> files_;
     Listeners<> changes_;
-    Handle pause_; ///< Between two tellings.
+    Handle pause_; ///< Between two notifications.
     Handle receivingEnd_;
     Handle watching_;
 };

@@ -8,8 +8,8 @@
 
 namespace ravelo {
 
-/// Parked files and which of them are chosen for the next drag or sending. A value with its rules;
-/// the files themselves are never touched.
+/// Parked files and which of them are selected for the next drag or sending. A value with its
+/// rules; the files themselves are never touched.
 struct Shelf {
     QList<QList<QUrl>> stacks; ///< Oldest first; each in the order of its drop.
     QSet<QUrl> selected;
@@ -20,14 +20,14 @@ struct Shelf {
     /// The selected files in the shelf's order.
     [[nodiscard]] QList<QUrl> selectedFiles() const;
 
-    /// With those of `urls` that are not parked yet as a new, selected stack; nothing where all
-    /// are. A file given twice is kept twice.
+    /// Adds those of `urls` that are not parked yet as a new, selected stack; nothing if all are. A
+    /// file given twice is kept twice.
     [[nodiscard]] std::optional<Shelf> added(const QList<QUrl>& urls) const;
 
-    /// Without the files, wherever they lie, and without stacks that lose their last file by it.
+    /// Removes the files, and stacks that become empty.
     [[nodiscard]] Shelf removed(const QSet<QUrl>& urls) const;
 
-    /// With all of `stack` selected, or, where it all is already, none of it.
+    /// Selects all of `stack` or, if it is selected already, deselects it.
     [[nodiscard]] Shelf stackToggled(const QList<QUrl>& stack) const;
 
     friend bool operator==(const Shelf&, const Shelf&) = default;

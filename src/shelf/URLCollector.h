@@ -7,7 +7,7 @@
 
 namespace ravelo {
 
-/// Gathers the files that come from several sides at a time. Any thread.
+/// Collects files from several threads. Any thread.
 struct URLCollector {
     mutable std::mutex lock; ///< Guards `urls`.
     QList<QUrl> urls;
@@ -17,7 +17,7 @@ struct URLCollector {
         urls.append(url);
     }
 
-    /// What has come so far, in that order.
+    /// The files so far, in order of arrival.
     [[nodiscard]] QList<QUrl> collected() const {
         const std::scoped_lock guard(lock);
         return urls;

@@ -8,8 +8,8 @@
 
 namespace ravelo {
 
-/// Done once: by the thread that was started for it or, if none was to be had, by the worker, which
-/// otherwise waits for it here.
+/// Runs once: on the thread started for it or, if there was none, on the worker, which otherwise
+/// waits for it here.
 class Captures::Conversion {
 public:
     Conversion(std::function<void(const CopiedContents&)> convert, CopiedContents file)
@@ -50,7 +50,7 @@ void Captures::handOver() {
     }
 }
 
-/// As far as the first that is not read or converted yet, which is converted if it has been read.
+/// Passes on what is ready, and starts converting the first that is not.
 void Captures::passOn() {
     while (!waiting_.empty() && waiting_.begin()->second.file) {
         Capture& first = waiting_.begin()->second;

@@ -16,22 +16,23 @@ class DetachedJobs;
 class Scheduler;
 class Worker;
 
-/// What was copied and is not in the history yet, in the order of copying, whatever each takes: a
-/// copied file is read, an image converted, one at a time, then the worker writes it, then the
-/// history gets it. Main thread.
+/// Copies on their way to the history, in the order of copying, however long each takes: a file is
+/// read, an image converted (one at a time), the worker writes it, then the history gets it. Main
+/// thread.
 class Captures {
 public:
     struct Services {
         Scheduler& scheduler;
         Worker& worker;
         DetachedJobs& files;       ///< To read copied files.
-        DetachedJobs& conversions; ///< If one is left out, the worker does it.
+        DetachedJobs& conversions; ///< If it drops one, the worker does it.
     };
 
     struct Work {
-        std::function<void(const CopiedContents&)> convert; ///< Detached, with the file's contents.
-        std::function<void()> write;                        ///< On the worker, after that.
-        std::function<void()> end;                          ///< On the main thread.
+        std::function<void(const CopiedContents&)>
+            convert;                 ///< On another thread, with the file's contents.
+        std::function<void()> write; ///< On the worker, after that.
+        std::function<void()> end;   ///< On the main thread.
     };
 
     explicit Captures(Services services) : services_(services) {}
@@ -39,15 +40,15 @@ public:
     /// Nothing is on its way.
     [[nodiscard]] bool isEmpty() const { return waiting_.empty() && *working_ == 0; }
 
-    /// Reads the file at `path`, unless that is empty, as `readCopiedFile` does, and then does the
-    /// work. What is missing of it is left out. Its end may come after this object is gone.
+    /// Reads the file at `path`, unless that is empty, as `readCopiedFile` does, then does the
+    /// work; any step may be missing. `end` may be called after this object is gone.
     void add(const QByteArray& path, Work work);
 
-    /// Drops all that the worker does not have yet; its end does not come.
+    /// Drops what the worker does not have yet; its `end` is not called.
     void drop() { waiting_.clear(); }
 
-    /// Gives everything to the worker, without the files that are not read yet. For the end of the
-    /// program.
+    /// Gives everything to the worker, without waiting for files that are still being read. For the
+    /// end of the program.
     void handOver();
 
 private:
@@ -55,9 +56,9 @@ private:
 
     struct Capture {
         Work work;
-        std::optional<CopiedContents> file; ///< Once it need not be waited for any more.
+        std::optional<CopiedContents> file; ///< Once it is read or given up.
         Handle reading;
-        std::shared_ptr<Conversion> conversion; ///< Once it has begun.
+        std::shared_ptr<Conversion> conversion; ///< Once started.
         Handle converting;
     };
 
@@ -67,7 +68,7 @@ private:
     Services services_;
     std::map<int, Capture> waiting_; ///< By order of copying; the first is read or converted.
     int next_ = 0;
-    std::shared_ptr<int> working_ = std::make_shared<int>(0); ///< How many the worker has.
+    std::shared_ptr<int> working_ = std::make_shared<int>(0); ///< Given to the worker.
 };
 
 } // namespace ravelo

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 bool isLink(const QString& trimmed) {
-    // QUrl knows about blanks too, but takes 15 ms to say so of the largest texts.
+    // QUrl would also reject blanks, but takes 15 ms for the largest texts.
     if (!trimmed.contains("://"_L1) ||
         std::ranges::any_of(trimmed, [](QChar c) { return c.isSpace(); })) {
         return false;
@@ -24,7 +24,7 @@ bool isLink(const QString& trimmed) {
     return url.isValid() && !url.scheme().isEmpty();
 }
 
-/// Takes out the clips that `isDoomed` names and gives back the names of their image files.
+/// Removes the clips for which `isDoomed` holds and returns the names of their image files.
 template <typename Predicate>
 QStringList remove(QList<ClipItem>& clips, Predicate isDoomed) {
     QStringList images;

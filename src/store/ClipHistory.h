@@ -6,49 +6,48 @@
 
 namespace ravelo {
 
-/// What an operation makes of the clipboard history.
+/// The outcome of an operation on the history.
 struct ClipChange {
     QList<ClipItem> clips;
-    QStringList orphanedImages; ///< Names of image files to be deleted.
+    QStringList orphanedImages; ///< Names of image files to delete.
 };
 
-/// What the user can choose of the rules.
+/// The rules that the user can choose.
 struct HistoryRules {
-    /// Which of two clips that are both pinned, or both not, comes first after a pin.
+    /// Sort order after a pin, among the pinned as among the others.
     enum class Order { olderFirst, newerFirst };
 
     Order order = Order::olderFirst;
-    int limit = 60; ///< How many clips are kept; pinned ones neither count nor go.
+    int limit = 60; ///< Of unpinned clips; pinned ones are always kept.
 
     friend bool operator==(const HistoryRules&, const HistoryRules&) = default;
 };
 
-/// The rules of the clipboard history, on its list. Nothing where the list stays as it is.
+/// The rules of the clipboard history, as functions on its list. They return nothing if the list
+/// does not change.
 struct ClipHistory {
-    /// A text was copied. It is kept untrimmed, replaces unpinned clips of the same text, and
-    /// counts as no change where it has only white space or is the newest unpinned text already.
-    /// Image files of clips that have to go stay where they are.
+    /// Adds a copied text, untrimmed, in place of unpinned clips of the same text. Changes nothing
+    /// if it is only white space or already the newest unpinned text. Leaves the image files of
+    /// clips that are pushed out.
     [[nodiscard]] static std::optional<ClipChange> added(QList<ClipItem> clips, const QString& text,
                                                          Date now, const HistoryRules& rules = {});
 
-    /// An image was copied and its file written. Equal images are not looked for.
+    /// Adds an image whose file is written. Equal images are not detected.
     [[nodiscard]] static ClipChange imageAdded(QList<ClipItem> clips, const QString& imageFileName,
                                                Date now, const HistoryRules& rules = {});
 
-    /// Pins or unpins a clip, then sorts: pinned ones first and, among the pinned as among the
-    /// others, by date.
+    /// Pins or unpins a clip, then sorts: pinned ones first and each group by date.
     [[nodiscard]] static std::optional<ClipChange>
     pinToggled(QList<ClipItem> clips, const QUuid& id,
                HistoryRules::Order order = HistoryRules::Order::olderFirst);
 
-    /// The newer first among the pinned as among the others; a new copy stays above the pinned
-    /// ones.
+    /// Sorts each group newest first. A new copy stays above the pinned ones.
     [[nodiscard]] static std::optional<ClipChange> newerFirst(const QList<ClipItem>& clips);
 
     [[nodiscard]] static std::optional<ClipChange> deleted(QList<ClipItem> clips, const QUuid& id);
 
-    /// A deleted clip comes back, to its old place in a list whose ids were once `order`. Not if
-    /// its text was copied again meanwhile. It may be one too many until the next copy.
+    /// Puts a deleted clip back to its old place in a list whose ids were once `order`, unless its
+    /// text was copied again meanwhile. The limit applies only with the next copy.
     [[nodiscard]] static std::optional<ClipChange>
     restored(QList<ClipItem> clips, const ClipItem& clip, const QList<QUuid>& order);
 

@@ -19,12 +19,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Seconds patience{2};
-constexpr qint64 mostBytes = qint64{64} * 1024 * 1024;
+constexpr Seconds timeout{2};
+constexpr qint64 maxBytes = qint64{64} * 1024 * 1024;
 constexpr qint64 beginning = 4096;
 
 CopiedContents read(const QByteArray& path) {
-    // A pipe or a device could keep it waiting for ever.
+    // A pipe or a device could block for ever.
     const int descriptor = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (descriptor < 0) {
         return {};
@@ -40,8 +40,8 @@ CopiedContents read(const QByteArray& path) {
     if (!decode::isRaster(begin)) {
         return {};
     }
-    return info.st_size > mostBytes ? CopiedContents{{}, info.st_size}
-                                    : CopiedContents{begin + file.read(mostBytes)};
+    return info.st_size > maxBytes ? CopiedContents{{}, info.st_size}
+                                   : CopiedContents{begin + file.read(maxBytes)};
 }
 
 } // namespace
@@ -54,7 +54,7 @@ QByteArray copiedFile(const PasteboardSnapshot& contents) {
 Handle readCopiedFile(DetachedJobs& jobs, Scheduler& scheduler, const QByteArray& path,
                       std::function<void(const CopiedContents&)> done) {
     return runTimed<CopiedContents>(
-        jobs, scheduler, patience, [path] { return read(path); },
+        jobs, scheduler, timeout, [path] { return read(path); },
         [done = std::move(done)](std::optional<CopiedContents> contents) {
             done(contents.value_or(CopiedContents()));
         });

@@ -12,20 +12,20 @@ class DetachedJobs;
 class Scheduler;
 struct PasteboardSnapshot;
 
-/// The path of the file that stands for an image, if a pasteboard read with `nextImageType` gave a
-/// list of copied files: the first that is on this machine; empty otherwise. The file is not looked
-/// at. Any thread.
+/// The path of the copied file that stands for an image: the first on this machine in a list of
+/// files, read with `nextImageType`; empty if there is none. The file itself is not read. Any
+/// thread.
 [[nodiscard]] QByteArray copiedFile(const PasteboardSnapshot& contents);
 
-/// What is in such a file.
+/// The contents of such a file.
 struct CopiedContents {
     QByteArray bytes;
-    qint64 tooLarge = 0; ///< Its size, if it was not read because it has more than 64 MiB.
+    qint64 tooLarge = 0; ///< Its size if it has more than 64 MiB and was not read.
 };
 
-/// Reads such a file, which may lie on a mount whose server is gone, and calls `done` with what is
-/// in it, later. That is nothing if it is no regular file, does not begin like a picture or has not
-/// been read after two seconds. Main thread.
+/// Reads such a file, possibly on a dead mount, and calls `done` later with its contents. These are
+/// empty if it is not a regular file, does not start like a picture, or was not read within two
+/// seconds. Main thread.
 [[nodiscard]] Handle readCopiedFile(DetachedJobs& jobs, Scheduler& scheduler,
                                     const QByteArray& path,
                                     std::function<void(const CopiedContents&)> done);

@@ -16,11 +16,11 @@ namespace ravelo {
 /// A record that was deleted.
 struct DeletedRecord {
     std::variant<ClipItem, Snippet> record;
-    QList<QUuid> order;            ///< The ids of its list, just before.
-    std::optional<QByteArray> png; ///< What was in its image file, if it had one.
+    QList<QUuid> order;            ///< The ids of its list just before.
+    std::optional<QByteArray> png; ///< Contents of its image file, if it had one.
 };
 
-/// Those of `before` that are not in `after`, the last first.
+/// The records of `before` that are not in `after`, last first.
 template <typename Record>
 [[nodiscard]] QList<DeletedRecord> deletedRecords(const QList<Record>& before,
                                                   const QList<Record>& after) {
@@ -41,8 +41,8 @@ template <typename Record>
     return deleted;
 }
 
-/// Where in `list` a record belongs that comes back: behind the nearest one that was before it in
-/// `order` and is still there, else before the nearest one that was behind it, else at the end.
+/// The index in `list` for a record that comes back: after its nearest predecessor in `order` that
+/// is still there, else before its nearest successor, else at the end.
 template <typename Record>
 [[nodiscard]] qsizetype placeFor(const QUuid& id, const QList<QUuid>& order,
                                  const QList<Record>& list) {
@@ -68,24 +68,23 @@ template <typename Record>
     return list.size();
 }
 
-/// What was deleted and may come back: in memory alone, with its images. If it is too much, what
-/// was deleted first is lost. Created on the main thread; after that only the worker's jobs use it.
+/// Deleted records that may come back, with their images, in memory only. If they are too many, the
+/// oldest deletions are lost. Created on the main thread; then used by the worker's jobs only.
 class Deleted {
 public:
     /// Bytes.
     static constexpr qint64 limit = qint64(64) << 20;
 
-    /// Reads the images of the records, which are in `folder`. The last record is the most
-    /// precious one.
+    /// Reads the images of the records from `folder`. The last record is dropped last.
     void add(const QList<DeletedRecord>& records, const QString& folder);
 
     struct Restorable {
-        QList<DeletedRecord> records; ///< In the order in which they are to be put back.
-        QString problem;              ///< Why not all, in words fit for the user.
-        bool someStay = false;        ///< Their images could not be written: worth another try.
+        QList<DeletedRecord> records; ///< In the order to put them back.
+        QString problem;              ///< Why not all; for the user.
+        bool someStay = false;        ///< Some images could not be written: worth a retry.
     };
 
-    /// Hands over the records whose images are written to `folder` again; the others stay.
+    /// Returns the records whose images are written to `folder` again; the others stay.
     [[nodiscard]] Restorable restore(const QString& folder, const OwnFile::Permission& mayWrite);
 
 private:

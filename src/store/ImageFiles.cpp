@@ -26,7 +26,7 @@ bool isOld(Date written, Date now) {
     return now.sinceReference - written.sinceReference > oneDay;
 }
 
-/// The file that a save was to replace when it was killed; empty if `name` is none of those.
+/// The file that a killed save was to replace; empty if `name` is not of such a save.
 QString replacedBy(const QString& name) {
     return isTemporaryName(name) ? name.chopped(7) : QString();
 }

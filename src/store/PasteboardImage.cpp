@@ -15,28 +15,28 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr auto pngType = "image/png"_L1;
-constexpr qsizetype mostTries = 4; ///< An owner may name hundreds of forms.
+constexpr qsizetype maxTries = 4; ///< An owner may offer hundreds of forms.
 constexpr auto filesType = "text/uri-list"_L1;
 
 /// The forms worth asking for, best first.
 QStringList candidates(const QStringList& offered) {
     QStringList list;
-    const auto take = [&](const QString& type) {
+    const auto add = [&](const QString& type) {
         if (offered.contains(type) && !list.contains(type)) {
             list.append(type);
         }
     };
     for (const auto known : {pngType, "image/tiff"_L1, "image/jpeg"_L1, "image/webp"_L1,
                              "image/bmp"_L1, "image/gif"_L1}) {
-        take(known);
+        add(known);
     }
     for (const QString& type : offered) {
-        // A drawing is a document: it has no size of its own and can draw in other files.
+        // A drawing is a document: it has no size of its own and can include other files.
         if (type.startsWith("image/"_L1) && !type.startsWith("image/svg"_L1)) {
-            take(type);
+            add(type);
         }
     }
-    take(filesType);
+    add(filesType);
     return list;
 }
 
@@ -78,7 +78,7 @@ QString imageType(const PasteboardSnapshot& contents) {
 }
 
 bool hasOtherForm(const QStringList& types, const QStringList& useless) {
-    return useless.size() < mostTries && !nextImageType({types, {}}, useless).isEmpty();
+    return useless.size() < maxTries && !nextImageType({types, {}}, useless).isEmpty();
 }
 
 std::optional<TooLarge> oversizedImage(const PasteboardSnapshot& contents) {

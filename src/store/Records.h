@@ -9,7 +9,7 @@
 
 namespace ravelo {
 
-/// What a clipboard entry is. Stored as "text", "url", "image".
+/// The kind of a clip. Stored as "text", "url" or "image".
 enum class ClipKind { text, url, image };
 
 /// One entry of the clipboard history.
@@ -17,25 +17,25 @@ struct ClipItem {
     QUuid id;
     QString text; ///< As copied; "Image" for an image.
     ClipKind kind = ClipKind::text;
-    Date date; ///< The moment of capture.
+    Date date; ///< Of capture.
     bool pinned = false;
-    QString imageFileName; ///< Name of a PNG in the clips folder; empty where there is none.
+    QString imageFileName; ///< Name of a PNG in the clips folder; empty if there is none.
 
     friend bool operator==(const ClipItem&, const ClipItem&) = default;
 };
 
-/// A text kept at hand to be copied.
+/// A text that is kept to be copied.
 struct Snippet {
     QUuid id;
     QString title;
     QString body;
     QString icon;          ///< Name of a symbol.
-    QString imageFileName; ///< Name of a PNG in the clips folder; empty where there is none.
+    QString imageFileName; ///< Name of a PNG in the clips folder; empty if there is none.
 
     friend bool operator==(const Snippet&, const Snippet&) = default;
 };
 
-/// One pen stroke of the sketch, its points in drawing order.
+/// One pen stroke of the sketch; points in drawing order.
 struct Stroke {
     QUuid id;
     QList<QPointF> points;
@@ -45,12 +45,12 @@ struct Stroke {
 
 /// Everything the store file holds.
 struct StoreData {
-    QList<ClipItem> clips; ///< Newest first but for what pinning has sorted.
+    QList<ClipItem> clips; ///< Newest first, apart from sorting by pins.
     QList<Snippet> snippets;
     QString note;
     QString note2;
     QList<Stroke> drawing;
-    QList<QStringList> shelfStacks; ///< Absolute paths; one inner list a stack, oldest stack first.
+    QList<QStringList> shelfStacks; ///< Absolute paths; one inner list per stack, oldest first.
 
     friend bool operator==(const StoreData&, const StoreData&) = default;
 };

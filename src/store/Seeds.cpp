@@ -1,5 +1,5 @@
-// The content of an installation. To set Ravelo up for another business, change the texts in the
-// two tables; the words in square brackets are filled in by hand after pasting.
+// The content of a new installation. To set Ravelo up for another business, change the texts in the
+// two tables; users fill in the words in square brackets after pasting.
 
 #include "store/Seeds.h"
 

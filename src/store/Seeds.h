@@ -4,10 +4,10 @@
 
 namespace ravelo {
 
-/// What a new snippet board is filled with; every call gives fresh ids.
+/// The snippets of a new board, with fresh ids at each call.
 [[nodiscard]] QList<Snippet> seedSnippets();
 
-/// The pages of the business's website, added once in the life of an installation.
+/// Links to the pages of the website; added once per installation.
 [[nodiscard]] QList<Snippet> linkSnippets();
 
 } // namespace ravelo

@@ -6,13 +6,12 @@
 
 namespace ravelo {
 
-// The shelf's files as the store file has them: by path, or by address if text cannot hold the
-// bytes of the path. Whatever its name, a file comes back as the same URL. The files are not looked
-// at.
+// The shelf's files as stored: by path, or by URL if the path is not valid UTF-8. A file always
+// comes back as the same URL. The files themselves are not read.
 
 [[nodiscard]] QList<QStringList> shelfPaths(const QList<QList<QUrl>>& stacks);
 
-/// What is neither a path nor an address is left out, and so are stacks of nothing else.
+/// Leaves out what is neither a path nor a URL, and stacks that are empty then.
 [[nodiscard]] QList<QList<QUrl>> shelfStacks(const QList<QStringList>& paths);
 
 } // namespace ravelo

@@ -8,6 +8,8 @@
 #include "store/ImageFiles.h"
 #include "store/PasteboardImage.h"
 
+#include <QStringList>
+
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -19,10 +21,10 @@ namespace {
 /// For all forms together: after that the user has moved on.
 constexpr Seconds timeout{10};
 
-/// The handle that the caller holds keeps it alive; what it waits for knows it weakly.
+/// Kept alive by the caller's handle; callbacks hold it weakly.
 class Request : public std::enable_shared_from_this<Request> {
 public:
-    Request(const Store::Services& services, QString path, std::function<void(bool)> done)
+    Request(const StoreServices& services, QString path, std::function<void(bool)> done)
         : services_(services), path_(std::move(path)), done_(std::move(done)) {}
 
     void start() {
@@ -147,7 +149,7 @@ private:
         }
     }
 
-    Store::Services services_;
+    StoreServices services_;
     QString path_;
     std::function<void(bool)> done_;
     Seconds deadline_{};
@@ -161,7 +163,7 @@ private:
 
 } // namespace
 
-Handle saveSnippetImage(const Store::Services& services, const QString& path,
+Handle saveSnippetImage(const StoreServices& services, const QString& path,
                         std::function<void(bool)> done) {
     const auto request = std::make_shared<Request>(services, path, std::move(done));
     request->start();

@@ -3,7 +3,6 @@
 #include "base/Files.h"
 #include "base/Scheduler.h"
 #include "base/Uuid.h"
-#include "platform/AlertSound.h"
 #include "platform/ImageDecoder.h"
 #include "platform/Pasteboard.h"
 #include "platform/Preferences.h"
@@ -13,9 +12,7 @@
 #include "store/ImageFiles.h"
 #include "store/PasteboardImage.h"
 #include "store/Seeds.h"
-#include "store/ShelfPaths.h"
 #include "store/SnippetImage.h"
-#include "store/StoreFile.h"
 
 #include <QDir>
 #include <QFile>
@@ -32,9 +29,6 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Seconds saveDelay{0.4};
-constexpr Seconds retryDelay{30}; ///< After a save that failed, as on a full disk.
-
 QString newImageFileName() {
     return uuidText(QUuid::createUuid()) + u".png"_s;
 }
@@ -44,9 +38,17 @@ QString newImageFileName() {
 Store::Store(const QString& folder, Services services)
     : services_(services),
       folder_(QDir(folder).absolutePath()),
+      saver_(services.scheduler, services.worker,
+             [this] {
+                 return StoreSaver::Contents{data_, shelf_.stacks};
+             }),
       captures_({services.scheduler, services.worker, services.copiedFiles, services.conversions}),
       look_(services.jobs, services.scheduler),
+      countdown_(services.scheduler, services.sound),
       reminders_(Reminders::load(services.preferences)) {
+    connect(&saver_, &StoreSaver::ended, this, &Store::saveEnded);
+    connect(&countdown_, &Countdown::ended, this, &Store::timerEnded);
+    connect(&countdown_, &Countdown::changed, this, [this] { notify(&Store::timerChanged); });
     makePrivateFolder(folder_);
     makePrivateFolder(clipsDir());
     load();
@@ -71,7 +73,8 @@ QString Store::clipsFolder(const QString& folder) {
 }
 
 QString Store::imagePath(const QString& imageFileName) const {
-    // A name only, whatever the file says: nothing outside the folder is ever shown or deleted.
+    // Only the name counts, whatever the file says: nothing outside the folder is ever shown or
+    // deleted.
     return clipsDir() + u'/' + QFileInfo(imageFileName).fileName();
 }
 
@@ -99,16 +102,12 @@ void Store::setNote(const QString& note) {
 }
 
 void Store::load() {
-    const std::optional<QByteArray> bytes = readFile(fileURL());
-    std::optional<StoreData> decoded = bytes ? decodeStore(*bytes) : std::nullopt;
-    file_ = std::make_shared<OwnFile>(
-        fileURL(), decoded ? OwnFile::Contents::ours : OwnFile::Contents::unreadable,
-        services_.mayWrite);
-    if (!decoded) {
+    auto saved = saver_.load(fileURL(), services_.mayWrite);
+    if (!saved) {
         return;
     }
-    data_ = std::move(*decoded);
-    shelf_.stacks = shelfStacks(std::exchange(data_.shelfStacks, {}));
+    data_ = std::move(saved->data);
+    shelf_.stacks = std::move(saved->shelf);
     save();
     if (!shelf_.stacks.isEmpty()) {
         parkedMeanwhile_.emplace();
@@ -149,7 +148,7 @@ void Store::setHistoryRules(const HistoryRules& rules) {
 void Store::addClip(const QString& text, Kept kept) {
     auto add = [this, text, kept = std::move(kept), now = services_.scheduler.now()] {
         apply(ClipHistory::added(data_.clips, text, now, rules_));
-        tellKept(text, kept);
+        reportKept(text, kept);
     };
     if (captures_.isEmpty()) {
         add();
@@ -189,8 +188,8 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
                    unlessCleared(std::move(add), [this, name] { removeImages({name}); })});
 }
 
-/// The newest unpinned clip is the one, unless it is an image, which has a text too.
-void Store::tellKept(const QString& text, const Kept& kept) const {
+/// The newest unpinned clip holds the text, unless it is an image, which has a text, too.
+void Store::reportKept(const QString& text, const Kept& kept) const {
     const auto newest = std::ranges::find(data_.clips, false, &ClipItem::pinned);
     if (kept && newest != data_.clips.cend() && newest->text == text &&
         newest->kind != ClipKind::image) {
@@ -239,7 +238,7 @@ void Store::addSnippet(const Snippet& snippet) {
 }
 
 void Store::addToShelf(const QList<QUrl>& urls) {
-    if (parkedMeanwhile_) { // It may be there again.
+    if (parkedMeanwhile_) { // They may exist again.
         parkedMeanwhile_->unite({urls.begin(), urls.end()});
     }
     if (auto shelf = shelf_.added(urls)) {
@@ -287,45 +286,30 @@ Handle Store::saveClipboardImageForSnippet(std::function<void(QString)> done) {
 }
 
 void Store::startTimer(const QString& label, double minutes) {
-    const auto timer = FocusTimer::started(label, minutes, services_.scheduler.uptime());
-    if (timer) {
-        timer_ = *timer;
-        timerEnd_ = services_.scheduler.after(timer_.duration, [this] { finishTimer(); });
-        tell(&Store::timerChanged);
-    }
+    countdown_.start(label, minutes);
 }
 
 void Store::stopTimer() {
-    timer_.start.reset();
-    timerEnd_.reset();
-    tell(&Store::timerChanged);
-}
-
-void Store::finishTimer() {
-    timer_.start.reset();
-    timerEnd_.reset();
-    services_.sound.play();
-    Q_EMIT timerEnded();
-    tell(&Store::timerChanged);
+    countdown_.stop();
 }
 
 double Store::timerRemaining() const {
-    return timer_.remaining(services_.scheduler.uptime()).count();
+    return countdown_.remaining().count();
 }
 
 void Store::setReminderOpen(bool open) {
     reminders_.open = open;
     reminders_.keepOpen(services_.preferences);
-    tell(&Store::remindersChanged);
+    notify(&Store::remindersChanged);
 }
 
 void Store::setReminders(const QStringList& texts) {
     reminders_.texts = texts;
     reminders_.keepTexts(services_.preferences);
-    tell(&Store::remindersChanged);
+    notify(&Store::remindersChanged);
 }
 
-void Store::tell(void (Store::*changed)()) {
+void Store::notify(void (Store::*changed)()) {
     Q_EMIT(this->*changed)();
     if (onTimerChange) {
         onTimerChange();
@@ -333,45 +317,12 @@ void Store::tell(void (Store::*changed)()) {
 }
 
 void Store::save() {
-    unsaved_ = {data_, shelf_.stacks};
-    pendingSave_ = services_.scheduler.after(saveDelay, [this] { write(); });
-}
-
-void Store::write() {
-    pendingSave_.reset();
-    if (!unsaved_) {
-        return;
-    }
-    retry_.reset();
-    const auto outcome = std::make_shared<SaveOutcome>();
-    auto job = [outcome, file = file_, snapshot = std::move(*unsaved_)]() mutable {
-        snapshot.data.shelfStacks = shelfPaths(snapshot.stacks);
-        *outcome = file->write(encodeStore(snapshot.data));
-    };
-    unsaved_.reset();
-    services_.worker.run(std::move(job), [store = QPointer(this), outcome] {
-        if (store) {
-            store->written(*outcome);
-        }
-    });
-}
-
-void Store::written(const SaveOutcome& outcome) {
-    if (outcome.kind == SaveOutcome::Kind::failed) {
-        retry_ = services_.scheduler.after(retryDelay, [this] { save(); });
-    }
-    Q_EMIT saveEnded(outcome);
+    saver_.save();
 }
 
 void Store::flush() {
     captures_.handOver();
-    if (retry_) {
-        save();
-    }
-    do {
-        write();
-        services_.worker.drain();
-    } while (unsaved_);
+    saver_.flush();
 }
 
 } // namespace ravelo

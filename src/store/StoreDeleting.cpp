@@ -1,4 +1,4 @@
-// How the store deletes, and how what was deleted comes back.
+// How the store deletes and restores.
 
 #include "platform/ImageDecoder.h"
 #include "platform/Worker.h"
@@ -19,7 +19,7 @@ void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
     if (auto change = ClipHistory::deleted(data_.clips, id)) {
         takeOffDisk(deletedRecords(data_.clips, change->clips), kept);
         apply(ClipChange{std::move(change->clips), {}});
-        saveAtOnce();
+        saver_.saveNow(); // So that it survives a kill right after.
     }
 }
 
@@ -30,7 +30,7 @@ void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
     ClipChange change = ClipHistory::cleared(data_.clips);
     takeOffDisk(deletedRecords(data_.clips, change.clips), kept);
     apply(ClipChange{std::move(change.clips), {}});
-    saveAtOnce();
+    saver_.saveNow(); // So that it survives a kill right after.
 }
 
 void Store::removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
@@ -38,12 +38,12 @@ void Store::removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept)
     if (left.removeIf([&id](const Snippet& snippet) { return snippet.id == id; }) > 0) {
         takeOffDisk(deletedRecords(data_.snippets, left), kept);
         data_.snippets = std::move(left);
-        saveAtOnce();
+        saver_.saveNow(); // So that it survives a kill right after.
         Q_EMIT snippetsChanged();
     }
 }
 
-/// Takes the images of the records off the disk, and into memory first if they may come back.
+/// Removes the images of the records, after reading them into memory if they may come back.
 void Store::takeOffDisk(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept) {
     QStringList images;
     for (const DeletedRecord& record : records) {
@@ -115,13 +115,7 @@ void Store::putBack(const QList<DeletedRecord>& records) {
     }
     apply(std::move(clips));
     Q_EMIT snippetsChanged();
-    saveAtOnce();
-}
-
-/// So that a deletion survives a kill right after it.
-void Store::saveAtOnce() {
-    save();
-    write();
+    saver_.saveNow(); // So that it survives a kill right after.
 }
 
 } // namespace ravelo

@@ -22,7 +22,7 @@ constexpr std::array<std::pair<ClipKind, QLatin1StringView>, 3> kindNames = {{
     {ClipKind::image, "image"_L1},
 }};
 
-// Writing: one overload of json() a record.
+// Writing: one overload of json() per record.
 
 template <typename T>
 QJsonArray jsonArray(const QList<T>& list);
@@ -70,7 +70,7 @@ QJsonValue json(const Snippet& snippet) {
 
 QJsonValue json(const Stroke& stroke) {
     QList<QPointF> points = stroke.points;
-    // JSON would have null in its place and make the file unreadable.
+    // JSON would write null, which makes the file unreadable.
     points.removeIf([](QPointF p) { return !std::isfinite(p.x()) || !std::isfinite(p.y()); });
     return QJsonObject{{u"id"_s, uuidText(stroke.id)}, {u"points"_s, jsonArray(points)}};
 }
@@ -84,7 +84,7 @@ QJsonArray jsonArray(const QList<T>& list) {
     return array;
 }
 
-// Reading: one overload of read() a kind of value; false where the value is not of that kind.
+// Reading: one overload of read() per type; false if the value is not of that type.
 
 template <typename T>
 bool read(const QJsonValue& value, QList<T>& list);

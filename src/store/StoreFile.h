@@ -9,13 +9,13 @@
 namespace ravelo {
 
 /// The store file: one JSON object (RFC 8259) without white space, UUIDs in upper case, dates as
-/// seconds since 2001-01-01 00:00:00 UTC. Every value but a NaN or an infinity, which JSON cannot
-/// name, comes back from it bit for bit. Any thread.
+/// seconds since 2001-01-01 00:00:00 UTC. All values round-trip bit for bit, except NaN and
+/// infinity, which JSON lacks. Any thread.
 [[nodiscard]] QByteArray encodeStore(const StoreData& data);
 
-/// All or nothing: a missing key, a value of the wrong kind or anything after the object makes the
-/// file undecodable. Only an image's file name may be missing or null; keys we do not know are
-/// passed over. Any thread.
+/// All or nothing: a missing key, a value of the wrong type or anything after the object makes the
+/// file undecodable. Only the file name of an image may be missing or null; unknown keys are
+/// ignored. Any thread.
 [[nodiscard]] std::optional<StoreData> decodeStore(const QByteArray& bytes);
 
 } // namespace ravelo

@@ -4,12 +4,12 @@
 
 namespace ravelo {
 
-/// A copy of which nothing is kept because it is too large.
+/// A copy that is too large to keep anything of it.
 struct TooLarge {
     enum class Kind { text, image, pixels };
 
     Kind kind;
-    qint64 amount; ///< Of bytes, or of an image's pixels; as far as known: it may be more.
+    qint64 amount; ///< Bytes, or pixels of an image; a lower bound.
 };
 
 } // namespace ravelo

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int longest = 24 * 60;
+constexpr int maxMinutes = 24 * 60;
 
 QString minutesKey() {
     return u"focusMinutes"_s;
@@ -42,7 +42,7 @@ std::optional<QStringList> texts(const QJsonValue& value) {
 FocusChoices FocusChoices::load(const Preferences& preferences) {
     FocusChoices choices;
     const double minutes = preferences.value(minutesKey()).toDouble();
-    if (minutes > 0 && minutes <= longest) {
+    if (minutes > 0 && minutes <= maxMinutes) {
         choices.minutes = minutes;
     }
     choices.presets = texts(preferences.value(presetsKey()))
@@ -77,9 +77,9 @@ std::optional<int> customMinutes(const QString& typed) {
     bool fits = false;
     const int minutes = text.toInt(&fits);
     if (!fits) {
-        return longest; // Of so many digits that it can only be more; zeros alone always fit.
+        return maxMinutes; // Too many digits; zeros alone always fit.
     }
-    return minutes > 0 ? std::optional(std::min(minutes, longest)) : std::nullopt;
+    return minutes > 0 ? std::optional(std::min(minutes, maxMinutes)) : std::nullopt;
 }
 
 } // namespace ravelo

@@ -8,7 +8,7 @@ namespace ravelo {
 
 class Preferences;
 
-/// How long the next focus timer runs, and what it can be for; kept in the preferences.
+/// The length of the next focus timer and the choice of labels; kept in the preferences.
 struct FocusChoices {
     double minutes = 60;
     QStringList presets;
@@ -22,8 +22,8 @@ struct FocusChoices {
 /// "25m", "1h", "1h30"; fractions of a minute are cut off. `minutes` is not negative.
 [[nodiscard]] QString minutesLabel(double minutes);
 
-/// The whole number of minutes that somebody typed, a day at most; nothing where it is none or not
-/// positive.
+/// The whole number of minutes that the user typed, capped at a day; nothing if it is not a
+/// positive number.
 [[nodiscard]] std::optional<int> customMinutes(const QString& typed);
 
 } // namespace ravelo

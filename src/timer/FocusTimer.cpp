@@ -10,13 +10,13 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Seconds longest{30.0 * 365 * 24 * 60 * 60};
+constexpr Seconds maxDuration{30.0 * 365 * 24 * 60 * 60};
 
 bool isBlank(QChar c) {
     return c == u'\t' || c.category() == QChar::Separator_Space;
 }
 
-/// Without blanks at both ends; line breaks are no blanks.
+/// Trims blanks at both ends, but not line breaks.
 QString trimmed(const QString& label) {
     const auto first = std::ranges::find_if_not(label, isBlank);
     const auto last = std::find_if_not(label.rbegin(), std::reverse_iterator(first), isBlank);
@@ -27,7 +27,7 @@ QString trimmed(const QString& label) {
 
 std::optional<FocusTimer> FocusTimer::started(const QString& label, double minutes, Seconds now) {
     const Seconds duration(minutes * 60);
-    const bool possible = duration >= Seconds(0) && duration <= longest; // A NaN is neither.
+    const bool possible = duration >= Seconds(0) && duration <= maxDuration; // False for NaN.
     return possible ? std::optional(FocusTimer{trimmed(label), duration, now}) : std::nullopt;
 }
 

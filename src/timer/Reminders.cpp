@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int longest = 16; ///< Characters as people count them.
+constexpr int maxLength = 16; ///< Characters as people count them.
 
 QString openKey() {
     return u"reminderOpen"_s;
@@ -23,7 +23,7 @@ QString textsKey() {
     return u"reminders"_s;
 }
 
-/// Empty for anything but an array of texts alone.
+/// Empty unless all elements are texts.
 QStringList toTexts(const QJsonArray& array) {
     QStringList texts;
     for (const QJsonValue value : array) {
@@ -61,7 +61,7 @@ std::optional<QStringList> Reminders::added(const QString& typed) const {
         return std::nullopt;
     }
     QTextBoundaryFinder characters(QTextBoundaryFinder::Grapheme, text);
-    for (int count = 0; count < longest && characters.toNextBoundary() >= 0; ++count) {
+    for (int count = 0; count < maxLength && characters.toNextBoundary() >= 0; ++count) {
     }
     if (const qsizetype end = characters.position(); end >= 0) {
         text.truncate(end);

@@ -8,16 +8,16 @@ namespace ravelo {
 
 class Preferences;
 
-/// The lines that can be shown where the panel hangs while it is closed, kept in the preferences.
+/// The lines that can be shown below the closed panel; kept in the preferences.
 struct Reminders {
     bool open = false; ///< The user wants to see them.
     QStringList texts;
 
-    /// An older version had a single line; it counts where there are no others.
+    /// Falls back to the single line of older versions.
     [[nodiscard]] static Reminders load(const Preferences& preferences);
 
-    /// The texts with what somebody typed, without the white space around it and no longer than 16
-    /// characters, at the end; nothing where nothing is left of it.
+    /// The texts with what the user typed appended, trimmed and cut to 16 characters; nothing if it
+    /// is blank.
     [[nodiscard]] std::optional<QStringList> added(const QString& typed) const;
 
     void keepOpen(Preferences& preferences) const;

@@ -141,8 +141,8 @@ TEST_F(Files, WhatCannotBeCopiedIsMoved) {
 
 TEST_F(Files, OfOtherProgramsAreReadFromTheirEnd) {
     const QString file = path(u"a"_s);
-    const auto end = [](const QString& name, qint64 most) {
-        return readFileEnd(QFile::encodeName(name), most);
+    const auto end = [](const QString& name, qint64 max) {
+        return readFileEnd(QFile::encodeName(name), max);
     };
     EXPECT_EQ(end(file, 5), std::nullopt) << "missing";
     ASSERT_TRUE(writeFileAtomically(file, "0123456789"));
@@ -151,7 +151,7 @@ TEST_F(Files, OfOtherProgramsAreReadFromTheirEnd) {
     EXPECT_EQ(end(file, 11), "0123456789");
     EXPECT_EQ(end(folder_.path(), 5), std::nullopt) << "a folder";
     ASSERT_EQ(mkfifo(qPrintable(path(u"pipe"_s)), 0600), 0);
-    EXPECT_EQ(end(path(u"pipe"_s), 5), std::nullopt) << "nobody may ever write to it";
+    EXPECT_EQ(end(path(u"pipe"_s), 5), std::nullopt) << "it may never have a writer";
 }
 
 } // namespace

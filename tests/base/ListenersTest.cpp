@@ -9,7 +9,7 @@ namespace ravelo {
 
 namespace {
 
-TEST(Listeners, MayComeAndGoWhileANoticeIsGiven) {
+TEST(Listeners, CanBeAddedAndDroppedDuringANotification) {
     Listeners<char> listeners;
     std::string heard;
     Handle second;
@@ -29,7 +29,7 @@ TEST(Listeners, MayComeAndGoWhileANoticeIsGiven) {
     EXPECT_EQ(heard, "ablate b");
 }
 
-TEST(Listeners, MayDestroyTheirListAndBeDroppedAfterIt) {
+TEST(Listeners, CanDestroyTheirListAndOutliveIt) {
     std::optional<Listeners<>> listeners(std::in_place);
     int calls = 0;
     Handle first = listeners->add([&] {
@@ -43,7 +43,7 @@ TEST(Listeners, MayDestroyTheirListAndBeDroppedAfterIt) {
     second.reset();
 }
 
-TEST(Handle, CancelsOnceWhoeverHoldsItLast) {
+TEST(Handle, CancelsOnce) {
     int cancelled = 0;
     Handle a([&] { ++cancelled; });
     Handle b = std::move(a);
@@ -51,7 +51,7 @@ TEST(Handle, CancelsOnceWhoeverHoldsItLast) {
     EXPECT_TRUE(b);
     EXPECT_EQ(cancelled, 0);
     b = Handle([&] { cancelled += 10; });
-    EXPECT_EQ(cancelled, 1) << "the old one goes when a new one takes its place";
+    EXPECT_EQ(cancelled, 1) << "assigning cancels the old one";
     b.reset();
     b.reset();
     EXPECT_EQ(cancelled, 11);

@@ -12,11 +12,13 @@
 #include "store/Store.h"
 
 #include <QBuffer>
+#include <QFile>
 #include <QImage>
 #include <QTemporaryDir>
 
 #include <gtest/gtest.h>
 
+#include <functional>
 #include <optional>
 
 namespace ravelo {
@@ -59,6 +61,13 @@ public:
         scheduler.advance(Seconds(0)); // What was written may have to be read again.
     }
 
+    [[nodiscard]] QString imageFile(const QByteArray& bytes = picture("png")) const {
+        const QString path = folder.filePath(u"a.png"_s);
+        QFile file(path);
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
+        return path;
+    }
+
     [[nodiscard]] QStringList texts() const {
         QStringList list;
         for (const ClipItem& clip : store.clips()) {
@@ -82,11 +91,55 @@ public:
 
 inline const PasteboardEntry secret{u"x-kde-passwordManagerHint"_s, "secret"};
 
+inline const QList<PasteboardEntry> abc = {text("abc")};
+inline const QList<PasteboardEntry> png = {{u"image/png"_s, picture("png")}};
+
+using Happening = std::function<void(Clipboard&)>;
+
+inline Happening offering(const QList<PasteboardEntry>& offered) {
+    return [offered](Clipboard& on) {
+        on.pasteboard.offer(offered);
+    };
+}
+
+/// Offers it as a copy by one program.
+inline Happening by(PasteboardOwner owner, const QList<PasteboardEntry>& offered) {
+    return [owner, offered](Clipboard& on) {
+        on.pasteboard.owner = owner;
+        on.pasteboard.offer(offered);
+        on.settle();
+    };
+}
+
+inline Happening later(double seconds) {
+    return [seconds](Clipboard& on) {
+        on.scheduler.advance(Seconds(seconds));
+    };
+}
+
 inline void lose(Clipboard& on) {
     on.pasteboard.loseOwner();
 }
 
-inline const QList<PasteboardEntry> abc = {text("abc")};
-inline const QList<PasteboardEntry> png = {{u"image/png"_s, picture("png")}};
+/// The next owner comes before the manager notices the end.
+inline void loseUnseen(Clipboard& on) {
+    on.pasteboard.reportsChanges = false;
+    on.pasteboard.loseOwner();
+}
+
+inline void deleteNewest(Clipboard& on) {
+    on.store.deleteClip(on.store.clips().front().id);
+}
+
+inline void pinNewest(Clipboard& on) {
+    on.store.togglePin(on.store.clips().front().id);
+}
+
+inline void clearAll(Clipboard& on) {
+    on.store.clearClips();
+}
+
+inline const PasteboardOwner one{1};
+inline const PasteboardOwner other{2};
 
 } // namespace ravelo

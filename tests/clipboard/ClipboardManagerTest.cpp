@@ -18,7 +18,7 @@ struct CaptureCase {
 
 class CaptureTable : public Clipboard, public testing::WithParamInterface<CaptureCase> {};
 
-TEST_P(CaptureTable, keepsWhatTheOwnerMeansToBeKept) {
+TEST_P(CaptureTable, keepsWhatTheOwnerAllows) {
     pasteboard.offer(GetParam().offered);
     settle();
     settle(); // Another form may have to be asked for.
@@ -41,7 +41,7 @@ INSTANTIATE_TEST_SUITE_P(
         CaptureCase{"otherFilesThanInTheLine",
                     {text("/tmp/a /tmp/c"), {u"text/uri-list"_s, "file:///tmp/a\r\n"}},
                     {u"/tmp/a /tmp/c"_s}},
-        CaptureCase{"png", {{u"image/png"_s, picture("png")}}, {u"Image"_s}},
+        CaptureCase{"png", png, {u"Image"_s}},
         CaptureCase{"bmp", {{u"image/bmp"_s, picture("bmp")}}, {u"Image"_s}},
         CaptureCase{"brokenTiffThenBmp",
                     {{u"image/tiff"_s, "II*"}, {u"image/bmp"_s, picture("bmp")}},
@@ -60,7 +60,7 @@ INSTANTIATE_TEST_SUITE_P(
                     {u"abc"_s}}),
     [](const auto& row) { return row.param.name; });
 
-TEST_F(Clipboard, keepsTheEndsOfATextIfItIsTold) {
+TEST_F(Clipboard, keepsTheEndsOfATextIfSet) {
     manager->setTextEnds(TextEnds::kept);
     for (const char* copied : {" abc\n", "abc", " \n "}) {
         pasteboard.offer({text(copied)});
@@ -84,8 +84,8 @@ TEST_F(Clipboard, asksNothingOfAnOwnerThatConceals) {
     EXPECT_EQ(pasteboard.asked(), QStringList{secret.type}) << "only the mark itself was read";
 }
 
-TEST_F(Clipboard, looksEveryHalfSecondWhereNobodyTells) {
-    pasteboard.tellsChanges = false;
+TEST_F(Clipboard, pollsIfChangesAreNotReported) {
+    pasteboard.reportsChanges = false;
     pasteboard.offerText(u"abc"_s);
     scheduler.advance(Seconds(0.49));
     EXPECT_EQ(texts(), QStringList());
@@ -116,11 +116,7 @@ TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
     settle();
     EXPECT_EQ(pasteboard.bytes(plainTextType), "ours");
 
-    const QString path = folder.filePath(u"a.png"_s);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(picture("png"));
-    file.close();
+    const QString path = imageFile();
     manager->copyImage(path);
     settle();
     EXPECT_EQ(pasteboard.bytes("image/png"_L1), picture("png"));
@@ -147,80 +143,55 @@ TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
 }
 
 TEST_F(Clipboard, aStoredImageIsCopiedWithoutADecoder) {
-    const QString path = folder.filePath(u"scan.png"_s);
     const QByteArray scan = picture("png").replace(16, 8, QByteArray(8, '\x7f')); // Its size.
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(scan) > 0);
-    file.close();
-    manager->copyImage(path);
+    manager->copyImage(imageFile(scan));
     settle();
     EXPECT_EQ(pasteboard.bytes("image/png"_L1), scan) << "too large to be decoded";
 }
 
-struct OvertakenCase {
-    const char* name;
-    std::function<void(Clipboard&)> copies; ///< While an image is still being read.
-    const char* expected;                   ///< The text on the pasteboard at the end.
-};
-
-class OvertakenImage : public Clipboard, public testing::WithParamInterface<OvertakenCase> {};
-
-TEST_P(OvertakenImage, givesWayToWhatWasCopiedAfterIt) {
-    const QString path = folder.filePath(u"a.png"_s);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly) && file.write(picture("png")) > 0);
-    file.close();
-    manager->copyImage(path);
-    EXPECT_FALSE(pasteboard.bytes("image/png"_L1).startsWith("\x89PNG"))
-        << "read on the main thread";
-    GetParam().copies(*this);
-    settle();
-    EXPECT_EQ(pasteboard.bytes(plainTextType), GetParam().expected);
+TEST_F(Clipboard, anImageGivesWayToWhatWasCopiedAfterIt) {
+    const QString path = imageFile();
+    for (const bool byUs : {true, false}) {
+        pasteboard.offerText(u"before"_s);
+        settle();
+        manager->copyImage(path);
+        EXPECT_EQ(pasteboard.bytes(plainTextType), "before") << "read on the main thread";
+        byUs ? manager->copyText(u"text"_s) : pasteboard.offerText(u"text"_s);
+        settle();
+        EXPECT_EQ(pasteboard.bytes(plainTextType), "text") << (byUs ? "by us" : "by another");
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    By, OvertakenImage,
-    testing::Values(
-        OvertakenCase{"us", [](Clipboard& on) { on.manager->copyText(u"text"_s); }, "text"},
-        OvertakenCase{"another", [](Clipboard& on) { on.pasteboard.offerText(u"theirs"_s); },
-                      "theirs"}),
-    [](const auto& row) { return row.param.name; });
+TEST(FileForms, areWhatFileManagersPaste) {
+    struct Row {
+        QUrl url;
+        QByteArray address;
+        QByteArray path; ///< As text; null if it cannot be one.
+    };
 
-struct FileCase {
-    const char* name;
-    QUrl url;
-    QByteArray address;
-    QByteArray path; ///< As text; null where it cannot be one.
-};
-
-class FileTable : public testing::TestWithParam<FileCase> {};
-
-TEST_P(FileTable, isWhatFileManagersPaste) {
-    const auto forms = byType(fileForms(GetParam().url));
-    EXPECT_EQ(forms.value(u"text/uri-list"_s), GetParam().address + "\r\n");
-    EXPECT_EQ(forms.value(u"x-special/gnome-copied-files"_s), "copy\n" + GetParam().address);
-    EXPECT_EQ(forms.value(plainTextType), GetParam().path);
-    EXPECT_EQ(forms.contains(plainTextType), !GetParam().path.isNull());
+    const Row table[] = {
+        {QUrl::fromLocalFile(u"/tmp/a-b_c.~1"_s), "file:///tmp/a-b_c.~1", "/tmp/a-b_c.~1"},
+        {QUrl::fromLocalFile(u"/tmp/a b%20[c]#?\"&;"_s),
+         "file:///tmp/a%20b%2520%5Bc%5D%23%3F%22%26%3B", "/tmp/a b%20[c]#?\"&;"},
+        {QUrl::fromLocalFile(u"/tmp/a\r\nb"_s), "file:///tmp/a%0D%0Ab", "/tmp/a\r\nb"},
+        {QUrl::fromLocalFile(u"/tmp/\u00fc"_s), "file:///tmp/%C3%BC", "/tmp/\xc3\xbc"},
+        {QUrl::fromEncoded("file:///tmp/%fc%20"), "file:///tmp/%FC%20", {}},
+    };
+    for (const auto& [url, address, path] : table) {
+        QHash<QString, QByteArray> expected{
+            {u"text/uri-list"_s, address + "\r\n"},
+            {u"x-special/gnome-copied-files"_s, "copy\n" + address}};
+        if (!path.isNull()) {
+            expected.insert(plainTextType, path);
+        }
+        EXPECT_EQ(byType(fileForms(url)), expected) << address.constData();
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Names, FileTable,
-    testing::Values(
-        FileCase{"plain", QUrl::fromLocalFile(u"/tmp/a-b_c.~1"_s), "file:///tmp/a-b_c.~1",
-                 "/tmp/a-b_c.~1"},
-        FileCase{"reserved", QUrl::fromLocalFile(u"/tmp/a b%20[c]#?\"&;"_s),
-                 "file:///tmp/a%20b%2520%5Bc%5D%23%3F%22%26%3B", "/tmp/a b%20[c]#?\"&;"},
-        FileCase{"lineBreak", QUrl::fromLocalFile(u"/tmp/a\r\nb"_s), "file:///tmp/a%0D%0Ab",
-                 "/tmp/a\r\nb"},
-        FileCase{"umlaut", QUrl::fromLocalFile(u"/tmp/\u00fc"_s), "file:///tmp/%C3%BC",
-                 "/tmp/\xc3\xbc"},
-        FileCase{"noUtf8", QUrl::fromEncoded("file:///tmp/%fc%20"), "file:///tmp/%FC%20", {}}),
-    [](const auto& row) { return row.param.name; });
 
 struct LossCase {
     const char* name;
     QList<PasteboardEntry> offered;            ///< Captured, after "before".
-    std::function<void(Clipboard&)> happens;   ///< Then.
+    QList<Happening> happens;                  ///< Then.
     QList<PasteboardEntry> expected = offered; ///< On the pasteboard at the end.
     qsizetype clips = 2;
 };
@@ -232,113 +203,51 @@ TEST_P(LossTable, offersAgainOnlyWhatWentWithItsOwner) {
     settle();
     pasteboard.offer(GetParam().offered);
     settle();
-    GetParam().happens(*this);
+    for (const Happening& happening : GetParam().happens) {
+        happening(*this);
+    }
     settle();
     EXPECT_EQ(byType(pasteboard.contents()), byType(GetParam().expected));
     EXPECT_EQ(store.clips().size(), GetParam().clips);
 }
 
-/// Offered after "abc" was captured, and then lost.
-std::function<void(Clipboard&)> losing(const QList<PasteboardEntry>& offered) {
-    return [offered](Clipboard& on) {
-        on.pasteboard.offer(offered);
-        on.settle();
-        lose(on);
-    };
+void fallSilent(Clipboard& on) {
+    on.pasteboard.offerSilence();
+    on.settle();
 }
+
+void clearPasteboard(Clipboard& on) {
+    on.pasteboard.release();
+}
+
+void hideDeaths(Clipboard& on) {
+    on.pasteboard.knowsDeaths = false;
+}
+
+const QList<PasteboardEntry> kept = {text("kept by the desktop")};
 
 INSTANTIATE_TEST_SUITE_P(
     Ends, LossTable,
-    testing::Values(LossCase{"text", abc, lose}, LossCase{"link", {text("https://a.org/")}, lose},
-                    LossCase{"image", png, lose},
-                    LossCase{"asCaptured", {text(" abc\n")}, lose, abc},
-                    LossCase{"sameTextOfAnother", abc, losing(abc), abc},
-                    LossCase{"pinned", abc,
-                             [](Clipboard& on) {
-                                 on.store.togglePin(on.store.clips().at(0).id);
-                                 lose(on);
-                             }},
-                    LossCase{"whereNobodyTells", abc,
-                             [](Clipboard& on) {
-                                 on.pasteboard.tellsChanges = false;
-                                 lose(on);
-                             }},
-                    LossCase{"whileTheImageIsWritten", abc,
-                             [](Clipboard& on) {
-                                 on.pasteboard.offer(png);
-                                 on.scheduler.advance(Seconds(0.1));
-                                 lose(on);
-                             },
-                             png, 3},
-                    LossCase{"beforeItWasRead",
-                             abc,
-                             [](Clipboard& on) {
-                                 on.pasteboard.offerText(u"too quick"_s);
-                                 lose(on);
-                             },
-                             {}},
-                    LossCase{"neverRead",
-                             abc,
-                             [](Clipboard& on) {
-                                 on.pasteboard.offerSilence();
-                                 on.settle();
-                                 lose(on);
-                             },
-                             {}},
-                    LossCase{"blank", abc, losing({text(" ")}), {}},
-                    LossCase{"concealed", abc, losing({text("pass"), secret}), {}},
-                    LossCase{"clearedByAManager", abc, losing({text(""), secret}), {}},
-                    LossCase{"namedAsTheImageIs", png, losing({text("Image")}), {}},
-                    LossCase{"passedOnFirst", png,
-                             [](Clipboard& on) {
-                                 on.pasteboard.owner = {2};
-                                 losing(png)(on);
-                             }},
-                    LossCase{"givenUp", abc, [](Clipboard& on) { on.pasteboard.release(); }, {}},
-                    LossCase{"perhapsGivenUp",
-                             abc,
-                             [](Clipboard& on) {
-                                 on.pasteboard.knowsDeaths = false;
-                                 lose(on);
-                             },
-                             {}},
-                    LossCase{"takenOver",
-                             abc,
-                             [](Clipboard& on) {
-                                 on.pasteboard.tellsChanges = false;
-                                 lose(on);
-                                 on.pasteboard.offer({text("kept by the desktop")});
-                             },
-                             {text("kept by the desktop")},
-                             3},
-                    LossCase{"deleted",
-                             abc,
-                             [](Clipboard& on) {
-                                 on.store.deleteClip(on.store.clips().at(0).id);
-                                 lose(on);
-                             },
-                             {},
-                             1},
-                    LossCase{"clearedThoughPinned",
-                             abc,
-                             [](Clipboard& on) {
-                                 on.store.togglePin(on.store.clips().at(0).id);
-                                 on.store.clearClips();
-                                 lose(on);
-                             },
-                             {},
-                             1}),
+    testing::Values(
+        LossCase{"text", abc, {lose}}, LossCase{"link", {text("https://a.org/")}, {lose}},
+        LossCase{"image", png, {lose}}, LossCase{"asCaptured", {text(" abc\n")}, {lose}, abc},
+        LossCase{"sameTextOfAnother", abc, {by(one, abc), lose}},
+        LossCase{"pinned", abc, {pinNewest, lose}},
+        LossCase{"changesNotReported", abc, {loseUnseen}},
+        LossCase{"whileTheImageIsWritten", abc, {offering(png), later(0.1), lose}, png, 3},
+        LossCase{"beforeItWasRead", abc, {offering({text("too quick")}), lose}, {}},
+        LossCase{"neverRead", abc, {fallSilent, lose}, {}},
+        LossCase{"blank", abc, {by(one, {text(" ")}), lose}, {}},
+        LossCase{"concealed", abc, {by(one, {text("pass"), secret}), lose}, {}},
+        LossCase{"clearedByAManager", abc, {by(one, {text(""), secret}), lose}, {}},
+        LossCase{"namedAsTheImageIs", png, {by(one, {text("Image")}), lose}, {}},
+        LossCase{"passedOnFirst", png, {by(other, png), lose}},
+        LossCase{"cleared", abc, {clearPasteboard}, {}},
+        LossCase{"perhapsCleared", abc, {hideDeaths, lose}, {}},
+        LossCase{"takenOver", abc, {loseUnseen, offering(kept)}, kept, 3},
+        LossCase{"deleted", abc, {deleteNewest, lose}, {}, 1},
+        LossCase{"clearedThoughPinned", abc, {pinNewest, clearAll, lose}, {}, 1}),
     [](const auto& row) { return row.param.name; });
-
-TEST_F(Clipboard, theOrderOfCopyingIsKeptThoughImagesTakeLonger) {
-    pasteboard.offer({{u"image/bmp"_s, picture("bmp")}});
-    scheduler.advance(Seconds(0.1));
-    pasteboard.offerText(u"after"_s);
-    scheduler.advance(Seconds(0.1));
-    EXPECT_EQ(texts(), QStringList());
-    worker.drain();
-    EXPECT_EQ(texts(), QStringList({u"after"_s, u"Image"_s}));
-}
 
 } // namespace
 } // namespace ravelo

@@ -3,7 +3,6 @@
 #include <QFile>
 #include <QUrl>
 
-#include <functional>
 #include <utility>
 
 namespace ravelo {
@@ -11,41 +10,6 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-using Happening = std::function<void(Clipboard&)>;
-
-/// Offers it as the copy of one program.
-Happening by(PasteboardOwner owner, const QList<PasteboardEntry>& offered) {
-    return [owner, offered](Clipboard& on) {
-        on.pasteboard.owner = owner;
-        on.pasteboard.offer(offered);
-        on.settle();
-    };
-}
-
-Happening later(double seconds) {
-    return [seconds](Clipboard& on) {
-        on.scheduler.advance(Seconds(seconds));
-    };
-}
-
-void deleteNewest(Clipboard& on) {
-    on.store.deleteClip(on.store.clips().front().id);
-}
-
-void pinNewest(Clipboard& on) {
-    on.store.togglePin(on.store.clips().front().id);
-}
-
-void clearAll(Clipboard& on) {
-    on.store.clearClips();
-}
-
-/// The next owner comes before the manager hears of the end.
-void loseUnseen(Clipboard& on) {
-    on.pasteboard.tellsChanges = false;
-    on.pasteboard.loseOwner();
-}
 
 struct RepeatCase {
     const char* name;
@@ -55,15 +19,13 @@ struct RepeatCase {
 
 class RepeatTable : public Clipboard, public testing::WithParamInterface<RepeatCase> {};
 
-TEST_P(RepeatTable, isACopyUnlessItIsPassedOn) {
+TEST_P(RepeatTable, isACopyUnlessPassedOn) {
     for (const Happening& happening : GetParam().happens) {
         happening(*this);
     }
     EXPECT_EQ(texts(), GetParam().expected);
 }
 
-const PasteboardOwner one{1};
-const PasteboardOwner other{2};
 const PasteboardOwner passer{3, PasteboardOwner::Kind::manager};
 const QStringList once{u"Image"_s};
 const QStringList twice{u"Image"_s, u"Image"_s};
@@ -97,21 +59,11 @@ INSTANTIATE_TEST_SUITE_P(
                    {by(one, abc), by(one, {text("def")}),
                     [](Clipboard& on) { on.manager->copyText(u"abc"_s); }, by(other, abc)},
                    {u"def"_s, u"abc"_s}},
-        RepeatCase{"whileTheImageIsWritten",
-                   {[](Clipboard& on) {
-                        on.pasteboard.offer(png);
-                        on.scheduler.advance(Seconds(0.1));
-                    },
-                    by(other, png)},
-                   once}),
+        RepeatCase{"whileTheImageIsWritten", {offering(png), later(0.1), by(other, png)}, once}),
     [](const auto& row) { return row.param.name; });
 
 TEST_F(Clipboard, anImageReadFromAFileIsNotOfferedInOurName) {
-    const QString path = folder.filePath(u"a.png"_s);
-    QFile file(path);
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(picture("png"));
-    file.close();
+    const QString path = imageFile();
     pasteboard.offer({{u"text/uri-list"_s, QUrl::fromLocalFile(path).toEncoded()}});
     settle();
     EXPECT_EQ(texts(), once);
@@ -176,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(Clipboard, aCopyThatComesWhileWeLookIsReadOnce) {
     pasteboard.owner = other;
     pasteboard.meanwhile = [this] {
-        pasteboard.tellsChanges = false; // Such a notice never comes from within a call.
+        pasteboard.reportsChanges = false; // Such a notice never comes from within a call.
         pasteboard.offer(png);
     };
     pasteboard.offerText(u"before"_s); // Seen, and replaced before its reading begins.
@@ -186,7 +138,7 @@ TEST_F(Clipboard, aCopyThatComesWhileWeLookIsReadOnce) {
 
 TEST_F(Clipboard, aCopyThatComesWhileWeWriteIsKept) {
     pasteboard.meanwhile = [this] {
-        pasteboard.tellsChanges = false;
+        pasteboard.reportsChanges = false;
         pasteboard.offerText(u"theirs"_s);
     };
     manager->copyText(u"ours"_s);
@@ -204,11 +156,11 @@ struct TooLargeCase {
 
 class TooLargeTable : public Clipboard, public testing::WithParamInterface<TooLargeCase> {};
 
-TEST_P(TooLargeTable, isSaidOnceACopyOfWhichNothingIsKept) {
+TEST_P(TooLargeTable, isReportedOncePerCopy) {
     QList<std::pair<TooLarge::Kind, qint64>> said;
-    manager->onTooLarge = [&](const TooLarge& what) {
+    QObject::connect(&*manager, &ClipboardManager::tooLarge, [&](const TooLarge& what) {
         said.append({what.kind, what.amount});
-    };
+    });
     pasteboard.tooLarge = GetParam().tooLarge;
     by(one, GetParam().offered)(*this);
     by(other, GetParam().offered)(*this); // Passed on.
@@ -243,10 +195,10 @@ struct LargeFile {
     const char* name;
     QByteArray contents;
     qint64 length;
-    QList<std::pair<TooLarge::Kind, qint64>> said;
+    QList<std::pair<TooLarge::Kind, qint64>> reported;
 };
 
-TEST_F(Clipboard, aCopiedImageFileThatIsTooLargeIsSaidOnce) {
+TEST_F(Clipboard, aCopiedImageFileThatIsTooLargeIsReportedOnce) {
     const LargeFile files[] = {
         {"bytes", picture("png"), overLimit, {{TooLarge::Kind::image, overLimit}}},
         {"pixels",
@@ -256,9 +208,10 @@ TEST_F(Clipboard, aCopiedImageFileThatIsTooLargeIsSaidOnce) {
         {"noPicture", "text", overLimit, {}}};
     for (const LargeFile& large : files) {
         QList<std::pair<TooLarge::Kind, qint64>> said;
-        manager->onTooLarge = [&](const TooLarge& what) {
-            said.append({what.kind, what.amount});
-        };
+        const auto connection =
+            QObject::connect(&*manager, &ClipboardManager::tooLarge, [&](const TooLarge& what) {
+                said.append({what.kind, what.amount});
+            });
         QFile file(folder.filePath(QString::fromLatin1(large.name)));
         ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(large.contents) > 0);
         ASSERT_TRUE(file.resize(large.length));
@@ -267,7 +220,8 @@ TEST_F(Clipboard, aCopiedImageFileThatIsTooLargeIsSaidOnce) {
             by(owner, {{filesType, list}})(*this);
             settle(); // A file is read before the worker gets it.
         }
-        EXPECT_EQ(said, large.said) << large.name;
+        QObject::disconnect(connection);
+        EXPECT_EQ(said, large.reported) << large.name;
         EXPECT_EQ(texts(), QStringList()) << large.name;
     }
 }

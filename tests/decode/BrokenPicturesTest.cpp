@@ -44,7 +44,7 @@ void readAll(ImageDecoder& decoder, const PictureFile& picture) {
     (void)decoder.png(picture);
 }
 
-/// Does `work` elsewhere, and returns the longest time that this thread then waits for its turn.
+/// Does `work` on another thread and returns the longest time that this thread waits for its turn.
 template <typename Work>
 std::chrono::milliseconds longestPause(Work work) {
     std::atomic<bool> done = false;

@@ -1,4 +1,4 @@
-// What comes from a decoder that has been taken over.
+// Replies of a decoder that has been taken over.
 
 #include "platform/system/DecoderConnection.h"
 #include "decode/Packets.h"
@@ -122,7 +122,7 @@ TEST_F(Liar, LeavesNoDescriptorBehind) {
     EXPECT_FALSE(ours->receive(timeout)) << "a descriptor for nothing";
     sayTwice(empty, 0, memory);
     EXPECT_FALSE(ours->receive(timeout)) << "an empty packet";
-    EXPECT_EQ(openDescriptors(), before) << "descriptors that nobody closes";
+    EXPECT_EQ(openDescriptors(), before) << "leaked descriptors";
 }
 
 TEST(Decoder, IsKilledWhenItsTimeIsOver) {

@@ -24,7 +24,7 @@ QByteArray contentsOf(const QString& path) {
     return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
 }
 
-/// The processes that this one has started and that have not ended.
+/// The running processes that this one has started.
 QStringList children() {
     QStringList found;
     for (const QString& process : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
@@ -64,13 +64,13 @@ protected:
     std::unique_ptr<DecoderProcess> decoder;
 };
 
-/// There is no font without an application: it ends by abort(3).
+/// Without an application there is no font: it ends by abort(3).
 constexpr auto deadly = R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9">)"
                         R"(<text x="1" y="8">A</text></svg>)";
 
 TEST_F(CountedDecoder, ServesManyAndKeepsWhatIsSmall) {
     const PictureFile file = write("a.png", samples::picture("png"));
-    EXPECT_EQ(starts(), 0) << "started without need";
+    EXPECT_EQ(starts(), 0) << "started too early";
     EXPECT_EQ(decoder->size(file), QSize(64, 32));
     EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8));
     EXPECT_EQ(decoder->filling(file, {8, 8, 9}).size(), QSize(9, 8));
@@ -156,7 +156,7 @@ TEST_F(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
     const QByteArray status = contentsOf(process + u"/status"_s);
     EXPECT_TRUE(status.contains("Seccomp:\t2")) << "no filter of system calls";
     EXPECT_TRUE(status.contains("NoNewPrivs:\t1"));
-    if (geteuid() == 0) { // Nobody else may look into a process that is not dumpable.
+    if (geteuid() == 0) { // Only root can inspect a process that is not dumpable.
         EXPECT_EQ(QDir(process + u"/fd"_s)
                       .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System),
                   (QStringList{u"0"_s, u"1"_s, u"2"_s, u"3"_s}));
@@ -183,7 +183,7 @@ TEST_F(DecoderProcessLife, EndsWithoutWork) {
     const auto gone = [] {
         return children().isEmpty();
     };
-    EXPECT_TRUE(eventually(gone) || eventually(gone)) << "it stays"; // 20 s are its own time.
+    EXPECT_TRUE(eventually(gone) || eventually(gone)) << "it stays"; // After 20 s.
     EXPECT_EQ(decoder->size(file), QSize(64, 32)) << "none came in its place";
 }
 

@@ -1,4 +1,4 @@
-// Locks itself down as ravelo-decode does, and then does what its argument names.
+// Locks itself down like ravelo-decode, then does what its argument names.
 
 #include "decode/LockDown.h"
 
@@ -23,7 +23,7 @@ void map(int protection) {
     }
 }
 
-/// False if it does not know the act.
+/// False if the act is unknown.
 bool run(std::string_view act) {
     struct stat info = {};
     const sockaddr address{AF_UNIX, "/tmp/x"};

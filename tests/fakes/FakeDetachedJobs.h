@@ -7,7 +7,7 @@
 
 namespace ravelo {
 
-/// Does each job when time goes on, or never.
+/// Runs each job when time advances, or never.
 class FakeDetachedJobs final : public DetachedJobs {
 public:
     explicit FakeDetachedJobs(Scheduler& scheduler) : scheduler_(scheduler) {}

@@ -10,7 +10,7 @@
 
 namespace ravelo {
 
-/// Answers when told to; by default it is the service that hangs.
+/// Answers on demand; until then the service hangs.
 class FakeNearbyDevices final : public NearbyDevices {
 public:
     struct Sent {
@@ -51,7 +51,7 @@ private:
     std::function<void(bool)> taken_;
 };
 
-/// Tells what it found when time goes on.
+/// Answers once time advances.
 class FakePrograms final : public Programs {
 public:
     explicit FakePrograms(Scheduler& scheduler) : scheduler_(scheduler) {}
@@ -81,22 +81,22 @@ private:
 class FakeFolderWatch final : public FolderWatch {
 public:
     [[nodiscard]] Handle watch(const QByteArray& path,
-                               std::function<void(const FolderNews&)> tell) override {
+                               std::function<void(const FolderNews&)> report) override {
         watched = path;
-        tell_ = std::move(tell);
-        return Handle([this] { tell_ = nullptr; });
+        report_ = std::move(report);
+        return Handle([this] { report_ = nullptr; });
     }
 
     void tell(const FolderNews& news) const {
-        if (tell_) {
-            tell_(news);
+        if (report_) {
+            report_(news);
         }
     }
 
     QByteArray watched;
 
 private:
-    std::function<void(const FolderNews&)> tell_;
+    std::function<void(const FolderNews&)> report_;
 };
 
 } // namespace ravelo

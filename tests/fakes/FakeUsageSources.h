@@ -10,7 +10,7 @@
 
 namespace ravelo {
 
-/// Keeps one password, or none, for everybody.
+/// Has one password, or none, for all services.
 class FakeSecretStore final : public SecretStore {
 public:
     [[nodiscard]] Handle find(const QString& service,
@@ -29,7 +29,7 @@ public:
     QStringList asked;
 };
 
-/// An Internet that never answers.
+/// A network that never answers.
 class SilentHttps final : public HttpsClient {
 public:
     [[nodiscard]] Handle get(const HttpsRequest& /*request*/,

@@ -8,7 +8,7 @@
 
 namespace ravelo {
 
-/// Decodes right here, as the real one does in its process: fit for pictures that tests make.
+/// Decodes in this process: for pictures made by tests.
 class InProcessDecoder final : public ImageDecoder {
 public:
     PictureLook look(const UntrustedPicture& picture) override {

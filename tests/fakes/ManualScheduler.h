@@ -7,7 +7,7 @@
 
 namespace ravelo {
 
-/// Time that starts at a fixed instant and moves only when told to.
+/// Time that starts at a fixed instant and moves only through `advance`.
 class ManualScheduler final : public Scheduler {
 public:
     ManualScheduler();
@@ -18,13 +18,13 @@ public:
     [[nodiscard]] Handle after(Seconds delay, std::function<void()> action) override;
     [[nodiscard]] Handle every(Seconds interval, std::function<void()> action) override;
 
-    /// Moves both clocks on and runs what falls due, in order of its time.
+    /// Moves both clocks and runs what is due, in order.
     void advance(Seconds time);
 
-    /// Moves the wall clock alone, as a user or the network would.
+    /// Moves only the wall clock, as a user or NTP would.
     void setNow(Date now);
 
-    /// How much delayed and repeated work is waiting.
+    /// The number of delayed and repeated actions that wait.
     [[nodiscard]] int pending() const;
 
 private:

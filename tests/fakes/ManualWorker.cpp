@@ -13,7 +13,7 @@ void ManualWorker::run(std::function<void()> job, std::function<void()> done) {
 
 void ManualWorker::drain() {
     if (std::exchange(running_, true)) {
-        return; // A job's end gave another one: the loop below takes it in its turn.
+        return; // Called by a job's end: the loop below runs the new job in its turn.
     }
     while (!jobs_.empty()) {
         const Entry entry = std::move(jobs_.front());

@@ -6,7 +6,7 @@
 
 namespace ravelo {
 
-/// Runs each job when told to, or, by default, as soon as it is given.
+/// Runs each job in `drain` or, by default, at once.
 class ManualWorker final : public Worker {
 public:
     enum class Mode { atOnce, whenTold };
@@ -16,7 +16,7 @@ public:
     void run(std::function<void()> job, std::function<void()> done = {}) override;
     void drain() override;
 
-    /// How many jobs are waiting.
+    /// The number of jobs that wait.
     [[nodiscard]] int pending() const { return static_cast<int>(jobs_.size()); }
 
 private:

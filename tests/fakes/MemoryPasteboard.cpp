@@ -62,7 +62,7 @@ void MemoryPasteboard::passTime() {
 
 void MemoryPasteboard::offer(const QList<PasteboardEntry>& forms) {
     replace(forms);
-    tell();
+    notify();
 }
 
 void MemoryPasteboard::offerText(const QString& text) {
@@ -72,12 +72,12 @@ void MemoryPasteboard::offerText(const QString& text) {
 void MemoryPasteboard::offerSilence() {
     replace({});
     silent_ = true;
-    tell();
+    notify();
 }
 
 void MemoryPasteboard::release() {
     replace({});
-    tell();
+    notify();
 }
 
 void MemoryPasteboard::loseOwner() {
@@ -87,7 +87,7 @@ void MemoryPasteboard::loseOwner() {
         orphaned_ = lost;
         lastEnd_ = {lost, scheduler_.uptime()};
     }
-    tell();
+    notify();
 }
 
 std::optional<qint64> MemoryPasteboard::adopt(const QList<PasteboardEntry>& forms) {
@@ -110,8 +110,8 @@ void MemoryPasteboard::askToSave() {
     saveListeners_.notify();
 }
 
-void MemoryPasteboard::tell() {
-    if (tellsChanges) {
+void MemoryPasteboard::notify() {
+    if (reportsChanges) {
         listeners_.notify();
     }
 }

@@ -6,8 +6,7 @@
 
 namespace ravelo {
 
-/// A pasteboard in memory. Answers come a moment later on the given scheduler, as they would from
-/// another program.
+/// A pasteboard in memory. Answers come a moment later, as from another program.
 class MemoryPasteboard final : public Pasteboard {
 public:
     explicit MemoryPasteboard(Scheduler& scheduler) : scheduler_(scheduler) {}
@@ -25,20 +24,20 @@ public:
     [[nodiscard]] Handle onSaveRequest(std::function<void()> callback) override;
     void answerSaveRequests(qint64 count, SaveAnswer answer) override;
 
-    /// The owner asks that its contents be saved, and waits.
+    /// The owner wants its contents saved, and waits.
     void askToSave();
 
-    /// What it was answered; nothing while it waits.
+    /// The answer; nothing while the owner waits.
     [[nodiscard]] std::optional<SaveAnswer> saveAnswer() const { return saveAnswer_; }
 
-    /// Who takes the pasteboard by the next calls of `offer`.
+    /// The owner after the next calls of `offer`.
     PasteboardOwner owner{1};
 
-    /// What else is known of the contents, but for the owners.
+    /// Sizes of forms that are too large, by type.
     QHash<QString, qint64> tooLarge;
 
-    /// Called once, in between: after the change count was given out and before the reading that
-    /// is asked for, or after our own writing and before it returns.
+    /// Called once, between handing out the change count and the reading, or after our own writing
+    /// and before it returns.
     std::function<void()> meanwhile;
 
     /// Another program takes the pasteboard.
@@ -48,32 +47,32 @@ public:
     /// Another program takes the pasteboard and never answers.
     void offerSilence();
 
-    /// The owner gives the contents up.
+    /// The owner clears the pasteboard.
     void release();
 
-    /// The owner ends, and the contents go with it.
+    /// The owner ends, and its contents are gone.
     void loseOwner();
 
-    /// Whether an owner's end is told from its giving the contents up.
+    /// Whether the end of an owner can be distinguished from clearing.
     bool knowsDeaths = true;
 
-    /// Whether changes from elsewhere are told at once, or only seen by asking.
-    bool tellsChanges = true;
+    /// Whether changes by others are reported at once or found only by polling.
+    bool reportsChanges = true;
 
-    /// How long an owner takes for an answer.
+    /// The time until an owner answers.
     Seconds answerTime{0.001};
 
     [[nodiscard]] const QList<PasteboardEntry>& contents() const { return forms_; }
 
     [[nodiscard]] QByteArray bytes(QLatin1StringView type) const;
 
-    /// Every type that anybody asked the owners for.
+    /// All types that owners were asked for.
     [[nodiscard]] const QStringList& asked() const { return asked_; }
 
 private:
     void replace(const QList<PasteboardEntry>& forms);
     void passTime();
-    void tell();
+    void notify();
     [[nodiscard]] PasteboardSnapshot follow(const PasteboardPlan& plan);
 
     Scheduler& scheduler_;

@@ -12,7 +12,7 @@
 
 namespace ravelo {
 
-/// A plan whose usage is known from its file alone.
+/// A plan whose usage comes from its file only.
 struct UsageWorld {
     explicit UsageWorld(Scheduler& scheduler, const PlanWindows& windows = {})
         : jobs(scheduler),
@@ -20,7 +20,7 @@ struct UsageWorld {
 
     [[nodiscard]] QByteArray home() const { return QFile::encodeName(folder.path()); }
 
-    /// What the file says from now on. Read with the next tick.
+    /// The contents of the file; read at the next tick.
     void write(const PlanWindows& windows) const {
         const QJsonObject limits{{QStringLiteral("five_hour"), json(windows.session)},
                                  {QStringLiteral("seven_day"), json(windows.week)}};

@@ -1,4 +1,4 @@
-// On a real folder, whose changes are told by the kernel or by nobody.
+// On a real folder, with changes reported by the kernel or not at all.
 
 #include "monitor/LiveContext.h"
 
@@ -23,7 +23,7 @@ namespace {
 
 constexpr Seconds tick(5);
 
-/// Tells what it is told to tell.
+/// Reports what the script says.
 class ScriptedChanges final : public FolderChanges {
 public:
     struct Script {
@@ -93,7 +93,7 @@ protected:
 
 using MakeChanges = std::unique_ptr<FolderChanges> (*)();
 
-/// Whoever tells what has changed, the same is seen.
+/// The result does not depend on who reports changes.
 class LiveContextTest : public ContextTest, public testing::WithParamInterface<MakeChanges> {
 protected:
     void start() { ContextTest::start(GetParam()()); }
@@ -126,7 +126,7 @@ TEST_P(LiveContextTest, followsTheNewestTranscript) {
     ASSERT_TRUE(QDir().rename(home_.filePath(u".claude"_s), home_.filePath(u"away"_s)));
     EXPECT_EQ(usedAfterATick(), 500) << "the last reading stays";
     write(u"c/again.jsonl"_s, 600, 1);
-    EXPECT_EQ(usedAfterATick(), 600) << "all is made anew in the old place";
+    EXPECT_EQ(usedAfterATick(), 600) << "created again in the old place";
     EXPECT_EQ(context_->lastActivity(), Date{1 - referenceInstant});
     ASSERT_TRUE(QDir().rename(home_.filePath(u".claude"_s), home_.filePath(u"elsewhere"_s)));
     write(u"c/again.jsonl"_s, 700, 2);
@@ -168,7 +168,7 @@ INSTANTIATE_TEST_SUITE_P(Kernel, LiveContextTest, testing::Values([] {
                              return std::unique_ptr<FolderChanges>(
                                  std::make_unique<InotifyChanges>());
                          }));
-INSTANTIATE_TEST_SUITE_P(Nobody, LiveContextTest, testing::Values([] {
+INSTANTIATE_TEST_SUITE_P(NoReports, LiveContextTest, testing::Values([] {
                              auto script = std::make_shared<ScriptedChanges::Script>();
                              script->watches = false;
                              return std::unique_ptr<FolderChanges>(
@@ -186,7 +186,7 @@ TEST_F(ContextTest, readsNothingTwiceThatHasNotChanged) {
     script->next.folders = {folder};
     EXPECT_EQ(usedAfterATick(), 11) << "the same date and size";
     write(u"a/x.jsonl"_s, 33, 1001);
-    EXPECT_EQ(usedAfterATick(), 11) << "nobody told";
+    EXPECT_EQ(usedAfterATick(), 11) << "the change was not reported";
     script->next.folders = {folder};
     EXPECT_EQ(usedAfterATick(), 33);
     write(u"a/x.jsonl"_s, 44, 1002);
@@ -276,7 +276,7 @@ TEST_F(ContextTest, looksElsewhereOnlyIfTheUsualFolderHasNoTurn) {
     EXPECT_EQ(usedAfterATick(), 44) << "what changed meanwhile is seen";
 }
 
-TEST_F(ContextTest, leavesLooksOutIfNobodyReportsTheChangesOfMany) {
+TEST_F(ContextTest, skipsListingManyUnwatchedFolders) {
     for (int i = 0; i < 400; ++i) {
         writeFile(path(u"a/%1.jsonl"_s.arg(i)), {});
     }
@@ -296,7 +296,7 @@ TEST_F(ContextTest, leavesLooksOutIfNobodyReportsTheChangesOfMany) {
     EXPECT_EQ(usedAfterATick(), 101) << "the newest is gone, so the others are listed";
 }
 
-TEST_F(ContextTest, takesItsLimitFromTheSettingsFile) {
+TEST_F(ContextTest, readsItsLimitFromTheSettingsFile) {
     qputenv("CLAUDE_CODE_AUTO_COMPACT_WINDOW", "5");
     start(std::make_unique<InotifyChanges>());
     const auto limit = [&](const QByteArray& value) {
@@ -316,7 +316,7 @@ TEST_F(ContextTest, takesItsLimitFromTheSettingsFile) {
     qunsetenv("CLAUDE_CODE_AUTO_COMPACT_WINDOW");
 }
 
-TEST_F(ContextTest, tellsThePeakHoursEvenIfTheDiskDoesNotAnswer) {
+TEST_F(ContextTest, knowsThePeakHoursEvenIfTheDiskDoesNotAnswer) {
     write(u"a/x.jsonl"_s, 11, 1000);
     jobs_.hung = true;
     start(std::make_unique<InotifyChanges>());

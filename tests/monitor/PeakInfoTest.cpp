@@ -15,10 +15,10 @@ QDateTime utc(const char* time) {
 }
 
 struct PeakCase {
-    const char* now; ///< In UTC, as the transition.
+    const char* now; ///< In UTC, like the transition.
     bool isPeak;
     const char* transition;
-    const char* label; ///< Off peak, where the time of day is nobody's.
+    const char* label; ///< Off peak, without a time of day.
 };
 
 // New York is 5 hours behind UTC in winter, 4 from 8 March to 1 November 2026.
@@ -33,7 +33,7 @@ constexpr PeakCase cases[] = {
     {"2026-01-10T17:00:00Z", false, "2026-01-12T13:00:00Z", "OFF-PEAK · peak in 1d 20h"},
     {"2026-01-11T13:00:00Z", false, "2026-01-12T13:00:00Z", "OFF-PEAK · peak in 1d 0h"},
     {"2026-01-11T13:00:01Z", false, "2026-01-12T13:00:00Z", "OFF-PEAK · peak in 23h 59m"},
-    // Over the changes of the clocks, each in the night to a Sunday.
+    // Across daylight-saving changes, each in the night to a Sunday.
     {"2026-03-06T13:00:00Z", true, "2026-03-06T19:00:00Z", ""},
     {"2026-03-06T19:00:00Z", false, "2026-03-09T12:00:00Z", "OFF-PEAK · peak in 2d 17h"},
     {"2026-03-08T07:00:00Z", false, "2026-03-09T12:00:00Z", "OFF-PEAK · peak in 1d 5h"},

@@ -1,5 +1,5 @@
-// On virtual time, and in all else real: a server that speaks TLS, files, a program that stands in
-// for Claude Code.
+// On virtual time with everything else real: a TLS server, files, a program in place of Claude
+// Code.
 
 #include "monitor/PlanUsage.h"
 
@@ -33,8 +33,8 @@ const PlanWindows answered{UsageWindow{41.5, {}}, UsageWindow{78, {}}};
 
 const QByteArray goodBody = R"({"five_hour":{"utilization":41.5},"seven_day":{"utilization":78}})";
 
-/// Notes its arguments, what its streams are, where it runs and its environment, leaves a file
-/// behind, gives new credentials, and ends.
+/// Records its arguments, streams, folder and environment, leaves a file behind, provides new
+/// credentials, and ends.
 const QByteArray claude = R"(#!/bin/sh
 here=$(dirname "$0")
 { pwd; stat -c %a .; ls -A; } > "$here/place"
@@ -59,7 +59,7 @@ public:
         write(u".local/bin/claude"_s, claude);
         QFile::setPermissions(path(u".local/bin/claude"_s), QFile::ReadOwner | QFile::ExeOwner);
         server.answer = UsageServer::http("200 OK", goodBody);
-        scheduler.advance(Seconds(1)); // All of that is older than any answer.
+        scheduler.advance(Seconds(1)); // All files are older than any answer.
     }
 
     [[nodiscard]] QString path(const QString& name) const { return home.filePath(name); }
@@ -104,7 +104,7 @@ public:
         }));
     }
 
-    /// Lets so much time pass, tick by tick, with every query coming to its end.
+    /// Lets time pass tick by tick; every query ends.
     void pass(Seconds time) {
         for (Seconds passed(0); passed < time; passed += tick) {
             scheduler.advance(tick);
@@ -114,7 +114,7 @@ public:
 
     [[nodiscard]] PlanWindows windows() const { return {usage->session(), usage->week()}; }
 
-    /// What a renewal needs among what would steer it.
+    /// What a renewal needs, and what could manipulate it.
     static QProcessEnvironment environment() {
         QProcessEnvironment environment;
         for (const char* variable :
@@ -133,7 +133,7 @@ public:
         return {"Ravelo/test", proxies, QStringList{u"--cacert"_s, server.authority()} + options};
     }
 
-    /// Whether a client of its own gets an answer.
+    /// Whether a new query by this client succeeds.
     [[nodiscard]] bool succeeds(HttpsClient& by, Seconds timeout = Seconds(15)) {
         const auto one = asking(by, u"localhost"_s, timeout);
         settle(*one);
@@ -230,7 +230,7 @@ TEST_F(PlanUsageTest, carriesTheTokenNowhereElse) {
 
     CurlClient systemTrust("Ravelo/test", {});
     EXPECT_FALSE(succeeds(systemTrust));
-    EXPECT_EQ(server.requests().size(), 1) << "nobody vouches for the certificate";
+    EXPECT_EQ(server.requests().size(), 1) << "the certificate is not trusted";
 }
 
 TEST_F(PlanUsageTest, asksThroughTheProxyOfTheEnvironment) {
@@ -288,7 +288,7 @@ TEST_F(PlanUsageTest, asksLessOftenIfThatIsTooOften) {
     const auto tooMany = [](const QByteArray& header) {
         return UsageServer::http("429 Too Many Requests", "", header);
     };
-    /// How long until the next request, with the ticks it takes.
+    /// The time until the next request, in ticks.
     const auto wait = [&] {
         const auto before = server.requests().size();
         Seconds passed(0);
@@ -329,7 +329,7 @@ TEST_F(PlanUsageTest, renewsARefusedTokenAtMostEveryTwentyMinutes) {
 
 TEST_F(PlanUsageTest, renewsWhereNothingSteersTheTool) {
     const QString folder = path(u"cache/renewal"_s);
-    write(u"cache/renewal/.claude/settings.json"_s, "left by whoever");
+    write(u"cache/renewal/.claude/settings.json"_s, "left over");
     server.answer = UsageServer::http("401 Unauthorized", "");
     start();
     EXPECT_EQ(readFile(path(u".local/bin/place"_s)), folder.toUtf8() + "\n700\n")

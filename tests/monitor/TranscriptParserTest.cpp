@@ -15,7 +15,7 @@ void PrintTo(const TurnUsage& usage, std::ostream* out) {
 
 namespace {
 
-/// A turn of an assistant that took `input` tokens, or what is told to be its usage.
+/// A turn of an assistant with this usage.
 QByteArray turn(const QByteArray& model, const QByteArray& usage, const QByteArray& more = {}) {
     return R"({"type":"assistant",)" + more + R"("message":{"model":")" + model + R"(","usage":)" +
            usage + "}}\n";

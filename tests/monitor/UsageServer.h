@@ -63,7 +63,7 @@ private:
     QTcpServer server_;
 };
 
-/// An address of this machine where connections are neither taken nor refused.
+/// An address of this machine where connections are neither accepted nor refused.
 class SilentAddress {
 public:
     static constexpr const char* address = "127.0.0.2";

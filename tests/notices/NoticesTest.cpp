@@ -119,12 +119,9 @@ TEST_F(NoticesTest, theWorstComesFirstAndTheOthersWait) {
 
 TEST_F(NoticesTest, itsButtonsDoWhatTheySay) {
     QStringList done;
-    notices.onTryAgain = [&] {
-        done.append(u"try"_s);
-    };
-    notices.onOpenFolder = [&](const QString& path) {
-        done.append(path);
-    };
+    QObject::connect(&notices, &Notices::tryAgain, [&] { done.append(u"try"_s); });
+    QObject::connect(&notices, &Notices::openFolder,
+                     [&](const QString& path) { done.append(path); });
     notices.act();
     EXPECT_EQ(done, QStringList()) << "there is no notice";
     notices.putAside(store, u"/a/store.json.unreadable"_s);

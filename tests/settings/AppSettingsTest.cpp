@@ -48,7 +48,7 @@ TEST_P(SettingsField, HasItsDefaultWithoutAValue) {
     EXPECT_TRUE(preferences_.value(key_).isUndefined()) << "reading writes nothing";
 }
 
-TEST_P(SettingsField, IsReadWhereItsTypeIsRight) {
+TEST_P(SettingsField, IsReadIfItsTypeIsRight) {
     preferences_.set(key_, GetParam().other);
     EXPECT_EQ(field(AppSettings(preferences_, loginItem_)), GetParam().other);
     preferences_.set(key_, GetParam().wrongType);
@@ -56,13 +56,13 @@ TEST_P(SettingsField, IsReadWhereItsTypeIsRight) {
     EXPECT_EQ(preferences_.value(key_), GetParam().wrongType) << "it stays until it is set";
 }
 
-TEST_P(SettingsField, IsToldAndKeptWhenItIsSet) {
+TEST_P(SettingsField, NotifiesAndIsKeptWhenSet) {
     AppSettings settings(preferences_, loginItem_);
     const Told told(&settings, GetParam().changed);
     int layouts = 0;
     settings.onLayoutChange = [&] {
         ++layouts;
-        EXPECT_EQ(preferences_.value(key_), GetParam().other) << "written before it is told";
+        EXPECT_EQ(preferences_.value(key_), GetParam().other) << "written before the notification";
     };
     for (int times = 0; times < 2; ++times) {
         ASSERT_TRUE(settings.setProperty(GetParam().name, GetParam().other.toVariant()));
@@ -95,7 +95,7 @@ INSTANTIATE_TEST_SUITE_P(
         Field{"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
         Field{"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}));
 
-TEST(SettingsRange, IsWhatCanBeSeen) {
+TEST(SettingsRange, KeepsThePanelVisible) {
     for (const auto& [stored, width, opacity] :
          {std::array{-5.0, 927.0, 0.55}, std::array{1e300, 927.0, 0.55},
           std::array{0.9, 927.0, 0.9}, std::array{400.0, 400.0, 0.55}}) {
@@ -109,7 +109,7 @@ TEST(SettingsRange, IsWhatCanBeSeen) {
     }
 }
 
-TEST(SettingsRange, HasThreeLengthsOfTheHistory) {
+TEST(SettingsRange, AllowsThreeHistoryLengths) {
     for (const auto& [stored, length] : {std::pair(200, 200), {0, 60}, {-1, 60}, {61, 60}}) {
         MemoryPreferences preferences;
         FakeLoginItem loginItem;
@@ -135,24 +135,20 @@ TEST_F(LoginSetting, FirstRunRegistersOnce) {
         settings.setLaunchAtLogin(false);
         EXPECT_FALSE(loginItem_.enabled);
     }
-    AppSettings settings(preferences_, loginItem_);
-    settings.setupLoginItemDefaultIfNeeded();
-    EXPECT_FALSE(settings.launchAtLogin()) << "the user's choice stays";
-    EXPECT_FALSE(loginItem_.enabled);
-}
-
-TEST_F(LoginSetting, AnyValueOfTheFlagCounts) {
-    preferences_.set(u"didSetupLogin"_s, false);
-    AppSettings settings(preferences_, loginItem_);
-    settings.setupLoginItemDefaultIfNeeded();
-    EXPECT_FALSE(loginItem_.enabled);
+    for (const bool flag : {true, false}) { // Any value of the flag counts.
+        preferences_.set(u"didSetupLogin"_s, flag);
+        AppSettings settings(preferences_, loginItem_);
+        settings.setupLoginItemDefaultIfNeeded();
+        EXPECT_FALSE(settings.launchAtLogin()) << "the user's choice stays";
+        EXPECT_FALSE(loginItem_.enabled);
+    }
 }
 
 TEST_F(LoginSetting, FollowsTheDesktopAndIsAppliedEachTime) {
     loginItem_.enabled = true;
     AppSettings settings(preferences_, loginItem_);
     EXPECT_TRUE(settings.launchAtLogin());
-    loginItem_.enabled = false; // Somebody took the entry away.
+    loginItem_.enabled = false; // Somebody removed the entry.
     const Told told(&settings, &AppSettings::launchAtLoginChanged);
     settings.setLaunchAtLogin(true);
     EXPECT_TRUE(loginItem_.enabled);

@@ -14,7 +14,7 @@ namespace ravelo {
 
 namespace {
 
-/// Keeps each job until it is told to do it: one after the other may hang.
+/// Runs each job only on demand, so that any of them can hang.
 class HeldJobs final : public DetachedJobs {
 public:
     Handle run(std::function<void()> job, std::function<void()> done) override {
@@ -57,7 +57,7 @@ protected:
     std::optional<FileLook::Found> found_;
 };
 
-const QUrl dead = fileUrl("/dead/a"); // Asked for first, as folders go by their names.
+const QUrl dead = fileUrl("/dead/a"); // Checked first: folders are sorted by name.
 const QUrl alsoDead = fileUrl("/dead/b");
 const QUrl gone = fileUrl("/no/such");
 

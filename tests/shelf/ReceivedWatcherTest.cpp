@@ -16,9 +16,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What happens, in words: "+a" a is written and closed, "0a" likewise but stays empty, ">a" comes
-/// from elsewhere, "a>b" is renamed, "-a" is deleted; "[ a b ]" is a listing of what was there
-/// before, "{ a 0b }" one of what came meanwhile.
+/// Events in shorthand: "+a" a is written and closed, "0a" likewise but empty, ">a" is moved in,
+/// "a>b" is renamed, "-a" is deleted; "[ a b ]" is a listing of older files, "{ a 0b }" one of
+/// files that arrived meanwhile.
 FolderNews newsOf(const std::string& words) {
     using Kind = FolderChange::Kind;
     static quint32 renaming = 0;
@@ -71,7 +71,7 @@ protected:
 
 struct ReceivedCase {
     const char* name;
-    const char* happens; ///< After "old" and "old.part" were there; "|" parts what is told apart.
+    const char* happens; ///< With "old" and "old.part" there; "|" separates reports.
     const char* files;
 
     friend void PrintTo(const ReceivedCase& tested, std::ostream* out) { *out << tested.name; }
@@ -117,7 +117,7 @@ INSTANTIATE_TEST_SUITE_P(
                     ReceivedCase{"aFolderThatWasMade", "+a | [ ] | { b } +c", "b c"}),
     [](const auto& tested) { return tested.param.name; });
 
-TEST_F(Received, isToldTenTimesASecondAndReceivesForFour) {
+TEST_F(Received, notifiesTenTimesASecondAndReceivesForFour) {
     int calls = 0;
     const Handle listening = watcher_.onChange([&] { ++calls; });
     folder_.tell(newsOf("[ old ]"));

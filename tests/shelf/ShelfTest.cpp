@@ -2,8 +2,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
-
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -15,62 +13,33 @@ const QUrl b(u"file:///b"_s);
 const QUrl c(u"file:///c"_s);
 const QUrl d(u"file:///d"_s);
 
-struct ShelfCase {
-    const char* name;
-    Shelf before;
-    std::optional<Shelf> (*change)(const Shelf& shelf);
-    std::optional<Shelf> after;
+TEST(Shelf, followsItsRules) {
+    const Shelf two{{{a, b}, {c}}, {a, c}};
 
-    friend void PrintTo(const ShelfCase& tested, std::ostream* out) { *out << tested.name; }
-};
+    struct Case {
+        const char* name;
+        std::optional<Shelf> result;
+        std::optional<Shelf> expected;
+    };
 
-class ShelfRule : public testing::TestWithParam<ShelfCase> {};
-
-TEST_P(ShelfRule, makesOfTheShelf) {
-    EXPECT_EQ(GetParam().change(GetParam().before), GetParam().after);
+    const Case cases[] = {
+        {"only new files make a stack", Shelf{{{a}}, {}}.added({b, a, c}),
+         Shelf{{{a}, {b, c}}, {b, c}}},
+        {"known files change nothing", Shelf{{{a, b}}, {}}.added({b, a}), std::nullopt},
+        {"a file given twice is kept twice", Shelf().added({a, a}), Shelf{{{a, a}}, {a}}},
+        {"an empty stack goes", Shelf{{{a}, {b}, {c}}, {b, c}}.removed({b}),
+         Shelf{{{a}, {c}}, {c}}},
+        {"a file leaves every stack", Shelf{{{a, b}, {a, c}}, {}}.removed({a}),
+         Shelf{{{b}, {c}}, {}}},
+        {"a partly selected stack is selected", two.stackToggled({a, b}),
+         Shelf{two.stacks, {a, b, c}}},
+        {"a selected stack is deselected", Shelf{two.stacks, {a, b, c}}.stackToggled({a, b}),
+         Shelf{two.stacks, {c}}},
+    };
+    for (const Case& one : cases) {
+        EXPECT_EQ(one.result, one.expected) << one.name;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, ShelfRule,
-    testing::Values(ShelfCase{"onlyNewFilesMakeAStack",
-                              {{{a}}, {}},
-                              [](const Shelf& shelf) {
-                                  return shelf.added({b, a, c});
-                              },
-                              Shelf{{{a}, {b, c}}, {b, c}}},
-                    ShelfCase{"knownFilesOnlyChangeNothing",
-                              {{{a, b}}, {}},
-                              [](const Shelf& shelf) {
-                                  return shelf.added({b, a});
-                              },
-                              std::nullopt},
-                    ShelfCase{"aFileGivenTwiceIsKeptTwice",
-                              {},
-                              [](const Shelf& shelf) {
-                                  return shelf.added({a, a});
-                              },
-                              Shelf{{{a, a}}, {a}}},
-                    ShelfCase{"theLastFileTakesItsStackAlong",
-                              {{{a}, {b}, {c}}, {b, c}},
-                              [](const Shelf& shelf) { return std::optional(shelf.removed({b})); },
-                              Shelf{{{a}, {c}}, {c}}},
-                    ShelfCase{"aFileLeavesEveryStack",
-                              {{{a, b}, {a, c}}, {}},
-                              [](const Shelf& shelf) { return std::optional(shelf.removed({a})); },
-                              Shelf{{{b}, {c}}, {}}},
-                    ShelfCase{"aPartlySelectedStackIsSelected",
-                              {{{a, b}, {c}}, {a, c}},
-                              [](const Shelf& shelf) {
-                                  return std::optional(shelf.stackToggled({a, b}));
-                              },
-                              Shelf{{{a, b}, {c}}, {a, b, c}}},
-                    ShelfCase{"aSelectedStackIsDeselected",
-                              {{{a, b}, {c}}, {a, b, c}},
-                              [](const Shelf& shelf) {
-                                  return std::optional(shelf.stackToggled({a, b}));
-                              },
-                              Shelf{{{a, b}, {c}}, {c}}}),
-    [](const auto& row) { return row.param.name; });
 
 TEST(Shelf, listsFilesAndSelectionInItsOwnOrder) {
     const Shelf shelf{{{c, a}, {b}}, {b, c, d}};

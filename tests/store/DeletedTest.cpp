@@ -1,4 +1,4 @@
-// What was deleted comes back, whole and to its place, or is gone.
+// Deleted records come back, complete and to their place, or are gone.
 
 #include "store/Deleted.h"
 #include "StoreFixture.h"
@@ -38,61 +38,41 @@ protected:
     std::shared_ptr<Deleted> deleted_ = std::make_shared<Deleted>();
 };
 
-struct UndoCase {
-    const char* name;
-    std::function<void(std::function<void(const QString&)> remove, Store& store,
-                       const std::shared_ptr<Deleted>& deleted)>
-        change; ///< Of "a b d c", the first two pinned.
-    std::string restored;
-};
+TEST_F(Undo, restoresTheOrder) {
+    struct Row {
+        QString steps; ///< "-a" deletes a, "+a" copies it, "clear" clears the history.
+        std::string restored;
+    };
 
-class UndoOrder : public Undo, public testing::WithParamInterface<UndoCase> {};
-
-TEST_P(UndoOrder, isWhatItWas) {
-    add(u"a b c d"_s);
-    scheduler_.advance(Seconds(1));
-    pin(u"a"_s);
-    pin(u"b"_s);
-    const std::string before = texts();
-    GetParam().change([this](const QString& text) { remove(text); }, *store_, deleted_);
-    ASSERT_NE(texts(), before);
-    const Store::Restored restored = undo();
-    EXPECT_EQ(texts(), GetParam().restored);
-    EXPECT_EQ(restored.problem, QString());
-    EXPECT_EQ(saved().clips, store_->clips()) << "not written at once";
-    EXPECT_TRUE(std::ranges::find(store_->clips(), u"b"_s, &ClipItem::text)->pinned);
+    const Row table[] = {{u"-a"_s, "a b d c"},      {u"-b"_s, "a b d c"},
+                         {u"-d"_s, "a b d c"},      {u"-b -a -c"_s, "a b d c"},
+                         {u"clear"_s, "a b d c"},   {u"-a -d +new"_s, "new a b d c"},
+                         {u"clear +d"_s, "d a b c"}};
+    for (const Row& row : table) {
+        SCOPED_TRACE(qPrintable(row.steps));
+        QFile::remove(storeFile());
+        deleted_ = std::make_shared<Deleted>();
+        start();
+        add(u"a b c d"_s);
+        scheduler_.advance(Seconds(1));
+        pin(u"a"_s);
+        pin(u"b"_s);
+        const std::string before = texts();
+        for (const QString& step : row.steps.split(u' ')) {
+            if (step == u"clear") {
+                store_->clearClips(deleted_);
+            } else {
+                step.startsWith(u'-') ? remove(step.mid(1)) : store_->addClip(step.mid(1));
+            }
+        }
+        ASSERT_NE(texts(), before);
+        const Store::Restored restored = undo();
+        EXPECT_EQ(texts(), row.restored);
+        EXPECT_EQ(restored.problem, QString());
+        EXPECT_EQ(saved().clips, store_->clips()) << "not written at once";
+        EXPECT_TRUE(std::ranges::find(store_->clips(), u"b"_s, &ClipItem::text)->pinned);
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, UndoOrder,
-    testing::Values(
-        UndoCase{"first", [](auto remove, Store&, const auto&) { remove(u"a"_s); }, "a b d c"},
-        UndoCase{"pinned", [](auto remove, Store&, const auto&) { remove(u"b"_s); }, "a b d c"},
-        UndoCase{"last", [](auto remove, Store&, const auto&) { remove(u"d"_s); }, "a b d c"},
-        UndoCase{"severalAtOnce",
-                 [](auto remove, Store&, const auto&) {
-                     remove(u"b"_s);
-                     remove(u"a"_s);
-                     remove(u"c"_s);
-                 },
-                 "a b d c"},
-        UndoCase{"cleared",
-                 [](auto, Store& store, const auto& deleted) { store.clearClips(deleted); },
-                 "a b d c"},
-        UndoCase{"copiedMeanwhile",
-                 [](auto remove, Store& store, const auto&) {
-                     remove(u"a"_s);
-                     remove(u"d"_s);
-                     store.addClip(u"new"_s);
-                 },
-                 "new a b d c"},
-        UndoCase{"itselfCopiedAgain",
-                 [](auto, Store& store, const auto& deleted) {
-                     store.clearClips(deleted);
-                     store.addClip(u"d"_s);
-                 },
-                 "d a b c"}),
-    [](const auto& row) { return row.param.name; });
 
 TEST_F(Undo, imageIsOffTheDiskAndComesBackToTheByte) {
     store_->addImageClip(png(Qt::red));
@@ -124,7 +104,7 @@ TEST_F(Undo, snippetComesBackToItsPlaceWithItsImage) {
     EXPECT_EQ(readFile(store_->imagePath(u"b.png"_s)), "bytes");
 }
 
-TEST_F(Undo, textsComeBackWhereImagesCannot) {
+TEST_F(Undo, textsComeBackIfImagesCannot) {
     bool full = false;
     mayWrite_ = [&]() -> Result<void> {
         return full ? failure(u"the disk is full"_s) : Result<void>();

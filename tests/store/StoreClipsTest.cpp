@@ -1,5 +1,7 @@
 #include "StoreFixture.h"
 
+#include <functional>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -22,7 +24,7 @@ protected:
     }
 };
 
-TEST_F(StoreClips, OperationsSaveAndTellOnlyWhatTheyChange) {
+TEST_F(StoreClips, OperationsSaveAndNotifyOnlyChanges) {
     const Told told(store_.get(), &Store::clipsChanged);
     store_->addClip(u" \n"_s);
     store_->togglePin(QUuid::createUuid());
@@ -110,23 +112,21 @@ TEST_F(CopiedPicture, ThatCannotBeReadHoldsUpNothingForLong) {
     EXPECT_EQ(texts(), "last later");
 }
 
-class BadImage : public StoreClips, public testing::WithParamInterface<bool> {};
-
-TEST_P(BadImage, AddsNothing) {
-    if (GetParam()) {
-        ASSERT_TRUE(QDir(store_->clipsDir()).removeRecursively());
-        ASSERT_TRUE(QFile(store_->clipsDir()).open(QFile::WriteOnly)) << "a file in its place";
+TEST_F(StoreClips, BadImageAddsNothing) {
+    for (const bool unwritable : {false, true}) {
+        if (unwritable) {
+            ASSERT_TRUE(QDir(store_->clipsDir()).removeRecursively());
+            ASSERT_TRUE(QFile(store_->clipsDir()).open(QFile::WriteOnly)) << "a file in its place";
+        }
+        store_->addImageClip(unwritable ? png(Qt::red) : PasteboardSnapshot{{u"image/bmp"_s}, {}});
+        settle(Seconds(0));
+        expectNoSave();
+        EXPECT_EQ(texts(), "");
+        EXPECT_EQ(imageFiles(), QStringList());
     }
-    store_->addImageClip(GetParam() ? png(Qt::red) : PasteboardSnapshot{{u"image/bmp"_s}, {}});
-    settle(Seconds(0));
-    expectNoSave();
-    EXPECT_EQ(texts(), "");
-    EXPECT_EQ(imageFiles(), QStringList());
     store_->addClip(u"a"_s);
     EXPECT_EQ(texts(), "a");
 }
-
-INSTANTIATE_TEST_SUITE_P(ThatIsNoneOrCannotBeWritten, BadImage, testing::Bool());
 
 TEST_F(StoreClips, DeletingAndClearingTakeTheirFilesAlong) {
     for (const Qt::GlobalColor color : {Qt::red, Qt::green, Qt::blue}) {
@@ -200,76 +200,51 @@ TEST_F(StoreClips, NameFromTheFileNeverReachesOutsideTheFolder) {
     EXPECT_TRUE(QFile::exists(storeFile()));
 }
 
-struct SnippetChange {
-    const char* name;
-    void (*change)(Store& store, const QUuid& id);
-    QString titles; ///< Of three snippets "a", "b", "c" when `change` was given the id of "b".
-    QStringList images;
-};
-
-const Snippet someSnippet = {QUuid::createUuid(), u"new"_s, u"B"_s, u"car"_s, {}};
-
-class StoreSnippets : public StoreClips, public testing::WithParamInterface<SnippetChange> {
-protected:
-    [[nodiscard]] static QString titlesOf(const QList<Snippet>& snippets) {
-        QStringList titles;
-        for (const Snippet& snippet : snippets) {
-            titles.append(snippet.title);
-        }
-        return titles.join(u' ');
-    }
-};
-
-TEST_P(StoreSnippets, AreSavedWhereTheyChange) {
+TEST_F(StoreClips, SnippetsAreSavedIfTheyChange) {
+    const Snippet other = {QUuid::createUuid(), u"new"_s, u"B"_s, u"car"_s, {}};
     StoreData data;
     for (const char* title : {"a", "b", "c"}) {
         data.snippets.append({QUuid::createUuid(), QString::fromLatin1(title), {}, {}, {}});
     }
-    data.snippets[1].imageFileName = u"b.png"_s;
-    ASSERT_TRUE(writeFileAtomically(storeFile(), encodeStore(data)));
-    start();
-    ASSERT_TRUE(writeFileAtomically(store_->imagePath(u"b.png"_s), "picture"));
-    settle();
-    const Told told(store_.get(), &Store::snippetsChanged);
-    GetParam().change(*store_, data.snippets[1].id);
-    const bool changes = GetParam().titles != u"a b c"_s;
-    EXPECT_EQ(told.count(), changes ? 1 : 0);
-    const bool deletes = GetParam().images.isEmpty(); // Which does not wait.
-    EXPECT_EQ(scheduler_.pending(), changes && !deletes ? 1 : 0) << "of saves";
-    settle();
-    EXPECT_EQ(titlesOf(saved().snippets), GetParam().titles);
-    EXPECT_EQ(saved().snippets, store_->snippets());
-    EXPECT_EQ(imageFiles(), GetParam().images);
-}
+    Snippet& b = data.snippets[1];
+    b.imageFileName = u"b.png"_s;
+    Snippet changed = other;
+    changed.id = b.id;
 
-INSTANTIATE_TEST_SUITE_P(
-    All, StoreSnippets,
-    testing::Values(
-        SnippetChange{"added",
-                      [](Store& store, const QUuid&) { store.addSnippet(someSnippet); },
-                      u"a b c new"_s,
-                      {u"b.png"_s}},
-        SnippetChange{"replacedWhole",
-                      [](Store& store, const QUuid& id) {
-                          Snippet changed = someSnippet;
-                          changed.id = id;
-                          store.updateSnippet(changed);
-                      },
-                      u"a new c"_s,
-                      {u"b.png"_s}},
-        SnippetChange{"updatedButNotThere",
-                      [](Store& store, const QUuid&) { store.updateSnippet(someSnippet); },
-                      u"a b c"_s,
-                      {u"b.png"_s}},
-        SnippetChange{"removedWithItsImage",
-                      [](Store& store, const QUuid& id) { store.removeSnippet(id); },
-                      u"a c"_s,
-                      {}},
-        SnippetChange{"removedButNotThere",
-                      [](Store& store, const QUuid&) { store.removeSnippet(someSnippet.id); },
-                      u"a b c"_s,
-                      {u"b.png"_s}}),
-    [](const auto& row) { return row.param.name; });
+    struct Row {
+        const char* what;
+        std::function<void()> change;
+        QString titles;
+        bool hasImage = true;
+    };
+
+    const Row table[] = {
+        {"added", [&] { store_->addSnippet(other); }, u"a b c new"_s},
+        {"replaced", [&] { store_->updateSnippet(changed); }, u"a new c"_s},
+        {"updated, not there", [&] { store_->updateSnippet(other); }, u"a b c"_s},
+        {"removed", [&] { store_->removeSnippet(b.id); }, u"a c"_s, false},
+        {"removed, not there", [&] { store_->removeSnippet(other.id); }, u"a b c"_s},
+    };
+    for (const auto& [what, change, titles, hasImage] : table) {
+        ASSERT_TRUE(writeFileAtomically(storeFile(), encodeStore(data)));
+        start();
+        ASSERT_TRUE(writeFileAtomically(store_->imagePath(b.imageFileName), "picture"));
+        settle();
+        const Told told(store_.get(), &Store::snippetsChanged);
+        change();
+        const bool changes = titles != u"a b c"_s;
+        EXPECT_EQ(told.count(), changes ? 1 : 0) << what;
+        EXPECT_EQ(scheduler_.pending(), changes && hasImage ? 1 : 0) << "saves of " << what;
+        settle();
+        QStringList saved;
+        for (const Snippet& snippet : this->saved().snippets) {
+            saved.append(snippet.title);
+        }
+        EXPECT_EQ(saved.join(u' '), titles) << what;
+        EXPECT_EQ(this->saved().snippets, store_->snippets()) << what;
+        EXPECT_EQ(imageFiles(), hasImage ? QStringList(b.imageFileName) : QStringList()) << what;
+    }
+}
 
 class SnippetImage : public StoreClips {
 protected:
@@ -335,21 +310,20 @@ TEST_F(SnippetImage, OfAFileThatCannotBeReadIsGivenUp) {
     }
 }
 
-class DroppedSnippetImage : public SnippetImage, public testing::WithParamInterface<double> {};
-
-TEST_P(DroppedSnippetImage, LeavesNothingBehind) {
-    pasteboard_.offer({{u"image/png"_s, picture("png", Qt::red)}});
-    Handle handle = ask();
-    scheduler_.advance(Seconds(GetParam()));
-    handle.reset();
-    store_.reset();
-    settle();
-    EXPECT_EQ(answers_.size(), 0);
-    EXPECT_EQ(imageFiles(), QStringList());
-    EXPECT_EQ(scheduler_.pending(), 0);
+TEST_F(SnippetImage, LeavesNothingBehindIfDropped) {
+    for (const double after : {0.0, 0.1}) { // Before and after the reading.
+        start();
+        pasteboard_.offer({{u"image/png"_s, picture("png", Qt::red)}});
+        Handle handle = ask();
+        scheduler_.advance(Seconds(after));
+        handle.reset();
+        store_.reset();
+        settle();
+        EXPECT_EQ(answers_.size(), 0) << after;
+        EXPECT_EQ(imageFiles(), QStringList()) << after;
+        EXPECT_EQ(scheduler_.pending(), 0) << after;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(BeforeAndAfterTheReading, DroppedSnippetImage, testing::Values(0, 0.1));
 
 } // namespace
 

@@ -22,18 +22,18 @@
 
 namespace ravelo {
 
-/// A store in a folder of its own, on virtual time. The worker works when told to.
+/// A store in a folder of its own, on virtual time. The worker works in `settle` and `restart`.
 class StoreFixture : public testing::Test {
 protected:
     void start() { store_ = std::make_unique<Store>(folder(), services()); }
 
-    /// Ends the program in good order and starts it again.
+    /// Quits properly and starts again.
     void restart() {
         store_->flush();
         start();
     }
 
-    /// Time passes and the worker does all it has.
+    /// Lets time pass and the worker finish.
     void settle(Seconds time = Seconds(0.4)) {
         scheduler_.advance(time);
         worker_.drain();
@@ -48,7 +48,7 @@ protected:
 
     [[nodiscard]] QString storeFile() const { return folder() + QStringLiteral("/store.json"); }
 
-    /// What the file on disk says; fails where there is none or it cannot be decoded.
+    /// The contents of the file; fails if it is missing or undecodable.
     [[nodiscard]] StoreData saved() const {
         const auto data = decodeStore(readFile(storeFile()).value_or(QByteArray()));
         EXPECT_TRUE(data) << "no decodable store file";

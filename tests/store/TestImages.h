@@ -13,7 +13,7 @@ inline QByteArray picture(const char* format, QColor color) {
     return image.save(&buffer, format) ? buffer.data() : QByteArray();
 }
 
-/// The name of the primary colour that a picture comes nearest to; "none" where it is no PNG.
+/// The primary colour nearest to that of the picture; "none" if it is no PNG.
 inline std::string colorOf(const QByteArray& png) {
     const QImage image = QImage::fromData(png, "png");
     if (image.isNull()) {

@@ -14,7 +14,7 @@ public:
     ExpectedWarning(const ExpectedWarning&) = delete;
     ExpectedWarning& operator=(const ExpectedWarning&) = delete;
 
-    /// Whether somebody expects this warning. For the message handler, on any thread.
+    /// Whether this warning is expected. For the message handler, on any thread.
     [[nodiscard]] static bool takes(const QString& text);
 };
 

@@ -2,8 +2,8 @@
 
 namespace ravelo {
 
-/// Runs the tests that InitGoogleTest has chosen, within a Qt application. A test that makes Qt
-/// warn fails, whatever else it asserts, unless an ExpectedWarning takes the warning.
+/// Runs the selected tests within a Qt application. A test that makes Qt warn fails, unless an
+/// ExpectedWarning covers it.
 [[nodiscard]] int runTests(int argc, char** argv);
 
 } // namespace ravelo

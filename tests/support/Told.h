@@ -4,7 +4,7 @@
 
 namespace ravelo {
 
-/// Counts how often an object gives a signal.
+/// Counts the emissions of a signal.
 class Told {
 public:
     template <typename Object, typename Signal>

@@ -13,7 +13,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(MinutesLabel, HasHoursOnlyWhereThereAreSome) {
+TEST(MinutesLabel, HasHoursOnlyIfNeeded) {
     const std::pair<double, QString> cases[] = {
         {25, u"25m"_s}, {59.9, u"59m"_s}, {60, u"1h"_s},    {90, u"1h30"_s},
         {120, u"2h"_s}, {125, u"2h05"_s}, {1440, u"24h"_s}, {0, u"0m"_s}};
@@ -22,7 +22,7 @@ TEST(MinutesLabel, HasHoursOnlyWhereThereAreSome) {
     }
 }
 
-TEST(CustomMinutes, AreWholePositiveAndADayAtMost) {
+TEST(CustomMinutes, ArePositiveIntegersUpToADay) {
     const std::pair<QString, std::optional<int>> cases[] = {
         {u" 45\t"_s, 45},          {u"+7"_s, 7},
         {u"3000"_s, 1440},         {u"99999999999999999999"_s, 1440},
@@ -54,7 +54,7 @@ TEST(FocusChoices, AreTheUsualOnesUntilTheUserHasOthers) {
     EXPECT_EQ(FocusChoices::load(preferences).presets.size(), 5) << "no texts";
 }
 
-TEST(AddedReminder, LosesWhatIsAroundItAndWhatIsTooLong) {
+TEST(AddedReminder, IsTrimmedAndCut) {
     const Reminders reminders{true, {u"one"_s}};
     const QString family = u"\U0001F468\u200D\U0001F469\u200D\U0001F467"_s;
     const std::pair<QString, QString> cases[] = {

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(TimerString, HasHoursOnlyWhereThereAreSome) {
+TEST(TimerString, HasHoursOnlyIfNeeded) {
     struct Case {
         double seconds;
         QString text;
@@ -25,7 +25,7 @@ TEST(TimerString, HasHoursOnlyWhereThereAreSome) {
     }
 }
 
-TEST(FocusTimer, RefusesWhatIsNoLength) {
+TEST(FocusTimer, RefusesImpossibleLengths) {
     struct Case {
         double minutes;
         bool starts;
@@ -43,7 +43,7 @@ TEST(FocusTimer, RefusesWhatIsNoLength) {
     }
 }
 
-TEST(FocusTimer, LabelLosesTheBlanksAroundIt) {
+TEST(FocusTimer, TrimsItsLabel) {
     struct Case {
         QString given;
         QString kept;

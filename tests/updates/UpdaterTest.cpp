@@ -22,7 +22,7 @@ struct Service final : PackageUpdates {
     Handle install(const AvailableUpdate& update, std::function<void(std::optional<int>)> progress,
                    std::function<void(Installed)> done) override {
         asked.append(update.packageId);
-        told = std::move(progress);
+        progressed = std::move(progress);
         installed = std::move(done);
         return Handle();
     }
@@ -30,7 +30,7 @@ struct Service final : PackageUpdates {
     int checks = 0;
     QStringList asked;
     std::function<void(Checked)> checked;
-    std::function<void(std::optional<int>)> told;
+    std::function<void(std::optional<int>)> progressed;
     std::function<void(Installed)> installed;
 };
 
@@ -40,7 +40,7 @@ protected:
     Updater updater_{std::unique_ptr<PackageUpdates>(&service_), u"0.2"_s};
 };
 
-TEST_F(UpdaterTest, TellsWhateverIsFound) {
+TEST_F(UpdaterTest, ReportsTheResult) {
     const AvailableUpdate update{u"0.3"_s, u"ravelo;0.3;amd64;stable"_s};
 
     struct Case {
@@ -66,7 +66,7 @@ TEST_F(UpdaterTest, TellsWhateverIsFound) {
     for (const Case& c : cases) {
         updater_.checkForUpdates();
         EXPECT_EQ(updater_.title(), u"Checking for updates…"_s);
-        updater_.checkForUpdates(); // Impatient.
+        updater_.checkForUpdates(); // Has no effect.
         service_.checked(c.found);
         EXPECT_EQ(updater_.title(), c.title);
         EXPECT_TRUE(updater_.details().contains(c.details)) << qPrintable(updater_.details());
@@ -76,7 +76,7 @@ TEST_F(UpdaterTest, TellsWhateverIsFound) {
     EXPECT_EQ(service_.checks, std::ssize(cases));
 }
 
-TEST_F(UpdaterTest, InstallsWhatIsThereAndTellsHowFarItIs) {
+TEST_F(UpdaterTest, InstallsAndReportsProgress) {
     updater_.install();
     EXPECT_TRUE(service_.asked.isEmpty()) << "nothing was found";
     updater_.checkForUpdates();
@@ -85,12 +85,12 @@ TEST_F(UpdaterTest, InstallsWhatIsThereAndTellsHowFarItIs) {
     updater_.install();
     EXPECT_EQ(service_.asked, QStringList{u"ravelo;0.3;amd64;stable"_s});
     EXPECT_EQ(updater_.progress(), -1);
-    service_.told(40);
+    service_.progressed(40);
     EXPECT_EQ(updater_.progress(), 0.4);
     EXPECT_EQ(updater_.details(), u"40 %"_s);
     updater_.checkForUpdates();
     EXPECT_EQ(service_.checks, 1) << "while it installs";
-    service_.told(std::nullopt);
+    service_.progressed(std::nullopt);
     EXPECT_EQ(updater_.details(), QString());
     service_.installed({});
     EXPECT_EQ(updater_.title(), u"Ravelo 0.3 is installed"_s);

@@ -38,9 +38,7 @@ TEST_F(Panel, f6GoesToTheNoticeAndBack) {
     world.notices.saveFailed(store, u"the disk is full"_s);
     world.scheduler.advance(Seconds(60));
     int tries = 0;
-    world.notices.onTryAgain = [&tries] {
-        ++tries;
-    };
+    QObject::connect(&world.notices, &Notices::tryAgain, [&tries] { ++tries; });
     item(u"notice"_s);
     press(Qt::Key_F6);
     press(Qt::Key_Return);
