@@ -13,7 +13,7 @@ import uuid
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build/release"
-sys.path.insert(0, str(ROOT / "tests/program"))
+sys.path.insert(0, str(ROOT / "tools/desktop"))
 from desktop import Desktop, Ravelo, wait_for  # noqa: E402
 
 # `budget` and `reference` (the same figure of what it is compared with) may be unknown.
