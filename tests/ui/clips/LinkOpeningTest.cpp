@@ -16,7 +16,7 @@ struct LinkCase {
 
 class CtrlReturn : public testing::TestWithParam<LinkCase> {};
 
-TEST_P(CtrlReturn, opensWhatCannotDoHarmAndAsksOrRefusesOtherwise) {
+TEST_P(CtrlReturn, opensHarmlessLinksAndAsksOrRefusesOtherwise) {
     ManualScheduler scheduler;
     FakeFileOpener opener;
     Toast toast(scheduler);
@@ -59,7 +59,7 @@ TEST(LinkOpening, saysSoIfNothingOpensItOrNobodyKnows) {
     const ClipItem link = clip(u"gopher://a.example"_s, Seconds(1), ClipKind::url);
     links.open(link);
     opener.answer({});
-    EXPECT_EQ(toast.text(), u"Nothing here opens gopher links"_s);
+    EXPECT_EQ(toast.text(), u"No program opens gopher links"_s);
     toast.reset();
     links.open(link);
     scheduler.advance(Seconds(2));
