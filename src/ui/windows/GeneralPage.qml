@@ -59,7 +59,7 @@ Column {
 
         SettingRow {
             objectName: "widthRow"
-            text: qsTr("Width: %1").arg(Math.round(page.settings.panelWidth))
+            text: qsTr("Width: %1").arg(String(Math.round(page.settings.panelWidth)))
 
             Slider {
                 objectName: "panelWidth"
