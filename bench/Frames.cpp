@@ -11,17 +11,18 @@ namespace {
 
 constexpr auto patienceForASize = std::chrono::seconds(20);
 
-constexpr int cell = 16;         ///< Pixels; a word or a symbol.
-constexpr int detail = 48;       ///< Levels of green from a cell's darkest to its brightest.
+constexpr int cell = 16;         ///< Pixels; about a word or a symbol.
+constexpr int detail = 48;       ///< Min. difference between a cell's darkest and brightest green.
 constexpr double rounding = 0.5; ///< Levels.
-constexpr double overlap = 0.1;  ///< Part of the variance: in a fade what is behind shows through.
+constexpr double overlap =
+    0.1; ///< Part of the variance: the background shows through during a fade.
 constexpr int fewestDetails = 20;
 
 int green(uint32_t pixel) {
     return static_cast<int>(pixel >> 8 & 0xFF);
 }
 
-/// Two frames' values of the green of one pixel after the other, as sums.
+/// Sums over the green values of two frames.
 struct Fit {
     double n = 0, now = 0, then = 0, nowNow = 0, thenThen = 0, nowThen = 0;
     int darkest = 255;
@@ -40,7 +41,7 @@ struct Fit {
 
     [[nodiscard]] bool hasDetail() const { return brightest - darkest >= detail; }
 
-    /// Whether now = factor * then + offset, visibly, but for rounding and what overlaps.
+    /// Whether now = factor * then + offset with a visible factor, except for rounding and overlap.
     [[nodiscard]] bool isAlike() const {
         const double together = n * nowThen - now * then;
         const double factor = together / (n * thenThen - then * then);
@@ -100,7 +101,7 @@ WindowWatch::WindowWatch(XServer& server, xcb_window_t window) : server_(server)
         xcb_shm_attach_checked(connection, segment_, static_cast<uint32_t>(memory), 0);
     void* mapped = shmat(memory, nullptr, SHM_RDONLY);
     const Owned<xcb_generic_error_t> error(xcb_request_check(connection, attach));
-    shmctl(memory, IPC_RMID, nullptr); // It goes with the last who has it.
+    shmctl(memory, IPC_RMID, nullptr); // Freed when the last user detaches.
     if (error || mapped == reinterpret_cast<void*>(-1)) {
         giveUp("the X server shares no memory");
     }
@@ -123,8 +124,8 @@ Clock::time_point WindowWatch::awaitSize(Size size) {
     return Clock::now();
 }
 
-std::optional<Frame> WindowWatch::nextFrame(Clock::duration patience) {
-    const auto deadline = Clock::now() + patience;
+std::optional<Frame> WindowWatch::nextFrame(Clock::duration timeout) {
+    const auto deadline = Clock::now() + timeout;
     while (!drawn_) {
         const auto event = server_.nextEvent(deadline);
         if (!event) {
@@ -146,7 +147,7 @@ void WindowWatch::handle(const xcb_generic_event_t& event) {
 
 Frame WindowWatch::read() {
     xcb_connection_t* connection = server_.get();
-    // In this order: what is drawn in between is told anew.
+    // In this order, so that changes in between are reported again.
     xcb_damage_subtract(connection, damage_, XCB_NONE, XCB_NONE);
     const auto asked =
         xcb_shm_get_image(connection, window_, 0, 0, panelSize.width, panelSize.height, ~0U,

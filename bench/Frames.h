@@ -10,18 +10,18 @@
 
 namespace ravelo::bench {
 
-/// What a window of `panelSize` showed.
+/// The contents of a window of `panelSize`.
 struct Frame {
-    Clock::time_point seen;       ///< Its pixels had been read: a little after they were there.
+    Clock::time_point seen; ///< When its pixels had been read, slightly after they were drawn.
     std::vector<uint32_t> pixels; ///< Rows of premultiplied ARGB, without gaps.
 };
 
-/// Whether `frame` shows everything that `last` shows, at whatever opacity: wherever `last` has a
-/// detail, the pixels around it are those of `last` but for a factor and an offset. False below an
-/// opacity of some 3 %, which shows nothing, and where `last` has too few details to tell.
+/// Whether `frame` shows everything in `last` at any visible opacity: if every detail of `last` has
+/// the same pixels, up to a factor and an offset. False below an opacity of about 3 %, and if
+/// `last` has too few details.
 [[nodiscard]] bool isComplete(const Frame& frame, const Frame& last);
 
-/// Watches a window of another client: its size, and each change of what it shows.
+/// Watches a window of another client: its size and changes of its contents.
 class WindowWatch {
 public:
     /// `server` must outlive it.
@@ -30,12 +30,12 @@ public:
     WindowWatch(const WindowWatch&) = delete;
     WindowWatch& operator=(const WindowWatch&) = delete;
 
-    /// Waits until the window has `size`, for 20 s at most; gives when it was told.
+    /// Waits until the window has `size`, max. 20 s; returns when that was reported.
     Clock::time_point awaitSize(Size size);
 
-    /// Waits for something to be drawn and reads all that the window, which must have `panelSize`,
-    /// then shows. Nothing where nothing is drawn within `patience`.
-    [[nodiscard]] std::optional<Frame> nextFrame(Clock::duration patience);
+    /// Waits for a change and reads the contents of the window, which must have `panelSize`. Empty
+    /// if nothing is drawn before the timeout.
+    [[nodiscard]] std::optional<Frame> nextFrame(Clock::duration timeout);
 
 private:
     void handle(const xcb_generic_event_t& event);
@@ -48,10 +48,10 @@ private:
     xcb_shm_seg_t segment_;
     const uint32_t* shared_; ///< Pixels of a window of `panelSize`.
     Size size_;
-    bool drawn_ = false; ///< Drawn on since it was read last.
+    bool drawn_ = false; ///< Changed since the last capture.
 };
 
-/// Opens the panel that `window` watches by the pointer, which then goes on to `place` in it.
+/// Opens the panel of `window` by pointer, which then moves on to `place` in it.
 void openByPointer(XServer& server, WindowWatch& window, Place place);
 
 } // namespace ravelo::bench

@@ -15,9 +15,9 @@ using namespace std::chrono_literals;
 
 constexpr auto window = 150ms;
 constexpr auto oddMoment = 2ms;
-constexpr auto patience = 30s;
+constexpr auto timeout = 30s;
 
-/// How long its threads have run or waited for a processor, up to now.
+/// How long its threads have run or waited for a CPU so far.
 std::chrono::nanoseconds busy(int process) {
     long long sum = 0;
     const auto threads = "/proc/" + std::to_string(process) + "/task";
@@ -34,7 +34,7 @@ std::chrono::nanoseconds busy(int process) {
 } // namespace
 
 void awaitIdle(int process) {
-    const auto deadline = Clock::now() + patience;
+    const auto deadline = Clock::now() + timeout;
     auto before = busy(process);
     while (Clock::now() < deadline) {
         std::this_thread::sleep_for(window);

@@ -2,8 +2,8 @@
 
 namespace ravelo::bench {
 
-/// Waits until the threads of a process have neither run nor wanted to for a while (but for the
-/// odd moment): whatever it had to do, it has done. Ends the program if that does not happen.
+/// Waits until the threads of a process have been idle for a while, except for short moments. Ends
+/// the program if that does not happen.
 void awaitIdle(int process);
 
 } // namespace ravelo::bench

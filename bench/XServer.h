@@ -17,14 +17,14 @@ struct Free {
     void operator()(void* memory) const { std::free(memory); }
 };
 
-/// What xcb hands over to be freed.
+/// Owns memory returned by xcb.
 template <typename T>
 using Owned = std::unique_ptr<T, Free>;
 
-/// Ends the program: nothing is worth measuring any more.
+/// Ends the program: a measurement is not possible.
 [[noreturn]] void giveUp(std::string_view why);
 
-/// Device pixels, y grows downwards.
+/// Device pixels, y downwards.
 struct Size {
     uint16_t width = 0;
     uint16_t height = 0;
@@ -40,7 +40,7 @@ struct Place {
 constexpr Size handleSize = {200, 12};
 constexpr Size panelSize = {927, 560};
 
-/// The X server of DISPLAY over a connection of its own. Ends the program where there is none.
+/// An own connection to the X server of DISPLAY. Ends the program if there is none.
 class XServer {
 public:
     XServer();
@@ -54,15 +54,15 @@ public:
 
     [[nodiscard]] const xcb_screen_t& screen() const { return *screen_; }
 
-    /// Sends what is waiting to be sent. The next event, or nothing if none has come by `deadline`.
+    /// Flushes. Returns the next event, or null if none comes by `deadline`.
     [[nodiscard]] Owned<xcb_generic_event_t> nextEvent(Clock::time_point deadline);
 
-    // Pointer and keys as a hand would move them (XTEST). Not sent before the next flush.
+    // Pointer and keys by XTEST. Sent at the next flush.
     void move(Place place);
     void click();
-    /// One notch towards the end of what is under the pointer.
+    /// One notch down.
     void turnWheel();
-    /// A key that needs no other one held.
+    /// A key without modifiers.
     void press(xcb_keysym_t key);
 
 private:
@@ -72,14 +72,14 @@ private:
     const xcb_screen_t* screen_;
 };
 
-/// An event as what its type says it is.
+/// Casts an event to the type it has.
 template <typename Event>
 const Event& as(const xcb_generic_event_t& event) {
     const void* memory = &event;
     return *static_cast<const Event*>(memory);
 }
 
-/// Without the mark of events sent by clients.
+/// Without the flag of events sent by clients.
 inline uint8_t typeOf(const xcb_generic_event_t& event) {
     return event.response_type & 0x7F;
 }

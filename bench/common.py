@@ -1,4 +1,4 @@
-"""What the measurements share: rows of the table, programs with a full store, what a program uses."""
+"""Shared by the measurements: table rows, programs with a full store, resource usage."""
 
 import collections
 import contextlib
@@ -13,10 +13,10 @@ import uuid
 
 ROOT = pathlib.Path(__file__).resolve().parent.parent
 BUILD = ROOT / "build/release"
-sys.path.insert(0, str(ROOT / "tests/program"))
+sys.path.insert(0, str(ROOT / "tools/desktop"))
 from desktop import Desktop, Ravelo, wait_for  # noqa: E402
 
-# `budget` and `reference` (the same figure of what it is compared with) may be unknown.
+# `reference` is the same value of what it is compared with.
 Row = collections.namedtuple("Row", "name value unit budget reference", defaults=(None, None))
 
 PINNED, UNPINNED, IMAGES = 5, 60, 6
@@ -33,7 +33,7 @@ def clip(number, **more):
 
 
 def fill(desktop, ravelo, clips=None):
-    """Makes a store of many clips out of one that the program has seeded itself."""
+    """Adds many clips to a store that the program has created."""
     ravelo.start()
     desktop.copy_text("the first")
     wait_for(ravelo.store, "store.json")
@@ -54,24 +54,24 @@ def usual_clips(desktop, ravelo):
 
 
 def add_transcripts(desktop):
-    """What a year of sessions leaves in a home: 6,000 files that the program has an eye on."""
+    """A year of sessions: 6,000 files that the program watches."""
     subprocess.run([BUILD / "bench/bench_transcripts", desktop.home], check=True)
 
 
 @contextlib.contextmanager
 def running(program):
-    """A program with a full store and 6,000 transcripts, its panel closed, on a desktop of its own."""
+    """A program with a full store and 6,000 transcripts, closed, on a private desktop."""
     with Desktop() as desktop:
         add_transcripts(desktop)
         fill(desktop, Ravelo(desktop, BUILD / "ravelo"))
         ravelo = Ravelo(desktop, BUILD / program).start()
-        desktop.copy_text("one more")  # What is written then is what was read.
+        desktop.copy_text("one more")  # Proves that the store was read.
         wait_for(lambda: len(ravelo.clips()) == PINNED + UNPINNED, "a history as full as it gets")
         yield desktop, ravelo
 
 
 def drive(desktop, name, *arguments):
-    """Runs a driver of the folder to its end; the numbers it prints, by column."""
+    """Runs a driver of this folder and returns its numbers by column."""
     output = subprocess.run([BUILD / f"bench/bench_{name}", *map(str, arguments)], env=desktop.env,
                             stdout=subprocess.PIPE, text=True, check=True).stdout
     rows = [[float(word) for word in line.split()] for line in output.splitlines()]
@@ -82,14 +82,14 @@ def p95(values):
     return statistics.quantiles(values, n=20, method="inclusive")[-1]
 
 
-# What a program uses.
+# Resource usage.
 
 Use = collections.namedtuple("Use", "voluntary involuntary seconds")
-Memory = collections.namedtuple("Memory", "rss pss")  # Megabytes, of a million bytes.
+Memory = collections.namedtuple("Memory", "rss pss")  # Megabytes (10^6 bytes).
 
 
 def family(process):
-    """The identifiers of a process and all below it."""
+    """The IDs of a process and its descendants."""
     known = [process.pid]
     for parent in known:
         for task in pathlib.Path(f"/proc/{parent}/task").iterdir():
@@ -98,7 +98,7 @@ def family(process):
 
 
 def uses(process):
-    """What each thread of a process, and of those it has started, has used up to now."""
+    """The usage so far of each thread of a process and its descendants."""
     found = {}
     for member in family(process):
         for thread in pathlib.Path(f"/proc/{member}/task").iterdir():
@@ -113,12 +113,12 @@ def uses(process):
 
 
 def use(process):
-    """The same of all together."""
+    """The total of `uses`."""
     return Use(*map(sum, zip(*uses(process).values())))
 
 
 def use_a_second(process, seconds):
-    """Of the threads that there are at the end: what one used that has ended is not known."""
+    """Usage per second, without threads that ended meanwhile."""
     before, begin = uses(process), time.monotonic()
     time.sleep(seconds)
     after, passed = uses(process), time.monotonic() - begin
@@ -127,7 +127,7 @@ def use_a_second(process, seconds):
 
 
 def memory(process):
-    """What a process and those it has started have in memory: all, and their part of the shared."""
+    """RSS and PSS of a process and its descendants."""
     sums = collections.Counter()
     for member in family(process):
         for line in pathlib.Path(f"/proc/{member}/smaps_rollup").read_text().splitlines()[1:]:
@@ -143,7 +143,7 @@ TEXT, PICTURE = "text/plain;charset=utf-8", "image/png"
 
 
 def text_files(desktop, count, start=0):
-    """Files of texts to copy, no two alike."""
+    """Files with different texts to copy."""
     files = [desktop.home / f"copied-{number}.txt" for number in range(start, start + count)]
     for file in files:
         file.write_text("\n".join([f"What somebody copies, {file.name}, for elsewhere."] * 5))
@@ -151,7 +151,7 @@ def text_files(desktop, count, start=0):
 
 
 def picture_files(desktop, count):
-    """Pictures of 1 MB each: noise, which nothing makes smaller."""
+    """Pictures of 1 MB each, of incompressible noise."""
     files = [desktop.home / f"copied-{number}.png" for number in range(count)]
     for file in files:
         desktop.run("convert", "-size", "700x500", "xc:", "+noise", "Random", file)
@@ -159,9 +159,9 @@ def picture_files(desktop, count):
 
 
 class Copying:
-    """Copies files one after the other: `copied` and `asked` tell when, in seconds of `monotonic`.
+    """Copies files one by one and keeps the clipboard.
 
-    Stays the owner of the clipboard.
+    `copied` and `asked` are times of the monotonic clock, in seconds.
     """
 
     def __init__(self, desktop, kind, files, every=20000):
@@ -173,7 +173,7 @@ class Copying:
     def wait(self):
         for _ in range(self._count):
             line = self._process.stdout.readline()
-            assert line, "nobody asks for what was copied"
+            assert line, "nobody requested the copy"
             copied, asked = (float(word) / 1000 for word in line.split())
             self.copied.append(copied)
             self.asked.append(asked)
@@ -181,7 +181,7 @@ class Copying:
 
 
 def machine():
-    """In a line, what it was measured on."""
+    """A one-line description of the machine."""
     processor = next((line.split(": ", 1)[1] for line in
                       pathlib.Path("/proc/cpuinfo").read_text().splitlines()
                       if line.startswith("model name")), "unknown processor")

@@ -1,8 +1,8 @@
-// copying EVERY TYPE FILE...: copies the contents of each file as TYPE, as a program does that the
-// user copies in: one after the other, the next once somebody has asked for the contents and asks
-// no more. Where nobody asks, it copies the same anew EVERY milliseconds. Prints for each file when
-// it was copied and when the contents were asked for first, in milliseconds of CLOCK_MONOTONIC. In
-// the end it stays, and goes on answering, until it is ended.
+// copying EVERY TYPE FILE...: copies the contents of each file as TYPE, one after the other, each
+// as soon as the contents of the previous one were requested and no more requests come. Copies the
+// same again EVERY milliseconds without a request. Prints for each file when it was copied and
+// first requested, in milliseconds of CLOCK_MONOTONIC. At the end keeps the clipboard until it is
+// killed.
 
 #include "bench/XServer.h"
 
@@ -21,8 +21,8 @@ namespace {
 using namespace ravelo::bench;
 using namespace std::chrono_literals;
 
-constexpr auto patience = 20s;
-constexpr auto quiet = 60ms; ///< Far more than from one question of a reader to its next.
+constexpr auto timeout = 20s;
+constexpr auto quiet = 60ms; ///< Much longer than a reader's pause between two requests.
 
 xcb_atom_t atom(XServer& server, const std::string& name) {
     const Owned<xcb_intern_atom_reply_t> reply(xcb_intern_atom_reply(
@@ -35,7 +35,7 @@ xcb_atom_t atom(XServer& server, const std::string& name) {
     return reply->atom;
 }
 
-/// Owns the clipboard and answers who asks for it.
+/// Owns the clipboard and answers requests.
 class Owner {
 public:
     Owner(XServer& server, const std::string& type)
@@ -64,10 +64,10 @@ public:
         return copied;
     }
 
-    /// When the contents were asked for first.
+    /// Time of the first request.
     [[nodiscard]] std::optional<Clock::time_point> asked() const { return asked_; }
 
-    /// Answers until nobody has asked for anything for `pause`.
+    /// Answers until there were no requests for `pause`.
     void answer(Clock::duration pause) {
         while (const auto event = server_.nextEvent(Clock::now() + pause)) {
             if (typeOf(*event) == XCB_SELECTION_REQUEST) {
@@ -77,11 +77,11 @@ public:
     }
 
 private:
-    /// By the clock of the server.
+    /// Server time.
     xcb_timestamp_t now() {
         xcb_change_property(server_.get(), XCB_PROP_MODE_APPEND, window_, XCB_ATOM_WM_NAME,
                             XCB_ATOM_STRING, 8, 0, "");
-        while (const auto event = server_.nextEvent(Clock::now() + patience)) {
+        while (const auto event = server_.nextEvent(Clock::now() + timeout)) {
             if (typeOf(*event) == XCB_PROPERTY_NOTIFY) {
                 return as<xcb_property_notify_event_t>(*event).time;
             }
@@ -162,7 +162,7 @@ int main(int argc, char** argv) {
     std::cout << std::fixed;
     for (int file = 3; file < argc; ++file) {
         contents = contentsOf(argv[file]);
-        const auto end = Clock::now() + patience;
+        const auto end = Clock::now() + timeout;
         Clock::time_point copied;
         do {
             copied = owner.copy(contents);

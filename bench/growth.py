@@ -1,4 +1,4 @@
-"""Starting, copying, saving, and what remains in memory of all that: functions that give rows."""
+"""Measurements of start, capture, saving and memory."""
 
 import statistics
 import subprocess
@@ -9,11 +9,11 @@ from common import (BUILD, PICTURE, PICTURES, TEXT, TEXTS, Copying, Desktop, Rav
                     wait_for)
 
 STARTS = 11
-SAVE_DELAY = 0.4  # Seconds; a save waits for more to come.
+SAVE_DELAY = 0.4  # Seconds.
 
 
 def start(_):
-    """To the handle's first picture. The first of the starts warms the disk's cache."""
+    """Time to the handle's first frame. The first start warms the disk cache."""
     with Desktop() as desktop:
         add_transcripts(desktop)
         fill(desktop, Ravelo(desktop, BUILD / "ravelo"))
@@ -25,7 +25,7 @@ def start(_):
 # Capture.
 
 def until(condition, expected):
-    """When it became true, to half a millisecond."""
+    """When it became true, within half a millisecond."""
     end = time.monotonic() + 20
     while not condition():
         assert time.monotonic() < end, f"not within 20 s: {expected}"
@@ -34,7 +34,7 @@ def until(condition, expected):
 
 
 def saved(desktop, ravelo, file):
-    """Seconds from a text's copying until it is in store.json."""
+    """Seconds from copying a text until it is in store.json."""
     path = ravelo.folder / "store.json"
     before = path.stat().st_ino  # Each save is a new file.
     copying = Copying(desktop, TEXT, [file])
@@ -45,7 +45,7 @@ def saved(desktop, ravelo, file):
 
 
 def kept(desktop, ravelo, file):
-    """Seconds from a picture's copying until its file is there."""
+    """Seconds from copying a picture until its file exists."""
     folder = ravelo.folder / "clips"
     before = len(list(folder.glob("*.png")))
     copying = Copying(desktop, PICTURE, [file])
@@ -61,7 +61,7 @@ def capture(options):
         pictures = []
         for file in picture_files(desktop, count):
             pictures.append(1000 * kept(desktop, ravelo, file))
-            time.sleep(1)  # What the history has no room for is deleted with the next save.
+            time.sleep(1)  # Expired clips are deleted at the next save.
     own = [value - 1000 * SAVE_DELAY for value in texts]
     return [Row("capture: text in store.json, median", statistics.median(texts), "ms"),
             Row("  but for the 0.4 s a save waits", statistics.median(own), "ms", 20),
@@ -72,15 +72,15 @@ def capture(options):
 # Memory.
 
 def settled(process):
-    time.sleep(3)  # Whatever was begun.
+    time.sleep(3)  # For work in progress.
     return memory(process)
 
 
 def growth(options):
-    """One program's life: started with nothing, then more and more of all there is."""
+    """One run of a program from an empty store to a full one."""
     with Desktop() as desktop:
         add_transcripts(desktop)
-        desktop.env["RAVELO_CORE_DUMPS"] = "1"  # Or only root may see its memory.
+        desktop.env["RAVELO_CORE_DUMPS"] = "1"  # Or only root can read its memory.
         ravelo = Ravelo(desktop, BUILD / "ravelo").start()
         seen = {"after the start": settled(ravelo.process)}
         Copying(desktop, TEXT, text_files(desktop, TEXTS)).wait()

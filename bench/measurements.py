@@ -1,4 +1,4 @@
-"""What the panel and the program at rest take: each measurement is a function that gives rows."""
+"""Measurements of the panel and of the program at rest."""
 
 import itertools
 import statistics
@@ -12,7 +12,7 @@ from common import (BUILD, Desktop, Ravelo, Row, clip, drive, fill, p95, running
 # Openings.
 
 def opened(desktop, window, process, count, how="pointer"):
-    """Milliseconds of each opening: until the window has its size, until it shows everything."""
+    """Milliseconds of each opening: until the window has its size and until it shows everything."""
     columns = drive(desktop, "openings", window, process.pid, count, how)
     assert len(columns[0]) == count, f"{len(columns[0])} openings of {count}"
     return columns
@@ -62,7 +62,7 @@ def typing(_):
     with Desktop() as desktop:
         fill(desktop, Ravelo(desktop, BUILD / "ravelo"), list(long_clips()))
         ravelo = Ravelo(desktop, BUILD / "ravelo").start()
-        time.sleep(5)  # Whatever the start left to do.
+        time.sleep(5)  # For work after the start.
         (times,) = drive(desktop, "typing", ravelo.panel().window, ravelo.process.pid, *WORDS)
     return [Row("typing: key to frame, median", statistics.median(times), "ms"),
             Row("typing: key to frame, p95", p95(times), "ms", 33),
@@ -79,15 +79,15 @@ def short_clips():
 
 
 def frame_times(clips):
-    """Milliseconds from frame to frame while the list is scrolled, and the part of a core used."""
+    """Milliseconds between frames while scrolling, and CPU usage."""
     with Desktop() as desktop:
         fill(desktop, Ravelo(desktop, BUILD / "ravelo"), clips)
         ravelo = Ravelo(desktop, BUILD / "ravelo").start()
-        time.sleep(5)  # Whatever the start left to do.
+        time.sleep(5)  # For work after the start.
         before = use(ravelo.process)
         (times,) = drive(desktop, "scrolling", ravelo.panel().window, SCROLLED)
         seconds = use(ravelo.process).seconds - before.seconds
-    # What is drawn in several pieces is one frame.
+    # Several updates can be one frame.
     whole = [b for a, b in itertools.pairwise([-1000, *times]) if b - a > 4]
     assert len(whole) > 10 * SCROLLED, f"{len(whole)} frames in {SCROLLED} s: nothing scrolls"
     return [b - a for a, b in itertools.pairwise(whole)], 100 * seconds / SCROLLED
@@ -107,9 +107,9 @@ def scrolling(_):
 # Rest.
 
 def resting(program, seconds, state="collapsed"):
-    """What it uses in a second with nothing going on: collapsed, open, or with a timer."""
+    """Usage per second at rest: closed, open, or with a timer."""
     with running(program) as (_, ravelo):
-        time.sleep(5)  # Whatever the start left to do.
+        time.sleep(5)  # For work after the start.
         if state == "timer":
             assert ravelo.call("timer", "start", "60", "Deep work")[0] == 0, "no timer runs"
         elif state == "open":
@@ -138,7 +138,7 @@ def rest(options):
 # Transcripts.
 
 def transcripts(options):
-    """6,000 transcripts, compared with what find(1) needs to name them."""
+    """6,000 transcripts, compared with find(1)."""
     output = subprocess.run([BUILD / "bench/bench_transcripts", str(options.openings)], check=True,
                             stdout=subprocess.PIPE, text=True).stdout
     rows = [[float(word) for word in line.split()] for line in output.splitlines()]
@@ -153,7 +153,7 @@ THUMBNAILS = 60
 
 
 def thumbnails(options):
-    """Of as many pictures, by ravelo-decode; compared with decoding them in the program itself."""
+    """By ravelo-decode, compared with decoding in the program."""
     with tempfile.TemporaryDirectory() as folder:
         for number in range(THUMBNAILS):
             subprocess.run(["convert", "-size", "1280x800", "plasma:", "-seed", str(number),

@@ -1,11 +1,9 @@
 // openings WINDOW PROCESS COUNT HOW: opens a panel and closes it by a click elsewhere. HOW is
-// "pointer", as a hand does it, or "call", over the session bus. Prints for each opening the
-// milliseconds from the pointer's arrival or the call until the window had its size, and until it
-// showed all its content, at whatever opacity but none.
+// "pointer", or "call" for the session bus. Prints for each opening the milliseconds until the
+// window had its size, and until it showed all its content, at any visible opacity.
 //
-// Every frame is read as it comes, some 0.5 ms of the X server's time, and looked at afterwards:
-// the first that holds every detail of the last one counts, from the moment at which it had been
-// read.
+// Frames are captured as they come, which costs about 0.5 ms of the X server's time, and compared
+// later: the first one with every detail of the last one counts, at the time of its capture.
 
 #include "bench/Frames.h"
 #include "bench/Idle.h"
@@ -29,8 +27,8 @@ using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 constexpr Place away = {200, 800};
-constexpr auto betweenFrames = 100ms; ///< Far more than from one frame of a fade to the next.
-constexpr double longestPause = 100;  ///< Milliseconds; many ticks of the program.
+constexpr auto betweenFrames = 100ms; ///< Much longer than the time between two frames of a fade.
+constexpr double maxPause = 100;      ///< Milliseconds; many ticks of the program.
 
 struct Opening {
     Clock::time_point begun;
@@ -38,10 +36,10 @@ struct Opening {
     std::vector<Frame> frames;
 };
 
-/// The next frame; nothing once the program is at rest with nothing more to show.
+/// The next frame; empty once the program is at rest and draws nothing more.
 std::optional<Frame> nextFrame(WindowWatch& window, int process) {
     auto frame = window.nextFrame(betweenFrames);
-    if (!frame) { // On a busy machine it may just not have had its turn.
+    if (!frame) { // On a busy machine it may just be late.
         awaitIdle(process);
         frame = window.nextFrame(0ms);
     }
@@ -105,7 +103,7 @@ int main(int argc, char** argv) {
     XServer server;
     WindowWatch window(server, static_cast<xcb_window_t>(std::strtoul(argv[1], nullptr, 10)));
     std::mt19937 random(1); // NOLINT(*-msc51-cpp): the same pauses each time.
-    std::uniform_real_distribution<double> pause(0, longestPause);
+    std::uniform_real_distribution<double> pause(0, maxPause);
     server.move(away);
     for (int left = std::atoi(argv[3]); left > 0; --left) {
         xcb_flush(server.get());

@@ -1,6 +1,6 @@
-"""The same work done by other programs that keep what is copied, seen from outside only.
+"""The same work with other clipboard managers, observed from outside.
 
-Of each its rows give this program's figure with the other's as the reference.
+Each row has this program's value, with the other program's as the reference.
 """
 
 import collections
@@ -11,23 +11,23 @@ import time
 from common import (BUILD, PICTURE, PICTURES, TEXT, TEXTS, Copying, Desktop, Row, memory,
                     picture_files, text_files, use_a_second)
 
-# Its name, and the command that starts it in the foreground.
+# Name and command to start it in the foreground.
 PEERS = {"copyq": ["copyq"], "clipman": ["xfce4-clipman"], "diodon": ["diodon"]}
 
 Life = collections.namedtuple("Life", "noticing started texts pictures use")
 
 
 def live(command, seconds):
-    """What a program takes from its start on. `pictures` is nothing where it asks for none."""
+    """Resource usage from start on. `pictures` is None if the program requests none."""
     with Desktop() as desktop:
-        desktop.env["RAVELO_CORE_DUMPS"] = "1"  # Or only root may see its memory.
+        desktop.env["RAVELO_CORE_DUMPS"] = "1"  # Or only root can read its memory.
         first = text_files(desktop, 1)
         copying = Copying(desktop, TEXT, first, every=20)
         begun = time.monotonic()
         process = desktop.spawn(*command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         copying.wait()
         noticing = 1000 * (copying.asked[0] - begun)
-        time.sleep(5)  # Whatever the start left to do.
+        time.sleep(5)  # For work after the start.
         started = memory(process)
         Copying(desktop, TEXT, text_files(desktop, TEXTS, start=1)).wait()
         time.sleep(3)
@@ -63,5 +63,5 @@ def peers(options):
         if shutil.which(command[0]):
             try:
                 yield from rows(name, own, live(command, options.rest))
-            except AssertionError as error:  # It does not run everywhere.
+            except AssertionError as error:  # Some do not run everywhere.
                 print(f"{name}: {error}", flush=True)

@@ -1,5 +1,5 @@
-// The least that can open: a handle at the top of the screen which becomes a panel of stripes as
-// soon as the pointer comes over it, and a handle again when the pointer leaves. Prints its window.
+// The minimum that can open: a handle at the top of the screen that becomes a striped panel under
+// the pointer, and a handle again when the pointer leaves. Prints its window.
 
 #include "bench/XServer.h"
 

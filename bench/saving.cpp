@@ -1,6 +1,6 @@
-// bench_saving COUNT: saves the largest store there can be, 65 clips of 64 KB, COUNT times. A line
-// each: milliseconds of the main thread, from a further copy to the save's being handed on, and
-// until the file was there, but for the 0.4 s in which a save waits for more.
+// bench_saving COUNT: saves the largest possible store, 65 clips of 64 KB, COUNT times. Prints a
+// line each: milliseconds of the main thread from a copy until the save is queued, and until the
+// file exists, without the debounce of 0.4 s.
 
 #include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDetachedJobs.h"
@@ -25,7 +25,7 @@ using namespace ravelo;
 constexpr int pinned = 5;
 constexpr int unpinned = 60;
 constexpr int length = 64 << 10;
-constexpr Seconds waiting{1}; ///< More than a save waits.
+constexpr Seconds waiting{1}; ///< Longer than the debounce.
 
 QString text(int number) {
     const QString line = QStringLiteral("Line %1 of a long text, \"with\" quotes.\n").arg(number);

@@ -1,5 +1,5 @@
-// scrolling WINDOW SECONDS: opens a panel by the pointer and turns the wheel over its list, a notch
-// each sixtieth of a second. Prints when each frame had been read, in milliseconds from the first.
+// scrolling WINDOW SECONDS: opens a panel by pointer and turns the wheel over its list, 60 notches
+// per second. Prints when each frame was captured, in milliseconds from the first.
 
 #include "bench/Frames.h"
 
@@ -13,7 +13,7 @@ using namespace std::chrono_literals;
 
 constexpr auto notch = std::chrono::duration_cast<Clock::duration>(1s) / 60;
 constexpr Place inList = {400, 420}; ///< In the panel.
-constexpr auto settling = 1s;        ///< More than any fade of the opening takes.
+constexpr auto settling = 1s;        ///< Longer than any fade of the opening.
 
 } // namespace
 
@@ -24,7 +24,7 @@ int main(int argc, char** argv) {
     XServer server;
     WindowWatch window(server, static_cast<xcb_window_t>(std::strtoul(argv[1], nullptr, 10)));
     openByPointer(server, window, inList);
-    while (window.nextFrame(settling)) { // What the opening draws.
+    while (window.nextFrame(settling)) { // Frames of the opening.
     }
     const auto begun = Clock::now();
     const auto end = begun + std::chrono::seconds(std::atoi(argv[2]));

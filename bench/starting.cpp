@@ -1,5 +1,5 @@
-// starting COUNT PROGRAM: starts a program and ends it again, COUNT times. Prints for each start
-// the milliseconds until its handle at the top of the screen had been drawn.
+// starting COUNT PROGRAM: starts and ends a program COUNT times. Prints for each start the
+// milliseconds until its handle was drawn.
 
 #include "bench/XServer.h"
 
@@ -17,13 +17,13 @@ namespace {
 using namespace ravelo::bench;
 using namespace std::chrono_literals;
 
-constexpr auto patience = 20s;
+constexpr auto timeout = 20s;
 constexpr auto betweenLooks = 500us;
-constexpr auto toEnd = 300ms; ///< Of what a start leaves to do.
+constexpr auto toEnd = 300ms; ///< For work after the start.
 
-/// The window that has appeared with the size of a handle.
+/// The new window with the size of a handle.
 xcb_window_t awaitHandle(XServer& server) {
-    const auto deadline = Clock::now() + patience;
+    const auto deadline = Clock::now() + timeout;
     xcb_window_t sized = XCB_NONE;
     while (const auto event = server.nextEvent(deadline)) {
         if (typeOf(*event) == XCB_CONFIGURE_NOTIFY || typeOf(*event) == XCB_CREATE_NOTIFY) {
@@ -56,7 +56,7 @@ bool isDrawn(XServer& server, xcb_window_t window) {
 }
 
 void awaitDrawn(XServer& server, xcb_window_t window) {
-    const auto deadline = Clock::now() + patience;
+    const auto deadline = Clock::now() + timeout;
     while (!isDrawn(server, window)) {
         if (Clock::now() > deadline) {
             giveUp("the handle is not drawn");

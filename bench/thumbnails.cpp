@@ -1,6 +1,6 @@
-// thumbnails here|there FOLDER: makes thumbnails of all pictures in the folder as a list does that
-// is shown for the first time, in this process or by ravelo-decode. Prints the milliseconds until
-// the first and until the last of them.
+// thumbnails here|there FOLDER: makes thumbnails of all pictures in the folder, like a list shown
+// for the first time, in this process or in ravelo-decode. Prints the milliseconds until the first
+// and the last one.
 
 #include "fakes/InProcessDecoder.h"
 #include "platform/system/DecoderProcess.h"
@@ -21,7 +21,7 @@ using Clock = std::chrono::steady_clock;
 
 constexpr PictureShape tile{28, 28, 28};
 
-/// When each came.
+/// When each was ready.
 class Arrivals {
 public:
     void add() {

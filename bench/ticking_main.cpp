@@ -1,4 +1,4 @@
-// Ravelo with a tick that never rests: what resting is compared with.
+// Ravelo with a tick that never stops: the reference for measurements at rest.
 
 #include "app/AppDelegate.h"
 #include "platform/freedesktop/SingleInstance.h"

@@ -26,7 +26,7 @@ constexpr int idleLooks = 1000;
 
 constexpr auto turn = R"({"message":{"model":"claude-opus-4-6","usage":{"input_tokens":41500}}})"
                       "\n";
-// The newest is a session of weeks: 300 MB, of which only the end may be read.
+// The newest is a session of weeks: 300 MB, of which only the end should be read.
 constexpr auto lastTurn =
     R"({"message":{"model":"claude-opus-4-6","usage":{"input_tokens":77000}}})"
     "\n";

@@ -1,7 +1,6 @@
-// typing WINDOW PROCESS WORD...: opens a panel by the pointer, types each word into its search
-// field and takes it away again. Prints for each key that went down the milliseconds until the next
-// frame had been read, which shows what the key has found: the list is made anew within the key's
-// event.
+// typing WINDOW PROCESS WORD...: opens a panel by pointer, types each word into its search field
+// and deletes it again. Prints for each key press the milliseconds until the next frame was
+// captured; it shows the result, because the list updates within the key event.
 
 #include "bench/Frames.h"
 #include "bench/Idle.h"
@@ -20,7 +19,7 @@ constexpr Place inSearch = {200, 220}; ///< In the panel.
 
 void press(XServer& server, WindowWatch& window, int process, xcb_keysym_t key) {
     awaitIdle(process);
-    while (window.nextFrame(0ms)) { // What was drawn before.
+    while (window.nextFrame(0ms)) { // Earlier frames.
     }
     server.press(key);
     const auto begun = Clock::now();

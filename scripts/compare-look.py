@@ -1,11 +1,11 @@
 #!/usr/bin/env python3
-"""Measures the panel, the settings and the setup against the drawings of their look.
+"""Compares the panel, the settings and the setup with design drawings.
 
     scripts/compare-look.py DRAWINGS [PROBE]
 
 DRAWINGS is the folder with the drawings' HTML, PROBE the built panel_probe. Prints, for every
 element, its rectangle in the drawing (measured by a headless chromium) and in the panel, in logical
-pixels from the panel's top left, and exits 1 where any of the four differs by more than one pixel.
+pixels from the panel's top left. Exits with 1 if any value differs by more than one pixel.
 """
 
 import json
@@ -18,9 +18,8 @@ import tempfile
 
 TOLERANCE = 1.0
 
-# scene of the probe, drawing, origin in the drawing, then: our element, its CSS selector, and which
-# of x, y, width, height count. A selector that ends in "|text" is measured by its letters: as wide
-# as they are, as high as its box.
+# Scene of the probe, drawing, origin in the drawing, then per element: its name, its CSS selector, and
+# which of x, y, width, height count. With "|text" the width is that of the text.
 ALL = "xywh"
 BAR_BOTH = "body > div:nth-of-type(6) > div.abs:nth-of-type(2)"
 BAR_REMINDERS_NOTCH = "body > div:nth-of-type(7) > div.abs:nth-of-type(2)"
@@ -52,7 +51,7 @@ SCENES = [
             ("/subtitle", " .su|text", ALL),
             ("/digit", " .k", "xw"),
         )
-        if not (i == 3 and ours == "/digit")  # The drawing's pointer is over this one.
+        if not (i == 3 and ours == "/digit")  # Hovered in the drawing.
     ]),
     ("hover", "03a-clipboard.html", ".panel", [
         ("list/card3", ".card.hov", ALL),

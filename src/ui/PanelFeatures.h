@@ -18,11 +18,10 @@ class Notices;
 class Pasteboard;
 class Preferences;
 
-/// All that the panel shows, each part made of what it needs. This is where the tabs are listed.
-/// Main thread.
+/// All features of the panel, and the list of tabs. Main thread.
 class PanelFeatures {
 public:
-    /// All of it outlives the panel.
+    /// All outlive the panel.
     struct Services {
         Store& store;
         AppSettings& settings;
@@ -42,7 +41,7 @@ public:
         std::shared_ptr<ImageDecoder> decoder;
     };
 
-    /// `window` is the panel's, still empty, and `engine` the one of all windows.
+    /// `window` is the panel's, still empty; `engine` is shared by all windows.
     PanelFeatures(const Services& services, const QLocale& locale, const QQuickWindow& window,
                   QQmlEngine& engine);
     PanelFeatures(const PanelFeatures&) = delete;

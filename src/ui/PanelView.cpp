@@ -19,8 +19,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Before the first window: a program of one small panel does not pay for a graphics driver, and
-/// only windows with an alpha channel can have an outline.
+/// Before the first window: the software renderer avoids loading a graphics driver, and only
+/// windows with an alpha channel can have an outline.
 QWindow* chooseRenderer() {
     if (QQuickWindow::sceneGraphBackend() != u"software") {
         QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
@@ -33,7 +33,7 @@ QUrl contentUrl() {
     return QUrl(u"qrc:/Ravelo/Panel/Panel.qml"_s);
 }
 
-/// "<radius in device pixels>/<file name>": names lead nowhere but into `folder`.
+/// "<radius in device pixels>/<file name>"; paths outside `folder` are not possible.
 QQuickImageProvider* clipThumbs(const QDir& folder, const std::shared_ptr<ImageDecoder>& decoder) {
     return new ThumbnailProvider([folder, decoder](const QString& name, QSize size) {
         const double radius = name.section(u'/', 0, 0).toDouble();
@@ -44,11 +44,11 @@ QQuickImageProvider* clipThumbs(const QDir& folder, const std::shared_ptr<ImageD
     });
 }
 
-/// As `fileThumbAddress` has it, asked for as wide as the widest is.
+/// For names by `fileThumbAddress`, requested at the maximum width.
 QQuickImageProvider* fileThumbs(const std::shared_ptr<const FileIcons>& icons,
                                 const std::shared_ptr<ImageDecoder>& decoder) {
     return new ThumbnailProvider([icons, decoder](const QString& name, QSize size) {
-        return fileThumb(fileOfThumb(name), size.width() / widestThumb, *icons, *decoder);
+        return fileThumb(fileOfThumb(name), size.width() / maxThumbWidth, *icons, *decoder);
     });
 }
 

@@ -11,27 +11,27 @@
 
 namespace ravelo {
 
-/// The panel on the screen: a transparent window and, once there is something to show, its content.
-/// The window knows neither its place nor its size. Main thread.
+/// The panel's window: transparent, without position or size of its own, and empty until loaded.
+/// Main thread.
 class PanelView {
 public:
-    /// Makes the window, empty and not shown. Its content is compiled in a thread from now on.
+    /// Creates the hidden window and starts compiling its content in a thread.
     PanelView();
     ~PanelView();
 
     [[nodiscard]] QQuickView& window() { return view_; }
 
-    /// Fills the window. Called once; all services outlive this view.
+    /// Fills the window. Call once; all services outlive this.
     void load(const PanelFeatures::Services& services, const QLocale& locale);
 
-    /// Ends the content, which reads services until then.
+    /// Deletes the content, the last user of the services.
     void unload();
 
     /// Only after `load`.
     [[nodiscard]] PanelFeatures& features() { return *features_; }
 
 private:
-    std::unique_ptr<PanelFeatures> features_; // Outlive the content, which is in the view.
+    std::unique_ptr<PanelFeatures> features_; // Must outlive the content in the view.
     QQuickView view_;
     QQmlComponent content_;
     std::vector<std::unique_ptr<QQmlComponent>> pages_; ///< Of the tabs, kept compiled.

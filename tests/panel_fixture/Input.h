@@ -8,12 +8,13 @@
 #include <QMouseEvent>
 #include <QQuickItem>
 #include <QQuickWindow>
+#include <QWheelEvent>
 
 #include <functional>
 
 namespace ravelo {
 
-/// The first element of that name below `under`, or nothing.
+/// The first item with this name below `under`, or null.
 inline QQuickItem* find(const QQuickItem* under, const QString& name) {
     for (QQuickItem* child : under->childItems()) {
         if (child->objectName() == name) {
@@ -41,7 +42,7 @@ inline void click(QQuickWindow& window, QPointF place, Qt::MouseButton button = 
     send(window, QEvent::MouseButtonRelease, place, button);
 }
 
-/// A key goes down and up. `text` is what it types.
+/// Presses and releases a key. `text` is what it types.
 inline void press(QQuickWindow& window, int key, Qt::KeyboardModifiers modifiers = Qt::NoModifier,
                   const QString& text = {}) {
     for (const QEvent::Type type : {QEvent::KeyPress, QEvent::KeyRelease}) {
@@ -50,8 +51,7 @@ inline void press(QQuickWindow& window, int key, Qt::KeyboardModifiers modifiers
     }
 }
 
-/// Several keys, one after the other, as in "Down Ctrl+P x Return". A single character types
-/// itself.
+/// Presses several keys: "Down Ctrl+P x Return". A single character types itself.
 inline void pressKeys(QQuickWindow& window, const QString& keys) {
     for (const QString& name : keys.split(QChar(u' '), Qt::SkipEmptyParts)) {
         const QKeyCombination key = QKeySequence::fromString(name)[0];
@@ -59,7 +59,13 @@ inline void pressKeys(QQuickWindow& window, const QString& keys) {
     }
 }
 
-/// Into the middle of what is in a window.
+/// Turns the wheel by eighths of a degree; positive scrolls up.
+inline void turnWheel(QQuickWindow& window, QPointF place, int angle) {
+    QWheelEvent event(place, window.mapToGlobal(place), {}, {0, angle}, Qt::NoButton,
+                      Qt::NoModifier, Qt::NoScrollPhase, false);
+    QCoreApplication::sendEvent(&window, &event);
+}
+
 inline void clickMiddle(QQuickWindow& window, const QQuickItem* item,
                         Qt::MouseButton button = Qt::LeftButton) {
     click(window, item->mapToScene(item->boundingRect().center()), button);

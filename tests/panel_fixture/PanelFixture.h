@@ -34,7 +34,7 @@ public:
         world.scheduler.advance(untilBuilt);
     }
 
-    /// The pointer goes into the hot zone and on to the panel's middle.
+    /// Moves the pointer into the hot zone and on to the panel's centre.
     void open() {
         world.pointer.moveTo({720, 3});
         world.scheduler.advance(Seconds(0.02));
@@ -48,7 +48,7 @@ public:
         view.window().grabWindow();
     }
 
-    /// By a key, which leaves the keyboard in the panel.
+    /// By key, so that the panel has the keyboard focus.
     void openByKey() {
         world.controller.toggle();
         view.window().resize(world.controller.frame().size().toSize());
@@ -62,23 +62,23 @@ public:
         world.scheduler.advance(Seconds(0.02));
     }
 
-    /// Null where there is none or it is not to be seen.
+    /// Null if it does not exist or is hidden.
     QQuickItem* shown(const QString& name) {
         QCoreApplication::processEvents();
         QQuickItem* item = find(view.window().contentItem(), name);
         return item != nullptr && item->isVisible() ? item : nullptr;
     }
 
-    /// What takes a moment to appear is waited for.
+    /// Waits until it is visible.
     QQuickItem* item(const QString& name) {
         if (!eventually([&] { return shown(name) != nullptr; })) {
-            ADD_FAILURE() << "not to be seen: " << qPrintable(name);
+            ADD_FAILURE() << "not visible: " << qPrintable(name);
             return &nothing;
         }
         return shown(name);
     }
 
-    /// What is named so inside of another.
+    /// The item with this name inside another one.
     QQuickItem* in(const QString& outer, const QString& name) { return find(item(outer), name); }
 
     void clickOn(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
@@ -100,7 +100,7 @@ public:
     /// See Input.h.
     void pressKeys(const QString& keys) { ravelo::pressKeys(view.window(), keys); }
 
-    /// The property of what is named so inside of another.
+    /// A property of an item inside another one.
     QVariant property(const QString& outer, const QString& name, const char* property) {
         return in(outer, name)->property(property);
     }
@@ -109,11 +109,40 @@ public:
         clickMiddle(view.window(), in(outer, name));
     }
 
-    /// Starts over with the content that the next opening will show.
+    /// Closes and creates the content of the next opening.
     void rebuild() {
         close();
         world.scheduler.advance(untilBuilt);
     }
+
+    void openTab(const QString& key) {
+        world.settings.setLastTab(key);
+        rebuild();
+        open();
+    }
+
+    void openSearch() {
+        open();
+        clickOn(u"searchInput"_s);
+    }
+
+    /// Moves the pointer over a list row.
+    QQuickItem* hover(const QString& row) {
+        QQuickItem* found = item(row);
+        send(view.window(), QEvent::MouseMove, found->mapToScene({400, found->height() / 2}));
+        return found;
+    }
+
+    /// The texts of all clips, with an asterisk if pinned.
+    [[nodiscard]] QString clips() const {
+        QStringList texts;
+        for (const ClipItem& one : world.store.clips()) {
+            texts.append(one.text + (one.pinned ? u"*"_s : QString()));
+        }
+        return texts.join(u' ');
+    }
+
+    [[nodiscard]] QString toast() { return view.features().toast.text(); }
 
     void type(const QString& letters) {
         for (const QChar letter : letters) {

@@ -5,7 +5,7 @@
 
 namespace ravelo {
 
-/// A panel of this world.
+/// The services of a panel in this world.
 inline PanelFeatures::Services services(PanelWorld& world, PlanUsage& usage) {
     return {world.store,      world.settings,  world.controller,  world.notices,
             world.pasteboard, world.scheduler, world.preferences, world.nightShift,

@@ -1,5 +1,5 @@
-"""Prints what an assistive program is told of a program: one line of JSON for each object that it
-can see, with the names and roles of those around it.
+"""Prints the accessibility tree of a program: one line of JSON per object, with the roles of its
+ancestors.
 
     atspi_peer.py PROGRAM
 """
@@ -13,7 +13,7 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
 
-def tell(node, path):
+def show(node, path):
     states = node.get_state_set()
     actions = node.get_action_iface()
     line = {"name": node.get_name(), "description": node.get_description(),
@@ -26,11 +26,11 @@ def tell(node, path):
     for index in range(node.get_child_count()):
         child = node.get_child_at_index(index)
         if child:
-            tell(child, path + [line["role"]])
+            show(child, path + [line["role"]])
 
 
 desktop = Atspi.get_desktop(0)
 for index in range(desktop.get_child_count()):
     application = desktop.get_child_at_index(index)
     if application and application.get_name() == sys.argv[1]:
-        tell(application, [])
+        show(application, [])

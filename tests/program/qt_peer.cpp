@@ -1,5 +1,5 @@
-// A Qt program for Ravelo to live beside: it owns the clipboard with what it is told, says "ready"
-// and stays until it is ended, or ends at once.
+// A Qt program for tests with Ravelo: copies its arguments, prints "ready" and stays until it is
+// killed, or exits at once.
 
 #include <QClipboard>
 #include <QCommandLineParser>
@@ -19,7 +19,7 @@ void sayReady() {
     std::fflush(stdout);
 }
 
-/// "text 1", "text 2", ... each replacing the one before.
+/// "text 1", "text 2", ... each replacing the previous one.
 void copySeries(int count, int interval) {
     auto* timer = new QTimer(qGuiApp);
     QObject::connect(timer, &QTimer::timeout, qGuiApp, [timer, count, done = 0]() mutable {

@@ -1,5 +1,5 @@
-// Draws the panel, the settings or the setup with sample data, for comparing it with the drawings
-// of its look.
+// Renders the panel, the settings or the setup with sample data, to compare them with design
+// drawings.
 //
 //   panel_probe [--scene NAME] [--scale 1|2] [--screen WxH] [--png FILE] [--behind FILE] [--time N]
 //
@@ -119,7 +119,7 @@ QImage swatches() {
     return image;
 }
 
-/// Real files where pictures are to be seen; the rest need not be there but for their kind.
+/// Real files where a picture is visible; others only need a name.
 void park(PanelWorld& world) {
     const QDir folder(world.folder.path());
     const auto file = [&](const char* name, const QImage& image = {}) {
@@ -144,7 +144,7 @@ void park(PanelWorld& world) {
     world.store.clearSelection();
 }
 
-/// More than anybody parks and receives.
+/// More than anyone parks or receives.
 void parkMany(PanelWorld& world) {
     QList<QUrl> files;
     for (int i = 0; i < 200; ++i) {
@@ -171,7 +171,7 @@ const auto note = u"Tuesday, site visit at Alder Lane\n"
                   "Estimate: 6 sheets veneer + lacquer, two days on site.\n"
                   "Call the framer about the mirror before noon."_s;
 
-/// Lets the program run until nothing is loading or moving any more.
+/// Runs the event loop until nothing loads or moves.
 void settle(int milliseconds = 700) {
     QElapsedTimer timer;
     timer.start();
@@ -181,7 +181,7 @@ void settle(int milliseconds = 700) {
     }
 }
 
-/// `path` are names, each below the one before.
+/// `path` is a list of names, each below the previous one.
 QPointF middle(QQuickWindow& window, const QString& path) {
     const QQuickItem* item = window.contentItem();
     for (const QString& name : path.split(u'/')) {
@@ -213,7 +213,7 @@ void dragFilesOver(PanelWorld& world, QQuickWindow& window) {
     QCoreApplication::sendEvent(&window, &enter);
 }
 
-/// The closed panel as a bar: with a timer, with reminders or with both, perhaps beside a notch.
+/// The closed panel as a bar with a timer, reminders or both, optionally with a notch.
 void playBar(const QString& scene, PanelWorld& world, PanelView& view) {
     const bool notch = scene.contains(u"notch"_s);
     world.screens.screens.front().visibleFrame.setTop(notch ? 32 : 28);
@@ -281,7 +281,7 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         view.features().clips->showTooLarge({TooLargeCopy::Measure::bytesOfText, 14'885'000});
     }
     if (QQuickItem* grid = find(window.contentItem(), u"grid"_s)) {
-        grid->setFocus(false); // Or the first tile shows that it has the keyboard.
+        grid->setFocus(false); // Hides the focus ring of the first tile.
     }
     if (scene == u"full-black") {
         world.settings.setFullBlack(true);
@@ -363,13 +363,13 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         click(window, middle(window, u"noteInput"_s));
         find(window.contentItem(), u"noteInput"_s)
             ->setProperty("cursorPosition", static_cast<int>(note.size()));
-        settle(200); // The caret has not blinked yet.
+        settle(200); // Before the caret blinks.
         return;
     }
     settle();
 }
 
-/// The window that the scene is about, if it is not the panel.
+/// The window of the scene, if it is not the panel.
 QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
                          OnboardingController& onboarding) {
     if (scene.startsWith(u"settings"_s)) {
@@ -396,7 +396,7 @@ QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
     return onboarding.window();
 }
 
-/// A package service that gets as far as the scene.
+/// A package service with the state of the scene.
 class SceneUpdates : public PackageUpdates {
 public:
     explicit SceneUpdates(QString scene) : scene_(std::move(scene)) {}
@@ -423,8 +423,8 @@ private:
     QString scene_;
 };
 
-/// The part of a picture of the screen that lies behind the window. Painted in the window, because
-/// the offscreen platform has no transparent ones.
+/// The part of a screenshot behind the window. Painted in the window, because the offscreen
+/// platform has no transparent windows.
 class Behind : public QQuickPaintedItem {
 public:
     Behind(QQuickWindow& window, const QString& file) : screen_(file) {
@@ -446,7 +446,7 @@ private:
     QImage screen_;
 };
 
-/// Milliseconds of this thread's own work: what else runs on the machine does not count.
+/// CPU time of this thread in milliseconds.
 class Stopwatch {
 public:
     [[nodiscard]] double elapsed() const { return now() - start_; }
@@ -530,7 +530,7 @@ int main(int argc, char** argv) {
     const QRectF screen(0, 0, size.value(0).toDouble(), size.value(1).toDouble());
     world.screens.change({{u"one"_s, screen, screen.adjusted(0, 28, 0, 0), {}, {}}});
     const bool shelf = scene.startsWith(u"shelf"_s);
-    // When the picture is taken: what was received for the shelf takes a day to arrive.
+    // One day later, so that received files are old.
     const double now = world.scheduler.now().sinceReference + (shelf ? day.count() : 0);
     UsageWorld spent(world.scheduler, {UsageWindow{42, Date{now + 125.5 * 60}},
                                        UsageWindow{78, Date{now + 76.5 * 3600}}});

@@ -11,7 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// More than any panel is wide; a clip may be megabytes long.
+/// Wider than any panel; a clip can have megabytes.
 constexpr qsizetype titleLength = 1000;
 
 constexpr Seconds justNow(60);
@@ -124,7 +124,7 @@ QUuid ClipListModel::idAt(int row) const {
 
 void ClipListModel::update() {
     const int before = count();
-    takeOver(found());
+    apply(found());
     if (count() != before) {
         Q_EMIT countChanged();
     }

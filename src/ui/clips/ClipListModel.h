@@ -16,8 +16,8 @@ namespace ravelo {
 
 class Store;
 
-/// The clipboard history as the panel lists it: those clips that contain `search`, in the store's
-/// order, and below the pinned ones a row that tells of a copy too large to keep. Main thread.
+/// The clipboard history as shown in the panel: clips that contain `search`, in store order, and
+/// after the pinned ones a row about a copy that was too large to keep. Main thread.
 class ClipListModel : public KeyedListModel<ClipItem>, public AgingRows {
     Q_OBJECT
     QML_ELEMENT
@@ -50,15 +50,14 @@ public:
 
     [[nodiscard]] int tooLargeRow() const { return tooLargeRow_; }
 
-    /// In place of the one before. Not searched for, never stored, gone when the history is
-    /// cleared.
+    /// Replaces the previous one. Not searched, never stored, removed when the history is cleared.
     void setTooLarge(const TooLargeCopy& copy);
     Q_INVOKABLE void dismissTooLarge();
 
     void refreshDates() override;
     [[nodiscard]] Seconds untilDatesChange() const override;
 
-    /// An invalid id where there is no such row.
+    /// Invalid if there is no such row.
     Q_INVOKABLE [[nodiscard]] QUuid idAt(int row) const;
 
 Q_SIGNALS:
@@ -72,7 +71,7 @@ private:
     [[nodiscard]] QString subtitle(const ClipItem& clip) const;
     [[nodiscard]] bool isTooLarge(const ClipItem& row) const;
 
-    /// Its row has a record of its own, which no store knows.
+    /// A placeholder record for its row, not in any store.
     struct TooLargeRow {
         TooLargeCopy copy;
         ClipItem record;

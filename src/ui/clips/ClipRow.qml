@@ -3,7 +3,7 @@ import Ravelo.Clips
 import Ravelo.Controls
 import Ravelo.Theme
 
-/// One entry of the clipboard history.
+/// A row of the clipboard history.
 Card {
     id: row
 
@@ -12,7 +12,7 @@ Card {
     required property int index
     required property bool pinned
     required property string imageFileName
-    /// It tells of a copy that was not kept: nothing to copy or pin, and no digit of its own.
+    /// About a copy that was not kept: cannot be copied or pinned and has no digit.
     readonly property bool tooLarge: index === clips.list.tooLargeRow
     readonly property int place: clips.list.tooLargeRow >= 0 && index > clips.list.tooLargeRow
         ? index - 1 : index
@@ -26,7 +26,7 @@ Card {
     highlighted: pinned
     digit: place < 9 && !tooLarge ? place + 1 : ""
     titleColor: tooLarge ? Theme.text2 : Theme.text1
-    // Nothing is decoded for a panel that is not seen.
+    // A hidden panel decodes nothing.
     thumbnail: shown && imageFileName !== ""
         ? "image://thumb/" + Theme.radiusTile * Screen.devicePixelRatio + "/" + imageFileName : ""
 

@@ -13,7 +13,7 @@ TabPage {
 
     readonly property Clips clips: feature as Clips
     readonly property real scrolled: head > 0 ? list.contentY - list.originY + list.topMargin : 0
-    /// How far the snippets have gone behind the search.
+    /// How far the snippets have moved behind the search.
     readonly property real chipsLifted: Math.max(0, Math.min(36, scrolled - head))
 
     flick: list
@@ -29,7 +29,7 @@ TabPage {
         field.edited.selectAll();
     }
 
-    /// Where the clip with this number is.
+    /// Row of the clip with this digit.
     function rowOf(number: int): int {
         const tooLarge = clips.list.tooLargeRow;
         return tooLarge >= 0 && number >= tooLarge ? number + 1 : number;
@@ -49,7 +49,7 @@ TabPage {
         }
     }
 
-    /// Keys that work on the list while the search has the keyboard.
+    /// Keys for the list while the search has the focus.
     function handle(event: KeyEvent) {
         const page = Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1);
         const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
@@ -103,7 +103,7 @@ TabPage {
         }
     }
 
-    // What was copied while this was hidden has pushed the rows on.
+    // Clips copied while this was hidden have moved the rows down.
     onShownChanged: {
         if (shown) {
             list.currentIndex = Math.min(rowOf(0), list.count - 1);
@@ -126,7 +126,7 @@ TabPage {
         id: field
         objectName: "search"
         y: tab.head - Math.min(tab.head, Math.max(0, tab.scrolled))
-        z: 1 // The list is behind, as far up as it can get.
+        z: 1 // The list scrolls up behind the search.
         width: parent.width
         placeholder: qsTr("Search clipboard…")
         clearName: qsTr("Clear history")
@@ -195,7 +195,7 @@ TabPage {
             id: list
             objectName: "list"
 
-            // ListView's own way to the beginning leaves the margin out.
+            // ListView's own positioning ignores the margin.
             function showTop() {
                 positionViewAtBeginning();
                 contentY = originY - topMargin;
@@ -215,7 +215,7 @@ TabPage {
             }
             cacheBuffer: 80
             boundsBehavior: Flickable.StopAtBounds
-            // What is copied meanwhile must not scroll the list away from its beginning.
+            // New clips must not scroll the list away from its beginning.
             highlightFollowsCurrentItem: false
             model: tab.clips.list
 
@@ -270,7 +270,7 @@ TabPage {
                     duration: Theme.move(Theme.entering)
                     easing.type: Easing.OutCubic
                 }
-                // A row that was still coming in is pushed on as it is; it must not stay faint.
+                // A move interrupts the row's fade-in; it must not stay faint.
                 NumberAnimation {
                     property: "opacity"
                     to: 1

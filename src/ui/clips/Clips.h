@@ -11,7 +11,7 @@ namespace ravelo {
 class Deleting;
 class NotchController;
 
-/// The tab with the clipboard history and the snippets. Main thread.
+/// The tab with the clipboard history and snippets. Main thread.
 class Clips : public ravelo::Tab {
     Q_OBJECT
     QML_ELEMENT
@@ -21,7 +21,7 @@ class Clips : public ravelo::Tab {
     Q_PROPERTY(ravelo::Snippets* snippets READ snippets CONSTANT)
 
 public:
-    /// All of it outlives the tab.
+    /// All outlive the tab.
     struct Services {
         Store& store;
         NotchController& controller;
@@ -43,8 +43,8 @@ public:
     void begin() override;
     void reset() override;
 
-    /// Says that a copy was not kept: by a row, at once or at the next opening, which goes when the
-    /// panel closes, and by a toast if the panel is open.
+    /// Reports a copy that was not kept: as a row, now or at the next opening, until the panel
+    /// closes, and as a toast if the panel is open.
     void showTooLarge(const TooLargeCopy& copy);
 
     /// In clips and snippets.
@@ -52,11 +52,11 @@ public:
 
     Q_INVOKABLE void copy(int row);
     Q_INVOKABLE void copyAndClose(int row);
-    /// As LinkOpening has it; closes the panel if it is opened.
+    /// See LinkOpening; closes the panel if the link opens.
     Q_INVOKABLE void openLink(int row);
     Q_INVOKABLE void togglePin(int row);
     Q_INVOKABLE void remove(int row);
-    /// All that are not pinned.
+    /// All unpinned clips.
     Q_INVOKABLE void clear();
 
 private:

@@ -24,8 +24,8 @@ bool isScript(const QString& scheme) {
     return scheme == u"javascript" || scheme == u"data" || scheme == u"vbscript";
 }
 
-/// The address in a clip, invalid if there is none. Those without "://" are stored as texts; few
-/// texts with a colon are meant as a link.
+/// The address in a clip, invalid if there is none. Addresses without "://" are stored as texts,
+/// but few texts with a colon are links.
 QUrl linkIn(const ClipItem& clip) {
     const QString text = clip.text.trimmed();
     if (clip.kind == ClipKind::url) {
@@ -36,7 +36,7 @@ QUrl linkIn(const ClipItem& clip) {
     return link.scheme() == u"mailto" || isScript(link.scheme()) ? link : QUrl();
 }
 
-/// Programs and schemes call themselves whatever they like.
+/// Names of programs and schemes are not trusted.
 QString brief(const QString& name) {
     const QString line = name.simplified();
     return line.size() > maxName ? line.first(maxName - 1) + u'…' : line;
@@ -87,7 +87,7 @@ void LinkOpening::ask(const QUrl& link) {
     looking_ = opener_.findProgram(link, [this, link](const QString& name) {
         timeOut_.reset();
         if (name.isEmpty()) {
-            toast_.flash(tr("Nothing here opens %1 links").arg(brief(link.scheme())));
+            toast_.flash(tr("No program opens %1 links").arg(brief(link.scheme())));
             return;
         }
         link_ = link;

@@ -12,26 +12,25 @@ class FileOpener;
 class Toast;
 struct ClipItem;
 
-/// Opens the links among the clips: web and mail addresses at once, others after a question that
-/// names the program, because any program of the desktop may have registered itself for a scheme
-/// and a link may come from anywhere. What would run as a script in a browser is never opened.
-/// Main thread.
+/// Opens links in clips: web and mail addresses at once, others after a question that names the
+/// program, because any program can register a scheme and a link can come from anywhere. Never
+/// opens what a browser would run as a script. Main thread.
 class LinkOpening : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
 
 public:
-    /// All of it outlives this.
+    /// All outlive this.
     LinkOpening(FileOpener& opener, Scheduler& scheduler, Toast& toast);
 
-    /// Nothing happens if the clip is no link.
+    /// Does nothing if the clip is not a link.
     void open(const ClipItem& clip);
 
-    /// The answer to the question is yes.
+    /// The question was answered with yes.
     Q_INVOKABLE void openAsked();
 
-    /// Nobody is there to be asked any more.
+    /// The question can no longer be answered.
     void reset();
 
 Q_SIGNALS:
@@ -45,7 +44,7 @@ private:
     FileOpener& opener_;
     Scheduler& scheduler_;
     Toast& toast_;
-    QUrl link_; ///< That is asked about.
+    QUrl link_; ///< The link in question.
     Handle looking_;
     Handle timeOut_;
 };

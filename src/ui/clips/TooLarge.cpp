@@ -10,12 +10,12 @@ namespace {
 
 using Measure = TooLargeCopy::Measure;
 
-/// Texts of this file are found under its name.
+/// Translation context of this file.
 struct TooLargeText {
     Q_DECLARE_TR_FUNCTIONS(TooLargeText)
 };
 
-/// In units of 2^20, as amounts are shown.
+/// In units of 2^20, as shown.
 int limit(Measure measure) {
     switch (measure) {
     case Measure::bytesOfText:
@@ -41,7 +41,7 @@ QString limitWithUnit(Measure measure) {
     return withUnit(QString::number(limit(measure)), measure);
 }
 
-/// Rounded up, so that what is just over the limit does not look like the limit.
+/// Rounded up, so that an amount just over the limit does not look like the limit.
 QString amount(const TooLargeCopy& copy, const QLocale& locale) {
     if (!isKnown(copy)) {
         return TooLargeText::tr("more than %1").arg(limitWithUnit(copy.measure));

@@ -5,15 +5,15 @@
 
 namespace ravelo {
 
-/// A copy that was not kept because it is larger than what is kept.
+/// A copy that was too large to keep.
 struct TooLargeCopy {
     enum class Measure { bytesOfText, bytesOfImage, pixelsOfImage };
 
     Measure measure = Measure::bytesOfText;
-    qint64 amount = 0; ///< No more than the limit if nobody knows how much it is.
+    qint64 amount = 0; ///< At most the limit if the real amount is unknown.
 };
 
-/// For its row: "Text of 14.2 MB, the limit is 8 MB".
+/// For the row: "Text of 14.2 MB, the limit is 8 MB".
 [[nodiscard]] QString tooLargeDetail(const TooLargeCopy& copy, const QLocale& locale);
 
 /// For the toast: "Too large to keep · 14.2 MB of text".

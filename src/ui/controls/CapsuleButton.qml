@@ -2,20 +2,20 @@ import QtQuick
 import Ravelo.Controls
 import Ravelo.Theme
 
-/// A button with a text. The main one of a group is white.
+/// A button with text. The main one of a group is white.
 Pressable {
     id: button
 
     property alias text: label.text
     property string symbol
     property bool primary: false
-    /// Only its text is to be seen until it is touched.
+    /// Only the text shows until the pointer is over it.
     property bool ghost: false
     property bool large: false
     property alias style: label.style
     property color textColor: primary ? Theme.onWhite : ghost && !hovered ? Theme.text2 : Theme.text1
     property real sidePad: large ? 16 : 12
-    /// Room before the text, for a symbol.
+    /// Space before the text, for a symbol.
     property real lead: symbol === "" ? 0 : 19
 
     name: text

@@ -3,8 +3,7 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// A row of a list: tile, title, subtitle, and at its end a digit that gives way to small buttons
-/// while the pointer is over the row.
+/// A list row: tile, title, subtitle, and a digit that small buttons replace on hover.
 Item {
     id: card
 
@@ -118,7 +117,7 @@ Item {
 
     Row {
         id: buttons
-        visible: card.hovered || opacity > 0 // Pressed at once it must be there.
+        visible: card.hovered || opacity > 0 // Also while fading in: it can be pressed at once.
         opacity: card.hovered ? 1 : 0
         x: card.width - width - 6
         y: 8

@@ -2,14 +2,14 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// What a list shows that has nothing to list.
+/// Shown in place of an empty list.
 Item {
     id: empty
 
     property alias symbol: glyph.symbol
     property alias title: title.text
     property alias subtitle: subtitle.text
-    /// A line below, which moves nothing.
+    /// An extra line below; it does not shift the others.
     property alias detail: detail.text
 
     Column {

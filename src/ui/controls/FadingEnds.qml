@@ -1,11 +1,11 @@
 import QtQuick
 import Ravelo.Paint
 
-/// Fades out towards the bottom and the top.
+/// Fades out at the bottom and the top.
 FadingEdge {
     default property alias content: upper.data
     property alias topLength: upper.length
-    /// The parent of what is in it.
+    /// Parent of the content.
     readonly property Item inside: upper
 
     FadingEdge {

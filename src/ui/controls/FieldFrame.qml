@@ -3,15 +3,15 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// The frame of a text field, lit while `input` has the keyboard.
+/// The frame of a text field, lit while `input` has the focus.
 Surface {
     id: frame
 
     required property Item input
-    /// It stands on something that floats, not on the panel.
+    /// On a floating surface, not on the panel.
     property bool floats: false
     property bool lit: input.activeFocus
-    /// What is in it will not do.
+    /// The content is not valid.
     property bool mistaken: false
 
     radius: Theme.radiusSmall

@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// Around the control that has the keyboard.
+/// Surrounds the control with keyboard focus.
 Box {
     required property Item control
 

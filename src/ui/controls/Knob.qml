@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// What is moved in a switch or on a slider.
+/// The moving part of a switch or slider.
 Box {
     id: knob
 

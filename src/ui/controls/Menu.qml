@@ -5,15 +5,15 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// A list of things to choose from.
+/// A list of entries to choose from.
 Popover {
     id: menu
 
-    /// Of objects with `text`, `chosen()` and perhaps `checked`, or with `divider`.
+    /// Objects with `text`, `chosen()` and optionally `checked`, or with `divider`.
     property var entries: []
-    /// What it is called where it cannot be seen.
+    /// Name for assistive programs.
     property string name
-    property real leastWidth: 0
+    property real minWidth: 0
     property int current: -1
 
     readonly property real room: largestHeight - 2 * pad
@@ -23,7 +23,7 @@ Popover {
         entries[index]?.chosen();
     }
 
-    /// Moves on to the next entry that can be chosen; from none to the first or last.
+    /// Moves to the next entry that can be chosen; without a selection, to the first or last.
     function step(by: int) {
         let next = current < 0 && by < 0 ? entries.length - 1 : current + by;
         while (entries[next]?.divider) {
@@ -37,7 +37,7 @@ Popover {
     }
 
     pad: 5
-    contentWidth: Math.max(leastWidth - 2 * pad, list.widest)
+    contentWidth: Math.max(minWidth - 2 * pad, list.maxItemWidth)
     contentHeight: Math.min(list.contentHeight, room)
     Accessible.role: Accessible.PopupMenu
     Accessible.name: name
@@ -51,9 +51,9 @@ Popover {
     ListView {
         id: list
 
-        property real widest: 0
+        property real maxItemWidth: 0
 
-        // Room for the ring around an item.
+        // Room for the focus ring.
         anchors.fill: parent
         anchors.margins: -2
         topMargin: 2
@@ -61,7 +61,7 @@ Popover {
         clip: interactive
         interactive: contentHeight > height - 4
         boundsBehavior: Flickable.StopAtBounds
-        cacheBuffer: 10000 // The widest of all counts.
+        cacheBuffer: 10000 // All items exist: the widest sets the width.
         model: menu.entries
 
         delegate: Surface {
@@ -87,7 +87,7 @@ Popover {
             Accessible.checkable: modelData.checked !== undefined
             Accessible.checked: modelData.checked ?? false
             Accessible.onPressAction: menu.choose(index)
-            Component.onCompleted: list.widest = Math.max(list.widest, label.x + label.implicitWidth + 10)
+            Component.onCompleted: list.maxItemWidth = Math.max(list.maxItemWidth, label.x + label.implicitWidth + 10)
 
             Box {
                 visible: item.divides

@@ -3,13 +3,13 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// A choice that opens a menu, between the dividers of a capsule.
+/// Opens a menu; sits between the dividers of a capsule.
 Pressable {
     id: button
 
     property alias text: label.text
-    property real longest: 96
-    /// Its menu is open.
+    property real maxTextWidth: 96
+    /// The menu is open.
     property bool lit: false
 
     name: text
@@ -32,7 +32,7 @@ Pressable {
         objectName: "choice"
         x: 13
         y: 8
-        width: Math.min(implicitWidth, button.longest)
+        width: Math.min(implicitWidth, button.maxTextWidth)
         style: Theme.menuLabel
         color: button.hovered || button.lit ? Theme.text1 : Theme.text2
     }

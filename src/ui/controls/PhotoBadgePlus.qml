@@ -2,11 +2,11 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// The symbol "photo.badge.plus": a picture with a plus in a hole at its corner.
+/// The symbol "photo.badge.plus": a picture with a plus in a notch at its corner.
 Item {
     id: symbol
 
-    /// What it stands on, opaque: it shows through the hole.
+    /// Opaque background colour; it shows through the notch.
     required property color ground
 
     width: 20

@@ -3,17 +3,17 @@ import Ravelo.Paint
 import Ravelo.Text
 import Ravelo.Theme
 
-/// Something that floats over the panel until it is answered, left with Escape or pressed beside.
-/// Takes the keyboard, and gives it back to what had it.
+/// Floats over the panel until answered, dismissed with Escape or by a press outside. Takes the
+/// keyboard focus and gives it back when it closes.
 FocusScope {
     id: popover
 
     property bool opened: false
-    /// Of what floats, without the room around it.
+    /// The floating surface without the margin around it.
     property real contentWidth
     property real contentHeight
     property real pad: 16
-    /// The keyboard is in use: what has it shows that it has.
+    /// Keyboard in use: show focus rings.
     property bool keyed: false
     default property alias content: inside.data
 
@@ -25,12 +25,12 @@ FocusScope {
 
     signal closed
 
-    /// Below an item of the panel, from `within` its left edge on.
+    /// Below an item of the panel, starting `within` its left edge.
     function openUnder(item: Item, within: real) {
         openAt(item.mapToItem(parent, within, item.height + 6), false, item.activeFocus);
     }
 
-    /// Below an item of the panel, up to `beyond` behind its right edge.
+    /// Below an item of the panel, ending `beyond` its right edge.
     function openLeftUnder(item: Item, beyond: real) {
         openAt(item.mapToItem(parent, item.width + beyond, item.height + 6), true, item.activeFocus);
     }
@@ -67,7 +67,7 @@ FocusScope {
         if (event.key === Qt.Key_Escape) {
             close();
         }
-        event.accepted = true; // Nothing below hears a key meanwhile.
+        event.accepted = true; // Modal: keys do not reach what is below.
     }
 
     MouseArea {

@@ -1,14 +1,14 @@
 import QtQuick
 import Ravelo.Controls
 
-/// A surface that does something when it is pressed: by the pointer, with Space or Return, by an
-/// assistive program. The pointer leaves the keyboard where it is.
+/// A surface that can be pressed with the pointer, Space or Return, or by an assistive program. A
+/// press by the pointer does not move the keyboard focus.
 Surface {
     id: pressable
 
-    /// What it is called where it cannot be seen.
+    /// Name for assistive programs.
     property string name
-    /// Whether it shows that it has the keyboard.
+    /// Show the focus ring.
     property alias ring: ring.enabled
 
     signal clicked
@@ -16,7 +16,7 @@ Surface {
     activeFocusOnTab: true
     hovered: hover.hovered
     pressed: area.pressed
-    // What fades as a whole is disabled too.
+    // A disabled parent fades as a whole.
     opacity: enabled || !parent?.enabled ? 1 : 0.4
 
     Accessible.role: Accessible.Button

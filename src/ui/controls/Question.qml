@@ -7,7 +7,7 @@ Popover {
     id: question
 
     property alias text: label.text
-    /// Return means yes; elsewhere it means no until "Yes" is chosen.
+    /// Return means yes. If false, it means no until "Yes" has the focus.
     property bool yesFirst: false
 
     signal accepted

@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Controls
 import Ravelo.Theme
 
-/// A round button with a symbol that its tooltip explains. White, or in a colour of its own.
+/// A round button with a symbol and a tooltip, white or in its own colour.
 Pressable {
     id: button
 
@@ -23,7 +23,7 @@ Pressable {
         id: glyph
         objectName: "symbol"
         anchors.verticalCenter: parent.verticalCenter
-        x: (parent.width - width) / 2 // Not rounded, as an anchor would.
+        x: (parent.width - width) / 2 // An anchor would round this.
         size: 18
         color: button.tint
     }

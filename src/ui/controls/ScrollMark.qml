@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// Beside what scrolls: how far it has been scrolled. Not there at its beginning.
+/// A scroll indicator, hidden at the beginning.
 Box {
     id: mark
 
@@ -11,7 +11,7 @@ Box {
     readonly property real begin: flick ? flick.originY - flick.topMargin : 0
     readonly property real total: flick ? flick.topMargin + flick.contentHeight : 0
     readonly property real scrolled: flick ? flick.contentY - begin : 0
-    /// What scrolls may be as high as its place, and less of it be seen.
+    /// The flickable may be as tall as its content while only a part is visible.
     readonly property real seen: flick ? flick.height : 0
     readonly property real track: parent.height - 24
 

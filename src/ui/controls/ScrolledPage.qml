@@ -1,8 +1,7 @@
 import QtQuick
 import Ravelo.Controls
 
-/// A part of a window that scrolls if it is too low for what it holds. What has the keyboard comes
-/// into view.
+/// A part of a window that scrolls if it does not fit. The focused item is scrolled into view.
 FadingEnds {
     id: page
 

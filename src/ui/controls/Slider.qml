@@ -3,20 +3,20 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// A number between two bounds: dragged, pressed for on the track, turned by the wheel, moved by keys
-/// or set by an assistive program. What it shows is told to it.
+/// Sets a number by drag, press on the track, wheel, keys or assistive program. Shows `given`,
+/// which its owner sets.
 Item {
     id: slider
 
     required property real given
     required property real minimumValue
     required property real maximumValue
-    /// Between the numbers that can be chosen, counted from the lowest; 0 where all can.
+    /// Distance between the possible numbers, counted from the lowest; 0 if all are possible.
     property real stepSize: 0
-    /// What it is called where it cannot be seen.
+    /// Name for assistive programs.
     property string name
 
-    // By this name assistive programs know and set it.
+    // Assistive programs read and set this property by its name.
     property real value
     readonly property real range: maximumValue - minimumValue
     readonly property real keyStep: stepSize > 0 ? stepSize : range / 50
@@ -30,7 +30,7 @@ Item {
         chosen(Math.max(minimumValue, Math.min(maximumValue, allowed)));
     }
 
-    /// To the next number that can be chosen, and on from there.
+    /// From between two possible numbers, the first step goes to the next one.
     function move(steps: int) {
         const at = (given - minimumValue) / keyStep;
         const slack = 1e-6;
@@ -109,8 +109,8 @@ Item {
     }
 
     MouseArea {
-        property real grip ///< Where the knob is held, from its left.
-        property int turned ///< Of the wheel, in eighths of a degree, short of a notch.
+        property real grip ///< Offset of the press from the knob's left edge.
+        property int turned ///< Wheel angle that does not yet make a notch, in eighths of a degree.
 
         function follow(x: real) {
             slider.choose(slider.minimumValue

@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// A box whose fill follows the pointer.
+/// A box whose fill reacts to the pointer.
 Box {
     id: surface
 

@@ -6,8 +6,8 @@
 
 namespace ravelo {
 
-/// One of several tabs: what the row of tabs shows of it, and the page below. Those derived from
-/// it name it in full, or qmllint would not find it. Main thread.
+/// One of several tabs: its button and its page. Derived classes name it in full, or qmllint does
+/// not find it. Main thread.
 class Tab : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -23,8 +23,8 @@ public:
         enum class Page { kept, dropped };
         enum class Search { none, has };
 
-        QString key;    ///< What the preferences remember; never shown, never changed.
-        QString title;  ///< In the user's language.
+        QString key;    ///< Stored in the preferences; never shown, never changed.
+        QString title;  ///< Translated.
         QString symbol; ///< Name of a symbol.
         QUrl page;      ///< A QML file whose root is a TabPage.
         Page whileHidden = Page::kept;
@@ -41,19 +41,19 @@ public:
 
     [[nodiscard]] QUrl page() const { return look_.page; }
 
-    /// Whether the page exists while another tab is shown.
+    /// The page exists while another tab is shown.
     [[nodiscard]] bool isKept() const { return look_.whileHidden == Look::Page::kept; }
 
     [[nodiscard]] bool isSearchable() const { return look_.search == Look::Search::has; }
 
-    /// It is about to be on the screen.
+    /// About to be shown.
     virtual void begin() {}
 
-    /// It is not on the screen any more and forgets what was opened, typed or searched for.
+    /// No longer shown: forgets what was opened, typed or searched for.
     virtual void reset() {}
 
 Q_SIGNALS:
-    /// It wants to be the tab that is shown.
+    /// Asks to become the current tab.
     void requested();
 
 private:

@@ -1,24 +1,24 @@
 import QtQuick
 import Ravelo.Controls
 
-/// The page of a tab. The base of each tab's own.
+/// Base of each tab's page.
 FocusScope {
     required property TabPlace place
-    /// Its Tab. Not bound to the place, which may lose it before this page is gone. Not typed:
-    /// the compiler of Qt 6.4 turns a cast between object types into code that is none.
+    /// The page's Tab. Not bound to the place, which can go before the page. Untyped: the compiler
+    /// of Qt 6.4 generates broken code for a cast between object types.
     required property var feature
 
     readonly property bool shown: place.shown
     readonly property bool dropTargeted: place.dropTargeted
     readonly property real head: place.head
-    /// What scrolls the page.
+    /// Scrolls the page.
     property Flickable flick: null
 
-    /// Ends an animation that scrolls.
+    /// Ends a scroll animation.
     function stopScrolling() {
     }
 
-    /// Takes the keyboard to the page's search.
+    /// Focuses the page's search.
     function search() {
     }
 

@@ -5,15 +5,15 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// One button a tab in equal parts; the highlight slides to the chosen one.
+/// One button per tab, equally wide; the highlight slides to the current one.
 Box {
     id: picker
 
-    /// Of objects with `title` and perhaps `symbol`.
+    /// Objects with `title` and optionally `symbol`.
     required property var tabs
     property int current: 0
     property TextStyle style: Theme.tab
-    /// By Tab only the chosen one is reached; the arrows lead to the others.
+    /// Tab reaches only the current one; the arrow keys reach the others.
     property bool oneStop: false
 
     readonly property real part: (width - 4) / tabs.length

@@ -1,17 +1,17 @@
 import QtQuick
 import Ravelo.Controls
 
-/// Where the page of a tab is.
+/// Holds the page of a tab.
 Loader {
     id: slot
 
     required property Tab tab
-    /// The page can be seen if its tab is the current one.
+    /// The page is visible if its tab is the current one.
     required property bool shown
     /// Files are being dragged over it.
     required property bool dropTargeted
     required property bool current
-    /// Height of what is above the tabs and scrolls away with the page; 0 if it stays.
+    /// Height of what scrolls away above the tabs; 0 if it stays.
     required property real head
 
     readonly property bool wanted: current || tab.kept
@@ -27,7 +27,7 @@ Loader {
     property bool complete: false
 
     visible: current && status === Loader.Ready
-    focus: visible // Not before the page is complete: it acts on the keyboard.
+    focus: visible // Only once the page is complete, because it reacts to the focus.
     onWantedChanged: {
         if (complete) {
             follow();

@@ -29,7 +29,7 @@ void Toast::flashCopied() {
 void Toast::flash(const QString& text) {
     setMessage(text);
     ends_.push_back(scheduler_.after(toastTime, [this] {
-        // The oldest one is the one that has come.
+        // The oldest flash is the one that ends.
         const Handle done = std::move(ends_.front());
         ends_.erase(ends_.begin());
         setMessage({});

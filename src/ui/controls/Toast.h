@@ -12,26 +12,26 @@
 
 namespace ravelo {
 
-/// The short message over the panel. Each message schedules an end of its own; the first one to
-/// come takes it away, whichever message it belongs to. An offer has a button and stays for ten
-/// seconds, below messages that come meanwhile. Main thread.
+/// The short message over the panel. Each message schedules its own end; the first end that comes
+/// removes whatever message is shown. An offer has a button, lasts ten seconds, and is shown again
+/// after later messages. Main thread.
 class Toast : public QObject, public UndoOffers {
     Q_OBJECT
     QML_NAMED_ELEMENT(ToastMessage)
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(QString text READ text NOTIFY textChanged)
     Q_PROPERTY(QString action READ action NOTIFY textChanged)
-    /// Also while another message lies over the offer.
+    /// Also while another message covers the offer.
     Q_PROPERTY(bool offering READ isOffering NOTIFY textChanged)
     Q_PROPERTY(bool held READ isHeld WRITE setHeld NOTIFY heldChanged)
 
 public:
     explicit Toast(Scheduler& scheduler) : scheduler_(scheduler) {}
 
-    /// Empty while there is nothing to show.
+    /// Empty if nothing is shown.
     [[nodiscard]] QString text() const;
 
-    /// What the button says; empty while there is none.
+    /// Text of the button; empty if there is none.
     [[nodiscard]] QString action() const;
 
     [[nodiscard]] bool isOffering() const { return offer_.has_value(); }
@@ -39,20 +39,20 @@ public:
     void flashCopied();
     void flash(const QString& text);
 
-    /// In place of the message and the offer that are there. `act` is destroyed with the offer.
+    /// Replaces the message and the offer. `act` is destroyed with the offer.
     void offer(const QString& text, const QString& action, std::function<void()> act);
 
-    /// Does what is offered, once; false if nothing is.
+    /// Accepts the offer, once; false if there is none.
     Q_INVOKABLE bool act() override;
 
     [[nodiscard]] int offers() const override { return offers_; }
 
     [[nodiscard]] bool isHeld() const { return held_; }
 
-    /// The time of the offer stands still: the user is about to choose.
+    /// Pauses the offer's time while the user is about to choose.
     void setHeld(bool held);
 
-    /// For a panel that starts anew: no message, no offer, and no end that is still to come.
+    /// No message, no offer, no pending end.
     void reset();
 
 Q_SIGNALS:
@@ -65,7 +65,7 @@ private:
         QString action;
         std::function<void()> act;
         Seconds left;
-        Seconds begun{}; ///< When `left` was what is left.
+        Seconds begun{}; ///< Start of the period `left` is counted from.
         Handle end;
     };
 

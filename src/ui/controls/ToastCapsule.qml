@@ -4,8 +4,7 @@ import Ravelo.Paint
 import Ravelo.Text
 import Ravelo.Theme
 
-/// The short message near the panel's bottom: comes with a spring, rising, and fades. May have a
-/// button.
+/// The short message near the panel's bottom, optionally with a button. Springs up and fades.
 Item {
     id: capsule
 
@@ -38,8 +37,7 @@ Item {
         color: Theme.toast
         enabled: capsule.message.offering
 
-        // What lies below is not pressed by a press beside the button, nor by one on the button that
-        // comes just when another message is shown in its place.
+        // Blocks presses beside the button, and on a button that is just being replaced.
         MouseArea {
             anchors.fill: parent
             acceptedButtons: Qt.AllButtons
@@ -89,7 +87,7 @@ Item {
         }
     }
 
-    // The text stays while it fades.
+    // Keeps the text while it fades.
     Connections {
         target: capsule.message
         function onTextChanged() {
@@ -100,7 +98,7 @@ Item {
         }
     }
 
-    // The time stops while the pointer or the keyboard is on it.
+    // Paused while hovered or focused.
     Binding {
         target: capsule.message
         property: "held"

@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Controls
 import Ravelo.Theme
 
-/// A switch. What it shows is told to it, also after it was pressed.
+/// A switch. Its state is set by its owner only, also after a press.
 Pressable {
     id: toggle
 

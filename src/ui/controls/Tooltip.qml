@@ -4,8 +4,7 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// A hint of one or more lines that appears under `target` some time after the pointer came to rest
-/// on it.
+/// Appears under `target` some time after the pointer came to rest on it.
 Item {
     id: tooltip
 

@@ -4,14 +4,14 @@ import QtQuick
 import Ravelo.Controls
 import Ravelo.Theme
 
-/// A value, and a menu to choose another one from.
+/// Shows a value and opens a menu of the alternatives.
 Pressable {
     id: button
 
-    /// Of objects with `text` and `value`.
+    /// Objects with `text` and `value`.
     required property var choices
     required property var value
-    /// What is chosen by it.
+    /// The current value.
     property string label
 
     readonly property int current: choices.findIndex(choice => choice.value === value)
@@ -57,7 +57,7 @@ Pressable {
         id: menu
         objectName: "choices"
         name: button.label
-        leastWidth: 128
+        minWidth: 128
         entries: button.choices.map(choice => ({
             text: choice.text,
             checked: choice.value === button.value,

@@ -3,7 +3,7 @@ import Ravelo.Controls
 import Ravelo.Focus
 import Ravelo.Text
 
-/// Where any number of minutes can be typed.
+/// Asks for any number of minutes.
 Popover {
     id: entry
 

@@ -7,7 +7,7 @@ namespace ravelo {
 
 class Preferences;
 
-/// The focus timer and the reminders: what is shown of them and what can be done. Main thread.
+/// The focus timer and the reminders. Main thread.
 class Focus : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -23,7 +23,7 @@ class Focus : public QObject {
     Q_PROPERTY(bool reminderVisible READ reminderVisible NOTIFY remindersChanged)
 
 public:
-    /// All of it outlives this.
+    /// All outlive this.
     Focus(Store& store, Preferences& preferences, Scheduler& scheduler);
 
     [[nodiscard]] double minutes() const { return choices_.minutes; }
@@ -45,10 +45,10 @@ public:
 
     void setReminderOpen(bool open);
 
-    /// Reads again what is kept.
+    /// Reloads what is stored.
     void reload();
 
-    /// What somebody typed; nothing changes if that is no length.
+    /// Text typed by the user; ignored if it is not a valid length.
     Q_INVOKABLE void applyCustomMinutes(const QString& typed);
 
     Q_INVOKABLE void setPreset(int index, const QString& text);
@@ -58,7 +58,7 @@ public:
     Q_INVOKABLE void startFocus(const QString& note);
     Q_INVOKABLE void stopTimer();
 
-    /// False if nothing is left of what was typed.
+    /// False if nothing is left after trimming.
     Q_INVOKABLE bool addReminder(const QString& typed);
     Q_INVOKABLE void removeReminder(int index);
 

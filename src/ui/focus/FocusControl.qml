@@ -7,12 +7,12 @@ import Ravelo.Paint
 import Ravelo.Text
 import Ravelo.Theme
 
-/// Starts a focus timer: what for, how long, go.
+/// Starts a focus timer: label, minutes, start button.
 Box {
     id: control
 
     required property Focus focusing
-    /// How wide it may get.
+    /// Maximum width.
     required property real room
 
     readonly property var presetTexts: focusing.presets
@@ -55,7 +55,7 @@ Box {
         objectName: "presetMenu"
         anchors.right: minutes.left
         text: note.text === "" ? qsTr("Focus") : note.text
-        longest: control.room < 330 ? 40 : 96
+        maxTextWidth: control.room < 330 ? 40 : 96
         lit: presetMenu.opened
         onClicked: presetMenu.openUnder(this as Item, 4)
 
@@ -63,7 +63,7 @@ Box {
             id: presetMenu
             objectName: "presetChoices"
             name: qsTr("Focus presets")
-            leastWidth: 168
+            minWidth: 168
             entries: control.presetTexts.map(preset => ({
                 text: preset, chosen: () => note.text = preset
             })).concat([
@@ -85,7 +85,7 @@ Box {
             id: minutesMenu
             objectName: "minuteChoices"
             name: qsTr("Minutes")
-            leastWidth: 128
+            minWidth: 128
             entries: control.minuteChoices.map(choice => ({
                 text: qsTr("%1 min").arg(choice),
                 checked: choice === control.focusing.minutes,

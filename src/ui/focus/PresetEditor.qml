@@ -5,13 +5,13 @@ import Ravelo.Controls
 import Ravelo.Focus
 import Ravelo.Theme
 
-/// Changes what a focus timer can be for. Every change is kept at once.
+/// Edits the focus presets; changes apply at once.
 Popover {
     id: editor
 
     required property Focus focusing
 
-    /// Gives the keyboard to a row, else to the button below.
+    /// Focuses a row, or the button below if there is none.
     function goTo(index: int, removes: bool) {
         list.forceLayout();
         list.positionViewAtIndex(index, ListView.Contain);
@@ -63,7 +63,7 @@ Popover {
         boundsBehavior: Flickable.StopAtBounds
         topMargin: 4
         spacing: 6
-        // By number: what is typed into a row must not make the row anew.
+        // By index: typing into a row must not recreate it.
         model: editor.focusing.presets.length
 
         delegate: PresetRow {

@@ -4,7 +4,7 @@ import Ravelo.Focus
 import Ravelo.Text
 import Ravelo.Theme
 
-/// A preset that can be changed or removed.
+/// A preset that can be edited or removed.
 Item {
     id: row
 

@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Controls
 import Ravelo.Theme
 
-/// A reminder and the cross that removes it.
+/// A reminder with a remove button.
 Item {
     id: reminder
 
@@ -10,7 +10,7 @@ Item {
     required property string modelData
     readonly property alias cross: cross
 
-    /// The keyboard has come to it.
+    /// It received keyboard focus.
     signal reached
     signal removed(byKey: bool)
     signal menuRequested(place: point)

@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// Reminders side by side, as many as fit in `room`; the number of the others follows.
+/// Reminders side by side, as many as fit in `room`, and the count of the rest.
 Row {
     id: line
 
@@ -10,7 +10,7 @@ Row {
     property alias room: fit.room
     property alias countsRest: fit.countsRest
     property color color: Theme.text2
-    /// How many of the texts are shown.
+    /// Number of texts shown.
     readonly property int count: fit.widths.length
 
     spacing: 8

@@ -7,12 +7,12 @@ import Ravelo.Paint
 import Ravelo.Text
 import Ravelo.Theme
 
-/// The reminders, and a field for one more.
+/// The reminders and a field to add one.
 Item {
     id: strip
 
     required property Focus focusing
-    /// They begin at the left; else they end at the right.
+    /// Left-aligned, else right-aligned.
     required property bool fromLeft
 
     readonly property real gap: lines.count > 0 ? 14 : 0
@@ -75,7 +75,7 @@ Item {
                 }
             }
 
-            // A wheel turns what lies sideways.
+            // A wheel scrolls sideways.
             WheelHandler {
                 onWheel: event => {
                     const step = event.angleDelta.y + event.angleDelta.x;

@@ -3,12 +3,12 @@ import Ravelo.Controls
 import Ravelo.Focus
 import Ravelo.Theme
 
-/// The timer that runs, and the button that stops it.
+/// The running timer with a stop button.
 Item {
     id: timer
 
     required property Focus focusing
-    /// How wide it may get.
+    /// Maximum width.
     required property real room
 
     readonly property bool keyed: stop.activeFocus

@@ -3,15 +3,14 @@ import Ravelo.Focus
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// The collapsed panel while a timer runs or reminders are shown: a bar at the screen's edge that
-/// leaves the notch free.
+/// The closed panel while a timer runs or reminders are shown: a bar around the notch.
 NotchFill {
     id: bar
 
     required property Focus focusing
-    /// Width of the notch; 0 where there is none.
+    /// Width of the notch; 0 if there is none.
     property real notch: 0
-    /// The timer has just ended: the whole bar is lit.
+    /// The timer has just ended: the whole bar is highlighted.
     property bool ended: false
 
     readonly property bool timing: focusing.timerRunning || ended
@@ -24,7 +23,7 @@ NotchFill {
 
     readonly property real pad: 20
     readonly property real gap: 8
-    /// How much can be used from either end: up to the notch, or to the other half.
+    /// Usable width on either side, up to the notch or the other side.
     readonly property real side: notch > 0 ? (width - notch) / 2 - pad - 14 : (width - gap) / 2 - pad
     readonly property real iconRoom: 15 + gap
 
@@ -47,7 +46,7 @@ NotchFill {
         color: bar.ink // qmllint disable unqualified
     }
 
-    // The timer, or else the first reminders; these stand in the middle where no notch does.
+    // The timer, or else the first reminders; those are centred if there is no notch.
     Row {
         id: left
         objectName: "left"

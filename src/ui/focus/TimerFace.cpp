@@ -10,11 +10,10 @@ namespace ravelo {
 
 namespace {
 
-/// How far behind the change of the figure to look: rounding cannot put the look before it.
+/// Wait this much longer, so that rounding does not wake us before the change.
 constexpr Seconds margin{0.001};
 
-/// Of a whole circle. Finer ones cannot be told from each other on the bar's ring, which is painted
-/// anew for each.
+/// Per full circle. Finer steps are not visible, and each repaints the bar's ring.
 constexpr double steps = 360;
 
 } // namespace
@@ -41,7 +40,7 @@ void TimerFace::refresh() {
     const double whole = std::floor(left);
     remaining_ = timerString(Seconds(left));
     fraction_ = left > 0 ? std::ceil(left / store_.timerDuration() * steps) / steps : 0;
-    if (whole > 0) { // After the last figure comes the timer's own end.
+    if (whole > 0) { // The last figure is followed by the timer's own end.
         tick_ = scheduler_.after(Seconds(left - whole) + margin, [this] { refresh(); });
     }
     Q_EMIT changed();

@@ -11,19 +11,19 @@ namespace ravelo {
 class Scheduler;
 class Store;
 
-/// How the running timer is shown. Follows it only while somebody looks, and then wakes up once a
-/// second, when the figure changes. Main thread.
+/// How the running timer is shown. Updates once a second, when the figure changes, and only while
+/// visible. Main thread.
 class TimerFace : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
-    /// Set by the view: it is on the screen.
+    /// Set by the view: it is visible.
     Q_PROPERTY(bool shown READ shown WRITE setShown NOTIFY shownChanged)
     Q_PROPERTY(QString remaining READ remaining NOTIFY changed)
     Q_PROPERTY(double fraction READ fraction NOTIFY changed)
 
 public:
-    /// Both outlive it.
+    /// Both outlive this.
     TimerFace(const Store& store, Scheduler& scheduler);
 
     [[nodiscard]] bool shown() const { return shown_; }
@@ -33,7 +33,7 @@ public:
     /// "24:12"
     [[nodiscard]] QString remaining() const { return remaining_; }
 
-    /// Of the timer's length that is still to come, 0 to 1.
+    /// Remaining part of the timer's length, 0 to 1.
     [[nodiscard]] double fraction() const { return fraction_; }
 
 Q_SIGNALS:

@@ -11,10 +11,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-// In units of the drawing, which is 50 wide and 62 high.
+// In units of the drawing, 50 x 62.
 constexpr QSizeF pageSize(50, 62);
 constexpr double sizeAround = 64;
-constexpr qsizetype longestTag = 4;
+constexpr qsizetype maxTagLength = 4;
 
 struct Kind {
     QRgb color;
@@ -22,7 +22,7 @@ struct Kind {
 };
 
 const QList<Kind>& kinds() {
-    // Never destroyed: a picture may still be made as the process ends.
+    // Never destroyed: a picture may still be in progress when the process ends.
     static const auto& all = *new QList<Kind>{
         {0xe5534b, {u"pdf"_s, u"ps"_s, u"djvu"_s}},
         {0x2e9e63, {u"xls"_s, u"xlsx"_s, u"ods"_s, u"csv"_s, u"tsv"_s}},
@@ -47,11 +47,11 @@ QColor colorOf(const QString& extension) {
     return QColor(0x6b7482);
 }
 
-/// What three letters say as well as four.
+/// Three letters are enough for these.
 QString tagOf(const QString& extension) {
     const QString tag = extension.toUpper();
     const bool office = tag.size() == 4 && (tag == u"DOCX" || tag == u"XLSX" || tag == u"PPTX");
-    return office ? tag.first(3) : tag.first(std::min(tag.size(), longestTag));
+    return office ? tag.first(3) : tag.first(std::min(tag.size(), maxTagLength));
 }
 
 void drawSheet(QPainter& painter) {
@@ -87,7 +87,7 @@ void drawTag(QPainter& painter, const QString& extension) {
     painter.setBrush(colorOf(extension.toLower()));
     painter.drawRoundedRect(tag, 4, 4);
     QFont font(u"Inter"_s);
-    font.setPixelSize(100); // Scaled with the painter, so that it fits at every size.
+    font.setPixelSize(100); // Large, then scaled with the painter.
     font.setWeight(QFont::Bold);
     font.setHintingPreference(QFont::PreferNoHinting);
     QPainterPath letters;
@@ -97,7 +97,7 @@ void drawTag(QPainter& painter, const QString& extension) {
     const double scale = std::min(fontSize / 100, (tag.width() - 4) / box.width());
     painter.translate(tag.center());
     painter.scale(scale, scale);
-    painter.translate(-box.center().x(), 36); // Half of the capitals' height.
+    painter.translate(-box.center().x(), 36); // Half the cap height.
     painter.setBrush(Qt::white);
     painter.drawPath(letters);
 }

@@ -5,8 +5,8 @@
 
 namespace ravelo {
 
-/// A sheet of paper in the middle of a square of `size` device pixels, as high as it, with the
-/// extension on a tag in the colour of its kind; without a tag where there is no extension.
+/// A sheet of paper centred in a square of `size` device pixels, with the extension on a tag in its
+/// kind's colour; no tag without an extension.
 [[nodiscard]] QImage filePage(const QString& extension, int size);
 
 } // namespace ravelo

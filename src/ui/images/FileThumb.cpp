@@ -29,13 +29,13 @@ constexpr double narrowestPreview = 40;
 constexpr double previewRadius = 8;
 constexpr double iconSize = 64;
 
-/// As wide as the image's shape wants it, within what a tile has room for.
+/// Width by aspect ratio, within the tile.
 PictureShape previewShape(double scale) {
     return {qRound(previewHeight * scale), qRound(narrowestPreview * scale),
-            qRound(widestThumb * scale)};
+            qRound(maxThumbWidth * scale)};
 }
 
-/// By the name alone, the most special first.
+/// By name alone, most specific first.
 QStringList iconNames(const QUrl& file) {
     if (isFolder(filePath(file))) {
         return {u"inode-directory"_s, u"folder"_s};
@@ -66,7 +66,7 @@ QImage fileThumb(const QUrl& file, double scale, const FileIcons& icons, ImageDe
     return fileIcon(file, qRound(iconSize * scale), icons, decoder);
 }
 
-// QML takes addresses apart and puts them together again; letters and digits it leaves alone.
+// Hex, because QML changes the encoding of URLs.
 QString fileThumbAddress(const QUrl& file) {
     return u"image://file/"_s + QString::fromLatin1(file.toEncoded().toHex());
 }

@@ -9,9 +9,9 @@
 
 namespace ravelo {
 
-/// A thread that reads the user's pictures, one after the other, the one asked for last first. A
-/// file may never be read, where a server is gone: nobody waits for it, not even the end of the
-/// program, and what is asked for later gets another thread, up to a few.
+/// A thread that reads the user's pictures one by one, newest request first. A read can hang
+/// forever on a dead server: nobody waits for it, not even at exit, and later requests get another
+/// thread, up to a maximum.
 class SlowWork {
 public:
     SlowWork();
@@ -19,7 +19,7 @@ public:
     SlowWork(const SlowWork&) = delete;
     SlowWork& operator=(const SlowWork&) = delete;
 
-    /// `job` touches nothing but the values it holds. Any thread.
+    /// `job` must own all it uses. Any thread.
     void run(std::function<void()> job);
 
 private:

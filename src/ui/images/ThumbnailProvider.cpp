@@ -9,7 +9,7 @@ namespace ravelo {
 
 namespace {
 
-/// The answer to one request; it finishes however the decoding ends, or it would never be freed.
+/// Always finishes, or the engine would never free it.
 class ThumbnailResponse final : public QQuickImageResponse {
 public:
     [[nodiscard]] QQuickTextureFactory* textureFactory() const override {
@@ -48,7 +48,7 @@ QImage rounded(const QImage& picture, double radius) {
 
 QQuickImageResponse* ThumbnailProvider::requestImageResponse(const QString& id,
                                                              const QSize& requestedSize) {
-    auto* response = new ThumbnailResponse; // The engine frees it once it has finished.
+    auto* response = new ThumbnailResponse; // The engine deletes it once finished.
     work_.run([=, make = make_] {
         response->finish(response->isWanted() ? make(id, requestedSize) : QImage());
     });

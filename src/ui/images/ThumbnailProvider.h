@@ -7,13 +7,13 @@
 
 namespace ravelo {
 
-/// With its corners cut off, in device pixels; null if `picture` is.
+/// Rounds the corners, in device pixels; null if `picture` is null.
 [[nodiscard]] QImage rounded(const QImage& picture, double radius);
 
-/// Pictures that are made off the main thread, in the size that is asked for.
+/// Makes pictures off the main thread, in the requested size.
 class ThumbnailProvider : public QQuickAsyncImageProvider {
 public:
-    /// Makes the picture of that name in device pixels. On a thread of its own.
+    /// Makes the named picture in device pixels, on a thread of its own.
     using Make = std::function<QImage(const QString& name, QSize size)>;
 
     explicit ThumbnailProvider(Make make) : make_(std::move(make)) {}

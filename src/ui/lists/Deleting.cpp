@@ -59,7 +59,7 @@ void Deleting::offer(const std::shared_ptr<Offered>& what) {
 }
 
 void Deleting::undo(const std::shared_ptr<Offered>& what) {
-    last_.reset(); // What is deleted from now on does not come back with it.
+    last_.reset(); // Later deletions get an undo of their own.
     store_.restore(what->records, [self = QPointer(this), what](const Store::Restored& restored) {
         if (self) {
             self->report(what, restored);

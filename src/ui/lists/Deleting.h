@@ -13,7 +13,7 @@ namespace ravelo {
 
 class Toast;
 
-/// Deletes; can be undone while the toast shows. Further deletions in that time join the same undo.
+/// Deletes with undo while the toast is shown. Further deletions in that time join the same undo.
 /// Main thread.
 class Deleting : public QObject {
     Q_OBJECT
@@ -24,7 +24,7 @@ public:
     Deleting(Store& store, Toast& toast, const QLocale& locale);
 
     Q_INVOKABLE void deleteClip(const QUuid& id);
-    /// All that are not pinned.
+    /// All unpinned clips.
     Q_INVOKABLE void clearClips();
     Q_INVOKABLE void removeSnippet(const QUuid& id);
 

@@ -8,8 +8,8 @@
 
 namespace ravelo {
 
-/// A list of records that have an `id`. A new list is taken over by removing, moving, inserting and
-/// changing rows, neighbours together, so that the view can animate what really happened.
+/// A list of records with an `id`. A new list is applied as row removals, moves, insertions and
+/// changes, adjacent ones together, so that views can animate them.
 template <typename Record>
 class KeyedListModel : public QAbstractListModel {
 public:
@@ -22,8 +22,8 @@ public:
 protected:
     [[nodiscard]] const QList<Record>& rows() const { return rows_; }
 
-    /// Of records with the same id the first counts.
-    void takeOver(const QList<Record>& all) {
+    /// If ids repeat, the first record counts.
+    void apply(const QList<Record>& all) {
         const QList<Record> now = distinct(all);
         removeMissing(now);
         const Ids had = idsOf(rows_);
@@ -82,7 +82,7 @@ private:
         }
     }
 
-    /// Gives the last row that was inserted.
+    /// Returns the last inserted row.
     int insertNew(const QList<Record>& now, int first, const Ids& had) {
         int last = first;
         while (last + 1 < now.size() && !had.contains(now[last + 1].id)) {
@@ -94,7 +94,7 @@ private:
         return last;
     }
 
-    /// A record that is in the list; the rows before `row` are in place already.
+    /// The record is in the list, and the rows before `row` are already final.
     void place(const Record& record, int row) {
         const auto found =
             std::find_if(rows_.begin() + row, rows_.end(),

@@ -14,7 +14,7 @@ struct Distance {
     URelativeDateTimeUnit unit = UDAT_REL_UNIT_SECOND;
 };
 
-/// Months differ in length, so they are counted on the calendar.
+/// Months have different lengths, so count them on the calendar.
 int wholeMonths(const QDateTime& from, const QDateTime& to) {
     int months =
         (to.date().year() - from.date().year()) * 12 + to.date().month() - from.date().month();
@@ -28,7 +28,7 @@ constexpr qint64 minute = 60;
 constexpr qint64 hour = 60 * minute;
 constexpr qint64 day = 24 * hour;
 
-/// Of the text; a day is as good as anything longer.
+/// How often the text can change; for units above a day, once a day.
 qint64 unitOf(double seconds) {
     if (seconds < minute) {
         return 1;
@@ -82,7 +82,7 @@ Seconds RelativeDate::untilChange(Date date, Date now) {
     const double apart = now.sinceReference - date.sinceReference;
     const auto unit = static_cast<double>(unitOf(std::abs(apart)));
     const double into = std::fmod(std::abs(apart), unit);
-    return Seconds(apart < 0 ? into : unit - into); // What is to come gets nearer.
+    return Seconds(apart < 0 ? into : unit - into); // The future comes closer.
 }
 
 QString RelativeDate::text(Date date, Date now) const {
@@ -91,7 +91,7 @@ QString RelativeDate::text(Date date, Date now) const {
     }
     const bool past = date <= now;
     const Distance apart = past ? distance(date, now) : distance(now, date);
-    // The sign of a zero counts: it tells "0 sec. ago" from "in 0 sec.".
+    // ICU uses the sign of zero: "0 sec. ago" or "in 0 sec.".
     const double offset = std::copysign(static_cast<double>(apart.count), past ? -1.0 : 1.0);
     icu::UnicodeString text;
     UErrorCode status = U_ZERO_ERROR;

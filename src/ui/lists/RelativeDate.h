@@ -10,8 +10,8 @@
 
 namespace ravelo {
 
-/// Tells a moment relative to now in the largest unit that fits, in the short style of a locale:
-/// "5 min. ago". Whole units only, cut off.
+/// Formats a date relative to now in the largest fitting whole unit, in the locale's short style:
+/// "5 min. ago".
 class RelativeDate {
 public:
     explicit RelativeDate(const QLocale& locale);
@@ -19,7 +19,7 @@ public:
 
     [[nodiscard]] QString text(Date date, Date now) const;
 
-    /// After how long the text may be another one.
+    /// Earliest time after which the text can change.
     [[nodiscard]] static Seconds untilChange(Date date, Date now);
 
 private:

@@ -4,7 +4,7 @@ namespace ravelo {
 
 namespace {
 
-/// Rounding cannot put the look before the change.
+/// Rounding must not put the update before the change.
 constexpr Seconds margin{0.001};
 
 } // namespace

@@ -7,25 +7,25 @@
 
 namespace ravelo {
 
-/// Rows that say how old something is.
+/// Rows with relative dates.
 class AgingRows {
 public:
     virtual ~AgingRows() = default;
 
-    /// Says every age relative to the present moment.
+    /// Updates all dates to now.
     virtual void refreshDates() = 0;
 
-    /// After how long `refreshDates` makes a difference; the maximum if never.
+    /// Time until `refreshDates` changes anything; the maximum if never.
     [[nodiscard]] virtual Seconds untilDatesChange() const = 0;
 };
 
-/// Keeps the ages in the rows of a model right ("2 min. ago") while they are on the screen, by one
-/// timer for the next one that changes. Main thread.
+/// Updates the relative dates of a model's rows ("2 min. ago") while they are visible, with one
+/// timer for the next change. Main thread.
 class RowAges : public QObject {
     Q_OBJECT
 
 public:
-    /// `model` are the same rows. All outlive it.
+    /// `model` has the same rows. All outlive this.
     RowAges(Scheduler& scheduler, AgingRows& rows, const QAbstractItemModel& model);
 
     void start();

@@ -3,7 +3,7 @@ import Ravelo.Controls
 import Ravelo.Text
 import Ravelo.Theme
 
-/// The search over a list, with the button that clears the list.
+/// Searches a list; has a button that clears the list.
 FieldFrame {
     id: field
 

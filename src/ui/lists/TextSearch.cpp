@@ -9,14 +9,14 @@ namespace ravelo {
 
 namespace {
 
-// Long enough that the loop over a block, which has no early exit, becomes a few vectors.
+// Long enough for the compiler to vectorise the loop over a block, which has no early exit.
 constexpr qsizetype block = 64;
 
 constexpr char16_t lower(char16_t unit) {
     return unit >= u'A' && unit <= u'Z' ? unit + (u'a' - u'A') : unit;
 }
 
-/// An ASCII character, as small letter, that is looked for in both cases.
+/// A lower-case ASCII character that matches both cases.
 struct Wanted {
     explicit Wanted(char16_t unit)
         : small(unit), caseBit(unit >= u'a' && unit <= u'z' ? u'a' - u'A' : 0) {}
@@ -29,10 +29,10 @@ struct Wanted {
 
 struct Scan {
     bool found = false;
-    bool isAscii = true; ///< What was looked at; all of it where nothing was found.
+    bool isAscii = true; ///< Of what was scanned; of the whole text if nothing was found.
 };
 
-/// `wanted` is ASCII without capitals, and not empty.
+/// `wanted` is non-empty lower-case ASCII.
 Scan scanAscii(QStringView text, QStringView wanted) {
     const qsizetype places = text.size() - wanted.size() + 1;
     const char16_t* const first = text.utf16();
@@ -43,7 +43,7 @@ Scan scanAscii(QStringView text, QStringView wanted) {
         return std::equal(wanted.utf16(), wanted.utf16() + wanted.size(), first + place,
                           [](char16_t a, char16_t b) { return a == lower(b); });
     };
-    // A mark that belongs to the last letter makes another letter of it.
+    // A combining mark changes the last letter.
     const auto foundAt = [&](qsizetype place, char16_t before) {
         const char16_t next = place + 1 < places ? last[place + 1] : u'\0';
         return Scan{true, (before | next) <= 0x7f};
@@ -84,7 +84,7 @@ bool isAscii(QStringView text) {
 } // namespace
 
 TextSearch::TextSearch(const QLocale& locale)
-    // Turkish and Azerbaijani pair the dotted i with İ and the dotless ı with I.
+    // In Turkish and Azerbaijani i pairs with İ and ı with I.
     : foldOptions_(locale.language() == QLocale::Turkish ||
                            locale.language() == QLocale::Azerbaijani
                        ? U_FOLD_CASE_EXCLUDE_SPECIAL_I
@@ -92,7 +92,7 @@ TextSearch::TextSearch(const QLocale& locale)
 
 void TextSearch::setWanted(const QString& wanted) {
     const QString now = folded(wanted);
-    // What was typed before is known still when the last letters are taken back.
+    // Results for shorter searches are kept for backspace.
     while (!levels_.isEmpty() && !now.contains(levels_.last().wanted)) {
         levels_.removeLast();
     }
@@ -126,7 +126,7 @@ bool TextSearch::contains(const QUuid& id, const QString& text, const QString& w
     if (known != folded_.cend()) {
         return known->contains(wanted);
     }
-    if (foldOptions_ == U_FOLD_CASE_DEFAULT) { // What is ASCII needs no folding then.
+    if (foldOptions_ == U_FOLD_CASE_DEFAULT) { // Then ASCII needs no folding.
         const Scan scan = isAscii(wanted) ? scanAscii(text, wanted) : Scan{false, isAscii(text)};
         if (scan.isAscii) {
             return scan.found;
@@ -148,7 +148,7 @@ QString TextSearch::folded(const QString& text) const {
                              &status);
     };
     const int32_t needed = fold();
-    if (needed > result.size()) { // A letter such as ß became two.
+    if (needed > result.size()) { // Folding can add characters, as for ß.
         result.resize(needed);
         fold();
     }

@@ -9,22 +9,22 @@
 
 namespace ravelo {
 
-/// Finds the texts that contain what is typed, ignoring case as the user's language does. Made for
-/// many long texts and one letter more or less at a time: keeps what it has made of the texts, and
-/// which of them did not match, while the search goes on.
+/// Finds texts that contain the search, ignoring case by the user's language. Optimised for many
+/// long texts and a search that changes by one letter: caches folded texts and mismatches during a
+/// search.
 class TextSearch {
 public:
     explicit TextSearch(const QLocale& locale);
 
-    /// Empty to find everything.
+    /// Empty to match everything.
     void setWanted(const QString& wanted);
 
-    /// `id` stands for a text that never changes.
+    /// `id` identifies a text that never changes.
     [[nodiscard]] bool finds(const QUuid& id, const QString& text);
 
 private:
     struct Level {
-        QString wanted; ///< Folded; contains what the level before it wants.
+        QString wanted; ///< Folded; contains the search of the previous level.
         QSet<QUuid> missed;
     };
 
@@ -33,7 +33,7 @@ private:
 
     const unsigned foldOptions_;
     QList<Level> levels_;
-    QHash<QUuid, QString> folded_; ///< Of texts that are more than ASCII.
+    QHash<QUuid, QString> folded_; ///< Of non-ASCII texts.
 };
 
 } // namespace ravelo

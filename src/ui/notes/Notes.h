@@ -11,7 +11,7 @@ class Notes : public ravelo::Tab {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
-    /// Saved with every change.
+    /// Saved at every change.
     Q_PROPERTY(QString text READ text WRITE setText NOTIFY textChanged)
 
 public:

@@ -5,7 +5,7 @@ import Ravelo.Paint
 import Ravelo.Text
 import Ravelo.Theme
 
-/// The quick note. Every change is kept at once.
+/// The quick note, saved at every change.
 TabPage {
     id: tab
 
@@ -35,7 +35,7 @@ TabPage {
         ScrolledEdit {
             id: scrolled
             x: 11
-            y: 11 - tab.headInSight // Stays where it is while the box grows over what is scrolled away.
+            y: 11 - tab.headInSight // Stays in place while the box grows over the scrolled-away head.
             width: parent.width - 22
             height: tab.height - 32 - 22
             head: tab.head

@@ -6,17 +6,17 @@
 
 namespace ravelo {
 
-/// A rounded rectangle: filled, or filled from left to right, and outlined within its bounds.
+/// A rounded rectangle with a solid or horizontal gradient fill and an inside outline.
 class Box : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)
-    /// Colour of the right end; invalid (the default) if the fill is even.
+    /// Colour at the right end; invalid (the default) for a solid fill.
     Q_PROPERTY(QColor endColor MEMBER endColor_ NOTIFY changed)
     Q_PROPERTY(double radius MEMBER radius_ NOTIFY changed)
     Q_PROPERTY(QColor lineColor MEMBER lineColor_ NOTIFY changed)
     Q_PROPERTY(double lineWidth MEMBER lineWidth_ NOTIFY changed)
-    /// Length of the dashes of the outline and of the gaps between them; 0 if it is solid.
+    /// Length of the outline's dashes and gaps; 0 for a solid line.
     Q_PROPERTY(double dash MEMBER dash_ NOTIFY changed)
 
 public:

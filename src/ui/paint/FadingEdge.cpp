@@ -10,7 +10,7 @@ QRect devicePixels(const QPainter& painter, const QRectF& rect) {
     return painter.deviceTransform().mapRect(rect).toAlignedRect();
 }
 
-/// Painted over the children.
+/// Painted above the children.
 class Cover final : public PaintedItem {
 public:
     Cover(FadingEdge& owner, std::shared_ptr<const QImage> behind)
@@ -85,7 +85,7 @@ void FadingEdge::paint(QPainter& painter) {
     if (painter.device()->devType() != QInternal::Image) {
         return;
     }
-    // The cover is painted again exactly where and when this is.
+    // The cover repaints exactly the same area at the same time.
     const auto& target = *static_cast<QImage*>(painter.device());
     *behind_ = target.copy(devicePixels(painter, strip()))
                    .convertToFormat(QImage::Format_ARGB32_Premultiplied);

@@ -8,16 +8,14 @@
 
 namespace ravelo {
 
-/// Lets what it holds fade out towards one of its edges, whatever lies behind.
-///
-/// The software scene graph has no mask. So what lies behind is kept before the children are
-/// painted, and blended back over them afterwards, the more the nearer to the edge. No child may be
-/// an opaque rectangle: what it covers is never painted and so cannot be kept.
+/// Fades its content out towards one edge, on any background. The software scene graph has no
+/// masks, so the background is saved before the children are painted and blended back over them. No
+/// child may be an opaque rectangle: the background under it is never painted.
 class FadingEdge : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(Edge edge MEMBER edge_ NOTIFY changed)
-    /// Logical pixels over which it fades; 0 for a hard edge.
+    /// Width of the fade in logical pixels; 0 for a hard edge.
     Q_PROPERTY(double length MEMBER length_ NOTIFY changed)
 
 public:
@@ -27,15 +25,15 @@ public:
 
     explicit FadingEdge(QQuickItem* parent = nullptr);
 
-    /// The strip that fades, in the item's coordinates.
+    /// The fading strip, in item coordinates.
     [[nodiscard]] QRectF strip() const;
-    /// Opaque black where all is to be seen, transparent at the edge.
+    /// Opaque black where fully visible, transparent at the edge.
     [[nodiscard]] QLinearGradient mask() const;
 
 protected:
     [[nodiscard]] QRectF paintedRect() const override { return strip(); }
 
-    /// Paints nothing: keeps what lies behind the strip.
+    /// Paints nothing: saves the background of the strip.
     void paint(QPainter& painter) override;
     void geometryChange(const QRectF& now, const QRectF& before) override;
 

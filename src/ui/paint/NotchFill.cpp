@@ -17,8 +17,7 @@ void NotchFill::geometryChange(const QRectF& now, const QRectF& before) {
     }
 }
 
-// From an image: the bar is painted once a second, and filling an outline wakes several threads
-// each time.
+// Cached as an image: the bar repaints once a second, and filling an outline wakes several threads.
 void NotchFill::paint(QPainter& painter) {
     const double scale = painter.device()->devicePixelRatio();
     if (image_.isNull() || image_.devicePixelRatio() != scale) {

@@ -7,7 +7,7 @@
 
 namespace ravelo {
 
-/// The outline that hangs from the top edge of the screen, filled with one colour.
+/// The notch outline filled with one colour.
 class NotchFill : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -26,7 +26,7 @@ private:
     QColor color_;
     double flare_ = 0;
     double bottomRadius_ = 0;
-    QImage image_; ///< Null if stale.
+    QImage image_; ///< Null if outdated.
 };
 
 } // namespace ravelo

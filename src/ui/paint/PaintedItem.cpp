@@ -6,7 +6,7 @@
 
 namespace ravelo {
 
-/// The scene graph drops it before it renders the next frame without its item.
+/// The scene graph removes it before it renders the next frame without its item.
 class PaintedItem::Node final : public QSGRenderNode {
 public:
     explicit Node(PaintedItem& item) : item_(item) {}
@@ -22,7 +22,7 @@ public:
         auto* resource =
             window->rendererInterface()->getResource(window, QSGRendererInterface::PainterResource);
         auto* painter = static_cast<QPainter*>(resource);
-        // An empty region means "nothing to paint" here, not "no clip".
+        // Here an empty region means "paint nothing", not "no clip".
         if (painter == nullptr || state->clipRegion()->isEmpty()) {
             return;
         }

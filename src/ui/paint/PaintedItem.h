@@ -6,9 +6,9 @@
 
 namespace ravelo {
 
-/// An item that paints straight into the window, antialiased and at any fraction of a pixel, which
-/// the software scene graph's own rectangles cannot. Only for that scene graph: it renders on the
-/// main thread. Those derived from it name it in full, or qmllint would not find it.
+/// Paints directly into the window, antialiased and at fractional positions, which the software
+/// scene graph's rectangles cannot do. Works only there: it paints on the main thread. Derived
+/// classes name it in full, or qmllint does not find it.
 class PaintedItem : public QQuickItem {
     Q_OBJECT
     QML_ANONYMOUS
@@ -17,15 +17,14 @@ public:
     explicit PaintedItem(QQuickItem* parent = nullptr);
 
 Q_SIGNALS:
-    /// It has to be painted again.
+    /// Needs a repaint.
     void changed();
 
 protected:
-    /// Everything that `paint` touches lies within, in the item's coordinates. Nothing is painted
-    /// if it is empty.
+    /// Bounds of what `paint` touches, in item coordinates. Nothing is painted if empty.
     [[nodiscard]] virtual QRectF paintedRect() const { return boundingRect(); }
 
-    /// In the item's coordinates; clip and opacity are set.
+    /// In item coordinates; clip and opacity are set.
     virtual void paint(QPainter& painter) = 0;
 
     QSGNode* updatePaintNode(QSGNode* old, UpdatePaintNodeData* data) final;

@@ -3,7 +3,7 @@
 namespace ravelo {
 
 void Ring::paint(QPainter& painter) {
-    constexpr double degree = 16; // QPainter counts angles in these, counter-clockwise.
+    constexpr double degree = 16; // QPainter's unit, counter-clockwise.
     const double inset = lineWidth_ / 2;
     const QRectF circle = boundingRect().adjusted(inset, inset, -inset, -inset);
     painter.setBrush(Qt::NoBrush);

@@ -6,7 +6,7 @@
 
 namespace ravelo {
 
-/// A ring within the item's bounds, of which a part, clockwise from the top, stands out.
+/// A ring with a highlighted part, clockwise from the top.
 class Ring : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT

@@ -24,7 +24,7 @@ std::vector<double> bell(double deviation) {
     return weights;
 }
 
-/// Blurs along the lines and turns the picture, so that twice blurs both ways.
+/// Blurs rows and transposes, so that two calls blur both ways.
 QImage blurredAndTurned(const QImage& from, const std::vector<double>& weights) {
     const int reach = static_cast<int>(weights.size() / 2);
     const auto middle = weights.begin() + reach;
@@ -50,7 +50,7 @@ QImage Shadow::image(const Look& look) {
     const double margin = look.margin;
     const QSizeF whole(look.size.width() + 2 * margin, look.size.height() + 2 * margin);
     const QSize pixels = (whole * look.scale).toSize();
-    // What is very soft has no details: it is made small, or a large one would take seconds.
+    // Strong blurs are computed at a reduced size; full size would take seconds.
     constexpr double softEnough = 6;
     const double shrink = std::max(1.0, look.blur / 2 * look.scale / softEnough);
     const QSize drawn = (whole * look.scale / shrink).toSize().expandedTo({1, 1});

@@ -7,14 +7,14 @@
 
 namespace ravelo {
 
-/// The soft shadow of a rounded rectangle of this item's size. Painted around it, never under it.
+/// The soft shadow of a rounded rectangle of this size, painted around it only.
 class Shadow : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)
-    Q_PROPERTY(double radius MEMBER radius_ NOTIFY changed) ///< Of the rectangle's corners.
-    Q_PROPERTY(double blur MEMBER blur_ NOTIFY changed)     ///< Twice the deviation, as in CSS.
-    Q_PROPERTY(double drop MEMBER drop_ NOTIFY changed)     ///< How far down it is cast.
+    Q_PROPERTY(double radius MEMBER radius_ NOTIFY changed) ///< Corner radius of the rectangle.
+    Q_PROPERTY(double blur MEMBER blur_ NOTIFY changed)     ///< Twice sigma, as in CSS.
+    Q_PROPERTY(double drop MEMBER drop_ NOTIFY changed)     ///< Vertical offset.
 
 public:
     using PaintedItem::PaintedItem;
@@ -24,10 +24,10 @@ protected:
     void paint(QPainter& painter) override;
 
 private:
-    /// What the image was made for.
+    /// What the cached image was made for.
     struct Look {
         QSizeF size;
-        double scale = 1; ///< Device pixels a logical one.
+        double scale = 1; ///< Device pixels per logical pixel.
         double margin = 0;
         QColor color;
         double radius = 0;

@@ -2,20 +2,20 @@ import QtQuick
 import Ravelo.Panel
 import Ravelo.Theme
 
-/// Where the content of the open panel is made, kept hidden and shown.
+/// Creates the content of the panel, keeps it hidden and shows it.
 FocusScope {
     id: slot
 
     required property PanelState panelState
     required property bool open
-    /// What is shown while the panel is open.
+    /// Shown while the panel is open.
     required property Component content
 
-    // Its size does not depend on the window's, which is small until the panel opens.
+    // Independent of the window, which is small until the panel opens.
     width: panelState.contentSize.width
     height: panelState.contentSize.height
     visible: open
-    // What floated over the last content has taken it.
+    // A popover of the previous content has taken the focus.
     onOpenChanged: {
         if (open) {
             focus = true;
@@ -33,7 +33,7 @@ FocusScope {
         target: slot
         property: "opacity"
         running: slot.open
-        // The fade of 60 ms joined at its second frame: nothing would be seen of the first.
+        // Start at the second frame of the 60 ms fade: the first would be invisible.
         from: 16 / Theme.opening
         to: 1
         duration: Theme.opening - 16

@@ -26,23 +26,22 @@ FocusScope {
     readonly property bool shown: controller.isOpen
     /// Files are being dragged over the panel.
     readonly property bool dropTargeted: controller.filesOver
-    /// Of the tab that is shown.
+    /// Of the current tab.
     readonly property TabPage page: places.count > 0
         ? (places.itemAt(tabs.current) as TabPlace).item as TabPage : null
 
-    /// Too low for all of it: what is between the top bar and the tabs scrolls away with what is
-    /// below them.
+    /// Too low for everything: what is between the top bar and the tabs scrolls away.
     readonly property bool compact: height < 480
     readonly property real gap: compact ? 8 : 12
     readonly property real rowEnd: topBar.y + 32
     readonly property real headHeight: topBar.height - 32
         + (usage.shown ? usageBlock.height + gap : 0)
-    /// How far it has been scrolled away.
+    /// How far it is scrolled away.
     readonly property real lifted: compact ? Math.min(headHeight, scrolled) : 0
     readonly property Flickable flick: page?.flick ?? null
     readonly property real scrolled: flick ? flick.contentY - flick.originY + flick.topMargin : 0
 
-    /// Down for a positive distance.
+    /// Positive scrolls down.
     function scrollBy(distance: real) {
         page.stopScrolling();
         const begin = flick.originY - flick.topMargin;
@@ -95,7 +94,7 @@ FocusScope {
         }
     }
 
-    // What the keyboard reaches comes back into view.
+    // Scroll focused items into view.
     readonly property Item focused: Window.activeFocusItem // qmllint disable unqualified
     onFocusedChanged: {
         if (lifted > 0 && isIn(focused, topBar.reminders)) {
@@ -146,7 +145,7 @@ FocusScope {
             visible: content.usage.shown
             usage: content.usage
             compact: content.compact
-            enabled: !content.dropTargeted // What is dragged over it wants no hint.
+            enabled: !content.dropTargeted // Not while dragging.
         }
     }
 

@@ -5,9 +5,9 @@
 
 namespace ravelo {
 
-/// For a window that only ever copies what is dropped on it. Qt lets no window accept an action
-/// that the source did not name, and a source that was told of a move deletes what it gave; a copy
-/// may always be answered (XDND 5). Installed as an event filter.
+/// Event filter for a window that accepts drops as copies only. Qt accepts no action that the
+/// source did not offer, and a source that is answered "move" deletes its data; a copy is always
+/// allowed (XDND 5).
 class CopyOnly final : public QObject {
 public:
     using QObject::QObject;
@@ -26,7 +26,7 @@ public:
     }
 
 private:
-    /// They are open to those who derive.
+    /// Accessible to derived classes only.
     struct Actions : QDropEvent {
         static void setToCopy(QDropEvent& drop) {
             drop.*& Actions::m_actions = Qt::CopyAction;

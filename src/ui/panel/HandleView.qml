@@ -3,7 +3,7 @@ import Ravelo.Paint
 import Ravelo.Panel
 import Ravelo.Theme
 
-/// The collapsed panel: a handle at the screen's edge.
+/// The closed panel: a handle at the screen's edge.
 NotchFill {
     required property int backdrop
 

@@ -5,20 +5,20 @@ import Ravelo.Panel
 import Ravelo.Text
 import Ravelo.Theme
 
-/// The notice under the tabs. What is below moves down while there is one.
+/// The notice under the tabs. Moves the content below it down.
 FocusScope {
     id: line
 
     required property Notices notices
-    /// The panel can be seen.
+    /// The panel is visible.
     required property bool open
 
     readonly property bool shown: notices.kind !== Notices.None
-    /// How much lower the content below begins.
+    /// How far the content below moves down.
     readonly property real room: (height + 8) * there
     property real there: shown ? 1 : 0
 
-    // As last shown: it stays while it fades.
+    // The last notice, kept while it fades out.
     property int kind: Notices.None
     property string lead
     property string rest
@@ -28,7 +28,7 @@ FocusScope {
 
     property Item focusedBefore
 
-    /// Moves the keyboard to the notice, or back to where it was.
+    /// Moves the focus to the notice, or back.
     function toggleFocus() {
         if (activeFocus) {
             leave();

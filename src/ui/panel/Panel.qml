@@ -7,7 +7,7 @@ import Ravelo.Snippets
 import Ravelo.Theme
 import Ravelo.Usage
 
-/// All that the panel's window shows: a handle, a bar, or the content, hanging from the same edge.
+/// Content of the panel's window: a handle, a bar, or the open panel, at the same edge.
 Item {
     id: panel
 
@@ -26,8 +26,8 @@ Item {
         onHoveredChanged: panel.controller.setHovered(hovered)
     }
 
-    // Files only, and only to be copied; what they are the controller learns by itself: here it
-    // would have to be waited for. Not what is dragged out of the panel, and back.
+    // Accepts files only, as copies. The controller gets them from the platform; reading them here
+    // would block. Ignores drags from the panel itself.
     DropArea {
         id: drop
         objectName: "drop"
@@ -48,7 +48,7 @@ Item {
         onDropped: drop => answer(drop, panel.controller.onDrop())
     }
 
-    // Not as large as the window: it shrinks a moment after the panel has closed.
+    // Not the window's size: the window shrinks shortly after the panel closed.
     HandleView {
         objectName: "handle"
         width: panel.controller.collapsedSize.width
@@ -87,7 +87,7 @@ Item {
     }
 
     ContentSlot {
-        id: slot // Not centred: the window may still be as narrow as the handle.
+        id: slot // Not centred: the window may still have the handle's width.
         focus: true
         panelState: panel.panelState
         open: panel.controller.isOpen

@@ -8,14 +8,14 @@ namespace ravelo {
 class NightShift;
 class ShutDown;
 
-/// What the buttons at the panel's top right do to the computer. Main thread.
+/// Night shift and shutdown, for the buttons at the top right. Main thread.
 class PanelActions : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
 
 public:
-    /// Both outlive it.
+    /// Both outlive this.
     PanelActions(NightShift& nightShift, ShutDown& shutDown)
         : nightShift_(nightShift), shutDown_(shutDown) {}
 

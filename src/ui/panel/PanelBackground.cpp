@@ -44,7 +44,7 @@ QLinearGradient darkening(double height, double darkness) {
     return gradient;
 }
 
-/// A hairline along the inside of sides and bottom; none along the top, where the screen ends.
+/// A hairline inside the sides and bottom; none at the top, the screen's edge.
 void strokeEdge(QPainter& painter, QSizeF size) {
     const double w = size.width();
     const double h = size.height();

@@ -7,13 +7,13 @@
 namespace ravelo {
 
 // NOLINTBEGIN(readability-identifier-naming): QML demands capitals.
-/// What the panel can count on behind itself.
+/// How the desktop shows what is behind the panel.
 namespace Backdrop {
 Q_NAMESPACE
 QML_ELEMENT
 
 enum Kind {
-    Blurred,     ///< The desktop blurs what lies behind.
+    Blurred,     ///< The desktop blurs it.
     Translucent, ///< It shows through, sharp.
     Opaque,      ///< Nothing shows through.
 };
@@ -30,11 +30,11 @@ struct PanelMaterial {
     friend bool operator==(const PanelMaterial&, const PanelMaterial&) = default;
 };
 
-/// The panel without its content: outline, material, darkening gradient and edge, `scale` device
-/// pixels a logical one.
+/// The panel without content: outline, material, darkening gradient and edge, at `scale` device
+/// pixels per logical pixel.
 [[nodiscard]] QImage panelImage(QSizeF size, double scale, const PanelMaterial& material);
 
-/// Shows it.
+/// Paints it.
 class PanelBackground : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -52,7 +52,7 @@ private:
     Backdrop::Kind backdrop_ = Backdrop::Translucent;
     double darkness_ = 0.55;
     bool fullBlack_ = false;
-    QSizeF paintedSize_; ///< What `image_` shows.
+    QSizeF paintedSize_; ///< Size of `image_`.
     PanelMaterial painted_;
     QImage image_;
 };

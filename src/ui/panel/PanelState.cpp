@@ -8,7 +8,7 @@ namespace ravelo {
 
 namespace {
 
-/// Long enough for the closed panel to be gone from the screen, shorter than any hand.
+/// Long enough for the closed panel to leave the screen, short enough to precede the next opening.
 constexpr Seconds buildDelay(0.04);
 
 } // namespace

@@ -11,7 +11,7 @@ class AppSettings;
 class NotchController;
 class Scheduler;
 
-/// What is the panel's own: its look, and when its content exists and how large it is. Main thread.
+/// The panel's own state: look, size, and whether its content exists. Main thread.
 class PanelState : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -24,18 +24,17 @@ class PanelState : public QObject {
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY reducedMotionChanged)
 
 public:
-    /// All of it outlives this.
+    /// All outlive this.
     PanelState(NotchController& controller, AppSettings& settings, Scheduler& scheduler);
 
-    /// From now on it follows whether the panel is open.
+    /// Starts following whether the panel is open.
     void start();
 
-    /// Whether there is content, shown or hidden. A closed panel's content is thrown away with all
-    /// that was searched, scrolled or opened in it; the next is made soon after, so that opening
-    /// has nothing left to do.
+    /// Content exists, shown or hidden. Closing deletes it, with any search, scroll position or
+    /// open popover; the next is created soon after, so that opening is fast.
     [[nodiscard]] bool hasContent() const { return hasContent_; }
 
-    /// Logical pixels. While closed, the size that the panel would open with.
+    /// Logical pixels. While closed, the size for the next opening.
     [[nodiscard]] QSizeF contentSize() const { return contentSize_; }
 
     [[nodiscard]] Backdrop::Kind backdrop() const { return backdrop_; }
@@ -47,15 +46,15 @@ public:
 
     [[nodiscard]] bool reducedMotion() const { return reducedMotion_; }
 
-    /// The user wants things to fade, not to move.
+    /// The user wants fades instead of movements.
     void setReducedMotion(bool reduced);
 
-    /// The window has got this size.
+    /// The window has this size now.
     void windowResized(QSizeF size);
 
 Q_SIGNALS:
-    void opened(); ///< Before the content is made, if there is none yet.
-    void closed(); ///< After the content is gone.
+    void opened(); ///< Before the content is created, if there is none.
+    void closed(); ///< After the content is deleted.
     void hasContentChanged();
     void contentSizeChanged();
     void backdropChanged();

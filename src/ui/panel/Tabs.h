@@ -11,22 +11,22 @@ namespace ravelo {
 
 class AppSettings;
 
-/// The tabs of the panel, from left to right. The preferences say which one is shown. Main thread.
+/// The panel's tabs, from left to right. The current one is stored in the preferences. Main thread.
 class Tabs : public QObject {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(QQmlListProperty<ravelo::Tab> all READ all CONSTANT)
     Q_PROPERTY(int current READ current NOTIFY currentChanged)
-    /// The first one that can be searched; -1 if there is none.
+    /// The first searchable one; -1 if there is none.
     Q_PROPERTY(int searchable READ searchable CONSTANT)
 
 public:
-    /// `settings` outlives it.
+    /// `settings` outlives this.
     explicit Tabs(AppSettings& settings);
     ~Tabs() override;
 
-    /// One more, at the right.
+    /// Appends a tab.
     template <typename OneTab, typename... Arguments>
     OneTab& add(Arguments&&... arguments) {
         auto tab = std::make_unique<OneTab>(std::forward<Arguments>(arguments)...);
@@ -39,14 +39,14 @@ public:
 
     [[nodiscard]] const QList<Tab*>& list() const { return list_; }
 
-    /// The first one if the preferences name none that there is.
+    /// The first one if the preferences name no existing tab.
     [[nodiscard]] int current() const;
 
     [[nodiscard]] int searchable() const;
 
     Q_INVOKABLE void choose(int index);
 
-    /// The one so many places on, around the ends.
+    /// The tab this many places further, with wrap-around.
     Q_INVOKABLE void step(int by);
 
     void begin();
@@ -54,7 +54,7 @@ public:
 
 Q_SIGNALS:
     void currentChanged();
-    void chosen(); ///< Another one than before.
+    void chosen(); ///< The current tab changed.
 
 private:
     void append(std::unique_ptr<Tab> tab);

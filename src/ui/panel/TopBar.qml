@@ -5,7 +5,7 @@ import Ravelo.Panel
 import Ravelo.Shelf
 import Ravelo.Theme
 
-/// What can be done from every tab.
+/// The bar above the tabs.
 Item {
     id: bar
 
@@ -13,9 +13,9 @@ Item {
     required property Focus focusing
     required property ShelfFiles shelfFiles
     required property PanelActions actions
-    /// In a narrow panel the reminders have a row of their own.
+    /// In a narrow panel the reminders have their own row.
     readonly property bool hasTwoRows: width < 820 - 2 * Theme.insetSide
-    /// How far the reminders in their own row have been scrolled up behind the first one.
+    /// How far the reminders' row is scrolled up behind the first row.
     property real lifted: 0
     readonly property Item reminders: strip
 
@@ -24,8 +24,7 @@ Item {
     readonly property bool timing: focusing.timerRunning
 
     implicitHeight: hasTwoRows ? 64 : 32
-    // The keyboard must not stay behind in what is not to be seen any more, nor go to a button that
-    // the next Return would press.
+    // Keeps the focus out of hidden items and off a button that a repeated Return would press.
     onTimingChanged: {
         if (timing && starting.keyed || !timing && (running.keyed || running.activeFocus)) {
             (timing ? running : starting).forceActiveFocus();
@@ -92,7 +91,7 @@ Item {
             tip: bar.focusing.reminderOpen ? qsTr("Shown under the notch — click to hide")
                                              : qsTr("Hidden — click to show under the notch")
             onClicked: {
-                // As it was when it was asked, while the answer fades.
+                // Set once: the answer must not change the question while it fades out.
                 reminderQuestion.text = bar.focusing.reminderOpen
                     ? qsTr("Hide reminders under the notch?") : qsTr("Show reminders under the notch?");
                 reminderQuestion.openLeftUnder(reminderButton, 26);

@@ -19,7 +19,7 @@ void DragSourceView::setProvider(const QJSValue& provider) {
 
 QList<QUrl> DragSourceView::files() const {
     QList<QUrl> files;
-    // A list of ours or an array of QML's own.
+    // A C++ list or a QML array.
     for (const QVariant& file : provider_.call().toVariant().value<QVariantList>()) {
         files.append(file.toUrl());
     }
@@ -33,13 +33,13 @@ void DragSourceView::mousePressEvent(QMouseEvent* event) {
     }
     didDrag_ = false;
     pressPlace_ = event->position();
-    setKeepMouseGrab(true); // A list that this lies in would scroll.
+    setKeepMouseGrab(true); // Else a surrounding list would scroll.
     setPressed(true);
 }
 
 void DragSourceView::mouseMoveEvent(QMouseEvent* event) {
     const auto moved = (event->position() - pressPlace_).manhattanLength();
-    // No hand holds still: the first pixels do not count.
+    // Ignores small movements of the hand.
     if (pressed_ && !didDrag_ && moved >= QGuiApplication::styleHints()->startDragDistance()) {
         didDrag_ = true;
         setPressed(false);

@@ -7,11 +7,11 @@
 
 namespace ravelo {
 
-/// What files are dragged out by: tells a press that moves, once, from one that does not.
+/// Distinguishes a drag of files from a tap.
 class DragSourceView : public QQuickItem {
     Q_OBJECT
     QML_ELEMENT
-    /// A function that gives the files.
+    /// A function that returns the files.
     Q_PROPERTY(QJSValue provider READ provider WRITE setProvider NOTIFY providerChanged)
     Q_PROPERTY(bool pressed READ isPressed NOTIFY pressedChanged)
 
@@ -24,14 +24,14 @@ public:
 
     [[nodiscard]] bool isPressed() const { return pressed_; }
 
-    /// What would be dragged now.
+    /// The files that would be dragged now.
     [[nodiscard]] Q_INVOKABLE QList<QUrl> files() const;
 
 Q_SIGNALS:
     void providerChanged();
     void pressedChanged();
-    void dragged(); ///< One session is to begin.
-    void tapped();  ///< The press never moved.
+    void dragged(); ///< A drag is to begin, once per press.
+    void tapped();  ///< Pressed and released without movement.
     void menuRequested(const QPointF& place);
 
 protected:

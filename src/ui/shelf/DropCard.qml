@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// Where files can be dropped; lights up while some are dragged over it.
+/// The drop target, highlighted while files are dragged over it.
 Box {
     id: card
 

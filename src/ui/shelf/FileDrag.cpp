@@ -25,14 +25,14 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr double iconSize = 56;
-constexpr double step = 2;         ///< From one icon to the next.
-constexpr qsizetype mostIcons = 8; ///< Of those behind hardly anything is seen.
+constexpr double step = 2;        ///< Offset between icons.
+constexpr qsizetype maxIcons = 8; ///< More would be hidden behind these.
 
 double scaleOf(const QQuickItem& item) {
     return item.window() == nullptr ? 1 : item.window()->effectiveDevicePixelRatio();
 }
 
-/// As RFC 2483 has it.
+/// RFC 2483.
 QByteArray uriList(const QList<QUrl>& files) {
     QByteArray list;
     for (const QUrl& file : files) {
@@ -41,16 +41,16 @@ QByteArray uriList(const QList<QUrl>& files) {
     return list;
 }
 
-/// What stands in for icons that are still being looked for.
+/// Placeholder for icons that are not ready yet.
 QList<QImage> pages(const QList<QUrl>& files, int size) {
     QList<QImage> pages;
-    for (const QUrl& file : files.first(std::min(files.size(), mostIcons))) {
+    for (const QUrl& file : files.first(std::min(files.size(), maxIcons))) {
         pages.append(filePage(QFileInfo(file.fileName()).suffix(), size));
     }
     return pages;
 }
 
-/// Icons that lie behind each other, each a little further up and to the right.
+/// Stacked icons, each a little further up and to the right.
 QImage fanned(const QList<QImage>& icons, double scale) {
     const double spread = step * static_cast<double>(std::max<qsizetype>(icons.size() - 1, 0));
     const double side = (iconSize + spread) * scale;
@@ -73,13 +73,13 @@ FileDrag::FileDrag(DetachedJobs& jobs, std::shared_ptr<const FileIcons> icons,
     : jobs_(jobs), icons_(std::move(icons)), decoder_(std::move(decoder)) {}
 
 void FileDrag::prepare(const QList<QUrl>& files, QQuickItem* from) {
-    if (files == prepared_ || preparing_) { // One that hangs is enough.
+    if (files == prepared_ || preparing_) { // A second lookup would hang like the first.
         return;
     }
     prepared_ = files;
     pictures_.clear();
     const auto pictures = std::make_shared<QList<QImage>>();
-    auto job = [pictures, files = files.first(std::min(files.size(), mostIcons)), icons = icons_,
+    auto job = [pictures, files = files.first(std::min(files.size(), maxIcons)), icons = icons_,
                 decoder = decoder_, size = qRound(iconSize * scaleOf(*from))] {
         for (const QUrl& file : files) {
             pictures->append(fileIcon(file, size, *icons, *decoder));
@@ -97,7 +97,7 @@ void FileDrag::start(const QList<QUrl>& files, QQuickItem* from) {
         return;
     }
     setDragging(true);
-    // Later: a drag runs an event loop of its own, in which what was pressed may go.
+    // Deferred: a drag runs its own event loop, in which the pressed item may be deleted.
     QMetaObject::invokeMethod(
         this, [this, files, scale = scaleOf(*from)] { drag(files, scale); }, Qt::QueuedConnection);
 }
@@ -113,7 +113,7 @@ void FileDrag::drag(const QList<QUrl>& files, double scale) {
     const QImage fan = fanned(ready ? pictures_ : pages(files, size), scale);
     auto* data = new QMimeData;
     data->setData(u"text/uri-list"_s, uriList(files));
-    auto* drag = new QDrag(this); // Qt frees it, with its data, once it is over.
+    auto* drag = new QDrag(this); // Qt deletes it, with its data, after the drag.
     drag->setMimeData(data);
     drag->setPixmap(QPixmap::fromImage(fan));
     const double below = fan.height() / scale - iconSize / 2;

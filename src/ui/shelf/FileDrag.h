@@ -17,7 +17,7 @@ class DetachedJobs;
 class FileIcons;
 class ImageDecoder;
 
-/// Drags files out of the panel, to be copied wherever they are dropped. Main thread.
+/// Drags files out of the panel; drop targets get copies. Main thread.
 class FileDrag : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -27,11 +27,11 @@ public:
     FileDrag(DetachedJobs& jobs, std::shared_ptr<const FileIcons> icons,
              std::shared_ptr<ImageDecoder> decoder);
 
-    /// These may be dragged soon: gets their icons ready.
+    /// Prepares the icons of files that may be dragged soon.
     Q_INVOKABLE void prepare(const QList<QUrl>& files, QQuickItem* from);
 
-    /// Begins one drag, which ends by itself; nothing where there are no files or a drag is on.
-    /// What is begun from may go meanwhile.
+    /// Starts a drag, unless there are no files or one is in progress. The item it starts from may
+    /// be deleted meanwhile.
     Q_INVOKABLE void start(const QList<QUrl>& files, QQuickItem* from);
 
     [[nodiscard]] bool isDragging() const { return dragging_; }
@@ -47,7 +47,7 @@ private:
     std::shared_ptr<const FileIcons> icons_;
     std::shared_ptr<ImageDecoder> decoder_;
     QList<QUrl> prepared_;
-    QList<QImage> pictures_; ///< Of `prepared_`; none before they are ready.
+    QList<QImage> pictures_; ///< Of `prepared_`; empty until ready.
     bool dragging_ = false;
     Handle preparing_;
 };

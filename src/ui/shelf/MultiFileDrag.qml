@@ -1,6 +1,6 @@
 import Ravelo.Shelf
 
-/// Lies over what stands for files: pressed and moved it drags them out.
+/// Overlay that drags the item's files out.
 DragSourceView {
     id: source
     objectName: "dragSource"

@@ -6,7 +6,7 @@ import Ravelo.Paint
 import Ravelo.Shelf
 import Ravelo.Theme
 
-/// What has come to the folder for downloads, the oldest first.
+/// Files that arrived in the downloads folder, oldest first.
 Item {
     id: section
 
@@ -14,10 +14,10 @@ Item {
     required property bool shown
 
     readonly property ReceivedModel received: shelfFiles.received
-    /// With room for the last few of its rows.
-    readonly property real least: rows.begin + Math.min(received.count, 3) * 28
+    /// Height for the last few rows.
+    readonly property real minHeight: rows.begin + Math.min(received.count, 3) * 28
 
-    /// With room for more than are of interest at once; the others scroll.
+    /// Height for all rows of interest; more of them scroll.
     readonly property real full: rows.begin + Math.max(1, Math.min(received.count, 8)) * 28
 
     signal menuRequested(Item row, point place, bool byKey)
@@ -131,7 +131,7 @@ Item {
             onContentHeightChanged: showNewest()
             onHeightChanged: showNewest()
 
-            /// Not under the hands of who looks at older ones.
+            /// Not while the user looks at older ones.
             function showNewest() {
                 if (!activeFocus && !moved) {
                     currentIndex = count - 1;

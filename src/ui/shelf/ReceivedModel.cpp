@@ -84,7 +84,7 @@ void ReceivedModel::update() {
         files.append({file, known.value(file, now)});
     }
     const int before = count();
-    takeOver(files);
+    apply(files);
     if (count() != before) {
         Q_EMIT countChanged();
     }

@@ -20,7 +20,7 @@ struct ReceivedFile {
     friend bool operator==(const ReceivedFile&, const ReceivedFile&) = default;
 };
 
-/// The files that have been received, in the order in which they came. Main thread.
+/// The received files in order of arrival. Main thread.
 class ReceivedModel : public KeyedListModel<ReceivedFile>, public AgingRows {
     Q_OBJECT
     QML_ELEMENT
@@ -37,12 +37,12 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    /// One has come just now.
+    /// A file has just arrived.
     [[nodiscard]] bool isReceiving() const { return receiving_; }
 
     [[nodiscard]] int count() const { return rowCount(); }
 
-    /// Where they come to.
+    /// The downloads folder.
     [[nodiscard]] QUrl folder() const;
 
     void refreshDates() override;

@@ -3,7 +3,7 @@ import Ravelo.Controls
 import Ravelo.Shelf
 import Ravelo.Theme
 
-/// A file that has been received: pressed it opens, it can be dragged out and put on the shelf.
+/// A received file: opens when pressed, can be dragged out and put on the shelf.
 Surface {
     id: row
 
@@ -87,7 +87,7 @@ Surface {
             sourceComponent: MiniButton {
                 objectName: "park"
                 activeFocusOnTab: false
-                name: qsTr("Put on the shelf")
+                name: qsTr("Add to shelf")
                 symbol: "tray.full"
                 onClicked: row.shelfFiles.parked.park(row.file) // qmllint disable unqualified
 

@@ -14,7 +14,7 @@ constexpr qsizetype maxName = 40;
 
 constexpr Seconds lookInterval{4};
 
-/// A device calls itself whatever it likes.
+/// Device names are not trusted.
 QString shortName(const QString& name) {
     const QString line = name.simplified();
     return line.size() > maxName ? line.first(maxName - 1) + u'…' : line;
@@ -77,7 +77,7 @@ void Sending::send(const QList<QUrl>& files, const QVariantMap& device) {
                  });
 }
 
-/// A program of the desktop, in place of a device, says itself what becomes of the files.
+/// A desktop program, instead of a device, reports the result itself.
 void Sending::report(NearbySend::Outcome outcome, qsizetype all, const QString& device) {
     if (outcome.sent == 0 && outcome.folders == all) {
         toast_.flash(all == 1 ? tr("A folder cannot be sent, only files")

@@ -13,7 +13,7 @@ namespace ravelo {
 class Scheduler;
 class Toast;
 
-/// The button that sends files to a device nearby. Main thread.
+/// The button that sends files to a nearby device. Main thread.
 class Sending : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -27,22 +27,21 @@ public:
 
     [[nodiscard]] bool isPossible() const;
 
-    /// What the user could do where it is not possible; empty where it is.
+    /// What the user can do to make sending possible; empty if it is.
     [[nodiscard]] QString advice() const;
 
-    /// To choose from: objects with `name` and `id`. Devices may come and go while the user
-    /// chooses.
+    /// Objects with `name` and `id`. The list can change while the user chooses.
     [[nodiscard]] QVariantList devices() const;
 
-    /// While the button is on the screen it follows who comes into reach, or leaves it.
+    /// Discovers devices while the button is visible.
     Q_INVOKABLE void setShown(bool shown);
 
-    /// To that one of the devices or, if there is none, with the desktop's own sending program.
+    /// To one of the devices or, if there is none, with the desktop's sending program.
     Q_INVOKABLE void send(const QList<QUrl>& files, const QVariantMap& device);
 
 Q_SIGNALS:
     void changed();
-    /// A program of the desktop has come up and asks whom to send to.
+    /// A desktop program has opened and asks for the recipient.
     void programStarted();
 
 private:
@@ -54,7 +53,7 @@ private:
     Toast& toast_;
     Handle changes_;
     Handle refreshing_;
-    Handle looks_; ///< While it is shown.
+    Handle looks_; ///< While visible.
 };
 
 } // namespace ravelo

@@ -12,10 +12,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How far beyond what is in sight there are tiles already.
+/// Tiles exist this far beyond the visible area.
 constexpr double ahead = 120;
 
-/// A file that gives no answer is no more usable than one that is gone.
+/// A file that does not answer is as unusable as a missing one.
 QSet<QUrl> missingOf(const FileLook::Found& found) {
     QSet<QUrl> missing;
     for (const auto& [file, presence] : found.asKeyValueRange()) {
@@ -64,7 +64,7 @@ QString ShelfContents::selectText() const {
 }
 
 void ShelfContents::lookForMissing() {
-    if (looking_) { // The files that it asks for now would count as hanging.
+    if (looking_) { // Its files would be reported as hanging.
         lookAgain_ = true;
         return;
     }

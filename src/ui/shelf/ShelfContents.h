@@ -14,8 +14,7 @@ class DetachedJobs;
 class Scheduler;
 class Store;
 
-/// The parked files as the panel shows them and what can be done with them. Only those in sight
-/// have a tile, however many there are. Main thread.
+/// The parked files as shown in the panel. Only visible ones have a tile. Main thread.
 class ShelfContents : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -42,23 +41,22 @@ public:
 
     [[nodiscard]] QString header() const;
 
-    /// Of the button that selects all, or none.
+    /// Of the button that selects all or none.
     [[nodiscard]] QString selectText() const;
 
     /// Of all tiles, in logical pixels.
     [[nodiscard]] double height() const { return layout_.height; }
 
-    /// A tile that is made just now stands for a file that has just come, not for one that was
-    /// scrolled into sight.
+    /// A tile created now is for a newly parked file, not one scrolled into view.
     [[nodiscard]] bool isParking() const { return parking_; }
 
-    /// Looks for files that are gone or cannot be told. The answer comes later.
+    /// Checks which files are missing or do not answer. Asynchronous.
     Q_INVOKABLE void lookForMissing();
 
-    /// There is so much room for the tiles, in logical pixels.
+    /// Width for the tiles, in logical pixels.
     Q_INVOKABLE void lay(double width);
 
-    /// What part of them is in sight.
+    /// The visible part of the tiles.
     Q_INVOKABLE void setSight(double top, double height);
 
     Q_INVOKABLE void toggle(int place);
@@ -68,10 +66,10 @@ public:
     Q_INVOKABLE void removeSelected();
     Q_INVOKABLE void park(const QUrl& file);
 
-    /// The selected files, or all where none is.
+    /// The selected files, or all if none is selected.
     [[nodiscard]] Q_INVOKABLE QList<QUrl> chosen() const;
 
-    /// Those of `chosen` that are not known to be gone.
+    /// Those of `chosen` not known to be missing.
     [[nodiscard]] Q_INVOKABLE QList<QUrl> filesToDrag() const;
 
     [[nodiscard]] Q_INVOKABLE QUrl fileAt(int place) const;
@@ -93,7 +91,7 @@ private:
     ShelfTiles tiles_;
     ShelfTrays trays_;
     QList<QUrl> files_;
-    QStringList ids_; ///< One a file.
+    QStringList ids_; ///< One per file.
     QSet<QUrl> missing_;
     ShelfLayout layout_;
     double width_ = 0;

@@ -13,7 +13,7 @@ class FileOpener;
 class NotchController;
 class Toast;
 
-/// The tab with the parked and the received files. Main thread.
+/// The tab with the parked and received files. Main thread.
 class ShelfFiles : public ravelo::Tab {
     Q_OBJECT
     QML_ELEMENT
@@ -24,7 +24,7 @@ class ShelfFiles : public ravelo::Tab {
     Q_PROPERTY(ravelo::FileDrag* drag READ drag CONSTANT)
 
 public:
-    /// All of it outlives the tab.
+    /// All outlive the tab.
     struct Services {
         Store& store;
         NotchController& controller;
@@ -51,11 +51,11 @@ public:
     void begin() override;
     void reset() override;
 
-    // Both close the panel too.
+    // Both close the panel, too.
     Q_INVOKABLE void open(const QUrl& file);
     Q_INVOKABLE void showInFolder(const QUrl& file);
 
-    /// Copies the file that was parked last, if there is one.
+    /// Copies the last parked file, if there is one.
     Q_INVOKABLE void copyLast();
 
 private:

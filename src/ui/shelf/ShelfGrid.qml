@@ -6,7 +6,7 @@ import Ravelo.Shelf
 import Ravelo.Text
 import Ravelo.Theme
 
-/// The parked files, a tray a stack. Only those in sight exist.
+/// The parked files with one tray per stack. Only visible tiles exist.
 FocusScope {
     id: grid
 
@@ -14,20 +14,20 @@ FocusScope {
     required property bool shown
 
     readonly property ShelfContents shelf: shelfFiles.parked
-    /// The file that the keyboard is at, -1 for none; there may be fewer by now.
+    /// The file with the keyboard cursor, -1 for none; can be out of range.
     property int wanted: -1
     readonly property int current: Math.min(wanted, shelf.count - 1)
     readonly property int count: shelf.count
-    /// The keyboard has been elsewhere in the panel. Until then it is here because the panel was
-    /// opened, by a key that may be followed by others that were meant for another program.
+    /// The focus has been elsewhere in the panel. Before that it is only here because a key opened
+    /// the panel, and the next keys may be meant for another program.
     property bool wasElsewhere: false
     readonly property Item keyboard: Window.activeFocusItem
 
-    /// What is seen of it where what it is in scrolls.
+    /// The part that is visible in the enclosing flickable.
     property real sightTop: 0
     property real sightHeight: height
 
-    /// A tile by the keyboard: its top, 0 in the first row, and its bottom.
+    /// Scroll to show a tile: its top (0 in the first row) and bottom.
     signal reached(real top, real bottom)
 
     signal menuRequested(Item tile, point place, bool byKey)
@@ -43,7 +43,7 @@ FocusScope {
         tileAt(current)?.forceActiveFocus();
     }
 
-    /// By an arrow: the first one comes to the first file.
+    /// By arrow key; the first press goes to the first file.
     function step(place: int) {
         go(current < 0 ? 0 : place);
     }
@@ -67,7 +67,7 @@ FocusScope {
     }
 
     function see() {
-        if (flick.height > 0) { // Not while it is being laid out itself.
+        if (flick.height > 0) { // Not during its own layout.
             shelf.setSight(flick.contentY + sightTop, Math.min(flick.height, sightHeight));
         }
     }
@@ -77,7 +77,7 @@ FocusScope {
     activeFocusOnTab: true
     onCountChanged: {
         if (count === 0) {
-            wanted = -1; // No key acts on the next file before an arrow has chosen it.
+            wanted = -1; // No key acts on the next file before an arrow key chose it.
         }
     }
     onWidthChanged: shelf.lay(width)
@@ -187,7 +187,7 @@ FocusScope {
                     shelfFiles: grid.shelfFiles
                     shown: grid.shown
                     onTapped: {
-                        // Or the next key, Delete maybe, would go to the program underneath.
+                        // Or the next key, for example Delete, would go to the program below.
                         Typing.wantKeyboard(grid);
                         grid.wanted = place;
                         forceActiveFocus();

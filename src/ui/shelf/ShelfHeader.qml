@@ -4,7 +4,7 @@ import Ravelo.Paint
 import Ravelo.Shelf
 import Ravelo.Theme
 
-/// How many files are parked, and what can be done with them.
+/// The number of parked files, and actions on them.
 Item {
     id: header
 
@@ -96,7 +96,7 @@ Item {
         objectName: "deviceMenu"
         name: qsTr("Send to")
 
-        // Not bound to the devices: what comes into reach must not move what is being chosen.
+        // No binding: new devices must not move the entries while the user chooses.
         function offer(devices: var) {
             entries = Array.from(devices, device => ({
                 text: device.name,

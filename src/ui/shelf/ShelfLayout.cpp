@@ -24,11 +24,11 @@ qsizetype tilesInALine(double width) {
 } // namespace
 
 ShelfLayout::ShelfLayout(const QList<qsizetype>& stackSizes, double width) {
-    const qsizetype most = tilesInALine(width);
+    const qsizetype maxColumns = tilesInALine(width);
     QPointF corner;
     for (const qsizetype count : stackSizes) {
-        const qsizetype columns = std::min(count, most);
-        const qsizetype lines = (count + most - 1) / most;
+        const qsizetype columns = std::min(count, maxColumns);
+        const qsizetype lines = (count + maxColumns - 1) / maxColumns;
         const QSizeF size(along(columns, tile.width()) + 2 * trayPad,
                           along(lines, tile.height()) + 2 * trayPad);
         if (corner.x() > 0 && corner.x() + size.width() > width) {
@@ -36,8 +36,8 @@ ShelfLayout::ShelfLayout(const QList<qsizetype>& stackSizes, double width) {
         }
         const QRectF tray(corner, size);
         for (qsizetype i = 0; i < count; ++i) {
-            const auto column = static_cast<double>(i % most);
-            const auto line = static_cast<double>(i / most);
+            const auto column = static_cast<double>(i % maxColumns);
+            const auto line = static_cast<double>(i / maxColumns);
             tiles.append(QRectF(QPointF(tray.x() + trayPad + column * (tile.width() + tileGap),
                                         tray.y() + trayPad + line * (tile.height() + tileGap)),
                                 tile));

@@ -5,15 +5,14 @@
 
 namespace ravelo {
 
-/// Where the parked files stand, in logical pixels: a tile a file in the shelf's order, a tray
-/// around those of each stack. Trays stand side by side while there is room; one that is wider than
-/// that has several lines of tiles.
+/// Positions of the parked files in logical pixels: one tile per file in shelf order, one tray per
+/// stack. Trays stand side by side if they fit; a wider one wraps its tiles.
 struct ShelfLayout {
-    /// Within `width`; at least one tile a line.
+    /// Within `width`; at least one tile per line.
     ShelfLayout(const QList<qsizetype>& stackSizes, double width);
     ShelfLayout() = default;
 
-    /// The tile nearest to `from` in the line above or below; `from` where there is none.
+    /// The tile nearest to `from` in the line above or below; `from` if there is none.
     [[nodiscard]] int above(int from) const;
     [[nodiscard]] int below(int from) const;
 

@@ -9,10 +9,10 @@
 
 namespace ravelo {
 
-/// A parked file and where it stands.
+/// A parked file and its position.
 struct ShelfTile {
-    QString id;    ///< Its address, and which of its equals it is.
-    int place = 0; ///< Among all files of the shelf.
+    QString id;    ///< Its URL and a number if the URL repeats.
+    int place = 0; ///< Index among all files of the shelf.
     QUrl file;
     QPointF corner;
     bool selected = false;
@@ -21,7 +21,7 @@ struct ShelfTile {
     friend bool operator==(const ShelfTile&, const ShelfTile&) = default;
 };
 
-/// Tiles, for QML.
+/// The tiles, for QML.
 class ShelfTiles : public KeyedListModel<ShelfTile> {
     Q_OBJECT
     QML_ELEMENT
@@ -40,12 +40,12 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    void show(const QList<ShelfTile>& tiles) { takeOver(tiles); }
+    void show(const QList<ShelfTile>& tiles) { apply(tiles); }
 };
 
-/// What lies below the tiles of one stack.
+/// The tray below the tiles of a stack.
 struct ShelfTray {
-    int id = 0; ///< Which of the stacks.
+    int id = 0; ///< Index of the stack.
     QRectF rect;
 
     friend bool operator==(const ShelfTray&, const ShelfTray&) = default;
@@ -62,10 +62,10 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    void show(const QList<ShelfTray>& trays) { takeOver(trays); }
+    void show(const QList<ShelfTray>& trays) { apply(trays); }
 };
 
-/// The last part of its path.
+/// Last component of the path.
 [[nodiscard]] QString fileName(const QUrl& file);
 
 } // namespace ravelo

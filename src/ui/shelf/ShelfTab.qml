@@ -4,12 +4,12 @@ import Ravelo.Paint
 import Ravelo.Shelf
 import Ravelo.Theme
 
-/// The parked files and those that have been received.
+/// The parked and the received files.
 TabPage {
     id: tab
 
     readonly property ShelfFiles shelfFiles: feature as ShelfFiles
-    /// Too low for two lists that scroll by themselves.
+    /// Not tall enough for two lists that scroll separately.
     readonly property bool whole: head > 0 || height < 300
 
     flick: page
@@ -20,7 +20,7 @@ TabPage {
     Component.onCompleted: shelfFiles.sending.setShown(shown)
     Component.onDestruction: shelfFiles.sending.setShown(false)
 
-    // Files may go, or come back, meanwhile.
+    // Files can be deleted or restored meanwhile.
     Timer {
         running: tab.shown && !tab.empty
         interval: 2000
@@ -77,7 +77,7 @@ TabPage {
             y: 44
             width: page.width
             height: tab.whole ? tab.shelfFiles.parked.height
-                              : Math.min(tab.shelfFiles.parked.height, tab.height - y - 16 - received.least)
+                              : Math.min(tab.shelfFiles.parked.height, tab.height - y - 16 - received.minHeight)
             sightTop: tab.whole ? page.contentY - y : 0
             sightHeight: tab.whole ? page.height : height
             onReached: (top, bottom) => {
@@ -95,7 +95,7 @@ TabPage {
             }
         }
 
-        // As the card does where there is nothing yet.
+        // Like the card that is shown when empty.
         Box {
             anchors.fill: grid
             anchors.margins: -4
@@ -137,7 +137,7 @@ TabPage {
                 { text: qsTr("Show in folder"), chosen: () => tab.shelfFiles.showInFolder(file) }
             ];
             if (!parked) {
-                all.push({ text: qsTr("Put on the shelf"), chosen: () => tab.shelfFiles.parked.park(file) });
+                all.push({ text: qsTr("Add to shelf"), chosen: () => tab.shelfFiles.parked.park(file) });
             }
             return all;
         }

@@ -38,7 +38,7 @@ Surface {
 
     Accessible.role: Accessible.ListItem
     Accessible.name: name
-    Accessible.description: missing ? qsTr("No longer there") : ""
+    Accessible.description: missing ? qsTr("No longer available") : ""
     Accessible.focusable: true
     Accessible.selectable: true
     Accessible.selected: selected
@@ -112,7 +112,7 @@ Surface {
             color: Theme.text4
         }
 
-        // Nothing is read for a panel that is not seen.
+        // A hidden panel reads nothing.
         Image {
             id: image
 

@@ -3,7 +3,7 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// A snippet: pressed it is copied, its pencil opens the editor.
+/// A snippet: a press copies it, the pencil edits it.
 Pressable {
     id: chip
 
@@ -19,7 +19,7 @@ Pressable {
     implicitHeight: 28
     radius: 14
     rest: Theme.surface2
-    activeFocusOnTab: false // The strip is one stop of the Tab key.
+    activeFocusOnTab: false // The strip is a single tab stop.
 
     Keys.onPressed: event => {
         if (event.key === Qt.Key_F2) {

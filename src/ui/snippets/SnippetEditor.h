@@ -13,8 +13,7 @@ namespace ravelo {
 
 class Store;
 
-/// A working copy of the snippet that is being edited. The store hears of it when it is saved, and
-/// not before. Main thread.
+/// A working copy of the edited snippet; the store changes only at `save`. Main thread.
 class SnippetEditor : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -40,35 +39,35 @@ public:
 
     [[nodiscard]] QString imageFileName() const { return copy().imageFileName; }
 
-    /// A title is what a snippet is known by.
+    /// Requires a title.
     [[nodiscard]] bool canSave() const { return !title().trimmed().isEmpty(); }
 
-    // Nothing while another is being edited or there is no such snippet.
+    // No effect while another one is edited or if there is no such snippet.
     Q_INVOKABLE void edit(const QUuid& id);
-    /// A new one, which comes to be when it is saved.
+    /// A new one, which exists once saved.
     Q_INVOKABLE void editNew();
-    /// Nothing where it cannot be saved.
+    /// No effect if it cannot be saved.
     Q_INVOKABLE void save();
     Q_INVOKABLE void cancel();
 
-    /// Takes the image now on the pasteboard, once it has been read; nothing where there is none.
+    /// Attaches the image on the pasteboard, asynchronously; no effect without one.
     Q_INVOKABLE void attachImage();
     Q_INVOKABLE void removeImage();
 
 Q_SIGNALS:
     void changed();
-    void added(); ///< A new one is in the store.
+    void added(); ///< A new snippet is in the store.
 
 private:
     [[nodiscard]] Snippet copy() const { return editing_.value_or(Snippet()); }
 
     void begin(const Snippet& snippet);
-    /// Ends without the images that were attached but for the one that is kept.
+    /// Ends editing and deletes attached images except the kept one.
     std::optional<Snippet> end(const QString& keptImage);
 
     Store& store_;
     std::optional<Snippet> editing_;
-    QStringList attached_; ///< Images that the store does not know of.
+    QStringList attached_; ///< Image files that the store does not refer to.
     Handle attaching_;
 };
 

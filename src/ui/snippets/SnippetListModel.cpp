@@ -37,7 +37,7 @@ void SnippetListModel::setSearch(const QString& search) {
 }
 
 void SnippetListModel::update() {
-    TextSearch search(locale_); // Anew each time: the texts change, and are few and short.
+    TextSearch search(locale_); // A new one each time: the texts change, and are few and short.
     search.setWanted(search_);
     QList<Snippet> found;
     for (const Snippet& snippet : store_.snippets()) {
@@ -45,7 +45,7 @@ void SnippetListModel::update() {
             found.append(snippet);
         }
     }
-    takeOver(found);
+    apply(found);
 }
 
 } // namespace ravelo

@@ -10,8 +10,7 @@ namespace ravelo {
 
 class Store;
 
-/// The snippets as the panel's strip shows them: those whose title or body contains `search`. Main
-/// thread.
+/// The snippets as shown in the strip: those whose title or body contains `search`. Main thread.
 class SnippetListModel : public KeyedListModel<Snippet> {
     Q_OBJECT
     QML_ELEMENT

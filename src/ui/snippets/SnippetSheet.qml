@@ -5,13 +5,13 @@ import Ravelo.Snippets
 import Ravelo.Text
 import Ravelo.Theme
 
-/// The editor of a snippet, over the whole panel while something is being edited.
+/// The snippet editor, a sheet over the whole panel.
 FocusScope {
     id: layer
 
     required property SnippetEditor editor
     readonly property bool editing: editor.editing
-    /// Stays while the sheet fades.
+    /// Kept while the sheet fades out.
     property string imageFileName
     property Item focusedBefore
 
@@ -23,7 +23,7 @@ FocusScope {
         }
     }
 
-    /// Without a title it stays, and says what is missing.
+    /// Without a title the sheet stays and marks the field.
     function save() {
         titleField.mistaken = !editor.canSave;
         if (editor.canSave) {
@@ -70,7 +70,7 @@ FocusScope {
         } else if (returns && (event.modifiers & Qt.ControlModifier || title.activeFocus)) {
             layer.save();
         }
-        event.accepted = true; // Nothing below hears a key meanwhile.
+        event.accepted = true; // Modal: keys do not reach what is below.
     }
 
     Behavior on opacity {
@@ -102,7 +102,7 @@ FocusScope {
         y: layer.height < 560 ? (layer.height - height) / 2 : 84
         width: 420
         height: 394 - cut
-        /// The text scrolls in less room if the panel is too low.
+        /// The text scrolls if the panel is too low.
         readonly property real cut: Math.max(0, 394 + 2 * 14 - layer.height)
         scale: layer.editing ? 1 : 1 - Theme.move(4) / 100
 
@@ -233,7 +233,7 @@ FocusScope {
             y: 278 - sheet.cut
             large: true
             sidePad: 14
-            lead: 24 // The symbol is further out than the text.
+            lead: 24 // The symbol is closer to the edge than the text.
             text: qsTr("Attach image from clipboard")
             KeyNavigation.tab: cancel
             KeyNavigation.backtab: body

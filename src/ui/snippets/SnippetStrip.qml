@@ -6,15 +6,15 @@ import Ravelo.Paint
 import Ravelo.Snippets
 import Ravelo.Theme
 
-/// The snippets side by side, and at the end a button for a new one.
+/// The snippets side by side, followed by a button for a new one.
 Item {
     id: strip
 
     required property Snippets snippets
-    /// The snippet that the menu and the question are about.
+    /// The snippet of the menu or question.
     property var chosen
 
-    /// By the keyboard.
+    /// Opened by key.
     signal reached
 
     implicitHeight: 28
@@ -36,7 +36,7 @@ Item {
 
         ListView {
             id: list
-            // Room for the ring around a chip.
+            // Room for the focus ring.
             anchors.fill: parent
             anchors.margins: -4
             anchors.rightMargin: 0
@@ -51,7 +51,7 @@ Item {
             }
             orientation: ListView.Horizontal
             spacing: 6
-            cacheBuffer: 0 // What is made ahead is in the way of a search that takes it away.
+            cacheBuffer: 0 // Chips created ahead would delay a search that removes them.
             clip: true
             boundsBehavior: Flickable.StopAtBounds
             highlightMoveDuration: Theme.move(200)
@@ -82,7 +82,7 @@ Item {
                 }
             }
 
-            // A wheel turns what lies sideways.
+            // A wheel scrolls sideways.
             WheelHandler {
                 onWheel: event => {
                     const step = event.angleDelta.y + event.angleDelta.x;

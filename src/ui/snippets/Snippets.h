@@ -9,7 +9,7 @@ class Deleting;
 class NotchController;
 class Toast;
 
-/// The snippets and what can be done with them. Main thread.
+/// The snippets and actions on them. Main thread.
 class Snippets : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -18,7 +18,7 @@ class Snippets : public QObject {
     Q_PROPERTY(ravelo::SnippetEditor* editor READ editor CONSTANT)
 
 public:
-    /// All of it outlives this.
+    /// All outlive this.
     struct Services {
         Store& store;
         NotchController& controller;
@@ -32,7 +32,7 @@ public:
 
     [[nodiscard]] SnippetEditor* editor() { return &editor_; }
 
-    /// They are not on the screen any more.
+    /// No longer visible.
     void reset();
 
     Q_INVOKABLE void copy(const QUuid& id);

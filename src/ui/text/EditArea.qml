@@ -2,14 +2,14 @@ import QtQuick
 import Ravelo.Text
 import Ravelo.Theme
 
-/// Text of many lines without any frame.
+/// Multi-line text input without a frame.
 TextEdit {
     id: area
 
-    /// For screen readers.
+    /// For assistive programs.
     property string name
     property TextStyle style: Theme.note
-    /// To be used instead of `text`, which alters some characters.
+    /// Use instead of `text`, which changes some characters.
     property alias exactText: exact.text
 
     Accessible.role: Accessible.EditableText
@@ -22,7 +22,7 @@ TextEdit {
     selectedTextColor: Theme.text1
     selectByMouse: true
     activeFocusOnTab: true
-    // The fixed line height puts the base line four fifths down, the style elsewhere.
+    // The fixed line height puts the baseline at four fifths; the style differs.
     topPadding: style.baseLine(1) - style.line * 0.8
     cursorDelegate: Caret {}
 

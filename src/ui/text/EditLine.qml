@@ -2,13 +2,13 @@ import QtQuick
 import Ravelo.Text
 import Ravelo.Theme
 
-/// One line of editable text without any frame.
+/// Single-line text input without a frame.
 TextInput {
     id: input
 
     property string placeholder
     property TextStyle style: Theme.body
-    /// How many undo offers there had been when something was last typed.
+    /// Number of undo offers when something was last typed.
     property int typedAt: -1
 
     Accessible.role: Accessible.EditableText
@@ -20,7 +20,7 @@ TextInput {
     selectionColor: Theme.withAlpha(Theme.accent, 0.45)
     selectedTextColor: Theme.text1
     selectByMouse: true
-    maximumLength: 2147483647 // Qt's own limit would cut a text off as soon as it is edited.
+    maximumLength: 2147483647 // Qt's default would truncate a long text at the first edit.
     activeFocusOnPress: true
     activeFocusOnTab: true
     cursorDelegate: Caret {}
@@ -31,7 +31,7 @@ TextInput {
             Typing.paste(input, Typing.OneLine);
             event.accepted = true;
         } else if (event.matches(StandardKey.Undo)) {
-            // What came last is undone first.
+            // Undo the most recent change first.
             const typedSince = input.canUndo && input.typedAt === Typing.offers(input);
             event.accepted = !typedSince && Typing.undo(input);
         }
@@ -40,7 +40,7 @@ TextInput {
     Label {
         objectName: "hint"
         visible: input.text === "" && input.preeditText === ""
-        x: input.activeFocus ? 2.5 : 0 // Behind the caret.
+        x: input.activeFocus ? 2.5 : 0 // After the caret.
         y: (input.height - height) / 2
         width: parent.width - x
         text: input.placeholder

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Of a block's format: what ended the line before, unless it was a line feed.
+/// Block format property: the line end before the block, if not a line feed.
 constexpr int lineEnd = QTextFormat::UserProperty + 1;
 
 bool endsLine(QChar letter) {
@@ -25,7 +25,7 @@ bool endsLine(QChar letter) {
     case u'\n':
     case u'\r':
     case QChar::ParagraphSeparator:
-    case 0xfdd0: // QTextDocument marks the edges of its frames by these two.
+    case 0xfdd0: // QTextDocument uses these two as frame markers.
     case 0xfdd1:
         return true;
     default:
@@ -37,7 +37,7 @@ bool hasLineEnd(const QString& text) {
     return std::any_of(text.begin(), text.end(), endsLine);
 }
 
-/// A format passes on to the next line as it is typed, so a line feed has to take the note away.
+/// A typed line inherits the format, so a line feed must clear the property.
 QTextBlockFormat formatAfter(const QString& end, QTextBlockFormat format) {
     if (end == u"\n") {
         format.clearProperty(lineEnd);
@@ -63,7 +63,7 @@ void insertExactly(QTextCursor& cursor, const QString& text) {
     cursor.endEditBlock();
 }
 
-/// From the cursor position `from` up to `to`.
+/// Between two cursor positions.
 QString exactText(const QTextDocument& document, int from, int to) {
     QString text;
     for (QTextBlock block = document.findBlock(from); block.isValid() && block.position() <= to;

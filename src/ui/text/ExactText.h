@@ -7,13 +7,12 @@
 
 namespace ravelo {
 
-/// Replaces the selection of a TextEdit without changing a character of `text`.
+/// Replaces the selection of a TextEdit and keeps every character of `text`.
 void replaceSelection(QQuickItem& edit, QQuickTextDocument& document, const QString& text);
 
-/// The text of a TextEdit to the character. TextEdit's own `text` has a blank for U+00A0 and a line
-/// feed for U+2028 and for everything that ends a line: CR, CRLF, U+2029, U+FDD0, U+FDD1. The
-/// document itself keeps the first two; which of the others began a line is noted in the line's
-/// format, so that undoing and redoing keep it too. Main thread.
+/// The exact text of a TextEdit. Its `text` has a space for U+00A0 and a line feed for U+2028 and
+/// for every line end: CR, CRLF, U+2029, U+FDD0, U+FDD1. The document keeps the first two; the line
+/// ends are stored in block formats, so undo and redo keep them too. Main thread.
 class ExactText : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -25,12 +24,12 @@ public:
 
     [[nodiscard]] QQuickTextDocument* document() const { return document_; }
 
-    /// Set once; it belongs to the TextEdit.
+    /// Set once; owned by the TextEdit.
     void setDocument(QQuickTextDocument* document);
 
     [[nodiscard]] QString text() const { return text_; }
 
-    /// Also forgets what could be undone.
+    /// Also clears the undo history.
     void setText(const QString& text);
 
     /// Between two cursor positions.

@@ -1,8 +1,8 @@
 import QtQuick
 import Ravelo.Text
 
-/// Lies over a text field: a press asks for the keyboard, the middle button pastes. Everything but
-/// the middle button goes on to the field.
+/// Overlays a text field: a press requests keyboard focus, the middle button pastes. All other
+/// buttons go on to the field.
 MouseArea {
     id: watch
 

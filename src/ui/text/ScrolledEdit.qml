@@ -1,18 +1,18 @@
 import QtQuick
 import Ravelo.Text
 
-/// Where text longer than its field scrolls; the caret stays in sight.
+/// Scrolls text that is longer than its field and keeps the caret visible.
 Flickable {
     id: view
 
     required property EditArea edit
-    /// How far the text begins below the top until it is scrolled.
+    /// Top margin of the text before it is scrolled.
     property real head: 0
 
     function showCaret() {
         const caret = edit.cursorRectangle;
         const highest = caret.y + caret.height - height;
-        const lowest = caret.y > 0 ? caret.y : -head; // The first line with all above it.
+        const lowest = caret.y > 0 ? caret.y : -head; // On the first line, show all above it.
         const wanted = Math.max(highest, Math.min(contentY, lowest));
         contentY = Math.max(-head, Math.min(wanted, contentHeight - height));
     }
@@ -24,7 +24,7 @@ Flickable {
     contentWidth: width
     contentHeight: Math.max(edit.implicitHeight, height - head)
 
-    // Once the height has changed, too.
+    // Also after the height has changed.
     Timer {
         id: later
         interval: 0

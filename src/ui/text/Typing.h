@@ -13,22 +13,21 @@ namespace ravelo {
 
 class Pasteboard;
 
-/// What can be undone in a window besides the changes in its text fields.
+/// What else can be undone in a window besides edits in its text fields.
 class UndoOffers {
 public:
     virtual ~UndoOffers() = default;
 
-    /// How many there have been.
+    /// Total number of offers so far.
     [[nodiscard]] virtual int offers() const = 0;
 
-    /// Undoes what is offered; false if nothing is.
+    /// Undoes the current offer; false if there is none.
     virtual bool act() = 0;
 };
 
-/// What the text fields of all windows of an engine need beyond themselves. It pastes: a field's
-/// own paste would read the clipboard on the main thread and hang for as long as its owner does not
-/// answer; this one asks and goes on. Others learn here when a window wants the keyboard, or has
-/// lost track of it. Main thread.
+/// What text fields of all windows of an engine share. Pasting: a field's own paste reads the
+/// clipboard on the main thread and blocks until the owner answers; this one is asynchronous. It
+/// also reports that a window wants keyboard focus, or has lost the focused item. Main thread.
 class Typing : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -39,29 +38,28 @@ public:
     enum Lines { OneLine, ManyLines };
     Q_ENUM(Lines)
 
-    /// Made before `engine` loads any field, and outlives it.
+    /// Must be created before `engine` loads any field and outlive it.
     Typing(Pasteboard& pasteboard, QQmlEngine& engine);
 
     static Typing* create(QQmlEngine* engine, QJSEngine* /*scripts*/);
 
-    /// Ctrl+Z in a field of `window` also undoes what `undo` offers. It outlives the window.
+    /// Ctrl+Z in a field of `window` also undoes what `undo` offers. `undo` outlives the window.
     void setUndo(const QQuickWindow& window, UndoOffers& undo) { undo_[&window] = &undo; }
 
-    /// Replaces the selection of `field` by the text on the pasteboard as soon as it arrives. A
-    /// field of one line (a TextInput) gets a space for each line break, one of many lines (a
-    /// TextEdit) gets the text as it is.
+    /// Replaces the selection of `field` with the pasteboard's text as soon as it arrives. In a
+    /// TextInput each line break becomes a space; a TextEdit gets the text unchanged.
     Q_INVOKABLE void paste(QQuickItem* field, ravelo::Typing::Lines lines);
 
-    /// Puts the text of a field on the pasteboard.
+    /// Puts a field's text on the pasteboard.
     Q_INVOKABLE void copy(const QString& text) { Q_EMIT copied(text); }
 
     /// The user is about to type into `item`.
     Q_INVOKABLE void wantKeyboard(QQuickItem* item) { Q_EMIT keyboardWanted(item->window()); }
 
-    /// What had the keyboard before `item` is gone: it goes where the window's content starts.
+    /// The item that had the focus before `item` is gone: focus the start of the window's content.
     Q_INVOKABLE void freeKeyboard(QQuickItem* item) { Q_EMIT keyboardFreed(item->window()); }
 
-    /// See UndoOffers, for the window of `item`.
+    /// The UndoOffers of the window of `item`.
     Q_INVOKABLE [[nodiscard]] int offers(QQuickItem* item) const;
     Q_INVOKABLE bool undo(QQuickItem* item);
 
@@ -75,7 +73,7 @@ private:
 
     Pasteboard& pasteboard_;
     int pastes_ = 0;
-    std::map<int, Handle> readings_; ///< By number; those up to the newest answer are settled.
+    std::map<int, Handle> readings_; ///< By number; those up to the latest answer are done.
     std::map<const QQuickWindow*, UndoOffers*> undo_;
 };
 

@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// The text cursor. Blinks while its field has the keyboard.
+/// The text cursor. Blinks while its field has the focus.
 Item {
     id: caret
 

@@ -11,20 +11,20 @@
 
 namespace ravelo {
 
-/// The first of some texts that share a line.
+/// The leading texts that fit on a line.
 struct Fit {
-    QList<double> widths; ///< Of those that are shown. One always is, if need be cut short.
+    QList<double> widths; ///< Of the shown texts; at least one, shortened if needed.
     qsizetype hidden = 0;
 
     friend bool operator==(const Fit&, const Fit&) = default;
 };
 
-/// What of texts of the given widths, `gap` apart, fits in `room`. Where some are hidden, as many
-/// as `restWidth` tells of their number stay free behind one more gap; without it nothing does.
+/// Fits texts of the given widths, `gap` apart, into `room`. If some are hidden, `restWidth`
+/// reserves space for their count, one gap further.
 [[nodiscard]] Fit fit(const QList<double>& widths, double room, double gap,
                       const std::function<double(qsizetype)>& restWidth = {});
 
-/// For a view: the texts that fit in a line of the width `room`.
+/// For a view: the texts that fit into a line of width `room`.
 class FittedTexts : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -32,8 +32,7 @@ class FittedTexts : public QObject {
     Q_PROPERTY(ravelo::TextStyle* style MEMBER style_ NOTIFY given)
     Q_PROPERTY(double room MEMBER room_ NOTIFY given)
     Q_PROPERTY(double gap MEMBER gap_ NOTIFY given)
-    /// Whether the line ends with the number of those that are hidden; otherwise they are shown
-    /// somewhere else.
+    /// The count of hidden texts is part of the line.
     Q_PROPERTY(bool countsRest MEMBER countsRest_ NOTIFY given)
 
     Q_PROPERTY(QList<double> widths READ widths NOTIFY fitted)
@@ -47,7 +46,7 @@ public:
 
     [[nodiscard]] int hidden() const { return static_cast<int>(fit_.hidden); }
 
-    /// "+2"; empty where nothing is hidden or it is not counted.
+    /// "+2"; empty if none is hidden or they are not counted.
     [[nodiscard]] QString rest() const;
 
 Q_SIGNALS:
@@ -58,7 +57,7 @@ private:
     void refit();
 
     QStringList texts_;
-    TextStyle* style_ = nullptr; ///< The theme's, which outlives every view.
+    TextStyle* style_ = nullptr; ///< Owned by the theme, which outlives every view.
     double room_ = 0;
     double gap_ = 0;
     bool countsRest_ = true;

@@ -5,8 +5,8 @@
 #include FT_FREETYPE_H
 #include FT_MODULE_H
 
-/// Qt's own instance of the library, which Qt exports but does not declare. Weak: a Qt without it
-/// still runs, with bolder text.
+/// Qt's own FreeType instance, exported but not declared. Weak, so that a Qt without it still
+/// works, with bolder text.
 // NOLINTNEXTLINE(readability-identifier-naming)
 __attribute__((weak)) FT_Library qt_getFreetype();
 

@@ -10,10 +10,10 @@
 
 namespace ravelo {
 
-/// Text as it is drawn.
+/// Laid out text.
 struct GlyphLine {
     struct Piece {
-        QGlyphRun glyphs; ///< Their base line at y 0.
+        QGlyphRun glyphs; ///< Baseline at y 0.
         double x = 0;
     };
 
@@ -41,7 +41,7 @@ void append(GlyphLine& line, const QString& text, const QFont& font, double cell
     line.width += cell > 0 ? cell : width;
 }
 
-/// Every digit in a cell as wide as "0".
+/// Gives every digit the width of "0".
 GlyphLine tabular(const QString& text, const QFont& font) {
     GlyphLine line;
     const double cell = QFontMetricsF(font).horizontalAdvance(u'0');
@@ -64,7 +64,7 @@ GlyphLine proportional(const QString& text, const QFont& font) {
     return line;
 }
 
-/// What stays of the end of a file's name: its suffix and a letter before it, as a rule.
+/// How much of a file name's end to keep: usually the suffix and one letter.
 QString endOf(const QString& name) {
     constexpr qsizetype length = 5;
     QTextBoundaryFinder letters(QTextBoundaryFinder::Grapheme, name);
@@ -93,7 +93,7 @@ void Label::componentComplete() {
 
 void Label::measure() {
     if (style_ == nullptr || !isComponentComplete()) {
-        return; // Once, not with every property that is set at the beginning.
+        return; // Once, not for every initial property.
     }
     natural_ = std::make_shared<const GlyphLine>(tabular_ ? tabular(text_, style_->font())
                                                           : proportional(text_, style_->font()));
@@ -124,7 +124,7 @@ QRectF Label::paintedRect() const {
     if (text_.isEmpty() || style_ == nullptr) {
         return {};
     }
-    return boundingRect().adjusted(-2, -1, 2, 1); // Letters may lean out of their line.
+    return boundingRect().adjusted(-2, -1, 2, 1); // Glyphs may overhang the line.
 }
 
 void Label::paint(QPainter& painter) {

@@ -11,11 +11,8 @@ namespace ravelo {
 
 struct GlyphLine;
 
-/// One line of plain text in a type style, elided where the item is too narrow, in a box as high as
-/// the style's line.
-///
-/// Stands in for Text, which knows neither lines of a fixed height nor digits of one width, and
-/// costs more.
+/// One line of plain text in a type style, elided if too narrow, as high as the style's line. Used
+/// instead of Text, which has neither fixed line heights nor digits of equal width, and costs more.
 class Label : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
@@ -23,10 +20,10 @@ class Label : public ravelo::PaintedItem {
     Q_PROPERTY(ravelo::TextStyle* style READ style WRITE setStyle NOTIFY contentChanged)
     Q_PROPERTY(QColor color MEMBER color_ NOTIFY changed)
     Q_PROPERTY(bool centred MEMBER centred_ NOTIFY contentChanged)
-    /// What is left out where it is too narrow is its middle, not its end.
+    /// Elide in the middle, not at the end.
     Q_PROPERTY(bool keepsEnd MEMBER keepsEnd_ NOTIFY contentChanged)
-    /// All digits as wide as "0", so that the text does not tremble as it counts. (Qt 6.4 cannot
-    /// ask a font for its tabular digits.)
+    /// Digits of equal width, so that a counter does not jitter. (Qt 6.4 cannot enable a font's
+    /// tabular digits.)
     Q_PROPERTY(bool tabular MEMBER tabular_ NOTIFY contentChanged)
 
 public:
@@ -50,13 +47,13 @@ private:
     [[nodiscard]] std::shared_ptr<const GlyphLine> elided() const;
 
     QString text_;
-    TextStyle* style_ = nullptr; ///< The theme's, which outlives every label.
+    TextStyle* style_ = nullptr; ///< Owned by the theme, which outlives every label.
     QColor color_ = Qt::white;
     bool centred_ = false;
     bool keepsEnd_ = false;
     bool tabular_ = false;
-    std::shared_ptr<const GlyphLine> natural_; ///< As wide as it wants to be.
-    std::shared_ptr<const GlyphLine> line_;    ///< As it is drawn; null if stale.
+    std::shared_ptr<const GlyphLine> natural_; ///< At its natural width.
+    std::shared_ptr<const GlyphLine> line_;    ///< As drawn; null if outdated.
 };
 
 } // namespace ravelo

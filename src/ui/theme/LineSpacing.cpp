@@ -38,7 +38,7 @@ void LineSpacing::apply() {
     if (!block.isValid()) {
         return;
     }
-    // One edit for all: at the end of each, the rest of the text is laid out.
+    // One edit block: each edit would lay out the rest of the text again.
     QTextCursor cursor(block);
     cursor.joinPreviousEditBlock();
     for (; block.isValid(); block = block.next()) {

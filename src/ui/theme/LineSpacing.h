@@ -6,7 +6,7 @@
 
 namespace ravelo {
 
-/// Gives every line of a document the same height, which TextEdit itself cannot.
+/// Gives every line of a document the same height, which TextEdit cannot do.
 class LineSpacing : public QObject {
     Q_OBJECT
     QML_ELEMENT

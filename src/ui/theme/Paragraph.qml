@@ -1,7 +1,7 @@
 import QtQuick
 import Ravelo.Theme
 
-/// Words in as many lines as they need, each as high as the style's line.
+/// Wrapped text with the style's line height.
 Text {
     id: paragraph
 
@@ -13,7 +13,7 @@ Text {
     font: style.font
     lineHeight: style.line
     lineHeightMode: Text.FixedHeight
-    // A fixed line is as high as said, but its base line is where the font has it.
+    // A fixed line height does not move the font's baseline.
     topPadding: style.baseLine(1) - metrics.ascent
     bottomPadding: -topPadding
 

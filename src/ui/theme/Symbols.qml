@@ -2,7 +2,7 @@ pragma Singleton
 
 import QtQuick
 
-/// Codes of the symbols in the icon font.
+/// Code points of the symbols in the icon font.
 QtObject {
     function code(symbol: string): string {
         return table[symbol] ?? table["doc.text"];

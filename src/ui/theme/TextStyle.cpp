@@ -10,7 +10,7 @@ double LineMetrics::baseLine(double devicePixelRatio) const {
     double up = std::round(ascent * devicePixelRatio);
     double down = std::round(descent * devicePixelRatio);
     if (devicePixelRatio > 1 && down < descent * devicePixelRatio) {
-        // Fine pixels show a descender that rounding cut off: it gets its room from above.
+        // At fractional scales rounding would cut off descenders: take the space from above.
         ++down;
         --up;
     }
@@ -19,7 +19,7 @@ double LineMetrics::baseLine(double devicePixelRatio) const {
 }
 
 TextStyle::TextStyle(QObject* parent) : QObject(parent), font_(QStringLiteral("Inter")) {
-    // Glyphs keep their widths, whatever the scale.
+    // Glyph widths do not depend on the scale.
     font_.setHintingPreference(QFont::PreferNoHinting);
 }
 

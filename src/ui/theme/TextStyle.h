@@ -6,18 +6,18 @@
 
 namespace ravelo {
 
-/// How a font sits in a line of a fixed height; logical pixels.
+/// How a font sits in a line of fixed height; logical pixels.
 struct LineMetrics {
     double ascent = 0;
     double descent = 0;
     double line = 0;
 
-    /// How far below the top of the line the base line lies: the font's ascent and descent in whole
-    /// device pixels, centred in the line.
+    /// Distance from the line's top to the baseline: ascent and descent in whole device pixels,
+    /// centred in the line.
     [[nodiscard]] double baseLine(double devicePixelRatio) const;
 };
 
-/// A type style of Inter, the only family: a font in a line of a fixed height.
+/// A type style: Inter, the only family, in a line of fixed height.
 class TextStyle : public QObject {
     Q_OBJECT
     QML_ELEMENT

@@ -3,9 +3,9 @@ pragma Singleton
 import QtQuick
 import Ravelo.Theme
 
-/// Every colour, measure, type style and duration of the look, once.
+/// Every colour, size, type style and duration.
 QtObject {
-    // White at a few fixed strengths does the work.
+    // White at a few fixed opacities.
     function white(strength: real): color {
         return Qt.rgba(1, 1, 1, strength);
     }
@@ -124,7 +124,7 @@ QtObject {
     readonly property color ringTrack: white(0.20)
     readonly property color scrollMark: white(0.26)
 
-    /// Where something so high stands in the middle of an item: on a device pixel, the lower of two.
+    /// Top of something of this height centred in an item, rounded down to a device pixel.
     function middle(outer: Item, height: real, devicePixelRatio: real): real {
         return Math.round((outer.height - height) / 2 * devicePixelRatio) / devicePixelRatio;
     }
@@ -133,7 +133,7 @@ QtObject {
         return reducedMotion ? 100 : duration;
     }
 
-    /// Also for how far something moves.
+    /// Also for movements.
     function move(duration: int): int {
         return reducedMotion ? 0 : duration;
     }
@@ -171,7 +171,7 @@ QtObject {
     readonly property real radiusTray: 16
     readonly property real radiusEditor: 14
 
-    /// Of a row in a list.
+    /// Of a list row.
     readonly property real rowHeight: 40
 
     // The panel.
@@ -179,11 +179,11 @@ QtObject {
     readonly property real insetSide: 34
     readonly property real insetBottom: 18
 
-    /// What lies behind a window shows through where it is transparent.
+    /// The background shows through transparent windows.
     property bool translucent: true
 
     // Motion, in milliseconds.
-    /// The desktop asks for less of it: nothing moves, and what comes or goes fades.
+    /// Requested by the desktop: nothing moves, things fade instead.
     property bool reducedMotion: false
     readonly property int opening: 60
     readonly property int hovering: 90
@@ -202,6 +202,6 @@ QtObject {
     readonly property int noticeIn: 300
     readonly property int noticeOut: 180
     readonly property int tooltipDelay: 500
-    /// A spring of response 0.5 s and damping 0.85.
+    /// A spring with response 0.5 s and damping 0.85.
     readonly property var spring: [0.226, 0.097, 0.255, 1.085, 1, 1]
 }

@@ -4,12 +4,12 @@ import Ravelo.Paint
 import Ravelo.Theme
 import Ravelo.Usage
 
-/// How much of the two windows of the plan is used.
+/// Usage of both windows of the plan.
 Box {
     id: block
 
     required property Usage usage
-    /// Side by side, with only how much time is left.
+    /// Side by side, with the remaining time only.
     required property bool compact
 
     readonly property real resetWidth: Math.max(session.wantedResetWidth, week.wantedResetWidth)

@@ -9,8 +9,7 @@ class NotchController;
 class PlanUsage;
 class Scheduler;
 
-/// How much of the plan is used, as the panel shows it. Follows it while the panel is open. Main
-/// thread.
+/// Plan usage as shown in the panel. Updated while the panel is open. Main thread.
 class Usage : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -20,7 +19,7 @@ class Usage : public QObject {
     Q_PROPERTY(bool shown READ isShown NOTIFY shownChanged)
 
 public:
-    /// All of it outlives this.
+    /// All outlive this.
     struct Services {
         PlanUsage& plan;
         const NotchController& controller;
@@ -34,10 +33,10 @@ public:
 
     [[nodiscard]] UsageLine week() const { return week_; }
 
-    /// Whether there is anything to show of it.
+    /// Whether to show it at all.
     [[nodiscard]] bool isShown() const;
 
-    /// Whether the tool is on this computer.
+    /// Whether Claude Code is installed.
     void setInstalled(bool installed);
 
     void refresh();

@@ -21,7 +21,7 @@ Q_ENUM_NS(Kind)
 
 // NOLINTEND(readability-identifier-naming)
 
-/// How one window of the plan is shown.
+/// One window of the plan, formatted.
 class UsageLine {
     Q_GADGET
     QML_VALUE_TYPE(usageLine)
@@ -31,17 +31,17 @@ class UsageLine {
     Q_PROPERTY(QString left MEMBER left)
     Q_PROPERTY(bool resetPassed MEMBER resetPassed)
     Q_PROPERTY(double fraction MEMBER fraction)
-    /// A UsageBand; as a number, for QML cannot take an enumeration from a value.
+    /// A UsageBand, as a number: QML cannot read an enum from a value type.
     Q_PROPERTY(int band READ bandNumber)
 
 public:
     bool known = false;
     QString percent;     ///< "42%"
-    QString reset;       ///< When it starts anew.
-    double fraction = 0; ///< Of the bar that is filled, 0 to 1.
+    QString reset;       ///< When it resets.
+    double fraction = 0; ///< Filled part of the bar, 0 to 1.
     UsageBand::Kind band = UsageBand::Low;
-    bool resetPassed = false; ///< It has started anew since; the percents are old.
-    QString left = {};        ///< `reset` in short: only how much time is left.
+    bool resetPassed = false; ///< It has reset since; the percentage is old.
+    QString left = {};        ///< Short form of `reset`: the remaining time only.
 
     [[nodiscard]] int bandNumber() const { return band; }
 

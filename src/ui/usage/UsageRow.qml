@@ -3,22 +3,22 @@ import Ravelo.Paint
 import Ravelo.Theme
 import Ravelo.Usage
 
-/// One window of the plan: name, how much is used, when it starts anew, and a bar.
+/// One window of the plan: name, percentage, reset time and a bar.
 Item {
     id: row
 
     required property string title
     required property usageLine usage
-    /// As wide as the widest of the block, so that the percents line up.
+    /// The widest in the block, so that the percentages line up.
     required property real resetWidth
-    /// Only how much time is left.
+    /// Show the remaining time only.
     required property bool compact
     readonly property real wantedResetWidth: compact ? reset.implicitWidth
                                                      : Math.max(90, reset.implicitWidth)
 
-    /// Empty unless the percents are from before the last reset.
+    /// Empty unless the percentage is older than the last reset.
     readonly property string staleText:
-        usage.resetPassed ? qsTr("%1 has reset since: %2 is from before").arg(title).arg(usage.percent) : ""
+        usage.resetPassed ? qsTr("%1 has reset; %2 is from before the reset").arg(title).arg(usage.percent) : ""
 
     Accessible.role: Accessible.StaticText
     Accessible.name: title + " " + usage.percent + " " + usage.reset

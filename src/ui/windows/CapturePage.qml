@@ -1,7 +1,7 @@
 import QtQuick
 import Ravelo.Windows
 
-/// What becomes of a copy.
+/// What is captured, and how.
 Column {
     id: page
 

@@ -3,7 +3,7 @@ import Ravelo.Controls
 import Ravelo.Theme
 import Ravelo.Windows
 
-/// How the program starts and looks, and what is stored.
+/// Start, look and storage.
 Column {
     id: page
 
@@ -59,7 +59,7 @@ Column {
 
         SettingRow {
             objectName: "widthRow"
-            text: qsTr("Width: %1").arg(Math.round(page.settings.panelWidth))
+            text: qsTr("Width: %1").arg(String(Math.round(page.settings.panelWidth)))
 
             Slider {
                 objectName: "panelWidth"

@@ -3,7 +3,7 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// One of several answers, of which one holds.
+/// A radio button with a symbol and a description.
 Pressable {
     id: option
 

@@ -5,7 +5,7 @@ import Ravelo.Controls
 import Ravelo.Theme
 import Ravelo.Windows
 
-/// The second step: how the bar is laid out. Each answer takes effect at once.
+/// The second step: the layout of the bar. Choices apply at once.
 FocusScope {
     id: step
 
@@ -24,7 +24,7 @@ FocusScope {
             detail: qsTr("iMac, Mac mini, older MacBooks, external display")
         }
     ]
-    /// Whatever else is stored counts as the first.
+    /// Any unknown value counts as the first option.
     readonly property int current: Math.max(0, kinds.findIndex(one => one.value === settings.macType))
 
     function moveTo(index: int) {

@@ -1,7 +1,7 @@
 import QtQuick
 import Ravelo.Windows
 
-/// What concerns other programs.
+/// Settings about other programs.
 Column {
     id: page
 
@@ -17,7 +17,7 @@ Column {
         SwitchRow {
             preference: "hideClaudeCode"
             text: qsTr("Hide Claude Code where it is not installed")
-            note: qsTr("Its rows in the panel and its line in the tooltip of the tray.")
+            note: qsTr("Its rows in the panel and its line in the tray tooltip.")
             on: page.settings.hideClaudeCode
             onToggled: on => page.settings.hideClaudeCode = on
         }

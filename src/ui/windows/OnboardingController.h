@@ -11,8 +11,8 @@ namespace ravelo {
 
 class Screens;
 
-/// The first-run setup. Its window exists from `show` until it is finished or closed; closed, setup
-/// is still to be done. Main thread.
+/// The first-run setup. The window exists from `show` until it is finished or closed; closing it
+/// does not finish the setup. Main thread.
 class OnboardingController : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -21,21 +21,21 @@ class OnboardingController : public QObject {
     Q_PROPERTY(bool hasNotch READ hasNotch NOTIFY hasNotchChanged)
 
 public:
-    /// All outlive it.
+    /// All outlive this.
     OnboardingController(TitledWindow::Beside beside, AppSettings& settings, Screens& screens);
     ~OnboardingController() override;
 
     [[nodiscard]] AppSettings* settings() const { return &settings_; }
 
-    /// Whether the main screen has a camera housing.
+    /// The main screen has a camera housing.
     [[nodiscard]] bool hasNotch() const;
 
     void show();
 
-    /// Null while there is none.
+    /// Null if not shown.
     [[nodiscard]] TitledWindow* window() const { return window_; }
 
-    /// The user is done with it, for good.
+    /// Finishes the setup for good.
     Q_INVOKABLE void finish();
 
 Q_SIGNALS:
@@ -47,7 +47,7 @@ private:
     TitledWindow::Beside beside_;
     AppSettings& settings_;
     Screens& screens_;
-    TitledWindow* window_ = nullptr; ///< Owned. Not deleted at once: what closes it is in it.
+    TitledWindow* window_ = nullptr; ///< Owned. Deleted later, because its own events close it.
     Handle screensMonitor_;
 };
 

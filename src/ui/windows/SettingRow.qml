@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// What is set, at the right what sets it, and perhaps below it what it does.
+/// A setting: label, control at the right, and optionally a note below.
 Item {
     id: row
 

@@ -2,7 +2,7 @@ import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// A heading over a block of rows.
+/// A heading and a block of rows.
 Column {
     id: section
 

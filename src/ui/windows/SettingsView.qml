@@ -3,7 +3,7 @@ import Ravelo.Controls
 import Ravelo.Theme
 import Ravelo.Windows
 
-/// The settings window's content. Every control changes its preference at once.
+/// Content of the settings window. Changes apply at once.
 TitledPage {
     id: view
 

@@ -12,7 +12,7 @@
 
 namespace ravelo {
 
-/// The settings window: made at the first use and kept. Closed, it is hidden. Main thread.
+/// The settings window: created at first use, hidden when closed. Main thread.
 class SettingsWindow : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -21,12 +21,12 @@ class SettingsWindow : public QObject {
     Q_PROPERTY(int clipCount READ clipCount NOTIFY clipsChanged)
 
 public:
-    /// All of it outlives the window.
+    /// All outlive this.
     struct Subjects {
         TitledWindow::Beside beside;
         Store& store;
         AppSettings& settings;
-        std::function<void()> quit; ///< Ends the program, later than at once.
+        std::function<void()> quit; ///< Quits the program, asynchronously.
     };
 
     explicit SettingsWindow(Subjects subjects);
@@ -38,7 +38,7 @@ public:
 
     void show();
 
-    /// Null before the first use.
+    /// Null before first use.
     [[nodiscard]] TitledWindow* window() const { return window_.get(); }
 
     Q_INVOKABLE void clearClips() { subjects_.store.clearClips(); }

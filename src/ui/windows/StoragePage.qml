@@ -17,7 +17,7 @@ Column {
 
         SettingRow {
             text: qsTr("History length")
-            note: qsTr("Pinned clips stay. A shorter one counts from the next copy.")
+            note: qsTr("Pinned clips stay. A shorter limit applies from the next copy.")
 
             ValueButton {
                 objectName: "historyLength"

@@ -2,12 +2,12 @@ import QtQuick
 import Ravelo.Controls
 import Ravelo.Windows
 
-/// Something that is on or off.
+/// A setting that is on or off.
 SettingRow {
     id: row
 
     property alias on: toggle.on
-    /// Of the switch, for those that look for it.
+    /// Object name of the switch.
     required property string preference
 
     signal toggled(bool on)

@@ -3,20 +3,20 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// What fills a window of our own: a strip with its title, by which it is moved, a button that closes
-/// it, and what is put below, over a shadow where there is room for one.
+/// Frame of our windows: a title strip to move it by, a close button, the content, and a shadow if
+/// there is room.
 FocusScope {
     id: page
 
     required property string title
-    /// The window without the room for its shadow.
+    /// The window without the margin for its shadow.
     required property rect frame
     default property alias content: body.data
 
     focus: true
     Keys.onEscapePressed: Window.window.close()
 
-    // In little room it is smaller as a whole, so that nothing of it is cut off.
+    // Scaled down as a whole if space is short, so that nothing is cut off.
     Shadow {
         readonly property real part: page.frame.x / 72
 
@@ -43,7 +43,7 @@ FocusScope {
             lineWidth: 1
         }
 
-        // Before the strip: by Tab its button comes last.
+        // Before the strip, so that the close button is last in tab order.
         Item {
             id: body
             anchors.fill: parent
@@ -55,7 +55,7 @@ FocusScope {
             width: parent.width
             height: 40
 
-            // Holds on to nothing: the desktop has the pointer from here on, and no release comes.
+            // Releases the grab: the desktop takes over the pointer, and no release event follows.
             MouseArea {
                 anchors.fill: parent
                 onPressed: mouse => {

@@ -14,10 +14,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// How far the shadow reaches: as far as it is blurred, and it is cast downwards.
+/// Extent of the shadow: its blur, shifted down.
 constexpr QMargins shadowReach(72, 72 - 24, 72, 72 + 24);
 
-/// The room for the shadow; less of it, down to none, where the screen has not that much.
+/// The margin for the shadow, reduced if the screen is too small, down to none.
 QMargins roomAround(QSize frame, QSize screen) {
     const QSize spare = screen - frame;
     const double across = double(spare.width()) / (shadowReach.left() + shadowReach.right());
@@ -66,7 +66,7 @@ void TitledWindow::fit() {
     setMinimumSize(size);
     setMaximumSize(size);
     resize(size);
-    if (isVisible() && before.topLeft() != inside_.topLeft()) { // The frame stays where it is.
+    if (isVisible() && before.topLeft() != inside_.topLeft()) { // Keep the frame in place.
         setPosition(position() + (before.topLeft() - inside_.topLeft()).toPoint());
     }
     if (frame_) {
@@ -77,9 +77,9 @@ void TitledWindow::fit() {
     }
 }
 
-/// What neither the desktop's bars nor the closed panel cover.
+/// Screen area not covered by the desktop's bars or the closed panel.
 QRect TitledWindow::free() const {
-    constexpr int highestBar = 100; // An open panel will have closed.
+    constexpr int highestBar = 100; // Taller panels are open, and will have closed by then.
     QRect room = panel_.screen()->availableGeometry();
     if (panel_.isVisible() && panel_.height() <= highestBar) {
         room.setTop(std::max(room.top(), panel_.y() + panel_.height()));
@@ -90,7 +90,8 @@ QRect TitledWindow::free() const {
 void TitledWindow::place() {
     QRectF frame = inside_;
     frame.moveCenter(QRectF(panel_.screen()->availableGeometry()).center());
-    frame.moveTop(std::max(frame.top(), qreal(free().top()))); // With its title, in little room.
+    // The title stays visible if space is short.
+    frame.moveTop(std::max(frame.top(), qreal(free().top())));
     setPosition((frame.topLeft() - inside_.topLeft()).toPoint());
 }
 
@@ -99,7 +100,7 @@ void TitledWindow::bringToFront() {
             Qt::UniqueConnection);
     fit();
     if (isVisible()) {
-        showNormal(); // It may have been minimised.
+        showNormal(); // Restores it if minimised.
         raise();
     } else {
         place();

@@ -6,28 +6,25 @@
 
 namespace ravelo {
 
-/// A window beside the panel: the desktop manages it like any other, but its title strip and its
-/// shadow are our own, and only the screen decides its size. Closing it never ends the program.
-/// Main thread.
+/// A normal window managed by the desktop, but with our own title strip and shadow. Its size is
+/// limited only by the screen. Closing it never quits the program. Main thread.
 class TitledWindow : public QQuickView {
     Q_OBJECT
 
 public:
-    /// What the windows have in common; the panel outlives them.
+    /// Shared by all windows; the panel outlives them.
     struct Beside {
-        QQuickView& panel;              ///< They share its QML engine and open on its screen.
-        MakeWindowFrame makeFrame = {}; ///< Without one they have no shadow.
+        QQuickView& panel;              ///< Shares its QML engine and screen.
+        MakeWindowFrame makeFrame = {}; ///< If unset, no shadow.
     };
 
-    /// `size` is that of its frame, in logical pixels; on a screen without room for it the window
-    /// is smaller.
+    /// `size` is the frame's, in logical pixels; the window is smaller if the screen is.
     TitledWindow(const Beside& beside, const QString& title, QSize size);
 
-    /// `page` is a file of our QML module; it gets `host` as its property and `title`.
+    /// `page` is a file of this QML module; it gets the properties `host` and `title`.
     void load(const QString& page, QObject* host);
 
-    /// Shows it in the middle of the screen, or where it is already, before all others and with the
-    /// keyboard, if the desktop lets it.
+    /// Shows it centred, or where it already is, on top and focused if the desktop allows it.
     void bringToFront();
 
 Q_SIGNALS:
@@ -40,7 +37,7 @@ private:
 
     QQuickView& panel_;
     QSize wanted_;
-    QRectF inside_; ///< The window's frame within the window.
+    QRectF inside_; ///< The frame within the window.
     std::unique_ptr<WindowFrame> frame_;
     Handle translucency_;
 };

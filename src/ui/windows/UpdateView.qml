@@ -4,7 +4,7 @@ import Ravelo.Paint
 import Ravelo.Theme
 import Ravelo.Windows
 
-/// What looking for an update has come to, and what can be done about it.
+/// State of the update and its actions.
 TitledPage {
     id: view
 
@@ -12,7 +12,7 @@ TitledPage {
 
     readonly property Updater updater: host.updater
 
-    // Unless another button has the keyboard.
+    // Unless another button has the focus.
     Keys.onReturnPressed: press()
     Keys.onEnterPressed: press()
 

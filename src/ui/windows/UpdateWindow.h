@@ -10,8 +10,7 @@
 
 namespace ravelo {
 
-/// The window that tells of updates: made at the first use and kept. Closed, it is hidden. Main
-/// thread.
+/// The update window: created at first use, hidden when closed. Main thread.
 class UpdateWindow : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -19,13 +18,13 @@ class UpdateWindow : public QObject {
     Q_PROPERTY(ravelo::Updater* updater READ updater CONSTANT)
 
 public:
-    /// Both outlive it.
+    /// Both outlive this.
     UpdateWindow(TitledWindow::Beside beside, Updater& updater);
     ~UpdateWindow() override;
 
     [[nodiscard]] Updater* updater() const { return &updater_; }
 
-    /// Shows it, and looks for updates unless it does so or installs one.
+    /// Shows it and checks for updates, unless that or an installation is in progress.
     void show();
 
 private:

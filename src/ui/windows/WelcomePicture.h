@@ -4,8 +4,7 @@
 
 namespace ravelo {
 
-/// What the program does in one small picture: a desktop with the panel open at its top edge. Drawn
-/// for 320 x 186 logical pixels.
+/// Illustration of a desktop with the panel open, drawn for 320 x 186 logical pixels.
 class WelcomePicture : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT

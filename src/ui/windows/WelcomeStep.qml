@@ -19,7 +19,7 @@ FocusScope {
         height: start.y - y - 8
         contentHeight: line.y + line.height
 
-        /// In a low window the picture is smaller, so that the words are seen.
+        /// The picture shrinks in a low window, so that the text stays visible.
         readonly property real part: Math.max(0.5, Math.min(1, (height - 122) / 222))
 
         WelcomePicture {

@@ -1,10 +1,6 @@
-// A copy that was too large to keep, as the panel shows it.
-
 #include "panel_fixture/PanelFixture.h"
 
 namespace ravelo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -21,13 +17,15 @@ protected:
     QString part(int row, const QString& name) {
         return property(u"card%1"_s.arg(row), name, "text").toString();
     }
+
+    [[nodiscard]] Clips& tab() { return *view.features().clips; }
 };
 
 TEST_F(TooLargeRow, comesBelowThePinnedOnesAndTakesNoDigit) {
     open();
-    view.features().clips->showTooLarge(largeText);
+    tab().showTooLarge(largeText);
     view.window().grabWindow();
-    EXPECT_EQ(view.features().toast.text(), u"Too large to keep · 14.2 MB of text"_s);
+    EXPECT_EQ(toast(), u"Too large to keep · 14.2 MB of text"_s);
     EXPECT_EQ(part(1, u"title"_s), u"Too large to keep"_s);
     EXPECT_EQ(part(1, u"subtitle"_s), u"Text of 14.2 MB, the limit is 8 MB · just now"_s);
     QStringList digits;
@@ -43,33 +41,31 @@ TEST_F(TooLargeRow, comesBelowThePinnedOnesAndTakesNoDigit) {
 }
 
 TEST_F(TooLargeRow, isNeverCopiedAndGoesByItsButtonByDeleteAndWithThePanel) {
-    view.features().clips->showTooLarge(largeText);
-    EXPECT_EQ(view.features().toast.text(), QString()) << "nobody would see it";
-    open();
-    clickOn(u"searchInput"_s);
+    tab().showTooLarge(largeText);
+    EXPECT_EQ(toast(), QString()) << "nobody would see it";
+    openSearch();
     press(Qt::Key_Down);
     press(Qt::Key_Return);
     EXPECT_TRUE(world.controller.isOpen());
     press(Qt::Key_Delete);
-    EXPECT_EQ(view.features().clips->list()->count(), 3);
+    EXPECT_EQ(tab().list()->count(), 3);
     EXPECT_EQ(world.store.clips().size(), 3);
 
-    view.features().clips->showTooLarge(largeText);
-    view.features().clips->showTooLarge({Measure::bytesOfImage, 80 << 20});
-    EXPECT_EQ(view.features().clips->list()->count(), 4) << "the newest replaces the one before";
+    tab().showTooLarge(largeText);
+    tab().showTooLarge({Measure::bytesOfImage, 80 << 20});
+    EXPECT_EQ(tab().list()->count(), 4) << "the newest replaces the one before";
     view.window().grabWindow();
-    const QQuickItem* card = item(u"card1"_s);
-    send(view.window(), QEvent::MouseMove, card->mapToScene({400, 20}));
+    const QQuickItem* card = hover(u"card1"_s);
     EXPECT_FALSE(find(card, u"pin"_s)->isVisible());
     click(view.window(), find(card, u"delete"_s)->mapToScene({12, 12}));
-    EXPECT_EQ(view.features().clips->list()->count(), 3);
+    EXPECT_EQ(tab().list()->count(), 3);
 
-    view.features().clips->showTooLarge(largeText);
+    tab().showTooLarge(largeText);
     close();
-    EXPECT_EQ(view.features().clips->list()->count(), 3) << "it has been seen";
-    view.features().clips->showTooLarge(largeText);
+    EXPECT_EQ(tab().list()->count(), 3) << "it has been seen";
+    tab().showTooLarge(largeText);
     world.store.clearClips();
-    EXPECT_EQ(view.features().clips->list()->count(), 1);
+    EXPECT_EQ(tab().list()->count(), 1);
 }
 
 TEST_F(Panel, copiesTheFirstClipByReturnAlsoBelowATooLargeOne) {

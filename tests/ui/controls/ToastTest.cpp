@@ -9,38 +9,36 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct ToastCase {
-    const char* name;
-    QList<double> flashes;
-    QList<std::pair<double, bool>> seen; ///< When, and whether it is there.
-};
+TEST(Toast, endsWithTheFirstEndThatComes) {
+    struct Case {
+        const char* name;
+        QList<double> flashes;
+        QList<std::pair<double, bool>> shown; ///< At these times.
+    };
 
-class ToastTime : public testing::TestWithParam<ToastCase> {};
-
-TEST_P(ToastTime, endsWithTheFirstEndThatComes) {
-    ManualScheduler scheduler;
-    Toast toast(scheduler);
-    std::vector<Handle> flashes;
-    for (const double time : GetParam().flashes) {
-        flashes.push_back(scheduler.after(Seconds(time), [&] { toast.flashCopied(); }));
-    }
-    double now = 0;
-    for (const auto& [time, there] : GetParam().seen) {
-        scheduler.advance(Seconds(time - now));
-        now = time;
-        EXPECT_EQ(toast.text(), there ? u"Copied ✓"_s : QString()) << time;
+    const Case cases[] = {
+        {"one", {1}, {{0.9, false}, {1.05, true}, {2.05, true}, {2.15, false}}},
+        {"two at once", {1, 1.5}, {{2.05, true}, {2.15, false}, {3, false}}},
+        {"the second's end removes the third",
+         {1, 1.5, 2.2},
+         {{2.15, false}, {2.25, true}, {2.55, true}, {2.65, false}}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        ManualScheduler scheduler;
+        Toast toast(scheduler);
+        std::vector<Handle> flashes;
+        for (const double time : c.flashes) {
+            flashes.push_back(scheduler.after(Seconds(time), [&] { toast.flashCopied(); }));
+        }
+        double now = 0;
+        for (const auto& [time, shown] : c.shown) {
+            scheduler.advance(Seconds(time - now));
+            now = time;
+            EXPECT_EQ(toast.text(), shown ? u"Copied ✓"_s : QString()) << time;
+        }
     }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, ToastTime,
-    testing::Values(
-        ToastCase{"one", {1}, {{0.9, false}, {1.05, true}, {2.05, true}, {2.15, false}}},
-        ToastCase{"twoAtOnce", {1, 1.5}, {{2.05, true}, {2.15, false}, {3, false}}},
-        ToastCase{"theSecondsEndTakesTheThird",
-                  {1, 1.5, 2.2},
-                  {{2.15, false}, {2.25, true}, {2.55, true}, {2.65, false}}}),
-    [](const auto& row) { return row.param.name; });
 
 TEST(Toast, anOfferStaysTenSecondsBelowMessages) {
     ManualScheduler scheduler;

@@ -4,8 +4,6 @@
 
 namespace ravelo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 TEST_F(Panel, startsAndStopsATimerByItsControls) {

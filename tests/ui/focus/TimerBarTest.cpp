@@ -1,13 +1,9 @@
-// The closed panel as a bar: the figure of the timer, and what of the reminders fits.
-
 #include "panel_fixture/PanelFixture.h"
 #include "support/Told.h"
 #include "timer/TimerString.h"
 #include "ui/theme/FittedTexts.h"
 
 namespace ravelo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -32,7 +28,7 @@ protected:
     QStringList figures_;
 };
 
-TEST_F(ShownTimer, tellsEveryFigureOnceAndAtItsTime) {
+TEST_F(ShownTimer, showsEveryFigureOnceAndInTime) {
     for (const double length : {90.4, 60.0, 2.9996, 0.4, 3601.2, 0.0}) {
         figures_.clear();
         QStringList expected;
@@ -42,7 +38,7 @@ TEST_F(ShownTimer, tellsEveryFigureOnceAndAtItsTime) {
         store_.startTimer({}, length / 60);
         while (store_.timerRunning()) {
             const double left = store_.timerRemaining();
-            // The figure may be late by so much.
+            // The figure may be late by this much.
             const QStringList right = {timerString(Seconds(left)),
                                        timerString(Seconds(left + 0.002))};
             EXPECT_TRUE(right.contains(face_.remaining()))
@@ -56,8 +52,8 @@ TEST_F(ShownTimer, tellsEveryFigureOnceAndAtItsTime) {
     }
 }
 
-TEST_F(ShownTimer, doesNothingWhileNobodyLooks) {
-    scheduler_.advance(Seconds(10)); // All else has come to rest.
+TEST_F(ShownTimer, sleepsWhileHidden) {
+    scheduler_.advance(Seconds(10)); // Everything else is at rest.
     const int atRest = scheduler_.pending();
     store_.startTimer({}, 1);
     EXPECT_EQ(scheduler_.pending(), atRest + 2) << "the timer's end and the next figure";
@@ -72,7 +68,7 @@ TEST_F(ShownTimer, doesNothingWhileNobodyLooks) {
     EXPECT_EQ(scheduler_.pending(), atRest) << "no timer, nothing to wait for";
 }
 
-// The gap is 10; the number of the hidden takes 5 for each of its digits.
+// Gap 10; each digit of the hidden count is 5 wide.
 TEST(FittingTexts, showsAsManyAsThereIsRoomFor) {
     struct Case {
         const char* name;
@@ -137,7 +133,7 @@ private:
     }
 };
 
-TEST_F(Bar, takesTheHandlesPlaceWhileThereIsSomethingToShow) {
+TEST_F(Bar, replacesTheHandleWhileThereIsSomethingToShow) {
     const auto seen = [this](const QString& name) {
         return find(view.window().contentItem(), name)->isVisible();
     };
@@ -167,7 +163,7 @@ TEST_F(Bar, isSharedByTimerAndReminders) {
     EXPECT_EQ(texts(u"right"_s), QStringList{u"25:00"_s});
 }
 
-TEST_F(Bar, leavesNotchAndOtherSideAloneHoweverLongTheTexts) {
+TEST_F(Bar, leavesNotchAndOtherSideFreeForAnyText) {
     const QString longText = QString(200, u'w');
     world.store.startTimer(longText, 25);
     for (const QString& notch : {u"none"_s, u"notch"_s}) {
@@ -182,7 +178,7 @@ TEST_F(Bar, leavesNotchAndOtherSideAloneHoweverLongTheTexts) {
     }
 }
 
-TEST_F(Bar, isLitForFiveSecondsAfterTheTimersEnd) {
+TEST_F(Bar, isHighlightedForFiveSecondsAfterTheTimersEnd) {
     const auto bar = [this] {
         return find(view.window().contentItem(), u"bar"_s);
     };
@@ -212,7 +208,7 @@ TEST_F(Bar, isLitForFiveSecondsAfterTheTimersEnd) {
     EXPECT_FALSE(bar()->isVisible()) << "stopped by hand";
 }
 
-TEST_F(Bar, doesNotCountWhileItIsNotOnTheScreen) {
+TEST_F(Bar, doesNotCountWhileHidden) {
     world.store.startTimer(u"work"_s, 25);
     show({});
     const Told told(view.features().focus.face(), &TimerFace::changed);

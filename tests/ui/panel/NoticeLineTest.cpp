@@ -1,5 +1,3 @@
-// The notice under the tabs.
-
 #include "panel_fixture/PanelFixture.h"
 
 #include <QAccessible>
@@ -31,8 +29,7 @@ TEST_F(Panel, showsANoticeOnEveryTabAndMovesTheContentDown) {
 }
 
 TEST_F(Panel, f6GoesToTheNoticeAndBack) {
-    open();
-    clickOn(u"searchInput"_s);
+    openSearch();
     press(Qt::Key_F6);
     EXPECT_TRUE(item(u"searchInput"_s)->hasActiveFocus()) << "there is no notice";
     world.notices.saveFailed(store, u"the disk is full"_s);
@@ -50,7 +47,7 @@ TEST_F(Panel, f6GoesToTheNoticeAndBack) {
     EXPECT_TRUE(item(u"searchInput"_s)->hasActiveFocus()) << "the button is gone";
 }
 
-TEST_F(Panel, tellsAScreenReaderWhatKindOfNoticeItIs) {
+TEST_F(Panel, hasAnAccessibleRoleAndName) {
     world.notices.putAside(store, u"/data/store.json.unreadable"_s);
     open();
     const auto spoken = [this] {

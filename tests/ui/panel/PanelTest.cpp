@@ -1,10 +1,6 @@
-// The whole panel on the in-memory platform: its opening and closing, and what belongs to no tab.
-
 #include "panel_fixture/PanelFixture.h"
 
 namespace ravelo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,7 +21,7 @@ TEST_F(Panel, hasItsNextContentReadySoonAfterItCloses) {
     EXPECT_TRUE(view.features().state.hasContent());
     EXPECT_EQ(view.features().state.contentSize(), QSizeF(927, 560));
     EXPECT_EQ(find(view.window().contentItem(), u"panel"_s)->size(), QSizeF(927, 560))
-        << "hidden content must not be laid out anew at the opening";
+        << "hidden content must not need a new layout at the opening";
 }
 
 TEST_F(Panel, opensAlsoBeforeItsContentIsBuilt) {
@@ -35,16 +31,16 @@ TEST_F(Panel, opensAlsoBeforeItsContentIsBuilt) {
     EXPECT_NE(shown(u"card0"_s), nullptr);
 }
 
-TEST_F(Panel, tellsDatesAnewAtTheOpening) {
+TEST_F(Panel, updatesDatesAtTheOpening) {
     open();
     rebuild();
-    view.window().grabWindow(); // The hidden rows exist by now.
+    view.window().grabWindow(); // Creates the hidden rows.
     world.scheduler.advance(Seconds(3 * 3600));
     open();
     EXPECT_EQ(find(item(u"card0"_s), u"subtitle"_s)->property("text"), u"3 hr. ago"_s);
 }
 
-TEST_F(Panel, letsAgesGoOnWhileItIsOpen) {
+TEST_F(Panel, updatesDatesWhileItIsOpen) {
     const auto age = [this] {
         return find(item(u"card0"_s), u"subtitle"_s)->property("text").toString();
     };
@@ -64,7 +60,7 @@ TEST_F(Panel, letsAgesGoOnWhileItIsOpen) {
     EXPECT_EQ(world.scheduler.pending(), atRest) << "nobody sees them";
 }
 
-TEST_F(Panel, tellsHowMuchOfThePlanIsUsed) {
+TEST_F(Panel, showsPlanUsage) {
     const auto percents = [this] {
         return property(u"usageSession"_s, u"percent"_s, "text").toString() + u' ' +
                property(u"usageWeek"_s, u"percent"_s, "text").toString();
@@ -81,8 +77,7 @@ TEST_F(Panel, tellsHowMuchOfThePlanIsUsed) {
 }
 
 TEST_F(Panel, startsAnewAtEachOpening) {
-    open();
-    clickOn(u"searchInput"_s);
+    openSearch();
     type(u"second"_s);
     clickOn(u"trash"_s);
     rebuild();
@@ -112,9 +107,7 @@ TEST_F(Panel, opensItsLastTabAgain) {
                                          {u"Shelf"_s, u"dropCard"_s},
                                          {QString(), u"list"_s},
                                          {u"Sketches"_s, u"list"_s}}) {
-        world.settings.setLastTab(lastTab);
-        rebuild();
-        open();
+        openTab(lastTab);
         EXPECT_NE(shown(shows), nullptr) << qPrintable(lastTab);
     }
 }

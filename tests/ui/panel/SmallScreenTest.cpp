@@ -1,12 +1,8 @@
-// The panel on a screen that is too small for all of it: what is above the tabs scrolls away.
+// The panel on a small screen: what is above the tabs scrolls away.
 
 #include "panel_fixture/PanelFixture.h"
 
-#include <QWheelEvent>
-
 namespace ravelo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -37,18 +33,14 @@ public:
 
     double top(const QString& name) { return item(name)->mapToScene(QPointF(0, 0)).y(); }
 
-    /// Turns the wheel, in notches down, over the middle of an element.
+    /// Positive notches scroll down.
     void turn(const QString& over, int notches) {
         const QPointF place = item(over)->mapToScene(item(over)->boundingRect().center());
         for (int i = 0; i < std::abs(notches); ++i) {
-            QWheelEvent event(place, view.window().mapToGlobal(place), {},
-                              {0, notches > 0 ? -120 : 120}, Qt::NoButton, Qt::NoModifier,
-                              Qt::NoScrollPhase, false);
-            QCoreApplication::sendEvent(&view.window(), &event);
+            turnWheel(view.window(), place, notches > 0 ? -120 : 120);
         }
     }
 
-    /// Whether this many of the head's pixels are gone before long.
     bool tabsAt(double place) {
         return eventually([&] { return std::abs(top(u"tabs"_s) - place) < 0.5; });
     }

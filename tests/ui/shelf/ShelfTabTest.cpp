@@ -1,5 +1,3 @@
-// The shelf in the panel: what it shows, and what hands and keys do to the files on it.
-
 #include "panel_fixture/PanelFixture.h"
 #include "ui/shelf/DragSourceView.h"
 #include "ui/shelf/ShelfLayout.h"
@@ -18,6 +16,26 @@ QUrl file(const QString& name) {
 class ShelfTab : public Panel {
 protected:
     ShelfTab() { world.settings.setLastTab(u"Shelf"_s); }
+
+    /// A file that exists, until it is removed.
+    QUrl create(const QString& name) {
+        QFile file(world.folder.filePath(name));
+        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
+        return QUrl::fromLocalFile(file.fileName());
+    }
+
+    void parkFile(const QUrl& url) { world.store.addToShelf({url}); }
+
+    /// The devices in reach.
+    void answer(const QList<NearbyDevice>& devices) {
+        world.devices.answer(devices);
+        world.scheduler.advance(Seconds(0.1));
+    }
+
+    void send() {
+        clickOn(u"airdrop"_s);
+        world.scheduler.advance(Seconds(0.1));
+    }
 
     /// Files "0", "1" and so on.
     void park(int first, int last) {
@@ -113,24 +131,27 @@ TEST_P(ShelfRequest, showsTheShelf) {
     EXPECT_EQ(world.settings.lastTab(), u"Shelf"_s);
 }
 
+void dragFiles(PanelWorld& world) {
+    world.drags.begin(true);
+    world.controller.onDragEnter();
+}
+
+void openCloseAndDragFiles(PanelWorld& world) {
+    world.controller.positionExpanded();
+    world.controller.collapse();
+    dragFiles(world);
+}
+
+void openAndRequest(PanelWorld& world) {
+    world.controller.positionExpanded();
+    world.store.requestShelf();
+}
+
 INSTANTIATE_TEST_SUITE_P(All, ShelfRequest,
-                         testing::Values(RequestCase{"whileClosed",
-                                                     [](PanelWorld& world) {
-                                                         world.drags.begin(true);
-                                                         world.controller.onDragEnter();
-                                                     }},
+                         testing::Values(RequestCase{"whileClosed", dragFiles},
                                          RequestCase{"beforeTheContentIsBuilt",
-                                                     [](PanelWorld& world) {
-                                                         world.controller.positionExpanded();
-                                                         world.controller.collapse();
-                                                         world.drags.begin(true);
-                                                         world.controller.onDragEnter();
-                                                     }},
-                                         RequestCase{"whileOpen",
-                                                     [](PanelWorld& world) {
-                                                         world.controller.positionExpanded();
-                                                         world.store.requestShelf();
-                                                     }}),
+                                                     openCloseAndDragFiles},
+                                         RequestCase{"whileOpen", openAndRequest}),
                          [](const auto& row) { return row.param.name; });
 
 TEST_F(ShelfTab, lightsUpAndForgetsTheSelectionWhileFilesAreDraggedOverIt) {
@@ -204,9 +225,7 @@ TEST_F(ShelfTab, opensAFileOrItsFolderByItsMenu) {
 }
 
 TEST_F(ShelfTab, leavesFilesThatAreGoneOutOfADrag) {
-    QFile there(world.folder.filePath(u"there"_s));
-    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
-    const QUrl kept = QUrl::fromLocalFile(there.fileName());
+    const QUrl kept = create(u"there"_s);
     world.store.addToShelf({kept, file(u"gone"_s)});
     world.store.clearSelection();
     open();
@@ -215,7 +234,7 @@ TEST_F(ShelfTab, leavesFilesThatAreGoneOutOfADrag) {
     EXPECT_EQ(view.features().shelf->parked()->filesToDrag(), QList{kept});
     clickOn(u"tile1"_s);
     EXPECT_EQ(view.features().shelf->parked()->filesToDrag(), QList<QUrl>());
-    there.remove();
+    QFile::remove(kept.toLocalFile());
     rebuild();
     open();
     EXPECT_TRUE(item(u"tile0"_s)->property("missing").toBool());
@@ -223,9 +242,7 @@ TEST_F(ShelfTab, leavesFilesThatAreGoneOutOfADrag) {
 
 struct SendCase {
     const char* name;
-    QList<NearbyDevice> devices;
-    bool chooses;
-    bool withAMissing;
+    QList<NearbyDevice> devices; ///< With two, the second is chosen and one file is missing.
     QString sentTo;
     QString toast;
 };
@@ -233,19 +250,17 @@ struct SendCase {
 class ShelfSending : public ShelfTab, public testing::WithParamInterface<SendCase> {};
 
 TEST_P(ShelfSending, sendsTheSelectedFiles) {
-    QFile there(world.folder.filePath(u"there"_s));
-    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
-    world.store.addToShelf({QUrl::fromLocalFile(there.fileName())});
+    parkFile(create(u"there"_s));
     park(1, 2);
     open();
     clickOn(u"tile0"_s);
-    if (GetParam().withAMissing) {
+    const bool chooses = GetParam().devices.size() > 1;
+    if (chooses) {
         clickOn(u"tile1"_s);
     }
-    world.devices.answer(GetParam().devices);
-    world.scheduler.advance(Seconds(0.1));
+    answer(GetParam().devices);
     clickOn(u"airdrop"_s);
-    if (GetParam().chooses) {
+    if (chooses) {
         EXPECT_TRUE(world.devices.sent.isEmpty());
         click(view.window(), in(u"deviceMenu"_s, u"item1"_s)->mapToScene({20, 10}));
     }
@@ -256,34 +271,27 @@ TEST_P(ShelfSending, sendsTheSelectedFiles) {
         EXPECT_EQ(world.devices.sent[0].deviceId, GetParam().sentTo);
         EXPECT_EQ(world.devices.sent[0].addresses.size(), 1);
     }
-    EXPECT_EQ(view.features().toast.text(), GetParam().toast);
+    EXPECT_EQ(toast(), GetParam().toast);
     EXPECT_EQ(view.features().shelf->sending()->advice().isEmpty(), !GetParam().devices.isEmpty());
 }
 
-INSTANTIATE_TEST_SUITE_P(All, ShelfSending,
-                         testing::Values(SendCase{"toNobody", {}, false, false, {}, {}},
-                                         SendCase{"toTheOnlyOne",
-                                                  {{u"p"_s, u"Pixel\nof Ren"_s}},
-                                                  false,
-                                                  false,
-                                                  u"p"_s,
-                                                  u"Sent to Pixel of Ren"_s},
-                                         SendCase{"toTheOneThatIsChosen",
-                                                  {{u"p"_s, u"Pixel"_s}, {u"t"_s, u"Tablet"_s}},
-                                                  true,
-                                                  true,
-                                                  u"t"_s,
-                                                  u"Sent 1 of 2 to Tablet"_s}),
-                         [](const auto& row) { return row.param.name; });
+const NearbyDevice pixel{u"p"_s, u"Pixel\nof Ren"_s};
+const NearbyDevice tablet{u"t"_s, u"Tablet"_s};
 
-TEST_F(ShelfTab, lightsItsButtonForDevicesThatComeLaterWhileItShows) {
+INSTANTIATE_TEST_SUITE_P(
+    All, ShelfSending,
+    testing::Values(SendCase{"toNobody", {}, {}, {}},
+                    SendCase{"toTheOnlyOne", {pixel}, u"p"_s, u"Sent to Pixel of Ren"_s},
+                    SendCase{"toTheChosen", {pixel, tablet}, u"t"_s, u"Sent 1 of 2 to Tablet"_s}),
+    [](const auto& row) { return row.param.name; });
+
+TEST_F(ShelfTab, enablesItsButtonForDevicesThatAppearLater) {
     park(1, 1);
     open();
-    world.devices.answer({});
-    world.scheduler.advance(Seconds(0.1));
+    answer({});
     ASSERT_FALSE(view.features().shelf->sending()->isPossible());
     world.scheduler.advance(Seconds(4));
-    world.devices.answer({{u"p"_s, u"Pixel"_s}});
+    world.devices.answer({pixel});
     EXPECT_TRUE(view.features().shelf->sending()->isPossible());
     close();
     const int looks = world.devices.looks;
@@ -292,26 +300,20 @@ TEST_F(ShelfTab, lightsItsButtonForDevicesThatComeLaterWhileItShows) {
 }
 
 TEST_F(ShelfTab, saysWhyAFolderIsNotSent) {
-    world.store.addToShelf({QUrl::fromLocalFile(world.folder.path())});
+    parkFile(QUrl::fromLocalFile(world.folder.path()));
     open();
-    world.devices.answer({{u"p"_s, u"Pixel"_s}});
-    world.scheduler.advance(Seconds(0.1));
-    clickOn(u"airdrop"_s);
-    world.scheduler.advance(Seconds(0.1));
-    EXPECT_EQ(view.features().toast.text(), u"A folder cannot be sent, only files"_s);
+    answer({pixel});
+    send();
+    EXPECT_EQ(toast(), u"A folder cannot be sent, only files"_s);
     EXPECT_TRUE(world.devices.sent.isEmpty());
 }
 
-TEST_F(ShelfTab, makesWayForTheProgramThatSends) {
-    QFile there(world.folder.filePath(u"there"_s));
-    ASSERT_TRUE(there.open(QIODevice::WriteOnly));
-    world.store.addToShelf({QUrl::fromLocalFile(there.fileName())});
+TEST_F(ShelfTab, closesForTheProgramThatSends) {
+    parkFile(create(u"there"_s));
     world.programs.installed = {u"blueman-sendto"_s};
     open();
-    world.devices.answer({});
-    world.scheduler.advance(Seconds(0.1));
-    clickOn(u"airdrop"_s);
-    world.scheduler.advance(Seconds(0.1));
+    answer({});
+    send();
     EXPECT_EQ(world.programs.started.size(), 1);
     EXPECT_FALSE(world.controller.isOpen()) << "the panel lies over its window";
 }
@@ -333,8 +335,7 @@ TEST_F(ShelfTab, listsWhatIsReceivedAndTakesItOntoTheShelf) {
     EXPECT_EQ(ago(u"received1"_s), u"just now"_s);
     const auto* source = qobject_cast<DragSourceView*>(in(u"received1"_s, u"dragSource"_s));
     EXPECT_EQ(names(source->files()), u"second.pdf"_s) << "what would be dragged out";
-    const QQuickItem* row = item(u"received0"_s);
-    send(view.window(), QEvent::MouseMove, row->mapToScene({400, 14}));
+    const QQuickItem* row = hover(u"received0"_s);
     const QQuickItem* park = find(row, u"park"_s);
     ASSERT_TRUE(park->isVisible());
     click(view.window(), park->mapToScene({12, 12}));
@@ -344,7 +345,7 @@ TEST_F(ShelfTab, listsWhatIsReceivedAndTakesItOntoTheShelf) {
     EXPECT_EQ(names(world.opener.opened), u"second.pdf"_s);
 }
 
-TEST_F(ShelfTab, makesTilesAndRowsForWhatIsInSightOnly) {
+TEST_F(ShelfTab, createsVisibleTilesAndRowsOnly) {
     park(1, 200);
     FolderListing listing{{}, FolderListing::Unknown::arrived};
     for (int i = 0; i < 10000; ++i) {
@@ -363,82 +364,76 @@ TEST_F(ShelfTab, makesTilesAndRowsForWhatIsInSightOnly) {
     EXPECT_EQ(shown(u"received0"_s), nullptr);
 }
 
-struct PressCase {
-    const char* name;
-    QList<double> moves;
-    int taps;
-    int drags;
-};
+TEST(DragSource, distinguishesADragFromATap) {
+    struct Case {
+        const char* name;
+        QList<double> moves;
+        int taps;
+        int drags;
+    };
 
-class DragSource : public testing::TestWithParam<PressCase> {};
-
-TEST_P(DragSource, tellsAPressThatMovesFromATap) {
-    QQuickWindow window;
-    window.resize(100, 100);
-    DragSourceView source(window.contentItem());
-    source.setSize({100, 100});
-    int taps = 0;
-    int drags = 0;
-    QObject::connect(&source, &DragSourceView::tapped, [&] { ++taps; });
-    QObject::connect(&source, &DragSourceView::dragged, [&] { ++drags; });
-    window.show();
-    for (int again = 1; again <= 2; ++again) {
-        send(window, QEvent::MouseButtonPress, {10, 50});
-        double x = 10;
-        for (const double move : GetParam().moves) {
-            send(window, QEvent::MouseMove, {x += move, 50});
+    for (const Case& c :
+         {Case{"still", {}, 1, 0}, Case{"trembling", {2, -3, 2}, 1, 0}, Case{"moved", {20}, 0, 1},
+          Case{"moved far", {12, 12, 12, 12, -40}, 0, 1}}) {
+        SCOPED_TRACE(c.name);
+        QQuickWindow window;
+        window.resize(100, 100);
+        DragSourceView source(window.contentItem());
+        source.setSize({100, 100});
+        int taps = 0;
+        int drags = 0;
+        QObject::connect(&source, &DragSourceView::tapped, [&] { ++taps; });
+        QObject::connect(&source, &DragSourceView::dragged, [&] { ++drags; });
+        window.show();
+        for (int again = 1; again <= 2; ++again) {
+            send(window, QEvent::MouseButtonPress, {10, 50});
+            double x = 10;
+            for (const double move : c.moves) {
+                send(window, QEvent::MouseMove, {x += move, 50});
+            }
+            send(window, QEvent::MouseButtonRelease, {x, 50});
+            EXPECT_EQ(taps, again * c.taps);
+            EXPECT_EQ(drags, again * c.drags);
         }
-        send(window, QEvent::MouseButtonRelease, {x, 50});
-        EXPECT_EQ(taps, again * GetParam().taps);
-        EXPECT_EQ(drags, again * GetParam().drags);
     }
 }
 
-INSTANTIATE_TEST_SUITE_P(All, DragSource,
-                         testing::Values(PressCase{"still", {}, 1, 0},
-                                         PressCase{"trembling", {2, -3, 2}, 1, 0},
-                                         PressCase{"moved", {20}, 0, 1},
-                                         PressCase{"movedLong", {12, 12, 12, 12, -40}, 0, 1}),
-                         [](const auto& row) { return row.param.name; });
+TEST(Layout, placesTraysSideBySideAndWrapsLongOnes) {
+    struct Case {
+        const char* name;
+        QList<qsizetype> stacks;
+        double width;
+        QList<QRectF> trays;
+        QList<QPointF> lastTiles; ///< Of each stack.
+    };
 
-struct LayoutCase {
-    const char* name;
-    QList<qsizetype> stacks;
-    double width;
-    QList<QRectF> trays;
-    QList<QPointF> lastTiles; ///< Of each stack.
-};
-
-class Layout : public testing::TestWithParam<LayoutCase> {};
-
-TEST_P(Layout, standsTraysSideBySideAndBreaksLongOnes) {
-    const ShelfLayout layout(GetParam().stacks, GetParam().width);
-    EXPECT_EQ(layout.trays, GetParam().trays);
-    EXPECT_EQ(layout.height, GetParam().trays.isEmpty() ? 0 : GetParam().trays.last().bottom());
-    qsizetype tiles = 0;
-    for (qsizetype i = 0; i < GetParam().stacks.size(); ++i) {
-        tiles += GetParam().stacks[i];
-        EXPECT_EQ(layout.tiles[tiles - 1].topLeft(), GetParam().lastTiles[i]);
+    const Case cases[] = {
+        {"none", {}, 859, {}, {}},
+        {"side by side",
+         {3, 2, 3, 1},
+         859,
+         {{0, 0, 315, 116}, {323, 0, 212, 116}, {543, 0, 315, 116}, {0, 124, 109, 116}},
+         {{210, 4}, {430, 4}, {753, 4}, {4, 128}}},
+        {"wrapped",
+         {1, 9, 1},
+         859,
+         {{0, 0, 109, 116}, {0, 124, 830, 226}, {0, 358, 109, 116}},
+         {{4, 4}, {4, 238}, {4, 362}}},
+        {"narrower than a tile", {2}, 50, {{0, 0, 109, 226}}, {{4, 114}}},
+    };
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const ShelfLayout layout(c.stacks, c.width);
+        EXPECT_EQ(layout.trays, c.trays);
+        EXPECT_EQ(layout.height, c.trays.isEmpty() ? 0 : c.trays.last().bottom());
+        qsizetype tiles = 0;
+        for (qsizetype i = 0; i < c.stacks.size(); ++i) {
+            tiles += c.stacks[i];
+            EXPECT_EQ(layout.tiles[tiles - 1].topLeft(), c.lastTiles[i]);
+        }
+        EXPECT_EQ(layout.tiles.size(), tiles);
     }
-    EXPECT_EQ(layout.tiles.size(), tiles);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, Layout,
-    testing::Values(
-        LayoutCase{"none", {}, 859, {}, {}},
-        LayoutCase{"sideBySide",
-                   {3, 2, 3, 1},
-                   859,
-                   {{0, 0, 315, 116}, {323, 0, 212, 116}, {543, 0, 315, 116}, {0, 124, 109, 116}},
-                   {{210, 4}, {430, 4}, {753, 4}, {4, 128}}},
-        LayoutCase{"wrapped",
-                   {1, 9, 1},
-                   859,
-                   {{0, 0, 109, 116}, {0, 124, 830, 226}, {0, 358, 109, 116}},
-                   {{4, 4}, {4, 238}, {4, 362}}},
-        LayoutCase{"narrowerThanATile", {2}, 50, {{0, 0, 109, 226}}, {{4, 114}}}),
-    [](const auto& row) { return row.param.name; });
 
 } // namespace
 

@@ -1,14 +1,10 @@
 #include "ui/snippets/SnippetEditor.h"
 #include "panel_fixture/PanelFixture.h"
 
-#include <gtest/gtest.h>
-
 #include <QBuffer>
 #include <QImage>
 
 namespace ravelo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -25,7 +21,6 @@ protected:
         world.pasteboard.offer({{u"image/png"_s, png}});
     }
 
-    /// Whatever was asked for comes.
     void attach() {
         editor.attachImage();
         settle();
@@ -48,7 +43,7 @@ protected:
     const Snippet first = world.store.snippets().first();
 };
 
-TEST_F(SnippetEditing, keepsItsHandsOffTheStoreUntilItIsSaved) {
+TEST_F(SnippetEditing, changesTheStoreOnlyWhenSaved) {
     editor.edit(first.id);
     editor.setTitle(u"changed"_s);
     editor.setBody(u"also"_s);

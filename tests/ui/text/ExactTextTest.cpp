@@ -1,4 +1,4 @@
-// Texts with characters that text fields like to alter, and what the user does to them.
+// Texts with characters that Qt's text fields change.
 
 #include "panel_fixture/PanelFixture.h"
 
@@ -11,38 +11,10 @@ namespace {
 /// Each between letters, so that none is trimmed, joined or the last.
 QString oddText() {
     QString text;
-    for (const char16_t odd : {u'\u00a0',
-                               u'\u2028',
-                               u'\u2029',
-                               u'\r',
-                               u'\t',
-                               u'\v',
-                               u'\f',
-                               u'\0',
-                               u'\u001f',
-                               u'\u007f',
-                               u'\u0085',
-                               u'\u00ad',
-                               u'\u0300',
-                               u'\u061c',
-                               u'\u200b',
-                               u'\u200d',
-                               u'\u200e',
-                               u'\u202e',
-                               u'\u202f',
-                               u'\u2060',
-                               u'\u2066',
-                               u'\u3000',
-                               u'\ufeff',
-                               u'\ufff9',
-                               u'\ufffc',
-                               u'\ufffd',
-                               u'\ufffe',
-                               u'\uffff',
-                               u'\ue000',
-                               char16_t(0xfdd0),
-                               char16_t(0xfdd1),
-                               char16_t(0xfdef)}) {
+    for (const QChar odd :
+         u"\u00a0\u2028\u2029\r\t\v\f\0\x1f\x7f\x85\u00ad\u0300\u061c\u200b"
+         "\u200d\u200e\u202e\u202f\u2060\u2066\u3000\ufeff\ufff9\ufffc\ufffd\xfffe"
+         "\xffff\ue000\xfdd0\xfdd1\xfdef"_s) {
         text += QChar(static_cast<char16_t>(u'a' + text.size() % 26));
         text += odd;
     }
@@ -60,10 +32,7 @@ protected:
     OddText() : Panel(oddData()) {}
 
     void openNote() {
-        world.settings.setLastTab(u"Notes"_s);
-        close();
-        world.scheduler.advance(untilBuilt);
-        open();
+        openTab(u"Notes"_s);
         clickOn(u"noteInput"_s);
         press(Qt::Key_End, Qt::ControlModifier);
     }
@@ -92,7 +61,7 @@ protected:
     Snippet snippet;
 };
 
-/// The letters, and all others as numbers.
+/// Other characters than letters as numbers.
 std::string readable(const QString& text) {
     std::string all;
     for (const QChar one : text) {

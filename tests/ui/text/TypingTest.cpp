@@ -1,5 +1,3 @@
-// Text fields: pasting, and life in a window other than the panel.
-
 #include "panel_fixture/PanelFixture.h"
 #include "ui/windows/TitledWindow.h"
 
@@ -9,17 +7,13 @@
 
 namespace ravelo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 class PastingInto : public Panel, public testing::WithParamInterface<const char*> {
 protected:
     void openField(const QString& tab, const QString& field) {
-        world.settings.setLastTab(tab);
-        rebuild();
-        open();
-        // What Qt itself would paste: a field that shows it has read the clipboard by itself.
+        openTab(tab);
+        // If a field shows this, it has read Qt's clipboard itself.
         QGuiApplication::clipboard()->setText(u"read on the main thread"_s);
         clickOn(field);
         QMetaObject::invokeMethod(item(field), "selectAll");
@@ -68,10 +62,9 @@ TEST_F(Panel, theMiddleButtonPastesWhereItPoints) {
 }
 
 TEST_F(Panel, anAnswerThatComesAfterTheFieldIsGoneIsDropped) {
-    open();
     world.pasteboard.answerTime = Seconds(5);
     world.pasteboard.offerText(u"late"_s);
-    clickOn(u"searchInput"_s);
+    openSearch();
     press(Qt::Key_V, Qt::ControlModifier);
     close();
     world.scheduler.advance(Seconds(6));
@@ -79,7 +72,7 @@ TEST_F(Panel, anAnswerThatComesAfterTheFieldIsGoneIsDropped) {
     EXPECT_EQ(text(u"searchInput"_s), QString());
 }
 
-/// A window with nothing but a text field.
+/// A window with only a text field.
 class FieldWindow : public Panel {
 protected:
     FieldWindow() {

@@ -1,15 +1,10 @@
-// The settings and the setup on the in-memory platform: by keyboard, by mouse, and what is kept.
-
 #include "panel_fixture/PanelFixture.h"
 #include "ui/windows/OnboardingController.h"
 #include "ui/windows/SettingsWindow.h"
 
 #include <QAccessible>
-#include <QWheelEvent>
 
 namespace ravelo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -18,18 +13,23 @@ public:
     QQuickItem* in(QQuickWindow* window, const QString& name) {
         QQuickItem* found = find(window->contentItem(), name);
         if (found == nullptr) {
-            ADD_FAILURE() << "there is no " << qPrintable(name);
+            ADD_FAILURE() << "no item " << qPrintable(name);
             return &nothing;
         }
         return found;
     }
 
     void clickOn(QQuickWindow* window, const QString& name) {
-        const QQuickItem* target = in(window, name);
-        click(*window, target->mapToScene(target->boundingRect().center()));
+        clickMiddle(*window, in(window, name));
     }
 
-    [[nodiscard]] static bool hasFocus(const QQuickItem* item) { return item->hasActiveFocus(); }
+    /// Tab goes through these.
+    void expectTabStops(QQuickWindow& window, std::initializer_list<const char*> names) {
+        for (const char* next : names) {
+            press(window, Qt::Key_Tab);
+            EXPECT_TRUE(in(&window, QString::fromUtf8(next))->hasActiveFocus()) << next;
+        }
+    }
 
     [[nodiscard]] QJsonValue kept(const QString& key) const { return world.preferences.value(key); }
 
@@ -52,28 +52,20 @@ public:
         return in(window, row)->findChild<QQuickItem*>(u"label"_s)->property("text").toString();
     }
 
-    /// `place` is a part of the slider's length.
+    /// `place` is from 0 to 1.
     QPointF on(const QString& slider, double place) {
         const QQuickItem* item = in(window, slider);
         return item->mapToScene({9 + place * (item->width() - 18), item->height() / 2});
     }
 
-    void turn(const QString& slider, int angle) {
-        const QPointF place = on(slider, 0.5);
-        QWheelEvent event(place, window->mapToGlobal(place), {}, {0, angle}, Qt::NoButton,
-                          Qt::NoModifier, Qt::NoScrollPhase, false);
-        QCoreApplication::sendEvent(window, &event);
-    }
+    void turn(const QString& slider, int angle) { turnWheel(*window, on(slider, 0.5), angle); }
 
     TitledWindow* window = nullptr;
 };
 
 TEST_F(Settings, EachControlKeepsWhatTheKeyboardSetsAtOnce) {
-    for (const char* next : {"tab0", "launchAtLogin", "fullBlack", "darkness", "panelWidth",
-                             "clearHistory", "quit", "close", "tab0"}) {
-        press(*window, Qt::Key_Tab);
-        EXPECT_TRUE(hasFocus(in(window, QString::fromUtf8(next)))) << next;
-    }
+    expectTabStops(*window, {"tab0", "launchAtLogin", "fullBlack", "darkness", "panelWidth",
+                             "clearHistory", "quit", "close", "tab0"});
 
     struct Case {
         QString control;
@@ -99,7 +91,7 @@ TEST_F(Settings, EachControlKeepsWhatTheKeyboardSetsAtOnce) {
         {u"panelWidth"_s, Qt::Key_Home, u"panelWidth"_s, 560},
         {u"panelWidth"_s, Qt::Key_Left, u"panelWidth"_s, 560},
     };
-    EXPECT_TRUE(kept(u"panelWidth"_s).isUndefined()) << "to be shown writes nothing";
+    EXPECT_TRUE(kept(u"panelWidth"_s).isUndefined()) << "showing it must not write";
     for (const Case& c : cases) {
         in(window, c.control)->forceActiveFocus();
         press(*window, c.key);
@@ -159,7 +151,7 @@ TEST_F(Settings, TheMouseSetsTheSame) {
     EXPECT_EQ(kept(u"panelWidth"_s), 700) << "695 is no step";
     EXPECT_EQ(label(u"widthRow"_s), u"Width: 700"_s);
 
-    // Held beside its middle it does not jump, and it follows beyond the ends.
+    // Pressed beside its centre the knob does not jump; it follows beyond the ends.
     const QPointF held = on(u"panelWidth"_s, 140.0 / 540) + QPointF(5, 0);
     send(*window, QEvent::MouseMove, held);
     send(*window, QEvent::MouseButtonPress, held);
@@ -209,7 +201,7 @@ TEST_F(Settings, ShowsWhatIsChangedElsewhereAndSurvivesAnyNumber) {
         world.settings.setPanelWidth(width);
         EXPECT_EQ(label(u"widthRow"_s), u"Width: "_s + QString::number(width, 'f', 0));
         EXPECT_NEAR(place(u"panelWidth"_s), left, 1e-6);
-        EXPECT_EQ(kept(u"panelWidth"_s), width) << "to be shown changes nothing";
+        EXPECT_EQ(kept(u"panelWidth"_s), width) << "showing it must not change it";
     }
     world.settings.setBgOpacity(7);
     EXPECT_EQ(place(u"darkness"_s), 182);
@@ -230,13 +222,9 @@ TEST_F(Settings, ClearsAtOnceWhatIsNotPinned) {
 TEST_F(Settings, IsHiddenWhenItIsClosedAndUsedAgain) {
     EXPECT_EQ(window->title(), u"Ravelo Settings"_s);
     EXPECT_EQ(window->size(), QSize(460, 600));
-    const auto ways = {+[](Settings& s) { press(*s.window, Qt::Key_Escape); },
-                       +[](Settings& s) {
-                           s.window->close();
-                       }};
-    for (int way = 0; const auto& close : ways) {
-        SCOPED_TRACE(++way);
-        close(*this);
+    for (const bool byKey : {true, false}) {
+        SCOPED_TRACE(byKey);
+        byKey ? press(*window, Qt::Key_Escape) : void(window->close());
         EXPECT_FALSE(window->isVisible());
         EXPECT_EQ(quits, 0);
         settings.show();
@@ -280,16 +268,13 @@ TEST_F(Setup, IsDoneByTheKeyboardAlone) {
     };
     press(*window, Qt::Key_Return);
     EXPECT_FALSE(in(window, u"start"_s)->isVisible());
-    for (const char* next : {"auto", "notch"}) {
-        press(*window, Qt::Key_Tab);
-        EXPECT_TRUE(hasFocus(in(window, QString::fromUtf8(next)))) << next;
-    }
+    expectTabStops(*window, {"auto", "notch"});
     EXPECT_TRUE(kept(u"macType"_s).isUndefined());
     press(*window, Qt::Key_Space);
     EXPECT_EQ(kept(u"macType"_s), u"notch"_s);
     press(*window, Qt::Key_Down);
     EXPECT_EQ(kept(u"macType"_s), u"none"_s);
-    EXPECT_TRUE(hasFocus(in(window, u"none"_s)));
+    EXPECT_TRUE(in(window, u"none"_s)->hasActiveFocus());
     EXPECT_EQ(layouts, 2);
     EXPECT_FALSE(world.settings.onboarded());
     press(*window, Qt::Key_Tab);

@@ -1,7 +1,7 @@
-"""A private desktop to run a program on: an X server, a window manager, a session bus and a home of
-its own, all gone at the end. Nothing of the user's desktop or files is seen or touched.
+"""A private desktop to run a program on: X server, window manager, session bus and home directory,
+all removed at the end. The user's desktop and files are not touched.
 
-Nobody sleeps and hopes: `wait_for` polls for a condition with a long time-out.
+Instead of sleeping, `wait_for` polls a condition with a long timeout.
 """
 
 import collections
@@ -17,12 +17,14 @@ import subprocess
 import tempfile
 import time
 
+from gi.repository import Gio
+
 HERE = pathlib.Path(__file__).resolve().parent
 WIDTH, HEIGHT = 1440, 900
 GTK_PEER = ("/usr/bin/python3", HERE / "gtk_peer.py")
 OPENBOX = ("openbox", "--sm-disable")
 
-# Unlike Xvfb the server with this driver has several outputs. The first is as large as Xvfb's.
+# Xorg with this driver supports several outputs, which Xvfb does not.
 DUMMY_CONFIGURATION = f"""
 Section "Monitor"
     Identifier "monitor"
@@ -67,9 +69,9 @@ RIGHT = Monitor("DUMMY1", WIDTH, 0, 1280, 1024)
 
 
 def wait_for(condition, expected, timeout=20):
-    """The first true value of `condition()`; fails, saying what was expected, if none comes.
+    """Returns the first true value of `condition()`; on timeout fails with `expected`.
 
-    `expected` may be a function, for what can be told only then.
+    `expected` may be a function that is called on failure.
     """
     end = time.monotonic() + timeout
     while True:
@@ -100,7 +102,7 @@ def xorg_with_outputs(home, descriptor):
 
 
 class Picture:
-    """What was on the screen."""
+    """A screenshot."""
 
     def __init__(self, ppm):
         self._ppm = ppm
@@ -111,7 +113,7 @@ class Picture:
         return self._ppm == other._ppm
 
     def at(self, x, y):
-        """The colour of one point, as red, green and blue."""
+        """The red, green and blue of a pixel."""
         start = 3 * (y * self._width + x)
         return tuple(self._pixels[start:start + 3])
 
@@ -120,10 +122,10 @@ class Picture:
 
 
 class Desktop(contextlib.AbstractContextManager):
-    """Use as a context manager. `home` is where everything the program writes must be found.
+    """A context manager. Everything the program writes must be below `home`.
 
-    The first-run setup is done in it. `window_manager` is the command that starts one, or nothing;
-    `server` makes the command of the X server.
+    The first-run setup is marked as done. `window_manager` is its command or None; `server` returns
+    the X server's command.
     """
 
     def __init__(self, window_manager=OPENBOX, server=xvfb):
@@ -149,8 +151,7 @@ class Desktop(contextlib.AbstractContextManager):
             "TMPDIR": str(temporary),
             "QT_QPA_PLATFORM": "xcb",
             "NO_AT_BRIDGE": "1",
-            # Where the program is built with it: Qt ends it by exit() when the X server goes, with
-            # everything still allocated.
+            # Qt calls exit() when the X server ends, without freeing anything.
             "ASAN_OPTIONS": "detect_leaks=0",
         }
 
@@ -171,7 +172,7 @@ class Desktop(contextlib.AbstractContextManager):
     # Processes.
 
     def spawn(self, *command, **options):
-        """Starts a program that is ended with the desktop."""
+        """Starts a program that ends with the desktop."""
         options = {"stdin": subprocess.DEVNULL, "env": self.env, "cwd": self.home,
                    "preexec_fn": _die_with_parent, **options}
         process = subprocess.Popen([str(word) for word in command], **options)
@@ -187,7 +188,7 @@ class Desktop(contextlib.AbstractContextManager):
                 stream.close()
 
     def run(self, *command, **options):
-        """Runs a program to its end; what it printed, whatever its exit code."""
+        """Runs a program to its end and returns its output, whatever the exit code."""
         return subprocess.run([str(word) for word in command], env=self.env, cwd=self.home,
                               stdout=subprocess.PIPE, stderr=subprocess.DEVNULL, text=True,
                               timeout=60, check=False, **options).stdout
@@ -210,42 +211,49 @@ class Desktop(contextlib.AbstractContextManager):
                    stderr=subprocess.DEVNULL)
         wait_for(socket.exists, "a session bus")
         self.env["DBUS_SESSION_BUS_ADDRESS"] = f"unix:path={socket}"
-        # The machine's own is not ours to use: there is a button that turns it off.
+        # Not the machine's own: one of the buttons shuts it down.
         self.env["DBUS_SYSTEM_BUS_ADDRESS"] = f"unix:path={socket}"
 
+    def bus(self):
+        """A new connection to the session bus."""
+        return Gio.DBusConnection.new_for_address_sync(
+            self.env["DBUS_SESSION_BUS_ADDRESS"],
+            Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
+            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
+
     def start_window_manager(self, *command):
-        """Returns once it manages; also where it replaces another, or restarts itself."""
+        """Returns once it is ready, also if it replaces another one or restarts itself."""
         def answers():
-            return told.read_text().count("_NET_SUPPORTING_WM_CHECK(WINDOW): window id")
+            return log.read_text().count("_NET_SUPPORTING_WM_CHECK(WINDOW): window id")
 
-        def listens():  # One mark may be among what was there; of the second it has heard.
+        def listens():  # The first mark can be part of the initial listing, the second cannot.
             self.run("xsetroot", "-name", "mark")
-            return told.read_text().count('"mark"') > 1
+            return log.read_text().count('"mark"') > 1
 
-        told = self.home / "tmp" / "root-properties"
-        with told.open("w") as file:
+        log = self.home / "tmp" / "root-properties"
+        with log.open("w") as file:
             spy = self.spawn("xprop", "-root", "-spy", stdout=file, stderr=subprocess.DEVNULL)
-        wait_for(listens, "xprop to tell of changes of the root window")
+        wait_for(listens, "xprop to report changes of the root window")
         before = answers()
         self.spawn(*command, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
         wait_for(lambda: answers() > before, "a window manager")
         spy.kill()
 
-    # The clipboard, as other programs use it.
+    # Clipboard.
 
     def copy_text(self, text, target=None):
-        """Copies with xclip, which stays behind as the owner."""
+        """Copies with xclip, which stays alive as the owner."""
         as_target = ["-target", target] if target else []
         subprocess.run(["xclip", "-selection", "clipboard", *as_target, "-i"], input=text.encode(),
                        check=True, env=self.env, stdout=subprocess.DEVNULL,
                        stderr=subprocess.DEVNULL, timeout=20)
 
     def paste_text(self):
-        """Empty if the owner died before it answered: xclip would wait for ever."""
+        """Empty if the owner does not answer: xclip alone would wait forever."""
         return self.run("timeout", "3", "xclip", "-selection", "clipboard", "-o")
 
     def peer(self, *command):
-        """Starts a helper program and returns once it says that it has done what it was told."""
+        """Starts a helper program and returns once it prints "ready"."""
         process = self.spawn(*command, stdout=subprocess.PIPE, text=True)
         line = process.stdout.readline().strip()
         assert line == "ready", f"{command[0]} said {line!r}"
@@ -254,16 +262,16 @@ class Desktop(contextlib.AbstractContextManager):
     def gtk(self, *arguments):
         return self.peer(*GTK_PEER, *arguments)
 
-    # What is on the screen.
+    # Screen.
 
     def picture(self):
-        # Not xwd: it puts the picture together from the windows, whatever the screen shows.
+        # Not xwd, which composes windows instead of showing the real screen.
         path = self.home / "tmp" / "picture.ppm"
         self.run("import", "-silent", "-window", "root", "-depth", "8", path)
         return Picture(path.read_bytes())
 
     def still_picture(self):
-        """A picture once nothing moves any more."""
+        """A picture once nothing moves."""
         pictures = [self.picture()]
 
         def still():
@@ -274,7 +282,7 @@ class Desktop(contextlib.AbstractContextManager):
         return pictures[-1]
 
     def window_of(self, process, title=""):
-        """The one visible window of a program, or nothing; of those with such a title."""
+        """The only visible window of a program (with this title), or None."""
         found = [window for window in
                  self.run("xdotool", "search", "--onlyvisible", "--pid", process.pid).split()
                  if title in ("", self.title(window))]
@@ -282,22 +290,22 @@ class Desktop(contextlib.AbstractContextManager):
         return self.geometry(found[0]) if found else None
 
     def geometry(self, window):
-        """Where a window is, or nothing once it is gone."""
-        told = self.run("xwininfo", "-id", window)
+        """None if there is no such window."""
+        output = self.run("xwininfo", "-id", window)
         names = ("Absolute upper-left X", "Absolute upper-left Y", "Width", "Height")
-        values = [re.search(rf"{name}: +(-?\d+)", told) for name in names]
+        values = [re.search(rf"{name}: +(-?\d+)", output) for name in names]
         return Geometry(int(window), *(int(value[1]) for value in values)) if all(values) else None
 
     def managed_windows(self):
-        """What a taskbar lists: the titles of all windows."""
-        told = self.run("xprop", "-root", "_NET_CLIENT_LIST")
-        return [self.title(window) for window in re.findall(r"0x[0-9a-f]+", told)]
+        """The titles that a taskbar lists."""
+        output = self.run("xprop", "-root", "_NET_CLIENT_LIST")
+        return [self.title(window) for window in re.findall(r"0x[0-9a-f]+", output)]
 
     def title(self, window):
         return self.run("xdotool", "getwindowname", window).strip()
 
     def monitor(self, output):
-        """Where an output shows its part of the screen, or nothing while it is off."""
+        """The monitor on an output, or None if it is off."""
         found = re.search(rf"^{output} connected .*?(\d+)x(\d+)\+(\d+)\+(\d+)",
                           self.run("xrandr"), re.M)
         if not found:
@@ -306,7 +314,7 @@ class Desktop(contextlib.AbstractContextManager):
         return Monitor(output, x, y, width, height)
 
     def show(self, monitor):
-        """Adds a monitor right of the first, if the server has outputs; where it is in the end."""
+        """Adds a monitor right of the first and returns its final geometry."""
         mode = f"{monitor.width}x{monitor.height}"
         self.run("xrandr", "--addmode", monitor.output, mode)
         self.run("xrandr", "--output", monitor.output, "--mode", mode, "--right-of", MAIN.output)
@@ -327,14 +335,14 @@ class Desktop(contextlib.AbstractContextManager):
     # Pointer and keyboard.
 
     def move(self, x, y, *then):
-        """Ends with a motion of the device: a warp alone is nothing that a hand can do."""
+        """Ends with a real motion: a hand cannot just warp the pointer."""
         self.run("xdotool", "mousemove", x - 1, y, "mousemove_relative", 1, 0, *then)
 
     def click(self, x, y):
         self.move(x, y, "click", 1)
 
     def glide(self, to):
-        """Moves the pointer as a hand does, through all that lies between."""
+        """Moves the pointer like a hand, through the points in between."""
         shell = self.run("xdotool", "getmouselocation", "--shell")
         here = dict(line.split("=") for line in shell.split())
         x, y = int(here["X"]), int(here["Y"])
@@ -343,7 +351,7 @@ class Desktop(contextlib.AbstractContextManager):
                      y + (to[1] - y) * step // 20)
 
     def drag(self, start, to):
-        """Presses at `start`, and keeps hold."""
+        """Presses at `start`, moves, and does not release."""
         self.move(*start, "mousedown", 1)
         self.glide(to)
 
@@ -358,7 +366,7 @@ class Desktop(contextlib.AbstractContextManager):
 
 
 class Ravelo:
-    """The program, on a desktop. `process` is the running one."""
+    """The program on a desktop. `process` is the running instance."""
 
     def __init__(self, desktop, program):
         self.desktop = desktop
@@ -376,7 +384,7 @@ class Ravelo:
         return self
 
     def call(self, *arguments):
-        """Runs a further one to its end: exit code and what it printed."""
+        """Runs a second instance; returns its exit code and output."""
         done = subprocess.run([self.program, *arguments], env=self.desktop.env, timeout=20,
                               stdin=subprocess.DEVNULL, stdout=subprocess.PIPE,
                               stderr=subprocess.STDOUT, text=True, check=False)
@@ -386,14 +394,14 @@ class Ravelo:
         return self.process.poll() is not None
 
     def complaints(self):
-        """What it wrote to standard error, but for the end of the X server."""
+        """Its standard error, without the message about the end of the X server."""
         lines = self.log.read_text().splitlines() if self.log.exists() else []
         return [line for line in lines if "X11 connection broke" not in line]
 
-    # What it keeps.
+    # Stored data.
 
     def store(self):
-        """The contents of store.json; nothing before it is first written."""
+        """The contents of store.json; empty before it is first written."""
         try:
             return json.loads((self.folder / "store.json").read_bytes())
         except FileNotFoundError:
@@ -409,7 +417,7 @@ class Ravelo:
     def preferences(self):
         return json.loads(self.desktop.preferences.read_bytes())
 
-    # What it shows.
+    # Windows.
 
     def panel(self):
         return self.desktop.window_of(self.process, "Ravelo")
@@ -433,7 +441,7 @@ class Ravelo:
         return self._hangs_at_the_top(927, 700, monitor)
 
     def open(self, monitor=MAIN):
-        """Opens it as a user does, with the pointer, and returns where it is."""
+        """Opens it with the pointer and returns its geometry."""
         self.desktop.move(monitor.x + monitor.width // 2, monitor.y + 2)
         return wait_for(lambda: self.is_open(monitor),
                         lambda: f"the open panel, 927 x 560, at the top, centred on {monitor}; "

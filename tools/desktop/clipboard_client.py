@@ -1,8 +1,8 @@
-"""A GTK program that copies text after text, as fast as it is told, and tells what stood when.
+"""A GTK program that copies series of texts and reports when each was on the clipboard.
 
-Standard input: a line "NAME COUNT MILLISECONDS" a series. It answers with a line of JSON a series: a
-list of [after, before, text], where the two are the monotonic clock around the copy. A text is left out
-of which the X server would not have it: of two programs at once the one that asked first comes too late.
+Standard input: one line "NAME COUNT MILLISECONDS" per series. The answer is one line of JSON: a list of
+[after, before, text] with the monotonic clock around the copy. A text is left out if another program's
+copy at the same time won.
 """
 
 import json
@@ -18,12 +18,12 @@ from gi.repository import Gdk, GdkX11, GLib, Gtk  # noqa: E402, F401
 
 from hand import Hand  # noqa: E402
 
-CLIENT = 21  # What is above these bits is the same in all windows of one client (Xlib, Xorg).
+CLIENT = 21  # The bits above identify the client (Xlib, Xorg).
 
 clipboard = Gtk.Clipboard.get(Gdk.SELECTION_CLIPBOARD)
 display = Gdk.Display.get_default()
 own = display.get_default_group().get_xid() >> CLIENT
-server = Hand(display.get_name())  # GTK says only what it has asked for itself.
+server = Hand(display.get_name())  # GTK only knows about its own requests.
 
 
 def copy(name, number, count, log):
@@ -37,7 +37,7 @@ def copy(name, number, count, log):
         print(json.dumps(log), flush=True)
 
 
-def told(channel, _condition):
+def read(channel, _condition):
     line = channel.readline()
     if not line:
         Gtk.main_quit()
@@ -49,6 +49,6 @@ def told(channel, _condition):
     return True
 
 
-GLib.io_add_watch(sys.stdin, GLib.PRIORITY_DEFAULT, GLib.IOCondition.IN | GLib.IOCondition.HUP, told)
+GLib.io_add_watch(sys.stdin, GLib.PRIORITY_DEFAULT, GLib.IOCondition.IN | GLib.IOCondition.HUP, read)
 print("ready", flush=True)
 Gtk.main()

@@ -1,5 +1,5 @@
-"""A panel, as far as a status item needs one: the watcher that items register with, and somebody who
-reads them and clicks on their menu (StatusNotifierItem, com.canonical.dbusmenu)."""
+"""A minimal tray: the watcher that status items register with, and a client that reads them and
+clicks on their menus (StatusNotifierItem, com.canonical.dbusmenu)."""
 
 from gi.repository import Gio, GLib
 
@@ -17,17 +17,15 @@ WATCHER_INTERFACE = Gio.DBusNodeInfo.new_for_xml(f"""<node><interface name="{WAT
 
 
 class TrayHost:
-    """Lives as long as its connection. Its calls run the main context, so that it can answer."""
+    """Lives as long as its connection. Call `serve` to let it answer."""
 
-    def __init__(self, address, shows=True):
-        """`shows` may change: whether a host has registered that shows what the watcher lists."""
+    def __init__(self, bus, shows=True):
+        """`bus` is closed with the host. `shows` reports a host as registered; it may change."""
         self.shows, self.asked = shows, False
-        self._bus = Gio.DBusConnection.new_for_address_sync(
-            address, Gio.DBusConnectionFlags.AUTHENTICATION_CLIENT
-            | Gio.DBusConnectionFlags.MESSAGE_BUS_CONNECTION, None, None)
+        self._bus = bus
         self.items = []
         self._bus.register_object("/StatusNotifierWatcher", WATCHER_INTERFACE, self._called,
-                                  self._told, None)
+                                  self._read, None)
         Gio.bus_own_name_on_connection(self._bus, WATCHER, Gio.BusNameOwnerFlags.NONE, None, None)
 
     def close(self):
@@ -44,7 +42,7 @@ class TrayHost:
             self.items.append(name if not name.startswith("/") else sender)
         invocation.return_value(None)
 
-    def _told(self, _bus, _sender, _path, _interface, name):
+    def _read(self, _bus, _sender, _path, _interface, name):
         self.asked = self.asked or name == "IsStatusNotifierHostRegistered"
         return {"IsStatusNotifierHostRegistered": GLib.Variant("b", self.shows),
                 "RegisteredStatusNotifierItems": GLib.Variant("as", self.items),
@@ -63,7 +61,7 @@ class TrayHost:
         return self.read("ToolTip")[2]
 
     def rows(self):
-        """The menu: the number, the title or nothing, and the keys of each row."""
+        """Number, title (or None) and shortcut of each menu row."""
         _, (_, _, rows) = self._call(self.read("Menu"), MENU, "GetLayout",
                                      GLib.Variant("(iias)", (0, -1, [])))
         return [(number, row.get("label"), row.get("shortcut", [])) for number, row, _ in rows]
@@ -74,5 +72,5 @@ class TrayHost:
                    GLib.Variant("(isvu)", (number, "clicked", GLib.Variant("s", ""), 0)))
 
     def activate(self):
-        """As a click on the icon does."""
+        """Like a click on the icon."""
         self._call("/StatusNotifierItem", ITEM, "Activate", GLib.Variant("(ii)", (0, 0)))

@@ -1,6 +1,6 @@
-"""A quick hand: pointer, window geometry and owners of selections over one connection to the X server of its own.
+"""Fast access to pointer, window sizes and selection owners over its own X connection.
 
-For hundreds of moves a minute, where a program started for each would take all the time.
+For hundreds of moves per minute, too many to start a program for each.
 """
 
 import ctypes
@@ -38,13 +38,13 @@ class Hand:
         self.press(False)
 
     def size(self, window):
-        """Width and height of a child of the root window that is there."""
+        """Width and height of an existing child of the root window."""
         found = _Attributes()
         self._x.XGetWindowAttributes(self._display, ctypes.c_ulong(int(window)),
                                      ctypes.byref(found))
         return found.width, found.height
 
     def selection_owner(self, name):
-        """The window that owns a selection; 0 where none does."""
+        """The window that owns a selection; 0 if none does."""
         atom = self._x.XInternAtom(self._display, name.encode(), 0)
         return self._x.XGetSelectionOwner(self._display, ctypes.c_ulong(atom))

@@ -1,15 +1,15 @@
-"""A GTK program for Ravelo to live beside. Says "ready" when done and stays until it is ended.
+"""A GTK program for tests with Ravelo. Prints "ready" when done and stays until it is killed.
 
 gtk_peer.py text TEXT      owns the clipboard with a text
 gtk_peer.py image COLOR    owns the clipboard with an image of one colour, 64 x 48
-gtk_peer.py leave text TEXT  copies and ends at once, as gnome-screenshot does; the same with an image
+gtk_peer.py leave text TEXT  copies and exits at once, like gnome-screenshot; also with image
 gtk_peer.py window         a focused window with a text field; prints its text at each change
 gtk_peer.py fullscreen COLOR LEFT WIDTH HEIGHT  the same, full-screen on a monitor
 gtk_peer.py bar COLOR WIDTH HEIGHT  a dock at the top left that reserves its height
-gtk_peer.py source TEXT    a window with a selected text to drag away; its title tells "dragged"
-gtk_peer.py target         a window to drop files on, left of the panel; prints the list as it came
+gtk_peer.py source TEXT    a window with a selected text to drag; its title becomes "dragged"
+gtk_peer.py target         a drop target for files, left of the panel; prints the raw list
 
-The title of a window with a text field is the text, for who looks rather than listens.
+The title of a window with a text field is its text.
 """
 
 import json

@@ -1,7 +1,7 @@
-"""What Ravelo must do on whatever desktop it finds itself: one function a check.
+"""Checks that Ravelo must pass on every desktop, one function each.
 
-A check that saw what it wanted returns nothing, or a note on what this desktop cannot show; else it
-raises an AssertionError that says what it saw.
+A check returns None, or a note about what this desktop cannot show; if it fails it raises an
+AssertionError that says what it saw.
 """
 
 import contextlib
@@ -19,7 +19,7 @@ SEARCH_LEFT, SEARCH_TOP = 200, 220
 FILE = "dragged.txt"
 PAPER = (255, 255, 255)
 ICON_LEFT, ICON_TOP = 207, 98  # Of the one file in the file manager's window.
-PATIENCE = 20
+TIMEOUT = 20
 
 
 def css(color):
@@ -27,7 +27,7 @@ def css(color):
 
 
 def until(condition, expected):
-    return wait_for(condition, expected, PATIENCE)
+    return wait_for(condition, expected, TIMEOUT)
 
 
 class Surroundings(contextlib.ExitStack):
@@ -50,7 +50,7 @@ class Surroundings(contextlib.ExitStack):
         return self
 
     def rest(self):
-        """Whatever the last check left behind: the panel is closed and the pointer away."""
+        """Closes the panel and moves the pointer away, whatever the last check left behind."""
         self.desktop.run("xdotool", "mouseup", 1)
         try:
             self.close()
@@ -61,7 +61,7 @@ class Surroundings(contextlib.ExitStack):
 
     @contextlib.contextmanager
     def running(self, *command):
-        """A program with one window that has the focus, for the time of a check."""
+        """Runs a program with one focused window during a check."""
         process = self.desktop.spawn(*command, stdout=subprocess.DEVNULL,
                                      stderr=subprocess.DEVNULL)
         try:
@@ -72,7 +72,7 @@ class Surroundings(contextlib.ExitStack):
             self.expect_focus(window, f"{command} once it is started")
             yield window
         except AssertionError:
-            self.keep("FAILED")  # While it can still be seen.
+            self.keep("FAILED")  # Before the window closes.
             raise
         finally:
             process.kill()
@@ -85,7 +85,7 @@ class Surroundings(contextlib.ExitStack):
         return self.gtk("fullscreen", css(SCREENFUL), monitor.x, monitor.width, monitor.height)
 
     def keep(self, name):
-        """Leaves a picture; its name begins with the desktop's."""
+        """Saves a picture; its name starts with the desktop's."""
         self.desktop.still_picture().save(self.pictures / f"{self.name}-{name}.png")
 
     def open_search(self):
@@ -98,7 +98,7 @@ class Surroundings(contextlib.ExitStack):
         self.desktop.click(monitor.x + AWAY[0], monitor.y + AWAY[1])
         self.expect_closed("after a click elsewhere", monitor)
 
-    # What is expected, and what was seen instead.
+    # Expectations.
 
     def expect_closed(self, when, monitor=MAIN):
         until(lambda: self.ravelo.is_collapsed(monitor),
@@ -115,7 +115,7 @@ class Surroundings(contextlib.ExitStack):
               lambda: f"{text!r} in the window {when}; there is {self.desktop.title(window)!r}")
 
     def expect_seen(self, area, hidden, what):
-        """Nearly no point of `area` (left, top, width, height) has one of the `hidden` colours."""
+        """Less than 2 % of `area` (left, top, width, height) has one of the `hidden` colours."""
         left, top, width, height = area
         points = [(x, y) for x in range(left, left + width, 9)
                   for y in range(top, top + height, 4)]
@@ -140,14 +140,14 @@ class Surroundings(contextlib.ExitStack):
 
 
 def place(on):
-    """Handle and panel hang from the middle of the top edge, over the bar."""
+    """Handle and panel are at the centre of the top edge, above the bar."""
     on.expect_closed("at the start")
     on.ravelo.open()
     on.close()
 
 
 def handle_above(on):
-    """The handle is seen above the bar and above a full-screen window with the focus."""
+    """The handle is above the bar and above a focused full-screen window."""
     on.expect_color((300, 5), BAR, "the bar")
     on.expect_handle_seen([BAR], "the handle above the bar")
     with on.screenful():
@@ -156,7 +156,7 @@ def handle_above(on):
 
 
 def panel_above(on):
-    """So is the open panel."""
+    """The open panel, too."""
     on.expect_color((200, 5), BAR, "the bar")
     on.expect_panel_seen(on.ravelo.open(), [BAR, WALLPAPER], "the panel above the bar")
     on.keep("above-bar")
@@ -169,7 +169,7 @@ def panel_above(on):
 
 
 def hot_zone(on):
-    """The pointer opens it beside the handle too, there where the bar is."""
+    """The pointer also opens it beside the handle, on the bar."""
     on.desktop.move(MIDDLE - 150, 100)
     on.expect_closed("below the hot zone")
     on.desktop.move(MIDDLE - 150, 6)
@@ -177,7 +177,7 @@ def hot_zone(on):
 
 
 def timer_bar(on):
-    """A running timer takes the handle's place, above all, and opens the panel anywhere on it."""
+    """A running timer replaces the handle, above everything, and opens the panel anywhere on it."""
     def shows():
         return (panel := on.ravelo.panel()) and (panel.y, panel.width) == (0, 520)
 
@@ -248,7 +248,7 @@ def gives_back(on):
 
 
 def workspaces(on):
-    """It is there on every workspace."""
+    """It is visible on every workspace."""
     if not on.desktop.window_manager:
         return "no window manager, no workspaces"
     on.desktop.run("xdotool", "set_num_desktops", 2)
@@ -265,7 +265,7 @@ def workspaces(on):
 
 @contextlib.contextmanager
 def dragged_file(on):
-    """A file that a file manager offers, held near the top centre."""
+    """Drags a file from a file manager to near the top centre."""
     folder = on.desktop.home / "files"
     folder.mkdir(exist_ok=True)
     (folder / FILE).write_text("dragged")
@@ -294,7 +294,7 @@ def file_drag(on):
         on.desktop.drag((corner.x + 30, corner.y + 10), (MIDDLE - 200, 100))
         until(lambda: on.desktop.title(window) == "dragged", "the start of a text's drag")
         end = time.monotonic() + 1
-        while time.monotonic() < end:  # A file would have opened it long since.
+        while time.monotonic() < end:  # A file would have opened it by now.
             on.desktop.run("xdotool", "mousemove_relative", "--", 1, 0)
             assert on.ravelo.is_collapsed(), f"a dragged text opened it: {on.ravelo.panel()}"
 
@@ -325,6 +325,6 @@ def two_monitors(on):
         on.desktop.hide(right)
 
 
-# The drop comes last: the panel is higher with a file on the shelf.
+# Drop is last: a file on the shelf makes the panel taller.
 CHECKS = (place, handle_above, panel_above, hot_zone, timer_bar, focus, typing, gives_back, workspaces,
           file_drag, two_monitors, drop)

@@ -1,6 +1,6 @@
-"""A GTK window without a border at the left, 200 x 200, all of which drags the files named away.
+"""A borderless GTK window at the left, 200 x 200, that is a drag source for the given files.
 
-Prints "ready" when it is there, "begin" and "end" of each drag. Each drag takes the next file.
+Prints "ready" when mapped, and "begin" and "end" for each drag. Each drag offers the next file.
 """
 
 import itertools

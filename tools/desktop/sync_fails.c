@@ -1,4 +1,4 @@
-// To be preloaded: nothing can be brought to the disk (EIO) as long as the file $SYNC_FAILS is there.
+// Preload: fsync fails with EIO while the file $SYNC_FAILS exists.
 
 #define _GNU_SOURCE
 

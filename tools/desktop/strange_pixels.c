@@ -1,8 +1,8 @@
-/* Looks at the top of the screen as fast as the server answers, until its standard input ends, and
-   prints the frames seen, the frames a second, the largest share of pixels that differ from the one
-   at the left edge of their row, in percent, and how many milliseconds after a locker's window came the last
-   such frame was seen. With the argument "mapped" frames count only after that window came and is
-   drawn, which a compositor may do much later, and for the share only those later than 50 ms. */
+/* Captures the top of the screen as fast as possible until standard input closes. Prints the number
+   of frames, frames per second, the maximum percentage of pixels that differ from the leftmost pixel
+   of their row, and how many milliseconds after the locker's window was mapped the last such frame
+   came. With the argument "mapped", frames count only once that window is mapped and drawn (a
+   compositor can be much later), and for the percentage only those later than 50 ms. */
 
 #include <poll.h>
 #include <stdint.h>
@@ -15,7 +15,7 @@
 #include <xcb/shm.h>
 #include <xcb/xcb.h>
 
-/* What the server made itself, such as the overlay that compositors draw on. */
+/* IDs of the server's own windows, such as the compositors' overlay. */
 enum { SERVERS_LAST = 0x1fffff };
 
 enum { LEFT = 230, WIDTH = 980, HEIGHT = 41, ALLOWED_MS = 50 };

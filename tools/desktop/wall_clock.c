@@ -1,5 +1,5 @@
-// To be preloaded: the wall clock is off by as many seconds as the file $WALL_CLOCK says now. Other
-// clocks, which no user can set, stay as they are. (libfaketime shifts their timers, too.)
+// Preload: shifts the wall clock by the seconds in the file $WALL_CLOCK. Other clocks, which users
+// cannot set, are unchanged. (libfaketime shifts their timers, too.)
 
 #define _GNU_SOURCE
 

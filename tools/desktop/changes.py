@@ -1,13 +1,11 @@
-"""What may change under the open panel. As in surroundings.py: one function a change, which raises
-an AssertionError that says what was seen if it is not what was wanted.
-"""
+"""Changes of the desktop while the panel is open, one function each, like surroundings.py."""
 
 from desktop import MAIN, RIGHT, WIDTH
 from surroundings import BAR, BAR_HEIGHT, SCREENFUL, WALLPAPER, css, until
 
 
 def window_manager(on, *command):
-    """Another window manager, or the same anew: the panel stays above and works as before."""
+    """Another window manager, or a restart: the panel stays on top and works as before."""
     panel = on.ravelo.open()
     on.desktop.start_window_manager(*command)
     on.expect_panel_seen(panel, [BAR, WALLPAPER], "the panel right afterwards")
@@ -22,7 +20,7 @@ def window_manager(on, *command):
 
 
 def bar_comes(on):
-    """A bar that is started later, or anew, does not cover the handle."""
+    """A bar started later does not cover the handle."""
     new_bar = (0, 255, 255)
     on.bar.kill()
     until(lambda: on.desktop.picture().at(300, 5) != BAR, "the end of the old bar")
@@ -34,16 +32,16 @@ def bar_comes(on):
 
 
 def compositor_replaced(on):
-    """xfwm4 that composites once more: seen for the record.
+    """Restart of xfwm4 with its compositor; not required.
 
-    xfwm4 4.18 then paints none of the override-redirect windows that were there before, whosever:
-    a plain GTK popup that moves or is mapped anew is as lost as the panel.
+    xfwm4 4.18 then paints no override-redirect window that existed before, not even a plain GTK
+    popup that moves or is mapped again.
     """
     window_manager(on, "xfwm4", "--replace")
 
 
 def backdrop(on, panel):
-    """Whether the wallpaper is seen through it; beside its outline it must be."""
+    """Whether the wallpaper shows through the panel; beside its outline it must."""
     inside = []
     for color in (SCREENFUL, WALLPAPER):
         on.desktop.run("hsetroot", "-solid", css(color))
@@ -55,7 +53,7 @@ def backdrop(on, panel):
 
 
 def compositor(on):
-    """Without a compositor it is opaque and shaped, with one translucent, whenever that changes."""
+    """Opaque and shaped without a compositor, translucent with one, also when that changes."""
     panel = on.ravelo.open()
 
     def expect(wanted, name):
@@ -70,7 +68,7 @@ def compositor(on):
 
 
 def monitor_goes(on):
-    """The open panel is then on the one that remains, and so is the handle."""
+    """The open panel and the handle move to the remaining monitor."""
     right = on.desktop.show(RIGHT)
     on.ravelo.open(right)
     on.keep("before")
