@@ -1,6 +1,6 @@
 // Whatever a settings manager may have put into its property.
 
-#include "platform/x11/XSettings.h"
+#include "platform/x11/settings/XSettings.h"
 #include "Input.h"
 
 using namespace ravelo;

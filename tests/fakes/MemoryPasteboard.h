@@ -14,6 +14,8 @@ public:
 
     [[nodiscard]] qint64 changeCount() const override { return changeCount_; }
 
+    [[nodiscard]] bool reportsChanges() const override { return tellsChanges; }
+
     [[nodiscard]] Handle onChange(std::function<void()> callback) override;
     [[nodiscard]] Handle read(PasteboardPlan plan,
                               std::function<void(PasteboardSnapshot)> done) override;

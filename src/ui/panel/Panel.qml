@@ -22,12 +22,8 @@ Item {
     required property ToastMessage toast
     required property PanelActions actions
 
-    HoverHandler {
-        onHoveredChanged: panel.controller.setHovered(hovered)
-    }
-
-    // Files only, and only to be copied; what they are the controller learns by itself: here it
-    // would have to be waited for. Not what is dragged out of the panel, and back.
+    // Files only, and only to be copied. The controller asks the platform what they are: asking
+    // here would block. Not what is dragged out of the panel, and back.
     DropArea {
         id: drop
         objectName: "drop"

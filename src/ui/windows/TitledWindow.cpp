@@ -66,10 +66,10 @@ void TitledWindow::fit() {
     setMinimumSize(size);
     setMaximumSize(size);
     resize(size);
-    if (isVisible() && before.topLeft() != inside_.topLeft()) { // The frame stays where it is.
-        setPosition(position() + (before.topLeft() - inside_.topLeft()).toPoint());
-    }
     if (frame_) {
+        if (isVisible() && before.topLeft() != inside_.topLeft()) { // The frame stays where it is.
+            frame_->moveTo(position() + (before.topLeft() - inside_.topLeft()).toPoint());
+        }
         frame_->setRoom(room);
     }
     if (rootObject() != nullptr) {
@@ -91,7 +91,9 @@ void TitledWindow::place() {
     QRectF frame = inside_;
     frame.moveCenter(QRectF(panel_.screen()->availableGeometry()).center());
     frame.moveTop(std::max(frame.top(), qreal(free().top()))); // With its title, in little room.
-    setPosition((frame.topLeft() - inside_.topLeft()).toPoint());
+    if (frame_) {
+        frame_->moveTo((frame.topLeft() - inside_.topLeft()).toPoint());
+    }
 }
 
 void TitledWindow::bringToFront() {
