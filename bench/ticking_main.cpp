@@ -2,8 +2,6 @@
 
 #include "app/AppDelegate.h"
 #include "platform/freedesktop/SingleInstance.h"
-#include "platform/x11/PrepareApplication.h"
-#include "platform/x11/X11DisplayServer.h"
 
 #include <QApplication>
 #include <QProcessEnvironment>
@@ -11,16 +9,20 @@
 using namespace ravelo;
 
 int main(int argc, char** argv) {
-    Handle preparation = x11::prepareApplication();
+    const auto display = Platform::choose();
+    if (!display) {
+        return 1;
+    }
+    Handle preparation = Platform::prepareApplication(*display);
     const QApplication application(argc, argv);
     preparation.reset();
     const auto instance = SingleInstance::claim();
-    auto display = x11::X11DisplayServer::create();
-    if (!instance || !display) {
+    auto platform =
+        Platform::make(*display, QProcessEnvironment::systemEnvironment(), HoverTick::Rest::never);
+    if (!instance || !platform) {
         return 1;
     }
-    AppDelegate delegate(**display, QProcessEnvironment::systemEnvironment(),
-                         HoverTick::Rest::never);
+    AppDelegate delegate(std::move(*platform));
     return delegate.applicationDidFinishLaunching(DataLock::Claim::ifFree) ? QApplication::exec()
                                                                            : 1;
 }

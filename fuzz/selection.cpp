@@ -3,7 +3,7 @@
 
 #include "Input.h"
 #include "clipboard/CapturePlan.h"
-#include "platform/x11/SelectionText.h"
+#include "platform/x11/selection/SelectionText.h"
 
 #include <QUtf8StringView>
 

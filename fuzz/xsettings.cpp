@@ -1,6 +1,6 @@
 // Any property of a settings manager.
 
-#include "platform/x11/XSettings.h"
+#include "platform/x11/settings/XSettings.h"
 #include "Input.h"
 
 using namespace ravelo;

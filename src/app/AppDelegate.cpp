@@ -1,7 +1,6 @@
 #include "app/AppDelegate.h"
 
 #include "app/Commands.h"
-#include "app/ShelfServices.h"
 #include "app/StatusItemController.h"
 #include "clipboard/ClipboardManager.h"
 #include "monitor/ClaudeEnvironment.h"
@@ -9,29 +8,28 @@
 #include "monitor/PlanUsage.h"
 #include "notices/Notices.h"
 #include "panel/NotchController.h"
+#include "platform/AlertSound.h"
+#include "platform/ChildProcess.h"
 #include "platform/DisplayServer.h"
-#include "platform/freedesktop/AutostartEntry.h"
-#include "platform/freedesktop/BusInstance.h"
-#include "platform/freedesktop/FileTransferPortal.h"
-#include "platform/freedesktop/LoginSession.h"
-#include "platform/freedesktop/LoginShutDown.h"
-#include "platform/freedesktop/PackageKit.h"
-#include "platform/freedesktop/ScreenSaverBus.h"
-#include "platform/freedesktop/SecretService.h"
-#include "platform/freedesktop/ThemeSound.h"
-#include "platform/freedesktop/TrayStatusItem.h"
-#include "platform/system/CurlClient.h"
-#include "platform/system/DecoderProcess.h"
-#include "platform/system/DetachedThreads.h"
-#include "platform/system/HelperProgram.h"
-#include "platform/system/InotifyChanges.h"
-#include "platform/system/NightShiftScript.h"
+#include "platform/FileIcons.h"
+#include "platform/FileOpener.h"
+#include "platform/FileTransfer.h"
+#include "platform/FolderChanges.h"
+#include "platform/HotZone.h"
+#include "platform/HttpsClient.h"
+#include "platform/ImageDecoder.h"
+#include "platform/LoginItem.h"
+#include "platform/MotionPreference.h"
+#include "platform/NightShift.h"
+#include "platform/PackageUpdates.h"
+#include "platform/SecretStore.h"
+#include "platform/ShutDown.h"
+#include "platform/StatusItem.h"
 #include "platform/system/PreferenceFile.h"
-#include "platform/system/SpawnedChild.h"
-#include "platform/system/SystemScheduler.h"
 #include "platform/system/TerminationSignals.h"
-#include "platform/system/WorkerThread.h"
 #include "settings/AppSettings.h"
+#include "shelf/NearbySend.h"
+#include "shelf/ReceivedWatcher.h"
 #include "store/Store.h"
 #include "ui/PanelView.h"
 #include "ui/windows/OnboardingController.h"
@@ -53,30 +51,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Room for two looks at the shelf and what a dead mount has left of earlier ones.
-constexpr int maxFileJobs = 24;
-
-/// Someone may copy a few files in a row; each holds a thread for good if its mount is dead.
-constexpr int maxCopiedFiles = 4;
-
-QString dataFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Ravelo"_s;
-}
-
-QString lockFile() {
-    return dataFolder() + u"/lock"_s;
-}
-
-QString configFolder() {
-    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
-}
-
 QByteArray home() {
     return QFile::encodeName(QDir::homePath());
-}
-
-QDBusConnection systemBus() {
-    return QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s);
 }
 
 void quitLater() {
@@ -123,10 +99,10 @@ TooLargeCopy::Measure measure(TooLarge::Kind kind) {
     return TooLargeCopy::Measure::pixelsOfImage;
 }
 
-Updater& updater() {
-    return Updater::shared([] {
-        return std::make_unique<Updater>(std::make_unique<PackageKit>(systemBus(), u"ravelo"_s),
-                                         u"" RAVELO_VERSION ""_s);
+/// Made at the first call, which must pass the packages.
+Updater& updater(std::unique_ptr<PackageUpdates> packages = {}) {
+    return Updater::shared([&packages] {
+        return std::make_unique<Updater>(std::move(packages), u"" RAVELO_VERSION ""_s);
     });
 }
 
@@ -137,42 +113,18 @@ QByteArrayList claudeFolders() {
 
 } // namespace
 
-AppDelegate::AppDelegate(DisplayServer& display, const QProcessEnvironment& environment,
-                         HoverTick::Rest rest)
-    : display_(display),
-      rest_(rest),
-      dataLock_(std::make_unique<DataLock>(lockFile(), dataFolder() + u"/store.json"_s)),
-      scheduler_(std::make_unique<SystemScheduler>()),
-      worker_(std::make_unique<WorkerThread>()),
-      preferences_(std::make_unique<PreferenceFile>(
-          configFolder() + u"/ravelo/preferences.json"_s,
-          PreferenceFile::Services{*scheduler_, *worker_, mayWrite()})),
-      jobs_(std::make_unique<DetachedThreads>()),
-      fileJobs_(std::make_unique<DetachedThreads>(maxFileJobs)),
-      copiedFiles_(std::make_unique<DetachedThreads>(maxCopiedFiles)),
-      loginItem_(std::make_unique<AutostartEntry>(
-          configFolder() + u"/autostart"_s, QCoreApplication::applicationFilePath(), *fileJobs_)),
-      loginSession_(std::make_unique<LoginSession>(systemBus())),
-      screenSaver_(std::make_unique<ScreenSaverBus>(sessionBus())),
-      transfers_(
-          std::make_unique<FileTransferPortal>(helperProgram("ravelo-portal"_L1), environment)),
-      sound_(std::make_unique<ThemeSound>()),
-      nightShift_(std::make_unique<NightShiftScript>(environment)),
-      shutDown_(std::make_unique<LoginShutDown>(systemBus())),
-      secrets_(std::make_unique<SecretService>(sessionBus())),
-      https_(std::make_unique<CurlClient>((u"Ravelo/" RAVELO_VERSION ""_s).toUtf8(), environment)),
-      children_(std::make_unique<SpawnedChild>(*jobs_, renewalEnvironment(environment),
-                                               renewalFolder(home()))),
-      decoder_(
-          std::make_shared<DecoderProcess>(QFile::encodeName(helperProgram("ravelo-decode"_L1)),
-                                           QFile::encodeName(Store::clipsFolder(dataFolder())))),
-      tray_(std::make_unique<TrayStatusItem>(sessionBus(), display_.tray(), *scheduler_)),
-      shelf_(std::make_unique<ShelfServices>(*scheduler_, *jobs_, *fileJobs_, display_.icons())),
-      notices_(std::make_unique<Notices>(*scheduler_)),
+AppDelegate::AppDelegate(Platform platform)
+    : platform_(std::move(platform)),
+      received_(std::make_unique<ReceivedWatcher>(
+          *platform_.folders, *platform_.scheduler,
+          QStandardPaths::writableLocation(QStandardPaths::DownloadLocation))),
+      nearby_(std::make_unique<NearbySend>(NearbySend::Services{
+          *platform_.devices, *platform_.programs, *platform_.fileJobs, *platform_.scheduler})),
+      notices_(std::make_unique<Notices>(*platform_.scheduler)),
       view_(std::make_unique<PanelView>()) {}
 
 bool AppDelegate::mayRunAlready() {
-    return DataLock::mayBeHeld(lockFile());
+    return DataLock::mayBeHeld(Platform::lockFile());
 }
 
 AppDelegate::~AppDelegate() {
@@ -181,57 +133,48 @@ AppDelegate::~AppDelegate() {
     view_->unload();
 }
 
-std::function<Result<void>()> AppDelegate::mayWrite() {
-    return [this] {
-        return dataLock_->check();
-    };
-}
-
 Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
-    if (auto claimed = dataLock_->claim(claim); !claimed) {
+    if (auto claimed = platform_.dataLock->claim(claim); !claimed) {
         return claimed;
     }
-    if (preferences_->wasUnreadable()) {
-        rememberFirstStart(*preferences_);
+    if (platform_.preferences->wasUnreadable()) {
+        rememberFirstStart(*platform_.preferences);
     }
-    updater();
-    store_ = std::make_unique<Store>(dataFolder(),
-                                     Store::Services{*scheduler_, *worker_, *preferences_,
-                                                     display_.pasteboard(), *sound_, *fileJobs_,
-                                                     *copiedFiles_, *jobs_, decoder_, mayWrite()});
+    updater(std::move(platform_.packages));
+    store_ = std::make_unique<Store>(
+        Platform::dataFolder(),
+        Store::Services{*platform_.scheduler, *platform_.worker, *platform_.preferences,
+                        platform_.display->pasteboard(), *platform_.sound, *platform_.fileJobs,
+                        *platform_.copiedFiles, *platform_.jobs, platform_.decoder,
+                        platform_.mayWrite()});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
-    settings_ = std::make_unique<AppSettings>(*preferences_, *loginItem_);
+    settings_ = std::make_unique<AppSettings>(*platform_.preferences, *platform_.loginItem);
     settings_->setupLoginItemDefaultIfNeeded();
-    loginItem_->repair([this](const Result<void>& repaired) {
+    platform_.loginItem->repair([this](const Result<void>& repaired) {
         if (!repaired) {
             qWarning("Ravelo login-item error: %s", qUtf8Printable(repaired.error().message));
         }
         settings_->refreshLaunchAtLogin();
     });
 
-    clipboard_ =
-        std::make_unique<ClipboardManager>(*store_, display_.pasteboard(), *scheduler_, *jobs_);
+    clipboard_ = std::make_unique<ClipboardManager>(*store_, platform_.display->pasteboard(),
+                                                    *platform_.scheduler, *platform_.jobs);
     clipboard_->start();
 
-    window_ = display_.panelWindow(view_->window());
+    window_ = platform_.display->panelWindow(view_->window());
+    zone_ = platform_.makeHotZone(*window_);
     notch_ = std::make_unique<NotchController>(
         *store_, *clipboard_, *settings_,
-        NotchController::Services{
-            *scheduler_,
-            display_.screens(),
-            display_.pointer(),
-            display_.drags(),
-            *transfers_,
-            display_.barrier(),
-            display_.inputGrab(),
-            *window_,
-            {&display_.lock(), &display_.cover(), loginSession_.get(), screenSaver_.get()}},
-        rest_);
-    view_->load({*store_, *settings_, *notch_, *notices_, display_.pasteboard(), *scheduler_,
-                 *preferences_, *nightShift_, *shutDown_, planUsage(), shelf_->received,
-                 shelf_->nearby, *fileJobs_, shelf_->opener, shelf_->icons, decoder_},
+        NotchController::Services{*platform_.scheduler, platform_.display->screens(), *zone_,
+                                  platform_.display->drags(), *platform_.transfers,
+                                  platform_.display->barrier(), platform_.display->inputGrab(),
+                                  *window_, locks()});
+    view_->load({*store_, *settings_, *notch_, *notices_, platform_.display->pasteboard(),
+                 *platform_.scheduler, *platform_.preferences, *platform_.nightShift,
+                 *platform_.shutDown, planUsage(), *received_, *nearby_, *platform_.fileJobs,
+                 *platform_.opener, platform_.icons, platform_.decoder},
                 QLocale());
     provideWindows();
     const auto checkUpdates = [this] {
@@ -239,11 +182,11 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         updateWindow_->show();
     };
     statusItem_ = std::make_unique<StatusItemController>(
-        StatusItemController::Services{*tray_, *notch_, liveContext(), *scheduler_, *settings_,
-                                       checkUpdates, quitLater},
+        StatusItemController::Services{*platform_.statusItem, *notch_, liveContext(),
+                                       *platform_.scheduler, *settings_, checkUpdates, quitLater},
         QLocale());
     commands_ = std::make_unique<Commands>(
-        Commands::Services{*store_, *notch_, *scheduler_, liveContext(), planUsage(),
+        Commands::Services{*store_, *notch_, *platform_.scheduler, liveContext(), planUsage(),
                            [this] { showSetup(); }, checkUpdates, quitLater});
     wire();
     wireNotices();
@@ -253,28 +196,39 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     return {};
 }
 
+std::vector<SessionLock*> AppDelegate::locks() {
+    std::vector<SessionLock*> locks = platform_.display->locks();
+    for (const auto& lock : platform_.sessionLocks) {
+        locks.push_back(lock.get());
+    }
+    return locks;
+}
+
 LiveContext& AppDelegate::liveContext() {
     return LiveContext::shared([this] {
-        return std::make_unique<LiveContext>(LiveContext::Services{*scheduler_, *jobs_}, home(),
-                                             std::make_unique<InotifyChanges>(), claudeFolders());
+        return std::make_unique<LiveContext>(
+            LiveContext::Services{*platform_.scheduler, *platform_.jobs}, home(),
+            std::move(platform_.transcriptChanges), claudeFolders());
     });
 }
 
 PlanUsage& AppDelegate::planUsage() {
     return PlanUsage::shared([this] {
         return std::make_unique<PlanUsage>(
-            UsageQuery::Services{*scheduler_, *jobs_, *secrets_, *https_, *children_}, home(),
-            PlanUsage::provider(), claudeFolders());
+            UsageQuery::Services{*platform_.scheduler, *platform_.jobs, *platform_.secrets,
+                                 *platform_.https, *platform_.children},
+            home(), PlanUsage::provider(), claudeFolders());
     });
 }
 
 void AppDelegate::provideWindows() {
     const TitledWindow::Beside beside{view_->window(), [this](QWindow& window) {
-                                          return display_.windowFrame(window);
+                                          return platform_.display->windowFrame(window);
                                       }};
     settingsWindow_ = std::make_unique<SettingsWindow>(
         SettingsWindow::Subjects{beside, *store_, *settings_, quitLater});
-    onboarding_ = std::make_unique<OnboardingController>(beside, *settings_, display_.screens());
+    onboarding_ =
+        std::make_unique<OnboardingController>(beside, *settings_, platform_.display->screens());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());
     QObject::connect(notch_.get(), &NotchController::settingsRequested, settingsWindow_.get(),
                      &SettingsWindow::show);
@@ -299,10 +253,10 @@ void AppDelegate::wire() {
     followCompositor();
     compositor_ = window_->onShowThroughChange(followCompositor);
     const auto followMotion = [this] {
-        view_->features().state.setReducedMotion(display_.motion().isReduced());
+        view_->features().state.setReducedMotion(platform_.motion->isReduced());
     };
     followMotion();
-    motion_ = display_.motion().onChange(followMotion);
+    motion_ = platform_.motion->onChange(followMotion);
     termination_ = onTerminationSignal([] { QCoreApplication::quit(); });
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, notch_.get(),
                      [this] { flush(); });
@@ -352,10 +306,10 @@ void AppDelegate::wireNotices() {
     };
     QObject::connect(store_.get(), &Store::saveEnded, notices_.get(),
                      follow(Notices::Source::store));
-    preferences_->onSaved = follow(Notices::Source::preferences);
+    platform_.preferences->onSaved = follow(Notices::Source::preferences);
     QObject::connect(notices_.get(), &Notices::tryAgain, notices_.get(), [this] {
         store_->save();
-        preferences_->retry();
+        platform_.preferences->retry();
     });
     QObject::connect(notices_.get(), &Notices::openFolder, notices_.get(),
                      [this](const QString& path) {
@@ -376,15 +330,15 @@ void AppDelegate::showSetup() {
     onboarding_->show();
 }
 
-Answer AppDelegate::answer(const QStringList& request) {
-    return commands_->answer(request);
+Answer AppDelegate::answer(const QStringList& request, const QByteArray& activationToken) {
+    return commands_->answer(request, activationToken);
 }
 
 void AppDelegate::flush() {
     if (store_) {
         store_->flush();
     }
-    preferences_->flush();
+    platform_.preferences->flush();
 }
 
 } // namespace ravelo

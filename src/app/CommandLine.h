@@ -11,8 +11,8 @@ namespace ravelo {
 /// What the user asked for at the command line.
 struct Command {
     enum class Kind { showHelp, showVersion, storeUsage, ask };
-    /// What to do about a request where no Ravelo runs. By `start` alone all is done; what is asked
-    /// for with `readFiles` can be found out without one, as far as files tell it.
+    /// What to do if no Ravelo runs. `start` alone completes the request; what is asked
+    /// for with `readFiles` is answered from files as far as possible.
     enum class IfNoneRuns { fail, start, startAndAsk, readFiles };
 
     Kind kind = Kind::ask;

@@ -27,7 +27,7 @@ namespace {
 
 using Services = Commands::Services;
 
-constexpr qsizetype mostFiles = 1000; ///< More on the shelf at once is a mistake.
+constexpr qsizetype maxFiles = 1000; ///< More on the shelf at once is a mistake.
 
 // What may follow the words of a command.
 
@@ -52,10 +52,10 @@ Result<void> files(const QStringList& arguments) {
     if (arguments.isEmpty()) {
         return failure(u"no files"_s);
     }
-    return arguments.size() <= mostFiles
+    return arguments.size() <= maxFiles
                ? Result<void>()
                : failure(u"%1 files are too many at once, %2 is the limit"_s.arg(arguments.size())
-                             .arg(mostFiles));
+                             .arg(maxFiles));
 }
 
 Result<void> lengthAndLabel(const QStringList& arguments) {
@@ -65,51 +65,58 @@ Result<void> lengthAndLabel(const QStringList& arguments) {
                          arguments.value(0) + u'"');
 }
 
-// What they do.
+// What the commands do.
+
+/// `arguments` are the words after those of the command.
+struct Call {
+    const Services& services;
+    QStringList arguments;
+    QByteArray activationToken;
+};
 
 Answer printed(const QJsonObject& object) {
     return {0, QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n', {}};
 }
 
-Answer show(const Services& services, const QStringList& /*arguments*/) {
-    services.notch.open();
+Answer show(const Call& call) {
+    call.services.notch.open();
     return {};
 }
 
 /// The desktop session that starts this program again has nothing to ask of one that runs already.
-Answer restore(const Services& /*services*/, const QStringList& /*arguments*/) {
+Answer restore(const Call& /*call*/) {
     return {};
 }
 
-Answer toggle(const Services& services, const QStringList& /*arguments*/) {
-    services.notch.toggle();
+Answer toggle(const Call& call) {
+    call.services.notch.toggle(call.activationToken);
     return {};
 }
 
-Answer settings(const Services& services, const QStringList& /*arguments*/) {
-    services.notch.openSettings();
+Answer settings(const Call& call) {
+    call.services.notch.openSettings();
     return {};
 }
 
-Answer setup(const Services& services, const QStringList& /*arguments*/) {
-    services.showSetup();
+Answer setup(const Call& call) {
+    call.services.showSetup();
     return {};
 }
 
-Answer updates(const Services& services, const QStringList& /*arguments*/) {
-    services.checkUpdates();
+Answer updates(const Call& call) {
+    call.services.checkUpdates();
     return {};
 }
 
-Answer quit(const Services& services, const QStringList& /*arguments*/) {
-    services.quit();
+Answer quit(const Call& call) {
+    call.services.quit();
     return {};
 }
 
-Answer open(const Services& services, const QStringList& files) {
+Answer open(const Call& call) {
     QStringList paths;
     QStringList errors;
-    for (const QString& file : files) {
+    for (const QString& file : call.arguments) {
         const auto path = absolutePath(file.toUtf8());
         path ? paths.append(*path) : errors.append(path.error().message);
     }
@@ -117,19 +124,19 @@ Answer open(const Services& services, const QStringList& files) {
     if (!paths.isEmpty()) {
         QList<QUrl> urls;
         std::ranges::transform(paths, std::back_inserter(urls), QUrl::fromLocalFile);
-        services.notch.onFiles(urls);
+        call.services.notch.onFiles(urls);
     }
     return {errors.isEmpty() ? 0 : 1, {}, errors.join(u'\n')};
 }
 
-Answer startTimer(const Services& services, const QStringList& arguments) {
-    services.store.startTimer(arguments.mid(1).join(u' '),
-                              writtenMinutes(arguments.first()).value_or(0));
+Answer startTimer(const Call& call) {
+    call.services.store.startTimer(call.arguments.mid(1).join(u' '),
+                                   writtenMinutes(call.arguments.first()).value_or(0));
     return {};
 }
 
-Answer stopTimer(const Services& services, const QStringList& /*arguments*/) {
-    services.store.stopTimer();
+Answer stopTimer(const Call& call) {
+    call.services.store.stopTimer();
     return {};
 }
 
@@ -162,9 +169,9 @@ QJsonObject described(const Store& store, Date now) {
             {u"text"_s, text.trimmed()}};
 }
 
-Answer timerStatus(const Services& services, const QStringList& arguments) {
-    const QJsonObject timer = described(services.store, services.scheduler.now());
-    if (!arguments.isEmpty()) {
+Answer timerStatus(const Call& call) {
+    const QJsonObject timer = described(call.services.store, call.services.scheduler.now());
+    if (!call.arguments.isEmpty()) {
         return printed(timer);
     }
     const QString text = timer[u"running"].toBool() ? timer[u"text"].toString() : u"no timer"_s;
@@ -194,9 +201,9 @@ QJsonArray described(const Shelf& shelf) {
     return files;
 }
 
-Answer shelfList(const Services& services, const QStringList& arguments) {
-    const Shelf& shelf = services.store.shelf();
-    const QString format = arguments.value(0);
+Answer shelfList(const Call& call) {
+    const Shelf& shelf = call.services.store.shelf();
+    const QString format = call.arguments.value(0);
     if (!format.isEmpty() && !asksForNul(format)) {
         return printed({{u"files"_s, described(shelf)}});
     }
@@ -207,15 +214,16 @@ Answer shelfList(const Services& services, const QStringList& arguments) {
     return answer;
 }
 
-Answer status(const Services& services, const QStringList& arguments) {
-    const Date now = services.scheduler.now();
-    return statusAnswer(MonitorStatus::of(services.context, services.usage, now), now, arguments);
+Answer status(const Call& call) {
+    const Date now = call.services.scheduler.now();
+    return statusAnswer(MonitorStatus::of(call.services.context, call.services.usage, now), now,
+                        call.arguments);
 }
 
 struct Row {
     QStringList words;
     Result<void> (*check)(const QStringList& arguments);
-    Answer (*answer)(const Services& services, const QStringList& arguments);
+    Answer (*answer)(const Call& call);
 };
 
 const Row* rowFor(const QStringList& request) {
@@ -249,12 +257,12 @@ Result<void> Commands::check(const QStringList& request) {
                : failure(u"unknown command: "_s + request.join(u' '));
 }
 
-Answer Commands::answer(const QStringList& request) const {
+Answer Commands::answer(const QStringList& request, const QByteArray& activationToken) const {
     if (const auto checked = check(request); !checked) {
         return {2, {}, checked.error().message};
     }
     const Row* const row = rowFor(request);
-    return row->answer(services_, request.mid(row->words.size()));
+    return row->answer({services_, request.mid(row->words.size()), activationToken});
 }
 
 } // namespace ravelo

@@ -15,7 +15,7 @@ class PlanUsage;
 class Scheduler;
 class Store;
 
-/// What the running program can be asked for by another start of it. A request is the words of the
+/// What another instance can ask the running program for. A request is the words of the
 /// command line after the program's name, but for these: "show", "restore", "toggle", "settings",
 /// "setup", "updates", "quit", "status", and "open" with the absolute paths or file URLs of what to
 /// park. Main thread.
@@ -29,15 +29,17 @@ public:
         const PlanUsage& usage;
         std::function<void()> showSetup;
         std::function<void()> checkUpdates;
-        std::function<void()> quit; ///< Later than at once: who asks for it wants an answer.
+        std::function<void()> quit; ///< Not at once: the sender waits for the answer.
     };
 
     explicit Commands(Services services);
 
-    /// An error where the request makes no sense, whoever is asked.
+    /// An error if the request is invalid in any state.
     [[nodiscard]] static Result<void> check(const QStringList& request);
 
-    [[nodiscard]] Answer answer(const QStringList& request) const;
+    /// For `activationToken` see PanelWindow::requestFocus.
+    [[nodiscard]] Answer answer(const QStringList& request,
+                                const QByteArray& activationToken = {}) const;
 
 private:
     Services services_;

@@ -11,7 +11,7 @@ namespace ravelo {
 
 [[nodiscard]] bool printsToTerminal();
 
-/// Says on standard error, line by line, who complains.
+/// Prints to standard error, each line with the program's name.
 void complain(const QString& text);
 
 /// To standard output, whole: to a terminal as `harmless` has it, elsewhere as it is. The exit

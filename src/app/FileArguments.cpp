@@ -18,7 +18,7 @@ bool isUrl(const QByteArray& name) {
     return name.startsWith("file:/");
 }
 
-/// The bytes of the path: a QUrl would replace those that are no UTF-8. Nothing where the file is
+/// The bytes of the path: a QUrl would replace those that are no UTF-8. Nothing if the file is
 /// another machine's.
 std::optional<QByteArray> pathOfUrl(const QByteArray& url) {
     QByteArray path = url.mid(url.indexOf(':') + 1);
@@ -34,13 +34,13 @@ std::optional<QByteArray> pathOfUrl(const QByteArray& url) {
 }
 
 tl::unexpected<Error> refused(const char* why, const QByteArray& name) {
-    constexpr qsizetype mostShown = 500;
+    constexpr qsizetype maxShown = 500;
     const QString shown = QString::fromUtf8(name);
     return failure(QString::fromLatin1(why) + u": "_s +
-                   (shown.size() > mostShown ? shown.first(mostShown) + u'…' : shown));
+                   (shown.size() > maxShown ? shown.first(maxShown) + u'…' : shown));
 }
 
-/// `shown` is how whoever gave it knows it.
+/// `shown` is the name that the user gave.
 Result<QString> toPath(const QByteArray& name, const QByteArray& shown) {
     const std::optional<QByteArray> path = isUrl(name) ? pathOfUrl(name) : name;
     if (!path || !path->startsWith('/') || path->contains('\0')) {

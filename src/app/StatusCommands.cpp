@@ -18,7 +18,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 longestInput = qint64(1) << 20;
+constexpr qint64 maxInput = qint64(1) << 20;
 
 QByteArray home() {
     return QFile::encodeName(QDir::homePath());
@@ -47,8 +47,8 @@ Answer storeUsageFromInput() {
     if (!input.open(stdin, QIODevice::ReadOnly)) {
         return {1, {}, u"cannot read standard input"_s};
     }
-    const QByteArray given = input.read(longestInput + 1);
-    if (given.size() > longestInput) {
+    const QByteArray given = input.read(maxInput + 1);
+    if (given.size() > maxInput) {
         return {1, {}, u"that is too long for a status line"_s};
     }
     const auto stored = storeUsage(home(), given);

@@ -15,10 +15,10 @@ struct MonitorStatus;
 [[nodiscard]] Answer statusAnswer(const MonitorStatus& status, Date now,
                                   const QStringList& arguments);
 
-/// The same of what this user's files tell, for where no Ravelo runs. Blocks.
+/// The same from this user's files, if no Ravelo runs. Blocks.
 [[nodiscard]] Answer statusFromFiles(const QStringList& arguments);
 
-/// Keeps what standard input tells of the plan's usage, to its end, for the Ravelo that runs or
+/// Stores the plan usage that is read from standard input, for the Ravelo that runs or
 /// will run. Blocks.
 [[nodiscard]] Answer storeUsageFromInput();
 

@@ -14,7 +14,7 @@ constexpr double canvas = 18;
 struct Shape {
     QRectF place;
     double radius;
-    double stroke; ///< 0 where it is filled.
+    double stroke; ///< 0 if it is filled.
 };
 
 constexpr Shape shapes[] = {

@@ -6,8 +6,6 @@
 #include "platform/freedesktop/SingleInstance.h"
 #include "platform/freedesktop/XdgEnvironment.h"
 #include "platform/system/CoreDumps.h"
-#include "platform/x11/PrepareApplication.h"
-#include "platform/x11/X11DisplayServer.h"
 #include "ui/theme/Fonts.h"
 
 #include <QApplication>
@@ -30,14 +28,20 @@ using namespace Qt::StringLiterals;
 
 constexpr int nobodyRuns = 255; ///< No status of an answer.
 
-/// What Qt gets to see of the command line: it would take files of certain names for options.
+/// What Qt gets to see of the command line: it would mistake files of certain names for options.
 int nameAlone = 1;
 int nameAndSession = 3; ///< With "-session ID", an option of Qt's.
+
+/// The proof that the user started this process, for a window that is to take the keyboard.
+QByteArray activationToken() {
+    const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
+    return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token; // X11 has the older one.
+}
 
 /// Names may hold line feeds: what a terminal is to show one name a line has to come apart first.
 std::optional<Answer> askForConsole(const QStringList& request) {
     if (request != QStringList{u"shelf"_s, u"list"_s} || !printsToTerminal()) {
-        return SingleInstance::ask(request);
+        return SingleInstance::ask(request, activationToken());
     }
     auto answer = SingleInstance::ask(request + QStringList{u"--null"_s});
     if (answer) {
@@ -51,7 +55,7 @@ std::optional<Answer> askForConsole(const QStringList& request) {
 /// readers.
 std::optional<int> askElsewhere(const QStringList& request, char** argv) {
     std::signal(SIGCHLD,
-                SIG_DFL); // Who started us may have ignored it: nobody could be waited for.
+                SIG_DFL); // Our parent may have ignored it, and then waitpid() fails.
     const pid_t child = fork();
     if (child == 0) {
         int status = nobodyRuns;
@@ -68,18 +72,20 @@ std::optional<int> askElsewhere(const QStringList& request, char** argv) {
         return std::nullopt;
     }
     if (waitpid(child, &status, 0) != child || !WIFEXITED(status)) {
-        return EXIT_FAILURE; // By SIGPIPE, where nobody reads on.
+        return EXIT_FAILURE; // By SIGPIPE, if the reader has gone.
     }
     return WEXITSTATUS(status) == nobodyRuns ? std::nullopt : std::optional(WEXITSTATUS(status));
 }
 
 int run(const Command& command, char** argv) {
+    const QByteArray token = activationToken(); // Qt takes it out of the environment.
     const auto environment = QProcessEnvironment::systemEnvironment(); // Next, we change our own.
-    if (const auto found = x11::findDisplay(); !found) {
-        complain(found.error().message);
+    const auto display = Platform::choose();
+    if (!display) {
+        complain(display.error().message);
         return EXIT_FAILURE;
     }
-    Handle preparation = x11::prepareApplication();
+    Handle preparation = Platform::prepareApplication(*display);
     const std::jthread fonts = readFontConfiguration();
     const bool isRestored = command.request.value(0) == "restore"_L1;
     // The status item is made of widgets.
@@ -91,23 +97,24 @@ int run(const Command& command, char** argv) {
 
     const auto instance = SingleInstance::claim();
     if (!instance) {
-        return report(SingleInstance::ask(command.request).value_or(SingleInstance::silence()));
+        return report(
+            SingleInstance::ask(command.request, token).value_or(SingleInstance::silence()));
     }
-    auto display = x11::X11DisplayServer::create();
-    if (!display) {
-        complain(display.error().message);
-        return 1;
+    auto platform = Platform::make(*display, environment);
+    if (!platform) {
+        complain(platform.error().message);
+        return EXIT_FAILURE;
     }
-    AppDelegate delegate(**display, environment);
+    AppDelegate delegate(std::move(*platform));
     if (const auto launched = delegate.applicationDidFinishLaunching(command.claim); !launched) {
         complain(launched.error().message);
-        return 1;
+        return EXIT_FAILURE;
     }
-    instance->onRequest = [&](const QStringList& request) {
-        return delegate.answer(request);
+    instance->onRequest = [&](const QStringList& request, const QByteArray& senderToken) {
+        return delegate.answer(request, senderToken);
     };
     if (command.ifNoneRuns == Command::IfNoneRuns::startAndAsk) {
-        (void)report(delegate.answer(command.request));
+        (void)report(delegate.answer(command.request, token));
     }
     return QApplication::exec();
 }

@@ -1,9 +1,10 @@
 #include "panel/EdgeGuard.h"
 
 #include "panel/NotchGeometry.h"
-#include "platform/DragMonitor.h"
 #include "platform/EdgeBarrier.h"
 #include "platform/Screens.h"
+
+#include <utility>
 
 namespace ravelo {
 
@@ -21,9 +22,12 @@ QRectF guardedStrip(const Screen& main) {
 
 } // namespace
 
-EdgeGuard::EdgeGuard(Scheduler& scheduler, Screens& screens, DragMonitor& drags,
-                     EdgeBarrier& barrier)
-    : scheduler_(scheduler), screens_(screens), drags_(drags), barrier_(barrier) {}
+EdgeGuard::EdgeGuard(Scheduler& scheduler, Screens& screens, EdgeBarrier& barrier,
+                     std::function<bool()> carriesFiles)
+    : scheduler_(scheduler),
+      screens_(screens),
+      barrier_(barrier),
+      carriesFiles_(std::move(carriesFiles)) {}
 
 void EdgeGuard::start() {
     retry_.reset();
@@ -47,10 +51,8 @@ void EdgeGuard::follow(std::optional<QPointF> drag, Source source) {
         return;
     }
     const QRectF strip = guardedStrip(*main);
-    // The source is asked for its types only once the pointer may need to be held: some make their
-    // files when they are asked.
     const bool within = drag->x() >= strip.left() && drag->x() <= strip.right();
-    if (within && (source == Source::panel || !drags_.files().value_or(QList<QUrl>()).isEmpty())) {
+    if (within && (source == Source::panel || carriesFiles_())) {
         hold(strip);
     }
 }

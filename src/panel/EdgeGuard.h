@@ -6,11 +6,11 @@
 #include <QPointF>
 #include <QRectF>
 
+#include <functional>
 #include <optional>
 
 namespace ravelo {
 
-class DragMonitor;
 class EdgeBarrier;
 class Screens;
 
@@ -20,16 +20,18 @@ class EdgeGuard {
 public:
     enum class State { idle, waitingForTrust, guarding, failed };
 
-    EdgeGuard(Scheduler& scheduler, Screens& screens, DragMonitor& drags, EdgeBarrier& barrier);
+    /// `carriesFiles` is asked about drags of other programs once the pointer may need to be held.
+    EdgeGuard(Scheduler& scheduler, Screens& screens, EdgeBarrier& barrier,
+              std::function<bool()> carriesFiles);
 
-    /// Begins to guard; tries again every 3 s until the process is trusted to hold the pointer.
+    /// Starts guarding; retries every 3 s until the process is allowed to hold the pointer.
     void start();
 
-    /// Where a drag comes from. Those of the panel carry files.
+    /// Where a drag comes from. Drags from the panel always carry files.
     enum class Source { anotherProgram, panel };
 
-    /// Called at every tick with the pointer's place during a drag with the left button, and with
-    /// nothing while there is none.
+    /// Called for each sight of the pointer with its position during a drag with the left button,
+    /// and with nothing while there is none.
     void follow(std::optional<QPointF> drag, Source source = Source::anotherProgram);
 
     [[nodiscard]] State state() const { return state_; }
@@ -39,8 +41,8 @@ private:
 
     Scheduler& scheduler_;
     Screens& screens_;
-    DragMonitor& drags_;
     EdgeBarrier& barrier_;
+    std::function<bool()> carriesFiles_;
     State state_ = State::idle;
     Handle retry_;
     Handle held_;

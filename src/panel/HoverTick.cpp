@@ -10,8 +10,8 @@ namespace {
 
 constexpr Seconds interval{0.02};
 
-// After as many still ticks the platform is asked to tell of the next motion; one more tick then
-// sees what may have moved before it was listening.
+// After this many still ticks the platform is asked to report the next motion; one more tick then
+// sees what may have moved before it listened.
 constexpr int ticksUntilListening = 3;
 
 } // namespace

@@ -9,8 +9,8 @@ namespace ravelo {
 
 class Pointer;
 
-/// The 20 ms tick that watches the pointer. While what it looks at stands still it rests, at no
-/// cost, until the pointer moves or somebody wakes it; whenever it runs it does so at the same
+/// The 20 ms tick that watches the pointer. While nothing moves it rests, at no
+/// cost, until the pointer moves or it is woken; whenever it runs, it runs at the same
 /// instants as a tick that never rests. Main thread only.
 class HoverTick {
 public:
@@ -22,7 +22,7 @@ public:
 
     HoverTick(Scheduler& scheduler, Pointer& pointer, Rest rest, std::function<Next()> evaluate);
 
-    /// Something changed that the next tick must see.
+    /// Something has changed that the next tick must see.
     void wake();
 
 private:

@@ -6,7 +6,6 @@
 #include "panel/NotchShape.h"
 #include "platform/DragMonitor.h"
 #include "platform/InputGrab.h"
-#include "platform/Pointer.h"
 #include "platform/SessionLock.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
@@ -19,15 +18,13 @@ namespace ravelo {
 
 namespace {
 
-constexpr double hoverMargin =
-    40; ///< How far around the open panel the pointer still counts as on it.
 constexpr Seconds closeDelay{0.35};
 
 /// How long the bar shows that the timer has ended.
 constexpr Seconds timerEndTime{5};
 
-/// A window manager holds the keyboard until the key that it was pressed for is released.
-constexpr Seconds grabPatience{0.4};
+/// A window manager keeps the keyboard until its shortcut's key is released.
+constexpr Seconds grabTimeout{0.4};
 constexpr Seconds grabInterval{0.04};
 
 constexpr Seconds hiddenWhenTaken{1};
@@ -35,26 +32,26 @@ constexpr Seconds hiddenWhenTaken{1};
 } // namespace
 
 NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppSettings& settings,
-                                 Services services, HoverTick::Rest rest)
+                                 Services services)
     : store_(store),
       clipboard_(clipboard),
       settings_(settings),
       services_(std::move(services)),
-      guard_(services_.scheduler, services_.screens, services_.drags, services_.barrier),
-      drop_(services_.drags, services_.transfers),
-      tick_(services_.scheduler, services_.pointer, rest, [this] { return evaluateHover(); }),
+      drop_(services_.transfers, [this] { lookAtDrag(); }),
       takenInput_(services_.scheduler, services_.inputGrab,
                   [this] { return hideIfInputIsTaken(); }) {
     idleDragCount_ = services_.drags.changeCount();
-    guard_.start();
+    if (services_.barrier != nullptr) {
+        guard_.emplace(services_.scheduler, services_.screens, *services_.barrier,
+                       [this] { return dragCarriesFiles(); });
+        guard_->start();
+    }
     connect(&store_, &Store::shelfChanged, this, &NotchController::resizeForShelf);
     connect(&store_, &Store::timerEnded, this, &NotchController::showTimerEnd);
-    pressMonitor_ = services_.pointer.onPress([this] { pressedSomewhere(); });
+    sights_ = services_.zone.onSight([this](const auto& sight) { return evaluateHover(sight); });
+    pressMonitor_ = services_.zone.onPress([this](HotZone::Press press) { pressed(press); });
     screensMonitor_ = services_.screens.onChange([this] { screensChanged(); });
-    dragMonitor_ = services_.drags.onChange([this] {
-        tick_.wake();
-        lookAtDrag();
-    });
+    dragMonitor_ = services_.drags.onChange([this] { services_.zone.lookAgain(); });
     for (SessionLock* const lock : services_.locks) {
         lockMonitors_.push_back(lock->onChange([this] { lockChanged(); }));
     }
@@ -74,55 +71,41 @@ NotchController::~NotchController() {
     store_.onTimerChange = nullptr;
 }
 
-HoverTick::Next NotchController::evaluateHover() {
-    PointerState pointer = look();
-    pointer.buttonDown = std::exchange(unseenPress_, false) || pointer.buttonDown;
-    const auto on = screenFor(pointer.location, services_.screens.all(), services_.screens.main());
-    if (!on || isLocked()) {
-        return HoverTick::Next::still; // Screens that come back and the unlocking wake the tick.
+HotZone::Report NotchController::evaluateHover(const HotZone::Sight& sight) {
+    if (!sight.screen || isLocked()) {
+        return HotZone::Report::onChange; // Screens that return, and unlocking, ask for a report.
     }
-    if (!pointer.buttonDown) {
+    if (!sight.buttonDown) {
         idleDragCount_ = services_.drags.changeCount();
     }
-    guardEdge(pointer);
-    const bool inZone =
-        pointer.location ? isNearTopCentre(*pointer.location, *on, hotZoneHeight, hotZoneHalfWidth)
-                         : hovered_;
-    if (isOpen_) {
-        evaluateOpen(inZone, pointer);
-    } else {
-        evaluateCollapsed(inZone, *on, pointer);
-    }
-    const Seen seen{pointer.location, pointer.buttonDown, services_.drags.changeCount()};
-    const bool moved = std::exchange(lastSeen_, seen) != seen;
-    return moved || closeWork_ ? HoverTick::Next::busy : HoverTick::Next::still;
+    guardEdge(sight);
+    isOpen_ ? evaluateOpen(sight) : evaluateCollapsed(sight);
+    return closeWork_ ? HotZone::Report::again : HotZone::Report::onChange;
 }
 
-void NotchController::guardEdge(const PointerState& pointer) {
+void NotchController::guardEdge(const HotZone::Sight& sight) {
     using Source = EdgeGuard::Source;
-    const bool dragged = pointer.leftDown && (draggingOut_ || isDragOn(pointer));
-    guard_.follow(dragged ? pointer.location : std::nullopt,
-                  draggingOut_ ? Source::panel : Source::anotherProgram);
+    if (guard_) {
+        const bool dragged = sight.leftDown && (draggingOut_ || isDragOn(sight));
+        guard_->follow(dragged ? sight.location : std::nullopt,
+                       draggingOut_ ? Source::panel : Source::anotherProgram);
+    }
 }
 
-void NotchController::evaluateOpen(bool inZone, const PointerState& pointer) {
-    const QRectF near = frame_.adjusted(-hoverMargin, -hoverMargin, hoverMargin, hoverMargin);
-    if (inZone || isOver(near, pointer)) {
+void NotchController::evaluateOpen(const HotZone::Sight& sight) {
+    if (sight.inZone || sight.nearPanel) {
         closeWork_.reset();
-    } else if (pointer.location || !closeWork_) {
-        // Where no press elsewhere is ever told of, the delay is all that closes: it goes on then.
+    } else if (services_.zone.reportsPressesElsewhere() || !closeWork_) {
         scheduleClose();
     }
 }
 
-void NotchController::evaluateCollapsed(bool inZone, const Screen& screen,
-                                        const PointerState& pointer) {
-    if (isFileDragNear(screen, pointer)) {
+void NotchController::evaluateCollapsed(const HotZone::Sight& sight) {
+    if (sight.inDragZone && isDragOn(sight) && dragCarriesFiles()) {
         openForFiles();
         return;
     }
-    const bool over = inZone || isOver(frame_, pointer);
-    if (!hold_.update(over, pressOf(pointer))) {
+    if (!hold_.update(sight.inZone || sight.onPanel, pressOf(sight))) {
         stripTicks_ = 0;
         return;
     }
@@ -131,23 +114,23 @@ void NotchController::evaluateCollapsed(bool inZone, const Screen& screen,
     }
 }
 
-bool NotchController::isFileDragNear(const Screen& screen, const PointerState& pointer) const {
-    // The source is asked for its types only once everything else speaks for opening: some make
-    // their files when they are asked.
-    return isDragOn(pointer) && pointer.location &&
-           isNearTopCentre(*pointer.location, screen, dragZoneHeight, dragZoneHalfWidth) &&
-           !services_.drags.files().value_or(QList<QUrl>()).isEmpty();
-}
-
-HoverHold::Press NotchController::pressOf(const PointerState& pointer) const {
-    if (!pointer.buttonDown) {
+HoverHold::Press NotchController::pressOf(const HotZone::Sight& sight) const {
+    if (!sight.buttonDown) {
         return HoverHold::Press::none;
     }
-    return isDragOn(pointer) ? HoverHold::Press::drag : HoverHold::Press::other;
+    return isDragOn(sight) ? HoverHold::Press::drag : HoverHold::Press::other;
 }
 
-bool NotchController::isDragOn(const PointerState& pointer) const {
-    return pointer.buttonDown && services_.drags.changeCount() != idleDragCount_;
+bool NotchController::isDragOn(const HotZone::Sight& sight) const {
+    return sight.buttonDown && services_.drags.changeCount() != idleDragCount_;
+}
+
+/// To be asked last: some sources make their files only when they are asked for them.
+bool NotchController::dragCarriesFiles() {
+    if (auto newest = services_.drags.newest(); newest != dragged_.offer()) {
+        dragged_ = OfferedFiles(std::move(newest));
+    }
+    return !dragged_.named().value_or(QList<QUrl>()).isEmpty();
 }
 
 void NotchController::openForFiles() {
@@ -157,7 +140,8 @@ void NotchController::openForFiles() {
 }
 
 bool NotchController::onDragEnter() {
-    dragOver_ = drop_.enter() != Carries::nothing; // If refused, no leaving is reported.
+    // If it is refused, nobody reports that it leaves.
+    dragOver_ = drop_.enter(services_.window.dragOffer()) != Carries::nothing;
     lookAtDrag();
     return dragOver_;
 }
@@ -168,15 +152,15 @@ void NotchController::onDragLeave() {
 }
 
 bool NotchController::onDrop() {
-    const bool taken = mayCarryFiles();
-    if (taken) {
-        drop_.take([this, closings = closings_](const QList<QUrl>& files) {
-            // What comes after the user has closed the panel does not open it again.
+    const bool accepted = mayCarryFiles();
+    if (accepted) {
+        drop_.drop([this, closings = closings_](const QList<QUrl>& files) {
+            // Files that come after the user has closed the panel do not open it again.
             closings == closings_ ? onFiles(files) : store_.addToShelf(files);
         });
     }
     onDragLeave();
-    return taken;
+    return accepted;
 }
 
 bool NotchController::mayCarryFiles() {
@@ -200,25 +184,10 @@ void NotchController::onFiles(const QList<QUrl>& urls) {
     open();
 }
 
-bool NotchController::isOver(const QRectF& area, const PointerState& pointer) const {
-    return pointer.location ? area.contains(*pointer.location) : hovered_;
-}
-
-PointerState NotchController::look() {
-    const PointerState pointer = services_.pointer.state();
-    unseenPress_ = unseenPress_ || pointer.buttonDown;
-    return pointer;
-}
-
-std::optional<Screen> NotchController::screen() {
-    return screenFor(look().location, services_.screens.all(), services_.screens.main());
-}
-
-void NotchController::pressedSomewhere() {
-    tick_.wake();
-    const bool onPanel = isOver(frame_, look());
+void NotchController::pressed(HotZone::Press press) {
+    const bool onPanel = press == HotZone::Press::onPanel;
     hold_.pressed(onPanel ? HoverHold::Place::panel : HoverHold::Place::elsewhere);
-    if (isOpen_ && !onPanel && !services_.pointer.isOverOwnWindow()) {
+    if (isOpen_ && press == HotZone::Press::elsewhere) {
         collapse();
     }
 }
@@ -226,12 +195,12 @@ void NotchController::pressedSomewhere() {
 void NotchController::screensChanged() {
     if (!isOpen_) {
         positionCollapsed();
-    } else if (const auto on = screen()) {
+    } else if (const auto on = services_.zone.look().screen) {
         placeExpanded(*on);
     }
 }
 
-// Renewed by every tick with the pointer outside, so it runs only where ticks stop coming.
+// Every sight of the pointer outside the panel renews it, unless nothing else would ever close.
 void NotchController::scheduleClose() {
     closeWork_ = services_.scheduler.after(closeDelay, [this] {
         closeWork_.reset();
@@ -257,26 +226,27 @@ void NotchController::dismiss() {
     }
 }
 
-void NotchController::toggle() {
+void NotchController::toggle(const QByteArray& activationToken) {
     if (isOpen_) {
         dismiss();
     } else {
-        openBefore(services_.scheduler.uptime() + grabPatience, Keyboard::requested);
+        openBefore({services_.scheduler.uptime() + grabTimeout, Opening::Keyboard::requested,
+                    activationToken});
     }
 }
 
 void NotchController::open() {
-    openBefore(services_.scheduler.uptime() + grabPatience, Keyboard::left);
+    openBefore({services_.scheduler.uptime() + grabTimeout, Opening::Keyboard::left});
 }
 
-void NotchController::openBefore(Seconds end, Keyboard keyboard) {
+void NotchController::openBefore(Opening opening) {
     openWork_.reset();
     positionExpanded();
-    if (isOpen_ && keyboard == Keyboard::requested) {
-        typeFocus();
-    } else if (!isOpen_ && !isLocked() && services_.scheduler.uptime() < end) {
-        openWork_ = services_.scheduler.after(grabInterval,
-                                              [this, end, keyboard] { openBefore(end, keyboard); });
+    if (isOpen_ && opening.keyboard == Opening::Keyboard::requested) {
+        services_.window.requestFocus(opening.activationToken);
+    } else if (!isOpen_ && !isLocked() && services_.scheduler.uptime() < opening.end) {
+        openWork_ = services_.scheduler.after(
+            grabInterval, [this, again = std::move(opening)] { openBefore(again); });
     }
 }
 
@@ -286,7 +256,7 @@ void NotchController::openSettings() {
 }
 
 void NotchController::positionCollapsed() {
-    const auto on = screen();
+    const auto on = services_.zone.look().screen;
     const BarGeometry bar = on ? barGeometry(*on, settings_.macType()) : BarGeometry();
     const bool timerEnded(timerEndShown_);
     const bool showsBar = store_.timerRunning() || timerEnded || store_.reminderVisible();
@@ -317,13 +287,12 @@ void NotchController::setCollapsed(const Collapsed& collapsed) {
 }
 
 void NotchController::positionExpanded() {
-    const PointerState pointer = look();
-    const auto on = screenFor(pointer.location, services_.screens.all(), services_.screens.main());
-    if (isOpen_ || !on || isLocked() || isInputHeld(pointer)) {
+    const HotZone::Sight sight = services_.zone.look();
+    if (isOpen_ || !sight.screen || isLocked() || isInputHeld(sight)) {
         return;
     }
     isOpen_ = true;
-    placeExpanded(*on); // First: what is shown is laid out for the frame.
+    placeExpanded(*sight.screen); // First: what is shown is laid out for the frame.
     Q_EMIT isOpenChanged();
     services_.window.orderFront();
 }
@@ -334,7 +303,7 @@ void NotchController::placeExpanded(const Screen& screen) {
 }
 
 QSizeF NotchController::sizeToOpenWith() {
-    const auto on = screen();
+    const auto on = services_.zone.look().screen;
     return on ? sizeOn(*on) : QSizeF();
 }
 
@@ -345,7 +314,7 @@ QSizeF NotchController::sizeOn(const Screen& screen) const {
 }
 
 void NotchController::resizeForShelf() {
-    const auto on = screen();
+    const auto on = services_.zone.look().screen;
     if (isOpen_ && on && std::abs(sizeOn(*on).height() - frame_.height()) > 1) {
         placeExpanded(*on);
     }
@@ -357,26 +326,28 @@ bool NotchController::isLocked() const {
 
 /// A client that holds pointer and keyboard may be an unknown locker; the source of a drag
 /// may hold both too.
-bool NotchController::isInputHeld(const PointerState& pointer) {
+bool NotchController::isInputHeld(const HotZone::Sight& sight) {
     return services_.inputGrab.isHeldByAnother() && !filesOver_ &&
-           !(isDragOn(pointer) && !services_.drags.files().value_or(QList<QUrl>()).isEmpty());
+           !(isDragOn(sight) && dragCarriesFiles());
 }
 
 TakenInput::Look NotchController::hideIfInputIsTaken() {
     if (!isOpen_) {
         return TakenInput::Look::enough;
     }
-    if (!isInputHeld(look())) {
+    if (!isInputHeld(services_.zone.look())) {
         return TakenInput::Look::again;
     }
     hide();
-    // What took the input says nothing when it gives it back, and may have been a menu.
+    // Nobody reports the end of a grab, and it may have been a menu's.
     reappearWork_ = services_.scheduler.after(hiddenWhenTaken, [this] { lockChanged(); });
     return TakenInput::Look::enough;
 }
 
 void NotchController::hide() {
-    guard_.follow(std::nullopt);
+    if (guard_) {
+        guard_->follow(std::nullopt);
+    }
     openWork_.reset();
     services_.window.returnFocus(); // Only a window that is shown can give it back.
     services_.window.orderOut();
@@ -398,17 +369,12 @@ void NotchController::setFrame(const Screen& screen, QSizeF size, const QPainter
     frame_ = hangingFrame(screen, size);
     services_.window.place(screen, size);
     services_.window.setOutline(outline);
-    tick_.wake();
-}
-
-void NotchController::setHovered(bool hovered) {
-    hovered_ = hovered;
-    tick_.wake();
+    services_.zone.setPanel(frame_);
 }
 
 void NotchController::setDraggingOut(bool dragging) {
     draggingOut_ = dragging;
-    tick_.wake();
+    services_.zone.lookAgain();
 }
 
 void NotchController::copy(const QString& text) {
@@ -425,7 +391,7 @@ void NotchController::copyFile(const QUrl& file) {
 
 void NotchController::typeFocus() {
     if (isOpen_) {
-        services_.window.requestFocus();
+        services_.window.requestFocus({});
     }
 }
 

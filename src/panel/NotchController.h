@@ -4,8 +4,8 @@
 #include "base/Scheduler.h"
 #include "panel/EdgeGuard.h"
 #include "panel/HoverHold.h"
-#include "panel/HoverTick.h"
 #include "panel/TakenInput.h"
+#include "platform/HotZone.h"
 #include "platform/PanelWindow.h"
 #include "platform/Screens.h"
 #include "shelf/FileDrop.h"
@@ -24,12 +24,10 @@ class DragMonitor;
 class EdgeBarrier;
 class FileTransfer;
 class InputGrab;
-class Pointer;
 class SessionLock;
 class Store;
-struct PointerState;
 
-/// Decides whether the panel is collapsed or open, where it stands and how large it is. Knows no
+/// Decides whether the panel is collapsed or open, where it is and how large. Knows no
 /// view: what is shown follows `isOpen`. Main thread only.
 class NotchController : public QObject {
     Q_OBJECT
@@ -45,17 +43,17 @@ public:
     struct Services {
         Scheduler& scheduler;
         Screens& screens;
-        Pointer& pointer;
+        HotZone& zone;
         DragMonitor& drags;
         FileTransfer& transfers;
-        EdgeBarrier& barrier;
+        EdgeBarrier* barrier; ///< Null if the display server has none.
         InputGrab& inputGrab;
         PanelWindow& window;
-        std::vector<SessionLock*> locks; ///< The session is locked while one of them says so.
+        std::vector<SessionLock*> locks; ///< The session is locked while any of them says so.
     };
 
     NotchController(Store& store, ClipboardManager& clipboard, AppSettings& settings,
-                    Services services, HoverTick::Rest rest = HoverTick::Rest::whenStill);
+                    Services services);
     ~NotchController() override;
 
     [[nodiscard]] bool isOpen() const { return isOpen_; }
@@ -76,7 +74,7 @@ public:
     /// Of the handle or the bar, in logical pixels; a closing panel's window may still be larger.
     [[nodiscard]] QSizeF collapsedSize() const { return collapsed_.size; }
 
-    /// Where the panel stands, in global logical pixels.
+    /// Where the panel is, in global logical pixels.
     [[nodiscard]] QRectF frame() const { return frame_; }
 
     void positionCollapsed();
@@ -87,19 +85,16 @@ public:
     /// it may be the menu or the key by which the request was made.
     void open();
 
-    /// Closes at the user's wish while the pointer may rest where it would open the panel again:
+    /// Closes at the user's request while the pointer may still be where it opens the panel:
     /// hovering opens only once the pointer has been elsewhere.
     Q_INVOKABLE void dismiss();
 
-    /// By a key: opens with the keyboard in the panel, or closes.
-    void toggle();
+    /// By a key: opens with the keyboard in the panel, or closes. For `activationToken` see
+    /// PanelWindow::requestFocus.
+    void toggle(const QByteArray& activationToken = {});
 
     /// Closes and asks for the settings.
     Q_INVOKABLE void openSettings();
-
-    /// Tells whether the pointer is over the window, for display servers that tell its place
-    /// nowhere else.
-    Q_INVOKABLE void setHovered(bool hovered);
 
     /// A drag of another program has entered the panel's window: it opens once it is known to
     /// carry files. False if it is known to carry none.
@@ -139,15 +134,6 @@ Q_SIGNALS:
     void settingsRequested();
 
 private:
-    /// What must stand still for the tick to rest.
-    struct Seen {
-        std::optional<QPointF> location;
-        bool buttonDown = false;
-        qint64 dragCount = 0;
-
-        friend bool operator==(const Seen&, const Seen&) = default;
-    };
-
     /// What the panel looks like while it is closed.
     struct Collapsed {
         bool showsBar = false;
@@ -158,24 +144,26 @@ private:
         friend bool operator==(const Collapsed&, const Collapsed&) = default;
     };
 
-    enum class Keyboard { left, requested };
+    /// A request to open, repeated until `end`.
+    struct Opening {
+        Seconds end;
+        enum class Keyboard { left, requested } keyboard;
+        QByteArray activationToken = {};
+    };
 
-    HoverTick::Next evaluateHover();
-    void guardEdge(const PointerState& pointer);
-    void evaluateOpen(bool inZone, const PointerState& pointer);
-    void evaluateCollapsed(bool inZone, const Screen& screen, const PointerState& pointer);
+    HotZone::Report evaluateHover(const HotZone::Sight& sight);
+    void guardEdge(const HotZone::Sight& sight);
+    void evaluateOpen(const HotZone::Sight& sight);
+    void evaluateCollapsed(const HotZone::Sight& sight);
     void showTimerEnd();
     void openForFiles();
     void lookAtDrag();
-    [[nodiscard]] HoverHold::Press pressOf(const PointerState& pointer) const;
-    [[nodiscard]] bool isDragOn(const PointerState& pointer) const;
-    [[nodiscard]] bool isFileDragNear(const Screen& screen, const PointerState& pointer) const;
-    [[nodiscard]] bool isOver(const QRectF& area, const PointerState& pointer) const;
-    [[nodiscard]] PointerState look();
-    [[nodiscard]] std::optional<Screen> screen();
-    [[nodiscard]] bool isInputHeld(const PointerState& pointer);
-    void openBefore(Seconds end, Keyboard keyboard);
-    void pressedSomewhere();
+    [[nodiscard]] HoverHold::Press pressOf(const HotZone::Sight& sight) const;
+    [[nodiscard]] bool isDragOn(const HotZone::Sight& sight) const;
+    [[nodiscard]] bool dragCarriesFiles();
+    [[nodiscard]] bool isInputHeld(const HotZone::Sight& sight);
+    void openBefore(Opening opening);
+    void pressed(HotZone::Press press);
     void screensChanged();
     void scheduleClose();
     void resizeForShelf();
@@ -196,25 +184,23 @@ private:
     bool isOpen_ = false;
     Collapsed collapsed_;
     QRectF frame_;
-    int stripTicks_ = 0;       ///< Ticks in a row with the pointer in the zone while collapsed.
+    int stripTicks_ = 0;       ///< Sights in a row with the pointer in the zone while collapsed.
     qint64 idleDragCount_ = 0; ///< The drag count last seen with no button down.
     HoverHold hold_;
-    bool hovered_ = false;
     bool draggingOut_ = false; ///< Files, out of the panel.
     bool dragOver_ = false;    ///< One of another program is over the window.
     bool filesOver_ = false;   ///< It is known to carry files.
     int closings_ = 0;         ///< How often the open panel has been closed.
-    bool unseenPress_ = false; ///< A button was down at a look between two ticks.
-    Seen lastSeen_;
+    OfferedFiles dragged_;     ///< By the newest drag.
 
-    EdgeGuard guard_;
+    std::optional<EdgeGuard> guard_;
     FileDrop drop_;
-    HoverTick tick_;
     TakenInput takenInput_;
     Handle closeWork_;
     Handle timerEndShown_; ///< While the bar shows it.
     Handle openWork_;      ///< Tries again to open.
     Handle reappearWork_;  ///< After the input was taken.
+    Handle sights_;
     Handle pressMonitor_;
     Handle screensMonitor_;
     Handle dragMonitor_;

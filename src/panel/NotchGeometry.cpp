@@ -12,7 +12,7 @@ namespace {
 constexpr double plainBarWidth = 520;
 constexpr double notchBarWidth = 640;
 constexpr double assumedNotch = 200;
-constexpr double leastBarHeight = 24;
+constexpr double minBarHeight = 24;
 
 double measuredNotch(const Screen& screen) {
     if (!screen.leftOfNotch || !screen.rightOfNotch) {
@@ -36,7 +36,7 @@ bool contains(const QRectF& frame, QPointF point) {
 } // namespace
 
 BarGeometry barGeometry(const Screen& screen, const QString& displayKind) {
-    const double height = std::max(screen.visibleFrame.top() - screen.frame.top(), leastBarHeight);
+    const double height = std::max(screen.visibleFrame.top() - screen.frame.top(), minBarHeight);
     const double measured = measuredNotch(screen);
     const bool plain = displayKind == "none"_L1 || (displayKind != "notch"_L1 && measured <= 0);
     const double widest = largestSize(screen).width();

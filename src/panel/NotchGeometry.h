@@ -20,14 +20,14 @@ inline constexpr double hotZoneHalfWidth = 160;
 inline constexpr double dragZoneHeight = 140;
 inline constexpr double dragZoneHalfWidth = 300;
 
-/// How much narrower and lower than its screen the panel stays, at least.
+/// The panel is at least this much narrower and lower than its screen.
 inline constexpr double screenMargin = 20;
 
 /// The collapsed bar that shows a timer or reminders.
 struct BarGeometry {
     double width = 0;
     double height = 0;
-    double notch = 0; ///< Width to leave free in the middle; 0 where there is no notch.
+    double notch = 0; ///< Width to leave free in the middle; 0 if there is no notch.
 
     friend bool operator==(const BarGeometry&, const BarGeometry&) = default;
 };
@@ -43,7 +43,7 @@ enum class ShelfContent { none, files };
 /// A box of `size` hanging from the middle of the top edge of `screen`.
 [[nodiscard]] QRectF hangingFrame(const Screen& screen, QSizeF size);
 
-/// The first screen under the pointer, else `main`, else the first of all; nothing where there is
+/// The first screen under the pointer, else `main`, else the first of all; nothing if there is
 /// no screen.
 [[nodiscard]] std::optional<Screen> screenFor(std::optional<QPointF> pointer,
                                               const std::vector<Screen>& screens,

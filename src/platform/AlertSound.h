@@ -2,13 +2,13 @@
 
 namespace ravelo {
 
-/// The short sound by which the desktop says that something is done. Main thread.
+/// The desktop's short sound for something that is complete. Main thread.
 class AlertSound {
 public:
     virtual ~AlertSound() = default;
 
-    /// Waits for nothing. Silently nothing where there is no sound to be had, and while an earlier
-    /// one has not begun yet.
+    /// Never blocks. Silently does nothing if no sound can be played, or while an earlier one has
+    /// not started yet.
     virtual void play() = 0;
 };
 

@@ -6,15 +6,15 @@
 
 namespace ravelo {
 
-/// Work that may never come back, as a look at a file on a network mount whose server is gone.
-/// Each job has a thread that nobody waits for, not even the end of the program. Main thread.
+/// Work that may never return, such as reading a file on a network mount whose server is gone. Each
+/// job has a thread that nobody waits for, not even at exit. Main thread.
 class DetachedJobs {
 public:
     virtual ~DetachedJobs() = default;
 
-    /// Runs `job` off the main thread, then, later, `done` on it, unless the handle was dropped. A
-    /// job touches nothing but the values it holds. Where too many hang already, `job` is left out:
-    /// what it would have found out is unknown to `done`.
+    /// Runs `job` off the main thread, then `done` on it, unless the handle was dropped. A job uses
+    /// only the values it holds. If too many jobs hang already, `job` is skipped: `done` has to
+    /// cope without its result.
     [[nodiscard]] virtual Handle run(std::function<void()> job, std::function<void()> done) = 0;
 };
 

@@ -2,45 +2,37 @@
 
 #include "platform/DragMonitor.h"
 #include "platform/EdgeBarrier.h"
-#include "platform/IconPreference.h"
 #include "platform/InputGrab.h"
-#include "platform/MotionPreference.h"
 #include "platform/PanelWindow.h"
 #include "platform/Pasteboard.h"
-#include "platform/Pointer.h"
 #include "platform/Screens.h"
 #include "platform/SessionLock.h"
-#include "platform/TrayArea.h"
 #include "platform/WindowFrame.h"
 
 #include <memory>
+#include <vector>
 
 class QWindow;
 
 namespace ravelo {
 
-/// All that one kind of display server provides; each adapter makes one. Owns what it hands out,
-/// but for panel windows and frames, which must go before it does.
+/// What one kind of display server provides; each adapter makes one. Owns what it returns except
+/// for panel windows and frames, which must be destroyed before it.
 class DisplayServer {
 public:
     virtual ~DisplayServer() = default;
 
     [[nodiscard]] virtual Pasteboard& pasteboard() = 0;
-    [[nodiscard]] virtual Pointer& pointer() = 0;
     [[nodiscard]] virtual DragMonitor& drags() = 0;
     [[nodiscard]] virtual Screens& screens() = 0;
-    [[nodiscard]] virtual EdgeBarrier& barrier() = 0;
 
-    /// As far as the display server itself is told of a locked screen.
-    [[nodiscard]] virtual SessionLock& lock() = 0;
-
-    /// Locked while another program's window hides the screen that the panel is on.
-    [[nodiscard]] virtual SessionLock& cover() = 0;
+    /// Null if it cannot hold the pointer.
+    [[nodiscard]] virtual EdgeBarrier* barrier() = 0;
 
     [[nodiscard]] virtual InputGrab& inputGrab() = 0;
-    [[nodiscard]] virtual MotionPreference& motion() = 0;
-    [[nodiscard]] virtual IconPreference& icons() = 0;
-    [[nodiscard]] virtual TrayArea& tray() = 0;
+
+    /// The signs of a locked screen that the display server itself knows of.
+    [[nodiscard]] virtual std::vector<SessionLock*> locks() = 0;
 
     /// Makes the panel out of `window`, which must not have been shown yet and must outlive it.
     [[nodiscard]] virtual std::unique_ptr<PanelWindow> panelWindow(QWindow& window) = 0;

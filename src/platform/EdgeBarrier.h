@@ -13,12 +13,12 @@ class EdgeBarrier {
 public:
     virtual ~EdgeBarrier() = default;
 
-    /// Whether this process may hold the pointer at all; may become true as the program runs.
+    /// Whether this process may hold the pointer at all; may become true while the program runs.
     [[nodiscard]] virtual bool isTrusted() = 0;
 
     /// Lets the pointer leave `strip` (global logical pixels) but not enter it from below or from
-    /// its sides, for as long as the handle lives. A pointer already in it is moved to its lower
-    /// edge once. The lower edge is not part of the strip, the left and right edges are.
+    /// its sides, as long as the handle lives. A pointer already in it is moved to its lower edge
+    /// once. The lower edge is not part of the strip, the left and right edges are.
     [[nodiscard]] virtual Result<Handle> hold(QRectF strip) = 0;
 };
 

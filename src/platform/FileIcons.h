@@ -5,14 +5,14 @@
 
 namespace ravelo {
 
-/// The pictures that the desktop has for kinds of files. Any thread, but for the main one: it looks
-/// for files.
+/// The desktop's icons for types of files. Any thread except for the main one: it searches folders
+/// on the disk.
 class FileIcons {
 public:
     virtual ~FileIcons() = default;
 
-    /// The file of the first of the icons `names` that there is, best for `size` device pixels;
-    /// empty where there is none.
+    /// The file of the first of the icons `names` that exists, best for `size` device pixels; empty
+    /// if there is none.
     [[nodiscard]] virtual QString find(const QStringList& names, int size) const = 0;
 };
 

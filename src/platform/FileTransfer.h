@@ -10,14 +10,14 @@
 
 namespace ravelo {
 
-/// Files that a program hands over by a key, because it cannot name them itself: it may be locked
-/// up with a view of the disk of its own (the file-transfer portal). Main thread; nothing waits.
+/// Files that a sandboxed program hands over by a key, since it sees other paths than we do (the
+/// file-transfer portal). Main thread; never blocks.
 class FileTransfer {
 public:
     virtual ~FileTransfer() = default;
 
-    /// Fetches what lies under `key`, which goes once. `done` is called once, later, within a few
-    /// seconds; with nothing where nobody hands anything out. Never where the handle was dropped.
+    /// Redeems `key`, which is possible only once. `done` is called once, within a few seconds,
+    /// with an empty list on failure; never if the handle was dropped.
     [[nodiscard]] virtual Handle retrieve(const QByteArray& key,
                                           std::function<void(const QList<QUrl>&)> done) = 0;
 };

@@ -5,21 +5,21 @@
 
 namespace ravelo {
 
-/// Tells which folders have changed since it was last asked, and wakes nobody in between. One
-/// thread, whichever. Paths as the system has them.
+/// Reports which folders have changed since it was last asked, without waking anybody in between.
+/// Any one thread. Paths are the system's bytes.
 class FolderChanges {
 public:
     virtual ~FolderChanges() = default;
 
-    /// Watches a folder from now on; one that is watched already stays so. False where nobody
-    /// would tell: there is no such folder, it is on another machine, or too many are watched.
+    /// Watches a folder from now on; no change if it is watched already. False if changes cannot be
+    /// seen: there is no such folder, it is on another machine, or too many are watched.
     [[nodiscard]] virtual bool watch(const QByteArray& folder) = 0;
 
     virtual void unwatch(const QByteArray& folder) = 0;
 
     struct Changes {
-        QSet<QByteArray> folders; ///< With an entry that came, went, was written to or dated anew.
-        bool lost = false;        ///< There were more than anybody counted: any may have changed.
+        QSet<QByteArray> folders; ///< An entry was added, removed, written or touched.
+        bool lost = false;        ///< Changes were lost: any folder may have changed.
     };
 
     [[nodiscard]] virtual Changes take() = 0;

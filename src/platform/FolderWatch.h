@@ -13,36 +13,36 @@ namespace ravelo {
 
 struct FolderEntry {
     QByteArray name;
-    bool isEmpty = false; ///< A file without contents; unknown where all that is listed is old.
+    bool isEmpty = false; ///< A file of size 0; not set if all entries are old.
 };
 
-/// All that a folder holds. What was known of it before is void.
+/// Everything in a folder. Replaces what was known of it.
 struct FolderListing {
-    /// What the names say that were not told of before.
+    /// What names mean that were not reported before.
     enum class Unknown {
-        old,     ///< They were there already: the watch begins, or another folder is in its place.
-        arrived, ///< They came meanwhile: something was missed, or the folder was just made.
+        old,     ///< They were there before: the watch begins, or the folder was replaced.
+        arrived, ///< They are new: changes were missed, or the folder was just created.
     };
 
-    QList<FolderEntry> entries; ///< The one that came last is last, where they have arrived.
+    QList<FolderEntry> entries; ///< If they have arrived, the newest is last.
     Unknown unknown = Unknown::old;
 };
 
 struct FolderChange {
     enum class Kind {
-        written,  ///< Closed by somebody who wrote to it.
-        movedIn,  ///< Got this name, by a renaming or from elsewhere, as it is.
-        movedOut, ///< Has this name no more.
+        written,  ///< Closed after writing.
+        movedIn,  ///< Got this name by a rename, complete as it is.
+        movedOut, ///< Lost this name.
         deleted,
     };
 
     Kind kind = Kind::written;
     QByteArray name;
-    bool isEmpty = false; ///< A file without contents, as far as `written` tells.
-    quint32 renaming = 0; ///< The same for the two halves of one renaming; 0 for none.
+    bool isEmpty = false; ///< A file of size 0; set for `written` only.
+    quint32 renaming = 0; ///< The same for both halves of one rename; 0 if none.
 };
 
-/// First the listing, where there is one.
+/// The listing, if any, comes first.
 struct FolderNews {
     std::optional<FolderListing> listing;
     QList<FolderChange> changes;

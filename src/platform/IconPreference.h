@@ -8,12 +8,12 @@
 
 namespace ravelo {
 
-/// Which icons the user has chosen for the desktop. Main thread.
+/// The icon theme that the user has chosen for the desktop. Main thread.
 class IconPreference {
 public:
     virtual ~IconPreference() = default;
 
-    /// Name of an icon theme; empty where the desktop does not tell.
+    /// Name of an icon theme; empty if unknown.
     [[nodiscard]] virtual QString theme() const = 0;
 
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;

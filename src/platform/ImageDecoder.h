@@ -35,15 +35,15 @@ struct PictureLook {
     [[nodiscard]] qint64 pixels() const { return qint64{size.width()} * size.height(); }
 };
 
-/// Reads pictures that others made, away from this process. They are PNG, JPEG, GIF, BMP, WebP,
-/// TIFF and HEIF, told by their contents; anything else, what is too large and what takes too long
-/// is no picture, and then what is returned is empty. Blocks, for seconds; any thread but the main
-/// one, and several at once.
+/// Decodes untrusted pictures outside this process: PNG, JPEG, GIF, BMP, WebP, TIFF and HEIF,
+/// recognized by their contents. For anything else, and for what is too large or takes too long,
+/// the result is empty. Blocks, for seconds. Any thread except for the main one, and several calls
+/// at once.
 class ImageDecoder {
 public:
     virtual ~ImageDecoder() = default;
 
-    /// The quickest: all of it is passed on, but only its beginning decoded.
+    /// The fastest: only the beginning of the picture is decoded.
     [[nodiscard]] virtual PictureLook look(const UntrustedPicture& picture) = 0;
 
     /// Empty if it is not a picture that can be read whole.
@@ -61,7 +61,7 @@ public:
     /// All of it, encoded again as PNG.
     [[nodiscard]] virtual QByteArray png(const UntrustedPicture& picture) = 0;
 
-    /// The file was deleted: nothing that was made of it is kept. Any thread.
+    /// The file was deleted: drops everything cached for it. Any thread.
     virtual void forget(const PictureFile& file) = 0;
 };
 

@@ -13,8 +13,8 @@ public:
 
     [[nodiscard]] virtual bool isEnabled() const = 0;
 
-    /// Mends what is enabled but no longer works, say because the program has moved. Calls `done`
-    /// if there was something to mend, maybe later.
+    /// Repairs an entry that no longer works, for example because the program has moved. Calls
+    /// `done` if there was something to repair, perhaps later.
     virtual void repair(std::function<void(const Result<void>&)> done) { (void)done; }
 
     [[nodiscard]] virtual Result<void> setEnabled(bool enabled) = 0;

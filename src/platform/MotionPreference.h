@@ -6,12 +6,12 @@
 
 namespace ravelo {
 
-/// Whether the user has asked the desktop for less motion on the screen. Main thread.
+/// Whether the user has asked the desktop for less animation. Main thread.
 class MotionPreference {
 public:
     virtual ~MotionPreference() = default;
 
-    /// False where the desktop does not tell.
+    /// False if unknown.
     [[nodiscard]] virtual bool isReduced() const = 0;
 
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;

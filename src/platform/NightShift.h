@@ -2,13 +2,13 @@
 
 namespace ravelo {
 
-/// The user's own night shift: what blanks the screen and goes on with what is pending. Main
+/// The user's own night-shift script, which blanks the screen and goes on with pending work. Main
 /// thread.
 class NightShift {
 public:
     virtual ~NightShift() = default;
 
-    /// Starts one more. Waits for nothing; a failure is silent.
+    /// Starts it once more. Never blocks; failures are silent.
     virtual void start() = 0;
 };
 

@@ -13,14 +13,14 @@ namespace ravelo {
 
 struct UpdateProblem {
     enum class Kind {
-        noService,         ///< Nobody here installs updates for programs.
-        notFromRepository, ///< The program came without a place where newer ones would come from.
-        notAllowed,        ///< By the system or by its user.
+        noService,         ///< No service here installs updates.
+        notFromRepository, ///< The program was not installed from a repository.
+        notAllowed,        ///< By the system or the user.
         failed,
     };
 
     Kind kind = Kind::failed;
-    QString details; ///< As the service says it, in one line; may be empty.
+    QString details; ///< The service's words, in one line; may be empty.
 
     friend bool operator==(const UpdateProblem&, const UpdateProblem&) = default;
 };
@@ -28,16 +28,16 @@ struct UpdateProblem {
 /// A newer package of this program.
 struct AvailableUpdate {
     QString version;
-    QString packageId; ///< As the service calls it.
+    QString packageId; ///< The service's name for it.
 
     friend bool operator==(const AvailableUpdate&, const AvailableUpdate&) = default;
 };
 
-/// Newer versions of this program, as this system's package service knows them. Main thread;
-/// nothing here waits. `done` is called once, later, and never where the handle was dropped.
+/// Newer versions of this program, as the system's package service knows them. Main thread;
+/// never blocks. `done` is called once, later, and never if the handle was dropped.
 class PackageUpdates {
 public:
-    /// Nothing where there is no newer one.
+    /// Nothing if there is no newer one.
     using Checked = tl::expected<std::optional<AvailableUpdate>, UpdateProblem>;
     using Installed = tl::expected<void, UpdateProblem>;
 
@@ -46,8 +46,8 @@ public:
     /// Asks the repositories themselves, over the network.
     [[nodiscard]] virtual Handle check(std::function<void(Checked)> done) = 0;
 
-    /// The system may ask its user for leave. `progress` gets percents while they are known.
-    /// Dropping the handle stops nothing.
+    /// The system may ask the user for permission. `progress` gets percentages while they are
+    /// known. Dropping the handle does not stop the installation.
     [[nodiscard]] virtual Handle install(const AvailableUpdate& update,
                                          std::function<void(std::optional<int>)> progress,
                                          std::function<void(Installed)> done) = 0;

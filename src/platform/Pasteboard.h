@@ -15,7 +15,7 @@
 
 namespace ravelo {
 
-/// Text on a pasteboard, always UTF-8, whatever names and encodings the owner offers it under.
+/// Text on a pasteboard: always UTF-8, whatever type names and encodings the owner offers.
 inline constexpr QLatin1StringView plainTextType("text/plain");
 
 /// The program whose contents are on a pasteboard.
@@ -23,27 +23,27 @@ struct PasteboardOwner {
     /// A clipboard manager only passes on what others copied.
     enum class Kind { program, manager };
 
-    quint32 id = 0; ///< The same for all copies of one running program; 0 where unknown.
+    quint32 id = 0; ///< The same for all copies of one running program; 0 if unknown.
     Kind kind = Kind::program;
 };
 
-/// An owner ended, and its contents went with it.
+/// An owner exited, and its contents went with it.
 struct OwnerEnd {
     qint64 changeCount; ///< Of those contents.
     Seconds before;     ///< How long before the present owner came.
 };
 
-/// What one owner of the pasteboard offers, as far as it was asked.
+/// What one owner of the pasteboard offers, as far as we asked.
 struct PasteboardSnapshot {
-    /// Everything on offer: MIME types, and marks under their own names. Where text of any kind is
-    /// on offer, `plainTextType` stands for all of it.
+    /// Everything on offer: MIME types, and marks under their own names. `plainTextType` stands for
+    /// every kind of text.
     QStringList types;
 
-    /// What came back for each type that was asked for; nothing where the owner refused, was too
-    /// slow or had more than the adapter takes (64 MiB of an image, 8 MiB of anything else).
+    /// The answer for each type that was asked for; nothing if the owner refused, was too slow or
+    /// had more than the adapter accepts (64 MiB of an image, 8 MiB of anything else).
     QHash<QString, std::optional<QByteArray>> answers;
 
-    /// For each answer that was more than the adapter takes: its size in bytes, as far as known.
+    /// For each answer that was too large: its size in bytes, as far as known.
     QHash<QString, qint64> tooLarge = {};
 
     qint64 changeCount = 0; ///< Of these contents.
@@ -51,8 +51,8 @@ struct PasteboardSnapshot {
     std::optional<OwnerEnd> lastEnd = {}; ///< The last one before this owner, if there was any.
 };
 
-/// Tells from what has come back so far which type to ask for next; an empty string ends the
-/// reading. A pure function: the adapter calls it on a thread of its own.
+/// Decides from the answers so far which type to ask for next; an empty string ends the reading. A
+/// pure function: the adapter calls it on a thread of its own.
 using PasteboardPlan = std::function<QString(const PasteboardSnapshot&)>;
 
 struct PasteboardEntry {
@@ -72,13 +72,16 @@ public:
     /// equality only.
     [[nodiscard]] virtual qint64 changeCount() const = 0;
 
-    /// Called soon after each change that came from elsewhere, where the display server tells of
-    /// it. Nobody may rely on it being called at all.
+    /// Called soon after each change that came from elsewhere, if `reportsChanges`; otherwise
+    /// perhaps.
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
 
+    /// Whether every change is reported, so that nobody needs to poll `changeCount`.
+    [[nodiscard]] virtual bool reportsChanges() const = 0;
+
     /// Reads what the present owner offers: first the list of types, then what `plan` asks for,
-    /// each with a time-out. `done` is called once, later, on the main thread; never where the
-    /// owner changed before all was read or the handle was dropped. Costs the main thread nothing,
+    /// each with a time-out. `done` is called once, later, on the main thread; never if the owner
+    /// changed before everything was read, or the handle was dropped. Never blocks the main thread,
     /// whatever the owner does.
     [[nodiscard]] virtual Handle read(PasteboardPlan plan,
                                       std::function<void(PasteboardSnapshot)> done) = 0;
@@ -87,22 +90,22 @@ public:
     /// that write: `changeCount` may have moved on already.
     virtual qint64 write(const QList<PasteboardEntry>& forms) = 0;
 
-    /// The change count of contents that went with their owner's end, where nothing happened since.
-    /// Nothing while there are contents, after somebody took them away on purpose, and where the
-    /// display server does not tell the one from the other.
+    /// The change count of contents that went when their owner exited, if nothing has happened
+    /// since. Nothing while there are contents, after they were cleared on purpose, and if the
+    /// display server cannot distinguish the two.
     [[nodiscard]] virtual std::optional<qint64> orphaned() const = 0;
 
-    /// Writes in the place of orphaned contents and returns as `write` does. Nothing, with all left
-    /// as it is, where there are none or somebody has taken the pasteboard since.
+    /// Replaces orphaned contents and returns what `write` does. Returns nothing and changes
+    /// nothing if there are none, or somebody has taken the pasteboard since.
     [[nodiscard]] virtual std::optional<qint64> adopt(const QList<PasteboardEntry>& forms) = 0;
 
-    /// Called when a program asks that the contents be saved, and waits for it before it ends.
-    /// The change that brought the contents counts by then. Never called where the session has
-    /// another program for this.
+    /// Called when a program asks for its contents to be saved and waits for that before it exits.
+    /// `changeCount` includes the contents by then. Never called if the session has another
+    /// clipboard manager.
     [[nodiscard]] virtual Handle onSaveRequest(std::function<void()> callback) = 0;
 
-    /// Answers all requests that are still waiting for the contents of that change count. Those
-    /// whose contents are replaced, or that have waited for five seconds, are refused without it.
+    /// Answers all requests that still wait for the contents with that change count. Requests whose
+    /// contents are replaced, or that have waited for five seconds, are refused automatically.
     virtual void answerSaveRequests(qint64 count, SaveAnswer answer) = 0;
 };
 

@@ -5,16 +5,16 @@
 
 namespace ravelo {
 
-/// The user's preferences, one typed value a key. A value of another type than the reader expects
-/// counts as absent; it stays until it is set. Main thread.
+/// The user's preferences: one typed value per key. A value of an unexpected type counts as absent
+/// but is kept until the key is set. Main thread.
 class Preferences {
 public:
     virtual ~Preferences() = default;
 
-    /// `QJsonValue::Undefined` where the key has no value.
+    /// `QJsonValue::Undefined` if the key has no value.
     [[nodiscard]] virtual QJsonValue value(const QString& key) const = 0;
 
-    /// Kept at once, not batched.
+    /// Saved at once, not batched.
     virtual void set(const QString& key, const QJsonValue& value) = 0;
 };
 

@@ -10,18 +10,18 @@
 
 namespace ravelo {
 
-/// Other programs of this machine. Main thread; nothing here waits.
+/// Other installed programs. Main thread; never blocks.
 class Programs {
 public:
     virtual ~Programs() = default;
 
     /// Looks for the first of `names` that is installed (in PATH) and calls `done` once, later,
-    /// with where it is, or with an empty path. Not where the handle was dropped.
+    /// with its path, or an empty one. Not called if the handle was dropped.
     [[nodiscard]] virtual Handle find(const QStringList& names,
                                       std::function<void(QByteArray path)> done) = 0;
 
-    /// Starts the program with these arguments, as they are and through no shell. It lives on by
-    /// itself; whether it could be started is not told.
+    /// Starts the program with these arguments, without a shell, and lets it run. Failures are not
+    /// reported.
     virtual void start(const QByteArray& path, const QList<QByteArray>& arguments) = 0;
 };
 

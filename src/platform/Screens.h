@@ -29,13 +29,13 @@ class Screens {
 public:
     virtual ~Screens() = default;
 
-    /// In the display server's order; empty for a moment while monitors are being changed.
+    /// In the display server's order; may be empty for a moment while monitors change.
     [[nodiscard]] virtual std::vector<Screen> all() const = 0;
 
-    /// The screen that counts where the pointer tells nothing: the primary monitor.
+    /// The primary monitor: the fallback if the pointer's position is unknown.
     [[nodiscard]] virtual std::optional<Screen> main() const = 0;
 
-    /// Called after monitors came, went, moved, changed size or scale, or a bar changed its space.
+    /// Called after monitors were added, removed, moved or resized, or a bar changed its space.
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
 };
 

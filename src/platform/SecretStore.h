@@ -10,14 +10,14 @@
 
 namespace ravelo {
 
-/// The passwords that the desktop keeps for the user. Main thread.
+/// The desktop's password store. Main thread.
 class SecretStore {
 public:
     virtual ~SecretStore() = default;
 
-    /// Looks for the password that is kept for `service` and calls `done` once, later, with nothing
-    /// where there is none, where it is locked or where no answer comes soon; not where the handle
-    /// was dropped. Unlocks nothing and never makes a question appear.
+    /// Looks up the password for `service` and calls `done` once, later, with nothing if there is
+    /// none, it is locked or no answer comes in time; not called if the handle was dropped. Never
+    /// unlocks anything or shows a prompt.
     [[nodiscard]] virtual Handle find(const QString& service,
                                       std::function<void(std::optional<Secret>)> done) = 0;
 };

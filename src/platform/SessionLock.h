@@ -6,13 +6,13 @@
 
 namespace ravelo {
 
-/// Whether the session is locked or its screen saver shows, as far as one service tells. Main
+/// Whether the session is locked or its screen saver is shown, as far as one service knows. Main
 /// thread.
 class SessionLock {
 public:
     virtual ~SessionLock() = default;
 
-    /// False until the service has answered, and where there is none.
+    /// False until the service has answered, and if there is none.
     [[nodiscard]] virtual bool isLocked() const = 0;
 
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;

@@ -7,8 +7,8 @@ class ShutDown {
 public:
     virtual ~ShutDown() = default;
 
-    /// Asks the system, which may ask the user for leave, or refuse. Waits for nothing; a failure
-    /// is silent.
+    /// Asks the system, which may ask the user for permission, or refuse. Never blocks; failures
+    /// are silent.
     virtual void request() = 0;
 };
 

@@ -12,13 +12,13 @@ class QPainter;
 
 namespace ravelo {
 
-/// An icon with a menu and a tooltip in the bar of the desktop, where it has one. Main thread.
+/// An icon with a menu and a tooltip in the bar of the desktop, if it has one. Main thread.
 class StatusItem {
 public:
     /// Without a title it is a separator.
     struct Row {
         QString title;
-        QKeySequence keys; ///< Told to the user; the item itself listens to none.
+        QKeySequence keys; ///< Shown to the user; the item itself does not handle them.
         std::function<void()> action;
     };
 

@@ -9,8 +9,8 @@
 
 namespace ravelo {
 
-/// Runs `job` detached and then, later, `done` with what it found, or with nothing if it has found
-/// nothing within `limit`. Not called any more once the handle is dropped. Main thread.
+/// Runs `job` detached and then `done` with its result, or with nothing if there is none within
+/// `limit`. `done` is not called once the handle is dropped. Main thread.
 template <typename T>
 [[nodiscard]] Handle runTimed(DetachedJobs& jobs, Scheduler& scheduler, Seconds limit,
                               std::function<T()> job, std::function<void(std::optional<T>)> done) {

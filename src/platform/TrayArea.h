@@ -9,14 +9,14 @@
 
 namespace ravelo {
 
-/// The place for icons that the display server itself knows of. Main thread.
+/// The tray that is found through the display server. Main thread.
 class TrayArea {
 public:
     virtual ~TrayArea() = default;
 
     [[nodiscard]] virtual bool isThere() const = 0;
 
-    /// What its icons are drawn in; nothing where it does not tell.
+    /// The colour of its icons; nothing if unknown.
     [[nodiscard]] virtual std::optional<QColor> foreground() const = 0;
 
     /// Called after one of the two changed.

@@ -3,6 +3,7 @@
 #include "base/Handle.h"
 
 #include <QMargins>
+#include <QPoint>
 
 #include <functional>
 #include <memory>
@@ -11,23 +12,27 @@ class QWindow;
 
 namespace ravelo {
 
-/// What a window of our own that the desktop manages has around its frame: room for a shadow that
-/// it paints itself. Main thread.
+/// What the display server has to know of a titled window of our own: where it is, and how much
+/// room for a shadow, which the window paints itself, there is around its frame. Main thread.
 class WindowFrame {
 public:
     virtual ~WindowFrame() = default;
 
-    /// Whether what is behind shows through where the window is transparent: else no shadow.
+    /// Whether transparent parts of the window show what is behind it. If not, it has no shadow.
     [[nodiscard]] virtual bool isTranslucent() const = 0;
 
     [[nodiscard]] virtual Handle onTranslucencyChange(std::function<void()> callback) = 0;
 
     /// How much of the window, at its present size, is only shadow, in logical pixels: presses
-    /// there reach what is behind, and a desktop that knows of it places and snaps the frame alone.
+    /// there reach what is behind, and desktops that know about it place and snap the frame alone.
     virtual void setRoom(QMargins room) = 0;
+
+    /// Moves the window's top left corner, its room included, to here, in global logical pixels. A
+    /// display server may place windows itself and ignore this.
+    virtual void moveTo(QPoint corner) = 0;
 };
 
-/// Makes it for a window that has not been shown yet and outlives it.
+/// For a window that has not been shown yet and outlives its frame.
 using MakeWindowFrame = std::function<std::unique_ptr<WindowFrame>(QWindow&)>;
 
 } // namespace ravelo

@@ -4,18 +4,18 @@
 
 namespace ravelo {
 
-/// Work that would stall the main thread (encoding, writing to disk), done one job after the other
-/// in the order it was given. Main thread.
+/// Runs work that would block the main thread (encoding, writing to disk), one job after the other
+/// in the order given. Main thread.
 class Worker {
 public:
     virtual ~Worker() = default;
 
-    /// Runs `job` off the main thread, then `done`, if any, on the main thread. A job touches
-    /// nothing but the values it holds.
+    /// Runs `job` off the main thread, then `done`, if any, on the main thread. A job uses only the
+    /// values it holds.
     virtual void run(std::function<void()> job, std::function<void()> done = {}) = 0;
 
-    /// Waits until every job that was given has run, and runs what they left to be done, also
-    /// what that gives in turn. For the end of the program.
+    /// Waits until all jobs have run, and runs their `done`s and the jobs that those start in turn.
+    /// For the end of the program.
     virtual void drain() = 0;
 };
 

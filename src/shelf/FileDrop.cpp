@@ -1,6 +1,6 @@
 #include "shelf/FileDrop.h"
 
-#include "platform/DragMonitor.h"
+#include "platform/DragOffer.h"
 #include "platform/FileTransfer.h"
 #include "shelf/DropLoading.h"
 
@@ -9,49 +9,36 @@
 
 namespace ravelo {
 
-FileDrop::FileDrop(DragMonitor& drags, FileTransfer& transfers)
-    : drags_(drags), transfers_(transfers), answers_(drags.onChange([this] { look(); })) {}
+FileDrop::FileDrop(FileTransfer& transfers, std::function<void()> answered)
+    : transfers_(transfers), answered_(std::move(answered)) {}
 
-Carries FileDrop::enter() {
-    (void)drags_.files(); // Asks the source.
-    (void)drags_.transferKey();
-    over_ = drags_.answers();
+Carries FileDrop::enter(std::shared_ptr<DragOffer> offer) {
+    answers_ = offer ? offer->onAnswer([this] { answered_(); }) : Handle();
+    over_ = OfferedFiles(std::move(offer));
     return carries();
 }
 
-Carries FileDrop::carries() {
-    if (!over_) {
-        return enter();
+void FileDrop::drop(Done done) {
+    if (!over_.offer()) {
+        return;
     }
-    const auto& [files, key] = *over_;
-    if ((files && !files->isEmpty()) || (key && !key->isEmpty())) {
-        return Carries::files;
-    }
-    return files && key ? Carries::nothing : Carries::unknown;
-}
-
-void FileDrop::take(Done done) {
-    (void)carries(); // Even if no drag was reported to enter.
     Drop& drop = drops_.emplace_back();
-    drop.answers = std::exchange(over_, nullptr);
+    drop.offered = std::exchange(over_, OfferedFiles());
     drop.loading = loadToShelf({[&drop](auto answer) {
                                    drop.answer = std::move(answer);
                                }},
                                std::move(done));
+    answers_.reset();
+    drop.answers = drop.offered.offer()->onAnswer([this, &drop] { look(drop); });
     look(drop);
-}
-
-void FileDrop::look() {
-    for (auto next = drops_.begin(); next != drops_.end();) {
-        look(*next++);
-    }
 }
 
 void FileDrop::look(Drop& drop) {
     if (drop.retrieving) {
         return;
     }
-    const auto& [files, key] = *drop.answers;
+    const auto& files = drop.offered.named();
+    const auto& key = drop.offered.transferKey();
     if (files && key && key->isEmpty()) {
         end(drop, *files);
     } else if (files && key) {

@@ -191,6 +191,12 @@ TEST_F(CommandsTest, AsksForTheOtherWindows) {
     EXPECT_FALSE(world_.controller.isOpen()) << "it would lie above them";
 }
 
+TEST_F(CommandsTest, ToggleTakesTheSendersActivationTokenToTheWindow) {
+    EXPECT_EQ(commands_.answer({u"toggle"_s}, "token"), Answer());
+    EXPECT_TRUE(world_.window.focused);
+    EXPECT_EQ(world_.window.activationToken, "token");
+}
+
 } // namespace
 
 } // namespace ravelo

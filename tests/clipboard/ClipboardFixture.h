@@ -123,7 +123,7 @@ inline void lose(Clipboard& on) {
 
 /// The next owner comes before the manager notices the end.
 inline void loseUnseen(Clipboard& on) {
-    on.pasteboard.reportsChanges = false;
+    on.pasteboard.notifies = false;
     on.pasteboard.loseOwner();
 }
 

@@ -85,7 +85,7 @@ TEST_F(Clipboard, asksNothingOfAnOwnerThatConceals) {
 }
 
 TEST_F(Clipboard, pollsIfChangesAreNotReported) {
-    pasteboard.reportsChanges = false;
+    pasteboard.notifies = false;
     pasteboard.offerText(u"abc"_s);
     scheduler.advance(Seconds(0.49));
     EXPECT_EQ(texts(), QStringList());

@@ -128,7 +128,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(Clipboard, aCopyThatComesWhileWeLookIsReadOnce) {
     pasteboard.owner = other;
     pasteboard.meanwhile = [this] {
-        pasteboard.reportsChanges = false; // Such a notice never comes from within a call.
+        pasteboard.notifies = false; // Such a notice never comes from within a call.
         pasteboard.offer(png);
     };
     pasteboard.offerText(u"before"_s); // Seen, and replaced before its reading begins.
@@ -138,7 +138,7 @@ TEST_F(Clipboard, aCopyThatComesWhileWeLookIsReadOnce) {
 
 TEST_F(Clipboard, aCopyThatComesWhileWeWriteIsKept) {
     pasteboard.meanwhile = [this] {
-        pasteboard.reportsChanges = false;
+        pasteboard.notifies = false;
         pasteboard.offerText(u"theirs"_s);
     };
     manager->copyText(u"ours"_s);

@@ -70,20 +70,29 @@ private:
     std::function<void()> wake_;
 };
 
+/// Answers when told to.
+class FakeDragOffer final : public DragOffer {
+public:
+    [[nodiscard]] std::optional<QByteArray> data(const QStringList& types) override {
+        ++questions;
+        return types.contains(QStringLiteral("text/uri-list")) ? list : key;
+    }
+
+    [[nodiscard]] Handle onAnswer(std::function<void()> callback) override {
+        return listeners.add(std::move(callback));
+    }
+
+    std::optional<QByteArray> list; ///< Of addresses.
+    std::optional<QByteArray> key;  ///< For FileTransfer.
+    int questions = 0;              ///< How often the source was asked.
+    Listeners<> listeners;
+};
+
 class FakeDragMonitor final : public DragMonitor {
 public:
     [[nodiscard]] qint64 changeCount() const override { return changeCount_; }
 
-    [[nodiscard]] std::optional<QList<QUrl>> files() override {
-        ++questions;
-        return drags_.back()->files;
-    }
-
-    [[nodiscard]] std::optional<QByteArray> transferKey() override {
-        return drags_.back()->transferKey;
-    }
-
-    [[nodiscard]] std::shared_ptr<const DragAnswers> answers() override { return drags_.back(); }
+    [[nodiscard]] std::shared_ptr<DragOffer> newest() override { return drags_.back(); }
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return listeners_.add(std::move(callback));
@@ -91,27 +100,34 @@ public:
 
     /// Another program begins a drag; nothing for a source that does not answer.
     void begin(std::optional<bool> files, std::optional<QByteArray> key = QByteArray()) {
-        drags_.push_back(std::make_shared<DragAnswers>(DragAnswers{listOf(files), std::move(key)}));
+        drags_.push_back(std::make_shared<FakeDragOffer>());
+        drags_.back()->list = listOf(files);
+        drags_.back()->key = std::move(key);
         ++changeCount_;
         listeners_.notify();
     }
 
     /// The source of the newest drag, or of one that many before it, answers after all.
     void answer(bool files, const QByteArray& key = QByteArray(), int before = 0) {
-        *drags_.end()[-1 - before] = {listOf(files), key};
+        FakeDragOffer& drag = *drags_.end()[-1 - before];
+        drag.list = listOf(files);
+        drag.key = key;
+        drag.listeners.notify();
         listeners_.notify();
     }
 
+    /// How often the source of the newest drag was asked.
+    [[nodiscard]] int questions() const { return drags_.back()->questions; }
+
     const QUrl file = QUrl(QStringLiteral("file:///home/someone/a%20file.txt"));
-    int questions = 0; ///< How often the source was asked.
 
 private:
-    [[nodiscard]] std::optional<QList<QUrl>> listOf(std::optional<bool> files) const {
-        return files ? std::optional(*files ? QList<QUrl>{file} : QList<QUrl>()) : std::nullopt;
+    [[nodiscard]] std::optional<QByteArray> listOf(std::optional<bool> files) const {
+        return files ? std::optional(*files ? file.toEncoded() : QByteArray()) : std::nullopt;
     }
 
     qint64 changeCount_ = 3;
-    std::vector<std::shared_ptr<DragAnswers>> drags_ = {std::make_shared<DragAnswers>()};
+    std::vector<std::shared_ptr<FakeDragOffer>> drags_ = {std::make_shared<FakeDragOffer>()};
     Listeners<> listeners_;
 };
 
@@ -216,9 +232,13 @@ public:
 
 class FakePanelWindow final : public PanelWindow {
 public:
+    /// Every drag that enters it is the newest of `drags`.
+    explicit FakePanelWindow(DragMonitor& drags) : drags_(drags) {}
+
     void place(const Screen& on, QSizeF wanted) override {
         screen = on.id;
         size = wanted;
+        frame = QRectF(QPointF(on.frame.center().x() - size.width() / 2, on.frame.top()), size);
         ++placements;
     }
 
@@ -237,20 +257,42 @@ public:
         return listeners_.add(std::move(callback));
     }
 
-    void requestFocus() override { focused = true; }
+    [[nodiscard]] bool isUnderPointer() const override { return underPointer_; }
+
+    [[nodiscard]] Handle onUnderPointerChange(std::function<void()> callback) override {
+        return underPointerListeners_.add(std::move(callback));
+    }
+
+    void setUnderPointer(bool under) {
+        if (std::exchange(underPointer_, under) != under) {
+            underPointerListeners_.notify();
+        }
+    }
+
+    [[nodiscard]] std::shared_ptr<DragOffer> dragOffer() override { return drags_.newest(); }
+
+    void requestFocus(const QByteArray& token) override {
+        focused = true;
+        activationToken = token;
+    }
 
     void returnFocus() override { focused = false; }
 
     QString screen;
     QSizeF size;
+    QRectF frame;
     QPainterPath outline;
     int placements = 0;
     int fronts = 0;
     bool shown = false;
     bool focused = false;
+    QByteArray activationToken;
 
 private:
+    DragMonitor& drags_;
+    bool underPointer_ = false;
     Listeners<> listeners_;
+    Listeners<> underPointerListeners_;
 };
 
 } // namespace ravelo

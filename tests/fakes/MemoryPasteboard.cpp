@@ -111,7 +111,7 @@ void MemoryPasteboard::askToSave() {
 }
 
 void MemoryPasteboard::notify() {
-    if (reportsChanges) {
+    if (notifies) {
         listeners_.notify();
     }
 }

@@ -13,6 +13,8 @@ public:
 
     [[nodiscard]] qint64 changeCount() const override { return changeCount_; }
 
+    [[nodiscard]] bool reportsChanges() const override { return notifies; }
+
     [[nodiscard]] Handle onChange(std::function<void()> callback) override;
     [[nodiscard]] Handle read(PasteboardPlan plan,
                               std::function<void(PasteboardSnapshot)> done) override;
@@ -57,7 +59,7 @@ public:
     bool knowsDeaths = true;
 
     /// Whether changes by others are reported at once or found only by polling.
-    bool reportsChanges = true;
+    bool notifies = true;
 
     /// The time until an owner answers.
     Seconds answerTime{0.001};

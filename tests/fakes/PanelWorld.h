@@ -15,6 +15,7 @@
 #include "fakes/MemoryPreferences.h"
 #include "notices/Notices.h"
 #include "panel/NotchController.h"
+#include "panel/PointerHotZone.h"
 #include "settings/AppSettings.h"
 #include "shelf/NearbySend.h"
 #include "shelf/ReceivedWatcher.h"
@@ -36,17 +37,17 @@ struct PanelWorld {
     explicit PanelWorld(const StoreData& data, HoverTick::Rest rest = HoverTick::Rest::whenStill)
         : store(filled(folder, data),
                 {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, jobs, decoder}),
+          zone(scheduler, screens, pointer, window, rest),
           controller(store, clipboard, settings,
                      {scheduler,
                       screens,
-                      pointer,
+                      zone,
                       drags,
                       transfers,
-                      barrier,
+                      &barrier,
                       grab,
                       window,
-                      {&lock, &otherLock}},
-                     rest) {}
+                      {&lock, &otherLock}}) {}
 
     void moveTo(double x, double y) {
         pointer.moveTo({x, y});
@@ -74,7 +75,7 @@ struct PanelWorld {
     FakeFileTransfer transfers;
     FakeEdgeBarrier barrier;
     FakeInputGrab grab;
-    FakePanelWindow window;
+    FakePanelWindow window{drags};
     FakeSessionLock lock;
     FakeSessionLock otherLock;
     FakeAlertSound sound;
@@ -93,6 +94,7 @@ struct PanelWorld {
     Store store;
     AppSettings settings{preferences, loginItem};
     ClipboardManager clipboard{store, pasteboard, scheduler, jobs};
+    PointerHotZone zone;
     NotchController controller;
 
 private:

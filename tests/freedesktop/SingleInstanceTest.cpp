@@ -38,25 +38,26 @@ struct Way {
     const char* name;
     std::unique_ptr<SingleInstance> (*claim)(PrivateBus& bus);
     std::optional<Answer> (*ask)(PrivateBus& bus, const QStringList& request,
-                                 std::chrono::milliseconds timeout);
+                                 const QByteArray& token, std::chrono::milliseconds timeout);
 
     friend void PrintTo(const Way& way, std::ostream* out) { *out << way.name; }
 };
 
-const Way overBus{
-    "Bus",
-    [](PrivateBus& bus) -> std::unique_ptr<SingleInstance> {
-        static int claims = 0;
-        return BusInstance::claim(bus.connect(u"claims %1"_s.arg(++claims)));
-    },
-    [](PrivateBus& bus, const QStringList& request, std::chrono::milliseconds timeout) {
-        return BusInstance::ask(bus.connect(u"asks"_s), request, timeout);
-    }};
+const Way overBus{"Bus",
+                  [](PrivateBus& bus) -> std::unique_ptr<SingleInstance> {
+                      static int claims = 0;
+                      return BusInstance::claim(bus.connect(u"claims %1"_s.arg(++claims)));
+                  },
+                  [](PrivateBus& bus, const QStringList& request, const QByteArray& token,
+                     std::chrono::milliseconds timeout) {
+                      return BusInstance::ask(bus.connect(u"asks"_s), request, token, timeout);
+                  }};
 const Way overSocket{
     "Socket",
     [](PrivateBus& /*bus*/) -> std::unique_ptr<SingleInstance> { return SocketInstance::claim(); },
-    [](PrivateBus& /*bus*/, const QStringList& request, std::chrono::milliseconds timeout) {
-        return SocketInstance::ask(request, timeout);
+    [](PrivateBus& /*bus*/, const QStringList& request, const QByteArray& token,
+       std::chrono::milliseconds timeout) {
+        return SocketInstance::ask(request, token, timeout);
     }};
 
 class SingleInstanceTest : public testing::Test {
@@ -77,9 +78,9 @@ class EitherWay : public SingleInstanceTest, public testing::WithParamInterface<
 protected:
     std::unique_ptr<SingleInstance> claim() { return GetParam().claim(bus_); }
 
-    std::optional<Answer> ask(const QStringList& request, std::chrono::milliseconds timeout = 20s) {
+    std::optional<Answer> ask(const QStringList& request, const QByteArray& token = {}) {
         return elsewhere<std::optional<Answer>>(
-            [&] { return GetParam().ask(bus_, request, timeout); });
+            [&] { return GetParam().ask(bus_, request, token, 20s); });
     }
 };
 
@@ -91,14 +92,20 @@ TEST_P(EitherWay, AnswersWhatItIsAsked) {
     EXPECT_EQ(ask({u"show"_s}).value().status, 1) << "it is not ready";
 
     QStringList asked;
+    QByteArray token;
     Answer answer{2, QByteArray("two\0\xff\n", 6), u"line\nline ü"_s};
-    instance->onRequest = [&](const QStringList& request) {
+    instance->onRequest = [&](const QStringList& request, const QByteArray& given) {
         asked = request;
+        token = given;
         return answer;
     };
     const QStringList odd = {u"a b"_s, u""_s, u"\"'\\\n\t"_s, u"\U0001F345"_s, u"-0"_s};
     EXPECT_EQ(ask(odd), answer);
     EXPECT_EQ(asked, odd);
+    EXPECT_EQ(token, "");
+    EXPECT_EQ(ask(odd, "a token"), answer);
+    EXPECT_EQ(asked, odd);
+    EXPECT_EQ(token, "a token");
     answer = {0, QByteArray(3'000'000, 'x'), {}};
     EXPECT_EQ(ask({QString(1'000'000, u'ü')}), answer) << "longer than any buffer";
 }
@@ -107,7 +114,7 @@ TEST_P(EitherWay, IsNotWaitedForForEver) {
     const auto instance = claim();
     ASSERT_TRUE(instance);
     // Here, so that no event loop runs.
-    EXPECT_EQ(GetParam().ask(bus_, {u"show"_s}, 50ms), SingleInstance::silence());
+    EXPECT_EQ(GetParam().ask(bus_, {u"show"_s}, {}, 50ms), SingleInstance::silence());
 }
 
 INSTANTIATE_TEST_SUITE_P(Ways, EitherWay, testing::Values(overBus, overSocket),
@@ -117,8 +124,10 @@ TEST_F(SingleInstanceTest, AnswersADesktopByTheStandardsInterface) {
     const auto instance = BusInstance::claim(bus_.connect(u"claims"_s));
     ASSERT_TRUE(instance);
     QStringList asked;
-    instance->onRequest = [&](const QStringList& request) {
+    QByteArray token;
+    instance->onRequest = [&](const QStringList& request, const QByteArray& given) {
         asked = request;
+        token = given;
         return request.contains(u"nonsense"_s) ? Answer{2, {}, u"what?"_s} : Answer();
     };
     QDBusConnection bus = bus_.connect(u"desktop"_s);
@@ -134,9 +143,13 @@ TEST_F(SingleInstanceTest, AnswersADesktopByTheStandardsInterface) {
     EXPECT_EQ(asked, QStringList{u"show"_s});
     EXPECT_EQ(call(u"Open"_s, {uris, QVariantMap()}).type(), QDBusMessage::ReplyMessage);
     EXPECT_EQ(asked, QStringList{u"open"_s} + uris);
-    EXPECT_EQ(call(u"ActivateAction"_s, {u"toggle"_s, QVariantList(), QVariantMap()}).type(),
-              QDBusMessage::ReplyMessage);
-    EXPECT_EQ(asked, QStringList{u"toggle"_s});
+    for (const auto& key : {u"activation-token"_s, u"desktop-startup-id"_s}) {
+        const QVariantMap platformData{{key, key}};
+        EXPECT_EQ(call(u"ActivateAction"_s, {u"toggle"_s, QVariantList(), platformData}).type(),
+                  QDBusMessage::ReplyMessage);
+        EXPECT_EQ(asked, QStringList{u"toggle"_s});
+        EXPECT_EQ(token, key.toUtf8());
+    }
     EXPECT_EQ(
         call(u"ActivateAction"_s, {u"nonsense"_s, QVariantList(), QVariantMap()}).errorMessage(),
         u"what?"_s);
@@ -145,7 +158,7 @@ TEST_F(SingleInstanceTest, AnswersADesktopByTheStandardsInterface) {
 TEST_F(SingleInstanceTest, HasASocketForTheUserAloneAndRefusesWhatIsNoRequest) {
     const auto instance = SocketInstance::claim();
     ASSERT_TRUE(instance);
-    instance->onRequest = [](const QStringList&) {
+    instance->onRequest = [](const QStringList&, const QByteArray&) {
         ADD_FAILURE() << "that was no request";
         return Answer();
     };

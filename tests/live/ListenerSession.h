@@ -1,9 +1,9 @@
 #pragma once
 
 #include "live/support/Clients.h"
-#include "platform/x11/X11DragMonitor.h"
-#include "platform/x11/X11Pasteboard.h"
-#include "platform/x11/X11Pointer.h"
+#include "platform/x11/pointer/X11Pointer.h"
+#include "platform/x11/selection/X11DragMonitor.h"
+#include "platform/x11/selection/X11Pasteboard.h"
 
 #include <QAbstractNativeEventFilter>
 #include <QGuiApplication>

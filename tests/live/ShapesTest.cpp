@@ -1,6 +1,6 @@
-#include "platform/x11/Monitors.h"
-#include "platform/x11/OutlineRegion.h"
-#include "platform/x11/Struts.h"
+#include "platform/x11/screens/Monitors.h"
+#include "platform/x11/screens/Struts.h"
+#include "platform/x11/window/X11PanelWindow.h"
 
 #include <gtest/gtest.h>
 

@@ -20,7 +20,7 @@ TEST_P(Guarding, holdsFileDragsAroundTheMiddleOnly) {
     PanelWorld world;
     world.beginDrag(std::nullopt);
     world.moveTo(10, 500);
-    EXPECT_EQ(world.drags.questions, 0) << "the source was asked though nothing is near";
+    EXPECT_EQ(world.drags.questions(), 0) << "the source was asked though nothing is near";
     world.moveTo(GetParam().pointer.x(), GetParam().pointer.y());
     if (GetParam().files) {
         world.drags.answer(*GetParam().files);
@@ -64,7 +64,7 @@ TEST(EdgeGuard, holdsDragsOutOfThePanelToo) {
     world.controller.setDraggingOut(true);
     world.scheduler.advance(tick);
     EXPECT_EQ(world.barrier.held, QRectF(270, 0, 900, 10));
-    EXPECT_EQ(world.drags.questions, 0) << "its files are known";
+    EXPECT_EQ(world.drags.questions(), 0) << "its files are known";
     world.controller.setDraggingOut(false);
     world.scheduler.advance(tick);
     EXPECT_FALSE(world.barrier.held) << "held on after the drag";
@@ -72,9 +72,8 @@ TEST(EdgeGuard, holdsDragsOutOfThePanelToo) {
 
 TEST(EdgeGuard, waitsForTrustAndStartsWithin3Seconds) {
     PanelWorld world;
-    EdgeGuard guard(world.scheduler, world.screens, world.drags, world.barrier);
+    EdgeGuard guard(world.scheduler, world.screens, world.barrier, [] { return true; });
     world.barrier.trusted = false;
-    world.drags.begin(true);
     guard.start();
     world.scheduler.advance(Seconds(60));
     guard.follow(QPointF(720, 300));
@@ -95,8 +94,7 @@ TEST(EdgeGuard, waitsForTrustAndStartsWithin3Seconds) {
 TEST(EdgeGuard, doesNotTryAgainWhereItFailed) {
     PanelWorld world;
     world.barrier.broken = true;
-    world.drags.begin(true);
-    EdgeGuard guard(world.scheduler, world.screens, world.drags, world.barrier);
+    EdgeGuard guard(world.scheduler, world.screens, world.barrier, [] { return true; });
     guard.start();
     guard.follow(QPointF(720, 300));
     guard.start();

@@ -214,11 +214,11 @@ TEST(NotchController, whereThePointersPlaceIsUnknownTheWindowsOwnHoverOpensAndCl
     world.pointer.location = std::nullopt;
     world.scheduler.advance(Seconds(1));
     ASSERT_FALSE(world.controller.isOpen());
-    world.controller.setHovered(true);
+    world.window.setUnderPointer(true);
     world.scheduler.advance(tick);
     EXPECT_TRUE(world.controller.isOpen());
     EXPECT_EQ(world.window.screen, u"one"_s) << "the main screen";
-    world.controller.setHovered(false);
+    world.window.setUnderPointer(false);
     world.scheduler.advance(Seconds(0.3));
     EXPECT_TRUE(world.controller.isOpen());
     world.scheduler.advance(Seconds(0.1));

@@ -75,10 +75,13 @@ protected:
     FakeDragMonitor drags_;
     FakeFileTransfer transfers_;
     QList<Files> given_;
-    FileDrop drop_{drags_, transfers_};
+    FileDrop drop_{transfers_, [] {
+                   }};
+
+    Carries enter() { return drop_.enter(drags_.newest()); }
 
     void drop() {
-        drop_.take([this](const Files& files) { given_.append(files); });
+        drop_.drop([this](const Files& files) { given_.append(files); });
     }
 };
 
@@ -99,12 +102,12 @@ const QUrl named = FakeDragMonitor().file;
 TEST_P(DropTable, gives) {
     const bool hasKey = !GetParam().key.isEmpty();
     drags_.begin(GetParam().files, std::nullopt);
-    EXPECT_EQ(drop_.carries(), GetParam().files ? Carries::files : Carries::unknown);
-    EXPECT_TRUE(transfers_.keys.isEmpty()) << "what goes once is not fetched before the drop";
+    EXPECT_EQ(enter(), GetParam().files ? Carries::files : Carries::unknown);
+    EXPECT_TRUE(transfers_.keys.isEmpty()) << "a key can be redeemed only once";
     drop();
     drags_.answer(GetParam().files, GetParam().key); // It comes late.
     drags_.answer(GetParam().files, GetParam().key);
-    EXPECT_EQ(drop_.carries(), GetParam().files || hasKey ? Carries::files : Carries::nothing);
+    EXPECT_EQ(enter(), GetParam().files || hasKey ? Carries::files : Carries::nothing);
     EXPECT_EQ(transfers_.keys, hasKey ? QList{GetParam().key} : QList<QByteArray>());
     if (hasKey) {
         EXPECT_TRUE(given_.isEmpty());
@@ -126,12 +129,30 @@ INSTANTIATE_TEST_SUITE_P(Table, DropTable,
                                          DropCase{"noFilesByTheKeyEither", false, "key", {}, {}}),
                          [](const auto& tested) { return tested.param.name; });
 
+TEST_F(Drops, useOnlyWhatMayBeAKey) {
+    const std::pair<QByteArray, QList<QByteArray>> rows[] = {
+        {QByteArray("123\0", 4), {"123"}},
+        {"\xff", {}},
+        {QByteArray("1\0002", 3), {}},
+        {QByteArray(1025, 'k'), {}},
+    };
+    for (const auto& [offered, used] : rows) {
+        transfers_.keys.clear();
+        drags_.begin(true, offered);
+        enter();
+        drop();
+        EXPECT_EQ(transfers_.keys, used) << offered.toHex().constData();
+    }
+}
+
 TEST_F(Drops, followEachOther) {
     for (const char* key : {"first", "second"}) {
         drags_.begin(false, key);
+        enter();
         drop();
     }
     drags_.begin(std::nullopt, std::nullopt); // The third one's source is slow.
+    enter();
     drop();
     drags_.begin(false, std::nullopt); // A fourth drag begins meanwhile, and is not dropped here.
     transfers_.answer({a});
@@ -145,7 +166,7 @@ TEST_F(Drops, followEachOther) {
 
 TEST_F(Drops, keepTheirFilesIfTheNextDragIsNoticedFirst) {
     drags_.begin(true);
-    (void)drop_.enter();
+    enter();
     drags_.begin(false);
     EXPECT_EQ(drop_.carries(), Carries::files);
     drop();

@@ -17,6 +17,15 @@ bool meansNobody(const QDBusMessage& error) {
            error.errorName() == "org.freedesktop.DBus.Error.NameHasNoOwner"_L1;
 }
 
+constexpr QLatin1StringView tokenKey("activation-token");
+
+/// Launchers on X11 send the older of the two.
+QByteArray activationToken(const QVariantMap& platformData) {
+    const QByteArray token = platformData.value(tokenKey).toString().toUtf8();
+    return token.isEmpty() ? platformData.value(u"desktop-startup-id"_s).toString().toUtf8()
+                           : token;
+}
+
 } // namespace
 
 QDBusConnection sessionBus() {
@@ -41,10 +50,14 @@ std::unique_ptr<BusInstance> BusInstance::claim(const QDBusConnection& bus) {
 }
 
 std::optional<Answer> BusInstance::ask(const QDBusConnection& bus, const QStringList& request,
+                                       const QByteArray& activationToken,
                                        std::chrono::milliseconds timeout) {
     auto call = QDBusMessage::createMethodCall(busName, objectPath, busName, u"Ask"_s);
     call.setAutoStartService(false);
     call << request;
+    if (!activationToken.isEmpty()) { // Only then: an older Ravelo does not know it.
+        call << QVariantMap{{tokenKey, QString::fromUtf8(activationToken)}};
+    }
     const QDBusMessage reply = bus.call(call, QDBus::Block, static_cast<int>(timeout.count()));
     if (reply.type() == QDBusMessage::ReplyMessage && reply.signature() == "iays"_L1) {
         const QVariantList values = reply.arguments();
@@ -57,7 +70,12 @@ AskAdaptor::AskAdaptor(BusInstance& instance)
     : QDBusAbstractAdaptor(&instance), instance_(instance) {}
 
 void AskAdaptor::Ask(const QStringList& request, int& status, QByteArray& output, QString& errors) {
-    const Answer answer = instance_.answer(request);
+    Ask(request, {}, status, output, errors);
+}
+
+void AskAdaptor::Ask(const QStringList& request, const QVariantMap& platformData, int& status,
+                     QByteArray& output, QString& errors) {
+    const Answer answer = instance_.answer(request, activationToken(platformData));
     status = answer.status;
     output = answer.output;
     errors = answer.errors;
@@ -66,23 +84,23 @@ void AskAdaptor::Ask(const QStringList& request, int& status, QByteArray& output
 ApplicationAdaptor::ApplicationAdaptor(BusInstance& instance, const QDBusConnection& bus)
     : QDBusAbstractAdaptor(&instance), instance_(instance), bus_(bus) {}
 
-void ApplicationAdaptor::Activate(const QVariantMap& /*platformData*/, const QDBusMessage& call) {
-    act({u"show"_s}, call);
+void ApplicationAdaptor::Activate(const QVariantMap& platformData, const QDBusMessage& call) {
+    act({u"show"_s}, platformData, call);
 }
 
 void ApplicationAdaptor::ActivateAction(const QString& name, const QVariantList& /*parameter*/,
-                                        const QVariantMap& /*platformData*/,
-                                        const QDBusMessage& call) {
-    act({name}, call);
+                                        const QVariantMap& platformData, const QDBusMessage& call) {
+    act({name}, platformData, call);
 }
 
-void ApplicationAdaptor::Open(const QStringList& uris, const QVariantMap& /*platformData*/,
+void ApplicationAdaptor::Open(const QStringList& uris, const QVariantMap& platformData,
                               const QDBusMessage& call) {
-    act(QStringList{u"open"_s} + uris, call);
+    act(QStringList{u"open"_s} + uris, platformData, call);
 }
 
-void ApplicationAdaptor::act(const QStringList& request, const QDBusMessage& call) {
-    const Answer answer = instance_.answer(request);
+void ApplicationAdaptor::act(const QStringList& request, const QVariantMap& platformData,
+                             const QDBusMessage& call) {
+    const Answer answer = instance_.answer(request, activationToken(platformData));
     if (answer.status != 0) {
         call.setDelayedReply(true);
         bus_.send(call.createErrorReply(QDBusError::Failed, answer.errors));

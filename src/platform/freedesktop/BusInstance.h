@@ -22,13 +22,15 @@ public:
     [[nodiscard]] static std::unique_ptr<BusInstance> claim(const QDBusConnection& bus);
     [[nodiscard]] static std::optional<Answer> ask(const QDBusConnection& bus,
                                                    const QStringList& request,
+                                                   const QByteArray& activationToken = {},
                                                    std::chrono::milliseconds timeout = answerTime);
 
 private:
     explicit BusInstance(const QDBusConnection& bus);
 };
 
-/// For scripts: the words of the command line in, an `Answer` out.
+/// For scripts: the words of the command line in, an `Answer` out. The platform data, if any, are
+/// those of the Desktop Entry Specification.
 class AskAdaptor final : public QDBusAbstractAdaptor {
     Q_OBJECT
     Q_CLASSINFO("D-Bus Interface", "org.ravelo.Ravelo")
@@ -37,8 +39,11 @@ public:
     explicit AskAdaptor(BusInstance& instance);
 
 public Q_SLOTS:
-    // Upper case as on every bus. NOLINTNEXTLINE(readability-identifier-naming)
+    // Upper case as on every bus. NOLINTBEGIN(readability-identifier-naming)
     void Ask(const QStringList& request, int& status, QByteArray& output, QString& errors);
+    void Ask(const QStringList& request, const QVariantMap& platformData, int& status,
+             QByteArray& output, QString& errors);
+    // NOLINTEND(readability-identifier-naming)
 
 private:
     BusInstance& instance_;
@@ -61,7 +66,7 @@ public Q_SLOTS:
     // NOLINTEND(readability-identifier-naming)
 
 private:
-    void act(const QStringList& request, const QDBusMessage& call);
+    void act(const QStringList& request, const QVariantMap& platformData, const QDBusMessage& call);
 
     BusInstance& instance_;
     QDBusConnection bus_;

@@ -29,21 +29,22 @@ std::unique_ptr<SingleInstance> SingleInstance::claim() {
     return SocketInstance::claim();
 }
 
-std::optional<Answer> SingleInstance::ask(const QStringList& request) {
+std::optional<Answer> SingleInstance::ask(const QStringList& request,
+                                          const QByteArray& activationToken) {
     if (hasSessionBus()) {
         if (auto bus = sessionBus(); bus.isConnected()) {
-            return BusInstance::ask(bus, request);
+            return BusInstance::ask(bus, request, activationToken);
         }
     }
-    return SocketInstance::ask(request);
+    return SocketInstance::ask(request, activationToken);
 }
 
 Answer SingleInstance::silence() {
     return {1, {}, u"another Ravelo runs but does not answer"_s};
 }
 
-Answer SingleInstance::answer(const QStringList& request) const {
-    return onRequest ? onRequest(request) : Answer{1, {}, u"not ready yet"_s};
+Answer SingleInstance::answer(const QStringList& request, const QByteArray& activationToken) const {
+    return onRequest ? onRequest(request, activationToken) : Answer{1, {}, u"not ready yet"_s};
 }
 
 } // namespace ravelo

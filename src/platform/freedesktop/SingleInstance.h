@@ -26,16 +26,19 @@ public:
 
     /// Sends a request to the running instance and waits a few seconds for its answer; `silence` if
     /// none comes. Nothing if none runs.
-    [[nodiscard]] static std::optional<Answer> ask(const QStringList& request);
+    [[nodiscard]] static std::optional<Answer> ask(const QStringList& request,
+                                                   const QByteArray& activationToken = {});
 
     /// The result of `ask` if the running instance does not answer.
     [[nodiscard]] static Answer silence();
 
-    /// Answers requests, from the event loop. A request is a list of words, any text.
-    std::function<Answer(const QStringList& request)> onRequest;
+    /// Answers requests, from the event loop. A request is a list of words, any text. The token
+    /// (xdg-activation-v1, or a startup-notification ID) is empty if the sender has none.
+    std::function<Answer(const QStringList& request, const QByteArray& activationToken)> onRequest;
 
     /// The answer, also if `onRequest` is not set.
-    [[nodiscard]] Answer answer(const QStringList& request) const;
+    [[nodiscard]] Answer answer(const QStringList& request,
+                                const QByteArray& activationToken) const;
 
 protected:
     static constexpr std::chrono::seconds answerTime{5};

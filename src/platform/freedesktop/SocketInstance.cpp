@@ -51,8 +51,20 @@ QByteArray line(const QJsonDocument& json) {
     return json.toJson(QJsonDocument::Compact) + '\n';
 }
 
-QByteArray written(const QStringList& request) {
-    return line(QJsonDocument(QJsonArray::fromStringList(request)));
+struct Request {
+    QStringList words;
+    QByteArray activationToken;
+};
+
+QByteArray written(const Request& request) {
+    const QJsonArray words = QJsonArray::fromStringList(request.words);
+    if (request.activationToken.isEmpty()) {
+        return line(QJsonDocument(words));
+    }
+    return line(QJsonDocument(QJsonObject{
+        {u"request"_s, words},
+        {u"activation-token"_s, QString::fromUtf8(request.activationToken)},
+    }));
 }
 
 QByteArray written(const Answer& answer) {
@@ -63,9 +75,13 @@ QByteArray written(const Answer& answer) {
     }));
 }
 
-std::optional<QStringList> toRequest(const QByteArray& line) {
+std::optional<Request> toRequest(const QByteArray& line) {
     const QJsonDocument json = QJsonDocument::fromJson(line);
-    return json.isArray() ? std::optional(json.toVariant().toStringList()) : std::nullopt;
+    const QJsonValue words = json.isArray() ? QJsonValue(json.array()) : json[u"request"];
+    if (!words.isArray()) {
+        return std::nullopt;
+    }
+    return Request{words.toVariant().toStringList(), json[u"activation-token"].toString().toUtf8()};
 }
 
 std::optional<Answer> toAnswer(const QByteArray& line) {
@@ -101,6 +117,7 @@ std::unique_ptr<SocketInstance> SocketInstance::claim() {
 }
 
 std::optional<Answer> SocketInstance::ask(const QStringList& request,
+                                          const QByteArray& activationToken,
                                           std::chrono::milliseconds timeout) {
     QLockFile lock(socketPath() + u".lock"_s);
     lock.setStaleLockTime(0);
@@ -118,7 +135,7 @@ std::optional<Answer> SocketInstance::ask(const QStringList& request,
         socket.abort();
         QThread::msleep(50);
     }
-    socket.write(written(request));
+    socket.write(written(Request{request, activationToken}));
     while (!socket.canReadLine()) {
         if (!socket.waitForReadyRead(left(deadline))) {
             return silence();
@@ -139,7 +156,8 @@ void SocketInstance::accept() {
 void SocketInstance::serve(QLocalSocket& socket) const {
     if (socket.canReadLine()) {
         const auto request = toRequest(socket.readLine());
-        socket.write(written(request ? answer(*request) : Answer{2, {}, u"no request"_s}));
+        socket.write(written(request ? answer(request->words, request->activationToken)
+                                     : Answer{2, {}, u"no request"_s}));
         socket.flush();
     } else if (socket.bytesAvailable() > maxRequest) {
         socket.abort();

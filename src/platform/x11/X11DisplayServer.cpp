@@ -1,7 +1,9 @@
 #include "platform/x11/X11DisplayServer.h"
 
-#include "platform/x11/X11PanelWindow.h"
-#include "platform/x11/X11WindowFrame.h"
+#include "platform/x11/settings/X11Preferences.h"
+#include "platform/x11/settings/X11TrayArea.h"
+#include "platform/x11/window/X11PanelWindow.h"
+#include "platform/x11/window/X11WindowFrame.h"
 
 #include <QGuiApplication>
 #include <QScreen>
@@ -49,9 +51,6 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
       screens_(*connection_, events_),
       compositor_(*connection_, events_, ManagerSelection::compositor),
       settings_(*connection_, events_, ManagerSelection::settings, "_XSETTINGS_SETTINGS"),
-      motion_(settings_),
-      icons_(settings_),
-      tray_(*connection_, events_),
       screenSaver_(*connection_, events_),
       barrier_(*connection_, [this](QPointF place) { return screens_.toNative(place); }),
       inputGrab_(*connection_, cover_),
@@ -66,11 +65,23 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
 
 std::unique_ptr<PanelWindow> X11DisplayServer::panelWindow(QWindow& window) {
     return std::make_unique<X11PanelWindow>(window, *connection_, events_, screens_, compositor_,
-                                            cover_);
+                                            cover_, drags_);
 }
 
 std::unique_ptr<WindowFrame> X11DisplayServer::windowFrame(QWindow& window) {
     return std::make_unique<X11WindowFrame>(window, *connection_, compositor_);
+}
+
+std::unique_ptr<MotionPreference> X11DisplayServer::motion() {
+    return std::make_unique<X11MotionPreference>(settings_);
+}
+
+std::unique_ptr<IconPreference> X11DisplayServer::icons() {
+    return std::make_unique<X11IconPreference>(settings_);
+}
+
+std::unique_ptr<TrayArea> X11DisplayServer::tray() {
+    return std::make_unique<X11TrayArea>(*connection_, events_);
 }
 
 } // namespace ravelo::x11

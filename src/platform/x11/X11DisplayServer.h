@@ -1,21 +1,20 @@
 #pragma once
 
 #include "platform/DisplayServer.h"
-#include "platform/x11/Events.h"
-#include "platform/x11/ForeignCover.h"
-#include "platform/x11/Listener.h"
-#include "platform/x11/ManagerProperty.h"
-#include "platform/x11/ManagerSelection.h"
-#include "platform/x11/ScreenSaverStatus.h"
-#include "platform/x11/X11DragMonitor.h"
-#include "platform/x11/X11EdgeBarrier.h"
-#include "platform/x11/X11IconPreference.h"
-#include "platform/x11/X11InputGrab.h"
-#include "platform/x11/X11MotionPreference.h"
-#include "platform/x11/X11Pasteboard.h"
-#include "platform/x11/X11Pointer.h"
-#include "platform/x11/X11Screens.h"
-#include "platform/x11/X11TrayArea.h"
+#include "platform/IconPreference.h"
+#include "platform/MotionPreference.h"
+#include "platform/TrayArea.h"
+#include "platform/x11/connection/Events.h"
+#include "platform/x11/connection/Listener.h"
+#include "platform/x11/pointer/X11EdgeBarrier.h"
+#include "platform/x11/pointer/X11InputGrab.h"
+#include "platform/x11/pointer/X11Pointer.h"
+#include "platform/x11/screens/X11Screens.h"
+#include "platform/x11/selection/X11DragMonitor.h"
+#include "platform/x11/selection/X11Pasteboard.h"
+#include "platform/x11/settings/ManagerSelection.h"
+#include "platform/x11/settings/ScreenSaverStatus.h"
+#include "platform/x11/window/ForeignCover.h"
 
 namespace ravelo::x11 {
 
@@ -28,28 +27,26 @@ public:
 
     [[nodiscard]] Pasteboard& pasteboard() override { return pasteboard_; }
 
-    [[nodiscard]] Pointer& pointer() override { return pointer_; }
-
     [[nodiscard]] DragMonitor& drags() override { return drags_; }
 
     [[nodiscard]] Screens& screens() override { return screens_; }
 
-    [[nodiscard]] EdgeBarrier& barrier() override { return barrier_; }
-
-    [[nodiscard]] SessionLock& lock() override { return screenSaver_; }
-
-    [[nodiscard]] SessionLock& cover() override { return cover_; }
+    [[nodiscard]] EdgeBarrier* barrier() override { return &barrier_; }
 
     [[nodiscard]] InputGrab& inputGrab() override { return inputGrab_; }
 
-    [[nodiscard]] MotionPreference& motion() override { return motion_; }
-
-    [[nodiscard]] IconPreference& icons() override { return icons_; }
-
-    [[nodiscard]] TrayArea& tray() override { return tray_; }
+    [[nodiscard]] std::vector<SessionLock*> locks() override { return {&screenSaver_, &cover_}; }
 
     [[nodiscard]] std::unique_ptr<PanelWindow> panelWindow(QWindow& window) override;
     [[nodiscard]] std::unique_ptr<WindowFrame> windowFrame(QWindow& window) override;
+
+    /// For the hot zone.
+    [[nodiscard]] Pointer& pointer() { return pointer_; }
+
+    // What the desktop publishes through the X server. They must be destroyed before it.
+    [[nodiscard]] std::unique_ptr<MotionPreference> motion();
+    [[nodiscard]] std::unique_ptr<IconPreference> icons();
+    [[nodiscard]] std::unique_ptr<TrayArea> tray();
 
 private:
     X11DisplayServer(std::unique_ptr<Connection> connection, std::unique_ptr<Listener> listener);
@@ -59,9 +56,6 @@ private:
     X11Screens screens_;
     ManagerSelection compositor_;
     ManagerProperty settings_;
-    X11MotionPreference motion_;
-    X11IconPreference icons_;
-    X11TrayArea tray_;
     ScreenSaverStatus screenSaver_;
     X11EdgeBarrier barrier_;
     X11InputGrab inputGrab_;

@@ -22,10 +22,6 @@ Item {
     required property ToastMessage toast
     required property PanelActions actions
 
-    HoverHandler {
-        onHoveredChanged: panel.controller.setHovered(hovered)
-    }
-
     // Accepts files only, as copies. The controller gets them from the platform; reading them here
     // would block. Ignores drags from the panel itself.
     DropArea {

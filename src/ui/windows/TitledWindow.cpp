@@ -66,10 +66,10 @@ void TitledWindow::fit() {
     setMinimumSize(size);
     setMaximumSize(size);
     resize(size);
-    if (isVisible() && before.topLeft() != inside_.topLeft()) { // Keep the frame in place.
-        setPosition(position() + (before.topLeft() - inside_.topLeft()).toPoint());
-    }
     if (frame_) {
+        if (isVisible() && before.topLeft() != inside_.topLeft()) { // The frame stays where it is.
+            frame_->moveTo(position() + (before.topLeft() - inside_.topLeft()).toPoint());
+        }
         frame_->setRoom(room);
     }
     if (rootObject() != nullptr) {
@@ -92,7 +92,9 @@ void TitledWindow::place() {
     frame.moveCenter(QRectF(panel_.screen()->availableGeometry()).center());
     // The title stays visible if space is short.
     frame.moveTop(std::max(frame.top(), qreal(free().top())));
-    setPosition((frame.topLeft() - inside_.topLeft()).toPoint());
+    if (frame_) {
+        frame_->moveTo((frame.topLeft() - inside_.topLeft()).toPoint());
+    }
 }
 
 void TitledWindow::bringToFront() {

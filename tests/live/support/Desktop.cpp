@@ -1,6 +1,6 @@
 #include "live/support/Desktop.h"
 
-#include "platform/x11/Properties.h"
+#include "platform/x11/connection/Properties.h"
 
 #include <QTemporaryFile>
 

@@ -1,0 +1,191 @@
+#include "app/Platform.h"
+
+#include "monitor/ClaudeEnvironment.h"
+#include "panel/PointerHotZone.h"
+#include "platform/freedesktop/AutostartEntry.h"
+#include "platform/freedesktop/BusInstance.h"
+#include "platform/freedesktop/DesktopFileOpener.h"
+#include "platform/freedesktop/FileTransferPortal.h"
+#include "platform/freedesktop/IconTheme.h"
+#include "platform/freedesktop/KdeConnect.h"
+#include "platform/freedesktop/LoginSession.h"
+#include "platform/freedesktop/LoginShutDown.h"
+#include "platform/freedesktop/PackageKit.h"
+#include "platform/freedesktop/ScreenSaverBus.h"
+#include "platform/freedesktop/SecretService.h"
+#include "platform/freedesktop/ThemeSound.h"
+#include "platform/freedesktop/TrayStatusItem.h"
+#include "platform/system/CurlClient.h"
+#include "platform/system/DataLock.h"
+#include "platform/system/DecoderProcess.h"
+#include "platform/system/DetachedThreads.h"
+#include "platform/system/HelperProgram.h"
+#include "platform/system/InotifyChanges.h"
+#include "platform/system/InotifyFolderWatch.h"
+#include "platform/system/NightShiftScript.h"
+#include "platform/system/PreferenceFile.h"
+#include "platform/system/SpawnedChild.h"
+#include "platform/system/SystemPrograms.h"
+#include "platform/system/SystemScheduler.h"
+#include "platform/system/WorkerThread.h"
+#include "platform/x11/PrepareApplication.h"
+#include "platform/x11/X11DisplayServer.h"
+#include "store/Store.h"
+
+#include <QCoreApplication>
+#include <QDir>
+#include <QFile>
+#include <QIcon>
+#include <QStandardPaths>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Room for two looks at the shelf and what a dead mount has left of earlier ones.
+constexpr int maxFileJobs = 24;
+
+/// Someone may copy a few files in a row; each holds a thread for good if its mount is dead.
+constexpr int maxCopiedFiles = 4;
+
+QString configFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericConfigLocation);
+}
+
+QDBusConnection systemBus() {
+    return QDBusConnection::connectToBus(QDBusConnection::SystemBus, u"ravelo-system"_s);
+}
+
+/// The desktop's choice, or else Qt's guess.
+QString themeOf(const IconPreference& preference) {
+    const QString chosen = preference.theme();
+    return chosen.isEmpty() ? QIcon::themeName() : chosen;
+}
+
+Result<void> connectX11(Platform& platform, HoverTick::Rest rest) {
+    auto created = x11::X11DisplayServer::create();
+    if (!created) {
+        return tl::unexpected(created.error());
+    }
+    x11::X11DisplayServer& server = **created;
+    platform.motion = server.motion();
+    platform.iconPreference = server.icons();
+    platform.trayArea = server.tray();
+    platform.makeHotZone = [&server, rest,
+                            scheduler = platform.scheduler.get()](PanelWindow& window) {
+        return std::make_unique<PointerHotZone>(*scheduler, server.screens(), server.pointer(),
+                                                window, rest);
+    };
+    platform.display = std::move(*created);
+    return {};
+}
+
+void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
+    platform.worker = std::make_unique<WorkerThread>();
+    platform.dataLock =
+        std::make_unique<DataLock>(Platform::lockFile(), Platform::dataFolder() + u"/store.json"_s);
+    platform.preferences = std::make_unique<PreferenceFile>(
+        configFolder() + u"/ravelo/preferences.json"_s,
+        PreferenceFile::Services{*platform.scheduler, *platform.worker, platform.mayWrite()});
+    platform.jobs = std::make_unique<DetachedThreads>();
+    platform.fileJobs = std::make_unique<DetachedThreads>(maxFileJobs);
+    platform.copiedFiles = std::make_unique<DetachedThreads>(maxCopiedFiles);
+    platform.nightShift = std::make_unique<NightShiftScript>(environment);
+    platform.https =
+        std::make_unique<CurlClient>((u"Ravelo/" RAVELO_VERSION ""_s).toUtf8(), environment);
+    platform.children =
+        std::make_unique<SpawnedChild>(*platform.jobs, renewalEnvironment(environment),
+                                       renewalFolder(QFile::encodeName(QDir::homePath())));
+    platform.decoder = std::make_shared<DecoderProcess>(
+        QFile::encodeName(helperProgram("ravelo-decode"_L1)),
+        QFile::encodeName(Store::clipsFolder(Platform::dataFolder())));
+    platform.programs = std::make_unique<SystemPrograms>(*platform.jobs);
+    platform.folders = std::make_unique<InotifyFolderWatch>();
+    platform.transcriptChanges = std::make_unique<InotifyChanges>();
+}
+
+void makeDesktop(Platform& platform, const QProcessEnvironment& environment) {
+    platform.loginItem = std::make_unique<AutostartEntry>(configFolder() + u"/autostart"_s,
+                                                          QCoreApplication::applicationFilePath(),
+                                                          *platform.fileJobs);
+    platform.sessionLocks.push_back(std::make_unique<LoginSession>(systemBus()));
+    platform.sessionLocks.push_back(std::make_unique<ScreenSaverBus>(sessionBus()));
+    platform.transfers =
+        std::make_unique<FileTransferPortal>(helperProgram("ravelo-portal"_L1), environment);
+    platform.sound = std::make_unique<ThemeSound>();
+    platform.shutDown = std::make_unique<LoginShutDown>(systemBus());
+    platform.secrets = std::make_unique<SecretService>(sessionBus());
+    platform.statusItem =
+        std::make_unique<TrayStatusItem>(sessionBus(), *platform.trayArea, *platform.scheduler);
+    platform.devices = std::make_unique<KdeConnect>(sessionBus());
+    platform.opener =
+        std::make_unique<DesktopFileOpener>(sessionBus(), *platform.programs, *platform.jobs);
+    platform.packages = std::make_unique<PackageKit>(systemBus(), u"ravelo"_s);
+    const auto icons = std::make_shared<IconTheme>(IconTheme::usualFolders());
+    const auto follow = [icons, &preference = *platform.iconPreference] {
+        icons->setName(themeOf(preference));
+    };
+    follow();
+    platform.iconThemeChange = platform.iconPreference->onChange(follow);
+    platform.icons = icons;
+}
+
+} // namespace
+
+Platform::Platform() = default;
+Platform::Platform(Platform&&) noexcept = default;
+Platform::~Platform() = default;
+
+Result<Platform::Display> Platform::choose() {
+    const QString wanted = qEnvironmentVariable("RAVELO_PLATFORM");
+    if (!wanted.isEmpty() && wanted != "x11"_L1) {
+        return failure(wanted == "wayland"_L1
+                           ? u"RAVELO_PLATFORM: this version cannot use Wayland directly"_s
+                           : u"RAVELO_PLATFORM must be x11 or wayland, not \"%1\""_s.arg(wanted));
+    }
+    return x11::findDisplay().map([] { return Display::x11; });
+}
+
+Handle Platform::prepareApplication(Display display) {
+    switch (display) {
+    case Display::x11:
+        return x11::prepareApplication();
+    }
+    return {};
+}
+
+Result<Platform> Platform::make(Display display, const QProcessEnvironment& environment,
+                                HoverTick::Rest rest) {
+    Platform platform;
+    platform.scheduler = std::make_unique<SystemScheduler>();
+    Result<void> connected;
+    switch (display) {
+    case Display::x11:
+        connected = connectX11(platform, rest);
+        break;
+    }
+    if (!connected) {
+        return tl::unexpected(connected.error());
+    }
+    makeSystem(platform, environment);
+    makeDesktop(platform, environment);
+    return platform;
+}
+
+QString Platform::dataFolder() {
+    return QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) + u"/Ravelo"_s;
+}
+
+QString Platform::lockFile() {
+    return dataFolder() + u"/lock"_s;
+}
+
+std::function<Result<void>()> Platform::mayWrite() const {
+    return [lock = dataLock.get()] {
+        return lock->check();
+    };
+}
+
+} // namespace ravelo

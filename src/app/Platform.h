@@ -1,0 +1,112 @@
+#pragma once
+
+#include "base/Handle.h"
+#include "base/Result.h"
+#include "panel/HoverTick.h"
+
+#include <QString>
+
+#include <functional>
+#include <memory>
+#include <vector>
+
+class QProcessEnvironment;
+
+namespace ravelo {
+
+class AlertSound;
+class ChildProcess;
+class DataLock;
+class DetachedJobs;
+class DisplayServer;
+class FileIcons;
+class FileOpener;
+class FileTransfer;
+class FolderChanges;
+class FolderWatch;
+class HotZone;
+class HttpsClient;
+class IconPreference;
+class ImageDecoder;
+class LoginItem;
+class MotionPreference;
+class NearbyDevices;
+class NightShift;
+class PackageUpdates;
+class PanelWindow;
+class PreferenceFile;
+class Programs;
+class Scheduler;
+class SecretStore;
+class SessionLock;
+class ShutDown;
+class StatusItem;
+class TrayArea;
+class Worker;
+
+/// The adapters that the program runs on in this session. This is the only place that chooses them.
+/// Main thread.
+struct Platform {
+    /// Kinds of display server.
+    enum class Display { x11 };
+
+    /// Which display server to use: what RAVELO_PLATFORM names, or else what there is. The error is
+    /// for the user. Before the application object.
+    [[nodiscard]] static Result<Display> choose();
+
+    /// Sets the environment that Qt reads when the application object is made. Dropping the handle
+    /// after that restores what the programs that we start must not inherit.
+    [[nodiscard]] static Handle prepareApplication(Display display);
+
+    /// Connects to everything. `environment` is passed to the user's own programs. The error is for
+    /// the user.
+    [[nodiscard]] static Result<Platform> make(Display display,
+                                               const QProcessEnvironment& environment,
+                                               HoverTick::Rest rest = HoverTick::Rest::whenStill);
+
+    /// Where the data are, and the file of their lock.
+    [[nodiscard]] static QString dataFolder();
+    [[nodiscard]] static QString lockFile();
+
+    /// For data and preferences: an error once another process has the data. Any thread.
+    [[nodiscard]] std::function<Result<void>()> mayWrite() const;
+
+    Platform();
+    Platform(Platform&&) noexcept;
+    Platform& operator=(Platform&&) = delete;
+    ~Platform();
+
+    std::unique_ptr<DisplayServer> display;
+    std::function<std::unique_ptr<HotZone>(PanelWindow&)> makeHotZone;
+    std::unique_ptr<DataLock> dataLock;
+    std::unique_ptr<Scheduler> scheduler;
+    std::unique_ptr<Worker> worker;
+    std::unique_ptr<PreferenceFile> preferences;
+    std::unique_ptr<DetachedJobs> jobs;
+    std::unique_ptr<DetachedJobs> fileJobs; ///< For the user's files, on any mount.
+    std::unique_ptr<DetachedJobs> copiedFiles;
+    std::unique_ptr<LoginItem> loginItem;
+    std::vector<std::unique_ptr<SessionLock>> sessionLocks; ///< Beside the display server's own.
+    std::unique_ptr<MotionPreference> motion;
+    std::unique_ptr<FileTransfer> transfers;
+    std::unique_ptr<AlertSound> sound;
+    std::unique_ptr<NightShift> nightShift;
+    std::unique_ptr<ShutDown> shutDown;
+    std::unique_ptr<SecretStore> secrets;
+    std::unique_ptr<HttpsClient> https;
+    std::unique_ptr<ChildProcess> children;
+    std::shared_ptr<ImageDecoder> decoder; ///< May still be in use after the rest is gone.
+    std::unique_ptr<TrayArea> trayArea;
+    std::unique_ptr<StatusItem> statusItem;
+    std::unique_ptr<Programs> programs;
+    std::unique_ptr<NearbyDevices> devices;
+    std::unique_ptr<FolderWatch> folders;
+    std::unique_ptr<FolderChanges> transcriptChanges;
+    std::unique_ptr<FileOpener> opener;
+    std::unique_ptr<PackageUpdates> packages;
+    std::unique_ptr<IconPreference> iconPreference;
+    std::shared_ptr<FileIcons> icons; ///< Likewise.
+    Handle iconThemeChange;
+};
+
+} // namespace ravelo

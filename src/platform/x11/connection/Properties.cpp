@@ -1,0 +1,75 @@
+#include "platform/x11/connection/Properties.h"
+
+#include <utility>
+
+namespace ravelo::x11 {
+
+namespace {
+
+// In units of four bytes; a client list of a busy session has a hundred windows.
+constexpr uint32_t maxValues = 16384;
+
+} // namespace
+
+PropertyRequest::PropertyRequest(Connection& connection, xcb_window_t window, xcb_atom_t property)
+    : connection_(&connection),
+      cookie_(xcb_get_property(connection.get(), 0, window, property, XCB_GET_PROPERTY_TYPE_ANY, 0,
+                               maxValues)) {}
+
+PropertyRequest::PropertyRequest(PropertyRequest&& other) noexcept
+    : connection_(other.connection_), cookie_(std::exchange(other.cookie_, {0})) {}
+
+PropertyRequest::~PropertyRequest() {
+    if (cookie_.sequence != 0) {
+        xcb_discard_reply(connection_->get(), cookie_.sequence);
+    }
+}
+
+Owned<xcb_get_property_reply_t> PropertyRequest::reply() {
+    const auto cookie = std::exchange(cookie_, {0});
+    return Owned<xcb_get_property_reply_t>(
+        xcb_get_property_reply(connection_->get(), cookie, nullptr));
+}
+
+bool PropertyRequest::exists() {
+    const auto answer = reply();
+    return answer && answer->type != XCB_ATOM_NONE;
+}
+
+QByteArray PropertyRequest::bytes() {
+    const auto answer = reply();
+    if (!answer || answer->format != 8) {
+        return {};
+    }
+    const auto* values = static_cast<const char*>(xcb_get_property_value(answer.get()));
+    return {values, static_cast<qsizetype>(answer->value_len)};
+}
+
+std::vector<uint32_t> PropertyRequest::cardinals() {
+    const auto answer = reply();
+    if (!answer || answer->format != 32) {
+        return {};
+    }
+    const auto* values = static_cast<const uint32_t*>(xcb_get_property_value(answer.get()));
+    return {values, values + answer->value_len};
+}
+
+std::vector<xcb_window_t> topLevelWindows(Connection& connection) {
+    const auto cookie = xcb_query_tree(connection.get(), connection.root());
+    const Owned<xcb_query_tree_reply_t> reply(
+        xcb_query_tree_reply(connection.get(), cookie, nullptr));
+    if (!reply) {
+        return {};
+    }
+    const xcb_window_t* first = xcb_query_tree_children(reply.get());
+    return {first, first + xcb_query_tree_children_length(reply.get())};
+}
+
+QSize windowSize(Connection& connection, xcb_window_t window) {
+    const auto cookie = xcb_get_geometry(connection.get(), window);
+    const Owned<xcb_get_geometry_reply_t> reply(
+        xcb_get_geometry_reply(connection.get(), cookie, nullptr));
+    return reply ? QSize(reply->width, reply->height) : QSize();
+}
+
+} // namespace ravelo::x11

@@ -1,0 +1,89 @@
+#pragma once
+
+#include "base/Listeners.h"
+#include "platform/DragMonitor.h"
+#include "platform/PanelWindow.h"
+#include "platform/x11/screens/X11Screens.h"
+#include "platform/x11/settings/ManagerSelection.h"
+#include "platform/x11/window/BlurEffect.h"
+#include "platform/x11/window/ForeignCover.h"
+#include "platform/x11/window/InputFocus.h"
+
+#include <QObject>
+#include <QPainterPath>
+#include <QRegion>
+
+#include <xcb/shape.h>
+
+#include <optional>
+#include <vector>
+
+class QWindow;
+
+namespace ravelo::x11 {
+
+/// An override-redirect window: the only kind that every window manager allows above bars and above
+/// a focused full-screen window. Requests about its own window go through Qt's connection, so that
+/// they stay in order with Qt's.
+class X11PanelWindow : public PanelWindow, private QObject {
+public:
+    /// All must outlive it; `window` must not have been shown. Makes the native window.
+    X11PanelWindow(QWindow& window, Connection& connection, Events& events,
+                   const X11Screens& screens, ManagerSelection& compositor, ForeignCover& cover,
+                   DragMonitor& drags);
+
+    void place(const Screen& screen, QSizeF size) override;
+    void orderFront() override;
+    void orderOut() override;
+    void setOutline(const QPainterPath& outline) override;
+    [[nodiscard]] ShowThrough showThrough() const override;
+    [[nodiscard]] Handle onShowThroughChange(std::function<void()> callback) override;
+
+    [[nodiscard]] bool isUnderPointer() const override { return underPointer_; }
+
+    [[nodiscard]] Handle onUnderPointerChange(std::function<void()> callback) override {
+        return underPointerListeners_.add(std::move(callback));
+    }
+
+    /// That of the newest drag: XDND itself would have us wait for the source.
+    [[nodiscard]] std::shared_ptr<DragOffer> dragOffer() override { return drags_.newest(); }
+
+    /// Needs no token: X11 lets us set the focus.
+    void requestFocus(const QByteArray& activationToken) override;
+    void returnFocus() override;
+
+private:
+    bool eventFilter(QObject* watched, QEvent* event) override;
+    void setUnderPointer(bool under);
+    void stayAbove(const xcb_generic_event_t& event);
+    void prepareNativeWindow();
+    void applyOutline();
+    void setShape(xcb_shape_kind_t kind, const std::vector<xcb_rectangle_t>& rectangles);
+    void setCardinals(xcb_atom_t property, const std::vector<uint32_t>& values);
+
+    QWindow& window_;
+    const X11Screens& screens_;
+    ManagerSelection& compositor_;
+    ForeignCover& cover_;
+    DragMonitor& drags_;
+    InputFocus focus_;
+    const xcb_atom_t shadow_;
+    const xcb_atom_t skipCloseAnimation_;
+    BlurEffect blur_;
+    Listeners<> showThroughListeners_;
+    Listeners<> underPointerListeners_;
+    bool underPointer_ = false;
+    std::optional<QPainterPath> outline_;
+    double scale_ = 1; ///< Device pixels per logical pixel on the monitor of the last placement.
+    xcb_connection_t* qt_; ///< Qt's own connection.
+    xcb_window_t id_ = XCB_WINDOW_NONE;
+    const std::vector<xcb_atom_t> restackingNotices_;
+    Handle compositorSubscription_;
+    Handle blurSubscription_;
+    Handle eventSubscription_;
+};
+
+/// The device pixels that `outline`, in logical pixels, covers at this scale.
+[[nodiscard]] QRegion outlineRegion(const QPainterPath& outline, double scale);
+
+} // namespace ravelo::x11

@@ -1,0 +1,343 @@
+#include "live/selection/PasteboardFixture.h"
+
+#include <QClipboard>
+
+#include <ostream>
+#include <semaphore>
+#include <utility>
+
+namespace ravelo::x11 {
+namespace {
+
+using live::Client;
+using live::filling;
+using live::offering;
+using namespace Qt::StringLiterals;
+
+const QString hint = u"x-kde-passwordManagerHint"_s;
+
+struct TextCase {
+    const char* name;
+    QStringList offers;
+    std::optional<QByteArray> text;
+
+    friend void PrintTo(const TextCase& tested, std::ostream* out) { *out << tested.name; }
+};
+
+class TextOfOwner : public X11PasteboardTest, public testing::WithParamInterface<TextCase> {};
+
+TEST_P(TextOfOwner, arrivesAsUtf8) {
+    const auto owner = own(u"answer"_s, GetParam().offers);
+    const auto snapshot = read(plainTextType);
+    EXPECT_EQ(snapshot.types.count(plainTextType), 1) << qPrintable(snapshot.types.join(u' '));
+    EXPECT_EQ(snapshot.answers.value(plainTextType), GetParam().text);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Owners, TextOfOwner,
+    testing::Values(
+        TextCase{"Latin1", {offering(u"STRING"_s, "caf\xe9")}, "caf\xc3\xa9"},
+        TextCase{"Utf8", {offering(u"UTF8_STRING"_s, "caf\xc3\xa9")}, "caf\xc3\xa9"},
+        TextCase{"BestOfMany",
+                 {offering(u"TEXT"_s, "text"), offering(u"STRING"_s, "string"),
+                  offering(u"text/plain;charset=UTF-8"_s, "mime"),
+                  offering(u"text/plain"_s, "plain")},
+                 "mime"},
+        TextCase{"MimeThatIsNoUtf8", {offering(u"text/plain"_s, "caf\xe9")}, "caf\xc3\xa9"},
+        TextCase{"Empty", {offering(u"UTF8_STRING"_s, "")}, ""},
+        TextCase{
+            "CompoundText", {offering(u"COMPOUND_TEXT"_s, "\x1b%G\xc3\xa9\x1b%@")}, std::nullopt},
+        TextCase{"OverTheLimit", {u"UTF8_STRING=fill:%1"_s.arg((8 << 20) + 1)}, std::nullopt}),
+    [](const auto& tested) { return tested.param.name; });
+
+TEST_F(X11PasteboardTest, readsTextOfARealProgram) {
+    const qint64 before = board().changeCount();
+    const Client xclip(u"xclip"_s, {u"-quiet"_s, u"-selection"_s, u"clipboard"_s},
+                       "Gr\xc3\xbc\xc3\x9f");
+    ASSERT_TRUE(eventually([&] { return board().changeCount() == before + 1; })) << "no notice";
+    EXPECT_EQ(readText(), QByteArray("Gr\xc3\xbc\xc3\x9f"));
+}
+
+TEST_F(X11PasteboardTest, readsALargeImageInPieces) {
+    const auto owner = own(u"answer"_s, {u"image/png=fill:8388608"_s});
+    EXPECT_TRUE(read(u"image/png"_s).answers.value(u"image/png"_s) == filling(8388608))
+        << "not the bytes that were offered";
+}
+
+TEST_F(X11PasteboardTest, keepsMarksUnderTheirOwnNames) {
+    const auto owner =
+        own(u"answer"_s, {offering(hint, "secret"), offering(u"UTF8_STRING"_s, "pw")});
+    const auto snapshot = read(hint);
+    EXPECT_TRUE(snapshot.types.contains(hint));
+    EXPECT_EQ(snapshot.answers.value(hint), QByteArray("secret"));
+    EXPECT_FALSE(snapshot.answers.contains(plainTextType)) << "read what nobody asked for";
+}
+
+TEST_F(X11PasteboardTest, answersEmptyWhereNobodyOwnsTheClipboard) {
+    own(u"answer"_s, {offering(u"STRING"_s, "x")}).reset();
+    ASSERT_TRUE(eventually([&] { return board().changeCount() == 2; }))
+        << "the owner's end is no change";
+    EXPECT_EQ(read(plainTextType).types, QStringList());
+}
+
+TEST_F(X11PasteboardTest, isOrphanedWhereTheOwnersWindowGoes) {
+    const auto owner = own(u"answer"_s, {offering(u"STRING"_s, "x")});
+    const qint64 before = board().changeCount();
+    xcb_destroy_window(session_.connection->get(), session_.clipboardOwner());
+    xcb_flush(session_.connection->get());
+    EXPECT_TRUE(eventually([&] { return board().orphaned() == before; }));
+}
+
+struct HostileCase {
+    const char* behaviour;
+    bool listsTypes;
+    int size = 1 << 20;
+    qint64 tooLarge = 0; ///< The size that is told.
+
+    friend void PrintTo(const HostileCase& tested, std::ostream* out) { *out << tested.behaviour; }
+};
+
+class HostileOwner : public X11PasteboardTest, public testing::WithParamInterface<HostileCase> {};
+
+TEST_P(HostileOwner, neitherStallsUsNorSpoilsTheNextCopy) {
+    const live::StallGauge gauge;
+    const QStringList offers = {u"UTF8_STRING=fill:%1"_s.arg(GetParam().size)};
+    const auto hostile = own(QLatin1StringView(GetParam().behaviour), offers);
+    const auto snapshot = read(plainTextType);
+    EXPECT_EQ(snapshot.types.contains(plainTextType), GetParam().listsTypes);
+    EXPECT_EQ(snapshot.answers.value(plainTextType), std::nullopt);
+    EXPECT_EQ(snapshot.tooLarge.value(plainTextType), GetParam().tooLarge);
+
+    // A second reading is under way while the next program copies.
+    std::optional<PasteboardSnapshot> overtaken;
+    const Handle reading = ask(plainTextType, overtaken);
+    const auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "next")});
+    QElapsedTimer sinceCopy;
+    sinceCopy.start();
+    EXPECT_EQ(readText(), QByteArray("next"));
+    EXPECT_LT(sinceCopy.elapsed(), 1000) << "waited for the owner before";
+    EXPECT_LE(gauge.longestStallMs(), 50);
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Behaviours, HostileOwner,
+    testing::Values(HostileCase{"silent", false}, HostileCase{"targetsOnly", true},
+                    HostileCase{"refuse", true}, HostileCase{"stallsInPieces", true},
+                    HostileCase{"claimsHuge", true, 1 << 20, 2000000000},
+                    HostileCase{"claimsSmall", true, 1 << 20, 33 << 18},
+                    HostileCase{"inOnePiece", true, (8 << 20) + 1, (8 << 20) + 1}),
+    [](const auto& tested) { return tested.param.behaviour; });
+
+TEST_F(X11PasteboardTest, survivesAnOwnerThatDiesWhenAsked) {
+    const live::StallGauge gauge;
+    const auto dying = own(u"dieAfterTargets"_s, {offering(u"UTF8_STRING"_s, "last words")});
+    const qint64 before = board().changeCount();
+    std::optional<PasteboardSnapshot> result;
+    const Handle reading = ask(plainTextType, result);
+    EXPECT_TRUE(eventually([&] { return board().changeCount() == before + 1; }))
+        << "the owner's death is no change";
+    const auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "next")});
+    EXPECT_EQ(readText(), QByteArray("next"));
+    EXPECT_FALSE(result) << "answered for an owner that is gone";
+    EXPECT_LE(gauge.longestStallMs(), 50);
+}
+
+TEST_F(X11PasteboardTest, doesNotTakeALateAnswerForTheNextOwners) {
+    const auto late = own(u"late"_s, {offering(u"UTF8_STRING"_s, "stale")});
+    std::optional<PasteboardSnapshot> overtaken;
+    const Handle reading = ask(plainTextType, overtaken);
+    for (int round = 0; round < 3; ++round) {
+        auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "fresh")});
+        EXPECT_EQ(readText(), QByteArray("fresh"));
+        const qint64 before = board().changeCount();
+        owner.reset(); // Its end must not pass for the next owner's coming.
+        EXPECT_TRUE(eventually([&] { return board().changeCount() != before; }));
+    }
+    EXPECT_FALSE(overtaken);
+}
+
+TEST_F(X11PasteboardTest, readsEveryOneOfQuickCopies) {
+    constexpr int copies = 20;
+    QList<QByteArray> got;
+    Handle reading;
+    const Handle listening = board().onChange([&] {
+        reading = board().read(
+            [](const PasteboardSnapshot& snapshot) {
+                return snapshot.answers.isEmpty() ? QString(plainTextType) : QString();
+            },
+            [&](const PasteboardSnapshot& snapshot) {
+                got.append(snapshot.answers.value(plainTextType).value_or("nothing"));
+            });
+    });
+    const auto owner = own(u"answer"_s, {offering(u"UTF8_STRING"_s, "copy")});
+    QList<QByteArray> expected = {"copy"};
+    for (int copy = 2; copy <= copies; ++copy) {
+        expected.append("copy" + QByteArray::number(copy));
+    }
+    QTimer next;
+    next.callOnTimeout([&, copy = 1]() mutable {
+        owner->poke();
+        if (++copy == copies) {
+            next.stop();
+        }
+    });
+    next.start(25);
+    EXPECT_TRUE(eventually([&] { return got.size() >= copies; })) << got.size() << " arrived";
+    EXPECT_EQ(got, expected);
+}
+
+TEST_F(X11PasteboardTest, servesWhatWasWrittenByteForByte) {
+    const QList<PasteboardEntry> forms = {
+        {u"image/png"_s, filling(3 << 20)},
+        {u"text/uri-list"_s, "file:///tmp/%5Ba%5D%2520%23%3F%C3%BC%FC%0A\r\n"},
+        {u"x-special/gnome-copied-files"_s, "copy\nfile:///tmp/a"},
+        {plainTextType, "words"}};
+    board().write(forms);
+    for (const PasteboardEntry& form : forms) {
+        Client xclip(u"xclip"_s, {u"-o"_s, u"-selection"_s, u"clipboard"_s, u"-t"_s, form.type});
+        EXPECT_TRUE(xclip.finish() == form.bytes) << qPrintable(form.type);
+    }
+    for (const QString& target : {u"UTF8_STRING"_s, u"STRING"_s}) {
+        Client text(u"xclip"_s, {u"-o"_s, u"-selection"_s, u"clipboard"_s, u"-t"_s, target});
+        EXPECT_EQ(text.finish(), "words") << qPrintable(target);
+    }
+}
+
+TEST_F(X11PasteboardTest, keepsTextFieldsFromReadingWhateverIsCopied) {
+    const live::NoticesOfQt noticesOfQt(*session_.connection);
+    int signalsSeen = 0; // At each of these an open text field reads, and waits for the owner.
+    const auto watching = QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged,
+                                           [&] { ++signalsSeen; });
+    const auto owner = own(u"silent"_s, {});
+    EXPECT_TRUE(eventually([&] { return noticesOfQt.count() > 0; })) << "Qt hears nothing";
+    EXPECT_EQ(signalsSeen, 0);
+    QObject::disconnect(watching);
+}
+
+/// Another client in this very program, so that nothing comes between its copy and ours.
+class NearbyClient {
+public:
+    explicit NearbyClient(Connection& connection)
+        : connection_(connection),
+          noticesOfQt_(connection),
+          window_(xcb_generate_id(connection.get())) {
+        xcb_create_window(connection.get(), 0, window_, connection.root(), 0, 0, 1, 1, 0,
+                          XCB_WINDOW_CLASS_INPUT_ONLY, XCB_COPY_FROM_PARENT, 0, nullptr);
+    }
+
+    void copy(const QByteArray& selection, xcb_timestamp_t time) {
+        auto* xcb = connection_.get();
+        xcb_set_selection_owner(xcb, window_, connection_.atom(selection), time);
+        const Owned<xcb_get_input_focus_reply_t> done(
+            xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
+    }
+
+    /// A time of the server that Qt has seen pass.
+    [[nodiscard]] xcb_timestamp_t pastTime() {
+        const auto hear = [this] {
+            const int before = noticesOfQt_.count();
+            copy("PRIMARY", XCB_CURRENT_TIME);
+            EXPECT_TRUE(eventually([&] { return noticesOfQt_.count() != before; }));
+            return noticesOfQt_.time();
+        };
+        const auto time = hear();
+        static_cast<void>(hear());
+        return time;
+    }
+
+private:
+    Connection& connection_;
+    live::NoticesOfQt noticesOfQt_;
+    xcb_window_t window_;
+};
+
+/// Keeps the listener from hearing anything, as a busy machine might.
+class DeafListener {
+public:
+    explicit DeafListener(Listener& listener) {
+        listener.post([hold = hold_] { hold->acquire(); });
+    }
+
+    ~DeafListener() { hold_->release(); }
+
+    DeafListener(const DeafListener&) = delete;
+    DeafListener& operator=(const DeafListener&) = delete;
+
+private:
+    std::shared_ptr<std::binary_semaphore> hold_ = std::make_shared<std::binary_semaphore>(0);
+};
+
+TEST_F(X11PasteboardTest, forgetsACopyFromJustBeforeItsOwnWrite) {
+    NearbyClient other(*session_.connection);
+    const auto time = other.pastTime();
+    std::optional<qint64> count;
+    {
+        const DeafListener deaf(*session_.listener);
+        other.copy("CLIPBOARD", time);
+        board().write({{plainTextType, "ours"}});
+        count = board().changeCount();
+    }
+    EXPECT_EQ(readText(), QByteArray("ours"));
+    EXPECT_EQ(board().changeCount(), count) << "the earlier copy was counted after ours";
+}
+
+TEST_F(X11PasteboardTest, leavesAnOrphanToWhoIsQuicker) {
+    NearbyClient other(*session_.connection);
+    own(u"answer"_s, {offering(u"STRING"_s, "x")}).reset();
+    ASSERT_TRUE(eventually([&] { return board().orphaned().has_value(); }));
+    const qint64 before = board().changeCount();
+    {
+        const DeafListener deaf(*session_.listener);
+        other.copy("CLIPBOARD", XCB_CURRENT_TIME);
+        EXPECT_TRUE(board().orphaned()) << "heard of it, and proves nothing";
+        EXPECT_FALSE(board().adopt({{plainTextType, "ours"}}));
+    }
+    EXPECT_TRUE(eventually([&] { return board().changeCount() == before + 1; }))
+        << "the quicker one's copy is no change";
+}
+
+TEST_F(X11PasteboardTest, tellsCopiesOfOneProgramFromThoseOfAManager) {
+    NearbyClient program(*session_.connection);
+    program.copy("CLIPBOARD", XCB_CURRENT_TIME);
+    ASSERT_TRUE(eventually([&] { return board().changeCount() == 1; }));
+    const auto first = read(plainTextType);
+    const auto owner = own(u"answer"_s, {offering(u"STRING"_s, "x")});
+    const auto second = read(plainTextType);
+    EXPECT_NE(first.owner.id, second.owner.id);
+    EXPECT_EQ(second.changeCount, board().changeCount());
+    EXPECT_FALSE(second.lastEnd) << "nobody has ended";
+
+    program.copy("CLIPBOARD_MANAGER", XCB_CURRENT_TIME);
+    program.copy("CLIPBOARD", XCB_CURRENT_TIME);
+    ASSERT_TRUE(eventually([&] { return board().changeCount() == 3; }));
+    const auto third = read(plainTextType);
+    EXPECT_EQ(third.owner.id, first.owner.id);
+    EXPECT_EQ(third.owner.kind, PasteboardOwner::Kind::manager);
+    EXPECT_EQ(first.owner.kind, PasteboardOwner::Kind::program);
+
+    own(u"answer"_s, {offering(u"STRING"_s, "y")}).reset();
+    ASSERT_TRUE(eventually([&] { return board().changeCount() == 5; }));
+    const auto next = own(u"answer"_s, {offering(u"STRING"_s, "y")});
+    const auto last = read(plainTextType);
+    ASSERT_TRUE(last.lastEnd);
+    EXPECT_EQ(last.lastEnd->changeCount, 4);
+    EXPECT_LT(last.lastEnd->before, Seconds(60));
+}
+
+TEST_F(X11PasteboardTest, tellsOfACopyFromJustAfterItsOwnWrite) {
+    NearbyClient other(*session_.connection);
+    int calls = 0;
+    const Handle listening = board().onChange([&] { ++calls; });
+    qint64 count = 0;
+    {
+        const DeafListener deaf(*session_.listener);
+        board().write({{plainTextType, "ours"}});
+        count = board().changeCount();
+        other.copy("CLIPBOARD", XCB_CURRENT_TIME);
+    }
+    EXPECT_TRUE(eventually([&] { return calls == 1; })) << "the later copy was missed";
+    EXPECT_EQ(board().changeCount(), count + 1);
+}
+
+} // namespace
+} // namespace ravelo::x11

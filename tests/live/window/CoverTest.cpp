@@ -1,0 +1,116 @@
+#include "live/window/PanelFixture.h"
+#include "platform/x11/pointer/X11InputGrab.h"
+
+using namespace Qt::StringLiterals;
+
+namespace ravelo::live {
+
+namespace {
+
+constexpr QRect mainMonitor(0, 0, 1920, 1080);
+
+class CoverTest : public PanelFixture {
+public:
+    void SetUp() override { show(u"DUMMY0"_s, {400, 200}); }
+
+    [[nodiscard]] bool becomes(bool locked) {
+        return eventually([&] { return cover.isLocked() == locked; });
+    }
+
+    void restack(xcb_window_t other, xcb_stack_mode_t mode) {
+        const uint32_t value = mode;
+        xcb_configure_window(server.get(), other, XCB_CONFIG_WINDOW_STACK_MODE, &value);
+        static_cast<void>(server.focus()); // At the answer it is done.
+    }
+
+    int changes = 0;
+    Handle subscription = cover.onChange([this] { ++changes; });
+};
+
+TEST_F(CoverTest, IsAWindowThatNobodyManagesOverTheWholeMonitor) {
+    {
+        const OtherWindow game(OtherWindow::Kind::fullScreen, mainMonitor);
+        const OtherWindow menu(OtherWindow::Kind::popup, {0, 0, 1920, 900});
+        const OtherWindow elsewhere(OtherWindow::Kind::popup, {1920, 0, 1280, 1024});
+    }
+    EXPECT_EQ(changes, 0);
+    {
+        const OtherWindow locker(OtherWindow::Kind::popup, mainMonitor.adjusted(1, 1, -1, -1));
+        ASSERT_TRUE(becomes(true)) << "the locker is not seen";
+    }
+    ASSERT_TRUE(becomes(false)) << "the locker's end is not seen";
+    EXPECT_EQ(changes, 2) << "something else counted too";
+}
+
+TEST_F(CoverTest, IsNoneOnceItLiesBelow) {
+    const OtherWindow wallpaper(OtherWindow::Kind::popup, mainMonitor);
+    ASSERT_TRUE(becomes(true));
+    restack(wallpaper.id(), XCB_STACK_MODE_BELOW);
+    ASSERT_TRUE(becomes(false)) << "it lies below all others";
+    restack(wallpaper.id(), XCB_STACK_MODE_ABOVE);
+    ASSERT_TRUE(becomes(true));
+}
+
+TEST_F(CoverTest, StaysAboveAPanelThatIsRaisedByMistake) {
+    const OtherWindow locker(OtherWindow::Kind::popup, mainMonitor);
+    panel.orderFront(); // Whether the locker is known yet or not.
+    ASSERT_TRUE(becomes(true));
+    EXPECT_TRUE(eventually([&] { return server.isAbove(locker.id(), id()); }));
+    panel.orderFront();
+    EXPECT_TRUE(eventually([&] { return server.isAbove(locker.id(), id()); }));
+    EXPECT_TRUE(cover.isLocked());
+}
+
+TEST_F(CoverTest, SaysThatAnyOfThoseHasComeAndNeverThePanelItself) {
+    int newcomers = 0;
+    const Handle appearance = cover.onNewcomer([&] { ++newcomers; });
+    panel.orderOut();
+    panel.orderFront();
+    const OtherWindow game(OtherWindow::Kind::fullScreen, mainMonitor);
+    const OtherWindow grabber(OtherWindow::Kind::popup, {0, 0, 1, 1});
+    EXPECT_TRUE(eventually([&] { return newcomers > 0; }));
+    EXPECT_EQ(newcomers, 1) << "only the grabber's window is not managed";
+}
+
+struct GrabCase {
+    const char* name;
+    bool pointer;
+    bool keyboard;
+};
+
+class GrabTest : public PanelFixture, public testing::WithParamInterface<GrabCase> {};
+
+TEST_P(GrabTest, IsHeldIfBothAre) {
+    const auto [name, pointer, keyboard] = GetParam();
+    x11::X11InputGrab grab(*connection, cover);
+    EXPECT_FALSE(grab.isHeldByAnother());
+    xcb_connection_t* other = server.get();
+    if (pointer) {
+        const x11::Owned<xcb_grab_pointer_reply_t> reply(xcb_grab_pointer_reply(
+            other,
+            xcb_grab_pointer(other, 0, server.root(), 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
+                             XCB_NONE, XCB_NONE, XCB_CURRENT_TIME),
+            nullptr));
+        ASSERT_EQ(reply->status, XCB_GRAB_STATUS_SUCCESS) << "the question left a grab behind";
+    }
+    if (keyboard) {
+        const x11::Owned<xcb_grab_keyboard_reply_t> reply(
+            xcb_grab_keyboard_reply(other,
+                                    xcb_grab_keyboard(other, 0, server.root(), XCB_CURRENT_TIME,
+                                                      XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
+                                    nullptr));
+        ASSERT_EQ(reply->status, XCB_GRAB_STATUS_SUCCESS) << "the question left a grab behind";
+    }
+    EXPECT_EQ(grab.isHeldByAnother(), pointer && keyboard);
+}
+
+INSTANTIATE_TEST_SUITE_P(All, GrabTest,
+                         testing::Values(GrabCase{"none", false, false},
+                                         GrabCase{"pointer", true, false},
+                                         GrabCase{"keyboard", false, true},
+                                         GrabCase{"both", true, true}),
+                         [](const auto& row) { return row.param.name; });
+
+} // namespace
+
+} // namespace ravelo::live

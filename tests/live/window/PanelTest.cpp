@@ -1,0 +1,173 @@
+#include "live/window/PanelFixture.h"
+
+#include <xcb/shape.h>
+
+#include <ostream>
+
+using namespace Qt::StringLiterals;
+
+namespace ravelo::live {
+
+namespace {
+
+struct Placement {
+    QString monitor;
+    QSizeF size;
+
+    friend std::ostream& operator<<(std::ostream& out, const Placement& each) {
+        return out << qPrintable(each.monitor) << " " << each.size.width() << "x"
+                   << each.size.height();
+    }
+};
+
+class PanelPlacementTest : public PanelFixture, public testing::WithParamInterface<Placement> {};
+
+/// Over a focused full-screen window and a bar, which keep their focus and their place.
+TEST_P(PanelPlacementTest, IsAtTheTopCentreAboveAllAndTakesNoFocus) {
+    const QRect monitor = screens.monitor(GetParam().monitor)->native;
+    const OtherWindow bar(OtherWindow::Kind::dock, QRect(monitor.topLeft(), QSize(800, 30)));
+    show(GetParam().monitor, {200, 12});
+    const OtherWindow movie(OtherWindow::Kind::fullScreen, monitor);
+    show(GetParam().monitor, GetParam().size);
+    EXPECT_TRUE(server.isAbove(id(), movie.id()));
+    EXPECT_TRUE(server.isAbove(id(), bar.id()));
+    EXPECT_EQ(server.focus(), movie.id());
+}
+
+INSTANTIATE_TEST_SUITE_P(All, PanelPlacementTest,
+                         testing::Values(Placement{u"DUMMY0"_s, {200, 12}},
+                                         Placement{u"DUMMY0"_s, {520, 34}},
+                                         Placement{u"DUMMY0"_s, {927, 500}},
+                                         Placement{u"DUMMY1"_s, {200, 12}},
+                                         Placement{u"DUMMY1"_s, {641, 560}}));
+
+class PanelTest : public PanelFixture {
+public:
+    /// The rectangles of a shape as the server knows it.
+    QRegion shape(xcb_shape_kind_t kind) {
+        const x11::Owned<xcb_shape_get_rectangles_reply_t> reply(xcb_shape_get_rectangles_reply(
+            server.get(), xcb_shape_get_rectangles(server.get(), id(), kind), nullptr));
+        QRegion region;
+        const auto* rectangles = xcb_shape_get_rectangles_rectangles(reply.get());
+        for (int i = 0; i < xcb_shape_get_rectangles_rectangles_length(reply.get()); ++i) {
+            region +=
+                QRect(rectangles[i].x, rectangles[i].y, rectangles[i].width, rectangles[i].height);
+        }
+        return region;
+    }
+
+    [[nodiscard]] QRect wholeWindow() { return {{}, server.geometry(id()).size()}; }
+};
+
+TEST_F(PanelTest, ComesAboveWhatWasShownMeanwhile) {
+    show(u"DUMMY0"_s, {200, 12});
+    const OtherWindow popup(OtherWindow::Kind::popup, {0, 0, 1920, 500});
+    ASSERT_TRUE(server.isAbove(popup.id(), id()));
+    panel.orderFront();
+    EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); }));
+}
+
+TEST_F(PanelTest, ComesAboveWhenTheWindowManagerHasNewWindows) {
+    show(u"DUMMY0"_s, {200, 12});
+    const OtherWindow popup(OtherWindow::Kind::popup, {0, 0, 1920, 500});
+    ASSERT_TRUE(server.isAbove(popup.id(), id()));
+    const OtherWindow bar(OtherWindow::Kind::dock, {0, 0, 1920, 30});
+    EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); }));
+}
+
+/// A body of 360x200 with a top edge of 400, as the panel has it.
+QPainterPath flaredOutline() {
+    QPainterPath outline;
+    outline.addPolygon(QPolygonF({QPointF(0, 0), QPointF(400, 0), QPointF(380, 20),
+                                  QPointF(380, 200), QPointF(20, 200), QPointF(20, 20)}));
+    outline.closeSubpath();
+    return outline;
+}
+
+struct ClickCase {
+    QPointF place; ///< In the window's logical pixels.
+    bool isPanels;
+
+    friend std::ostream& operator<<(std::ostream& out, const ClickCase& each) {
+        return out << each.place.x() << "," << each.place.y();
+    }
+};
+
+class PanelClickTest : public PanelTest, public testing::WithParamInterface<ClickCase> {};
+
+TEST_P(PanelClickTest, GoesToWhatIsSeenThere) {
+    show(u"DUMMY0"_s, {200, 12});
+    OtherWindow below(OtherWindow::Kind::normal, {0, 0, 1920, 1080});
+    show(u"DUMMY0"_s, {400, 200});
+    panel.setOutline(flaredOutline());
+    window.hide();
+    show(u"DUMMY0"_s, {400, 200});
+    const QPointF offset = GetParam().place * window.devicePixelRatio();
+    click(server.geometry(id()).topLeft() + offset.toPoint());
+    ASSERT_TRUE(eventually([&] { return window.presses + below.presses() > 0; }))
+        << "the click got lost";
+    EXPECT_EQ(window.presses, GetParam().isPanels ? 1 : 0);
+    EXPECT_EQ(below.presses(), GetParam().isPanels ? 0 : 1);
+}
+
+// The places that are not the panel's are below the title of the window there, whatever its font.
+INSTANTIATE_TEST_SUITE_P(All, PanelClickTest,
+                         testing::Values(ClickCase{{200, 100}, true}, ClickCase{{200, 0}, true},
+                                         ClickCase{{3, 1}, true}, ClickCase{{398, 0}, true},
+                                         ClickCase{{21, 199}, true}, ClickCase{{3, 60}, false},
+                                         ClickCase{{382, 45}, false},
+                                         ClickCase{{398, 199}, false}));
+
+TEST_F(PanelTest, IsCutToItsOutlineWhileThereIsNoCompositor) {
+    show(u"DUMMY0"_s, {400, 200});
+    panel.setOutline(flaredOutline());
+    int changes = 0;
+    const Handle subscription = panel.onShowThroughChange([&] { ++changes; });
+    ASSERT_TRUE(eventually([&] { return shape(XCB_SHAPE_SK_INPUT) != QRegion(wholeWindow()); }));
+    const QRegion outline = shape(XCB_SHAPE_SK_INPUT);
+    EXPECT_EQ(shape(XCB_SHAPE_SK_BOUNDING), outline);
+    EXPECT_EQ(panel.showThrough(), PanelWindow::ShowThrough::none);
+    {
+        const Client picom(u"picom"_s,
+                           {u"--backend"_s, u"xrender"_s, u"--config"_s, u"/dev/null"_s});
+        ASSERT_TRUE(eventually([&] { return changes == 1; })) << "the compositor is not seen";
+        EXPECT_EQ(panel.showThrough(), PanelWindow::ShowThrough::sharp);
+        EXPECT_TRUE(eventually([&] {
+            return shape(XCB_SHAPE_SK_BOUNDING) == QRegion(wholeWindow());
+        })) << "the window is still cut";
+        EXPECT_EQ(shape(XCB_SHAPE_SK_INPUT), outline);
+
+        constexpr auto announcement = "_KDE_NET_WM_BLUR_BEHIND_REGION"; // As KWin makes it.
+        server.setCardinals(server.root(), announcement, {0});
+        ASSERT_TRUE(eventually([&] { return changes == 2; })) << "the blur is not seen";
+        EXPECT_EQ(panel.showThrough(), PanelWindow::ShowThrough::blurred);
+        xcb_delete_property(server.get(), server.root(), server.atom(announcement));
+        xcb_flush(server.get());
+        ASSERT_TRUE(eventually([&] { return changes == 3; })) << "the end of the blur is not seen";
+        EXPECT_EQ(panel.showThrough(), PanelWindow::ShowThrough::sharp);
+    }
+    ASSERT_TRUE(eventually([&] { return changes == 4; })) << "the compositor's end is not seen";
+    EXPECT_EQ(panel.showThrough(), PanelWindow::ShowThrough::none);
+    EXPECT_TRUE(eventually([&] { return shape(XCB_SHAPE_SK_BOUNDING) == outline; }))
+        << "the window is not cut again";
+}
+
+TEST_F(PanelTest, TellsCompositorsWhatTheyNeed) {
+    show(u"DUMMY0"_s, {400, 200});
+    panel.setOutline(flaredOutline());
+    ASSERT_TRUE(eventually([&] { return shape(XCB_SHAPE_SK_INPUT) != QRegion(wholeWindow()); }));
+    EXPECT_EQ(server.cardinals(id(), "_COMPTON_SHADOW"), std::vector<uint32_t>{0});
+    QRegion blurred;
+    const auto cardinals = server.cardinals(id(), "_KDE_NET_WM_BLUR_BEHIND_REGION");
+    for (size_t i = 0; i + 3 < cardinals.size(); i += 4) {
+        const auto number = [&](size_t offset) {
+            return static_cast<int>(cardinals[i + offset]);
+        };
+        blurred += QRect(number(0), number(1), number(2), number(3));
+    }
+    EXPECT_EQ(blurred, shape(XCB_SHAPE_SK_INPUT));
+}
+
+} // namespace
+
+} // namespace ravelo::live
