@@ -33,8 +33,12 @@ function(ravelo_ui_library folder)
     set_property(GLOBAL PROPERTY RAVELO_MODULE_${target} "${name}")
     set(root "${PROJECT_BINARY_DIR}/imports/${target}")
     file(MAKE_DIRECTORY "${root}/Ravelo")
+    set(dependencies QtQuick) # For qmllint, which looks up the bases of types there.
     foreach(import ${imports})
         get_property(module GLOBAL PROPERTY RAVELO_MODULE_${import})
+        if(NOT import STREQUAL target)
+            list(APPEND dependencies "Ravelo.${module}")
+        endif()
         file(CREATE_LINK "${PROJECT_BINARY_DIR}/qml/Ravelo/${module}" "${root}/Ravelo/${module}"
              SYMBOLIC)
     endforeach()
@@ -49,7 +53,7 @@ function(ravelo_ui_library folder)
         OUTPUT_DIRECTORY "${PROJECT_BINARY_DIR}/qml/Ravelo/${name}"
         IMPORT_PATH "${root}"
         NO_PLUGIN ${cachegen}
-        DEPENDENCIES QtQuick
+        DEPENDENCIES ${dependencies}
         QML_FILES ${ARG_SINGLETONS} ${ARG_QML})
     # The generated registration includes the headers of the types by their bare names.
     target_include_directories(${target} PRIVATE "${CMAKE_CURRENT_SOURCE_DIR}")

@@ -138,9 +138,7 @@ public:
 
     [[nodiscard]] bool timerRunning() const { return countdown_.timer().running(); }
 
-    [[nodiscard]] QString timerLabel() const {
-        return countdown_.timer().label;
-    }
+    [[nodiscard]] QString timerLabel() const { return countdown_.timer().label; }
 
     [[nodiscard]] double timerDuration() const { return countdown_.timer().duration.count(); }
 
