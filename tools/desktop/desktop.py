@@ -64,6 +64,7 @@ BUS_CONFIGURATION = """<busconfig>
 
 Geometry = collections.namedtuple("Geometry", "window x y width height")
 Monitor = collections.namedtuple("Monitor", "output x y width height")
+MAX_TRAY_ICON = 64
 MAIN = Monitor("DUMMY0", 0, 0, WIDTH, HEIGHT)
 RIGHT = Monitor("DUMMY1", WIDTH, 0, 1280, 1024)
 
@@ -282,12 +283,14 @@ class Desktop(contextlib.AbstractContextManager):
         return pictures[-1]
 
     def window_of(self, process, title=""):
-        """The only visible window of a program (with this title), or None."""
-        found = [window for window in
-                 self.run("xdotool", "search", "--onlyvisible", "--pid", process.pid).split()
-                 if title in ("", self.title(window))]
+        """The only visible window of a program (with this title), or None. Its icon in a bar is
+        a window, too, but does not count."""
+        windows = [self.geometry(window) for window in
+                   self.run("xdotool", "search", "--onlyvisible", "--pid", process.pid).split()
+                   if title in ("", self.title(window))]
+        found = [window for window in windows if window and window.width > MAX_TRAY_ICON]
         assert len(found) <= 1, f"more than one visible window: {found}"
-        return self.geometry(found[0]) if found else None
+        return found[0] if found else None
 
     def geometry(self, window):
         """None if there is no such window."""
