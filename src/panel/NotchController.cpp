@@ -140,7 +140,7 @@ void NotchController::openForFiles() {
 }
 
 bool NotchController::onDragEnter() {
-    // If it is refused, nobody reports that it leaves.
+    // A refused drag is not reported when it leaves.
     dragOver_ = drop_.enter(services_.window.dragOffer()) != Carries::nothing;
     lookAtDrag();
     return dragOver_;

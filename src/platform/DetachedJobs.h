@@ -7,7 +7,7 @@
 namespace ravelo {
 
 /// Work that may never return, such as reading a file on a network mount whose server is gone. Each
-/// job has a thread that nobody waits for, not even at exit. Main thread.
+/// job has a detached thread, which even an exit does not wait for. Main thread.
 class DetachedJobs {
 public:
     virtual ~DetachedJobs() = default;

@@ -2,7 +2,7 @@
 
 namespace ravelo {
 
-/// The user's own night-shift script, which blanks the screen and goes on with pending work. Main
+/// The user's own night-shift script, which blanks the screen and continues pending work. Main
 /// thread.
 class NightShift {
 public:

@@ -76,7 +76,7 @@ public:
     /// perhaps.
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
 
-    /// Whether every change is reported, so that nobody needs to poll `changeCount`.
+    /// Whether every change is reported, so that `changeCount` need not be polled.
     [[nodiscard]] virtual bool reportsChanges() const = 0;
 
     /// Reads what the present owner offers: first the list of types, then what `plan` asks for,
