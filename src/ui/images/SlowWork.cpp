@@ -31,7 +31,7 @@ void SlowWork::run(std::function<void()> job) {
         pool_->setMaxThreadCount(std::min(pool_->maxThreadCount() + 1, maxThreads));
     }
     // Newest first: a list asks from end to beginning, and last for what just came into view.
-    const auto work = [job = std::move(job), begun = begun_, waiting = waiting_]() mutable {
+    auto work = [job = std::move(job), begun = begun_, waiting = waiting_]() mutable {
         *begun = Clock::now();
         job();
         job = nullptr;
@@ -39,7 +39,7 @@ void SlowWork::run(std::function<void()> job) {
             malloc_trim(0); // After large pictures a thread would keep up to 8 MB.
         }
     };
-    pool_->start(work, ++given_);
+    pool_->start(std::move(work), ++given_);
 }
 
 SlowWork::~SlowWork() {
