@@ -18,10 +18,11 @@ function(ravelo_precompiled_headers name)
     foreach(library Qt6::Quick ${ARG_LINKS})
         target_include_directories(${name} SYSTEM PRIVATE
             $<TARGET_PROPERTY:${library},INTERFACE_INCLUDE_DIRECTORIES>)
+        target_compile_options(${name} PRIVATE
+            $<TARGET_PROPERTY:${library},INTERFACE_COMPILE_OPTIONS>)
     endforeach()
     target_compile_definitions(${name} PRIVATE ${ARG_DEFINITIONS})
     target_link_libraries(${name} PRIVATE ravelo_warnings)
-    set_target_properties(${name} PROPERTIES POSITION_INDEPENDENT_CODE ON)
     target_precompile_headers(${name} PRIVATE ${RAVELO_PRECOMPILED} ${ARG_HEADERS})
     # For the compiler cache: the header's text tells whether it is the same.
     target_compile_options(${name} PRIVATE $<$<CXX_COMPILER_ID:GNU>:-fpch-preprocess>)
