@@ -17,6 +17,7 @@
 #include <algorithm>
 #include <cmath>
 #include <iterator>
+#include <span>
 #include <utility>
 
 namespace ravelo {
@@ -59,10 +60,13 @@ Result<void> files(const QStringList& arguments) {
 }
 
 Result<void> lengthAndLabel(const QStringList& arguments) {
-    return writtenMinutes(arguments.value(0))
+    if (arguments.isEmpty()) {
+        return failure(u"a timer needs a number of minutes, like 25 or 0.5"_s);
+    }
+    return writtenMinutes(arguments.front())
                ? Result<void>()
                : failure(u"a timer runs for a number of minutes, like 25 or 0.5, not for \""_s +
-                         arguments.value(0) + u'"');
+                         arguments.front() + u'"');
 }
 
 // What the commands do.
@@ -226,7 +230,7 @@ struct Row {
     Answer (*answer)(const Call& call);
 };
 
-const Row* rowFor(const QStringList& request) {
+std::span<const Row> allRows() {
     static const Row rows[] = {
         {{u"show"_s}, nothing, show},
         {{u"restore"_s}, nothing, restore},
@@ -242,9 +246,26 @@ const Row* rowFor(const QStringList& request) {
         {{u"timer"_s, u"status"_s}, jsonAtMost, timerStatus},
         {{u"shelf"_s, u"list"_s}, listFormatAtMost, shelfList},
     };
+    return rows;
+}
+
+const Row* rowFor(const QStringList& request) {
+    const auto rows = allRows();
     const auto found = std::ranges::find_if(
         rows, [&](const Row& row) { return request.mid(0, row.words.size()) == row.words; });
-    return found == std::end(rows) ? nullptr : found;
+    return found == rows.end() ? nullptr : &*found;
+}
+
+/// Names the commands that begin like it.
+QString unknown(const QStringList& request) {
+    QStringList similar;
+    for (const Row& row : allRows()) {
+        if (row.words.front() == request.value(0)) {
+            similar += row.words.join(u' ');
+        }
+    }
+    const QString hint = similar.isEmpty() ? QString() : u"; there is "_s + similar.join(u", "_s);
+    return u"unknown command: "_s + request.join(u' ') + hint;
 }
 
 } // namespace
@@ -253,8 +274,7 @@ Commands::Commands(Services services) : services_(std::move(services)) {}
 
 Result<void> Commands::check(const QStringList& request) {
     const Row* const row = rowFor(request);
-    return row ? row->check(request.mid(row->words.size()))
-               : failure(u"unknown command: "_s + request.join(u' '));
+    return row ? row->check(request.mid(row->words.size())) : failure(unknown(request));
 }
 
 Answer Commands::answer(const QStringList& request, const QByteArray& activationToken) const {

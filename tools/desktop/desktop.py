@@ -152,6 +152,7 @@ class Desktop(contextlib.AbstractContextManager):
             "TMPDIR": str(temporary),
             "QT_QPA_PLATFORM": "xcb",
             "NO_AT_BRIDGE": "1",
+            "BSPWM_SOCKET": str(runtime / "bspwm"),  # Else it leaves one in /tmp.
             # Qt calls exit() when the X server ends, without freeing anything.
             "ASAN_OPTIONS": "detect_leaks=0",
         }

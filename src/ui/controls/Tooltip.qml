@@ -1,5 +1,3 @@
-pragma ComponentBehavior: Bound
-
 import QtQuick
 import Ravelo.Paint
 import Ravelo.Theme
@@ -19,9 +17,11 @@ Item {
         interval: Theme.tooltipDelay
     }
 
+    // The file cannot be `Bound`: the Loader of Qt 6.4 refuses such a component.
     Loader {
         active: tooltip.hovered && !delay.running
         sourceComponent: Box {
+            objectName: "tooltip"
             parent: tooltip.Window.contentItem // qmllint disable unqualified
             z: 1000
             width: lines.implicitWidth + 20
@@ -31,7 +31,7 @@ Item {
             lineColor: Theme.lineFloating
             lineWidth: 1
 
-            readonly property point centre: tooltip.target.mapToItem(
+            readonly property point centre: tooltip.target.mapToItem( // qmllint disable unqualified
                 null, tooltip.target.width / 2, tooltip.target.height + 6)
             readonly property real room: parent.width - width - Theme.insetSide
             x: Math.round(Math.max(Theme.insetSide, Math.min(centre.x - width / 2, room)))

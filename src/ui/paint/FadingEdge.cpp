@@ -58,8 +58,11 @@ FadingEdge::FadingEdge(QQuickItem* parent)
 }
 
 QRectF FadingEdge::strip() const {
-    const double span = std::min(length_, edge_ == Right ? width() : height());
+    const bool across = edge_ == Left || edge_ == Right;
+    const double span = std::min(length_, across ? width() : height());
     switch (edge_) {
+    case Left:
+        return {0, 0, span, height()};
     case Right:
         return {width() - span, 0, span, height()};
     case Top:
@@ -72,10 +75,13 @@ QRectF FadingEdge::strip() const {
 
 QLinearGradient FadingEdge::mask() const {
     const QRectF area = strip();
-    QLinearGradient gradient(edge_ == Top ? area.bottomLeft() : area.topLeft(),
-                             edge_ == Right    ? area.topRight()
-                             : edge_ == Bottom ? area.bottomLeft()
-                                               : area.topLeft());
+    QLinearGradient gradient(area.topLeft(),
+                             edge_ == Left || edge_ == Right ? area.topRight() : area.bottomLeft());
+    if (edge_ == Left || edge_ == Top) {
+        const QPointF inner = gradient.finalStop();
+        gradient.setFinalStop(gradient.start());
+        gradient.setStart(inner);
+    }
     gradient.setColorAt(0, Qt::black);
     gradient.setColorAt(1, Qt::transparent);
     return gradient;

@@ -20,7 +20,7 @@ class FadingEdge : public ravelo::PaintedItem {
 
 public:
     // NOLINTNEXTLINE(readability-identifier-naming): QML demands capitals.
-    enum Edge { Bottom, Right, Top };
+    enum Edge { Bottom, Left, Right, Top };
     Q_ENUM(Edge)
 
     explicit FadingEdge(QQuickItem* parent = nullptr);

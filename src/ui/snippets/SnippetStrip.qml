@@ -34,61 +34,67 @@ Item {
         edge: FadingEdge.Right
         length: Math.min(40, Math.max(0, list.contentWidth - list.contentX - width))
 
-        ListView {
-            id: list
+        FadingEdge {
             // Room for the focus ring.
             anchors.fill: parent
             anchors.margins: -4
             anchors.rightMargin: 0
-            leftMargin: 4
-            Accessible.role: Accessible.List
-            Accessible.name: qsTr("Snippets")
-            activeFocusOnTab: count > 0
-            onActiveFocusChanged: {
-                if (activeFocus) {
-                    strip.reached();
+            edge: FadingEdge.Left
+            length: Math.min(40, Math.max(0, list.contentX - list.originX + list.leftMargin))
+
+            ListView {
+                id: list
+                anchors.fill: parent
+                leftMargin: 4
+                Accessible.role: Accessible.List
+                Accessible.name: qsTr("Snippets")
+                activeFocusOnTab: count > 0
+                onActiveFocusChanged: {
+                    if (activeFocus) {
+                        strip.reached();
+                    }
                 }
-            }
-            orientation: ListView.Horizontal
-            spacing: 6
-            cacheBuffer: 0 // Chips created ahead would delay a search that removes them.
-            clip: true
-            boundsBehavior: Flickable.StopAtBounds
-            highlightMoveDuration: Theme.move(200)
-            model: strip.snippets.list
+                orientation: ListView.Horizontal
+                spacing: 6
+                cacheBuffer: 0 // Chips created ahead would delay a search that removes them.
+                clip: true
+                boundsBehavior: Flickable.StopAtBounds
+                highlightMoveDuration: Theme.move(200)
+                model: strip.snippets.list
 
-            delegate: SnippetChip {
-                id: one
+                delegate: SnippetChip {
+                    id: one
 
-                required property int index
-                required property var snippetId
-                required property string icon
-                required title
+                    required property int index
+                    required property var snippetId
+                    required property string icon
+                    required title
 
-                function askToRemove() {
-                    strip.chosen = snippetId;
-                    question.openUnder(one, 0);
+                    function askToRemove() {
+                        strip.chosen = snippetId;
+                        question.openUnder(one, 0);
+                    }
+
+                    objectName: "chip" + index
+                    y: 4
+                    symbol: icon
+                    onClicked: strip.snippets.copy(snippetId)
+                    onEditRequested: strip.snippets.editor.edit(snippetId)
+                    onRemoveRequested: askToRemove()
+                    onMenuRequested: (place, byKey) => {
+                        menu.chip = one;
+                        menu.openAt(mapToItem(menu.parent, place.x, place.y), false, byKey);
+                    }
                 }
 
-                objectName: "chip" + index
-                y: 4
-                symbol: icon
-                onClicked: strip.snippets.copy(snippetId)
-                onEditRequested: strip.snippets.editor.edit(snippetId)
-                onRemoveRequested: askToRemove()
-                onMenuRequested: (place, byKey) => {
-                    menu.chip = one;
-                    menu.openAt(mapToItem(menu.parent, place.x, place.y), false, byKey);
-                }
-            }
-
-            // A wheel scrolls sideways.
-            WheelHandler {
-                onWheel: event => {
-                    const step = event.angleDelta.y + event.angleDelta.x;
-                    const begin = list.originX - list.leftMargin;
-                    const end = Math.max(begin, list.originX + list.contentWidth - list.width);
-                    list.contentX = Math.max(begin, Math.min(list.contentX - step, end));
+                // A wheel scrolls sideways.
+                WheelHandler {
+                    onWheel: event => {
+                        const step = event.angleDelta.y + event.angleDelta.x;
+                        const begin = list.originX - list.leftMargin;
+                        const end = Math.max(begin, list.originX + list.contentWidth - list.width);
+                        list.contentX = Math.max(begin, Math.min(list.contentX - step, end));
+                    }
                 }
             }
         }

@@ -1,6 +1,8 @@
 #include "live/window/PanelFixture.h"
 #include "platform/x11/pointer/X11InputGrab.h"
 
+#include <array>
+
 using namespace Qt::StringLiterals;
 
 namespace ravelo::live {
@@ -60,6 +62,56 @@ TEST_F(CoverTest, StaysAboveAPanelThatIsRaisedByMistake) {
     EXPECT_TRUE(eventually([&] { return server.isAbove(locker.id(), id()); }));
     EXPECT_TRUE(cover.isLocked());
 }
+
+struct FrameCase {
+    const char* name;
+    bool ofWindowManager;
+    bool holdsOther;
+    bool counts;
+};
+
+class FrameTest : public CoverTest, public testing::WithParamInterface<FrameCase> {
+public:
+    void setWindowManager(const std::vector<uint32_t>& check) {
+        server.setCardinals(server.root(), check_, check, XCB_ATOM_WINDOW);
+    }
+
+    void TearDown() override { setWindowManager(real_); }
+
+private:
+    const QByteArray check_ = "_NET_SUPPORTING_WM_CHECK";
+    const std::vector<uint32_t> real_ = server.cardinals(server.root(), check_);
+};
+
+TEST_P(FrameTest, IsNoneIfItHoldsAWindowForTheWindowManager) {
+    const auto& row = GetParam();
+    const OtherWindow frame(OtherWindow::Kind::popup, {0, 0, 300, 300});
+    const OtherWindow program(OtherWindow::Kind::popup, {0, 0, 200, 200});
+    if (row.ofWindowManager) {
+        setWindowManager({frame.id()});
+    }
+    if (row.holdsOther) {
+        xcb_reparent_window(server.get(), program.id(), frame.id(), 0, 0);
+    }
+    const std::array<uint32_t, 2> size = {1920, 1080};
+    xcb_configure_window(server.get(), frame.id(),
+                         XCB_CONFIG_WINDOW_WIDTH | XCB_CONFIG_WINDOW_HEIGHT, size.data());
+    xcb_flush(server.get());
+    if (row.counts) {
+        EXPECT_TRUE(becomes(true)) << "a locker is not seen";
+    } else {
+        const OtherWindow locker(OtherWindow::Kind::popup, mainMonitor);
+        ASSERT_TRUE(becomes(true));
+    }
+    EXPECT_TRUE(becomes(row.counts)) << "the frame still counts when the locker is gone";
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    All, FrameTest,
+    testing::Values(FrameCase{"frame", true, true, false},
+                    FrameCase{"locker_of_the_window_manager", true, false, true},
+                    FrameCase{"locker_with_a_screen_saver", false, true, true}),
+    [](const auto& row) { return row.param.name; });
 
 TEST_F(CoverTest, SaysThatAnyOfThoseHasComeAndNeverThePanelItself) {
     int newcomers = 0;

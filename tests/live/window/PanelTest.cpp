@@ -73,6 +73,11 @@ TEST_F(PanelTest, ComesAboveWhenTheWindowManagerHasNewWindows) {
     ASSERT_TRUE(server.isAbove(popup.id(), id()));
     const OtherWindow bar(OtherWindow::Kind::dock, {0, 0, 1920, 30});
     EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); }));
+    const OtherWindow frame(OtherWindow::Kind::popup, {0, 0, 1920, 500});
+    ASSERT_TRUE(server.isAbove(frame.id(), id()));
+    server.setCardinals(server.root(), "_NET_ACTIVE_WINDOW", {frame.id()}, XCB_ATOM_WINDOW);
+    EXPECT_TRUE(eventually([&] { return server.isAbove(id(), frame.id()); }))
+        << "i3 changes nothing else";
 }
 
 /// A body of 360x200 with a top edge of 400, as the panel has it.

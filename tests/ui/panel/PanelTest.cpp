@@ -147,6 +147,15 @@ TEST_F(Panel, startsTheNightShiftAtOnceAndShutsDownOnlyWhenSure) {
     EXPECT_TRUE(eventually([this] { return shown(u"powerQuestion"_s) == nullptr; }));
 }
 
+TEST_F(Panel, explainsAButtonThatIsPointedAt) {
+    open();
+    const QQuickItem* button = item(u"power"_s);
+    send(view.window(), QEvent::MouseMove, button->mapToScene(button->boundingRect().center()));
+    EXPECT_GT(item(u"tooltip"_s)->y(), button->mapToScene({0, button->height()}).y());
+    send(view.window(), QEvent::MouseMove, {460, 500});
+    EXPECT_TRUE(eventually([this] { return shown(u"tooltip"_s) == nullptr; }));
+}
+
 } // namespace
 
 } // namespace ravelo

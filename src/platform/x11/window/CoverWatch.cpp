@@ -1,6 +1,7 @@
 #include "platform/x11/window/CoverWatch.h"
 
 #include "platform/x11/connection/Events.h"
+#include "platform/x11/connection/Properties.h"
 #include "platform/x11/pointer/X11InputGrab.h"
 
 #include <algorithm>
@@ -32,6 +33,40 @@ bool hides(Connection& connection, const Questions& asked, const QRect& monitor)
     const int border = 2 * geometry->border_width;
     const QRect area(geometry->x, geometry->y, geometry->width + border, geometry->height + border);
     return area.adjusted(-slack, -slack, slack, slack).contains(monitor);
+}
+
+std::vector<xcb_window_t> childrenOf(Connection& connection, xcb_window_t window) {
+    const Owned<xcb_query_tree_reply_t> reply(
+        xcb_query_tree_reply(connection.get(), xcb_query_tree(connection.get(), window), nullptr));
+    if (!reply) {
+        return {};
+    }
+    const auto* begin = xcb_query_tree_children(reply.get());
+    return {begin, begin + xcb_query_tree_children_length(reply.get())};
+}
+
+/// The window manager's own window, by EWMH.
+xcb_window_t windowManager(Connection& connection) {
+    const xcb_atom_t check = connection.atom("_NET_SUPPORTING_WM_CHECK");
+    const auto windows = PropertyRequest(connection, connection.root(), check).cardinals();
+    return windows.empty() ? xcb_window_t(XCB_WINDOW_NONE) : windows.front();
+}
+
+/// Whether the window manager put another program's window into it. Those of i3 and IceWM are not
+/// managed themselves, and IceWM has a window of its own in between. What a window manager draws
+/// over the screen holds no other program's window and may well be a locker.
+bool isFrame(Connection& connection, xcb_window_t window) {
+    const uint32_t mask = ~xcb_get_setup(connection.get())->resource_id_mask;
+    const auto isForeign = [&](xcb_window_t other) {
+        return ((other ^ window) & mask) != 0;
+    };
+    if (isForeign(windowManager(connection))) {
+        return false;
+    }
+    const auto inside = childrenOf(connection, window);
+    return std::ranges::any_of(inside, [&](xcb_window_t child) {
+        return isForeign(child) || std::ranges::any_of(childrenOf(connection, child), isForeign);
+    });
 }
 
 } // namespace
@@ -151,7 +186,7 @@ std::vector<xcb_window_t> CoverWatch::coversAmong(const std::vector<xcb_window_t
     }
     std::vector<xcb_window_t> covers;
     for (const Questions& asked : questions) {
-        if (hides(connection_, asked, monitor_)) {
+        if (hides(connection_, asked, monitor_) && !isFrame(connection_, asked.window)) {
             covers.push_back(asked.window);
         }
     }

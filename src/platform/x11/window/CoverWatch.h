@@ -12,8 +12,9 @@ namespace ravelo::x11 {
 
 /// Watches for a window that hides the panel's monitor: mapped, not managed (override-redirect), as
 /// large as the monitor and above the panel. Lockers without a bus show such a window. Full
-/// screen windows that are managed do not count, nor do windows below it such as a wallpaper. A
-/// compositor's overlay window is not listed as a child of the root window.
+/// screen windows that are managed do not count, nor do the window manager's frames around them,
+/// nor windows below it such as a wallpaper. A compositor's overlay window is not listed as a child
+/// of the root window.
 /// Works on the listener's thread.
 class CoverWatch final : public EventHandler {
 public:

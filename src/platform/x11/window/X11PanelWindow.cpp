@@ -51,7 +51,7 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       qt_(qtConnection()),
       restackingNotices_{connection.atom("_NET_CLIENT_LIST"),
                          connection.atom("_NET_CLIENT_LIST_STACKING"),
-                         connection.atom("_NET_WORKAREA")},
+                         connection.atom("_NET_ACTIVE_WINDOW"), connection.atom("_NET_WORKAREA")},
       compositorSubscription_(compositor.onChange([this] {
           applyOutline();
           showThroughListeners_.notify();
@@ -153,7 +153,8 @@ void X11PanelWindow::setUnderPointer(bool under) {
 }
 
 // Xfwm4 puts bars that come later, and every bar when it is restarted, above all windows that it
-// does not manage. The root window's properties, which X11Screens watches, change when it does.
+// does not manage; i3 does so with every new window. The root window's properties, which X11Screens
+// watches, change when they do.
 void X11PanelWindow::stayAbove(const xcb_generic_event_t& event) {
     const auto* change = eventAs<xcb_property_notify_event_t>(event, XCB_PROPERTY_NOTIFY);
     if (change != nullptr && window_.isVisible() && !cover_.isLocked() &&
