@@ -55,25 +55,11 @@ TEST(MotionPreference, followsTheDesktopsSettingsManager) {
 }
 
 TEST(XSettings, findsValuesInWholePropertiesOnly) {
-    const QByteArray property = QByteArray::fromHex("00000000"
-                                                    "07000000"
-                                                    "03000000"
-                                                    "0100"
-                                                    "0300"
-                                                    "41626300"
-                                                    "01000000"
-                                                    "05000000"
-                                                    "68656c6c6f000000"
-                                                    "0200"
-                                                    "0100"
-                                                    "43000000"
-                                                    "01000000"
-                                                    "0100020003000400"
-                                                    "0000"
-                                                    "0400"
-                                                    "4e756d62"
-                                                    "01000000"
-                                                    "2a000000");
+    const QByteArray property =
+        QByteArray::fromHex("00000000 07000000 03000000" // Three of them:
+                            "0100 0300 41626300 01000000 05000000 68656c6c6f000000" // Abc, "hello"
+                            "0200 0100 43000000 01000000 0100020003000400"          // C, a colour
+                            "0000 0400 4e756d62 01000000 2a000000");                // Numb, 42
     EXPECT_EQ(xsettingsInteger(property, "Numb"), 42);
     EXPECT_EQ(xsettingsInteger(property, "Abc"), std::nullopt) << "a string";
     EXPECT_EQ(xsettingsInteger(property, "Other"), std::nullopt);

@@ -35,6 +35,9 @@ private:
     QProcess process_;
 };
 
+/// Runs a program to its end; whether that was a success.
+[[nodiscard]] bool run(const QString& program, const QStringList& arguments);
+
 /// Notices how long the event loop was kept from running by what the program does. The time that
 /// the main thread was ready and waited for a processor does not count.
 class StallGauge {

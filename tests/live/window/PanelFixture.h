@@ -1,6 +1,6 @@
 #pragma once
 
-#include "live/support/Desktop.h"
+#include "live/support/Clients.h"
 #include "live/window/OtherWindow.h"
 #include "platform/x11/selection/X11DragMonitor.h"
 #include "platform/x11/window/X11PanelWindow.h"
