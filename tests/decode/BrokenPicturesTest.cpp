@@ -1,10 +1,8 @@
 #include "Samples.h"
 #include "platform/system/DecoderProcess.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <atomic>
 #include <thread>
@@ -28,9 +26,8 @@ qint64 residentBytes() {
 class Files {
 public:
     PictureFile next(const QByteArray& picture) {
-        QFile file(folder_.filePath(QString::number(count_++)));
-        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(picture) == picture.size());
-        return {QFile::encodeName(file.fileName())};
+        const QString path = folder_.filePath(QString::number(count_++));
+        return {QFile::encodeName(makeFile(path, picture))};
     }
 
 private:

@@ -1,13 +1,10 @@
 #include "platform/system/DecoderProcess.h"
 #include "Samples.h"
+#include "base/Files.h"
 #include "support/Eventually.h"
+#include "support/TestFiles.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <csignal>
 
@@ -19,16 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray contentsOf(const QString& path) {
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// The running processes that this one has started.
 QStringList children() {
     QStringList found;
     for (const QString& process : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
-        const QByteArray stat = contentsOf(u"/proc/"_s + process + u"/stat"_s);
+        const QByteArray stat = readFile(u"/proc/"_s + process + u"/stat"_s).value_or(QByteArray());
         const QByteArrayList fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
         if (fields.value(1).toInt() == getpid() && fields.value(0) != "Z") {
             found.append(process);
@@ -41,23 +33,18 @@ QStringList children() {
 class CountedDecoder : public testing::Test {
 protected:
     CountedDecoder() {
-        QFile script(folder.filePath(u"start"_s));
-        EXPECT_TRUE(script.open(QFile::WriteOnly));
-        script.write("#!/bin/sh\necho >>\"${0}ed\"\nexec " RAVELO_DECODE "\n");
-        script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        script.close();
-        decoder = std::make_unique<DecoderProcess>(QFile::encodeName(script.fileName()),
+        const QString script =
+            makeProgram(folder.filePath(u"start"_s), "echo >>\"${0}ed\"\nexec " RAVELO_DECODE "\n");
+        decoder = std::make_unique<DecoderProcess>(QFile::encodeName(script),
                                                    QFile::encodeName(folder.filePath(u"own"_s)));
     }
 
     [[nodiscard]] qsizetype starts() const {
-        return contentsOf(folder.filePath(u"started"_s)).size();
+        return readFile(folder.filePath(u"started"_s)).value_or(QByteArray()).size();
     }
 
     [[nodiscard]] PictureFile write(const char* name, const QByteArray& bytes) const {
-        QFile file(folder.filePath(QString::fromLatin1(name)));
-        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
-        return {QFile::encodeName(file.fileName())};
+        return {QFile::encodeName(makeFile(folder.filePath(QString::fromLatin1(name)), bytes))};
     }
 
     QTemporaryDir folder;
@@ -86,7 +73,6 @@ TEST_F(CountedDecoder, ServesManyAndKeepsWhatIsSmall) {
 }
 
 TEST_F(CountedDecoder, KeepsPicturesOfDifferentOriginApart) {
-    ASSERT_TRUE(QDir(folder.path()).mkdir(u"own"_s));
     const PictureFile own = write("own/a.png", samples::picture("png"));
     const PictureFile other = write("a.png", samples::picture("png"));
     const PictureBytes copied = samples::picture("png");
@@ -153,25 +139,22 @@ TEST_F(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
     ASSERT_EQ(decoder->size(file), QSize(64, 32));
     ASSERT_EQ(children().size(), 1);
     const QString process = u"/proc/"_s + children().first();
-    const QByteArray status = contentsOf(process + u"/status"_s);
+    const QByteArray status = readFile(process + u"/status"_s).value_or(QByteArray());
     EXPECT_TRUE(status.contains("Seccomp:\t2")) << "no filter of system calls";
     EXPECT_TRUE(status.contains("NoNewPrivs:\t1"));
     if (geteuid() == 0) { // Only root can inspect a process that is not dumpable.
         EXPECT_EQ(QDir(process + u"/fd"_s)
                       .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System),
                   (QStringList{u"0"_s, u"1"_s, u"2"_s, u"3"_s}));
-        EXPECT_EQ(contentsOf(process + u"/environ"_s), "") << "it knows the environment";
+        EXPECT_EQ(readFile(process + u"/environ"_s), "") << "it knows the environment";
     }
     decoder.reset();
     EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it stays";
 }
 
 TEST_F(CountedDecoder, IsKilledIfItDoesNotEnd) {
-    QFile script(folder.filePath(u"start"_s));
-    ASSERT_TRUE(script.open(QFile::WriteOnly));
-    script.write("#!/bin/sh\nexec sleep 1000\n");
-    script.close();
-    auto connection = DecoderConnection::start(QFile::encodeName(script.fileName()));
+    const QString script = makeProgram(folder.filePath(u"start"_s), "exec sleep 1000\n");
+    auto connection = DecoderConnection::start(QFile::encodeName(script));
     ASSERT_EQ(children().size(), 1);
     connection.reset();
     EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it sleeps on";

@@ -3,14 +3,10 @@
 #include "Samples.h"
 #include "fakes/InProcessDecoder.h"
 #include "platform/system/DecoderProcess.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QImageWriter>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-#include <sys/stat.h>
 
 namespace ravelo {
 
@@ -35,9 +31,7 @@ template <typename Decoder>
 class Decoding : public testing::Test {
 protected:
     PictureFile write(const QByteArray& bytes, const QString& name = u"picture.png"_s) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
-        return {QFile::encodeName(file.fileName())};
+        return {QFile::encodeName(makeFile(folder.filePath(name), bytes))};
     }
 
     std::unique_ptr<ImageDecoder> decoder = make<Decoder>();

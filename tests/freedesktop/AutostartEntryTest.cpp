@@ -3,12 +3,9 @@
 #include "base/Files.h"
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/ManualScheduler.h"
+#include "support/TestFiles.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <cstdio>
 #include <memory>
@@ -25,10 +22,7 @@ protected:
 
     [[nodiscard]] QString file() const { return folder() + u"/ravelo.desktop"_s; }
 
-    void write(const QByteArray& text) {
-        ASSERT_TRUE(QDir().mkpath(folder()));
-        ASSERT_TRUE(writeFileAtomically(file(), text));
-    }
+    void write(const QByteArray& text) const { makeFile(file(), text); }
 
     [[nodiscard]] AutostartEntry entryFor(const QString& program) {
         return AutostartEntry(folder(), program, jobs_);
@@ -149,13 +143,8 @@ class StartedProgram : public Autostart, public testing::WithParamInterface<cons
 
 /// The entry as GLib, the reader behind most desktops, understands it: does it start our program?
 TEST_P(StartedProgram, IsTheOneAtThisPath) {
-    const QString program = config_.filePath(QString::fromUtf8(GetParam()));
-    ASSERT_TRUE(QDir().mkpath(QFileInfo(program).path()));
-    QFile script(program);
-    ASSERT_TRUE(script.open(QFile::WriteOnly));
-    script.write("#!/bin/sh\necho \"started with $# arguments\"\n");
-    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    script.close();
+    const QString program = makeProgram(config_.filePath(QString::fromUtf8(GetParam())),
+                                        "echo \"started with $# arguments\"\n");
     ASSERT_TRUE(entryFor(program).setEnabled(true));
     EXPECT_TRUE(entryFor(u"/elsewhere/ravelo"_s).isEnabled()) << "read otherwise";
 

@@ -13,11 +13,8 @@
 #include "platform/system/DetachedThreads.h"
 #include "platform/system/SpawnedChild.h"
 #include "support/Eventually.h"
+#include "support/TestFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QTcpServer>
 #include <QTemporaryDir>
 
@@ -35,7 +32,7 @@ const QByteArray goodBody = R"({"five_hour":{"utilization":41.5},"seven_day":{"u
 
 /// Records its arguments, streams, folder and environment, leaves a file behind, provides new
 /// credentials, and ends.
-const QByteArray claude = R"(#!/bin/sh
+const QByteArray claude = R"(
 here=$(dirname "$0")
 { pwd; stat -c %a .; ls -A; } > "$here/place"
 tr '\0' '\n' < /proc/$$/environ | sort > "$here/environment"
@@ -56,8 +53,7 @@ public:
         write(u".ravelo/usage.json"_s, R"({"rate_limits":{"five_hour":{"used_percentage":11},)"
                                        R"("seven_day":{"used_percentage":22}}})");
         setToken("token-1");
-        write(u".local/bin/claude"_s, claude);
-        QFile::setPermissions(path(u".local/bin/claude"_s), QFile::ReadOwner | QFile::ExeOwner);
+        makeProgram(path(u".local/bin/claude"_s), claude);
         server.answer = UsageServer::http("200 OK", goodBody);
         scheduler.advance(Seconds(1)); // All files are older than any answer.
     }
@@ -65,9 +61,7 @@ public:
     [[nodiscard]] QString path(const QString& name) const { return home.filePath(name); }
 
     void write(const QString& name, const QByteArray& bytes) const {
-        ASSERT_TRUE(QDir().mkpath(QFileInfo(path(name)).path()));
-        ASSERT_TRUE(writeFileAtomically(path(name), bytes));
-        QFile file(path(name));
+        QFile file(makeFile(path(name), bytes));
         ASSERT_TRUE(file.open(QFile::ReadWrite));
         ASSERT_TRUE(file.setFileTime(toDateTime(scheduler.now()), QFile::FileModificationTime));
     }
@@ -160,47 +154,47 @@ public:
     std::unique_ptr<PlanUsage> usage;
 };
 
-struct AnswerCase {
-    const char* name;
-    QByteArray answer;
-    std::optional<PlanWindows> live;
-    int renewals = 0;
-};
+TEST_F(PlanUsageTest, countsAGoodAnswerElseTheFile) {
+    const auto http = [](const char* status, const QByteArray& header = {}) {
+        return UsageServer::http(status, goodBody, header);
+    };
 
-class PlanUsageAnswer : public PlanUsageTest, public testing::WithParamInterface<AnswerCase> {};
+    struct Case {
+        const char* name;
+        QByteArray answer;
+        std::optional<PlanWindows> live = {};
+        int renewals = 0;
+    };
 
-TEST_P(PlanUsageAnswer, countsOrTheFileDoes) {
-    server.answer = GetParam().answer;
-    start(u"localhost"_s, GetParam().answer.isEmpty() ? Seconds(0.3) : Seconds(15));
-    EXPECT_EQ(usage->liveOK(), GetParam().live.has_value());
-    EXPECT_TRUE(windows() == GetParam().live.value_or(inFile));
-    EXPECT_EQ(runs().size(), GetParam().renewals);
+    const Case cases[] = {
+        {"both", http("200 OK"), answered},
+        {"no object", UsageServer::http("200 OK", "[]")},
+        {"no HTTP", "garbage\r\n\r\n"},
+        {"cut", http("200 OK").chopped(1)},
+        {"created", http("201 Created")},
+        {"unauthorized", http("401 Unauthorized", "WWW-Authenticate: Bearer\r\n"), {}, 1},
+        {"asks for a password",
+         http("401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n"),
+         {},
+         1},
+        {"too many", http("429 Too Many Requests")},
+        {"broken", http("500 Internal Server Error")},
+        {"five megabytes", UsageServer::http("200 OK", goodBody + QByteArray(5'000'000, ' '))},
+        {"hangs", ""}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        server.answer = c.answer;
+        QFile::remove(path(u".local/bin/runs"_s));
+        start(u"localhost"_s, c.answer.isEmpty() ? Seconds(0.3) : Seconds(15));
+        EXPECT_EQ(usage->liveOK(), c.live.has_value());
+        EXPECT_TRUE(windows() == c.live.value_or(inFile));
+        EXPECT_EQ(runs().size(), c.renewals);
+    }
 }
 
 QByteArray ok(const QByteArray& body) {
     return UsageServer::http("200 OK", body);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, PlanUsageAnswer,
-    testing::Values(
-        AnswerCase{"both", ok(goodBody), answered}, AnswerCase{"noObject", ok("[]"), {}},
-        AnswerCase{"noHttp", "garbage\r\n\r\n", {}}, AnswerCase{"cut", ok(goodBody).chopped(1), {}},
-        AnswerCase{"created", UsageServer::http("201 Created", goodBody), {}},
-        AnswerCase{"unauthorized",
-                   UsageServer::http("401 Unauthorized", "{}", "WWW-Authenticate: Bearer\r\n"),
-                   {},
-                   1},
-        AnswerCase{
-            "passwordWanted",
-            UsageServer::http("401 Unauthorized", "{}", "WWW-Authenticate: Basic realm=\"x\"\r\n"),
-            {},
-            1},
-        AnswerCase{"tooMany", UsageServer::http("429 Too Many Requests", goodBody), {}},
-        AnswerCase{"broken", UsageServer::http("500 Internal Server Error", goodBody), {}},
-        AnswerCase{"fiveMegabytes", ok(goodBody + QByteArray(5'000'000, ' ')), {}},
-        AnswerCase{"hang", "", {}}),
-    [](const auto& row) { return row.param.name; });
 
 TEST_F(PlanUsageTest, asksWithTheTokenAndSaysWhoItIs) {
     start();

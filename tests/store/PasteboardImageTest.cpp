@@ -5,14 +5,10 @@
 #include "fakes/ManualScheduler.h"
 #include "fakes/MemoryPasteboard.h"
 #include "store/CopiedFile.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QUrl>
-
-#include <gtest/gtest.h>
-
-#include <sys/stat.h>
 
 namespace ravelo {
 
@@ -119,9 +115,7 @@ TEST_F(OfferedImage, PassesPngBytesOnAsTheyAre) {
 class CopiedFile : public OfferedImage {
 protected:
     QUrl write(const QString& name, const QByteArray& bytes) {
-        QFile file(folder_.filePath(name));
-        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
-        return QUrl::fromLocalFile(file.fileName());
+        return QUrl::fromLocalFile(makeFile(folder_.filePath(name), bytes));
     }
 
     std::string colorOfList(const QByteArray& uriList) {

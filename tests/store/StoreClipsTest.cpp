@@ -1,4 +1,5 @@
 #include "StoreFixture.h"
+#include "support/TestFiles.h"
 
 #include <functional>
 
@@ -17,6 +18,12 @@ protected:
 
     /// Nothing waits to be saved.
     void expectNoSave() { EXPECT_EQ(scheduler_.pending(), 0) << "a save is pending"; }
+
+    /// The address of a blue picture.
+    [[nodiscard]] QByteArray copiedFile() const {
+        const QString path = directory_.filePath(u"copied.bmp"_s);
+        return QUrl::fromLocalFile(makeFile(path, picture("bmp", Qt::blue))).toEncoded();
+    }
 
     QUuid add(const QString& text) {
         store_->addClip(text);
@@ -81,10 +88,8 @@ class CopiedPicture : public StoreClips {
 protected:
     /// Copies a file, then a text, while a mount hangs or not.
     void copy() {
-        QFile file(directory_.filePath(u"copied.bmp"_s));
-        ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(picture("bmp", Qt::blue)) > 0);
         const QString type = u"text/uri-list"_s;
-        store_->addImageClip({{type}, {{type, QUrl::fromLocalFile(file.fileName()).toEncoded()}}});
+        store_->addImageClip({{type}, {{type, copiedFile()}}});
         store_->addClip(u"later"_s);
     }
 };
@@ -297,10 +302,7 @@ TEST_F(SnippetImage, OfASilentOwnerIsGivenUp) {
 }
 
 TEST_F(SnippetImage, OfAFileThatCannotBeReadIsGivenUp) {
-    QFile file(directory_.filePath(u"copied.bmp"_s));
-    ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(picture("bmp", Qt::blue)) > 0);
-    file.close();
-    pasteboard_.offer({{u"text/uri-list"_s, QUrl::fromLocalFile(file.fileName()).toEncoded()}});
+    pasteboard_.offer({{u"text/uri-list"_s, copiedFile()}});
     for (const bool hung : {true, false}) {
         copiedFiles_.hung = hung;
         const Handle handle = ask();

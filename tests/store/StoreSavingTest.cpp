@@ -1,12 +1,10 @@
 #include "StoreFixture.h"
 #include "base/FileUrl.h"
 #include "store/ImageFiles.h"
-
-#include <QFileInfo>
+#include "support/TestFiles.h"
 
 #include <cstdio>
 #include <fstream>
-#include <sys/stat.h>
 
 namespace ravelo {
 
@@ -19,12 +17,6 @@ protected:
     void write(const QByteArray& bytes) {
         ASSERT_TRUE(QDir().mkpath(folder()));
         ASSERT_TRUE(writeFileAtomically(storeFile(), bytes));
-    }
-
-    static unsigned mode(const QString& path) {
-        struct stat info = {};
-        EXPECT_EQ(stat(qPrintable(path), &info), 0) << qPrintable(path);
-        return info.st_mode & 07777;
     }
 };
 
@@ -58,11 +50,11 @@ TEST_F(StoreSaving, OnlyItsUserCanRead) {
     start();
     store_->addImageClip(png(Qt::red));
     store_->flush();
-    EXPECT_EQ(mode(folder()), 0700U);
-    EXPECT_EQ(mode(store_->clipsDir()), 0700U);
-    EXPECT_EQ(mode(storeFile()), 0600U);
+    EXPECT_EQ(modeOf(folder()), 0700U);
+    EXPECT_EQ(modeOf(store_->clipsDir()), 0700U);
+    EXPECT_EQ(modeOf(storeFile()), 0600U);
     ASSERT_EQ(imageFiles().size(), 1);
-    EXPECT_EQ(mode(store_->imagePath(imageFiles()[0])), 0600U);
+    EXPECT_EQ(modeOf(store_->imagePath(imageFiles()[0])), 0600U);
 }
 
 TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
@@ -298,7 +290,7 @@ TEST_F(StoreSaving, AnUnreadableFileIsSetAsideBeforeItIsReplaced) {
         EXPECT_EQ(texts(), "a");
         EXPECT_EQ(told, QStringList(aside));
         EXPECT_EQ(readFile(aside), contents);
-        EXPECT_EQ(mode(aside), 0600U);
+        EXPECT_EQ(modeOf(aside), 0600U);
         restart();
         EXPECT_EQ(QDir(folder()).entryList(QDir::Files).size(), 2)
             << "a good file is not set aside";

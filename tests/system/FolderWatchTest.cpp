@@ -1,6 +1,7 @@
 // What comes to a real folder, as the watcher of received files is told of it by inotify.
 
 #include "base/FileUrl.h"
+#include "fakes/FakeNearby.h"
 #include "fakes/ManualScheduler.h"
 #include "platform/system/FolderFollower.h"
 #include "platform/system/InotifyFolderWatch.h"
@@ -148,20 +149,10 @@ TEST_F(FolderWatchTest, moreThanTheKernelKeeps) {
         follower.proceed();
     }
 
-    class ToldWatch final : public FolderWatch {
-    public:
-        Handle watch(const QByteArray& /*path*/,
-                     std::function<void(const FolderNews&)> notify) override {
-            call = std::move(notify);
-            return {};
-        }
-
-        std::function<void(const FolderNews&)> call;
-    } watch;
-
+    FakeFolderWatch watch;
     const ReceivedWatcher watcher(watch, scheduler_, QString());
     for (const FolderNews& news : told) {
-        watch.call(news);
+        watch.tell(news);
     }
     scheduler_.advance(Seconds(1));
     EXPECT_EQ(watcher.files().size(), most + 1000);

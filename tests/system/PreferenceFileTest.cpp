@@ -5,11 +5,9 @@
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPreferences.h"
+#include "support/TestFiles.h"
 
-#include <QDir>
 #include <QTemporaryDir>
-
-#include <sys/stat.h>
 
 namespace ravelo {
 
@@ -64,12 +62,6 @@ class PreferenceFileTest : public testing::Test {
 protected:
     [[nodiscard]] QByteArray contents() const { return readFile(path_).value_or("missing"); }
 
-    static unsigned mode(const QString& path) {
-        struct stat info = {};
-        EXPECT_EQ(stat(qPrintable(path), &info), 0) << qPrintable(path);
-        return info.st_mode & 07777;
-    }
-
     QTemporaryDir folder_;
     QString path_ = folder_.filePath(u"ravelo/preferences.json"_s);
     ManualScheduler scheduler_;
@@ -85,8 +77,8 @@ TEST_F(PreferenceFileTest, IsWrittenAtOnceForItsUserAlone) {
     EXPECT_EQ(worker_.pending(), 1);
     worker_.drain();
     EXPECT_EQ(contents().simplified(), R"({ "a": 1.5 })");
-    EXPECT_EQ(mode(path_), 0600U);
-    EXPECT_EQ(mode(folder_.filePath(u"ravelo"_s)), 0700U);
+    EXPECT_EQ(modeOf(path_), 0600U);
+    EXPECT_EQ(modeOf(folder_.filePath(u"ravelo"_s)), 0700U);
     preferences.set(u"a"_s, 1.5);
     EXPECT_EQ(worker_.pending(), 0) << "nothing changed";
 }
@@ -102,16 +94,14 @@ TEST_F(PreferenceFileTest, ChangesDuringAWriteShareTheNext) {
 }
 
 TEST_F(PreferenceFileTest, KeepsWhatItDoesNotKnow) {
-    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"ravelo"_s));
-    ASSERT_TRUE(writeFileAtomically(path_, R"({"later":{"x":[1]},"a":"text"})"));
+    makeFile(path_, R"({"later":{"x":[1]},"a":"text"})");
     PreferenceFile(path_, services_).set(u"a"_s, true);
     EXPECT_EQ(contents().simplified(), R"({ "a": true, "later": { "x": [ 1 ] } })");
 }
 
 TEST_F(PreferenceFileTest, SetsAnUnreadableFileAside) {
-    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"ravelo"_s));
     for (const QByteArray junk : {"", "junk", "[1]", R"({"a":1)"}) {
-        ASSERT_TRUE(writeFileAtomically(path_, junk));
+        makeFile(path_, junk);
         PreferenceFile preferences(path_, services_);
         EXPECT_TRUE(preferences.wasUnreadable());
         EXPECT_TRUE(preferences.value(u"a"_s).isUndefined());

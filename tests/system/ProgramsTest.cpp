@@ -3,11 +3,9 @@
 
 #include "base/Files.h"
 #include "support/Eventually.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <fstream>
 #include <future>
@@ -56,11 +54,9 @@ TEST(SystemPrograms, findsAndStartsThemWithTheBytesAsTheyAre) {
     const QTemporaryDir folder;
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", path + ":/no/such:" + folder.path().toUtf8());
-    QFile script(folder.filePath(u"ravelo test"_s));
-    ASSERT_TRUE(script.open(QFile::WriteOnly));
-    script.write("#!/bin/sh\nprintf '<%s>' \"$@\" > \"$0.part\"\nmv \"$0.part\" \"$0.out\"\n");
-    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    script.close();
+    const QString script =
+        makeProgram(folder.filePath(u"ravelo test"_s),
+                    "printf '<%s>' \"$@\" > \"$0.part\"\nmv \"$0.part\" \"$0.out\"\n");
     DetachedThreads threads;
     SystemPrograms programs(threads);
     QList<QByteArray> found;
@@ -72,12 +68,12 @@ TEST(SystemPrograms, findsAndStartsThemWithTheBytesAsTheyAre) {
     const Handle second = programs.find({u"ravelo-none"_s}, note);
     EXPECT_TRUE(eventually([&] { return found.size() == 2; }));
     qputenv("PATH", path);
-    EXPECT_EQ(found, (QList<QByteArray>{script.fileName().toUtf8(), {}}));
+    EXPECT_EQ(found, (QList<QByteArray>{script.toUtf8(), {}}));
 
     programs.start(found[0], {"--x", "a b;$(id)", "\xff\n", ""});
     programs.start("/no/such", {});
-    EXPECT_TRUE(eventually([&] { return readFile(script.fileName() + u".out"_s).has_value(); }));
-    EXPECT_EQ(readFile(script.fileName() + u".out"_s), "<--x><a b;$(id)><\xff\n><>");
+    EXPECT_TRUE(eventually([&] { return readFile(script + u".out"_s).has_value(); }));
+    EXPECT_EQ(readFile(script + u".out"_s), "<--x><a b;$(id)><\xff\n><>");
 }
 
 } // namespace

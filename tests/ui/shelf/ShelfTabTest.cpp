@@ -1,4 +1,5 @@
 #include "panel_fixture/PanelFixture.h"
+#include "support/TestFiles.h"
 #include "ui/shelf/DragSourceView.h"
 #include "ui/shelf/ShelfLayout.h"
 
@@ -19,9 +20,7 @@ protected:
 
     /// A file that exists, until it is removed.
     QUrl create(const QString& name) {
-        QFile file(world.folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        return QUrl::fromLocalFile(file.fileName());
+        return QUrl::fromLocalFile(makeFile(world.folder.filePath(name)));
     }
 
     void parkFile(const QUrl& url) { world.store.addToShelf({url}); }
