@@ -36,7 +36,7 @@ private:
 };
 
 void readAll(ImageDecoder& decoder, const PictureFile& picture) {
-    (void)decoder.size(picture);
+    (void)sizeOf(decoder, picture);
     (void)decoder.filling(picture, {28, 28, 40});
     (void)decoder.png(picture);
 }
@@ -71,7 +71,8 @@ void expectNothingMoved(DecoderProcess& decoder, const std::function<void()>& wo
     testing::Test::RecordProperty("grown", static_cast<int>(grown / 1024));
     EXPECT_LT(grown, 8 << 20) << "the pictures were read here";
     EXPECT_LT(pause, std::chrono::seconds(1)) << "this thread had to wait";
-    EXPECT_EQ(decoder.size(samples::picture("bmp")), QSize(64, 32)) << "nothing is read any more";
+    EXPECT_EQ(sizeOf(decoder, samples::picture("bmp")), QSize(64, 32))
+        << "nothing is read any more";
 }
 
 class BrokenPictures : public testing::TestWithParam<const char*> {};
@@ -99,7 +100,7 @@ TEST(Bombs, AreRefusedOrMadeSmall) {
         }
     });
     for (const samples::Bomb& bomb : bombs.first(3)) {
-        EXPECT_EQ(decoder.size(bomb.bytes), QSize()) << bomb.name;
+        EXPECT_EQ(sizeOf(decoder, bomb.bytes), QSize()) << bomb.name;
     }
 }
 

@@ -35,7 +35,7 @@ protected:
 
     template <typename Packet>
     void say(const Packet& packet, const Descriptor& memory) {
-        ASSERT_TRUE(sendPacket(theirs.number(), &packet, sizeof(packet), memory.number()));
+        ASSERT_TRUE(sendPacket(theirs.number(), &packet, sizeof(packet), memory));
     }
 
     /// A reply cut to `size` bytes, with the descriptor twice.
@@ -60,14 +60,10 @@ protected:
     std::unique_ptr<DecoderConnection> ours;
 };
 
-Descriptor sealed(const QByteArray& bytes) {
-    return Descriptor(sealedMemory(bytes));
-}
-
 constexpr Reply sixteen{Status::done, 2, 2, 0, 16};
 
 TEST_F(Liar, IsBelievedWhatHolds) {
-    say(sixteen, sealed("0123456789abcdef"));
+    say(sixteen, sealedMemory("0123456789abcdef"));
     const auto answer = ours->receive(timeout);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->contents, "0123456789abcdef");
@@ -90,10 +86,10 @@ TEST_F(Liar, IsNotBelievedASizeThatIsNotThere) {
         say(reply, memory);
         return ours->receive(timeout).has_value();
     };
-    EXPECT_FALSE(lie(sixteen, sealed("0123456789abcde"))) << "less than it says";
-    EXPECT_FALSE(lie(sixteen, sealed("0123456789abcdefg"))) << "more than it says";
+    EXPECT_FALSE(lie(sixteen, sealedMemory("0123456789abcde"))) << "less than it says";
+    EXPECT_FALSE(lie(sixteen, sealedMemory("0123456789abcdefg"))) << "more than it says";
     EXPECT_FALSE(lie(sixteen, Descriptor())) << "nothing at all";
-    EXPECT_FALSE(lie(negative, sealed("0123456789abcdef"))) << "less than nothing";
+    EXPECT_FALSE(lie(negative, sealedMemory("0123456789abcdef"))) << "less than nothing";
     EXPECT_FALSE(lie(sixteen, Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC)))) << "a device";
 }
 
@@ -110,7 +106,7 @@ qsizetype openDescriptors() {
 }
 
 TEST_F(Liar, LeavesNoDescriptorBehind) {
-    const Descriptor memory = sealed("0123456789abcdef");
+    const Descriptor memory = sealedMemory("0123456789abcdef");
     const qsizetype before = openDescriptors();
     Reply empty = sixteen;
     empty.bytes = 0;
@@ -132,7 +128,7 @@ TEST(Decoder, IsKilledWhenItsTimeIsOver) {
     image.fill(Qt::green);
     QBuffer file;
     ASSERT_TRUE(image.save(&file, "bmp"));
-    const Descriptor large = sealed(file.data());
+    const Descriptor large = sealedMemory(file.data());
     ASSERT_TRUE(decoder->send({Kind::png, 0, 0, 0, 20}, large));
     EXPECT_FALSE(decoder->receive(std::chrono::seconds(20))) << "it took as long as it liked";
     EXPECT_FALSE(decoder->send({Kind::probe, 0, 0, 0, 0}, large)) << "it is still there";

@@ -58,7 +58,7 @@ constexpr auto deadly = R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" hei
 TEST_F(CountedDecoder, ServesManyAndKeepsWhatIsSmall) {
     const PictureFile file = write("a.png", samples::picture("png"));
     EXPECT_EQ(starts(), 0) << "started too early";
-    EXPECT_EQ(decoder->size(file), QSize(64, 32));
+    EXPECT_EQ(sizeOf(*decoder, file), QSize(64, 32));
     EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8));
     EXPECT_EQ(decoder->filling(file, {8, 8, 9}).size(), QSize(9, 8));
     EXPECT_EQ(starts(), 1) << "a process for each picture";
@@ -87,7 +87,7 @@ TEST_F(CountedDecoder, KeepsPicturesOfDifferentOriginApart) {
                  {own, 4, "ours have it still"}};
 
     for (const auto& step : steps) {
-        EXPECT_EQ(decoder->size(step.picture), QSize(64, 32)) << step.what;
+        EXPECT_EQ(sizeOf(*decoder, step.picture), QSize(64, 32)) << step.what;
         EXPECT_EQ(starts(), step.starts) << step.what;
     }
 }
@@ -112,9 +112,9 @@ TEST_F(CountedDecoder, TriesOnceWhatKillsIt) {
     EXPECT_TRUE(decoder->icon(file, 9).isNull());
     EXPECT_EQ(starts(), 1);
     EXPECT_TRUE(decoder->icon(file, 9).isNull());
-    EXPECT_EQ(decoder->size(file), QSize());
+    EXPECT_EQ(sizeOf(*decoder, file), QSize());
     EXPECT_EQ(starts(), 1) << "it was tried again";
-    EXPECT_EQ(decoder->size(samples::picture("png")), QSize(64, 32)) << "others suffer from it";
+    EXPECT_EQ(sizeOf(*decoder, samples::picture("png")), QSize(64, 32)) << "others suffer from it";
     EXPECT_EQ(starts(), 2);
     const PictureFile mended = write("deadly.svg", QByteArray(deadly).replace("text", "path"));
     EXPECT_EQ(decoder->icon(mended, 9).size(), QSize(9, 9)) << "a file that has changed";
@@ -123,9 +123,9 @@ TEST_F(CountedDecoder, TriesOnceWhatKillsIt) {
 TEST_F(CountedDecoder, CostsAPictureOnlyIfThereIsNone) {
     QFile::remove(folder.filePath(u"start"_s));
     const PictureFile file = write("a.png", samples::picture("png"));
-    EXPECT_EQ(decoder->size(file), QSize());
+    EXPECT_EQ(sizeOf(*decoder, file), QSize());
     ASSERT_TRUE(QFile::link(QString::fromLatin1(RAVELO_DECODE), folder.filePath(u"start"_s)));
-    EXPECT_EQ(decoder->size(file), QSize(64, 32)) << "the picture is blamed";
+    EXPECT_EQ(sizeOf(*decoder, file), QSize(64, 32)) << "the picture is blamed";
 }
 
 class DecoderProcessLife : public CountedDecoder {
@@ -136,7 +136,7 @@ protected:
 };
 
 TEST_F(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
-    ASSERT_EQ(decoder->size(file), QSize(64, 32));
+    ASSERT_EQ(sizeOf(*decoder, file), QSize(64, 32));
     ASSERT_EQ(children().size(), 1);
     const QString process = u"/proc/"_s + children().first();
     const QByteArray status = readFile(process + u"/status"_s).value_or(QByteArray());
@@ -153,21 +153,24 @@ TEST_F(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
 }
 
 TEST_F(CountedDecoder, IsKilledIfItDoesNotEnd) {
-    const QString script = makeProgram(folder.filePath(u"start"_s), "exec sleep 1000\n");
-    auto connection = DecoderConnection::start(QFile::encodeName(script));
-    ASSERT_EQ(children().size(), 1);
-    connection.reset();
-    EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it sleeps on";
+    const QByteArray script =
+        QFile::encodeName(makeProgram(folder.filePath(u"start"_s), "exec sleep 1000\n"));
+    for (const bool rests : {false, true}) {
+        auto connection = DecoderConnection::start(script);
+        ASSERT_EQ(children().size(), 1);
+        rests ? connection->rest(std::chrono::milliseconds(1)) : connection.reset();
+        EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it sleeps on " << rests;
+    }
 }
 
 TEST_F(DecoderProcessLife, EndsWithoutWork) {
-    ASSERT_EQ(decoder->size(file), QSize(64, 32));
+    ASSERT_EQ(sizeOf(*decoder, file), QSize(64, 32));
     EXPECT_EQ(children().size(), 1);
     const auto gone = [] {
         return children().isEmpty();
     };
     EXPECT_TRUE(eventually(gone) || eventually(gone)) << "it stays"; // After 20 s.
-    EXPECT_EQ(decoder->size(file), QSize(64, 32)) << "none came in its place";
+    EXPECT_EQ(sizeOf(*decoder, file), QSize(64, 32)) << "none came in its place";
 }
 
 } // namespace

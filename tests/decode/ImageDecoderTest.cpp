@@ -44,7 +44,7 @@ TYPED_TEST_SUITE(Decoding, Decoders);
 TYPED_TEST(Decoding, ReadsEachFormatWhateverItsName) {
     for (const QByteArray format : samples::formats) {
         const QByteArray bytes = samples::picture(format);
-        EXPECT_EQ(this->decoder->size(bytes), samples::size) << format.constData();
+        EXPECT_EQ(sizeOf(*this->decoder, bytes), samples::size) << format.constData();
         const QByteArray png = this->decoder->png(this->write(bytes));
         EXPECT_EQ(QImage::fromData(png, "png").size(), samples::size) << format.constData();
         const QImage filled = this->decoder->filling(this->write(bytes), {10, 10, 30});
@@ -74,7 +74,7 @@ TYPED_TEST(Decoding, CutsOutTheMiddleAndTurnsUpright) {
     QImageWriter camera(upright);
     camera.setTransformation(QImageIOHandler::TransformationRotate90);
     ASSERT_TRUE(camera.write(striped));
-    EXPECT_EQ(this->decoder->size(PictureFile{QFile::encodeName(upright)}), QSize(100, 300));
+    EXPECT_EQ(sizeOf(*this->decoder, PictureFile{QFile::encodeName(upright)}), QSize(100, 300));
     EXPECT_EQ(this->decoder->filling(PictureFile{QFile::encodeName(upright)}, {30, 1, 90}).size(),
               QSize(10, 30));
 }
@@ -86,7 +86,7 @@ TYPED_TEST(Decoding, TakesDrawingsForIconsOnly) {
     const QImage icon = this->decoder->icon(file, 40);
     EXPECT_EQ(icon.size(), QSize(40, 20));
     EXPECT_EQ(icon.pixelColor(20, 10), QColor(Qt::green));
-    EXPECT_EQ(this->decoder->size(file), QSize()) << "an SVG called .png counts as a picture";
+    EXPECT_EQ(sizeOf(*this->decoder, file), QSize()) << "an SVG called .png counts as a picture";
     EXPECT_TRUE(this->decoder->filling(file, {10, 10, 10}).isNull());
     EXPECT_TRUE(this->decoder->png(file).isEmpty());
 }
@@ -99,7 +99,7 @@ TYPED_TEST(Decoding, RefusesWhatIsNoPictureFile) {
     for (const QByteArray& path :
          {QFile::encodeName(pipe), big.path, QFile::encodeName(this->folder.path()),
           QByteArray("/no/such/file.png"), QByteArray("/dev/zero")}) {
-        EXPECT_EQ(this->decoder->size(PictureFile{path}), QSize()) << path.constData();
+        EXPECT_EQ(sizeOf(*this->decoder, PictureFile{path}), QSize()) << path.constData();
     }
 }
 

@@ -1,12 +1,22 @@
 #pragma once
 
+#include "platform/ImageDecoder.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QSize>
 
 #include <array>
 
-namespace ravelo::samples {
+namespace ravelo {
+
+/// Empty if it is not a picture that can be read whole.
+inline QSize sizeOf(ImageDecoder& decoder, const UntrustedPicture& picture) {
+    const PictureLook seen = decoder.look(picture);
+    return seen.kind == PictureLook::Kind::good ? seen.size : QSize();
+}
+
+namespace samples {
 
 inline constexpr std::array formats{"png", "jpeg", "gif", "bmp", "webp", "tiff", "heif"};
 
@@ -29,4 +39,6 @@ struct Bomb {
 
 [[nodiscard]] QList<Bomb> bombs();
 
-} // namespace ravelo::samples
+} // namespace samples
+
+} // namespace ravelo
