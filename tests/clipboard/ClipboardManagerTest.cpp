@@ -68,6 +68,16 @@ TEST_F(Clipboard, keepsTheEndsOfATextIfSet) {
     EXPECT_EQ(texts().first(), u"def"_s);
 }
 
+TEST_F(Clipboard, asksForNoOtherFormOfAnImageThatCannotBeWritten) {
+    ASSERT_TRUE(QDir(store.clipsDir()).removeRecursively());
+    makeFile(store.clipsDir(), "in the way");
+    pasteboard.offer({{u"image/tiff"_s, picture("tiff")}, {u"image/bmp"_s, picture("bmp")}});
+    settle();
+    settle();
+    EXPECT_EQ(pasteboard.asked(), QStringList{u"image/tiff"_s});
+    EXPECT_EQ(texts(), QStringList());
+}
+
 TEST_F(Clipboard, leavesWhatWasThereBeforeTheStart) {
     settle();
     EXPECT_EQ(texts(), QStringList());
