@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(FileArguments, FindsTheFileOrSaysWhyNot) {
+TEST(FileArguments, FindsTheFileOrReportsAnError) {
     const QTemporaryDir directory;
     const QDir folder(QFileInfo(directory.path()).canonicalFilePath());
     for (const QString& name : {u"a b"_s, u"-x"_s, u"ü\n%41#?"_s, u"there/inner/c"_s, u"b"_s}) {

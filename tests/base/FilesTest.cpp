@@ -58,7 +58,7 @@ TEST_F(Files, WriteThatFailsLeavesTheOldFile) {
     EXPECT_EQ(entries(), QStringList(u"taken"_s));
 }
 
-TEST_F(Files, WritingTakesAFileBackFromOthers) {
+TEST_F(Files, WritingMakesAFilePrivate) {
     const QString file = path(u"a"_s);
     ASSERT_TRUE(writeFileAtomically(file, "old"));
     ASSERT_EQ(chmod(qPrintable(file), 0666), 0);
@@ -121,7 +121,7 @@ TEST_F(Files, EachUnreadableFileIsKept) {
     EXPECT_EQ(modeOf(path(u"a.unreadable2"_s)), 0600U);
 }
 
-TEST_F(Files, WhatCannotBeCopiedIsMoved) {
+TEST_F(Files, MovesAsideWhatCannotBeCopied) {
     ASSERT_TRUE(QDir(folder_.path()).mkpath(u"a/inside"_s));
     ASSERT_TRUE(QFile::link(u"nowhere"_s, path(u"a.unreadable"_s)));
     EXPECT_EQ(setAsideUnreadable(path(u"a"_s)).value_or(QString()), path(u"a.unreadable2"_s));

@@ -78,12 +78,12 @@ TEST_F(Clipboard, asksForNoOtherFormOfAnImageThatCannotBeWritten) {
     EXPECT_EQ(texts(), QStringList());
 }
 
-TEST_F(Clipboard, leavesWhatWasThereBeforeTheStart) {
+TEST_F(Clipboard, ignoresWhatWasCopiedBeforeTheStart) {
     settle();
     EXPECT_EQ(texts(), QStringList());
 }
 
-TEST_F(Clipboard, asksNothingOfAnOwnerThatConceals) {
+TEST_F(Clipboard, readsNothingConcealed) {
     pasteboard.offer({text("pass"), {u"image/png"_s, picture("png")}, secret});
     settle();
     EXPECT_EQ(pasteboard.asked(), QStringList{secret.type}) << "only the mark itself was read";
@@ -108,7 +108,7 @@ TEST_F(Clipboard, keepsEveryCopyOfABurst) {
     EXPECT_EQ(texts(), expected);
 }
 
-TEST_F(Clipboard, anOwnerThatNeverAnswersCostsNothingButItself) {
+TEST_F(Clipboard, anOwnerThatNeverAnswersDelaysNothing) {
     pasteboard.offerSilence();
     scheduler.advance(Seconds(0.01));
     pasteboard.offerText(u"next"_s);
@@ -116,7 +116,7 @@ TEST_F(Clipboard, anOwnerThatNeverAnswersCostsNothingButItself) {
     EXPECT_EQ(texts(), QStringList{u"next"_s});
 }
 
-TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
+TEST_F(Clipboard, ourOwnCopiesMakeNoClip) {
     manager->copyText(u"ours"_s);
     settle();
     EXPECT_EQ(pasteboard.bytes(plainTextType), "ours");
@@ -154,7 +154,7 @@ TEST_F(Clipboard, aStoredImageIsCopiedWithoutADecoder) {
     EXPECT_EQ(pasteboard.bytes("image/png"_L1), scan) << "too large to be decoded";
 }
 
-TEST_F(Clipboard, anImageGivesWayToWhatWasCopiedAfterIt) {
+TEST_F(Clipboard, aLaterCopyReplacesAnImage) {
     const QString path = imageFile();
     for (const bool byUs : {true, false}) {
         pasteboard.offerText(u"before"_s);
@@ -208,7 +208,7 @@ void hideDeaths(ClipboardWorld& on) {
 
 const QList<PasteboardEntry> kept = {text("kept by the desktop")};
 
-TEST(Loss, offersAgainOnlyWhatWentWithItsOwner) {
+TEST(Loss, offersAgainOnlyWhatItsOwnerTookAlong) {
     struct Case {
         const char* name;
         QList<PasteboardEntry> offered;            ///< Captured, after "before".

@@ -14,7 +14,7 @@ const PasteboardOwner passer{3, PasteboardOwner::Kind::manager};
 const QStringList once{u"Image"_s};
 const QStringList twice{u"Image"_s, u"Image"_s};
 
-TEST(Repeat, isACopyUnlessPassedOn) {
+TEST(Repeat, isANewCopyUnlessPassedOn) {
     struct Case {
         const char* name;
         QList<Happening> happens;
@@ -54,7 +54,7 @@ TEST(Repeat, isACopyUnlessPassedOn) {
     }
 }
 
-TEST_F(Clipboard, anImageReadFromAFileIsNotOfferedInOurName) {
+TEST_F(Clipboard, anImageReadFromAFileIsNotOfferedAgain) {
     const QString path = imageFile();
     pasteboard.offer({{u"text/uri-list"_s, QUrl::fromLocalFile(path).toEncoded()}});
     settle();
@@ -114,7 +114,7 @@ TEST(SaveRequest, keepsAnEndingProgramWaitingUntilItsCopyIsRead) {
     }
 }
 
-TEST_F(Clipboard, aCopyThatComesWhileWeLookIsReadOnce) {
+TEST_F(Clipboard, aCopyDuringACheckIsReadOnce) {
     pasteboard.owner = other;
     pasteboard.meanwhile = [this] {
         pasteboard.notifies = false; // Such a notice never comes from within a call.
@@ -125,7 +125,7 @@ TEST_F(Clipboard, aCopyThatComesWhileWeLookIsReadOnce) {
     EXPECT_EQ(texts(), once);
 }
 
-TEST_F(Clipboard, aCopyThatComesWhileWeWriteIsKept) {
+TEST_F(Clipboard, aCopyDuringAWriteIsKept) {
     pasteboard.meanwhile = [this] {
         pasteboard.notifies = false;
         pasteboard.offerText(u"theirs"_s);

@@ -22,7 +22,7 @@ qint64 residentBytes() {
     return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
 }
 
-/// Files: each picture that was copied would cost a process of its own.
+/// Files, because each copied picture would need a process of its own.
 class Files {
 public:
     PictureFile next(const QByteArray& picture) {
@@ -41,7 +41,7 @@ void readAll(ImageDecoder& decoder, const PictureFile& picture) {
     (void)decoder.png(picture);
 }
 
-/// Does `work` on another thread and returns the longest time that this thread waits for its turn.
+/// Does `work` on another thread and returns the max. time for which this thread is not scheduled.
 template <typename Work>
 std::chrono::milliseconds longestPause(Work work) {
     std::atomic<bool> done = false;
@@ -77,7 +77,7 @@ void expectNothingMoved(DecoderProcess& decoder, const std::function<void()>& wo
 
 class BrokenPictures : public testing::TestWithParam<const char*> {};
 
-TEST_P(BrokenPictures, CostNothingButThemselves) {
+TEST_P(BrokenPictures, HarmNothingElse) {
     DecoderProcess decoder(RAVELO_DECODE, "/nowhere");
     const QByteArray whole = samples::picture(GetParam());
     Files files;
@@ -90,7 +90,7 @@ TEST_P(BrokenPictures, CostNothingButThemselves) {
 
 INSTANTIATE_TEST_SUITE_P(Thousand, BrokenPictures, testing::ValuesIn(samples::formats));
 
-TEST(Bombs, AreRefusedOrMadeSmall) {
+TEST(Bombs, AreRefusedOrScaledDown) {
     DecoderProcess decoder(RAVELO_DECODE, "/nowhere");
     const QList<samples::Bomb> bombs = samples::bombs();
     Files files;

@@ -62,14 +62,14 @@ protected:
 
 constexpr Reply sixteen{Status::done, 2, 2, 0, 16};
 
-TEST_F(Liar, IsBelievedWhatHolds) {
+TEST_F(Liar, IsBelievedIfTheReplyIsValid) {
     say(sixteen, sealedMemory("0123456789abcdef"));
     const auto answer = ours->receive(timeout);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->contents, "0123456789abcdef");
 }
 
-TEST_F(Liar, IsNotBelievedWhatItCanStillChange) {
+TEST_F(Liar, IsNotBelievedIfItCanStillChangeTheMemory) {
     const Descriptor open(memfd_create("open", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     ASSERT_EQ(write(open.number(), "0123456789abcdef", 16), 16);
     say(sixteen, open);
@@ -79,7 +79,7 @@ TEST_F(Liar, IsNotBelievedWhatItCanStillChange) {
     EXPECT_FALSE(ours->receive(timeout)) << "memory that can still be made smaller";
 }
 
-TEST_F(Liar, IsNotBelievedASizeThatIsNotThere) {
+TEST_F(Liar, IsNotBelievedAWrongSize) {
     Reply negative = sixteen;
     negative.bytes = -16;
     const auto lie = [&](const Reply& reply, const Descriptor& memory) {
@@ -93,7 +93,7 @@ TEST_F(Liar, IsNotBelievedASizeThatIsNotThere) {
     EXPECT_FALSE(lie(sixteen, Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC)))) << "a device";
 }
 
-TEST_F(Liar, IsNotBelievedAPacketOfAnotherSize) {
+TEST_F(Liar, IsNotBelievedAPacketOfTheWrongSize) {
     say('x', Descriptor());
     EXPECT_FALSE(ours->receive(timeout)) << "too short";
     say(std::array<Reply, 2>{Reply{Status::done, 1, 1, 0, 0}, {}}, Descriptor());
@@ -121,7 +121,7 @@ TEST_F(Liar, LeavesNoDescriptorBehind) {
     EXPECT_EQ(openDescriptors(), before) << "leaked descriptors";
 }
 
-TEST(Decoder, IsKilledWhenItsTimeIsOver) {
+TEST(Decoder, IsKilledAtTheTimeLimit) {
     auto decoder = DecoderConnection::start(RAVELO_DECODE);
     ASSERT_TRUE(decoder && decoder->isReady());
     QImage image(4000, 4000, QImage::Format_RGB32);

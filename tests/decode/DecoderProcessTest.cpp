@@ -55,7 +55,7 @@ protected:
 constexpr auto deadly = R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9">)"
                         R"(<text x="1" y="8">A</text></svg>)";
 
-TEST_F(CountedDecoder, ServesManyAndKeepsWhatIsSmall) {
+TEST_F(CountedDecoder, ServesManyAndCachesSmallPictures) {
     const PictureFile file = write("a.png", samples::picture("png"));
     EXPECT_EQ(starts(), 0) << "started too early";
     EXPECT_EQ(sizeOf(*decoder, file), QSize(64, 32));
@@ -107,7 +107,7 @@ TEST_F(CountedDecoder, ForgetsOneFileOnly) {
     EXPECT_EQ(starts(), 2) << "it is still kept";
 }
 
-TEST_F(CountedDecoder, TriesOnceWhatKillsIt) {
+TEST_F(CountedDecoder, TriesADeadlyPictureOnce) {
     const PictureFile file = write("deadly.svg", deadly);
     EXPECT_TRUE(decoder->icon(file, 9).isNull());
     EXPECT_EQ(starts(), 1);
@@ -120,7 +120,7 @@ TEST_F(CountedDecoder, TriesOnceWhatKillsIt) {
     EXPECT_EQ(decoder->icon(mended, 9).size(), QSize(9, 9)) << "a file that has changed";
 }
 
-TEST_F(CountedDecoder, CostsAPictureOnlyIfThereIsNone) {
+TEST_F(CountedDecoder, ThatCannotBeStartedIsNotThePicturesFault) {
     QFile::remove(folder.filePath(u"start"_s));
     const PictureFile file = write("a.png", samples::picture("png"));
     EXPECT_EQ(sizeOf(*decoder, file), QSize());
@@ -163,7 +163,7 @@ TEST_F(CountedDecoder, IsKilledIfItDoesNotEnd) {
     }
 }
 
-TEST_F(DecoderProcessLife, EndsWithoutWork) {
+TEST_F(DecoderProcessLife, ExitsWhenIdle) {
     ASSERT_EQ(sizeOf(*decoder, file), QSize(64, 32));
     EXPECT_EQ(children().size(), 1);
     const auto gone = [] {

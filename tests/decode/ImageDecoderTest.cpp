@@ -79,7 +79,7 @@ TYPED_TEST(Decoding, CutsOutTheMiddleAndTurnsUpright) {
               QSize(10, 30));
 }
 
-TYPED_TEST(Decoding, TakesDrawingsForIconsOnly) {
+TYPED_TEST(Decoding, DecodesDrawingsAsIconsOnly) {
     const QByteArray svg = R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="10">)"
                            R"(<rect width="20" height="10" fill="lime"/></svg>)";
     const PictureFile file = this->write(svg);
@@ -91,7 +91,7 @@ TYPED_TEST(Decoding, TakesDrawingsForIconsOnly) {
     EXPECT_TRUE(this->decoder->png(file).isEmpty());
 }
 
-TYPED_TEST(Decoding, RefusesWhatIsNoPictureFile) {
+TYPED_TEST(Decoding, RefusesWhatIsNotAPictureFile) {
     const QString pipe = this->folder.filePath(u"pipe"_s);
     ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
     const PictureFile big = this->write(samples::picture("bmp"), u"big.bmp"_s);
@@ -103,7 +103,7 @@ TYPED_TEST(Decoding, RefusesWhatIsNoPictureFile) {
     }
 }
 
-TYPED_TEST(Decoding, ReadsALargeJpegOnlyToMakeItSmall) {
+TYPED_TEST(Decoding, ReadsALargeJpegOnlyForAThumbnail) {
     QImage large(9000, 6000, QImage::Format_Grayscale8);
     large.fill(Qt::gray);
     const QString path = this->folder.filePath(u"large.jpg"_s);

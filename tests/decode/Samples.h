@@ -31,7 +31,7 @@ inline constexpr QSize size(64, 32);
 /// The picture with its bytes cut off, flipped, overwritten, or with huge numbers in it.
 [[nodiscard]] QByteArray broken(const QByteArray& picture, quint32 seed);
 
-/// Valid or nearly so, and made to take all there is of something, or to be taken for another kind.
+/// Valid or nearly so, and made to exhaust some resource or to pass for another format.
 struct Bomb {
     const char* name;
     QByteArray bytes;

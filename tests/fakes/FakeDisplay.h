@@ -70,7 +70,7 @@ private:
     std::function<void()> wake_;
 };
 
-/// Answers when told to.
+/// Answers on demand.
 class FakeDragOffer final : public DragOffer {
 public:
     [[nodiscard]] std::optional<QByteArray> data(const QStringList& types) override {
@@ -131,7 +131,7 @@ private:
     Listeners<> listeners_;
 };
 
-/// Answers when told to.
+/// Answers on demand.
 class FakeFileTransfer final : public FileTransfer {
 public:
     [[nodiscard]] Handle retrieve(const QByteArray& key,

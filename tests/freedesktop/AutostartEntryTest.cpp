@@ -40,7 +40,7 @@ protected:
     FakeDetachedJobs jobs_{scheduler_};
 };
 
-TEST_F(Autostart, CountsAsTheDesktopSeesIt) {
+TEST_F(Autostart, IsEnabledAsTheDesktopSeesIt) {
     AutostartEntry entry = entryFor(u"/here, that's us/ravelo"_s);
     EXPECT_FALSE(entry.isEnabled()) << "there is no file";
     const QByteArray group = "[Desktop Entry]\n";
@@ -65,7 +65,7 @@ TEST_F(Autostart, CountsAsTheDesktopSeesIt) {
     }
 }
 
-TEST_F(Autostart, WritesAnEntryAgainWhoseProgramIsGone) {
+TEST_F(Autostart, RewritesAnEntryWhoseProgramIsMissing) {
     AutostartEntry entry = entryFor(u"/usr/bin/ravelo"_s);
     EXPECT_EQ(repair(entry), "nothing to mend");
     EXPECT_FALSE(QFile::exists(file())) << "it was off";
@@ -84,7 +84,7 @@ TEST_F(Autostart, WritesAnEntryAgainWhoseProgramIsGone) {
     }
 }
 
-TEST_F(Autostart, IsOffIfItCannotBeMended) {
+TEST_F(Autostart, IsOffIfItCannotBeRepaired) {
     // What is written beside a file first would have a name that no file can have.
     const QString longest = config_.filePath(QString(255, u'x'));
     ASSERT_TRUE(
@@ -119,7 +119,7 @@ TEST_F(Autostart, IsSwitchedOffAndOnAgain) {
     EXPECT_FALSE(QFile::exists(file()));
 }
 
-TEST_F(Autostart, SaysWhatCouldNotBeDone) {
+TEST_F(Autostart, ReportsErrors) {
     QFile inTheWay(config_.filePath(u"config"_s));
     ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));
     const Result<void> on = entryFor(u"/usr/bin/ravelo"_s).setEnabled(true);
@@ -141,8 +141,8 @@ TEST_F(Autostart, HasNoFieldCodes) {
 
 class StartedProgram : public Autostart, public testing::WithParamInterface<const char*> {};
 
-/// The entry as GLib, the reader behind most desktops, understands it: does it start our program?
-TEST_P(StartedProgram, IsTheOneAtThisPath) {
+/// GLib, which most desktops use, starts our program by the entry.
+TEST_P(StartedProgram, IsStartedByTheEntry) {
     const QString program = makeProgram(config_.filePath(QString::fromUtf8(GetParam())),
                                         "echo \"started with $# arguments\"\n");
     ASSERT_TRUE(entryFor(program).setEnabled(true));

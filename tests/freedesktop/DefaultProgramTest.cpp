@@ -16,7 +16,7 @@ QByteArray entry(const QByteArray& name, const QByteArray& more = {}) {
            "[Desktop Action x]\nName=Wrong\n";
 }
 
-TEST(DefaultProgram, isTheOneThatTheDesktopWouldStart) {
+TEST(DefaultProgram, isTheOneThatTheDesktopStarts) {
     struct Case {
         const char* name;
         std::map<const char*, QByteArray> files; ///< Besides those of two programs.

@@ -42,7 +42,7 @@ protected:
     IconTheme icons_{{folder_.filePath(u"user"_s), folder_.filePath(u"system"_s)}};
 };
 
-TEST_F(Icons, areTheBestThatThereAre) {
+TEST_F(Icons, areTheBestAvailable) {
     struct Case {
         const char* theme;
         QStringList icons;

@@ -18,7 +18,7 @@ constexpr uint success = 1;
 constexpr uint failed = 2;
 constexpr uint notAuthorized = 48;
 
-/// What a transaction tells of until it ends.
+/// What a transaction reports.
 struct Course {
     QStringList packages;
     uint error = 0;
@@ -26,7 +26,7 @@ struct Course {
     friend bool operator==(const Course&, const Course&) = default;
 };
 
-/// PackageKit as far as this program asks it: the courses by the methods' names.
+/// PackageKit, as far as this program uses it: reports by the names of methods.
 class Recorder {
 public:
     Recorder(PrivateBus& bus, QHash<QString, Course> courses)
@@ -88,7 +88,7 @@ PackageUpdates::Checked check(PrivateBus& bus) {
     return found.value_or(std::nullopt);
 }
 
-TEST(PackageKit, findsOutWhetherThereIsANewerPackage) {
+TEST(PackageKit, checksForANewerPackage) {
     const QString own = u"ravelo;0.2;amd64;manual:stable-main"_s;
     const QString built = u"ravelo;0.2;amd64;manual:local"_s;
     const QString newer = u"ravelo;0.3;amd64;stable-main"_s;
@@ -129,7 +129,7 @@ TEST(PackageKit, findsOutWhetherThereIsANewerPackage) {
     EXPECT_EQ(check(empty), PackageUpdates::Checked(problem(Kind::noService)));
 }
 
-TEST(PackageKit, isGivenUpAfterASilence) {
+TEST(PackageKit, timesOut) {
     PrivateBus bus;
     QDBusConnection service = bus.connect(u"packagekit"_s);
     StandIn mute([](const QDBusMessage& call) -> std::optional<QVariant> {
@@ -146,7 +146,7 @@ TEST(PackageKit, isGivenUpAfterASilence) {
                           UpdateProblem{Kind::failed, u"PackageKit does not answer."_s})));
 }
 
-TEST(PackageKit, installsOnlyWhatIsSignedAndTellsHowFarItIs) {
+TEST(PackageKit, installsSignedPackagesAndReportsProgress) {
     for (const uint error : {0U, notAuthorized}) {
         PrivateBus bus;
         const Recorder service(bus, {{u"UpdatePackages"_s, {{}, error}}});

@@ -19,7 +19,7 @@ namespace {
 
 constexpr Seconds tick(5);
 
-/// Reports what the script says.
+/// Reports what is in the script.
 class ScriptedChanges final : public FolderChanges {
 public:
     struct Script {
@@ -50,7 +50,7 @@ protected:
         ASSERT_EQ(utimensat(AT_FDCWD, qPrintable(file), times.data(), 0), 0);
     }
 
-    /// A transcript whose last turn took so many tokens, with its date in seconds since 1970.
+    /// A transcript whose last turn used `tokens`; `date` is in seconds since 1970.
     void write(const QString& name, qint64 tokens, qint64 date, const QByteArray& before = {}) {
         makeFile(path(name), before + R"({"message":{"model":"claude-opus-4-6","usage":)" +
                                  R"({"input_tokens":)" + QByteArray::number(tokens) + "}}}\n");
@@ -82,7 +82,7 @@ protected:
 
 using MakeChanges = std::unique_ptr<FolderChanges> (*)();
 
-/// The result does not depend on who reports changes.
+/// The result does not depend on what reports changes.
 class LiveContextTest : public ContextTest, public testing::WithParamInterface<MakeChanges> {
 protected:
     void start() { ContextTest::start(GetParam()()); }
@@ -122,7 +122,7 @@ TEST_P(LiveContextTest, followsTheNewestTranscript) {
     EXPECT_EQ(usedAfterATick(), 700) << "and once more within a tick";
 }
 
-TEST_P(LiveContextTest, knowsWhatIsATranscript) {
+TEST_P(LiveContextTest, readsTranscriptsOnly) {
     write(u"b/x.jsonl"_s, 1, 1000);
     write(u"top.jsonl"_s, 9, 2000);
     write(u"b/deep/er.jsonl"_s, 9, 2000);
@@ -164,7 +164,7 @@ INSTANTIATE_TEST_SUITE_P(NoReports, LiveContextTest, testing::Values([] {
                                  std::make_unique<ScriptedChanges>(std::move(script)));
                          }));
 
-TEST_F(ContextTest, readsNothingTwiceThatHasNotChanged) {
+TEST_F(ContextTest, readsOnlyChangedTranscripts) {
     write(u"a/x.jsonl"_s, 11, 1000);
     const auto script = std::make_shared<ScriptedChanges::Script>();
     start(std::make_unique<ScriptedChanges>(script));
@@ -183,7 +183,7 @@ TEST_F(ContextTest, readsNothingTwiceThatHasNotChanged) {
     EXPECT_EQ(usedAfterATick(), 44);
 }
 
-TEST_F(ContextTest, looksAtTheEndOfALongTranscript) {
+TEST_F(ContextTest, readsTheEndOfALongTranscript) {
     const qsizetype limit = transcriptWindow;
     start(std::make_unique<InotifyChanges>());
     write(u"a/x.jsonl"_s, 11, 1000, QByteArray(5 * limit, '\n'));
@@ -211,7 +211,7 @@ TEST_F(ContextTest, looksAtTheEndOfALongTranscript) {
     EXPECT_EQ(context_->limit(), 1000000);
 }
 
-TEST_F(ContextTest, goesBackToTheNewestTranscriptThatHasATurn) {
+TEST_F(ContextTest, usesTheNewestTranscriptWithATurn) {
     write(u"a/one.jsonl"_s, 11, 1000);
     write(u"a/two.jsonl"_s, 22, 1001);
     write(u"b/three.jsonl"_s, 33, 999);
@@ -305,7 +305,7 @@ TEST_F(ContextTest, readsItsLimitFromTheSettingsFile) {
     qunsetenv("CLAUDE_CODE_AUTO_COMPACT_WINDOW");
 }
 
-TEST_F(ContextTest, knowsThePeakHoursEvenIfTheDiskDoesNotAnswer) {
+TEST_F(ContextTest, reportsPeakHoursEvenIfTheDiskHangs) {
     write(u"a/x.jsonl"_s, 11, 1000);
     jobs_.hung = true;
     start(std::make_unique<InotifyChanges>());

@@ -108,7 +108,7 @@ public:
 
     [[nodiscard]] PlanWindows windows() const { return {usage->session(), usage->week()}; }
 
-    /// What a renewal needs, and what could manipulate it.
+    /// Variables that a renewal needs, and some that could manipulate it.
     static QProcessEnvironment environment() {
         QProcessEnvironment environment;
         for (const char* variable :
@@ -196,7 +196,7 @@ QByteArray ok(const QByteArray& body) {
     return UsageServer::http("200 OK", body);
 }
 
-TEST_F(PlanUsageTest, asksWithTheTokenAndSaysWhoItIs) {
+TEST_F(PlanUsageTest, sendsTheTokenAndAUserAgent) {
     start();
     const QByteArrayList lines = server.requests().value(0).split('\n');
     EXPECT_EQ(lines.value(0), "GET /api/oauth/usage HTTP/1.1\r");
@@ -208,7 +208,7 @@ TEST_F(PlanUsageTest, asksWithTheTokenAndSaysWhoItIs) {
     }
 }
 
-TEST_F(PlanUsageTest, carriesTheTokenNowhereElse) {
+TEST_F(PlanUsageTest, sendsTheTokenNowhereElse) {
     QTcpServer other;
     ASSERT_TRUE(other.listen(QHostAddress::LocalHost));
     server.answer = UsageServer::http(
@@ -227,7 +227,7 @@ TEST_F(PlanUsageTest, carriesTheTokenNowhereElse) {
     EXPECT_EQ(server.requests().size(), 1) << "the certificate is not trusted";
 }
 
-TEST_F(PlanUsageTest, asksThroughTheProxyOfTheEnvironment) {
+TEST_F(PlanUsageTest, usesTheProxyOfTheEnvironment) {
     Proxy proxy;
     const std::pair<const char*, const char*> cases[] = {{"", "CONNECT"}, {"localhost", ""}};
     for (const auto& [exception, connect] : cases) {
@@ -243,14 +243,14 @@ TEST_F(PlanUsageTest, asksThroughTheProxyOfTheEnvironment) {
     }
 }
 
-TEST_F(PlanUsageTest, asksAtTheNextAddressIfTheFirstDoesNotAnswer) {
+TEST_F(PlanUsageTest, triesTheNextAddressIfTheFirstDoesNotAnswer) {
     const SilentAddress silent(server.port());
     CurlClient both = client({u"--resolve"_s, u"localhost:%1:%2,127.0.0.1"_s.arg(server.port())
                                                   .arg(QLatin1StringView(SilentAddress::address))});
     EXPECT_TRUE(succeeds(both, Seconds(6)));
 }
 
-TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
+TEST_F(PlanUsageTest, queriesEveryNinetySecondsAndReadsTheFileWhileThatFails) {
     start();
     int changes = 0;
     QObject::connect(usage.get(), &PlanUsage::changed, [&] { ++changes; });
@@ -270,7 +270,7 @@ TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
     EXPECT_TRUE(windows() == (PlanWindows{UsageWindow{33, {}}, {}}));
     write(u".ravelo/usage.json"_s, "{");
     pass(tick);
-    EXPECT_TRUE(windows() == (PlanWindows{UsageWindow{33, {}}, {}})) << "it makes no sense";
+    EXPECT_TRUE(windows() == (PlanWindows{UsageWindow{33, {}}, {}})) << "invalid";
 
     server.answer = ok(goodBody);
     pass(Seconds(80));
@@ -278,7 +278,7 @@ TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
     EXPECT_TRUE(windows() == answered);
 }
 
-TEST_F(PlanUsageTest, asksLessOftenIfThatIsTooOften) {
+TEST_F(PlanUsageTest, queriesLessOftenIfRateLimited) {
     const auto tooMany = [](const QByteArray& header) {
         return UsageServer::http("429 Too Many Requests", "", header);
     };
@@ -321,7 +321,7 @@ TEST_F(PlanUsageTest, renewsARefusedTokenAtMostEveryTwentyMinutes) {
     EXPECT_EQ(runs(), (QByteArrayList{run, run}));
 }
 
-TEST_F(PlanUsageTest, renewsWhereNothingSteersTheTool) {
+TEST_F(PlanUsageTest, renewsInAnEmptyEnvironment) {
     const QString folder = path(u"cache/renewal"_s);
     write(u"cache/renewal/.claude/settings.json"_s, "left over");
     server.answer = UsageServer::http("401 Unauthorized", "");
@@ -355,7 +355,7 @@ TEST_F(PlanUsageTest, renewsATokenThatIsAboutToExpireAndStillUsesIt) {
     EXPECT_EQ(tokens, (QByteArrayList{"fresh", "old", "new"}));
 }
 
-TEST_F(PlanUsageTest, goesOnWithoutAToolToRenewBy) {
+TEST_F(PlanUsageTest, worksWithoutAToolToRenewTheToken) {
     ASSERT_TRUE(QFile::remove(path(u".local/bin/claude"_s)));
     server.answer = UsageServer::http("401 Unauthorized", "");
     start();
@@ -364,7 +364,7 @@ TEST_F(PlanUsageTest, goesOnWithoutAToolToRenewBy) {
     EXPECT_TRUE(windows() == answered);
 }
 
-TEST_F(PlanUsageTest, asksTheSecretServiceWhereNoFileHasCredentials) {
+TEST_F(PlanUsageTest, asksTheSecretServiceIfNoFileHasCredentials) {
     setToken("");
     start();
     EXPECT_EQ(secrets.asked, QStringList{u"Claude Code-credentials"_s});
@@ -392,7 +392,7 @@ TEST_F(PlanUsageTest, looksElsewhereForCredentialsLast) {
     EXPECT_TRUE(run().contains("Bearer secret-token\r\n"));
 }
 
-TEST_F(PlanUsageTest, showsNobodyTheTokenAndMayEndInTheMiddleOfAQuery) {
+TEST_F(PlanUsageTest, hidesTheTokenAndCanBeDestroyedDuringAQuery) {
     server.answer.clear();
     usage = asking(https);
     scheduler.advance(Seconds(0));

@@ -86,7 +86,7 @@ TEST(EdgeGuard, waitsForTrustAndStartsWithin3Seconds) {
     EXPECT_TRUE(world.barrier.held) << "starting again is no change";
 }
 
-TEST(EdgeGuard, doesNotTryAgainWhereItFailed) {
+TEST(EdgeGuard, doesNotRetryAFailure) {
     PanelWorld world;
     world.barrier.broken = true;
     EdgeGuard guard(world.scheduler, world.screens, world.barrier, [] { return true; });

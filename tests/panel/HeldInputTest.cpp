@@ -68,7 +68,7 @@ TEST(HeldInput, opensOnlyForFilesUnlessItIsReleasedSoon) {
     }
 }
 
-TEST(HeldInput, aRequestUnderALockIsNotKeptForLater) {
+TEST(HeldInput, aRequestDuringALockIsDropped) {
     PanelWorld world;
     world.grab.held = true;
     world.controller.toggle();
@@ -79,7 +79,7 @@ TEST(HeldInput, aRequestUnderALockIsNotKeptForLater) {
     EXPECT_FALSE(world.controller.isOpen());
 }
 
-TEST(HeldInput, aToggleByAKeyTakesTheKeyboardOnceItOpens) {
+TEST(HeldInput, aToggleByKeyGetsTheKeyboardOnceOpen) {
     PanelWorld world;
     world.grab.held = true;
     world.controller.toggle();
@@ -116,7 +116,7 @@ TEST(TakenInput, hidesTheOpenPanelSoonAfterTheLockersWindow) {
     }
 }
 
-TEST(TakenInput, theHandleComesBackThoughMoreWindowsCome) {
+TEST(TakenInput, theHandleComesBackAlthoughMoreWindowsAppear) {
     PanelWorld world;
     world.moveTo(720, 5);
     world.grab.held = true;

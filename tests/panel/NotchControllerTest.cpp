@@ -79,7 +79,7 @@ TEST(NotchController, closesOnAPressElsewhereOnly) {
     EXPECT_EQ(world.controller.frame(), QRectF(620, 0, 200, 12));
 }
 
-TEST(NotchController, aPressIntoAWindowOfOurOwnIsNoPressElsewhere) {
+TEST(NotchController, aPressInOurOwnWindowDoesNotClose) {
     PanelWorld world;
     world.moveTo(720, 5);
     world.moveTo(100, 800);
@@ -92,7 +92,7 @@ TEST(NotchController, aPressIntoAWindowOfOurOwnIsNoPressElsewhere) {
     EXPECT_FALSE(world.controller.isOpen());
 }
 
-TEST(NotchController, theDelayedCloseFiresWhereTicksStopComing) {
+TEST(NotchController, theDelayedCloseFiresIfTicksStop) {
     PanelWorld world;
     world.moveTo(720, 5);
     world.moveTo(100, 800);
@@ -170,7 +170,7 @@ TEST(NotchController, doesNotOpenForAButtonThatWasPressedElsewhere) {
     }
 }
 
-TEST(NotchController, aDragThatIsNoticedLateOpensAllTheSame) {
+TEST(NotchController, aDragThatIsNoticedLateOpens) {
     PanelWorld world;
     world.moveTo(300, 400);
     world.pointer.press();
@@ -181,7 +181,7 @@ TEST(NotchController, aDragThatIsNoticedLateOpensAllTheSame) {
     EXPECT_TRUE(world.controller.isOpen());
 }
 
-TEST(NotchController, whereThePointersPlaceIsUnknownTheWindowsOwnHoverOpensAndCloses) {
+TEST(NotchController, theWindowsOwnHoverIsUsedIfThePointerPositionIsUnknown) {
     PanelWorld world;
     world.pointer.location = std::nullopt;
     world.scheduler.advance(Seconds(1));
@@ -300,7 +300,7 @@ TEST(NotchController, showsLateFilesUnlessTheUserHasClosedThePanel) {
     }
 }
 
-TEST(NotchController, isNotThereWhileTheSessionIsLocked) {
+TEST(NotchController, isHiddenWhileTheSessionIsLocked) {
     PanelWorld world;
     EXPECT_TRUE(world.window.shown);
     world.moveTo(720, 5);
@@ -324,7 +324,7 @@ TEST(NotchController, isNotThereWhileTheSessionIsLocked) {
     EXPECT_TRUE(world.controller.isOpen()) << "the pointer is in the hot zone";
 }
 
-TEST(NotchController, takesTheKeyboardForTypingOnlyAndGivesItBack) {
+TEST(NotchController, hasTheKeyboardOnlyForTyping) {
     PanelWorld world;
     world.moveTo(720, 5);
     EXPECT_FALSE(world.window.focused) << "opening takes no focus";

@@ -111,7 +111,7 @@ TEST(ExpandedSize, isSmallerThanItsScreen) {
     }
 }
 
-TEST(ScreenChoice, takesTheScreenUnderThePointerElseTheMainOne) {
+TEST(ScreenChoice, prefersTheScreenUnderThePointer) {
     const Screen left{u"left"_s, QRectF(0, 0, 1000, 800), {}, {}, {}};
     const Screen right{u"right"_s, QRectF(1000, 0, 1000, 800), {}, {}, {}};
     const std::vector<Screen> both{left, right};

@@ -22,7 +22,7 @@ const QUrl a(u"file:///a"_s);
 const QUrl b(u"file:///b"_s);
 const QUrl c(u"file:///c"_s);
 
-TEST(LoadToShelf, givesAllAtOnceInTheOrderOfTheAnswers) {
+TEST(LoadToShelf, deliversAllFilesAtOnce) {
     QList<Files> given;
     const auto give = [&](const Files& files) {
         given.append(files);
@@ -111,7 +111,7 @@ TEST(Drop, givesFilesByNameOrByKey) {
         EXPECT_EQ(shelf.enter(), one.files ? Carries::files : Carries::unknown);
         EXPECT_TRUE(shelf.transfers_.keys.isEmpty()) << "a key can be redeemed only once";
         shelf.drop();
-        shelf.drags_.answer(one.files, one.key); // It comes late.
+        shelf.drags_.answer(one.files, one.key); // The answer is late.
         shelf.drags_.answer(one.files, one.key);
         EXPECT_EQ(shelf.enter(), one.files || hasKey ? Carries::files : Carries::nothing);
         EXPECT_EQ(shelf.transfers_.keys, hasKey ? QList{one.key} : QList<QByteArray>());
@@ -125,7 +125,7 @@ TEST(Drop, givesFilesByNameOrByKey) {
     }
 }
 
-TEST_F(Drops, useOnlyWhatMayBeAKey) {
+TEST_F(Drops, useValidKeysOnly) {
     const std::pair<QByteArray, QList<QByteArray>> rows[] = {
         {QByteArray("123\0", 4), {"123"}},
         {"\xff", {}},
@@ -141,7 +141,7 @@ TEST_F(Drops, useOnlyWhatMayBeAKey) {
     }
 }
 
-TEST_F(Drops, followEachOther) {
+TEST_F(Drops, areDeliveredInOrder) {
     for (const char* key : {"first", "second"}) {
         drags_.begin(false, key);
         enter();
@@ -160,7 +160,7 @@ TEST_F(Drops, followEachOther) {
     EXPECT_EQ(given_.size(), 3) << "files that were never dropped here";
 }
 
-TEST_F(Drops, keepTheirFilesIfTheNextDragIsNoticedFirst) {
+TEST_F(Drops, keepTheirFilesIfTheNextDragBeginsFirst) {
     drags_.begin(true);
     enter();
     drags_.begin(false);

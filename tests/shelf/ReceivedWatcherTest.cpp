@@ -139,7 +139,7 @@ TEST_F(Received, notifiesTenTimesASecondAndReceivesForFour) {
     EXPECT_EQ(scheduler_.pending(), 0);
 }
 
-TEST(PartialName, isKnownByItsEnding) {
+TEST(PartialName, isRecognizedByItsSuffix) {
     const auto kindOf = [](const QByteArrayList& names) {
         std::string kinds;
         for (const QByteArray& name : names) {

@@ -71,10 +71,10 @@ protected:
     InProcessDecoder decoder_;
 };
 
-TEST_F(OfferedImage, IsTheBestThatCanBeHad) {
+TEST_F(OfferedImage, IsTheBestAvailable) {
     struct Row {
         const char* forms; ///< In the owner's order, "type=contents".
-        const char* asked; ///< What the owner is asked for.
+        const char* asked; ///< The types that are read.
         const char* color; ///< Of the image that is made of it.
     };
 
@@ -106,7 +106,7 @@ TEST_F(OfferedImage, IsTheBestThatCanBeHad) {
     }
 }
 
-TEST_F(OfferedImage, PassesPngBytesOnAsTheyAre) {
+TEST_F(OfferedImage, KeepsPngBytesUnchanged) {
     const QByteArray bytes = picture("png", Qt::red) + "and what a program may add to it";
     pasteboard_.offer({{u"image/png"_s, bytes}});
     EXPECT_EQ(image(), bytes);
@@ -126,7 +126,7 @@ protected:
     QTemporaryDir folder_;
 };
 
-TEST_F(CopiedFile, FirstOfThisMachineCounts) {
+TEST_F(CopiedFile, TheFirstOfThisMachineIsRead) {
     const QByteArray red = write(u"a ü#1.jpg"_s, picture("jpeg", Qt::red)).toEncoded();
     const QByteArray blue = write(u"misnamed.txt"_s, picture("bmp", Qt::blue)).toEncoded();
     const QByteArray elsewhere = QByteArray(blue).replace("file://", "file://far.example");
@@ -136,7 +136,7 @@ TEST_F(CopiedFile, FirstOfThisMachineCounts) {
     EXPECT_EQ(colorOfList(QByteArray(red).replace("file://", "file://localhost")), "red");
 }
 
-TEST_F(CopiedFile, ThatIsNoPictureGivesNothing) {
+TEST_F(CopiedFile, IsIgnoredIfItIsNotAPicture) {
     const QString pipe = folder_.filePath(u"pipe"_s);
     ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
     const QUrl big = write(u"big.bmp"_s, picture("bmp", Qt::red));

@@ -50,7 +50,7 @@ TEST_F(StoreClips, OperationsSaveAndNotifyOnlyChanges) {
     EXPECT_EQ(saved().clips[0].date, Date{scheduler_.now().sinceReference - 0.4});
 }
 
-TEST_F(StoreClips, ImageIsAddedOnceItsFileIsThere) {
+TEST_F(StoreClips, AddsAnImageOnceItsFileIsWritten) {
     store_->addImageClip(png(Qt::red));
     EXPECT_EQ(texts(), "");
     settle(Seconds(0));
@@ -77,7 +77,7 @@ TEST_F(StoreClips, OrderOfCopyingIsKept) {
     EXPECT_EQ(texts(), "4 3 blue 2 red 1") << "nothing to wait for any more";
 }
 
-TEST_F(StoreClips, ImageMakesItsFolderAgain) {
+TEST_F(StoreClips, RecreatesAMissingFolderForAnImage) {
     ASSERT_TRUE(QDir(store_->clipsDir()).removeRecursively());
     store_->addImageClip(png(Qt::red));
     settle(Seconds(0));
@@ -101,7 +101,7 @@ TEST_F(CopiedPicture, KeepsItsPlaceInTheOrder) {
     EXPECT_EQ(texts(), "later blue");
 }
 
-TEST_F(CopiedPicture, ThatCannotBeReadHoldsUpNothingForLong) {
+TEST_F(CopiedPicture, IsGivenUpIfItCannotBeRead) {
     copiedFiles_.hung = true;
     copy();
     store_->setNote(u"typed"_s);
@@ -133,7 +133,7 @@ TEST_F(StoreClips, BadImageAddsNothing) {
     EXPECT_EQ(texts(), "a");
 }
 
-TEST_F(StoreClips, DeletingAndClearingTakeTheirFilesAlong) {
+TEST_F(StoreClips, DeletingAndClearingDeleteTheFiles) {
     for (const Qt::GlobalColor color : {Qt::red, Qt::green, Qt::blue}) {
         store_->addImageClip(png(color));
         settle();
@@ -153,7 +153,7 @@ TEST_F(StoreClips, DeletingAndClearingTakeTheirFilesAlong) {
         decoder_->forgotten.contains(QFile::encodeName(store_->imagePath(pinned.imageFileName))));
 }
 
-TEST_F(StoreClips, DeletingDoesNotWaitForAnImageThatIsConverted) {
+TEST_F(StoreClips, DeletingDoesNotWaitForAConversion) {
     const QUuid deleted = add(u"deleted"_s);
     settle();
     conversions_.hung = true;
@@ -168,7 +168,7 @@ TEST_F(StoreClips, DeletingDoesNotWaitForAnImageThatIsConverted) {
     EXPECT_EQ(saved().clips.size(), 1);
 }
 
-TEST_F(StoreClips, ClearingTakesWhatIsOnItsWay) {
+TEST_F(StoreClips, ClearingDropsPendingCopies) {
     store_->addImageClip(png(Qt::red));
     store_->addClip(u"secret"_s);
     store_->clearClips();
@@ -179,7 +179,7 @@ TEST_F(StoreClips, ClearingTakesWhatIsOnItsWay) {
     EXPECT_EQ(imageFiles(), QStringList());
 }
 
-TEST_F(StoreClips, PushedOutImageLosesItsFileOnlyToAnImage) {
+TEST_F(StoreClips, OnlyAnImageDeletesTheFileOfAnImageItPushesOut) {
     store_->addImageClip(png(Qt::red));
     store_->addImageClip(png(Qt::blue));
     settle(Seconds(0));
@@ -275,7 +275,7 @@ TEST_F(SnippetImage, IsWrittenUnderANewName) {
     EXPECT_EQ(texts(), "");
 }
 
-TEST_F(SnippetImage, IsTheOneThatCameInBetween) {
+TEST_F(SnippetImage, IsTheNewestOnThePasteboard) {
     pasteboard_.offer({{u"image/png"_s, picture("png", Qt::red)}});
     const Handle handle = ask();
     pasteboard_.offer({{u"image/png"_s, picture("png", Qt::blue)}});
@@ -284,7 +284,7 @@ TEST_F(SnippetImage, IsTheOneThatCameInBetween) {
     EXPECT_EQ(colorOf(readFile(store_->imagePath(answers_[0])).value_or(QByteArray())), "blue");
 }
 
-TEST_F(SnippetImage, ThatIsNotThereGivesNoName) {
+TEST_F(SnippetImage, HasNoNameIfThereIsNone) {
     pasteboard_.offerText(u"a"_s);
     const Handle handle = ask();
     settle();

@@ -22,7 +22,7 @@
 
 namespace ravelo {
 
-/// A store in a folder of its own, on virtual time. The worker works in `settle` and `restart`.
+/// A store in a temporary folder, on virtual time. The worker runs in `settle` and `restart`.
 class StoreFixture : public testing::Test {
 protected:
     void start() { store_ = std::make_unique<Store>(folder(), services()); }

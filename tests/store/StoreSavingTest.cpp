@@ -20,7 +20,7 @@ protected:
     }
 };
 
-TEST_F(StoreSaving, FirstRunGivesTemplatesThenLinksAndWritesThem) {
+TEST_F(StoreSaving, FirstRunAddsTemplatesAndLinks) {
     start();
     ASSERT_EQ(store_->snippets().size(), 18);
     EXPECT_EQ(store_->snippets()[0].title, u"First reply to lead"_s);
@@ -38,7 +38,7 @@ TEST_F(StoreSaving, FirstRunGivesTemplatesThenLinksAndWritesThem) {
     EXPECT_EQ(saved().snippets, store_->snippets());
 }
 
-TEST_F(StoreSaving, TemplatesComeBackButLinksDoNot) {
+TEST_F(StoreSaving, OnlyTemplatesAreAddedAgain) {
     preferences_.set(u"seededSiteLinksV1"_s, false);
     start();
     EXPECT_EQ(store_->snippets().size(), 8) << "any value of the flag counts";
@@ -57,7 +57,7 @@ TEST_F(StoreSaving, OnlyItsUserCanRead) {
     EXPECT_EQ(modeOf(store_->imagePath(imageFiles()[0])), 0600U);
 }
 
-TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
+TEST_F(StoreSaving, RetriesAFailedSave) {
     start();
     QString reason;
     QObject::connect(store_.get(), &Store::saveEnded, store_.get(),
@@ -82,7 +82,7 @@ TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
     }
 }
 
-TEST_F(StoreSaving, LeavesAloneWhatIsNotOursAnyMore) {
+TEST_F(StoreSaving, WritesNothingOnceTheDataIsNotOurs) {
     bool ours = true;
     mayWrite_ = [&]() -> Result<void> {
         return ours ? Result<void>() : failure(u"taken over"_s);
@@ -173,7 +173,7 @@ TEST_F(StoreSaving, FilesOfUnknownStateStayOnTheShelf) {
     EXPECT_EQ(saved().shelfStacks, data.shelfStacks) << "a mount whose server is gone";
 }
 
-TEST_F(StoreSaving, AFileThatWasParkedAgainMeanwhileStays) {
+TEST_F(StoreSaving, AFileParkedAgainMeanwhileIsKept) {
     StoreData data;
     data.shelfStacks = {{u"/no/such"_s, u"/no/other"_s}};
     write(encodeStore(data));
@@ -233,11 +233,11 @@ protected:
     QStringList named_;
 };
 
-TEST_F(Orphans, GoAtALaterStart) {
+TEST_F(Orphans, AreDeletedAtALaterStart) {
     EXPECT_EQ(imagesAWeekLater(), named_);
 }
 
-TEST_F(Orphans, StayWhileTheyMayBelongToAnUnreadableStore) {
+TEST_F(Orphans, AreKeptIfAnUnreadableStoreMayNameThem) {
     write("junk");
     EXPECT_EQ(imagesAWeekLater().size(), 2) << "no store, so no names are known";
     store_->addClip(u"a"_s);
@@ -297,7 +297,7 @@ TEST_F(StoreSaving, AnUnreadableFileIsSetAsideBeforeItIsReplaced) {
     }
 }
 
-TEST_F(StoreSaving, FlushWritesWhatIsPendingAndOnItsWay) {
+TEST_F(StoreSaving, FlushWritesEverythingPending) {
     start();
     store_->addImageClip(png(Qt::red));
     store_->addClip(u"a"_s);
@@ -311,7 +311,7 @@ TEST_F(StoreSaving, FlushWritesWhatIsPendingAndOnItsWay) {
     EXPECT_EQ(worker_.pending(), 0) << "nothing is left to be written";
 }
 
-TEST_F(StoreSaving, LaterSaveIsNeverOvertakenByAnEarlierOne) {
+TEST_F(StoreSaving, SavesAreWrittenInOrder) {
     start();
     for (const QString& note : {u"1"_s, u"2"_s, u"3"_s}) {
         store_->setNote(note);
@@ -323,7 +323,7 @@ TEST_F(StoreSaving, LaterSaveIsNeverOvertakenByAnEarlierOne) {
     EXPECT_EQ(saved().note, u"3"_s);
 }
 
-TEST_F(StoreSaving, LivesWithoutADisk) {
+TEST_F(StoreSaving, WorksWithoutADisk) {
     QFile file(folder());
     ASSERT_TRUE(file.open(QFile::WriteOnly)) << "a file in place of the folder";
     start();

@@ -1,4 +1,4 @@
-// What comes to a real folder, as the watcher of received files is told of it by inotify.
+// Files that appear in a real folder, as inotify reports them to the watcher of received files.
 
 #include "base/FileUrl.h"
 #include "fakes/FakeNearby.h"
@@ -26,7 +26,7 @@ void write(const fs::path& path, const char* contents = "something") {
     EXPECT_TRUE(std::ofstream(path) << contents) << path;
 }
 
-/// Counts what is told.
+/// Counts reports.
 class CountedWatch final : public FolderWatch {
 public:
     Handle watch(const QByteArray& path, std::function<void(const FolderNews&)> tell) override {
@@ -62,7 +62,7 @@ protected:
 
     [[nodiscard]] testing::AssertionResult shows(const std::string& expected) {
         return eventually([&] {
-            scheduler_.advance(Seconds(1)); // It tells only so often.
+            scheduler_.advance(Seconds(1)); // It notifies ten times a second.
             return names() == expected;
         })
                    ? testing::AssertionSuccess()
@@ -77,7 +77,7 @@ protected:
     std::unique_ptr<ReceivedWatcher> watcher_;
 };
 
-TEST_F(FolderWatchTest, whatIsWholeAndStillThere) {
+TEST_F(FolderWatchTest, listsCompleteFilesThatStillExist) {
     fs::create_directories(downloads_ / "folder");
     write(downloads_ / "old");
     start();
@@ -99,7 +99,7 @@ TEST_F(FolderWatchTest, whatIsWholeAndStillThere) {
     EXPECT_TRUE(shows("y slow"));
 }
 
-TEST_F(FolderWatchTest, aFolderThatComesGoesAndIsReplaced) {
+TEST_F(FolderWatchTest, followsAFolderThatIsCreatedMovedAndReplaced) {
     start();
     fs::create_directories(downloads_);
     write(downloads_ / "x");
@@ -131,7 +131,7 @@ TEST_F(FolderWatchTest, aFolderThatComesGoesAndIsReplaced) {
     EXPECT_TRUE(shows("z")) << "by another link";
 }
 
-TEST_F(FolderWatchTest, moreThanTheKernelKeeps) {
+TEST_F(FolderWatchTest, survivesAnOverflowOfTheKernelsQueue) {
     int most = 0;
     std::ifstream("/proc/sys/fs/inotify/max_queued_events") >> most;
     ASSERT_LT(most, 100'000) << "too many for a test";

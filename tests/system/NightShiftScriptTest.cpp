@@ -31,12 +31,12 @@ protected:
         environment_.insert(u"PATH"_s, qEnvironmentVariable("PATH"));
     }
 
-    /// A program that ends by leaving what `print` prints in a file of its own.
+    /// A program that writes the output of `print` to a file of its own.
     static void install(const QString& path, const QByteArray& print) {
         makeProgram(path, print + " > \"$HOME/$$\"\nmv \"$HOME/$$\" \"$HOME/$$.out\"\n");
     }
 
-    /// What so many programs have printed.
+    /// The output of `count` programs.
     [[nodiscard]] std::vector<std::string> printed(qsizetype count) const {
         QFileInfoList files;
         EXPECT_TRUE(eventually([&] {
@@ -55,7 +55,7 @@ protected:
     QProcessEnvironment environment_;
 };
 
-TEST_F(NightShiftScriptTest, isGivenToTheShellAtEachStart) {
+TEST_F(NightShiftScriptTest, isRunByTheShellAtEachStart) {
     const QString shell = folder_.filePath(u"zsh"_s);
     install(shell, "streams=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
                    "{ cat /proc/$$/cmdline /proc/$$/environ; echo \"$streams\"; }");

@@ -69,7 +69,7 @@ protected:
     PreferenceFile::Services services_{scheduler_, worker_};
 };
 
-TEST_F(PreferenceFileTest, IsWrittenAtOnceForItsUserAlone) {
+TEST_F(PreferenceFileTest, IsWrittenAtOnceAndPrivate) {
     PreferenceFile preferences(path_, services_);
     EXPECT_FALSE(preferences.wasUnreadable()) << "there was none";
     EXPECT_EQ(worker_.pending(), 0) << "reading writes nothing";
@@ -93,7 +93,7 @@ TEST_F(PreferenceFileTest, ChangesDuringAWriteShareTheNext) {
     EXPECT_EQ(contents().simplified(), R"({ "a": 99 })");
 }
 
-TEST_F(PreferenceFileTest, KeepsWhatItDoesNotKnow) {
+TEST_F(PreferenceFileTest, KeepsUnknownKeys) {
     makeFile(path_, R"({"later":{"x":[1]},"a":"text"})");
     PreferenceFile(path_, services_).set(u"a"_s, true);
     EXPECT_EQ(contents().simplified(), R"({ "a": true, "later": { "x": [ 1 ] } })");
@@ -120,7 +120,7 @@ TEST_F(PreferenceFileTest, SetsAnUnreadableFileAside) {
     }
 }
 
-TEST_F(PreferenceFileTest, LivesWithoutADisk) {
+TEST_F(PreferenceFileTest, WorksWithoutADisk) {
     QFile file(folder_.filePath(u"ravelo"_s));
     ASSERT_TRUE(file.open(QFile::WriteOnly)) << "a file where the folder should be";
     PreferenceFile preferences(path_, services_);
@@ -140,7 +140,7 @@ TEST_F(PreferenceFileTest, LivesWithoutADisk) {
     EXPECT_EQ(worker_.pending(), 0) << "nothing is left to try";
 }
 
-TEST_F(PreferenceFileTest, TriesOnceMoreAtTheEnd) {
+TEST_F(PreferenceFileTest, RetriesAtExit) {
     QFile file(folder_.filePath(u"ravelo"_s));
     ASSERT_TRUE(file.open(QFile::WriteOnly));
     {
@@ -152,7 +152,7 @@ TEST_F(PreferenceFileTest, TriesOnceMoreAtTheEnd) {
     EXPECT_EQ(contents().simplified(), R"({ "a": 1 })");
 }
 
-TEST_F(PreferenceFileTest, LeavesAloneWhatIsNotOursAnyMore) {
+TEST_F(PreferenceFileTest, WritesNothingOnceTheDataIsNotOurs) {
     services_.mayWrite = [] {
         return failure(u"taken over"_s);
     };

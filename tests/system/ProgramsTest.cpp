@@ -16,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(DetachedThreads, nobodyWaitsForAJobThatHangs) {
+TEST(DetachedThreads, doNotWaitForAJobThatHangs) {
     std::promise<void> gate;
     const std::shared_future<void> open = gate.get_future().share();
     std::string ends;
@@ -47,10 +47,10 @@ TEST(DetachedThreads, nobodyWaitsForAJobThatHangs) {
     ends = "q";
     gate.set_value();
     EXPECT_TRUE(eventually([&] { return *ended == 3; }));
-    EXPECT_EQ(ends, "q") << "nothing is told once all is gone";
+    EXPECT_EQ(ends, "q") << "notified after destruction";
 }
 
-TEST(SystemPrograms, findsAndStartsThemWithTheBytesAsTheyAre) {
+TEST(SystemPrograms, findsAndStartsThemWithAnyBytes) {
     const QTemporaryDir folder;
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", path + ":/no/such:" + folder.path().toUtf8());

@@ -19,7 +19,7 @@ void warp(QPoint to) {
 
 class EdgeBarrierTest : public testing::Test {
 protected:
-    /// Moves it like a hand; where it is then.
+    /// Moves it like a hand and returns its position.
     QPoint moved(QPoint from, QPoint motion) {
         warp(from);
         pointer({u"mousemove_relative"_s, u"--"_s, QString::number(motion.x()),

@@ -62,7 +62,7 @@ TEST_F(ScreensTest, FollowTheMonitors) {
     EXPECT_GT(changes, 0);
 }
 
-TEST_F(ScreensTest, FollowABarWhateverItDoes) {
+TEST_F(ScreensTest, FollowABar) {
     int changes = 0;
     const Handle subscription = screens.onChange([&] { ++changes; });
     const auto settles = [&](QMargins left, QMargins right) {
@@ -83,11 +83,11 @@ TEST_F(ScreensTest, FollowABarWhateverItDoes) {
     EXPECT_EQ(changes, 4);
 }
 
-TEST_F(ScreensTest, AreQuietWhereNothingChanges) {
+TEST_F(ScreensTest, DoNotNotifyWithoutAChange) {
     int changes = 0;
     const Handle subscription = screens.onChange([&] { ++changes; });
     { const OtherWindow ordinary(OtherWindow::Kind::normal, {100, 100, 300, 200}); }
-    // The bar is heard of after the window.
+    // The bar is reported after the window.
     const OtherWindow bar(OtherWindow::Kind::dock, {0, 0, 1920, 20},
                           {0, 0, 20, 0, 0, 0, 0, 0, 0, 1919, 0, 0});
     EXPECT_TRUE(eventually([&] { return changes > 0; })) << "the bar is not seen";

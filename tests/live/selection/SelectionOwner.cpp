@@ -87,7 +87,7 @@ public:
         std::fflush(stdout);
     }
 
-    /// The drag is over the window; what follows comes with the answers.
+    /// The drag enters the window; the rest follows the answers.
     void drag(xcb_window_t onto, bool untilRefused) {
         untilRefused_ = untilRefused;
         const auto root = xcb_setup_roots_iterator(xcb_get_setup(xcb_)).data->root;
@@ -274,7 +274,7 @@ private:
         }
     }
 
-    /// What was asked before someone else took the selection, answered only now.
+    /// Answers requests from before another program took the selection.
     void answerLate() {
         for (const auto& asked : std::exchange(late_, {})) {
             if (asked.target == targets_) {

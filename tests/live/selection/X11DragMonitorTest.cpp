@@ -33,7 +33,7 @@ protected:
     live::ListenerSession session_;
 };
 
-TEST_P(DragOfOther, isCountedAndAskedForItsFiles) {
+TEST_P(DragOfOther, isCountedAndItsFilesAreRead) {
     EXPECT_EQ(drags().newest(), nullptr) << "before any drag";
     int calls = 0;
     const Handle listening = drags().onChange([&] { ++calls; });
@@ -50,7 +50,7 @@ TEST_P(DragOfOther, isCountedAndAskedForItsFiles) {
     const Handle answered = offer->onAnswer([&] { ++answers; });
     EXPECT_EQ(offer->data(listType), std::nullopt) << "answered before the source was asked";
     ASSERT_TRUE(eventually([&] { return answers == 1; })) << "the answer is not reported";
-    EXPECT_EQ(calls, 2) << "to whom watches the drags";
+    EXPECT_EQ(calls, 2) << "to the monitor's listener";
     EXPECT_EQ(offer->data(listType), GetParam().list);
     EXPECT_EQ(offer->data(keyTypes), std::nullopt) << "answered before the source was asked";
     ASSERT_TRUE(eventually([&] { return answers == 2; })) << "the key is not reported";
@@ -86,7 +86,7 @@ INSTANTIATE_TEST_SUITE_P(
         DragCase{"Silence", u"silent"_s, {}, {}}),
     [](const auto& tested) { return tested.param.name; });
 
-TEST(SlowSource, isStillHeardWhenTheNextDragHasBegun) {
+TEST(SlowSource, canAnswerAfterTheNextDragHasBegun) {
     live::ListenerSession session;
     const Client slow(live::selectionOwner(),
                       {u"XdndSelection"_s, u"late"_s, offering(u"text/uri-list"_s, "file:///slow"),
@@ -111,7 +111,7 @@ TEST(SlowSource, isStillHeardWhenTheNextDragHasBegun) {
         eventually([&] { return session.drags.newest()->data(listType) == "file:///next"; }));
 }
 
-TEST(OwnDrag, isNoDragOfOthers) {
+TEST(OwnDrag, isNotCounted) {
     live::ListenerSession session;
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     xcb_connection_t* qt = x11->connection();
@@ -126,7 +126,7 @@ TEST(OwnDrag, isNoDragOfOthers) {
             xcb_get_input_focus_reply(client, xcb_get_input_focus(client), nullptr));
     };
     begin(qt);
-    begin(session.connection->get()); // The one that counts, behind it.
+    begin(session.connection->get()); // Counted, after that.
     EXPECT_TRUE(eventually([&] { return session.drags.changeCount() > 0; }));
     EXPECT_EQ(session.drags.changeCount(), 1) << "our own drag was counted";
 }

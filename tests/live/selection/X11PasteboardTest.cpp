@@ -47,14 +47,14 @@ TEST_F(X11PasteboardTest, readsALargeImageInPieces) {
         << "not the bytes that were offered";
 }
 
-TEST_F(X11PasteboardTest, answersEmptyWhereNobodyOwnsTheClipboard) {
+TEST_F(X11PasteboardTest, readsNothingIfTheClipboardHasNoOwner) {
     own(u"answer"_s, {offering(u"STRING"_s, "x")}).reset();
     ASSERT_TRUE(eventually([&] { return board().changeCount() == 2; }))
         << "the owner's end is no change";
     EXPECT_EQ(read(plainTextType).types, QStringList());
 }
 
-TEST_F(X11PasteboardTest, isOrphanedWhereTheOwnersWindowGoes) {
+TEST_F(X11PasteboardTest, isOrphanedIfTheOwnersWindowIsDestroyed) {
     const auto owner = own(u"answer"_s, {offering(u"STRING"_s, "x")});
     const qint64 before = board().changeCount();
     xcb_destroy_window(session_.connection->get(), session_.clipboardOwner());
@@ -62,7 +62,7 @@ TEST_F(X11PasteboardTest, isOrphanedWhereTheOwnersWindowGoes) {
     EXPECT_TRUE(eventually([&] { return board().orphaned() == before; }));
 }
 
-TEST_F(X11PasteboardTest, isNeitherStalledNorSpoiledByAHostileOwner) {
+TEST_F(X11PasteboardTest, isNotDisturbedByAHostileOwner) {
     struct Case {
         QString behaviour;
         bool listsTypes;
@@ -99,7 +99,7 @@ TEST_F(X11PasteboardTest, isNeitherStalledNorSpoiledByAHostileOwner) {
     }
 }
 
-TEST_F(X11PasteboardTest, survivesAnOwnerThatDiesWhenAsked) {
+TEST_F(X11PasteboardTest, survivesAnOwnerThatDiesDuringARead) {
     const live::StallGauge gauge;
     const auto dying = own(u"dieAfterTargets"_s, {offering(u"UTF8_STRING"_s, "last words")});
     const qint64 before = board().changeCount();
@@ -113,7 +113,7 @@ TEST_F(X11PasteboardTest, survivesAnOwnerThatDiesWhenAsked) {
     EXPECT_LE(gauge.longestStallMs(), 50);
 }
 
-TEST_F(X11PasteboardTest, doesNotTakeALateAnswerForTheNextOwners) {
+TEST_F(X11PasteboardTest, ignoresALateAnswerOfAnEarlierOwner) {
     const auto late = own(u"late"_s, {offering(u"UTF8_STRING"_s, "stale")});
     std::optional<PasteboardSnapshot> overtaken;
     const Handle reading = ask(plainTextType, overtaken);
@@ -127,7 +127,7 @@ TEST_F(X11PasteboardTest, doesNotTakeALateAnswerForTheNextOwners) {
     EXPECT_FALSE(overtaken);
 }
 
-TEST_F(X11PasteboardTest, readsEveryOneOfQuickCopies) {
+TEST_F(X11PasteboardTest, readsEveryCopyOfAQuickSeries) {
     constexpr int copies = 20;
     QList<QByteArray> got;
     Handle reading;
@@ -157,7 +157,7 @@ TEST_F(X11PasteboardTest, readsEveryOneOfQuickCopies) {
     EXPECT_EQ(got, expected);
 }
 
-TEST_F(X11PasteboardTest, servesWhatWasWrittenByteForByte) {
+TEST_F(X11PasteboardTest, servesExactBytes) {
     const QList<PasteboardEntry> forms = {
         {u"image/png"_s, filling(3 << 20)},
         {u"text/uri-list"_s, "file:///tmp/%5Ba%5D%2520%23%3F%C3%BC%FC%0A\r\n"},
@@ -174,18 +174,18 @@ TEST_F(X11PasteboardTest, servesWhatWasWrittenByteForByte) {
     }
 }
 
-TEST_F(X11PasteboardTest, keepsTextFieldsFromReadingWhateverIsCopied) {
+TEST_F(X11PasteboardTest, keepsTextFieldsFromReadingEveryCopy) {
     const live::NoticesOfQt noticesOfQt(*session_.connection);
     int signalsSeen = 0; // At each of these an open text field reads, and waits for the owner.
     const auto watching = QObject::connect(QGuiApplication::clipboard(), &QClipboard::dataChanged,
                                            [&] { ++signalsSeen; });
     const auto owner = own(u"silent"_s, {});
-    EXPECT_TRUE(eventually([&] { return noticesOfQt.count() > 0; })) << "Qt hears nothing";
+    EXPECT_TRUE(eventually([&] { return noticesOfQt.count() > 0; })) << "Qt is not notified";
     EXPECT_EQ(signalsSeen, 0);
     QObject::disconnect(watching);
 }
 
-/// Another client in this very program, so that nothing comes between its copy and ours.
+/// Another client in this process, so that nothing comes between its copy and ours.
 class NearbyClient {
 public:
     explicit NearbyClient(Connection& connection)
@@ -238,7 +238,7 @@ private:
     std::shared_ptr<std::binary_semaphore> hold_ = std::make_shared<std::binary_semaphore>(0);
 };
 
-TEST_F(X11PasteboardTest, forgetsACopyFromJustBeforeItsOwnWrite) {
+TEST_F(X11PasteboardTest, ignoresACopyFromJustBeforeItsOwnWrite) {
     NearbyClient other(*session_.connection);
     const auto time = other.pastTime();
     std::optional<qint64> count;
@@ -252,7 +252,7 @@ TEST_F(X11PasteboardTest, forgetsACopyFromJustBeforeItsOwnWrite) {
     EXPECT_EQ(board().changeCount(), count) << "the earlier copy was counted after ours";
 }
 
-TEST_F(X11PasteboardTest, leavesAnOrphanToWhoIsQuicker) {
+TEST_F(X11PasteboardTest, doesNotAdoptIfAnotherProgramWasFaster) {
     NearbyClient other(*session_.connection);
     own(u"answer"_s, {offering(u"STRING"_s, "x")}).reset();
     ASSERT_TRUE(eventually([&] { return board().orphaned().has_value(); }));
@@ -260,14 +260,14 @@ TEST_F(X11PasteboardTest, leavesAnOrphanToWhoIsQuicker) {
     {
         const DeafListener deaf(*session_.listener);
         other.copy("CLIPBOARD", XCB_CURRENT_TIME);
-        EXPECT_TRUE(board().orphaned()) << "heard of it, and proves nothing";
+        EXPECT_TRUE(board().orphaned()) << "already notified, so this proves nothing";
         EXPECT_FALSE(board().adopt({{plainTextType, "ours"}}));
     }
     EXPECT_TRUE(eventually([&] { return board().changeCount() == before + 1; }))
         << "the quicker one's copy is no change";
 }
 
-TEST_F(X11PasteboardTest, tellsCopiesOfOneProgramFromThoseOfAManager) {
+TEST_F(X11PasteboardTest, distinguishesProgramsFromManagers) {
     NearbyClient program(*session_.connection);
     program.copy("CLIPBOARD", XCB_CURRENT_TIME);
     ASSERT_TRUE(eventually([&] { return board().changeCount() == 1; }));
@@ -295,7 +295,7 @@ TEST_F(X11PasteboardTest, tellsCopiesOfOneProgramFromThoseOfAManager) {
     EXPECT_LT(last.lastEnd->before, Seconds(60));
 }
 
-TEST_F(X11PasteboardTest, tellsOfACopyFromJustAfterItsOwnWrite) {
+TEST_F(X11PasteboardTest, reportsACopyFromJustAfterItsOwnWrite) {
     NearbyClient other(*session_.connection);
     int calls = 0;
     const Handle listening = board().onChange([&] { ++calls; });

@@ -37,7 +37,7 @@ TEST(MotionPreference, followsTheDesktopsSettingsManager) {
         std::make_unique<live::Client>(u"xsettingsd"_s, QStringList{u"-c"_s, config.fileName()});
     EXPECT_TRUE(eventually([&] { return motion.isReduced(); })) << "a manager came";
     EXPECT_EQ(icons.theme(), u"Papirus"_s);
-    // It may have to be told more than once: it reads its signals only when it is up.
+    // More than once, because it handles signals only when it is up.
     const auto becomes = [&](bool reduced) {
         return eventually([&] {
             kill(static_cast<pid_t>(manager->processId()), SIGHUP);

@@ -27,7 +27,7 @@ public:
     Handle subscription = cover.onChange([this] { ++changes; });
 };
 
-TEST_F(CoverTest, IsAWindowThatNobodyManagesOverTheWholeMonitor) {
+TEST_F(CoverTest, IsAnUnmanagedWindowOverTheWholeMonitor) {
     {
         const OtherWindow game(OtherWindow::Kind::fullScreen, mainMonitor);
         const OtherWindow menu(OtherWindow::Kind::popup, {0, 0, 1920, 900});
@@ -42,7 +42,7 @@ TEST_F(CoverTest, IsAWindowThatNobodyManagesOverTheWholeMonitor) {
     EXPECT_EQ(changes, 2) << "something else counted too";
 }
 
-TEST_F(CoverTest, IsNoneOnceItLiesBelow) {
+TEST_F(CoverTest, EndsOnceItIsBelow) {
     const OtherWindow wallpaper(OtherWindow::Kind::popup, mainMonitor);
     ASSERT_TRUE(becomes(true));
     restack(wallpaper.id(), XCB_STACK_MODE_BELOW);
@@ -53,7 +53,7 @@ TEST_F(CoverTest, IsNoneOnceItLiesBelow) {
 
 TEST_F(CoverTest, StaysAboveAPanelThatIsRaisedByMistake) {
     const OtherWindow locker(OtherWindow::Kind::popup, mainMonitor);
-    panel.orderFront(); // Whether the locker is known yet or not.
+    panel.orderFront(); // Whether or not the locker is known yet.
     ASSERT_TRUE(becomes(true));
     EXPECT_TRUE(eventually([&] { return server.isAbove(locker.id(), id()); }));
     panel.orderFront();
@@ -61,7 +61,7 @@ TEST_F(CoverTest, StaysAboveAPanelThatIsRaisedByMistake) {
     EXPECT_TRUE(cover.isLocked());
 }
 
-TEST_F(CoverTest, SaysThatAnyOfThoseHasComeAndNeverThePanelItself) {
+TEST_F(CoverTest, ReportsUnmanagedWindowsExceptThePanel) {
     int newcomers = 0;
     const Handle appearance = cover.onNewcomer([&] { ++newcomers; });
     panel.orderOut();

@@ -129,7 +129,7 @@ TEST_F(PanelTest, IsCutToItsOutlineWhileThereIsNoCompositor) {
         << "the window is not cut again";
 }
 
-TEST_F(PanelTest, TellsCompositorsWhatTheyNeed) {
+TEST_F(PanelTest, SetsTheCompositorsProperties) {
     show(u"DUMMY0"_s, {400, 200});
     panel.setOutline(flaredOutline());
     ASSERT_TRUE(eventually([&] { return shape(XCB_SHAPE_SK_INPUT) != QRegion(wholeWindow()); }));

@@ -67,7 +67,7 @@ TEST(FileThumbs, areMadeOfFilesWhoseNamesAreNotUtf8) {
     EXPECT_EQ(std::remove(odd.constData()), 0); // Qt would not find it.
 }
 
-TEST(FileThumbs, surviveTheWayThroughAnAddress) {
+TEST(FileThumbs, surviveConversionToAnAddress) {
     for (const QByteArray path : {"/a b/c#d?e%20ü/ñ.png", "/no utf-8 \xe4.png"}) {
         const QString address = fileThumbAddress(fileUrl(path));
         EXPECT_EQ(filePath(fileOfThumb(QUrl(address).path().mid(1))), path);

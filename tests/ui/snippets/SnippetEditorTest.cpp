@@ -75,7 +75,7 @@ TEST_F(SnippetEditing, appendsANewOneOnceItHasATitle) {
               Snippet({snippets().last().id, u"title"_s, u"body"_s, u"doc.text"_s, {}}));
 }
 
-TEST_F(SnippetEditing, attachesTheImageOnThePasteboardAndLeavesNoOtherBehind) {
+TEST_F(SnippetEditing, attachesTheCopiedImageAndDeletesOthers) {
     editor.edit(first.id);
     attach();
     EXPECT_EQ(editor.imageFileName(), QString()) << "there was none";
