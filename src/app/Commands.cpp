@@ -29,7 +29,7 @@ using Services = Commands::Services;
 
 constexpr qsizetype maxFiles = 1000; ///< More on the shelf at once is a mistake.
 
-// What may follow the words of a command.
+// Options of the commands.
 
 Result<void> nothing(const QStringList& arguments) {
     return arguments.isEmpty() ? Result<void>()
@@ -65,7 +65,7 @@ Result<void> lengthAndLabel(const QStringList& arguments) {
                          arguments.value(0) + u'"');
 }
 
-// What the commands do.
+// The commands.
 
 /// `arguments` are the words after those of the command.
 struct Call {
@@ -83,7 +83,7 @@ Answer show(const Call& call) {
     return {};
 }
 
-/// The desktop session that starts this program again has nothing to ask of one that runs already.
+/// By a session manager, while this program is running already.
 Answer restore(const Call& /*call*/) {
     return {};
 }
@@ -120,7 +120,7 @@ Answer open(const Call& call) {
         const auto path = absolutePath(file.toUtf8());
         path ? paths.append(*path) : errors.append(path.error().message);
     }
-    paths.removeDuplicates(); // Named twice, by a pattern and by hand, it is meant once.
+    paths.removeDuplicates(); // A pattern and a name may match the same file.
     if (!paths.isEmpty()) {
         QList<QUrl> urls;
         std::ranges::transform(paths, std::back_inserter(urls), QUrl::fromLocalFile);
@@ -140,7 +140,7 @@ Answer stopTimer(const Call& call) {
     return {};
 }
 
-/// A label in one line, without what would make a terminal do something.
+/// A label in one line, without control characters.
 QString harmless(QString label) {
     const auto isControl = [](QChar c) {
         return c.category() == QChar::Other_Control;
@@ -178,7 +178,7 @@ Answer timerStatus(const Call& call) {
     return {0, text.toUtf8() + '\n', {}};
 }
 
-/// A path that is no UTF-8 is no text either: "uri" has it whole.
+/// A path that is not UTF-8 is replaced in part; "uri" is exact.
 QJsonObject described(const QUrl& url) {
     const QByteArray path = filePath(url);
     QJsonObject file{{u"path"_s, QString::fromUtf8(path)}};
