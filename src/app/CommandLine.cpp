@@ -99,7 +99,7 @@ screen. Move the pointer there to open it; click elsewhere to close it.
   --quit         quit the running Ravelo
   --status       print one line about Claude Code: model, context used / limit,
                  peak hours, and how much of the plan's five-hour and weekly
-                 windows is used; if Ravelo is not running, only what is in files
+                 windows is used; if Ravelo is not running, only as in files
   --status=json  the same as one JSON object: model, used and limit in tokens,
                  lastActivity, peak, isPeak, session and week. Session and week
                  are null or have pct (0 to 100) and resets; dates are ISO 8601

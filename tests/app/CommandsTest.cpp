@@ -5,7 +5,7 @@
 #include "fakes/UsageWorld.h"
 #include "monitor/LiveContext.h"
 #include "platform/system/InotifyChanges.h"
-#include "support/Told.h"
+#include "support/SignalCount.h"
 
 #include <gtest/gtest.h>
 
@@ -73,7 +73,7 @@ TEST_F(CommandsTest, AcceptsAnyLabelAndPrintsItInOneLine) {
     struct Case {
         QString label;
         QString kept;
-        QByteArray told;
+        QByteArray printed;
     };
 
     const Case cases[] = {
@@ -87,7 +87,7 @@ TEST_F(CommandsTest, AcceptsAnyLabelAndPrintsItInOneLine) {
     for (const Case& c : cases) {
         EXPECT_EQ(answer({u"timer"_s, u"start"_s, u"1"_s, c.label}), Answer());
         EXPECT_EQ(world_.store.timerLabel(), c.kept);
-        EXPECT_EQ(status(), "01:00" + c.told + '\n');
+        EXPECT_EQ(status(), "01:00" + c.printed + '\n');
         EXPECT_EQ(json().count('\n'), 1);
     }
 }
@@ -177,7 +177,7 @@ TEST_F(CommandsTest, LimitsTheNumberOfFiles) {
 }
 
 TEST_F(CommandsTest, OpensTheOtherWindows) {
-    const Told settings(&world_.controller, &NotchController::settingsRequested);
+    const SignalCount settings(&world_.controller, &NotchController::settingsRequested);
     EXPECT_EQ(answer({u"restore"_s}), Answer());
     EXPECT_FALSE(world_.controller.isOpen()) << "at the start of a session";
     EXPECT_EQ(answer({u"show"_s}), Answer());

@@ -102,15 +102,15 @@ TEST_P(PasteboardContract, neverAnswersADroppedOrOutdatedRead) {
     int answers = 0;
     Handle dropped = board().read(asking({plainTextType}), [&](const auto&) { ++answers; });
     dropped.reset();
-    QByteArray told("old"); // It may have been answered just before the change.
+    QByteArray latest("old"); // It may have been answered just before the change.
     const Handle overtaken =
         board().read(asking({plainTextType}), [&](const PasteboardSnapshot& snapshot) {
-            told = snapshot.answers.value(plainTextType).value_or(QByteArray());
+            latest = snapshot.answers.value(plainTextType).value_or(QByteArray());
         });
     board().write({text("ours")});
     EXPECT_EQ(read({plainTextType}).answers.value(plainTextType), QByteArray("ours"));
     EXPECT_EQ(answers, 0) << "the handle was dropped";
-    EXPECT_EQ(told, "old") << "answered by contents that came after the question";
+    EXPECT_EQ(latest, "old") << "answered by contents that came after the question";
 }
 
 TEST_P(PasteboardContract, countsOurWriteAtOnceWithoutANotification) {

@@ -27,7 +27,7 @@ protected:
                          EXPECT_TRUE(jobs_.find(letter) != std::string::npos)
                              << "ended before it ran";
                          EXPECT_TRUE(QThread::currentThread() == thread_)
-                             << "not where it was given";
+                             << "not on the thread that submitted it";
                          ends_ += letter;
                      });
     }

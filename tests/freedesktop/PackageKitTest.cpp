@@ -51,25 +51,25 @@ private:
     }
 
     void play(const QString& path, const Course& course) {
-        const auto tell = [&](const QString& name, const QVariantList& arguments,
+        const auto send = [&](const QString& name, const QVariantList& arguments,
                               const QString& interface = transaction) {
             auto signal = QDBusMessage::createSignal(path, interface, name);
             signal.setArguments(arguments);
             bus_.send(signal);
         };
         for (const uint percent : {30U, 101U}) {
-            tell(u"PropertiesChanged"_s,
+            send(u"PropertiesChanged"_s,
                  {transaction, QVariantMap{{u"Percentage"_s, percent}}, QStringList()},
                  u"org.freedesktop.DBus.Properties"_s);
         }
         for (const QString& id : course.packages) {
             constexpr uint info = 5 | (2 << 16); // Besides the kind of update how urgent it is.
-            tell(u"Package"_s, {info, id, u"summary"_s});
+            send(u"Package"_s, {info, id, u"summary"_s});
         }
         if (course.error != 0) {
-            tell(u"ErrorCode"_s, {course.error, u"two\nlines"_s});
+            send(u"ErrorCode"_s, {course.error, u"two\nlines"_s});
         }
-        tell(u"Finished"_s, {course.error == 0 ? success : failed, 5U});
+        send(u"Finished"_s, {course.error == 0 ? success : failed, 5U});
     }
 
     QHash<QString, Course> courses_;

@@ -109,12 +109,12 @@ TEST(SecretServiceWithoutABus, findsNothing) {
         .find(u"a name"_s,
               [](const std::optional<Secret>&) { ADD_FAILURE() << "the handle was dropped"; })
         .reset();
-    bool told = false;
+    bool answered = false;
     const Handle search = secrets.find(u"a name"_s, [&](const std::optional<Secret>& found) {
         EXPECT_FALSE(found);
-        told = true;
+        answered = true;
     });
-    EXPECT_TRUE(eventually([&] { return told; }));
+    EXPECT_TRUE(eventually([&] { return answered; }));
 }
 
 } // namespace

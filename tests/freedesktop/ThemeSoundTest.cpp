@@ -74,7 +74,7 @@ TEST_F(ThemeSoundTest, isPlayedOnceHoweverSlowTheDevice) {
     EXPECT_GT(first.size(), 10'000);
     EXPECT_NE(first.count('\0'), first.size()) << "silence";
     sound.play();
-    EXPECT_EQ(heard(), first) << "asked for again, it is heard again";
+    EXPECT_EQ(heard(), first) << "played again on request";
 }
 
 TEST_F(ThemeSoundTest, isPlayedOnceThereIsADevice) {

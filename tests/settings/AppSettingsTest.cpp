@@ -2,7 +2,7 @@
 #include "fakes/FakeLoginItem.h"
 #include "fakes/MemoryPreferences.h"
 #include "support/RunTests.h"
-#include "support/Told.h"
+#include "support/SignalCount.h"
 
 #include <QVariant>
 
@@ -61,7 +61,7 @@ TEST(Settings, AreReadNotifiedAndKept) {
         EXPECT_EQ(preferences.value(key), field.wrongType) << "it stays until it is set";
 
         AppSettings settings(preferences, loginItem);
-        const Told told(&settings, field.changed);
+        const SignalCount emitted(&settings, field.changed);
         const bool kept = field.writtenBack == WrittenBack::yes;
         int layouts = 0;
         settings.onLayoutChange = [&] {
@@ -72,7 +72,7 @@ TEST(Settings, AreReadNotifiedAndKept) {
             ASSERT_TRUE(settings.setProperty(field.name, field.other.toVariant()));
         }
         EXPECT_EQ(QJsonValue::fromVariant(settings.property(field.name)), field.other);
-        EXPECT_EQ(told.count(), 1) << "the second time nothing changed";
+        EXPECT_EQ(emitted.count(), 1) << "the second time nothing changed";
         EXPECT_EQ(layouts, key == u"macType" ? 1 : 0);
         EXPECT_EQ(preferences.value(key), kept ? field.other : field.wrongType);
         EXPECT_EQ(restarted(), kept ? field.other : field.standard) << "after a restart";
@@ -133,10 +133,10 @@ TEST_F(LoginSetting, FollowsTheDesktopAndIsAppliedEachTime) {
     AppSettings settings(preferences_, loginItem_);
     EXPECT_TRUE(settings.launchAtLogin());
     loginItem_.enabled = false; // Somebody removed the entry.
-    const Told told(&settings, &AppSettings::launchAtLoginChanged);
+    const SignalCount emitted(&settings, &AppSettings::launchAtLoginChanged);
     settings.setLaunchAtLogin(true);
     EXPECT_TRUE(loginItem_.enabled);
-    EXPECT_EQ(told.count(), 0);
+    EXPECT_EQ(emitted.count(), 0);
     EXPECT_TRUE(preferences_.value(u"launchAtLogin"_s).isUndefined());
 }
 

@@ -100,11 +100,11 @@ TEST(ReceivedFiles, areThoseThatArrivedWhole) {
                           {"aFolderThatWasMade", "+a | [ ] | { b } +c", "b c"}};
     for (const Case& c : cases) {
         Downloads downloads;
-        downloads.folder_.tell(newsOf("[ old old.part ]"));
+        downloads.folder_.report(newsOf("[ old old.part ]"));
         EXPECT_EQ(downloads.names(), "") << c.name;
         std::istringstream stream(c.happens);
         for (std::string part; std::getline(stream, part, '|');) {
-            downloads.folder_.tell(newsOf(part));
+            downloads.folder_.report(newsOf(part));
         }
         downloads.scheduler_.advance(Seconds(0.1));
         EXPECT_EQ(downloads.names(), c.files) << c.name;
@@ -114,23 +114,23 @@ TEST(ReceivedFiles, areThoseThatArrivedWhole) {
 TEST_F(Received, notifiesTenTimesASecondAndReceivesForFour) {
     int calls = 0;
     const Handle listening = watcher_.onChange([&] { ++calls; });
-    folder_.tell(newsOf("[ old ]"));
-    folder_.tell(newsOf("+old 0x +y.part"));
+    folder_.report(newsOf("[ old ]"));
+    folder_.report(newsOf("+old 0x +y.part"));
     EXPECT_EQ(calls, 0);
     EXPECT_FALSE(watcher_.receiving());
-    folder_.tell(newsOf("+a +b"));
+    folder_.report(newsOf("+a +b"));
     EXPECT_EQ(calls, 1) << "at once";
-    folder_.tell(newsOf("+c"));
-    folder_.tell(newsOf("+d -a"));
+    folder_.report(newsOf("+c"));
+    folder_.report(newsOf("+d -a"));
     EXPECT_EQ(names(), "a b");
     scheduler_.advance(Seconds(0.1));
     EXPECT_EQ(calls, 2);
     EXPECT_EQ(names(), "b c d");
     scheduler_.advance(Seconds(3.8));
     EXPECT_TRUE(watcher_.receiving());
-    folder_.tell(newsOf("+e"));
+    folder_.report(newsOf("+e"));
     scheduler_.advance(Seconds(3.9));
-    folder_.tell(newsOf("+e"));
+    folder_.report(newsOf("+e"));
     EXPECT_TRUE(watcher_.receiving()) << "e came 3.9 s ago";
     EXPECT_EQ(calls, 3);
     scheduler_.advance(Seconds(0.1));

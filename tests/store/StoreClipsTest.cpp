@@ -32,18 +32,18 @@ protected:
 };
 
 TEST_F(StoreClips, OperationsSaveAndNotifyOnlyChanges) {
-    const Told told(store_.get(), &Store::clipsChanged);
+    const SignalCount emitted(store_.get(), &Store::clipsChanged);
     store_->addClip(u" \n"_s);
     store_->togglePin(QUuid::createUuid());
     store_->deleteClip(QUuid::createUuid());
-    EXPECT_EQ(told.count(), 0);
+    EXPECT_EQ(emitted.count(), 0);
     expectNoSave();
 
     const QUuid a = add(u"a"_s);
     const QUuid b = add(u"b"_s);
     store_->togglePin(a);
     store_->deleteClip(b);
-    EXPECT_EQ(told.count(), 4);
+    EXPECT_EQ(emitted.count(), 4);
     settle();
     EXPECT_EQ(saved().clips, store_->clips());
     EXPECT_TRUE(saved().clips[0].pinned);
@@ -235,10 +235,10 @@ TEST_F(StoreClips, SnippetsAreSavedIfTheyChange) {
         start();
         ASSERT_TRUE(writeFileAtomically(store_->imagePath(b.imageFileName), "picture"));
         settle();
-        const Told told(store_.get(), &Store::snippetsChanged);
+        const SignalCount emitted(store_.get(), &Store::snippetsChanged);
         change();
         const bool changes = titles != u"a b c"_s;
-        EXPECT_EQ(told.count(), changes ? 1 : 0) << what;
+        EXPECT_EQ(emitted.count(), changes ? 1 : 0) << what;
         EXPECT_EQ(scheduler_.pending(), changes && hasImage ? 1 : 0) << "saves of " << what;
         settle();
         QStringList saved;

@@ -11,7 +11,7 @@
 #include "fakes/MemoryPreferences.h"
 #include "store/Store.h"
 #include "store/StoreFile.h"
-#include "support/Told.h"
+#include "support/SignalCount.h"
 
 #include <QDir>
 #include <QTemporaryDir>

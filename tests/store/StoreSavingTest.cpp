@@ -92,14 +92,14 @@ TEST_F(StoreSaving, WritesNothingOnceTheDataIsNotOurs) {
     store_->flush();
     const StoreData before = saved();
     ours = false;
-    QStringList told;
+    QStringList reasons;
     QObject::connect(store_.get(), &Store::saveEnded, store_.get(),
-                     [&](const SaveOutcome& outcome) { told.append(outcome.reason); });
+                     [&](const SaveOutcome& outcome) { reasons.append(outcome.reason); });
     store_->addImageClip(png(Qt::blue));
     store_->clearClips();
     settle();
     settle();
-    EXPECT_EQ(told, QStringList(u"taken over"_s));
+    EXPECT_EQ(reasons, QStringList(u"taken over"_s));
     EXPECT_EQ(saved(), before);
     EXPECT_EQ(imageFiles(), QStringList(before.clips[0].imageFileName));
     EXPECT_EQ(scheduler_.pending(), 0) << "trying again is of no use";
@@ -108,11 +108,11 @@ TEST_F(StoreSaving, WritesNothingOnceTheDataIsNotOurs) {
 TEST_F(StoreSaving, BurstGivesOneWriteOfTheStateAtTheLastSave) {
     start();
     store_->flush();
-    const Told told(store_.get(), &Store::noteChanged);
+    const SignalCount emitted(store_.get(), &Store::noteChanged);
     for (int i = 1; i <= 10; ++i) {
         store_->setNote(QString::number(i));
         store_->setNote(QString::number(i));
-        EXPECT_EQ(told.count(), i);
+        EXPECT_EQ(emitted.count(), i);
         store_->save();
         scheduler_.advance(Seconds(0.1));
         EXPECT_EQ(worker_.pending(), 0) << "written after save " << i;
@@ -283,12 +283,12 @@ TEST_F(StoreSaving, AnUnreadableFileIsSetAsideBeforeItIsReplaced) {
         EXPECT_EQ(QDir(folder()).entryList(QDir::Files), QStringList(u"store.json"_s));
 
         store_->addClip(u"a"_s);
-        QStringList told;
+        QStringList asides;
         QObject::connect(store_.get(), &Store::saveEnded, store_.get(),
-                         [&](const SaveOutcome& outcome) { told.append(outcome.putAside); });
+                         [&](const SaveOutcome& outcome) { asides.append(outcome.putAside); });
         restart();
         EXPECT_EQ(texts(), "a");
-        EXPECT_EQ(told, QStringList(aside));
+        EXPECT_EQ(asides, QStringList(aside));
         EXPECT_EQ(readFile(aside), contents);
         EXPECT_EQ(modeOf(aside), 0600U);
         restart();

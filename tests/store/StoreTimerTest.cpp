@@ -108,7 +108,7 @@ TEST_F(StoreTimer, IsNotRestored) {
 }
 
 TEST_F(StoreTimer, RemindersAreVisibleIfOpenAndNotEmpty) {
-    const Told told(store_.get(), &Store::remindersChanged);
+    const SignalCount emitted(store_.get(), &Store::remindersChanged);
     const QStringList texts = {u"Call the framer"_s, u"Order veneer"_s};
     store_->setReminderOpen(true);
     EXPECT_FALSE(visibleAtChange_) << "there are none";
@@ -127,7 +127,7 @@ TEST_F(StoreTimer, RemindersAreVisibleIfOpenAndNotEmpty) {
     EXPECT_FALSE(store_->reminderVisible());
     EXPECT_TRUE(store_->reminderOpen());
     EXPECT_EQ(changes_, 3);
-    EXPECT_EQ(told.count(), 2) << "of the store that is gone";
+    EXPECT_EQ(emitted.count(), 2) << "of the store that is gone";
 }
 
 TEST_F(StoreTimer, RemindersAreReadAtTheStart) {

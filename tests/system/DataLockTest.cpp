@@ -67,7 +67,7 @@ TEST_F(DataLocks, OfThisMachineAreFreeAfterTheirProcess) {
 
 TEST_F(DataLocks, OfAnotherMachineAreTakenOverOnDemandOnly) {
     if (QSysInfo::machineUniqueId().isEmpty()) {
-        GTEST_SKIP() << "this machine has no name to tell it from others";
+        GTEST_SKIP() << "this machine has no unique ID";
     }
     leave(lockOf(7, "another machine"));
     DataLock lock(path_, data_);
@@ -111,7 +111,7 @@ TEST_F(DataLocks, AreLostIfRemovedUnlessTheDataWereToo) {
     EXPECT_TRUE(QFile::exists(path_));
     ASSERT_TRUE(writeFileAtomically(data_, "{}"));
     ASSERT_TRUE(QFile::remove(path_));
-    EXPECT_FALSE(lock.check()) << "somebody may have taken over and ended";
+    EXPECT_FALSE(lock.check()) << "another process may have taken over and ended";
 }
 
 TEST_F(DataLocks, AreCreatedLaterIfTheyCannotBeAtFirst) {

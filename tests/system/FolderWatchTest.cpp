@@ -29,10 +29,10 @@ void write(const fs::path& path, const char* contents = "something") {
 /// Counts reports.
 class CountedWatch final : public FolderWatch {
 public:
-    Handle watch(const QByteArray& path, std::function<void(const FolderNews&)> tell) override {
-        return watch_.watch(path, [this, tell = std::move(tell)](const FolderNews& news) {
+    Handle watch(const QByteArray& path, std::function<void(const FolderNews&)> report) override {
+        return watch_.watch(path, [this, report = std::move(report)](const FolderNews& news) {
             ++news_;
-            tell(news);
+            report(news);
         });
     }
 
@@ -132,15 +132,15 @@ TEST_F(FolderWatchTest, followsAFolderThatIsCreatedMovedAndReplaced) {
 }
 
 TEST_F(FolderWatchTest, survivesAnOverflowOfTheKernelsQueue) {
-    int most = 0;
-    std::ifstream("/proc/sys/fs/inotify/max_queued_events") >> most;
-    ASSERT_LT(most, 100'000) << "too many for a test";
-    std::vector<FolderNews> told;
+    int max = 0;
+    std::ifstream("/proc/sys/fs/inotify/max_queued_events") >> max;
+    ASSERT_LT(max, 100'000) << "too many for a test";
+    std::vector<FolderNews> news;
     fs::create_directories(downloads_);
     FolderFollower follower(QByteArray::fromStdString(downloads_.string()),
-                            [&](FolderNews news) { told.push_back(std::move(news)); });
+                            [&](FolderNews one) { news.push_back(std::move(one)); });
     follower.proceed();
-    for (int number = 0; number < most + 1000; ++number) {
+    for (int number = 0; number < max + 1000; ++number) {
         write(downloads_ / std::to_string(number));
     }
     write(downloads_ / "empty", "");
@@ -151,12 +151,12 @@ TEST_F(FolderWatchTest, survivesAnOverflowOfTheKernelsQueue) {
 
     FakeFolderWatch watch;
     const ReceivedWatcher watcher(watch, scheduler_, QString());
-    for (const FolderNews& news : told) {
-        watch.tell(news);
+    for (const FolderNews& one : news) {
+        watch.report(one);
     }
     scheduler_.advance(Seconds(1));
-    EXPECT_EQ(watcher.files().size(), most + 1000);
-    EXPECT_GT(watcher.files().last().fileName().toInt(), most) << "in their order";
+    EXPECT_EQ(watcher.files().size(), max + 1000);
+    EXPECT_GT(watcher.files().last().fileName().toInt(), max) << "in their order";
 }
 
 } // namespace

@@ -124,9 +124,9 @@ TEST_F(PreferenceFileTest, WorksWithoutADisk) {
     QFile file(folder_.filePath(u"ravelo"_s));
     ASSERT_TRUE(file.open(QFile::WriteOnly)) << "a file where the folder should be";
     PreferenceFile preferences(path_, services_);
-    QStringList told;
+    QStringList reasons;
     preferences.onSaved = [&](const SaveOutcome& outcome) {
-        told.append(outcome.reason);
+        reasons.append(outcome.reason);
     };
     preferences.set(u"a"_s, 1);
     worker_.drain();
@@ -135,7 +135,7 @@ TEST_F(PreferenceFileTest, WorksWithoutADisk) {
     scheduler_.advance(Seconds(31));
     worker_.drain();
     EXPECT_EQ(contents().simplified(), R"({ "a": 1 })") << "tried again";
-    EXPECT_EQ(told, QStringList({u"Not a directory"_s, QString()}));
+    EXPECT_EQ(reasons, QStringList({u"Not a directory"_s, QString()}));
     scheduler_.advance(Seconds(100));
     EXPECT_EQ(worker_.pending(), 0) << "nothing is left to try";
 }

@@ -39,7 +39,7 @@ TEST(DetachedThreads, doNotWaitForAJobThatHangs) {
         DetachedThreads others(1);
         const Handle other =
             others.run([open, ended] { ++*ended, open.wait(); }, [&] { ends += 'o'; });
-        EXPECT_TRUE(eventually([&] { return *ended == 2; })) << "left out in a pool of its own";
+        EXPECT_TRUE(eventually([&] { return *ended == 2; })) << "not run in a separate pool";
         const Handle tooMany = others.run([ended] { ++*ended; }, [&] { ends += 't'; });
         EXPECT_TRUE(eventually([&] { return ends == "qmmmmmt"; })) << ends;
         EXPECT_EQ(*ended, 2) << "two jobs in a pool of one";

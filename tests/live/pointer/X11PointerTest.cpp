@@ -38,8 +38,8 @@ TEST_F(X11PointerTest, knowsWhereItIsAndWhetherAButtonIsDown) {
 struct ActionCase {
     const char* name;
     QStringList action;
-    QStringList told; ///< The callbacks: "press", "wake".
-    bool buttonDown;  ///< At the next look, when it is long over.
+    QStringList calls; ///< The callbacks: "press", "wake".
+    bool buttonDown;   ///< At the next look, when it is long over.
 
     friend void PrintTo(const ActionCase& tested, std::ostream* out) { *out << tested.name; }
 };
@@ -47,18 +47,19 @@ struct ActionCase {
 class PointerAction : public X11PointerTest, public testing::WithParamInterface<ActionCase> {};
 
 TEST_P(PointerAction, isReportedAsPressOrActivity) {
-    QStringList told;
-    const Handle pressing = pointer().onPress([&] { told.append(u"press"_s); });
-    const Handle waking = pointer().onNextActivity([&] { told.append(u"wake"_s); });
+    QStringList calls;
+    const Handle pressing = pointer().onPress([&] { calls.append(u"press"_s); });
+    const Handle waking = pointer().onNextActivity([&] { calls.append(u"wake"_s); });
     xdotool(GetParam().action);
-    EXPECT_TRUE(eventually([&] { return told == GetParam().told; })) << qPrintable(told.join(u' '));
+    EXPECT_TRUE(eventually([&] { return calls == GetParam().calls; }))
+        << qPrintable(calls.join(u' '));
 
     xdotool({u"click"_s, u"3"_s}); // Comes after all other results of the action.
-    const QStringList expected = GetParam().told + (GetParam().told.contains(u"wake"_s)
-                                                        ? QStringList{u"press"_s}
-                                                        : QStringList{u"press"_s, u"wake"_s});
-    EXPECT_TRUE(eventually([&] { return told.size() >= expected.size(); }));
-    EXPECT_EQ(told, expected);
+    const QStringList expected = GetParam().calls + (GetParam().calls.contains(u"wake"_s)
+                                                         ? QStringList{u"press"_s}
+                                                         : QStringList{u"press"_s, u"wake"_s});
+    EXPECT_TRUE(eventually([&] { return calls.size() >= expected.size(); }));
+    EXPECT_EQ(calls, expected);
 }
 
 TEST_P(PointerAction, countsAsAPressUntilTheNextQuery) {

@@ -34,9 +34,9 @@ public:
     }
 
     QByteArray waitForAnswer() {
-        QByteArray told;
-        EXPECT_TRUE(eventually([&] { return !(told = answer()).isEmpty(); })) << "no answer";
-        return told;
+        QByteArray name;
+        EXPECT_TRUE(eventually([&] { return !(name = answer()).isEmpty(); })) << "no answer";
+        return name;
     }
 
     /// The type and the atoms of a property.
@@ -136,7 +136,7 @@ TEST_F(SaveRequestsTest, isTheManagerOnlyIfThereIsNoOther) {
                 asker.ask("TARGETS");
             }
             return answer == "ANSWER";
-        })) << "nobody is the manager";
+        })) << "there is no manager";
         other.take();
     }
 }

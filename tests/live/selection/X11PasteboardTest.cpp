@@ -276,7 +276,7 @@ TEST_F(X11PasteboardTest, distinguishesProgramsFromManagers) {
     const auto second = read(plainTextType);
     EXPECT_NE(first.owner.id, second.owner.id);
     EXPECT_EQ(second.changeCount, board().changeCount());
-    EXPECT_FALSE(second.lastEnd) << "nobody has ended";
+    EXPECT_FALSE(second.lastEnd) << "no owner has ended";
 
     program.copy("CLIPBOARD_MANAGER", XCB_CURRENT_TIME);
     program.copy("CLIPBOARD", XCB_CURRENT_TIME);

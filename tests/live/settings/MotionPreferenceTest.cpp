@@ -28,7 +28,7 @@ TEST(MotionPreference, followsTheDesktopsSettingsManager) {
                              "_XSETTINGS_SETTINGS");
     const X11IconPreference icons(settings);
     X11MotionPreference motion(settings);
-    EXPECT_FALSE(motion.isReduced()) << "nobody has asked for it";
+    EXPECT_FALSE(motion.isReduced()) << "not requested";
     int calls = 0;
     const Handle listening = motion.onChange([&] { ++calls; });
 

@@ -42,7 +42,7 @@ TEST_F(TooLargeRow, isBelowThePinnedClipsWithoutADigit) {
 
 TEST_F(TooLargeRow, isRemovedByItsButtonByDeleteAndOnClosing) {
     tab().showTooLarge(largeText);
-    EXPECT_EQ(toast(), QString()) << "nobody would see it";
+    EXPECT_EQ(toast(), QString()) << "it would not be seen";
     openSearch();
     press(Qt::Key_Down);
     press(Qt::Key_Return);

@@ -57,7 +57,7 @@ TEST_F(Panel, updatesDatesWhileItIsOpen) {
     EXPECT_EQ(age(), u"1 hr. ago"_s);
     close();
     world.scheduler.advance(Seconds(10));
-    EXPECT_EQ(world.scheduler.pending(), atRest) << "nobody sees them";
+    EXPECT_EQ(world.scheduler.pending(), atRest) << "they are not visible";
 }
 
 TEST_F(Panel, showsPlanUsage) {

@@ -295,7 +295,7 @@ TEST_F(ShelfTab, enablesItsButtonForDevicesThatAppearLater) {
     close();
     const int looks = world.devices.looks;
     world.scheduler.advance(Seconds(60));
-    EXPECT_EQ(world.devices.looks, looks) << "nobody sees it";
+    EXPECT_EQ(world.devices.looks, looks) << "it is not visible";
 }
 
 TEST_F(ShelfTab, reportsThatAFolderCannotBeSent) {
@@ -320,7 +320,7 @@ TEST_F(ShelfTab, closesForTheSendingProgram) {
 TEST_F(ShelfTab, listsAndParksReceivedFiles) {
     open();
     const auto receive = [this](const QByteArray& name) {
-        world.downloads.tell({{}, {{FolderChange::Kind::written, name}}});
+        world.downloads.report({{}, {{FolderChange::Kind::written, name}}});
     };
     receive("first.pdf");
     world.scheduler.advance(Seconds(300));
@@ -350,7 +350,7 @@ TEST_F(ShelfTab, createsVisibleTilesAndRowsOnly) {
     for (int i = 0; i < 10000; ++i) {
         listing.entries.append({QByteArray::number(i) + ".pdf", false});
     }
-    world.downloads.tell({listing, {}});
+    world.downloads.report({listing, {}});
     openByKey();
     EXPECT_EQ(view.features().shelf->received()->rowCount(), 10000);
     EXPECT_LT(view.features().shelf->parked()->tiles()->rowCount(), 48);
