@@ -2,8 +2,8 @@
 
 #include "clipboard/ClipboardManager.h"
 
-#include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/FakeServices.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
@@ -11,9 +11,8 @@
 #include "fakes/MemoryPreferences.h"
 #include "store/Store.h"
 #include "support/TestFiles.h"
+#include "support/TestPictures.h"
 
-#include <QBuffer>
-#include <QImage>
 #include <QTemporaryDir>
 
 #include <functional>
@@ -22,16 +21,6 @@
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
-
-inline QByteArray picture(const char* format) {
-    QImage image(3, 2, QImage::Format_ARGB32);
-    image.fill(Qt::red);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
-    return bytes;
-}
 
 inline PasteboardEntry text(const char* utf8) {
     return {plainTextType, utf8};

@@ -66,16 +66,9 @@ TEST_F(Clipboard, anImageReadFromAFileIsNotOfferedAgain) {
     EXPECT_TRUE(pasteboard.contents().isEmpty());
 }
 
-/// 33 million pixels, black.
-QByteArray widePicture(const char* format) {
-    QImage image(8192, 4097, QImage::Format_Mono);
-    image.fill(0);
-    QBuffer buffer;
-    image.save(&buffer, format);
-    return buffer.data();
-}
+constexpr QSize wide(8192, 4097); ///< More pixels than are kept.
 
-const QList<PasteboardEntry> widePng{{u"image/png"_s, widePicture("PNG")}};
+const QList<PasteboardEntry> widePng{{u"image/png"_s, emptyPicture("PNG", wide)}};
 
 TEST(SaveRequest, keepsAnEndingProgramWaitingUntilItsCopyIsRead) {
     struct Case {
@@ -165,7 +158,10 @@ TEST(TooLargeCopy, isReportedOnce) {
     const Case cases[] = {
         {"text", {refusedText}, largeText, {{Kind::text, 9'000'000}}},
         {"image", {refusedPng}, largePng, {{Kind::image, 70'000'000}}},
-        {"pixels", {{u"image/bmp"_s, widePicture("BMP")}}, {}, {{Kind::pixels, 8192 * 4097}}},
+        {"pixels",
+         {{u"image/bmp"_s, emptyPicture("BMP", wide)}},
+         {},
+         {{Kind::pixels, 8192 * 4097}}},
         {"pixels of a PNG", widePng, {}, {{Kind::pixels, 8192 * 4097}}},
         {"another form", {refusedPng, {u"image/bmp"_s, picture("bmp")}}, largePng, {}, 1},
         {"an image instead", {refusedText, png.front()}, largeText, {}, 1},
@@ -195,8 +191,8 @@ TEST(TooLargeCopy, isReportedOnceForAFileToo) {
     const Case cases[] = {
         {"bytes", picture("png"), overLimit, {{TooLarge::Kind::image, overLimit}}},
         {"pixels",
-         widePicture("BMP"),
-         widePicture("BMP").size(),
+         emptyPicture("BMP", wide),
+         emptyPicture("BMP", wide).size(),
          {{TooLarge::Kind::pixels, 8192 * 4097}}},
         {"no picture", "text", overLimit, {}}};
     for (const Case& c : cases) {

@@ -2,10 +2,9 @@
 
 #include "platform/system/DecoderConnection.h"
 #include "decode/Packets.h"
+#include "support/TestPictures.h"
 
-#include <QBuffer>
 #include <QDir>
-#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -124,11 +123,7 @@ TEST_F(Liar, LeavesNoDescriptorBehind) {
 TEST(Decoder, IsKilledAtTheTimeLimit) {
     auto decoder = DecoderConnection::start(RAVELO_DECODE);
     ASSERT_TRUE(decoder && decoder->isReady());
-    QImage image(4000, 4000, QImage::Format_RGB32);
-    image.fill(Qt::green);
-    QBuffer file;
-    ASSERT_TRUE(image.save(&file, "bmp"));
-    const Descriptor large = sealedMemory(file.data());
+    const Descriptor large = sealedMemory(picture("bmp", Qt::green, {4000, 4000}));
     ASSERT_TRUE(decoder->send({Kind::png, 0, 0, 0, 20}, large));
     EXPECT_FALSE(decoder->receive(std::chrono::seconds(20))) << "it took as long as it liked";
     EXPECT_FALSE(decoder->send({Kind::probe, 0, 0, 0, 0}, large)) << "it is still there";

@@ -25,9 +25,6 @@ inline constexpr QSize size(64, 32);
 /// A valid picture of the format, of that size and all green.
 [[nodiscard]] QByteArray picture(const QByteArray& format);
 
-/// A PNG of this size that is all one colour: hardly any bytes.
-[[nodiscard]] QByteArray emptyPng(QSize pixels);
-
 /// The picture with its bytes cut off, flipped, overwritten, or with huge numbers in it.
 [[nodiscard]] QByteArray broken(const QByteArray& picture, quint32 seed);
 

@@ -1,5 +1,5 @@
 #include "settings/AppSettings.h"
-#include "fakes/FakeLoginItem.h"
+#include "fakes/FakeServices.h"
 #include "fakes/MemoryPreferences.h"
 #include "support/RunTests.h"
 #include "support/SignalCount.h"

@@ -1,11 +1,11 @@
 #include "store/PasteboardImage.h"
-#include "TestImages.h"
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/MemoryPasteboard.h"
 #include "store/CopiedFile.h"
 #include "support/TestFiles.h"
+#include "support/TestPictures.h"
 
 #include <QTemporaryDir>
 #include <QUrl>

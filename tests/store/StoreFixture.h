@@ -1,9 +1,8 @@
 #pragma once
 
-#include "TestImages.h"
 #include "base/Files.h"
-#include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/FakeServices.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
@@ -12,6 +11,7 @@
 #include "store/Store.h"
 #include "store/StoreFile.h"
 #include "support/SignalCount.h"
+#include "support/TestPictures.h"
 
 #include <QDir>
 #include <QTemporaryDir>
