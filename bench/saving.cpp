@@ -2,8 +2,8 @@
 // line each: milliseconds of the main thread from a copy until the save is queued, and until the
 // file exists, without the debounce of 0.4 s.
 
-#include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/FakeServices.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/MemoryPasteboard.h"
 #include "fakes/MemoryPreferences.h"

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Descriptor.h"
 #include "decode/Protocol.h"
 
 #include <QByteArray>
@@ -10,14 +11,15 @@ namespace ravelo::decode {
 
 struct Order {
     Request request;
-    int file; ///< The picture: to be closed.
+    Descriptor picture;
 };
 
 /// Waits for the next request; nothing if the other side has closed or after `idleSeconds`.
 [[nodiscard]] std::optional<Order> nextOrder();
 
-/// All bytes of the picture; empty if they could not be read or are too many. Closes the file.
-[[nodiscard]] QByteArray takeBytes(int file);
+/// All bytes of the file; empty if they could not be read or are too many. A copy, because the file
+/// may be truncated meanwhile.
+[[nodiscard]] QByteArray readAll(const Descriptor& file);
 
 /// `contents` is sent in a sealed memfd. False if the other side has closed.
 bool send(Reply reply, QByteArrayView contents);

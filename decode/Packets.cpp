@@ -2,6 +2,7 @@
 
 #include <array>
 #include <cstring>
+#include <utility>
 
 #include <sys/mman.h>
 #include <sys/socket.h>
@@ -33,28 +34,27 @@ bool writeAll(int file, QByteArrayView bytes) {
 
 } // namespace
 
-int sealedMemory(QByteArrayView bytes) {
-    const int file = memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING);
-    if (file >= 0 && (!writeAll(file, bytes) || fcntl(file, F_ADD_SEALS, allSeals) != 0)) {
-        close(file);
-        return -1;
-    }
-    return file;
+Descriptor sealedMemory(QByteArrayView bytes) {
+    Descriptor file(memfd_create("picture", MFD_CLOEXEC | MFD_ALLOW_SEALING));
+    const bool sealed =
+        file && writeAll(file.number(), bytes) && fcntl(file.number(), F_ADD_SEALS, allSeals) == 0;
+    return sealed ? std::move(file) : Descriptor();
 }
 
-bool sendPacket(int socket, const void* packet, size_t size, int file) {
+bool sendPacket(int socket, const void* packet, size_t size, const Descriptor& file) {
     Ancillary ancillary{};
     iovec part{const_cast<void*>(packet), size};
     msghdr message{};
     message.msg_iov = &part;
     message.msg_iovlen = 1;
-    if (file >= 0) {
+    if (file) {
+        const int number = file.number();
         message.msg_control = ancillary.room.data();
         message.msg_controllen = ancillary.room.size();
         ancillary.header.cmsg_level = SOL_SOCKET;
         ancillary.header.cmsg_type = SCM_RIGHTS;
         ancillary.header.cmsg_len = oneDescriptor;
-        std::memcpy(CMSG_DATA(&ancillary.header), &file, sizeof(file));
+        std::memcpy(CMSG_DATA(&ancillary.header), &number, sizeof(number));
     }
     return sendmsg(socket, &message, MSG_NOSIGNAL) == static_cast<ssize_t>(size);
 }
@@ -75,7 +75,9 @@ Received receivePacket(int socket, void* packet, size_t size, int flags) {
     // An empty packet may have brought a descriptor, too.
     const cmsghdr* const header = CMSG_FIRSTHDR(&message);
     if (header != nullptr && header->cmsg_type == SCM_RIGHTS && header->cmsg_len == oneDescriptor) {
-        std::memcpy(&received.file, CMSG_DATA(header), sizeof(received.file));
+        int number = -1;
+        std::memcpy(&number, CMSG_DATA(header), sizeof(number));
+        received.file = Descriptor(number);
     }
     received.whole =
         count == static_cast<ssize_t>(size) && (message.msg_flags & (MSG_TRUNC | MSG_CTRUNC)) == 0;

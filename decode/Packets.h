@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Descriptor.h"
+
 #include <QByteArrayView>
 
 #include <cstddef>
@@ -11,15 +13,15 @@ namespace ravelo::decode {
 
 inline constexpr int allSeals = F_SEAL_SEAL | F_SEAL_SHRINK | F_SEAL_GROW | F_SEAL_WRITE;
 
-/// A sealed memfd with these bytes, the caller's to close; -1 if there is none to be had.
-[[nodiscard]] int sealedMemory(QByteArrayView bytes);
+/// A sealed memfd with these bytes; none if it cannot be made.
+[[nodiscard]] Descriptor sealedMemory(QByteArrayView bytes);
 
-/// Sends one packet, with a descriptor unless that is -1. False if the other side has gone.
-[[nodiscard]] bool sendPacket(int socket, const void* packet, size_t size, int file);
+/// Sends one packet, with the descriptor if there is one. False if the other side has gone.
+[[nodiscard]] bool sendPacket(int socket, const void* packet, size_t size, const Descriptor& file);
 
 struct Received {
     bool whole = false; ///< The packet has exactly the expected size and at most one descriptor.
-    int file = -1;      ///< The caller's to close, whole or not.
+    Descriptor file;    ///< Whole or not.
 };
 
 /// Receives one packet of `size` bytes, with `flags` as for recvmsg(2).

@@ -9,6 +9,7 @@
 #include <cstdlib>
 #include <ctime>
 #include <thread>
+#include <utility>
 
 #include <malloc.h>
 #include <sys/resource.h>
@@ -62,9 +63,10 @@ bool hasWorkedLong() {
 }
 
 /// Whether to continue.
-bool carryOut(const Order& order) {
+bool carryOut(Order& order) {
     limitTime(order.request.milliseconds); // Of reading, too: a file's mount may die meanwhile.
-    const Picture picture = decodePicture(order.request, takeBytes(order.file));
+    const QByteArray bytes = readAll(std::exchange(order.picture, {})); // Closed before decoding.
+    const Picture picture = decodePicture(order.request, bytes);
     Reply reply{picture.status, picture.size.width(), picture.size.height(),
                 hasWorkedLong() ? 1U : 0U, 0};
     const QByteArrayView contents =

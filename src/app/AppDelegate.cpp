@@ -59,14 +59,14 @@ void quitLater() {
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
 }
 
-/// What a first start does must not be done again if no more than the preferences were lost.
+/// Losing the preferences does not make it a first start.
 void rememberFirstStart(Preferences& preferences) {
     for (const auto key : {"onboarded"_L1, "didSetupLogin"_L1, "seededSiteLinksV1"_L1}) {
         preferences.set(key, true);
     }
 }
 
-// Qt ends the process by exit() when the display server goes, which is how many sessions end.
+// Qt calls exit() when the display server ends, as at the end of many sessions.
 AppDelegate* flushedAtExit = nullptr;
 
 void flushAtExit() {
@@ -99,14 +99,14 @@ TooLargeCopy::Measure measure(TooLarge::Kind kind) {
     return TooLargeCopy::Measure::pixelsOfImage;
 }
 
-/// Made at the first call, which must pass the packages.
+/// Created by the first call, which must pass the packages.
 Updater& updater(std::unique_ptr<PackageUpdates> packages = {}) {
     return Updater::shared([&packages] {
         return std::make_unique<Updater>(std::move(packages), u"" RAVELO_VERSION ""_s);
     });
 }
 
-/// What main() adds to the environment concerns none of these folders.
+/// None of these folders depends on what main() adds to the environment.
 QByteArrayList claudeFolders() {
     return otherClaudeFolders(home(), QProcessEnvironment::systemEnvironment());
 }
@@ -261,12 +261,12 @@ void AppDelegate::wire() {
     QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, notch_.get(),
                      [this] { flush(); });
     QObject::connect(qGuiApp, &QCoreApplication::aboutToQuit, notch_.get(), [this] {
-        view_->features().snippets.editor()->cancel(); // Leaves no image that nothing refers to.
+        view_->features().snippets.editor()->cancel(); // Deletes an image that nothing refers to.
         flush();
     });
 }
 
-/// What the user chose counts from now on, without a restart.
+/// Settings apply at once, without a restart.
 void AppDelegate::wireSettings() {
     const auto follow = [this] {
         store_->setHistoryRules({settings_->newestFirst() ? HistoryRules::Order::newerFirst
@@ -286,8 +286,7 @@ void AppDelegate::wireSettings() {
     QObject::connect(&liveContext(), &LiveContext::changed, notch_.get(), look);
 }
 
-/// What the panel says about saving, about files that could not be read and about copies that are
-/// too large.
+/// Messages about saving, unreadable files, and copies that are too large.
 void AppDelegate::wireNotices() {
     const auto follow = [this](Notices::Source source) {
         return [this, source](const SaveOutcome& outcome) {

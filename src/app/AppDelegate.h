@@ -30,7 +30,7 @@ class StatusItemController;
 class Store;
 class UpdateWindow;
 
-/// Makes the parts of the program in their order and wires them. Everything lives until the
+/// Creates the parts of the program in order and connects them. Everything lives until the
 /// process ends. Main thread only.
 class AppDelegate {
 public:
@@ -39,20 +39,20 @@ public:
     AppDelegate(const AppDelegate&) = delete;
     AppDelegate& operator=(const AppDelegate&) = delete;
 
-    /// Whether a process of this user had the data in use at its last start and still lives. Cheap
-    /// enough for each start; before or after the application object.
+    /// Whether a process of this user may be using the data. Cheap; needs no application object.
     [[nodiscard]] static bool mayRunAlready();
 
     /// An error if another session of this user, or one on another machine, has the data in use.
     [[nodiscard]] Result<void> applicationDidFinishLaunching(DataLock::Claim claim);
 
-    /// What another start of the program asked for; see Commands. After launching.
+    /// Answers a request of another instance; see Commands. After launching.
     [[nodiscard]] Answer answer(const QStringList& request, const QByteArray& activationToken);
 
     void openSettings();
     void showSetup();
 
-    /// Brings to disk what is not there yet and waits for it. Safe to call again, and from atexit.
+    /// Writes everything that is not on disk yet and waits for it. Can be called again, and from
+    /// atexit.
     void flush();
 
 private:

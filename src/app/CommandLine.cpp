@@ -69,7 +69,7 @@ Result<Command> parseCommandLine(const QList<QByteArray>& arguments) {
         return Command{Kind::ask, {u"show"_s}, {}, IfNoneRuns::start};
     }
     const QByteArray& first = arguments.first();
-    // So a session manager starts a program that ran when the session was saved (XSMP).
+    // A session manager (XSMP) restarts the programs of a saved session like this.
     if (first == "-session" && arguments.size() == 2) {
         return Command{Kind::ask, {u"restore"_s}, {}, IfNoneRuns::start};
     }
@@ -90,50 +90,51 @@ QString helpText() {
 Clipboard history, snippets and a quick note in a panel at the top centre of the
 screen. Move the pointer there to open it; click elsewhere to close it.
 
-  --toggle       open the panel, or close it; starts Ravelo where it is not running
-  --settings     open the settings; starts Ravelo where it is not running
-  --setup        go through the first-run setup again; starts it likewise
-  --updates      look for a newer version; starts it likewise
-  --take-over    start though another machine that shares this home, or another
+  --toggle       open or close the panel; starts Ravelo if needed
+  --settings     show the settings; starts Ravelo if needed
+  --setup        show the first-run setup; starts Ravelo if needed
+  --updates      check for a newer version; starts Ravelo if needed
+  --take-over    start even if another machine that shares this home, or another
                  session, seems to use the data; a Ravelo there stops saving
-  --quit         end the running Ravelo
-  --status       one line on Claude Code: model, context used / limit, peak hours,
-                 and how much of the plan's five-hour and weekly windows is used;
-                 where no Ravelo runs, as far as files tell it
-  --status=json  the same as one object: model, used and limit in tokens,
-                 lastActivity, peak, isPeak, session and week. These two are null
-                 or have pct, from 0 to 100, and resets; dates are ISO 8601 or null
-  --store-usage  keep what standard input tells of the plan's usage, in the form in
-                 which Claude Code tells its status line
+  --quit         quit the running Ravelo
+  --status       print one line about Claude Code: model, context used / limit,
+                 peak hours, and how much of the plan's five-hour and weekly
+                 windows is used; if Ravelo is not running, only as in files
+  --status=json  the same as one JSON object: model, used and limit in tokens,
+                 lastActivity, peak, isPeak, session and week. Session and week
+                 are null or have pct (0 to 100) and resets; dates are ISO 8601
+                 or null
+  --store-usage  read the input of a Claude Code status line from standard input
+                 and store the plan's usage
   -h, --help     show this help
   -v, --version  show the version
 
-Started a second time, Ravelo opens the panel of the one that is running.
+If Ravelo is already running, starting it again opens the panel.
 
-  FILE...        park the files, or file:// addresses, on the shelf and show it;
-                 starts Ravelo where it is not running. Names that begin with a
-                 dash go after --, and so do files called "timer" or "shelf"
+  FILE...        park the files, or file:// URLs, on the shelf and show it;
+                 starts Ravelo if needed. Put names that begin with a dash, and
+                 files called "timer" or "shelf", after --
 
-The rest speaks to the Ravelo that is running:
+These commands need a running Ravelo:
 
-  timer start    start the focus timer in place of the one that runs; MINUTES may
-                 be a number like 0.5
-  timer stop     stop it
-  timer status   one line, like "24:59 Deep work", or "no timer"; with --json one
-                 object: running, label, remaining and duration in seconds, ends
-                 (ISO 8601, UTC), text. Where none runs ends is null, the texts
-                 are empty and the numbers 0
-  shelf list     the paths of the parked files, a line each; with -0 or --null each
-                 ends with a NUL byte; with --json one object: files, an array of
-                 objects with path, stack (counted from 0) and selected, and
+  timer start    start a focus timer, replacing a running one; MINUTES can be a
+                 number like 0.5
+  timer stop     stop the timer
+  timer status   print one line, like "24:59 Deep work", or "no timer"; with
+                 --json one object: running, label, remaining and duration in
+                 seconds, ends (ISO 8601, UTC), text. Without a timer, ends is
+                 null, the texts are empty and the numbers are 0
+  shelf list     print the paths of the parked files, one per line; with -0 or
+                 --null NUL-terminated; with --json one object: files, an array
+                 of objects with path, stack (counted from 0) and selected, and
                  with uri if the path is not UTF-8
 
-The exit status is 0 where it is done, 1 where it could not be done or no Ravelo
-is running, 2 where the command makes no sense.
+The exit status is 0 on success, 1 on failure or if Ravelo is not running, and 2
+for an invalid command.
 
-It needs an X11 session. In a Wayland session it runs through XWayland, with less:
-the panel opens only under a pointer or a drag on its own handle and closes when
-the pointer leaves it, and the compositor may give it no keyboard to type with.
+Ravelo needs an X11 session. In a Wayland session it runs through XWayland, with
+limitations: the panel opens only if the pointer or a drag is on its own handle,
+closes when the pointer leaves it, and may not get the keyboard.
 )"_s;
 }
 

@@ -8,7 +8,7 @@
 
 namespace ravelo {
 
-/// What the user asked for at the command line.
+/// A parsed command line.
 struct Command {
     enum class Kind { showHelp, showVersion, storeUsage, ask };
     /// What to do if no Ravelo runs. `start` alone completes the request; what is asked
@@ -16,7 +16,7 @@ struct Command {
     enum class IfNoneRuns { fail, start, startAndAsk, readFiles };
 
     Kind kind = Kind::ask;
-    QStringList request;     ///< As Commands has it.
+    QStringList request;     ///< For Commands.
     QList<QByteArray> files; ///< To be resolved and added to the request.
     IfNoneRuns ifNoneRuns = IfNoneRuns::fail;
     DataLock::Claim claim = DataLock::Claim::ifFree; ///< If it starts.
@@ -24,7 +24,7 @@ struct Command {
     friend bool operator==(const Command&, const Command&) = default;
 };
 
-/// `arguments` without the program's own name. An error names what makes no sense.
+/// `arguments` are without the program's name. An error names the invalid argument.
 [[nodiscard]] Result<Command> parseCommandLine(const QList<QByteArray>& arguments);
 
 [[nodiscard]] QString helpText();

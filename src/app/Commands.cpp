@@ -30,7 +30,7 @@ using Services = Commands::Services;
 
 constexpr qsizetype maxFiles = 1000; ///< More on the shelf at once is a mistake.
 
-// What may follow the words of a command.
+// Options of the commands.
 
 Result<void> nothing(const QStringList& arguments) {
     return arguments.isEmpty() ? Result<void>()
@@ -69,7 +69,7 @@ Result<void> lengthAndLabel(const QStringList& arguments) {
                          arguments.front() + u'"');
 }
 
-// What the commands do.
+// The commands.
 
 /// `arguments` are the words after those of the command.
 struct Call {
@@ -87,7 +87,7 @@ Answer show(const Call& call) {
     return {};
 }
 
-/// The desktop session that starts this program again has nothing to ask of one that runs already.
+/// By a session manager, while this program is running already.
 Answer restore(const Call& /*call*/) {
     return {};
 }
@@ -124,7 +124,7 @@ Answer open(const Call& call) {
         const auto path = absolutePath(file.toUtf8());
         path ? paths.append(*path) : errors.append(path.error().message);
     }
-    paths.removeDuplicates(); // Named twice, by a pattern and by hand, it is meant once.
+    paths.removeDuplicates(); // A pattern and a name may match the same file.
     if (!paths.isEmpty()) {
         QList<QUrl> urls;
         std::ranges::transform(paths, std::back_inserter(urls), QUrl::fromLocalFile);
@@ -144,7 +144,7 @@ Answer stopTimer(const Call& call) {
     return {};
 }
 
-/// A label in one line, without what would make a terminal do something.
+/// A label in one line, without control characters.
 QString harmless(QString label) {
     const auto isControl = [](QChar c) {
         return c.category() == QChar::Other_Control;
@@ -182,7 +182,7 @@ Answer timerStatus(const Call& call) {
     return {0, text.toUtf8() + '\n', {}};
 }
 
-/// A path that is no UTF-8 is no text either: "uri" has it whole.
+/// A path that is not UTF-8 is replaced in part; "uri" is exact.
 QJsonObject described(const QUrl& url) {
     const QByteArray path = filePath(url);
     QJsonObject file{{u"path"_s, QString::fromUtf8(path)}};

@@ -15,10 +15,9 @@ class PlanUsage;
 class Scheduler;
 class Store;
 
-/// What another instance can ask the running program for. A request is the words of the
-/// command line after the program's name, but for these: "show", "restore", "toggle", "settings",
-/// "setup", "updates", "quit", "status", and "open" with the absolute paths or file URLs of what to
-/// park. Main thread.
+/// Answers requests of other instances. A request is the words of the command line after the
+/// program's name, or one of "show", "restore", "toggle", "settings", "setup", "updates", "quit",
+/// "status", and "open" with the absolute paths or file URLs of files to park. Main thread.
 class Commands {
 public:
     struct Services {

@@ -32,7 +32,7 @@ QByteArray escaped(const QByteArray& bytes) {
     return text;
 }
 
-/// How many bytes the character at the beginning has; 0 if they are no UTF-8.
+/// The length in bytes of the first character; 0 if it is not UTF-8.
 qsizetype lengthOfFirst(QByteArrayView text) {
     constexpr qsizetype longest = 4;
     for (qsizetype length = 1; length <= std::min(longest, text.size()); ++length) {

@@ -18,8 +18,8 @@ bool isUrl(const QByteArray& name) {
     return name.startsWith("file:/");
 }
 
-/// The bytes of the path: a QUrl would replace those that are no UTF-8. Nothing if the file is
-/// another machine's.
+/// The bytes of the path, of which a QUrl would replace those that are not UTF-8. Nothing if the
+/// file is on another machine.
 std::optional<QByteArray> pathOfUrl(const QByteArray& url) {
     QByteArray path = url.mid(url.indexOf(':') + 1);
     if (path.startsWith("//")) {
@@ -40,7 +40,7 @@ tl::unexpected<Error> refused(const char* why, const QByteArray& name) {
                    (shown.size() > maxShown ? shown.first(maxShown) + u'…' : shown));
 }
 
-/// `shown` is the name that the user gave.
+/// `shown` is the name as the user typed it.
 Result<QString> toPath(const QByteArray& name, const QByteArray& shown) {
     const std::optional<QByteArray> path = isUrl(name) ? pathOfUrl(name) : name;
     if (!path || !path->startsWith('/') || path->contains('\0')) {
@@ -71,15 +71,14 @@ Result<QString> existingFile(const QByteArray& name, const QByteArray& folder) {
     if (name.isEmpty() || real.isEmpty()) {
         return refused("no such file", name);
     }
-    // Short, so that a file is the same however it was named; but ".." may lead elsewhere behind a
-    // symbolic link.
+    // Normalized, so that a file has one path; but ".." after a symbolic link may lead elsewhere.
     const QString clean = QDir::cleanPath(*given);
     return QFileInfo(clean).canonicalFilePath() == real ? clean : real;
 }
 
 FoundFiles findFiles(const QList<QByteArray>& names) {
     std::error_code error;
-    const QByteArray folder(std::filesystem::current_path(error).c_str()); // Qt's would be a text.
+    const QByteArray folder(std::filesystem::current_path(error).c_str()); // Qt's is text.
     FoundFiles found;
     for (const QByteArray& name : names) {
         if (const auto path = existingFile(name, folder)) {

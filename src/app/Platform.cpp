@@ -44,10 +44,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Room for two looks at the shelf and what a dead mount has left of earlier ones.
+/// Enough for two checks of the shelf and threads of earlier ones that hang on dead mounts.
 constexpr int maxFileJobs = 24;
 
-/// Someone may copy a few files in a row; each holds a thread for good if its mount is dead.
+/// Each copied file on a dead mount blocks a thread for ever.
 constexpr int maxCopiedFiles = 4;
 
 QString configFolder() {

@@ -50,12 +50,12 @@ struct Platform {
     /// Kinds of display server.
     enum class Display { x11 };
 
-    /// Which display server to use: what RAVELO_PLATFORM names, or else what there is. The error is
-    /// for the user. Before the application object.
+    /// The display server in RAVELO_PLATFORM, or else the available one. The error is for the user.
+    /// Call before the application object is created.
     [[nodiscard]] static Result<Display> choose();
 
-    /// Sets the environment that Qt reads when the application object is made. Dropping the handle
-    /// after that restores what the programs that we start must not inherit.
+    /// Sets environment variables that Qt reads when the application object is created. Drop the
+    /// handle after that: programs that we start must not inherit them.
     [[nodiscard]] static Handle prepareApplication(Display display);
 
     /// Connects to everything. `environment` is passed to the user's own programs. The error is for
@@ -64,11 +64,11 @@ struct Platform {
                                                const QProcessEnvironment& environment,
                                                HoverTick::Rest rest = HoverTick::Rest::whenStill);
 
-    /// Where the data are, and the file of their lock.
+    /// The data folder and the lock file.
     [[nodiscard]] static QString dataFolder();
     [[nodiscard]] static QString lockFile();
 
-    /// For data and preferences: an error once another process has the data. Any thread.
+    /// For data and preferences: an error once another process uses the data. Any thread.
     [[nodiscard]] std::function<Result<void>()> mayWrite() const;
 
     Platform();

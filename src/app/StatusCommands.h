@@ -5,13 +5,13 @@
 
 #include <QStringList>
 
-// What bars, prompts and Claude Code's own status line call.
+// For bars, prompts and Claude Code's status line.
 
 namespace ravelo {
 
 struct MonitorStatus;
 
-/// One line, or with "--json" one object.
+/// Prints one line, or with "--json" one object.
 [[nodiscard]] Answer statusAnswer(const MonitorStatus& status, Date now,
                                   const QStringList& arguments);
 

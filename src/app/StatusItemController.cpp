@@ -75,7 +75,7 @@ bool StatusItemController::eventFilter(QObject* target, QEvent* event) {
     }
     const QKeySequence pressed(static_cast<QKeyEvent*>(event)->keyCombination());
     if (pressed.isEmpty()) {
-        return false; // Qt has no name for the key: it would be every row's that has none.
+        return false; // Unknown to Qt; it would match every row without a key.
     }
     const auto row = std::ranges::find(menu_, pressed, &StatusItem::Row::keys);
     if (row == menu_.end()) {

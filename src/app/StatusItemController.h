@@ -22,7 +22,7 @@ public:
     struct Services {
         StatusItem& item;
         NotchController& notch;
-        LiveContext& context; ///< Its `onChange` is taken.
+        LiveContext& context; ///< This sets its `onChange`.
         Scheduler& scheduler;
         const AppSettings& settings;
         std::function<void()> checkUpdates;

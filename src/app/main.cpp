@@ -26,19 +26,19 @@ namespace {
 using namespace ravelo;
 using namespace Qt::StringLiterals;
 
-constexpr int nobodyRuns = 255; ///< No status of an answer.
+constexpr int notRunning = 255; ///< Not a status of an answer.
 
-/// What Qt gets to see of the command line: it would mistake files of certain names for options.
+/// The part of the command line for Qt, which would mistake certain file names for options.
 int nameAlone = 1;
 int nameAndSession = 3; ///< With "-session ID", an option of Qt's.
 
-/// The proof that the user started this process, for a window that is to take the keyboard.
+/// Proves that the user started this process, so that its window may get the keyboard.
 QByteArray activationToken() {
     const QByteArray token = qgetenv("XDG_ACTIVATION_TOKEN");
     return token.isEmpty() ? qgetenv("DESKTOP_STARTUP_ID") : token; // X11 has the older one.
 }
 
-/// Names may hold line feeds: what a terminal is to show one name a line has to come apart first.
+/// Split before printing, because names may contain line feeds.
 std::optional<Answer> askForConsole(const QStringList& request) {
     if (request != QStringList{u"shelf"_s, u"list"_s} || !printsToTerminal()) {
         return SingleInstance::ask(request, activationToken());
@@ -50,15 +50,14 @@ std::optional<Answer> askForConsole(const QStringList& request) {
     return answer;
 }
 
-/// The exit status by the answer of the program that is running already, if there is one. Asks in a
-/// process of its own: only the first application object of a process lets Qt Quick speak to screen
-/// readers.
+/// The exit status of the running program's answer, or `notRunning`. Asks in a child process,
+/// because Qt Quick supports screen readers only with the first application object of a process.
 std::optional<int> askElsewhere(const QStringList& request, char** argv) {
     std::signal(SIGCHLD,
                 SIG_DFL); // Our parent may have ignored it, and then waitpid() fails.
     const pid_t child = fork();
     if (child == 0) {
-        int status = nobodyRuns;
+        int status = notRunning;
         {
             const QCoreApplication application(nameAlone, argv);
             if (const auto answer = askForConsole(request)) {
@@ -72,14 +71,14 @@ std::optional<int> askElsewhere(const QStringList& request, char** argv) {
         return std::nullopt;
     }
     if (waitpid(child, &status, 0) != child || !WIFEXITED(status)) {
-        return EXIT_FAILURE; // By SIGPIPE, if the reader has gone.
+        return EXIT_FAILURE; // By SIGPIPE, if there is no reader any more.
     }
-    return WEXITSTATUS(status) == nobodyRuns ? std::nullopt : std::optional(WEXITSTATUS(status));
+    return WEXITSTATUS(status) == notRunning ? std::nullopt : std::optional(WEXITSTATUS(status));
 }
 
 int run(const Command& command, char** argv) {
-    const QByteArray token = activationToken(); // Qt takes it out of the environment.
-    const auto environment = QProcessEnvironment::systemEnvironment(); // Next, we change our own.
+    const QByteArray token = activationToken(); // Qt removes it from the environment.
+    const auto environment = QProcessEnvironment::systemEnvironment(); // Ours is changed next.
     const auto display = Platform::choose();
     if (!display) {
         complain(display.error().message);
@@ -88,7 +87,7 @@ int run(const Command& command, char** argv) {
     Handle preparation = Platform::prepareApplication(*display);
     const std::jthread fonts = readFontConfiguration();
     const bool isRestored = command.request.value(0) == "restore"_L1;
-    // The status item is made of widgets.
+    // The status item needs widgets.
     const QApplication application(isRestored ? nameAndSession : nameAlone, argv);
     preparation.reset();
     QApplication::setApplicationName(u"Ravelo"_s);

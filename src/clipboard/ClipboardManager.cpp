@@ -165,11 +165,12 @@ void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStri
     const bool mayRetry = !type.isEmpty() && hasOtherForm(snapshot.types, tried);
     store_.addImageClip(
         snapshot, whileHeld([this](Held& held, const QUuid& clip) { kept(held, clip); }),
-        whileHeld([this, mayRetry, tried](Held& held, const std::optional<TooLarge>& reason) {
-            if (!reason && mayRetry && held.changeCount == lastChangeCount_) {
+        whileHeld([this, mayRetry, tried](Held& held, const Store::Refusal& refusal) {
+            const bool undecodable = refusal.cause == Store::Refusal::Cause::undecodable;
+            if (undecodable && mayRetry && held.changeCount == lastChangeCount_) {
                 read(held.changeCount, tried);
             } else {
-                refuse(reason);
+                refuse(refusal.tooLarge);
                 answerSaveRequest();
             }
         }));

@@ -46,12 +46,6 @@ public:
     /// The fastest: only the beginning of the picture is decoded.
     [[nodiscard]] virtual PictureLook look(const UntrustedPicture& picture) = 0;
 
-    /// Empty if it is not a picture that can be read whole.
-    [[nodiscard]] QSize size(const UntrustedPicture& picture) {
-        const PictureLook seen = look(picture);
-        return seen.kind == PictureLook::Kind::good ? seen.size : QSize();
-    }
-
     /// Fills the shape and is cropped around its middle.
     [[nodiscard]] virtual QImage filling(const UntrustedPicture& picture, PictureShape shape) = 0;
 

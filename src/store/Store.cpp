@@ -160,6 +160,7 @@ void Store::addClip(const QString& text, Kept kept) {
 void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused refused) {
     struct Outcome {
         KeptImage image;
+        bool decoded = false;
         bool written = false;
     };
 
@@ -169,6 +170,7 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
         outcome->image = imageToKeep(contents, file, *decoder);
     };
     auto write = [path = imagePath(name), outcome, mayWrite = services_.mayWrite] {
+        outcome->decoded = !outcome->image.png.isEmpty();
         outcome->written = writeImage(path, outcome->image.png, mayWrite).has_value();
         outcome->image.png.clear();
     };
@@ -180,7 +182,11 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
                 kept(data_.clips.front().id);
             }
         } else if (refused) {
-            refused(outcome->image.tooLarge);
+            const auto& tooLarge = outcome->image.tooLarge;
+            refused({tooLarge           ? Refusal::Cause::tooLarge
+                     : outcome->decoded ? Refusal::Cause::unwritable
+                                        : Refusal::Cause::undecodable,
+                     tooLarge});
         }
     };
     captures_.add(copiedFile(contents),

@@ -71,9 +71,16 @@ public:
     /// Called with the clip, new or old, that holds the copy; not called if there is none.
     using Kept = std::function<void(const QUuid&)>;
 
-    /// Called if an image is not kept: it is too large or, without a value, cannot be decoded or
-    /// written. Never called after the history was cleared.
-    using Refused = std::function<void(const std::optional<TooLarge>&)>;
+    /// Why an image is not kept.
+    struct Refusal {
+        enum class Cause { undecodable, tooLarge, unwritable };
+
+        Cause cause;
+        std::optional<TooLarge> tooLarge; ///< Of that cause.
+    };
+
+    /// Called if an image is not kept. Never called after the history was cleared.
+    using Refused = std::function<void(const Refusal&)>;
 
     /// Adds a text; see `ClipHistory::added`. Waits for images that are still being written, so
     /// that the clips are in the order of copying.

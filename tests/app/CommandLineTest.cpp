@@ -59,7 +59,7 @@ TEST(CommandLine, IsUnderstood) {
     }
 }
 
-TEST(CommandLine, NamesWhatMakesNoSense) {
+TEST(CommandLine, NamesTheInvalidArgument) {
     struct Case {
         Arguments arguments;
         QString named;

@@ -5,7 +5,7 @@
 #include "fakes/UsageWorld.h"
 #include "monitor/LiveContext.h"
 #include "platform/system/InotifyChanges.h"
-#include "support/Told.h"
+#include "support/SignalCount.h"
 
 #include <gtest/gtest.h>
 
@@ -41,7 +41,7 @@ protected:
                         }}};
 };
 
-TEST_F(CommandsTest, TellsOfTheTimerAtEachMoment) {
+TEST_F(CommandsTest, ReportsTheTimer) {
     const QByteArray none = "{\"duration\":0,\"ends\":null,\"label\":\"\",\"remaining\":0,"
                             "\"running\":false,\"text\":\"\"}\n";
     EXPECT_EQ(status(), "no timer\n");
@@ -69,11 +69,11 @@ TEST_F(CommandsTest, TellsOfTheTimerAtEachMoment) {
     EXPECT_EQ(json(), none);
 }
 
-TEST_F(CommandsTest, TakesAnyLabelAndTellsItInOneLine) {
+TEST_F(CommandsTest, AcceptsAnyLabelAndPrintsItInOneLine) {
     struct Case {
         QString label;
         QString kept;
-        QByteArray told;
+        QByteArray printed;
     };
 
     const Case cases[] = {
@@ -87,12 +87,12 @@ TEST_F(CommandsTest, TakesAnyLabelAndTellsItInOneLine) {
     for (const Case& c : cases) {
         EXPECT_EQ(answer({u"timer"_s, u"start"_s, u"1"_s, c.label}), Answer());
         EXPECT_EQ(world_.store.timerLabel(), c.kept);
-        EXPECT_EQ(status(), "01:00" + c.told + '\n');
+        EXPECT_EQ(status(), "01:00" + c.printed + '\n');
         EXPECT_EQ(json().count('\n'), 1);
     }
 }
 
-TEST_F(CommandsTest, TellsWhatTheMonitorsKnow) {
+TEST_F(CommandsTest, ReportsTheMonitors) {
     world_.scheduler.advance(Seconds(5));
     const QByteArray line = answer({u"status"_s}).output;
     EXPECT_TRUE(line.endsWith(" · 5h 42% · week 78%\n")) << line.constData();
@@ -101,7 +101,7 @@ TEST_F(CommandsTest, TellsWhatTheMonitorsKnow) {
         << object.constData();
 }
 
-TEST_F(CommandsTest, RefusesWhatMakesNoSenseAndChangesNothing) {
+TEST_F(CommandsTest, RefusesInvalidRequests) {
     EXPECT_EQ(answer({u"timer"_s, u"start"_s, u".5"_s, u"kept"_s}), Answer());
     for (const char* minutes : {"", "soon", "0", "0.0", "-1", "+1", "1,5", "1.5.5", "1e2", "0x10",
                                 "nan", "inf", " 1", "1\n", "1m", "99999999", "٣"}) {
@@ -149,7 +149,7 @@ TEST_F(CommandsTest, ParksFilesAndListsThem) {
               "{\"path\":\"/d\",\"selected\":true,\"stack\":1}]}\n");
 }
 
-TEST_F(CommandsTest, ListsPathsThatAreNoText) {
+TEST_F(CommandsTest, ListsPathsThatAreNotUtf8) {
     world_.store.addToShelf({fileUrl("/\xe4 b")});
     EXPECT_EQ(answer({u"shelf"_s, u"list"_s}).output, "/\xe4 b\n");
     EXPECT_EQ(answer({u"shelf"_s, u"list"_s, u"--null"_s}).output, QByteArray("/\xe4 b\0", 5));
@@ -158,7 +158,7 @@ TEST_F(CommandsTest, ListsPathsThatAreNoText) {
               "\"uri\":\"file:///%E4%20b\"}]}\n");
 }
 
-TEST_F(CommandsTest, ParksNoMoreFilesThanCanBeMeant) {
+TEST_F(CommandsTest, LimitsTheNumberOfFiles) {
     QStringList request = {u"open"_s};
     for (int i = 0; i < 1000; ++i) {
         request.append(u"/%1"_s.arg(i));
@@ -176,8 +176,8 @@ TEST_F(CommandsTest, ParksNoMoreFilesThanCanBeMeant) {
     EXPECT_EQ(world_.store.shelf().files().size(), 1000);
 }
 
-TEST_F(CommandsTest, AsksForTheOtherWindows) {
-    const Told settings(&world_.controller, &NotchController::settingsRequested);
+TEST_F(CommandsTest, OpensTheOtherWindows) {
+    const SignalCount settings(&world_.controller, &NotchController::settingsRequested);
     EXPECT_EQ(answer({u"restore"_s}), Answer());
     EXPECT_FALSE(world_.controller.isOpen()) << "at the start of a session";
     EXPECT_EQ(answer({u"show"_s}), Answer());
@@ -191,7 +191,7 @@ TEST_F(CommandsTest, AsksForTheOtherWindows) {
     EXPECT_FALSE(world_.controller.isOpen()) << "it would lie above them";
 }
 
-TEST_F(CommandsTest, ToggleTakesTheSendersActivationTokenToTheWindow) {
+TEST_F(CommandsTest, TogglePassesOnTheActivationToken) {
     EXPECT_EQ(commands_.answer({u"toggle"_s}, "token"), Answer());
     EXPECT_TRUE(world_.window.focused);
     EXPECT_EQ(world_.window.activationToken, "token");

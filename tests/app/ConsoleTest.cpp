@@ -5,7 +5,7 @@
 namespace ravelo {
 namespace {
 
-TEST(Console, ShowsATerminalNothingThatItWouldObey) {
+TEST(Console, EscapesControlSequences) {
     struct Case {
         QByteArray text;
         QByteArray shown;

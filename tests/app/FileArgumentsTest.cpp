@@ -1,10 +1,7 @@
 #include "app/FileArguments.h"
+#include "support/TestFiles.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 namespace ravelo {
 
@@ -12,13 +9,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(FileArguments, FindsTheFileOrSaysWhyNot) {
+TEST(FileArguments, FindsTheFileOrReportsAnError) {
     const QTemporaryDir directory;
     const QDir folder(QFileInfo(directory.path()).canonicalFilePath());
     for (const QString& name : {u"a b"_s, u"-x"_s, u"ü\n%41#?"_s, u"there/inner/c"_s, u"b"_s}) {
-        folder.mkpath(QFileInfo(folder.filePath(name)).path());
-        QFile file(folder.filePath(name));
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        makeFile(folder.filePath(name));
     }
     ASSERT_TRUE(QFile::link(folder.filePath(u"there/inner"_s), folder.filePath(u"link"_s)));
     ASSERT_TRUE(QFile::link(folder.filePath(u"gone"_s), folder.filePath(u"dangling"_s)));

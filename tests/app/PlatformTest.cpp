@@ -7,7 +7,7 @@
 namespace ravelo {
 namespace {
 
-TEST(Platform, IsTheOneThatIsAskedForOrAClearError) {
+TEST(Platform, IsTheRequestedOneOrAnError) {
     const std::pair<const char*, QString> rows[] = {
         {"", {}},
         {"x11", {}},

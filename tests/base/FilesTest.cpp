@@ -1,13 +1,9 @@
 #include "base/Files.h"
+#include "support/TestFiles.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
-#include <gtest/gtest.h>
-
 #include <atomic>
-#include <sys/stat.h>
 #include <thread>
 
 namespace ravelo {
@@ -25,12 +21,6 @@ protected:
             .entryList(QDir::AllEntries | QDir::System | QDir::Hidden | QDir::NoDotAndDotDot);
     }
 
-    static unsigned mode(const QString& path) {
-        struct stat info = {};
-        EXPECT_EQ(stat(qPrintable(path), &info), 0) << qPrintable(path);
-        return info.st_mode & 07777;
-    }
-
     QTemporaryDir folder_;
 };
 
@@ -44,7 +34,7 @@ TEST_F(Files, ReadersFindTheOldOrTheNewContentsWhole) {
         while (!stop) {
             const QByteArray bytes = readFile(file).value_or("missing");
             if (bytes.size() < 200'000 || bytes.count(bytes[0]) != bytes.size() ||
-                mode(file) != 0600U) {
+                modeOf(file) != 0600U) {
                 fault = std::to_string(bytes.size()) + " bytes: " + bytes.first(7).toStdString();
             }
             ++reads;
@@ -68,12 +58,12 @@ TEST_F(Files, WriteThatFailsLeavesTheOldFile) {
     EXPECT_EQ(entries(), QStringList(u"taken"_s));
 }
 
-TEST_F(Files, WritingTakesAFileBackFromOthers) {
+TEST_F(Files, WritingMakesAFilePrivate) {
     const QString file = path(u"a"_s);
     ASSERT_TRUE(writeFileAtomically(file, "old"));
     ASSERT_EQ(chmod(qPrintable(file), 0666), 0);
     ASSERT_TRUE(writeFileAtomically(file, "new"));
-    EXPECT_EQ(mode(file), 0600U);
+    EXPECT_EQ(modeOf(file), 0600U);
     EXPECT_EQ(readFile(file), "new");
 }
 
@@ -103,10 +93,10 @@ TEST_F(Files, AreGoneOnlyIfTheSystemSaysSo) {
 
 TEST_F(Files, FolderIsMadeOrMadePrivate) {
     makePrivateFolder(path(u"a/b"_s));
-    EXPECT_EQ(mode(path(u"a/b"_s)), 0700U);
+    EXPECT_EQ(modeOf(path(u"a/b"_s)), 0700U);
     ASSERT_EQ(chmod(qPrintable(path(u"a/b"_s)), 0755), 0);
     makePrivateFolder(path(u"a/b"_s));
-    EXPECT_EQ(mode(path(u"a/b"_s)), 0700U);
+    EXPECT_EQ(modeOf(path(u"a/b"_s)), 0700U);
 }
 
 TEST_F(Files, MissingFileCannotBeReadAndAnEmptyOneCan) {
@@ -128,10 +118,10 @@ TEST_F(Files, EachUnreadableFileIsKept) {
               QStringList({u"a"_s, u"a.unreadable"_s, u"a.unreadable2"_s, u"a.unreadable3"_s}));
     EXPECT_EQ(readFile(path(u"a.unreadable"_s)), "1");
     EXPECT_EQ(readFile(path(u"a.unreadable3"_s)), "3");
-    EXPECT_EQ(mode(path(u"a.unreadable2"_s)), 0600U);
+    EXPECT_EQ(modeOf(path(u"a.unreadable2"_s)), 0600U);
 }
 
-TEST_F(Files, WhatCannotBeCopiedIsMoved) {
+TEST_F(Files, MovesAsideWhatCannotBeCopied) {
     ASSERT_TRUE(QDir(folder_.path()).mkpath(u"a/inside"_s));
     ASSERT_TRUE(QFile::link(u"nowhere"_s, path(u"a.unreadable"_s)));
     EXPECT_EQ(setAsideUnreadable(path(u"a"_s)).value_or(QString()), path(u"a.unreadable2"_s));

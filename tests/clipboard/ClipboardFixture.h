@@ -2,21 +2,18 @@
 
 #include "clipboard/ClipboardManager.h"
 
-#include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/FakeServices.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPasteboard.h"
 #include "fakes/MemoryPreferences.h"
 #include "store/Store.h"
+#include "support/TestFiles.h"
+#include "support/TestPictures.h"
 
-#include <QBuffer>
-#include <QFile>
-#include <QImage>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <functional>
 #include <optional>
@@ -24,16 +21,6 @@
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
-
-inline QByteArray picture(const char* format) {
-    QImage image(3, 2, QImage::Format_ARGB32);
-    image.fill(Qt::red);
-    QByteArray bytes;
-    QBuffer buffer(&bytes);
-    buffer.open(QIODevice::WriteOnly);
-    image.save(&buffer, format);
-    return bytes;
-}
 
 inline PasteboardEntry text(const char* utf8) {
     return {plainTextType, utf8};
@@ -47,9 +34,9 @@ inline QHash<QString, QByteArray> byType(const QList<PasteboardEntry>& forms) {
     return hash;
 }
 
-class Clipboard : public testing::Test {
-public:
-    Clipboard() {
+/// A manager with its pasteboard, store and worker.
+struct ClipboardWorld {
+    ClipboardWorld() {
         pasteboard.offerText(u"there before the start"_s);
         manager.emplace(store, pasteboard, scheduler, jobs);
         manager->start();
@@ -62,10 +49,7 @@ public:
     }
 
     [[nodiscard]] QString imageFile(const QByteArray& bytes = picture("png")) const {
-        const QString path = folder.filePath(u"a.png"_s);
-        QFile file(path);
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size());
-        return path;
+        return makeFile(folder.filePath(u"a.png"_s), bytes);
     }
 
     [[nodiscard]] QStringList texts() const {
@@ -89,22 +73,24 @@ public:
     std::optional<ClipboardManager> manager;
 };
 
+class Clipboard : public testing::Test, public ClipboardWorld {};
+
 inline const PasteboardEntry secret{u"x-kde-passwordManagerHint"_s, "secret"};
 
 inline const QList<PasteboardEntry> abc = {text("abc")};
 inline const QList<PasteboardEntry> png = {{u"image/png"_s, picture("png")}};
 
-using Happening = std::function<void(Clipboard&)>;
+using Happening = std::function<void(ClipboardWorld&)>;
 
 inline Happening offering(const QList<PasteboardEntry>& offered) {
-    return [offered](Clipboard& on) {
+    return [offered](ClipboardWorld& on) {
         on.pasteboard.offer(offered);
     };
 }
 
 /// Offers it as a copy by one program.
 inline Happening by(PasteboardOwner owner, const QList<PasteboardEntry>& offered) {
-    return [owner, offered](Clipboard& on) {
+    return [owner, offered](ClipboardWorld& on) {
         on.pasteboard.owner = owner;
         on.pasteboard.offer(offered);
         on.settle();
@@ -112,30 +98,30 @@ inline Happening by(PasteboardOwner owner, const QList<PasteboardEntry>& offered
 }
 
 inline Happening later(double seconds) {
-    return [seconds](Clipboard& on) {
+    return [seconds](ClipboardWorld& on) {
         on.scheduler.advance(Seconds(seconds));
     };
 }
 
-inline void lose(Clipboard& on) {
+inline void lose(ClipboardWorld& on) {
     on.pasteboard.loseOwner();
 }
 
 /// The next owner comes before the manager notices the end.
-inline void loseUnseen(Clipboard& on) {
+inline void loseUnseen(ClipboardWorld& on) {
     on.pasteboard.notifies = false;
     on.pasteboard.loseOwner();
 }
 
-inline void deleteNewest(Clipboard& on) {
+inline void deleteNewest(ClipboardWorld& on) {
     on.store.deleteClip(on.store.clips().front().id);
 }
 
-inline void pinNewest(Clipboard& on) {
+inline void pinNewest(ClipboardWorld& on) {
     on.store.togglePin(on.store.clips().front().id);
 }
 
-inline void clearAll(Clipboard& on) {
+inline void clearAll(ClipboardWorld& on) {
     on.store.clearClips();
 }
 

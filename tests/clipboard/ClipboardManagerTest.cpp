@@ -10,55 +10,50 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct CaptureCase {
-    const char* name;
-    QList<PasteboardEntry> offered;
-    QStringList expected; ///< Texts of the clips.
-};
+TEST(Capture, keepsWhatTheOwnerAllows) {
+    struct Case {
+        const char* name;
+        QList<PasteboardEntry> offered;
+        QStringList expected; ///< Texts of the clips.
+    };
 
-class CaptureTable : public Clipboard, public testing::WithParamInterface<CaptureCase> {};
-
-TEST_P(CaptureTable, keepsWhatTheOwnerAllows) {
-    pasteboard.offer(GetParam().offered);
-    settle();
-    settle(); // Another form may have to be asked for.
-    EXPECT_EQ(texts(), GetParam().expected);
+    const Case cases[] = {
+        {"text", {text("abc")}, {u"abc"_s}},
+        {"trimmed", {text(" \n\tabc\u00a0\r\n")}, {u"abc"_s}},
+        {"blank", {text(" \n ")}, {}},
+        {"textBeforeImage", {{u"image/png"_s, picture("png")}, text("abc")}, {u"abc"_s}},
+        {"blankTextThenImage", {text("  "), {u"image/png"_s, picture("png")}}, {u"Image"_s}},
+        {"filesInALine",
+         {text("/tmp/a b /tmp/c /d"),
+          {u"text/uri-list"_s, "file:///tmp/a%20b\r\nfile:///tmp/c\r\nfile:///d\r\n"}},
+         {u"/tmp/a b\n/tmp/c\n/d"_s}},
+        {"otherFilesThanInTheLine",
+         {text("/tmp/a /tmp/c"), {u"text/uri-list"_s, "file:///tmp/a\r\n"}},
+         {u"/tmp/a /tmp/c"_s}},
+        {"png", png, {u"Image"_s}},
+        {"bmp", {{u"image/bmp"_s, picture("bmp")}}, {u"Image"_s}},
+        {"brokenTiffThenBmp",
+         {{u"image/tiff"_s, "II*"}, {u"image/bmp"_s, picture("bmp")}},
+         {u"Image"_s}},
+        {"onlyTheBeginningOfAWebpThenBmp",
+         {{u"image/webp"_s, QByteArray("RIFF\0\0\0\0WEBP", 12)}, {u"image/bmp"_s, picture("bmp")}},
+         {u"Image"_s}},
+        {"noImageAtAll", {{u"image/tiff"_s, "II*"}}, {}},
+        {"concealedText", {text("pass"), {u"org.nspasteboard.ConcealedType"_s, ""}}, {}},
+        {"passwordHint", {text("pass"), secret}, {}},
+        {"clearedByAManager", {text(""), secret}, {}},
+        {"concealedImage", {{u"image/png"_s, picture("png")}, secret}, {}},
+        {"hintThatIsNoSecret",
+         {text("abc"), {u"x-kde-passwordManagerHint"_s, "public"}},
+         {u"abc"_s}}};
+    for (const Case& c : cases) {
+        ClipboardWorld world;
+        world.pasteboard.offer(c.offered);
+        world.settle();
+        world.settle(); // Another form may have to be asked for.
+        EXPECT_EQ(world.texts(), c.expected) << c.name;
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Contents, CaptureTable,
-    testing::Values(
-        CaptureCase{"text", {text("abc")}, {u"abc"_s}},
-        CaptureCase{"trimmed", {text(" \n\tabc\u00a0\r\n")}, {u"abc"_s}},
-        CaptureCase{"blank", {text(" \n ")}, {}},
-        CaptureCase{"textBeforeImage", {{u"image/png"_s, picture("png")}, text("abc")}, {u"abc"_s}},
-        CaptureCase{
-            "blankTextThenImage", {text("  "), {u"image/png"_s, picture("png")}}, {u"Image"_s}},
-        CaptureCase{"filesInALine",
-                    {text("/tmp/a b /tmp/c /d"),
-                     {u"text/uri-list"_s, "file:///tmp/a%20b\r\nfile:///tmp/c\r\nfile:///d\r\n"}},
-                    {u"/tmp/a b\n/tmp/c\n/d"_s}},
-        CaptureCase{"otherFilesThanInTheLine",
-                    {text("/tmp/a /tmp/c"), {u"text/uri-list"_s, "file:///tmp/a\r\n"}},
-                    {u"/tmp/a /tmp/c"_s}},
-        CaptureCase{"png", png, {u"Image"_s}},
-        CaptureCase{"bmp", {{u"image/bmp"_s, picture("bmp")}}, {u"Image"_s}},
-        CaptureCase{"brokenTiffThenBmp",
-                    {{u"image/tiff"_s, "II*"}, {u"image/bmp"_s, picture("bmp")}},
-                    {u"Image"_s}},
-        CaptureCase{"onlyTheBeginningOfAWebpThenBmp",
-                    {{u"image/webp"_s, QByteArray("RIFF\0\0\0\0WEBP", 12)},
-                     {u"image/bmp"_s, picture("bmp")}},
-                    {u"Image"_s}},
-        CaptureCase{"noImageAtAll", {{u"image/tiff"_s, "II*"}}, {}},
-        CaptureCase{"concealedText", {text("pass"), {u"org.nspasteboard.ConcealedType"_s, ""}}, {}},
-        CaptureCase{"passwordHint", {text("pass"), secret}, {}},
-        CaptureCase{"clearedByAManager", {text(""), secret}, {}},
-        CaptureCase{"concealedImage", {{u"image/png"_s, picture("png")}, secret}, {}},
-        CaptureCase{"hintThatIsNoSecret",
-                    {text("abc"), {u"x-kde-passwordManagerHint"_s, "public"}},
-                    {u"abc"_s}}),
-    [](const auto& row) { return row.param.name; });
 
 TEST_F(Clipboard, keepsTheEndsOfATextIfSet) {
     manager->setTextEnds(TextEnds::kept);
@@ -73,12 +68,22 @@ TEST_F(Clipboard, keepsTheEndsOfATextIfSet) {
     EXPECT_EQ(texts().first(), u"def"_s);
 }
 
-TEST_F(Clipboard, leavesWhatWasThereBeforeTheStart) {
+TEST_F(Clipboard, asksForNoOtherFormOfAnImageThatCannotBeWritten) {
+    ASSERT_TRUE(QDir(store.clipsDir()).removeRecursively());
+    makeFile(store.clipsDir(), "in the way");
+    pasteboard.offer({{u"image/tiff"_s, picture("tiff")}, {u"image/bmp"_s, picture("bmp")}});
+    settle();
+    settle();
+    EXPECT_EQ(pasteboard.asked(), QStringList{u"image/tiff"_s});
+    EXPECT_EQ(texts(), QStringList());
+}
+
+TEST_F(Clipboard, ignoresWhatWasCopiedBeforeTheStart) {
     settle();
     EXPECT_EQ(texts(), QStringList());
 }
 
-TEST_F(Clipboard, asksNothingOfAnOwnerThatConceals) {
+TEST_F(Clipboard, readsNothingConcealed) {
     pasteboard.offer({text("pass"), {u"image/png"_s, picture("png")}, secret});
     settle();
     EXPECT_EQ(pasteboard.asked(), QStringList{secret.type}) << "only the mark itself was read";
@@ -103,7 +108,7 @@ TEST_F(Clipboard, keepsEveryCopyOfABurst) {
     EXPECT_EQ(texts(), expected);
 }
 
-TEST_F(Clipboard, anOwnerThatNeverAnswersCostsNothingButItself) {
+TEST_F(Clipboard, anOwnerThatNeverAnswersDelaysNothing) {
     pasteboard.offerSilence();
     scheduler.advance(Seconds(0.01));
     pasteboard.offerText(u"next"_s);
@@ -111,7 +116,7 @@ TEST_F(Clipboard, anOwnerThatNeverAnswersCostsNothingButItself) {
     EXPECT_EQ(texts(), QStringList{u"next"_s});
 }
 
-TEST_F(Clipboard, whatThePanelPutsThereMakesNoClip) {
+TEST_F(Clipboard, ourOwnCopiesMakeNoClip) {
     manager->copyText(u"ours"_s);
     settle();
     EXPECT_EQ(pasteboard.bytes(plainTextType), "ours");
@@ -149,7 +154,7 @@ TEST_F(Clipboard, aStoredImageIsCopiedWithoutADecoder) {
     EXPECT_EQ(pasteboard.bytes("image/png"_L1), scan) << "too large to be decoded";
 }
 
-TEST_F(Clipboard, anImageGivesWayToWhatWasCopiedAfterIt) {
+TEST_F(Clipboard, aLaterCopyReplacesAnImage) {
     const QString path = imageFile();
     for (const bool byUs : {true, false}) {
         pasteboard.offerText(u"before"_s);
@@ -188,66 +193,66 @@ TEST(FileForms, areWhatFileManagersPaste) {
     }
 }
 
-struct LossCase {
-    const char* name;
-    QList<PasteboardEntry> offered;            ///< Captured, after "before".
-    QList<Happening> happens;                  ///< Then.
-    QList<PasteboardEntry> expected = offered; ///< On the pasteboard at the end.
-    qsizetype clips = 2;
-};
-
-class LossTable : public Clipboard, public testing::WithParamInterface<LossCase> {};
-
-TEST_P(LossTable, offersAgainOnlyWhatWentWithItsOwner) {
-    pasteboard.offerText(u"before"_s);
-    settle();
-    pasteboard.offer(GetParam().offered);
-    settle();
-    for (const Happening& happening : GetParam().happens) {
-        happening(*this);
-    }
-    settle();
-    EXPECT_EQ(byType(pasteboard.contents()), byType(GetParam().expected));
-    EXPECT_EQ(store.clips().size(), GetParam().clips);
-}
-
-void fallSilent(Clipboard& on) {
+void fallSilent(ClipboardWorld& on) {
     on.pasteboard.offerSilence();
     on.settle();
 }
 
-void clearPasteboard(Clipboard& on) {
+void clearPasteboard(ClipboardWorld& on) {
     on.pasteboard.release();
 }
 
-void hideDeaths(Clipboard& on) {
+void hideDeaths(ClipboardWorld& on) {
     on.pasteboard.knowsDeaths = false;
 }
 
 const QList<PasteboardEntry> kept = {text("kept by the desktop")};
 
-INSTANTIATE_TEST_SUITE_P(
-    Ends, LossTable,
-    testing::Values(
-        LossCase{"text", abc, {lose}}, LossCase{"link", {text("https://a.org/")}, {lose}},
-        LossCase{"image", png, {lose}}, LossCase{"asCaptured", {text(" abc\n")}, {lose}, abc},
-        LossCase{"sameTextOfAnother", abc, {by(one, abc), lose}},
-        LossCase{"pinned", abc, {pinNewest, lose}},
-        LossCase{"changesNotReported", abc, {loseUnseen}},
-        LossCase{"whileTheImageIsWritten", abc, {offering(png), later(0.1), lose}, png, 3},
-        LossCase{"beforeItWasRead", abc, {offering({text("too quick")}), lose}, {}},
-        LossCase{"neverRead", abc, {fallSilent, lose}, {}},
-        LossCase{"blank", abc, {by(one, {text(" ")}), lose}, {}},
-        LossCase{"concealed", abc, {by(one, {text("pass"), secret}), lose}, {}},
-        LossCase{"clearedByAManager", abc, {by(one, {text(""), secret}), lose}, {}},
-        LossCase{"namedAsTheImageIs", png, {by(one, {text("Image")}), lose}, {}},
-        LossCase{"passedOnFirst", png, {by(other, png), lose}},
-        LossCase{"cleared", abc, {clearPasteboard}, {}},
-        LossCase{"perhapsCleared", abc, {hideDeaths, lose}, {}},
-        LossCase{"takenOver", abc, {loseUnseen, offering(kept)}, kept, 3},
-        LossCase{"deleted", abc, {deleteNewest, lose}, {}, 1},
-        LossCase{"clearedThoughPinned", abc, {pinNewest, clearAll, lose}, {}, 1}),
-    [](const auto& row) { return row.param.name; });
+TEST(Loss, offersAgainOnlyWhatItsOwnerTookAlong) {
+    struct Case {
+        const char* name;
+        QList<PasteboardEntry> offered;            ///< Captured, after "before".
+        QList<Happening> happens;                  ///< Then.
+        QList<PasteboardEntry> expected = offered; ///< On the pasteboard at the end.
+        qsizetype clips = 2;
+    };
+
+    const Case cases[] = {
+        {"text", abc, {lose}},
+        {"link", {text("https://a.org/")}, {lose}},
+        {"image", png, {lose}},
+        {"asCaptured", {text(" abc\n")}, {lose}, abc},
+        {"sameTextOfAnother", abc, {by(one, abc), lose}},
+        {"pinned", abc, {pinNewest, lose}},
+        {"changesNotReported", abc, {loseUnseen}},
+        {"whileTheImageIsWritten", abc, {offering(png), later(0.1), lose}, png, 3},
+        {"beforeItWasRead", abc, {offering({text("too quick")}), lose}, {}},
+        {"neverRead", abc, {fallSilent, lose}, {}},
+        {"blank", abc, {by(one, {text(" ")}), lose}, {}},
+        {"concealed", abc, {by(one, {text("pass"), secret}), lose}, {}},
+        {"clearedByAManager", abc, {by(one, {text(""), secret}), lose}, {}},
+        {"namedAsTheImageIs", png, {by(one, {text("Image")}), lose}, {}},
+        {"passedOnFirst", png, {by(other, png), lose}},
+        {"cleared", abc, {clearPasteboard}, {}},
+        {"perhapsCleared", abc, {hideDeaths, lose}, {}},
+        {"takenOver", abc, {loseUnseen, offering(kept)}, kept, 3},
+        {"deleted", abc, {deleteNewest, lose}, {}, 1},
+        {"clearedThoughPinned", abc, {pinNewest, clearAll, lose}, {}, 1}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        ClipboardWorld world;
+        offering({text("before")})(world);
+        world.settle();
+        offering(c.offered)(world);
+        world.settle();
+        for (const Happening& happening : c.happens) {
+            happening(world);
+        }
+        world.settle();
+        EXPECT_EQ(byType(world.pasteboard.contents()), byType(c.expected));
+        EXPECT_EQ(world.store.clips().size(), c.clips);
+    }
+}
 
 } // namespace
 } // namespace ravelo

@@ -1,6 +1,5 @@
 #include "ClipboardFixture.h"
 
-#include <QFile>
 #include <QUrl>
 
 #include <utility>
@@ -11,58 +10,51 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct RepeatCase {
-    const char* name;
-    QList<Happening> happens;
-    QStringList expected; ///< Texts of the clips.
-};
-
-class RepeatTable : public Clipboard, public testing::WithParamInterface<RepeatCase> {};
-
-TEST_P(RepeatTable, isACopyUnlessPassedOn) {
-    for (const Happening& happening : GetParam().happens) {
-        happening(*this);
-    }
-    EXPECT_EQ(texts(), GetParam().expected);
-}
-
 const PasteboardOwner passer{3, PasteboardOwner::Kind::manager};
 const QStringList once{u"Image"_s};
 const QStringList twice{u"Image"_s, u"Image"_s};
 
-INSTANTIATE_TEST_SUITE_P(
-    Repeats, RepeatTable,
-    testing::Values(
-        RepeatCase{"byAnotherAtOnce", {by(one, png), later(1), by(other, png)}, once},
-        RepeatCase{"byAThirdAtOnce", {by(one, png), by(other, png), by(one, png)}, once},
-        RepeatCase{"byAnotherLater", {by(one, png), later(2.5), by(other, png)}, twice},
-        RepeatCase{"byTheSameProgram", {by(one, png), by(one, png)}, twice},
-        RepeatCase{"afterSomethingElse",
-                   {by(one, png), by(one, abc), by(other, png)},
-                   {u"Image"_s, u"abc"_s, u"Image"_s}},
-        RepeatCase{"atTheEnd", {by(one, png), later(60), lose, later(1), by(other, png)}, once},
-        RepeatCase{"atTheEndUnseen", {by(one, png), later(60), loseUnseen, by(other, png)}, once},
-        RepeatCase{
-            "longAfterTheEnd", {by(one, png), later(60), lose, later(2.5), by(other, png)}, twice},
-        RepeatCase{"byAManager", {by(one, png), later(60), by(passer, png)}, once},
-        RepeatCase{
-            "somethingElseByAManager", {by(one, png), by(passer, abc)}, {u"abc"_s, u"Image"_s}},
-        RepeatCase{"deleted", {by(one, abc), deleteNewest, by(other, abc)}, {u"abc"_s}},
-        RepeatCase{"cleared", {by(one, abc), clearAll, by(other, abc)}, {u"abc"_s}},
-        RepeatCase{"deletedThenAtTheEnd",
-                   {by(one, abc), later(60), deleteNewest, lose, by(other, abc)},
-                   {}},
-        RepeatCase{"pinnedThenAtTheEnd",
-                   {by(one, abc), later(60), pinNewest, lose, by(other, abc)},
-                   {u"abc"_s}},
-        RepeatCase{"ofWhatWePutThere",
-                   {by(one, abc), by(one, {text("def")}),
-                    [](Clipboard& on) { on.manager->copyText(u"abc"_s); }, by(other, abc)},
-                   {u"def"_s, u"abc"_s}},
-        RepeatCase{"whileTheImageIsWritten", {offering(png), later(0.1), by(other, png)}, once}),
-    [](const auto& row) { return row.param.name; });
+TEST(Repeat, isANewCopyUnlessPassedOn) {
+    struct Case {
+        const char* name;
+        QList<Happening> happens;
+        QStringList expected; ///< Texts of the clips.
+    };
 
-TEST_F(Clipboard, anImageReadFromAFileIsNotOfferedInOurName) {
+    const Case cases[] = {
+        {"byAnotherAtOnce", {by(one, png), later(1), by(other, png)}, once},
+        {"byAThirdAtOnce", {by(one, png), by(other, png), by(one, png)}, once},
+        {"byAnotherLater", {by(one, png), later(2.5), by(other, png)}, twice},
+        {"byTheSameProgram", {by(one, png), by(one, png)}, twice},
+        {"afterSomethingElse",
+         {by(one, png), by(one, abc), by(other, png)},
+         {u"Image"_s, u"abc"_s, u"Image"_s}},
+        {"atTheEnd", {by(one, png), later(60), lose, later(1), by(other, png)}, once},
+        {"atTheEndUnseen", {by(one, png), later(60), loseUnseen, by(other, png)}, once},
+        {"longAfterTheEnd", {by(one, png), later(60), lose, later(2.5), by(other, png)}, twice},
+        {"byAManager", {by(one, png), later(60), by(passer, png)}, once},
+        {"somethingElseByAManager", {by(one, png), by(passer, abc)}, {u"abc"_s, u"Image"_s}},
+        {"deleted", {by(one, abc), deleteNewest, by(other, abc)}, {u"abc"_s}},
+        {"cleared", {by(one, abc), clearAll, by(other, abc)}, {u"abc"_s}},
+        {"deletedThenAtTheEnd", {by(one, abc), later(60), deleteNewest, lose, by(other, abc)}, {}},
+        {"pinnedThenAtTheEnd",
+         {by(one, abc), later(60), pinNewest, lose, by(other, abc)},
+         {u"abc"_s}},
+        {"ofWhatWePutThere",
+         {by(one, abc), by(one, {text("def")}),
+          [](ClipboardWorld& on) { on.manager->copyText(u"abc"_s); }, by(other, abc)},
+         {u"def"_s, u"abc"_s}},
+        {"whileTheImageIsWritten", {offering(png), later(0.1), by(other, png)}, once}};
+    for (const Case& c : cases) {
+        ClipboardWorld world;
+        for (const Happening& happening : c.happens) {
+            happening(world);
+        }
+        EXPECT_EQ(world.texts(), c.expected) << c.name;
+    }
+}
+
+TEST_F(Clipboard, anImageReadFromAFileIsNotOfferedAgain) {
     const QString path = imageFile();
     pasteboard.offer({{u"text/uri-list"_s, QUrl::fromLocalFile(path).toEncoded()}});
     settle();
@@ -74,58 +66,48 @@ TEST_F(Clipboard, anImageReadFromAFileIsNotOfferedInOurName) {
     EXPECT_TRUE(pasteboard.contents().isEmpty());
 }
 
-/// 33 million pixels, black.
-QByteArray widePicture(const char* format) {
-    QImage image(8192, 4097, QImage::Format_Mono);
-    image.fill(0);
-    QBuffer buffer;
-    image.save(&buffer, format);
-    return buffer.data();
-}
+constexpr QSize wide(8192, 4097); ///< More pixels than are kept.
 
-const QList<PasteboardEntry> widePng{{u"image/png"_s, widePicture("PNG")}};
+const QList<PasteboardEntry> widePng{{u"image/png"_s, emptyPicture("PNG", wide)}};
 
-struct SaveCase {
-    const char* name;
-    QList<PasteboardEntry> offered;
-    SaveAnswer expected;
-    QList<PasteboardEntry> left; ///< On the pasteboard after the owner's end.
-};
+TEST(SaveRequest, keepsAnEndingProgramWaitingUntilItsCopyIsRead) {
+    struct Case {
+        const char* name;
+        QList<PasteboardEntry> offered;
+        SaveAnswer expected;
+        QList<PasteboardEntry> left; ///< On the pasteboard after the owner's end.
+    };
 
-class SaveTable : public Clipboard, public testing::WithParamInterface<SaveCase> {};
-
-TEST_P(SaveTable, keepsAnEndingProgramWaitingUntilItsCopyIsRead) {
-    pasteboard.offer(GetParam().offered);
-    pasteboard.askToSave();
-    EXPECT_EQ(pasteboard.saveAnswer(), std::nullopt) << "answered before it was read";
-    scheduler.advance(Seconds(0.01));
-    if (GetParam().offered.front().type.startsWith("image/"_L1)) {
-        EXPECT_EQ(pasteboard.saveAnswer(), std::nullopt) << "answered before it was written";
-        worker.drain();
+    const Case cases[] = {
+        {"text", abc, SaveAnswer::saved, abc},
+        {"image", png, SaveAnswer::saved, png},
+        {"tooManyPixels", widePng, SaveAnswer::refused, {}},
+        {"noPicture", {{u"image/bmp"_s, picture("bmp").first(20)}}, SaveAnswer::refused, {}},
+        {"blank", {text(" ")}, SaveAnswer::refused, {}},
+        {"unknown", {{u"x/y"_s, "z"}}, SaveAnswer::refused, {}},
+        {"concealed", {text("pass"), secret}, SaveAnswer::refused, {}}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        ClipboardWorld world;
+        MemoryPasteboard& pasteboard = world.pasteboard;
+        pasteboard.offer(c.offered);
+        pasteboard.askToSave();
+        EXPECT_EQ(pasteboard.saveAnswer(), std::nullopt) << "answered before it was read";
+        world.scheduler.advance(Seconds(0.01));
+        if (c.offered.front().type.startsWith("image/"_L1)) {
+            EXPECT_EQ(pasteboard.saveAnswer(), std::nullopt) << "answered before it was written";
+            world.worker.drain();
+        }
+        EXPECT_EQ(pasteboard.saveAnswer(), c.expected);
+        pasteboard.askToSave();
+        EXPECT_EQ(pasteboard.saveAnswer(), c.expected) << "asked again";
+        lose(world);
+        world.settle();
+        EXPECT_EQ(byType(pasteboard.contents()), byType(c.left));
     }
-    EXPECT_EQ(pasteboard.saveAnswer(), GetParam().expected);
-    pasteboard.askToSave();
-    EXPECT_EQ(pasteboard.saveAnswer(), GetParam().expected) << "asked again";
-    lose(*this);
-    settle();
-    EXPECT_EQ(byType(pasteboard.contents()), byType(GetParam().left));
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Contents, SaveTable,
-    testing::Values(SaveCase{"text", abc, SaveAnswer::saved, abc},
-                    SaveCase{"image", png, SaveAnswer::saved, png},
-                    SaveCase{"tooManyPixels", widePng, SaveAnswer::refused, {}},
-                    SaveCase{"noPicture",
-                             {{u"image/bmp"_s, picture("bmp").first(20)}},
-                             SaveAnswer::refused,
-                             {}},
-                    SaveCase{"blank", {text(" ")}, SaveAnswer::refused, {}},
-                    SaveCase{"unknown", {{u"x/y"_s, "z"}}, SaveAnswer::refused, {}},
-                    SaveCase{"concealed", {text("pass"), secret}, SaveAnswer::refused, {}}),
-    [](const auto& row) { return row.param.name; });
-
-TEST_F(Clipboard, aCopyThatComesWhileWeLookIsReadOnce) {
+TEST_F(Clipboard, aCopyDuringACheckIsReadOnce) {
     pasteboard.owner = other;
     pasteboard.meanwhile = [this] {
         pasteboard.notifies = false; // Such a notice never comes from within a call.
@@ -136,7 +118,7 @@ TEST_F(Clipboard, aCopyThatComesWhileWeLookIsReadOnce) {
     EXPECT_EQ(texts(), once);
 }
 
-TEST_F(Clipboard, aCopyThatComesWhileWeWriteIsKept) {
+TEST_F(Clipboard, aCopyDuringAWriteIsKept) {
     pasteboard.meanwhile = [this] {
         pasteboard.notifies = false;
         pasteboard.offerText(u"theirs"_s);
@@ -146,27 +128,15 @@ TEST_F(Clipboard, aCopyThatComesWhileWeWriteIsKept) {
     EXPECT_EQ(texts(), QStringList{u"theirs"_s});
 }
 
-struct TooLargeCase {
-    const char* name;
-    QList<PasteboardEntry> offered;
-    QHash<QString, qint64> tooLarge;
-    std::optional<std::pair<TooLarge::Kind, qint64>> expected;
-    qsizetype clips = 0;
-};
+using Reports = QList<std::pair<TooLarge::Kind, qint64>>;
 
-class TooLargeTable : public Clipboard, public testing::WithParamInterface<TooLargeCase> {};
-
-TEST_P(TooLargeTable, isReportedOncePerCopy) {
-    QList<std::pair<TooLarge::Kind, qint64>> said;
-    QObject::connect(&*manager, &ClipboardManager::tooLarge, [&](const TooLarge& what) {
-        said.append({what.kind, what.amount});
+/// What the manager reports as too large, from now on.
+std::shared_ptr<Reports> reportsOf(ClipboardWorld& world) {
+    const auto reports = std::make_shared<Reports>();
+    QObject::connect(&*world.manager, &ClipboardManager::tooLarge, [reports](const TooLarge& what) {
+        reports->append({what.kind, what.amount});
     });
-    pasteboard.tooLarge = GetParam().tooLarge;
-    by(one, GetParam().offered)(*this);
-    by(other, GetParam().offered)(*this); // Passed on.
-    EXPECT_EQ(said.size(), GetParam().expected ? 1 : 0);
-    EXPECT_EQ(said.value(0), GetParam().expected.value_or(said.value(0)));
-    EXPECT_EQ(store.clips().size(), GetParam().clips);
+    return reports;
 }
 
 const PasteboardEntry refusedPng{u"image/png"_s, {}};
@@ -174,55 +144,70 @@ const PasteboardEntry refusedText{plainTextType, {}};
 const QHash<QString, qint64> largeText{{plainTextType, 9'000'000}};
 const QHash<QString, qint64> largePng{{u"image/png"_s, 70'000'000}};
 
-INSTANTIATE_TEST_SUITE_P(
-    Copies, TooLargeTable,
-    testing::Values(
-        TooLargeCase{"text", {refusedText}, largeText, std::pair(TooLarge::Kind::text, 9'000'000)},
-        TooLargeCase{"image", {refusedPng}, largePng, std::pair(TooLarge::Kind::image, 70'000'000)},
-        TooLargeCase{"pixels",
-                     {{u"image/bmp"_s, widePicture("BMP")}},
-                     {},
-                     std::pair(TooLarge::Kind::pixels, 8192 * 4097)},
-        TooLargeCase{"pixelsOfPng", widePng, {}, std::pair(TooLarge::Kind::pixels, 8192 * 4097)},
-        TooLargeCase{"otherForm", {refusedPng, {u"image/bmp"_s, picture("bmp")}}, largePng, {}, 1},
-        TooLargeCase{"imageInstead", {refusedText, png.front()}, largeText, {}, 1},
-        TooLargeCase{"refused", {refusedText, refusedPng}, {}, {}}),
-    [](const auto& row) { return row.param.name; });
+TEST(TooLargeCopy, isReportedOnce) {
+    using Kind = TooLarge::Kind;
+
+    struct Case {
+        const char* name;
+        QList<PasteboardEntry> offered;
+        QHash<QString, qint64> tooLarge;
+        Reports reports;
+        qsizetype clips = 0;
+    };
+
+    const Case cases[] = {
+        {"text", {refusedText}, largeText, {{Kind::text, 9'000'000}}},
+        {"image", {refusedPng}, largePng, {{Kind::image, 70'000'000}}},
+        {"pixels",
+         {{u"image/bmp"_s, emptyPicture("BMP", wide)}},
+         {},
+         {{Kind::pixels, 8192 * 4097}}},
+        {"pixels of a PNG", widePng, {}, {{Kind::pixels, 8192 * 4097}}},
+        {"another form", {refusedPng, {u"image/bmp"_s, picture("bmp")}}, largePng, {}, 1},
+        {"an image instead", {refusedText, png.front()}, largeText, {}, 1},
+        {"refused", {refusedText, refusedPng}, {}, {}}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        ClipboardWorld world;
+        const auto reports = reportsOf(world);
+        world.pasteboard.tooLarge = c.tooLarge;
+        by(one, c.offered)(world);
+        by(other, c.offered)(world); // Passed on.
+        EXPECT_EQ(*reports, c.reports);
+        EXPECT_EQ(world.store.clips().size(), c.clips);
+    }
+}
 
 constexpr qint64 overLimit = (64 << 20) + 1;
 
-struct LargeFile {
-    const char* name;
-    QByteArray contents;
-    qint64 length;
-    QList<std::pair<TooLarge::Kind, qint64>> reported;
-};
+TEST(TooLargeCopy, isReportedOnceForAFileToo) {
+    struct Case {
+        const char* name;
+        QByteArray contents;
+        qint64 length;
+        Reports reports;
+    };
 
-TEST_F(Clipboard, aCopiedImageFileThatIsTooLargeIsReportedOnce) {
-    const LargeFile files[] = {
+    const Case cases[] = {
         {"bytes", picture("png"), overLimit, {{TooLarge::Kind::image, overLimit}}},
         {"pixels",
-         widePicture("BMP"),
-         widePicture("BMP").size(),
+         emptyPicture("BMP", wide),
+         emptyPicture("BMP", wide).size(),
          {{TooLarge::Kind::pixels, 8192 * 4097}}},
-        {"noPicture", "text", overLimit, {}}};
-    for (const LargeFile& large : files) {
-        QList<std::pair<TooLarge::Kind, qint64>> said;
-        const auto connection =
-            QObject::connect(&*manager, &ClipboardManager::tooLarge, [&](const TooLarge& what) {
-                said.append({what.kind, what.amount});
-            });
-        QFile file(folder.filePath(QString::fromLatin1(large.name)));
-        ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(large.contents) > 0);
-        ASSERT_TRUE(file.resize(large.length));
-        const QByteArray list = QUrl::fromLocalFile(file.fileName()).toEncoded();
+        {"no picture", "text", overLimit, {}}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        ClipboardWorld world;
+        const auto reports = reportsOf(world);
+        const QString path = world.imageFile(c.contents);
+        ASSERT_TRUE(QFile::resize(path, c.length));
+        const QByteArray list = QUrl::fromLocalFile(path).toEncoded();
         for (const PasteboardOwner& owner : {one, other}) { // The other passes it on.
-            by(owner, {{filesType, list}})(*this);
-            settle(); // A file is read before the worker gets it.
+            by(owner, {{filesType, list}})(world);
+            world.settle(); // A file is read before the worker gets it.
         }
-        QObject::disconnect(connection);
-        EXPECT_EQ(said, large.reported) << large.name;
-        EXPECT_EQ(texts(), QStringList()) << large.name;
+        EXPECT_EQ(*reports, c.reports);
+        EXPECT_EQ(world.texts(), QStringList());
     }
 }
 

@@ -79,7 +79,7 @@ TEST_P(PanelWindowContract, hasTheKeyboardOnRequestOnly) {
     EXPECT_TRUE(eventually([&] { return !host_->hasKeyboard(); }));
 }
 
-TEST_P(PanelWindowContract, reportsThatThePointerComesAndGoes) {
+TEST_P(PanelWindowContract, reportsThatThePointerEntersAndLeaves) {
     const QSizeF size(400, 300);
     const QPointF outside = topCentre(size).center() + QPointF(0, 300);
     host_->movePointer(outside);

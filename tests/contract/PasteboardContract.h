@@ -16,17 +16,17 @@ public:
 
     [[nodiscard]] virtual Pasteboard& pasteboard() = 0;
 
-    /// Another program takes the pasteboard.
+    /// Another program copies.
     virtual void offer(const QList<PasteboardEntry>& forms) = 0;
 
-    /// That program ends, or gives the contents up and goes on.
+    /// That program exits, or clears the pasteboard and stays.
     virtual void loseOwner() = 0;
     virtual void release() = 0;
 
-    /// What another program gets when it asks for this type.
+    /// What another program reads as this type.
     [[nodiscard]] virtual QByteArray pasted(QLatin1StringView type) = 0;
 
-    /// Lets time pass until `condition` holds; false where it never does.
+    /// Lets time pass until `condition` holds; false if it never does.
     [[nodiscard]] virtual bool eventually(const std::function<bool()>& condition) = 0;
 };
 
@@ -53,7 +53,7 @@ protected:
         return result.value_or(PasteboardSnapshot());
     }
 
-    /// Another program takes the pasteboard, and we have heard of it.
+    /// Another program copies; we have been notified when this returns.
     void offer(const QList<PasteboardEntry>& forms) {
         const qint64 before = board().changeCount();
         host_->offer(forms);
@@ -82,7 +82,7 @@ TEST_P(PasteboardContract, reportsAChangeFromElsewhere) {
     EXPECT_TRUE(eventually([&] { return calls == 1; })) << "the change is not reported";
 }
 
-TEST_P(PasteboardContract, readsWhatThePlanAsksForAndNothingElse) {
+TEST_P(PasteboardContract, readsOnlyWhatThePlanRequests) {
     offer(
         {text("Gr\xc3\xbc\xc3\x9f"), {pngType, "png bytes"}, {QStringLiteral("text/html"), "<b>"}});
     const auto snapshot = read({plainTextType, pngType, QStringLiteral("image/tiff")});
@@ -97,23 +97,23 @@ TEST_P(PasteboardContract, readsWhatThePlanAsksForAndNothingElse) {
         << "something that was not on offer";
 }
 
-TEST_P(PasteboardContract, neverAnswersADroppedReadNorByWhatCameLater) {
+TEST_P(PasteboardContract, neverAnswersADroppedOrOutdatedRead) {
     offer({text("old")});
     int answers = 0;
     Handle dropped = board().read(asking({plainTextType}), [&](const auto&) { ++answers; });
     dropped.reset();
-    QByteArray told("old"); // It may have been answered just before the change.
+    QByteArray latest("old"); // It may have been answered just before the change.
     const Handle overtaken =
         board().read(asking({plainTextType}), [&](const PasteboardSnapshot& snapshot) {
-            told = snapshot.answers.value(plainTextType).value_or(QByteArray());
+            latest = snapshot.answers.value(plainTextType).value_or(QByteArray());
         });
     board().write({text("ours")});
     EXPECT_EQ(read({plainTextType}).answers.value(plainTextType), QByteArray("ours"));
-    EXPECT_EQ(answers, 0) << "nobody wanted to know any more";
-    EXPECT_EQ(told, "old") << "answered by contents that came after the question";
+    EXPECT_EQ(answers, 0) << "the handle was dropped";
+    EXPECT_EQ(latest, "old") << "answered by contents that came after the question";
 }
 
-TEST_P(PasteboardContract, countsAWriteAtOnceAndTellsNobody) {
+TEST_P(PasteboardContract, countsOurWriteAtOnceWithoutANotification) {
     offer({text("before")});
     int calls = 0;
     const qint64 before = board().changeCount();
@@ -126,7 +126,7 @@ TEST_P(PasteboardContract, countsAWriteAtOnceAndTellsNobody) {
     EXPECT_EQ(host_->pasted(QLatin1StringView("image/png")), "png bytes");
     EXPECT_EQ(read({pngType}).answers.value(pngType), QByteArray("png bytes"));
     EXPECT_EQ(board().changeCount(), before + 1) << "counted again when the notice came";
-    EXPECT_EQ(calls, 0) << "told of our own write";
+    EXPECT_EQ(calls, 0) << "notified of our own write";
 }
 
 TEST_P(PasteboardContract, isAdoptedOnlyAfterAnOwnersEnd) {
@@ -148,7 +148,7 @@ TEST_P(PasteboardContract, isAdoptedOnlyAfterAnOwnersEnd) {
     int calls = 0;
     const Handle listening = board().onChange([&] { ++calls; });
     host_->loseOwner();
-    EXPECT_TRUE(eventually([&] { return calls == 1; })) << "not told of the end";
+    EXPECT_TRUE(eventually([&] { return calls == 1; })) << "not notified of the end";
     EXPECT_EQ(board().orphaned(), before);
     EXPECT_EQ(board().changeCount(), before + 1);
     EXPECT_EQ(board().adopt(ours), before + 2);
@@ -156,7 +156,7 @@ TEST_P(PasteboardContract, isAdoptedOnlyAfterAnOwnersEnd) {
     EXPECT_EQ(host_->pasted(plainTextType), "ours");
     EXPECT_EQ(read({plainTextType}).answers.value(plainTextType), QByteArray("ours"));
     expectNoOrphan("adopted");
-    EXPECT_EQ(calls, 1) << "told of our own write";
+    EXPECT_EQ(calls, 1) << "notified of our own write";
 
     offer({text("lost too")});
     host_->loseOwner();

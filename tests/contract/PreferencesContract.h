@@ -23,7 +23,7 @@ public:
 
 using MakePreferences = std::unique_ptr<PreferencesUnderTest> (*)();
 
-/// What all preferences keep to.
+/// What all preferences guarantee.
 class PreferencesContract : public testing::TestWithParam<MakePreferences> {
 protected:
     [[nodiscard]] QJsonValue value(const char16_t* key) {

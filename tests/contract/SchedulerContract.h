@@ -9,20 +9,20 @@
 
 namespace ravelo {
 
-/// A scheduler under test and what makes time pass on it.
+/// A scheduler under test and its clock.
 class SchedulerUnderTest {
 public:
     virtual ~SchedulerUnderTest() = default;
 
     [[nodiscard]] virtual Scheduler& scheduler() = 0;
 
-    /// Lets time pass until `done`, at most ten seconds; whether it came to that.
+    /// Lets time pass until `done`, for max. ten seconds; false on timeout.
     [[nodiscard]] virtual bool waitUntil(const std::function<bool()>& done) = 0;
 };
 
 using MakeScheduler = std::unique_ptr<SchedulerUnderTest> (*)();
 
-/// What every scheduler keeps to. Nothing here depends on how late a machine under load is.
+/// What every scheduler guarantees. Nothing here depends on how late a machine under load is.
 class SchedulerContract : public testing::TestWithParam<MakeScheduler> {
 protected:
     std::unique_ptr<SchedulerUnderTest> made_ = GetParam()();
@@ -91,7 +91,7 @@ TEST_P(SchedulerContract, ActionMayDropHandlesItsOwnToo) {
     EXPECT_EQ(notes_, std::vector({1, 3}));
 }
 
-TEST_P(SchedulerContract, ActionMayAskForMore) {
+TEST_P(SchedulerContract, ActionMayScheduleMore) {
     Handle next;
     const Handle first = scheduler_.after(Seconds(0.001), [&] {
         notes_.push_back(1);
@@ -111,7 +111,7 @@ TEST_P(SchedulerContract, RepeatsUntilItsHandleIsDropped) {
     EXPECT_EQ(notes_.size(), 5U);
 }
 
-TEST_P(SchedulerContract, WallClockGoesWithTheUptime) {
+TEST_P(SchedulerContract, WallClockFollowsTheUptime) {
     const Date wall = scheduler_.now();
     const Seconds start = scheduler_.uptime();
     settle();

@@ -14,7 +14,7 @@ namespace ravelo {
 
 using MakeWorker = std::unique_ptr<Worker> (*)();
 
-/// What every worker keeps to.
+/// What every worker guarantees.
 class WorkerContract : public testing::TestWithParam<MakeWorker> {
 protected:
     std::unique_ptr<Worker> worker_ = GetParam()();
@@ -27,7 +27,7 @@ protected:
                          EXPECT_TRUE(jobs_.find(letter) != std::string::npos)
                              << "ended before it ran";
                          EXPECT_TRUE(QThread::currentThread() == thread_)
-                             << "not where it was given";
+                             << "not on the thread that submitted it";
                          ends_ += letter;
                      });
     }
@@ -36,7 +36,7 @@ private:
     QThread* thread_ = QThread::currentThread();
 };
 
-TEST_P(WorkerContract, KeepsTheOrderOfJobsAndOfTheirEnds) {
+TEST_P(WorkerContract, KeepsTheOrderOfJobsAndCallbacks) {
     std::string expected;
     for (char letter = 'a'; letter <= 'z'; ++letter) {
         run(letter);
@@ -49,7 +49,7 @@ TEST_P(WorkerContract, KeepsTheOrderOfJobsAndOfTheirEnds) {
     EXPECT_EQ(jobs_, expected);
 }
 
-TEST_P(WorkerContract, DrainsWhatEndsGiveInTheirTurn) {
+TEST_P(WorkerContract, DrainsJobsStartedByCallbacks) {
     worker_->run([this] { jobs_ += 'a'; },
                  [this] { worker_->run([this] { jobs_ += 'c'; }, [this] { run('d'); }); });
     run('b');
@@ -58,10 +58,10 @@ TEST_P(WorkerContract, DrainsWhatEndsGiveInTheirTurn) {
     EXPECT_EQ(jobs_, "abcd");
     std::ranges::sort(ends_);
     EXPECT_EQ(ends_, "bd");
-    worker_->drain(); // With nothing to do it comes back.
+    worker_->drain(); // Returns if there is nothing to do.
 }
 
-TEST_P(WorkerContract, EndMayDrain) {
+TEST_P(WorkerContract, CallbackMayDrain) {
     worker_->run([] {},
                  [this] {
                      ends_ += '<';

@@ -1,10 +1,8 @@
 #include "Samples.h"
 #include "platform/system/DecoderProcess.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <atomic>
 #include <thread>
@@ -24,13 +22,12 @@ qint64 residentBytes() {
     return file.readAll().split(' ').value(1).toLongLong() * sysconf(_SC_PAGESIZE);
 }
 
-/// Files: each picture that was copied would cost a process of its own.
+/// Files, because each copied picture would need a process of its own.
 class Files {
 public:
     PictureFile next(const QByteArray& picture) {
-        QFile file(folder_.filePath(QString::number(count_++)));
-        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(picture) == picture.size());
-        return {QFile::encodeName(file.fileName())};
+        const QString path = folder_.filePath(QString::number(count_++));
+        return {QFile::encodeName(makeFile(path, picture))};
     }
 
 private:
@@ -39,12 +36,12 @@ private:
 };
 
 void readAll(ImageDecoder& decoder, const PictureFile& picture) {
-    (void)decoder.size(picture);
+    (void)sizeOf(decoder, picture);
     (void)decoder.filling(picture, {28, 28, 40});
     (void)decoder.png(picture);
 }
 
-/// Does `work` on another thread and returns the longest time that this thread waits for its turn.
+/// Does `work` on another thread and returns the max. time for which this thread is not scheduled.
 template <typename Work>
 std::chrono::milliseconds longestPause(Work work) {
     std::atomic<bool> done = false;
@@ -74,12 +71,13 @@ void expectNothingMoved(DecoderProcess& decoder, const std::function<void()>& wo
     testing::Test::RecordProperty("grown", static_cast<int>(grown / 1024));
     EXPECT_LT(grown, 8 << 20) << "the pictures were read here";
     EXPECT_LT(pause, std::chrono::seconds(1)) << "this thread had to wait";
-    EXPECT_EQ(decoder.size(samples::picture("bmp")), QSize(64, 32)) << "nothing is read any more";
+    EXPECT_EQ(sizeOf(decoder, samples::picture("bmp")), QSize(64, 32))
+        << "nothing is read any more";
 }
 
 class BrokenPictures : public testing::TestWithParam<const char*> {};
 
-TEST_P(BrokenPictures, CostNothingButThemselves) {
+TEST_P(BrokenPictures, HarmNothingElse) {
     DecoderProcess decoder(RAVELO_DECODE, "/nowhere");
     const QByteArray whole = samples::picture(GetParam());
     Files files;
@@ -92,7 +90,7 @@ TEST_P(BrokenPictures, CostNothingButThemselves) {
 
 INSTANTIATE_TEST_SUITE_P(Thousand, BrokenPictures, testing::ValuesIn(samples::formats));
 
-TEST(Bombs, AreRefusedOrMadeSmall) {
+TEST(Bombs, AreRefusedOrScaledDown) {
     DecoderProcess decoder(RAVELO_DECODE, "/nowhere");
     const QList<samples::Bomb> bombs = samples::bombs();
     Files files;
@@ -102,7 +100,7 @@ TEST(Bombs, AreRefusedOrMadeSmall) {
         }
     });
     for (const samples::Bomb& bomb : bombs.first(3)) {
-        EXPECT_EQ(decoder.size(bomb.bytes), QSize()) << bomb.name;
+        EXPECT_EQ(sizeOf(decoder, bomb.bytes), QSize()) << bomb.name;
     }
 }
 

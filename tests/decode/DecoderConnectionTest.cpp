@@ -2,10 +2,9 @@
 
 #include "platform/system/DecoderConnection.h"
 #include "decode/Packets.h"
+#include "support/TestPictures.h"
 
-#include <QBuffer>
 #include <QDir>
-#include <QImage>
 
 #include <gtest/gtest.h>
 
@@ -35,7 +34,7 @@ protected:
 
     template <typename Packet>
     void say(const Packet& packet, const Descriptor& memory) {
-        ASSERT_TRUE(sendPacket(theirs.number(), &packet, sizeof(packet), memory.number()));
+        ASSERT_TRUE(sendPacket(theirs.number(), &packet, sizeof(packet), memory));
     }
 
     /// A reply cut to `size` bytes, with the descriptor twice.
@@ -60,20 +59,16 @@ protected:
     std::unique_ptr<DecoderConnection> ours;
 };
 
-Descriptor sealed(const QByteArray& bytes) {
-    return Descriptor(sealedMemory(bytes));
-}
-
 constexpr Reply sixteen{Status::done, 2, 2, 0, 16};
 
-TEST_F(Liar, IsBelievedWhatHolds) {
-    say(sixteen, sealed("0123456789abcdef"));
+TEST_F(Liar, IsBelievedIfTheReplyIsValid) {
+    say(sixteen, sealedMemory("0123456789abcdef"));
     const auto answer = ours->receive(timeout);
     ASSERT_TRUE(answer);
     EXPECT_EQ(answer->contents, "0123456789abcdef");
 }
 
-TEST_F(Liar, IsNotBelievedWhatItCanStillChange) {
+TEST_F(Liar, IsNotBelievedIfItCanStillChangeTheMemory) {
     const Descriptor open(memfd_create("open", MFD_CLOEXEC | MFD_ALLOW_SEALING));
     ASSERT_EQ(write(open.number(), "0123456789abcdef", 16), 16);
     say(sixteen, open);
@@ -83,21 +78,21 @@ TEST_F(Liar, IsNotBelievedWhatItCanStillChange) {
     EXPECT_FALSE(ours->receive(timeout)) << "memory that can still be made smaller";
 }
 
-TEST_F(Liar, IsNotBelievedASizeThatIsNotThere) {
+TEST_F(Liar, IsNotBelievedAWrongSize) {
     Reply negative = sixteen;
     negative.bytes = -16;
     const auto lie = [&](const Reply& reply, const Descriptor& memory) {
         say(reply, memory);
         return ours->receive(timeout).has_value();
     };
-    EXPECT_FALSE(lie(sixteen, sealed("0123456789abcde"))) << "less than it says";
-    EXPECT_FALSE(lie(sixteen, sealed("0123456789abcdefg"))) << "more than it says";
+    EXPECT_FALSE(lie(sixteen, sealedMemory("0123456789abcde"))) << "less than it says";
+    EXPECT_FALSE(lie(sixteen, sealedMemory("0123456789abcdefg"))) << "more than it says";
     EXPECT_FALSE(lie(sixteen, Descriptor())) << "nothing at all";
-    EXPECT_FALSE(lie(negative, sealed("0123456789abcdef"))) << "less than nothing";
+    EXPECT_FALSE(lie(negative, sealedMemory("0123456789abcdef"))) << "less than nothing";
     EXPECT_FALSE(lie(sixteen, Descriptor(open("/dev/zero", O_RDONLY | O_CLOEXEC)))) << "a device";
 }
 
-TEST_F(Liar, IsNotBelievedAPacketOfAnotherSize) {
+TEST_F(Liar, IsNotBelievedAPacketOfTheWrongSize) {
     say('x', Descriptor());
     EXPECT_FALSE(ours->receive(timeout)) << "too short";
     say(std::array<Reply, 2>{Reply{Status::done, 1, 1, 0, 0}, {}}, Descriptor());
@@ -110,7 +105,7 @@ qsizetype openDescriptors() {
 }
 
 TEST_F(Liar, LeavesNoDescriptorBehind) {
-    const Descriptor memory = sealed("0123456789abcdef");
+    const Descriptor memory = sealedMemory("0123456789abcdef");
     const qsizetype before = openDescriptors();
     Reply empty = sixteen;
     empty.bytes = 0;
@@ -125,14 +120,10 @@ TEST_F(Liar, LeavesNoDescriptorBehind) {
     EXPECT_EQ(openDescriptors(), before) << "leaked descriptors";
 }
 
-TEST(Decoder, IsKilledWhenItsTimeIsOver) {
+TEST(Decoder, IsKilledAtTheTimeLimit) {
     auto decoder = DecoderConnection::start(RAVELO_DECODE);
     ASSERT_TRUE(decoder && decoder->isReady());
-    QImage image(4000, 4000, QImage::Format_RGB32);
-    image.fill(Qt::green);
-    QBuffer file;
-    ASSERT_TRUE(image.save(&file, "bmp"));
-    const Descriptor large = sealed(file.data());
+    const Descriptor large = sealedMemory(picture("bmp", Qt::green, {4000, 4000}));
     ASSERT_TRUE(decoder->send({Kind::png, 0, 0, 0, 20}, large));
     EXPECT_FALSE(decoder->receive(std::chrono::seconds(20))) << "it took as long as it liked";
     EXPECT_FALSE(decoder->send({Kind::probe, 0, 0, 0, 0}, large)) << "it is still there";

@@ -1,13 +1,10 @@
 #include "platform/system/DecoderProcess.h"
 #include "Samples.h"
+#include "base/Files.h"
 #include "support/Eventually.h"
+#include "support/TestFiles.h"
 
-#include <QDir>
-#include <QFile>
-#include <QFileInfo>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <csignal>
 
@@ -19,16 +16,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QByteArray contentsOf(const QString& path) {
-    QFile file(path);
-    return file.open(QFile::ReadOnly) ? file.readAll() : QByteArray();
-}
-
 /// The running processes that this one has started.
 QStringList children() {
     QStringList found;
     for (const QString& process : QDir(u"/proc"_s).entryList({u"[0-9]*"_s}, QDir::Dirs)) {
-        const QByteArray stat = contentsOf(u"/proc/"_s + process + u"/stat"_s);
+        const QByteArray stat = readFile(u"/proc/"_s + process + u"/stat"_s).value_or(QByteArray());
         const QByteArrayList fields = stat.mid(stat.lastIndexOf(')') + 2).split(' ');
         if (fields.value(1).toInt() == getpid() && fields.value(0) != "Z") {
             found.append(process);
@@ -41,23 +33,18 @@ QStringList children() {
 class CountedDecoder : public testing::Test {
 protected:
     CountedDecoder() {
-        QFile script(folder.filePath(u"start"_s));
-        EXPECT_TRUE(script.open(QFile::WriteOnly));
-        script.write("#!/bin/sh\necho >>\"${0}ed\"\nexec " RAVELO_DECODE "\n");
-        script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-        script.close();
-        decoder = std::make_unique<DecoderProcess>(QFile::encodeName(script.fileName()),
+        const QString script =
+            makeProgram(folder.filePath(u"start"_s), "echo >>\"${0}ed\"\nexec " RAVELO_DECODE "\n");
+        decoder = std::make_unique<DecoderProcess>(QFile::encodeName(script),
                                                    QFile::encodeName(folder.filePath(u"own"_s)));
     }
 
     [[nodiscard]] qsizetype starts() const {
-        return contentsOf(folder.filePath(u"started"_s)).size();
+        return readFile(folder.filePath(u"started"_s)).value_or(QByteArray()).size();
     }
 
     [[nodiscard]] PictureFile write(const char* name, const QByteArray& bytes) const {
-        QFile file(folder.filePath(QString::fromLatin1(name)));
-        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
-        return {QFile::encodeName(file.fileName())};
+        return {QFile::encodeName(makeFile(folder.filePath(QString::fromLatin1(name)), bytes))};
     }
 
     QTemporaryDir folder;
@@ -68,10 +55,10 @@ protected:
 constexpr auto deadly = R"(<svg xmlns="http://www.w3.org/2000/svg" width="9" height="9">)"
                         R"(<text x="1" y="8">A</text></svg>)";
 
-TEST_F(CountedDecoder, ServesManyAndKeepsWhatIsSmall) {
+TEST_F(CountedDecoder, ServesManyAndCachesSmallPictures) {
     const PictureFile file = write("a.png", samples::picture("png"));
     EXPECT_EQ(starts(), 0) << "started too early";
-    EXPECT_EQ(decoder->size(file), QSize(64, 32));
+    EXPECT_EQ(sizeOf(*decoder, file), QSize(64, 32));
     EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8));
     EXPECT_EQ(decoder->filling(file, {8, 8, 9}).size(), QSize(9, 8));
     EXPECT_EQ(starts(), 1) << "a process for each picture";
@@ -86,7 +73,6 @@ TEST_F(CountedDecoder, ServesManyAndKeepsWhatIsSmall) {
 }
 
 TEST_F(CountedDecoder, KeepsPicturesOfDifferentOriginApart) {
-    ASSERT_TRUE(QDir(folder.path()).mkdir(u"own"_s));
     const PictureFile own = write("own/a.png", samples::picture("png"));
     const PictureFile other = write("a.png", samples::picture("png"));
     const PictureBytes copied = samples::picture("png");
@@ -101,7 +87,7 @@ TEST_F(CountedDecoder, KeepsPicturesOfDifferentOriginApart) {
                  {own, 4, "ours have it still"}};
 
     for (const auto& step : steps) {
-        EXPECT_EQ(decoder->size(step.picture), QSize(64, 32)) << step.what;
+        EXPECT_EQ(sizeOf(*decoder, step.picture), QSize(64, 32)) << step.what;
         EXPECT_EQ(starts(), step.starts) << step.what;
     }
 }
@@ -121,25 +107,25 @@ TEST_F(CountedDecoder, ForgetsOneFileOnly) {
     EXPECT_EQ(starts(), 2) << "it is still kept";
 }
 
-TEST_F(CountedDecoder, TriesOnceWhatKillsIt) {
+TEST_F(CountedDecoder, TriesADeadlyPictureOnce) {
     const PictureFile file = write("deadly.svg", deadly);
     EXPECT_TRUE(decoder->icon(file, 9).isNull());
     EXPECT_EQ(starts(), 1);
     EXPECT_TRUE(decoder->icon(file, 9).isNull());
-    EXPECT_EQ(decoder->size(file), QSize());
+    EXPECT_EQ(sizeOf(*decoder, file), QSize());
     EXPECT_EQ(starts(), 1) << "it was tried again";
-    EXPECT_EQ(decoder->size(samples::picture("png")), QSize(64, 32)) << "others suffer from it";
+    EXPECT_EQ(sizeOf(*decoder, samples::picture("png")), QSize(64, 32)) << "others suffer from it";
     EXPECT_EQ(starts(), 2);
     const PictureFile mended = write("deadly.svg", QByteArray(deadly).replace("text", "path"));
     EXPECT_EQ(decoder->icon(mended, 9).size(), QSize(9, 9)) << "a file that has changed";
 }
 
-TEST_F(CountedDecoder, CostsAPictureOnlyIfThereIsNone) {
+TEST_F(CountedDecoder, ThatCannotBeStartedIsNotThePicturesFault) {
     QFile::remove(folder.filePath(u"start"_s));
     const PictureFile file = write("a.png", samples::picture("png"));
-    EXPECT_EQ(decoder->size(file), QSize());
+    EXPECT_EQ(sizeOf(*decoder, file), QSize());
     ASSERT_TRUE(QFile::link(QString::fromLatin1(RAVELO_DECODE), folder.filePath(u"start"_s)));
-    EXPECT_EQ(decoder->size(file), QSize(64, 32)) << "the picture is blamed";
+    EXPECT_EQ(sizeOf(*decoder, file), QSize(64, 32)) << "the picture is blamed";
 }
 
 class DecoderProcessLife : public CountedDecoder {
@@ -150,41 +136,41 @@ protected:
 };
 
 TEST_F(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
-    ASSERT_EQ(decoder->size(file), QSize(64, 32));
+    ASSERT_EQ(sizeOf(*decoder, file), QSize(64, 32));
     ASSERT_EQ(children().size(), 1);
     const QString process = u"/proc/"_s + children().first();
-    const QByteArray status = contentsOf(process + u"/status"_s);
+    const QByteArray status = readFile(process + u"/status"_s).value_or(QByteArray());
     EXPECT_TRUE(status.contains("Seccomp:\t2")) << "no filter of system calls";
     EXPECT_TRUE(status.contains("NoNewPrivs:\t1"));
     if (geteuid() == 0) { // Only root can inspect a process that is not dumpable.
         EXPECT_EQ(QDir(process + u"/fd"_s)
                       .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System),
                   (QStringList{u"0"_s, u"1"_s, u"2"_s, u"3"_s}));
-        EXPECT_EQ(contentsOf(process + u"/environ"_s), "") << "it knows the environment";
+        EXPECT_EQ(readFile(process + u"/environ"_s), "") << "it knows the environment";
     }
     decoder.reset();
     EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it stays";
 }
 
 TEST_F(CountedDecoder, IsKilledIfItDoesNotEnd) {
-    QFile script(folder.filePath(u"start"_s));
-    ASSERT_TRUE(script.open(QFile::WriteOnly));
-    script.write("#!/bin/sh\nexec sleep 1000\n");
-    script.close();
-    auto connection = DecoderConnection::start(QFile::encodeName(script.fileName()));
-    ASSERT_EQ(children().size(), 1);
-    connection.reset();
-    EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it sleeps on";
+    const QByteArray script =
+        QFile::encodeName(makeProgram(folder.filePath(u"start"_s), "exec sleep 1000\n"));
+    for (const bool rests : {false, true}) {
+        auto connection = DecoderConnection::start(script);
+        ASSERT_EQ(children().size(), 1);
+        rests ? connection->rest(std::chrono::milliseconds(1)) : connection.reset();
+        EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it sleeps on " << rests;
+    }
 }
 
-TEST_F(DecoderProcessLife, EndsWithoutWork) {
-    ASSERT_EQ(decoder->size(file), QSize(64, 32));
+TEST_F(DecoderProcessLife, ExitsWhenIdle) {
+    ASSERT_EQ(sizeOf(*decoder, file), QSize(64, 32));
     EXPECT_EQ(children().size(), 1);
     const auto gone = [] {
         return children().isEmpty();
     };
     EXPECT_TRUE(eventually(gone) || eventually(gone)) << "it stays"; // After 20 s.
-    EXPECT_EQ(decoder->size(file), QSize(64, 32)) << "none came in its place";
+    EXPECT_EQ(sizeOf(*decoder, file), QSize(64, 32)) << "none came in its place";
 }
 
 } // namespace

@@ -3,14 +3,10 @@
 #include "Samples.h"
 #include "fakes/InProcessDecoder.h"
 #include "platform/system/DecoderProcess.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QImageWriter>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
-
-#include <sys/stat.h>
 
 namespace ravelo {
 
@@ -35,9 +31,7 @@ template <typename Decoder>
 class Decoding : public testing::Test {
 protected:
     PictureFile write(const QByteArray& bytes, const QString& name = u"picture.png"_s) {
-        QFile file(folder.filePath(name));
-        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
-        return {QFile::encodeName(file.fileName())};
+        return {QFile::encodeName(makeFile(folder.filePath(name), bytes))};
     }
 
     std::unique_ptr<ImageDecoder> decoder = make<Decoder>();
@@ -50,7 +44,7 @@ TYPED_TEST_SUITE(Decoding, Decoders);
 TYPED_TEST(Decoding, ReadsEachFormatWhateverItsName) {
     for (const QByteArray format : samples::formats) {
         const QByteArray bytes = samples::picture(format);
-        EXPECT_EQ(this->decoder->size(bytes), samples::size) << format.constData();
+        EXPECT_EQ(sizeOf(*this->decoder, bytes), samples::size) << format.constData();
         const QByteArray png = this->decoder->png(this->write(bytes));
         EXPECT_EQ(QImage::fromData(png, "png").size(), samples::size) << format.constData();
         const QImage filled = this->decoder->filling(this->write(bytes), {10, 10, 30});
@@ -80,24 +74,24 @@ TYPED_TEST(Decoding, CutsOutTheMiddleAndTurnsUpright) {
     QImageWriter camera(upright);
     camera.setTransformation(QImageIOHandler::TransformationRotate90);
     ASSERT_TRUE(camera.write(striped));
-    EXPECT_EQ(this->decoder->size(PictureFile{QFile::encodeName(upright)}), QSize(100, 300));
+    EXPECT_EQ(sizeOf(*this->decoder, PictureFile{QFile::encodeName(upright)}), QSize(100, 300));
     EXPECT_EQ(this->decoder->filling(PictureFile{QFile::encodeName(upright)}, {30, 1, 90}).size(),
               QSize(10, 30));
 }
 
-TYPED_TEST(Decoding, TakesDrawingsForIconsOnly) {
+TYPED_TEST(Decoding, DecodesDrawingsAsIconsOnly) {
     const QByteArray svg = R"(<svg xmlns="http://www.w3.org/2000/svg" width="20" height="10">)"
                            R"(<rect width="20" height="10" fill="lime"/></svg>)";
     const PictureFile file = this->write(svg);
     const QImage icon = this->decoder->icon(file, 40);
     EXPECT_EQ(icon.size(), QSize(40, 20));
     EXPECT_EQ(icon.pixelColor(20, 10), QColor(Qt::green));
-    EXPECT_EQ(this->decoder->size(file), QSize()) << "an SVG called .png counts as a picture";
+    EXPECT_EQ(sizeOf(*this->decoder, file), QSize()) << "an SVG called .png counts as a picture";
     EXPECT_TRUE(this->decoder->filling(file, {10, 10, 10}).isNull());
     EXPECT_TRUE(this->decoder->png(file).isEmpty());
 }
 
-TYPED_TEST(Decoding, RefusesWhatIsNoPictureFile) {
+TYPED_TEST(Decoding, RefusesWhatIsNotAPictureFile) {
     const QString pipe = this->folder.filePath(u"pipe"_s);
     ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
     const PictureFile big = this->write(samples::picture("bmp"), u"big.bmp"_s);
@@ -105,11 +99,11 @@ TYPED_TEST(Decoding, RefusesWhatIsNoPictureFile) {
     for (const QByteArray& path :
          {QFile::encodeName(pipe), big.path, QFile::encodeName(this->folder.path()),
           QByteArray("/no/such/file.png"), QByteArray("/dev/zero")}) {
-        EXPECT_EQ(this->decoder->size(PictureFile{path}), QSize()) << path.constData();
+        EXPECT_EQ(sizeOf(*this->decoder, PictureFile{path}), QSize()) << path.constData();
     }
 }
 
-TYPED_TEST(Decoding, ReadsALargeJpegOnlyToMakeItSmall) {
+TYPED_TEST(Decoding, ReadsALargeJpegOnlyForAThumbnail) {
     QImage large(9000, 6000, QImage::Format_Grayscale8);
     large.fill(Qt::gray);
     const QString path = this->folder.filePath(u"large.jpg"_s);

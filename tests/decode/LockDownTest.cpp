@@ -22,7 +22,7 @@ int endOf(const char* act) {
     return status;
 }
 
-TEST(LockDown, EndsAProcessThatDoesAnythingElse) {
+TEST(LockDown, KillsAProcessThatDoesAnythingElse) {
     for (const char* const act : {"open", "create", "unlink", "stat", "socket", "connect", "exec",
                                   "fork", "kill", "ptrace", "executable memory"}) {
         const int end = endOf(act);

@@ -1,8 +1,6 @@
 #include "Samples.h"
 #include "support/GreenHeic.h"
-
-#include <QBuffer>
-#include <QImage>
+#include "support/TestPictures.h"
 
 #include <random>
 
@@ -52,17 +50,7 @@ QByteArray picture(const QByteArray& format) {
     if (format == "heif") {
         return greenHeic();
     }
-    QImage image(size, QImage::Format_RGB32);
-    image.fill(Qt::green);
-    QBuffer buffer;
-    return image.save(&buffer, format) ? buffer.data() : QByteArray();
-}
-
-QByteArray emptyPng(QSize pixels) {
-    QImage image(pixels, QImage::Format_Mono);
-    image.fill(0);
-    QBuffer buffer;
-    return image.save(&buffer, "png") ? buffer.data() : QByteArray();
+    return ravelo::picture(format, Qt::green, size);
 }
 
 QByteArray broken(const QByteArray& picture, quint32 seed) {
@@ -102,8 +90,8 @@ QByteArray broken(const QByteArray& picture, quint32 seed) {
 QList<Bomb> bombs() {
     const QByteArray small = picture("png");
     return {{"a PNG that says it is huge", sized(small, "0000ea60", "0000ea60")},
-            {"a PNG of nothing but a large size", emptyPng({30'000, 30'000})},
-            {"a PNG that is just too large", emptyPng({8192, 4097})},
+            {"a PNG of nothing but a large size", emptyPicture("png", {30'000, 30'000})},
+            {"a PNG that is just too large", emptyPicture("png", {8192, 4097})},
             {"a PNG with a larger size than pixels", sized(small, "00001000", "00001000")},
             {"a GIF of many frames", longGif()},
             {"a TIFF that goes round in circles", loopingTiff()},

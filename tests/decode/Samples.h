@@ -1,12 +1,22 @@
 #pragma once
 
+#include "platform/ImageDecoder.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QSize>
 
 #include <array>
 
-namespace ravelo::samples {
+namespace ravelo {
+
+/// Empty if it is not a picture that can be read whole.
+inline QSize sizeOf(ImageDecoder& decoder, const UntrustedPicture& picture) {
+    const PictureLook seen = decoder.look(picture);
+    return seen.kind == PictureLook::Kind::good ? seen.size : QSize();
+}
+
+namespace samples {
 
 inline constexpr std::array formats{"png", "jpeg", "gif", "bmp", "webp", "tiff", "heif"};
 
@@ -15,13 +25,10 @@ inline constexpr QSize size(64, 32);
 /// A valid picture of the format, of that size and all green.
 [[nodiscard]] QByteArray picture(const QByteArray& format);
 
-/// A PNG of this size that is all one colour: hardly any bytes.
-[[nodiscard]] QByteArray emptyPng(QSize pixels);
-
 /// The picture with its bytes cut off, flipped, overwritten, or with huge numbers in it.
 [[nodiscard]] QByteArray broken(const QByteArray& picture, quint32 seed);
 
-/// Valid or nearly so, and made to take all there is of something, or to be taken for another kind.
+/// Valid or nearly so, and made to exhaust some resource or to pass for another format.
 struct Bomb {
     const char* name;
     QByteArray bytes;
@@ -29,4 +36,6 @@ struct Bomb {
 
 [[nodiscard]] QList<Bomb> bombs();
 
-} // namespace ravelo::samples
+} // namespace samples
+
+} // namespace ravelo

@@ -70,7 +70,7 @@ private:
     std::function<void()> wake_;
 };
 
-/// Answers when told to.
+/// Answers on demand.
 class FakeDragOffer final : public DragOffer {
 public:
     [[nodiscard]] std::optional<QByteArray> data(const QStringList& types) override {
@@ -131,7 +131,7 @@ private:
     Listeners<> listeners_;
 };
 
-/// Answers when told to.
+/// Answers on demand.
 class FakeFileTransfer final : public FileTransfer {
 public:
     [[nodiscard]] Handle retrieve(const QByteArray& key,
@@ -239,13 +239,9 @@ public:
         screen = on.id;
         size = wanted;
         frame = QRectF(QPointF(on.frame.center().x() - size.width() / 2, on.frame.top()), size);
-        ++placements;
     }
 
-    void orderFront() override {
-        ++fronts;
-        shown = true;
-    }
+    void orderFront() override { shown = true; }
 
     void orderOut() override { shown = false; }
 
@@ -282,8 +278,6 @@ public:
     QSizeF size;
     QRectF frame;
     QPainterPath outline;
-    int placements = 0;
-    int fronts = 0;
     bool shown = false;
     bool focused = false;
     QByteArray activationToken;

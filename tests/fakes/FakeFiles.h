@@ -9,7 +9,7 @@
 
 namespace ravelo {
 
-/// Remembers what it was to open.
+/// Records what it is asked to open.
 class FakeFileOpener final : public FileOpener {
 public:
     void open(const QUrl& file) override { opened.append(file); }
@@ -20,7 +20,7 @@ public:
         return Handle([this] { found_ = nullptr; });
     }
 
-    /// To whom asked for a program.
+    /// Ends the search for a program.
     void answer(const QString& name) {
         if (const auto done = std::exchange(found_, nullptr)) {
             done(name);

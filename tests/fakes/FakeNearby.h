@@ -87,7 +87,7 @@ public:
         return Handle([this] { report_ = nullptr; });
     }
 
-    void tell(const FolderNews& news) const {
+    void report(const FolderNews& news) const {
         if (report_) {
             report_(news);
         }

@@ -42,11 +42,11 @@ public:
     /// and before it returns.
     std::function<void()> meanwhile;
 
-    /// Another program takes the pasteboard.
+    /// Another program copies.
     void offer(const QList<PasteboardEntry>& forms);
     void offerText(const QString& text);
 
-    /// Another program takes the pasteboard and never answers.
+    /// Another program copies and never answers.
     void offerSilence();
 
     /// The owner clears the pasteboard.

@@ -1,13 +1,11 @@
 #pragma once
 
 #include "clipboard/ClipboardManager.h"
-#include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeDisplay.h"
 #include "fakes/FakeFiles.h"
-#include "fakes/FakeLoginItem.h"
 #include "fakes/FakeNearby.h"
-#include "fakes/FakePower.h"
+#include "fakes/FakeServices.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"

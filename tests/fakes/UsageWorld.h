@@ -13,7 +13,7 @@
 
 namespace ravelo {
 
-/// A plan whose usage comes from its file only.
+/// Plan usage that is read from the file only.
 struct UsageWorld {
     explicit UsageWorld(Scheduler& scheduler, const PlanWindows& windows = {})
         : jobs(scheduler),

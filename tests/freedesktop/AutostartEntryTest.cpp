@@ -3,12 +3,9 @@
 #include "base/Files.h"
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/ManualScheduler.h"
+#include "support/TestFiles.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <cstdio>
 #include <memory>
@@ -25,10 +22,7 @@ protected:
 
     [[nodiscard]] QString file() const { return folder() + u"/ravelo.desktop"_s; }
 
-    void write(const QByteArray& text) {
-        ASSERT_TRUE(QDir().mkpath(folder()));
-        ASSERT_TRUE(writeFileAtomically(file(), text));
-    }
+    void write(const QByteArray& text) const { makeFile(file(), text); }
 
     [[nodiscard]] AutostartEntry entryFor(const QString& program) {
         return AutostartEntry(folder(), program, jobs_);
@@ -46,7 +40,7 @@ protected:
     FakeDetachedJobs jobs_{scheduler_};
 };
 
-TEST_F(Autostart, CountsAsTheDesktopSeesIt) {
+TEST_F(Autostart, IsEnabledAsTheDesktopSeesIt) {
     AutostartEntry entry = entryFor(u"/here, that's us/ravelo"_s);
     EXPECT_FALSE(entry.isEnabled()) << "there is no file";
     const QByteArray group = "[Desktop Entry]\n";
@@ -71,7 +65,7 @@ TEST_F(Autostart, CountsAsTheDesktopSeesIt) {
     }
 }
 
-TEST_F(Autostart, WritesAnEntryAgainWhoseProgramIsGone) {
+TEST_F(Autostart, RewritesAnEntryWhoseProgramIsMissing) {
     AutostartEntry entry = entryFor(u"/usr/bin/ravelo"_s);
     EXPECT_EQ(repair(entry), "nothing to mend");
     EXPECT_FALSE(QFile::exists(file())) << "it was off";
@@ -90,7 +84,7 @@ TEST_F(Autostart, WritesAnEntryAgainWhoseProgramIsGone) {
     }
 }
 
-TEST_F(Autostart, IsOffIfItCannotBeMended) {
+TEST_F(Autostart, IsOffIfItCannotBeRepaired) {
     // What is written beside a file first would have a name that no file can have.
     const QString longest = config_.filePath(QString(255, u'x'));
     ASSERT_TRUE(
@@ -125,7 +119,7 @@ TEST_F(Autostart, IsSwitchedOffAndOnAgain) {
     EXPECT_FALSE(QFile::exists(file()));
 }
 
-TEST_F(Autostart, SaysWhatCouldNotBeDone) {
+TEST_F(Autostart, ReportsErrors) {
     QFile inTheWay(config_.filePath(u"config"_s));
     ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));
     const Result<void> on = entryFor(u"/usr/bin/ravelo"_s).setEnabled(true);
@@ -147,15 +141,10 @@ TEST_F(Autostart, HasNoFieldCodes) {
 
 class StartedProgram : public Autostart, public testing::WithParamInterface<const char*> {};
 
-/// The entry as GLib, the reader behind most desktops, understands it: does it start our program?
-TEST_P(StartedProgram, IsTheOneAtThisPath) {
-    const QString program = config_.filePath(QString::fromUtf8(GetParam()));
-    ASSERT_TRUE(QDir().mkpath(QFileInfo(program).path()));
-    QFile script(program);
-    ASSERT_TRUE(script.open(QFile::WriteOnly));
-    script.write("#!/bin/sh\necho \"started with $# arguments\"\n");
-    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    script.close();
+/// GLib, which most desktops use, starts our program by the entry.
+TEST_P(StartedProgram, IsStartedByTheEntry) {
+    const QString program = makeProgram(config_.filePath(QString::fromUtf8(GetParam())),
+                                        "echo \"started with $# arguments\"\n");
     ASSERT_TRUE(entryFor(program).setEnabled(true));
     EXPECT_TRUE(entryFor(u"/elsewhere/ravelo"_s).isEnabled()) << "read otherwise";
 

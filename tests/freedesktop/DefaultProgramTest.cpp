@@ -1,9 +1,6 @@
 #include "platform/freedesktop/DefaultProgram.h"
+#include "support/TestFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <map>
@@ -19,7 +16,7 @@ QByteArray entry(const QByteArray& name, const QByteArray& more = {}) {
            "[Desktop Action x]\nName=Wrong\n";
 }
 
-TEST(DefaultProgram, isTheOneThatTheDesktopWouldStart) {
+TEST(DefaultProgram, isTheOneThatTheDesktopStarts) {
     struct Case {
         const char* name;
         std::map<const char*, QByteArray> files; ///< Besides those of two programs.
@@ -66,11 +63,7 @@ TEST(DefaultProgram, isTheOneThatTheDesktopWouldStart) {
         files.insert({{"system/applications/a.desktop", entry("A")},
                       {"system/applications/b.desktop", entry("B")}});
         for (const auto& [path, contents] : files) {
-            const QString absolute = folder.filePath(QString::fromLatin1(path));
-            QDir().mkpath(absolute.section(u'/', 0, -2));
-            QFile file(absolute);
-            ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-            file.write(contents);
+            makeFile(folder.filePath(QString::fromLatin1(path)), contents);
         }
         const ProgramFolders folders{{folder.filePath(u"config"_s)},
                                      {folder.filePath(u"user"_s), folder.filePath(u"system"_s)},

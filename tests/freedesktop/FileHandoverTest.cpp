@@ -1,5 +1,4 @@
-// The services that files are given to and got from, with stand-ins for them that write down what
-// they are asked.
+// The services that send and receive files, against stand-ins that record their calls.
 
 #include "PrivateBus.h"
 #include "StandIn.h"
@@ -80,7 +79,7 @@ protected:
     std::optional<QVariant> answer_; ///< To every call; nothing hangs.
     QStringList calls_;
     QVariantList arguments_; ///< Of the last call.
-    uint caller_ = 0;        ///< Process number, likewise.
+    uint caller_ = 0;        ///< Process ID of the last caller.
     QByteArrayList callersEnvironment_;
     StandIn standIn_{[this](const QDBusMessage& call) {
         caller_ = service_.interface()->servicePid(call.service());
@@ -91,7 +90,7 @@ protected:
     }};
 };
 
-TEST_F(FileHandover, devicesAreThoseThatKdeConnectNames) {
+TEST_F(FileHandover, listsTheDevicesOfKdeConnect) {
     const QString odd = u"<b>ä & \n\u202e%1</b>"_s;
     const std::pair<QVariant, QList<NearbyDevice>> cases[] = {
         {QVariant::fromValue(Names()), {}},
@@ -111,8 +110,8 @@ TEST_F(FileHandover, devicesAreThoseThatKdeConnectNames) {
     }
 }
 
-TEST_F(FileHandover, addressesReachADeviceByteForByte) {
-    EXPECT_EQ(devices(), QList<NearbyDevice>()) << "it does not run";
+TEST_F(FileHandover, sendsExactAddresses) {
+    EXPECT_EQ(devices(), QList<NearbyDevice>()) << "it is not running";
     EXPECT_FALSE(send(u"a_1"_s, {"file:///a"}));
     answer_ = QVariant();
     serve(u"org.kde.kdeconnect"_s);
@@ -123,7 +122,7 @@ TEST_F(FileHandover, addressesReachADeviceByteForByte) {
     EXPECT_EQ(arguments_, QVariantList{addresses});
 }
 
-TEST_F(FileHandover, aKeyGivesFilesOnce) {
+TEST_F(FileHandover, redeemsAKey) {
     EXPECT_EQ(retrieve("key"), QList<QUrl>()) << "no portal";
     answer_ = QStringList{u"/run/user/1/doc/a1/x y%20"_s, u"relative"_s, u"/ä"_s};
     serve(u"org.freedesktop.portal.Documents"_s);
@@ -140,7 +139,7 @@ TEST_F(FileHandover, aKeyGivesFilesOnce) {
     EXPECT_EQ(retrieve("key"), QList<QUrl>());
 }
 
-TEST_F(FileHandover, nobodyIsWaitedForForEver) {
+TEST_F(FileHandover, everyCallTimesOut) {
     serve(u"org.kde.kdeconnect"_s);
     ASSERT_TRUE(service_.registerService(u"org.freedesktop.portal.Documents"_s));
     int ends = 0;
@@ -158,8 +157,8 @@ TEST_F(FileHandover, nobodyIsWaitedForForEver) {
     FileTransferPortal noChild(u"/nowhere/ravelo-portal"_s, {});
     const Handle gone[] = {kdeConnect.list(noFiles), kdeConnect.send(u"a"_s, {}, notSent),
                            portal.retrieve("key", noFiles), noChild.retrieve("key", noFiles)};
-    (void)portal_.retrieve("key", [](const auto&) { ADD_FAILURE() << "its handle is gone"; });
-    (void)kdeConnect.send(u"a"_s, {}, [](bool) { ADD_FAILURE() << "its handle is gone"; });
+    (void)portal_.retrieve("key", [](const auto&) { ADD_FAILURE() << "the handle was dropped"; });
+    (void)kdeConnect.send(u"a"_s, {}, [](bool) { ADD_FAILURE() << "the handle was dropped"; });
     EXPECT_EQ(ends, 0) << "answered from within the call";
     EXPECT_TRUE(eventually([&] { return ends == 7; }));
 }

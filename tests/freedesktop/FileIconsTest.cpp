@@ -1,9 +1,6 @@
 #include "platform/freedesktop/IconTheme.h"
+#include "support/TestFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 namespace ravelo {
@@ -33,28 +30,19 @@ protected:
               "user/Paper/mimes/16/folder", "user/Paper/big/folder", "system/Round/48/image-png",
               "user/Paper/mimes/32@2/video-mp4", "system/hicolor/64/application-zip",
               "system/hicolor/64/text-plain"}) {
-            touch(QString::fromLatin1(icon) + u".png"_s);
+            makeFile(folder_.filePath(QString::fromLatin1(icon) + u".png"_s));
         }
     }
 
     void describe(const QString& theme, const QByteArray& text) {
-        write(theme + u"/index.theme"_s, "[Icon Theme]\n" + text);
-    }
-
-    void touch(const QString& path) { write(path, {}); }
-
-    void write(const QString& path, const QByteArray& text) {
-        QDir(folder_.path()).mkpath(path.section(u'/', 0, -2));
-        QFile file(folder_.filePath(path));
-        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-        file.write(text);
+        makeFile(folder_.filePath(theme + u"/index.theme"_s), "[Icon Theme]\n" + text);
     }
 
     QTemporaryDir folder_;
     IconTheme icons_{{folder_.filePath(u"user"_s), folder_.filePath(u"system"_s)}};
 };
 
-TEST_F(Icons, areTheBestThatThereAre) {
+TEST_F(Icons, areTheBestAvailable) {
     struct Case {
         const char* theme;
         QStringList icons;

@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(LoginShutDown, asksTheLoginServiceWhichMayAskTheUser) {
+TEST(LoginShutDown, asksTheLoginServiceInteractively) {
     PrivateBus bus;
     LoginShutDown shutDown(bus.connect(u"ours"_s));
     shutDown.request(); // Nobody is there; the next one finds the service.

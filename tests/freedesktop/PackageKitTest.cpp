@@ -18,7 +18,7 @@ constexpr uint success = 1;
 constexpr uint failed = 2;
 constexpr uint notAuthorized = 48;
 
-/// What a transaction tells of until it ends.
+/// What a transaction reports.
 struct Course {
     QStringList packages;
     uint error = 0;
@@ -26,7 +26,7 @@ struct Course {
     friend bool operator==(const Course&, const Course&) = default;
 };
 
-/// PackageKit as far as this program asks it: the courses by the methods' names.
+/// PackageKit, as far as this program uses it: reports by the names of methods.
 class Recorder {
 public:
     Recorder(PrivateBus& bus, QHash<QString, Course> courses)
@@ -51,25 +51,25 @@ private:
     }
 
     void play(const QString& path, const Course& course) {
-        const auto tell = [&](const QString& name, const QVariantList& arguments,
+        const auto send = [&](const QString& name, const QVariantList& arguments,
                               const QString& interface = transaction) {
             auto signal = QDBusMessage::createSignal(path, interface, name);
             signal.setArguments(arguments);
             bus_.send(signal);
         };
         for (const uint percent : {30U, 101U}) {
-            tell(u"PropertiesChanged"_s,
+            send(u"PropertiesChanged"_s,
                  {transaction, QVariantMap{{u"Percentage"_s, percent}}, QStringList()},
                  u"org.freedesktop.DBus.Properties"_s);
         }
         for (const QString& id : course.packages) {
             constexpr uint info = 5 | (2 << 16); // Besides the kind of update how urgent it is.
-            tell(u"Package"_s, {info, id, u"summary"_s});
+            send(u"Package"_s, {info, id, u"summary"_s});
         }
         if (course.error != 0) {
-            tell(u"ErrorCode"_s, {course.error, u"two\nlines"_s});
+            send(u"ErrorCode"_s, {course.error, u"two\nlines"_s});
         }
-        tell(u"Finished"_s, {course.error == 0 ? success : failed, 5U});
+        send(u"Finished"_s, {course.error == 0 ? success : failed, 5U});
     }
 
     QHash<QString, Course> courses_;
@@ -88,7 +88,7 @@ PackageUpdates::Checked check(PrivateBus& bus) {
     return found.value_or(std::nullopt);
 }
 
-TEST(PackageKit, findsOutWhetherThereIsANewerPackage) {
+TEST(PackageKit, checksForANewerPackage) {
     const QString own = u"ravelo;0.2;amd64;manual:stable-main"_s;
     const QString built = u"ravelo;0.2;amd64;manual:local"_s;
     const QString newer = u"ravelo;0.3;amd64;stable-main"_s;
@@ -129,7 +129,7 @@ TEST(PackageKit, findsOutWhetherThereIsANewerPackage) {
     EXPECT_EQ(check(empty), PackageUpdates::Checked(problem(Kind::noService)));
 }
 
-TEST(PackageKit, isGivenUpAfterASilence) {
+TEST(PackageKit, timesOut) {
     PrivateBus bus;
     QDBusConnection service = bus.connect(u"packagekit"_s);
     StandIn mute([](const QDBusMessage& call) -> std::optional<QVariant> {
@@ -146,7 +146,7 @@ TEST(PackageKit, isGivenUpAfterASilence) {
                           UpdateProblem{Kind::failed, u"PackageKit does not answer."_s})));
 }
 
-TEST(PackageKit, installsOnlyWhatIsSignedAndTellsHowFarItIs) {
+TEST(PackageKit, installsSignedPackagesAndReportsProgress) {
     for (const uint error : {0U, notAuthorized}) {
         PrivateBus bus;
         const Recorder service(bus, {{u"UpdatePackages"_s, {{}, error}}});

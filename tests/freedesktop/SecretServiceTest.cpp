@@ -1,4 +1,4 @@
-// A Secret Service that notes what it is asked, on a bus of its own.
+// A Secret Service that records its calls, on a private bus.
 
 #include "platform/freedesktop/SecretService.h"
 #include "PrivateBus.h"
@@ -68,7 +68,7 @@ protected:
     QStringList asked_;
 };
 
-TEST_P(SecretServiceTest, isAskedForWhatIsNotLocked) {
+TEST_P(SecretServiceTest, readsUnlockedItems) {
     StandIn standIn([this](const QDBusMessage& call) { return answer(call); });
     ASSERT_TRUE(service_.registerVirtualObject(u"/"_s, &standIn, QDBusConnection::SubPath));
     if (GetParam().hangsAt != u"there is none"_s) {
@@ -77,7 +77,7 @@ TEST_P(SecretServiceTest, isAskedForWhatIsNotLocked) {
     SecretService secrets(ours_,
                           std::chrono::milliseconds(GetParam().hangsAt.isEmpty() ? 20000 : 200));
     int answers = 0;
-    std::optional<Secret> secret; // Its bytes are erased when it goes.
+    std::optional<Secret> secret; // Its bytes are erased when it is destroyed.
     const Handle search = secrets.find(u"a name"_s, [&](const std::optional<Secret>& found) {
         ++answers;
         secret = found;
@@ -103,18 +103,18 @@ INSTANTIATE_TEST_SUITE_P(
         ServiceCase{"noService", {first}, {}, u"there is none"_s, {}, {}}),
     [](const auto& row) { return row.param.name; });
 
-TEST(SecretServiceWithoutABus, hasNothing) {
+TEST(SecretServiceWithoutABus, findsNothing) {
     SecretService secrets(QDBusConnection(u"no such bus"_s), std::chrono::milliseconds(1));
     secrets
         .find(u"a name"_s,
-              [](const std::optional<Secret>&) { ADD_FAILURE() << "nobody wants it any more"; })
+              [](const std::optional<Secret>&) { ADD_FAILURE() << "the handle was dropped"; })
         .reset();
-    bool told = false;
+    bool answered = false;
     const Handle search = secrets.find(u"a name"_s, [&](const std::optional<Secret>& found) {
         EXPECT_FALSE(found);
-        told = true;
+        answered = true;
     });
-    EXPECT_TRUE(eventually([&] { return told; }));
+    EXPECT_TRUE(eventually([&] { return answered; }));
 }
 
 } // namespace

@@ -1,4 +1,4 @@
-// The services that tell of a locked session, with stand-ins for them on a bus of their own.
+// The services that report a locked session, by stand-ins on a private bus.
 
 #include "PrivateBus.h"
 #include "StandIn.h"
@@ -26,7 +26,7 @@ protected:
     QDBusConnection ours_ = bus_.connect(u"ours"_s);
 };
 
-TEST_F(SessionLockTest, aScreenSaverThatShowsAlreadyAndOneThatComes) {
+TEST_F(SessionLockTest, followsScreenSavers) {
     StandIn saver([](const QDBusMessage& call) { return call.interface().contains(u"gnome"); });
     serve(u"org.gnome.ScreenSaver"_s, saver);
     ASSERT_TRUE(service_.registerService(u"org.freedesktop.ScreenSaver"_s));
@@ -52,10 +52,10 @@ TEST_F(SessionLockTest, aScreenSaverThatShowsAlreadyAndOneThatComes) {
     EXPECT_EQ(calls, 3);
     ASSERT_TRUE(intruder.unregisterService(u"org.mate.ScreenSaver"_s));
     EXPECT_TRUE(eventually([&] { return !lock.isLocked(); })) << "by one that has ended";
-    EXPECT_EQ(calls, 4) << "somebody else than the owner was believed";
+    EXPECT_EQ(calls, 4) << "a signal of another program was believed";
 }
 
-TEST_F(SessionLockTest, theHintOfTheUsersGraphicalSession) {
+TEST_F(SessionLockTest, followsTheLockedHint) {
     const QString path = u"/org/freedesktop/login1/session/_32"_s;
     bool locked = true;
     StandIn login([&](const QDBusMessage& call) {
@@ -88,7 +88,7 @@ TEST_F(SessionLockTest, theHintOfTheUsersGraphicalSession) {
     EXPECT_TRUE(eventually([&] { return lock.isLocked(); }));
 }
 
-TEST_F(SessionLockTest, withoutAnyServiceNothingIsLocked) {
+TEST_F(SessionLockTest, isUnlockedWithoutAnyService) {
     const LoginSession session(ours_);
     const ScreenSaverBus saver(ours_);
     ours_.call(QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/"_s,

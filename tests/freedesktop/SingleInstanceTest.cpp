@@ -1,4 +1,4 @@
-// A running program and one that asks it: on a bus of their own, and without a bus.
+// A running program and one that sends it a request: on a private bus, and without a bus.
 
 #include "PrivateBus.h"
 #include "platform/freedesktop/BusInstance.h"
@@ -19,7 +19,7 @@ namespace {
 
 using namespace std::chrono_literals;
 
-/// What `call` gives on a thread of its own, while the event loop runs here.
+/// The result of `call` on a thread of its own, while the event loop runs here.
 template <typename Value>
 Value elsewhere(const std::function<Value()>& call) {
     Value value{};
@@ -84,11 +84,11 @@ protected:
     }
 };
 
-TEST_P(EitherWay, AnswersWhatItIsAsked) {
-    EXPECT_EQ(ask({u"show"_s}), std::nullopt) << "none runs";
+TEST_P(EitherWay, AnswersRequests) {
+    EXPECT_EQ(ask({u"show"_s}), std::nullopt) << "none is running";
     const auto instance = claim();
     ASSERT_TRUE(instance);
-    EXPECT_FALSE(claim()) << "there is one";
+    EXPECT_FALSE(claim()) << "one is running";
     EXPECT_EQ(ask({u"show"_s}).value().status, 1) << "it is not ready";
 
     QStringList asked;
@@ -110,7 +110,7 @@ TEST_P(EitherWay, AnswersWhatItIsAsked) {
     EXPECT_EQ(ask({QString(1'000'000, u'ü')}), answer) << "longer than any buffer";
 }
 
-TEST_P(EitherWay, IsNotWaitedForForEver) {
+TEST_P(EitherWay, TimesOut) {
     const auto instance = claim();
     ASSERT_TRUE(instance);
     // Here, so that no event loop runs.
@@ -120,7 +120,7 @@ TEST_P(EitherWay, IsNotWaitedForForEver) {
 INSTANTIATE_TEST_SUITE_P(Ways, EitherWay, testing::Values(overBus, overSocket),
                          [](const auto& row) { return row.param.name; });
 
-TEST_F(SingleInstanceTest, AnswersADesktopByTheStandardsInterface) {
+TEST_F(SingleInstanceTest, ImplementsTheStandardInterface) {
     const auto instance = BusInstance::claim(bus_.connect(u"claims"_s));
     ASSERT_TRUE(instance);
     QStringList asked;
@@ -155,7 +155,7 @@ TEST_F(SingleInstanceTest, AnswersADesktopByTheStandardsInterface) {
         u"what?"_s);
 }
 
-TEST_F(SingleInstanceTest, HasASocketForTheUserAloneAndRefusesWhatIsNoRequest) {
+TEST_F(SingleInstanceTest, HasAPrivateSocketAndRefusesInvalidRequests) {
     const auto instance = SocketInstance::claim();
     ASSERT_TRUE(instance);
     instance->onRequest = [](const QStringList&, const QByteArray&) {
@@ -174,7 +174,7 @@ TEST_F(SingleInstanceTest, HasASocketForTheUserAloneAndRefusesWhatIsNoRequest) {
     EXPECT_TRUE(socket.readLine().contains("\"status\":2"));
 }
 
-TEST_F(SingleInstanceTest, WithoutARuntimeFolderTheSocketHasAPrivateOneInTheCache) {
+TEST_F(SingleInstanceTest, UsesAPrivateCacheFolderWithoutARuntimeFolder) {
     const QString cache = runtime_.filePath(u"cache"_s);
     ASSERT_TRUE(QDir().mkpath(cache));
     const auto open =
@@ -187,7 +187,7 @@ TEST_F(SingleInstanceTest, WithoutARuntimeFolderTheSocketHasAPrivateOneInTheCach
         EXPECT_TRUE(SocketInstance::claim());
     }
     before.isNull() ? qunsetenv("XDG_CACHE_HOME") : qputenv("XDG_CACHE_HOME", before);
-    EXPECT_TRUE(QFile::permissions(cache) & QFile::ExeOther) << "everybody's cache was closed";
+    EXPECT_TRUE(QFile::permissions(cache) & QFile::ExeOther) << "the cache became private";
     EXPECT_FALSE(QFile::permissions(cache + u"/ravelo"_s) & (QFile::ExeOther | QFile::ExeGroup));
 }
 

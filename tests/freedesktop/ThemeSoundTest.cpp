@@ -1,5 +1,5 @@
 // The desktop's sound, as it arrives at a sound device that is a pipe: ALSA's own drivers write it
-// there. Until somebody listens the device does not even open, like a sound server that hangs.
+// there. The device cannot even be opened before there is a reader, like a sound server that hangs.
 
 #include "platform/freedesktop/ThemeSound.h"
 
@@ -44,7 +44,7 @@ protected:
 
     void listen() { ear_ = open(device(), O_RDONLY | O_NONBLOCK | O_CLOEXEC); }
 
-    /// One sound, until its player closes the device. Empty where nothing comes at all.
+    /// One sound, until its player closes the device. Empty if there is none.
     QByteArray heard() {
         QByteArray samples;
         (void)eventually([&] {
@@ -64,20 +64,20 @@ protected:
     int ear_ = -1;
 };
 
-TEST_F(ThemeSoundTest, isHeardOnceHoweverLongTheDeviceLetsWait) {
+TEST_F(ThemeSoundTest, isPlayedOnceHoweverSlowTheDevice) {
     plugIn();
     ThemeSound sound;
-    sound.play(); // Would it wait, nobody would ever come to listen.
+    sound.play(); // Must not wait: the reader comes later.
     sound.play();
     listen();
     const QByteArray first = heard();
     EXPECT_GT(first.size(), 10'000);
     EXPECT_NE(first.count('\0'), first.size()) << "silence";
     sound.play();
-    EXPECT_EQ(heard(), first) << "asked for again, it is heard again";
+    EXPECT_EQ(heard(), first) << "played again on request";
 }
 
-TEST_F(ThemeSoundTest, isHeardOnceThereIsADevice) {
+TEST_F(ThemeSoundTest, isPlayedOnceThereIsADevice) {
     const auto threads = [] {
         return QDir(u"/proc/self/task"_s).entryList(QDir::Dirs | QDir::NoDotAndDotDot).size();
     };

@@ -38,9 +38,9 @@ struct ListenerSession {
     }
 };
 
-/// What Qt hears of selections that change their owner. The server refuses a copy of ours that is,
-/// by the newest time that Qt has heard of, older than another program's: a test that copies
-/// without a user's press has to wait for Qt to hear of the others' copies.
+/// Qt's notifications of new owners of selections. The server refuses our copy if the newest time
+/// known to Qt is older than another program's copy, so a test that copies without a press must
+/// wait until Qt has been notified of that.
 class NoticesOfQt : public QAbstractNativeEventFilter {
 public:
     explicit NoticesOfQt(const x11::Connection& connection)
@@ -82,7 +82,7 @@ inline QString offering(const QString& target, const QByteArray& bytes) {
     return target + QStringLiteral("=hex:") + QString::fromLatin1(bytes.toHex());
 }
 
-/// What SelectionOwner gives for TARGET=fill:`size`.
+/// The contents that SelectionOwner offers for TARGET=fill:`size`.
 inline QByteArray filling(qsizetype size) {
     QByteArray bytes(size, '\0');
     for (qsizetype at = 0; at < size; ++at) {

@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <optional>
-#include <ostream>
 
 namespace ravelo::x11 {
 
@@ -34,41 +33,37 @@ private:
     bool wasSet_;
 };
 
-struct SessionCase {
-    const char* name;
-    std::optional<QByteArray> display;
-    std::optional<QByteArray> platform;
-    QByteArray chosen;
+TEST(PrepareApplication, ChoosesThePlatformForItsOwnApplicationOnly) {
+    using Value = std::optional<QByteArray>;
 
-    friend std::ostream& operator<<(std::ostream& out, const SessionCase& each) {
-        return out << each.name;
+    struct Case {
+        const char* name;
+        Value display;
+        Value platform;
+        QByteArray chosen;
+    };
+
+    const Case cases[] = {{"X11", ":0", {}, "xcb"},
+                          {"Wayland with Xwayland", ":1", "wayland", "xcb"},
+                          {"Wayland first, for all programs", ":1", "wayland;xcb", "xcb"},
+                          {"Wayland without Xwayland", {}, "wayland", "wayland"},
+                          {"without a screen", ":0", "offscreen", "offscreen"},
+                          {"no session", {}, {}, {}}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        const Variable display("DISPLAY", c.display);
+        const Variable platform("QT_QPA_PLATFORM", c.platform);
+        const Variable idleTime("QT_QPA_UPDATE_IDLE_TIME", std::nullopt);
+        Handle preparation = prepareApplication();
+        EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), c.chosen);
+        EXPECT_EQ(qgetenv("QT_QPA_UPDATE_IDLE_TIME"), "0");
+        EXPECT_TRUE(qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"));
+        preparation.reset();
+        EXPECT_EQ(qEnvironmentVariableIsSet("QT_QPA_PLATFORM"), c.platform.has_value());
+        EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), c.platform.value_or(QByteArray()));
+        EXPECT_FALSE(qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"));
     }
-};
-
-class PrepareApplicationTest : public testing::TestWithParam<SessionCase> {};
-
-TEST_P(PrepareApplicationTest, ChoosesThePlatformForItsOwnApplicationOnly) {
-    const Variable display("DISPLAY", GetParam().display);
-    const Variable platform("QT_QPA_PLATFORM", GetParam().platform);
-    const Variable idleTime("QT_QPA_UPDATE_IDLE_TIME", std::nullopt);
-    Handle preparation = prepareApplication();
-    EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), GetParam().chosen);
-    EXPECT_EQ(qgetenv("QT_QPA_UPDATE_IDLE_TIME"), "0");
-    EXPECT_TRUE(qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"));
-    preparation.reset();
-    EXPECT_EQ(qEnvironmentVariableIsSet("QT_QPA_PLATFORM"), GetParam().platform.has_value());
-    EXPECT_EQ(qgetenv("QT_QPA_PLATFORM"), GetParam().platform.value_or(QByteArray()));
-    EXPECT_FALSE(qEnvironmentVariableIsSet("QT_XCB_NO_MITSHM"));
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    All, PrepareApplicationTest,
-    testing::Values(SessionCase{"X11", ":0", {}, "xcb"},
-                    SessionCase{"Wayland with Xwayland", ":1", "wayland", "xcb"},
-                    SessionCase{"Wayland first, for all programs", ":1", "wayland;xcb", "xcb"},
-                    SessionCase{"Wayland without Xwayland", {}, "wayland", "wayland"},
-                    SessionCase{"without a screen", ":0", "offscreen", "offscreen"},
-                    SessionCase{"no session", {}, {}, {}}));
 
 } // namespace
 

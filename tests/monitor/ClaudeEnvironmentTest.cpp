@@ -14,7 +14,7 @@ QProcessEnvironment with(const QString& name, const QString& value) {
     return environment;
 }
 
-TEST(OtherClaudeFolders, areThatOfTheEnvironmentAndTheOneInTheConfiguration) {
+TEST(OtherClaudeFolders, areThoseOfEnvironmentAndConfiguration) {
     const std::pair<QString, QByteArrayList> cases[] = {
         {u""_s, {"/h/.config/claude"}},
         {u"/c d/"_s, {"/c d", "/h/.config/claude"}},

@@ -6,16 +6,12 @@
 #include "fakes/FakeFolderChanges.h"
 #include "fakes/ManualScheduler.h"
 #include "platform/system/InotifyChanges.h"
-
-#include <gtest/gtest.h>
+#include "support/TestFiles.h"
 
 #include <QCoreApplication>
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 
 namespace ravelo {
 
@@ -31,28 +27,21 @@ protected:
         return home_.filePath(u".claude/projects/"_s + name);
     }
 
-    static void writeFile(const QString& file, const QByteArray& bytes) {
-        ASSERT_TRUE(QDir().mkpath(QFileInfo(file).path()));
-        QFile out(file);
-        ASSERT_TRUE(out.open(QFile::WriteOnly));
-        ASSERT_EQ(out.write(bytes), bytes.size());
-    }
-
     static void setDate(const QString& file, qint64 seconds) {
         const std::array<timespec, 2> times = {timespec{seconds, 0}, timespec{seconds, 0}};
         ASSERT_EQ(utimensat(AT_FDCWD, qPrintable(file), times.data(), 0), 0);
     }
 
-    /// A transcript whose last turn took so many tokens, with its date in seconds since 1970.
+    /// A transcript whose last turn used `tokens`; `date` is in seconds since 1970.
     void write(const QString& name, qint64 tokens, qint64 date, const QByteArray& before = {}) {
-        writeFile(path(name), before + R"({"message":{"model":"claude-opus-4-6","usage":)" +
-                                  R"({"input_tokens":)" + QByteArray::number(tokens) + "}}}\n");
+        makeFile(path(name), before + R"({"message":{"model":"claude-opus-4-6","usage":)" +
+                                 R"({"input_tokens":)" + QByteArray::number(tokens) + "}}}\n");
         setDate(path(name), date);
     }
 
     void setLimit(const QByteArray& value) {
-        writeFile(home_.filePath(u".claude/settings.json"_s),
-                  R"({"env":{"CLAUDE_CODE_AUTO_COMPACT_WINDOW":)" + value + "}}");
+        makeFile(home_.filePath(u".claude/settings.json"_s),
+                 R"({"env":{"CLAUDE_CODE_AUTO_COMPACT_WINDOW":)" + value + "}}");
     }
 
     void start(std::unique_ptr<FolderChanges> changes, const QByteArrayList& otherFolders = {}) {
@@ -80,7 +69,7 @@ protected:
 
 using MakeChanges = std::unique_ptr<FolderChanges> (*)();
 
-/// The result does not depend on who reports changes.
+/// The result does not depend on what reports changes.
 class LiveContextTest : public ContextTest, public testing::WithParamInterface<MakeChanges> {
 protected:
     void start() { ContextTest::start(GetParam()()); }
@@ -120,7 +109,7 @@ TEST_P(LiveContextTest, followsTheNewestTranscript) {
     EXPECT_EQ(usedAfterATick(), 700) << "and once more within a tick";
 }
 
-TEST_P(LiveContextTest, knowsWhatIsATranscript) {
+TEST_P(LiveContextTest, readsTranscriptsOnly) {
     write(u"b/x.jsonl"_s, 1, 1000);
     write(u"top.jsonl"_s, 9, 2000);
     write(u"b/deep/er.jsonl"_s, 9, 2000);
@@ -160,7 +149,7 @@ INSTANTIATE_TEST_SUITE_P(NoReports, LiveContextTest, testing::Values([] {
                                  std::make_unique<FakeFolderChanges>());
                          }));
 
-TEST_F(ContextTest, readsNothingTwiceThatHasNotChanged) {
+TEST_F(ContextTest, readsOnlyChangedTranscripts) {
     write(u"a/x.jsonl"_s, 11, 1000);
     const auto script = std::make_shared<FakeFolderChanges::Script>();
     start(std::make_unique<FakeFolderChanges>(script));
@@ -179,7 +168,7 @@ TEST_F(ContextTest, readsNothingTwiceThatHasNotChanged) {
     EXPECT_EQ(usedAfterATick(), 44);
 }
 
-TEST_F(ContextTest, looksAtTheEndOfALongTranscript) {
+TEST_F(ContextTest, readsTheEndOfALongTranscript) {
     const qsizetype limit = transcriptWindow;
     start(std::make_unique<InotifyChanges>());
     write(u"a/x.jsonl"_s, 11, 1000, QByteArray(5 * limit, '\n'));
@@ -189,29 +178,29 @@ TEST_F(ContextTest, looksAtTheEndOfALongTranscript) {
         return R"({"message":{"usage":{"input_tokens":)" + QByteArray::number(tokens) + "}}}";
     };
     const qsizetype size = turn(7).size();
-    writeFile(path(u"a/x.jsonl"_s), turn(7) + QByteArray(limit - size, '\n'));
+    makeFile(path(u"a/x.jsonl"_s), turn(7) + QByteArray(limit - size, '\n'));
     EXPECT_EQ(usedAfterATick(), 7) << "the whole file fits";
-    writeFile(path(u"a/x.jsonl"_s), turn(8) + QByteArray(limit + 1 - size, '\n'));
+    makeFile(path(u"a/x.jsonl"_s), turn(8) + QByteArray(limit + 1 - size, '\n'));
     EXPECT_EQ(usedAfterATick(), 8) << "the turn begins one byte too early";
     const QByteArray foreign = QByteArray("ä").repeated(limit / 2) + '\n';
-    writeFile(path(u"a/x.jsonl"_s), foreign + turn(9) + QByteArray(limit - size - 2, '\n'));
+    makeFile(path(u"a/x.jsonl"_s), foreign + turn(9) + QByteArray(limit - size - 2, '\n'));
     EXPECT_EQ(usedAfterATick(), 9) << "the window begins within a character";
-    writeFile(path(u"a/x.jsonl"_s), turn(6) + '\n' + QByteArray(5 * limit, 'x') + '\n');
+    makeFile(path(u"a/x.jsonl"_s), turn(6) + '\n' + QByteArray(5 * limit, 'x') + '\n');
     EXPECT_EQ(usedAfterATick(), 6) << "a line of five megabytes follows";
     const QByteArray wide = foreign + turn(5) + '\n';
     const qsizetype rest = maxTranscriptWindow + 1 - wide.size();
-    writeFile(path(u"a/x.jsonl"_s), "\xff" + wide + QByteArray(rest, '\n'));
+    makeFile(path(u"a/x.jsonl"_s), "\xff" + wide + QByteArray(rest, '\n'));
     EXPECT_EQ(usedAfterATick(), 5) << "the wide window begins within a character";
-    writeFile(path(u"a/x.jsonl"_s), turn(4) + QByteArray(maxTranscriptWindow, '\n'));
+    makeFile(path(u"a/x.jsonl"_s), turn(4) + QByteArray(maxTranscriptWindow, '\n'));
     EXPECT_EQ(usedAfterATick(), 5) << "further back nothing is read";
     EXPECT_EQ(context_->limit(), 1000000);
 }
 
-TEST_F(ContextTest, goesBackToTheNewestTranscriptThatHasATurn) {
+TEST_F(ContextTest, usesTheNewestTranscriptWithATurn) {
     write(u"a/one.jsonl"_s, 11, 1000);
     write(u"a/two.jsonl"_s, 22, 1001);
     write(u"b/three.jsonl"_s, 33, 999);
-    writeFile(path(u"b/opened.jsonl"_s), "{\"type\":\"summary\"}\n");
+    makeFile(path(u"b/opened.jsonl"_s), "{\"type\":\"summary\"}\n");
     setDate(path(u"b/opened.jsonl"_s), 1002);
     start(std::make_unique<InotifyChanges>());
     EXPECT_EQ(context_->used(), 22);
@@ -227,7 +216,7 @@ TEST_F(ContextTest, knowsWhetherClaudeCodeIsInstalled) {
     start(std::make_unique<InotifyChanges>(), {QFile::encodeName(other)});
     EXPECT_FALSE(context_->installed());
     for (const QString& sign : {other, home_.filePath(u".local/bin/claude"_s)}) {
-        writeFile(sign, {});
+        makeFile(sign);
         pass(tick);
         EXPECT_TRUE(context_->installed()) << qPrintable(sign);
         QFile::remove(sign);
@@ -245,8 +234,8 @@ TEST_F(ContextTest, looksElsewhereOnlyIfTheUsualFolderHasNoTurn) {
     };
     write(u"../../chosen/projects/a/x.jsonl"_s, 11, 1000);
     write(u"../../.config/claude/projects/a/x.jsonl"_s, 22, 2000);
-    writeFile(home_.filePath(u"chosen/settings.json"_s),
-              R"({"env":{"CLAUDE_CODE_AUTO_COMPACT_WINDOW":500}})");
+    makeFile(home_.filePath(u"chosen/settings.json"_s),
+             R"({"env":{"CLAUDE_CODE_AUTO_COMPACT_WINDOW":500}})");
     start(std::make_unique<InotifyChanges>(), {elsewhere("chosen"), elsewhere(".config/claude")});
     EXPECT_EQ(context_->used(), 11) << "the first that has one, not the newest";
     EXPECT_EQ(context_->limit(), 500) << "its own settings";
@@ -263,7 +252,7 @@ TEST_F(ContextTest, looksElsewhereOnlyIfTheUsualFolderHasNoTurn) {
 
 TEST_F(ContextTest, skipsListingManyUnwatchedFolders) {
     for (int i = 0; i < 400; ++i) {
-        writeFile(path(u"a/%1.jsonl"_s.arg(i)), {});
+        makeFile(path(u"a/%1.jsonl"_s.arg(i)));
     }
     write(u"b/x.jsonl"_s, 11, 1LL << 32);
     start(std::make_unique<FakeFolderChanges>());
@@ -299,7 +288,7 @@ TEST_F(ContextTest, readsItsLimitFromTheSettingsFile) {
     qunsetenv("CLAUDE_CODE_AUTO_COMPACT_WINDOW");
 }
 
-TEST_F(ContextTest, knowsThePeakHoursEvenIfTheDiskDoesNotAnswer) {
+TEST_F(ContextTest, reportsPeakHoursEvenIfTheDiskHangs) {
     write(u"a/x.jsonl"_s, 11, 1000);
     jobs_.hung = true;
     start(std::make_unique<InotifyChanges>());

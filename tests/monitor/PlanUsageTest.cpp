@@ -14,11 +14,8 @@
 #include "platform/system/DetachedThreads.h"
 #include "platform/system/SpawnedChild.h"
 #include "support/Eventually.h"
+#include "support/TestFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <QDir>
-#include <QFile>
 #include <QTcpServer>
 #include <QTemporaryDir>
 
@@ -36,7 +33,7 @@ const QByteArray goodBody = R"({"five_hour":{"utilization":41.5},"seven_day":{"u
 
 /// Records its arguments, streams, folder and environment, leaves a file behind, provides new
 /// credentials, and ends.
-const QByteArray claude = R"(#!/bin/sh
+const QByteArray claude = R"(
 here=$(dirname "$0")
 { pwd; stat -c %a .; ls -A; } > "$here/place"
 tr '\0' '\n' < /proc/$$/environ | sort > "$here/environment"
@@ -57,8 +54,7 @@ public:
         write(u".ravelo/usage.json"_s, R"({"rate_limits":{"five_hour":{"used_percentage":11},)"
                                        R"("seven_day":{"used_percentage":22}}})");
         setToken("token-1");
-        write(u".local/bin/claude"_s, claude);
-        QFile::setPermissions(path(u".local/bin/claude"_s), QFile::ReadOwner | QFile::ExeOwner);
+        makeProgram(path(u".local/bin/claude"_s), claude);
         server.answer = UsageServer::http("200 OK", goodBody);
         scheduler.advance(Seconds(1)); // All files are older than any answer.
     }
@@ -66,9 +62,7 @@ public:
     [[nodiscard]] QString path(const QString& name) const { return home.filePath(name); }
 
     void write(const QString& name, const QByteArray& bytes) const {
-        ASSERT_TRUE(QDir().mkpath(QFileInfo(path(name)).path()));
-        ASSERT_TRUE(writeFileAtomically(path(name), bytes));
-        QFile file(path(name));
+        QFile file(makeFile(path(name), bytes));
         ASSERT_TRUE(file.open(QFile::ReadWrite));
         ASSERT_TRUE(file.setFileTime(toDateTime(scheduler.now()), QFile::FileModificationTime));
     }
@@ -115,7 +109,7 @@ public:
 
     [[nodiscard]] PlanWindows windows() const { return {usage->session(), usage->week()}; }
 
-    /// What a renewal needs, and what could manipulate it.
+    /// Variables that a renewal needs, and some that could manipulate it.
     static QProcessEnvironment environment() {
         QProcessEnvironment environment;
         for (const char* variable :
@@ -161,49 +155,49 @@ public:
     std::unique_ptr<PlanUsage> usage;
 };
 
-struct AnswerCase {
-    const char* name;
-    QByteArray answer;
-    std::optional<PlanWindows> live;
-    int renewals = 0;
-};
+TEST_F(PlanUsageTest, countsAGoodAnswerElseTheFile) {
+    const auto http = [](const char* status, const QByteArray& header = {}) {
+        return UsageServer::http(status, goodBody, header);
+    };
 
-class PlanUsageAnswer : public PlanUsageTest, public testing::WithParamInterface<AnswerCase> {};
+    struct Case {
+        const char* name;
+        QByteArray answer;
+        std::optional<PlanWindows> live = {};
+        int renewals = 0;
+    };
 
-TEST_P(PlanUsageAnswer, countsOrTheFileDoes) {
-    server.answer = GetParam().answer;
-    start(u"localhost"_s, GetParam().answer.isEmpty() ? Seconds(0.3) : Seconds(15));
-    EXPECT_EQ(usage->liveOK(), GetParam().live.has_value());
-    EXPECT_TRUE(windows() == GetParam().live.value_or(inFile));
-    EXPECT_EQ(runs().size(), GetParam().renewals);
+    const Case cases[] = {
+        {"both", http("200 OK"), answered},
+        {"no object", UsageServer::http("200 OK", "[]")},
+        {"no HTTP", "garbage\r\n\r\n"},
+        {"cut", http("200 OK").chopped(1)},
+        {"created", http("201 Created")},
+        {"unauthorized", http("401 Unauthorized", "WWW-Authenticate: Bearer\r\n"), {}, 1},
+        {"asks for a password",
+         http("401 Unauthorized", "WWW-Authenticate: Basic realm=\"x\"\r\n"),
+         {},
+         1},
+        {"too many", http("429 Too Many Requests")},
+        {"broken", http("500 Internal Server Error")},
+        {"five megabytes", UsageServer::http("200 OK", goodBody + QByteArray(5'000'000, ' '))},
+        {"hangs", ""}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        server.answer = c.answer;
+        QFile::remove(path(u".local/bin/runs"_s));
+        start(u"localhost"_s, c.answer.isEmpty() ? Seconds(0.3) : Seconds(15));
+        EXPECT_EQ(usage->liveOK(), c.live.has_value());
+        EXPECT_TRUE(windows() == c.live.value_or(inFile));
+        EXPECT_EQ(runs().size(), c.renewals);
+    }
 }
 
 QByteArray ok(const QByteArray& body) {
     return UsageServer::http("200 OK", body);
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, PlanUsageAnswer,
-    testing::Values(
-        AnswerCase{"both", ok(goodBody), answered}, AnswerCase{"noObject", ok("[]"), {}},
-        AnswerCase{"noHttp", "garbage\r\n\r\n", {}}, AnswerCase{"cut", ok(goodBody).chopped(1), {}},
-        AnswerCase{"created", UsageServer::http("201 Created", goodBody), {}},
-        AnswerCase{"unauthorized",
-                   UsageServer::http("401 Unauthorized", "{}", "WWW-Authenticate: Bearer\r\n"),
-                   {},
-                   1},
-        AnswerCase{
-            "passwordWanted",
-            UsageServer::http("401 Unauthorized", "{}", "WWW-Authenticate: Basic realm=\"x\"\r\n"),
-            {},
-            1},
-        AnswerCase{"tooMany", UsageServer::http("429 Too Many Requests", goodBody), {}},
-        AnswerCase{"broken", UsageServer::http("500 Internal Server Error", goodBody), {}},
-        AnswerCase{"fiveMegabytes", ok(goodBody + QByteArray(5'000'000, ' ')), {}},
-        AnswerCase{"hang", "", {}}),
-    [](const auto& row) { return row.param.name; });
-
-TEST_F(PlanUsageTest, asksWithTheTokenAndSaysWhoItIs) {
+TEST_F(PlanUsageTest, sendsTheTokenAndAUserAgent) {
     start();
     const QByteArrayList lines = server.requests().value(0).split('\n');
     EXPECT_EQ(lines.value(0), "GET /api/oauth/usage HTTP/1.1\r");
@@ -215,7 +209,7 @@ TEST_F(PlanUsageTest, asksWithTheTokenAndSaysWhoItIs) {
     }
 }
 
-TEST_F(PlanUsageTest, carriesTheTokenNowhereElse) {
+TEST_F(PlanUsageTest, sendsTheTokenNowhereElse) {
     QTcpServer other;
     ASSERT_TRUE(other.listen(QHostAddress::LocalHost));
     server.answer = UsageServer::http(
@@ -234,7 +228,7 @@ TEST_F(PlanUsageTest, carriesTheTokenNowhereElse) {
     EXPECT_EQ(server.requests().size(), 1) << "the certificate is not trusted";
 }
 
-TEST_F(PlanUsageTest, asksThroughTheProxyOfTheEnvironment) {
+TEST_F(PlanUsageTest, usesTheProxyOfTheEnvironment) {
     Proxy proxy;
     const std::pair<const char*, const char*> cases[] = {{"", "CONNECT"}, {"localhost", ""}};
     for (const auto& [exception, connect] : cases) {
@@ -250,14 +244,14 @@ TEST_F(PlanUsageTest, asksThroughTheProxyOfTheEnvironment) {
     }
 }
 
-TEST_F(PlanUsageTest, asksAtTheNextAddressIfTheFirstDoesNotAnswer) {
+TEST_F(PlanUsageTest, triesTheNextAddressIfTheFirstDoesNotAnswer) {
     const SilentAddress silent(server.port());
     CurlClient both = client({u"--resolve"_s, u"localhost:%1:%2,127.0.0.1"_s.arg(server.port())
                                                   .arg(QLatin1StringView(SilentAddress::address))});
     EXPECT_TRUE(succeeds(both, Seconds(6)));
 }
 
-TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
+TEST_F(PlanUsageTest, queriesEveryNinetySecondsAndReadsTheFileWhileThatFails) {
     start();
     int changes = 0;
     QObject::connect(usage.get(), &PlanUsage::changed, [&] { ++changes; });
@@ -277,7 +271,7 @@ TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
     EXPECT_TRUE(windows() == (PlanWindows{UsageWindow{33, {}}, {}}));
     write(u".ravelo/usage.json"_s, "{");
     pass(tick);
-    EXPECT_TRUE(windows() == (PlanWindows{UsageWindow{33, {}}, {}})) << "it makes no sense";
+    EXPECT_TRUE(windows() == (PlanWindows{UsageWindow{33, {}}, {}})) << "invalid";
 
     server.answer = ok(goodBody);
     pass(Seconds(80));
@@ -285,7 +279,7 @@ TEST_F(PlanUsageTest, asksEveryNinetySecondsAndTheFileOnlyInBetweenFailures) {
     EXPECT_TRUE(windows() == answered);
 }
 
-TEST_F(PlanUsageTest, asksLessOftenIfThatIsTooOften) {
+TEST_F(PlanUsageTest, queriesLessOftenIfRateLimited) {
     const auto tooMany = [](const QByteArray& header) {
         return UsageServer::http("429 Too Many Requests", "", header);
     };
@@ -328,7 +322,7 @@ TEST_F(PlanUsageTest, renewsARefusedTokenAtMostEveryTwentyMinutes) {
     EXPECT_EQ(runs(), (QByteArrayList{run, run}));
 }
 
-TEST_F(PlanUsageTest, renewsWhereNothingSteersTheTool) {
+TEST_F(PlanUsageTest, renewsInAnEmptyEnvironment) {
     const QString folder = path(u"cache/renewal"_s);
     write(u"cache/renewal/.claude/settings.json"_s, "left over");
     server.answer = UsageServer::http("401 Unauthorized", "");
@@ -362,7 +356,7 @@ TEST_F(PlanUsageTest, renewsATokenThatIsAboutToExpireAndStillUsesIt) {
     EXPECT_EQ(tokens, (QByteArrayList{"fresh", "old", "new"}));
 }
 
-TEST_F(PlanUsageTest, goesOnWithoutAToolToRenewBy) {
+TEST_F(PlanUsageTest, worksWithoutAToolToRenewTheToken) {
     ASSERT_TRUE(QFile::remove(path(u".local/bin/claude"_s)));
     server.answer = UsageServer::http("401 Unauthorized", "");
     start();
@@ -371,7 +365,7 @@ TEST_F(PlanUsageTest, goesOnWithoutAToolToRenewBy) {
     EXPECT_TRUE(windows() == answered);
 }
 
-TEST_F(PlanUsageTest, asksTheSecretServiceWhereNoFileHasCredentials) {
+TEST_F(PlanUsageTest, asksTheSecretServiceIfNoFileHasCredentials) {
     setToken("");
     start();
     EXPECT_EQ(secrets.asked, QStringList{u"Claude Code-credentials"_s});
@@ -399,7 +393,7 @@ TEST_F(PlanUsageTest, looksElsewhereForCredentialsLast) {
     EXPECT_TRUE(run().contains("Bearer secret-token\r\n"));
 }
 
-TEST_F(PlanUsageTest, showsNobodyTheTokenAndMayEndInTheMiddleOfAQuery) {
+TEST_F(PlanUsageTest, hidesTheTokenAndCanBeDestroyedDuringAQuery) {
     server.answer.clear();
     usage = asking(https);
     scheduler.advance(Seconds(0));

@@ -24,7 +24,7 @@ MonitorStatus session(Date now) {
             {UsageWindow{41.5, Date{now.sinceReference + 7500}}, UsageWindow{78, {}}}};
 }
 
-TEST(Status, isWrittenForPeopleAndForPrograms) {
+TEST(Status, isPrintedAsTextAndJson) {
     struct Case {
         const char* name;
         Date now;

@@ -28,7 +28,7 @@ QByteArray turn(qint64 input, const QByteArray& more = {}) {
 const QByteArray tool = R"({"type":"user","message":{"content":"said \"usage\" of nothing"}})"
                         "\n";
 
-TEST(LastUsage, isThatOfTheLastTurnThatCounts) {
+TEST(LastUsage, isThatOfTheLastValidTurn) {
     struct Case {
         const char* name;
         QByteArray transcript;
@@ -89,7 +89,7 @@ TEST(LastUsage, isThatOfTheLastTurnThatCounts) {
     }
 }
 
-TEST(CompactWindow, isTakenAsItIsFromTheSettings) {
+TEST(CompactWindow, isReadFromTheSettings) {
     struct Case {
         const char* value;
         std::optional<qint64> limit;

@@ -90,7 +90,7 @@ TEST(UsageReaders, readEachWindowThatHasAPercentage) {
     }
 }
 
-TEST(Credentials, areThereWhereSomebodyIsLoggedIn) {
+TEST(Credentials, areReadIfTheUserIsLoggedIn) {
     const auto read = [](const QByteArray& account) {
         return readCredentials(R"({"claudeAiOauth":)" + account + '}');
     };
@@ -108,7 +108,7 @@ TEST(Credentials, areThereWhereSomebodyIsLoggedIn) {
     EXPECT_FALSE(readCredentials(""));
 }
 
-TEST(UsageFile, keepsOfTheStatusLineWhatIsReadAgain) {
+TEST(UsageFile, keepsOnlyTheLimitsOfTheStatusLine) {
     const QTemporaryDir folder;
     const QByteArray home = QFile::encodeName(folder.filePath(u"hom\xE9"_s));
     const QString file = QFile::decodeName(home + "/.ravelo/usage.json");

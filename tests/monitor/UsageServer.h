@@ -46,7 +46,7 @@ private:
     QByteArrayList requests_;
 };
 
-/// A proxy that does what CONNECT asks.
+/// A proxy that handles CONNECT.
 class Proxy {
 public:
     Proxy();

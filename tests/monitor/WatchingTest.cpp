@@ -1,6 +1,5 @@
 // Whoever is woken by the kernel shows what somebody who looks every five seconds does.
 
-#include "base/Files.h"
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeFolderChanges.h"
 #include "fakes/FakeUsageSources.h"
@@ -8,6 +7,7 @@
 #include "monitor/LiveContext.h"
 #include "monitor/PlanUsage.h"
 #include "platform/system/InotifyChanges.h"
+#include "support/TestFiles.h"
 
 #include <gtest/gtest.h>
 
@@ -52,12 +52,7 @@ protected:
 
     [[nodiscard]] QString path(const QString& name) const { return home_.filePath(name); }
 
-    void write(const QString& name, const QByteArray& bytes) const {
-        QDir().mkpath(QFileInfo(path(name)).path());
-        QFile file(path(name)); // In place or as a new file, as others would.
-        ASSERT_TRUE(file.open(QFile::WriteOnly));
-        file.write(bytes);
-    }
+    void write(const QString& name, const QByteArray& bytes) const { makeFile(path(name), bytes); }
 
     void doSomething() {
         const QString project = u".claude/projects/p%1"_s.arg(pick(3));

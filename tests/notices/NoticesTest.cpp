@@ -40,7 +40,7 @@ const auto storeAside = u"Saved copy put aside:|store.json.unreadable, in Ravelo
 const auto preferencesAside = u"Preferences put aside:|preferences.json.unreadable. Settings are "
                               "back at their defaults.|Open folder"_s;
 
-TEST_F(NoticesTest, saysAfterAMinuteThatSavingFailsAndCountsOn) {
+TEST_F(NoticesTest, reportsAfterAMinuteThatSavingFails) {
     notices.saveFailed(store, u"the disk is full"_s);
     pass(30);
     notices.saveFailed(store, u"the disk is full"_s);
@@ -65,7 +65,7 @@ TEST_F(NoticesTest, saysAfterAMinuteThatSavingFailsAndCountsOn) {
     EXPECT_EQ(scheduler.pending(), 0) << "nothing runs by the clock while nothing fails";
 }
 
-TEST_F(NoticesTest, aFailureThatIsOverWithinAMinuteIsNotWorthAWord) {
+TEST_F(NoticesTest, doesNotReportAFailureOfLessThanAMinute) {
     notices.saveFailed(store, u"the disk is full"_s);
     pass(59);
     notices.saved(store);
@@ -75,14 +75,14 @@ TEST_F(NoticesTest, aFailureThatIsOverWithinAMinuteIsNotWorthAWord) {
     EXPECT_EQ(shown(), nothing) << "this one has lasted for 59 s only";
 }
 
-TEST_F(NoticesTest, saysAtOnceThatNothingWillBeSavedAnyMore) {
+TEST_F(NoticesTest, reportsAtOnceThatNothingCanBeSaved) {
     notices.saveFailed(store, u"another Ravelo has taken over"_s, Notices::Retry::no);
     EXPECT_EQ(notices.lead(), u"Not saved any more:"_s);
     EXPECT_EQ(notices.rest(), u"another Ravelo has taken over."_s);
     EXPECT_EQ(notices.action(), QString()) << "there is nothing to try again";
 }
 
-TEST_F(NoticesTest, isSavedAgainOnceNothingFailsAnyMore) {
+TEST_F(NoticesTest, reportsSavedAgainOnceNothingFails) {
     notices.saveFailed(preferences, u"it is read-only"_s);
     pass(90);
     notices.saveFailed(store, u"the disk is full"_s);
@@ -94,10 +94,10 @@ TEST_F(NoticesTest, isSavedAgainOnceNothingFailsAnyMore) {
     notices.saved(store);
     EXPECT_EQ(shown(), again);
     notices.saveFailed(store, u"the disk is full"_s);
-    EXPECT_EQ(shown(), nothing) << "not true any more";
+    EXPECT_EQ(shown(), nothing) << "outdated";
 }
 
-TEST_F(NoticesTest, theWorstComesFirstAndTheOthersWait) {
+TEST_F(NoticesTest, showsTheMostSeriousFirst) {
     notices.putAside(preferences, u"/home/me/.config/ravelo/preferences.json.unreadable"_s);
     EXPECT_EQ(shown(), preferencesAside);
     notices.putAside(store, u"/home/me/.local/share/Ravelo/store.json.unreadable"_s);
@@ -117,7 +117,7 @@ TEST_F(NoticesTest, theWorstComesFirstAndTheOthersWait) {
     EXPECT_EQ(shown(), nothing);
 }
 
-TEST_F(NoticesTest, itsButtonsDoWhatTheySay) {
+TEST_F(NoticesTest, itsButtonRetriesOrOpensTheFolder) {
     QStringList done;
     QObject::connect(&notices, &Notices::tryAgain, [&] { done.append(u"try"_s); });
     QObject::connect(&notices, &Notices::openFolder,
@@ -134,7 +134,7 @@ TEST_F(NoticesTest, itsButtonsDoWhatTheySay) {
     pass(4);
     notices.act();
     EXPECT_EQ(done, (QStringList{u"try"_s, u"/a/store.json.unreadable"_s}));
-    EXPECT_EQ(shown(), nothing) << "it was seen to";
+    EXPECT_EQ(shown(), nothing) << "it was handled";
 }
 
 } // namespace

@@ -5,29 +5,6 @@
 namespace ravelo {
 namespace {
 
-struct HeldCase {
-    const char* name;
-    void (*ask)(PanelWorld&);
-    Seconds held; ///< How long another program holds pointer and keyboard.
-    bool opens;
-};
-
-class HeldInput : public testing::TestWithParam<HeldCase> {};
-
-TEST_P(HeldInput, opensNothingButForFilesUnlessItIsReleasedSoon) {
-    PanelWorld world;
-    const auto [name, ask, held, opens] = GetParam();
-    world.grab.held = true;
-    ask(world);
-    const bool atOnce = world.controller.isOpen();
-    world.scheduler.advance(held);
-    world.grab.held = false;
-    world.scheduler.advance(Seconds(5));
-    EXPECT_EQ(world.controller.isOpen(), opens);
-    EXPECT_EQ(atOnce, opens && held == Seconds(0)) << "opened while it was held";
-    EXPECT_TRUE(world.window.shown) << "the handle stays";
-}
-
 void hover(PanelWorld& world) {
     world.moveTo(720, 5);
 }
@@ -59,20 +36,39 @@ void dragFilesOntoTheHandle(PanelWorld& world) {
     world.controller.onDragEnter();
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    All, HeldInput,
-    testing::Values(HeldCase{"pointer", hover, Seconds(3), false},
-                    HeldCase{"toggleUnderALocker", toggle, Seconds(0.5), false},
-                    HeldCase{"toggleByAKey", toggle, Seconds(0.3), true},
-                    HeldCase{"openUnderALocker", open, Seconds(0.5), false},
-                    HeldCase{"openByAMenu", open, Seconds(0.3), true},
-                    HeldCase{"filesUnderALocker", park, Seconds(0.5), false},
-                    HeldCase{"draggedFiles", dragFiles, Seconds(0), true},
-                    HeldCase{"draggedText", dragText, Seconds(3), false},
-                    HeldCase{"draggedOntoTheHandle", dragFilesOntoTheHandle, Seconds(0), true}),
-    [](const auto& row) { return row.param.name; });
+TEST(HeldInput, opensOnlyForFilesUnlessItIsReleasedSoon) {
+    struct Case {
+        const char* name;
+        void (*ask)(PanelWorld&);
+        double held; ///< Seconds for which another program holds pointer and keyboard.
+        bool opens;
+    };
 
-TEST(HeldInputRequest, aRequestUnderALockIsNotKeptForLater) {
+    const Case cases[] = {{"pointer", hover, 3, false},
+                          {"toggle under a locker", toggle, 0.5, false},
+                          {"toggle by a key", toggle, 0.3, true},
+                          {"open under a locker", open, 0.5, false},
+                          {"open by a menu", open, 0.3, true},
+                          {"files under a locker", park, 0.5, false},
+                          {"dragged files", dragFiles, 0, true},
+                          {"dragged text", dragText, 3, false},
+                          {"dragged onto the handle", dragFilesOntoTheHandle, 0, true}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        PanelWorld world;
+        world.grab.held = true;
+        c.ask(world);
+        const bool atOnce = world.controller.isOpen();
+        world.scheduler.advance(Seconds(c.held));
+        world.grab.held = false;
+        world.scheduler.advance(Seconds(5));
+        EXPECT_EQ(world.controller.isOpen(), c.opens);
+        EXPECT_EQ(atOnce, c.opens && c.held == 0) << "opened while it was held";
+        EXPECT_TRUE(world.window.shown) << "the handle stays";
+    }
+}
+
+TEST(HeldInput, aRequestDuringALockIsDropped) {
     PanelWorld world;
     world.grab.held = true;
     world.controller.toggle();
@@ -83,7 +79,7 @@ TEST(HeldInputRequest, aRequestUnderALockIsNotKeptForLater) {
     EXPECT_FALSE(world.controller.isOpen());
 }
 
-TEST(HeldInputRequest, aToggleByAKeyTakesTheKeyboardOnceItOpens) {
+TEST(HeldInput, aToggleByKeyGetsTheKeyboardOnceOpen) {
     PanelWorld world;
     world.grab.held = true;
     world.controller.toggle();
@@ -93,41 +89,34 @@ TEST(HeldInputRequest, aToggleByAKeyTakesTheKeyboardOnceItOpens) {
     EXPECT_TRUE(world.window.focused);
 }
 
-struct TakenCase {
-    const char* name;
-    bool ofFiles; ///< A drag of files is on, whose source may hold the input too.
-    Seconds takenAfter;
-    bool staysOpen;
-};
+TEST(TakenInput, hidesTheOpenPanelSoonAfterTheLockersWindow) {
+    struct Case {
+        const char* name;
+        double takenAfter; ///< Seconds.
+        bool ofFiles;      ///< A drag of files is on, whose source may hold the input too.
+    };
 
-class TakenInput : public testing::TestWithParam<TakenCase> {};
-
-TEST_P(TakenInput, hidesTheOpenPanelSoonAfterTheLockersWindow) {
-    PanelWorld world;
-    const auto [name, ofFiles, takenAfter, staysOpen] = GetParam();
-    if (ofFiles) {
-        world.beginDrag(true);
+    for (const Case& c : {Case{"at once", 0, false}, {"soon", 0.015, false}, {"files", 0, true}}) {
+        SCOPED_TRACE(c.name);
+        PanelWorld world;
+        if (c.ofFiles) {
+            world.beginDrag(true);
+        }
+        world.moveTo(720, 5);
+        ASSERT_TRUE(world.controller.isOpen());
+        world.grab.likelyTaken.notify();
+        world.scheduler.advance(Seconds(c.takenAfter));
+        world.grab.held = true;
+        world.scheduler.advance(Seconds(0.045 - c.takenAfter));
+        EXPECT_EQ(world.controller.isOpen(), c.ofFiles);
+        EXPECT_EQ(world.window.shown, c.ofFiles) << "the window must go, not only close";
+        world.grab.held = false;
+        world.scheduler.advance(Seconds(2));
+        EXPECT_TRUE(world.window.shown) << "the handle comes back";
     }
-    world.moveTo(720, 5);
-    ASSERT_TRUE(world.controller.isOpen());
-    world.grab.likelyTaken.notify();
-    world.scheduler.advance(takenAfter);
-    world.grab.held = true;
-    world.scheduler.advance(Seconds(0.045) - takenAfter);
-    EXPECT_EQ(world.controller.isOpen(), staysOpen);
-    EXPECT_EQ(world.window.shown, staysOpen) << "the window must go, not only close";
-    world.grab.held = false;
-    world.scheduler.advance(Seconds(2));
-    EXPECT_TRUE(world.window.shown) << "the handle comes back";
 }
 
-INSTANTIATE_TEST_SUITE_P(All, TakenInput,
-                         testing::Values(TakenCase{"atOnce", false, Seconds(0), false},
-                                         TakenCase{"soon", false, Seconds(0.015), false},
-                                         TakenCase{"byASourceOfFiles", true, Seconds(0), true}),
-                         [](const auto& row) { return row.param.name; });
-
-TEST(TakenInputEnd, theHandleComesBackThoughMoreWindowsCome) {
+TEST(TakenInput, theHandleComesBackAlthoughMoreWindowsAppear) {
     PanelWorld world;
     world.moveTo(720, 5);
     world.grab.held = true;

@@ -12,7 +12,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(HoverTick, restsWhileNothingMovesAndAsksNobody) {
+TEST(HoverTick, restsWhileNothingMoves) {
     PanelWorld world;
     world.scheduler.advance(Seconds(1));
     const int questions = world.pointer.questions;
@@ -167,7 +167,7 @@ private:
     std::mt19937 engine_;
 };
 
-TEST(HoverTick, restingChangesNothingThatHappensNorWhen) {
+TEST(HoverTick, restingChangesNeitherResultsNorTimes) {
     std::map<QString, int> ways;
     for (unsigned seed = 1; seed <= 40; ++seed) {
         Twin ticking(HoverTick::Rest::never);

@@ -8,59 +8,41 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-struct PlaceCase {
-    const char* name;
-    QPointF pointer;
-    bool opens;
-};
-
 // The middle of the screen is at x 720.
-class HotZone : public testing::TestWithParam<PlaceCase> {};
+TEST(NotchController, opensOnTheFirstTickInAZoneThatIsLargerForFiles) {
+    struct Case {
+        const char* name;
+        QPointF pointer;
+        bool opens;
+        std::optional<bool> files = {}; ///< Dragged.
+        bool drags = files.has_value();
+    };
 
-TEST_P(HotZone, opensOnTheFirstTickInside) {
-    PanelWorld world;
-    const auto [name, place, opens] = GetParam();
-    world.moveTo(place.x(), place.y());
-    EXPECT_EQ(world.controller.isOpen(), opens);
-    EXPECT_EQ(world.window.size, opens ? QSizeF(927, 560) : QSizeF(200, 12));
+    const Case cases[] = {{"middle", {720, 0}, true},
+                          {"lowest row", {720, 14}, true},
+                          {"below", {720, 14.5}, false},
+                          {"leftmost", {560, 3}, true},
+                          {"rightmost", {880, 3}, true},
+                          {"left of it", {559.5, 3}, false},
+                          {"right of it", {880.5, 3}, false},
+                          {"files in the lowest row", {720, 140}, true, true},
+                          {"files below", {720, 140.5}, false, true},
+                          {"files, leftmost", {420, 100}, true, true},
+                          {"files left of it", {419.5, 100}, false, true},
+                          {"text", {720, 100}, false, false},
+                          {"a silent source", {720, 100}, false, {}, true},
+                          {"text in the hot zone", {720, 5}, true, false}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        PanelWorld world;
+        if (c.drags) {
+            world.beginDrag(c.files);
+        }
+        world.moveTo(c.pointer.x(), c.pointer.y());
+        EXPECT_EQ(world.controller.isOpen(), c.opens);
+        EXPECT_EQ(world.window.size, c.opens ? QSizeF(927, 560) : QSizeF(200, 12));
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Bounds, HotZone,
-                         testing::Values(PlaceCase{"middle", {720, 0}, true},
-                                         PlaceCase{"lowestRow", {720, 14}, true},
-                                         PlaceCase{"below", {720, 14.5}, false},
-                                         PlaceCase{"leftmost", {560, 3}, true},
-                                         PlaceCase{"rightmost", {880, 3}, true},
-                                         PlaceCase{"leftOfIt", {559.5, 3}, false},
-                                         PlaceCase{"rightOfIt", {880.5, 3}, false}),
-                         [](const auto& row) { return row.param.name; });
-
-struct DragCase {
-    const char* name;
-    QPointF pointer;
-    std::optional<bool> files;
-    bool opens;
-};
-
-class FileDrag : public testing::TestWithParam<DragCase> {};
-
-TEST_P(FileDrag, opensFromItsLargerZone) {
-    PanelWorld world;
-    const auto [name, place, files, opens] = GetParam();
-    world.beginDrag(files);
-    world.moveTo(place.x(), place.y());
-    EXPECT_EQ(world.controller.isOpen(), opens);
-}
-
-INSTANTIATE_TEST_SUITE_P(Bounds, FileDrag,
-                         testing::Values(DragCase{"lowestRow", {720, 140}, true, true},
-                                         DragCase{"below", {720, 140.5}, true, false},
-                                         DragCase{"leftmost", {420, 100}, true, true},
-                                         DragCase{"leftOfIt", {419.5, 100}, true, false},
-                                         DragCase{"textDrag", {720, 100}, false, false},
-                                         DragCase{"sourceSilent", {720, 100}, std::nullopt, false},
-                                         DragCase{"textDragInTheHotZone", {720, 5}, false, true}),
-                         [](const auto& row) { return row.param.name; });
 
 TEST(NotchController, aDragThatBeganWithTheButtonsUpDoesNotOpen) {
     PanelWorld world;
@@ -97,7 +79,7 @@ TEST(NotchController, closesOnAPressElsewhereOnly) {
     EXPECT_EQ(world.controller.frame(), QRectF(620, 0, 200, 12));
 }
 
-TEST(NotchController, aPressIntoAWindowOfOurOwnIsNoPressElsewhere) {
+TEST(NotchController, aPressInOurOwnWindowDoesNotClose) {
     PanelWorld world;
     world.moveTo(720, 5);
     world.moveTo(100, 800);
@@ -110,7 +92,7 @@ TEST(NotchController, aPressIntoAWindowOfOurOwnIsNoPressElsewhere) {
     EXPECT_FALSE(world.controller.isOpen());
 }
 
-TEST(NotchController, theDelayedCloseFiresWhereTicksStopComing) {
+TEST(NotchController, theDelayedCloseFiresIfTicksStop) {
     PanelWorld world;
     world.moveTo(720, 5);
     world.moveTo(100, 800);
@@ -168,37 +150,27 @@ TEST(NotchController, dismissedUnderThePointerItWaitsUntilThePointerHasLeft) {
     EXPECT_TRUE(world.controller.isOpen()) << "a file drag always opens";
 }
 
-struct PressCase {
-    const char* name;
-    QPointF press; ///< Where the button went down.
-    bool opens;    ///< While it is down in the hot zone.
-};
-
-class Pressed : public testing::TestWithParam<PressCase> {};
-
-TEST_P(Pressed, hoveringIsHeldBackForAPressElsewhere) {
-    PanelWorld world;
-    const auto [name, press, opens] = GetParam();
-    world.pointer.moveTo(press);
-    world.pointer.press();
-    world.moveTo(720, 5);
-    EXPECT_EQ(world.controller.isOpen(), opens);
-    world.scheduler.advance(Seconds(1));
-    world.pointer.release();
-    world.scheduler.advance(Seconds(1));
-    EXPECT_EQ(world.controller.isOpen(), opens) << "a window was put there";
-    world.moveTo(720, 300);
-    world.moveTo(720, 5);
-    EXPECT_TRUE(world.controller.isOpen());
+TEST(NotchController, doesNotOpenForAButtonThatWasPressedElsewhere) {
+    for (const auto& [press, opens] : {std::pair(QPointF(300, 400), false), // A window.
+                                       {QPointF(600, 5), false},            // Beside the handle.
+                                       {QPointF(710, 3), true}}) {          // The handle.
+        SCOPED_TRACE(press.x());
+        PanelWorld world;
+        world.pointer.moveTo(press);
+        world.pointer.press();
+        world.moveTo(720, 5);
+        EXPECT_EQ(world.controller.isOpen(), opens);
+        world.scheduler.advance(Seconds(1));
+        world.pointer.release();
+        world.scheduler.advance(Seconds(1));
+        EXPECT_EQ(world.controller.isOpen(), opens) << "a window was put there";
+        world.moveTo(720, 300);
+        world.moveTo(720, 5);
+        EXPECT_TRUE(world.controller.isOpen());
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(Places, Pressed,
-                         testing::Values(PressCase{"window", {300, 400}, false},
-                                         PressCase{"besideTheHandle", {600, 5}, false},
-                                         PressCase{"handle", {710, 3}, true}),
-                         [](const auto& row) { return row.param.name; });
-
-TEST(NotchController, aDragThatIsNoticedLateOpensAllTheSame) {
+TEST(NotchController, aDragThatIsNoticedLateOpens) {
     PanelWorld world;
     world.moveTo(300, 400);
     world.pointer.press();
@@ -209,7 +181,7 @@ TEST(NotchController, aDragThatIsNoticedLateOpensAllTheSame) {
     EXPECT_TRUE(world.controller.isOpen());
 }
 
-TEST(NotchController, whereThePointersPlaceIsUnknownTheWindowsOwnHoverOpensAndCloses) {
+TEST(NotchController, theWindowsOwnHoverIsUsedIfThePointerPositionIsUnknown) {
     PanelWorld world;
     world.pointer.location = std::nullopt;
     world.scheduler.advance(Seconds(1));
@@ -308,35 +280,27 @@ TEST(NotchController, aDragOnTheHandleOpensOnceItIsKnownToCarryFiles) {
     EXPECT_FALSE(world.controller.filesOver());
 }
 
-struct LateCase {
-    const char* name;
-    bool opens; ///< And closes the panel between the drop and its files.
-};
-
-class LateFiles : public testing::TestWithParam<LateCase> {};
-
-TEST_P(LateFiles, areShownUnlessTheUserHasClosedThePanel) {
-    PanelWorld world;
-    world.beginDrag(std::nullopt);
-    world.controller.onDragEnter();
-    EXPECT_TRUE(world.controller.onDrop());
-    if (GetParam().opens) {
-        world.controller.positionExpanded();
-        world.controller.dismiss();
+TEST(NotchController, showsLateFilesUnlessTheUserHasClosedThePanel) {
+    for (const bool closed : {false, true}) {
+        SCOPED_TRACE(closed);
+        PanelWorld world;
+        world.beginDrag(std::nullopt);
+        world.controller.onDragEnter();
+        EXPECT_TRUE(world.controller.onDrop());
+        if (closed) {
+            world.controller.positionExpanded();
+            world.controller.dismiss();
+        }
+        const int before = world.store.shelfRequestTick();
+        world.drags.begin(false); // Another drag loses nothing of the first.
+        world.drags.answer(true, {}, 1);
+        EXPECT_EQ(world.store.shelf().files(), QList<QUrl>{world.drags.file});
+        EXPECT_EQ(world.controller.isOpen(), !closed);
+        EXPECT_EQ(world.store.shelfRequestTick(), before + (closed ? 0 : 1));
     }
-    const int before = world.store.shelfRequestTick();
-    world.drags.begin(false); // Another drag loses nothing of the first.
-    world.drags.answer(true, {}, 1);
-    EXPECT_EQ(world.store.shelf().files(), QList<QUrl>{world.drags.file});
-    EXPECT_EQ(world.controller.isOpen(), !GetParam().opens);
-    EXPECT_EQ(world.store.shelfRequestTick(), before + (GetParam().opens ? 0 : 1));
 }
 
-INSTANTIATE_TEST_SUITE_P(All, LateFiles,
-                         testing::Values(LateCase{"leftAlone", false}, LateCase{"closed", true}),
-                         [](const auto& tested) { return std::string(tested.param.name); });
-
-TEST(NotchController, isNotThereWhileTheSessionIsLocked) {
+TEST(NotchController, isHiddenWhileTheSessionIsLocked) {
     PanelWorld world;
     EXPECT_TRUE(world.window.shown);
     world.moveTo(720, 5);
@@ -360,7 +324,7 @@ TEST(NotchController, isNotThereWhileTheSessionIsLocked) {
     EXPECT_TRUE(world.controller.isOpen()) << "the pointer is in the hot zone";
 }
 
-TEST(NotchController, takesTheKeyboardForTypingOnlyAndGivesItBack) {
+TEST(NotchController, hasTheKeyboardOnlyForTyping) {
     PanelWorld world;
     world.moveTo(720, 5);
     EXPECT_FALSE(world.window.focused) << "opening takes no focus";

@@ -20,66 +20,54 @@ Screen screenWith(double bar, double notch) {
     return screen;
 }
 
-struct BarCase {
-    const char* name;
-    double bar;
-    double notch;
-    const char* kind;
-    BarGeometry expected;
-};
+TEST(Bar, followsScreenAndDisplayKind) {
+    struct Case {
+        const char* name;
+        double bar;
+        double notch;
+        QString kind;
+        BarGeometry expected;
+    };
 
-class BarGeometryTable : public testing::TestWithParam<BarCase> {};
-
-TEST_P(BarGeometryTable, followsScreenAndDisplayKind) {
-    const BarCase& row = GetParam();
-    const BarGeometry bar =
-        barGeometry(screenWith(row.bar, row.notch), QString::fromLatin1(row.kind));
-    EXPECT_NEAR(bar.width, row.expected.width, 1e-9);
-    EXPECT_NEAR(bar.height, row.expected.height, 1e-9);
-    EXPECT_NEAR(bar.notch, row.expected.notch, 1e-9);
+    const Case cases[] = {{"plain screen", 28, 0, u"auto"_s, {520, 28, 0}},
+                          {"hidden bar", 0, 0, u"auto"_s, {520, 24, 0}},
+                          {"assumed notch", 28, 0, u"notch"_s, {640, 28, 200}},
+                          {"measured notch", 32, 200, u"auto"_s, {640, 32, 200}},
+                          {"just fits", 32, 640.0 / 3, u"auto"_s, {640, 32, 640.0 / 3}},
+                          {"wide notch", 32, 220, u"notch"_s, {660, 32, 220}},
+                          {"notch switched off", 32, 200, u"none"_s, {520, 32, 0}},
+                          {"unknown kind", 32, 220, u"sometimes"_s, {660, 32, 220}}};
+    for (const Case& c : cases) {
+        const BarGeometry bar = barGeometry(screenWith(c.bar, c.notch), c.kind);
+        EXPECT_NEAR(bar.width, c.expected.width, 1e-9) << c.name;
+        EXPECT_NEAR(bar.height, c.expected.height, 1e-9) << c.name;
+        EXPECT_NEAR(bar.notch, c.expected.notch, 1e-9) << c.name;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Kinds, BarGeometryTable,
-    testing::Values(BarCase{"plainScreen", 28, 0, "auto", {520, 28, 0}},
-                    BarCase{"hiddenBar", 0, 0, "auto", {520, 24, 0}},
-                    BarCase{"assumedNotch", 28, 0, "notch", {640, 28, 200}},
-                    BarCase{"measuredNotch", 32, 200, "auto", {640, 32, 200}},
-                    BarCase{"justFits", 32, 640.0 / 3, "auto", {640, 32, 640.0 / 3}},
-                    BarCase{"wideNotch", 32, 220, "notch", {660, 32, 220}},
-                    BarCase{"notchSwitchedOff", 32, 200, "none", {520, 32, 0}},
-                    BarCase{"unknownKind", 32, 220, "sometimes", {660, 32, 220}}),
-    [](const auto& row) { return row.param.name; });
+TEST(NotchShape, keepsFlareAndCornersInTheBox) {
+    struct Case {
+        const char* name;
+        QSizeF size;
+        double bodyLeft; ///< X of the straight side.
+        double sideEnd;  ///< Y at which it turns into the bottom corner.
+    };
 
-struct ShapeCase {
-    const char* name;
-    QSizeF size;
-    double flare;
-    double radius;
-    double bodyLeft; ///< Where the straight side stands.
-    double sideEnd;  ///< Where it turns into the bottom corner.
-};
-
-class NotchShapeTable : public testing::TestWithParam<ShapeCase> {};
-
-TEST_P(NotchShapeTable, keepsFlareAndCornersInTheBox) {
-    const ShapeCase& row = GetParam();
-    const QPainterPath path = notchShape(row.size, row.flare, row.radius);
-    EXPECT_EQ(path.boundingRect(), QRectF(QPointF(0, 0), row.size));
-    const bool hasBody = row.bodyLeft < row.size.width() / 2;
-    const double side = row.sideEnd - 0.5;
-    EXPECT_FALSE(path.contains(QPointF(row.bodyLeft - 0.1, side))) << "left of the straight side";
-    EXPECT_EQ(path.contains(QPointF(row.bodyLeft + 0.1, side)), hasBody) << "right of it";
-    const double corner = (row.sideEnd + row.size.height()) / 2;
-    EXPECT_FALSE(path.contains(QPointF(row.bodyLeft + 0.1, corner))) << "under the round corner";
+    for (const Case& c : {Case{"panel", {927, 560}, 18, 518},
+                          {"flares meet", {20, 100}, 10, 100},
+                          {"short box", {927, 60}, 18, 30},
+                          {"narrow body", {76, 560}, 18, 540}}) {
+        SCOPED_TRACE(c.name);
+        const QPainterPath path = notchShape(c.size, 18, 42);
+        EXPECT_EQ(path.boundingRect(), QRectF(QPointF(0, 0), c.size));
+        const bool hasBody = c.bodyLeft < c.size.width() / 2;
+        const double side = c.sideEnd - 0.5;
+        EXPECT_FALSE(path.contains(QPointF(c.bodyLeft - 0.1, side))) << "left of the straight side";
+        EXPECT_EQ(path.contains(QPointF(c.bodyLeft + 0.1, side)), hasBody) << "right of it";
+        const double corner = (c.sideEnd + c.size.height()) / 2;
+        EXPECT_FALSE(path.contains(QPointF(c.bodyLeft + 0.1, corner))) << "under the round corner";
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(Boxes, NotchShapeTable,
-                         testing::Values(ShapeCase{"panel", {927, 560}, 18, 42, 18, 518},
-                                         ShapeCase{"flaresMeet", {20, 100}, 18, 42, 10, 100},
-                                         ShapeCase{"shortBox", {927, 60}, 18, 42, 18, 30},
-                                         ShapeCase{"narrowBody", {76, 560}, 18, 42, 18, 540}),
-                         [](const auto& row) { return row.param.name; });
 
 TEST(NotchShape, leavesTheCornersUnderTheFlaresFree) {
     const QPainterPath panel = panelOutline({927, 560});
@@ -99,36 +87,31 @@ TEST(Placement, hangsFromTheMiddleOfTheTopEdge) {
               QRectF(2000, 120, 800, 700));
 }
 
-struct SizeCase {
-    const char* name;
-    QSizeF screen;
-    QSizeF empty; ///< Of a panel 927 wide, with an empty shelf.
-    QSizeF files; ///< With files on it.
-    double bar;   ///< Width of the bar with an assumed notch.
-};
+TEST(ExpandedSize, isSmallerThanItsScreen) {
+    struct Case {
+        const char* name;
+        QSizeF screen;
+        QSizeF empty; ///< Of a panel 927 wide, with an empty shelf.
+        QSizeF files; ///< With files on it.
+        double bar;   ///< Width of the bar with an assumed notch.
+    };
 
-class SizeTable : public testing::TestWithParam<SizeCase> {};
-
-TEST_P(SizeTable, isSmallerThanItsScreen) {
-    const SizeCase& row = GetParam();
-    const Screen screen{u"s"_s, QRectF({1440, 0}, row.screen), {}, {}, {}};
-    EXPECT_EQ(expandedSize(927, ShelfContent::none, screen), row.empty);
-    EXPECT_EQ(expandedSize(927, ShelfContent::files, screen), row.files);
-    EXPECT_EQ(barGeometry(screen, u"notch"_s).width, row.bar);
+    const Case cases[] = {{"smallest", {640, 400}, {620, 380}, {620, 380}, 620},
+                          {"small", {800, 480}, {780, 460}, {780, 460}, 640},
+                          {"1440 at scale 2", {720, 450}, {700, 430}, {700, 430}, 640},
+                          {"netbook", {1024, 600}, {927, 560}, {927, 580}, 640},
+                          {"laptop", {1366, 768}, {927, 560}, {927, 700}, 640},
+                          {"portrait", {1080, 1920}, {927, 560}, {927, 700}, 640},
+                          {"fraction", {910.7, 512.1}, {890, 492}, {890, 492}, 640}};
+    for (const Case& c : cases) {
+        const Screen screen{u"s"_s, QRectF({1440, 0}, c.screen), {}, {}, {}};
+        EXPECT_EQ(expandedSize(927, ShelfContent::none, screen), c.empty) << c.name;
+        EXPECT_EQ(expandedSize(927, ShelfContent::files, screen), c.files) << c.name;
+        EXPECT_EQ(barGeometry(screen, u"notch"_s).width, c.bar) << c.name;
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Screens, SizeTable,
-    testing::Values(SizeCase{"least", {640, 400}, {620, 380}, {620, 380}, 620},
-                    SizeCase{"small", {800, 480}, {780, 460}, {780, 460}, 640},
-                    SizeCase{"twice1440", {720, 450}, {700, 430}, {700, 430}, 640},
-                    SizeCase{"netbook", {1024, 600}, {927, 560}, {927, 580}, 640},
-                    SizeCase{"laptop", {1366, 768}, {927, 560}, {927, 700}, 640},
-                    SizeCase{"portrait", {1080, 1920}, {927, 560}, {927, 700}, 640},
-                    SizeCase{"fraction", {910.7, 512.1}, {890, 492}, {890, 492}, 640}),
-    [](const auto& row) { return row.param.name; });
-
-TEST(ScreenChoice, takesTheScreenUnderThePointerElseTheMainOne) {
+TEST(ScreenChoice, prefersTheScreenUnderThePointer) {
     const Screen left{u"left"_s, QRectF(0, 0, 1000, 800), {}, {}, {}};
     const Screen right{u"right"_s, QRectF(1000, 0, 1000, 800), {}, {}, {}};
     const std::vector<Screen> both{left, right};

@@ -1,8 +1,8 @@
 #include "settings/AppSettings.h"
-#include "fakes/FakeLoginItem.h"
+#include "fakes/FakeServices.h"
 #include "fakes/MemoryPreferences.h"
-#include "support/ExpectedWarning.h"
-#include "support/Told.h"
+#include "support/RunTests.h"
+#include "support/SignalCount.h"
 
 #include <QVariant>
 
@@ -27,73 +27,57 @@ struct Field {
     WrittenBack writtenBack = WrittenBack::yes;
 };
 
-void PrintTo(const Field& field, std::ostream* out) {
-    *out << field.name;
-}
+const Field fields[] = {
 
-class SettingsField : public testing::TestWithParam<Field> {
-protected:
-    [[nodiscard]] QJsonValue field(const AppSettings& settings) const {
-        return QJsonValue::fromVariant(settings.property(GetParam().name));
+    {"bgOpacity", &AppSettings::bgOpacityChanged, 0.55, 0.8, u"0.8"_s},
+    {"fullBlack", &AppSettings::fullBlackChanged, false, true, 1},
+    {"panelWidth", &AppSettings::panelWidthChanged, 927.0, 1040.5, u"1100"_s},
+    {"hotkeyEnabled", &AppSettings::hotkeyEnabledChanged, true, false, u"false"_s, WrittenBack::no},
+    {"lastTab", &AppSettings::lastTabChanged, u"Clipboard"_s, u"Notes"_s, 3},
+    {"pinnedBar", &AppSettings::pinnedBarChanged, false, true, u"true"_s, WrittenBack::no},
+    {"macType", &AppSettings::macTypeChanged, u"auto"_s, u"notch"_s, true},
+    {"newestFirst", &AppSettings::newestFirstChanged, false, true, 1},
+    {"historyLength", &AppSettings::historyLengthChanged, 60, 1000, u"200"_s},
+    {"keepTextsExactly", &AppSettings::keepTextsExactlyChanged, false, true, u"true"_s},
+    {"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
+    {"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}};
+
+TEST(Settings, AreReadNotifiedAndKept) {
+    for (const Field& field : fields) {
+        SCOPED_TRACE(field.name);
+        const QString key = QString::fromLatin1(field.name);
+        MemoryPreferences preferences;
+        FakeLoginItem loginItem;
+        const auto restarted = [&] {
+            const AppSettings settings(preferences, loginItem);
+            return QJsonValue::fromVariant(settings.property(field.name));
+        };
+        EXPECT_EQ(restarted(), field.standard) << "without a value";
+        EXPECT_TRUE(preferences.value(key).isUndefined()) << "reading writes nothing";
+        preferences.set(key, field.other);
+        EXPECT_EQ(restarted(), field.other);
+        preferences.set(key, field.wrongType);
+        EXPECT_EQ(restarted(), field.standard) << "with a value of a wrong type";
+        EXPECT_EQ(preferences.value(key), field.wrongType) << "it stays until it is set";
+
+        AppSettings settings(preferences, loginItem);
+        const SignalCount emitted(&settings, field.changed);
+        const bool kept = field.writtenBack == WrittenBack::yes;
+        int layouts = 0;
+        settings.onLayoutChange = [&] {
+            ++layouts;
+            EXPECT_EQ(preferences.value(key), field.other) << "written before the notification";
+        };
+        for (int times = 0; times < 2; ++times) {
+            ASSERT_TRUE(settings.setProperty(field.name, field.other.toVariant()));
+        }
+        EXPECT_EQ(QJsonValue::fromVariant(settings.property(field.name)), field.other);
+        EXPECT_EQ(emitted.count(), 1) << "the second time nothing changed";
+        EXPECT_EQ(layouts, key == u"macType" ? 1 : 0);
+        EXPECT_EQ(preferences.value(key), kept ? field.other : field.wrongType);
+        EXPECT_EQ(restarted(), kept ? field.other : field.standard) << "after a restart";
     }
-
-    QString key_ = QString::fromLatin1(GetParam().name);
-    MemoryPreferences preferences_;
-    FakeLoginItem loginItem_;
-};
-
-TEST_P(SettingsField, HasItsDefaultWithoutAValue) {
-    const AppSettings settings(preferences_, loginItem_);
-    EXPECT_EQ(field(settings), GetParam().standard);
-    EXPECT_TRUE(preferences_.value(key_).isUndefined()) << "reading writes nothing";
 }
-
-TEST_P(SettingsField, IsReadIfItsTypeIsRight) {
-    preferences_.set(key_, GetParam().other);
-    EXPECT_EQ(field(AppSettings(preferences_, loginItem_)), GetParam().other);
-    preferences_.set(key_, GetParam().wrongType);
-    EXPECT_EQ(field(AppSettings(preferences_, loginItem_)), GetParam().standard);
-    EXPECT_EQ(preferences_.value(key_), GetParam().wrongType) << "it stays until it is set";
-}
-
-TEST_P(SettingsField, NotifiesAndIsKeptWhenSet) {
-    AppSettings settings(preferences_, loginItem_);
-    const Told told(&settings, GetParam().changed);
-    int layouts = 0;
-    settings.onLayoutChange = [&] {
-        ++layouts;
-        EXPECT_EQ(preferences_.value(key_), GetParam().other) << "written before the notification";
-    };
-    for (int times = 0; times < 2; ++times) {
-        ASSERT_TRUE(settings.setProperty(GetParam().name, GetParam().other.toVariant()));
-    }
-    EXPECT_EQ(field(settings), GetParam().other);
-    EXPECT_EQ(told.count(), 1) << "the second time nothing changed";
-    EXPECT_EQ(layouts, key_ == u"macType"_s ? 1 : 0);
-
-    const bool kept = GetParam().writtenBack == WrittenBack::yes;
-    EXPECT_EQ(preferences_.value(key_), kept ? GetParam().other : QJsonValue::Undefined);
-    EXPECT_EQ(field(AppSettings(preferences_, loginItem_)),
-              kept ? GetParam().other : GetParam().standard)
-        << "after a restart";
-}
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, SettingsField,
-    testing::Values(
-        Field{"bgOpacity", &AppSettings::bgOpacityChanged, 0.55, 0.8, u"0.8"_s},
-        Field{"fullBlack", &AppSettings::fullBlackChanged, false, true, 1},
-        Field{"panelWidth", &AppSettings::panelWidthChanged, 927.0, 1040.5, u"1100"_s},
-        Field{"hotkeyEnabled", &AppSettings::hotkeyEnabledChanged, true, false, u"false"_s,
-              WrittenBack::no},
-        Field{"lastTab", &AppSettings::lastTabChanged, u"Clipboard"_s, u"Notes"_s, 3},
-        Field{"pinnedBar", &AppSettings::pinnedBarChanged, false, true, u"true"_s, WrittenBack::no},
-        Field{"macType", &AppSettings::macTypeChanged, u"auto"_s, u"notch"_s, true},
-        Field{"newestFirst", &AppSettings::newestFirstChanged, false, true, 1},
-        Field{"historyLength", &AppSettings::historyLengthChanged, 60, 1000, u"200"_s},
-        Field{"keepTextsExactly", &AppSettings::keepTextsExactlyChanged, false, true, u"true"_s},
-        Field{"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
-        Field{"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}));
 
 TEST(SettingsRange, KeepsThePanelVisible) {
     for (const auto& [stored, width, opacity] :
@@ -149,17 +133,17 @@ TEST_F(LoginSetting, FollowsTheDesktopAndIsAppliedEachTime) {
     AppSettings settings(preferences_, loginItem_);
     EXPECT_TRUE(settings.launchAtLogin());
     loginItem_.enabled = false; // Somebody removed the entry.
-    const Told told(&settings, &AppSettings::launchAtLoginChanged);
+    const SignalCount emitted(&settings, &AppSettings::launchAtLoginChanged);
     settings.setLaunchAtLogin(true);
     EXPECT_TRUE(loginItem_.enabled);
-    EXPECT_EQ(told.count(), 0);
+    EXPECT_EQ(emitted.count(), 0);
     EXPECT_TRUE(preferences_.value(u"launchAtLogin"_s).isUndefined());
 }
 
 TEST_F(LoginSetting, FailureIsLoggedAndTheChoiceStays) {
     loginItem_.refuses = true;
     AppSettings settings(preferences_, loginItem_);
-    const ExpectedWarning warning(u"Ravelo login-item error: refused"_s);
+    expectWarning(u"Ravelo login-item error: refused"_s);
     settings.setupLoginItemDefaultIfNeeded();
     EXPECT_TRUE(settings.launchAtLogin());
     EXPECT_FALSE(loginItem_.enabled);

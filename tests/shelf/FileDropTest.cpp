@@ -7,7 +7,6 @@
 #include <gtest/gtest.h>
 
 #include <future>
-#include <ostream>
 #include <thread>
 
 namespace ravelo {
@@ -23,7 +22,7 @@ const QUrl a(u"file:///a"_s);
 const QUrl b(u"file:///b"_s);
 const QUrl c(u"file:///c"_s);
 
-TEST(LoadToShelf, givesAllAtOnceInTheOrderOfTheAnswers) {
+TEST(LoadToShelf, deliversAllFilesAtOnce) {
     QList<Files> given;
     const auto give = [&](const Files& files) {
         given.append(files);
@@ -70,8 +69,8 @@ TEST(LoadToShelf, givesAllAtOnceInTheOrderOfTheAnswers) {
     EXPECT_TRUE(eventually([&] { return given.size() == 2; }));
 }
 
-class Drops : public testing::Test {
-protected:
+/// Drags over a shelf.
+struct Shelved {
     FakeDragMonitor drags_;
     FakeFileTransfer transfers_;
     QList<Files> given_;
@@ -85,51 +84,48 @@ protected:
     }
 };
 
-struct DropCase {
-    const char* name;
-    bool files; ///< Whether the source names its file itself.
-    QByteArray key;
-    Files retrieved;
-    Files given;
-
-    friend void PrintTo(const DropCase& tested, std::ostream* out) { *out << tested.name; }
-};
-
-class DropTable : public Drops, public testing::WithParamInterface<DropCase> {};
+class Drops : public testing::Test, protected Shelved {};
 
 const QUrl named = FakeDragMonitor().file;
 
-TEST_P(DropTable, gives) {
-    const bool hasKey = !GetParam().key.isEmpty();
-    drags_.begin(GetParam().files, std::nullopt);
-    EXPECT_EQ(enter(), GetParam().files ? Carries::files : Carries::unknown);
-    EXPECT_TRUE(transfers_.keys.isEmpty()) << "a key can be redeemed only once";
-    drop();
-    drags_.answer(GetParam().files, GetParam().key); // It comes late.
-    drags_.answer(GetParam().files, GetParam().key);
-    EXPECT_EQ(enter(), GetParam().files || hasKey ? Carries::files : Carries::nothing);
-    EXPECT_EQ(transfers_.keys, hasKey ? QList{GetParam().key} : QList<QByteArray>());
-    if (hasKey) {
-        EXPECT_TRUE(given_.isEmpty());
-        transfers_.answer(GetParam().retrieved);
+TEST(Drop, givesFilesByNameOrByKey) {
+    struct Case {
+        const char* name;
+        bool files; ///< Whether the source names its file itself.
+        QByteArray key;
+        Files retrieved;
+        Files given;
+    };
+
+    const Case cases[] = {{"named", true, {}, {}, {named}},
+                          {"handed over", true, "key", {b, a}, {b, a}},
+                          {"handed over only", false, "key", {a}, {a}},
+                          {"not handed over after all", true, "key", {}, {named}},
+                          {"no files", false, {}, {}, {}},
+                          {"no files by the key either", false, "key", {}, {}}};
+    for (const Case& one : cases) {
+        SCOPED_TRACE(one.name);
+        Shelved shelf;
+        const bool hasKey = !one.key.isEmpty();
+        shelf.drags_.begin(one.files, std::nullopt);
+        EXPECT_EQ(shelf.enter(), one.files ? Carries::files : Carries::unknown);
+        EXPECT_TRUE(shelf.transfers_.keys.isEmpty()) << "a key can be redeemed only once";
+        shelf.drop();
+        shelf.drags_.answer(one.files, one.key); // The answer is late.
+        shelf.drags_.answer(one.files, one.key);
+        EXPECT_EQ(shelf.enter(), one.files || hasKey ? Carries::files : Carries::nothing);
+        EXPECT_EQ(shelf.transfers_.keys, hasKey ? QList{one.key} : QList<QByteArray>());
+        if (hasKey) {
+            EXPECT_TRUE(shelf.given_.isEmpty());
+            shelf.transfers_.answer(one.retrieved);
+        }
+        EXPECT_EQ(shelf.given_, one.given.isEmpty() ? QList<Files>() : QList<Files>({one.given}));
+        shelf.drags_.begin(true);
+        EXPECT_LE(shelf.given_.size(), 1) << "the next drag is not ours";
     }
-    EXPECT_EQ(given_,
-              GetParam().given.isEmpty() ? QList<Files>() : QList<Files>({GetParam().given}));
-    drags_.begin(true);
-    EXPECT_LE(given_.size(), 1) << "the next drag is not ours";
 }
 
-INSTANTIATE_TEST_SUITE_P(Table, DropTable,
-                         testing::Values(DropCase{"named", true, {}, {}, {named}},
-                                         DropCase{"handedOver", true, "key", {b, a}, {b, a}},
-                                         DropCase{"handedOverOnly", false, "key", {a}, {a}},
-                                         DropCase{
-                                             "notHandedOverAfterAll", true, "key", {}, {named}},
-                                         DropCase{"noFiles", false, {}, {}, {}},
-                                         DropCase{"noFilesByTheKeyEither", false, "key", {}, {}}),
-                         [](const auto& tested) { return tested.param.name; });
-
-TEST_F(Drops, useOnlyWhatMayBeAKey) {
+TEST_F(Drops, useValidKeysOnly) {
     const std::pair<QByteArray, QList<QByteArray>> rows[] = {
         {QByteArray("123\0", 4), {"123"}},
         {"\xff", {}},
@@ -145,7 +141,7 @@ TEST_F(Drops, useOnlyWhatMayBeAKey) {
     }
 }
 
-TEST_F(Drops, followEachOther) {
+TEST_F(Drops, areDeliveredInOrder) {
     for (const char* key : {"first", "second"}) {
         drags_.begin(false, key);
         enter();
@@ -164,7 +160,7 @@ TEST_F(Drops, followEachOther) {
     EXPECT_EQ(given_.size(), 3) << "files that were never dropped here";
 }
 
-TEST_F(Drops, keepTheirFilesIfTheNextDragIsNoticedFirst) {
+TEST_F(Drops, keepTheirFilesIfTheNextDragBeginsFirst) {
     drags_.begin(true);
     enter();
     drags_.begin(false);

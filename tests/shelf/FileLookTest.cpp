@@ -61,7 +61,7 @@ const QUrl dead = fileUrl("/dead/a"); // Checked first: folders are sorted by na
 const QUrl alsoDead = fileUrl("/dead/b");
 const QUrl gone = fileUrl("/no/such");
 
-TEST_F(FileLooks, AFolderThatHangsKeepsNoOtherWaiting) {
+TEST_F(FileLooks, AHangingFolderDelaysNoOther) {
     look({dead, here_, alsoDead, gone});
     ASSERT_EQ(jobs_.count(), 3) << "one a folder";
     jobs_.finish(1);
@@ -90,7 +90,7 @@ TEST_F(FileLooks, AFolderThatHangsKeepsNoOtherWaiting) {
     EXPECT_EQ(found_->value(dead), Presence::gone);
 }
 
-TEST_F(FileLooks, ManyFoldersTakeFewThreads) {
+TEST_F(FileLooks, ManyFoldersUseFewThreads) {
     QList<QUrl> files;
     for (char name = 'a'; name <= 'z'; ++name) {
         files.append(fileUrl(QByteArray("/no/") + name + "/file"));
@@ -105,7 +105,7 @@ TEST_F(FileLooks, ManyFoldersTakeFewThreads) {
     EXPECT_EQ(found_->value(files.last()), Presence::gone);
 }
 
-TEST_F(FileLooks, ManyFoldersOnADeadMountStopNoLaterLook) {
+TEST_F(FileLooks, ADeadMountBlocksNoLaterCheck) {
     QList<QUrl> hung;
     for (char name = 'a'; name <= 'z'; ++name) {
         hung.append(fileUrl(QByteArray("/hung/nas/") + name + "/file"));
@@ -123,7 +123,7 @@ TEST_F(FileLooks, ManyFoldersOnADeadMountStopNoLaterLook) {
     }
 }
 
-TEST_F(FileLooks, NothingIsFoundAtOnceAtTheNextMoment) {
+TEST_F(FileLooks, AnEmptyCheckEndsLater) {
     look({});
     EXPECT_FALSE(found_) << "never from within the call";
     scheduler_.advance(Seconds(0));

@@ -22,7 +22,7 @@ using Way = NearbySend::Way;
 
 class Nearby : public testing::Test {
 protected:
-    /// Looks, with the services answering what they are set to.
+    /// Checks; the services answer as set.
     void refresh(const QList<NearbyDevice>& devices) {
         int calls = 0;
         const Handle waiting = nearby_.refresh([&] { ++calls; });
@@ -57,7 +57,7 @@ protected:
     qsizetype folders_ = 0;
 };
 
-TEST_F(Nearby, findsDevicesFirstThenAProgram) {
+TEST_F(Nearby, prefersDevicesToAProgram) {
     int changes = 0;
     const Handle listening = nearby_.onChange([&] { ++changes; });
     EXPECT_EQ(nearby_.way(), Way::none);
@@ -75,12 +75,12 @@ TEST_F(Nearby, findsDevicesFirstThenAProgram) {
     EXPECT_EQ(changes, 2) << "once for each that differs";
 }
 
-TEST_F(Nearby, aLookThatHangsEnds) {
+TEST_F(Nearby, aCheckTimesOut) {
     refresh({{u"1"_s, u"a"_s}});
     int calls = 0;
     const Handle first = nearby_.refresh([&] { ++calls; });
     const Handle second = nearby_.refresh([&] { ++calls; });
-    (void)nearby_.refresh([&] { ADD_FAILURE() << "its handle is gone"; });
+    (void)nearby_.refresh([&] { ADD_FAILURE() << "the handle was dropped"; });
     EXPECT_EQ(devices_.looks, 2) << "those at a time share one";
     scheduler_.advance(Seconds(30));
     EXPECT_EQ(calls, 2);
@@ -91,7 +91,7 @@ TEST_F(Nearby, aLookThatHangsEnds) {
     EXPECT_EQ(nearby_.way(), Way::devices);
 }
 
-TEST_F(Nearby, aDeviceIsGivenWhatItCanTake) {
+TEST_F(Nearby, sendsOnlyFilesToADevice) {
     const QList<QUrl> files = {file("a b%"),    fileUrl("/no/such"), file(".hidden"),
                                fileUrl("/tmp"), file("(\xc3\xa4)"),  file("\xe4")};
     send(files, u"phone"_s);
@@ -115,7 +115,7 @@ TEST_F(Nearby, aDeviceIsGivenWhatItCanTake) {
     std::remove(filePath(files.last()).constData()); // QTemporaryDir cannot.
 }
 
-TEST_F(Nearby, theProgramIsGivenPaths) {
+TEST_F(Nearby, startsTheProgramWithPaths) {
     const QList<QUrl> files = {file("--a b"), fileUrl("/no/such")};
     send(files, {});
     EXPECT_EQ(sent_, 0) << "none was found";

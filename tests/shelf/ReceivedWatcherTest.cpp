@@ -7,7 +7,6 @@
 
 #include <gtest/gtest.h>
 
-#include <ostream>
 #include <sstream>
 
 namespace ravelo {
@@ -54,8 +53,7 @@ FolderNews newsOf(const std::string& words) {
     return news;
 }
 
-class Received : public testing::Test {
-protected:
+struct Downloads {
     [[nodiscard]] std::string names() const {
         QByteArrayList list;
         for (const QUrl& url : watcher_.files()) {
@@ -69,74 +67,70 @@ protected:
     ReceivedWatcher watcher_{folder_, scheduler_, u"/down"_s};
 };
 
-struct ReceivedCase {
-    const char* name;
-    const char* happens; ///< With "old" and "old.part" there; "|" separates reports.
-    const char* files;
+class Received : public testing::Test, protected Downloads {};
 
-    friend void PrintTo(const ReceivedCase& tested, std::ostream* out) { *out << tested.name; }
-};
+TEST(ReceivedFiles, areThoseThatArrivedWhole) {
+    struct Case {
+        const char* name;
+        const char* happens; ///< With "old" and "old.part" there; "|" separates reports.
+        const char* files;
+    };
 
-class ReceivedTable : public Received, public testing::WithParamInterface<ReceivedCase> {};
-
-TEST_P(ReceivedTable, lists) {
-    folder_.tell(newsOf("[ old old.part ]"));
-    EXPECT_EQ(names(), "");
-    std::istringstream stream(GetParam().happens);
-    for (std::string part; std::getline(stream, part, '|');) {
-        folder_.tell(newsOf(part));
+    const Case cases[] = {{"inTheOrderOfTheirArrival", "+b +a >c", "b a c"},
+                          {"writtenTwice", "+a +b +a | +a", "a b"},
+                          {"writtenAgainOnceItWasGone", "+a +b | -a | +a", "b a"},
+                          {"downloaded", "+a.part a.part>a", "a"},
+                          {"downloadedIntoItsPlaceholder", "0a +a.part | a.part>a +a", "a"},
+                          {"whatBeganBefore", "old.part>b", "b"},
+                          {"downloadedOverAnOldOne", "a.part>old", "old"},
+                          {"downloadedOverAReceivedOne", "+a +b a.part>a", "a b"},
+                          {"halfOfIt", "+a.part +.hidden +x.TMP >b.crdownload", ""},
+                          {"anOldOneEdited", "+old | .x>old | old.tmp>old", ""},
+                          {"anOldOneRenamed", "old>new | +new", ""},
+                          {"aReceivedOneRenamed", "+a +b | a>c", "c b"},
+                          {"renamedOverAnotherOne", "+a +b | b>a", "a"},
+                          {"renamedWhileItIsWritten", "0a a>b | +b", "b"},
+                          {"madeByARenamingOfItsOwn", ".com.x.1>a.crdownload a.crdownload>a", "a"},
+                          {"hidden", "+a a>.a", ""},
+                          {"deletedAndMovedAway", "+a +b +c | -a b>", "c"},
+                          {"aRenamingWithoutItsFirstHalf", "x> >a", "a"},
+                          {"whatWasMissed", "+a +b | { old b 0e c d.part d }", "b c d"},
+                          {"anotherFolderInItsPlace", "+a +b | [ b c ] +d | +c", "b d"},
+                          {"aFolderThatWent", "+a | [ ]", ""},
+                          {"aFolderThatWasMade", "+a | [ ] | { b } +c", "b c"}};
+    for (const Case& c : cases) {
+        Downloads downloads;
+        downloads.folder_.report(newsOf("[ old old.part ]"));
+        EXPECT_EQ(downloads.names(), "") << c.name;
+        std::istringstream stream(c.happens);
+        for (std::string part; std::getline(stream, part, '|');) {
+            downloads.folder_.report(newsOf(part));
+        }
+        downloads.scheduler_.advance(Seconds(0.1));
+        EXPECT_EQ(downloads.names(), c.files) << c.name;
     }
-    scheduler_.advance(Seconds(0.1));
-    EXPECT_EQ(names(), GetParam().files);
 }
-
-INSTANTIATE_TEST_SUITE_P(
-    Table, ReceivedTable,
-    testing::Values(ReceivedCase{"inTheOrderOfTheirArrival", "+b +a >c", "b a c"},
-                    ReceivedCase{"writtenTwice", "+a +b +a | +a", "a b"},
-                    ReceivedCase{"writtenAgainOnceItWasGone", "+a +b | -a | +a", "b a"},
-                    ReceivedCase{"downloaded", "+a.part a.part>a", "a"},
-                    ReceivedCase{"downloadedIntoItsPlaceholder", "0a +a.part | a.part>a +a", "a"},
-                    ReceivedCase{"whatBeganBefore", "old.part>b", "b"},
-                    ReceivedCase{"downloadedOverAnOldOne", "a.part>old", "old"},
-                    ReceivedCase{"downloadedOverAReceivedOne", "+a +b a.part>a", "a b"},
-                    ReceivedCase{"halfOfIt", "+a.part +.hidden +x.TMP >b.crdownload", ""},
-                    ReceivedCase{"anOldOneEdited", "+old | .x>old | old.tmp>old", ""},
-                    ReceivedCase{"anOldOneRenamed", "old>new | +new", ""},
-                    ReceivedCase{"aReceivedOneRenamed", "+a +b | a>c", "c b"},
-                    ReceivedCase{"renamedOverAnotherOne", "+a +b | b>a", "a"},
-                    ReceivedCase{"renamedWhileItIsWritten", "0a a>b | +b", "b"},
-                    ReceivedCase{"madeByARenamingOfItsOwn", ".com.x.1>a.crdownload a.crdownload>a",
-                                 "a"},
-                    ReceivedCase{"hidden", "+a a>.a", ""},
-                    ReceivedCase{"deletedAndMovedAway", "+a +b +c | -a b>", "c"},
-                    ReceivedCase{"aRenamingWithoutItsFirstHalf", "x> >a", "a"},
-                    ReceivedCase{"whatWasMissed", "+a +b | { old b 0e c d.part d }", "b c d"},
-                    ReceivedCase{"anotherFolderInItsPlace", "+a +b | [ b c ] +d | +c", "b d"},
-                    ReceivedCase{"aFolderThatWent", "+a | [ ]", ""},
-                    ReceivedCase{"aFolderThatWasMade", "+a | [ ] | { b } +c", "b c"}),
-    [](const auto& tested) { return tested.param.name; });
 
 TEST_F(Received, notifiesTenTimesASecondAndReceivesForFour) {
     int calls = 0;
     const Handle listening = watcher_.onChange([&] { ++calls; });
-    folder_.tell(newsOf("[ old ]"));
-    folder_.tell(newsOf("+old 0x +y.part"));
+    folder_.report(newsOf("[ old ]"));
+    folder_.report(newsOf("+old 0x +y.part"));
     EXPECT_EQ(calls, 0);
     EXPECT_FALSE(watcher_.receiving());
-    folder_.tell(newsOf("+a +b"));
+    folder_.report(newsOf("+a +b"));
     EXPECT_EQ(calls, 1) << "at once";
-    folder_.tell(newsOf("+c"));
-    folder_.tell(newsOf("+d -a"));
+    folder_.report(newsOf("+c"));
+    folder_.report(newsOf("+d -a"));
     EXPECT_EQ(names(), "a b");
     scheduler_.advance(Seconds(0.1));
     EXPECT_EQ(calls, 2);
     EXPECT_EQ(names(), "b c d");
     scheduler_.advance(Seconds(3.8));
     EXPECT_TRUE(watcher_.receiving());
-    folder_.tell(newsOf("+e"));
+    folder_.report(newsOf("+e"));
     scheduler_.advance(Seconds(3.9));
-    folder_.tell(newsOf("+e"));
+    folder_.report(newsOf("+e"));
     EXPECT_TRUE(watcher_.receiving()) << "e came 3.9 s ago";
     EXPECT_EQ(calls, 3);
     scheduler_.advance(Seconds(0.1));
@@ -145,7 +139,7 @@ TEST_F(Received, notifiesTenTimesASecondAndReceivesForFour) {
     EXPECT_EQ(scheduler_.pending(), 0);
 }
 
-TEST(PartialName, isKnownByItsEnding) {
+TEST(PartialName, isRecognizedByItsSuffix) {
     const auto kindOf = [](const QByteArrayList& names) {
         std::string kinds;
         for (const QByteArray& name : names) {

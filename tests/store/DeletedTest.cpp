@@ -1,4 +1,4 @@
-// Deleted records come back, complete and to their place, or are gone.
+// Deleted records are restored, complete and in their place, or are gone.
 
 #include "store/Deleted.h"
 #include "StoreFixture.h"
@@ -74,7 +74,7 @@ TEST_F(Undo, restoresTheOrder) {
     }
 }
 
-TEST_F(Undo, imageIsOffTheDiskAndComesBackToTheByte) {
+TEST_F(Undo, anImageIsDeletedFromTheDiskAndRestored) {
     store_->addImageClip(png(Qt::red));
     settle();
     const ClipItem clip = store_->clips()[0];
@@ -89,7 +89,7 @@ TEST_F(Undo, imageIsOffTheDiskAndComesBackToTheByte) {
     EXPECT_EQ(saved().clips, QList<ClipItem>{clip});
 }
 
-TEST_F(Undo, snippetComesBackToItsPlaceWithItsImage) {
+TEST_F(Undo, aSnippetIsRestoredWithItsPlaceAndImage) {
     Snippet snippet = store_->snippets()[3];
     snippet.imageFileName = u"b.png"_s;
     ASSERT_TRUE(writeFileAtomically(store_->imagePath(u"b.png"_s), "bytes"));
@@ -104,7 +104,7 @@ TEST_F(Undo, snippetComesBackToItsPlaceWithItsImage) {
     EXPECT_EQ(readFile(store_->imagePath(u"b.png"_s)), "bytes");
 }
 
-TEST_F(Undo, textsComeBackIfImagesCannot) {
+TEST_F(Undo, restoresTextsIfImagesCannotBe) {
     bool full = false;
     mayWrite_ = [&]() -> Result<void> {
         return full ? failure(u"the disk is full"_s) : Result<void>();
@@ -126,7 +126,7 @@ TEST_F(Undo, textsComeBackIfImagesCannot) {
     EXPECT_EQ(imageFiles().size(), 1);
 }
 
-TEST_F(Undo, bringsOnlyWhatIsNotInTheHistoryBackAfterAClearing) {
+TEST_F(Undo, restoresOnlySnippetsAfterTheHistoryWasCleared) {
     store_->addImageClip(png(Qt::red));
     settle();
     const QList<Snippet> snippets = store_->snippets();
@@ -145,7 +145,7 @@ TEST_F(Undo, bringsOnlyWhatIsNotInTheHistoryBackAfterAClearing) {
     EXPECT_EQ(restored.problem, u"the history was cleared"_s);
 }
 
-TEST_F(Undo, bringsTheOldestBackAboveTheLimitUntilTheNextCopy) {
+TEST_F(Undo, restoresTheOldestAboveTheLimitUntilTheNextCopy) {
     const int limit = HistoryRules().limit;
     for (int i = 0; i < limit; ++i) {
         store_->addClip(u"text %1"_s.arg(i));
@@ -158,7 +158,7 @@ TEST_F(Undo, bringsTheOldestBackAboveTheLimitUntilTheNextCopy) {
     EXPECT_EQ(store_->clips().size(), limit);
 }
 
-TEST_F(Undo, keepsTheLastDeletedOfWhatIsTooMuch) {
+TEST_F(Undo, keepsTheLastDeletedImagesWithinItsLimit) {
     QDir folder(store_->clipsDir());
     const auto record = [&](const QString& name) {
         QFile file(folder.filePath(name));

@@ -1,18 +1,14 @@
 #include "store/PasteboardImage.h"
-#include "TestImages.h"
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/MemoryPasteboard.h"
 #include "store/CopiedFile.h"
+#include "support/TestFiles.h"
+#include "support/TestPictures.h"
 
-#include <QFile>
 #include <QTemporaryDir>
 #include <QUrl>
-
-#include <gtest/gtest.h>
-
-#include <sys/stat.h>
 
 namespace ravelo {
 
@@ -75,10 +71,10 @@ protected:
     InProcessDecoder decoder_;
 };
 
-TEST_F(OfferedImage, IsTheBestThatCanBeHad) {
+TEST_F(OfferedImage, IsTheBestAvailable) {
     struct Row {
         const char* forms; ///< In the owner's order, "type=contents".
-        const char* asked; ///< What the owner is asked for.
+        const char* asked; ///< The types that are read.
         const char* color; ///< Of the image that is made of it.
     };
 
@@ -110,7 +106,7 @@ TEST_F(OfferedImage, IsTheBestThatCanBeHad) {
     }
 }
 
-TEST_F(OfferedImage, PassesPngBytesOnAsTheyAre) {
+TEST_F(OfferedImage, KeepsPngBytesUnchanged) {
     const QByteArray bytes = picture("png", Qt::red) + "and what a program may add to it";
     pasteboard_.offer({{u"image/png"_s, bytes}});
     EXPECT_EQ(image(), bytes);
@@ -119,9 +115,7 @@ TEST_F(OfferedImage, PassesPngBytesOnAsTheyAre) {
 class CopiedFile : public OfferedImage {
 protected:
     QUrl write(const QString& name, const QByteArray& bytes) {
-        QFile file(folder_.filePath(name));
-        EXPECT_TRUE(file.open(QFile::WriteOnly) && file.write(bytes) == bytes.size());
-        return QUrl::fromLocalFile(file.fileName());
+        return QUrl::fromLocalFile(makeFile(folder_.filePath(name), bytes));
     }
 
     std::string colorOfList(const QByteArray& uriList) {
@@ -132,7 +126,7 @@ protected:
     QTemporaryDir folder_;
 };
 
-TEST_F(CopiedFile, FirstOfThisMachineCounts) {
+TEST_F(CopiedFile, TheFirstOfThisMachineIsRead) {
     const QByteArray red = write(u"a ü#1.jpg"_s, picture("jpeg", Qt::red)).toEncoded();
     const QByteArray blue = write(u"misnamed.txt"_s, picture("bmp", Qt::blue)).toEncoded();
     const QByteArray elsewhere = QByteArray(blue).replace("file://", "file://far.example");
@@ -142,7 +136,7 @@ TEST_F(CopiedFile, FirstOfThisMachineCounts) {
     EXPECT_EQ(colorOfList(QByteArray(red).replace("file://", "file://localhost")), "red");
 }
 
-TEST_F(CopiedFile, ThatIsNoPictureGivesNothing) {
+TEST_F(CopiedFile, IsIgnoredIfItIsNotAPicture) {
     const QString pipe = folder_.filePath(u"pipe"_s);
     ASSERT_EQ(mkfifo(qPrintable(pipe), 0600), 0);
     const QUrl big = write(u"big.bmp"_s, picture("bmp", Qt::red));

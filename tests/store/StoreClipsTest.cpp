@@ -1,4 +1,5 @@
 #include "StoreFixture.h"
+#include "support/TestFiles.h"
 
 #include <functional>
 
@@ -18,6 +19,12 @@ protected:
     /// Nothing waits to be saved.
     void expectNoSave() { EXPECT_EQ(scheduler_.pending(), 0) << "a save is pending"; }
 
+    /// The address of a blue picture.
+    [[nodiscard]] QByteArray copiedFile() const {
+        const QString path = directory_.filePath(u"copied.bmp"_s);
+        return QUrl::fromLocalFile(makeFile(path, picture("bmp", Qt::blue))).toEncoded();
+    }
+
     QUuid add(const QString& text) {
         store_->addClip(text);
         return store_->clips()[0].id;
@@ -25,25 +32,25 @@ protected:
 };
 
 TEST_F(StoreClips, OperationsSaveAndNotifyOnlyChanges) {
-    const Told told(store_.get(), &Store::clipsChanged);
+    const SignalCount emitted(store_.get(), &Store::clipsChanged);
     store_->addClip(u" \n"_s);
     store_->togglePin(QUuid::createUuid());
     store_->deleteClip(QUuid::createUuid());
-    EXPECT_EQ(told.count(), 0);
+    EXPECT_EQ(emitted.count(), 0);
     expectNoSave();
 
     const QUuid a = add(u"a"_s);
     const QUuid b = add(u"b"_s);
     store_->togglePin(a);
     store_->deleteClip(b);
-    EXPECT_EQ(told.count(), 4);
+    EXPECT_EQ(emitted.count(), 4);
     settle();
     EXPECT_EQ(saved().clips, store_->clips());
     EXPECT_TRUE(saved().clips[0].pinned);
     EXPECT_EQ(saved().clips[0].date, Date{scheduler_.now().sinceReference - 0.4});
 }
 
-TEST_F(StoreClips, ImageIsAddedOnceItsFileIsThere) {
+TEST_F(StoreClips, AddsAnImageOnceItsFileIsWritten) {
     store_->addImageClip(png(Qt::red));
     EXPECT_EQ(texts(), "");
     settle(Seconds(0));
@@ -70,7 +77,7 @@ TEST_F(StoreClips, OrderOfCopyingIsKept) {
     EXPECT_EQ(texts(), "4 3 blue 2 red 1") << "nothing to wait for any more";
 }
 
-TEST_F(StoreClips, ImageMakesItsFolderAgain) {
+TEST_F(StoreClips, RecreatesAMissingFolderForAnImage) {
     ASSERT_TRUE(QDir(store_->clipsDir()).removeRecursively());
     store_->addImageClip(png(Qt::red));
     settle(Seconds(0));
@@ -81,10 +88,8 @@ class CopiedPicture : public StoreClips {
 protected:
     /// Copies a file, then a text, while a mount hangs or not.
     void copy() {
-        QFile file(directory_.filePath(u"copied.bmp"_s));
-        ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(picture("bmp", Qt::blue)) > 0);
         const QString type = u"text/uri-list"_s;
-        store_->addImageClip({{type}, {{type, QUrl::fromLocalFile(file.fileName()).toEncoded()}}});
+        store_->addImageClip({{type}, {{type, copiedFile()}}});
         store_->addClip(u"later"_s);
     }
 };
@@ -96,7 +101,7 @@ TEST_F(CopiedPicture, KeepsItsPlaceInTheOrder) {
     EXPECT_EQ(texts(), "later blue");
 }
 
-TEST_F(CopiedPicture, ThatCannotBeReadHoldsUpNothingForLong) {
+TEST_F(CopiedPicture, IsGivenUpIfItCannotBeRead) {
     copiedFiles_.hung = true;
     copy();
     store_->setNote(u"typed"_s);
@@ -128,7 +133,7 @@ TEST_F(StoreClips, BadImageAddsNothing) {
     EXPECT_EQ(texts(), "a");
 }
 
-TEST_F(StoreClips, DeletingAndClearingTakeTheirFilesAlong) {
+TEST_F(StoreClips, DeletingAndClearingDeleteTheFiles) {
     for (const Qt::GlobalColor color : {Qt::red, Qt::green, Qt::blue}) {
         store_->addImageClip(png(color));
         settle();
@@ -148,7 +153,7 @@ TEST_F(StoreClips, DeletingAndClearingTakeTheirFilesAlong) {
         decoder_->forgotten.contains(QFile::encodeName(store_->imagePath(pinned.imageFileName))));
 }
 
-TEST_F(StoreClips, DeletingDoesNotWaitForAnImageThatIsConverted) {
+TEST_F(StoreClips, DeletingDoesNotWaitForAConversion) {
     const QUuid deleted = add(u"deleted"_s);
     settle();
     conversions_.hung = true;
@@ -163,7 +168,7 @@ TEST_F(StoreClips, DeletingDoesNotWaitForAnImageThatIsConverted) {
     EXPECT_EQ(saved().clips.size(), 1);
 }
 
-TEST_F(StoreClips, ClearingTakesWhatIsOnItsWay) {
+TEST_F(StoreClips, ClearingDropsPendingCopies) {
     store_->addImageClip(png(Qt::red));
     store_->addClip(u"secret"_s);
     store_->clearClips();
@@ -174,7 +179,7 @@ TEST_F(StoreClips, ClearingTakesWhatIsOnItsWay) {
     EXPECT_EQ(imageFiles(), QStringList());
 }
 
-TEST_F(StoreClips, PushedOutImageLosesItsFileOnlyToAnImage) {
+TEST_F(StoreClips, OnlyAnImageDeletesTheFileOfAnImageItPushesOut) {
     store_->addImageClip(png(Qt::red));
     store_->addImageClip(png(Qt::blue));
     settle(Seconds(0));
@@ -230,10 +235,10 @@ TEST_F(StoreClips, SnippetsAreSavedIfTheyChange) {
         start();
         ASSERT_TRUE(writeFileAtomically(store_->imagePath(b.imageFileName), "picture"));
         settle();
-        const Told told(store_.get(), &Store::snippetsChanged);
+        const SignalCount emitted(store_.get(), &Store::snippetsChanged);
         change();
         const bool changes = titles != u"a b c"_s;
-        EXPECT_EQ(told.count(), changes ? 1 : 0) << what;
+        EXPECT_EQ(emitted.count(), changes ? 1 : 0) << what;
         EXPECT_EQ(scheduler_.pending(), changes && hasImage ? 1 : 0) << "saves of " << what;
         settle();
         QStringList saved;
@@ -270,7 +275,7 @@ TEST_F(SnippetImage, IsWrittenUnderANewName) {
     EXPECT_EQ(texts(), "");
 }
 
-TEST_F(SnippetImage, IsTheOneThatCameInBetween) {
+TEST_F(SnippetImage, IsTheNewestOnThePasteboard) {
     pasteboard_.offer({{u"image/png"_s, picture("png", Qt::red)}});
     const Handle handle = ask();
     pasteboard_.offer({{u"image/png"_s, picture("png", Qt::blue)}});
@@ -279,7 +284,7 @@ TEST_F(SnippetImage, IsTheOneThatCameInBetween) {
     EXPECT_EQ(colorOf(readFile(store_->imagePath(answers_[0])).value_or(QByteArray())), "blue");
 }
 
-TEST_F(SnippetImage, ThatIsNotThereGivesNoName) {
+TEST_F(SnippetImage, HasNoNameIfThereIsNone) {
     pasteboard_.offerText(u"a"_s);
     const Handle handle = ask();
     settle();
@@ -297,10 +302,7 @@ TEST_F(SnippetImage, OfASilentOwnerIsGivenUp) {
 }
 
 TEST_F(SnippetImage, OfAFileThatCannotBeReadIsGivenUp) {
-    QFile file(directory_.filePath(u"copied.bmp"_s));
-    ASSERT_TRUE(file.open(QFile::WriteOnly) && file.write(picture("bmp", Qt::blue)) > 0);
-    file.close();
-    pasteboard_.offer({{u"text/uri-list"_s, QUrl::fromLocalFile(file.fileName()).toEncoded()}});
+    pasteboard_.offer({{u"text/uri-list"_s, copiedFile()}});
     for (const bool hung : {true, false}) {
         copiedFiles_.hung = hung;
         const Handle handle = ask();

@@ -56,7 +56,7 @@ QByteArray edited(const Edit& edit) {
     return QByteArray(someFile).replace(place, QByteArrayView(edit.before).size(), edit.after);
 }
 
-TEST(StoreFile, IsRefusedWholeIfAnythingIsWrong) {
+TEST(StoreFile, IsRefusedIfAnythingIsInvalid) {
     const Edit table[] = {
         {"no clips", R"("clips")", R"("klips")"},
         {"no note2", R"("note2")", R"("note3")"},
@@ -106,7 +106,7 @@ TEST(StoreFile, IsRefusedWholeIfAnythingIsWrong) {
     }
 }
 
-TEST(StoreFile, MeansTheSameHoweverItIsWritten) {
+TEST(StoreFile, HasEquivalentForms) {
     const Edit table[] = {
         {"as it was written", "", ""},
         {"line breaks between", R"(,"note2")", ",\n \"note2\""},

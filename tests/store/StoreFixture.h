@@ -1,9 +1,8 @@
 #pragma once
 
-#include "TestImages.h"
 #include "base/Files.h"
-#include "fakes/FakeAlertSound.h"
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/FakeServices.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
@@ -11,7 +10,8 @@
 #include "fakes/MemoryPreferences.h"
 #include "store/Store.h"
 #include "store/StoreFile.h"
-#include "support/Told.h"
+#include "support/SignalCount.h"
+#include "support/TestPictures.h"
 
 #include <QDir>
 #include <QTemporaryDir>
@@ -22,7 +22,7 @@
 
 namespace ravelo {
 
-/// A store in a folder of its own, on virtual time. The worker works in `settle` and `restart`.
+/// A store in a temporary folder, on virtual time. The worker runs in `settle` and `restart`.
 class StoreFixture : public testing::Test {
 protected:
     void start() { store_ = std::make_unique<Store>(folder(), services()); }

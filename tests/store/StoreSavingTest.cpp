@@ -1,12 +1,10 @@
 #include "StoreFixture.h"
 #include "base/FileUrl.h"
 #include "store/ImageFiles.h"
-
-#include <QFileInfo>
+#include "support/TestFiles.h"
 
 #include <cstdio>
 #include <fstream>
-#include <sys/stat.h>
 
 namespace ravelo {
 
@@ -20,15 +18,9 @@ protected:
         ASSERT_TRUE(QDir().mkpath(folder()));
         ASSERT_TRUE(writeFileAtomically(storeFile(), bytes));
     }
-
-    static unsigned mode(const QString& path) {
-        struct stat info = {};
-        EXPECT_EQ(stat(qPrintable(path), &info), 0) << qPrintable(path);
-        return info.st_mode & 07777;
-    }
 };
 
-TEST_F(StoreSaving, FirstRunGivesTemplatesThenLinksAndWritesThem) {
+TEST_F(StoreSaving, FirstRunAddsTemplatesAndLinks) {
     start();
     ASSERT_EQ(store_->snippets().size(), 18);
     EXPECT_EQ(store_->snippets()[0].title, u"First reply to lead"_s);
@@ -46,7 +38,7 @@ TEST_F(StoreSaving, FirstRunGivesTemplatesThenLinksAndWritesThem) {
     EXPECT_EQ(saved().snippets, store_->snippets());
 }
 
-TEST_F(StoreSaving, TemplatesComeBackButLinksDoNot) {
+TEST_F(StoreSaving, OnlyTemplatesAreAddedAgain) {
     preferences_.set(u"seededSiteLinksV1"_s, false);
     start();
     EXPECT_EQ(store_->snippets().size(), 8) << "any value of the flag counts";
@@ -58,14 +50,14 @@ TEST_F(StoreSaving, OnlyItsUserCanRead) {
     start();
     store_->addImageClip(png(Qt::red));
     store_->flush();
-    EXPECT_EQ(mode(folder()), 0700U);
-    EXPECT_EQ(mode(store_->clipsDir()), 0700U);
-    EXPECT_EQ(mode(storeFile()), 0600U);
+    EXPECT_EQ(modeOf(folder()), 0700U);
+    EXPECT_EQ(modeOf(store_->clipsDir()), 0700U);
+    EXPECT_EQ(modeOf(storeFile()), 0600U);
     ASSERT_EQ(imageFiles().size(), 1);
-    EXPECT_EQ(mode(store_->imagePath(imageFiles()[0])), 0600U);
+    EXPECT_EQ(modeOf(store_->imagePath(imageFiles()[0])), 0600U);
 }
 
-TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
+TEST_F(StoreSaving, RetriesAFailedSave) {
     start();
     QString reason;
     QObject::connect(store_.get(), &Store::saveEnded, store_.get(),
@@ -90,7 +82,7 @@ TEST_F(StoreSaving, TriesAgainWhatCouldNotBeSaved) {
     }
 }
 
-TEST_F(StoreSaving, LeavesAloneWhatIsNotOursAnyMore) {
+TEST_F(StoreSaving, WritesNothingOnceTheDataIsNotOurs) {
     bool ours = true;
     mayWrite_ = [&]() -> Result<void> {
         return ours ? Result<void>() : failure(u"taken over"_s);
@@ -100,14 +92,14 @@ TEST_F(StoreSaving, LeavesAloneWhatIsNotOursAnyMore) {
     store_->flush();
     const StoreData before = saved();
     ours = false;
-    QStringList told;
+    QStringList reasons;
     QObject::connect(store_.get(), &Store::saveEnded, store_.get(),
-                     [&](const SaveOutcome& outcome) { told.append(outcome.reason); });
+                     [&](const SaveOutcome& outcome) { reasons.append(outcome.reason); });
     store_->addImageClip(png(Qt::blue));
     store_->clearClips();
     settle();
     settle();
-    EXPECT_EQ(told, QStringList(u"taken over"_s));
+    EXPECT_EQ(reasons, QStringList(u"taken over"_s));
     EXPECT_EQ(saved(), before);
     EXPECT_EQ(imageFiles(), QStringList(before.clips[0].imageFileName));
     EXPECT_EQ(scheduler_.pending(), 0) << "trying again is of no use";
@@ -116,11 +108,11 @@ TEST_F(StoreSaving, LeavesAloneWhatIsNotOursAnyMore) {
 TEST_F(StoreSaving, BurstGivesOneWriteOfTheStateAtTheLastSave) {
     start();
     store_->flush();
-    const Told told(store_.get(), &Store::noteChanged);
+    const SignalCount emitted(store_.get(), &Store::noteChanged);
     for (int i = 1; i <= 10; ++i) {
         store_->setNote(QString::number(i));
         store_->setNote(QString::number(i));
-        EXPECT_EQ(told.count(), i);
+        EXPECT_EQ(emitted.count(), i);
         store_->save();
         scheduler_.advance(Seconds(0.1));
         EXPECT_EQ(worker_.pending(), 0) << "written after save " << i;
@@ -181,7 +173,7 @@ TEST_F(StoreSaving, FilesOfUnknownStateStayOnTheShelf) {
     EXPECT_EQ(saved().shelfStacks, data.shelfStacks) << "a mount whose server is gone";
 }
 
-TEST_F(StoreSaving, AFileThatWasParkedAgainMeanwhileStays) {
+TEST_F(StoreSaving, AFileParkedAgainMeanwhileIsKept) {
     StoreData data;
     data.shelfStacks = {{u"/no/such"_s, u"/no/other"_s}};
     write(encodeStore(data));
@@ -241,11 +233,11 @@ protected:
     QStringList named_;
 };
 
-TEST_F(Orphans, GoAtALaterStart) {
+TEST_F(Orphans, AreDeletedAtALaterStart) {
     EXPECT_EQ(imagesAWeekLater(), named_);
 }
 
-TEST_F(Orphans, StayWhileTheyMayBelongToAnUnreadableStore) {
+TEST_F(Orphans, AreKeptIfAnUnreadableStoreMayNameThem) {
     write("junk");
     EXPECT_EQ(imagesAWeekLater().size(), 2) << "no store, so no names are known";
     store_->addClip(u"a"_s);
@@ -291,21 +283,21 @@ TEST_F(StoreSaving, AnUnreadableFileIsSetAsideBeforeItIsReplaced) {
         EXPECT_EQ(QDir(folder()).entryList(QDir::Files), QStringList(u"store.json"_s));
 
         store_->addClip(u"a"_s);
-        QStringList told;
+        QStringList asides;
         QObject::connect(store_.get(), &Store::saveEnded, store_.get(),
-                         [&](const SaveOutcome& outcome) { told.append(outcome.putAside); });
+                         [&](const SaveOutcome& outcome) { asides.append(outcome.putAside); });
         restart();
         EXPECT_EQ(texts(), "a");
-        EXPECT_EQ(told, QStringList(aside));
+        EXPECT_EQ(asides, QStringList(aside));
         EXPECT_EQ(readFile(aside), contents);
-        EXPECT_EQ(mode(aside), 0600U);
+        EXPECT_EQ(modeOf(aside), 0600U);
         restart();
         EXPECT_EQ(QDir(folder()).entryList(QDir::Files).size(), 2)
             << "a good file is not set aside";
     }
 }
 
-TEST_F(StoreSaving, FlushWritesWhatIsPendingAndOnItsWay) {
+TEST_F(StoreSaving, FlushWritesEverythingPending) {
     start();
     store_->addImageClip(png(Qt::red));
     store_->addClip(u"a"_s);
@@ -319,7 +311,7 @@ TEST_F(StoreSaving, FlushWritesWhatIsPendingAndOnItsWay) {
     EXPECT_EQ(worker_.pending(), 0) << "nothing is left to be written";
 }
 
-TEST_F(StoreSaving, LaterSaveIsNeverOvertakenByAnEarlierOne) {
+TEST_F(StoreSaving, SavesAreWrittenInOrder) {
     start();
     for (const QString& note : {u"1"_s, u"2"_s, u"3"_s}) {
         store_->setNote(note);
@@ -331,7 +323,7 @@ TEST_F(StoreSaving, LaterSaveIsNeverOvertakenByAnEarlierOne) {
     EXPECT_EQ(saved().note, u"3"_s);
 }
 
-TEST_F(StoreSaving, LivesWithoutADisk) {
+TEST_F(StoreSaving, WorksWithoutADisk) {
     QFile file(folder());
     ASSERT_TRUE(file.open(QFile::WriteOnly)) << "a file in place of the folder";
     start();

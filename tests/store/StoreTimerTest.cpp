@@ -8,7 +8,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Counts the calls of the hook and keeps what the last of them found.
+/// Counts the callbacks and records the state in the last one.
 class StoreTimer : public StoreFixture {
 protected:
     StoreTimer() {
@@ -29,7 +29,7 @@ protected:
     bool visibleAtChange_ = false;
 };
 
-TEST_F(StoreTimer, RunsItsWholeLengthAndNotifiesOnceEachTime) {
+TEST_F(StoreTimer, RunsToItsEndAndNotifiesOnce) {
     EXPECT_EQ(store_->timerRemaining(), 0) << "before the first one";
     store_->startTimer(u" \tdeep work "_s, 25);
     EXPECT_EQ(store_->timerLabel(), u"deep work"_s);
@@ -50,7 +50,7 @@ TEST_F(StoreTimer, RunsItsWholeLengthAndNotifiesOnceEachTime) {
     EXPECT_EQ(store_->timerRemaining(), 1500) << "of a timer that does not run";
 }
 
-TEST_F(StoreTimer, StopKeepsLabelAndLengthAndNothingFinishes) {
+TEST_F(StoreTimer, StopKeepsLabelAndLength) {
     store_->startTimer(u"tea"_s, 3);
     store_->stopTimer();
     EXPECT_FALSE(store_->timerRunning());
@@ -87,7 +87,7 @@ TEST_F(StoreTimer, ImpossibleLengthChangesNothing) {
     EXPECT_EQ(changes_, 1);
 }
 
-TEST_F(StoreTimer, CountsRealTimeAndNeverBelowZero) {
+TEST_F(StoreTimer, CountsUptimeAndNeverBelowZero) {
     // Both are due in one step; the first sees a timer that is over already.
     double remaining = -1;
     const Handle other =
@@ -99,7 +99,7 @@ TEST_F(StoreTimer, CountsRealTimeAndNeverBelowZero) {
     EXPECT_EQ(remaining, 0);
 }
 
-TEST_F(StoreTimer, DoesNotOutliveTheProgram) {
+TEST_F(StoreTimer, IsNotRestored) {
     store_->startTimer(u"tea"_s, 3);
     restart();
     EXPECT_FALSE(store_->timerRunning());
@@ -108,7 +108,7 @@ TEST_F(StoreTimer, DoesNotOutliveTheProgram) {
 }
 
 TEST_F(StoreTimer, RemindersAreVisibleIfOpenAndNotEmpty) {
-    const Told told(store_.get(), &Store::remindersChanged);
+    const SignalCount emitted(store_.get(), &Store::remindersChanged);
     const QStringList texts = {u"Call the framer"_s, u"Order veneer"_s};
     store_->setReminderOpen(true);
     EXPECT_FALSE(visibleAtChange_) << "there are none";
@@ -127,7 +127,7 @@ TEST_F(StoreTimer, RemindersAreVisibleIfOpenAndNotEmpty) {
     EXPECT_FALSE(store_->reminderVisible());
     EXPECT_TRUE(store_->reminderOpen());
     EXPECT_EQ(changes_, 3);
-    EXPECT_EQ(told.count(), 2) << "of the store that is gone";
+    EXPECT_EQ(emitted.count(), 2) << "of the store that is gone";
 }
 
 TEST_F(StoreTimer, RemindersAreReadAtTheStart) {

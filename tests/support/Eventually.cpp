@@ -9,7 +9,7 @@ bool eventually(const std::function<bool()>& condition) {
     QTimer timeOut;
     timeOut.setSingleShot(true);
     timeOut.start(20000);
-    QTimer wake; // The condition may come true elsewhere, without an event for us.
+    QTimer wake; // The condition may become true without an event in this process.
     wake.start(2);
     while (!condition()) {
         if (!timeOut.isActive()) {

@@ -1,9 +1,13 @@
 #pragma once
 
+#include <QString>
+
 namespace ravelo {
 
-/// Runs the selected tests within a Qt application. A test that makes Qt warn fails, unless an
-/// ExpectedWarning covers it.
+/// The running test logs this warning (the whole line), once.
+void expectWarning(const QString& text);
+
+/// Runs the selected tests within a Qt application. A test that logs another warning fails.
 [[nodiscard]] int runTests(int argc, char** argv);
 
 } // namespace ravelo

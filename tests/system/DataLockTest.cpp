@@ -38,7 +38,7 @@ protected:
     QString data_ = folder_.filePath(u"Ravelo/store.json"_s);
 };
 
-TEST_F(DataLocks, AreForOneAtATimeAndGoWithIt) {
+TEST_F(DataLocks, AreHeldByOneProcess) {
     {
         DataLock first(path_, data_);
         ASSERT_TRUE(first.claim(Claim::ifFree));
@@ -54,7 +54,7 @@ TEST_F(DataLocks, AreForOneAtATimeAndGoWithIt) {
     EXPECT_FALSE(DataLock::mayBeHeld(path_));
 }
 
-TEST_F(DataLocks, OfThisMachineAreFreeOnceTheirProcessIsGone) {
+TEST_F(DataLocks, OfThisMachineAreFreeAfterTheirProcess) {
     for (const QByteArray& left : {lockOf(getpid(), QSysInfo::machineUniqueId()), QByteArray()}) {
         leave(left);
         DataLock lock(path_, data_);
@@ -65,9 +65,9 @@ TEST_F(DataLocks, OfThisMachineAreFreeOnceTheirProcessIsGone) {
     }
 }
 
-TEST_F(DataLocks, OfAnotherMachineAreNamedAndTakenOverOnDemandOnly) {
+TEST_F(DataLocks, OfAnotherMachineAreTakenOverOnDemandOnly) {
     if (QSysInfo::machineUniqueId().isEmpty()) {
-        GTEST_SKIP() << "this machine has no name to tell it from others";
+        GTEST_SKIP() << "this machine has no unique ID";
     }
     leave(lockOf(7, "another machine"));
     DataLock lock(path_, data_);
@@ -80,7 +80,7 @@ TEST_F(DataLocks, OfAnotherMachineAreNamedAndTakenOverOnDemandOnly) {
     EXPECT_TRUE(lock.check());
 }
 
-TEST_F(DataLocks, ThatWereTakenOverAreLostForGood) {
+TEST_F(DataLocks, AreLostForGoodOnceTakenOver) {
     DataLock old(path_, data_);
     ASSERT_TRUE(old.claim(Claim::ifFree));
     {
@@ -94,7 +94,7 @@ TEST_F(DataLocks, ThatWereTakenOverAreLostForGood) {
     EXPECT_FALSE(old.check()) << "the other one has ended, but what it saved stays";
 }
 
-TEST_F(DataLocks, LeaveAnothersLockAlone) {
+TEST_F(DataLocks, DoNotDeleteAnothersLock) {
     auto old = std::make_unique<DataLock>(path_, data_);
     ASSERT_TRUE(old->claim(Claim::ifFree));
     DataLock taker(path_, data_);
@@ -103,7 +103,7 @@ TEST_F(DataLocks, LeaveAnothersLockAlone) {
     EXPECT_TRUE(taker.check());
 }
 
-TEST_F(DataLocks, ThatWereRemovedAreLostUnlessTheDataWentToo) {
+TEST_F(DataLocks, AreLostIfRemovedUnlessTheDataWereToo) {
     DataLock lock(path_, data_);
     ASSERT_TRUE(lock.claim(Claim::ifFree));
     ASSERT_TRUE(QDir(folder_.filePath(u"Ravelo"_s)).removeRecursively());
@@ -111,10 +111,10 @@ TEST_F(DataLocks, ThatWereRemovedAreLostUnlessTheDataWentToo) {
     EXPECT_TRUE(QFile::exists(path_));
     ASSERT_TRUE(writeFileAtomically(data_, "{}"));
     ASSERT_TRUE(QFile::remove(path_));
-    EXPECT_FALSE(lock.check()) << "somebody may have taken over and ended";
+    EXPECT_FALSE(lock.check()) << "another process may have taken over and ended";
 }
 
-TEST_F(DataLocks, ThatCannotBeMadeAreMadeLater) {
+TEST_F(DataLocks, AreCreatedLaterIfTheyCannotBeAtFirst) {
     QFile inTheWay(folder_.filePath(u"Ravelo"_s));
     ASSERT_TRUE(inTheWay.open(QFile::WriteOnly));
     DataLock lock(path_, data_);

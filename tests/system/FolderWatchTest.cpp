@@ -1,6 +1,7 @@
-// What comes to a real folder, as the watcher of received files is told of it by inotify.
+// Files that appear in a real folder, as inotify reports them to the watcher of received files.
 
 #include "base/FileUrl.h"
+#include "fakes/FakeNearby.h"
 #include "fakes/ManualScheduler.h"
 #include "platform/system/FolderFollower.h"
 #include "platform/system/InotifyFolderWatch.h"
@@ -25,13 +26,13 @@ void write(const fs::path& path, const char* contents = "something") {
     EXPECT_TRUE(std::ofstream(path) << contents) << path;
 }
 
-/// Counts what is told.
+/// Counts reports.
 class CountedWatch final : public FolderWatch {
 public:
-    Handle watch(const QByteArray& path, std::function<void(const FolderNews&)> tell) override {
-        return watch_.watch(path, [this, tell = std::move(tell)](const FolderNews& news) {
+    Handle watch(const QByteArray& path, std::function<void(const FolderNews&)> report) override {
+        return watch_.watch(path, [this, report = std::move(report)](const FolderNews& news) {
             ++news_;
-            tell(news);
+            report(news);
         });
     }
 
@@ -61,7 +62,7 @@ protected:
 
     [[nodiscard]] testing::AssertionResult shows(const std::string& expected) {
         return eventually([&] {
-            scheduler_.advance(Seconds(1)); // It tells only so often.
+            scheduler_.advance(Seconds(1)); // It notifies ten times a second.
             return names() == expected;
         })
                    ? testing::AssertionSuccess()
@@ -76,7 +77,7 @@ protected:
     std::unique_ptr<ReceivedWatcher> watcher_;
 };
 
-TEST_F(FolderWatchTest, whatIsWholeAndStillThere) {
+TEST_F(FolderWatchTest, listsCompleteFilesThatStillExist) {
     fs::create_directories(downloads_ / "folder");
     write(downloads_ / "old");
     start();
@@ -98,7 +99,7 @@ TEST_F(FolderWatchTest, whatIsWholeAndStillThere) {
     EXPECT_TRUE(shows("y slow"));
 }
 
-TEST_F(FolderWatchTest, aFolderThatComesGoesAndIsReplaced) {
+TEST_F(FolderWatchTest, followsAFolderThatIsCreatedMovedAndReplaced) {
     start();
     fs::create_directories(downloads_);
     write(downloads_ / "x");
@@ -130,16 +131,16 @@ TEST_F(FolderWatchTest, aFolderThatComesGoesAndIsReplaced) {
     EXPECT_TRUE(shows("z")) << "by another link";
 }
 
-TEST_F(FolderWatchTest, moreThanTheKernelKeeps) {
-    int most = 0;
-    std::ifstream("/proc/sys/fs/inotify/max_queued_events") >> most;
-    ASSERT_LT(most, 100'000) << "too many for a test";
-    std::vector<FolderNews> told;
+TEST_F(FolderWatchTest, survivesAnOverflowOfTheKernelsQueue) {
+    int max = 0;
+    std::ifstream("/proc/sys/fs/inotify/max_queued_events") >> max;
+    ASSERT_LT(max, 100'000) << "too many for a test";
+    std::vector<FolderNews> news;
     fs::create_directories(downloads_);
     FolderFollower follower(QByteArray::fromStdString(downloads_.string()),
-                            [&](FolderNews news) { told.push_back(std::move(news)); });
+                            [&](FolderNews one) { news.push_back(std::move(one)); });
     follower.proceed();
-    for (int number = 0; number < most + 1000; ++number) {
+    for (int number = 0; number < max + 1000; ++number) {
         write(downloads_ / std::to_string(number));
     }
     write(downloads_ / "empty", "");
@@ -148,24 +149,14 @@ TEST_F(FolderWatchTest, moreThanTheKernelKeeps) {
         follower.proceed();
     }
 
-    class ToldWatch final : public FolderWatch {
-    public:
-        Handle watch(const QByteArray& /*path*/,
-                     std::function<void(const FolderNews&)> notify) override {
-            call = std::move(notify);
-            return {};
-        }
-
-        std::function<void(const FolderNews&)> call;
-    } watch;
-
+    FakeFolderWatch watch;
     const ReceivedWatcher watcher(watch, scheduler_, QString());
-    for (const FolderNews& news : told) {
-        watch.call(news);
+    for (const FolderNews& one : news) {
+        watch.report(one);
     }
     scheduler_.advance(Seconds(1));
-    EXPECT_EQ(watcher.files().size(), most + 1000);
-    EXPECT_GT(watcher.files().last().fileName().toInt(), most) << "in their order";
+    EXPECT_EQ(watcher.files().size(), max + 1000);
+    EXPECT_GT(watcher.files().last().fileName().toInt(), max) << "in their order";
 }
 
 } // namespace

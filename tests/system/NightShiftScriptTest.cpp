@@ -2,12 +2,9 @@
 
 #include "base/Files.h"
 #include "support/Eventually.h"
+#include "support/TestFiles.h"
 
-#include <QDir>
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <cerrno>
 #include <csignal>
@@ -16,7 +13,6 @@
 #include <vector>
 
 #include <fcntl.h>
-#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -30,21 +26,17 @@ namespace {
 class NightShiftScriptTest : public testing::Test {
 protected:
     NightShiftScriptTest() {
-        EXPECT_TRUE(QDir().mkpath(home_ + u"/.qvx/bin"_s));
+        EXPECT_TRUE(QDir().mkpath(home_));
         environment_.insert(u"HOME"_s, home_);
         environment_.insert(u"PATH"_s, qEnvironmentVariable("PATH"));
     }
 
-    /// A program that ends by leaving what `print` prints in a file of its own.
-    void install(const QString& path, const QByteArray& print) {
-        QFile program(path);
-        ASSERT_TRUE(program.open(QIODevice::WriteOnly));
-        program.write("#!/bin/sh\n" + print +
-                      " > \"$HOME/$$\"\nmv \"$HOME/$$\" \"$HOME/$$.out\"\n");
-        ASSERT_TRUE(program.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner));
+    /// A program that writes the output of `print` to a file of its own.
+    static void install(const QString& path, const QByteArray& print) {
+        makeProgram(path, print + " > \"$HOME/$$\"\nmv \"$HOME/$$\" \"$HOME/$$.out\"\n");
     }
 
-    /// What so many programs have printed.
+    /// The output of `count` programs.
     [[nodiscard]] std::vector<std::string> printed(qsizetype count) const {
         QFileInfoList files;
         EXPECT_TRUE(eventually([&] {
@@ -63,7 +55,7 @@ protected:
     QProcessEnvironment environment_;
 };
 
-TEST_F(NightShiftScriptTest, isGivenToTheShellAtEachStart) {
+TEST_F(NightShiftScriptTest, isRunByTheShellAtEachStart) {
     const QString shell = folder_.filePath(u"zsh"_s);
     install(shell, "streams=$(readlink /proc/$$/fd/0 /proc/$$/fd/1 /proc/$$/fd/2)\n"
                    "{ cat /proc/$$/cmdline /proc/$$/environ; echo \"$streams\"; }");

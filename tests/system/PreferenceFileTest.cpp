@@ -5,11 +5,9 @@
 #include "fakes/ManualScheduler.h"
 #include "fakes/ManualWorker.h"
 #include "fakes/MemoryPreferences.h"
+#include "support/TestFiles.h"
 
-#include <QDir>
 #include <QTemporaryDir>
-
-#include <sys/stat.h>
 
 namespace ravelo {
 
@@ -64,12 +62,6 @@ class PreferenceFileTest : public testing::Test {
 protected:
     [[nodiscard]] QByteArray contents() const { return readFile(path_).value_or("missing"); }
 
-    static unsigned mode(const QString& path) {
-        struct stat info = {};
-        EXPECT_EQ(stat(qPrintable(path), &info), 0) << qPrintable(path);
-        return info.st_mode & 07777;
-    }
-
     QTemporaryDir folder_;
     QString path_ = folder_.filePath(u"ravelo/preferences.json"_s);
     ManualScheduler scheduler_;
@@ -77,7 +69,7 @@ protected:
     PreferenceFile::Services services_{scheduler_, worker_};
 };
 
-TEST_F(PreferenceFileTest, IsWrittenAtOnceForItsUserAlone) {
+TEST_F(PreferenceFileTest, IsWrittenAtOnceAndPrivate) {
     PreferenceFile preferences(path_, services_);
     EXPECT_FALSE(preferences.wasUnreadable()) << "there was none";
     EXPECT_EQ(worker_.pending(), 0) << "reading writes nothing";
@@ -85,8 +77,8 @@ TEST_F(PreferenceFileTest, IsWrittenAtOnceForItsUserAlone) {
     EXPECT_EQ(worker_.pending(), 1);
     worker_.drain();
     EXPECT_EQ(contents().simplified(), R"({ "a": 1.5 })");
-    EXPECT_EQ(mode(path_), 0600U);
-    EXPECT_EQ(mode(folder_.filePath(u"ravelo"_s)), 0700U);
+    EXPECT_EQ(modeOf(path_), 0600U);
+    EXPECT_EQ(modeOf(folder_.filePath(u"ravelo"_s)), 0700U);
     preferences.set(u"a"_s, 1.5);
     EXPECT_EQ(worker_.pending(), 0) << "nothing changed";
 }
@@ -101,17 +93,15 @@ TEST_F(PreferenceFileTest, ChangesDuringAWriteShareTheNext) {
     EXPECT_EQ(contents().simplified(), R"({ "a": 99 })");
 }
 
-TEST_F(PreferenceFileTest, KeepsWhatItDoesNotKnow) {
-    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"ravelo"_s));
-    ASSERT_TRUE(writeFileAtomically(path_, R"({"later":{"x":[1]},"a":"text"})"));
+TEST_F(PreferenceFileTest, KeepsUnknownKeys) {
+    makeFile(path_, R"({"later":{"x":[1]},"a":"text"})");
     PreferenceFile(path_, services_).set(u"a"_s, true);
     EXPECT_EQ(contents().simplified(), R"({ "a": true, "later": { "x": [ 1 ] } })");
 }
 
 TEST_F(PreferenceFileTest, SetsAnUnreadableFileAside) {
-    ASSERT_TRUE(QDir(folder_.path()).mkdir(u"ravelo"_s));
     for (const QByteArray junk : {"", "junk", "[1]", R"({"a":1)"}) {
-        ASSERT_TRUE(writeFileAtomically(path_, junk));
+        makeFile(path_, junk);
         PreferenceFile preferences(path_, services_);
         EXPECT_TRUE(preferences.wasUnreadable());
         EXPECT_TRUE(preferences.value(u"a"_s).isUndefined());
@@ -130,13 +120,13 @@ TEST_F(PreferenceFileTest, SetsAnUnreadableFileAside) {
     }
 }
 
-TEST_F(PreferenceFileTest, LivesWithoutADisk) {
+TEST_F(PreferenceFileTest, WorksWithoutADisk) {
     QFile file(folder_.filePath(u"ravelo"_s));
     ASSERT_TRUE(file.open(QFile::WriteOnly)) << "a file where the folder should be";
     PreferenceFile preferences(path_, services_);
-    QStringList told;
+    QStringList reasons;
     preferences.onSaved = [&](const SaveOutcome& outcome) {
-        told.append(outcome.reason);
+        reasons.append(outcome.reason);
     };
     preferences.set(u"a"_s, 1);
     worker_.drain();
@@ -145,12 +135,12 @@ TEST_F(PreferenceFileTest, LivesWithoutADisk) {
     scheduler_.advance(Seconds(31));
     worker_.drain();
     EXPECT_EQ(contents().simplified(), R"({ "a": 1 })") << "tried again";
-    EXPECT_EQ(told, QStringList({u"Not a directory"_s, QString()}));
+    EXPECT_EQ(reasons, QStringList({u"Not a directory"_s, QString()}));
     scheduler_.advance(Seconds(100));
     EXPECT_EQ(worker_.pending(), 0) << "nothing is left to try";
 }
 
-TEST_F(PreferenceFileTest, TriesOnceMoreAtTheEnd) {
+TEST_F(PreferenceFileTest, RetriesAtExit) {
     QFile file(folder_.filePath(u"ravelo"_s));
     ASSERT_TRUE(file.open(QFile::WriteOnly));
     {
@@ -162,7 +152,7 @@ TEST_F(PreferenceFileTest, TriesOnceMoreAtTheEnd) {
     EXPECT_EQ(contents().simplified(), R"({ "a": 1 })");
 }
 
-TEST_F(PreferenceFileTest, LeavesAloneWhatIsNotOursAnyMore) {
+TEST_F(PreferenceFileTest, WritesNothingOnceTheDataIsNotOurs) {
     services_.mayWrite = [] {
         return failure(u"taken over"_s);
     };

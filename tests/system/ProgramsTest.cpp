@@ -3,11 +3,9 @@
 
 #include "base/Files.h"
 #include "support/Eventually.h"
+#include "support/TestFiles.h"
 
-#include <QFile>
 #include <QTemporaryDir>
-
-#include <gtest/gtest.h>
 
 #include <fstream>
 #include <future>
@@ -18,7 +16,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(DetachedThreads, nobodyWaitsForAJobThatHangs) {
+TEST(DetachedThreads, doNotWaitForAJobThatHangs) {
     std::promise<void> gate;
     const std::shared_future<void> open = gate.get_future().share();
     std::string ends;
@@ -41,7 +39,7 @@ TEST(DetachedThreads, nobodyWaitsForAJobThatHangs) {
         DetachedThreads others(1);
         const Handle other =
             others.run([open, ended] { ++*ended, open.wait(); }, [&] { ends += 'o'; });
-        EXPECT_TRUE(eventually([&] { return *ended == 2; })) << "left out in a pool of its own";
+        EXPECT_TRUE(eventually([&] { return *ended == 2; })) << "not run in a separate pool";
         const Handle tooMany = others.run([ended] { ++*ended; }, [&] { ends += 't'; });
         EXPECT_TRUE(eventually([&] { return ends == "qmmmmmt"; })) << ends;
         EXPECT_EQ(*ended, 2) << "two jobs in a pool of one";
@@ -49,18 +47,16 @@ TEST(DetachedThreads, nobodyWaitsForAJobThatHangs) {
     ends = "q";
     gate.set_value();
     EXPECT_TRUE(eventually([&] { return *ended == 3; }));
-    EXPECT_EQ(ends, "q") << "nothing is told once all is gone";
+    EXPECT_EQ(ends, "q") << "notified after destruction";
 }
 
-TEST(SystemPrograms, findsAndStartsThemWithTheBytesAsTheyAre) {
+TEST(SystemPrograms, findsAndStartsThemWithAnyBytes) {
     const QTemporaryDir folder;
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", path + ":/no/such:" + folder.path().toUtf8());
-    QFile script(folder.filePath(u"ravelo test"_s));
-    ASSERT_TRUE(script.open(QFile::WriteOnly));
-    script.write("#!/bin/sh\nprintf '<%s>' \"$@\" > \"$0.part\"\nmv \"$0.part\" \"$0.out\"\n");
-    script.setPermissions(QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
-    script.close();
+    const QString script =
+        makeProgram(folder.filePath(u"ravelo test"_s),
+                    "printf '<%s>' \"$@\" > \"$0.part\"\nmv \"$0.part\" \"$0.out\"\n");
     DetachedThreads threads;
     SystemPrograms programs(threads);
     QList<QByteArray> found;
@@ -72,12 +68,12 @@ TEST(SystemPrograms, findsAndStartsThemWithTheBytesAsTheyAre) {
     const Handle second = programs.find({u"ravelo-none"_s}, note);
     EXPECT_TRUE(eventually([&] { return found.size() == 2; }));
     qputenv("PATH", path);
-    EXPECT_EQ(found, (QList<QByteArray>{script.fileName().toUtf8(), {}}));
+    EXPECT_EQ(found, (QList<QByteArray>{script.toUtf8(), {}}));
 
     programs.start(found[0], {"--x", "a b;$(id)", "\xff\n", ""});
     programs.start("/no/such", {});
-    EXPECT_TRUE(eventually([&] { return readFile(script.fileName() + u".out"_s).has_value(); }));
-    EXPECT_EQ(readFile(script.fileName() + u".out"_s), "<--x><a b;$(id)><\xff\n><>");
+    EXPECT_TRUE(eventually([&] { return readFile(script + u".out"_s).has_value(); }));
+    EXPECT_EQ(readFile(script + u".out"_s), "<--x><a b;$(id)><\xff\n><>");
 }
 
 } // namespace

@@ -52,7 +52,7 @@ std::unique_ptr<SchedulerUnderTest> make() {
 INSTANTIATE_TEST_SUITE_P(Manual, SchedulerContract, testing::Values(make<OnVirtualTime>));
 INSTANTIATE_TEST_SUITE_P(System, SchedulerContract, testing::Values(make<OnRealTime>));
 
-TEST(Grid, LeavesOutWhatWasMissed) {
+TEST(Grid, SkipsMissedCalls) {
     struct Case {
         qint64 due, interval, now, next;
     };
@@ -64,7 +64,7 @@ TEST(Grid, LeavesOutWhatWasMissed) {
     }
 }
 
-TEST(SystemScheduler, DoesNotMakeUpForWhatALongStallMissed) {
+TEST(SystemScheduler, SkipsCallsMissedInALongStall) {
     OnRealTime real;
     Scheduler& scheduler = real.scheduler();
     constexpr Seconds interval{0.004};

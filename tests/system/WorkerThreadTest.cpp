@@ -35,7 +35,7 @@ TEST(WorkerThread, WorksElsewhereAndEndsInTheEventLoop) {
     EXPECT_TRUE(there != here);
 }
 
-TEST(WorkerThread, GoesOnlyWhenAllIsDone) {
+TEST(WorkerThread, DrainsWhenDestroyed) {
     int ends = 0;
     {
         WorkerThread worker;
@@ -51,8 +51,7 @@ void drainAtExit() {
     atExit->drain();
 }
 
-/// As when the X server goes: exit() in the middle of the event loop, nothing on the stack is
-/// destroyed.
+/// Like the end of the X server: exit() within the event loop; nothing on the stack is destroyed.
 void leave() {
     WorkerThread worker;
     atExit = &worker;
@@ -62,7 +61,7 @@ void leave() {
     loop.exec();
 }
 
-TEST(WorkerThreadDeathTest, DrainsWhileTheProcessIsOnItsWayOut) {
+TEST(WorkerThreadDeathTest, DrainsDuringExit) {
     testing::FLAGS_gtest_death_test_style = "threadsafe";
     EXPECT_EXIT(leave(), testing::ExitedWithCode(3), "job end");
 }

@@ -43,7 +43,7 @@ Section "Screen"
     Monitor "monitor"
     DefaultDepth 24
     SubSection "Display"
-        Modes "{WIDTH}x{HEIGHT}" "1280x1024"
+        Modes "{WIDTH}x{HEIGHT}" "1280x1024" "1920x1080"
     EndSubSection
 EndSection
 Section "ServerFlags"

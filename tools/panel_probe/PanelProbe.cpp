@@ -155,11 +155,11 @@ void parkMany(PanelWorld& world) {
     for (int i = 0; i < 10000; ++i) {
         listing.entries.append({QByteArray::number(i) + ".pdf", false});
     }
-    world.downloads.tell({listing, {}});
+    world.downloads.report({listing, {}});
 }
 
 void receive(PanelWorld& world, const QByteArray& name, Seconds then) {
-    world.downloads.tell({{}, {{FolderChange::Kind::written, name}}});
+    world.downloads.report({{}, {{FolderChange::Kind::written, name}}});
     world.scheduler.advance(then);
 }
 

@@ -9,8 +9,8 @@
 namespace ravelo {
 
 /// The Secret Service (org.freedesktop.secrets on the session bus), if it runs already. Items are
-/// found by their attribute "service" and read in a plain session: whoever can listen on the user's
-/// bus can also ask for them.
+/// found by their attribute "service" and read in a plain session: programs that can listen on the
+/// user's bus can also read them.
 class SecretService final : public SecretStore {
 public:
     /// A search finds nothing after `timeout`.

@@ -9,13 +9,13 @@
 namespace ravelo {
 
 /// Each request by a run of curl(1), which Debian keeps up to date: it knows the proxies of the
-/// environment, tries every address of a host and checks the certificate. Nothing of TLS is ever
-/// loaded into this process, and what else holds the token is gone when curl ends.
+/// environment, tries every address of a host and checks the certificate. No TLS library is loaded
+/// into this process, and all other copies of the token are gone when curl exits.
 class CurlClient final : public QObject, public HttpsClient {
     Q_OBJECT
 
 public:
-    /// `userAgent` as in RFC 9110. Of `environment` curl gets the proxies and nothing else.
+    /// `userAgent` as in RFC 9110. curl gets only the proxies of `environment`.
     /// `options` are further arguments of curl.
     CurlClient(QByteArray userAgent, const QProcessEnvironment& environment,
                QStringList options = {});

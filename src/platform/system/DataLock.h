@@ -18,7 +18,7 @@ class DataLock {
 public:
     enum class Claim {
         ifFree,
-        takeOver ///< Whoever has it notices before the next save and stops saving.
+        takeOver ///< The owner notices before its next save and stops saving.
     };
 
     /// `path` is the lock file, `data` the file that it protects.

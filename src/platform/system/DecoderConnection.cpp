@@ -24,6 +24,7 @@ namespace {
 using namespace decode;
 
 constexpr std::chrono::milliseconds startTime(5000); ///< On a busy machine.
+constexpr std::chrono::milliseconds restCheck(5000); ///< How often a resting process is checked.
 
 /// Without environment, other descriptors or blocked signals. 0 if it could not be started.
 pid_t spawn(const QByteArray& program, int socket) {
@@ -92,24 +93,44 @@ std::optional<DecoderConnection> DecoderConnection::start(const QByteArray& prog
     if (child == 0) {
         return std::nullopt;
     }
+    const auto abandon = [child] {
+        kill(child, SIGKILL);
+        waitpid(child, nullptr, 0);
+        return std::nullopt;
+    };
     // Opened before the child can be reaped, so the number cannot mean another process.
     Descriptor process(static_cast<int>(syscall(SYS_pidfd_open, child, 0)));
+    Descriptor watched(fcntl(process.number(), F_DUPFD_CLOEXEC, 0));
+    if (!watched) {
+        return abandon();
+    }
+    DecoderConnection connection(std::move(ours), std::move(process));
     // It ends by itself at any time, so something must reap it: forking twice would take longer
     // than reading most pictures.
-    const auto reap = [child] {
-        while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
-        }
-    };
     try {
-        std::thread(reap).detach();
+        std::thread([child, watched = std::move(watched), deadline = connection.deadline_] {
+            reap(child, watched, *deadline);
+        }).detach();
     } catch (const std::system_error&) { // No more threads.
-        kill(child, SIGKILL);
-        reap();
-        return std::nullopt;
+        return abandon();
     }
-    return process ? std::optional<DecoderConnection>(std::in_place, std::move(ours),
-                                                      std::move(process))
-                   : std::nullopt;
+    return connection;
+}
+
+void DecoderConnection::reap(int child, const Descriptor& process, const Deadline& deadline) {
+    pollfd event{process.number(), POLLIN, 0};
+    for (int ended = 0; ended == 0 || (ended < 0 && errno == EINTR);) {
+        ended = poll(&event, 1, static_cast<int>(restCheck.count()));
+        if (ended == 0 && Clock::now() > deadline.load()) {
+            kill(child, SIGKILL);
+        }
+    }
+    while (waitpid(child, nullptr, 0) < 0 && errno == EINTR) {
+    }
+}
+
+void DecoderConnection::rest(std::chrono::milliseconds max) {
+    deadline_->store(Clock::now() + max);
 }
 
 DecoderConnection::~DecoderConnection() {
@@ -119,7 +140,8 @@ DecoderConnection::~DecoderConnection() {
 }
 
 bool DecoderConnection::send(const Request& request, const Descriptor& picture) {
-    return sendPacket(socket_.number(), &request, sizeof(request), picture.number());
+    deadline_->store(Clock::time_point::max());
+    return sendPacket(socket_.number(), &request, sizeof(request), picture);
 }
 
 bool DecoderConnection::isReady() {
@@ -138,14 +160,13 @@ DecoderConnection::receive(std::chrono::milliseconds timeout) {
     }
     const Received received =
         receivePacket(socket_.number(), &answer.reply, sizeof(answer.reply), MSG_DONTWAIT);
-    const Descriptor memory(received.file);
     if (!received.whole) {
         return std::nullopt;
     }
-    if (answer.reply.bytes == 0 && !memory) {
+    if (answer.reply.bytes == 0 && !received.file) {
         return answer;
     }
-    auto bytes = contents(memory, answer.reply.bytes);
+    auto bytes = contents(received.file, answer.reply.bytes);
     if (!bytes) {
         return std::nullopt;
     }

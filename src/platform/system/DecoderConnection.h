@@ -1,11 +1,13 @@
 #pragma once
 
+#include "base/Descriptor.h"
 #include "decode/Protocol.h"
-#include "platform/system/Descriptor.h"
 
 #include <QByteArray>
 
+#include <atomic>
 #include <chrono>
+#include <memory>
 #include <optional>
 
 namespace ravelo {
@@ -26,6 +28,10 @@ public:
     explicit DecoderConnection(Descriptor socket, Descriptor process = {})
         : socket_(std::move(socket)), process_(std::move(process)) {}
 
+    /// Kills the process some seconds after this time, unless it gets a request before. One that
+    /// has been taken over would not end by itself.
+    void rest(std::chrono::milliseconds max);
+
     DecoderConnection(DecoderConnection&&) noexcept = default;
     DecoderConnection& operator=(DecoderConnection&&) noexcept = default;
     DecoderConnection(const DecoderConnection&) = delete;
@@ -42,9 +48,16 @@ public:
     [[nodiscard]] std::optional<Answer> receive(std::chrono::milliseconds timeout);
 
 private:
+    using Clock = std::chrono::steady_clock;
+    using Deadline = std::atomic<Clock::time_point>;
+
+    static void reap(int child, const Descriptor& process, const Deadline& deadline);
+
     Descriptor socket_;
     Descriptor process_;
     bool ready_ = false;
+    std::shared_ptr<Deadline> deadline_ =
+        std::make_shared<Deadline>(Clock::time_point::max()); ///< Of the rest.
 };
 
 } // namespace ravelo

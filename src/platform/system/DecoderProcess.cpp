@@ -91,7 +91,7 @@ struct DecoderProcess::Source {
 
     explicit Source(const PictureBytes& bytes) {
         if (!bytes.isEmpty() && bytes.size() <= maxBytes) {
-            descriptor = Descriptor(sealedMemory(bytes));
+            descriptor = sealedMemory(bytes);
             identity = bytesOf(bytes.size()) + bytesOf(qHash(bytes));
         }
     }
@@ -219,6 +219,7 @@ void DecoderProcess::keep(Origin origin, DecoderConnection connection) {
     if (origin == Origin::copied) {
         return; // It ends here.
     }
+    connection.rest(std::chrono::seconds(idleSeconds));
     const std::lock_guard lock(mutex_);
     idle_.push_back({origin, std::move(connection), Clock::now()});
 }

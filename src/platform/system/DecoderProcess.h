@@ -16,8 +16,8 @@ namespace ravelo {
 /// Uses ravelo-decode, started on demand. Parallel requests use separate processes. A process
 /// serves many pictures of our own folder or many files from elsewhere, never both, and only one
 /// that was copied: a picture that takes it over sees none of another origin. (A copied PNG is kept
-/// as it is, so it is first read as one of our own.) One that kills it or
-/// takes too long is not tried again until its file changes; small pictures of files are cached.
+/// unchanged, so it is first read as one of our own.) A picture that kills it or takes too long is
+/// not tried again until its file changes; small pictures of files are cached.
 class DecoderProcess final : public ImageDecoder {
 public:
     /// `ownFolder` has the pictures that the program keeps itself.

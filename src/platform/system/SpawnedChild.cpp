@@ -75,7 +75,7 @@ pid_t spawn(const Program& program) {
 
 void runToItsEnd(const Program& program) {
     if (!makeEmpty(program.folder)) {
-        return; // Nowhere else is it safe to run.
+        return; // It is not safe to run elsewhere.
     }
     const pid_t child = spawn(program);
     while (child > 0 && waitpid(child, nullptr, 0) < 0 && errno == EINTR) {

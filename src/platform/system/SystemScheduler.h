@@ -10,10 +10,10 @@ class QSocketNotifier;
 
 namespace ravelo {
 
-/// Real time. All waits, the shortest too, share one kernel timer on the boot-time clock
-/// (timerfd_create(2), CLOCK_BOOTTIME), set to the earliest of them: it goes on while the machine
-/// sleeps, which a QTimer does not, and nothing wakes the processor but what falls due.
-/// Main thread; made after the application object. Handles may outlive it.
+/// Real time. All waits share one kernel timer on the boot-time clock (timerfd_create(2),
+/// CLOCK_BOOTTIME), set to the earliest: unlike a QTimer it counts the time asleep, and it wakes
+/// the processor only for what is due. Main thread; created after the application object. Handles
+/// may outlive it.
 class SystemScheduler final : public Scheduler {
 public:
     SystemScheduler();
@@ -23,8 +23,7 @@ public:
     [[nodiscard]] Seconds uptime() const override;
     [[nodiscard]] Handle after(Seconds delay, std::function<void()> action) override;
 
-    /// Calls stay on the grid of the first one, however late each of them is. Those that were
-    /// missed altogether are left out.
+    /// Calls stay on the grid of the first one, however late each is. Missed ones are skipped.
     [[nodiscard]] Handle every(Seconds interval, std::function<void()> action) override;
 
 private:
@@ -34,7 +33,7 @@ private:
     std::unique_ptr<QSocketNotifier> notifier_;
 };
 
-/// The first moment after `now` that is a whole number of intervals behind `due`. Nanoseconds.
+/// The first time after `now` that is a whole number of intervals after `due`. Nanoseconds.
 [[nodiscard]] qint64 nextOnGrid(qint64 due, qint64 interval, qint64 now);
 
 } // namespace ravelo

@@ -54,8 +54,6 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
     }
     const ClipItem& clip = rows()[index.row()];
     switch (role) {
-    case clipIdRole:
-        return clip.id;
     case titleRole:
         return title(clip);
     case iconRole:
@@ -72,9 +70,11 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
 }
 
 QHash<int, QByteArray> ClipListModel::roleNames() const {
-    return {{clipIdRole, "clipId"},     {titleRole, "title"},
-            {iconRole, "icon"},         {pinnedRole, "pinned"},
-            {subtitleRole, "subtitle"}, {imageFileNameRole, "imageFileName"}};
+    return {{titleRole, "title"},
+            {iconRole, "icon"},
+            {pinnedRole, "pinned"},
+            {subtitleRole, "subtitle"},
+            {imageFileNameRole, "imageFileName"}};
 }
 
 void ClipListModel::setSearch(const QString& search) {
@@ -123,11 +123,7 @@ QUuid ClipListModel::idAt(int row) const {
 }
 
 void ClipListModel::update() {
-    const int before = count();
     apply(found());
-    if (count() != before) {
-        Q_EMIT countChanged();
-    }
     const auto row =
         std::ranges::find_if(rows(), [this](const ClipItem& one) { return isTooLarge(one); });
     const int now = row == rows().end() ? -1 : static_cast<int>(row - rows().begin());

@@ -22,15 +22,13 @@ class ClipListModel : public KeyedListModel<ClipItem>, public AgingRows {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
-    Q_PROPERTY(QString search READ search WRITE setSearch NOTIFY searchChanged)
-    Q_PROPERTY(int count READ count NOTIFY countChanged)
+    Q_PROPERTY(QString search READ search NOTIFY searchChanged)
     /// -1 if there is none.
     Q_PROPERTY(int tooLargeRow READ tooLargeRow NOTIFY tooLargeRowChanged)
 
 public:
     enum Role {
-        clipIdRole = Qt::UserRole,
-        titleRole,
+        titleRole = Qt::UserRole,
         iconRole, ///< Name of a symbol.
         pinnedRole,
         subtitleRole,
@@ -52,17 +50,16 @@ public:
 
     /// Replaces the previous one. Not searched, never stored, removed when the history is cleared.
     void setTooLarge(const TooLargeCopy& copy);
-    Q_INVOKABLE void dismissTooLarge();
+    void dismissTooLarge();
 
     void refreshDates() override;
     [[nodiscard]] Seconds untilDatesChange() const override;
 
     /// Invalid if there is no such row.
-    Q_INVOKABLE [[nodiscard]] QUuid idAt(int row) const;
+    [[nodiscard]] QUuid idAt(int row) const;
 
 Q_SIGNALS:
     void searchChanged();
-    void countChanged();
     void tooLargeRowChanged();
 
 private:

@@ -18,7 +18,7 @@ Clips::Clips(Services services, const QLocale& locale)
       locale_(locale),
       list_(services.store, services.scheduler, locale),
       links_(services.opener, services.scheduler, services.toast),
-      ages_(services.scheduler, list_, list_) {
+      ages_(services.scheduler, list_) {
     connect(&links_, &LinkOpening::opened, &services_.controller, &NotchController::dismiss);
 }
 
@@ -79,12 +79,25 @@ void Clips::remove(int row) {
     if (row == list_.tooLargeRow()) {
         list_.dismissTooLarge();
     } else {
-        services_.deleting.deleteClip(list_.idAt(row));
+        services_.deleting.run([this, id = list_.idAt(row)](const auto& records) {
+            return removed([&] { services_.store.deleteClip(id, records); });
+        });
     }
 }
 
 void Clips::clear() {
-    services_.deleting.clearClips();
+    services_.deleting.run(
+        [this](const auto& records) {
+            return removed([&] { services_.store.clearClips(records); });
+        },
+        {tr("History cleared \u00b7 1 clip"), tr("History cleared \u00b7 %1 clips")});
+}
+
+/// How many clips `remove` removes.
+qsizetype Clips::removed(const std::function<void()>& remove) const {
+    const qsizetype before = services_.store.clips().size();
+    remove();
+    return before - services_.store.clips().size();
 }
 
 const ClipItem* Clips::clipAt(int row) const {

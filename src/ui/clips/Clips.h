@@ -6,6 +6,8 @@
 #include "ui/lists/RowAges.h"
 #include "ui/snippets/Snippets.h"
 
+#include <functional>
+
 namespace ravelo {
 
 class Deleting;
@@ -60,6 +62,7 @@ public:
     Q_INVOKABLE void clear();
 
 private:
+    [[nodiscard]] qsizetype removed(const std::function<void()>& remove) const;
     [[nodiscard]] const ClipItem* clipAt(int row) const;
 
     Services services_;

@@ -4,9 +4,8 @@
 
 #include <QLocale>
 #include <QObject>
-#include <QQmlEngine>
-#include <QUuid>
 
+#include <functional>
 #include <memory>
 
 namespace ravelo {
@@ -17,25 +16,30 @@ class Toast;
 /// Main thread.
 class Deleting : public QObject {
     Q_OBJECT
-    QML_ELEMENT
-    QML_UNCREATABLE("made in C++")
 
 public:
+    /// What the toast says.
+    struct Message {
+        QString one;  ///< About one record.
+        QString many; ///< About several; "%1" is their number.
+
+        friend bool operator==(const Message&, const Message&) = default;
+    };
+
+    /// Puts what it deletes into `records` and returns how many those are.
+    using Remove = std::function<qsizetype(const std::shared_ptr<Deleted>& records)>;
+
     Deleting(Store& store, Toast& toast, const QLocale& locale);
 
-    Q_INVOKABLE void deleteClip(const QUuid& id);
-    /// All unpinned clips.
-    Q_INVOKABLE void clearClips();
-    Q_INVOKABLE void removeSnippet(const QUuid& id);
+    void run(const Remove& remove, const Message& message);
+    /// With a message for any record.
+    void run(const Remove& remove);
 
 private:
     struct Offered;
 
-    [[nodiscard]] std::shared_ptr<Offered> offered();
-    void offer(const std::shared_ptr<Offered>& what);
     void undo(const std::shared_ptr<Offered>& what);
     void report(const std::shared_ptr<Offered>& what, const Store::Restored& restored);
-    [[nodiscard]] QString message(const Offered& what) const;
 
     Store& store_;
     Toast& toast_;

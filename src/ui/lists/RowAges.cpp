@@ -9,8 +9,7 @@ constexpr Seconds margin{0.001};
 
 } // namespace
 
-RowAges::RowAges(Scheduler& scheduler, AgingRows& rows, const QAbstractItemModel& model)
-    : scheduler_(scheduler), rows_(rows) {
+void RowAges::follow(const QAbstractItemModel& model) {
     connect(&model, &QAbstractItemModel::rowsInserted, this, &RowAges::awaitNext);
     connect(&model, &QAbstractItemModel::dataChanged, this, &RowAges::awaitNext);
 }

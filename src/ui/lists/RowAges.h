@@ -5,6 +5,8 @@
 
 #include <QAbstractItemModel>
 
+#include <concepts>
+
 namespace ravelo {
 
 /// Rows with relative dates.
@@ -25,13 +27,17 @@ class RowAges : public QObject {
     Q_OBJECT
 
 public:
-    /// `model` has the same rows. All outlive this.
-    RowAges(Scheduler& scheduler, AgingRows& rows, const QAbstractItemModel& model);
+    /// The model is one of `AgingRows`. Both outlive this.
+    template <std::derived_from<AgingRows> Model>
+    RowAges(Scheduler& scheduler, Model& model) : scheduler_(scheduler), rows_(model) {
+        follow(model);
+    }
 
     void start();
     void stop();
 
 private:
+    void follow(const QAbstractItemModel& model);
     void awaitNext();
 
     Scheduler& scheduler_;

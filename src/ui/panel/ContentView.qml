@@ -124,9 +124,13 @@ FocusScope {
         width: parent.width - 2 * Theme.insetSide
         controller: content.controller
         focusing: content.focusing
-        shelfFiles: content.shelfFiles
         actions: content.actions
         lifted: content.lifted
+
+        CopyLastButton {
+            objectName: "copyLastShelf"
+            shelfFiles: content.shelfFiles
+        }
     }
 
     Item {

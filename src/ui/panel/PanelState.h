@@ -54,7 +54,7 @@ public:
 
 Q_SIGNALS:
     void opened(); ///< Before the content is created, if there is none.
-    void closed(); ///< After the content is deleted.
+    void closed(); ///< The content is hidden, and deleted once control is back in the event loop.
     void hasContentChanged();
     void contentSizeChanged();
     void backdropChanged();

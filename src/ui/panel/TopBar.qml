@@ -2,7 +2,6 @@ import QtQuick
 import Ravelo.Controls
 import Ravelo.Focus
 import Ravelo.Panel
-import Ravelo.Shelf
 import Ravelo.Theme
 
 /// The bar above the tabs.
@@ -11,15 +10,16 @@ Item {
 
     required property NotchController controller
     required property Focus focusing
-    required property ShelfFiles shelfFiles
     required property PanelActions actions
+    /// Buttons of other features, before our own.
+    default property alias buttons: others.data
     /// In a narrow panel the reminders have their own row.
     readonly property bool hasTwoRows: width < 820 - 2 * Theme.insetSide
     /// How far the reminders' row is scrolled up behind the first row.
     property real lifted: 0
     readonly property Item reminders: strip
 
-    readonly property real leftRoom: buttons.x - 16 - (hasTwoRows ? 0 : 100)
+    readonly property real leftRoom: row.x - 16 - (hasTwoRows ? 0 : 100)
 
     readonly property bool timing: focusing.timerRunning
 
@@ -53,7 +53,7 @@ Item {
 
         x: begin
         y: bar.hasTwoRows ? 34 : 0
-        width: (bar.hasTwoRows ? bar.width : buttons.x - 16) - begin
+        width: (bar.hasTwoRows ? bar.width : row.x - 16) - begin
         height: bar.hasTwoRows ? Math.max(0, 34 - bar.lifted) : 32
         clip: bar.hasTwoRows && bar.lifted > 0
 
@@ -68,18 +68,13 @@ Item {
     }
 
     Row {
-        id: buttons
+        id: row
         objectName: "actions"
         anchors.right: parent.right
         spacing: 8
 
-        RoundButton {
-            objectName: "copyLastShelf"
-            visible: bar.shelfFiles.parked.count > 0
-            symbol: "doc.on.doc"
-            glyphSize: 17
-            tip: qsTr("Copy the last file added to the Shelf")
-            onClicked: bar.shelfFiles.copyLast()
+        Row {
+            id: others
         }
 
         RoundButton {

@@ -20,7 +20,7 @@ ShelfFiles::ShelfFiles(const Services& services, const QLocale& locale)
       received_(services.received, services.scheduler, locale),
       sending_(services.nearby, services.scheduler, services.toast),
       drag_(services.jobs, services.icons, services.decoder),
-      ages_(services.scheduler, received_, received_) {
+      ages_(services.scheduler, received_) {
     connect(&drag_, &FileDrag::draggingChanged, &controller_,
             [this] { controller_.setDraggingOut(drag_.isDragging()); });
     connect(&sending_, &Sending::programStarted, &controller_, &NotchController::dismiss);

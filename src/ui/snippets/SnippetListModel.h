@@ -24,7 +24,7 @@ public:
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    Q_INVOKABLE void setSearch(const QString& search);
+    void setSearch(const QString& search);
 
 private:
     void update();

@@ -13,7 +13,6 @@ Snippets::Snippets(Services services, const QLocale& locale)
     : services_(services), list_(services.store, locale), editor_(services.store) {}
 
 void Snippets::reset() {
-    list_.setSearch({});
     editor_.cancel();
 }
 
@@ -27,7 +26,13 @@ void Snippets::copy(const QUuid& id) {
 }
 
 void Snippets::remove(const QUuid& id) {
-    services_.deleting.removeSnippet(id);
+    services_.deleting.run(
+        [this, id](const auto& records) {
+            const qsizetype before = services_.store.snippets().size();
+            services_.store.removeSnippet(id, records);
+            return before - services_.store.snippets().size();
+        },
+        {tr("Snippet deleted"), tr("%1 deleted")});
 }
 
 } // namespace ravelo

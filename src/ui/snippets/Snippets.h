@@ -32,7 +32,7 @@ public:
 
     [[nodiscard]] SnippetEditor* editor() { return &editor_; }
 
-    /// No longer visible.
+    /// No longer visible. The search is the tab's to reset.
     void reset();
 
     Q_INVOKABLE void copy(const QUuid& id);

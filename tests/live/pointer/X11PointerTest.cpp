@@ -38,37 +38,38 @@ TEST_F(X11PointerTest, knowsWhereItIsAndWhetherAButtonIsDown) {
 struct ActionCase {
     const char* name;
     QStringList action;
-    QStringList told; ///< What comes of it: "press", "wake".
-    bool buttonDown;  ///< At the next look, when it is long over.
+    QStringList calls; ///< The callbacks: "press", "wake".
+    bool buttonDown;   ///< At the next look, when it is long over.
 
     friend void PrintTo(const ActionCase& tested, std::ostream* out) { *out << tested.name; }
 };
 
 class PointerAction : public X11PointerTest, public testing::WithParamInterface<ActionCase> {};
 
-TEST_P(PointerAction, isToldAsWhatItIs) {
-    QStringList told;
-    const Handle pressing = pointer().onPress([&] { told.append(u"press"_s); });
-    const Handle waking = pointer().onNextActivity([&] { told.append(u"wake"_s); });
+TEST_P(PointerAction, isReportedAsPressOrActivity) {
+    QStringList calls;
+    const Handle pressing = pointer().onPress([&] { calls.append(u"press"_s); });
+    const Handle waking = pointer().onNextActivity([&] { calls.append(u"wake"_s); });
     xdotool(GetParam().action);
-    EXPECT_TRUE(eventually([&] { return told == GetParam().told; })) << qPrintable(told.join(u' '));
+    EXPECT_TRUE(eventually([&] { return calls == GetParam().calls; }))
+        << qPrintable(calls.join(u' '));
 
-    xdotool({u"click"_s, u"3"_s}); // Whatever else the action leads to comes before this.
-    const QStringList expected = GetParam().told + (GetParam().told.contains(u"wake"_s)
-                                                        ? QStringList{u"press"_s}
-                                                        : QStringList{u"press"_s, u"wake"_s});
-    EXPECT_TRUE(eventually([&] { return told.size() >= expected.size(); }));
-    EXPECT_EQ(told, expected);
+    xdotool({u"click"_s, u"3"_s}); // Comes after all other results of the action.
+    const QStringList expected = GetParam().calls + (GetParam().calls.contains(u"wake"_s)
+                                                         ? QStringList{u"press"_s}
+                                                         : QStringList{u"press"_s, u"wake"_s});
+    EXPECT_TRUE(eventually([&] { return calls.size() >= expected.size(); }));
+    EXPECT_EQ(calls, expected);
 }
 
-TEST_P(PointerAction, countsAsAPressUntilItWasSeen) {
+TEST_P(PointerAction, countsAsAPressUntilTheNextQuery) {
     bool awake = false;
     const Handle waking = pointer().onNextActivity([&] { awake = true; });
     xdotool(GetParam().action);
     xdotool({u"mousemove_relative"_s, u"5"_s, u"5"_s}); // Wakes at the latest, behind the action.
     ASSERT_TRUE(eventually([&] { return awake; }));
     EXPECT_EQ(pointer().state().buttonDown, GetParam().buttonDown);
-    EXPECT_FALSE(pointer().state().buttonDown) << "told twice";
+    EXPECT_FALSE(pointer().state().buttonDown) << "reported twice";
 }
 
 INSTANTIATE_TEST_SUITE_P(
@@ -81,7 +82,7 @@ INSTANTIATE_TEST_SUITE_P(
         ActionCase{"WheelDown", {u"click"_s, u"5"_s}, {}, false},
         ActionCase{"SideButton", {u"click"_s, u"8"_s}, {}, false},
         ActionCase{"Motion", {u"mousemove_relative"_s, u"5"_s, u"5"_s}, {u"wake"_s}, false},
-        // The second is told even where the first comes right after the pointer's last motion.
+        // The second is reported even if the first follows the pointer's last motion immediately.
         ActionCase{"MovedByAProgram",
                    {u"mousemove"_s, u"30"_s, u"40"_s, u"sleep"_s, u"0.1"_s, u"mousemove"_s, u"31"_s,
                     u"40"_s},
@@ -89,14 +90,14 @@ INSTANTIATE_TEST_SUITE_P(
                    false}),
     [](const auto& tested) { return tested.param.name; });
 
-TEST_F(X11PointerTest, wakesForAMoveThatCameBetweenTheLastLookAndTheQuestion) {
+TEST_F(X11PointerTest, wakesForAMoveJustBeforeTheRequest) {
     xdotool({u"mousemove_relative"_s, u"40"_s, u"0"_s});
     int wakes = 0;
     const Handle waking = pointer().onNextActivity([&] { ++wakes; });
     EXPECT_TRUE(eventually([&] { return wakes == 1; })) << "the move was missed";
 }
 
-TEST_F(X11PointerTest, aNewQuestionReplacesTheOldOneAndADroppedOneIsSilent) {
+TEST_F(X11PointerTest, aNewRequestReplacesTheOldOne) {
     int old = 0;
     int dropped = 0;
     int newest = 0;

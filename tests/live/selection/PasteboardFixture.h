@@ -6,7 +6,7 @@ namespace ravelo::x11 {
 
 class X11PasteboardTest : public testing::Test {
 protected:
-    /// Another program takes the clipboard; we have heard of it when this returns.
+    /// Another program takes the clipboard; we have been notified when this returns.
     std::unique_ptr<live::Client> own(const QString& behaviour, const QStringList& offers) {
         const qint64 before = board().changeCount();
         auto owner = std::make_unique<live::Client>(

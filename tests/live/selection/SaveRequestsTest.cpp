@@ -20,7 +20,7 @@ public:
         xcb_flush(xcb());
     }
 
-    /// The name of the property that holds the answer, "refused", or empty where there is none yet.
+    /// The name of the property with the answer, "refused", or empty if there is none yet.
     QByteArray answer() {
         while (const Owned<xcb_generic_event_t> event{xcb_poll_for_event(xcb())}) {
             if (const auto* notice =
@@ -34,9 +34,9 @@ public:
     }
 
     QByteArray waitForAnswer() {
-        QByteArray told;
-        EXPECT_TRUE(eventually([&] { return !(told = answer()).isEmpty(); })) << "no answer";
-        return told;
+        QByteArray name;
+        EXPECT_TRUE(eventually([&] { return !(name = answer()).isEmpty(); })) << "no answer";
+        return name;
     }
 
     /// The type and the atoms of a property.
@@ -83,19 +83,19 @@ private:
 
 class SaveRequestsTest : public X11PasteboardTest {};
 
-TEST_F(SaveRequestsTest, answersAProgramThatWaitsForItsContentsToBeSaved) {
+TEST_F(SaveRequestsTest, answersAProgramWaitingForASave) {
     Asker asker;
     int asked = 0;
     const Handle listening = board().onSaveRequest([&] { ++asked; });
     const auto owner = own(u"answer"_s, {offering(u"STRING"_s, "x")});
     asker.ask("SAVE_TARGETS");
-    ASSERT_TRUE(eventually([&] { return asked == 1; })) << "not told of it";
+    ASSERT_TRUE(eventually([&] { return asked == 1; })) << "not notified";
     EXPECT_EQ(asker.answer(), "") << "answered for us";
     board().answerSaveRequests(board().changeCount(), SaveAnswer::saved);
     EXPECT_EQ(asker.waitForAnswer(), "ANSWER");
     EXPECT_EQ(asker.property("ANSWER").first, "NULL");
 
-    asker.ask("SAVE_TARGETS", {}); // As clients of old do.
+    asker.ask("SAVE_TARGETS", {}); // As old clients do.
     ASSERT_TRUE(eventually([&] { return asked == 2; }));
     board().answerSaveRequests(board().changeCount(), SaveAnswer::saved);
     EXPECT_EQ(asker.waitForAnswer(), "SAVE_TARGETS");
@@ -119,7 +119,7 @@ TEST_F(SaveRequestsTest, answersAProgramThatWaitsForItsContentsToBeSaved) {
     EXPECT_EQ(asked, 4);
 }
 
-TEST_F(SaveRequestsTest, isTheManagerOnlyWhileNobodyElseIs) {
+TEST_F(SaveRequestsTest, isTheManagerOnlyIfThereIsNoOther) {
     Asker other;
     Asker asker;
     other.take();
@@ -129,14 +129,14 @@ TEST_F(SaveRequestsTest, isTheManagerOnlyWhileNobodyElseIs) {
                                                                         }}) {
         EXPECT_TRUE(other.isManager());
         end();
-        asker.ask("TARGETS"); // Refused by the server while there is nobody.
+        asker.ask("TARGETS"); // The server refuses it if there is no manager.
         EXPECT_TRUE(eventually([&] {
             const QByteArray answer = asker.answer();
             if (answer == "refused") {
                 asker.ask("TARGETS");
             }
             return answer == "ANSWER";
-        })) << "nobody is the manager";
+        })) << "there is no manager";
         other.take();
     }
 }

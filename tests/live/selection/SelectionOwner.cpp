@@ -87,7 +87,7 @@ public:
         std::fflush(stdout);
     }
 
-    /// The drag is over the window; what follows comes with the answers.
+    /// The drag enters the window; the rest follows the answers.
     void drag(xcb_window_t onto, bool untilRefused) {
         untilRefused_ = untilRefused;
         const auto root = xcb_setup_roots_iterator(xcb_get_setup(xcb_)).data->root;
@@ -106,7 +106,7 @@ public:
         for (auto value = values_.begin(); value != values_.end() && count < 3; ++value) {
             types[count++] = value->first;
         }
-        tell("XdndEnter", version << 24, types[0], types[1], types[2]);
+        send("XdndEnter", version << 24, types[0], types[1], types[2]);
         move();
     }
 
@@ -131,7 +131,7 @@ public:
     }
 
 private:
-    void move() { tell("XdndPosition", 0, place_, XCB_CURRENT_TIME, atom("XdndActionMove")); }
+    void move() { send("XdndPosition", 0, place_, XCB_CURRENT_TIME, atom("XdndActionMove")); }
 
     struct Value {
         Bytes bytes;
@@ -170,7 +170,7 @@ private:
         }
     }
 
-    void tell(const char* message, uint32_t a, uint32_t b, uint32_t c, uint32_t d) {
+    void send(const char* message, uint32_t a, uint32_t b, uint32_t c, uint32_t d) {
         xcb_client_message_event_t event{};
         event.response_type = XCB_CLIENT_MESSAGE;
         event.format = 32;
@@ -200,7 +200,7 @@ private:
         std::fflush(stdout);
         std::free(name);
         if (!finished) {
-            tell("XdndDrop", 0, XCB_CURRENT_TIME, 0, 0);
+            send("XdndDrop", 0, XCB_CURRENT_TIME, 0, 0);
         }
     }
 
@@ -274,7 +274,7 @@ private:
         }
     }
 
-    /// What was asked before someone else took the selection, answered only now.
+    /// Answers requests from before another program took the selection.
     void answerLate() {
         for (const auto& asked : std::exchange(late_, {})) {
             if (asked.target == targets_) {

@@ -3,7 +3,6 @@
 #include <QGuiApplication>
 
 #include <atomic>
-#include <ostream>
 
 namespace ravelo::x11 {
 namespace {
@@ -12,81 +11,73 @@ using live::Client;
 using live::offering;
 using namespace Qt::StringLiterals;
 
-struct DragCase {
-    const char* name;
-    QString behaviour;
-    QStringList offers;
-    QByteArray list; ///< Of addresses.
-    QByteArray key = {};
-
-    friend void PrintTo(const DragCase& tested, std::ostream* out) { *out << tested.name; }
-};
-
 const QStringList listType{u"text/uri-list"_s};
 const QStringList keyTypes{u"application/vnd.portal.filetransfer"_s,
                            u"application/vnd.portal.files"_s};
 
-class DragOfOther : public testing::TestWithParam<DragCase> {
-protected:
-    [[nodiscard]] X11DragMonitor& drags() { return session_.drags; }
+TEST(DragOfOther, isCountedAndItsFilesAreRead) {
+    struct Case {
+        const char* name;
+        QString behaviour;
+        QStringList offers;
+        QByteArray list; ///< Of addresses.
+        QByteArray key = {};
+    };
 
-    live::ListenerSession session_;
-};
+    const Case cases[] = {
+        {"Files",
+         u"answer"_s,
+         {offering(u"text/uri-list"_s,
+                   "# two\r\nfile:///tmp/a%20b\r\nhttps://example.org/\r\nfile:///c\r\n")},
+         "# two\r\nfile:///tmp/a%20b\r\nhttps://example.org/\r\nfile:///c\r\n"},
+        {"FilesAndAKey",
+         u"answer"_s,
+         {offering(u"text/uri-list"_s, "file:///c"),
+          offering(u"application/vnd.portal.filetransfer"_s, QByteArray("123\0", 4)),
+          offering(u"application/vnd.portal.files"_s, "older")},
+         "file:///c",
+         QByteArray("123\0", 4)},
+        {"AnOlderKey",
+         u"answer"_s,
+         {offering(u"application/vnd.portal.files"_s, "4 5")},
+         {},
+         "4 5"},
+        {"Text", u"answer"_s, {offering(u"UTF8_STRING"_s, "file:///tmp/a")}, {}},
+        {"Silence", u"silent"_s, {}, {}}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.name);
+        live::ListenerSession session;
+        X11DragMonitor& drags = session.drags;
+        EXPECT_EQ(drags.newest(), nullptr) << "before any drag";
+        int calls = 0;
+        const Handle listening = drags.onChange([&] { ++calls; });
+        const live::StallGauge gauge;
+        Client source(live::selectionOwner(),
+                      QStringList{u"XdndSelection"_s, c.behaviour} + c.offers);
+        ASSERT_TRUE(eventually([&] { return calls == 1; })) << "the drag is not reported";
+        EXPECT_EQ(drags.changeCount(), 1);
 
-TEST_P(DragOfOther, isCountedAndAskedForItsFiles) {
-    EXPECT_EQ(drags().newest(), nullptr) << "before any drag";
-    int calls = 0;
-    const Handle listening = drags().onChange([&] { ++calls; });
-    const live::StallGauge gauge;
-    Client source(live::selectionOwner(),
-                  QStringList{u"XdndSelection"_s, GetParam().behaviour} + GetParam().offers);
-    ASSERT_TRUE(eventually([&] { return calls == 1; })) << "the drag is not reported";
-    EXPECT_EQ(drags().changeCount(), 1);
+        const auto offer = drags.newest();
+        ASSERT_TRUE(offer);
+        EXPECT_EQ(drags.newest(), offer) << "two offers of one drag";
+        int answers = 0;
+        const Handle answered = offer->onAnswer([&] { ++answers; });
+        EXPECT_EQ(offer->data(listType), std::nullopt) << "answered before the source was asked";
+        ASSERT_TRUE(eventually([&] { return answers == 1; })) << "the answer is not reported";
+        EXPECT_EQ(calls, 2) << "to the monitor's listener";
+        EXPECT_EQ(offer->data(listType), c.list);
+        EXPECT_EQ(offer->data(keyTypes), std::nullopt) << "answered before the source was asked";
+        ASSERT_TRUE(eventually([&] { return answers == 2; })) << "the key is not reported";
+        EXPECT_EQ(offer->data(keyTypes), c.key);
+        EXPECT_LE(gauge.longestStallMs(), 50);
 
-    const auto offer = drags().newest();
-    ASSERT_TRUE(offer);
-    EXPECT_EQ(drags().newest(), offer) << "two offers of one drag";
-    int answers = 0;
-    const Handle answered = offer->onAnswer([&] { ++answers; });
-    EXPECT_EQ(offer->data(listType), std::nullopt) << "answered before the source was asked";
-    ASSERT_TRUE(eventually([&] { return answers == 1; })) << "the answer is not reported";
-    EXPECT_EQ(calls, 2) << "to whom watches the drags";
-    EXPECT_EQ(offer->data(listType), GetParam().list);
-    EXPECT_EQ(offer->data(keyTypes), std::nullopt) << "answered before the source was asked";
-    ASSERT_TRUE(eventually([&] { return answers == 2; })) << "the key is not reported";
-    EXPECT_EQ(offer->data(keyTypes), GetParam().key);
-    EXPECT_LE(gauge.longestStallMs(), 50);
-
-    source.poke();
-    ASSERT_TRUE(eventually([&] { return drags().changeCount() == 2; })) << "no second drag";
-    EXPECT_EQ(drags().newest()->data(listType), std::nullopt) << "the answer of the drag before";
+        source.poke();
+        ASSERT_TRUE(eventually([&] { return drags.changeCount() == 2; })) << "no second drag";
+        EXPECT_EQ(drags.newest()->data(listType), std::nullopt) << "the last drag's answer";
+    }
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Sources, DragOfOther,
-    testing::Values(
-        DragCase{"Files",
-                 u"answer"_s,
-                 {offering(u"text/uri-list"_s,
-                           "# two\r\nfile:///tmp/a%20b\r\nhttps://example.org/\r\nfile:///c\r\n")},
-                 "# two\r\nfile:///tmp/a%20b\r\nhttps://example.org/\r\nfile:///c\r\n"},
-        DragCase{"FilesAndAKey",
-                 u"answer"_s,
-                 {offering(u"text/uri-list"_s, "file:///c"),
-                  offering(u"application/vnd.portal.filetransfer"_s, QByteArray("123\0", 4)),
-                  offering(u"application/vnd.portal.files"_s, "older")},
-                 "file:///c",
-                 QByteArray("123\0", 4)},
-        DragCase{"AnOlderKey",
-                 u"answer"_s,
-                 {offering(u"application/vnd.portal.files"_s, "4 5")},
-                 {},
-                 "4 5"},
-        DragCase{"Text", u"answer"_s, {offering(u"UTF8_STRING"_s, "file:///tmp/a")}, {}},
-        DragCase{"Silence", u"silent"_s, {}, {}}),
-    [](const auto& tested) { return tested.param.name; });
-
-TEST(SlowSource, isStillHeardWhenTheNextDragHasBegun) {
+TEST(SlowSource, canAnswerAfterTheNextDragHasBegun) {
     live::ListenerSession session;
     const Client slow(live::selectionOwner(),
                       {u"XdndSelection"_s, u"late"_s, offering(u"text/uri-list"_s, "file:///slow"),
@@ -111,7 +102,7 @@ TEST(SlowSource, isStillHeardWhenTheNextDragHasBegun) {
         eventually([&] { return session.drags.newest()->data(listType) == "file:///next"; }));
 }
 
-TEST(OwnDrag, isNoDragOfOthers) {
+TEST(OwnDrag, isNotCounted) {
     live::ListenerSession session;
     const auto* x11 = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
     xcb_connection_t* qt = x11->connection();
@@ -126,7 +117,7 @@ TEST(OwnDrag, isNoDragOfOthers) {
             xcb_get_input_focus_reply(client, xcb_get_input_focus(client), nullptr));
     };
     begin(qt);
-    begin(session.connection->get()); // The one that counts, behind it.
+    begin(session.connection->get()); // Counted, after that.
     EXPECT_TRUE(eventually([&] { return session.drags.changeCount() > 0; }));
     EXPECT_EQ(session.drags.changeCount(), 1) << "our own drag was counted";
 }

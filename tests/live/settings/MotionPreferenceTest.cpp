@@ -28,7 +28,7 @@ TEST(MotionPreference, followsTheDesktopsSettingsManager) {
                              "_XSETTINGS_SETTINGS");
     const X11IconPreference icons(settings);
     X11MotionPreference motion(settings);
-    EXPECT_FALSE(motion.isReduced()) << "nobody has asked for it";
+    EXPECT_FALSE(motion.isReduced()) << "not requested";
     int calls = 0;
     const Handle listening = motion.onChange([&] { ++calls; });
 
@@ -37,7 +37,7 @@ TEST(MotionPreference, followsTheDesktopsSettingsManager) {
         std::make_unique<live::Client>(u"xsettingsd"_s, QStringList{u"-c"_s, config.fileName()});
     EXPECT_TRUE(eventually([&] { return motion.isReduced(); })) << "a manager came";
     EXPECT_EQ(icons.theme(), u"Papirus"_s);
-    // It may have to be told more than once: it reads its signals only when it is up.
+    // More than once, because it handles signals only when it is up.
     const auto becomes = [&](bool reduced) {
         return eventually([&] {
             kill(static_cast<pid_t>(manager->processId()), SIGHUP);
@@ -55,25 +55,11 @@ TEST(MotionPreference, followsTheDesktopsSettingsManager) {
 }
 
 TEST(XSettings, findsValuesInWholePropertiesOnly) {
-    const QByteArray property = QByteArray::fromHex("00000000"
-                                                    "07000000"
-                                                    "03000000"
-                                                    "0100"
-                                                    "0300"
-                                                    "41626300"
-                                                    "01000000"
-                                                    "05000000"
-                                                    "68656c6c6f000000"
-                                                    "0200"
-                                                    "0100"
-                                                    "43000000"
-                                                    "01000000"
-                                                    "0100020003000400"
-                                                    "0000"
-                                                    "0400"
-                                                    "4e756d62"
-                                                    "01000000"
-                                                    "2a000000");
+    const QByteArray property =
+        QByteArray::fromHex("00000000 07000000 03000000" // Three of them:
+                            "0100 0300 41626300 01000000 05000000 68656c6c6f000000" // Abc, "hello"
+                            "0200 0100 43000000 01000000 0100020003000400"          // C, a colour
+                            "0000 0400 4e756d62 01000000 2a000000");                // Numb, 42
     EXPECT_EQ(xsettingsInteger(property, "Numb"), 42);
     EXPECT_EQ(xsettingsInteger(property, "Abc"), std::nullopt) << "a string";
     EXPECT_EQ(xsettingsInteger(property, "Other"), std::nullopt);

@@ -49,7 +49,7 @@ TEST(ScreenSaverStatus, followsTheRootWindowsPropertyAndTheSaversLife) {
     EXPECT_TRUE(eventually([&] { return !status.isLocked(); }));
     setStatus(u"307"_s);
     EXPECT_TRUE(eventually([&] { return status.isLocked(); }));
-    EXPECT_EQ(calls, 2) << "told where nothing changed";
+    EXPECT_EQ(calls, 2) << "notified without a change";
     saver.reset();
     EXPECT_TRUE(eventually([&] { return !status.isLocked(); })) << "the saver was killed";
 }

@@ -48,6 +48,10 @@ QByteArray Client::finish() {
     return process_.readAllStandardOutput();
 }
 
+bool run(const QString& program, const QStringList& arguments) {
+    return QProcess::execute(program, arguments) == 0;
+}
+
 StallGauge::StallGauge() : queued_(queuedMs()) {
     timer_.setTimerType(Qt::PreciseTimer);
     QObject::connect(&timer_, &QTimer::timeout, &timer_, [this] {

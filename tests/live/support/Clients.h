@@ -20,7 +20,7 @@ public:
     Client& operator=(const Client&) = delete;
     ~Client();
 
-    /// Runs the event loop until the client has written another whole line; it, without its end.
+    /// Runs the event loop until the client has written another line, and returns it.
     [[nodiscard]] QByteArray readLine();
 
     /// Lets it do its next step: writes a line to its standard input.
@@ -28,15 +28,18 @@ public:
 
     [[nodiscard]] qint64 processId() const { return process_.processId(); }
 
-    /// Runs the event loop until the client has ended; what it wrote.
+    /// Runs the event loop until the client has ended; returns its output.
     [[nodiscard]] QByteArray finish();
 
 private:
     QProcess process_;
 };
 
-/// Notices how long the event loop was kept from running by what the program does. The time that
-/// the main thread was ready and waited for a processor does not count.
+/// Runs a program to its end; whether that was a success.
+[[nodiscard]] bool run(const QString& program, const QStringList& arguments);
+
+/// Measures the max. time for which the program kept the event loop from running, without the time
+/// that the main thread waited for a processor.
 class StallGauge {
 public:
     StallGauge();

@@ -1,25 +1,31 @@
-#include "live/support/Xvfb.h"
 #include "support/RunTests.h"
 
-#include <QByteArray>
+#include <QProcess>
 
 #include <gtest/gtest.h>
 
 #include <cstdio>
 
-// The main function of the tests against a real X server: each program brings its own one up.
+// The main function of tests on a private desktop. DESKTOP is an argument of
+// tools/desktop/serve.py.
 
 int main(int argc, char** argv) {
     testing::InitGoogleTest(&argc, argv);
     if (testing::GTEST_FLAG(list_tests)) {
         return RUN_ALL_TESTS();
     }
-    const ravelo::live::Xvfb server;
-    if (server.display().empty()) {
-        std::fputs("Xvfb does not start\n", stderr);
+    QProcess desktop; // Ends with our end of its input, even if this program is killed.
+    desktop.setProcessChannelMode(QProcess::ForwardedErrorChannel);
+    desktop.start(QStringLiteral("/usr/bin/python3"),
+                  {QStringLiteral("-B"), QStringLiteral(SERVE_DESKTOP), QStringLiteral(DESKTOP)});
+    if (!desktop.waitForReadyRead(60000)) {
+        std::fputs("the desktop does not come up\n", stderr);
         return 1;
     }
-    qputenv("DISPLAY", server.display().c_str());
+    qputenv("DISPLAY", desktop.readLine().trimmed());
     qputenv("QT_QPA_PLATFORM", "xcb");
-    return ravelo::runTests(argc, argv);
+    const int result = ravelo::runTests(argc, argv);
+    desktop.closeWriteChannel();
+    desktop.waitForFinished();
+    return result;
 }

@@ -29,7 +29,7 @@ public:
     Handle subscription = cover.onChange([this] { ++changes; });
 };
 
-TEST_F(CoverTest, IsAWindowThatNobodyManagesOverTheWholeMonitor) {
+TEST_F(CoverTest, IsAnUnmanagedWindowOverTheWholeMonitor) {
     {
         const OtherWindow game(OtherWindow::Kind::fullScreen, mainMonitor);
         const OtherWindow menu(OtherWindow::Kind::popup, {0, 0, 1920, 900});
@@ -44,7 +44,7 @@ TEST_F(CoverTest, IsAWindowThatNobodyManagesOverTheWholeMonitor) {
     EXPECT_EQ(changes, 2) << "something else counted too";
 }
 
-TEST_F(CoverTest, IsNoneOnceItLiesBelow) {
+TEST_F(CoverTest, EndsOnceItIsBelow) {
     const OtherWindow wallpaper(OtherWindow::Kind::popup, mainMonitor);
     ASSERT_TRUE(becomes(true));
     restack(wallpaper.id(), XCB_STACK_MODE_BELOW);
@@ -55,7 +55,7 @@ TEST_F(CoverTest, IsNoneOnceItLiesBelow) {
 
 TEST_F(CoverTest, StaysAboveAPanelThatIsRaisedByMistake) {
     const OtherWindow locker(OtherWindow::Kind::popup, mainMonitor);
-    panel.orderFront(); // Whether the locker is known yet or not.
+    panel.orderFront(); // Whether or not the locker is known yet.
     ASSERT_TRUE(becomes(true));
     EXPECT_TRUE(eventually([&] { return server.isAbove(locker.id(), id()); }));
     panel.orderFront();
@@ -113,7 +113,7 @@ INSTANTIATE_TEST_SUITE_P(
                     FrameCase{"locker_with_a_screen_saver", false, true, true}),
     [](const auto& row) { return row.param.name; });
 
-TEST_F(CoverTest, SaysThatAnyOfThoseHasComeAndNeverThePanelItself) {
+TEST_F(CoverTest, ReportsUnmanagedWindowsExceptThePanel) {
     int newcomers = 0;
     const Handle appearance = cover.onNewcomer([&] { ++newcomers; });
     panel.orderOut();
@@ -124,44 +124,35 @@ TEST_F(CoverTest, SaysThatAnyOfThoseHasComeAndNeverThePanelItself) {
     EXPECT_EQ(newcomers, 1) << "only the grabber's window is not managed";
 }
 
-struct GrabCase {
-    const char* name;
-    bool pointer;
-    bool keyboard;
-};
-
-class GrabTest : public PanelFixture, public testing::WithParamInterface<GrabCase> {};
-
-TEST_P(GrabTest, IsHeldIfBothAre) {
-    const auto [name, pointer, keyboard] = GetParam();
+TEST_F(PanelFixture, InputIsHeldByAnotherIfPointerAndKeyboardAre) {
+    using x11::Owned;
     x11::X11InputGrab grab(*connection, cover);
-    EXPECT_FALSE(grab.isHeldByAnother());
     xcb_connection_t* other = server.get();
-    if (pointer) {
-        const x11::Owned<xcb_grab_pointer_reply_t> reply(xcb_grab_pointer_reply(
-            other,
-            xcb_grab_pointer(other, 0, server.root(), 0, XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC,
-                             XCB_NONE, XCB_NONE, XCB_CURRENT_TIME),
-            nullptr));
-        ASSERT_EQ(reply->status, XCB_GRAB_STATUS_SUCCESS) << "the question left a grab behind";
+    const uint8_t async = XCB_GRAB_MODE_ASYNC;
+    for (const auto& [pointer, keyboard] :
+         {std::pair(false, false), {true, false}, {false, true}, {true, true}}) {
+        SCOPED_TRACE(testing::Message() << "pointer " << pointer << ", keyboard " << keyboard);
+        EXPECT_FALSE(grab.isHeldByAnother());
+        if (pointer) {
+            const Owned<xcb_grab_pointer_reply_t> reply(
+                xcb_grab_pointer_reply(other,
+                                       xcb_grab_pointer(other, 0, server.root(), 0, async, async,
+                                                        XCB_NONE, XCB_NONE, XCB_CURRENT_TIME),
+                                       nullptr));
+            ASSERT_EQ(reply->status, XCB_GRAB_STATUS_SUCCESS) << "the question left a grab behind";
+        }
+        if (keyboard) {
+            const Owned<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(
+                other, xcb_grab_keyboard(other, 0, server.root(), XCB_CURRENT_TIME, async, async),
+                nullptr));
+            ASSERT_EQ(reply->status, XCB_GRAB_STATUS_SUCCESS) << "the question left a grab behind";
+        }
+        EXPECT_EQ(grab.isHeldByAnother(), pointer && keyboard);
+        xcb_ungrab_pointer(other, XCB_CURRENT_TIME);
+        xcb_ungrab_keyboard(other, XCB_CURRENT_TIME);
+        static_cast<void>(server.focus()); // At the answer it is done.
     }
-    if (keyboard) {
-        const x11::Owned<xcb_grab_keyboard_reply_t> reply(
-            xcb_grab_keyboard_reply(other,
-                                    xcb_grab_keyboard(other, 0, server.root(), XCB_CURRENT_TIME,
-                                                      XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC),
-                                    nullptr));
-        ASSERT_EQ(reply->status, XCB_GRAB_STATUS_SUCCESS) << "the question left a grab behind";
-    }
-    EXPECT_EQ(grab.isHeldByAnother(), pointer && keyboard);
 }
-
-INSTANTIATE_TEST_SUITE_P(All, GrabTest,
-                         testing::Values(GrabCase{"none", false, false},
-                                         GrabCase{"pointer", true, false},
-                                         GrabCase{"keyboard", false, true},
-                                         GrabCase{"both", true, true}),
-                         [](const auto& row) { return row.param.name; });
 
 } // namespace
 

@@ -67,7 +67,7 @@ struct ReturnCase {
 
 class FocusReturnTest : public FocusTest, public testing::WithParamInterface<ReturnCase> {};
 
-TEST_P(FocusReturnTest, GoesToWhomItBelongs) {
+TEST_P(FocusReturnTest, ReturnsToTheRightWindow) {
     borrow();
     GetParam().meanwhile(*this);
     panel.returnFocus();
@@ -102,7 +102,7 @@ INSTANTIATE_TEST_SUITE_P(
 TEST_F(FocusTest, AClickThatTheWindowManagerHandlesLateWins) {
     borrow();
     const xcb_timestamp_t clicked = server.time();
-    // By now the window manager may not even have heard of the click.
+    // By now the window manager may not have received the click.
     static_cast<void>(eventually([&] { return server.time() > clicked; }));
     panel.returnFocus();
     EXPECT_EQ(focus(), previous->id());
@@ -110,12 +110,12 @@ TEST_F(FocusTest, AClickThatTheWindowManagerHandlesLateWins) {
     EXPECT_EQ(server.focus(), other->id());
 }
 
-TEST_F(FocusTest, ReturningWhatWasNeverAskedForChangesNothing) {
+TEST_F(FocusTest, ReturningWithoutARequestChangesNothing) {
     panel.returnFocus();
     EXPECT_EQ(focus(), previous->id());
 }
 
-TEST_F(FocusTest, ARequestTakenBackAtOnceIsNone) {
+TEST_F(FocusTest, ARequestCancelledAtOnceHasNoEffect) {
     int answers = 0;
     const Handle subscription = events.onEvent([&](const xcb_generic_event_t& event) {
         answers += event.response_type == XCB_PROPERTY_NOTIFY ? 1 : 0;
@@ -126,7 +126,7 @@ TEST_F(FocusTest, ARequestTakenBackAtOnceIsNone) {
     EXPECT_EQ(focus(), previous->id());
 }
 
-TEST_F(PanelFixture, ATextFieldTakesWhatIsTyped) {
+TEST_F(PanelFixture, ATextFieldReceivesTyping) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QQuickWindow quick;
     x11::X11PanelWindow quickPanel(quick, *connection, events, screens, compositor, cover, drags);

@@ -1,6 +1,6 @@
 #include "live/window/OtherWindow.h"
 
-#include "live/support/Desktop.h"
+#include "live/support/Clients.h"
 #include "platform/x11/connection/Properties.h"
 
 #include <gtest/gtest.h>

@@ -9,7 +9,7 @@
 
 namespace ravelo::live {
 
-/// What the X server says, asked on a connection of its own. Every question is a round trip.
+/// Queries the X server on a separate connection. Each query is a round trip.
 class Server {
 public:
     Server();
@@ -46,7 +46,7 @@ private:
     xcb_window_t clock_;
 };
 
-/// A window of another program, as far as the window manager can tell.
+/// A window that the window manager sees as another program's.
 class OtherWindow {
 public:
     /// A popup is one that the window manager leaves alone.

@@ -33,7 +33,7 @@ void PanelFixture::show(const QString& monitor, QSizeF size) {
     const QRect expected = topCentre(*place, size);
     ASSERT_TRUE(eventually([&] {
         return server.isViewable(id()) && server.geometry(id()) == expected;
-    })) << "the panel is not shown where it belongs";
+    })) << "the panel is not shown in its place";
 }
 
 xcb_window_t PanelFixture::focus() {

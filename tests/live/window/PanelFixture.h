@@ -1,6 +1,6 @@
 #pragma once
 
-#include "live/support/Desktop.h"
+#include "live/support/Clients.h"
 #include "live/window/OtherWindow.h"
 #include "platform/x11/selection/X11DragMonitor.h"
 #include "platform/x11/window/X11PanelWindow.h"
@@ -30,7 +30,7 @@ public:
     /// Places the panel on a monitor ("DUMMY0") and waits until the server shows it there.
     void show(const QString& monitor, QSizeF size);
 
-    /// Who has the focus when the server has done all that the panel has asked for so far.
+    /// The focused window after all requests of the panel so far.
     [[nodiscard]] xcb_window_t focus();
 
     [[nodiscard]] xcb_window_t id() const { return static_cast<xcb_window_t>(window.winId()); }

@@ -2,44 +2,30 @@
 
 #include <xcb/shape.h>
 
-#include <ostream>
-
 using namespace Qt::StringLiterals;
 
 namespace ravelo::live {
 
 namespace {
 
-struct Placement {
-    QString monitor;
-    QSizeF size;
-
-    friend std::ostream& operator<<(std::ostream& out, const Placement& each) {
-        return out << qPrintable(each.monitor) << " " << each.size.width() << "x"
-                   << each.size.height();
-    }
-};
-
-class PanelPlacementTest : public PanelFixture, public testing::WithParamInterface<Placement> {};
-
 /// Over a focused full-screen window and a bar, which keep their focus and their place.
-TEST_P(PanelPlacementTest, IsAtTheTopCentreAboveAllAndTakesNoFocus) {
-    const QRect monitor = screens.monitor(GetParam().monitor)->native;
-    const OtherWindow bar(OtherWindow::Kind::dock, QRect(monitor.topLeft(), QSize(800, 30)));
-    show(GetParam().monitor, {200, 12});
-    const OtherWindow movie(OtherWindow::Kind::fullScreen, monitor);
-    show(GetParam().monitor, GetParam().size);
-    EXPECT_TRUE(server.isAbove(id(), movie.id()));
-    EXPECT_TRUE(server.isAbove(id(), bar.id()));
-    EXPECT_EQ(server.focus(), movie.id());
+TEST_F(PanelFixture, IsAtTheTopCentreAboveAllAndTakesNoFocus) {
+    for (const auto& [name, size] : {std::pair(u"DUMMY0"_s, QSizeF(200, 12)),
+                                     {u"DUMMY0"_s, {520, 34}},
+                                     {u"DUMMY0"_s, {927, 500}},
+                                     {u"DUMMY1"_s, {200, 12}},
+                                     {u"DUMMY1"_s, {641, 560}}}) {
+        SCOPED_TRACE(testing::Message() << qPrintable(name) << ", " << size.width() << " wide");
+        const QRect monitor = screens.monitor(name)->native;
+        const OtherWindow bar(OtherWindow::Kind::dock, QRect(monitor.topLeft(), QSize(800, 30)));
+        show(name, {200, 12});
+        const OtherWindow movie(OtherWindow::Kind::fullScreen, monitor);
+        show(name, size);
+        EXPECT_TRUE(server.isAbove(id(), movie.id()));
+        EXPECT_TRUE(server.isAbove(id(), bar.id()));
+        EXPECT_EQ(server.focus(), movie.id());
+    }
 }
-
-INSTANTIATE_TEST_SUITE_P(All, PanelPlacementTest,
-                         testing::Values(Placement{u"DUMMY0"_s, {200, 12}},
-                                         Placement{u"DUMMY0"_s, {520, 34}},
-                                         Placement{u"DUMMY0"_s, {927, 500}},
-                                         Placement{u"DUMMY1"_s, {200, 12}},
-                                         Placement{u"DUMMY1"_s, {641, 560}}));
 
 class PanelTest : public PanelFixture {
 public:
@@ -59,20 +45,16 @@ public:
     [[nodiscard]] QRect wholeWindow() { return {{}, server.geometry(id()).size()}; }
 };
 
-TEST_F(PanelTest, ComesAboveWhatWasShownMeanwhile) {
+TEST_F(PanelTest, ComesAboveWhenAskedAndWhenTheWindowManagerHasNewWindows) {
     show(u"DUMMY0"_s, {200, 12});
     const OtherWindow popup(OtherWindow::Kind::popup, {0, 0, 1920, 500});
     ASSERT_TRUE(server.isAbove(popup.id(), id()));
     panel.orderFront();
-    EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); }));
-}
-
-TEST_F(PanelTest, ComesAboveWhenTheWindowManagerHasNewWindows) {
-    show(u"DUMMY0"_s, {200, 12});
-    const OtherWindow popup(OtherWindow::Kind::popup, {0, 0, 1920, 500});
-    ASSERT_TRUE(server.isAbove(popup.id(), id()));
+    EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); })) << "when asked to";
+    const OtherWindow popup2(OtherWindow::Kind::popup, {0, 0, 1920, 500});
+    ASSERT_TRUE(server.isAbove(popup2.id(), id()));
     const OtherWindow bar(OtherWindow::Kind::dock, {0, 0, 1920, 30});
-    EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup.id()); }));
+    EXPECT_TRUE(eventually([&] { return server.isAbove(id(), popup2.id()); })) << "with a bar";
     const OtherWindow frame(OtherWindow::Kind::popup, {0, 0, 1920, 500});
     ASSERT_TRUE(server.isAbove(frame.id(), id()));
     server.setCardinals(server.root(), "_NET_ACTIVE_WINDOW", {frame.id()}, XCB_ATOM_WINDOW);
@@ -89,39 +71,34 @@ QPainterPath flaredOutline() {
     return outline;
 }
 
-struct ClickCase {
-    QPointF place; ///< In the window's logical pixels.
-    bool isPanels;
-
-    friend std::ostream& operator<<(std::ostream& out, const ClickCase& each) {
-        return out << each.place.x() << "," << each.place.y();
+TEST_F(PanelTest, GetsTheClicksWhereItIsSeen) {
+    const std::pair<QPointF, bool> cases[] = {
+        {{200, 100}, true},
+        {{200, 0}, true},
+        {{3, 1}, true},
+        {{398, 0}, true},
+        {{21, 199}, true},
+        // Below the title of the window there, whatever its font.
+        {{3, 60}, false},
+        {{382, 45}, false},
+        {{398, 199}, false}};
+    for (const auto& [place, isPanels] : cases) { // In the window's logical pixels.
+        SCOPED_TRACE(testing::Message() << place.x() << "," << place.y());
+        window.presses = 0;
+        show(u"DUMMY0"_s, {200, 12});
+        OtherWindow below(OtherWindow::Kind::normal, {0, 0, 1920, 1080});
+        show(u"DUMMY0"_s, {400, 200});
+        panel.setOutline(flaredOutline());
+        window.hide();
+        show(u"DUMMY0"_s, {400, 200});
+        const QPointF offset = place * window.devicePixelRatio();
+        click(server.geometry(id()).topLeft() + offset.toPoint());
+        ASSERT_TRUE(eventually([&] { return window.presses + below.presses() > 0; }))
+            << "the click got lost";
+        EXPECT_EQ(window.presses, isPanels ? 1 : 0);
+        EXPECT_EQ(below.presses(), isPanels ? 0 : 1);
     }
-};
-
-class PanelClickTest : public PanelTest, public testing::WithParamInterface<ClickCase> {};
-
-TEST_P(PanelClickTest, GoesToWhatIsSeenThere) {
-    show(u"DUMMY0"_s, {200, 12});
-    OtherWindow below(OtherWindow::Kind::normal, {0, 0, 1920, 1080});
-    show(u"DUMMY0"_s, {400, 200});
-    panel.setOutline(flaredOutline());
-    window.hide();
-    show(u"DUMMY0"_s, {400, 200});
-    const QPointF offset = GetParam().place * window.devicePixelRatio();
-    click(server.geometry(id()).topLeft() + offset.toPoint());
-    ASSERT_TRUE(eventually([&] { return window.presses + below.presses() > 0; }))
-        << "the click got lost";
-    EXPECT_EQ(window.presses, GetParam().isPanels ? 1 : 0);
-    EXPECT_EQ(below.presses(), GetParam().isPanels ? 0 : 1);
 }
-
-// The places that are not the panel's are below the title of the window there, whatever its font.
-INSTANTIATE_TEST_SUITE_P(All, PanelClickTest,
-                         testing::Values(ClickCase{{200, 100}, true}, ClickCase{{200, 0}, true},
-                                         ClickCase{{3, 1}, true}, ClickCase{{398, 0}, true},
-                                         ClickCase{{21, 199}, true}, ClickCase{{3, 60}, false},
-                                         ClickCase{{382, 45}, false},
-                                         ClickCase{{398, 199}, false}));
 
 TEST_F(PanelTest, IsCutToItsOutlineWhileThereIsNoCompositor) {
     show(u"DUMMY0"_s, {400, 200});
@@ -157,7 +134,7 @@ TEST_F(PanelTest, IsCutToItsOutlineWhileThereIsNoCompositor) {
         << "the window is not cut again";
 }
 
-TEST_F(PanelTest, TellsCompositorsWhatTheyNeed) {
+TEST_F(PanelTest, SetsTheCompositorsProperties) {
     show(u"DUMMY0"_s, {400, 200});
     panel.setOutline(flaredOutline());
     ASSERT_TRUE(eventually([&] { return shape(XCB_SHAPE_SK_INPUT) != QRegion(wholeWindow()); }));

@@ -67,7 +67,7 @@ StoreData fiveClips() {
     return data;
 }
 
-TEST(ClipListModel, reportsEachChangeAsWhatItIs) {
+TEST(ClipListModel, reportsInsertsRemovesAndMoves) {
     struct Case {
         const char* name;
         void (*change)(Store& store);
@@ -114,7 +114,7 @@ ClipItem pinned(ClipItem item) {
     return item;
 }
 
-TEST(ClipListModel, makesTheTextsOfARowOfTheClip) {
+TEST(ClipListModel, showsTitleIconAndSubtitle) {
     struct Case {
         ClipItem item;
         QString title;
@@ -188,7 +188,7 @@ TEST(ClipListModel, findsTheClipsThatContainTheSearch) {
     }
 }
 
-TEST(ClipListModel, findsTheSameAsAPlainSearchAtEveryLetterTypedAndTakenBack) {
+TEST(ClipListModel, findsTheSameAsAPlainSearchAtEveryKeystroke) {
     std::mt19937 random(7); // NOLINT(*-msc51-cpp): the same texts each time.
     const auto word = [&random](qsizetype max) {
         QString text(static_cast<qsizetype>(random() % (max + 1)), u'a');
@@ -219,7 +219,7 @@ TEST(ClipListModel, findsTheSameAsAPlainSearchAtEveryLetterTypedAndTakenBack) {
     }
 }
 
-TEST(ClipListModel, aClipCopiedDuringASearchIsListedOnlyIfItFits) {
+TEST(ClipListModel, listsAClipCopiedDuringASearchOnlyIfItMatches) {
     PanelWorld world(fiveClips());
     ClipListModel model(world.store, world.scheduler, english);
     model.setSearch(u"f"_s);

@@ -6,7 +6,7 @@ namespace ravelo {
 
 namespace {
 
-TEST_F(Panel, showsTheNewestOfWhatWasCopiedWhileItWasClosed) {
+TEST_F(Panel, showsTheNewestClipCopiedWhileClosed) {
     for (int i = 0; i < 20; ++i) {
         world.store.addClip(u"while it was closed %1"_s.arg(i));
     }
@@ -16,7 +16,7 @@ TEST_F(Panel, showsTheNewestOfWhatWasCopiedWhileItWasClosed) {
     EXPECT_EQ(newest->mapToScene({0, 0}), QPointF(34, 280));
 }
 
-TEST_F(Panel, staysAtTheNewestWhileMoreIsCopied) {
+TEST_F(Panel, staysScrolledToTheNewestClip) {
     open();
     for (int i = 0; i < 20; ++i) {
         world.store.addClip(u"while it was open %1"_s.arg(i));
@@ -27,7 +27,7 @@ TEST_F(Panel, staysAtTheNewestWhileMoreIsCopied) {
     }));
 }
 
-TEST_F(Panel, copiesWhatIsClicked) {
+TEST_F(Panel, aClickCopies) {
     open();
     clickOn(u"card1"_s);
     EXPECT_EQ(pasteboardText(), u"second"_s);
@@ -37,7 +37,7 @@ TEST_F(Panel, copiesWhatIsClicked) {
     EXPECT_EQ(pasteboardText(), world.store.snippets().first().body);
 }
 
-TEST_F(Panel, pinsAndDeletesByTheButtonsOfTheRowUnderThePointer) {
+TEST_F(Panel, theButtonsOfTheHoveredRowPin) {
     open();
     EXPECT_EQ(shown(u"pin"_s), nullptr);
     const QQuickItem* card = hover(u"card2"_s);
@@ -92,7 +92,7 @@ TEST_F(Panel, escapeClearsTheSearchAndThenCloses) {
     EXPECT_FALSE(world.controller.isOpen());
 }
 
-TEST_F(Panel, aSearchWithoutAMatchShowsTheEmptyStateAndTheWord) {
+TEST_F(Panel, aSearchWithoutAMatchShowsTheEmptyState) {
     openSearch();
     EXPECT_EQ(shown(u"emptyTitle"_s), nullptr);
     type(u"larkspurr"_s);
@@ -104,7 +104,7 @@ TEST_F(Panel, aSearchWithoutAMatchShowsTheEmptyStateAndTheWord) {
     EXPECT_EQ(shown(u"emptyDetail"_s), nullptr) << "there is no search";
 }
 
-TEST_F(Panel, keepsTheSearchWhileTheNoteIsLookedAt) {
+TEST_F(Panel, keepsTheSearchWhileTheNoteIsShown) {
     openSearch();
     type(u"second"_s);
     clickOn(u"tab1"_s);
@@ -135,7 +135,7 @@ protected:
     }
 };
 
-TEST_P(Keys, workOnTheListInAPanelThatAKeyHasOpened) {
+TEST_P(Keys, workOnTheListOfAPanelOpenedByKey) {
     openByKey();
     EXPECT_TRUE(world.window.focused);
     pressKeys(QString::fromLatin1(GetParam().keys));
@@ -193,7 +193,7 @@ public:
     }
 };
 
-TEST_F(PanelWithImages, showsAnImageOnceItIsDecodedAndASymbolWhereItCannotBe) {
+TEST_F(PanelWithImages, showsADecodedImageOrASymbol) {
     open();
     EXPECT_TRUE(eventually([this] { return pixelOfTile(u"card0"_s) == QColor(Qt::green).rgb(); }));
     EXPECT_FALSE(find(item(u"card0"_s), u"symbol"_s)->isVisible());

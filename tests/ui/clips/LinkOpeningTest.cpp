@@ -46,7 +46,7 @@ TEST(LinkOpening, opensHarmlessLinksAndAsksOrRefusesOtherwise) {
     }
 }
 
-TEST(LinkOpening, saysSoIfNothingOpensItOrNobodyKnows) {
+TEST(LinkOpening, reportsThatNothingOpensIt) {
     ManualScheduler scheduler;
     FakeFileOpener opener;
     Toast toast(scheduler);

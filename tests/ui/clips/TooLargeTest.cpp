@@ -21,7 +21,7 @@ protected:
     [[nodiscard]] Clips& tab() { return *view.features().clips; }
 };
 
-TEST_F(TooLargeRow, comesBelowThePinnedOnesAndTakesNoDigit) {
+TEST_F(TooLargeRow, isBelowThePinnedClipsWithoutADigit) {
     open();
     tab().showTooLarge(largeText);
     view.window().grabWindow();
@@ -40,9 +40,9 @@ TEST_F(TooLargeRow, comesBelowThePinnedOnesAndTakesNoDigit) {
     EXPECT_EQ(pasteboardText(), world.store.clips()[1].text);
 }
 
-TEST_F(TooLargeRow, isNeverCopiedAndGoesByItsButtonByDeleteAndWithThePanel) {
+TEST_F(TooLargeRow, isRemovedByItsButtonByDeleteAndOnClosing) {
     tab().showTooLarge(largeText);
-    EXPECT_EQ(toast(), QString()) << "nobody would see it";
+    EXPECT_EQ(toast(), QString()) << "it would not be seen";
     openSearch();
     press(Qt::Key_Down);
     press(Qt::Key_Return);
@@ -68,14 +68,14 @@ TEST_F(TooLargeRow, isNeverCopiedAndGoesByItsButtonByDeleteAndWithThePanel) {
     EXPECT_EQ(tab().list()->count(), 1);
 }
 
-TEST_F(Panel, copiesTheFirstClipByReturnAlsoBelowATooLargeOne) {
+TEST_F(Panel, returnCopiesTheFirstClipBelowATooLargeOne) {
     view.features().clips->showTooLarge(largeText);
     openByKey();
     press(Qt::Key_Return);
     EXPECT_EQ(pasteboardText(), u"first"_s);
 }
 
-TEST(TooLargeText, saysHowMuchItIs) {
+TEST(TooLargeText, statesSizeAndLimit) {
     struct Case {
         TooLargeCopy copy;
         QString detail;

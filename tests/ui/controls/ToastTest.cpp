@@ -9,7 +9,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-TEST(Toast, endsWithTheFirstEndThatComes) {
+TEST(Toast, endsAtTheEarliestEnd) {
     struct Case {
         const char* name;
         QList<double> flashes;
@@ -71,7 +71,7 @@ TEST(Toast, anOfferStaysTenSecondsBelowMessages) {
     EXPECT_EQ(acted, 1);
 }
 
-TEST(Toast, aResetLeavesNothingToCome) {
+TEST(Toast, aResetCancelsEverything) {
     ManualScheduler scheduler;
     Toast toast(scheduler);
     toast.flashCopied();

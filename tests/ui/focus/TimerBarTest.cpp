@@ -1,5 +1,5 @@
 #include "panel_fixture/PanelFixture.h"
-#include "support/Told.h"
+#include "support/SignalCount.h"
 #include "timer/TimerString.h"
 #include "ui/theme/FittedTexts.h"
 
@@ -211,12 +211,12 @@ TEST_F(Bar, isHighlightedForFiveSecondsAfterTheTimersEnd) {
 TEST_F(Bar, doesNotCountWhileHidden) {
     world.store.startTimer(u"work"_s, 25);
     show({});
-    const Told told(view.features().focus.face(), &TimerFace::changed);
+    const SignalCount emitted(view.features().focus.face(), &TimerFace::changed);
     world.scheduler.advance(Seconds(3));
-    EXPECT_EQ(told.count(), 3);
+    EXPECT_EQ(emitted.count(), 3);
     view.window().hide();
     world.scheduler.advance(Seconds(3));
-    EXPECT_EQ(told.count(), 3) << "the window is hidden";
+    EXPECT_EQ(emitted.count(), 3) << "the window is hidden";
 }
 
 } // namespace

@@ -3,10 +3,8 @@
 #include "fakes/FakeFiles.h"
 #include "fakes/InProcessDecoder.h"
 #include "support/GreenHeic.h"
+#include "support/TestFiles.h"
 
-#include <gtest/gtest.h>
-
-#include <QFile>
 #include <QImageWriter>
 #include <QTemporaryDir>
 
@@ -43,16 +41,13 @@ TEST(FileThumbs, showImagesAndIconsForOtherFiles) {
 
 TEST(FileThumbs, showPicturesOfPhones) {
     const QTemporaryDir folder;
-    QFile file(folder.filePath(u"IMG_4821.HEIC"_s));
-    ASSERT_TRUE(file.open(QIODevice::WriteOnly));
-    file.write(greenHeic());
-    file.close();
-    const QUrl url = QUrl::fromLocalFile(file.fileName());
+    const QString file = makeFile(folder.filePath(u"IMG_4821.HEIC"_s), greenHeic());
+    const QUrl url = QUrl::fromLocalFile(file);
     const QImage thumb = thumbOf(url);
     EXPECT_EQ(thumb.size(), QSize(72, 56));
     EXPECT_GT(thumb.pixelColor(36, 28).green(), 200);
     EXPECT_LT(thumb.pixelColor(36, 28).red(), 50);
-    file.resize(300);
+    ASSERT_TRUE(QFile::resize(file, 300));
     EXPECT_EQ(thumbOf(url).size(), QSize(64, 64)) << "an icon, since it is truncated";
 
     const QString upright = folder.filePath(u"upright.jpg"_s);
@@ -72,7 +67,7 @@ TEST(FileThumbs, areMadeOfFilesWhoseNamesAreNotUtf8) {
     EXPECT_EQ(std::remove(odd.constData()), 0); // Qt would not find it.
 }
 
-TEST(FileThumbs, surviveTheWayThroughAnAddress) {
+TEST(FileThumbs, surviveConversionToAnAddress) {
     for (const QByteArray path : {"/a b/c#d?e%20ü/ñ.png", "/no utf-8 \xe4.png"}) {
         const QString address = fileThumbAddress(fileUrl(path));
         EXPECT_EQ(filePath(fileOfThumb(QUrl(address).path().mid(1))), path);

@@ -10,7 +10,7 @@
 namespace ravelo {
 namespace {
 
-TEST(SlowWorkTest, DoesOneJobAfterTheOtherThoughManyAreGivenAtOnce) {
+TEST(SlowWorkTest, RunsJobsOneAfterTheOther) {
     constexpr int count = 8;
     std::latch allGiven(1);
     std::latch allDone(count);

@@ -9,7 +9,7 @@ protected:
     void undoByKey() { press(Qt::Key_Z, Qt::ControlModifier); }
 };
 
-TEST_F(PanelUndo, bringsAllBackThatWasDeletedWhileTheToastWasThere) {
+TEST_F(PanelUndo, restoresEverythingDeletedWhileTheToastIsShown) {
     openSearch();
     press(Qt::Key_Delete);
     EXPECT_EQ(toast(), u"Deleted"_s);
@@ -25,7 +25,7 @@ TEST_F(PanelUndo, bringsAllBackThatWasDeletedWhileTheToastWasThere) {
     EXPECT_EQ(clips(), u"first second third"_s);
 }
 
-TEST_F(PanelUndo, isOverAfterTenSecondsOrWithThePanel) {
+TEST_F(PanelUndo, expiresAfterTenSecondsOrOnClosing) {
     openSearch();
     press(Qt::Key_Delete);
     world.scheduler.advance(Seconds(10.1));
@@ -38,7 +38,7 @@ TEST_F(PanelUndo, isOverAfterTenSecondsOrWithThePanel) {
     EXPECT_EQ(clips(), u"third"_s);
 }
 
-TEST_F(PanelUndo, undoesWhatCameLast) {
+TEST_F(PanelUndo, undoesTheLatestChangeFirst) {
     openSearch();
     press(Qt::Key_Delete);
     type(u"third"_s);
@@ -55,7 +55,7 @@ TEST_F(PanelUndo, undoesWhatCameLast) {
     EXPECT_EQ(clips(), u"first second third"_s) << "what was typed before is not the last";
 }
 
-TEST_F(PanelUndo, isReachedByTab) {
+TEST_F(PanelUndo, canBeReachedByTab) {
     openSearch();
     clickOn(u"trash"_s);
     press(Qt::Key_Return);
@@ -73,7 +73,7 @@ TEST_F(PanelUndo, isReachedByTab) {
     EXPECT_FALSE(world.controller.isOpen()) << "the keyboard is lost";
 }
 
-TEST_F(PanelUndo, isReachedByThePointerAndLetsNothingThrough) {
+TEST_F(PanelUndo, canBeClickedAndBlocksClicksBelow) {
     openSearch();
     const QString title = world.store.snippets().first().title;
     press(Qt::Key_Tab);

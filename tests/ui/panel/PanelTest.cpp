@@ -57,7 +57,7 @@ TEST_F(Panel, updatesDatesWhileItIsOpen) {
     EXPECT_EQ(age(), u"1 hr. ago"_s);
     close();
     world.scheduler.advance(Seconds(10));
-    EXPECT_EQ(world.scheduler.pending(), atRest) << "nobody sees them";
+    EXPECT_EQ(world.scheduler.pending(), atRest) << "they are not visible";
 }
 
 TEST_F(Panel, showsPlanUsage) {
@@ -76,7 +76,7 @@ TEST_F(Panel, showsPlanUsage) {
     EXPECT_EQ(percents(), u"43% 130%"_s);
 }
 
-TEST_F(Panel, startsAnewAtEachOpening) {
+TEST_F(Panel, isResetAtEachOpening) {
     openSearch();
     type(u"second"_s);
     clickOn(u"trash"_s);
@@ -112,7 +112,7 @@ TEST_F(Panel, opensItsLastTabAgain) {
     }
 }
 
-TEST_F(Panel, keepsTheNoteWithEveryKey) {
+TEST_F(Panel, savesTheNoteAtEveryKey) {
     open();
     clickOn(u"tab1"_s);
     EXPECT_EQ(world.settings.lastTab(), u"Notes"_s);
@@ -127,7 +127,7 @@ TEST_F(Panel, keepsTheNoteWithEveryKey) {
     EXPECT_EQ(decodeStore(file.readAll()).value_or(StoreData()).note, u"remember!"_s);
 }
 
-TEST_F(Panel, startsTheNightShiftAtOnceAndShutsDownOnlyWhenSure) {
+TEST_F(Panel, startsTheNightShiftAtOnceAndAsksBeforeShuttingDown) {
     open();
     EXPECT_EQ(item(u"nightShift"_s)->property("tip").toString(),
               u"Turno da noite — apaga a tela em ~5s e trabalha no pendente"_s);

@@ -49,7 +49,7 @@ public:
 constexpr double tabsBelowAll = 140;
 constexpr double tabsBelowTopBar = 56;
 
-TEST_F(SmallScreen, showsTheBeginningOfAll) {
+TEST_F(SmallScreen, showsTheTopAtFirst) {
     for (const auto& [name, place] : {std::pair("reminderStrip", 56),
                                       {"usage", 88},
                                       {"tabs", 140},
@@ -60,7 +60,7 @@ TEST_F(SmallScreen, showsTheBeginningOfAll) {
     }
 }
 
-TEST_F(SmallScreen, theKeysScrollTheHeadAwayAndBringItBack) {
+TEST_F(SmallScreen, theKeysScrollTheHead) {
     pressKeys(u"Down Down Down Down Down Down Down Down"_s);
     EXPECT_TRUE(tabsAt(tabsBelowTopBar)) << "it is at " << top(u"tabs"_s);
     EXPECT_EQ(top(u"search"_s), 96);
@@ -70,7 +70,7 @@ TEST_F(SmallScreen, theKeysScrollTheHeadAwayAndBringItBack) {
     EXPECT_TRUE(tabsAt(tabsBelowAll)) << "the first row brings back what is above it";
 }
 
-TEST_F(SmallScreen, theWheelScrollsWhereverItIsTurned) {
+TEST_F(SmallScreen, theWheelScrollsEverywhere) {
     for (const char* over : {"card1", "tabs", "usage", "topBar"}) {
         turn(QString::fromUtf8(over), 9);
         EXPECT_TRUE(tabsAt(tabsBelowTopBar)) << over;
@@ -79,7 +79,7 @@ TEST_F(SmallScreen, theWheelScrollsWhereverItIsTurned) {
     }
 }
 
-TEST_F(SmallScreen, theNoteAndTheShelfScrollTheHeadAwayToo) {
+TEST_F(SmallScreen, noteAndShelfScrollTheHead) {
     press(Qt::Key_Tab, Qt::ControlModifier);
     EXPECT_TRUE(tabsAt(tabsBelowTopBar)) << "the caret is at the note's end";
     turn(u"tabs"_s, -30);
@@ -94,7 +94,7 @@ TEST_F(SmallScreen, theNoteAndTheShelfScrollTheHeadAwayToo) {
     EXPECT_LT(top(u"tabs"_s), tabsBelowAll);
 }
 
-TEST_F(SmallScreen, whatTheKeyboardReachesComesBack) {
+TEST_F(SmallScreen, focusedItemsScrollIntoView) {
     pressKeys(u"Down Down Down Down Down Down Down Down"_s);
     ASSERT_TRUE(tabsAt(tabsBelowTopBar));
     item(u"reminderDraft"_s)->forceActiveFocus();
@@ -109,7 +109,7 @@ TEST_F(SmallScreen, theSheetOfASnippetFits) {
     EXPECT_LE(top(u"save"_s) + 32, sheet->y() + sheet->height());
 }
 
-TEST_F(Panel, hidesThePlanWhereClaudeCodeIsNotInstalled) {
+TEST_F(Panel, hidesThePlanIfClaudeCodeIsNotInstalled) {
     open();
     view.features().usage.setInstalled(false);
     EXPECT_NE(shown(u"usage"_s), nullptr) << "only if the user wants that";

@@ -1,4 +1,5 @@
 #include "panel_fixture/PanelFixture.h"
+#include "support/TestFiles.h"
 #include "ui/shelf/DragSourceView.h"
 #include "ui/shelf/ShelfLayout.h"
 
@@ -19,9 +20,7 @@ protected:
 
     /// A file that exists, until it is removed.
     QUrl create(const QString& name) {
-        QFile file(world.folder.filePath(name));
-        EXPECT_TRUE(file.open(QIODevice::WriteOnly));
-        return QUrl::fromLocalFile(file.fileName());
+        return QUrl::fromLocalFile(makeFile(world.folder.filePath(name)));
     }
 
     void parkFile(const QUrl& url) { world.store.addToShelf({url}); }
@@ -69,7 +68,7 @@ protected:
     }
 };
 
-TEST_F(ShelfTab, saysInItsHeaderWhatThereIs) {
+TEST_F(ShelfTab, countsFilesInItsHeader) {
     struct Case {
         int files;
         QList<int> selected;
@@ -101,7 +100,7 @@ TEST_F(ShelfTab, saysInItsHeaderWhatThereIs) {
     }
 }
 
-TEST_F(ShelfTab, aTrayTogglesItsStackAndRemoveTakesTheSelected) {
+TEST_F(ShelfTab, aTraySelectsItsStackAndRemoveDeletesTheSelection) {
     park(1, 2);
     park(3, 3);
     open();
@@ -154,7 +153,7 @@ INSTANTIATE_TEST_SUITE_P(All, ShelfRequest,
                                          RequestCase{"whileOpen", openAndRequest}),
                          [](const auto& row) { return row.param.name; });
 
-TEST_F(ShelfTab, lightsUpAndForgetsTheSelectionWhileFilesAreDraggedOverIt) {
+TEST_F(ShelfTab, clearsTheSelectionWhileFilesAreDraggedOverIt) {
     open();
     clickOn(u"tab0"_s);
     park(1, 1);
@@ -183,7 +182,7 @@ struct ShelfKeysCase {
 
 class ShelfKeys : public ShelfTab, public testing::WithParamInterface<ShelfKeysCase> {};
 
-TEST_P(ShelfKeys, workFromTheTileThatAnArrowCameTo) {
+TEST_P(ShelfKeys, workOnTheFocusedTile) {
     park(0, 9); // Eight in a line.
     park(10, 11);
     openByKey();
@@ -209,7 +208,7 @@ INSTANTIATE_TEST_SUITE_P(
         ShelfKeysCase{"return", "Right Right Return", {}, u"1"_s}),
     [](const auto& row) { return row.param.name; });
 
-TEST_F(ShelfTab, opensAFileOrItsFolderByItsMenu) {
+TEST_F(ShelfTab, theMenuOpensAFileOrItsFolder) {
     park(1, 1);
     for (const auto& [entry, opened] : {std::pair(u"item0"_s, &world.opener.opened),
                                         std::pair(u"item1"_s, &world.opener.shown)}) {
@@ -224,7 +223,7 @@ TEST_F(ShelfTab, opensAFileOrItsFolderByItsMenu) {
     }
 }
 
-TEST_F(ShelfTab, leavesFilesThatAreGoneOutOfADrag) {
+TEST_F(ShelfTab, dragsNoMissingFiles) {
     const QUrl kept = create(u"there"_s);
     world.store.addToShelf({kept, file(u"gone"_s)});
     world.store.clearSelection();
@@ -296,10 +295,10 @@ TEST_F(ShelfTab, enablesItsButtonForDevicesThatAppearLater) {
     close();
     const int looks = world.devices.looks;
     world.scheduler.advance(Seconds(60));
-    EXPECT_EQ(world.devices.looks, looks) << "nobody sees it";
+    EXPECT_EQ(world.devices.looks, looks) << "it is not visible";
 }
 
-TEST_F(ShelfTab, saysWhyAFolderIsNotSent) {
+TEST_F(ShelfTab, reportsThatAFolderCannotBeSent) {
     parkFile(QUrl::fromLocalFile(world.folder.path()));
     open();
     answer({pixel});
@@ -308,7 +307,7 @@ TEST_F(ShelfTab, saysWhyAFolderIsNotSent) {
     EXPECT_TRUE(world.devices.sent.isEmpty());
 }
 
-TEST_F(ShelfTab, closesForTheProgramThatSends) {
+TEST_F(ShelfTab, closesForTheSendingProgram) {
     parkFile(create(u"there"_s));
     world.programs.installed = {u"blueman-sendto"_s};
     open();
@@ -318,14 +317,14 @@ TEST_F(ShelfTab, closesForTheProgramThatSends) {
     EXPECT_FALSE(world.controller.isOpen()) << "the panel lies over its window";
 }
 
-TEST_F(ShelfTab, listsWhatIsReceivedAndTakesItOntoTheShelf) {
+TEST_F(ShelfTab, listsAndParksReceivedFiles) {
     open();
     const auto receive = [this](const QByteArray& name) {
-        world.downloads.tell({{}, {{FolderChange::Kind::written, name}}});
+        world.downloads.report({{}, {{FolderChange::Kind::written, name}}});
     };
     receive("first.pdf");
     world.scheduler.advance(Seconds(300));
-    EXPECT_EQ(shown(u"banner"_s), nullptr) << "that was a while ago";
+    EXPECT_EQ(shown(u"banner"_s), nullptr) << "received long ago";
     receive("second.pdf");
     item(u"banner"_s);
     const auto ago = [this](const QString& row) {
@@ -351,7 +350,7 @@ TEST_F(ShelfTab, createsVisibleTilesAndRowsOnly) {
     for (int i = 0; i < 10000; ++i) {
         listing.entries.append({QByteArray::number(i) + ".pdf", false});
     }
-    world.downloads.tell({listing, {}});
+    world.downloads.report({listing, {}});
     openByKey();
     EXPECT_EQ(view.features().shelf->received()->rowCount(), 10000);
     EXPECT_LT(view.features().shelf->parked()->tiles()->rowCount(), 48);

@@ -1,8 +1,6 @@
 #include "ui/snippets/SnippetEditor.h"
 #include "panel_fixture/PanelFixture.h"
-
-#include <QBuffer>
-#include <QImage>
+#include "support/TestPictures.h"
 
 namespace ravelo {
 
@@ -11,15 +9,6 @@ namespace {
 class SnippetEditing : public testing::Test {
 protected:
     [[nodiscard]] const QList<Snippet>& snippets() const { return world.store.snippets(); }
-
-    void offerImage() {
-        QImage red(4, 4, QImage::Format_RGB32);
-        red.fill(Qt::red);
-        QByteArray png;
-        QBuffer buffer(&png);
-        red.save(&buffer, "PNG");
-        world.pasteboard.offer({{u"image/png"_s, png}});
-    }
 
     void attach() {
         editor.attachImage();
@@ -75,11 +64,11 @@ TEST_F(SnippetEditing, appendsANewOneOnceItHasATitle) {
               Snippet({snippets().last().id, u"title"_s, u"body"_s, u"doc.text"_s, {}}));
 }
 
-TEST_F(SnippetEditing, attachesTheImageOnThePasteboardAndLeavesNoOtherBehind) {
+TEST_F(SnippetEditing, attachesTheCopiedImageAndDeletesOthers) {
     editor.edit(first.id);
     attach();
     EXPECT_EQ(editor.imageFileName(), QString()) << "there was none";
-    offerImage();
+    world.pasteboard.offer({{u"image/png"_s, picture("png")}});
     attach();
     EXPECT_EQ(QStringList{editor.imageFileName()}, images());
     editor.cancel();

@@ -72,7 +72,7 @@ std::string readable(const QString& text) {
     return all;
 }
 
-TEST_F(OddText, staysAsItIsInANoteThatIsOnlyLookedAtOrEdited) {
+TEST_F(OddText, isUnchangedInANoteThatIsShownOrEdited) {
     openNote();
     EXPECT_EQ(readable(world.store.note()), readable(oddText()));
     type(u"x"_s);
@@ -82,7 +82,7 @@ TEST_F(OddText, staysAsItIsInANoteThatIsOnlyLookedAtOrEdited) {
     EXPECT_EQ(readable(world.store.note()), readable(u'x' + oddText() + u'x'));
 }
 
-TEST_F(OddText, comesBackByUndo) {
+TEST_F(OddText, isRestoredByUndo) {
     openNote();
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_Delete);
@@ -93,7 +93,7 @@ TEST_F(OddText, comesBackByUndo) {
     EXPECT_EQ(readable(world.store.note()), readable(oddText())) << "before it there was no other";
 }
 
-TEST_F(OddText, isCopiedAndCutAsItIs) {
+TEST_F(OddText, isCopiedAndCutUnchanged) {
     openNote();
     press(Qt::Key_A, Qt::ControlModifier);
     press(Qt::Key_C, Qt::ControlModifier);
@@ -128,7 +128,7 @@ TEST_F(OddText, isTypedIntoANote) {
               readable(u"a\u00a0b\u2028c\u2029d\n\ne\u2029f\u00a0g"_s));
 }
 
-TEST_F(OddText, staysAsItIsInASnippet) {
+TEST_F(OddText, isUnchangedInASnippet) {
     const QString title = u"T "_s + oddText();
     openSnippet(title, oddText());
     type(u"x"_s);

@@ -22,7 +22,7 @@ protected:
     void paste() { pressKeys(QString::fromLatin1(GetParam())); }
 };
 
-TEST_P(PastingInto, replacesTheSelectionByWhatTheOwnerAnswers) {
+TEST_P(PastingInto, replacesTheSelection) {
     for (const auto& [tab, field, pasted] :
          {std::tuple(u"Clipboard"_s, u"searchInput"_s, u"two lines"_s),
           {u"Notes"_s, u"noteInput"_s, u"two\nlines"_s}}) {
@@ -36,7 +36,7 @@ TEST_P(PastingInto, replacesTheSelectionByWhatTheOwnerAnswers) {
     }
 }
 
-TEST_P(PastingInto, goesOnWhileTheOwnerIsSilent) {
+TEST_P(PastingInto, doesNotBlockTypingWhileTheOwnerIsSilent) {
     for (const auto& [tab, field] :
          {std::pair(u"Clipboard"_s, u"searchInput"_s), {u"Notes"_s, u"noteInput"_s}}) {
         openField(tab, field);
@@ -61,7 +61,7 @@ TEST_F(Panel, theMiddleButtonPastesWhereItPoints) {
     EXPECT_TRUE(world.window.focused);
 }
 
-TEST_F(Panel, anAnswerThatComesAfterTheFieldIsGoneIsDropped) {
+TEST_F(Panel, anAnswerForAClosedFieldIsDropped) {
     world.pasteboard.answerTime = Seconds(5);
     world.pasteboard.offerText(u"late"_s);
     openSearch();
@@ -88,7 +88,7 @@ protected:
     TitledWindow window{{view.window()}, u"Test"_s, QSize(200, 100)};
 };
 
-TEST_F(FieldWindow, isAnyOtherThanThePanels) {
+TEST_F(FieldWindow, isIndependentOfThePanel) {
     click(window, {20, 50});
     EXPECT_TRUE(field->hasActiveFocus());
     EXPECT_FALSE(world.window.focused) << "the panel took the keyboard";

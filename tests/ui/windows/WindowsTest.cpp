@@ -63,7 +63,7 @@ public:
     TitledWindow* window = nullptr;
 };
 
-TEST_F(Settings, EachControlKeepsWhatTheKeyboardSetsAtOnce) {
+TEST_F(Settings, TheKeyboardSetsEachControlAtOnce) {
     expectTabStops(*window, {"tab0", "launchAtLogin", "fullBlack", "darkness", "panelWidth",
                              "clearHistory", "quit", "close", "tab0"});
 
@@ -106,7 +106,7 @@ TEST_F(Settings, EachControlKeepsWhatTheKeyboardSetsAtOnce) {
     EXPECT_FALSE(world.loginItem.enabled);
 }
 
-TEST_F(Settings, TheOtherPagesKeepWhatIsSetAtOnce) {
+TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
     struct Case {
         int page;
         QString control;
@@ -192,7 +192,7 @@ TEST_F(Settings, AnAssistiveProgramSetsTheSame) {
     EXPECT_TRUE(black->state().checked);
 }
 
-TEST_F(Settings, ShowsWhatIsChangedElsewhereAndSurvivesAnyNumber) {
+TEST_F(Settings, FollowsChangesAndSurvivesAnyNumber) {
     const auto place = [this](const QString& slider) {
         return in(window, slider)->findChild<QQuickItem*>(u"knob"_s)->x();
     };
@@ -210,7 +210,7 @@ TEST_F(Settings, ShowsWhatIsChangedElsewhereAndSurvivesAnyNumber) {
     EXPECT_EQ(kept(u"bgOpacity"_s), 0.85);
 }
 
-TEST_F(Settings, ClearsAtOnceWhatIsNotPinned) {
+TEST_F(Settings, ClearsUnpinnedClipsAtOnce) {
     EXPECT_EQ(label(u"clips"_s), u"3 items stored"_s);
     world.store.togglePin(world.store.clips()[1].id);
     clickOn(window, u"clearHistory"_s);
@@ -219,7 +219,7 @@ TEST_F(Settings, ClearsAtOnceWhatIsNotPinned) {
     EXPECT_EQ(label(u"clips"_s), u"1 item stored"_s);
 }
 
-TEST_F(Settings, IsHiddenWhenItIsClosedAndUsedAgain) {
+TEST_F(Settings, IsHiddenWhenClosedAndReused) {
     EXPECT_EQ(window->title(), u"Ravelo Settings"_s);
     EXPECT_EQ(window->size(), QSize(460, 600));
     for (const bool byKey : {true, false}) {
@@ -261,7 +261,7 @@ protected:
     QPointer<TitledWindow> window;
 };
 
-TEST_F(Setup, IsDoneByTheKeyboardAlone) {
+TEST_F(Setup, CanBeDoneByKeyboard) {
     int layouts = 0;
     world.settings.onLayoutChange = [&] {
         ++layouts;
@@ -284,7 +284,7 @@ TEST_F(Setup, IsDoneByTheKeyboardAlone) {
     EXPECT_TRUE(eventually([this] { return window.isNull(); }));
 }
 
-TEST_F(Setup, IsDoneByTheMouseAndTellsOfTheNotch) {
+TEST_F(Setup, CanBeDoneByMouseAndReportsTheNotch) {
     press(*window, Qt::Key_Escape);
     EXPECT_EQ(setup.window(), nullptr);
     EXPECT_TRUE(kept(u"onboarded"_s).isUndefined()) << "closed is not done";

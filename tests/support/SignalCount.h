@@ -5,16 +5,16 @@
 namespace ravelo {
 
 /// Counts the emissions of a signal.
-class Told {
+class SignalCount {
 public:
     template <typename Object, typename Signal>
-    Told(Object* object, Signal signal)
+    SignalCount(Object* object, Signal signal)
         : connection_(QObject::connect(object, signal, [this] { ++count_; })) {}
 
-    ~Told() { QObject::disconnect(connection_); }
+    ~SignalCount() { QObject::disconnect(connection_); }
 
-    Told(const Told&) = delete;
-    Told& operator=(const Told&) = delete;
+    SignalCount(const SignalCount&) = delete;
+    SignalCount& operator=(const SignalCount&) = delete;
 
     [[nodiscard]] int count() const { return count_; }
 
