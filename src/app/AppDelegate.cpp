@@ -217,7 +217,7 @@ PlanUsage& AppDelegate::planUsage() {
         return std::make_unique<PlanUsage>(
             UsageQuery::Services{*platform_.scheduler, *platform_.jobs, *platform_.secrets,
                                  *platform_.https, *platform_.children},
-            home(), PlanUsage::provider(), claudeFolders());
+            home(), std::move(platform_.usageChanges), PlanUsage::provider(), claudeFolders());
     });
 }
 

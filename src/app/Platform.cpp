@@ -104,6 +104,7 @@ void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
     platform.programs = std::make_unique<SystemPrograms>(*platform.jobs);
     platform.folders = std::make_unique<InotifyFolderWatch>();
     platform.transcriptChanges = std::make_unique<InotifyChanges>();
+    platform.usageChanges = std::make_unique<InotifyChanges>();
 }
 
 void makeDesktop(Platform& platform, const QProcessEnvironment& environment) {

@@ -102,6 +102,7 @@ struct Platform {
     std::unique_ptr<NearbyDevices> devices;
     std::unique_ptr<FolderWatch> folders;
     std::unique_ptr<FolderChanges> transcriptChanges;
+    std::unique_ptr<FolderChanges> usageChanges;
     std::unique_ptr<FileOpener> opener;
     std::unique_ptr<PackageUpdates> packages;
     std::unique_ptr<IconPreference> iconPreference;

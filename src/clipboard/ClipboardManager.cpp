@@ -37,8 +37,12 @@ ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Schedul
       lastChangeCount_(pasteboard.changeCount()) {}
 
 void ClipboardManager::start() {
-    timer_ = scheduler_.every(pollInterval, [this] { poll(); });
     notice_ = pasteboard_.onChange([this] { poll(); });
+    if (pasteboard_.reportsChanges()) {
+        poll(); // For what came before we listened.
+    } else {
+        timer_ = scheduler_.every(pollInterval, [this] { poll(); });
+    }
     saveRequests_ = pasteboard_.onSaveRequest([this] {
         saveAsked_ = true;
         poll();

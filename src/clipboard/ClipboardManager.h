@@ -33,7 +33,8 @@ public:
     ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
                      DetachedJobs& jobs);
 
-    /// Polls every 0.5 s from now on, and at once if the platform reports a change.
+    /// From now on polls at each change that the platform reports, and every 0.5 s if it does not
+    /// report all.
     void start();
 
     /// Applies to later captures.

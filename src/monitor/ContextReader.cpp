@@ -36,17 +36,20 @@ std::optional<std::optional<TurnUsage>> readUsage(const QByteArray& path) {
 
 ContextReader::ContextReader(const QByteArray& home, std::unique_ptr<FolderChanges> changes,
                              const QByteArrayList& otherFolders)
-    : changes_(std::move(changes)) {
+    : changes_(std::move(changes)), files_(*changes_, home) {
     const QByteArrayList folders = QByteArrayList{home + "/.claude"} + otherFolders;
     signs_ = folders + QByteArrayList{home + "/.local/bin/claude"};
     for (const QByteArray& path : folders) {
         folders_.push_back(
             {path + "/settings.json", {}, {}, TranscriptFinder(path + "/projects", *changes_), {}});
+        files_.add(path + "/settings.json", FolderChanges::What::contents);
     }
+    files_.add(signs_.back(), FolderChanges::What::names);
 }
 
 ContextReading ContextReader::read() {
     const FolderChanges::Changes changes = changes_->take();
+    bool watched = files_.watch();
     readSettings(folders_.front());
     ContextReading reading{folders_.front().limit, std::nullopt,
                            std::ranges::any_of(signs_, [](const QByteArray& path) {
@@ -58,11 +61,13 @@ ContextReading ContextReader::read() {
             continue;
         }
         reading.turn = lastTurn(folder, changes);
+        watched &= folder.transcripts.isWatched();
         if (reading.turn && !reading.limit) {
             readSettings(folder);
             reading.limit = folder.limit;
         }
     }
+    reading.watched = watched;
     return reading;
 }
 

@@ -3,6 +3,7 @@
 #include "base/Date.h"
 #include "monitor/TranscriptFinder.h"
 #include "monitor/TranscriptParser.h"
+#include "monitor/WatchedFiles.h"
 
 #include <QByteArray>
 #include <QByteArrayList>
@@ -25,6 +26,7 @@ struct ContextReading {
     std::optional<qint64> limit; ///< If set by the user.
     std::optional<Turn> turn;    ///< If there is one that counts.
     bool installed = false;      ///< One of Claude Code's folders, or its program, is there.
+    bool watched = false;        ///< Whatever changes this is reported by `changes`.
 };
 
 /// Reads the files again only if they have changed. Any one thread; blocks on the disk.
@@ -36,6 +38,8 @@ public:
                   const QByteArrayList& otherFolders = {});
 
     [[nodiscard]] ContextReading read();
+
+    [[nodiscard]] FolderChanges& changes() { return *changes_; }
 
 private:
     struct Stamp {
@@ -66,6 +70,7 @@ private:
                                                         const FolderChanges::Changes& changes);
 
     std::unique_ptr<FolderChanges> changes_;
+    WatchedFiles files_; ///< All but the transcripts.
     std::vector<Folder> folders_;
     QByteArrayList signs_; ///< Paths of which one is there if Claude Code is.
 };

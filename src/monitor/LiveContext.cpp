@@ -13,7 +13,7 @@ namespace ravelo {
 
 namespace {
 
-constexpr Seconds interval(5);
+constexpr Seconds margin(0.001); ///< Rounding must not put the update before the change.
 constexpr qint64 million = 1'000'000;
 
 } // namespace
@@ -22,9 +22,9 @@ LiveContext::LiveContext(Services services, const QByteArray& home,
                          std::unique_ptr<FolderChanges> changes, const QByteArrayList& otherFolders)
     : services_(services),
       peak_(PeakInfo::at(services.scheduler.now())),
-      reader_(std::make_shared<ContextReader>(home, std::move(changes), otherFolders)) {
+      reader_(std::make_shared<ContextReader>(home, std::move(changes), otherFolders)),
+      looks_(services.scheduler, reader_->changes(), [this] { refresh(); }) {
     refresh();
-    timer_ = services_.scheduler.every(interval, [this] { refresh(); });
 }
 
 LiveContext::~LiveContext() = default;
@@ -41,15 +41,18 @@ void LiveContext::refresh() {
         return;
     }
     auto reading = std::make_shared<std::optional<ContextReading>>();
-    reading_ = services_.jobs.run([reader = reader_, reading] { *reading = reader->read(); },
-                                  [this, reading] {
-                                      reading_.reset();
-                                      if (*reading) {
-                                          apply(**reading);
-                                      } else { // Not read: everything stays as it is.
-                                          notify();
-                                      }
-                                  });
+    reading_ =
+        services_.jobs.run([reader = reader_, reading] { *reading = reader->read(); },
+                           [this, reading] {
+                               reading_.reset();
+                               const bool watched = *reading && (*reading)->watched;
+                               looks_.looked(watched ? Looks::Watched::yes : Looks::Watched::no);
+                               if (*reading) {
+                                   apply(**reading);
+                               } else { // Not read: everything stays as it is.
+                                   notify();
+                               }
+                           });
 }
 
 void LiveContext::apply(const ContextReading& reading) {
@@ -68,6 +71,19 @@ void LiveContext::notify() {
     if (onChange) {
         onChange();
     }
+    awaitNextLabel();
+}
+
+void LiveContext::awaitNextLabel() {
+    const Seconds left = peak_.untilLabelChanges(services_.scheduler.now());
+    if (looks_.isPolling() || left == Seconds::max()) {
+        nextLabel_.reset();
+        return;
+    }
+    nextLabel_ = services_.scheduler.after(left + margin, [this] {
+        peak_ = PeakInfo::at(services_.scheduler.now());
+        notify();
+    });
 }
 
 QString LiveContext::shortCount(qint64 tokens) {

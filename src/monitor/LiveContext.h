@@ -2,6 +2,7 @@
 
 #include "base/Handle.h"
 #include "monitor/ContextReader.h"
+#include "monitor/Looks.h"
 #include "monitor/PeakInfo.h"
 
 #include <QObject>
@@ -17,7 +18,7 @@ class DetachedJobs;
 class FolderChanges;
 class Scheduler;
 
-/// How full the context of the newest Claude Code session is, updated every five seconds. If
+/// How full the context of the newest Claude Code session is, updated within five seconds. If
 /// nothing is found, the last reading stays. Main thread; never waits for a file.
 class LiveContext : public QObject {
     Q_OBJECT
@@ -60,7 +61,7 @@ public:
     /// Updates everything. Files are read on another thread, one read at a time.
     void refresh();
 
-    /// At the end of every refresh.
+    /// At the end of every refresh, and when the text about peak hours changes.
     std::function<void()> onChange;
 
     /// A short form of a count of tokens: "12k", "1.2M".
@@ -72,6 +73,7 @@ Q_SIGNALS:
 private:
     void apply(const ContextReading& reading);
     void notify();
+    void awaitNextLabel();
 
     Services services_;
     QString model_;
@@ -82,7 +84,8 @@ private:
     bool installed_ = true;
     std::shared_ptr<ContextReader> reader_; ///< In use by another thread while `reading_` is set.
     Handle reading_;
-    Handle timer_;
+    Looks looks_;
+    Handle nextLabel_;
 };
 
 } // namespace ravelo

@@ -1,6 +1,7 @@
 #include "monitor/PeakInfo.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace ravelo {
 
@@ -48,6 +49,16 @@ QString PeakInfo::label(Date now, const QLocale& locale, const QTimeZone& zone) 
         return u"PEAK · ends "_s + locale.toString(end, u"h:mm Ap"_s);
     }
     return u"OFF-PEAK · peak in "_s + dur(transition.sinceReference - now.sinceReference);
+}
+
+Seconds untilDurChanges(double seconds) {
+    constexpr double minute = 60;
+    return seconds > 0 ? Seconds(std::fmod(seconds, minute)) : Seconds::max();
+}
+
+Seconds PeakInfo::untilLabelChanges(Date now) const {
+    const Seconds left(transition.sinceReference - now.sinceReference);
+    return isPeak ? std::max(left, Seconds(0)) : untilDurChanges(left.count());
 }
 
 QString dur(double seconds) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Date.h"
+#include "base/Scheduler.h"
 
 #include <QLocale>
 #include <QString>
@@ -19,10 +20,16 @@ struct PeakInfo {
     [[nodiscard]] QString label(Date now, const QLocale& locale,
                                 const QTimeZone& zone = QTimeZone::systemTimeZone()) const;
 
+    /// Time until `label` changes; the maximum if never.
+    [[nodiscard]] Seconds untilLabelChanges(Date now) const;
+
     friend bool operator==(const PeakInfo&, const PeakInfo&) = default;
 };
 
 /// Remaining time in its two largest units: "2d 17h", "5h 7m", "42m". "0m" if there is none.
 [[nodiscard]] QString dur(double seconds);
+
+/// Time until `dur` shows less while `seconds` run out; the maximum if they have.
+[[nodiscard]] Seconds untilDurChanges(double seconds);
 
 } // namespace ravelo

@@ -1,7 +1,9 @@
 #include "monitor/PlanUsage.h"
 
 #include "monitor/UsageFile.h"
+#include "monitor/WatchedFiles.h"
 #include "platform/DetachedJobs.h"
+#include "platform/FolderChanges.h"
 
 #include <algorithm>
 #include <memory>
@@ -13,20 +15,40 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Seconds interval(5);
 constexpr Seconds fetchSpacing(90);
 constexpr Seconds maxSpacing(1800);
 
 } // namespace
 
+struct PlanUsage::Files {
+    Files(std::unique_ptr<FolderChanges> given, const QByteArray& home)
+        : changes(std::move(given)), watched(*changes, home) {}
+
+    std::unique_ptr<FolderChanges> changes;
+    WatchedFiles watched;
+};
+
 PlanUsage::PlanUsage(UsageQuery::Services services, const QByteArray& home,
-                     UsageQuery::Endpoint endpoint, const QByteArrayList& otherFolders)
+                     std::unique_ptr<FolderChanges> changes, UsageQuery::Endpoint endpoint,
+                     const QByteArrayList& otherFolders)
     : services_(services),
       home_(home),
+      files_(std::make_shared<Files>(std::move(changes), home)),
+      looks_(services.scheduler, *files_->changes,
+             [this] {
+                 if (loggedOut_ && !looks_.isPolling()) {
+                     lastFetch_.reset(); // Somebody may have logged in.
+                 }
+                 refresh();
+             }),
       query_(services, home, std::move(endpoint), otherFolders),
       spacing_(fetchSpacing) {
+    files_->watched.add(usageFile(home), FolderChanges::What::contents);
+    for (const QByteArray& folder : QByteArrayList{home + "/.claude"} + otherFolders) {
+        files_->watched.add(folder + '/' + UsageQuery::credentialsFile.toByteArray(),
+                            FolderChanges::What::names);
+    }
     refresh();
-    timer_ = services_.scheduler.every(interval, [this] { refresh(); });
 }
 
 PlanUsage::~PlanUsage() = default;
@@ -59,6 +81,7 @@ void PlanUsage::fetchLive() {
 void PlanUsage::handle(const UsageQuery::Outcome& outcome) {
     fetching_ = false;
     liveOK_ = outcome.windows.has_value();
+    loggedOut_ = outcome.loggedOut;
     if (outcome.tooMany) {
         spacing_ = std::min(2 * spacing_, maxSpacing);
         notBefore_ = services_.scheduler.uptime() + *outcome.tooMany;
@@ -66,25 +89,49 @@ void PlanUsage::handle(const UsageQuery::Outcome& outcome) {
     if (outcome.windows) {
         spacing_ = fetchSpacing;
         liveAt_ = services_.scheduler.now();
+        looks_.pause();
         set(*outcome.windows);
+    } else {
+        readFile();
     }
+    awaitFetch();
+}
+
+void PlanUsage::awaitFetch() {
+    const Seconds now = services_.scheduler.uptime();
+    const bool wakesUs = loggedOut_ && !looks_.isPolling(); // When somebody logs in.
+    const Seconds due = std::max(
+        lastFetch_.value_or(now) + (wakesUs ? maxSpacing : spacing_ + Looks::interval), notBefore_);
+    nextFetch_ = services_.scheduler.after(due - now, [this] { refresh(); });
 }
 
 void PlanUsage::readFile() {
     if (reading_) {
         return;
     }
-    auto windows = std::make_shared<std::optional<PlanWindows>>();
+
+    struct Reading {
+        bool watched = false;
+        std::optional<PlanWindows> windows;
+    };
+
+    auto reading = std::make_shared<Reading>();
     reading_ = services_.jobs.run(
-        [windows, home = home_, liveAt = liveAt_] {
+        [reading, files = files_, home = home_, liveAt = liveAt_] {
+            static_cast<void>(files->changes->take());
+            reading->watched = files->watched.watch();
             if (!liveAt || usageWritten(home) >= liveAt) {
-                *windows = loadUsage(home);
+                reading->windows = loadUsage(home);
             }
         },
-        [this, windows] {
+        [this, reading] {
             reading_.reset();
-            if (*windows && !liveOK_) {
-                set(**windows);
+            if (liveOK_) {
+                return;
+            }
+            looks_.looked(reading->watched ? Looks::Watched::yes : Looks::Watched::no);
+            if (reading->windows) {
+                set(*reading->windows);
             }
         });
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "monitor/Looks.h"
 #include "monitor/UsageQuery.h"
 
 #include <QObject>
@@ -11,16 +12,20 @@
 
 namespace ravelo {
 
+class FolderChanges;
+
 /// How much of the plan's two windows is used up. Queried every 90 seconds, or less often if the
-/// provider refuses that; while queries fail, read from "~/.ravelo/usage.json" every five seconds,
-/// unless the file is older than the last answer. A failure changes nothing. Main thread.
+/// provider refuses that or nobody is logged in; while queries fail, read from
+/// "~/.ravelo/usage.json" within five seconds of a change, unless the file is older than the last
+/// answer. A failure changes nothing. Main thread.
 class PlanUsage : public QObject {
     Q_OBJECT
 
 public:
     /// Starts at once. `home` is the user's home folder; see UsageQuery.
     PlanUsage(UsageQuery::Services services, const QByteArray& home,
-              UsageQuery::Endpoint endpoint = provider(), const QByteArrayList& otherFolders = {});
+              std::unique_ptr<FolderChanges> changes, UsageQuery::Endpoint endpoint = provider(),
+              const QByteArrayList& otherFolders = {});
     ~PlanUsage() override;
 
     /// The process's own: the first call makes it, and nothing destroys it or what it is made from.
@@ -39,6 +44,7 @@ public:
     /// The last query succeeded.
     [[nodiscard]] bool liveOK() const { return liveOK_; }
 
+    /// Does what is due.
     void refresh();
 
 Q_SIGNALS:
@@ -49,10 +55,15 @@ private:
     void fetchLive();
     void handle(const UsageQuery::Outcome& outcome);
     void readFile();
+    void awaitFetch();
     void set(const PlanWindows& windows);
+
+    struct Files; ///< Used by another thread while `reading_` is set.
 
     UsageQuery::Services services_;
     QByteArray home_;
+    std::shared_ptr<Files> files_;
+    Looks looks_;
     UsageQuery query_;
     PlanWindows windows_;
     std::optional<Seconds> lastFetch_; ///< Uptime.
@@ -61,8 +72,9 @@ private:
     std::optional<Date> liveAt_;       ///< Time of the last success.
     bool fetching_ = false;
     bool liveOK_ = false;
+    bool loggedOut_ = false;
     Handle reading_; ///< Of the file.
-    Handle timer_;
+    Handle nextFetch_;
 };
 
 } // namespace ravelo

@@ -145,6 +145,12 @@ bool TranscriptFinder::lookAtRoot(const FolderChanges::Changes& changes) {
     return true;
 }
 
+bool TranscriptFinder::isWatched() const {
+    return !rootIdentity_ || (rootKnown_ && std::ranges::all_of(folders_, [](const auto& one) {
+                                  return one.second.known;
+                              }));
+}
+
 void TranscriptFinder::forget() {
     for (const auto& [path, folder] : folders_) {
         changes_.unwatch(path);
@@ -158,7 +164,8 @@ void TranscriptFinder::forget() {
 }
 
 void TranscriptFinder::listRoot() {
-    const bool watched = changes_.watch(root_); // First, so that no change is missed.
+    const bool watched =
+        changes_.watch(root_, FolderChanges::What::names); // First, so that no change is missed.
     Listing listing(root_);
     rootListed_ = true;
     rootKnown_ = watched && listing.isOpen();
@@ -183,7 +190,7 @@ void TranscriptFinder::listRoot() {
 
 void TranscriptFinder::list(const QByteArray& path, Folder& folder) {
     bool hasLinks = folder.isLink;
-    const bool watched = !folder.isLink && changes_.watch(path);
+    const bool watched = !folder.isLink && changes_.watch(path, FolderChanges::What::contents);
     folder.newest.clear();
     Listing listing(path);
     int entries = 0;

@@ -32,6 +32,9 @@ public:
     /// The newest few, newest first; equal dates by name. `changes` are those since the last call.
     [[nodiscard]] std::vector<Transcript> newest(const FolderChanges::Changes& changes);
 
+    /// Whatever changes the last answer is reported, unless there is no `root`.
+    [[nodiscard]] bool isWatched() const;
+
     /// Stops watching; the next call starts over.
     void forget();
 

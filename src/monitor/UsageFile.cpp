@@ -20,20 +20,20 @@ QByteArray folder(const QByteArray& home) {
     return home + "/.ravelo";
 }
 
-QByteArray file(const QByteArray& home) {
+} // namespace
+
+QByteArray usageFile(const QByteArray& home) {
     return folder(home) + "/usage.json";
 }
 
-} // namespace
-
 std::optional<PlanWindows> loadUsage(const QByteArray& home) {
-    const std::optional<QByteArray> bytes = readFileEnd(file(home), maxSize + 1);
+    const std::optional<QByteArray> bytes = readFileEnd(usageFile(home), maxSize + 1);
     return bytes && bytes->size() <= maxSize ? readUsageFile(*bytes) : std::nullopt;
 }
 
 std::optional<Date> usageWritten(const QByteArray& home) {
     struct stat info = {};
-    if (stat(file(home).constData(), &info) != 0) {
+    if (stat(usageFile(home).constData(), &info) != 0) {
         return std::nullopt;
     }
     const double seconds = static_cast<double>(info.st_mtim.tv_sec) +
@@ -50,7 +50,7 @@ Result<void> storeUsage(const QByteArray& home, const QByteArray& statusLine) {
     if (!QFile::exists(own)) { // Otherwise its permissions are the choice of whoever created it.
         makePrivateFolder(own);
     }
-    const QString path = QFile::decodeName(file(home));
+    const QString path = QFile::decodeName(usageFile(home));
     return writeFileAtomically(path, *kept).map_error([&](const Error& error) {
         return Error{u"cannot write %1: %2"_s.arg(path, error.message)};
     });

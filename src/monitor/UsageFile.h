@@ -12,6 +12,8 @@
 
 namespace ravelo {
 
+[[nodiscard]] QByteArray usageFile(const QByteArray& home);
+
 /// Nothing if the file is missing or malformed.
 [[nodiscard]] std::optional<PlanWindows> loadUsage(const QByteArray& home);
 

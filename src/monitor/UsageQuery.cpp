@@ -48,7 +48,8 @@ void UsageQuery::readFiles(const QByteArrayList& folders, HandleCredentials hand
         [credentials, folders] {
             for (const QByteArray& folder : folders) {
                 const Secret file(
-                    readFileEnd(folder + "/.credentials.json", maxAnswer).value_or(QByteArray()));
+                    readFileEnd(folder + '/' + credentialsFile.toByteArray(), maxAnswer)
+                        .value_or(QByteArray()));
                 *credentials = readCredentials(file.bytes());
                 if (*credentials) {
                     break;
@@ -75,7 +76,7 @@ void UsageQuery::askKeyring() {
 
 void UsageQuery::useCredentials(const std::optional<Credentials>& credentials) {
     if (!credentials) {
-        finish({});
+        finish({.windows = {}, .tooMany = {}, .loggedOut = true});
         return;
     }
     const double now = services_.scheduler.now().sinceReference + referenceInstant;

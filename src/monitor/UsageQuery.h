@@ -42,9 +42,13 @@ public:
         std::optional<PlanWindows> windows; ///< None if there was no valid answer.
         /// If the provider refuses so many requests: how long to wait, or zero if it did not say.
         std::optional<Seconds> tooMany;
+        bool loggedOut = false; ///< There are no credentials.
     };
 
     using Done = std::function<void(const Outcome&)>;
+
+    /// In each folder of Claude Code.
+    static constexpr QByteArrayView credentialsFile{".credentials.json"};
 
     /// Calls `done` once, unless this object is destroyed before. One query at a time.
     void queryAPI(Done done);

@@ -13,6 +13,12 @@ bool resetHasPassed(const std::optional<UsageWindow>& window, Date now) {
     return window && window->resets && *window->resets <= now;
 }
 
+Seconds untilTextChanges(const std::optional<UsageWindow>& window, Date now) {
+    return window && window->resets
+               ? untilDurChanges(window->resets->sinceReference - now.sinceReference)
+               : Seconds::max();
+}
+
 QString percentText(const std::optional<UsageWindow>& window) {
     constexpr double maxPercent = 1e15; // Fits into 64 bits.
     return window

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Date.h"
+#include "base/Scheduler.h"
 
 #include <QString>
 
@@ -18,6 +19,9 @@ struct UsageWindow {
 
 /// Whether the window has reset, so that its percentage is out of date.
 [[nodiscard]] bool resetHasPassed(const std::optional<UsageWindow>& window, Date now);
+
+/// Time until one of the texts below changes; the maximum if never.
+[[nodiscard]] Seconds untilTextChanges(const std::optional<UsageWindow>& window, Date now);
 
 /// The plan's two windows, if known.
 struct PlanWindows {

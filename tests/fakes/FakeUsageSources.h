@@ -34,8 +34,11 @@ class SilentHttps final : public HttpsClient {
 public:
     [[nodiscard]] Handle get(const HttpsRequest& /*request*/,
                              std::function<void(std::optional<HttpsAnswer>)> /*done*/) override {
+        ++asked;
         return {};
     }
+
+    int asked = 0;
 };
 
 /// Programs that start and never end.

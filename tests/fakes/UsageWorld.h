@@ -1,6 +1,7 @@
 #pragma once
 
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/FakeFolderChanges.h"
 #include "fakes/FakeUsageSources.h"
 #include "monitor/PlanUsage.h"
 #include "monitor/UsageFile.h"
@@ -16,7 +17,8 @@ namespace ravelo {
 struct UsageWorld {
     explicit UsageWorld(Scheduler& scheduler, const PlanWindows& windows = {})
         : jobs(scheduler),
-          usage({scheduler, jobs, secrets, https, children}, (write(windows), home())) {}
+          usage({scheduler, jobs, secrets, https, children}, (write(windows), home()),
+                std::make_unique<FakeFolderChanges>()) {}
 
     [[nodiscard]] QByteArray home() const { return QFile::encodeName(folder.path()); }
 

@@ -3,11 +3,13 @@
 #include "monitor/LiveContext.h"
 
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/FakeFolderChanges.h"
 #include "fakes/ManualScheduler.h"
 #include "platform/system/InotifyChanges.h"
 
 #include <gtest/gtest.h>
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QTemporaryDir>
@@ -22,26 +24,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr Seconds tick(5);
-
-/// Reports what the script says.
-class ScriptedChanges final : public FolderChanges {
-public:
-    struct Script {
-        bool watches = true;
-        Changes next;
-    };
-
-    explicit ScriptedChanges(std::shared_ptr<Script> script) : script_(std::move(script)) {}
-
-    [[nodiscard]] bool watch(const QByteArray& /*folder*/) override { return script_->watches; }
-
-    void unwatch(const QByteArray& /*folder*/) override {}
-
-    [[nodiscard]] Changes take() override { return std::exchange(script_->next, {}); }
-
-private:
-    std::shared_ptr<Script> script_;
-};
 
 class ContextTest : public testing::Test {
 protected:
@@ -80,8 +62,13 @@ protected:
         scheduler_.advance(Seconds(0)); // The files are read a little later.
     }
 
+    void pass(Seconds time) {
+        QCoreApplication::processEvents(); // The kernel's reports.
+        scheduler_.advance(time);
+    }
+
     [[nodiscard]] qint64 usedAfterATick() {
-        scheduler_.advance(tick);
+        pass(tick);
         return context_->used();
     }
 
@@ -169,16 +156,14 @@ INSTANTIATE_TEST_SUITE_P(Kernel, LiveContextTest, testing::Values([] {
                                  std::make_unique<InotifyChanges>());
                          }));
 INSTANTIATE_TEST_SUITE_P(NoReports, LiveContextTest, testing::Values([] {
-                             auto script = std::make_shared<ScriptedChanges::Script>();
-                             script->watches = false;
                              return std::unique_ptr<FolderChanges>(
-                                 std::make_unique<ScriptedChanges>(std::move(script)));
+                                 std::make_unique<FakeFolderChanges>());
                          }));
 
 TEST_F(ContextTest, readsNothingTwiceThatHasNotChanged) {
     write(u"a/x.jsonl"_s, 11, 1000);
-    const auto script = std::make_shared<ScriptedChanges::Script>();
-    start(std::make_unique<ScriptedChanges>(script));
+    const auto script = std::make_shared<FakeFolderChanges::Script>();
+    start(std::make_unique<FakeFolderChanges>(script));
     EXPECT_EQ(context_->used(), 11);
     const QByteArray folder = QFile::encodeName(path(u"a"_s));
 
@@ -243,14 +228,14 @@ TEST_F(ContextTest, knowsWhetherClaudeCodeIsInstalled) {
     EXPECT_FALSE(context_->installed());
     for (const QString& sign : {other, home_.filePath(u".local/bin/claude"_s)}) {
         writeFile(sign, {});
-        scheduler_.advance(tick);
+        pass(tick);
         EXPECT_TRUE(context_->installed()) << qPrintable(sign);
         QFile::remove(sign);
-        scheduler_.advance(tick);
+        pass(tick);
         EXPECT_FALSE(context_->installed()) << qPrintable(sign);
     }
     setLimit("1000");
-    scheduler_.advance(tick);
+    pass(tick);
     EXPECT_TRUE(context_->installed()) << "its usual folder";
 }
 
@@ -281,9 +266,7 @@ TEST_F(ContextTest, skipsListingManyUnwatchedFolders) {
         writeFile(path(u"a/%1.jsonl"_s.arg(i)), {});
     }
     write(u"b/x.jsonl"_s, 11, 1LL << 32);
-    auto script = std::make_shared<ScriptedChanges::Script>();
-    script->watches = false;
-    start(std::make_unique<ScriptedChanges>(script));
+    start(std::make_unique<FakeFolderChanges>());
     EXPECT_EQ(context_->used(), 11);
     write(u"c/new.jsonl"_s, 22, (1LL << 32) + 100);
     for (int look = 0; look < 2; ++look) {
@@ -301,7 +284,7 @@ TEST_F(ContextTest, readsItsLimitFromTheSettingsFile) {
     start(std::make_unique<InotifyChanges>());
     const auto limit = [&](const QByteArray& value) {
         setLimit(value);
-        scheduler_.advance(tick);
+        pass(tick);
         return context_->limit();
     };
     EXPECT_EQ(context_->limit(), 1000000) << "the environment does not count";
@@ -311,7 +294,7 @@ TEST_F(ContextTest, readsItsLimitFromTheSettingsFile) {
     EXPECT_EQ(limit("17" + QByteArray(1 << 20, ' ')), 1000000) << "no settings are that large";
     EXPECT_EQ(limit("18"), 18);
     ASSERT_TRUE(QFile::remove(home_.filePath(u".claude/settings.json"_s)));
-    scheduler_.advance(tick);
+    pass(tick);
     EXPECT_EQ(context_->limit(), 1000000);
     qunsetenv("CLAUDE_CODE_AUTO_COMPACT_WINDOW");
 }

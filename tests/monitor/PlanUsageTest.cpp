@@ -6,6 +6,7 @@
 #include "UsageServer.h"
 #include "base/Files.h"
 #include "fakes/FakeDetachedJobs.h"
+#include "fakes/FakeFolderChanges.h"
 #include "fakes/FakeUsageSources.h"
 #include "fakes/ManualScheduler.h"
 #include "monitor/ClaudeEnvironment.h"
@@ -86,8 +87,8 @@ public:
                                                     const QByteArrayList& otherFolders = {}) {
         return std::make_unique<PlanUsage>(
             UsageQuery::Services{scheduler, files, secrets, by, children},
-            QFile::encodeName(home.path()), UsageQuery::Endpoint{server.url(host), timeout},
-            otherFolders);
+            QFile::encodeName(home.path()), std::make_unique<FakeFolderChanges>(),
+            UsageQuery::Endpoint{server.url(host), timeout}, otherFolders);
     }
 
     void start(const QString& host = u"localhost"_s, Seconds timeout = Seconds(15)) {

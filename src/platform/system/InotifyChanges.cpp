@@ -1,8 +1,11 @@
 #include "platform/system/InotifyChanges.h"
 
+#include <QSocketNotifier>
+
 #include <algorithm>
 #include <array>
 #include <cstring>
+#include <utility>
 
 #include <sys/inotify.h>
 #include <sys/vfs.h>
@@ -12,8 +15,9 @@ namespace ravelo {
 
 namespace {
 
-constexpr quint32 events = IN_CREATE | IN_DELETE | IN_MODIFY | IN_ATTRIB | IN_MOVE | IN_MOVE_SELF |
-                           IN_DELETE_SELF | IN_ONLYDIR;
+constexpr quint32 nameEvents =
+    IN_CREATE | IN_DELETE | IN_MOVE | IN_MOVE_SELF | IN_DELETE_SELF | IN_ONLYDIR;
+constexpr quint32 contentEvents = nameEvents | IN_MODIFY | IN_ATTRIB;
 
 /// inotify reports no changes by another machine or by the program that serves the file system.
 bool isElsewhere(const QByteArray& folder) {
@@ -37,12 +41,13 @@ InotifyChanges::~InotifyChanges() {
     }
 }
 
-bool InotifyChanges::watch(const QByteArray& folder) {
+bool InotifyChanges::watch(const QByteArray& folder, What what) {
     if (queue_ < 0 || isElsewhere(folder)) {
         unwatch(folder);
         return false;
     }
-    const int watch = inotify_add_watch(queue_, folder.constData(), events);
+    const int watch = inotify_add_watch(queue_, folder.constData(),
+                                        what == What::names ? nameEvents : contentEvents);
     if (watches_.value(folder, -1) != watch) {
         unwatch(folder); // The folder was replaced.
     }
@@ -80,6 +85,22 @@ FolderChanges::Changes InotifyChanges::take() {
         }
     }
     return changes;
+}
+
+Handle InotifyChanges::onChange(std::function<void()> callback) {
+    if (queue_ < 0) {
+        return {};
+    }
+    auto* const notifier = new QSocketNotifier(queue_, QSocketNotifier::Read);
+    QObject::connect(notifier, &QSocketNotifier::activated, notifier,
+                     [notifier, callback = std::move(callback)] {
+                         notifier->setEnabled(false); // There are changes until they are taken.
+                         callback();
+                     });
+    return Handle([notifier] {
+        notifier->setEnabled(false);
+        notifier->deleteLater();
+    });
 }
 
 void InotifyChanges::note(int watch, quint32 mask, Changes& changes) {

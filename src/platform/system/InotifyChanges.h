@@ -6,7 +6,7 @@
 
 namespace ravelo {
 
-/// By inotify(7), whose events are read only on request.
+/// By inotify(7), whose events are read only on request. `onChange` needs an event loop.
 class InotifyChanges final : public FolderChanges {
 public:
     InotifyChanges();
@@ -15,9 +15,10 @@ public:
     InotifyChanges(const InotifyChanges&) = delete;
     InotifyChanges& operator=(const InotifyChanges&) = delete;
 
-    [[nodiscard]] bool watch(const QByteArray& folder) override;
+    [[nodiscard]] bool watch(const QByteArray& folder, What what) override;
     void unwatch(const QByteArray& folder) override;
     [[nodiscard]] Changes take() override;
+    [[nodiscard]] Handle onChange(std::function<void()> callback) override;
 
 private:
     void note(int watch, quint32 mask, Changes& changes);

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Handle.h"
 #include "ui/usage/UsageLine.h"
 
 namespace ravelo {
@@ -24,7 +25,7 @@ public:
         PlanUsage& plan;
         const NotchController& controller;
         const AppSettings& settings;
-        const Scheduler& scheduler;
+        Scheduler& scheduler;
     };
 
     explicit Usage(Services services);
@@ -46,10 +47,14 @@ Q_SIGNALS:
     void shownChanged();
 
 private:
+    void refreshIfOpen();
+    void awaitNextText();
+
     Services services_;
     bool installed_ = true;
     UsageLine session_;
     UsageLine week_;
+    Handle nextText_;
 };
 
 } // namespace ravelo
