@@ -14,7 +14,7 @@ namespace ravelo {
 class FadingEdge : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT
-    Q_PROPERTY(Edge edge MEMBER edge_ NOTIFY changed)
+    Q_PROPERTY(ravelo::FadingEdge::Edge edge MEMBER edge_ NOTIFY changed)
     /// Width of the fade in logical pixels; 0 for a hard edge.
     Q_PROPERTY(double length MEMBER length_ NOTIFY changed)
 
