@@ -78,6 +78,8 @@ void X11PanelWindow::place(const Screen& screen, QSizeF size) {
     const QPoint corner(monitor->native.x() + (monitor->native.width() - nativeSize.width()) / 2,
                         monitor->native.y());
     const QRectF logical = toLogical(*monitor, QRect(corner, nativeSize));
+    const bool hasPicture = firstPicture_ && firstPicture_->size() == nativeSize;
+    setBackground(hasPicture ? firstPicture_->pixmap() : XCB_NONE);
     window_.setGeometry(QRect(logical.topLeft().toPoint(), logicalSize));
     // Qt knows whole logical pixels only, which at scale 2 may be one device pixel off the middle.
     const auto left = static_cast<uint32_t>(corner.x());
@@ -98,6 +100,21 @@ void X11PanelWindow::orderFront() {
 void X11PanelWindow::orderOut() {
     window_.setVisible(false);
     xcb_flush(qt_);
+}
+
+bool X11PanelWindow::setFirstPicture(const QImage& picture) {
+    if (!window_.format().hasAlpha()) {
+        return false; // The window has another depth.
+    }
+    firstPicture_.emplace(qt_, id_, picture);
+    return true;
+}
+
+/// What the server paints itself as soon as the window has another size, if anything.
+void X11PanelWindow::setBackground(xcb_pixmap_t picture) {
+    const uint32_t value = picture == XCB_NONE ? 0 : picture;
+    xcb_change_window_attributes(
+        qt_, id_, picture == XCB_NONE ? XCB_CW_BACK_PIXEL : XCB_CW_BACK_PIXMAP, &value);
 }
 
 void X11PanelWindow::setOutline(const QPainterPath& outline) {

@@ -8,6 +8,7 @@
 #include "platform/x11/window/BlurEffect.h"
 #include "platform/x11/window/ForeignCover.h"
 #include "platform/x11/window/InputFocus.h"
+#include "platform/x11/window/ServerPicture.h"
 
 #include <QObject>
 #include <QPainterPath>
@@ -35,6 +36,7 @@ public:
     void place(const Screen& screen, QSizeF size) override;
     void orderFront() override;
     void orderOut() override;
+    bool setFirstPicture(const QImage& picture) override;
     void setOutline(const QPainterPath& outline) override;
     [[nodiscard]] ShowThrough showThrough() const override;
     [[nodiscard]] Handle onShowThroughChange(std::function<void()> callback) override;
@@ -57,6 +59,7 @@ private:
     void setUnderPointer(bool under);
     void stayAbove(const xcb_generic_event_t& event);
     void prepareNativeWindow();
+    void setBackground(xcb_pixmap_t picture);
     void applyOutline();
     void setShape(xcb_shape_kind_t kind, const std::vector<xcb_rectangle_t>& rectangles);
     void setCardinals(xcb_atom_t property, const std::vector<uint32_t>& values);
@@ -70,6 +73,7 @@ private:
     const xcb_atom_t shadow_;
     const xcb_atom_t skipCloseAnimation_;
     BlurEffect blur_;
+    std::optional<ServerPicture> firstPicture_;
     Listeners<> showThroughListeners_;
     Listeners<> underPointerListeners_;
     bool underPointer_ = false;
