@@ -44,11 +44,12 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       compositor_(compositor),
       cover_(cover),
       drags_(drags),
+      qt_(qtConnection()),
       focus_(connection, events),
       shadow_(connection.atom("_COMPTON_SHADOW")),
       skipCloseAnimation_(connection.atom("_KDE_NET_WM_SKIP_CLOSE_ANIMATION")),
       blur_(connection, events),
-      qt_(qtConnection()),
+      fade_(qt_, connection),
       restackingNotices_{connection.atom("_NET_CLIENT_LIST"),
                          connection.atom("_NET_CLIENT_LIST_STACKING"),
                          connection.atom("_NET_WORKAREA")},
@@ -79,7 +80,7 @@ void X11PanelWindow::place(const Screen& screen, QSizeF size) {
                         monitor->native.y());
     const QRectF logical = toLogical(*monitor, QRect(corner, nativeSize));
     const bool hasPicture = firstPicture_ && firstPicture_->size() == nativeSize;
-    setBackground(hasPicture ? firstPicture_->pixmap() : XCB_NONE);
+    showFirst(hasPicture ? firstPicture_->pixmap() : XCB_NONE);
     window_.setGeometry(QRect(logical.topLeft().toPoint(), logicalSize));
     // Qt knows whole logical pixels only, which at scale 2 may be one device pixel off the middle.
     const auto left = static_cast<uint32_t>(corner.x());
@@ -110,11 +111,16 @@ bool X11PanelWindow::setFirstPicture(const QImage& picture) {
     return true;
 }
 
-/// What the server paints itself as soon as the window has another size, if anything.
-void X11PanelWindow::setBackground(xcb_pixmap_t picture) {
-    const uint32_t value = picture == XCB_NONE ? 0 : picture;
-    xcb_change_window_attributes(
-        qt_, id_, picture == XCB_NONE ? XCB_CW_BACK_PIXEL : XCB_CW_BACK_PIXMAP, &value);
+/// What the server paints by itself as soon as the window has another size, if anything.
+void X11PanelWindow::showFirst(xcb_pixmap_t picture) {
+    const bool any = picture != XCB_NONE;
+    const uint32_t value = any ? picture : 0;
+    xcb_change_window_attributes(qt_, id_, any ? XCB_CW_BACK_PIXMAP : XCB_CW_BACK_PIXEL, &value);
+    if (any && showThrough() != ShowThrough::none) {
+        fade_.start(id_);
+    } else {
+        fade_.stop();
+    }
 }
 
 void X11PanelWindow::setOutline(const QPainterPath& outline) {

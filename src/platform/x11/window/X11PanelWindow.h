@@ -9,6 +9,7 @@
 #include "platform/x11/window/ForeignCover.h"
 #include "platform/x11/window/InputFocus.h"
 #include "platform/x11/window/ServerPicture.h"
+#include "platform/x11/window/WindowFade.h"
 
 #include <QObject>
 #include <QPainterPath>
@@ -59,7 +60,7 @@ private:
     void setUnderPointer(bool under);
     void stayAbove(const xcb_generic_event_t& event);
     void prepareNativeWindow();
-    void setBackground(xcb_pixmap_t picture);
+    void showFirst(xcb_pixmap_t picture);
     void applyOutline();
     void setShape(xcb_shape_kind_t kind, const std::vector<xcb_rectangle_t>& rectangles);
     void setCardinals(xcb_atom_t property, const std::vector<uint32_t>& values);
@@ -69,17 +70,18 @@ private:
     ManagerSelection& compositor_;
     ForeignCover& cover_;
     DragMonitor& drags_;
+    xcb_connection_t* qt_; ///< Qt's own connection.
     InputFocus focus_;
     const xcb_atom_t shadow_;
     const xcb_atom_t skipCloseAnimation_;
     BlurEffect blur_;
     std::optional<ServerPicture> firstPicture_;
+    WindowFade fade_;
     Listeners<> showThroughListeners_;
     Listeners<> underPointerListeners_;
     bool underPointer_ = false;
     std::optional<QPainterPath> outline_;
     double scale_ = 1; ///< Device pixels per logical pixel on the monitor of the last placement.
-    xcb_connection_t* qt_; ///< Qt's own connection.
     xcb_window_t id_ = XCB_WINDOW_NONE;
     const std::vector<xcb_atom_t> restackingNotices_;
     Handle compositorSubscription_;
