@@ -79,8 +79,10 @@ void X11PanelWindow::place(const Screen& screen, QSizeF size) {
     const QPoint corner(monitor->native.x() + (monitor->native.width() - nativeSize.width()) / 2,
                         monitor->native.y());
     const QRectF logical = toLogical(*monitor, QRect(corner, nativeSize));
-    const bool hasPicture = firstPicture_ && firstPicture_->size() == nativeSize;
-    showFirst(hasPicture ? firstPicture_->pixmap() : XCB_NONE);
+    if (std::exchange(nativeSize_, nativeSize) != nativeSize) {
+        const bool hasPicture = firstPicture_ && firstPicture_->size() == nativeSize;
+        showFirst(hasPicture ? firstPicture_->pixmap() : XCB_NONE);
+    }
     window_.setGeometry(QRect(logical.topLeft().toPoint(), logicalSize));
     // Qt knows whole logical pixels only, which at scale 2 may be one device pixel off the middle.
     const auto left = static_cast<uint32_t>(corner.x());

@@ -75,6 +75,7 @@ private:
     const xcb_atom_t shadow_;
     const xcb_atom_t skipCloseAnimation_;
     BlurEffect blur_;
+    QSize nativeSize_; ///< Of the last placement, in device pixels.
     std::optional<ServerPicture> firstPicture_;
     WindowFade fade_;
     Listeners<> showThroughListeners_;
