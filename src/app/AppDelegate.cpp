@@ -32,6 +32,7 @@
 #include "shelf/ReceivedWatcher.h"
 #include "store/Store.h"
 #include "ui/PanelView.h"
+#include "ui/panel/PanelPicture.h"
 #include "ui/windows/OnboardingController.h"
 #include "ui/windows/SettingsWindow.h"
 #include "ui/windows/UpdateWindow.h"
@@ -241,6 +242,7 @@ void AppDelegate::wire() {
         }
     };
     wireSettings();
+    wirePicture();
     statusItem_->onSetup = [this] {
         showSetup();
     };
@@ -264,6 +266,22 @@ void AppDelegate::wire() {
         view_->features().snippets.editor()->cancel(); // Deletes an image that nothing refers to.
         flush();
     });
+}
+
+/// The picture shows what the panel will.
+void AppDelegate::wirePicture() {
+    PanelFeatures& features = view_->features();
+    picture_ = std::make_unique<PanelPicture>(
+        PanelPicture::Services{view_->window(), *window_, *notch_, features.state,
+                               *features.clips->list(), *platform_.scheduler});
+    const auto follow = [this](auto* source, auto... changed) {
+        (QObject::connect(source, changed, picture_.get(), &PanelPicture::refreshSoon), ...);
+    };
+    follow(store_.get(), &Store::clipsChanged, &Store::snippetsChanged, &Store::noteChanged,
+           &Store::shelfChanged, &Store::remindersChanged);
+    follow(settings_.get(), &AppSettings::lastTabChanged, &AppSettings::hideClaudeCodeChanged);
+    follow(notices_.get(), &Notices::changed);
+    follow(&planUsage(), &PlanUsage::changed);
 }
 
 /// Settings apply at once, without a restart.

@@ -21,6 +21,7 @@ class Notices;
 class NearbySend;
 class NotchController;
 class OnboardingController;
+class PanelPicture;
 class PanelView;
 class PanelWindow;
 class PlanUsage;
@@ -63,6 +64,7 @@ private:
     void wire();
     void wireNotices();
     void wireSettings();
+    void wirePicture();
 
     Platform platform_;
     std::unique_ptr<ReceivedWatcher> received_;
@@ -80,6 +82,7 @@ private:
     std::unique_ptr<UpdateWindow> updateWindow_;
     std::unique_ptr<StatusItemController> statusItem_;
     std::unique_ptr<Commands> commands_;
+    std::unique_ptr<PanelPicture> picture_;
     Handle compositor_;
     Handle motion_;
     Handle termination_;

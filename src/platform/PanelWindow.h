@@ -4,6 +4,7 @@
 #include "platform/Screens.h"
 
 #include <QByteArray>
+#include <QImage>
 #include <QPainterPath>
 #include <QSizeF>
 
@@ -30,6 +31,11 @@ public:
 
     /// Hides the window; it keeps its place and size.
     virtual void orderOut() = 0;
+
+    /// A picture of the whole window in device pixels, shown at once whenever the window takes that
+    /// size, until its contents are drawn; replaces the previous one. False if the display server
+    /// cannot do that.
+    virtual bool setFirstPicture(const QImage& /*picture*/) { return false; }
 
     /// The shape of the contents, in the window's own logical pixels. Clicks outside it go to
     /// whatever is below; the desktop may blur what is behind it; if the desktop cannot show

@@ -29,10 +29,11 @@ FocusScope {
         sourceComponent: slot.content
     }
 
+    // A picture that is shown first must not fade to what it shows.
     NumberAnimation {
         target: slot
         property: "opacity"
-        running: slot.open
+        running: slot.open && !slot.panelState.pictured
         // Start at the second frame of the 60 ms fade: the first would be invisible.
         from: 16 / Theme.opening
         to: 1

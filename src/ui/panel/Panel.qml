@@ -83,7 +83,9 @@ Item {
     }
 
     ContentSlot {
-        id: slot // Not centred: the window may still have the handle's width.
+        id: slot
+        objectName: "content"
+        // Not centred: the window may still have the handle's width.
         focus: true
         panelState: panel.panelState
         open: panel.controller.isOpen

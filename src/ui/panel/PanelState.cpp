@@ -47,6 +47,13 @@ void PanelState::setBackdrop(Backdrop::Kind backdrop) {
     }
 }
 
+void PanelState::setPictured(bool pictured) {
+    if (pictured != pictured_) {
+        pictured_ = pictured;
+        Q_EMIT picturedChanged();
+    }
+}
+
 void PanelState::setReducedMotion(bool reduced) {
     if (reduced != reducedMotion_) {
         reducedMotion_ = reduced;

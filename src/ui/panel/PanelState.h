@@ -21,6 +21,7 @@ class PanelState : public QObject {
     Q_PROPERTY(ravelo::Backdrop::Kind backdrop READ backdrop NOTIFY backdropChanged)
     Q_PROPERTY(double darkness READ darkness NOTIFY darknessChanged)
     Q_PROPERTY(bool fullBlack READ fullBlack NOTIFY darknessChanged)
+    Q_PROPERTY(bool pictured READ isPictured NOTIFY picturedChanged)
     Q_PROPERTY(bool reducedMotion READ reducedMotion NOTIFY reducedMotionChanged)
 
 public:
@@ -41,6 +42,11 @@ public:
 
     void setBackdrop(Backdrop::Kind backdrop);
 
+    /// The next opening starts with a picture of the content.
+    [[nodiscard]] bool isPictured() const { return pictured_; }
+
+    void setPictured(bool pictured);
+
     [[nodiscard]] double darkness() const;
     [[nodiscard]] bool fullBlack() const;
 
@@ -59,6 +65,7 @@ Q_SIGNALS:
     void contentSizeChanged();
     void backdropChanged();
     void darknessChanged();
+    void picturedChanged();
     void reducedMotionChanged();
 
 private:
@@ -72,6 +79,7 @@ private:
     bool hasContent_ = false;
     QSizeF contentSize_;
     Backdrop::Kind backdrop_ = Backdrop::Translucent;
+    bool pictured_ = false;
     bool reducedMotion_ = false;
     Handle building_;
 };

@@ -44,11 +44,12 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       compositor_(compositor),
       cover_(cover),
       drags_(drags),
+      qt_(qtConnection()),
       focus_(connection, events),
       shadow_(connection.atom("_COMPTON_SHADOW")),
       skipCloseAnimation_(connection.atom("_KDE_NET_WM_SKIP_CLOSE_ANIMATION")),
       blur_(connection, events),
-      qt_(qtConnection()),
+      fade_(qt_, connection),
       restackingNotices_{connection.atom("_NET_CLIENT_LIST"),
                          connection.atom("_NET_CLIENT_LIST_STACKING"),
                          connection.atom("_NET_ACTIVE_WINDOW"), connection.atom("_NET_WORKAREA")},
@@ -78,6 +79,10 @@ void X11PanelWindow::place(const Screen& screen, QSizeF size) {
     const QPoint corner(monitor->native.x() + (monitor->native.width() - nativeSize.width()) / 2,
                         monitor->native.y());
     const QRectF logical = toLogical(*monitor, QRect(corner, nativeSize));
+    if (std::exchange(nativeSize_, nativeSize) != nativeSize) {
+        const bool hasPicture = firstPicture_ && firstPicture_->size() == nativeSize;
+        showFirst(hasPicture ? firstPicture_->pixmap() : XCB_NONE);
+    }
     window_.setGeometry(QRect(logical.topLeft().toPoint(), logicalSize));
     // Qt knows whole logical pixels only, which at scale 2 may be one device pixel off the middle.
     const auto left = static_cast<uint32_t>(corner.x());
@@ -98,6 +103,26 @@ void X11PanelWindow::orderFront() {
 void X11PanelWindow::orderOut() {
     window_.setVisible(false);
     xcb_flush(qt_);
+}
+
+bool X11PanelWindow::setFirstPicture(const QImage& picture) {
+    if (!window_.format().hasAlpha()) {
+        return false; // The window has another depth.
+    }
+    firstPicture_.emplace(qt_, id_, picture);
+    return true;
+}
+
+/// What the server paints by itself as soon as the window has another size, if anything.
+void X11PanelWindow::showFirst(xcb_pixmap_t picture) {
+    const bool any = picture != XCB_NONE;
+    const uint32_t value = any ? picture : 0;
+    xcb_change_window_attributes(qt_, id_, any ? XCB_CW_BACK_PIXMAP : XCB_CW_BACK_PIXEL, &value);
+    if (any && showThrough() != ShowThrough::none) {
+        fade_.start(id_);
+    } else {
+        fade_.stop();
+    }
 }
 
 void X11PanelWindow::setOutline(const QPainterPath& outline) {

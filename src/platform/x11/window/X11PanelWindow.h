@@ -8,6 +8,8 @@
 #include "platform/x11/window/BlurEffect.h"
 #include "platform/x11/window/ForeignCover.h"
 #include "platform/x11/window/InputFocus.h"
+#include "platform/x11/window/ServerPicture.h"
+#include "platform/x11/window/WindowFade.h"
 
 #include <QObject>
 #include <QPainterPath>
@@ -35,6 +37,7 @@ public:
     void place(const Screen& screen, QSizeF size) override;
     void orderFront() override;
     void orderOut() override;
+    bool setFirstPicture(const QImage& picture) override;
     void setOutline(const QPainterPath& outline) override;
     [[nodiscard]] ShowThrough showThrough() const override;
     [[nodiscard]] Handle onShowThroughChange(std::function<void()> callback) override;
@@ -57,6 +60,7 @@ private:
     void setUnderPointer(bool under);
     void stayAbove(const xcb_generic_event_t& event);
     void prepareNativeWindow();
+    void showFirst(xcb_pixmap_t picture);
     void applyOutline();
     void setShape(xcb_shape_kind_t kind, const std::vector<xcb_rectangle_t>& rectangles);
     void setCardinals(xcb_atom_t property, const std::vector<uint32_t>& values);
@@ -66,16 +70,19 @@ private:
     ManagerSelection& compositor_;
     ForeignCover& cover_;
     DragMonitor& drags_;
+    xcb_connection_t* qt_; ///< Qt's own connection.
     InputFocus focus_;
     const xcb_atom_t shadow_;
     const xcb_atom_t skipCloseAnimation_;
     BlurEffect blur_;
+    QSize nativeSize_; ///< Of the last placement, in device pixels.
+    std::optional<ServerPicture> firstPicture_;
+    WindowFade fade_;
     Listeners<> showThroughListeners_;
     Listeners<> underPointerListeners_;
     bool underPointer_ = false;
     std::optional<QPainterPath> outline_;
     double scale_ = 1; ///< Device pixels per logical pixel on the monitor of the last placement.
-    xcb_connection_t* qt_; ///< Qt's own connection.
     xcb_window_t id_ = XCB_WINDOW_NONE;
     const std::vector<xcb_atom_t> restackingNotices_;
     Handle compositorSubscription_;

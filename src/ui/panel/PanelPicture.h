@@ -1,0 +1,49 @@
+#pragma once
+
+#include "base/Handle.h"
+
+#include <QObject>
+#include <QQuickItemGrabResult>
+#include <QSharedPointer>
+
+class QQuickWindow;
+
+namespace ravelo {
+
+class AgingRows;
+class NotchController;
+class PanelState;
+class PanelWindow;
+class Scheduler;
+
+/// Keeps a picture of the closed panel's content with the panel's window, so that opening shows
+/// something before anything is rendered. Main thread.
+class PanelPicture : public QObject {
+    Q_OBJECT
+
+public:
+    /// All outlive this.
+    struct Services {
+        QQuickWindow& window;
+        PanelWindow& panel;
+        const NotchController& controller;
+        PanelState& state;
+        AgingRows& rows; ///< The list that the panel usually opens with.
+        Scheduler& scheduler;
+    };
+
+    explicit PanelPicture(Services services);
+
+    /// Something that the panel shows has changed: the picture is made again when nothing changes
+    /// any more.
+    void refreshSoon();
+
+private:
+    void make();
+
+    Services services_;
+    Handle waiting_;
+    QSharedPointer<QQuickItemGrabResult> making_;
+};
+
+} // namespace ravelo
