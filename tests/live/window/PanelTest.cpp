@@ -62,6 +62,32 @@ TEST_F(PanelTest, ComesAboveWhenAskedAndWhenTheWindowManagerHasNewWindows) {
         << "i3 changes nothing else";
 }
 
+TEST_F(PanelTest, ShowsItsFirstPictureBeforeAnythingIsDrawn) {
+    const x11::Monitor& monitor = *screens.monitor(u"DUMMY0"_s);
+    // The pixel in the middle in this size, while no event of Qt's is handled.
+    const auto shown = [&](QSizeF size) {
+        panel.place(monitor.screen, size);
+        const QRect expected = topCentre(monitor, size);
+        for (int asked = 0; asked < 1000 && server.geometry(id()) != expected; ++asked) {
+        }
+        const x11::Owned<xcb_get_image_reply_t> reply(xcb_get_image_reply(
+            server.get(),
+            xcb_get_image(server.get(), XCB_IMAGE_FORMAT_Z_PIXMAP, id(),
+                          static_cast<int16_t>(expected.width() / 2),
+                          static_cast<int16_t>(expected.height() / 2), 1, 1, ~0U),
+            nullptr));
+        return reply ? *reinterpret_cast<const QRgb*>(xcb_get_image_data(reply.get())) : 1;
+    };
+    show(u"DUMMY0"_s, {200, 12});
+    const QSizeF size(400, 300);
+    const QRgb color = qRgba(20, 40, 60, 200);
+    QImage picture((size * monitor.scale).toSize(), QImage::Format_ARGB32_Premultiplied);
+    picture.fill(color);
+    ASSERT_TRUE(panel.setFirstPicture(picture));
+    EXPECT_EQ(shown(size), color);
+    EXPECT_EQ(shown({401, 300}), 0U) << "a picture of another size";
+}
+
 /// A body of 360x200 with a top edge of 400, as the panel has it.
 QPainterPath flaredOutline() {
     QPainterPath outline;
