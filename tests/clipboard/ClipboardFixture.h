@@ -36,7 +36,9 @@ inline QHash<QString, QByteArray> byType(const QList<PasteboardEntry>& forms) {
 
 /// A manager with its pasteboard, store and worker.
 struct ClipboardWorld {
-    ClipboardWorld() {
+    /// Unlike most, this pasteboard does not always report changes.
+    explicit ClipboardWorld(bool reportsAll = false) {
+        pasteboard.reportsAll = reportsAll;
         pasteboard.offerText(u"there before the start"_s);
         manager.emplace(store, pasteboard, scheduler, jobs);
         manager->start();

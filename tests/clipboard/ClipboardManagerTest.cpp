@@ -4,6 +4,8 @@
 #include <QFile>
 #include <QUrl>
 
+#include <random>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -87,6 +89,42 @@ TEST_F(Clipboard, readsNothingConcealed) {
     pasteboard.offer({text("pass"), {u"image/png"_s, picture("png")}, secret});
     settle();
     EXPECT_EQ(pasteboard.asked(), QStringList{secret.type}) << "only the mark itself was read";
+}
+
+TEST(ReportedChanges, makePollingUnnecessary) {
+    ClipboardWorld reporting(true);
+    ClipboardWorld polling;
+    for (ClipboardWorld* world : {&reporting, &polling}) {
+        world->settle();
+    }
+    EXPECT_LT(reporting.scheduler.pending(), polling.scheduler.pending()) << "it polls, too";
+    const Happening happenings[] = {by(one, abc),
+                                    by(other, abc),
+                                    by(one, png),
+                                    by(other, {text("x")}),
+                                    by({3, PasteboardOwner::Kind::manager}, png),
+                                    lose,
+                                    later(0.2),
+                                    later(3),
+                                    deleteNewest,
+                                    pinNewest,
+                                    [](ClipboardWorld& on) { on.pasteboard.release(); },
+                                    clearAll};
+    std::mt19937 random(20261126);
+    for (int step = 0; step < 120; ++step) {
+        const Happening& happening = happenings[random() % std::size(happenings)];
+        for (ClipboardWorld* world : {&reporting, &polling}) {
+            if (!world->store.clips().isEmpty()) {
+                happening(*world);
+            } else {
+                by(one, abc)(*world);
+            }
+            world->settle();
+        }
+        ASSERT_EQ(reporting.texts(), polling.texts()) << "after step " << step;
+        ASSERT_EQ(byType(reporting.pasteboard.contents()), byType(polling.pasteboard.contents()))
+            << "after step " << step;
+    }
 }
 
 TEST_F(Clipboard, pollsIfChangesAreNotReported) {

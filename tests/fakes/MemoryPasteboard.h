@@ -13,7 +13,7 @@ public:
 
     [[nodiscard]] qint64 changeCount() const override { return changeCount_; }
 
-    [[nodiscard]] bool reportsChanges() const override { return notifies; }
+    [[nodiscard]] bool reportsChanges() const override { return reportsAll; }
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) override;
     [[nodiscard]] Handle read(PasteboardPlan plan,
@@ -57,6 +57,9 @@ public:
 
     /// Whether the end of an owner can be distinguished from clearing.
     bool knowsDeaths = true;
+
+    /// Whether it promises to report every change.
+    bool reportsAll = true;
 
     /// Whether changes by others are reported at once or found only by polling.
     bool notifies = true;

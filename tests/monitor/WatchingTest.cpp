@@ -127,7 +127,7 @@ TEST_F(WatchingTest, doesNextToNothingAtRest) {
     for (int i = 0; i < 720; ++i) {
         pass(tick);
     }
-    EXPECT_LE(woken_.jobs.given - before, 2 * 12 + 10) << "looks in an hour, and questions";
+    EXPECT_LE(woken_.jobs.given - before, 12 * 5) << "every five minutes, five files";
     EXPECT_LE(updates, 60 + 12) << "once for each minute that is shown, and after each look";
 }
 
