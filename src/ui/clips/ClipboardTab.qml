@@ -103,12 +103,24 @@ TabPage {
         }
     }
 
-    // Clips copied while this was hidden have moved the rows down.
+    // Clips copied while this is hidden move the rows down.
+    function begin() {
+        list.currentIndex = Math.min(rowOf(0), list.count - 1);
+        stopScrolling();
+        list.showTop();
+    }
+
     onShownChanged: {
         if (shown) {
-            list.currentIndex = Math.min(rowOf(0), list.count - 1);
-            stopScrolling();
-            list.showTop();
+            begin();
+        }
+    }
+
+    Connections {
+        target: tab.clips.list
+        enabled: !tab.shown
+        function onRowsInserted() {
+            tab.begin();
         }
     }
 

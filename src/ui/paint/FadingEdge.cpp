@@ -10,6 +10,18 @@ QRect devicePixels(const QPainter& painter, const QRectF& rect) {
     return painter.deviceTransform().mapRect(rect).toAlignedRect();
 }
 
+/// Windows are painted as images, pictures of items as pixmaps.
+QImage copyOf(const QPaintDevice& target, const QRect& place) {
+    switch (target.devType()) {
+    case QInternal::Image:
+        return static_cast<const QImage&>(target).copy(place);
+    case QInternal::Pixmap:
+        return static_cast<const QPixmap&>(target).copy(place).toImage();
+    default:
+        return {};
+    }
+}
+
 /// Painted above the children.
 class Cover final : public PaintedItem {
 public:
@@ -88,12 +100,8 @@ QLinearGradient FadingEdge::mask() const {
 }
 
 void FadingEdge::paint(QPainter& painter) {
-    if (painter.device()->devType() != QInternal::Image) {
-        return;
-    }
     // The cover repaints exactly the same area at the same time.
-    const auto& target = *static_cast<QImage*>(painter.device());
-    *behind_ = target.copy(devicePixels(painter, strip()))
+    *behind_ = copyOf(*painter.device(), devicePixels(painter, strip()))
                    .convertToFormat(QImage::Format_ARGB32_Premultiplied);
     behind_->setDevicePixelRatio(1);
 }
