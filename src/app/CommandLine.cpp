@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "app/Commands.h"
+#include "app/DisplayChoice.h"
 
 #include <QHash>
 
@@ -32,6 +33,10 @@ Result<Command> parseOption(const QList<QByteArray>& arguments) {
     const auto found = options.constFind(arguments.first());
     if (found == options.cend()) {
         return failure(u"unknown argument: "_s + QString::fromUtf8(arguments.first()));
+    }
+    if (found->kind == Kind::showVersion && arguments.size() == 2 &&
+        arguments.at(1) == "--verbose") {
+        return Command{Kind::showDetails, {}, {}, {}};
     }
     if (arguments.size() > 1) {
         return failure(u"one argument is enough: "_s + QString::fromUtf8(arguments.at(1)));
@@ -106,7 +111,8 @@ screen. Move the pointer there to open it; click elsewhere to close it.
   --store-usage  keep what standard input tells of the plan's usage, in the form in
                  which Claude Code tells its status line
   -h, --help     show this help
-  -v, --version  show the version
+  -v, --version  show the version; with --verbose also which display server Ravelo
+                 would use here, and why
 
 Started a second time, Ravelo opens the panel of the one that is running.
 
@@ -131,14 +137,22 @@ The rest speaks to the Ravelo that is running:
 The exit status is 0 where it is done, 1 where it could not be done or no Ravelo
 is running, 2 where the command makes no sense.
 
-It needs an X11 session. In a Wayland session it runs through XWayland, with less:
-the panel opens only under a pointer or a drag on its own handle and closes when
-the pointer leaves it, and the compositor may give it no keyboard to type with.
+Ravelo runs on X11, and on Wayland compositors with layer shell and data control
+(sway, labwc, KWin and others); on others through XWayland, where the panel opens
+only under a pointer or a drag on its own handle and closes when the pointer leaves
+it, copies of programs that are not X11 programs may go unseen, and the compositor
+may give it no keyboard. RAVELO_PLATFORM=x11 or =wayland chooses one.
 )"_s;
 }
 
 QString versionText() {
     return u"Ravelo " RAVELO_VERSION "\n"_s;
+}
+
+QString detailsText() {
+    const auto choice = chooseDisplay();
+    const QString display = choice ? describe(*choice) : u"none (%1)"_s.arg(choice.error().message);
+    return versionText() + u"Display server: %1\n"_s.arg(display);
 }
 
 } // namespace ravelo

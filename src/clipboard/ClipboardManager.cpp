@@ -199,7 +199,8 @@ void ClipboardManager::offerAgain() {
         return;
     }
     const ClipItem* clip = find(held_->id);
-    if (clip == nullptr) {
+    const bool mayBeCleared = pasteboard_.orphans() == Pasteboard::Orphans::orCleared;
+    if (clip == nullptr || (mayBeCleared && mayBePassword(*clip))) {
         return;
     }
     const auto offer = [this, weak = std::weak_ptr(held_)](const Forms& forms) {

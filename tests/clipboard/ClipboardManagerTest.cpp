@@ -220,10 +220,13 @@ void clearPasteboard(Clipboard& on) {
     on.pasteboard.release();
 }
 
-void hideDeaths(Clipboard& on) {
-    on.pasteboard.knowsDeaths = false;
+void confuseEndAndClearing(Clipboard& on) {
+    on.pasteboard.orphansAre = Pasteboard::Orphans::orCleared;
 }
 
+const QList<PasteboardEntry> words = {text("two words")};
+const QList<PasteboardEntry> longWord = {text(QByteArray(128, 'a').constData())};
+const QList<PasteboardEntry> longPassword = {text(QByteArray(127, 'a').constData())};
 const QList<PasteboardEntry> kept = {text("kept by the desktop")};
 
 INSTANTIATE_TEST_SUITE_P(
@@ -243,7 +246,11 @@ INSTANTIATE_TEST_SUITE_P(
         LossCase{"namedAsTheImageIs", png, {by(one, {text("Image")}), lose}, {}},
         LossCase{"passedOnFirst", png, {by(other, png), lose}},
         LossCase{"cleared", abc, {clearPasteboard}, {}},
-        LossCase{"perhapsCleared", abc, {hideDeaths, lose}, {}},
+        LossCase{"perhapsAClearedPassword", abc, {confuseEndAndClearing, clearPasteboard}, {}},
+        LossCase{"perhapsALongOne", longPassword, {confuseEndAndClearing, lose}, {}},
+        LossCase{"noPassword", words, {confuseEndAndClearing, lose}},
+        LossCase{"noPasswordIsSoLong", longWord, {confuseEndAndClearing, lose}},
+        LossCase{"imageIsNoPassword", png, {confuseEndAndClearing, lose}},
         LossCase{"takenOver", abc, {loseUnseen, offering(kept)}, kept, 3},
         LossCase{"deleted", abc, {deleteNewest, lose}, {}, 1},
         LossCase{"clearedThoughPinned", abc, {pinNewest, clearAll, lose}, {}, 1}),

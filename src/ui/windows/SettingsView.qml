@@ -99,7 +99,19 @@ TitledPage {
         color: Theme.text4
     }
 
+    Label {
+        objectName: "display"
+        x: 34
+        y: parent.height - 23
+        width: quit.x - x - 10
+        text: view.host.display
+        elide: Text.ElideRight
+        style: Theme.small
+        color: Theme.text4
+    }
+
     CapsuleButton {
+        id: quit
         objectName: "quit"
         x: parent.width - 20 - width
         y: parent.height - 46

@@ -1,0 +1,77 @@
+#include "platform/wayland/PrepareApplication.h"
+
+#include "base/ProcessSetup.h"
+#include "platform/wayland/clipboard/DataControl.h"
+#include "platform/wayland/window/LayerRole.h"
+
+#include <QCoreApplication>
+#include <QThread>
+
+#include <cstdlib>
+
+namespace ravelo::wayland {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+QtMessageHandler handlerBefore = nullptr;
+
+/// When the compositor is gone, Qt says so and calls _exit(), which saves nothing. So the program
+/// ends here, by exit().
+void endInOrder(QtMsgType type, const QMessageLogContext& context, const QString& text) {
+    handlerBefore(type, context, text);
+    if (!text.startsWith("The Wayland connection"_L1)) {
+        return;
+    }
+    static bool ending = false;
+    const auto end = [] {
+        if (!std::exchange(ending, true)) {
+            std::exit(EXIT_FAILURE);
+        }
+    };
+    if (QThread::currentThread() == qApp->thread()) {
+        end();
+    } else { // Qt also reads on threads of its own.
+        QMetaObject::invokeMethod(qApp, end, Qt::BlockingQueuedConnection);
+    }
+}
+
+} // namespace
+
+Result<void> findCompositor() {
+    const QString name = qEnvironmentVariable("WAYLAND_DISPLAY");
+    if (name.isEmpty() && !qEnvironmentVariableIsSet("WAYLAND_SOCKET")) {
+        return failure(u"WAYLAND_DISPLAY is not set"_s);
+    }
+    if (name.isEmpty()) {
+        return failure(u"WAYLAND_SOCKET allows for one connection only"_s);
+    }
+    const Connection connection(wl_display_connect(nullptr));
+    if (!connection) {
+        return failure(u"cannot connect to the Wayland compositor "_s + name);
+    }
+    const Globals globals(connection.get());
+    if (!globals.has(zwlr_layer_shell_v1_interface.name)) {
+        return failure(u"the Wayland compositor has no layer shell"_s);
+    }
+    if (!DataControl::isOffered(globals)) {
+        return failure(u"the Wayland compositor has no data control"_s);
+    }
+    return {};
+}
+
+Handle prepareApplication() {
+    constexpr auto useBypass = "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT";
+    Handle before =
+        keptVariables({"QT_QPA_PLATFORM", "QT_WAYLAND_RECONNECT", useBypass});
+    qputenv("QT_QPA_PLATFORM", "wayland");
+    qputenv(useBypass, "1");             // Such windows get no role by Qt: the panel has its own.
+    qunsetenv("QT_WAYLAND_RECONNECT");   // Nothing of ours would be there after that.
+    drawAtOnce();
+    keepFreedMemory();
+    handlerBefore = qInstallMessageHandler(endInOrder);
+    return before;
+}
+
+} // namespace ravelo::wayland
