@@ -114,7 +114,9 @@ void ClipboardThread::runTasks() {
 bool ClipboardThread::sleep() {
     wl_display* const display = connection_.get();
     while (wl_display_prepare_read(display) != 0) {
-        wl_display_dispatch_pending(display);
+        if (wl_display_dispatch_pending(display) < 0) {
+            return false;
+        }
     }
     wl_display_flush(display);
     std::vector<pollfd> waits = {{wl_display_get_fd(display), POLLIN, 0},
