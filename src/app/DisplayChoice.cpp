@@ -10,9 +10,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 Result<DisplayChoice> onWayland(const QString& reason) {
-    return wayland::findCompositor().map([&] {
-        return DisplayChoice{Display::wayland, reason};
-    });
+    return wayland::findCompositor().map([&] { return DisplayChoice{Display::wayland, reason}; });
 }
 
 Result<DisplayChoice> onX11(const QString& reason) {

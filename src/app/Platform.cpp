@@ -168,8 +168,8 @@ Handle Platform::prepareApplication(Display display) {
     return {};
 }
 
-Result<Platform> Platform::make(const DisplayChoice& choice,
-                                const QProcessEnvironment& environment, HoverTick::Rest rest) {
+Result<Platform> Platform::make(const DisplayChoice& choice, const QProcessEnvironment& environment,
+                                HoverTick::Rest rest) {
     Platform platform;
     platform.scheduler = std::make_unique<SystemScheduler>();
     platform.displayText = describe(choice);

@@ -96,8 +96,8 @@ public:
     /// that write: `changeCount` may have moved on already.
     virtual qint64 write(const QList<PasteboardEntry>& forms) = 0;
 
-    /// Which contents count as orphaned. Some display servers cannot distinguish the end of an owner
-    /// from clearing.
+    /// Which contents count as orphaned. Some display servers cannot distinguish the end of an
+    /// owner from clearing.
     enum class Orphans { ofEndedOwners, orCleared };
     [[nodiscard]] virtual Orphans orphans() const = 0;
 

@@ -46,8 +46,8 @@ std::string makeFolder() {
                                     "exec echo \"$WAYLAND_DISPLAY $SWAYSOCK\" >&"
                                  << report << '\n';
     if (const passwd* user = otherUser();
-        user != nullptr && (setgroups(0, nullptr) != 0 || setgid(user->pw_gid) != 0 ||
-                            setuid(user->pw_uid) != 0)) {
+        user != nullptr &&
+        (setgroups(0, nullptr) != 0 || setgid(user->pw_gid) != 0 || setuid(user->pw_uid) != 0)) {
         _exit(126);
     }
     prctl(PR_SET_PDEATHSIG, SIGTERM); // After the change of user, which resets it.

@@ -37,8 +37,8 @@ struct PanelDesk {
 
     /// The part of the outputs that is red, in the pixels of all of them.
     [[nodiscard]] static QRect redPart() {
-        const QByteArray picture = output("grim", {QStringLiteral("-t"), QStringLiteral("ppm"),
-                                                   QStringLiteral("-")});
+        const QByteArray picture =
+            output("grim", {QStringLiteral("-t"), QStringLiteral("ppm"), QStringLiteral("-")});
         const qsizetype start = picture.indexOf("\n255\n") + 5;
         const QByteArray header = picture.first(start);
         const int width = header.mid(header.indexOf('\n') + 1).split(' ').first().toInt();

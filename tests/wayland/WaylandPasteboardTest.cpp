@@ -53,9 +53,8 @@ protected:
     }
 
     void readText() {
-        readings_.push_back(board_.read(text(), [this](const PasteboardSnapshot& snapshot) {
-            snapshots_.append(snapshot);
-        }));
+        readings_.push_back(board_.read(
+            text(), [this](const PasteboardSnapshot& snapshot) { snapshots_.append(snapshot); }));
     }
 
     [[nodiscard]] QByteArrayList texts() const {

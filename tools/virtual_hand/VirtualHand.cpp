@@ -107,14 +107,14 @@ int main() {
         return 1;
     }
     Hand hand;
-    const wl_registry_listener listener = {bindGlobal, [](void*, wl_registry*, uint32_t) {}};
+    const wl_registry_listener listener = {bindGlobal, [](void*, wl_registry*, uint32_t) {
+                                           }};
     wl_registry_add_listener(wl_display_get_registry(display), &listener, &hand);
     wl_display_roundtrip(display);
     if (hand.seat == nullptr || hand.pointers == nullptr || hand.keyboards == nullptr) {
         return 1;
     }
-    hand.pointer =
-        zwlr_virtual_pointer_manager_v1_create_virtual_pointer(hand.pointers, hand.seat);
+    hand.pointer = zwlr_virtual_pointer_manager_v1_create_virtual_pointer(hand.pointers, hand.seat);
     hand.keyboard =
         zwp_virtual_keyboard_manager_v1_create_virtual_keyboard(hand.keyboards, hand.seat);
     setKeymap(hand.keyboard);

@@ -34,8 +34,8 @@ std::unique_ptr<WindowFrame> WaylandDisplayServer::windowFrame(QWindow& /*window
 }
 
 std::unique_ptr<HotZone> WaylandDisplayServer::hotZone(Scheduler& scheduler, PanelWindow& window) {
-    return std::make_unique<WaylandHotZone>(
-        scheduler, screens_, static_cast<WaylandPanelWindow&>(window), *surfaces_);
+    return std::make_unique<WaylandHotZone>(scheduler, screens_,
+                                            static_cast<WaylandPanelWindow&>(window), *surfaces_);
 }
 
 } // namespace ravelo::wayland

@@ -62,7 +62,9 @@ public:
 private:
     static constexpr qsizetype maxTypes = 512;
 
-    [[nodiscard]] static DataControlOf& of(void* self) { return *static_cast<DataControlOf*>(self); }
+    [[nodiscard]] static DataControlOf& of(void* self) {
+        return *static_cast<DataControlOf*>(self);
+    }
 
     void select(Offer* offer) {
         drop(std::exchange(current_, offer));

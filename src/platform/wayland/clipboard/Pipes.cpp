@@ -97,9 +97,10 @@ std::optional<PipeResult> Pipes::progress(Read& read) {
             return tl::unexpected(PipeFailure{PipeFailure::tooLarge, read.bytes.size()});
         }
     }
-    return Clock::now() < read.deadline ? std::nullopt
-                                        : std::optional<PipeResult>(tl::unexpected(PipeFailure{
-                                              PipeFailure::tooSlow, read.bytes.size()}));
+    return Clock::now() < read.deadline
+               ? std::nullopt
+               : std::optional<PipeResult>(
+                     tl::unexpected(PipeFailure{PipeFailure::tooSlow, read.bytes.size()}));
 }
 
 bool Pipes::isDone(Write& write) {

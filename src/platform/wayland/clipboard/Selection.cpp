@@ -47,12 +47,13 @@ std::shared_ptr<Selection> Selection::create(ClipboardThread& thread,
                                              std::function<void()> changed) {
     const std::shared_ptr<Selection> self(
         new Selection(thread, std::move(count), std::move(changed)));
-    thread.control().listen(
-        {[self](const auto& types) { self->update(types); },
-         [self](qint64 offer, const QByteArray& type, Descriptor into) {
-             self->send(offer, type, std::move(into));
-         },
-         [self](qint64 offer) { self->lose(offer); }});
+    thread.control().listen({[self](const auto& types) { self->update(types); },
+                             [self](qint64 offer, const QByteArray& type, Descriptor into) {
+                                 self->send(offer, type, std::move(into));
+                             },
+                             [self](qint64 offer) {
+                                 self->lose(offer);
+                             }});
     return self;
 }
 
@@ -87,9 +88,9 @@ void Selection::read(Key key, qint64 count, PasteboardPlan plan, OfferReading::D
         const auto reading = readings_.extract(key); // Until this has returned.
         done(std::move(snapshot));
     };
-    const auto reading = std::make_shared<OfferReading>(
-        thread_.control(), thread_.pipes(), types_.value_or(DataControl::Types()), std::move(known),
-        std::move(plan), finish);
+    const auto reading = std::make_shared<OfferReading>(thread_.control(), thread_.pipes(),
+                                                        types_.value_or(DataControl::Types()),
+                                                        std::move(known), std::move(plan), finish);
     readings_.emplace(key, reading);
     reading->begin();
 }

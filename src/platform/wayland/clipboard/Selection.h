@@ -22,6 +22,7 @@ public:
     /// Reads the contents that were counted as `count`, or does nothing if there are newer ones.
     /// They may be unfinished when others come: then `done` is not called.
     void read(Key key, qint64 count, PasteboardPlan plan, OfferReading::Done done);
+
     void cancel(Key key) { readings_.erase(key); }
 
     enum class Over { anything, nothing };

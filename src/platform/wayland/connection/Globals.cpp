@@ -34,9 +34,8 @@ void Globals::added(void* self, wl_registry* /*registry*/, uint32_t name, const 
 
 void Globals::removed(void* self, wl_registry* /*registry*/, uint32_t name) {
     auto& globals = *static_cast<Globals*>(self);
-    if (std::erase_if(globals.found_, [name](const auto& global) {
-            return global.second.name == name;
-        }) > 0) {
+    if (std::erase_if(globals.found_,
+                      [name](const auto& global) { return global.second.name == name; }) > 0) {
         globals.listeners_.notify();
     }
 }

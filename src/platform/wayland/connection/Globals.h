@@ -29,7 +29,9 @@ using Owned = std::unique_ptr<Object, Release<Object>>;
 #define RAVELO_OWNED(Object, function)                                                             \
     template <>                                                                                    \
     struct Release<Object> {                                                                       \
-        void operator()(Object* object) const { function(object); }                                \
+        void operator()(Object* object) const {                                                    \
+            function(object);                                                                      \
+        }                                                                                          \
     };
 
 RAVELO_OWNED(wl_registry, wl_registry_destroy)
@@ -52,9 +54,7 @@ public:
     /// One round trip. `display` must outlive this; events of others are not dispatched meanwhile.
     explicit Globals(wl_display* display);
 
-    [[nodiscard]] bool has(const QByteArray& interface) const {
-        return found_.contains(interface);
-    }
+    [[nodiscard]] bool has(const QByteArray& interface) const { return found_.contains(interface); }
 
     /// Null if the compositor has no such thing. `version` is the latest that we can handle.
     template <typename Object>

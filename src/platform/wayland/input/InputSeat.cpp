@@ -23,17 +23,24 @@ const wl_seat_listener InputSeat::seatEvents = {
 const wl_pointer_listener InputSeat::pointerEvents = [] {
     wl_pointer_listener events{};
     events.enter = [](void* self, wl_pointer*, uint32_t, wl_surface* surface, wl_fixed_t,
-                      wl_fixed_t) { of(self).move(surface); };
-    events.leave = [](void* self, wl_pointer*, uint32_t, wl_surface*) { of(self).move(nullptr); };
-    events.motion = [](void*, wl_pointer*, uint32_t, wl_fixed_t, wl_fixed_t) {};
+                      wl_fixed_t) {
+        of(self).move(surface);
+    };
+    events.leave = [](void* self, wl_pointer*, uint32_t, wl_surface*) {
+        of(self).move(nullptr);
+    };
+    events.motion = [](void*, wl_pointer*, uint32_t, wl_fixed_t, wl_fixed_t) {
+    };
     events.button = [](void* self, wl_pointer*, uint32_t, uint32_t, uint32_t, uint32_t state) {
         if (state == WL_POINTER_BUTTON_STATE_PRESSED) {
             of(self).press();
         }
     };
-    events.axis = [](void*, wl_pointer*, uint32_t, uint32_t, wl_fixed_t) {};
+    events.axis = [](void*, wl_pointer*, uint32_t, uint32_t, wl_fixed_t) {
+    };
     return events;
 }();
+
 // NOLINTEND(clang-diagnostic-missing-designated-field-initializers)
 
 InputSeat::InputSeat(const Globals& globals) : seat_(globals.bind<wl_seat>(wl_seat_interface, 3)) {

@@ -13,9 +13,9 @@ void BlurBehind::update() {
         return;
     }
     blur_.reset();
-    manager_.reset(offered ? globals_.bind<org_kde_kwin_blur_manager>(
-                                 org_kde_kwin_blur_manager_interface, 1)
-                           : nullptr);
+    manager_.reset(
+        offered ? globals_.bind<org_kde_kwin_blur_manager>(org_kde_kwin_blur_manager_interface, 1)
+                : nullptr);
     listeners_.notify();
 }
 

@@ -17,8 +17,7 @@ std::unique_ptr<InvisiblePixel> InvisiblePixel::create(const Globals& globals) {
     if (!made->viewporter_ || !memory || !file || ftruncate(file.number(), pixelBytes) != 0) {
         return nullptr;
     }
-    const Owned<wl_shm_pool> pool(
-        wl_shm_create_pool(memory.get(), file.number(), pixelBytes));
+    const Owned<wl_shm_pool> pool(wl_shm_create_pool(memory.get(), file.number(), pixelBytes));
     made->buffer_.reset(
         wl_shm_pool_create_buffer(pool.get(), 0, 1, 1, pixelBytes, WL_SHM_FORMAT_ARGB8888));
     return made;
@@ -29,10 +28,12 @@ InvisibleSurface::InvisibleSurface(const InvisiblePixel& pixel, zwlr_layer_shell
     : pixel_(pixel),
       surface_(wl_compositor_create_surface(qt::compositor())),
       viewport_(wp_viewporter_get_viewport(pixel.viewporter(), surface_.get())),
-      role_(std::make_unique<LayerRole>(
-          shell, *surface_, output, size, Keyboard::none,
-          LayerRole::Events{[this](QSize given) { configure(given); },
-                            [this] { wl_surface_attach(surface_.get(), nullptr, 0, 0); }})) {
+      role_(std::make_unique<LayerRole>(shell, *surface_, output, size, Keyboard::none,
+                                        LayerRole::Events{[this](QSize given) { configure(given); },
+                                                          [this] {
+                                                              wl_surface_attach(surface_.get(),
+                                                                                nullptr, 0, 0);
+                                                          }})) {
     wl_surface_commit(surface_.get());
     wl_display_flush(qt::display());
 }

@@ -49,7 +49,7 @@ private:
     Owned<wl_surface> surface_;
     Owned<wp_viewport> viewport_;
     std::unique_ptr<LayerRole> role_; // Before the surface in destruction.
-    QSize size_; ///< Empty until the compositor has answered.
+    QSize size_;                      ///< Empty until the compositor has answered.
     QRegion hole_;
     QSize box_;
 };

@@ -88,8 +88,7 @@ void WaylandHotZone::makeStrips() {
     });
     for (const Screen& screen : screens) {
         if (screen.id != window_.screen() && !strips_.contains(screen.id)) {
-            if (auto strip =
-                    surfaces_.makeInvisible(WaylandScreens::find(screen.id), stripSize)) {
+            if (auto strip = surfaces_.makeInvisible(WaylandScreens::find(screen.id), stripSize)) {
                 strips_.emplace(screen.id, std::move(strip));
             }
         }

@@ -99,9 +99,12 @@ void WaylandPanelWindow::show() {
     window_.setScreen(screen);
     window_.resize(surfaceSize_);
     window_.create();
-    role_ = std::make_unique<LayerRole>(
-        surfaces_.shell(), *qt::surface(window_), qt::output(screen), surfaceSize_, keyboard_,
-        LayerRole::Events{[this](QSize size) { configure(size); }, [this] { showAgainSoon(); }});
+    role_ = std::make_unique<LayerRole>(surfaces_.shell(), *qt::surface(window_),
+                                        qt::output(screen), surfaceSize_, keyboard_,
+                                        LayerRole::Events{[this](QSize size) { configure(size); },
+                                                          [this] {
+                                                              showAgainSoon();
+                                                          }});
     commit();
 }
 

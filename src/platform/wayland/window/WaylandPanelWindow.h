@@ -90,7 +90,7 @@ private:
     Keyboard keyboard_ = Keyboard::none;
     bool underPointer_ = false;
     std::shared_ptr<DragOffer> dragOffer_;
-    std::unique_ptr<LayerRole> role_; ///< While it is shown.
+    std::unique_ptr<LayerRole> role_;                               ///< While it is shown.
     std::map<QString, std::unique_ptr<InvisibleSurface>> catchers_; ///< By the ids of screens.
     Listeners<> underPointerListeners_;
     Listeners<HotZone::Press> pressListeners_;
