@@ -62,10 +62,8 @@ Result<void> findCompositor() {
 }
 
 Handle prepareApplication() {
-    constexpr auto useBypass = "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT";
-    Handle before = keptVariables({"QT_QPA_PLATFORM", "QT_WAYLAND_RECONNECT", useBypass});
+    Handle before = keptVariables({"QT_QPA_PLATFORM", "QT_WAYLAND_RECONNECT"});
     qputenv("QT_QPA_PLATFORM", "wayland");
-    qputenv(useBypass, "1");           // Such windows get no role by Qt: the panel has its own.
     qunsetenv("QT_WAYLAND_RECONNECT"); // Nothing of ours would be there after that.
     drawAtOnce();
     keepFreedMemory();
