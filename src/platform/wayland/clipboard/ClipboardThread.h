@@ -44,7 +44,7 @@ public:
     /// The thread only.
     [[nodiscard]] Pipes& pipes() { return pipes_; }
 
-    /// Handles everything that the compositor has sent so far. The thread only.
+    /// Handles everything that the compositor has sent so far. Before `start`, or on the thread.
     void catchUp();
 
 private:

@@ -54,6 +54,8 @@ std::shared_ptr<Selection> Selection::create(ClipboardThread& thread,
                              [self](qint64 offer) {
                                  self->lose(offer);
                              }});
+    thread.catchUp(); // What is there already is no change.
+    self->isStarted_ = true;
     return self;
 }
 
@@ -68,6 +70,9 @@ void Selection::update(const std::optional<DataControl::Types>& types) {
     readings_.clear(); // They were with another owner.
     types_ = types;
     isOwn_ = types_ && types_->removeAll(mark_) > 0;
+    if (!isStarted_) {
+        return;
+    }
     if (isOwn_ && !offers_.empty()) {
         count_->settle(offers_.rbegin()->first);
     } else if (!isOwn_ && (types_ ? count_->countForeign() : count_->countEmptied())) {
