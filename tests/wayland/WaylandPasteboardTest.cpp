@@ -3,7 +3,7 @@
 
 #include <QTimer>
 
-#include <latch>
+#include <future>
 
 namespace ravelo::live {
 namespace {
@@ -89,9 +89,10 @@ TEST_F(WaylandPasteboardTest, seesEachOfTwentyCopies) {
 }
 
 TEST_F(WaylandPasteboardTest, aHungOwnerCostsNoMoreThanItsTimeOut) {
-    std::latch end(1);
+    std::promise<void> end;
     other_.pasteboard.write({{plainTextType, "never given"}});
-    other_.thread->post([&] { end.wait(); }); // After the write.
+    // After the write.
+    other_.thread->post([ended = end.get_future().share()] { ended.wait(); });
     const StallGauge gauge;
     EXPECT_TRUE(eventually([&] { return !snapshots_.isEmpty(); }));
     EXPECT_EQ(texts(), QByteArrayList{"nothing"});
@@ -102,7 +103,7 @@ TEST_F(WaylandPasteboardTest, aHungOwnerCostsNoMoreThanItsTimeOut) {
     EXPECT_TRUE(eventually([&] { return snapshots_.size() == 2; }));
     EXPECT_EQ(texts().last(), "next") << "the copy that came while the hung one was read";
     EXPECT_LT(gauge.longestStallMs(), 50) << "the main thread waited";
-    end.count_down();
+    end.set_value();
 }
 
 TEST_F(WaylandPasteboardTest, givesUpWhatIsTooLarge) {
