@@ -65,6 +65,8 @@ Handle prepareApplication() {
     Handle before = keptVariables({"QT_QPA_PLATFORM", "QT_WAYLAND_RECONNECT"});
     qputenv("QT_QPA_PLATFORM", "wayland");
     qunsetenv("QT_WAYLAND_RECONNECT"); // Nothing of ours would be there after that.
+    // Windows with that hint get no role by Qt: the panel has its own. Qt looks at every frame.
+    qputenv("QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT", "1");
     drawAtOnce();
     keepFreedMemory();
     handlerBefore = qInstallMessageHandler(endInOrder);

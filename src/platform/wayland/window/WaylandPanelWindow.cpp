@@ -1,6 +1,5 @@
 #include "platform/wayland/window/WaylandPanelWindow.h"
 
-#include "base/ProcessSetup.h"
 #include "platform/wayland/connection/QtConnection.h"
 #include "platform/wayland/input/MimeDragOffer.h"
 #include "platform/wayland/screens/WaylandScreens.h"
@@ -31,15 +30,6 @@ constexpr std::chrono::milliseconds returnTime(50);
 /// Even, as most screens are: half pixels on both sides would blur it.
 int evenWidth(int width) {
     return width + width % 2;
-}
-
-/// While it lives, Qt gives no role to windows with Qt::BypassWindowManagerHint. Programs that we
-/// start must not inherit that.
-Handle rolelessWindows() {
-    constexpr auto name = "QT_WAYLAND_USE_BYPASSWINDOWMANAGERHINT";
-    Handle before = keptVariables({name});
-    qputenv(name, "1");
-    return before;
 }
 
 } // namespace
@@ -106,7 +96,6 @@ void WaylandPanelWindow::show() {
     if (!wanted_ || role_ || screen == nullptr) {
         return; // Without a screen: the next one will be reported.
     }
-    const Handle roleless = rolelessWindows();
     window_.setScreen(screen);
     window_.resize(surfaceSize_);
     window_.create();
@@ -131,7 +120,6 @@ void WaylandPanelWindow::hide() {
 void WaylandPanelWindow::configure(QSize size) {
     window_.resize(size);
     applyOutline();
-    const Handle roleless = rolelessWindows();
     window_.show();
     window_.requestUpdate(); // The compositor waits for a frame even if the size is the same.
 }
