@@ -103,9 +103,7 @@ TitledPage {
         objectName: "display"
         x: 34
         y: parent.height - 23
-        width: quit.x - x - 10
         text: view.host.display
-        elide: Text.ElideRight
         style: Theme.small
         color: Theme.text4
     }

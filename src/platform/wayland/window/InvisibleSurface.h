@@ -31,7 +31,7 @@ private:
 /// shows nothing. Main thread.
 class InvisibleSurface {
 public:
-    /// A null size spans the output. `pixel` and `shell` must outlive this.
+    /// `size` may be `wholeOutput`. `pixel` and `shell` must outlive this.
     InvisibleSurface(const InvisiblePixel& pixel, zwlr_layer_shell_v1& shell, wl_output* output,
                      QSize size);
 

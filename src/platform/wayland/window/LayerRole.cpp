@@ -31,7 +31,7 @@ LayerRole::LayerRole(zwlr_layer_shell_v1& shell, wl_surface& surface, wl_output*
       role_(zwlr_layer_shell_v1_get_layer_surface(&shell, &surface, output,
                                                   ZWLR_LAYER_SHELL_V1_LAYER_OVERLAY, "ravelo")) {
     zwlr_layer_surface_v1_add_listener(role_.get(), &listener, this);
-    zwlr_layer_surface_v1_set_anchor(role_.get(), size.isNull() ? allEdges : topEdge);
+    zwlr_layer_surface_v1_set_anchor(role_.get(), size == wholeOutput ? allEdges : topEdge);
     zwlr_layer_surface_v1_set_exclusive_zone(role_.get(), overBars);
     resize(size);
     setKeyboard(keyboard);

@@ -22,6 +22,9 @@ using LayerShell = Owned<zwlr_layer_shell_v1>;
 
 enum class Keyboard { none, exclusive };
 
+/// As a size: from edge to edge.
+inline constexpr QSize wholeOutput(0, 0);
+
 /// Makes a wl_surface part of the desktop: in the overlay layer, at the top edge of an output, over
 /// the space of bars. Main thread.
 class LayerRole {
@@ -34,7 +37,7 @@ public:
         std::function<void()> closed;
     };
 
-    /// A null size spans the whole output. `surface` must have neither a role nor a buffer and
+    /// `size` may be `wholeOutput`. `surface` must have neither a role nor a buffer and
     /// outlive this; `output` may be null: the compositor chooses.
     LayerRole(zwlr_layer_shell_v1& shell, wl_surface& surface, wl_output* output, QSize size,
               Keyboard keyboard, Events events);

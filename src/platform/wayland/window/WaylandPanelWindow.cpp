@@ -219,7 +219,7 @@ void WaylandPanelWindow::pressedOutside() {
 /// So that click goes to us.
 void WaylandPanelWindow::catchPresses() {
     for (QScreen* const screen : QGuiApplication::screens()) {
-        if (auto catcher = surfaces_.makeInvisible(screen, {})) {
+        if (auto catcher = surfaces_.makeInvisible(screen, wholeOutput)) {
             catchers_[screen->name()] = std::move(catcher);
         }
     }
