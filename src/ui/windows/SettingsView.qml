@@ -99,10 +99,13 @@ TitledPage {
         color: Theme.text4
     }
 
-    Label {
+    Paragraph {
         objectName: "display"
         x: 34
         y: parent.height - 23
+        width: quit.x - x - 10
+        maximumLineCount: 1
+        elide: Text.ElideRight
         text: view.host.display
         style: Theme.small
         color: Theme.text4
