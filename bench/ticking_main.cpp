@@ -9,11 +9,11 @@
 using namespace ravelo;
 
 int main(int argc, char** argv) {
-    const auto display = Platform::choose();
+    const auto display = chooseDisplay();
     if (!display) {
         return 1;
     }
-    Handle preparation = Platform::prepareApplication(*display);
+    Handle preparation = Platform::prepareApplication(display->display);
     const QApplication application(argc, argv);
     preparation.reset();
     const auto instance = SingleInstance::claim();

@@ -227,7 +227,7 @@ void AppDelegate::provideWindows() {
                                           return platform_.display->windowFrame(window);
                                       }};
     settingsWindow_ = std::make_unique<SettingsWindow>(
-        SettingsWindow::Subjects{beside, *store_, *settings_, quitLater});
+        SettingsWindow::Subjects{beside, *store_, *settings_, quitLater, platform_.displayText});
     onboarding_ =
         std::make_unique<OnboardingController>(beside, *settings_, platform_.display->screens());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());

@@ -1,6 +1,7 @@
 #include "app/CommandLine.h"
 
 #include "app/Commands.h"
+#include "app/DisplayChoice.h"
 
 #include <QHash>
 
@@ -32,6 +33,10 @@ Result<Command> parseOption(const QList<QByteArray>& arguments) {
     const auto found = options.constFind(arguments.first());
     if (found == options.cend()) {
         return failure(u"unknown argument: "_s + QString::fromUtf8(arguments.first()));
+    }
+    if (found->kind == Kind::showVersion && arguments.size() == 2 &&
+        arguments.at(1) == "--verbose") {
+        return Command{Kind::showDetails, {}, {}, {}};
     }
     if (arguments.size() > 1) {
         return failure(u"one argument is enough: "_s + QString::fromUtf8(arguments.at(1)));
@@ -107,7 +112,8 @@ screen. Move the pointer there to open it; click elsewhere to close it.
   --store-usage  read the input of a Claude Code status line from standard input
                  and store the plan's usage
   -h, --help     show this help
-  -v, --version  show the version
+  -v, --version  show the version; with --verbose also which display server Ravelo
+                 would use here, and why
 
 If Ravelo is already running, starting it again opens the panel.
 
@@ -132,14 +138,22 @@ These commands need a running Ravelo:
 The exit status is 0 on success, 1 on failure or if Ravelo is not running, and 2
 for an invalid command.
 
-Ravelo needs an X11 session. In a Wayland session it runs through XWayland, with
-limitations: the panel opens only if the pointer or a drag is on its own handle,
-closes when the pointer leaves it, and may not get the keyboard.
+Ravelo runs on X11, and on Wayland compositors with layer shell and data control
+(sway, labwc, KWin and others). On others it runs through XWayland, with limitations:
+the panel opens only if the pointer or a drag is on its own handle, closes when the
+pointer leaves it, and may not get the keyboard, and copies of programs that are not
+X11 programs may go unseen. RAVELO_PLATFORM=x11 or =wayland chooses one.
 )"_s;
 }
 
 QString versionText() {
     return u"Ravelo " RAVELO_VERSION "\n"_s;
+}
+
+QString detailsText() {
+    const auto choice = chooseDisplay();
+    const QString display = choice ? describe(*choice) : u"none (%1)"_s.arg(choice.error().message);
+    return versionText() + u"Display server: %1\n"_s.arg(display);
 }
 
 } // namespace ravelo

@@ -10,7 +10,7 @@ namespace ravelo {
 
 /// A parsed command line.
 struct Command {
-    enum class Kind { showHelp, showVersion, storeUsage, ask };
+    enum class Kind { showHelp, showVersion, showDetails, storeUsage, ask };
     /// What to do if no Ravelo runs. `start` alone completes the request; what is asked
     /// for with `readFiles` is answered from files as far as possible.
     enum class IfNoneRuns { fail, start, startAndAsk, readFiles };
@@ -29,5 +29,8 @@ struct Command {
 
 [[nodiscard]] QString helpText();
 [[nodiscard]] QString versionText();
+
+/// The version, and which display server would be used here.
+[[nodiscard]] QString detailsText();
 
 } // namespace ravelo

@@ -11,6 +11,7 @@
 #include "platform/freedesktop/LoginSession.h"
 #include "platform/freedesktop/LoginShutDown.h"
 #include "platform/freedesktop/PackageKit.h"
+#include "platform/freedesktop/PortalSetting.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
 #include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
@@ -28,6 +29,9 @@
 #include "platform/system/SystemPrograms.h"
 #include "platform/system/SystemScheduler.h"
 #include "platform/system/WorkerThread.h"
+#include "platform/wayland/PrepareApplication.h"
+#include "platform/wayland/WaylandDisplayServer.h"
+#include "platform/wayland/WaylandTrayArea.h"
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
 #include "store/Store.h"
@@ -77,6 +81,22 @@ Result<void> connectX11(Platform& platform, HoverTick::Rest rest) {
                             scheduler = platform.scheduler.get()](PanelWindow& window) {
         return std::make_unique<PointerHotZone>(*scheduler, server.screens(), server.pointer(),
                                                 window, rest);
+    };
+    platform.display = std::move(*created);
+    return {};
+}
+
+Result<void> connectWayland(Platform& platform) {
+    auto created = wayland::WaylandDisplayServer::create();
+    if (!created) {
+        return tl::unexpected(created.error());
+    }
+    wayland::WaylandDisplayServer& server = **created;
+    platform.motion = std::make_unique<PortalMotionPreference>(sessionBus());
+    platform.iconPreference = std::make_unique<PortalIconPreference>(sessionBus());
+    platform.trayArea = std::make_unique<wayland::WaylandTrayArea>();
+    platform.makeHotZone = [&server, scheduler = platform.scheduler.get()](PanelWindow& window) {
+        return server.hotZone(*scheduler, window);
     };
     platform.display = std::move(*created);
     return {};
@@ -139,32 +159,28 @@ Platform::Platform() = default;
 Platform::Platform(Platform&&) noexcept = default;
 Platform::~Platform() = default;
 
-Result<Platform::Display> Platform::choose() {
-    const QString wanted = qEnvironmentVariable("RAVELO_PLATFORM");
-    if (!wanted.isEmpty() && wanted != "x11"_L1) {
-        return failure(wanted == "wayland"_L1
-                           ? u"RAVELO_PLATFORM: this version cannot use Wayland directly"_s
-                           : u"RAVELO_PLATFORM must be x11 or wayland, not \"%1\""_s.arg(wanted));
-    }
-    return x11::findDisplay().map([] { return Display::x11; });
-}
-
 Handle Platform::prepareApplication(Display display) {
     switch (display) {
     case Display::x11:
         return x11::prepareApplication();
+    case Display::wayland:
+        return wayland::prepareApplication();
     }
     return {};
 }
 
-Result<Platform> Platform::make(Display display, const QProcessEnvironment& environment,
+Result<Platform> Platform::make(const DisplayChoice& choice, const QProcessEnvironment& environment,
                                 HoverTick::Rest rest) {
     Platform platform;
     platform.scheduler = std::make_unique<SystemScheduler>();
+    platform.displayText = describe(choice);
     Result<void> connected;
-    switch (display) {
+    switch (choice.display) {
     case Display::x11:
         connected = connectX11(platform, rest);
+        break;
+    case Display::wayland:
+        connected = connectWayland(platform);
         break;
     }
     if (!connected) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "app/DisplayChoice.h"
 #include "base/Handle.h"
 #include "base/Result.h"
 #include "panel/HoverTick.h"
@@ -47,20 +48,13 @@ class Worker;
 /// The adapters that the program runs on in this session. This is the only place that chooses them.
 /// Main thread.
 struct Platform {
-    /// Kinds of display server.
-    enum class Display { x11 };
-
-    /// The display server in RAVELO_PLATFORM, or else the available one. The error is for the user.
-    /// Call before the application object is created.
-    [[nodiscard]] static Result<Display> choose();
-
     /// Sets environment variables that Qt reads when the application object is created. Drop the
     /// handle after that: programs that we start must not inherit them.
     [[nodiscard]] static Handle prepareApplication(Display display);
 
     /// Connects to everything. `environment` is passed to the user's own programs. The error is for
     /// the user.
-    [[nodiscard]] static Result<Platform> make(Display display,
+    [[nodiscard]] static Result<Platform> make(const DisplayChoice& choice,
                                                const QProcessEnvironment& environment,
                                                HoverTick::Rest rest = HoverTick::Rest::whenStill);
 
@@ -76,6 +70,7 @@ struct Platform {
     Platform& operator=(Platform&&) = delete;
     ~Platform();
 
+    QString displayText; ///< Which display server this is, and why, for the user.
     std::unique_ptr<DisplayServer> display;
     std::function<std::unique_ptr<HotZone>(PanelWindow&)> makeHotZone;
     std::unique_ptr<DataLock> dataLock;

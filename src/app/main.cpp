@@ -79,12 +79,12 @@ std::optional<int> askElsewhere(const QStringList& request, char** argv) {
 int run(const Command& command, char** argv) {
     const QByteArray token = activationToken(); // Qt removes it from the environment.
     const auto environment = QProcessEnvironment::systemEnvironment(); // Ours is changed next.
-    const auto display = Platform::choose();
+    const auto display = chooseDisplay();
     if (!display) {
         complain(display.error().message);
         return EXIT_FAILURE;
     }
-    Handle preparation = Platform::prepareApplication(*display);
+    Handle preparation = Platform::prepareApplication(display->display);
     const std::jthread fonts = readFontConfiguration();
     const bool isRestored = command.request.value(0) == "restore"_L1;
     // The status item needs widgets.
@@ -158,6 +158,8 @@ int main(int argc, char** argv) {
         return print(helpText().toUtf8());
     case Command::Kind::showVersion:
         return print(versionText().toUtf8());
+    case Command::Kind::showDetails:
+        return print(detailsText().toUtf8());
     case Command::Kind::storeUsage:
         return report(storeUsageFromInput());
     case Command::Kind::ask:

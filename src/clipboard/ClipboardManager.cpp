@@ -26,6 +26,13 @@ QList<PasteboardEntry> imageForms(const QString& path) {
                                   : QList<PasteboardEntry>();
 }
 
+/// Password managers clear what they have copied, and some do not mark it.
+bool mayBePassword(const ClipItem& clip) {
+    constexpr qsizetype longest = 127;
+    return clip.kind != ClipKind::image && clip.text.size() <= longest &&
+           std::ranges::none_of(clip.text, [](QChar letter) { return letter.isSpace(); });
+}
+
 } // namespace
 
 ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
@@ -204,7 +211,8 @@ void ClipboardManager::offerAgain() {
         return;
     }
     const ClipItem* clip = find(held_->id);
-    if (clip == nullptr) {
+    const bool mayBeCleared = pasteboard_.orphans() == Pasteboard::Orphans::orCleared;
+    if (clip == nullptr || (mayBeCleared && mayBePassword(*clip))) {
         return;
     }
     const auto offer = [this, weak = std::weak_ptr(held_)](const Forms& forms) {

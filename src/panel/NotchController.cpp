@@ -94,8 +94,10 @@ void NotchController::guardEdge(const HotZone::Sight& sight) {
 
 void NotchController::evaluateOpen(const HotZone::Sight& sight) {
     if (sight.inZone || sight.nearPanel) {
+        awaitsPointer_ = false;
         closeWork_.reset();
-    } else if (services_.zone.reportsPressesElsewhere() || !closeWork_) {
+    } else if (services_.zone.reportsPressesElsewhere() ||
+               !(closeWork_ || awaitsPointer_ || draggingOut_)) {
         scheduleClose();
     }
 }
@@ -292,6 +294,7 @@ void NotchController::positionExpanded() {
         return;
     }
     isOpen_ = true;
+    awaitsPointer_ = !sight.inZone && !sight.nearPanel;
     placeExpanded(*sight.screen); // First: what is shown is laid out for the frame.
     Q_EMIT isOpenChanged();
     services_.window.orderFront();

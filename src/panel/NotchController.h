@@ -182,6 +182,7 @@ private:
     Services services_;
 
     bool isOpen_ = false;
+    bool awaitsPointer_ = false; ///< Opened by a request; it has not been hovered over yet.
     Collapsed collapsed_;
     QRectF frame_;
     int stripTicks_ = 0;       ///< Sights in a row with the pointer in the zone while collapsed.

@@ -69,6 +69,8 @@ TEST(CommandLine, NamesTheInvalidArgument) {
         {{"--nonsense"}, u"--nonsense"_s},
         {{"-session"}, u"-session"_s},
         {{"--quit", "now"}, u"now"_s},
+        {{"--version", "--quiet"}, u"--quiet"_s},
+        {{"--quit", "--verbose"}, u"--verbose"_s},
         {{"a", "--toggle"}, u"--toggle"_s},
         {{"--"}, u"no files"_s},
         {{"timer"}, u"timer; there is timer start, timer stop, timer status"_s},

@@ -240,10 +240,13 @@ void clearPasteboard(ClipboardWorld& on) {
     on.pasteboard.release();
 }
 
-void hideDeaths(ClipboardWorld& on) {
-    on.pasteboard.knowsDeaths = false;
+void confuseEndAndClearing(ClipboardWorld& on) {
+    on.pasteboard.orphansAre = Pasteboard::Orphans::orCleared;
 }
 
+const QList<PasteboardEntry> words = {text("two words")};
+const QList<PasteboardEntry> longWord = {text(QByteArray(128, 'a').constData())};
+const QList<PasteboardEntry> longPassword = {text(QByteArray(127, 'a').constData())};
 const QList<PasteboardEntry> kept = {text("kept by the desktop")};
 
 TEST(Loss, offersAgainOnlyWhatItsOwnerTookAlong) {
@@ -272,7 +275,11 @@ TEST(Loss, offersAgainOnlyWhatItsOwnerTookAlong) {
         {"namedAsTheImageIs", png, {by(one, {text("Image")}), lose}, {}},
         {"passedOnFirst", png, {by(other, png), lose}},
         {"cleared", abc, {clearPasteboard}, {}},
-        {"perhapsCleared", abc, {hideDeaths, lose}, {}},
+        {"perhapsAClearedPassword", abc, {confuseEndAndClearing, clearPasteboard}, {}},
+        {"perhapsALongOne", longPassword, {confuseEndAndClearing, lose}, {}},
+        {"noPassword", words, {confuseEndAndClearing, lose}},
+        {"noPasswordIsSoLong", longWord, {confuseEndAndClearing, lose}},
+        {"imageIsNoPassword", png, {confuseEndAndClearing, lose}},
         {"takenOver", abc, {loseUnseen, offering(kept)}, kept, 3},
         {"deleted", abc, {deleteNewest, lose}, {}, 1},
         {"clearedThoughPinned", abc, {pinNewest, clearAll, lose}, {}, 1}};

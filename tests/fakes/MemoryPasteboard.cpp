@@ -76,6 +76,10 @@ void MemoryPasteboard::offerSilence() {
 }
 
 void MemoryPasteboard::release() {
+    if (orphansAre == Orphans::orCleared) {
+        loseOwner();
+        return;
+    }
     replace({});
     notify();
 }
@@ -83,10 +87,8 @@ void MemoryPasteboard::release() {
 void MemoryPasteboard::loseOwner() {
     const qint64 lost = changeCount_;
     replace({});
-    if (knowsDeaths) {
-        orphaned_ = lost;
-        lastEnd_ = {lost, scheduler_.uptime()};
-    }
+    orphaned_ = lost;
+    lastEnd_ = {lost, scheduler_.uptime()};
     notify();
 }
 

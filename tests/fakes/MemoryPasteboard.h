@@ -20,6 +20,8 @@ public:
                               std::function<void(PasteboardSnapshot)> done) override;
     qint64 write(const QList<PasteboardEntry>& forms) override;
 
+    [[nodiscard]] Orphans orphans() const override { return orphansAre; }
+
     [[nodiscard]] std::optional<qint64> orphaned() const override { return orphaned_; }
 
     [[nodiscard]] std::optional<qint64> adopt(const QList<PasteboardEntry>& forms) override;
@@ -55,8 +57,7 @@ public:
     /// The owner ends, and its contents are gone.
     void loseOwner();
 
-    /// Whether the end of an owner can be distinguished from clearing.
-    bool knowsDeaths = true;
+    Orphans orphansAre = Orphans::ofEndedOwners;
 
     /// Whether it promises to report every change.
     bool reportsAll = true;

@@ -197,6 +197,23 @@ TEST(NotchController, theWindowsOwnHoverIsUsedIfThePointerPositionIsUnknown) {
     EXPECT_FALSE(world.controller.isOpen()) << "nothing else would ever close it";
 }
 
+TEST(NotchController, openedByRequestItWaitsForAPointerWhosePlaceIsUnknown) {
+    PanelWorld world;
+    world.pointer.location = std::nullopt;
+    world.controller.toggle();
+    world.scheduler.advance(Seconds(60));
+    EXPECT_TRUE(world.controller.isOpen()) << "nobody has hovered over it yet";
+    world.window.setUnderPointer(true);
+    world.scheduler.advance(tick);
+    world.controller.setDraggingOut(true);
+    world.window.setUnderPointer(false);
+    world.scheduler.advance(Seconds(60));
+    EXPECT_TRUE(world.controller.isOpen()) << "files are being dragged out of it";
+    world.controller.setDraggingOut(false);
+    world.scheduler.advance(Seconds(0.5));
+    EXPECT_FALSE(world.controller.isOpen());
+}
+
 TEST(NotchController, showsABarWhileATimerRunsOrRemindersAreShown) {
     PanelWorld world;
     world.store.startTimer(u"Deep work"_s, 25);

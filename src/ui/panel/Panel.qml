@@ -44,9 +44,15 @@ Item {
         onDropped: drop => answer(drop, panel.controller.onDrop())
     }
 
+    // In the middle of a window that is wider than the panel. Until it has grown, at its left.
+    function centred(width: double): double {
+        return Math.max(0, Math.floor((panel.width - width) / 2));
+    }
+
     // Not the window's size: the window shrinks shortly after the panel closed.
     HandleView {
         objectName: "handle"
+        x: panel.centred(width)
         width: panel.controller.collapsedSize.width
         height: panel.controller.collapsedSize.height
         visible: !slot.open && !panel.controller.showsBar
@@ -56,6 +62,7 @@ Item {
     TimerBarView {
         id: bar
         objectName: "bar"
+        x: panel.centred(width)
         width: panel.controller.collapsedSize.width
         height: panel.controller.collapsedSize.height
         visible: !slot.open && panel.controller.showsBar
@@ -85,7 +92,7 @@ Item {
     ContentSlot {
         id: slot
         objectName: "content"
-        // Not centred: the window may still have the handle's width.
+        x: panel.centred(width)
         focus: true
         panelState: panel.panelState
         open: panel.controller.isOpen

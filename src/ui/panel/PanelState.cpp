@@ -63,7 +63,7 @@ void PanelState::setReducedMotion(bool reduced) {
 
 void PanelState::windowResized(QSizeF size) {
     if (controller_.isOpen()) {
-        setContentSize(size);
+        setContentSize(size.boundedTo(controller_.frame().size())); // Windows may be wider.
     }
 }
 

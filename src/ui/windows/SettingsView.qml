@@ -99,7 +99,20 @@ TitledPage {
         color: Theme.text4
     }
 
+    Paragraph {
+        objectName: "display"
+        x: 34
+        y: parent.height - 23
+        width: quit.x - x - 10
+        maximumLineCount: 1
+        elide: Text.ElideRight
+        text: view.host.display
+        style: Theme.small
+        color: Theme.text4
+    }
+
     CapsuleButton {
+        id: quit
         objectName: "quit"
         x: parent.width - 20 - width
         y: parent.height - 46

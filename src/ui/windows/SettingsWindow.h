@@ -18,6 +18,7 @@ class SettingsWindow : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(ravelo::AppSettings* settings READ settings CONSTANT)
+    Q_PROPERTY(QString display READ display CONSTANT)
     Q_PROPERTY(int clipCount READ clipCount NOTIFY clipsChanged)
 
 public:
@@ -27,12 +28,15 @@ public:
         Store& store;
         AppSettings& settings;
         std::function<void()> quit; ///< Quits the program, asynchronously.
+        QString display;            ///< Which display server is in use, and why.
     };
 
     explicit SettingsWindow(Subjects subjects);
     ~SettingsWindow() override;
 
     [[nodiscard]] AppSettings* settings() const { return &subjects_.settings; }
+
+    [[nodiscard]] const QString& display() const { return subjects_.display; }
 
     [[nodiscard]] int clipCount() const;
 

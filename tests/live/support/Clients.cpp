@@ -38,8 +38,8 @@ QByteArray Client::readLine() {
     return process_.readLine().trimmed();
 }
 
-void Client::poke() {
-    process_.write("\n");
+void Client::write(const QByteArray& line) {
+    process_.write(line + '\n');
 }
 
 QByteArray Client::finish() {

@@ -23,8 +23,11 @@ public:
     /// Runs the event loop until the client has written another line, and returns it.
     [[nodiscard]] QByteArray readLine();
 
-    /// Lets it do its next step: writes a line to its standard input.
-    void poke();
+    /// Writes a line to its standard input.
+    void write(const QByteArray& line);
+
+    /// Lets it do its next step, by an empty line.
+    void poke() { write({}); }
 
     [[nodiscard]] qint64 processId() const { return process_.processId(); }
 

@@ -34,9 +34,11 @@ public:
     [[nodiscard]] QJsonValue kept(const QString& key) const { return world.preferences.value(key); }
 
     int quits = 0;
-    SettingsWindow settings{{{view.window()}, world.store, world.settings, [this] {
-                                 ++quits;
-                             }}};
+    SettingsWindow settings{{{view.window()},
+                             world.store,
+                             world.settings,
+                             [this] { ++quits; },
+                             QStringLiteral("X11 (for a reason)")}};
     OnboardingController setup{{view.window()}, world.settings, world.screens};
 };
 

@@ -37,6 +37,8 @@ public:
     /// change.
     qint64 write(const QList<PasteboardEntry>& forms) override;
 
+    [[nodiscard]] Orphans orphans() const override { return Orphans::ofEndedOwners; }
+
     [[nodiscard]] std::optional<qint64> orphaned() const override { return counter_->orphaned(); }
 
     [[nodiscard]] std::optional<qint64> adopt(const QList<PasteboardEntry>& forms) override;

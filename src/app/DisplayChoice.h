@@ -1,0 +1,24 @@
+#pragma once
+
+#include "base/Result.h"
+
+#include <QString>
+
+namespace ravelo {
+
+/// Kinds of display server.
+enum class Display { x11, wayland };
+
+struct DisplayChoice {
+    Display display;
+    QString reason; ///< In the middle of a sentence.
+};
+
+/// Which display server to use: what RAVELO_PLATFORM names, or else what there is, Wayland first.
+/// The error is for the user. Before the application object.
+[[nodiscard]] Result<DisplayChoice> chooseDisplay();
+
+/// For the user: "Wayland (the reason)".
+[[nodiscard]] QString describe(const DisplayChoice& choice);
+
+} // namespace ravelo

@@ -1,0 +1,40 @@
+#pragma once
+
+#include "platform/wayland/input/DropTarget.h"
+#include "platform/wayland/input/InputSeat.h"
+#include "platform/wayland/window/BlurBehind.h"
+#include "platform/wayland/window/InvisibleSurface.h"
+
+class QScreen;
+
+namespace ravelo::wayland {
+
+/// What surfaces are made of, and what is reported about them, all on Qt's connection. Main thread.
+class Surfaces {
+public:
+    /// An error if the compositor has no layer shell. `thread` must outlive this.
+    [[nodiscard]] static Result<std::unique_ptr<Surfaces>> create(ClipboardThread& thread);
+
+    [[nodiscard]] zwlr_layer_shell_v1& shell() { return *shell_; }
+
+    [[nodiscard]] BlurBehind& blur() { return blur_; }
+
+    [[nodiscard]] InputSeat& seat() { return seat_; }
+
+    [[nodiscard]] DropTarget& drops() { return drops_; }
+
+    /// See InvisibleSurface; null if the compositor cannot do it.
+    [[nodiscard]] std::unique_ptr<InvisibleSurface> makeInvisible(QScreen* screen, QSize size);
+
+private:
+    Surfaces(std::unique_ptr<Globals> globals, LayerShell shell, ClipboardThread& thread);
+
+    std::unique_ptr<Globals> globals_;
+    LayerShell shell_;
+    std::unique_ptr<InvisiblePixel> pixel_; ///< Or null.
+    BlurBehind blur_;
+    InputSeat seat_;
+    DropTarget drops_;
+};
+
+} // namespace ravelo::wayland

@@ -1,0 +1,265 @@
+#include "platform/wayland/window/WaylandPanelWindow.h"
+
+#include "platform/wayland/connection/QtConnection.h"
+#include "platform/wayland/input/MimeDragOffer.h"
+#include "platform/wayland/screens/WaylandScreens.h"
+#include "platform/wayland/window/Strip.h"
+
+#include <QDragEnterEvent>
+#include <QGuiApplication>
+#include <QScreen>
+#include <QSurfaceFormat>
+#include <QTimer>
+#include <QTransform>
+#include <QWindow>
+
+#include <algorithm>
+#include <chrono>
+#include <utility>
+
+namespace ravelo::wayland {
+
+namespace {
+
+/// Enough for any usual panel.
+constexpr int usualWidth = 1024;
+
+/// A compositor that has not taken the keyboard back by then keeps it here.
+constexpr std::chrono::milliseconds returnTime(50);
+
+/// Even, as most screens are: half pixels on both sides would blur it.
+int evenWidth(int width) {
+    return width + width % 2;
+}
+
+} // namespace
+
+WaylandPanelWindow::WaylandPanelWindow(QWindow& window, Surfaces& surfaces)
+    : window_(window),
+      surfaces_(surfaces),
+      surfaceSize_(usualWidth, stripSize.height()),
+      catcherSubscription_(surfaces.seat().onChange([this](auto change, wl_surface* surface) {
+          const auto isIt = [surface](const auto& catcher) {
+              return catcher.second->surface() == surface;
+          };
+          if (change == InputSeat::Change::pressed && std::ranges::any_of(catchers_, isIt)) {
+              pressedOutside();
+          }
+      })),
+      blurSubscription_(surfaces.blur().onChange([this] { applyOutline(); })) {
+    window_.setFlags(Qt::BypassWindowManagerHint | Qt::FramelessWindowHint); // Gets no role by Qt.
+    QSurfaceFormat format = window_.requestedFormat();
+    format.setAlphaBufferSize(8);
+    window_.setFormat(format);
+    window_.installEventFilter(this);
+    connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this](const QScreen* gone) {
+        if (gone->name() == screen_) {
+            hide(); // Not every compositor reports that it is closed.
+        }
+    });
+}
+
+WaylandPanelWindow::~WaylandPanelWindow() {
+    hide();
+}
+
+void WaylandPanelWindow::place(const Screen& screen, QSizeF size) {
+    size_ = size.toSize();
+    const QSize surface(std::max(surfaceSize_.width(), evenWidth(size_.width())),
+                        std::max(stripSize.height(), size_.height()));
+    if (std::exchange(surfaceSize_, surface) != surface && role_) {
+        role_->resize(surface);
+        commit();
+    }
+    moveTo(screen.id);
+}
+
+void WaylandPanelWindow::moveTo(const QString& screen) {
+    if (std::exchange(screen_, screen) != screen) {
+        hide();
+    }
+    show();
+}
+
+void WaylandPanelWindow::orderFront() {
+    wanted_ = true;
+    show();
+}
+
+void WaylandPanelWindow::orderOut() {
+    wanted_ = false;
+    hide();
+}
+
+void WaylandPanelWindow::show() {
+    QScreen* const screen = WaylandScreens::find(screen_);
+    if (!wanted_ || role_ || screen == nullptr) {
+        return; // Without a screen: the next one will be reported.
+    }
+    window_.setScreen(screen);
+    window_.resize(surfaceSize_);
+    window_.create();
+    role_ = std::make_unique<LayerRole>(surfaces_.shell(), *qt::surface(window_),
+                                        qt::output(screen), surfaceSize_, keyboard_,
+                                        LayerRole::Events{[this](QSize size) { configure(size); },
+                                                          [this] {
+                                                              showAgainSoon();
+                                                          }});
+    commit();
+}
+
+void WaylandPanelWindow::hide() {
+    catchers_.clear();
+    surfaces_.blur().forget();
+    role_.reset(); // Before its surface.
+    window_.hide();
+    window_.destroy();
+    setUnderPointer(false);
+}
+
+void WaylandPanelWindow::configure(QSize size) {
+    window_.resize(size);
+    applyOutline();
+    window_.show();
+    window_.requestUpdate(); // The compositor waits for a frame even if the size is the same.
+}
+
+/// The output may be gone, or return.
+void WaylandPanelWindow::showAgainSoon() {
+    hide();
+    QTimer::singleShot(0, this, [this] { show(); });
+}
+
+void WaylandPanelWindow::setOutline(const QPainterPath& outline) {
+    outline_ = outline;
+    applyOutline();
+}
+
+PanelWindow::ShowThrough WaylandPanelWindow::showThrough() const {
+    return surfaces_.blur().isOffered() ? ShowThrough::blurred : ShowThrough::sharp;
+}
+
+Handle WaylandPanelWindow::onShowThroughChange(std::function<void()> callback) {
+    return surfaces_.blur().onChange(std::move(callback));
+}
+
+void WaylandPanelWindow::requestFocus(const QByteArray& /*activationToken*/) {
+    setKeyboard(Keyboard::exclusive);
+    catchPresses();
+}
+
+void WaylandPanelWindow::returnFocus() {
+    catchers_.clear();
+    setKeyboard(Keyboard::none);
+    if (QGuiApplication::focusWindow() != &window_) {
+        return;
+    }
+    QTimer::singleShot(returnTime, this, [this] {
+        // KWin gives it to another window only if this one goes.
+        if (QGuiApplication::focusWindow() == &window_ && keyboard_ == Keyboard::none && role_) {
+            hide();
+            show();
+        }
+    });
+}
+
+void WaylandPanelWindow::setKeyboard(Keyboard keyboard) {
+    if (std::exchange(keyboard_, keyboard) != keyboard && role_) {
+        role_->setKeyboard(keyboard);
+        commit();
+    }
+}
+
+bool WaylandPanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::Enter:
+        setUnderPointer(true);
+        break;
+    case QEvent::DragEnter:
+        enterDrag(*event);
+        setUnderPointer(true);
+        break;
+    case QEvent::Leave:
+    case QEvent::DragLeave:
+        setUnderPointer(false);
+        break;
+    case QEvent::MouseButtonPress:
+        pressListeners_.notify(HotZone::Press::onPanel);
+        break;
+    case QEvent::FocusOut:
+        if (wantsKeyboard()) {
+            pressedOutside();
+        }
+        break;
+    default:
+        break;
+    }
+    return false;
+}
+
+void WaylandPanelWindow::enterDrag(QEvent& event) {
+    dragOffer_ = surfaces_.drops().over(qt::surface(window_));
+    if (!dragOffer_) {
+        dragOffer_ =
+            std::make_shared<MimeDragOffer>(static_cast<QDragEnterEvent&>(event).mimeData());
+    }
+}
+
+void WaylandPanelWindow::setUnderPointer(bool under) {
+    if (std::exchange(underPointer_, under) != under) {
+        underPointerListeners_.notify();
+    }
+}
+
+void WaylandPanelWindow::pressedOutside() {
+    pressListeners_.notify(HotZone::Press::elsewhere);
+}
+
+/// A layer surface that has the keyboard keeps it when another window is clicked, and is not told.
+/// So that click goes to us.
+void WaylandPanelWindow::catchPresses() {
+    for (QScreen* const screen : QGuiApplication::screens()) {
+        if (auto catcher = surfaces_.makeInvisible(screen, wholeOutput)) {
+            catchers_[screen->name()] = std::move(catcher);
+        }
+    }
+    keepPressesOnPanel();
+}
+
+void WaylandPanelWindow::keepPressesOnPanel() {
+    if (const auto above = catchers_.find(screen_); above != catchers_.end()) {
+        above->second->setHole(inputRegion(), surfaceSize_);
+    }
+}
+
+void WaylandPanelWindow::applyOutline() {
+    wl_surface* const surface = role_ ? qt::surface(window_) : nullptr;
+    if (surface == nullptr) {
+        return;
+    }
+    window_.setMask(inputRegion());
+    surfaces_.blur().apply(*surface, outlineRegion());
+    commit();
+    keepPressesOnPanel();
+}
+
+void WaylandPanelWindow::commit() {
+    wl_surface_commit(qt::surface(window_));
+    wl_display_flush(qt::display());
+}
+
+QRect WaylandPanelWindow::panelRect() const {
+    return {QPoint((surfaceSize_.width() - size_.width()) / 2, 0), size_};
+}
+
+QRegion WaylandPanelWindow::outlineRegion() const {
+    const QPolygonF polygon = outline_.toFillPolygon(QTransform());
+    return QRegion(polygon.toPolygon(), Qt::WindingFill).translated(panelRect().topLeft());
+}
+
+QRegion WaylandPanelWindow::inputRegion() const {
+    const int left = (surfaceSize_.width() - stripSize.width()) / 2;
+    return outlineRegion() + QRect(QPoint(left, 0), stripSize);
+}
+
+} // namespace ravelo::wayland

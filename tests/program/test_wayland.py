@@ -1,0 +1,116 @@
+"""Tests of the whole program on a private Wayland desktop.
+
+The build passes RAVELO (the program) and VIRTUAL_HAND (its pointer and keyboard).
+"""
+
+import os
+import pathlib
+import signal
+import sys
+import unittest
+
+sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
+from desktop import wait_for  # noqa: E402
+from sway import HERE, WIDTH, SwayDesktop, WaylandRavelo  # noqa: E402
+
+FIRST_ROW, ROW = (WIDTH // 2 - 200, 300), 40
+
+
+class WaylandCase(unittest.TestCase):
+    def setUp(self):
+        self.desktop = self.enterContext(SwayDesktop(os.environ["VIRTUAL_HAND"]))
+        self.window = self.desktop.show_background()
+        self.desktop.move(640, 700)
+        self.ravelo = WaylandRavelo(self.desktop, os.environ["RAVELO"]).start()
+
+    def tearDown(self):
+        self.assertEqual(self.ravelo.complaints(), [], "warnings by the program")
+
+    def wait_for_texts(self, *texts):
+        wait_for(lambda: self.ravelo.texts()[:len(texts)] == list(texts),
+                 lambda: f"{texts} as the newest clips, not {self.ravelo.texts()}")
+
+
+class WaylandClipboard(WaylandCase):
+    def test_copies_of_native_programs_are_kept_and_copied_back(self):
+        self.desktop.copy_text("from wl-copy, ✓")
+        self.wait_for_texts("from wl-copy, ✓")
+        self.desktop.copy_text("https://www.debian.org/")
+        self.wait_for_texts("https://www.debian.org/")
+        self.desktop.copy_text("secret", "x-kde-passwordManagerHint")
+        for key in ("a", "b", "ctrl+a", "ctrl+c"):  # In GTK's text field.
+            self.desktop.key(key)
+        self.wait_for_texts("ab", "https://www.debian.org/")
+        self.desktop.copy_text("the last one")
+        self.wait_for_texts("the last one", "ab", "https://www.debian.org/")
+        self.ravelo.open()
+        self.desktop.click(FIRST_ROW[0], FIRST_ROW[1] + 2 * ROW)
+        wait_for(lambda: self.desktop.paste_text() == "https://www.debian.org/",
+                 "the third clip on the clipboard")
+        self.assertEqual(self.ravelo.texts().count("https://www.debian.org/"), 1)
+
+    def test_contents_outlive_their_owner(self):
+        copier = self.desktop.spawn("wl-copy", "--foreground", "two words")
+        self.wait_for_texts("two words")
+        copier.kill()
+        wait_for(lambda: self.desktop.paste_text() == "two words", "the text offered again")
+
+    def test_nothing_is_lost_when_the_compositor_dies(self):
+        self.desktop.copy_text("before")
+        self.wait_for_texts("before")
+        self.desktop.copy_text("at the last moment")
+        self.ravelo.call("timer", "status")  # It has seen the copy, but not saved it yet.
+        self.desktop.server.send_signal(signal.SIGKILL)
+        wait_for(self.ravelo.has_ended, "the end of the program")
+        self.assertEqual(self.ravelo.process.returncode, 1)
+        self.wait_for_texts("at the last moment", "before")
+
+
+class WaylandPanel(WaylandCase):
+    def test_opens_under_the_pointer_and_closes_when_it_leaves(self):
+        for _ in range(3):
+            self.ravelo.open()
+            self.desktop.move(640, 400)
+            self.assertTrue(self.ravelo.is_open())
+            self.desktop.move(640, 750)
+            wait_for(self.ravelo.is_collapsed, "the handle")
+
+    def test_has_the_keyboard_when_opened_by_key_and_gives_it_back(self):
+        self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
+        wait_for(self.ravelo.is_open, "the open panel")
+        empty = self.desktop.still_picture()
+        self.desktop.key("ctrl+v")
+        for key in "abc":
+            self.desktop.key(key)
+        wait_for(lambda: self.desktop.still_picture() != empty, "something typed")
+        self.desktop.click(640, 750)
+        wait_for(self.ravelo.is_collapsed, "closed by a click elsewhere")
+        self.desktop.key("z")
+        lines = iter(self.window.stdout.readline, "")
+        self.assertEqual(next(line for line in lines if line != "ready\n"), "z\n")
+
+    def test_a_dropped_file_is_parked(self):
+        file = self.desktop.home / "a file.txt"
+        file.write_text("x")
+        self.window.kill()
+        source = self.desktop.peer("/usr/bin/python3", HERE / "file_source.py", file)
+        before = self.desktop.still_picture().at(640, 400)
+        self.desktop.drag((640, 400), (640, 6))
+        self.assertEqual(source.stdout.readline(), "begin\n")
+        self.desktop.move(640, 6)
+        wait_for(lambda: self.desktop.picture().at(640, 400) != before, "the open panel")
+        self.desktop.move(640, 200)
+        self.desktop.release()
+        self.assertEqual(source.stdout.readline(), "end\n")
+        wait_for(lambda: self.ravelo.call("shelf", "list") == (0, f"{file}\n"), "the parked file")
+
+    def test_ends_in_order(self):
+        self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
+        wait_for(self.ravelo.is_open, "the open panel")
+        self.assertEqual(self.ravelo.call("--quit")[0], 0)
+        wait_for(self.ravelo.has_ended, "the end")
+        self.assertEqual(self.ravelo.process.returncode, 0)
+
+
+if __name__ == "__main__":
+    unittest.main()
