@@ -3,7 +3,7 @@
 
 #include "Input.h"
 #include "clipboard/CapturePlan.h"
-#include "platform/x11/selection/SelectionText.h"
+#include "base/ClipboardText.h"
 
 #include <QUtf8StringView>
 
@@ -16,9 +16,9 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const QByteArray given = input.mid(end + 2);
 
     PasteboardSnapshot snapshot;
-    for (const QByteArray& target : x11::textTargets(targets)) {
-        fuzz::require(x11::isPlainText(target));
-        const auto text = x11::toUtf8(target, targets.last(), given);
+    for (const QByteArray& target : textTargets(targets)) {
+        fuzz::require(isPlainText(target));
+        const auto text = toUtf8(target, targets.last(), given);
         fuzz::require(!text || QUtf8StringView(*text).isValidUtf8());
         snapshot.types = QStringList{plainTextType};
         snapshot.answers.insert(plainTextType, text);

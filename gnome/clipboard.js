@@ -49,14 +49,14 @@ export class Clipboard {
     _changed(source) {
         this._source = source;
         this._serial++;
-        if (source === null || source !== this._offered)
-            this._report(false);
+        this._report(false);
     }
 
     _report(initial) {
         const types = this._source?.get_mimetypes() ?? global.display.get_selection().get_mimetypes(CLIPBOARD);
         // The shell itself keeps what a program had that has exited.
-        const kept = this._source instanceof Meta.SelectionSourceMemory;
-        this._link?.send({is: 'clip', serial: this._serial, types, kept, initial});
+        const offered = this._source !== null && this._source === this._offered;
+        const kept = !offered && this._source instanceof Meta.SelectionSourceMemory;
+        this._link?.send({is: 'clip', serial: this._serial, types, kept, offered, initial});
     }
 }

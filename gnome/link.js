@@ -9,6 +9,9 @@ const DAEMON = 'org.freedesktop.DBus';
 const RETRY_MS = 100;
 const RETRIES = 50;
 
+/// Greetings that fail in a row, after which this owner of the name is none of ours.
+const MAX_FAILURES = 3;
+
 /// The connection to Ravelo, for as long as it runs: found by its name on the bus, made to its socket, believed
 /// only if the process at the other end is the one that owns the name, and ours. Nothing here ever waits: if
 /// Ravelo does not read, it is dropped.
@@ -17,8 +20,12 @@ export class Link {
     constructor(onUp, onDown) {
         this._onUp = onUp;
         this._onDown = onDown;
+        this._failures = this._retry = 0;
         this._watch = Gio.bus_watch_name(Gio.BusType.SESSION, BUS_NAME, Gio.BusNameWatcherFlags.NONE,
-            (connection, name, owner) => this._appeared(owner), () => this._close());
+            (connection, name, owner) => {
+                this._failures = 0;
+                this._appeared(owner);
+            }, () => this._close());
     }
 
     destroy() {
@@ -77,7 +84,21 @@ export class Link {
                 console.warn(`Ravelo: ${error.message}`);
         }
         if (cancel === this._cancel)
-            this._close();
+            this._tryLater(owner);
+    }
+
+    // It may have hung for a while. Whether it has gone the bus says.
+    _tryLater(owner) {
+        const failures = this._isUp ? 0 : this._failures + 1;
+        this._close();
+        this._failures = failures;
+        if (failures < MAX_FAILURES) {
+            this._retry = GLib.timeout_add_seconds(GLib.PRIORITY_DEFAULT, 1, () => {
+                this._retry = 0;
+                this._appeared(owner);
+                return GLib.SOURCE_REMOVE;
+            });
+        }
     }
 
     _pidOf(owner, cancel) {

@@ -1,6 +1,7 @@
 #include "app/Platform.h"
 
 #include "monitor/ClaudeEnvironment.h"
+#include "panel/NotchGeometry.h"
 #include "panel/PointerHotZone.h"
 #include "platform/freedesktop/AutostartEntry.h"
 #include "platform/freedesktop/BusInstance.h"
@@ -15,6 +16,9 @@
 #include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
 #include "platform/freedesktop/TrayStatusItem.h"
+#include "platform/gnome/GnomeDisplayServer.h"
+#include "platform/gnome/PrepareApplication.h"
+#include "platform/gnome/ShellExtension.h"
 #include "platform/system/CurlClient.h"
 #include "platform/system/DataLock.h"
 #include "platform/system/DecoderProcess.h"
@@ -82,6 +86,23 @@ Result<void> connectX11(Platform& platform, HoverTick::Rest rest) {
     return {};
 }
 
+Result<void> connectGnome(Platform& platform) {
+    auto created = gnome::GnomeDisplayServer::create(gnome::GnomeDisplayServer::usualPath(),
+                                                     sessionBus(), handleSize);
+    if (!created) {
+        return tl::unexpected(created.error());
+    }
+    gnome::GnomeDisplayServer& server = **created;
+    platform.motion = server.motion();
+    platform.iconPreference = server.icons();
+    platform.trayArea = std::make_unique<gnome::NoTrayArea>();
+    platform.makeHotZone = [&server, scheduler = platform.scheduler.get()](PanelWindow& window) {
+        return server.hotZone(*scheduler, window);
+    };
+    platform.display = std::move(*created);
+    return {};
+}
+
 void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
     platform.worker = std::make_unique<WorkerThread>();
     platform.dataLock =
@@ -140,10 +161,14 @@ Platform::~Platform() = default;
 
 Result<Platform::Display> Platform::choose() {
     const QString wanted = qEnvironmentVariable("RAVELO_PLATFORM");
+    if (wanted == "gnome"_L1 || (wanted.isEmpty() && gnome::isExtensionRunning())) {
+        return Display::gnome;
+    }
     if (!wanted.isEmpty() && wanted != "x11"_L1) {
-        return failure(wanted == "wayland"_L1
-                           ? u"RAVELO_PLATFORM: this version cannot use Wayland directly"_s
-                           : u"RAVELO_PLATFORM must be x11 or wayland, not \"%1\""_s.arg(wanted));
+        return failure(
+            wanted == "wayland"_L1
+                ? u"RAVELO_PLATFORM: this version cannot use Wayland directly"_s
+                : u"RAVELO_PLATFORM must be x11, wayland or gnome, not \"%1\""_s.arg(wanted));
     }
     return x11::findDisplay().map([] { return Display::x11; });
 }
@@ -152,6 +177,8 @@ Handle Platform::prepareApplication(Display display) {
     switch (display) {
     case Display::x11:
         return x11::prepareApplication();
+    case Display::gnome:
+        return gnome::prepareApplication();
     }
     return {};
 }
@@ -165,10 +192,16 @@ Result<Platform> Platform::make(Display display, const QProcessEnvironment& envi
     case Display::x11:
         connected = connectX11(platform, rest);
         break;
+    case Display::gnome:
+        connected = connectGnome(platform);
+        break;
     }
     if (!connected) {
         return tl::unexpected(connected.error());
     }
+    using Used = gnome::ShellExtension::Used;
+    platform.extension = std::make_unique<gnome::ShellExtension>(
+        sessionBus(), display == Display::gnome ? Used::yes : Used::no);
     makeSystem(platform, environment);
     makeDesktop(platform, environment);
     return platform;

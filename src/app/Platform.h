@@ -17,6 +17,7 @@ namespace ravelo {
 class AlertSound;
 class ChildProcess;
 class DataLock;
+class DesktopExtension;
 class DetachedJobs;
 class DisplayServer;
 class FileIcons;
@@ -48,7 +49,7 @@ class Worker;
 /// Main thread.
 struct Platform {
     /// Kinds of display server.
-    enum class Display { x11 };
+    enum class Display { x11, gnome };
 
     /// Which display server to use: what RAVELO_PLATFORM names, or else what there is. The error is
     /// for the user. Before the application object.
@@ -104,6 +105,7 @@ struct Platform {
     std::unique_ptr<FolderChanges> transcriptChanges;
     std::unique_ptr<FileOpener> opener;
     std::unique_ptr<PackageUpdates> packages;
+    std::unique_ptr<DesktopExtension> extension;
     std::unique_ptr<IconPreference> iconPreference;
     std::shared_ptr<FileIcons> icons; ///< Likewise.
     Handle iconThemeChange;

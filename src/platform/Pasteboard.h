@@ -18,6 +18,12 @@ namespace ravelo {
 /// Text on a pasteboard: always UTF-8, whatever type names and encodings the owner offers.
 inline constexpr QLatin1StringView plainTextType("text/plain");
 
+/// How many bytes of one answer an adapter accepts.
+[[nodiscard]] inline qsizetype maxAnswerSize(const QByteArray& type) {
+    constexpr qsizetype mebibyte = 1 << 20;
+    return type.startsWith("image/") ? 64 * mebibyte : 8 * mebibyte;
+}
+
 /// The program whose contents are on a pasteboard.
 struct PasteboardOwner {
     /// A clipboard manager only passes on what others copied.
@@ -40,7 +46,7 @@ struct PasteboardSnapshot {
     QStringList types;
 
     /// The answer for each type that was asked for; nothing if the owner refused, was too slow or
-    /// had more than the adapter accepts (64 MiB of an image, 8 MiB of anything else).
+    /// had more than `maxAnswerSize`.
     QHash<QString, std::optional<QByteArray>> answers;
 
     /// For each answer that was too large: its size in bytes, as far as known.

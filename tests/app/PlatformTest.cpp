@@ -11,8 +11,9 @@ TEST(Platform, IsTheOneThatIsAskedForOrAClearError) {
     const std::pair<const char*, QString> rows[] = {
         {"", {}},
         {"x11", {}},
+        {"gnome", {}},
         {"wayland", QStringLiteral("RAVELO_PLATFORM: this version cannot use Wayland directly")},
-        {"X11", QStringLiteral("RAVELO_PLATFORM must be x11 or wayland, not \"X11\"")},
+        {"X11", QStringLiteral("RAVELO_PLATFORM must be x11, wayland or gnome, not \"X11\"")},
     };
     for (const auto& [wanted, error] : rows) {
         qputenv("RAVELO_PLATFORM", wanted);

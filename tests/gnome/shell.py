@@ -68,8 +68,9 @@ class Shell:
 
     def __enter__(self):
         until(self.is_up, "the shell is up", 30)
-        self.run("await sleep(300); Main.overview.hide(); move(600, 500);")
-        until(lambda: not self.run("return Main.overview.visible"), "the overview is gone")
+        until(lambda: self.run("Main.overview.hide(); await sleep(300); return !Main.overview.visible"),
+              "the overview is gone", 30)
+        self.run("move(600, 500)")
         return self
 
     def __exit__(self, *_):

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "decode/Protocol.h"
-#include "platform/system/Descriptor.h"
+#include "base/Descriptor.h"
 
 #include <QByteArray>
 

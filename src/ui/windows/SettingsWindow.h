@@ -2,6 +2,7 @@
 
 #include "settings/AppSettings.h"
 #include "store/Store.h"
+#include "ui/windows/ExtensionOffer.h"
 #include "ui/windows/TitledWindow.h"
 
 #include <QObject>
@@ -18,6 +19,7 @@ class SettingsWindow : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(ravelo::AppSettings* settings READ settings CONSTANT)
+    Q_PROPERTY(ravelo::ExtensionOffer* extension READ extension CONSTANT)
     Q_PROPERTY(int clipCount READ clipCount NOTIFY clipsChanged)
 
 public:
@@ -26,13 +28,16 @@ public:
         TitledWindow::Beside beside;
         Store& store;
         AppSettings& settings;
-        std::function<void()> quit; ///< Quits the program, asynchronously.
+        std::function<void()> quit;            ///< Quits the program, asynchronously.
+        DesktopExtension* extension = nullptr; ///< Null if the desktop needs none.
     };
 
     explicit SettingsWindow(Subjects subjects);
     ~SettingsWindow() override;
 
     [[nodiscard]] AppSettings* settings() const { return &subjects_.settings; }
+
+    [[nodiscard]] ExtensionOffer* extension() { return &extension_; }
 
     [[nodiscard]] int clipCount() const;
 
@@ -50,6 +55,7 @@ Q_SIGNALS:
 
 private:
     Subjects subjects_;
+    ExtensionOffer extension_;
     std::unique_ptr<TitledWindow> window_;
 };
 

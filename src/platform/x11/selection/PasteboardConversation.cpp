@@ -1,6 +1,6 @@
 #include "platform/x11/selection/PasteboardConversation.h"
 
-#include "platform/x11/selection/SelectionText.h"
+#include "base/ClipboardText.h"
 
 #include <algorithm>
 
@@ -8,12 +8,7 @@ namespace ravelo::x11 {
 
 namespace {
 
-constexpr qsizetype mebibyte = 1 << 20;
 constexpr qsizetype maxTargets = 512;
-
-qsizetype limitFor(const QByteArray& target) {
-    return target.startsWith("image/") ? 64 * mebibyte : 8 * mebibyte;
-}
 
 } // namespace
 
@@ -61,7 +56,7 @@ void PasteboardConversation::take(TransferResult result) {
 
 TransferRequest PasteboardConversation::request(const QByteArray& target) {
     target_ = target;
-    return {connection_.atom(target), limitFor(target)};
+    return {connection_.atom(target), maxAnswerSize(target)};
 }
 
 QList<QByteArray> PasteboardConversation::targetsFor(const QString& type) const {

@@ -1,4 +1,4 @@
-#include "platform/x11/selection/SelectionText.h"
+#include "base/ClipboardText.h"
 
 #include <QByteArrayView>
 #include <QString>
@@ -6,7 +6,7 @@
 
 #include <algorithm>
 
-namespace ravelo::x11 {
+namespace ravelo {
 
 namespace {
 
@@ -55,4 +55,4 @@ std::optional<QByteArray> toUtf8(const QByteArray& target, const QByteArray& typ
     return QString::fromLatin1(bytes).toUtf8();
 }
 
-} // namespace ravelo::x11
+} // namespace ravelo

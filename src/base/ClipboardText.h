@@ -5,7 +5,7 @@
 
 #include <optional>
 
-namespace ravelo::x11 {
+namespace ravelo {
 
 /// Whether this target is plain text in any encoding (ICCCM 2.6.2, and the
 /// MIME types that today's programs offer beside it).
@@ -19,4 +19,4 @@ namespace ravelo::x11 {
 [[nodiscard]] std::optional<QByteArray> toUtf8(const QByteArray& target, const QByteArray& type,
                                                const QByteArray& bytes);
 
-} // namespace ravelo::x11
+} // namespace ravelo
