@@ -65,6 +65,7 @@ class Peer:
             message = json.loads(line.removeprefix(b"\0"))
             if line.startswith(b"\0"):
                 descriptor = self.descriptors.pop(0)
+                os.set_blocking(descriptor, True)
                 data = read_all(lambda size: os.read(descriptor, size))
                 os.close(descriptor)
                 message |= {"bytes": data.decode(errors="replace"), "size": len(data)}

@@ -49,9 +49,9 @@ class Shell:
         self.runtime.mkdir(mode=0o700)
         self.home = self.folder / "home"
         self.environment = {
-            "PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "HOME": str(self.home),
+            "PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8", "HOME": str(self.home),
             "XDG_RUNTIME_DIR": str(self.runtime), "XDG_SESSION_TYPE": "wayland", "XDG_SESSION_ID": "c1",
-            "XDG_CURRENT_DESKTOP": "GNOME", "LIBGL_ALWAYS_SOFTWARE": "1", "GSETTINGS_BACKEND": "keyfile",
+            "XDG_CURRENT_DESKTOP": "GNOME", "GSK_RENDERER": "cairo", "LIBGL_ALWAYS_SOFTWARE": "1", "GSETTINGS_BACKEND": "keyfile",
             "XDG_DATA_DIRS": "/usr/local/share:/usr/share", "NO_AT_BRIDGE": "1", "GTK_A11Y": "none",
             "DBUS_SESSION_BUS_ADDRESS": self.bus("session"), "DBUS_SYSTEM_BUS_ADDRESS": self.bus("system"),
         }

@@ -14,10 +14,21 @@ from shell import until
 
 HERE = pathlib.Path(__file__).parent
 
-# What the extension may leave behind, as far as JavaScript can count it.
+# Counts connections to what the extension watches, from now on.
+COUNT_CONNECTIONS = """
+    kept.connections = 0;
+    for (const object of [Main.layoutManager, global.display, global.display.get_selection(), global.stage,
+        global.window_manager]) {
+        const {connect, disconnect} = object;
+        object.connect = function (...all) { kept.connections++; return connect.apply(this, all); };
+        object.disconnect = function (...all) { kept.connections--; return disconnect.apply(this, all); };
+    }
+"""
+
+# What the extension may leave behind.
 TRACES = """
-    const count = actor => 1 + actor.get_children().reduce((sum, child) => sum + count(child), 0);
-    return {actors: count(Main.layoutManager.uiGroup), tracked: Main.layoutManager._trackedActors.length,
+    return {connections: kept.connections, actors: Main.layoutManager.uiGroup.get_n_children(),
+        tracked: Main.layoutManager._trackedActors.length, monitors: DND.dragMonitors?.length ?? 0,
         strips: Main.layoutManager.uiGroup.get_children().filter(one => one.name === 'ravelo-edge').length};
 """
 
@@ -53,6 +64,7 @@ class ExtensionTest(unittest.TestCase):
     @classmethod
     def setUpClass(cls):
         cls.session = cls.enterClassContext(shell.Shell())
+        cls.session.run(COUNT_CONNECTIONS)
 
     def tearDown(self):
         self.session.run("button(false); move(600, 500);")

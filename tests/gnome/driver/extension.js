@@ -5,6 +5,7 @@ import Clutter from 'gi://Clutter';
 import Meta from 'gi://Meta';
 import Shell from 'gi://Shell';
 import St from 'gi://St';
+import * as DND from 'resource:///org/gnome/shell/ui/dnd.js';
 import * as Main from 'resource:///org/gnome/shell/ui/main.js';
 import {Extension} from 'resource:///org/gnome/shell/extensions/extension.js';
 
@@ -16,7 +17,7 @@ const AsyncFunction = Object.getPrototypeOf(async function () {}).constructor;
 /// What the code of a test can use by name.
 class Tools {
     constructor() {
-        Object.assign(this, {Gio, GLib, Clutter, Meta, Shell, St, Main, kept: {}});
+        Object.assign(this, {Gio, GLib, Clutter, Meta, Shell, St, DND, Main, kept: {}});
         const seat = Clutter.get_default_backend().get_default_seat();
         this.pointer = seat.create_virtual_device(Clutter.InputDeviceType.POINTER_DEVICE);
         this.keyboard = seat.create_virtual_device(Clutter.InputDeviceType.KEYBOARD_DEVICE);
