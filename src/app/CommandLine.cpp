@@ -131,9 +131,11 @@ The rest speaks to the Ravelo that is running:
 The exit status is 0 where it is done, 1 where it could not be done or no Ravelo
 is running, 2 where the command makes no sense.
 
-It needs an X11 session. In a Wayland session it runs through XWayland, with less:
-the panel opens only under a pointer or a drag on its own handle and closes when
-the pointer leaves it, and the compositor may give it no keyboard to type with.
+It needs an X11 session, or GNOME with its extension, which the settings offer to
+turn on. In other Wayland sessions, and on GNOME without the extension, it runs
+through XWayland, with less: not all copies may be seen, the panel opens only under
+a pointer or a drag on its own handle and closes when the pointer leaves it, and
+the compositor may give it no keyboard to type with.
 )"_s;
 }
 

@@ -1,0 +1,165 @@
+"""Ravelo on a real GNOME Shell with its extension. Run by scripts/gnome, which says where the program is."""
+
+import json
+import os
+import pathlib
+import signal
+import statistics
+import subprocess
+import sys
+import unittest
+
+import shell
+from shell import until
+from test_extension import HERE, Peer
+
+PROGRAM = os.environ.get("RAVELO_PROGRAM", shell.ROOT / "build/dev/ravelo")
+
+# The time from the pointer at the edge to the first frame of the panel, in milliseconds.
+OPENING_TIME = """
+    const began = GLib.get_monotonic_time();
+    const shown = new Promise(done => {
+        const id = global.window_manager.connect('map', (_, actor) => {
+            if (actor.meta_window.title !== 'Ravelo panel')
+                return;
+            global.window_manager.disconnect(id);
+            actor.connect('first-frame', () => done((GLib.get_monotonic_time() - began) / 1000));
+        });
+    });
+    move(640, 0);
+    return await shown;
+"""
+
+
+class ProgramTest(unittest.TestCase):
+    def setUp(self):
+        self.session = self.enterContext(shell.Shell(monitors=getattr(self, "monitors", ("1280x800",))))
+        config = self.session.home / ".config/ravelo"
+        config.mkdir(parents=True)
+        (config / "preferences.json").write_text(
+            json.dumps({"onboarded": True, "didSetupLogin": True, "seededSiteLinksV1": True}))
+        self.ravelo = self.session.start(PROGRAM, log="ravelo.log")
+        until(lambda: self.strips() > 0 or self.failed(), "the extension is connected", 20)
+
+    def failed(self):
+        if self.ravelo.poll() is not None:
+            raise AssertionError((self.session.folder / "ravelo.log").read_text())
+
+    def strips(self):
+        return self.session.run("return Main.layoutManager.uiGroup.get_children()"
+                                ".filter(one => one.name === 'ravelo-edge').length")
+
+    def client(self, *arguments):
+        peer = Peer(self.session, HERE / "client.py", *arguments)
+        self.addCleanup(peer.end)
+        until(lambda: (self.window(arguments[0]) or {}).get("focus"), f"{arguments[0]} has the focus", 30)
+        return peer
+
+    def window(self, title):
+        return next((one for one in self.session.run("return windows()")
+                     if one["title"] == title and one["visible"]), None)
+
+    def panel(self):
+        return self.window("Ravelo panel")
+
+    def open(self):
+        self.session.run("move(640, 300); await sleep(50); move(640, 0);")
+        return until(self.panel, "the panel opens at the edge")
+
+    def close(self):
+        self.session.run("await click(100, 700)")
+        until(lambda: not self.panel(), "the panel closes")
+
+    def store(self):
+        file = self.session.home / ".local/share/Ravelo/store.json"
+        return file.read_text() if file.exists() else ""
+
+    def command(self, *words):
+        return subprocess.run([PROGRAM, *words], env=self.session.environment, capture_output=True, text=True,
+                              timeout=20, check=False).stdout
+
+    def test_captures_copies_but_no_passwords(self):
+        self.client("text", "--copy", "from GTK")
+        until(lambda: "from GTK" in self.store(), "a text is stored")
+        secret = self.client("secret", "--secret", "hunter2")
+        until(lambda: "copied\n" in secret.lines, "the password is copied")
+        self.client("picture", "--image", next(shell.ROOT.glob("docs/screenshots/dark-1x/*.png")))
+        clips = self.session.home / ".local/share/Ravelo/clips"
+        until(lambda: list(clips.glob("*.png")), "an image is stored")
+        self.assertNotIn("hunter2", self.store())
+
+    def test_opens_at_the_edge_above_all_and_takes_no_focus(self):
+        self.client("full", "--fullscreen")
+        panel = self.open()
+        x, y, width, _ = panel["frame"]
+        self.assertEqual((x + width / 2, y), (640, 0))
+        self.assertTrue(panel["top"], "above the bar")
+        self.assertTrue(until(lambda: self.window("full")["focus"], "the client keeps the focus"))
+        self.session.run("move(640, 200); await sleep(700);")
+        self.assertTrue(self.panel(), "it stays open under the pointer")
+        self.close()
+        times = []
+        for _ in range(9):
+            self.session.run("move(640, 700); await sleep(500);")
+            times.append(self.session.run(OPENING_TIME))
+            self.session.run("move(640, 200); await sleep(300);")
+            self.close()
+        print(f"edge to first frame: {min(times):.0f}/{statistics.median(times):.0f}/{max(times):.0f} ms")
+
+    def test_copies_back_and_types(self):
+        target = self.client("target", "--copy", "first copy")
+        until(lambda: "first copy" in self.store(), "it is stored")
+        self.client("other", "--copy", "second copy")
+        until(lambda: "second copy" in self.store(), "it is stored")
+        panel = self.open()
+        self.session.run(f"await shot('{self.session.folder}/open.png')")
+        x, y, width, height = panel["frame"]
+        self.session.run(f"await click({x + width // 4}, {y + height * 6 // 10});")
+        copied = until(lambda: self.session.run("return global.display.get_selection().get_mimetypes(1)"),
+                       "something is on the clipboard")
+        self.assertTrue(any("x-ravelo" in one for one in copied), f"not our own: {copied}")
+        self.close()
+        until(lambda: (self.window("other") or {}).get("focus"), "the focus is given back")
+        self.session.run("kept.c = 1; keyboard.notify_keyval(GLib.get_monotonic_time(), Clutter.KEY_Control_L, 1);"
+                         "await key(Clutter.KEY_v);"
+                         "keyboard.notify_keyval(GLib.get_monotonic_time(), Clutter.KEY_Control_L, 0);")
+        del target
+
+    def test_takes_dropped_files(self):
+        self.client("source", "--drag", "/etc/hostname")
+        x, y, width, height = self.window("source")["frame"]
+        start = f"{x + width // 2}, {y + height * 2 // 3}"
+        self.session.run(f"move({start}); await sleep(200); button(true); await sleep(100);"
+                         f"await glide({start}, 640, 0);")
+        until(self.panel, "the panel opens for the drag")
+        self.session.run("await sleep(200); await glide(640, 0, 640, 150); await sleep(300); button(false);")
+        until(lambda: "/etc/hostname" in self.command("shelf", "list"), "the file is on the shelf")
+
+    def test_is_gone_while_the_screen_is_locked(self):
+        self.open()
+        self.session.run("Main.sessionMode.pushMode('unlock-dialog')")
+        until(lambda: not self.panel(), "the panel is hidden")
+        self.assertEqual(self.strips(), 0)
+        self.command("--toggle")
+        self.session.run("await sleep(300)")
+        self.assertFalse(self.panel(), "it opens over the locker")
+        self.session.run("Main.sessionMode.popMode('unlock-dialog')")
+        until(lambda: self.strips() == 1, "the extension is back")
+        self.session.run("move(640, 400)")
+        self.open()
+
+    def test_ends_cleanly_and_leaves_the_shell_at_rest(self):
+        self.client("text", "--copy", "kept")
+        until(lambda: "kept" in self.store(), "it is stored")
+        self.ravelo.send_signal(signal.SIGKILL)
+        until(lambda: self.strips() == 0, "the extension is quiet", 1)
+        self.ravelo = self.session.start(PROGRAM, log="ravelo.log")
+        until(lambda: self.strips() == 1, "it is back with Ravelo", 20)
+        self.session.shell.kill()
+        self.assertEqual(until(lambda: self.ravelo.poll() is not None, "it ends with the shell"), True)
+        self.assertGreaterEqual(self.ravelo.returncode, 0, "it crashed")
+        self.assertIn("kept", self.store())
+
+
+if __name__ == "__main__":
+    unittest.main(verbosity=2)
