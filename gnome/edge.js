@@ -39,6 +39,7 @@ export class Edge {
 
     _makeStrips() {
         this._dropStrips();
+        this._report(-1);
         const scale = St.ThemeContext.get_for_stage(global.stage).scale_factor;
         Main.layoutManager.monitors.forEach((monitor, index) => {
             const width = this._hello.stripWidth * scale;

@@ -14,7 +14,8 @@ export class Panel {
         this._link = link;
         this._title = hello.title;
         this._screen = 0;
-        this._window = this._actor = this._before = null;
+        this._wanted = false;
+        this._window = this._before = null;
         this._signals = new Signals();
         this._signals.connect(global.display, 'window-created', (_, window) => this._created(window));
         this._signals.connect(global.window_manager, 'map', (_, actor) => this._mapped(actor));
@@ -30,8 +31,20 @@ export class Panel {
     }
 
     destroy() {
+        this._letGo();
         this._forget();
         this._signals.destroy();
+    }
+
+    // An ordinary window again.
+    _letGo() {
+        const actor = this._window?.get_compositor_private();
+        if (!actor)
+            return;
+        actor.get_parent()?.remove_child(actor);
+        global.window_group.add_child(actor);
+        this._window.unmake_above();
+        this._window.unstick();
     }
 
     place(screen) {
@@ -40,20 +53,24 @@ export class Panel {
     }
 
     focus(on) {
-        if (on) {
-            this._wanted = true;
+        this._wanted = on; // It may not be shown yet.
+        if (on)
             this._window?.focus(global.display.get_current_time_roundtrip());
-        } else if (this._window?.has_focus()) {
-            this._before?.focus(global.display.get_current_time_roundtrip());
-        }
-        if (!on)
-            this._wanted = false;
+        else if (this._window?.has_focus())
+            this._giveBack();
+    }
+
+    _giveBack() {
+        if (this._before?.get_compositor_private()) // It still exists.
+            this._before.focus(global.display.get_current_time_roundtrip());
     }
 
     // Its title is not known yet.
     _created(window) {
         if (window.get_pid() === this._link.pid)
             Main.wm.skipNextEffect(window.get_compositor_private());
+        if (this._window)
+            this._watch(window);
     }
 
     _mapped(actor) {
@@ -62,38 +79,46 @@ export class Panel {
             return;
         this._forget();
         this._window = window;
-        this._actor = actor;
         this._shown = GLib.get_monotonic_time();
         Main.wm.skipNextEffect(actor); // When it closes.
+        window.hide_from_window_list?.(); // Some releases.
         window.make_above();
         window.stick();
         this._center();
         actor.get_parent()?.remove_child(actor);
         global.top_window_group.add_child(actor); // Above the bar.
         this._signals.connect(window, 'size-changed', () => this._center());
-        this._signals.connect(window, 'unmanaged', () => this._forget());
+        this._signals.connect(window, 'unmanaged', () => {
+            this._forget();
+            this._wanted = false;
+        });
         this._watchOthers();
-        this._focusChanged();
+        if (this._wanted)
+            this.focus(true);
+        else
+            this._focusChanged();
     }
 
     // A press in a window raises it, even if it has the focus already; the shell does not see the press itself.
     _watchOthers() {
         this._others = new Signals();
         for (const {meta_window: other} of global.get_window_actors()) {
-            if (other === this._window)
-                continue;
-            const own = other.get_pid() === this._link.pid;
-            this._others.connect(other, 'raised', () => this._pressed(own));
-            this._others.connect(other, 'unmanaged', () => this._others.disconnect(other));
+            if (other !== this._window)
+                this._watch(other);
         }
+    }
+
+    _watch(other) {
+        const others = this._others, own = other.get_pid() === this._link.pid;
+        others.connect(other, 'raised', () => this._pressed(own));
+        others.connect(other, 'unmanaged', () => others.disconnect(other));
     }
 
     _forget() {
         this._others?.destroy();
         if (this._window)
             this._signals.disconnect(this._window);
-        this._window = this._actor = this._others = null;
-        this._wanted = false;
+        this._window = this._others = null;
     }
 
     _center() {
@@ -111,7 +136,7 @@ export class Panel {
         if (focused !== this._window) {
             this._before = focused;
         } else if (focused && !this._wanted && GLib.get_monotonic_time() - this._shown < UNASKED_US) {
-            this._before?.focus(global.display.get_current_time_roundtrip());
+            this._giveBack();
         }
     }
 
