@@ -145,5 +145,16 @@ class Shell:
             raise AssertionError(answer["error"])
         return answer["value"]
 
+    def set_scale(self, scale):
+        """Of all monitors; 1 or 2."""
+        name, path = "org.gnome.Mutter.DisplayConfig", "/org/gnome/Mutter/DisplayConfig"
+        serial, monitors, logical, _ = self.call(name, path, name, "GetCurrentState")
+        modes = {monitor[0][0]: next(mode[0] for mode in monitor[1] if mode[6].get("is-current"))
+                 for monitor in monitors}
+        layout = [(x, y, scale, transform, primary, [(spec[0], modes[spec[0]], {}) for spec in specs])
+                  for x, y, _, transform, primary, specs, _ in logical]
+        self.call(name, path, name, "ApplyMonitorsConfig",
+                  GLib.Variant("(uua(iiduba(ssa{sv}))a{sv})", (serial, 1, layout, {})))
+
     def log(self):
         return (self.folder / "shell.log").read_text()

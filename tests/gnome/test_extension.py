@@ -60,10 +60,12 @@ class Peer:
         self.process.wait()
 
 
-class ExtensionTest(unittest.TestCase):
+class ExtensionCase(unittest.TestCase):
+    monitors = ("1280x800",)
+
     @classmethod
     def setUpClass(cls):
-        cls.session = cls.enterClassContext(shell.Shell())
+        cls.session = cls.enterClassContext(shell.Shell(monitors=cls.monitors))
         cls.session.run(COUNT_CONNECTIONS)
 
     def tearDown(self):
@@ -90,6 +92,8 @@ class ExtensionTest(unittest.TestCase):
     def window(self, title):
         return next((one for one in self.session.run("return windows()") if one["title"] == title and one["visible"]), None)
 
+
+class ExtensionTest(ExtensionCase):
     def test_connects_to_the_owner_of_the_name_and_rests_after_it(self):
         before = self.session.run(TRACES)
         peer = self.attached()
@@ -176,6 +180,29 @@ class ExtensionTest(unittest.TestCase):
         self.assertNotIn("org.ravelo.Shell", name[0])
         with self.assertRaises(GLib.Error):
             self.session.call("org.gnome.Shell", "/org/ravelo/Shell", "org.ravelo.Shell", "Attach")
+
+
+class TwoMonitorsTest(ExtensionCase):
+    monitors = ("1280x800", "1024x768")
+
+    def test_reports_both_and_the_edge_of_either(self):
+        peer = self.attached()
+        screens = [one["frame"] for one in peer.messages("screens")[-1]["screens"]]
+        self.assertEqual(screens, [[0, 0, 1280, 800], [1280, 0, 1024, 768]])
+        self.session.run("move(1280 + 512, 0)")
+        until(lambda: peer.messages("edge")[-1:] == [{"is": "edge", "screen": 1}], "the second one's edge")
+
+
+class ScaledTest(ExtensionCase):
+    monitors = ("2560x1600",)
+
+    def test_counts_in_the_pixels_of_clients(self):
+        peer = self.attached()
+        self.session.set_scale(2)
+        until(lambda: peer.messages("screens")[-1]["screens"][0]["frame"] == [0, 0, 1280, 800], "the scale counts")
+        size = self.session.run("const strip = Main.layoutManager.uiGroup.get_children()"
+                                ".find(one => one.name === 'ravelo-edge'); return [strip.width, strip.height];")
+        self.assertEqual(size, [400, 4])
 
 
 if __name__ == "__main__":
