@@ -2,7 +2,7 @@
 
     client.py TITLE [--copy TEXT | --image FILE | --secret TEXT] [--fullscreen] [--drag FILE]
 
-Copies once its window has the focus. Prints "key TEXT" when its text field changes.
+Copies when F5 is pressed: Mutter ignores who has seen no input. Prints "key TEXT" when its text field changes.
 """
 
 import argparse
@@ -54,16 +54,15 @@ def activate(application):
     window.set_child(box)
     if options.fullscreen:
         window.fullscreen()
-    copied = []
 
-    def copy(*_):
-        provider = content()
-        if window.is_active() and provider and not copied:
-            copied.append(provider)
-            window.get_clipboard().set_content(provider)
+    def pressed(_, key, *__):
+        if key == Gdk.KEY_F5:
+            window.get_clipboard().set_content(content())
             print("copied", flush=True)
 
-    window.connect("notify::is-active", copy)
+    keys = Gtk.EventControllerKey(propagation_phase=Gtk.PropagationPhase.CAPTURE)
+    keys.connect("key-pressed", pressed)
+    window.add_controller(keys)
     window.present()
     entry.grab_focus()
 

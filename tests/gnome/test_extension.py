@@ -86,7 +86,10 @@ class ExtensionCase(unittest.TestCase):
     def client(self, *arguments):
         peer = Peer(self.session, HERE / "client.py", *arguments)
         self.addCleanup(peer.end)
-        until(lambda: self.window(arguments[0]), f"the window {arguments[0]} is shown")
+        until(lambda: (self.window(arguments[0]) or {}).get("focus"), f"{arguments[0]} has the focus", 30)
+        if {"--copy", "--image", "--secret"} & set(arguments):
+            self.session.run("await key(Clutter.KEY_F5)")
+            until(lambda: "copied\n" in peer.lines, f"{arguments[0]} copies")
         return peer
 
     def window(self, title):
