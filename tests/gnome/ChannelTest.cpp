@@ -288,6 +288,15 @@ TEST_F(GnomePasteboardTest, GivesUpAnOwnerThatHangsAndOneThatGivesTooMuch) {
     flood.join();
 }
 
+TEST_F(GnomePasteboardTest, TakesNothingGivenForARefusal) {
+    world_.shell.onWant = [&](const QJsonObject& want) { world_.shell.give(want, makePipe().out); };
+    std::optional<PasteboardSnapshot> result;
+    const Handle reading = read(result);
+    EXPECT_TRUE(eventually([&] { return result.has_value(); }));
+    EXPECT_EQ(result->answers.value(plainTextType), std::nullopt);
+    EXPECT_EQ(world_.shell.heard(u"want"_s).size(), 2) << "asked by the owner's other name, too";
+}
+
 TEST_F(GnomePasteboardTest, OffersATextThroughTheShellWithoutTheFocus) {
     ASSERT_EQ(QGuiApplication::focusWindow(), nullptr);
     EXPECT_EQ(board().write({{u"image/png"_s, "png"}, {plainTextType, "Gr\xc3\xbc\xc3\x9f"}}), 2);

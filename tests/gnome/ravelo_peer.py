@@ -41,7 +41,10 @@ class Peer:
         connection = listening.accept()[0]
         first = b""
         while not first.endswith(b"\n"):
-            first += connection.recv(1)
+            byte = connection.recv(1)
+            if not byte:
+                return
+            first += byte
         message = json.loads(first)
         if message["is"] == "pour":
             data = read_all(connection.recv)

@@ -13,8 +13,8 @@ from shell import until
 from test_extension import ExtensionCase
 
 # Places in the panel, which is 927 pixels wide.
-ROW_BELOW = 200
-SEARCH_X, SEARCH_Y = 300, 60
+ROW_BELOW = 340
+SEARCH_X, SEARCH_Y = 300, 220
 
 PROGRAM = os.environ.get("RAVELO_PROGRAM", shell.ROOT / "build/dev/ravelo")
 
@@ -87,7 +87,19 @@ class ProgramTest(ExtensionCase):
         until(lambda: list(clips.glob("*.png")), "an image is stored")
         self.assertNotIn("hunter2", self.store())
 
-    def test_opens_at_the_edge_above_all_and_takes_no_focus(self):
+    def test_opens_quickly(self):
+        self.open()
+        self.session.run("move(640, 200); await sleep(300);")
+        self.close()
+        times = []
+        for _ in range(9):
+            self.session.run("move(640, 700); await sleep(500);")
+            times.append(self.session.run(OPENING_TIME))
+            self.session.run("move(640, 200); await sleep(300);")
+            self.close()
+        print(f"edge to first frame: {min(times):.0f}/{statistics.median(times):.0f}/{max(times):.0f} ms")
+
+    def test_opens_above_all_and_takes_no_focus(self):
         self.client("full", "--fullscreen")
         panel = self.open()
         x, y, width, _ = panel["frame"]
@@ -98,13 +110,6 @@ class ProgramTest(ExtensionCase):
         self.session.run("move(640, 200); await sleep(700);")
         self.assertTrue(self.panel(), "it stays open under the pointer")
         self.close()
-        times = []
-        for _ in range(9):
-            self.session.run("move(640, 700); await sleep(500);")
-            times.append(self.session.run(OPENING_TIME))
-            self.session.run("move(640, 200); await sleep(300);")
-            self.close()
-        print(f"edge to first frame: {min(times):.0f}/{statistics.median(times):.0f}/{max(times):.0f} ms")
 
     def test_copies_back_and_types(self):
         target = self.client("target", "--copy", "first copy")

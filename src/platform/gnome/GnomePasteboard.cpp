@@ -44,7 +44,8 @@ void ask(PasteboardSnapshot& snapshot, const QString& type, const QList<QByteArr
             snapshot.tooLarge.insert(type, given.tooLarge);
             return;
         }
-        if (given.bytes) {
+        // An owner refuses by giving nothing.
+        if (given.bytes && !given.bytes->isEmpty()) {
             snapshot.answers[type] =
                 type == plainTextType ? toUtf8(target, target, *given.bytes) : given.bytes;
             return;
