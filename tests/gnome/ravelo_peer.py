@@ -56,7 +56,10 @@ class Peer:
         self.selector.register(connection, selectors.EVENT_READ, self.hear)
 
     def hear(self, connection):
-        data, descriptors, _, _ = socket.recv_fds(connection, 65536, 16)
+        try:
+            data, descriptors, _, _ = socket.recv_fds(connection, 65536, 16)
+        except ConnectionResetError:
+            data = b""
         if not data:
             say({"is": "end"})
             self.selector.unregister(connection)
