@@ -41,6 +41,7 @@ export class Panel {
         const actor = this._window?.get_compositor_private();
         if (!actor)
             return;
+        actor.translation_y = 0;
         actor.get_parent()?.remove_child(actor);
         global.window_group.add_child(actor);
         this._window.unmake_above();
@@ -61,8 +62,11 @@ export class Panel {
     }
 
     _giveBack() {
+        const time = global.display.get_current_time_roundtrip();
         if (this._before?.get_compositor_private()) // It still exists.
-            this._before.focus(global.display.get_current_time_roundtrip());
+            this._before.focus(time);
+        else
+            global.display.unset_input_focus(time);
     }
 
     // Its title is not known yet.
@@ -87,7 +91,8 @@ export class Panel {
         this._center();
         actor.get_parent()?.remove_child(actor);
         global.top_window_group.add_child(actor); // Above the bar.
-        this._signals.connect(window, 'size-changed', () => this._center());
+        for (const change of ['size-changed', 'position-changed'])
+            this._signals.connect(window, change, () => this._center());
         this._signals.connect(window, 'unmanaged', () => {
             this._forget();
             this._wanted = false;
@@ -129,6 +134,9 @@ export class Panel {
         const x = monitor.x + Math.round((monitor.width - frame.width) / 2);
         if (frame.x !== x || frame.y !== monitor.y)
             this._window.move_frame(true, x, monitor.y);
+        // Mutter wants a part of each window below the bar, but the timer's bar is as low as that one.
+        const actor = this._window.get_compositor_private();
+        actor.translation_y = monitor.y - this._window.get_frame_rect().y;
     }
 
     _focusChanged() {

@@ -289,7 +289,9 @@ TEST_F(GnomePasteboardTest, GivesUpAnOwnerThatHangsAndOneThatGivesTooMuch) {
 }
 
 TEST_F(GnomePasteboardTest, TakesNothingGivenForARefusal) {
-    world_.shell.onWant = [&](const QJsonObject& want) { world_.shell.give(want, makePipe().out); };
+    world_.shell.onWant = [&](const QJsonObject& want) {
+        world_.shell.give(want, makePipe().out);
+    };
     std::optional<PasteboardSnapshot> result;
     const Handle reading = read(result);
     EXPECT_TRUE(eventually([&] { return result.has_value(); }));

@@ -111,6 +111,21 @@ class ProgramTest(ExtensionCase):
         self.assertTrue(self.panel(), "it stays open under the pointer")
         self.close()
 
+    def test_shows_the_timers_bar_at_the_very_top(self):
+        self.command("timer", "start", "5", "work")
+        x, y, width, height = until(self.panel, "the bar is shown")["frame"]
+        self.assertEqual((y, x + width // 2), (0, 640))
+        self.assertLess(height, 60)
+        self.assertFalse(self.panel()["focus"])
+        self.session.run("move(640, 300); await sleep(100); move(640, 20);")
+        until(lambda: self.panel()["frame"][3] > 300, "it opens under the pointer")
+        self.session.run("move(640, 300)")
+        self.close_to_bar()
+
+    def close_to_bar(self):
+        self.session.run("await click(100, 700)")
+        until(lambda: self.panel()["frame"][3] < 60, "it closes to the bar")
+
     def test_copies_back_and_types(self):
         target = self.client("target", "--copy", "first copy")
         until(lambda: "first copy" in self.store(), "it is stored")
