@@ -14,6 +14,9 @@ export class Edge {
         this._over = -1;
         this._signals = new Signals();
         this._signals.connect(Main.layoutManager, 'monitors-changed', () => this._makeStrips());
+        // The overview hides all windows, the panel too.
+        for (const change of ['showing', 'hidden'])
+            this._signals.connect(Main.overview, change, () => this._showStrips());
         // During a drag GNOME 45 and later tell this monitor, earlier releases the strip itself.
         this._monitor = {
             dragMotion: event => {
@@ -58,6 +61,14 @@ export class Edge {
             });
             this._strips.push(strip);
         });
+        this._showStrips();
+    }
+
+    _showStrips() {
+        for (const strip of this._strips)
+            strip.visible = !Main.overview.visible;
+        if (Main.overview.visible)
+            this._report(-1);
     }
 
     _report(screen) {

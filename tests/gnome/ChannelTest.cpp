@@ -27,8 +27,11 @@ namespace {
 class World {
 public:
     explicit World(const QString& shellName = u"org.gnome.Shell"_s) {
-        EXPECT_TRUE(bus_.connect(u"shell"_s).registerService(shellName));
-        auto created = GnomeDisplayServer::create(path(), bus_.connect(u"ravelo"_s), {200, 12});
+        static int worlds = 0; // A name stands for one connection in the whole process.
+        const QString number = QString::number(++worlds);
+        EXPECT_TRUE(bus_.connect(u"shell "_s + number).registerService(shellName));
+        auto created =
+            GnomeDisplayServer::create(path(), bus_.connect(u"ravelo "_s + number), {200, 12});
         EXPECT_TRUE(created) << (created ? "" : qPrintable(created.error().message));
         server = std::move(*created);
     }
@@ -53,6 +56,17 @@ public:
     FakeShell shell{path()};
 };
 
+constexpr const char* strangersScript = R"(
+import socket, sys
+peer = socket.socket(socket.AF_UNIX)
+peer.connect(sys.argv[1])
+try:
+    peer.sendall(b'{"is":"hello","version":1}\n')
+    print(peer.recv(100))
+except OSError:
+    print(b"")
+)";
+
 TEST(GnomeChannel, IsForThisUserAlone) {
     const World world;
     EXPECT_EQ(QFileInfo(QFileInfo(world.path()).path()).permissions() &
@@ -75,10 +89,7 @@ TEST(GnomeChannel, GreetsTheShellAndNobodyElse) {
 
     QProcess stranger; // Another process of the same user, while the shell is connected.
     stranger.start(u"/usr/bin/python3"_s,
-                   {u"-c"_s,
-                    u"import socket,sys\ns=socket.socket(socket.AF_UNIX)\ns.connect(sys.argv[1])\n"
-                    u"s.sendall(b'{\"is\":\"hello\",\"version\":1}\\n')\nprint(s.recv(100))"_s,
-                    world.path()});
+                   {u"-c"_s, QString::fromLatin1(strangersScript), world.path()});
     EXPECT_TRUE(eventually([&] { return stranger.state() == QProcess::NotRunning; }));
     EXPECT_EQ(stranger.readAllStandardOutput().trimmed(), "b''");
     EXPECT_FALSE(world.shell.isDropped()) << "the stranger took its place";
@@ -155,7 +166,8 @@ TEST(GnomeZone, OpensAtTheEdgeAndReportsPressesAndDrags) {
 
 TEST(GnomePanel, IsShownOnlyWhileThereIsMoreThanTheHandleAndSomebodyToPlaceIt) {
     World world;
-    QWindow window;
+    QWindow parent;
+    QWindow window(&parent); // Without one, Qt's test platform complains of the size hints.
     const auto panel = world.server->panelWindow(window);
     const Screen screen{u"0"_s, {0, 0, 1280, 800}, {0, 0, 1280, 800}, {}, {}};
     panel->orderFront();

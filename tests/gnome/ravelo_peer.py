@@ -52,7 +52,10 @@ class Peer:
             return
         say(message)
         self.link = connection
-        connection.sendall(json.dumps(HELLO).encode() + b"\n")
+        try:
+            connection.sendall(json.dumps(HELLO).encode() + b"\n")
+        except BrokenPipeError:
+            return
         self.selector.register(connection, selectors.EVENT_READ, self.hear)
 
     def hear(self, connection):

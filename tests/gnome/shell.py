@@ -68,7 +68,8 @@ class Shell:
 
     def __enter__(self):
         until(self.is_up, "the shell is up", 30)
-        until(lambda: self.run("Main.overview.hide(); await sleep(300); return !Main.overview.visible"),
+        until(lambda: self.run("Main.overview.hide(); await sleep(300); return !Main.overview.visible"
+                               "&& !Main.layoutManager._startingUp && global.top_window_group.visible"),
               "the overview is gone", 30)
         self.run("move(600, 500)")
         return self

@@ -326,7 +326,7 @@ TEST_F(Setup, OffersTheDesktopsExtensionLastAndTurnsItOnWhenAsked) {
     FakeDesktopExtension extension;
     OnboardingController offering({view.window()}, world.settings, world.screens, &extension);
     offering.show();
-    TitledWindow* const offered = offering.window();
+    const QPointer<TitledWindow> offered = offering.window();
     ASSERT_TRUE(eventually([&] { return offered->isActive(); }));
     clickOn(offered, u"start"_s);
     clickOn(offered, u"done"_s);
@@ -346,6 +346,7 @@ TEST_F(Setup, OffersTheDesktopsExtensionLastAndTurnsItOnWhenAsked) {
     clickOn(offered, u"finish"_s);
     EXPECT_EQ(kept(u"onboarded"_s), true);
     EXPECT_EQ(offering.window(), nullptr);
+    EXPECT_TRUE(eventually([&] { return offered.isNull(); }));
 }
 
 } // namespace
