@@ -6,6 +6,7 @@ import pathlib
 import signal
 import statistics
 import subprocess
+import time
 import unittest
 
 import shell
@@ -34,13 +35,15 @@ OPENING_TIME = """
 """
 
 
-class ProgramTest(ExtensionCase):
+class ProgramCase(ExtensionCase):
+    x11 = False
+
     @classmethod
     def setUpClass(cls):
         pass  # A shell for each test.
 
     def setUp(self):
-        self.session = self.enterContext(shell.Shell(monitors=self.monitors))
+        self.session = self.enterContext(shell.Shell(monitors=self.monitors, x11=self.x11))
         config = self.session.home / ".config/ravelo"
         config.mkdir(parents=True)
         (config / "preferences.json").write_text(
@@ -70,6 +73,10 @@ class ProgramTest(ExtensionCase):
         self.session.run("await click(100, 700)")
         until(lambda: not self.panel(), "the panel closes")
 
+    def close_to_bar(self):
+        self.session.run("await click(100, 700)")
+        until(lambda: self.panel()["frame"][3] < 60, "it closes to the bar")
+
     def store(self):
         file = self.session.home / ".local/share/Ravelo/store.json"
         return file.read_text() if file.exists() else ""
@@ -78,6 +85,8 @@ class ProgramTest(ExtensionCase):
         return subprocess.run([PROGRAM, *words], env=self.session.environment, capture_output=True, text=True,
                               timeout=20, check=False).stdout
 
+
+class ProgramTest(ProgramCase):
     def test_captures_copies_but_no_passwords(self):
         self.client("text", "--copy", "from GTK")
         until(lambda: "from GTK" in self.store(), "a text is stored")
@@ -121,10 +130,6 @@ class ProgramTest(ExtensionCase):
         until(lambda: self.panel()["frame"][3] > 300, "it opens under the pointer")
         self.session.run("move(640, 300)")
         self.close_to_bar()
-
-    def close_to_bar(self):
-        self.session.run("await click(100, 700)")
-        until(lambda: self.panel()["frame"][3] < 60, "it closes to the bar")
 
     def test_copies_back_and_types(self):
         target = self.client("target", "--copy", "first copy")
@@ -186,6 +191,29 @@ class ProgramTest(ExtensionCase):
         self.assertEqual(until(lambda: self.ravelo.poll() is not None, "it ends with the shell"), True)
         self.assertGreaterEqual(self.ravelo.returncode, 0, "it crashed")
         self.assertIn("kept", self.store())
+
+
+class OwnersTest(ProgramCase):
+    x11 = True
+
+    def test_captures_from_x11_and_is_not_held_up_by_an_owner_that_hangs(self):
+        names = ("DISPLAY", "XAUTHORITY")
+        values = self.session.run("return [GLib.getenv('DISPLAY'), GLib.getenv('XAUTHORITY')]")
+        copying = subprocess.Popen(["xclip", "-selection", "clipboard"], stdin=subprocess.PIPE,
+                                   env={**self.session.environment, **dict(zip(names, values))})
+        self.session.processes.append(copying)
+        copying.communicate(b"from X11")
+        until(lambda: "from X11" in self.store(), "a copy of an X11 program is stored")
+
+        hanging = self.client("hanging", "--copy", "hung")
+        until(lambda: "hung" in self.store(), "it is stored")
+        self.session.run("await key(Clutter.KEY_F5)")
+        hanging.process.send_signal(signal.SIGSTOP)
+        began = time.monotonic()
+        self.command("--status")
+        self.assertLess(time.monotonic() - began, 1, "it waits for the owner")
+        self.client("next", "--copy", "next copy")
+        until(lambda: "next copy" in self.store(), "the next copy is stored")
 
 
 if __name__ == "__main__":
