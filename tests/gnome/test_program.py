@@ -34,6 +34,9 @@ OPENING_TIME = """
     return await shown;
 """
 
+# A key to hold.
+CONTROL = """const control = down => keyboard.notify_keyval(GLib.get_monotonic_time(), Clutter.KEY_Control_L, down);"""
+
 
 class ProgramCase(ExtensionCase):
     x11 = False
@@ -191,6 +194,38 @@ class ProgramTest(ProgramCase):
         self.assertEqual(until(lambda: self.ravelo.poll() is not None, "it ends with the shell"), True)
         self.assertGreaterEqual(self.ravelo.returncode, 0, "it crashed")
         self.assertIn("kept", self.store())
+
+    def test_works_with_the_desktops_own_programs(self):
+        folder = self.session.home / "parked"
+        folder.mkdir()
+        (folder / "a file.txt").write_text("contents")
+        self.session.start("nautilus", folder, log="nautilus.log")
+        x, y, _, _ = until(lambda: self.window("parked"), "the file manager is shown", 40)["frame"]
+        self.session.run("await sleep(1500)")
+        file = f"{x + 333}, {y + 118}"
+        self.session.run(f"await click({file}); await sleep(500);"
+                         f"{CONTROL} control(1); await sleep(50); await key(Clutter.KEY_c); control(0);")
+        until(lambda: "a file.txt" in self.store(), "a copied file is stored by its path")
+        self.session.run(f"move({file}); await sleep(200); button(true); await sleep(100);"
+                         f"await glide({file}, 640, 0);")
+        until(self.panel, "the panel opens for the drag")
+        self.session.run("await sleep(200); await glide(640, 0, 640, 150); await sleep(300); button(false);")
+        until(lambda: str(folder / "a file.txt") in self.command("shelf", "list"), "the file is parked")
+        self.session.run("await sleep(300)")
+        self.close()
+
+        self.client("client", "--copy", "pasted again")
+        until(lambda: "pasted again" in self.store(), "a text is stored")
+        self.session.start("gnome-text-editor", "--standalone", log="editor.log")
+        editor = until(lambda: next((one for one in self.session.run("return windows()") if one["focus"]
+                                     and one["title"] not in ("client", "parked")), None), "an editor", 40)
+        self.open()
+        self.session.run(f"await sleep(300); await shot('{self.session.folder}/shelf.png');")
+        self.close()
+        self.session.run(f"{CONTROL} control(1); await key(Clutter.KEY_v); control(0); await sleep(1000);"
+                         f"await shot('{self.session.folder}/editor.png');")
+        until(lambda: any("pasted again" in one["title"] for one in self.session.run("return windows()")),
+              f"the editor has the text; before: {editor['title']}")
 
 
 class OwnersTest(ProgramCase):
