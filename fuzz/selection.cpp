@@ -2,8 +2,8 @@
 // of them.
 
 #include "Input.h"
-#include "clipboard/CapturePlan.h"
 #include "base/ClipboardText.h"
+#include "clipboard/CapturePlan.h"
 
 #include <QUtf8StringView>
 

@@ -19,8 +19,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
         inbox.put(part, std::move(descriptors));
         while (const auto delivery = inbox.take()) {
             const auto* given = std::get_if<gnome::Given>(&delivery->report);
-            const bool carries =
-                given != nullptr && given->how == gnome::Given::How::descriptor;
+            const bool carries = given != nullptr && given->how == gnome::Given::How::descriptor;
             fuzz::require(carries == bool(delivery->descriptor));
             if (const auto* screens = std::get_if<gnome::ScreensReport>(&delivery->report)) {
                 for (const Screen& screen : screens->screens) {

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "decode/Protocol.h"
 #include "base/Descriptor.h"
+#include "decode/Protocol.h"
 
 #include <QByteArray>
 
