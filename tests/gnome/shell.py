@@ -49,7 +49,7 @@ class Shell:
         self.runtime.mkdir(mode=0o700)
         self.home = self.folder / "home"
         self.environment = {
-            "PATH": "/usr/bin:/bin", "LC_ALL": "C.UTF-8", "HOME": str(self.home),
+            "PATH": os.environ["PATH"], "LC_ALL": "C.UTF-8", "HOME": str(self.home),
             "XDG_RUNTIME_DIR": str(self.runtime), "XDG_SESSION_TYPE": "wayland", "XDG_SESSION_ID": "c1",
             "XDG_CURRENT_DESKTOP": "GNOME", "GSK_RENDERER": "cairo", "LIBGL_ALWAYS_SOFTWARE": "1", "GSETTINGS_BACKEND": "keyfile",
             "XDG_DATA_DIRS": "/usr/local/share:/usr/share", "NO_AT_BRIDGE": "1", "GTK_A11Y": "none",
@@ -68,8 +68,9 @@ class Shell:
 
     def __enter__(self):
         until(self.is_up, "the shell is up", 30)
-        until(lambda: self.run("Main.overview.hide(); await sleep(300); return !Main.overview.visible"
-                               "&& !Main.layoutManager._startingUp && global.top_window_group.visible"),
+        until(lambda: not self.run("return Main.layoutManager._startingUp"), "the shell has started", 30)
+        until(lambda: self.run("Main.overview.hide(); await sleep(400);"
+                               "return !Main.overview.visible && global.top_window_group.visible"),
               "the overview is gone", 30)
         self.run("move(600, 500)")
         return self

@@ -203,9 +203,11 @@ class ScaledTest(ExtensionCase):
         peer = self.attached()
         self.session.set_scale(2)
         until(lambda: peer.messages("screens")[-1]["screens"][0]["frame"] == [0, 0, 1280, 800], "the scale counts")
-        size = self.session.run("const strip = Main.layoutManager.uiGroup.get_children()"
-                                ".find(one => one.name === 'ravelo-edge'); return [strip.width, strip.height];")
-        self.assertEqual(size, [400, 4])
+        # The stage counts in the monitor's pixels or, since GNOME 48, in those of clients.
+        share = self.session.run("const strip = Main.layoutManager.uiGroup.get_children()"
+                                 ".find(one => one.name === 'ravelo-edge');"
+                                 "return strip.width / Main.layoutManager.primaryMonitor.width;")
+        self.assertAlmostEqual(share, 200 / 1280)
 
 
 if __name__ == "__main__":
