@@ -47,7 +47,7 @@ export class Link {
         try {
             this._connection?.send_fd(fd, null);
         } catch {
-            this._close();
+            this._hangUp();
         }
         this.send(message);
     }
@@ -187,7 +187,16 @@ export class Link {
         } catch {
             // It does not read, or is gone.
         }
-        this._close();
+        this._hangUp();
+    }
+
+    // Ends the listening, after which it is tried again.
+    _hangUp() {
+        try {
+            this._connection.get_socket().shutdown(true, true);
+        } catch {
+            // It has hung up itself.
+        }
     }
 
     _close() {

@@ -51,7 +51,7 @@ class Peer:
             say({**message, "bytes": data.decode(errors="replace"), "size": len(data)})
             return
         say(message)
-        self.link = connection
+        self.link, self.bytes, self.descriptors = connection, b"", []
         try:
             connection.sendall(json.dumps(HELLO).encode() + b"\n")
         except BrokenPipeError:

@@ -121,6 +121,12 @@ class ExtensionTest(ExtensionCase):
         until(lambda: peer.messages("end"), "it hangs up")
         self.assertEqual(peer.messages("screens"), [])
 
+    def test_drops_a_ravelo_that_does_not_read_and_tries_again(self):
+        peer = self.attached()
+        self.session.run(f"Main.extensionManager.lookup('{shell.COMPANION}').stateObj._link._put("
+                         "new Uint8Array(8 << 20))")
+        until(lambda: len(peer.messages("hello")) == 2 and len(peer.messages("screens")) == 2, "it is back")
+
     def test_leaves_nothing_behind_when_disabled_a_hundred_times(self):
         peer = self.attached()
         one = f"""

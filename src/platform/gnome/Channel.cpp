@@ -230,7 +230,7 @@ void Channel::receive() {
         return;
     }
     inbox_.put({buffer, received.size}, std::move(received.descriptors));
-    while (auto delivery = inbox_.take()) {
+    for (auto delivery = inbox_.take(); delivery.has_value(); delivery = inbox_.take()) {
         deliveries_.notify(&*delivery);
         if (!up_) {
             return;

@@ -32,7 +32,7 @@ std::optional<QRectF> rectangle(const QJsonValue& value) {
     if (numbers.size() != 4) {
         return std::nullopt;
     }
-    for (const QJsonValue& number : numbers) {
+    for (const auto number : numbers) {
         if (!(std::abs(number.toDouble(NAN)) <= maxCoordinate)) {
             return std::nullopt;
         }
@@ -48,7 +48,7 @@ std::optional<QList<QByteArray>> types(const QJsonValue& value) {
         return std::nullopt; // A mark of secrecy could be among those that are not looked at.
     }
     QList<QByteArray> result;
-    for (const QJsonValue& name : names) {
+    for (const auto name : names) {
         if (!name.isString()) {
             return std::nullopt;
         }
@@ -71,7 +71,7 @@ std::optional<Report> parseScreens(const QJsonObject& message) {
         return std::nullopt;
     }
     ScreensReport report{{}, *primary};
-    for (const QJsonValue& one : list) {
+    for (const auto one : list) {
         const auto frame = rectangle(one[u"frame"]);
         const auto free = rectangle(one[u"free"]);
         if (!frame || !free) {
