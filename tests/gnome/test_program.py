@@ -91,8 +91,14 @@ class ProgramCase(ExtensionCase):
 
 class ProgramTest(ProgramCase):
     def test_captures_copies_but_no_passwords(self):
-        self.client("text", "--copy", "from GTK")
+        text = self.client("text", "--copy", "from GTK")
         until(lambda: "from GTK" in self.store(), "a text is stored")
+        before = json.loads(self.store())["clips"]
+        text.end()
+        until(lambda: self.session.run("return global.display.get_selection().get_mimetypes(1)"),
+              "the shell keeps the text of a program that has ended")
+        self.session.run("await sleep(1000)")
+        self.assertEqual(json.loads(self.store())["clips"], before, "which is no new copy")
         self.client("secret", "--secret", "hunter2")
         self.client("picture", "--image", next(shell.ROOT.glob("docs/screenshots/dark-1x/*.png")))
         clips = self.session.home / ".local/share/Ravelo/clips"
