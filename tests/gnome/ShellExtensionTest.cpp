@@ -60,6 +60,13 @@ protected:
         return std::make_unique<ShellExtension>(bus_.connect(u"ravelo"_s), used);
     }
 
+    void reportChange() {
+        auto signal = QDBusMessage::createSignal(
+            u"/org/gnome/Shell"_s, u"org.gnome.Shell.Extensions"_s, u"ExtensionStateChanged"_s);
+        signal << QString(extensionId) << QVariantMap();
+        bus_.connect(u"shell"_s).send(signal);
+    }
+
     bool knows_ = true; ///< The shell has seen it at the login.
     bool enabled_ = false;
 
@@ -93,6 +100,9 @@ TEST_F(ShellExtensionTest, IsTurnedOnAtOnceIfTheShellKnowsIt) {
     EXPECT_EQ(settings(), "['other@name']") << "the shell's business";
     const auto next = start(ShellExtension::Used::yes);
     EXPECT_TRUE(eventually([&] { return next->state() == State::on; }));
+    enabled_ = false;
+    reportChange();
+    EXPECT_TRUE(eventually([&] { return next->state() == State::off; })) << "turned off elsewhere";
 }
 
 TEST_F(ShellExtensionTest, IsTurnedOnForTheNextLoginIfItWasInstalledAfterThisOne) {

@@ -25,12 +25,13 @@ constexpr int timeout = 5000;
 /// Of the shell's ExtensionState.
 constexpr int enabledState = 1;
 
+const QString shellInterface = u"org.gnome.Shell.Extensions"_s;
 const QString settingsSchema = u"org.gnome.shell"_s;
 const QString settingsKey = u"enabled-extensions"_s;
 
 QDBusMessage shellCall(const QString& method) {
     auto call = QDBusMessage::createMethodCall(u"org.gnome.Shell"_s, u"/org/gnome/Shell"_s,
-                                               u"org.gnome.Shell.Extensions"_s, method);
+                                               shellInterface, method);
     call.setAutoStartService(false);
     call << QString(extensionId);
     return call;
@@ -118,6 +119,8 @@ QString withName(const QString& list, QLatin1StringView name) {
 
 ShellExtension::ShellExtension(QDBusConnection bus, Used used) : bus_(std::move(bus)), used_(used) {
     if (isGnomeOnWayland()) {
+        // From any sender, because matching one blocks.
+        bus_.connect({}, {}, shellInterface, u"ExtensionStateChanged"_s, this, SLOT(refresh()));
         refresh();
     }
 }

@@ -33,11 +33,13 @@ inline constexpr QLatin1StringView extensionId("companion@ravelo.org");
 /// Our extension of GNOME Shell, which manages it over the session bus. A shell that has not seen
 /// it yet, because it was installed after the login, gets it by the settings.
 class ShellExtension final : public QObject, public DesktopExtension {
+    Q_OBJECT
+
 public:
     /// Whether this program was started with the extension running.
     enum class Used { yes, no };
 
-    /// Asks at once and does not wait.
+    /// Asks at once, and after each change; does not wait.
     ShellExtension(QDBusConnection bus, Used used);
 
     [[nodiscard]] State state() const override { return state_; }
@@ -48,9 +50,11 @@ public:
 
     void turnOn() override;
 
+private Q_SLOTS:
+    void refresh();
+
 private:
     void call(const QString& method, std::function<void(const QDBusMessage&)> done);
-    void refresh();
     void refreshBySettings();
     void addToSettings();
     void set(State state);
