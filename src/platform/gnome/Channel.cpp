@@ -230,11 +230,12 @@ void Channel::receive() {
         return;
     }
     inbox_.put({buffer, received.size}, std::move(received.descriptors));
-    for (auto delivery = inbox_.take(); delivery.has_value(); delivery = inbox_.take()) {
-        deliveries_.notify(&*delivery);
-        if (!up_) {
-            return;
+    while (up_) {
+        auto delivery = inbox_.take();
+        if (!delivery) {
+            break;
         }
+        deliveries_.notify(&*delivery);
     }
     if (received.size == 0 || inbox_.isBroken()) {
         close();

@@ -49,7 +49,7 @@ bool isInstalled() {
 
 /// Runs gsettings, which ends at once, and passes on what it printed; empty if it failed.
 void runSettings(QObject& owner, const QStringList& arguments,
-                 std::function<void(const QString&)> done) {
+                 const std::function<void(const QString&)>& done) {
     auto* const process = new QProcess(&owner);
     QObject::connect(process, &QProcess::finished, &owner,
                      [process, done](int code, QProcess::ExitStatus status) {
