@@ -7,6 +7,15 @@
 
 using namespace ravelo;
 
+namespace {
+
+/// Whatever it carries, what we answer is one line.
+void requireOneLine(const QByteArray& order) {
+    fuzz::require(order.indexOf('\n') == order.size() - 1);
+}
+
+} // namespace
+
 int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const QByteArrayView input = fuzz::view(bytes, size);
     gnome::Inbox inbox;
@@ -21,6 +30,13 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
             const auto* given = std::get_if<gnome::Given>(&delivery->report);
             const bool carries = given != nullptr && given->how == gnome::Given::How::descriptor;
             fuzz::require(carries == bool(delivery->descriptor));
+            if (const auto* copied = std::get_if<gnome::Copied>(&delivery->report)) {
+                for (const QByteArray& type : copied->types) {
+                    requireOneLine(
+                        gnome::want(gnome::Selection::clip, copied->serial, type, 1 << 20));
+                    requireOneLine(gnome::offer(QString::fromUtf8(type)));
+                }
+            }
             if (const auto* screens = std::get_if<gnome::ScreensReport>(&delivery->report)) {
                 for (const Screen& screen : screens->screens) {
                     fuzz::require(screen.visibleFrame.isEmpty() ||
