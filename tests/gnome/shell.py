@@ -31,7 +31,7 @@ def release():
     return int(subprocess.check_output(["gnome-shell", "--version"], text=True).split()[2].split(".")[0])
 
 
-def until(condition, what, seconds=10):
+def until(condition, what, seconds=20):
     end = time.monotonic() + seconds
     while time.monotonic() < end:
         value = condition()
