@@ -10,6 +10,7 @@
 #include "panel/NotchController.h"
 #include "platform/AlertSound.h"
 #include "platform/ChildProcess.h"
+#include "platform/DesktopExtension.h"
 #include "platform/DisplayServer.h"
 #include "platform/FileIcons.h"
 #include "platform/FileOpener.h"
@@ -227,9 +228,10 @@ void AppDelegate::provideWindows() {
                                           return platform_.display->windowFrame(window);
                                       }};
     settingsWindow_ = std::make_unique<SettingsWindow>(
-        SettingsWindow::Subjects{beside, *store_, *settings_, quitLater, platform_.displayText});
-    onboarding_ =
-        std::make_unique<OnboardingController>(beside, *settings_, platform_.display->screens());
+        SettingsWindow::Subjects{beside, *store_, *settings_, quitLater, platform_.displayText,
+                                 platform_.extension.get()});
+    onboarding_ = std::make_unique<OnboardingController>(
+        beside, *settings_, platform_.display->screens(), platform_.extension.get());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());
     QObject::connect(notch_.get(), &NotchController::settingsRequested, settingsWindow_.get(),
                      &SettingsWindow::show);

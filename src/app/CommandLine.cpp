@@ -138,11 +138,12 @@ These commands need a running Ravelo:
 The exit status is 0 on success, 1 on failure or if Ravelo is not running, and 2
 for an invalid command.
 
-Ravelo runs on X11, and on Wayland compositors with layer shell and data control
-(sway, labwc, KWin and others). On others it runs through XWayland, with limitations:
-the panel opens only if the pointer or a drag is on its own handle, closes when the
-pointer leaves it, and may not get the keyboard, and copies of programs that are not
-X11 programs may go unseen. RAVELO_PLATFORM=x11 or =wayland chooses one.
+Ravelo runs on X11, on Wayland compositors with layer shell and data control (sway,
+labwc, KWin and others), and on GNOME with its extension, which the settings offer to
+turn on. Elsewhere it runs through XWayland, with limitations: the panel opens only
+if the pointer or a drag is on its own handle, closes when the pointer leaves it, and
+may not get the keyboard, and not all copies may be seen. RAVELO_PLATFORM=x11,
+=wayland or =gnome chooses one.
 )"_s;
 }
 

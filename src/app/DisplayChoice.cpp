@@ -1,5 +1,6 @@
 #include "app/DisplayChoice.h"
 
+#include "platform/gnome/ShellExtension.h"
 #include "platform/wayland/PrepareApplication.h"
 #include "platform/x11/PrepareApplication.h"
 
@@ -27,20 +28,38 @@ Result<DisplayChoice> chooseDisplay() {
     if (wanted == "x11"_L1) {
         return onX11(u"set by RAVELO_PLATFORM"_s);
     }
+    if (wanted == "gnome"_L1) {
+        return DisplayChoice{Display::gnome, u"set by RAVELO_PLATFORM"_s};
+    }
     if (!wanted.isEmpty()) {
-        return failure(u"RAVELO_PLATFORM must be x11 or wayland, not \"%1\""_s.arg(wanted));
+        return failure(u"RAVELO_PLATFORM must be x11, wayland or gnome, not \"%1\""_s.arg(wanted));
     }
     const QString qtPlatform = qEnvironmentVariable("QT_QPA_PLATFORM");
     if (!qtPlatform.isEmpty() && !qtPlatform.startsWith("wayland"_L1)) {
         return onX11(u"set by QT_QPA_PLATFORM"_s);
     }
     auto choice = onWayland(u"the compositor offers layer shell and data control"_s);
-    return choice ? choice : onX11(choice.error().message);
+    if (choice) {
+        return choice;
+    }
+    return gnome::isExtensionRunning()
+               ? DisplayChoice{Display::gnome, u"its extension for Ravelo is running"_s}
+               : onX11(choice.error().message);
 }
 
 QString describe(const DisplayChoice& choice) {
-    const QString name = choice.display == Display::wayland ? u"Wayland"_s : u"X11"_s;
-    return u"%1 (%2)"_s.arg(name, choice.reason);
+    const auto name = [&] {
+        switch (choice.display) {
+        case Display::x11:
+            return u"X11"_s;
+        case Display::wayland:
+            return u"Wayland"_s;
+        case Display::gnome:
+            return u"GNOME"_s;
+        }
+        return QString();
+    };
+    return u"%1 (%2)"_s.arg(name(), choice.reason);
 }
 
 } // namespace ravelo

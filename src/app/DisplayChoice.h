@@ -7,7 +7,7 @@
 namespace ravelo {
 
 /// Kinds of display server.
-enum class Display { x11, wayland };
+enum class Display { x11, wayland, gnome };
 
 struct DisplayChoice {
     Display display;

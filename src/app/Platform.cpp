@@ -1,6 +1,7 @@
 #include "app/Platform.h"
 
 #include "monitor/ClaudeEnvironment.h"
+#include "panel/NotchGeometry.h"
 #include "panel/PointerHotZone.h"
 #include "platform/freedesktop/AutostartEntry.h"
 #include "platform/freedesktop/BusInstance.h"
@@ -16,6 +17,9 @@
 #include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
 #include "platform/freedesktop/TrayStatusItem.h"
+#include "platform/gnome/GnomeDisplayServer.h"
+#include "platform/gnome/PrepareApplication.h"
+#include "platform/gnome/ShellExtension.h"
 #include "platform/system/CurlClient.h"
 #include "platform/system/DataLock.h"
 #include "platform/system/DecoderProcess.h"
@@ -102,6 +106,23 @@ Result<void> connectWayland(Platform& platform) {
     return {};
 }
 
+Result<void> connectGnome(Platform& platform) {
+    auto created = gnome::GnomeDisplayServer::create(gnome::GnomeDisplayServer::usualPath(),
+                                                     sessionBus(), handleSize);
+    if (!created) {
+        return tl::unexpected(created.error());
+    }
+    gnome::GnomeDisplayServer& server = **created;
+    platform.motion = server.motion();
+    platform.iconPreference = server.icons();
+    platform.trayArea = std::make_unique<gnome::NoTrayArea>();
+    platform.makeHotZone = [&server, scheduler = platform.scheduler.get()](PanelWindow& window) {
+        return server.hotZone(*scheduler, window);
+    };
+    platform.display = std::move(*created);
+    return {};
+}
+
 void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
     platform.worker = std::make_unique<WorkerThread>();
     platform.dataLock =
@@ -165,6 +186,8 @@ Handle Platform::prepareApplication(Display display) {
         return x11::prepareApplication();
     case Display::wayland:
         return wayland::prepareApplication();
+    case Display::gnome:
+        return gnome::prepareApplication();
     }
     return {};
 }
@@ -182,10 +205,16 @@ Result<Platform> Platform::make(const DisplayChoice& choice, const QProcessEnvir
     case Display::wayland:
         connected = connectWayland(platform);
         break;
+    case Display::gnome:
+        connected = connectGnome(platform);
+        break;
     }
     if (!connected) {
         return tl::unexpected(connected.error());
     }
+    using Used = gnome::ShellExtension::Used;
+    platform.extension = std::make_unique<gnome::ShellExtension>(
+        sessionBus(), display == Display::gnome ? Used::yes : Used::no);
     makeSystem(platform, environment);
     makeDesktop(platform, environment);
     return platform;

@@ -18,6 +18,7 @@ namespace ravelo {
 class AlertSound;
 class ChildProcess;
 class DataLock;
+class DesktopExtension;
 class DetachedJobs;
 class DisplayServer;
 class FileIcons;
@@ -100,6 +101,7 @@ struct Platform {
     std::unique_ptr<FolderChanges> usageChanges;
     std::unique_ptr<FileOpener> opener;
     std::unique_ptr<PackageUpdates> packages;
+    std::unique_ptr<DesktopExtension> extension;
     std::unique_ptr<IconPreference> iconPreference;
     std::shared_ptr<FileIcons> icons; ///< Likewise.
     Handle iconThemeChange;

@@ -31,7 +31,8 @@ TEST(DisplayChoice, isTheOneThatIsAskedForOrAClearError) {
     const Row rows[] = {
         {"x11", "offscreen", u"X11 (set by RAVELO_PLATFORM)"_s},
         {"wayland", "offscreen", gone},
-        {"X11", "offscreen", u"RAVELO_PLATFORM must be x11 or wayland, not \"X11\""_s},
+        {"gnome", "offscreen", u"GNOME (set by RAVELO_PLATFORM)"_s},
+        {"X11", "offscreen", u"RAVELO_PLATFORM must be x11, wayland or gnome, not \"X11\""_s},
         {"", "offscreen", u"X11 (set by QT_QPA_PLATFORM)"_s},
         {"", "xcb", u"no display: DISPLAY is not set"_s},
         {"", "", u"no display: DISPLAY is not set"_s},

@@ -14,6 +14,24 @@ Column {
     spacing: 12
 
     SettingsSection {
+        objectName: "extension"
+        visible: page.host.extension.isOffered
+        title: qsTr("GNOME")
+
+        SettingRow {
+            text: qsTr("Extension of GNOME Shell")
+            note: [qsTr("Without it Ravelo sees not all copies, opens on its handle only and closes when the pointer leaves it."), page.host.extension.next].join(" ").trim()
+
+            CapsuleButton {
+                objectName: "turnOn"
+                visible: page.host.extension.canTurnOn
+                text: qsTr("Turn on")
+                onClicked: page.host.extension.turnOn()
+            }
+        }
+    }
+
+    SettingsSection {
         objectName: "general"
         title: qsTr("General")
 

@@ -11,6 +11,8 @@ FocusScope {
 
     required property OnboardingController host
 
+    signal done
+
     readonly property AppSettings settings: host.settings
     readonly property var kinds: [
         {
@@ -34,14 +36,14 @@ FocusScope {
         }
     }
 
-    Keys.onReturnPressed: host.finish()
-    Keys.onEnterPressed: host.finish()
+    Keys.onReturnPressed: done()
+    Keys.onEnterPressed: done()
 
     ScrolledPage {
         id: scrolled
         y: 40
         width: parent.width
-        height: done.y - y - 8
+        height: next.y - y - 8
         contentHeight: 110 + 78 * step.kinds.length - 10
 
         Label {
@@ -86,7 +88,7 @@ FocusScope {
     }
 
     CapsuleButton {
-        id: done
+        id: next
         objectName: "done"
         anchors.horizontalCenter: parent.horizontalCenter
         y: Math.min(398, parent.height - 86)
@@ -95,6 +97,6 @@ FocusScope {
         style: Theme.tab
         primary: true
         text: qsTr("Done")
-        onClicked: step.host.finish()
+        onClicked: step.done()
     }
 }

@@ -9,10 +9,11 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 OnboardingController::OnboardingController(TitledWindow::Beside beside, AppSettings& settings,
-                                           Screens& screens)
+                                           Screens& screens, DesktopExtension* extension)
     : beside_(std::move(beside)),
       settings_(settings),
       screens_(screens),
+      extension_(extension),
       screensMonitor_(screens.onChange([this] { Q_EMIT hasNotchChanged(); })) {}
 
 OnboardingController::~OnboardingController() {

@@ -2,6 +2,7 @@
 
 #include "base/Handle.h"
 #include "settings/AppSettings.h"
+#include "ui/windows/ExtensionOffer.h"
 #include "ui/windows/TitledWindow.h"
 
 #include <QObject>
@@ -18,14 +19,18 @@ class OnboardingController : public QObject {
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(ravelo::AppSettings* settings READ settings CONSTANT)
+    Q_PROPERTY(ravelo::ExtensionOffer* extension READ extension CONSTANT)
     Q_PROPERTY(bool hasNotch READ hasNotch NOTIFY hasNotchChanged)
 
 public:
-    /// All outlive this.
-    OnboardingController(TitledWindow::Beside beside, AppSettings& settings, Screens& screens);
+    /// All outlive this. `extension` is null if the desktop needs none.
+    OnboardingController(TitledWindow::Beside beside, AppSettings& settings, Screens& screens,
+                         DesktopExtension* extension = nullptr);
     ~OnboardingController() override;
 
     [[nodiscard]] AppSettings* settings() const { return &settings_; }
+
+    [[nodiscard]] ExtensionOffer* extension() { return &extension_; }
 
     /// The main screen has a camera housing.
     [[nodiscard]] bool hasNotch() const;
@@ -47,6 +52,7 @@ private:
     TitledWindow::Beside beside_;
     AppSettings& settings_;
     Screens& screens_;
+    ExtensionOffer extension_;
     TitledWindow* window_ = nullptr; ///< Owned. Deleted later, because its own events close it.
     Handle screensMonitor_;
 };

@@ -12,6 +12,7 @@ TitledPage {
     required property OnboardingController host
 
     property int step: 0
+    readonly property int steps: host.extension.isOffered || step === 2 ? 3 : 2
 
     WelcomeStep {
         anchors.fill: parent
@@ -25,6 +26,14 @@ TitledPage {
         visible: view.step === 1
         focus: visible
         host: view.host
+        onDone: view.steps > 2 ? view.step = 2 : view.host.finish()
+    }
+
+    ExtensionStep {
+        anchors.fill: parent
+        visible: view.step === 2
+        focus: visible
+        host: view.host
     }
 
     Row {
@@ -33,7 +42,7 @@ TitledPage {
         spacing: 6
 
         Repeater {
-            model: 2
+            model: view.steps
 
             Box {
                 required property int index

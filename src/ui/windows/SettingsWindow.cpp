@@ -6,7 +6,8 @@ namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
-SettingsWindow::SettingsWindow(Subjects subjects) : subjects_(std::move(subjects)) {
+SettingsWindow::SettingsWindow(Subjects subjects)
+    : subjects_(std::move(subjects)), extension_(subjects_.extension) {
     connect(&subjects_.store, &Store::clipsChanged, this, &SettingsWindow::clipsChanged);
 }
 

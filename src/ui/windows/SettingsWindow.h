@@ -2,6 +2,7 @@
 
 #include "settings/AppSettings.h"
 #include "store/Store.h"
+#include "ui/windows/ExtensionOffer.h"
 #include "ui/windows/TitledWindow.h"
 
 #include <QObject>
@@ -19,6 +20,7 @@ class SettingsWindow : public QObject {
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(ravelo::AppSettings* settings READ settings CONSTANT)
     Q_PROPERTY(QString display READ display CONSTANT)
+    Q_PROPERTY(ravelo::ExtensionOffer* extension READ extension CONSTANT)
     Q_PROPERTY(int clipCount READ clipCount NOTIFY clipsChanged)
 
 public:
@@ -29,6 +31,7 @@ public:
         AppSettings& settings;
         std::function<void()> quit; ///< Quits the program, asynchronously.
         QString display;            ///< Which display server is in use, and why.
+        DesktopExtension* extension = nullptr; ///< Null if the desktop needs none.
     };
 
     explicit SettingsWindow(Subjects subjects);
@@ -37,6 +40,8 @@ public:
     [[nodiscard]] AppSettings* settings() const { return &subjects_.settings; }
 
     [[nodiscard]] const QString& display() const { return subjects_.display; }
+
+    [[nodiscard]] ExtensionOffer* extension() { return &extension_; }
 
     [[nodiscard]] int clipCount() const;
 
@@ -54,6 +59,7 @@ Q_SIGNALS:
 
 private:
     Subjects subjects_;
+    ExtensionOffer extension_;
     std::unique_ptr<TitledWindow> window_;
 };
 

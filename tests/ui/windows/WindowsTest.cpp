@@ -1,3 +1,4 @@
+#include "fakes/FakeDesktopExtension.h"
 #include "panel_fixture/PanelFixture.h"
 #include "ui/windows/OnboardingController.h"
 #include "ui/windows/SettingsWindow.h"
@@ -321,6 +322,33 @@ TEST_F(Setup, CanBeDoneByMouseAndReportsTheNotch) {
     EXPECT_EQ(kept(u"onboarded"_s), true);
     EXPECT_EQ(setup.window(), nullptr);
     EXPECT_TRUE(eventually([this] { return window.isNull(); }));
+}
+
+TEST_F(Setup, OffersTheDesktopsExtensionLastAndTurnsItOnWhenAsked) {
+    FakeDesktopExtension extension;
+    OnboardingController offering({view.window()}, world.settings, world.screens, &extension);
+    offering.show();
+    const QPointer<TitledWindow> offered = offering.window();
+    ASSERT_TRUE(eventually([&] { return offered->isActive(); }));
+    clickOn(offered, u"start"_s);
+    clickOn(offered, u"done"_s);
+    ASSERT_EQ(offering.window(), offered) << "there is one more step";
+    EXPECT_EQ(extension.requests, 0) << "without being asked";
+    clickOn(offered, u"turnOn"_s);
+    EXPECT_EQ(extension.requests, 1);
+    EXPECT_EQ(in(offered, u"next"_s)->property("text").toString(), u"Log out and in once."_s);
+    clickOn(offered, u"turnOn"_s);
+    EXPECT_EQ(extension.requests, 1) << "the button is gone";
+    for (const auto& [state, says] :
+         {std::pair(DesktopExtension::State::older, u"The extension is older than Ravelo."_s),
+          std::pair(DesktopExtension::State::newer, u"The extension is newer than Ravelo."_s)}) {
+        extension.change(state);
+        EXPECT_TRUE(in(offered, u"next"_s)->property("text").toString().startsWith(says));
+    }
+    clickOn(offered, u"finish"_s);
+    EXPECT_EQ(kept(u"onboarded"_s), true);
+    EXPECT_EQ(offering.window(), nullptr);
+    EXPECT_TRUE(eventually([&] { return offered.isNull(); }));
 }
 
 } // namespace

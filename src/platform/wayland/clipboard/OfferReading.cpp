@@ -57,9 +57,10 @@ void OfferReading::ask(const QByteArray& name) {
                            [this, name](PipeResult result) { take(name, std::move(result)); });
 }
 
-/// An owner that refuses gives nothing, and so does one that has nothing to give.
+/// An owner refuses by giving nothing: GTK does for names that are no MIME types, such as a password
+/// manager's mark.
 void OfferReading::take(const QByteArray& name, PipeResult result) {
-    if (result && !(result->isEmpty() && !names_.isEmpty())) {
+    if (result && !result->isEmpty()) {
         names_.clear();
         snapshot_.answers[wanted_] =
             wanted_ == plainTextType ? toUtf8(name, name, *result) : std::move(*result);

@@ -1,0 +1,110 @@
+#include "platform/gnome/GnomePanelWindow.h"
+
+#include "platform/gnome/GnomeScreens.h"
+
+#include <QMouseEvent>
+#include <QPainterPath>
+#include <QPolygonF>
+#include <QRegion>
+#include <QWindow>
+
+#include <utility>
+
+namespace ravelo::gnome {
+
+GnomePanelWindow::GnomePanelWindow(QWindow& window, Channel& channel, GnomeDragMonitor& drags,
+                                   QSizeF handle)
+    : window_(window),
+      channel_(channel),
+      drags_(drags),
+      handle_(handle),
+      ups_(channel.onUpChange([this] {
+          if (channel_.isUp()) {
+              channel_.send(gnome::place(screen_));
+          }
+          apply();
+      })) {
+    window_.setFlags(Qt::Window | Qt::FramelessWindowHint);
+    window_.setTitle(panelTitle);
+    QSurfaceFormat format = window_.requestedFormat();
+    format.setAlphaBufferSize(8);
+    window_.setFormat(format);
+    window_.installEventFilter(this);
+    window_.create();
+}
+
+void GnomePanelWindow::place(const Screen& screen, QSizeF size) {
+    const std::size_t index = GnomeScreens::indexOf(screen);
+    if (std::exchange(screen_, index) != index) {
+        channel_.send(gnome::place(index));
+    }
+    size_ = size;
+    apply();
+}
+
+void GnomePanelWindow::orderFront() {
+    front_ = true;
+    apply();
+}
+
+void GnomePanelWindow::orderOut() {
+    front_ = false;
+    apply();
+}
+
+void GnomePanelWindow::apply() {
+    const bool shown = front_ && channel_.isUp() && size_.height() > handle_.height();
+    if (shown) {
+        const QSize size = size_.toSize();
+        window_.setMinimumSize(size); // Else Mutter may tile it, or keep an earlier size.
+        window_.setMaximumSize(size);
+        window_.resize(size);
+    }
+    window_.setVisible(shown);
+    if (!shown) {
+        setUnderPointer(false);
+    }
+}
+
+void GnomePanelWindow::setOutline(const QPainterPath& outline) {
+    window_.setMask(QRegion(outline.toFillPolygon().toPolygon(), Qt::WindingFill));
+}
+
+void GnomePanelWindow::requestFocus(const QByteArray& /*activationToken*/) {
+    channel_.send(gnome::focus(Focus::take));
+}
+
+void GnomePanelWindow::returnFocus() {
+    channel_.send(gnome::focus(Focus::giveBack));
+}
+
+bool GnomePanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
+    switch (event->type()) {
+    case QEvent::Enter:
+    case QEvent::DragEnter:
+        setUnderPointer(true);
+        break;
+    case QEvent::Leave:
+    case QEvent::DragLeave:
+        setUnderPointer(false);
+        break;
+    case QEvent::MouseButtonPress: {
+        const auto button = static_cast<QMouseEvent*>(event)->button();
+        if (button == Qt::LeftButton || button == Qt::RightButton) {
+            pressListeners_.notify();
+        }
+        break;
+    }
+    default:
+        break;
+    }
+    return false;
+}
+
+void GnomePanelWindow::setUnderPointer(bool under) {
+    if (std::exchange(underPointer_, under) != under) {
+        underPointerListeners_.notify();
+    }
+}
+
+} // namespace ravelo::gnome

@@ -1,0 +1,51 @@
+#include "ui/windows/ExtensionOffer.h"
+
+namespace ravelo {
+
+using State = DesktopExtension::State;
+
+ExtensionOffer::ExtensionOffer(DesktopExtension* extension) : extension_(extension) {
+    if (extension_ != nullptr) {
+        changes_ = extension_->onChange([this] { Q_EMIT changed(); });
+    }
+}
+
+bool ExtensionOffer::isOffered() const {
+    return state() != State::notNeeded && state() != State::on;
+}
+
+bool ExtensionOffer::canTurnOn() const {
+    return state() == State::off;
+}
+
+QString ExtensionOffer::next() const {
+    switch (state()) {
+    case State::missing:
+        return tr("It is not installed.");
+    case State::waitsForLogin:
+        return tr("Log out and in once.");
+    case State::waitsForStart:
+        return tr("Quit Ravelo and start it again.");
+    case State::older:
+        return tr("The extension is older than Ravelo. Log out and in once.");
+    case State::newer:
+        return tr("The extension is newer than Ravelo. Quit Ravelo and start it again.");
+    case State::notNeeded:
+    case State::off:
+    case State::on:
+        break;
+    }
+    return {};
+}
+
+void ExtensionOffer::turnOn() {
+    if (canTurnOn()) {
+        extension_->turnOn();
+    }
+}
+
+DesktopExtension::State ExtensionOffer::state() const {
+    return extension_ == nullptr ? State::notNeeded : extension_->state();
+}
+
+} // namespace ravelo
