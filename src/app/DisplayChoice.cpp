@@ -38,7 +38,7 @@ Result<DisplayChoice> chooseDisplay() {
     if (!qtPlatform.isEmpty() && !qtPlatform.startsWith("wayland"_L1)) {
         return onX11(u"set by QT_QPA_PLATFORM"_s);
     }
-    auto choice = onWayland(u"the compositor offers layer shell and data control"_s);
+    auto choice = onWayland(u"with layer shell and data control"_s);
     if (choice) {
         return choice;
     }

@@ -44,7 +44,7 @@ private:
     const QByteArray mark_; ///< A type that only our own offers have.
     std::optional<DataControl::Types> types_;
     bool isOwn_ = false;
-    bool isStarted_ = false; ///< Changes count.
+    bool isStarted_ = false;                                    ///< Changes count.
     std::map<qint64, std::map<QByteArray, QByteArray>> offers_; ///< Ours, by their counts.
     std::map<Key, std::shared_ptr<OfferReading>> readings_;
 };
