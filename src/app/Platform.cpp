@@ -214,7 +214,7 @@ Result<Platform> Platform::make(const DisplayChoice& choice, const QProcessEnvir
     }
     using Used = gnome::ShellExtension::Used;
     platform.extension = std::make_unique<gnome::ShellExtension>(
-        sessionBus(), display == Display::gnome ? Used::yes : Used::no);
+        sessionBus(), choice.display == Display::gnome ? Used::yes : Used::no);
     makeSystem(platform, environment);
     makeDesktop(platform, environment);
     return platform;

@@ -558,8 +558,8 @@ int main(int argc, char** argv) {
         return 0;
     }
     world.settings.setLaunchAtLogin(true);
-    SettingsWindow settings({{view.window()}, world.store, world.settings, [] {
-                             }});
+    SettingsWindow settings(
+        {{view.window()}, world.store, world.settings, [] {}, u"X11 (set by RAVELO_PLATFORM)"_s});
     OnboardingController onboarding({view.window()}, world.settings, world.screens);
     QQuickWindow* window = playTitled(scene, settings, onboarding);
     if (window == nullptr) {
