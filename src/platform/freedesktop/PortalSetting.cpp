@@ -26,26 +26,16 @@ QVariant unpacked(QVariant value) {
 
 } // namespace
 
-PortalSetting::PortalSetting(QDBusConnection bus, QString key)
-    : bus_(std::move(bus)), key_(std::move(key)) {
+PortalSetting::PortalSetting(QDBusConnection bus, QString key) : key_(std::move(key)) {
     // From any sender, because matching one blocks.
-    bus_.connect({}, path, interface, u"SettingChanged"_s, this,
-                 SLOT(settingChanged(QString, QString, QDBusVariant)));
-    read(Times::twice);
-}
-
-// Twice, because Qt subscribes to a signal in its own thread, after the first call, and the bus gets
-// to know of that only with the next message.
-void PortalSetting::read(Times times) {
+    bus.connect({}, path, interface, u"SettingChanged"_s, this,
+                SLOT(settingChanged(QString, QString, QDBusVariant)));
     auto call = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
     call << QString(group) << key_;
-    auto* const watcher = new QDBusPendingCallWatcher(bus_.asyncCall(call), this);
-    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher, times] {
+    auto* const watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
+    connect(watcher, &QDBusPendingCallWatcher::finished, this, [this, watcher] {
         if (!watcher->isError()) {
             set(watcher->reply().arguments().value(0));
-            if (times == Times::twice) {
-                read(Times::once);
-            }
         }
         watcher->deleteLater();
     });

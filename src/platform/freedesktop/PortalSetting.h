@@ -33,12 +33,8 @@ private Q_SLOTS:
     void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
 
 private:
-    enum class Times { once, twice };
-
-    void read(Times times);
     void set(const QVariant& value);
 
-    QDBusConnection bus_;
     const QString key_;
     QVariant value_;
     Listeners<> listeners_;
