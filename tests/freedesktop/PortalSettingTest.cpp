@@ -4,6 +4,8 @@
 #include "PrivateBus.h"
 #include "StandIn.h"
 
+#include <QDBusVariant>
+
 namespace ravelo {
 namespace {
 

@@ -1,7 +1,7 @@
 #include "platform/freedesktop/PortalSetting.h"
 
-#include <QDBusMessage>
 #include <QDBusPendingCallWatcher>
+#include <QDBusVariant>
 
 #include <utility>
 
@@ -28,8 +28,7 @@ QVariant unpacked(QVariant value) {
 
 PortalSetting::PortalSetting(QDBusConnection bus, QString key) : key_(std::move(key)) {
     // From any sender, because matching one blocks.
-    bus.connect({}, path, interface, u"SettingChanged"_s, this,
-                SLOT(settingChanged(QString, QString, QDBusVariant)));
+    bus.connect({}, path, interface, u"SettingChanged"_s, this, SLOT(settingChanged(QDBusMessage)));
     auto call = QDBusMessage::createMethodCall(service, path, interface, u"Read"_s);
     call << QString(group) << key_;
     auto* const watcher = new QDBusPendingCallWatcher(bus.asyncCall(call), this);
@@ -41,10 +40,10 @@ PortalSetting::PortalSetting(QDBusConnection bus, QString key) : key_(std::move(
     });
 }
 
-void PortalSetting::settingChanged(const QString& changedGroup, const QString& key,
-                                   const QDBusVariant& value) {
-    if (changedGroup == group && key == key_) {
-        set(value.variant());
+void PortalSetting::settingChanged(const QDBusMessage& change) {
+    const QVariantList arguments = change.arguments();
+    if (arguments.value(0).toString() == group && arguments.value(1).toString() == key_) {
+        set(arguments.value(2));
     }
 }
 

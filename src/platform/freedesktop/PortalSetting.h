@@ -5,7 +5,7 @@
 #include "platform/MotionPreference.h"
 
 #include <QDBusConnection>
-#include <QDBusVariant>
+#include <QDBusMessage>
 #include <QObject>
 #include <QVariant>
 
@@ -30,7 +30,8 @@ public:
     }
 
 private Q_SLOTS:
-    void settingChanged(const QString& group, const QString& key, const QDBusVariant& value);
+    /// Takes the message, as Qt may not know QDBusVariant yet when it connects.
+    void settingChanged(const QDBusMessage& change);
 
 private:
     void set(const QVariant& value);
