@@ -227,9 +227,8 @@ void AppDelegate::provideWindows() {
     const TitledWindow::Beside beside{view_->window(), [this](QWindow& window) {
                                           return platform_.display->windowFrame(window);
                                       }};
-    settingsWindow_ = std::make_unique<SettingsWindow>(
-        SettingsWindow::Subjects{beside, *store_, *settings_, quitLater, platform_.displayText,
-                                 platform_.extension.get()});
+    settingsWindow_ = std::make_unique<SettingsWindow>(SettingsWindow::Subjects{
+        beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get()});
     onboarding_ = std::make_unique<OnboardingController>(
         beside, *settings_, platform_.display->screens(), platform_.extension.get());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());

@@ -117,7 +117,7 @@ TabPage {
     }
 
     Connections {
-        target: tab.clips.list
+        target: list.model
         enabled: !tab.shown
         function onRowsInserted() {
             tab.begin();

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr Seconds settling(0.3);  ///< Pictures in rows have arrived by then.
+constexpr Seconds settling(0.3);   ///< Pictures in rows have arrived by then.
 constexpr Seconds minLifetime(60); ///< Unless something other than a relative date changes.
 
 } // namespace

@@ -29,8 +29,8 @@ public:
         TitledWindow::Beside beside;
         Store& store;
         AppSettings& settings;
-        std::function<void()> quit; ///< Quits the program, asynchronously.
-        QString display;            ///< Which display server is in use, and why.
+        std::function<void()> quit;            ///< Quits the program, asynchronously.
+        QString display;                       ///< Which display server is in use, and why.
         DesktopExtension* extension = nullptr; ///< Null if the desktop needs none.
     };
 

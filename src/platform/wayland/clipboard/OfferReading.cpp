@@ -57,8 +57,8 @@ void OfferReading::ask(const QByteArray& name) {
                            [this, name](PipeResult result) { take(name, std::move(result)); });
 }
 
-/// An owner refuses by giving nothing: GTK does for names that are no MIME types, such as a password
-/// manager's mark.
+/// An owner refuses by giving nothing: GTK does for names that are no MIME types, such as a
+/// password manager's mark.
 void OfferReading::take(const QByteArray& name, PipeResult result) {
     if (result && !result->isEmpty()) {
         names_.clear();

@@ -41,8 +41,7 @@ void WindowFade::show(double opacity) {
         xcb_delete_property(connection_, window_, property_);
         window_ = XCB_WINDOW_NONE;
     } else {
-        const auto value =
-            static_cast<uint32_t>(opacity * std::numeric_limits<uint32_t>::max());
+        const auto value = static_cast<uint32_t>(opacity * std::numeric_limits<uint32_t>::max());
         xcb_change_property(connection_, XCB_PROP_MODE_REPLACE, window_, property_,
                             XCB_ATOM_CARDINAL, 32, 1, &value);
     }
