@@ -20,7 +20,8 @@ Column {
 
         SettingRow {
             text: qsTr("Extension of GNOME Shell")
-            note: [qsTr("Without it Ravelo sees not all copies, opens on its handle only and closes when the pointer leaves it."), page.host.extension.next].join(" ").trim()
+            readonly property string why: qsTr("Without it, Ravelo does not see all copies, opens only on its handle, and closes when the pointer leaves it.")
+            note: `${why} ${page.host.extension.next}`.trim()
 
             CapsuleButton {
                 objectName: "turnOn"
