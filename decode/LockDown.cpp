@@ -73,6 +73,10 @@ constexpr int allowed[] = {
     SCMP_SYS(sched_getaffinity), SCMP_SYS(gettid), SCMP_SYS(getpid), SCMP_SYS(eventfd2),
     SCMP_SYS(rt_sigprocmask), SCMP_SYS(rt_sigreturn), SCMP_SYS(restart_syscall), SCMP_SYS(exit),
     SCMP_SYS(exit_group),
+#if defined(__SANITIZE_ADDRESS__)
+    // The sanitizers themselves: for threads, and to see whether memory can be read.
+    SCMP_SYS(sigaltstack), SCMP_SYS(pipe2),
+#endif
     // Time and random numbers.
     SCMP_SYS(clock_gettime), SCMP_SYS(gettimeofday), SCMP_SYS(setitimer), SCMP_SYS(getrandom)};
 
