@@ -21,7 +21,8 @@ function(ravelo_precompiled_headers name)
         target_compile_options(${name} PRIVATE
             $<TARGET_PROPERTY:${library},INTERFACE_COMPILE_OPTIONS>)
     endforeach()
-    target_compile_definitions(${name} PRIVATE ${ARG_DEFINITIONS})
+    target_compile_definitions(${name} PRIVATE
+        $<$<NOT:$<CONFIG:Debug>>:QT_NO_DEBUG> ${ARG_DEFINITIONS})
     target_link_libraries(${name} PRIVATE ravelo_warnings)
     target_precompile_headers(${name} PRIVATE ${RAVELO_PRECOMPILED} ${ARG_HEADERS})
     # For the compiler cache: the header's text tells whether it is the same.
