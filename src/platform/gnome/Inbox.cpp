@@ -34,12 +34,12 @@ std::optional<Delivery> Inbox::take() {
     if (broken_) {
         return std::nullopt;
     }
-    Delivery delivery{std::move(*report), {}};
+    Descriptor descriptor;
     if (carries) {
-        delivery.descriptor = std::move(descriptors_.front());
+        descriptor = std::move(descriptors_.front());
         descriptors_.pop_front();
     }
-    return delivery;
+    return Delivery{std::move(*report), std::move(descriptor)};
 }
 
 } // namespace ravelo::gnome
