@@ -5,7 +5,7 @@ _ravelo() {
     local before=${COMP_WORDS[*]:1:COMP_CWORD-1}
     COMPREPLY=()
     case $before in
-    '') words='timer shelf --toggle --settings --setup --updates --status --status=json --store-usage --take-over --quit --help --version' ;;
+    '') words='timer shelf --toggle --settings --setup --updates --status --status=json --store-usage --take-over --quit --help --version --verbose' ;;
     timer) words='start stop status' ;;
     'timer status') words='--json' ;;
     shelf) words='list' ;;
