@@ -22,6 +22,7 @@ def openings(options):
     count = options.openings + 1
     with running("ravelo") as (desktop, ravelo):
         window = ravelo.panel().window
+        time.sleep(60)  # The newest row counts seconds until then, and each would be a new detail.
         sized, shown = opened(desktop, window, ravelo.process, count)
         _, called = opened(desktop, window, ravelo.process, count, "call")
     with Desktop() as desktop:
