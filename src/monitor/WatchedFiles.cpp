@@ -20,7 +20,7 @@ bool isMissing(const QByteArray& path) {
     return access(path.constData(), F_OK) != 0 && errno == ENOENT;
 }
 
-/// What it leads to is in a folder that nobody watches.
+/// Its target is in a folder that is not watched.
 bool isLink(const QByteArray& path) {
     struct stat info = {};
     return lstat(path.constData(), &info) == 0 && S_ISLNK(info.st_mode);

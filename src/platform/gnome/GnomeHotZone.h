@@ -10,8 +10,8 @@
 
 namespace ravelo::gnome {
 
-/// The extension's strip at the top edge, and the panel's window. Where the pointer is besides,
-/// nobody reveals.
+/// The extension's strip at the top edge, and the panel's window. The pointer's position elsewhere
+/// is unknown.
 class GnomeHotZone final : public HotZone {
 public:
     /// All must outlive it.

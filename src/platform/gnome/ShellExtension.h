@@ -18,8 +18,8 @@ inline constexpr QLatin1StringView extensionId("companion@ravelo.org");
 /// Whether this is a session of GNOME on Wayland, by its environment.
 [[nodiscard]] bool isGnomeOnWayland();
 
-/// Whether GNOME Shell runs our extension in the version that we speak. Asks it and waits for max.
-/// one second; elsewhere than in GNOME it asks nobody. Also before the application object.
+/// Whether GNOME Shell runs our extension, in a compatible version. Waits for the shell's answer
+/// for max. one second; outside GNOME it returns at once. Also before the application object.
 [[nodiscard]] bool isExtensionRunning();
 
 /// What the shell's answer about our extension means; it is empty if the shell does not know it.
