@@ -89,10 +89,17 @@ TEST_F(WaylandPasteboardTest, seesEachOfTwentyCopies) {
 }
 
 TEST_F(WaylandPasteboardTest, aHungOwnerCostsNoMoreThanItsTimeOut) {
+    std::promise<void> begin;
     std::promise<void> end;
+    const auto waitFor = [](std::promise<void>& promise) {
+        return [come = promise.get_future().share()] {
+            come.wait();
+        };
+    };
+    other_.thread->post(waitFor(begin)); // Else it might give the text before it hangs.
     other_.pasteboard.write({{plainTextType, "never given"}});
-    // After the write.
-    other_.thread->post([ended = end.get_future().share()] { ended.wait(); });
+    other_.thread->post(waitFor(end));
+    begin.set_value();
     const StallGauge gauge;
     EXPECT_TRUE(eventually([&] { return !snapshots_.isEmpty(); }));
     EXPECT_EQ(texts(), QByteArrayList{"nothing"});

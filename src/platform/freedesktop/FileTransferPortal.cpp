@@ -38,7 +38,7 @@ FileTransferPortal::FileTransferPortal(QString program, const QProcessEnvironmen
 
 Handle FileTransferPortal::retrieve(const QByteArray& key,
                                     std::function<void(const QList<QUrl>&)> done) {
-    return runProgram({program_, {}, environment_, Secret(key), timeout, maxOutput}, nullptr,
+    return runProgram({program_, {}, environment_, Secret(key), timeout, maxOutput}, &children_,
                       [done = std::move(done)](const std::optional<QByteArray>& output) {
                           done(output ? filesIn(*output) : QList<QUrl>());
                       });

@@ -2,6 +2,7 @@
 
 #include "platform/FileTransfer.h"
 
+#include <QObject>
 #include <QProcessEnvironment>
 #include <QString>
 
@@ -21,6 +22,7 @@ public:
 private:
     QString program_;
     QProcessEnvironment environment_;
+    QObject children_;
 };
 
 } // namespace ravelo

@@ -48,6 +48,10 @@ TitledWindow::TitledWindow(const Beside& beside, const QString& title, QSize siz
     });
 }
 
+TitledWindow::~TitledWindow() {
+    disconnect(this, &QWindow::visibleChanged, this, nullptr); // QWindow's destructor hides it.
+}
+
 void TitledWindow::load(const QString& page, QObject* host) {
     setInitialProperties(
         {{u"host"_s, QVariant::fromValue(host)}, {u"title"_s, title()}, {u"frame"_s, inside_}});

@@ -21,6 +21,8 @@ public:
     /// `size` is the frame's, in logical pixels; the window is smaller if the screen is.
     TitledWindow(const Beside& beside, const QString& title, QSize size);
 
+    ~TitledWindow() override;
+
     /// `page` is a file of this QML module; it gets the properties `host` and `title`.
     void load(const QString& page, QObject* host);
 

@@ -72,7 +72,9 @@ void X11DragOffer::ask(const QStringList& types) {
         const auto isNewest = [counter = source.counter, count] {
             return counter->value() == count;
         };
-        source.reads->begin(std::make_unique<FirstOfTargets>(targets, isNewest, done));
+        if (const auto reads = source.reads.lock()) {
+            reads->begin(std::make_unique<FirstOfTargets>(targets, isNewest, done));
+        }
     });
 }
 

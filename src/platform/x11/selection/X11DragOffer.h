@@ -17,7 +17,7 @@ public:
         Listener& listener; ///< Must outlive the offer.
         std::shared_ptr<ChangeCounter> counter;
         std::shared_ptr<Notifier> changes;
-        std::shared_ptr<DragReads> reads;
+        std::weak_ptr<DragReads> reads; ///< Its questions hold the offer.
     };
 
     /// `count` is the change count of the drag. Held by a shared pointer.
