@@ -65,18 +65,17 @@ Fit fit(const Frame& frame, const Frame& last, int left, int top) {
 
 } // namespace
 
-bool isComplete(const Frame& frame, const Frame& last) {
+double shown(const Frame& frame, const Frame& last) {
     int details = 0;
+    int alike = 0;
     for (int top = 0; top < panelSize.height; top += cell) {
         for (int left = 0; left < panelSize.width; left += cell) {
             const Fit both = fit(frame, last, left, top);
-            if (both.hasDetail() && !both.isAlike()) {
-                return false;
-            }
             details += both.hasDetail() ? 1 : 0;
+            alike += both.hasDetail() && both.isAlike() ? 1 : 0;
         }
     }
-    return details >= fewestDetails;
+    return details < fewestDetails ? 0 : double(alike) / details;
 }
 
 WindowWatch::WindowWatch(XServer& server, xcb_window_t window) : server_(server), window_(window) {

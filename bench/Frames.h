@@ -16,10 +16,10 @@ struct Frame {
     std::vector<uint32_t> pixels; ///< Rows of premultiplied ARGB, without gaps.
 };
 
-/// Whether `frame` shows everything in `last` at any visible opacity: if every detail of `last` has
-/// the same pixels, up to a factor and an offset. False below an opacity of about 3 %, and if
-/// `last` has too few details.
-[[nodiscard]] bool isComplete(const Frame& frame, const Frame& last);
+/// The part of `last` that `frame` shows at any visible opacity, 0 to 1: the details that have the
+/// same pixels, up to a factor and an offset. 0 below an opacity of about 3 %, and if `last` has
+/// too few details.
+[[nodiscard]] double shown(const Frame& frame, const Frame& last);
 
 /// Watches a window of another client: its size and changes of its contents.
 class WindowWatch {

@@ -27,9 +27,18 @@ HoverTick::HoverTick(Scheduler& scheduler, Pointer& pointer, Rest rest,
 }
 
 void HoverTick::wake() {
+    awake();
+    schedule();
+}
+
+void HoverTick::wakeNow() {
+    awake();
+    next_ = scheduler_.after(Seconds(0), [this] { run(); });
+}
+
+void HoverTick::awake() {
     stillTicks_ = 0;
     activity_.reset();
-    schedule();
 }
 
 void HoverTick::schedule() {
@@ -50,7 +59,7 @@ void HoverTick::run() {
         return;
     }
     if (stillTicks_ == ticksUntilListening) {
-        activity_ = pointer_.onNextActivity([this] { wake(); });
+        activity_ = pointer_.onNextActivity([this] { wakeNow(); });
     }
     schedule();
 }

@@ -9,9 +9,9 @@ namespace ravelo {
 
 class Pointer;
 
-/// The 20 ms tick that watches the pointer. While nothing moves it rests, at no
-/// cost, until the pointer moves or it is woken; whenever it runs, it runs at the same
-/// instants as a tick that never rests. Main thread only.
+/// The 20 ms tick that watches the pointer. While nothing moves it rests, at no cost, until the
+/// pointer moves or it is woken. It runs at the same instants as a tick that never rests, and once
+/// more at the motion that ends its rest, so that opening need not wait. Main thread only.
 class HoverTick {
 public:
     enum class Rest { never, whenStill };
@@ -25,7 +25,11 @@ public:
     /// Something has changed that the next tick must see.
     void wake();
 
+    /// The same, for what must not wait: one more tick comes at once.
+    void wakeNow();
+
 private:
+    void awake();
     void schedule();
     void run();
 

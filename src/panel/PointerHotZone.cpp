@@ -20,7 +20,7 @@ PointerHotZone::PointerHotZone(Scheduler& scheduler, Screens& screens, Pointer& 
       window_(window),
       tick_(scheduler, pointer, rest, [this] { return report(); }),
       pressMonitor_(pointer.onPress([this] { pressed(); })),
-      hover_(window.onUnderPointerChange([this] { tick_.wake(); })) {}
+      hover_(window.onUnderPointerChange([this] { tick_.wakeNow(); })) {}
 
 HotZone::Sight PointerHotZone::look() {
     return sightOf(ask());

@@ -36,6 +36,9 @@ public:
         return Handle([this] { wake_ = nullptr; });
     }
 
+    /// Somebody waits for activity.
+    [[nodiscard]] bool isAwaited() const { return bool(wake_); }
+
     void moveTo(QPointF place) {
         location = place;
         active();

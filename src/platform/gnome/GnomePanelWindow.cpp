@@ -18,6 +18,7 @@ GnomePanelWindow::GnomePanelWindow(QWindow& window, Channel& channel, GnomeDragM
       channel_(channel),
       drags_(drags),
       handle_(handle),
+      pointerOver_(window),
       ups_(channel.onUpChange([this] {
           if (channel_.isUp()) {
               channel_.send(gnome::place(screen_));
@@ -62,7 +63,7 @@ void GnomePanelWindow::apply() {
     }
     window_.setVisible(shown);
     if (!shown) {
-        setUnderPointer(false);
+        pointerOver_.leave();
     }
 }
 
@@ -79,32 +80,13 @@ void GnomePanelWindow::returnFocus() {
 }
 
 bool GnomePanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
-    switch (event->type()) {
-    case QEvent::Enter:
-    case QEvent::DragEnter:
-        setUnderPointer(true);
-        break;
-    case QEvent::Leave:
-    case QEvent::DragLeave:
-        setUnderPointer(false);
-        break;
-    case QEvent::MouseButtonPress: {
+    if (event->type() == QEvent::MouseButtonPress) {
         const auto button = static_cast<QMouseEvent*>(event)->button();
         if (button == Qt::LeftButton || button == Qt::RightButton) {
             pressListeners_.notify();
         }
-        break;
-    }
-    default:
-        break;
     }
     return false;
-}
-
-void GnomePanelWindow::setUnderPointer(bool under) {
-    if (std::exchange(underPointer_, under) != under) {
-        underPointerListeners_.notify();
-    }
 }
 
 } // namespace ravelo::gnome

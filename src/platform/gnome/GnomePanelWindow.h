@@ -4,6 +4,7 @@
 #include "platform/PanelWindow.h"
 #include "platform/gnome/Channel.h"
 #include "platform/gnome/GnomeDragMonitor.h"
+#include "platform/window/PointerOver.h"
 
 #include <QLatin1StringView>
 #include <QObject>
@@ -37,10 +38,10 @@ public:
         return {};
     }
 
-    [[nodiscard]] bool isUnderPointer() const override { return underPointer_; }
+    [[nodiscard]] bool isUnderPointer() const override { return bool(pointerOver_); }
 
     [[nodiscard]] Handle onUnderPointerChange(std::function<void()> callback) override {
-        return underPointerListeners_.add(std::move(callback));
+        return pointerOver_.onChange(std::move(callback));
     }
 
     [[nodiscard]] std::shared_ptr<DragOffer> dragOffer() override { return drags_.newest(); }
@@ -56,7 +57,6 @@ public:
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void setUnderPointer(bool under);
     void apply();
 
     QWindow& window_;
@@ -66,8 +66,7 @@ private:
     QSizeF size_;
     std::size_t screen_ = 0;
     bool front_ = false;
-    bool underPointer_ = false;
-    Listeners<> underPointerListeners_;
+    PointerOver pointerOver_;
     Listeners<> pressListeners_;
     Handle ups_;
 };

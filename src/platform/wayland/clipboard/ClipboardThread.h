@@ -1,18 +1,16 @@
 #pragma once
 
 #include "base/Result.h"
+#include "base/TaskQueue.h"
 #include "platform/wayland/clipboard/DataControl.h"
 #include "platform/wayland/clipboard/Pipes.h"
 #include "platform/wayland/connection/Globals.h"
 
 #include <QObject>
 
-#include <atomic>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <thread>
-#include <vector>
 
 namespace ravelo::wayland {
 
@@ -33,7 +31,7 @@ public:
     void start();
 
     /// Runs `task` on the thread, in the order given. Any thread.
-    void post(std::function<void()> task);
+    void post(std::function<void()> task) { tasks_->post(std::move(task)); }
 
     /// Runs `callback` on the main thread, unless this is gone by then. The thread only.
     void callOnMain(std::function<void()> callback);
@@ -49,21 +47,18 @@ public:
 
 private:
     ClipboardThread(Connection connection, std::unique_ptr<Globals> globals,
-                    std::unique_ptr<DataControl> control, Descriptor wakeUp);
+                    std::unique_ptr<DataControl> control, std::unique_ptr<TaskQueue> tasks);
 
     void run();
-    void runTasks();
     [[nodiscard]] bool sleep();
 
     Connection connection_;
     std::unique_ptr<Globals> globals_;
     Pipes pipes_; ///< Who listens to `control_` reads and writes by it.
     std::unique_ptr<DataControl> control_;
-    Descriptor wakeUp_; ///< An eventfd.
+    std::unique_ptr<TaskQueue> tasks_;
     QObject mainThread_;
-    std::atomic<bool> stopping_ = false;
-    std::mutex mutex_; ///< Guards `tasks_`.
-    std::vector<std::function<void()>> tasks_;
+    bool stopping_ = false; ///< The thread's own.
     std::thread thread_;
 };
 

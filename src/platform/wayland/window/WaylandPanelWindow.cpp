@@ -38,6 +38,7 @@ WaylandPanelWindow::WaylandPanelWindow(QWindow& window, Surfaces& surfaces)
     : window_(window),
       surfaces_(surfaces),
       surfaceSize_(usualWidth, stripSize.height()),
+      pointerOver_(window),
       catcherSubscription_(surfaces.seat().onChange([this](auto change, wl_surface* surface) {
           const auto isIt = [surface](const auto& catcher) {
               return catcher.second->surface() == surface;
@@ -51,7 +52,8 @@ WaylandPanelWindow::WaylandPanelWindow(QWindow& window, Surfaces& surfaces)
     QSurfaceFormat format = window_.requestedFormat();
     format.setAlphaBufferSize(8);
     window_.setFormat(format);
-    window_.installEventFilter(this);
+    window_.installEventFilter(
+        this); // Gets events before `pointerOver_`: what is dragged is known first.
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this](const QScreen* gone) {
         if (gone->name() == screen_) {
             hide(); // Not every compositor reports that it is closed.
@@ -114,7 +116,7 @@ void WaylandPanelWindow::hide() {
     role_.reset(); // Before its surface.
     window_.hide();
     window_.destroy();
-    setUnderPointer(false);
+    pointerOver_.leave();
 }
 
 void WaylandPanelWindow::configure(QSize size) {
@@ -172,16 +174,8 @@ void WaylandPanelWindow::setKeyboard(Keyboard keyboard) {
 
 bool WaylandPanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
     switch (event->type()) {
-    case QEvent::Enter:
-        setUnderPointer(true);
-        break;
     case QEvent::DragEnter:
         enterDrag(*event);
-        setUnderPointer(true);
-        break;
-    case QEvent::Leave:
-    case QEvent::DragLeave:
-        setUnderPointer(false);
         break;
     case QEvent::MouseButtonPress:
         pressListeners_.notify(HotZone::Press::onPanel);
@@ -202,12 +196,6 @@ void WaylandPanelWindow::enterDrag(QEvent& event) {
     if (!dragOffer_) {
         dragOffer_ =
             std::make_shared<MimeDragOffer>(static_cast<QDragEnterEvent&>(event).mimeData());
-    }
-}
-
-void WaylandPanelWindow::setUnderPointer(bool under) {
-    if (std::exchange(underPointer_, under) != under) {
-        underPointerListeners_.notify();
     }
 }
 

@@ -4,6 +4,7 @@
 #include "platform/HotZone.h"
 #include "platform/PanelWindow.h"
 #include "platform/wayland/window/Surfaces.h"
+#include "platform/window/PointerOver.h"
 
 #include <QObject>
 #include <QPainterPath>
@@ -33,10 +34,10 @@ public:
     [[nodiscard]] ShowThrough showThrough() const override;
     [[nodiscard]] Handle onShowThroughChange(std::function<void()> callback) override;
 
-    [[nodiscard]] bool isUnderPointer() const override { return underPointer_; }
+    [[nodiscard]] bool isUnderPointer() const override { return bool(pointerOver_); }
 
     [[nodiscard]] Handle onUnderPointerChange(std::function<void()> callback) override {
-        return underPointerListeners_.add(std::move(callback));
+        return pointerOver_.onChange(std::move(callback));
     }
 
     [[nodiscard]] std::shared_ptr<DragOffer> dragOffer() override { return dragOffer_; }
@@ -66,7 +67,6 @@ public:
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
     void enterDrag(QEvent& event);
-    void setUnderPointer(bool under);
     void show();
     void hide();
     void configure(QSize size);
@@ -88,11 +88,10 @@ private:
     QPainterPath outline_;
     bool wanted_ = false; ///< To be shown.
     Keyboard keyboard_ = Keyboard::none;
-    bool underPointer_ = false;
     std::shared_ptr<DragOffer> dragOffer_;
     std::unique_ptr<LayerRole> role_;                               ///< While it is shown.
     std::map<QString, std::unique_ptr<InvisibleSurface>> catchers_; ///< By the ids of screens.
-    Listeners<> underPointerListeners_;
+    PointerOver pointerOver_;
     Listeners<HotZone::Press> pressListeners_;
     Handle catcherSubscription_;
     Handle blurSubscription_;

@@ -4,64 +4,31 @@
 
 #include <QMetaObject>
 
-#include <algorithm>
-#include <cstdint>
-
 #include <poll.h>
 #include <pthread.h>
-#include <sys/eventfd.h>
-#include <unistd.h>
 
 namespace ravelo::x11 {
-
-namespace {
-
-constexpr int forEver = -1;
-
-/// Milliseconds for poll(), rounded up: one that returns too early would spin.
-int pollTime(std::optional<TimePoint> deadline) {
-    if (!deadline) {
-        return forEver;
-    }
-    const auto left =
-        std::chrono::ceil<std::chrono::milliseconds>(*deadline - std::chrono::steady_clock::now());
-    return static_cast<int>(std::max<std::chrono::milliseconds::rep>(left.count(), 0));
-}
-
-} // namespace
 
 Result<std::unique_ptr<Listener>> Listener::create() {
     auto connection = Connection::create();
     if (!connection) {
         return tl::unexpected(connection.error());
     }
-    const int wakeUp = eventfd(0, EFD_CLOEXEC | EFD_NONBLOCK);
-    if (wakeUp < 0) {
-        return failure(QStringLiteral("no eventfd for the X listener"));
+    auto tasks = TaskQueue::create();
+    if (!tasks) {
+        return tl::unexpected(tasks.error());
     }
-    return std::unique_ptr<Listener>(new Listener(std::move(*connection), wakeUp));
+    return std::unique_ptr<Listener>(new Listener(std::move(*connection), std::move(*tasks)));
 }
 
-Listener::Listener(std::unique_ptr<Connection> connection, int wakeUp)
-    : connection_(std::move(connection)), wakeUp_(wakeUp) {}
+Listener::Listener(std::unique_ptr<Connection> connection, std::unique_ptr<TaskQueue> tasks)
+    : connection_(std::move(connection)), tasks_(std::move(tasks)) {}
 
 Listener::~Listener() {
-    stopping_ = true;
-    post({});
+    post([this] { stopping_ = true; });
     if (thread_.joinable()) {
         thread_.join();
     }
-    ::close(wakeUp_);
-}
-
-void Listener::post(std::function<void()> task) {
-    if (task) {
-        const std::scoped_lock lock(mutex_);
-        tasks_.push_back(std::move(task));
-    }
-    const uint64_t one = 1;
-    // It can only fail when 2^64 - 2 wake-ups wait already.
-    [[maybe_unused]] const auto written = ::write(wakeUp_, &one, sizeof one);
 }
 
 void Listener::callOnMain(std::function<void()> callback) {
@@ -86,25 +53,14 @@ void Listener::catchUp() {
 }
 
 void Listener::run() {
-    while (!stopping_) {
-        runTasks();
+    for (;;) {
+        tasks_->run();
         expire();
         dispatch(); // Last: what waited for a reply above may have left events in xcb's queue.
-        if (connection_->isBroken()) {
+        if (stopping_ || connection_->isBroken()) {
             break;
         }
         sleep();
-    }
-}
-
-void Listener::runTasks() {
-    std::vector<std::function<void()>> tasks;
-    {
-        const std::scoped_lock lock(mutex_);
-        tasks.swap(tasks_);
-    }
-    for (const auto& task : tasks) {
-        task();
     }
 }
 
@@ -143,12 +99,8 @@ void Listener::sleep() {
         }
     }
     pollfd waits[] = {{xcb_get_file_descriptor(connection_->get()), POLLIN, 0},
-                      {wakeUp_, POLLIN, 0}};
+                      {tasks_->descriptor(), POLLIN, 0}};
     ::poll(waits, std::size(waits), pollTime(soonest));
-    if (waits[1].revents != 0) {
-        uint64_t count = 0;
-        [[maybe_unused]] const auto got = ::read(wakeUp_, &count, sizeof count);
-    }
 }
 
 } // namespace ravelo::x11

@@ -1,14 +1,13 @@
 #pragma once
 
+#include "base/TaskQueue.h"
 #include "platform/x11/connection/Connection.h"
 
 #include <QObject>
 
-#include <atomic>
 #include <chrono>
 #include <functional>
 #include <memory>
-#include <mutex>
 #include <optional>
 #include <thread>
 #include <vector>
@@ -57,7 +56,7 @@ public:
     void start();
 
     /// Runs `task` on the listener's thread, in the order given.
-    void post(std::function<void()> task);
+    void post(std::function<void()> task) { tasks_->post(std::move(task)); }
 
     /// Runs `callback` on the main thread. Any thread; nothing is run once the listener is
     /// gone.
@@ -67,22 +66,17 @@ public:
     void catchUp();
 
 private:
-    Listener(std::unique_ptr<Connection> connection, int wakeUp);
+    Listener(std::unique_ptr<Connection> connection, std::unique_ptr<TaskQueue> tasks);
 
     void run();
-    void runTasks();
     void expire();
     void dispatch();
     void sleep();
 
     std::unique_ptr<Connection> connection_;
-    int wakeUp_; ///< An eventfd.
+    std::unique_ptr<TaskQueue> tasks_;
     QObject mainThread_;
-    std::atomic<bool> stopping_ = false;
-
-    std::mutex mutex_; ///< Guards `tasks_`.
-    std::vector<std::function<void()>> tasks_;
-
+    bool stopping_ = false;                               ///< The thread's own.
     std::vector<std::shared_ptr<EventHandler>> handlers_; ///< The thread's own after `start`.
     std::thread thread_;
 };

@@ -108,7 +108,7 @@ std::optional<xcb_window_t> X11Pasteboard::owner() {
     xcb_connection_t* xcb = listener_.connection().get();
     const Owned<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(xcb, xcb_get_selection_owner(xcb, selection_), nullptr));
-    listener_.post({}); // The reply may have brought notices along.
+    listener_.post([] {}); // The reply may have brought notices along.
     return reply ? std::optional(reply->owner) : std::nullopt;
 }
 
@@ -119,7 +119,7 @@ qint64 X11Pasteboard::settleWrite() {
     const qint64 count = counter_->settleOwn(cookie.sequence);
     const Owned<xcb_get_selection_owner_reply_t> reply(
         xcb_get_selection_owner_reply(xcb, cookie, nullptr));
-    listener_.post({}); // The reply may have brought notices along.
+    listener_.post([] {}); // The reply may have brought notices along.
     if (reply && !ownClient_.owns(reply->owner)) {
         // Someone was faster; the notice of that passes for one from before our write.
         listener_.callOnMain([counter = counter_, changes = changes_] {

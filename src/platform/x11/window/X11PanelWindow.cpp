@@ -50,6 +50,7 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       skipCloseAnimation_(connection.atom("_KDE_NET_WM_SKIP_CLOSE_ANIMATION")),
       blur_(connection, events),
       fade_(qt_, connection),
+      pointerOver_(window),
       restackingNotices_{connection.atom("_NET_CLIENT_LIST"),
                          connection.atom("_NET_CLIENT_LIST_STACKING"),
                          connection.atom("_NET_ACTIVE_WINDOW"), connection.atom("_NET_WORKAREA")},
@@ -150,31 +151,12 @@ void X11PanelWindow::returnFocus() {
 }
 
 bool X11PanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
-    switch (event->type()) {
-    case QEvent::PlatformSurface:
-        if (static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
+    if (event->type() == QEvent::PlatformSurface &&
+        static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
             QPlatformSurfaceEvent::SurfaceCreated) {
-            prepareNativeWindow();
-        }
-        break;
-    case QEvent::Enter:
-    case QEvent::DragEnter:
-        setUnderPointer(true);
-        break;
-    case QEvent::Leave:
-    case QEvent::DragLeave:
-        setUnderPointer(false);
-        break;
-    default:
-        break;
+        prepareNativeWindow();
     }
     return false;
-}
-
-void X11PanelWindow::setUnderPointer(bool under) {
-    if (std::exchange(underPointer_, under) != under) {
-        underPointerListeners_.notify();
-    }
 }
 
 // Xfwm4 puts bars that come later, and every bar when it is restarted, above all windows that it

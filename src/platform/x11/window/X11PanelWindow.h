@@ -3,6 +3,7 @@
 #include "base/Listeners.h"
 #include "platform/DragMonitor.h"
 #include "platform/PanelWindow.h"
+#include "platform/window/PointerOver.h"
 #include "platform/x11/screens/X11Screens.h"
 #include "platform/x11/settings/ManagerSelection.h"
 #include "platform/x11/window/BlurEffect.h"
@@ -42,10 +43,10 @@ public:
     [[nodiscard]] ShowThrough showThrough() const override;
     [[nodiscard]] Handle onShowThroughChange(std::function<void()> callback) override;
 
-    [[nodiscard]] bool isUnderPointer() const override { return underPointer_; }
+    [[nodiscard]] bool isUnderPointer() const override { return bool(pointerOver_); }
 
     [[nodiscard]] Handle onUnderPointerChange(std::function<void()> callback) override {
-        return underPointerListeners_.add(std::move(callback));
+        return pointerOver_.onChange(std::move(callback));
     }
 
     /// That of the newest drag: XDND itself would have us wait for the source.
@@ -57,7 +58,6 @@ public:
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void setUnderPointer(bool under);
     void stayAbove(const xcb_generic_event_t& event);
     void prepareNativeWindow();
     void showFirst(xcb_pixmap_t picture);
@@ -79,8 +79,7 @@ private:
     std::optional<ServerPicture> firstPicture_;
     WindowFade fade_;
     Listeners<> showThroughListeners_;
-    Listeners<> underPointerListeners_;
-    bool underPointer_ = false;
+    PointerOver pointerOver_;
     std::optional<QPainterPath> outline_;
     double scale_ = 1; ///< Device pixels per logical pixel on the monitor of the last placement.
     xcb_window_t id_ = XCB_WINDOW_NONE;
