@@ -346,7 +346,13 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     } else if (scene.startsWith(u"search"_s)) {
         click(window, middle(window, u"searchInput"_s));
         find(window.contentItem(), u"searchInput"_s)
-            ->setProperty("text", scene == u"search-nothing" ? u"larkspurr"_s : u"larkspur"_s);
+            ->setProperty("text", scene == u"search-nothing"  ? u"larkspurr"_s
+                                  : scene == u"search-filter" ? u"type:image "_s
+                                                              : u"larkspur"_s);
+        if (scene == u"search-filter") {
+            settle(200);
+            click(window, middle(window, u"filter"_s));
+        }
         if (scene == u"search-question") {
             click(window, middle(window, u"trash"_s));
         }

@@ -2,6 +2,7 @@
 
 #include "base/Scheduler.h"
 #include "store/Records.h"
+#include "ui/clips/ClipQuery.h"
 #include "ui/clips/TooLarge.h"
 #include "ui/lists/KeyedListModel.h"
 #include "ui/lists/RelativeDate.h"
@@ -16,13 +17,18 @@ namespace ravelo {
 
 class Store;
 
-/// The clipboard history as shown in the panel: clips that contain `search`, in store order, and
-/// after the pinned ones a row about a copy that was too large to keep. Main thread.
+/// The clipboard history as shown in the panel: clips that `search` finds, in store order, and
+/// after the pinned ones a row about a copy that was too large to keep. A search is a phrase; if no
+/// clip contains it, its words, in any order and with or without accents. Main thread.
 class ClipListModel : public KeyedListModel<ClipItem>, public AgingRows {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(QString search READ search NOTIFY searchChanged)
+    /// "4 of 47"; empty while nothing is searched for.
+    Q_PROPERTY(QString tally READ tally NOTIFY found)
+    /// Why the list is empty, if a search is the reason.
+    Q_PROPERTY(QString nothingFound READ nothingFound NOTIFY found)
     /// -1 if there is none.
     Q_PROPERTY(int tooLargeRow READ tooLargeRow NOTIFY tooLargeRowChanged)
 
@@ -33,6 +39,7 @@ public:
         pinnedRole,
         subtitleRole,
         imageFileNameRole,
+        marksRole, ///< Where the title has what is searched for; a list of TextRange.
     };
 
     ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale);
@@ -43,6 +50,13 @@ public:
     [[nodiscard]] QString search() const { return search_; }
 
     void setSearch(const QString& search);
+
+    /// Without the filters.
+    [[nodiscard]] QString searchedText() const { return query_.text; }
+
+    [[nodiscard]] QString tally() const;
+
+    [[nodiscard]] QString nothingFound() const { return query_.nothingFound(); }
 
     [[nodiscard]] int count() const { return rowCount(); }
 
@@ -60,11 +74,13 @@ public:
 
 Q_SIGNALS:
     void searchChanged();
+    void found();
     void tooLargeRowChanged();
 
 private:
     void update();
-    [[nodiscard]] QList<ClipItem> found();
+    [[nodiscard]] QList<ClipItem> shownClips();
+    [[nodiscard]] QList<ClipItem> search(TextSearch& texts);
     [[nodiscard]] QString subtitle(const ClipItem& clip) const;
     [[nodiscard]] bool isTooLarge(const ClipItem& row) const;
 
@@ -76,10 +92,13 @@ private:
 
     Store& store_;
     const Scheduler& scheduler_;
-    TextSearch textSearch_;
+    TextSearch phrase_;
+    TextSearch words_;
+    bool byWords_ = false; ///< No clip contains the phrase.
     RelativeDate relativeDate_;
     QLocale locale_;
     QString search_;
+    ClipQuery query_;
     std::optional<TooLargeRow> tooLarge_;
     int tooLargeRow_ = -1;
 };

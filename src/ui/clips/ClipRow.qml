@@ -19,6 +19,7 @@ Card {
     required icon
     required title
     required subtitle
+    required marks
 
     signal deleted
 

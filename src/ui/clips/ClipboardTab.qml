@@ -19,9 +19,13 @@ TabPage {
     flick: list
 
     function clearSearch(): bool {
-        const had = field.edited.text !== "";
-        field.edited.clear();
+        const had = !field.isEmpty;
+        field.clear();
         return had;
+    }
+
+    function type(text: string) {
+        field.type(text);
     }
 
     function search() {
@@ -70,7 +74,9 @@ TabPage {
             copyAndClose(rowOf(event.key - Qt.Key_1));
         } else if (control && event.key === Qt.Key_P) {
             clips.togglePin(list.currentIndex);
-        } else if (event.key === Qt.Key_Delete && searching && field.edited.text === ""
+        } else if (event.key === Qt.Key_F && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier)) {
+            field.openFilters();
+        } else if (event.key === Qt.Key_Delete && searching && field.isEmpty
                    && !event.isAutoRepeat) {
             clips.remove(list.currentIndex);
         } else {
@@ -143,12 +149,23 @@ TabPage {
         placeholder: qsTr("Search clipboard…")
         clearName: qsTr("Clear history")
         clearQuestion: qsTr("Clear clipboard history?")
+        tally: tab.clips.list.tally
+        isFilter: word => tab.clips.isFilter(word)
+        filters: [
+            { text: qsTr("Text"), filter: "type:text" },
+            { text: qsTr("Links"), filter: "type:link" },
+            { text: qsTr("Images"), filter: "type:image" },
+            { text: qsTr("Colors"), filter: "type:color" },
+            { divider: true },
+            { text: qsTr("Today"), filter: "after:today" },
+            { text: qsTr("Older than a week"), filter: "before:7d" }
+        ]
+        keyHandler: tab
         onSearched: text => {
             tab.clips.search(text);
             tab.select(tab.rowOf(0));
         }
         onCleared: tab.clips.clear()
-        edited.Keys.forwardTo: [tab]
     }
 
     Question {
@@ -193,7 +210,7 @@ TabPage {
         symbol: "doc.on.clipboard"
         title: qsTr("No clipboard history yet")
         subtitle: qsTr("Copy anything with ⌘C and it shows up here.")
-        detail: tab.clips.list.search === "" ? "" : qsTr("Nothing has “%1”").arg(tab.clips.list.search)
+        detail: tab.clips.list.nothingFound
     }
 
     FadingEnds {

@@ -40,9 +40,9 @@ void Clips::showTooLarge(const TooLargeCopy& copy) {
     }
 }
 
-void Clips::search(const QString& text) {
-    list_.setSearch(text);
-    services_.snippets.list()->setSearch(text);
+void Clips::search(const QString& written) {
+    list_.setSearch(written);
+    services_.snippets.list()->setSearch(list_.searchedText());
 }
 
 void Clips::copy(int row) {

@@ -49,8 +49,10 @@ public:
     /// closes, and as a toast if the panel is open.
     void showTooLarge(const TooLargeCopy& copy);
 
-    /// In clips and snippets.
-    Q_INVOKABLE void search(const QString& text);
+    /// In clips and snippets; the latter without the filters.
+    Q_INVOKABLE void search(const QString& written);
+
+    Q_INVOKABLE bool isFilter(const QString& word) const { return ClipQuery::isFilter(word); }
 
     Q_INVOKABLE void copy(int row);
     Q_INVOKABLE void copyAndClose(int row);

@@ -11,6 +11,8 @@ Item {
     property bool highlighted: false
     property url thumbnail
     property string title
+    /// Parts of the title to stand out.
+    property var marks: []
     property string subtitle
     property string digit
     property bool selected: false
@@ -89,6 +91,7 @@ Item {
         width: Math.min(implicitWidth, card.textEnd - x)
         style: Theme.rowTitle
         text: card.title
+        marks: card.marks
         color: card.titleColor
     }
 

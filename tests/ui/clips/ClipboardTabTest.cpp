@@ -47,6 +47,35 @@ TEST_F(Panel, theButtonsOfTheHoveredRowPin) {
     EXPECT_EQ(pasteboardText(), QString()) << "the click went through to the row";
 }
 
+TEST_F(Panel, searchesWhateverIsTyped) {
+    openTab(u"Shelf"_s);
+    pressKeys(u"s e"_s);
+    EXPECT_EQ(text(u"searchInput"_s), u"se"_s);
+    EXPECT_EQ(text(u"tally"_s), u"1 of 3"_s);
+}
+
+TEST_F(Panel, aTypedFilterBecomesATokenThatBackspaceRemoves) {
+    openSearch();
+    pressKeys(u"t y p e : i m a g e"_s);
+    EXPECT_EQ(shown(u"token0"_s), nullptr) << "may become another word";
+    press(Qt::Key_Space, Qt::NoModifier, u" "_s);
+    item(u"token0"_s);
+    EXPECT_EQ(text(u"searchInput"_s), QString());
+    EXPECT_EQ(text(u"emptyDetail"_s), u"No images"_s);
+    pressKeys(u"Backspace"_s);
+    item(u"token0"_s); // Selected only.
+    pressKeys(u"Backspace"_s);
+    EXPECT_EQ(shown(u"token0"_s), nullptr);
+    EXPECT_EQ(text(u"tally"_s), QString());
+
+    press(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    pressKeys(u"Down Down Return x"_s);
+    EXPECT_EQ(text(u"emptyDetail"_s), u"No link has \u201cx\u201d."_s);
+    pressKeys(u"Esc"_s);
+    EXPECT_EQ(text(u"tally"_s), QString());
+    EXPECT_TRUE(world.controller.isOpen());
+}
+
 TEST_F(Panel, asksBeforeItClearsTheHistory) {
     struct Case {
         const char* name;
