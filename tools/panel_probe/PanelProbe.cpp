@@ -356,6 +356,16 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         if (scene == u"search-question") {
             click(window, middle(window, u"trash"_s));
         }
+    } else if (scene.startsWith(u"preview"_s)) {
+        const int row = scene == u"preview-image"  ? 3
+                        : scene == u"preview-link" ? 4
+                        : scene == u"preview-text" ? 6
+                                                   : 0;
+        click(window, middle(window, u"searchInput"_s));
+        for (int i = 0; i < row; ++i) {
+            press(window, Qt::Key_Down);
+        }
+        press(window, Qt::Key_Space, Qt::NoModifier, u" "_s);
     } else if (scene == u"shelf-drop") {
         dragFilesOver(world, window);
     } else if (scene == u"shelf-selected") {

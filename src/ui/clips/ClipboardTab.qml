@@ -19,6 +19,14 @@ TabPage {
     flick: list
 
     function clearSearch(): bool {
+        if (preview.opened) {
+            const hadFocus = bubble.focused;
+            preview.close();
+            if (hadFocus) {
+                field.edited.forceActiveFocus();
+            }
+            return true;
+        }
         const had = !field.isEmpty;
         field.clear();
         return had;
@@ -58,7 +66,16 @@ TabPage {
         const page = Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1);
         const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
         const searching = field.edited.activeFocus;
-        if (event.key === Qt.Key_Up) {
+        const shift = event.modifiers === Qt.ShiftModifier;
+        if (event.key === Qt.Key_Space && (shift || event.modifiers === Qt.NoModifier && field.isEmpty)) {
+            preview.opened ? preview.close() : preview.openCurrent();
+        } else if (preview.opened && event.key === Qt.Key_PageUp) {
+            bubble.scroll(-1);
+        } else if (preview.opened && event.key === Qt.Key_PageDown) {
+            bubble.scroll(1);
+        } else if (preview.opened && event.key === Qt.Key_Tab) {
+            bubble.focusText();
+        } else if (event.key === Qt.Key_Up) {
             select(list.currentIndex - 1);
         } else if (event.key === Qt.Key_Down) {
             select(list.currentIndex + 1);
@@ -87,6 +104,7 @@ TabPage {
 
     function select(row: int) {
         list.currentIndex = Math.max(0, Math.min(row, list.count - 1));
+        Qt.callLater(preview.follow);
         const before = list.contentY;
         showCurrent();
         if (head > 0 && shown && list.contentY !== before) {
@@ -117,6 +135,7 @@ TabPage {
     }
 
     onShownChanged: {
+        preview.close();
         if (shown) {
             begin();
         }
@@ -253,6 +272,7 @@ TabPage {
                 shown: tab.shown
                 width: list.width
                 selected: index === list.currentIndex
+                onTileHoveredChanged: preview.point(index, tileHovered)
                 onTapped: tab.copy(index)
                 onDeleted: tab.clips.remove(index)
             }
@@ -308,5 +328,22 @@ TabPage {
             }
             move: making
         }
+    }
+
+    PreviewControl {
+        id: preview
+        clips: tab.clips
+        list: list
+        bubble: bubble
+    }
+
+    PreviewBubble {
+        id: bubble
+        objectName: "preview"
+        z: 2
+        preview: tab.clips.preview
+        room: tab.width
+        highest: field.y + field.height + 8
+        lowest: tab.height + Theme.insetBottom - 18
     }
 }

@@ -18,6 +18,7 @@ Clips::Clips(Services services, const QLocale& locale)
       locale_(locale),
       list_(services.store, services.scheduler, locale),
       links_(services.opener, services.scheduler, services.toast),
+      preview_(services.store, services.decoder, locale),
       ages_(services.scheduler, list_) {
     connect(&links_, &LinkOpening::opened, &services_.controller, &NotchController::dismiss);
 }

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/clips/ClipListModel.h"
+#include "ui/clips/ClipPreview.h"
 #include "ui/clips/LinkOpening.h"
 #include "ui/controls/Tab.h"
 #include "ui/lists/RowAges.h"
@@ -20,6 +21,7 @@ class Clips : public ravelo::Tab {
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(ravelo::ClipListModel* list READ list CONSTANT)
     Q_PROPERTY(ravelo::LinkOpening* links READ links CONSTANT)
+    Q_PROPERTY(ravelo::ClipPreview* preview READ preview CONSTANT)
     Q_PROPERTY(ravelo::Snippets* snippets READ snippets CONSTANT)
 
 public:
@@ -32,6 +34,7 @@ public:
         Toast& toast;
         Deleting& deleting;
         Snippets& snippets;
+        std::shared_ptr<ImageDecoder> decoder;
     };
 
     Clips(Services services, const QLocale& locale);
@@ -39,6 +42,8 @@ public:
     [[nodiscard]] ClipListModel* list() { return &list_; }
 
     [[nodiscard]] LinkOpening* links() { return &links_; }
+
+    [[nodiscard]] ClipPreview* preview() { return &preview_; }
 
     [[nodiscard]] Snippets* snippets() { return &services_.snippets; }
 
@@ -53,6 +58,9 @@ public:
     Q_INVOKABLE void search(const QString& written);
 
     Q_INVOKABLE bool isFilter(const QString& word) const { return ClipQuery::isFilter(word); }
+
+    /// -1 ends it.
+    Q_INVOKABLE void showPreview(int row) { preview_.show(list_.idAt(row)); }
 
     Q_INVOKABLE void copy(int row);
     Q_INVOKABLE void copyAndClose(int row);
@@ -71,6 +79,7 @@ private:
     QLocale locale_;
     ClipListModel list_;
     LinkOpening links_;
+    ClipPreview preview_;
     RowAges ages_;
 };
 

@@ -20,6 +20,7 @@ Item {
     default property alias actions: buttons.data
 
     readonly property bool hovered: hover.hovered
+    property alias tileHovered: tileHover.hovered
     readonly property real textEnd: width - 12 - (hovered ? buttons.width + 6 : 26)
 
     signal tapped
@@ -62,6 +63,10 @@ Item {
         height: 28
         radius: Theme.radiusTile
         color: picture.shows ? Theme.none : card.highlighted ? Theme.pinnedTile : Theme.surface2
+
+        HoverHandler {
+            id: tileHover
+        }
 
         Glyph {
             objectName: "symbol"

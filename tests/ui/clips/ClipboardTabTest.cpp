@@ -76,6 +76,41 @@ TEST_F(Panel, aTypedFilterBecomesATokenThatBackspaceRemoves) {
     EXPECT_TRUE(world.controller.isOpen());
 }
 
+TEST_F(Panel, spaceShowsThePreviewOfTheCurrentRow) {
+    openSearch();
+    press(Qt::Key_Space, Qt::NoModifier, u" "_s);
+    const auto shownText = [this] {
+        return view.features().clips->preview()->text();
+    };
+    item(u"preview"_s);
+    EXPECT_EQ(shownText(), u"first"_s);
+    pressKeys(u"Down"_s);
+    EXPECT_TRUE(eventually([&] { return shownText() == u"second"_s; }));
+    pressKeys(u"Esc"_s);
+    EXPECT_TRUE(eventually([this] { return shown(u"preview"_s) == nullptr; }));
+    EXPECT_TRUE(world.controller.isOpen());
+
+    pressKeys(u"s"_s);
+    press(Qt::Key_Space, Qt::NoModifier, u" "_s);
+    EXPECT_EQ(text(u"searchInput"_s), u"s "_s) << "a search may have spaces";
+    press(Qt::Key_Space, Qt::ShiftModifier, u" "_s);
+    item(u"preview"_s);
+}
+
+TEST_F(Panel, thePointerOnATileShowsThePreviewUntilItLeaves) {
+    open();
+    const QQuickItem* card = hover(u"card1"_s);
+    const auto point = [this](const QQuickItem* item) {
+        send(view.window(), QEvent::MouseMove, item->mapToScene(item->boundingRect().center()));
+    };
+    point(find(card, u"tile"_s));
+    item(u"preview"_s);
+    EXPECT_EQ(view.features().clips->preview()->text(), u"second"_s);
+    point(item(u"preview"_s));
+    point(item(u"tabs"_s));
+    EXPECT_TRUE(eventually([this] { return shown(u"preview"_s) == nullptr; }));
+}
+
 TEST_F(Panel, asksBeforeItClearsTheHistory) {
     struct Case {
         const char* name;
