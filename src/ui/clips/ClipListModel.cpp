@@ -46,6 +46,11 @@ ClipListModel::ClipListModel(Store& store, const Scheduler& scheduler, const QLo
       locale_(locale) {
     connect(&store, &Store::cleared, this, &ClipListModel::dismissTooLarge);
     connect(&store, &Store::clipsChanged, this, &ClipListModel::update);
+    connect(&selection_, &ClipSelection::changed, this, [this] {
+        if (count() > 0) {
+            Q_EMIT dataChanged(index(0), index(count() - 1), {orderRole});
+        }
+    });
     update();
 }
 
@@ -65,6 +70,8 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
         return subtitle(clip);
     case imageFileNameRole:
         return clip.imageFileName;
+    case orderRole:
+        return selection_.orderOf(clip.id);
     case marksRole:
         return QVariant::fromValue((byWords_ ? words_ : phrase_).matches(title(clip)));
     default:
@@ -78,6 +85,7 @@ QHash<int, QByteArray> ClipListModel::roleNames() const {
             {pinnedRole, "pinned"},
             {subtitleRole, "subtitle"},
             {imageFileNameRole, "imageFileName"},
+            {orderRole, "order"},
             {marksRole, "marks"}};
 }
 
@@ -135,9 +143,26 @@ QUuid ClipListModel::idAt(int row) const {
     return row >= 0 && row < count() ? rows()[row].id : QUuid();
 }
 
+QList<QUuid> ClipListModel::idsBetween(int from, int to) const {
+    QList<QUuid> ids;
+    const int step = from <= to ? 1 : -1;
+    for (int row = from; row != to + step; row += step) {
+        if (row != tooLargeRow_ && !idAt(row).isNull()) {
+            ids.append(idAt(row));
+        }
+    }
+    return ids;
+}
+
+int ClipListModel::rowOf(const QUuid& id) const {
+    const auto row = std::ranges::find(rows(), id, &ClipItem::id);
+    return row == rows().end() ? -1 : static_cast<int>(row - rows().begin());
+}
+
 void ClipListModel::update() {
     apply(shownClips());
     Q_EMIT found();
+    selection_.keepOnly(idsBetween(0, count() - 1));
     const auto row =
         std::ranges::find_if(rows(), [this](const ClipItem& one) { return isTooLarge(one); });
     const int now = row == rows().end() ? -1 : static_cast<int>(row - rows().begin());

@@ -3,6 +3,7 @@
 #include "base/Scheduler.h"
 #include "store/Records.h"
 #include "ui/clips/ClipQuery.h"
+#include "ui/clips/ClipSelection.h"
 #include "ui/clips/TooLarge.h"
 #include "ui/lists/KeyedListModel.h"
 #include "ui/lists/RelativeDate.h"
@@ -39,6 +40,7 @@ public:
         pinnedRole,
         subtitleRole,
         imageFileNameRole,
+        orderRole, ///< Among the chosen clips, from 1; 0 if it is not chosen.
         marksRole, ///< Where the title has what is searched for; a list of TextRange.
     };
 
@@ -65,6 +67,14 @@ public:
     /// Replaces the previous one. Not searched, never stored, removed when the history is cleared.
     void setTooLarge(const TooLargeCopy& copy);
     void dismissTooLarge();
+
+    [[nodiscard]] ClipSelection& selection() { return selection_; }
+
+    /// Clips from one row to another, in this order.
+    [[nodiscard]] QList<QUuid> idsBetween(int from, int to) const;
+
+    /// -1 if it is not shown.
+    [[nodiscard]] int rowOf(const QUuid& id) const;
 
     void refreshDates() override;
     [[nodiscard]] Seconds untilDatesChange() const override;
@@ -99,6 +109,7 @@ private:
     QLocale locale_;
     QString search_;
     ClipQuery query_;
+    ClipSelection selection_;
     std::optional<TooLargeRow> tooLarge_;
     int tooLargeRow_ = -1;
 };

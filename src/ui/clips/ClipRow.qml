@@ -20,6 +20,7 @@ Card {
     required title
     required subtitle
     required marks
+    required order
 
     signal deleted
 

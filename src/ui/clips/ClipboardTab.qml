@@ -27,6 +27,10 @@ TabPage {
             }
             return true;
         }
+        if (clips.selected > 0) {
+            clips.clearSelection();
+            return true;
+        }
         const had = !field.isEmpty;
         field.clear();
         return had;
@@ -54,11 +58,37 @@ TabPage {
         }
     }
 
+    /// All chosen clips, or that row's.
     function copyAndClose(row: int) {
-        if (row >= 0 && row < list.count) {
+        if (clips.selected > 1) {
+            clips.copySelected();
+            clips.close();
+        } else if (row >= 0 && row < list.count) {
             list.currentIndex = row;
             clips.copyAndClose(row);
         }
+    }
+
+    /// All chosen clips, or that row's.
+    function remove(row: int) {
+        clips.selected > 1 ? clips.removeSelected() : clips.remove(row);
+    }
+
+    function tap(row: int, modifiers: int) {
+        if (modifiers & Qt.ShiftModifier) {
+            extend(row);
+        } else if (modifiers & Qt.ControlModifier) {
+            list.currentIndex = row;
+            clips.toggleSelected(row);
+        } else {
+            copy(row);
+        }
+    }
+
+    function extend(row: int) {
+        const to = Math.max(0, Math.min(row, list.count - 1));
+        clips.selectTo(to, list.currentIndex);
+        select(to);
     }
 
     /// Keys for the list while the search has the focus.
@@ -75,6 +105,14 @@ TabPage {
             bubble.scroll(1);
         } else if (preview.opened && event.key === Qt.Key_Tab) {
             bubble.focusText();
+        } else if (shift && (event.key === Qt.Key_Up || event.key === Qt.Key_Down)) {
+            extend(list.currentIndex + (event.key === Qt.Key_Up ? -1 : 1));
+        } else if (control && event.key === Qt.Key_Space) {
+            clips.toggleSelected(list.currentIndex);
+        } else if (control && event.key === Qt.Key_A && field.isEmpty) {
+            clips.selectAll();
+        } else if (event.key === Qt.Key_Menu || shift && event.key === Qt.Key_F10) {
+            rowMenu.openFor(list.currentIndex);
         } else if (event.key === Qt.Key_Up) {
             select(list.currentIndex - 1);
         } else if (event.key === Qt.Key_Down) {
@@ -95,7 +133,7 @@ TabPage {
             field.openFilters();
         } else if (event.key === Qt.Key_Delete && searching && field.isEmpty
                    && !event.isAutoRepeat) {
-            clips.remove(list.currentIndex);
+            remove(list.currentIndex);
         } else {
             return;
         }
@@ -213,11 +251,28 @@ TabPage {
             y: 4 - tab.chipsLifted
             width: parent.width
             snippets: tab.clips.snippets
+            opacity: 1 - selectionBar.opacity
+            visible: opacity > 0
             onReached: {
                 if (tab.chipsLifted > 0) {
                     list.showTop();
                 }
             }
+        }
+    }
+
+    SelectionBar {
+        id: selectionBar
+        objectName: "selectionBar"
+        y: field.y + 40
+        z: 1
+        width: parent.width
+        clips: tab.clips
+        visible: opacity > 0
+        opacity: tab.clips.selected > 1 ? 1 : 0
+
+        Behavior on opacity {
+            NumberAnimation { duration: Theme.floatingIn }
         }
     }
 
@@ -273,7 +328,8 @@ TabPage {
                 width: list.width
                 selected: index === list.currentIndex
                 onTileHoveredChanged: preview.point(index, tileHovered)
-                onTapped: tab.copy(index)
+                onTapped: modifiers => tab.tap(index, modifiers)
+                onMenuRequested: place => rowMenu.openAtRow(index, mapToItem(rowMenu.parent, place))
                 onDeleted: tab.clips.remove(index)
             }
 
@@ -345,5 +401,13 @@ TabPage {
         room: tab.width
         highest: field.y + field.height + 8
         lowest: tab.height + Theme.insetBottom - 18
+    }
+
+    RowMenu {
+        id: rowMenu
+        objectName: "rowMenu"
+        tab: tab
+        list: list
+        preview: preview
     }
 }

@@ -22,6 +22,8 @@ class Clips : public ravelo::Tab {
     Q_PROPERTY(ravelo::ClipListModel* list READ list CONSTANT)
     Q_PROPERTY(ravelo::LinkOpening* links READ links CONSTANT)
     Q_PROPERTY(ravelo::ClipPreview* preview READ preview CONSTANT)
+    /// Number of clips chosen to be copied as one.
+    Q_PROPERTY(int selected READ selected NOTIFY selectedChanged)
     Q_PROPERTY(ravelo::Snippets* snippets READ snippets CONSTANT)
 
 public:
@@ -45,6 +47,8 @@ public:
 
     [[nodiscard]] ClipPreview* preview() { return &preview_; }
 
+    [[nodiscard]] int selected() { return int(list_.selection().ids().size()); }
+
     [[nodiscard]] Snippets* snippets() { return &services_.snippets; }
 
     void begin() override;
@@ -64,6 +68,16 @@ public:
 
     Q_INVOKABLE void copy(int row);
     Q_INVOKABLE void copyAndClose(int row);
+    Q_INVOKABLE void toggleSelected(int row);
+    /// From where choosing began, else from `current`.
+    Q_INVOKABLE void selectTo(int row, int current);
+    Q_INVOKABLE void selectAll();
+    Q_INVOKABLE void clearSelection();
+    /// Joined by line breaks, pictures left out.
+    Q_INVOKABLE void copySelected();
+    Q_INVOKABLE void removeSelected();
+    /// Closes the panel.
+    Q_INVOKABLE void close();
     /// See LinkOpening; closes the panel if the link opens.
     Q_INVOKABLE void openLink(int row);
     Q_INVOKABLE void togglePin(int row);
@@ -71,9 +85,14 @@ public:
     /// All unpinned clips.
     Q_INVOKABLE void clear();
 
+Q_SIGNALS:
+    void selectedChanged();
+
 private:
     [[nodiscard]] qsizetype removed(const std::function<void()>& remove) const;
-    [[nodiscard]] const ClipItem* clipAt(int row) const;
+    [[nodiscard]] const ClipItem* clipOf(const QUuid& id) const;
+
+    [[nodiscard]] const ClipItem* clipAt(int row) const { return clipOf(list_.idAt(row)); }
 
     Services services_;
     QLocale locale_;

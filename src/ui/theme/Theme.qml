@@ -162,6 +162,7 @@ QtObject {
     readonly property TextStyle chip: TextStyle { size: 12; line: 16; weight: Font.Medium }
     readonly property TextStyle small: TextStyle { size: 12; line: 16 }
     readonly property TextStyle subtitle: TextStyle { size: 11; line: 14 }
+    readonly property TextStyle badge: TextStyle { size: 11; line: 14; weight: Font.DemiBold }
     readonly property TextStyle digit: TextStyle { size: 11; line: 14; weight: Font.Medium }
 
     // Radii.
