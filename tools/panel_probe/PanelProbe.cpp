@@ -346,10 +346,26 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     } else if (scene.startsWith(u"search"_s)) {
         click(window, middle(window, u"searchInput"_s));
         find(window.contentItem(), u"searchInput"_s)
-            ->setProperty("text", scene == u"search-nothing" ? u"larkspurr"_s : u"larkspur"_s);
+            ->setProperty("text", scene == u"search-nothing"  ? u"larkspurr"_s
+                                  : scene == u"search-filter" ? u"type:image "_s
+                                                              : u"larkspur"_s);
+        if (scene == u"search-filter") {
+            settle(200);
+            click(window, middle(window, u"filter"_s));
+        }
         if (scene == u"search-question") {
             click(window, middle(window, u"trash"_s));
         }
+    } else if (scene.startsWith(u"preview"_s)) {
+        const int row = scene == u"preview-image"  ? 3
+                        : scene == u"preview-link" ? 4
+                        : scene == u"preview-text" ? 6
+                                                   : 0;
+        click(window, middle(window, u"searchInput"_s));
+        for (int i = 0; i < row; ++i) {
+            press(window, Qt::Key_Down);
+        }
+        press(window, Qt::Key_Space, Qt::NoModifier, u" "_s);
     } else if (scene == u"shelf-drop") {
         dragFilesOver(world, window);
     } else if (scene == u"shelf-selected") {

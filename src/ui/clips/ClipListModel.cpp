@@ -40,11 +40,17 @@ QString icon(ClipKind kind) {
 ClipListModel::ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale)
     : store_(store),
       scheduler_(scheduler),
-      textSearch_(locale),
+      phrase_(locale),
+      words_(locale, TextSearch::For::words),
       relativeDate_(locale),
       locale_(locale) {
     connect(&store, &Store::cleared, this, &ClipListModel::dismissTooLarge);
     connect(&store, &Store::clipsChanged, this, &ClipListModel::update);
+    connect(&selection_, &ClipSelection::changed, this, [this] {
+        if (count() > 0) {
+            Q_EMIT dataChanged(index(0), index(count() - 1), {orderRole});
+        }
+    });
     update();
 }
 
@@ -64,6 +70,10 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
         return subtitle(clip);
     case imageFileNameRole:
         return clip.imageFileName;
+    case orderRole:
+        return selection_.orderOf(clip.id);
+    case marksRole:
+        return QVariant::fromValue((byWords_ ? words_ : phrase_).matches(title(clip)));
     default:
         return {};
     }
@@ -74,7 +84,9 @@ QHash<int, QByteArray> ClipListModel::roleNames() const {
             {iconRole, "icon"},
             {pinnedRole, "pinned"},
             {subtitleRole, "subtitle"},
-            {imageFileNameRole, "imageFileName"}};
+            {imageFileNameRole, "imageFileName"},
+            {orderRole, "order"},
+            {marksRole, "marks"}};
 }
 
 void ClipListModel::setSearch(const QString& search) {
@@ -82,9 +94,18 @@ void ClipListModel::setSearch(const QString& search) {
         return;
     }
     search_ = search;
-    textSearch_.setWanted(search);
+    query_ = ClipQuery::parse(search, scheduler_.now());
+    phrase_.setWanted(query_.text);
+    words_.setWanted(query_.text);
     Q_EMIT searchChanged();
     update();
+    if (count() > 0) {
+        Q_EMIT dataChanged(index(0), index(count() - 1), {marksRole});
+    }
+}
+
+QString ClipListModel::tally() const {
+    return search_.isEmpty() ? QString() : tr("%1 of %2").arg(count()).arg(store_.clips().size());
 }
 
 void ClipListModel::setTooLarge(const TooLargeCopy& copy) {
@@ -122,8 +143,26 @@ QUuid ClipListModel::idAt(int row) const {
     return row >= 0 && row < count() ? rows()[row].id : QUuid();
 }
 
+QList<QUuid> ClipListModel::idsBetween(int from, int to) const {
+    QList<QUuid> ids;
+    const int step = from <= to ? 1 : -1;
+    for (int row = from; row != to + step; row += step) {
+        if (row != tooLargeRow_ && !idAt(row).isNull()) {
+            ids.append(idAt(row));
+        }
+    }
+    return ids;
+}
+
+int ClipListModel::rowOf(const QUuid& id) const {
+    const auto row = std::ranges::find(rows(), id, &ClipItem::id);
+    return row == rows().end() ? -1 : static_cast<int>(row - rows().begin());
+}
+
 void ClipListModel::update() {
-    apply(found());
+    apply(shownClips());
+    Q_EMIT found();
+    selection_.keepOnly(idsBetween(0, count() - 1));
     const auto row =
         std::ranges::find_if(rows(), [this](const ClipItem& one) { return isTooLarge(one); });
     const int now = row == rows().end() ? -1 : static_cast<int>(row - rows().begin());
@@ -132,7 +171,7 @@ void ClipListModel::update() {
     }
 }
 
-QList<ClipItem> ClipListModel::found() {
+QList<ClipItem> ClipListModel::shownClips() {
     if (search_.isEmpty()) {
         QList<ClipItem> all = store_.clips();
         if (tooLarge_) {
@@ -140,9 +179,15 @@ QList<ClipItem> ClipListModel::found() {
         }
         return all;
     }
+    QList<ClipItem> found = search(phrase_);
+    byWords_ = found.isEmpty();
+    return byWords_ ? search(words_) : found;
+}
+
+QList<ClipItem> ClipListModel::search(TextSearch& texts) {
     QList<ClipItem> found;
     for (const ClipItem& clip : store_.clips()) {
-        if (textSearch_.finds(clip.id, clip.text)) {
+        if (query_.accepts(clip) && texts.finds(clip.id, clip.text)) {
             found.append(clip);
         }
     }

@@ -2,6 +2,8 @@
 
 #include "base/Scheduler.h"
 #include "store/Records.h"
+#include "ui/clips/ClipQuery.h"
+#include "ui/clips/ClipSelection.h"
 #include "ui/clips/TooLarge.h"
 #include "ui/lists/KeyedListModel.h"
 #include "ui/lists/RelativeDate.h"
@@ -16,13 +18,18 @@ namespace ravelo {
 
 class Store;
 
-/// The clipboard history as shown in the panel: clips that contain `search`, in store order, and
-/// after the pinned ones a row about a copy that was too large to keep. Main thread.
+/// The clipboard history as shown in the panel: clips that `search` finds, in store order, and
+/// after the pinned ones a row about a copy that was too large to keep. A search is a phrase; if no
+/// clip contains it, its words, in any order and with or without accents. Main thread.
 class ClipListModel : public KeyedListModel<ClipItem>, public AgingRows {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(QString search READ search NOTIFY searchChanged)
+    /// "4 of 47"; empty while nothing is searched for.
+    Q_PROPERTY(QString tally READ tally NOTIFY found)
+    /// Why the list is empty, if a search is the reason.
+    Q_PROPERTY(QString nothingFound READ nothingFound NOTIFY found)
     /// -1 if there is none.
     Q_PROPERTY(int tooLargeRow READ tooLargeRow NOTIFY tooLargeRowChanged)
 
@@ -33,6 +40,8 @@ public:
         pinnedRole,
         subtitleRole,
         imageFileNameRole,
+        orderRole, ///< Among the chosen clips, from 1; 0 if it is not chosen.
+        marksRole, ///< Where the title has what is searched for; a list of TextRange.
     };
 
     ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale);
@@ -44,6 +53,13 @@ public:
 
     void setSearch(const QString& search);
 
+    /// Without the filters.
+    [[nodiscard]] QString searchedText() const { return query_.text; }
+
+    [[nodiscard]] QString tally() const;
+
+    [[nodiscard]] QString nothingFound() const { return query_.nothingFound(); }
+
     [[nodiscard]] int count() const { return rowCount(); }
 
     [[nodiscard]] int tooLargeRow() const { return tooLargeRow_; }
@@ -51,6 +67,14 @@ public:
     /// Replaces the previous one. Not searched, never stored, removed when the history is cleared.
     void setTooLarge(const TooLargeCopy& copy);
     void dismissTooLarge();
+
+    [[nodiscard]] ClipSelection& selection() { return selection_; }
+
+    /// Clips from one row to another, in this order.
+    [[nodiscard]] QList<QUuid> idsBetween(int from, int to) const;
+
+    /// -1 if it is not shown.
+    [[nodiscard]] int rowOf(const QUuid& id) const;
 
     void refreshDates() override;
     [[nodiscard]] Seconds untilDatesChange() const override;
@@ -60,11 +84,13 @@ public:
 
 Q_SIGNALS:
     void searchChanged();
+    void found();
     void tooLargeRowChanged();
 
 private:
     void update();
-    [[nodiscard]] QList<ClipItem> found();
+    [[nodiscard]] QList<ClipItem> shownClips();
+    [[nodiscard]] QList<ClipItem> search(TextSearch& texts);
     [[nodiscard]] QString subtitle(const ClipItem& clip) const;
     [[nodiscard]] bool isTooLarge(const ClipItem& row) const;
 
@@ -76,10 +102,14 @@ private:
 
     Store& store_;
     const Scheduler& scheduler_;
-    TextSearch textSearch_;
+    TextSearch phrase_;
+    TextSearch words_;
+    bool byWords_ = false; ///< No clip contains the phrase.
     RelativeDate relativeDate_;
     QLocale locale_;
     QString search_;
+    ClipQuery query_;
+    ClipSelection selection_;
     std::optional<TooLargeRow> tooLarge_;
     int tooLargeRow_ = -1;
 };

@@ -19,6 +19,8 @@ Card {
     required icon
     required title
     required subtitle
+    required marks
+    required order
 
     signal deleted
 

@@ -19,9 +19,25 @@ TabPage {
     flick: list
 
     function clearSearch(): bool {
-        const had = field.edited.text !== "";
-        field.edited.clear();
+        if (preview.opened) {
+            const hadFocus = bubble.focused;
+            preview.close();
+            if (hadFocus) {
+                field.edited.forceActiveFocus();
+            }
+            return true;
+        }
+        if (clips.selected > 0) {
+            clips.clearSelection();
+            return true;
+        }
+        const had = !field.isEmpty;
+        field.clear();
         return had;
+    }
+
+    function type(text: string) {
+        field.type(text);
     }
 
     function search() {
@@ -42,11 +58,37 @@ TabPage {
         }
     }
 
+    /// All chosen clips, or that row's.
     function copyAndClose(row: int) {
-        if (row >= 0 && row < list.count) {
+        if (clips.selected > 1) {
+            clips.copySelected();
+            clips.close();
+        } else if (row >= 0 && row < list.count) {
             list.currentIndex = row;
             clips.copyAndClose(row);
         }
+    }
+
+    /// All chosen clips, or that row's.
+    function remove(row: int) {
+        clips.selected > 1 ? clips.removeSelected() : clips.remove(row);
+    }
+
+    function tap(row: int, modifiers: int) {
+        if (modifiers & Qt.ShiftModifier) {
+            extend(row);
+        } else if (modifiers & Qt.ControlModifier) {
+            list.currentIndex = row;
+            clips.toggleSelected(row);
+        } else {
+            copy(row);
+        }
+    }
+
+    function extend(row: int) {
+        const to = Math.max(0, Math.min(row, list.count - 1));
+        clips.selectTo(to, list.currentIndex);
+        select(to);
     }
 
     /// Keys for the list while the search has the focus.
@@ -54,7 +96,24 @@ TabPage {
         const page = Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1);
         const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
         const searching = field.edited.activeFocus;
-        if (event.key === Qt.Key_Up) {
+        const shift = event.modifiers === Qt.ShiftModifier;
+        if (event.key === Qt.Key_Space && (shift || event.modifiers === Qt.NoModifier && field.isEmpty)) {
+            preview.opened ? preview.close() : preview.openCurrent();
+        } else if (preview.opened && event.key === Qt.Key_PageUp) {
+            bubble.scroll(-1);
+        } else if (preview.opened && event.key === Qt.Key_PageDown) {
+            bubble.scroll(1);
+        } else if (preview.opened && event.key === Qt.Key_Tab) {
+            bubble.focusText();
+        } else if (shift && (event.key === Qt.Key_Up || event.key === Qt.Key_Down)) {
+            extend(list.currentIndex + (event.key === Qt.Key_Up ? -1 : 1));
+        } else if (control && event.key === Qt.Key_Space) {
+            clips.toggleSelected(list.currentIndex);
+        } else if (control && event.key === Qt.Key_A && field.isEmpty) {
+            clips.selectAll();
+        } else if (event.key === Qt.Key_Menu || shift && event.key === Qt.Key_F10) {
+            rowMenu.openFor(list.currentIndex);
+        } else if (event.key === Qt.Key_Up) {
             select(list.currentIndex - 1);
         } else if (event.key === Qt.Key_Down) {
             select(list.currentIndex + 1);
@@ -70,9 +129,11 @@ TabPage {
             copyAndClose(rowOf(event.key - Qt.Key_1));
         } else if (control && event.key === Qt.Key_P) {
             clips.togglePin(list.currentIndex);
-        } else if (event.key === Qt.Key_Delete && searching && field.edited.text === ""
+        } else if (event.key === Qt.Key_F && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier)) {
+            field.openFilters();
+        } else if (event.key === Qt.Key_Delete && searching && field.isEmpty
                    && !event.isAutoRepeat) {
-            clips.remove(list.currentIndex);
+            remove(list.currentIndex);
         } else {
             return;
         }
@@ -81,6 +142,7 @@ TabPage {
 
     function select(row: int) {
         list.currentIndex = Math.max(0, Math.min(row, list.count - 1));
+        Qt.callLater(preview.follow);
         const before = list.contentY;
         showCurrent();
         if (head > 0 && shown && list.contentY !== before) {
@@ -111,6 +173,7 @@ TabPage {
     }
 
     onShownChanged: {
+        preview.close();
         if (shown) {
             begin();
         }
@@ -143,12 +206,23 @@ TabPage {
         placeholder: qsTr("Search clipboard…")
         clearName: qsTr("Clear history")
         clearQuestion: qsTr("Clear clipboard history?")
+        tally: tab.clips.list.tally
+        isFilter: word => tab.clips.isFilter(word)
+        filters: [
+            { text: qsTr("Text"), filter: "type:text" },
+            { text: qsTr("Links"), filter: "type:link" },
+            { text: qsTr("Images"), filter: "type:image" },
+            { text: qsTr("Colors"), filter: "type:color" },
+            { divider: true },
+            { text: qsTr("Today"), filter: "after:today" },
+            { text: qsTr("Older than a week"), filter: "before:7d" }
+        ]
+        keyHandler: tab
         onSearched: text => {
             tab.clips.search(text);
             tab.select(tab.rowOf(0));
         }
         onCleared: tab.clips.clear()
-        edited.Keys.forwardTo: [tab]
     }
 
     Question {
@@ -177,11 +251,28 @@ TabPage {
             y: 4 - tab.chipsLifted
             width: parent.width
             snippets: tab.clips.snippets
+            opacity: 1 - selectionBar.opacity
+            visible: opacity > 0
             onReached: {
                 if (tab.chipsLifted > 0) {
                     list.showTop();
                 }
             }
+        }
+    }
+
+    SelectionBar {
+        id: selectionBar
+        objectName: "selectionBar"
+        y: field.y + 40
+        z: 1
+        width: parent.width
+        clips: tab.clips
+        visible: opacity > 0
+        opacity: tab.clips.selected > 1 ? 1 : 0
+
+        Behavior on opacity {
+            NumberAnimation { duration: Theme.floatingIn }
         }
     }
 
@@ -193,7 +284,7 @@ TabPage {
         symbol: "doc.on.clipboard"
         title: qsTr("No clipboard history yet")
         subtitle: qsTr("Copy anything with ⌘C and it shows up here.")
-        detail: tab.clips.list.search === "" ? "" : qsTr("Nothing has “%1”").arg(tab.clips.list.search)
+        detail: tab.clips.list.nothingFound
     }
 
     FadingEnds {
@@ -236,7 +327,9 @@ TabPage {
                 shown: tab.shown
                 width: list.width
                 selected: index === list.currentIndex
-                onTapped: tab.copy(index)
+                onTileHoveredChanged: preview.point(index, tileHovered)
+                onTapped: modifiers => tab.tap(index, modifiers)
+                onMenuRequested: place => rowMenu.openAtRow(index, mapToItem(rowMenu.parent, place))
                 onDeleted: tab.clips.remove(index)
             }
 
@@ -291,5 +384,30 @@ TabPage {
             }
             move: making
         }
+    }
+
+    PreviewControl {
+        id: preview
+        clips: tab.clips
+        list: list
+        bubble: bubble
+    }
+
+    PreviewBubble {
+        id: bubble
+        objectName: "preview"
+        z: 2
+        preview: tab.clips.preview
+        room: tab.width
+        highest: field.y + field.height + 8
+        lowest: tab.height + Theme.insetBottom - 18
+    }
+
+    RowMenu {
+        id: rowMenu
+        objectName: "rowMenu"
+        tab: tab
+        list: list
+        preview: preview
     }
 }

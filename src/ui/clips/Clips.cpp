@@ -18,7 +18,9 @@ Clips::Clips(Services services, const QLocale& locale)
       locale_(locale),
       list_(services.store, services.scheduler, locale),
       links_(services.opener, services.scheduler, services.toast),
+      preview_(services.store, services.decoder, locale),
       ages_(services.scheduler, list_) {
+    connect(&list_.selection(), &ClipSelection::changed, this, &Clips::selectedChanged);
     connect(&links_, &LinkOpening::opened, &services_.controller, &NotchController::dismiss);
 }
 
@@ -30,6 +32,7 @@ void Clips::reset() {
     ages_.stop();
     search({});
     list_.dismissTooLarge();
+    list_.selection().clear();
     links_.reset();
 }
 
@@ -40,9 +43,9 @@ void Clips::showTooLarge(const TooLargeCopy& copy) {
     }
 }
 
-void Clips::search(const QString& text) {
-    list_.setSearch(text);
-    services_.snippets.list()->setSearch(text);
+void Clips::search(const QString& written) {
+    list_.setSearch(written);
+    services_.snippets.list()->setSearch(list_.searchedText());
 }
 
 void Clips::copy(int row) {
@@ -61,8 +64,59 @@ void Clips::copy(int row) {
 void Clips::copyAndClose(int row) {
     if (clipAt(row) != nullptr) {
         copy(row);
-        services_.controller.dismiss();
+        close();
     }
+}
+
+void Clips::close() {
+    services_.controller.dismiss();
+}
+
+void Clips::toggleSelected(int row) {
+    if (clipAt(row) != nullptr) {
+        list_.selection().toggle(list_.idAt(row));
+    }
+}
+
+void Clips::selectTo(int row, int current) {
+    ClipSelection& selection = list_.selection();
+    const int begun = list_.rowOf(selection.anchor());
+    const int from = begun >= 0 ? begun : current;
+    selection.choose(list_.idAt(from), list_.idsBetween(from, row));
+}
+
+void Clips::selectAll() {
+    list_.selection().choose(list_.idAt(0), list_.idsBetween(0, list_.count() - 1));
+}
+
+void Clips::clearSelection() {
+    list_.selection().clear();
+}
+
+void Clips::copySelected() {
+    QStringList texts;
+    for (const QUuid& id : list_.selection().ids()) {
+        const ClipItem* clip = clipOf(id);
+        if (clip != nullptr && clip->kind != ClipKind::image) {
+            texts.append(clip->text);
+        }
+    }
+    if (texts.isEmpty()) {
+        services_.toast.flash(tr("Pictures cannot be joined"));
+        return;
+    }
+    services_.controller.copy(texts.join(u'\n'));
+    services_.toast.flash(tr("Copied %1 \u2713").arg(locale_.toString(texts.size())));
+}
+
+void Clips::removeSelected() {
+    services_.deleting.run([this, ids = list_.selection().ids()](const auto& records) {
+        return removed([&] {
+            for (const QUuid& id : ids) {
+                services_.store.deleteClip(id, records);
+            }
+        });
+    });
 }
 
 void Clips::openLink(int row) {
@@ -100,9 +154,9 @@ qsizetype Clips::removed(const std::function<void()>& remove) const {
     return before - services_.store.clips().size();
 }
 
-const ClipItem* Clips::clipAt(int row) const {
+const ClipItem* Clips::clipOf(const QUuid& id) const {
     const auto& clips = services_.store.clips();
-    const auto found = std::ranges::find(clips, list_.idAt(row), &ClipItem::id);
+    const auto found = std::ranges::find(clips, id, &ClipItem::id);
     return found == clips.end() ? nullptr : &*found;
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/clips/ClipListModel.h"
+#include "ui/clips/ClipPreview.h"
 #include "ui/clips/LinkOpening.h"
 #include "ui/controls/Tab.h"
 #include "ui/lists/RowAges.h"
@@ -20,6 +21,9 @@ class Clips : public ravelo::Tab {
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(ravelo::ClipListModel* list READ list CONSTANT)
     Q_PROPERTY(ravelo::LinkOpening* links READ links CONSTANT)
+    Q_PROPERTY(ravelo::ClipPreview* preview READ preview CONSTANT)
+    /// Number of clips chosen to be copied as one.
+    Q_PROPERTY(int selected READ selected NOTIFY selectedChanged)
     Q_PROPERTY(ravelo::Snippets* snippets READ snippets CONSTANT)
 
 public:
@@ -32,6 +36,7 @@ public:
         Toast& toast;
         Deleting& deleting;
         Snippets& snippets;
+        std::shared_ptr<ImageDecoder> decoder;
     };
 
     Clips(Services services, const QLocale& locale);
@@ -39,6 +44,10 @@ public:
     [[nodiscard]] ClipListModel* list() { return &list_; }
 
     [[nodiscard]] LinkOpening* links() { return &links_; }
+
+    [[nodiscard]] ClipPreview* preview() { return &preview_; }
+
+    [[nodiscard]] int selected() { return int(list_.selection().ids().size()); }
 
     [[nodiscard]] Snippets* snippets() { return &services_.snippets; }
 
@@ -49,11 +58,26 @@ public:
     /// closes, and as a toast if the panel is open.
     void showTooLarge(const TooLargeCopy& copy);
 
-    /// In clips and snippets.
-    Q_INVOKABLE void search(const QString& text);
+    /// In clips and snippets; the latter without the filters.
+    Q_INVOKABLE void search(const QString& written);
+
+    Q_INVOKABLE bool isFilter(const QString& word) const { return ClipQuery::isFilter(word); }
+
+    /// -1 ends it.
+    Q_INVOKABLE void showPreview(int row) { preview_.show(list_.idAt(row)); }
 
     Q_INVOKABLE void copy(int row);
     Q_INVOKABLE void copyAndClose(int row);
+    Q_INVOKABLE void toggleSelected(int row);
+    /// From where choosing began, else from `current`.
+    Q_INVOKABLE void selectTo(int row, int current);
+    Q_INVOKABLE void selectAll();
+    Q_INVOKABLE void clearSelection();
+    /// Joined by line breaks, pictures left out.
+    Q_INVOKABLE void copySelected();
+    Q_INVOKABLE void removeSelected();
+    /// Closes the panel.
+    Q_INVOKABLE void close();
     /// See LinkOpening; closes the panel if the link opens.
     Q_INVOKABLE void openLink(int row);
     Q_INVOKABLE void togglePin(int row);
@@ -61,14 +85,20 @@ public:
     /// All unpinned clips.
     Q_INVOKABLE void clear();
 
+Q_SIGNALS:
+    void selectedChanged();
+
 private:
     [[nodiscard]] qsizetype removed(const std::function<void()>& remove) const;
-    [[nodiscard]] const ClipItem* clipAt(int row) const;
+    [[nodiscard]] const ClipItem* clipOf(const QUuid& id) const;
+
+    [[nodiscard]] const ClipItem* clipAt(int row) const { return clipOf(list_.idAt(row)); }
 
     Services services_;
     QLocale locale_;
     ClipListModel list_;
     LinkOpening links_;
+    ClipPreview preview_;
     RowAges ages_;
 };
 

@@ -11,35 +11,43 @@ Item {
     property bool highlighted: false
     property url thumbnail
     property string title
+    /// Parts of the title to stand out.
+    property var marks: []
     property string subtitle
     property string digit
+    /// The current one.
     property bool selected: false
+    /// Place among several chosen ones, from 1; 0 if it is none of them.
+    property int order: 0
     property color titleColor: Theme.text1
     default property alias actions: buttons.data
 
     readonly property bool hovered: hover.hovered
+    property alias tileHovered: tileHover.hovered
     readonly property real textEnd: width - 12 - (hovered ? buttons.width + 6 : 26)
 
-    signal tapped
+    signal tapped(int modifiers)
+    /// By the right button; the place is in the card.
+    signal menuRequested(point place)
 
     Accessible.role: Accessible.ListItem
     Accessible.name: title
     Accessible.description: subtitle
     Accessible.selectable: true
-    Accessible.selected: selected
-    Accessible.onPressAction: card.tapped()
+    Accessible.selected: selected || order > 0
+    Accessible.onPressAction: card.tapped(Qt.NoModifier)
     implicitHeight: Theme.rowHeight
 
     Surface {
         anchors.fill: parent
         radius: Theme.radiusRow
-        rest: card.selected ? Theme.selectedCard : Theme.none
+        rest: card.order > 0 ? Theme.selectedTile : card.selected ? Theme.selectedCard : Theme.none
         hover: Theme.hoveredCard
         press: Theme.pressedCard
         hovered: card.hovered
         pressed: area.pressed
         lineWidth: card.selected ? 1.5 : 0
-        lineColor: Theme.withAlpha(Theme.accent, 0.50)
+        lineColor: card.order > 0 ? Theme.selectedTileLine : Theme.withAlpha(Theme.accent, 0.50)
     }
 
     HoverHandler {
@@ -49,7 +57,14 @@ Item {
     MouseArea {
         id: area
         anchors.fill: parent
-        onClicked: card.tapped()
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onClicked: mouse => {
+            if (mouse.button === Qt.RightButton) {
+                card.menuRequested(Qt.point(mouse.x, mouse.y));
+            } else {
+                card.tapped(mouse.modifiers);
+            }
+        }
     }
 
     Box {
@@ -60,6 +75,10 @@ Item {
         height: 28
         radius: Theme.radiusTile
         color: picture.shows ? Theme.none : card.highlighted ? Theme.pinnedTile : Theme.surface2
+
+        HoverHandler {
+            id: tileHover
+        }
 
         Glyph {
             objectName: "symbol"
@@ -89,6 +108,7 @@ Item {
         width: Math.min(implicitWidth, card.textEnd - x)
         style: Theme.rowTitle
         text: card.title
+        marks: card.marks
         color: card.titleColor
     }
 
@@ -98,14 +118,14 @@ Item {
         y: 21.5
         width: Math.min(implicitWidth, card.textEnd - x)
         style: Theme.subtitle
-        color: Theme.text3
+        color: card.order > 0 ? Theme.white(0.72) : Theme.text3
         text: card.subtitle
     }
 
     Label {
         objectName: "digit"
         visible: opacity > 0
-        opacity: 1 - buttons.opacity
+        opacity: card.order > 0 ? 0 : 1 - buttons.opacity
         x: card.width - 26
         y: 13
         width: 16
@@ -113,6 +133,27 @@ Item {
         style: Theme.digit
         color: Theme.hint
         text: card.digit
+    }
+
+    Box {
+        objectName: "order"
+        visible: card.order > 0
+        opacity: 1 - buttons.opacity
+        x: card.width - 27
+        y: 11
+        width: 18
+        height: 18
+        radius: 9
+        color: Theme.accent
+
+        Label {
+            y: 2
+            width: parent.width
+            centred: true
+            style: Theme.badge
+            color: Theme.accentGlyph
+            text: card.order
+        }
     }
 
     Row {

@@ -9,7 +9,7 @@ import Ravelo.Theme
 Popover {
     id: menu
 
-    /// Objects with `text`, `chosen()` and optionally `checked`, or with `divider`.
+    /// Objects with `text`, `chosen()` and optionally `checked` and `hint`, or with `divider`.
     property var entries: []
     /// Name for assistive programs.
     property string name
@@ -17,6 +17,7 @@ Popover {
     property int current: -1
 
     readonly property real room: largestHeight - 2 * pad
+    readonly property bool checks: entries.some(entry => entry.checked !== undefined)
 
     function choose(index: int) {
         close();
@@ -87,7 +88,8 @@ Popover {
             Accessible.checkable: modelData.checked !== undefined
             Accessible.checked: modelData.checked ?? false
             Accessible.onPressAction: menu.choose(index)
-            Component.onCompleted: list.maxItemWidth = Math.max(list.maxItemWidth, label.x + label.implicitWidth + 10)
+            Component.onCompleted: list.maxItemWidth = Math.max(list.maxItemWidth, label.x + label.implicitWidth + 10
+                + (hint.text ? hint.implicitWidth + 24 : 0))
 
             Box {
                 visible: item.divides
@@ -108,12 +110,21 @@ Popover {
 
             Label {
                 id: label
-                x: 30
+                x: menu.checks ? 30 : 12
                 y: 6
-                width: Math.min(implicitWidth, item.width - x - 10)
+                width: Math.min(implicitWidth, (hint.text ? hint.x - 24 : item.width - 10) - x)
                 text: item.modelData.text ?? ""
                 style: Theme.body
                 color: Theme.text1
+            }
+
+            Label {
+                id: hint
+                x: item.width - implicitWidth - 12
+                y: 6
+                text: item.modelData.hint ?? ""
+                style: Theme.small
+                color: Theme.text4
             }
 
             FocusRing {

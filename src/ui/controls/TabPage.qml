@@ -22,6 +22,10 @@ FocusScope {
     function search() {
     }
 
+    /// Adds to the page's search, as if typed there.
+    function type(text: string) {
+    }
+
     /// Ends a search; false if there is none.
     function clearSearch(): bool {
         return false;

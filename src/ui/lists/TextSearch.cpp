@@ -1,5 +1,7 @@
 #include "ui/lists/TextSearch.h"
 
+#include <QTextBoundaryFinder>
+
 #include <unicode/uchar.h>
 #include <unicode/ustring.h>
 
@@ -81,19 +83,52 @@ bool isAscii(QStringView text) {
     return all <= 0x7f;
 }
 
+bool containsAll(const QString& text, const QStringList& wanted) {
+    return std::ranges::all_of(wanted, [&](const QString& one) { return text.contains(one); });
+}
+
+/// Whatever has all of `now` has all of `before`.
+bool isNarrower(const QStringList& now, const QStringList& before) {
+    return std::ranges::all_of(before, [&](const QString& old) {
+        return std::ranges::any_of(now, [&](const QString& one) { return one.contains(old); });
+    });
+}
+
+/// Without overlaps, in order.
+QList<TextRange> joined(QList<TextRange> ranges) {
+    std::ranges::sort(ranges, {}, &TextRange::start);
+    QList<TextRange> joined;
+    for (const TextRange& range : ranges) {
+        const qsizetype end = range.start + range.length;
+        if (!joined.isEmpty() && range.start < joined.last().start + joined.last().length) {
+            joined.last().length = std::max(joined.last().length, end - joined.last().start);
+        } else {
+            joined.append(range);
+        }
+    }
+    return joined;
+}
+
+QString withoutMarks(const QString& text) {
+    QString bare = text.normalized(QString::NormalizationForm_KD);
+    bare.removeIf([](QChar unit) { return unit.category() == QChar::Mark_NonSpacing; });
+    return bare;
+}
+
 } // namespace
 
-TextSearch::TextSearch(const QLocale& locale)
+TextSearch::TextSearch(const QLocale& locale, For what)
     // In Turkish and Azerbaijani i pairs with İ and ı with I.
     : foldOptions_(locale.language() == QLocale::Turkish ||
                            locale.language() == QLocale::Azerbaijani
                        ? U_FOLD_CASE_EXCLUDE_SPECIAL_I
-                       : U_FOLD_CASE_DEFAULT) {}
+                       : U_FOLD_CASE_DEFAULT),
+      what_(what) {}
 
 void TextSearch::setWanted(const QString& wanted) {
-    const QString now = folded(wanted);
+    const QStringList now = parts(wanted);
     // Results for shorter searches are kept for backspace.
-    while (!levels_.isEmpty() && !now.contains(levels_.last().wanted)) {
+    while (!levels_.isEmpty() && !isNarrower(now, levels_.last().wanted)) {
         levels_.removeLast();
     }
     if (now.isEmpty()) {
@@ -104,6 +139,14 @@ void TextSearch::setWanted(const QString& wanted) {
     } else if (levels_.last().wanted != now) {
         levels_.append({now, levels_.last().missed});
     }
+}
+
+QStringList TextSearch::parts(const QString& wanted) const {
+    const QString all = folded(wanted);
+    if (what_ == For::words) {
+        return all.simplified().split(u' ', Qt::SkipEmptyParts);
+    }
+    return all.isEmpty() ? QStringList() : QStringList{all};
 }
 
 bool TextSearch::finds(const QUuid& id, const QString& text) {
@@ -121,22 +164,58 @@ bool TextSearch::finds(const QUuid& id, const QString& text) {
     return found;
 }
 
-bool TextSearch::contains(const QUuid& id, const QString& text, const QString& wanted) {
+bool TextSearch::contains(const QUuid& id, const QString& text, const QStringList& wanted) {
     const auto known = folded_.constFind(id);
     if (known != folded_.cend()) {
-        return known->contains(wanted);
+        return containsAll(*known, wanted);
     }
-    if (foldOptions_ == U_FOLD_CASE_DEFAULT) { // Then ASCII needs no folding.
-        const Scan scan = isAscii(wanted) ? scanAscii(text, wanted) : Scan{false, isAscii(text)};
-        if (scan.isAscii) {
-            return scan.found;
+    bool plain = foldOptions_ == U_FOLD_CASE_DEFAULT; // Then ASCII needs no folding.
+    for (const QString& one : wanted) {
+        if (!plain) {
+            break;
+        }
+        const Scan scan = isAscii(one) ? scanAscii(text, one) : Scan{false, isAscii(text)};
+        plain = scan.isAscii;
+        if (plain && !scan.found) {
+            return false;
         }
     }
-    return folded_.insert(id, folded(text))->contains(wanted);
+    return plain || containsAll(*folded_.insert(id, folded(text)), wanted);
+}
+
+QList<TextRange> TextSearch::matches(const QString& text) const {
+    if (levels_.isEmpty()) {
+        return {};
+    }
+    const Letters all = letters(text);
+    QList<TextRange> matches;
+    for (const QString& one : levels_.last().wanted) {
+        for (qsizetype at = all.folded.indexOf(one); at >= 0;
+             at = all.folded.indexOf(one, at + one.size())) {
+            const TextRange last = all.origins[at + one.size() - 1];
+            const qsizetype start = all.origins[at].start;
+            matches.append({start, last.start + last.length - start});
+        }
+    }
+    return joined(std::move(matches));
+}
+
+TextSearch::Letters TextSearch::letters(const QString& text) const {
+    Letters all;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
+    qsizetype start = 0;
+    for (qsizetype end = finder.toNextBoundary(); end > start; end = finder.toNextBoundary()) {
+        const QString letter = folded(text.mid(start, end - start));
+        all.folded += letter;
+        all.origins.insert(all.origins.size(), letter.size(), {start, end - start});
+        start = end;
+    }
+    return all;
 }
 
 QString TextSearch::folded(const QString& text) const {
-    const QString composed = text.normalized(QString::NormalizationForm_C);
+    const QString composed =
+        what_ == For::words ? withoutMarks(text) : text.normalized(QString::NormalizationForm_C);
     const auto* source = reinterpret_cast<const UChar*>(composed.utf16());
     const auto length = static_cast<int32_t>(composed.size());
     QString result(composed.size(), Qt::Uninitialized);

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "ui/theme/TextRange.h"
+
 #include <QHash>
 #include <QList>
 #include <QLocale>
 #include <QSet>
 #include <QString>
+#include <QStringList>
 #include <QUuid>
 
 namespace ravelo {
@@ -14,7 +17,12 @@ namespace ravelo {
 /// search.
 class TextSearch {
 public:
-    explicit TextSearch(const QLocale& locale);
+    enum class For {
+        phrase, ///< The search as it is.
+        words,  ///< All words of the search, in any order, with or without accents.
+    };
+
+    explicit TextSearch(const QLocale& locale, For what = For::phrase);
 
     /// Empty to match everything.
     void setWanted(const QString& wanted);
@@ -22,16 +30,28 @@ public:
     /// `id` identifies a text that never changes.
     [[nodiscard]] bool finds(const QUuid& id, const QString& text);
 
+    /// Where `text` has what is wanted.
+    [[nodiscard]] QList<TextRange> matches(const QString& text) const;
+
 private:
     struct Level {
-        QString wanted; ///< Folded; contains the search of the previous level.
+        QStringList wanted; ///< Folded; all texts of the previous level are in these.
         QSet<QUuid> missed;
     };
 
-    [[nodiscard]] bool contains(const QUuid& id, const QString& text, const QString& wanted);
+    /// A folded text, and for each of its units the letter that it comes from.
+    struct Letters {
+        QString folded;
+        QList<TextRange> origins;
+    };
+
+    [[nodiscard]] bool contains(const QUuid& id, const QString& text, const QStringList& wanted);
+    [[nodiscard]] QStringList parts(const QString& wanted) const;
     [[nodiscard]] QString folded(const QString& text) const;
+    [[nodiscard]] Letters letters(const QString& text) const;
 
     const unsigned foldOptions_;
+    const For what_;
     QList<Level> levels_;
     QHash<QUuid, QString> folded_; ///< Of non-ASCII texts.
 };

@@ -56,6 +56,12 @@ FocusScope {
         return item !== null;
     }
 
+    /// Space presses buttons.
+    function isTyped(event: KeyEvent): bool {
+        const held = Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier;
+        return !(event.modifiers & held) && event.text > " " && event.text !== "\x7f";
+    }
+
     focus: true
     Keys.onEscapePressed: {
         if (!page?.clearSearch()) {
@@ -70,6 +76,9 @@ FocusScope {
                    && tabs.searchable >= 0) {
             tabs.choose(tabs.searchable);
             page.search();
+        } else if (isTyped(event) && tabs.searchable >= 0) {
+            tabs.choose(tabs.searchable);
+            page.type(event.text);
         } else if (event.key === Qt.Key_F6) {
             notice.toggleFocus();
         } else if (!event.matches(StandardKey.Undo) || !toast.act()) {

@@ -17,11 +17,15 @@ struct GlyphLine {
         double x = 0;
     };
 
+    QString text;
     std::vector<Piece> pieces;
     double width = 0;
 };
 
 namespace {
+
+constexpr QColor markColor(255, 255, 255, 51);
+constexpr double markRadius = 3;
 
 void append(GlyphLine& line, const QString& text, const QFont& font, double cell) {
     QTextLayout layout(text, font);
@@ -60,6 +64,7 @@ GlyphLine tabular(const QString& text, const QFont& font) {
 
 GlyphLine proportional(const QString& text, const QFont& font) {
     GlyphLine line;
+    line.text = text;
     append(line, text, font, 0);
     return line;
 }
@@ -131,15 +136,53 @@ void Label::paint(QPainter& painter) {
     if (!line_) {
         line_ = natural_->width <= width() + 0.01 ? natural_ : elided();
     }
-    painter.setPen(color_);
     const double scale = painter.device()->devicePixelRatio();
     const double top = painter.transform().dy();
     const double base = top + style_->metrics().baseLine(scale);
     const double y = std::round(base * scale) / scale - top;
     const double indent = centred_ ? (width() - line_->width) / 2 : 0;
-    for (const GlyphLine::Piece& piece : line_->pieces) {
-        painter.drawGlyphRun(QPointF(indent + piece.x, y), piece.glyphs);
+    painter.setPen(color_);
+    paintGlyphs(painter, {indent, y});
+    for (const QRectF& place : markedPlaces()) {
+        painter.setRenderHint(QPainter::Antialiasing);
+        painter.setPen(Qt::NoPen);
+        painter.setBrush(markColor);
+        painter.drawRoundedRect(place, markRadius, markRadius);
+        painter.save();
+        painter.setClipRect(place, Qt::IntersectClip);
+        painter.setPen(Qt::white);
+        paintGlyphs(painter, {indent, y});
+        painter.restore();
     }
+}
+
+void Label::paintGlyphs(QPainter& painter, QPointF start) const {
+    for (const GlyphLine::Piece& piece : line_->pieces) {
+        painter.drawGlyphRun(start + QPointF(piece.x, 0), piece.glyphs);
+    }
+}
+
+/// What is behind the ellipsis is not marked. Only for proportional, left-aligned labels.
+QList<QRectF> Label::markedPlaces() const {
+    const QString& shown = line_->text;
+    if (marks_.isEmpty() || shown.isEmpty()) {
+        return {};
+    }
+    QTextLayout layout(shown, style_->font());
+    layout.beginLayout();
+    const QTextLine line = layout.createLine();
+    layout.endLayout();
+    const qsizetype end = shown == text_ ? shown.size() : shown.size() - 1;
+    QList<QRectF> places;
+    for (const TextRange& mark : marks_) {
+        if (mark.start < end) {
+            const double from = line.cursorToX(int(mark.start));
+            const double to = line.cursorToX(int(std::min(mark.start + mark.length, end)));
+            places.append(QRectF(QPointF(std::min(from, to) - 1, 0),
+                                 QPointF(std::max(from, to) + 1, height())));
+        }
+    }
+    return places;
 }
 
 } // namespace ravelo

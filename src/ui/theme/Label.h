@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/paint/PaintedItem.h"
+#include "ui/theme/TextRange.h"
 #include "ui/theme/TextStyle.h"
 
 #include <QColor>
@@ -22,6 +23,8 @@ class Label : public ravelo::PaintedItem {
     Q_PROPERTY(bool centred MEMBER centred_ NOTIFY contentChanged)
     /// Elide in the middle, not at the end.
     Q_PROPERTY(bool keepsEnd MEMBER keepsEnd_ NOTIFY contentChanged)
+    /// Parts to stand out.
+    Q_PROPERTY(QList<ravelo::TextRange> marks MEMBER marks_ NOTIFY changed)
     /// Digits of equal width, so that a counter does not jitter. (Qt 6.4 cannot enable a font's
     /// tabular digits.)
     Q_PROPERTY(bool tabular MEMBER tabular_ NOTIFY contentChanged)
@@ -45,6 +48,8 @@ protected:
 private:
     void measure();
     [[nodiscard]] std::shared_ptr<const GlyphLine> elided() const;
+    [[nodiscard]] QList<QRectF> markedPlaces() const;
+    void paintGlyphs(QPainter& painter, QPointF start) const;
 
     QString text_;
     TextStyle* style_ = nullptr; ///< Owned by the theme, which outlives every label.
@@ -52,6 +57,7 @@ private:
     bool centred_ = false;
     bool keepsEnd_ = false;
     bool tabular_ = false;
+    QList<TextRange> marks_;
     std::shared_ptr<const GlyphLine> natural_; ///< At its natural width.
     std::shared_ptr<const GlyphLine> line_;    ///< As drawn; null if outdated.
 };

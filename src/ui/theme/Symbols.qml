@@ -28,6 +28,7 @@ QtObject {
         "dollarsign.circle": "\uF178",
         "exclamationmark.circle": "\uF5D6",
         "exclamationmark.circle.fill": "\uF028",
+        "filter": "\uF232",
         "gearshape": "\uF493",
         "hourglass": "\uF51F",
         "info.circle": "\uF2FD",

@@ -157,10 +157,12 @@ QtObject {
     readonly property TextStyle menuLabel: TextStyle { size: 13; line: 16; weight: Font.Medium }
     readonly property TextStyle timer: TextStyle { size: 22; line: 28; weight: Font.DemiBold; tracking: -0.3 }
     readonly property TextStyle bodyLoose: TextStyle { size: 13; line: 20 }
+    readonly property TextStyle strongLoose: TextStyle { size: 13; line: 20; weight: Font.DemiBold }
     readonly property TextStyle button: TextStyle { size: 12; line: 16; weight: Font.DemiBold }
     readonly property TextStyle chip: TextStyle { size: 12; line: 16; weight: Font.Medium }
     readonly property TextStyle small: TextStyle { size: 12; line: 16 }
     readonly property TextStyle subtitle: TextStyle { size: 11; line: 14 }
+    readonly property TextStyle badge: TextStyle { size: 11; line: 14; weight: Font.DemiBold }
     readonly property TextStyle digit: TextStyle { size: 11; line: 14; weight: Font.Medium }
 
     // Radii.

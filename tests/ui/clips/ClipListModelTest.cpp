@@ -166,6 +166,9 @@ TEST(ClipListModel, findsTheClipsThatContainTheSearch) {
         {u"caf\u00e9"_s, {u"cafe\u0301"_s, u"cafe"_s}, {0}},
         {u"cafe"_s, {QString(60, u'-') + u"cafe\u0301"_s, u"CAFE \u0301"_s}, {1}},
         {u"STRASSE"_s, {u"Hauptstraße 5"_s}, {0}},
+        {u"sao paulo"_s, {u"S\u00e3o Paulo"_s, u"Paulo, S\u00c3O"_s, u"Saulo"_s}, {0, 1}},
+        {u"18 oak"_s, {u"oak, 18 mm"_s, u"oak"_s}, {0}},
+        {u"oak 18"_s, {u"18 mm oak"_s, u"oak 18"_s}, {1}}, // No words while a clip has the phrase.
         {u"i"_s, {u"I"_s, u"\u0130"_s}, {1}, turkish},
         {u"\u0131"_s, {u"I"_s, u"i"_s}, {0}, turkish},
     };
@@ -185,6 +188,36 @@ TEST(ClipListModel, findsTheClipsThatContainTheSearch) {
         EXPECT_EQ(Mirror(model).ids, expected);
         model.setSearch({});
         EXPECT_EQ(Mirror(model).ids, idsOf(world.store.clips()));
+    }
+}
+
+TEST(ClipListModel, marksWhatIsSearchedForInTitles) {
+    struct Case {
+        QString search;
+        QString text;
+        QList<TextRange> marks;
+    };
+
+    const Case cases[] = {
+        {{}, u"oak"_s, {}},
+        {u"oak"_s, u"Oak, soaked"_s, {{0, 3}, {6, 3}}},
+        {u"18 oak"_s, u"oak 18"_s, {{0, 3}, {4, 2}}},
+        {u"paulo sao"_s, u"S\u00e3o Paulo"_s, {{0, 3}, {4, 5}}},
+        {u"cafe"_s, u"a cafe\u0301"_s, {{2, 5}}}, // A letter with its accent.
+        {u"strasse"_s, u"Stra\u00dfe"_s, {{0, 6}}},
+        {u"aa"_s, u"aaa"_s, {{0, 2}}},
+        {u"type:text oak"_s, u"oak"_s, {{0, 3}}},
+    };
+    for (const Case& c : cases) {
+        StoreData data;
+        data.clips = {clip(c.text, Seconds(60))};
+        PanelWorld world(data);
+        ClipListModel model(world.store, world.scheduler, english);
+        model.setSearch(c.search);
+        ASSERT_EQ(model.count(), 1) << qPrintable(c.search);
+        EXPECT_EQ(model.data(model.index(0), ClipListModel::marksRole).value<QList<TextRange>>(),
+                  c.marks)
+            << qPrintable(c.search);
     }
 }
 

@@ -47,6 +47,70 @@ TEST_F(Panel, theButtonsOfTheHoveredRowPin) {
     EXPECT_EQ(pasteboardText(), QString()) << "the click went through to the row";
 }
 
+TEST_F(Panel, searchesWhateverIsTyped) {
+    openTab(u"Shelf"_s);
+    pressKeys(u"s e"_s);
+    EXPECT_EQ(text(u"searchInput"_s), u"se"_s);
+    EXPECT_EQ(text(u"tally"_s), u"1 of 3"_s);
+}
+
+TEST_F(Panel, aTypedFilterBecomesATokenThatBackspaceRemoves) {
+    openSearch();
+    pressKeys(u"t y p e : i m a g e"_s);
+    EXPECT_EQ(shown(u"token0"_s), nullptr) << "may become another word";
+    press(Qt::Key_Space, Qt::NoModifier, u" "_s);
+    item(u"token0"_s);
+    EXPECT_EQ(text(u"searchInput"_s), QString());
+    EXPECT_EQ(text(u"emptyDetail"_s), u"No images"_s);
+    pressKeys(u"Backspace"_s);
+    item(u"token0"_s); // Selected only.
+    pressKeys(u"Backspace"_s);
+    EXPECT_EQ(shown(u"token0"_s), nullptr);
+    EXPECT_EQ(text(u"tally"_s), QString());
+
+    press(Qt::Key_F, Qt::ControlModifier | Qt::ShiftModifier);
+    pressKeys(u"Down Down Return x"_s);
+    EXPECT_EQ(text(u"emptyDetail"_s), u"No link has \u201cx\u201d."_s);
+    pressKeys(u"Esc"_s);
+    EXPECT_EQ(text(u"tally"_s), QString());
+    EXPECT_TRUE(world.controller.isOpen());
+}
+
+TEST_F(Panel, spaceShowsThePreviewOfTheCurrentRow) {
+    openSearch();
+    press(Qt::Key_Space, Qt::NoModifier, u" "_s);
+    const auto shownText = [this] {
+        return view.features().clips->preview()->text();
+    };
+    item(u"preview"_s);
+    EXPECT_EQ(shownText(), u"first"_s);
+    pressKeys(u"Down"_s);
+    EXPECT_TRUE(eventually([&] { return shownText() == u"second"_s; }));
+    pressKeys(u"Esc"_s);
+    EXPECT_TRUE(eventually([this] { return shown(u"preview"_s) == nullptr; }));
+    EXPECT_TRUE(world.controller.isOpen());
+
+    pressKeys(u"s"_s);
+    press(Qt::Key_Space, Qt::NoModifier, u" "_s);
+    EXPECT_EQ(text(u"searchInput"_s), u"s "_s) << "a search may have spaces";
+    press(Qt::Key_Space, Qt::ShiftModifier, u" "_s);
+    item(u"preview"_s);
+}
+
+TEST_F(Panel, thePointerOnATileShowsThePreviewUntilItLeaves) {
+    open();
+    const QQuickItem* card = hover(u"card1"_s);
+    const auto point = [this](const QQuickItem* item) {
+        send(view.window(), QEvent::MouseMove, item->mapToScene(item->boundingRect().center()));
+    };
+    point(find(card, u"tile"_s));
+    item(u"preview"_s);
+    EXPECT_EQ(view.features().clips->preview()->text(), u"second"_s);
+    point(item(u"preview"_s));
+    point(item(u"tabs"_s));
+    EXPECT_TRUE(eventually([this] { return shown(u"preview"_s) == nullptr; }));
+}
+
 TEST_F(Panel, asksBeforeItClearsTheHistory) {
     struct Case {
         const char* name;

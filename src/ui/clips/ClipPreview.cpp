@@ -1,0 +1,167 @@
+#include "ui/clips/ClipPreview.h"
+
+#include "platform/ImageDecoder.h"
+#include "store/Store.h"
+#include "ui/clips/ClipColor.h"
+
+#include <QCoreApplication>
+#include <QFile>
+#include <QFileInfo>
+#include <QPointer>
+#include <QUrl>
+#include <QUrlQuery>
+
+#include <algorithm>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+/// UTF-16 code units that are laid out at once: megabytes would take seconds.
+constexpr qsizetype portion = 20'000;
+
+constexpr qsizetype longestValue = 2000;
+
+/// Does not split a surrogate pair.
+qsizetype portionEnd(const QString& text, qsizetype begin) {
+    const qsizetype end = std::min(begin + portion, text.size());
+    return end < text.size() && text[end].isLowSurrogate() ? end + 1 : end;
+}
+
+ClipPreview::Kind kindOf(const ClipItem& clip) {
+    switch (clip.kind) {
+    case ClipKind::image:
+        return ClipPreview::Image;
+    case ClipKind::url:
+        return QUrl(clip.text).host().isEmpty() ? ClipPreview::Text : ClipPreview::Link;
+    case ClipKind::text:
+        break;
+    }
+    return colorOf(clip.text).isValid() ? ClipPreview::Color : ClipPreview::Text;
+}
+
+QString percent(double part) {
+    return QString::number(qRound(part * 100)) + u'%';
+}
+
+} // namespace
+
+ClipPreview::ClipPreview(Store& store, std::shared_ptr<ImageDecoder> decoder, const QLocale& locale)
+    : store_(store), decoder_(std::move(decoder)), locale_(locale) {}
+
+void ClipPreview::show(const QUuid& id) {
+    const auto& clips = store_.clips();
+    const auto found = std::ranges::find(clips, id, &ClipItem::id);
+    clip_ = found == clips.end() ? ClipItem() : *found;
+    kind_ = found == clips.end() ? None : kindOf(clip_);
+    shown_ = kind_ == Image ? 0 : portionEnd(clip_.text, 0);
+    names_.clear();
+    values_.clear();
+    pixels_ = {};
+    if (kind_ == Link) {
+        describeLink();
+    } else if (kind_ == Color) {
+        describeColor();
+    } else if (kind_ == Image) {
+        lookAtPicture();
+    }
+    Q_EMIT changed();
+    Q_EMIT pixelsChanged();
+}
+
+bool ClipPreview::showMore() {
+    const qsizetype end = portionEnd(clip_.text, shown_);
+    if (kind_ == Image || end == shown_) {
+        return false;
+    }
+    const QString more = clip_.text.mid(shown_, end - shown_);
+    shown_ = end;
+    Q_EMIT appended(more);
+    return true;
+}
+
+void ClipPreview::describeLink() {
+    const QUrl url(clip_.text.trimmed());
+    scheme_ = url.scheme() + u"://"_s;
+    host_ = url.host();
+    if (url.port() >= 0) {
+        host_ += u':' + QString::number(url.port());
+    }
+    add(tr("User"), url.userName());
+    add(tr("Path"), url.path() == u"/"_s ? QString() : url.path());
+    for (const auto& [name, value] : QUrlQuery(url).queryItems(QUrl::FullyDecoded)) {
+        add(name, value.isEmpty() ? u"\u2013"_s : value);
+    }
+    add(tr("Part"), url.fragment());
+}
+
+void ClipPreview::describeColor() {
+    color_ = colorOf(clip_.text);
+    const bool clear = color_.alpha() < 255;
+    const QString hex = color_.name(QColor::HexRgb).mid(1).toUpper();
+    const QString alpha = QString::number(color_.alpha(), 16).rightJustified(2, u'0').toUpper();
+    const QString share = clear ? u", "_s + percent(color_.alphaF()) : QString();
+    add(tr("Hex"), u'#' + hex + (clear ? alpha : QString()));
+    add(tr("RGB"),
+        u"rgb(%1, %2, %3%4)"_s.arg(color_.red()).arg(color_.green()).arg(color_.blue()).arg(share));
+    add(tr("HSL"), u"hsl(%1, %2, %3%4)"_s.arg(std::max(0, qRound(color_.hslHueF() * 360)))
+                       .arg(percent(color_.hslSaturationF()), percent(color_.lightnessF()), share));
+}
+
+void ClipPreview::add(const QString& name, const QString& value) {
+    if (!value.isEmpty()) {
+        names_.append(name);
+        values_.append(value.left(longestValue));
+    }
+}
+
+/// On a thread of its own: the decoder blocks.
+void ClipPreview::lookAtPicture() {
+    const QByteArray path = QFile::encodeName(store_.imagePath(clip_.imageFileName));
+    work_.run([decoder = decoder_, path, id = clip_.id, self = QPointer(this)] {
+        const QSize size = decoder->look(PictureFile{path}).size;
+        QMetaObject::invokeMethod(qApp, [self, id, size] {
+            if (self && self->clip_.id == id) {
+                self->pixels_ = size;
+                Q_EMIT self->pixelsChanged();
+            }
+        });
+    });
+}
+
+QString ClipPreview::measure() const {
+    if (kind_ == Image) {
+        return pixels_.isEmpty() ? QString()
+                                 : tr("%1 \u00d7 %2").arg(pixels_.width()).arg(pixels_.height());
+    }
+    const auto count = [this](qsizetype number) {
+        return locale_.toString(qint64(number));
+    };
+    const qsizetype lines = clip_.text.count(u'\n') + (clip_.text.endsWith(u'\n') ? 0 : 1);
+    const QString characters = clip_.text.size() == 1
+                                   ? tr("1 character")
+                                   : tr("%1 characters").arg(count(clip_.text.size()));
+    return lines == 1 ? characters : tr("%1 lines, %2").arg(count(lines), characters);
+}
+
+QString ClipPreview::forms() const {
+    switch (kind_) {
+    case Image: {
+        const qint64 bytes = QFileInfo(store_.imagePath(clip_.imageFileName)).size();
+        return tr("PNG, %1").arg(locale_.formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat));
+    }
+    case Link:
+        return tr("Link");
+    case None:
+        return {};
+    case Text:
+    case Color:
+        break;
+    }
+    return tr("Text");
+}
+
+} // namespace ravelo

@@ -1,0 +1,77 @@
+import QtQuick
+import Ravelo.Clips
+
+/// Decides when the preview is shown, and of which row.
+QtObject {
+    id: control
+
+    required property Clips clips
+    required property ListView list
+    required property PreviewBubble bubble
+    /// Row whose tile is under the pointer; -1 if none.
+    property int pointed: -1
+    property int row: -1
+    property bool byPointer: false
+
+    readonly property bool opened: bubble.opened
+    readonly property bool left: pointed !== row && !bubble.hovered && !bubble.focused
+
+    function open(wanted: int) {
+        const item = list.itemAtIndex(wanted) as ClipRow;
+        if (!item || wanted === clips.list.tooLargeRow) {
+            close();
+            return;
+        }
+        row = wanted;
+        clips.showPreview(wanted);
+        bubble.centre = bubble.parent.mapFromItem(item, 0, item.height / 2).y;
+        bubble.origin = item.subtitle;
+        bubble.opened = true;
+    }
+
+    function openCurrent() {
+        byPointer = false;
+        open(list.currentIndex);
+    }
+
+    function close() {
+        bubble.opened = false;
+        row = -1;
+    }
+
+    /// The pointer came to a tile, or left it.
+    function point(at: int, hovers: bool) {
+        if (hovers) {
+            pointed = at;
+        } else if (pointed === at) {
+            pointed = -1;
+        }
+    }
+
+    /// Another row is current.
+    function follow() {
+        if (opened && !byPointer) {
+            openCurrent();
+        }
+    }
+
+    onPointedChanged: resting.running = pointed >= 0 && pointed !== row
+    onLeftChanged: leaving.running = opened && byPointer && left
+
+    property Timer resting: Timer {
+        interval: 400
+        onTriggered: {
+            control.byPointer = true;
+            control.open(control.pointed);
+        }
+    }
+
+    property Timer leaving: Timer {
+        interval: 150
+        onTriggered: {
+            if (control.left) {
+                control.close();
+            }
+        }
+    }
+}

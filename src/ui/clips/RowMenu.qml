@@ -1,0 +1,49 @@
+import QtQuick
+import Ravelo.Clips
+import Ravelo.Controls
+
+/// What can be done with a clip, or with all chosen ones.
+Menu {
+    id: menu
+
+    required property ClipboardTab tab
+    required property ListView list
+    required property PreviewControl preview
+
+    readonly property Clips clips: tab.clips
+    readonly property ClipRow row: list.currentItem as ClipRow
+
+    /// By a key: below the row's text.
+    function openFor(wanted: int) {
+        const item = list.itemAtIndex(wanted);
+        if (item) {
+            openAtRow(wanted, item.mapToItem(parent, 46, item.height));
+        }
+    }
+
+    function openAtRow(wanted: int, place: point) {
+        list.currentIndex = wanted;
+        if (wanted !== clips.list.tooLargeRow) {
+            preview.close();
+            openAt(place, false, false);
+        }
+    }
+
+    name: qsTr("Clip")
+    minWidth: 248
+    entries: clips.selected > 1 ? [
+        { text: qsTr("Copy %1").arg(clips.selected), hint: qsTr("Return"), chosen: () => clips.copySelected() },
+        { divider: true },
+        { text: qsTr("Delete %1").arg(clips.selected), hint: qsTr("Delete"), chosen: () => clips.removeSelected() }
+    ] : [
+        { text: qsTr("Copy"), hint: qsTr("Return"), chosen: () => tab.copyAndClose(list.currentIndex) },
+        { divider: true },
+        { text: qsTr("Preview"), hint: qsTr("Space"), chosen: () => preview.openCurrent() }
+    ].concat(row?.icon === "link" ? [
+        { text: qsTr("Open"), hint: qsTr("Ctrl+Return"), chosen: () => clips.openLink(list.currentIndex) }
+    ] : []).concat([
+        { divider: true },
+        { text: row?.pinned ? qsTr("Unpin") : qsTr("Pin"), hint: qsTr("Ctrl+P"), chosen: () => clips.togglePin(list.currentIndex) },
+        { text: qsTr("Delete"), hint: qsTr("Delete"), chosen: () => clips.remove(list.currentIndex) }
+    ])
+}
