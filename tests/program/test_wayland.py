@@ -10,8 +10,8 @@ import sys
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
-from desktop import wait_for  # noqa: E402
-from sway import HERE, WIDTH, SwayDesktop, WaylandRavelo  # noqa: E402
+from desktop import HERE, wait_for  # noqa: E402
+from wayland import WIDTH, SwayDesktop, WaylandRavelo  # noqa: E402
 
 FIRST_ROW, ROW = (WIDTH // 2 - 200, 300), 40
 
