@@ -108,7 +108,7 @@ class Picture:
     def __init__(self, ppm):
         self._ppm = ppm
         header, self._pixels = ppm.split(b"\n255\n", 1)
-        self.width, self.height = map(int, header.split()[1:3])
+        self.width = int(header.split()[1])
 
     def __eq__(self, other):
         return self._ppm == other._ppm
@@ -118,11 +118,11 @@ class Picture:
         start = 3 * (y * self.width + x)
         return tuple(self._pixels[start:start + 3])
 
-    def box(self, other):
-        """Left, top, right and bottom of the part that differs from a picture of the same size;
-        None if they are the same."""
+    def box(self, other, bottom):
+        """Left, top, right and bottom of the part above `bottom` that differs from a picture of the
+        same size; None if nothing does."""
         line, found = 3 * self.width, []
-        for y in range(self.height):
+        for y in range(bottom):
             here, there = (picture._pixels[y * line:(y + 1) * line] for picture in (self, other))
             if here != there:  # As numbers: a loop over the pixels would take seconds.
                 bits = int.from_bytes(here, "big") ^ int.from_bytes(there, "big")

@@ -12,12 +12,6 @@ class _Attributes(ctypes.Structure):
         ("rest", ctypes.c_char * 256)]
 
 
-class _Message(ctypes.Structure):
-    _fields_ = [("type", ctypes.c_int), ("serial", ctypes.c_ulong), ("sent", ctypes.c_int),
-                ("display", ctypes.c_void_p), ("window", ctypes.c_ulong),
-                ("kind", ctypes.c_ulong), ("format", ctypes.c_int), ("data", ctypes.c_long * 20)]
-
-
 class Hand:
     def __init__(self, display):
         self._x = ctypes.CDLL(ctypes.util.find_library("X11"))
@@ -54,13 +48,3 @@ class Hand:
         """The window that owns a selection; 0 if none does."""
         atom = self._x.XInternAtom(self._display, name.encode(), 0)
         return self._x.XGetSelectionOwner(self._display, ctypes.c_ulong(atom))
-
-    def quit(self, window):
-        """Asks the program of a window to close it, like a window manager."""
-        protocols, delete = (self._x.XInternAtom(self._display, name, 0)
-                             for name in (b"WM_PROTOCOLS", b"WM_DELETE_WINDOW"))
-        message = _Message(33, window=int(window), kind=protocols, format=32)  # ClientMessage.
-        message.data[0] = delete
-        self._x.XSendEvent(self._display, ctypes.c_ulong(int(window)), 0, ctypes.c_long(0),
-                           ctypes.byref(message))
-        self._sync()
