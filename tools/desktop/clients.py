@@ -55,8 +55,8 @@ class PythonClient(Client):
 
     def __init__(self, desktop):
         super().__init__(desktop)
-        self.process = desktop.peer("/usr/bin/python3", HERE / self.script, COLOR,
-                                    stdin=subprocess.PIPE)
+        self.process = desktop.peer("env", "GTK_A11Y=none", "/usr/bin/python3", HERE / self.script,
+                                    COLOR, stdin=subprocess.PIPE)
 
     def _ask(self, request):
         self.focus()

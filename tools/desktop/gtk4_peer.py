@@ -7,10 +7,12 @@ gtk4_peer.py COLOR
 import base64
 import json
 import sys
+import tempfile
 import threading
 
 import gi
 
+gi.require_version("Gdk", "4.0")
 gi.require_version("Gtk", "4.0")
 from gi.repository import Gdk, Gio, GLib, Gtk  # noqa: E402
 
@@ -41,10 +43,17 @@ def paste(clipboard, kind):
     clipboard.read_async([kind], 0, None, opened)
 
 
+def paint_file():
+    """Its methods for texts differ between releases."""
+    with tempfile.NamedTemporaryFile("w", suffix=".css", delete=False) as file:
+        file.write(f"window {{ background: {sys.argv[1]}; }}")
+    return Gio.File.new_for_path(file.name)
+
+
 def activate(application):
     window = Gtk.ApplicationWindow(application=application)
     style = Gtk.CssProvider()
-    style.load_from_data(f"window {{ background: {sys.argv[1]}; }}", -1)
+    style.load_from_file(paint_file())
     Gtk.StyleContext.add_provider_for_display(window.get_display(), style, 800)
     window.fullscreen()
     window.present()

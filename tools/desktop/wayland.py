@@ -335,6 +335,9 @@ class WaylandRavelo(Ravelo):
         picture, x = self.desktop.picture(), monitor.x + WIDTH // 2
         return [picture.at(x + at[0], at[1]) != BACKGROUND for at in places]
 
+    def is_covered(self, x, y):
+        return self.desktop.picture().at(x, y) != BACKGROUND
+
     def is_collapsed(self, monitor=LEFT):
         return self._covers(monitor, (0, 3), (0, 200)) == [True, False]
 

@@ -294,6 +294,7 @@ def dragged_file(on):
         on.expect_panel_seen([BAR, BLUE, WALLPAPER], "the panel, opened by a dragged file")
         yield source
     finally:
+        on.desktop.release()  # Sway 1.7 crashes if the source of a drag ends.
         source.kill()
         source.wait()
 
@@ -330,10 +331,13 @@ def two_monitors(on):
             on.desktop.move(monitor.x + AWAY[0], AWAY[1])
             on.expect_color((monitor.x + 300, 300), WALLPAPER, f"closed on the {where}")
             on.expect_handle_seen([BAR], f"the handle on the {where}", monitor)
+        on.desktop.move(WIDTH + MIDDLE, 2)
+        on.expect_panel_seen([BAR, WALLPAPER], "the panel on the right", RIGHT)
         try:
             on.desktop.remove_output()
         except NotImplementedError:
             return
+        on.desktop.move(*AWAY)
         on.expect_at(HANDLE, "after the second monitor went")
     finally:
         for layer in layers:
