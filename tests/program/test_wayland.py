@@ -7,11 +7,12 @@ import os
 import pathlib
 import signal
 import sys
+import time
 import unittest
 
 sys.path.insert(0, str(pathlib.Path(__file__).resolve().parents[2] / "tools/desktop"))
-from desktop import wait_for  # noqa: E402
-from sway import HERE, WIDTH, SwayDesktop, WaylandRavelo  # noqa: E402
+from desktop import HERE, wait_for  # noqa: E402
+from wayland import BACKGROUND, WIDTH, SwayDesktop, WaylandRavelo  # noqa: E402
 
 FIRST_ROW, ROW = (WIDTH // 2 - 200, 300), 40
 
@@ -103,6 +104,45 @@ class WaylandPanel(WaylandCase):
         self.desktop.release()
         self.assertEqual(source.stdout.readline(), "end\n")
         wait_for(lambda: self.ravelo.call("shelf", "list") == (0, f"{file}\n"), "the parked file")
+
+    def test_nothing_is_shown_over_a_locker(self):
+        self.desktop.spawn("swaylock", "--color", "204060", "--no-unlock-indicator")
+        color = (0x20, 0x40, 0x60)
+        # Sway 1.7 draws the locker below what was there before.
+        handle = (range(WIDTH // 2 - 100, WIDTH // 2 + 100), range(12))
+
+        def strange():
+            """The places at the top that do not have the locker's colour."""
+            picture = self.desktop.picture()
+            return [(x, y) for y in range(0, 600, 3) for x in range(0, WIDTH, 3)
+                    if picture.at(x, y) != color and not (x in handle[0] and y in handle[1])]
+
+        wait_for(lambda: not strange(), lambda: f"the locker all over, not {strange()[:3]}")
+        file = self.desktop.home / "parked.txt"
+        file.write_text("x")
+        for deed in (lambda: self.desktop.move(WIDTH // 2, 5),
+                     lambda: self.ravelo.call("--toggle"), lambda: self.ravelo.call(file),
+                     lambda: self.ravelo.call("timer", "start", "25")):
+            deed()
+            end = time.monotonic() + 1
+            while time.monotonic() < end:
+                self.assertEqual(strange()[:3], [], "something shows above the locker")
+
+    def test_keeps_its_place_at_any_scale(self):
+        for scale in (1.25, 1.5, 2):
+            self.desktop.sway("output", "HEADLESS-1", "scale", scale)
+            width, height = round(200 * scale), round(12 * scale)
+            left = (WIDTH - width) // 2
+            places = {(left + 12, 1): False, (left + width - 13, 1): False, (left - 2, 1): True,
+                      (left + width + 1, 1): True, (WIDTH // 2, height - 2): False,
+                      (WIDTH // 2, height + 1): True}
+
+            def seen():
+                picture = self.desktop.picture()
+                return {at: picture.at(*at) == BACKGROUND for at in places}
+
+            wait_for(lambda: seen() == places,
+                     lambda: f"the handle, {width} x {height}, at scale {scale}: {places}, not {seen()}")
 
     def test_ends_in_order(self):
         self.assertEqual(self.ravelo.call("--toggle"), (0, ""))

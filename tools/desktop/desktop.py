@@ -108,15 +108,31 @@ class Picture:
     def __init__(self, ppm):
         self._ppm = ppm
         header, self._pixels = ppm.split(b"\n255\n", 1)
-        self._width = int(header.split()[1])
+        self.width = int(header.split()[1])
 
     def __eq__(self, other):
         return self._ppm == other._ppm
 
     def at(self, x, y):
         """The red, green and blue of a pixel."""
-        start = 3 * (y * self._width + x)
+        start = 3 * (y * self.width + x)
         return tuple(self._pixels[start:start + 3])
+
+    def box(self, other, bottom):
+        """Left, top, right and bottom of the part above `bottom` that differs from a picture of the
+        same size; None if nothing does."""
+        line, found = 3 * self.width, []
+        for y in range(bottom):
+            here, there = (picture._pixels[y * line:(y + 1) * line] for picture in (self, other))
+            if here != there:  # As numbers: a loop over the pixels would take seconds.
+                bits = int.from_bytes(here, "big") ^ int.from_bytes(there, "big")
+                first = (8 * line - bits.bit_length()) // 24
+                last = (8 * line - (bits & -bits).bit_length()) // 24
+                found.append((first, y, last))
+        if not found:
+            return None
+        return (min(row[0] for row in found), found[0][1], max(row[2] for row in found) + 1,
+                found[-1][1] + 1)
 
     def save(self, path):
         subprocess.run(["convert", "ppm:-", path], input=self._ppm, check=True)

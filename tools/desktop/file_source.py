@@ -1,5 +1,7 @@
 """A borderless GTK window at the left, 200 x 200, that is a drag source for the given files.
 
+file_source.py [--color COLOR] FILE ...
+
 Prints "ready" when mapped, and "begin" and "end" for each drag. Each drag offers the next file.
 """
 
@@ -12,9 +14,15 @@ gi.require_version("Gdk", "3.0")
 gi.require_version("Gtk", "3.0")
 from gi.repository import Gdk, Gtk  # noqa: E402
 
-files = itertools.cycle(sys.argv[1:])
+from gtk_peer import paint  # noqa: E402
+
+arguments = sys.argv[1:]
+color = arguments[1] if arguments[0] == "--color" else None
+files = itertools.cycle(arguments[2:] if color else arguments)
 window = Gtk.Window(title="Files", default_width=200, default_height=200, decorated=False)
 window.move(20, 640)
+if color:
+    paint(window, color)
 window.drag_source_set(Gdk.ModifierType.BUTTON1_MASK, [Gtk.TargetEntry.new("text/uri-list", 0, 0)],
                        Gdk.DragAction.COPY)
 window.connect("drag-data-get", lambda _w, _c, data, *_: data.set_uris([f"file://{next(files)}"]))

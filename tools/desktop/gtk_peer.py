@@ -3,7 +3,7 @@
 gtk_peer.py text TEXT      owns the clipboard with a text
 gtk_peer.py image COLOR    owns the clipboard with an image of one colour, 64 x 48
 gtk_peer.py leave text TEXT  copies and exits at once, like gnome-screenshot; also with image
-gtk_peer.py window         a focused window with a text field; prints its text at each change
+gtk_peer.py window [COLOR] a focused window with a text field; prints its text at each change
 gtk_peer.py fullscreen COLOR LEFT WIDTH HEIGHT  the same, full-screen on a monitor
 gtk_peer.py bar COLOR WIDTH HEIGHT  a dock at the top left that reserves its height
 gtk_peer.py source TEXT    a window with a selected text to drag; its title becomes "dragged"
@@ -66,8 +66,11 @@ def show_field(window):
     window.show_all()
 
 
-def show_window():
-    show_field(make_window(80, 640, 400, 200))
+def show_window(color=None):
+    window = make_window(80, 640, 400, 200)
+    if color:
+        paint(window, color)
+    show_field(window)
 
 
 def show_fullscreen(color, left, width, height):
@@ -115,11 +118,18 @@ def show_target():
 
 SHOWN = {"window": show_window, "fullscreen": show_fullscreen, "bar": show_bar,
          "source": show_source, "target": show_target}
-if sys.argv[1] in SHOWN:
-    SHOWN[sys.argv[1]](*sys.argv[2:])
-elif sys.argv[1] == "leave":
-    own(*sys.argv[2:]).store()
-    sys.exit()
-else:
-    own(*sys.argv[1:])
-Gtk.main()
+
+
+def main(what, *arguments):
+    if what in SHOWN:
+        SHOWN[what](*arguments)
+    elif what == "leave":
+        own(*arguments).store()
+        return
+    else:
+        clipboard = own(what, *arguments)  # noqa: F841: it must live on.
+    Gtk.main()
+
+
+if __name__ == "__main__":
+    main(*sys.argv[1:])

@@ -1,4 +1,4 @@
-// A pointer and a keyboard for a wlroots compositor, driven by lines on standard input:
+// A pointer and a keyboard for a wlroots compositor or KWin, driven by lines on standard input:
 //
 //   move X Y WIDTH HEIGHT   to a place in the layout of all outputs, which is that large
 //   press, release          the left button
@@ -12,9 +12,11 @@
 #include <cstring>
 #include <ctime>
 #include <iostream>
+#include <memory>
 #include <sstream>
 #include <string>
 
+#include <fake-input-client.h>
 #include <linux/input-event-codes.h>
 #include <sys/mman.h>
 #include <unistd.h>
@@ -24,36 +26,24 @@
 
 namespace {
 
-constexpr char keymap[] = "xkb_keymap {"
-                          " xkb_keycodes { include \"evdev+aliases(qwerty)\" };"
-                          " xkb_types { include \"complete\" };"
-                          " xkb_compat { include \"complete\" };"
-                          " xkb_symbols { include \"pc+us\" };"
-                          " };";
+struct Place {
+    uint32_t x, y, width, height;
+};
 
-struct Hand {
+class Hand {
+public:
+    virtual ~Hand() = default;
+    virtual void move(Place place) = 0;
+    virtual void button(uint32_t state) = 0;
+    virtual void key(uint32_t code, uint32_t modifiers) = 0;
+};
+
+struct Globals {
     wl_seat* seat = nullptr;
     zwlr_virtual_pointer_manager_v1* pointers = nullptr;
     zwp_virtual_keyboard_manager_v1* keyboards = nullptr;
-    zwlr_virtual_pointer_v1* pointer = nullptr;
-    zwp_virtual_keyboard_v1* keyboard = nullptr;
+    org_kde_kwin_fake_input* fake = nullptr;
 };
-
-template <typename Object>
-void bindIf(Object*& object, wl_registry* registry, uint32_t name, const char* found,
-            const wl_interface& interface) {
-    if (std::strcmp(found, interface.name) == 0) {
-        object = static_cast<Object*>(wl_registry_bind(registry, name, &interface, 1));
-    }
-}
-
-void bindGlobal(void* data, wl_registry* registry, uint32_t name, const char* interface,
-                uint32_t /*version*/) {
-    Hand& hand = *static_cast<Hand*>(data);
-    bindIf(hand.seat, registry, name, interface, wl_seat_interface);
-    bindIf(hand.pointers, registry, name, interface, zwlr_virtual_pointer_manager_v1_interface);
-    bindIf(hand.keyboards, registry, name, interface, zwp_virtual_keyboard_manager_v1_interface);
-}
 
 uint32_t now() {
     timespec time{};
@@ -61,41 +51,131 @@ uint32_t now() {
     return static_cast<uint32_t>(time.tv_sec * 1000 + time.tv_nsec / 1000000);
 }
 
-void setKeymap(zwp_virtual_keyboard_v1* keyboard) {
-    const int file = memfd_create("keymap", MFD_CLOEXEC);
-    if (write(file, keymap, sizeof keymap) == sizeof keymap) {
-        zwp_virtual_keyboard_v1_keymap(keyboard, WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1, file,
-                                       sizeof keymap);
+/// By protocols of wlroots.
+class VirtualDevices final : public Hand {
+public:
+    explicit VirtualDevices(const Globals& globals)
+        : pointer_(zwlr_virtual_pointer_manager_v1_create_virtual_pointer(globals.pointers,
+                                                                          globals.seat)),
+          keyboard_(zwp_virtual_keyboard_manager_v1_create_virtual_keyboard(globals.keyboards,
+                                                                            globals.seat)) {
+        const int file = memfd_create("keymap", MFD_CLOEXEC);
+        if (write(file, keymap, sizeof keymap) == sizeof keymap) {
+            zwp_virtual_keyboard_v1_keymap(keyboard_, WL_KEYBOARD_KEYMAP_FORMAT_XKB_V1, file,
+                                           sizeof keymap);
+        }
+        close(file);
     }
-    close(file);
+
+    void move(Place place) override {
+        zwlr_virtual_pointer_v1_motion_absolute(pointer_, now(), place.x, place.y, place.width,
+                                                place.height);
+        zwlr_virtual_pointer_v1_frame(pointer_);
+    }
+
+    void button(uint32_t state) override {
+        zwlr_virtual_pointer_v1_button(pointer_, now(), BTN_LEFT, state);
+        zwlr_virtual_pointer_v1_frame(pointer_);
+    }
+
+    void key(uint32_t code, uint32_t modifiers) override {
+        zwp_virtual_keyboard_v1_modifiers(keyboard_, modifiers, 0, 0, 0);
+        zwp_virtual_keyboard_v1_key(keyboard_, now(), code, 1);
+        zwp_virtual_keyboard_v1_key(keyboard_, now(), code, 0);
+        zwp_virtual_keyboard_v1_modifiers(keyboard_, 0, 0, 0, 0);
+    }
+
+private:
+    static constexpr char keymap[] = "xkb_keymap {"
+                                     " xkb_keycodes { include \"evdev+aliases(qwerty)\" };"
+                                     " xkb_types { include \"complete\" };"
+                                     " xkb_compat { include \"complete\" };"
+                                     " xkb_symbols { include \"pc+us\" };"
+                                     " };";
+
+    zwlr_virtual_pointer_v1* pointer_;
+    zwp_virtual_keyboard_v1* keyboard_;
+};
+
+/// By KWin's protocol.
+class FakeInput final : public Hand {
+public:
+    explicit FakeInput(org_kde_kwin_fake_input* fake) : fake_(fake) {
+        org_kde_kwin_fake_input_authenticate(fake_, "virtual_hand", "test");
+    }
+
+    void move(Place place) override {
+        org_kde_kwin_fake_input_pointer_motion_absolute(
+            fake_, wl_fixed_from_int(static_cast<int>(place.x)),
+            wl_fixed_from_int(static_cast<int>(place.y)));
+    }
+
+    void button(uint32_t state) override { org_kde_kwin_fake_input_button(fake_, BTN_LEFT, state); }
+
+    void key(uint32_t code, uint32_t modifiers) override {
+        const auto hold = [&](uint32_t state) {
+            if ((modifiers & 1) != 0) {
+                org_kde_kwin_fake_input_keyboard_key(fake_, KEY_LEFTSHIFT, state);
+            }
+            if ((modifiers & 4) != 0) {
+                org_kde_kwin_fake_input_keyboard_key(fake_, KEY_LEFTCTRL, state);
+            }
+        };
+        hold(1);
+        org_kde_kwin_fake_input_keyboard_key(fake_, code, 1);
+        org_kde_kwin_fake_input_keyboard_key(fake_, code, 0);
+        hold(0);
+    }
+
+private:
+    org_kde_kwin_fake_input* fake_;
+};
+
+template <typename Object>
+void bindIf(Object*& object, wl_registry* registry, uint32_t name, const char* found,
+            const wl_interface& interface, uint32_t version) {
+    if (std::strcmp(found, interface.name) == 0) {
+        object = static_cast<Object*>(wl_registry_bind(registry, name, &interface, version));
+    }
 }
 
-void press(const Hand& hand, bool down) {
-    zwlr_virtual_pointer_v1_button(hand.pointer, now(), BTN_LEFT, down ? 1 : 0);
-    zwlr_virtual_pointer_v1_frame(hand.pointer);
+void bindGlobal(void* data, wl_registry* registry, uint32_t name, const char* found,
+                uint32_t version) {
+    Globals& globals = *static_cast<Globals*>(data);
+    bindIf(globals.seat, registry, name, found, wl_seat_interface, 1);
+    bindIf(globals.pointers, registry, name, found, zwlr_virtual_pointer_manager_v1_interface, 1);
+    bindIf(globals.keyboards, registry, name, found, zwp_virtual_keyboard_manager_v1_interface, 1);
+    bindIf(globals.fake, registry, name, found, org_kde_kwin_fake_input_interface,
+           std::min(version, 4U));
 }
 
-void strike(const Hand& hand, uint32_t key, uint32_t modifiers) {
-    zwp_virtual_keyboard_v1_modifiers(hand.keyboard, modifiers, 0, 0, 0);
-    zwp_virtual_keyboard_v1_key(hand.keyboard, now(), key, 1);
-    zwp_virtual_keyboard_v1_key(hand.keyboard, now(), key, 0);
-    zwp_virtual_keyboard_v1_modifiers(hand.keyboard, 0, 0, 0, 0);
+std::unique_ptr<Hand> makeHand(wl_display* display) {
+    Globals globals;
+    const wl_registry_listener listener = {bindGlobal, [](void*, wl_registry*, uint32_t) {
+                                           }};
+    wl_registry_add_listener(wl_display_get_registry(display), &listener, &globals);
+    wl_display_roundtrip(display);
+    if (globals.fake != nullptr) {
+        return std::make_unique<FakeInput>(globals.fake);
+    }
+    if (globals.seat != nullptr && globals.pointers != nullptr && globals.keyboards != nullptr) {
+        return std::make_unique<VirtualDevices>(globals);
+    }
+    return nullptr;
 }
 
-void obey(const Hand& hand, const std::string& line) {
+void obey(Hand& hand, const std::string& line) {
     std::istringstream words(line);
     std::string verb;
     uint32_t numbers[4] = {};
     words >> verb;
     std::ranges::for_each(numbers, [&](uint32_t& number) { words >> number; });
     if (verb == "move") {
-        zwlr_virtual_pointer_v1_motion_absolute(hand.pointer, now(), numbers[0], numbers[1],
-                                                numbers[2], numbers[3]);
-        zwlr_virtual_pointer_v1_frame(hand.pointer);
+        hand.move({numbers[0], numbers[1], numbers[2], numbers[3]});
     } else if (verb == "press" || verb == "release") {
-        press(hand, verb == "press");
+        hand.button(verb == "press" ? 1 : 0);
     } else if (verb == "key") {
-        strike(hand, numbers[0], numbers[1]);
+        hand.key(numbers[0], numbers[1]);
     }
 }
 
@@ -106,21 +186,13 @@ int main() {
     if (display == nullptr) {
         return 1;
     }
-    Hand hand;
-    const wl_registry_listener listener = {bindGlobal, [](void*, wl_registry*, uint32_t) {
-                                           }};
-    wl_registry_add_listener(wl_display_get_registry(display), &listener, &hand);
-    wl_display_roundtrip(display);
-    if (hand.seat == nullptr || hand.pointers == nullptr || hand.keyboards == nullptr) {
+    const std::unique_ptr<Hand> hand = makeHand(display);
+    if (!hand) {
         return 1;
     }
-    hand.pointer = zwlr_virtual_pointer_manager_v1_create_virtual_pointer(hand.pointers, hand.seat);
-    hand.keyboard =
-        zwp_virtual_keyboard_manager_v1_create_virtual_keyboard(hand.keyboards, hand.seat);
-    setKeymap(hand.keyboard);
     std::string line = "wait";
     do {
-        obey(hand, line);
+        obey(*hand, line);
         if (wl_display_roundtrip(display) < 0) {
             return 1;
         }

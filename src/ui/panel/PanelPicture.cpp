@@ -28,18 +28,20 @@ PanelPicture::PanelPicture(Services services) : services_(services) {
     connect(&state, &PanelState::contentSizeChanged, this, &PanelPicture::refreshSoon);
     connect(&state, &PanelState::backdropChanged, this, &PanelPicture::refreshSoon);
     connect(&state, &PanelState::darknessChanged, this, &PanelPicture::refreshSoon);
+    connect(&services_.window, &QWindow::visibleChanged, this, &PanelPicture::refreshSoon);
     refreshSoon();
 }
 
 void PanelPicture::refreshSoon() {
-    waiting_ = services_.controller.isOpen()
+    waiting_ = services_.controller.isOpen() || isUseless_
                    ? Handle()
                    : services_.scheduler.after(settling, [this] { make(); });
 }
 
 void PanelPicture::make() {
     auto* const content = services_.window.contentItem()->findChild<QQuickItem*>(u"content"_s);
-    if (services_.controller.isOpen() || !services_.state.hasContent() || content == nullptr) {
+    if (services_.controller.isOpen() || !services_.state.hasContent() || content == nullptr ||
+        !services_.window.isVisible()) { // Qt cannot draw then.
         return;
     }
     services_.rows.refreshDates();
@@ -52,8 +54,12 @@ void PanelPicture::make() {
     making_ = content->grabToImage(pixels);
     if (making_) {
         connect(making_.get(), &QQuickItemGrabResult::ready, this, [this] {
-            services_.state.setPictured(services_.panel.setFirstPicture(making_->image()));
+            isUseless_ = !services_.panel.setFirstPicture(making_->image());
+            services_.state.setPictured(!isUseless_);
             making_.reset();
+            if (isUseless_) {
+                waiting_.reset();
+            }
         });
     }
 }

@@ -17,7 +17,7 @@ class PanelWindow;
 class Scheduler;
 
 /// Keeps a picture of the closed panel's content with the panel's window, so that opening shows
-/// something before anything is rendered. Main thread.
+/// something before anything is rendered; not if the display server cannot show it. Main thread.
 class PanelPicture : public QObject {
     Q_OBJECT
 
@@ -42,6 +42,7 @@ private:
     void make();
 
     Services services_;
+    bool isUseless_ = false; ///< The window cannot show it.
     Handle waiting_;
     QSharedPointer<QQuickItemGrabResult> making_;
 };

@@ -1,4 +1,5 @@
 #include "panel_fixture/PanelFixture.h"
+#include "ui/panel/PanelPicture.h"
 
 namespace ravelo {
 
@@ -23,6 +24,42 @@ TEST_F(Panel, hasItsNextContentReadySoonAfterItCloses) {
     EXPECT_EQ(find(view.window().contentItem(), u"panel"_s)->size(), QSizeF(927, 560))
         << "hidden content must not need a new layout at the opening";
 }
+
+/// A panel's window that counts its first pictures.
+struct PicturedWindow : FakePanelWindow {
+    PicturedWindow(DragMonitor& drags, bool canShow) : FakePanelWindow(drags), canShow(canShow) {}
+
+    bool setFirstPicture(const QImage& /*picture*/) override {
+        ++pictures;
+        return canShow;
+    }
+
+    bool canShow;
+    int pictures = 0;
+};
+
+class PanelPictures : public Panel, public testing::WithParamInterface<bool> {};
+
+TEST_P(PanelPictures, areMadeWhileTheWindowIsVisibleAndCanShowThem) {
+    PicturedWindow window(world.drags, GetParam());
+    PanelPicture picture({view.window(), window, world.controller, view.features().state,
+                          *view.features().clips->list(), world.scheduler});
+    const auto pictures = [&](int expected) {
+        world.scheduler.advance(Seconds(0.31));
+        return eventually([&] { return window.pictures == expected; });
+    };
+    EXPECT_TRUE(pictures(1));
+    view.window().hide(); // Qt would complain about a picture now, and fail this test.
+    picture.refreshSoon();
+    world.scheduler.advance(Seconds(0.31));
+    view.window().show();
+    EXPECT_TRUE(pictures(GetParam() ? 2 : 1));
+    EXPECT_EQ(view.features().state.isPictured(), GetParam());
+    picture.refreshSoon();
+    EXPECT_TRUE(pictures(GetParam() ? 3 : 1));
+}
+
+INSTANTIATE_TEST_SUITE_P(OfWindows, PanelPictures, testing::Bool());
 
 TEST_F(Panel, opensAlsoBeforeItsContentIsBuilt) {
     open();

@@ -22,6 +22,8 @@ Result<std::unique_ptr<Surfaces>> Surfaces::create(ClipboardThread& thread) {
 Surfaces::Surfaces(std::unique_ptr<Globals> globals, LayerShell shell, ClipboardThread& thread)
     : globals_(std::move(globals)),
       shell_(std::move(shell)),
+      coverLockers_(globals_->has("zwlr_input_inhibit_manager_v1") &&
+                    !globals_->has("ext_session_lock_manager_v1")),
       pixel_(InvisiblePixel::create(*globals_)),
       blur_(*globals_),
       seat_(*globals_),

@@ -23,6 +23,10 @@ public:
 
     [[nodiscard]] DropTarget& drops() { return drops_; }
 
+    /// Lockers are surfaces in the overlay layer like ours, and above only those that came later: as
+    /// on sway before 1.8, which has no protocol for lockers (ext-session-lock).
+    [[nodiscard]] bool coverLockers() const { return coverLockers_; }
+
     /// See InvisibleSurface; null if the compositor cannot do it.
     [[nodiscard]] std::unique_ptr<InvisibleSurface> makeInvisible(QScreen* screen, QSize size);
 
@@ -31,6 +35,7 @@ private:
 
     std::unique_ptr<Globals> globals_;
     LayerShell shell_;
+    bool coverLockers_;
     std::unique_ptr<InvisiblePixel> pixel_; ///< Or null.
     BlurBehind blur_;
     InputSeat seat_;

@@ -69,7 +69,10 @@ void WaylandPanelWindow::place(const Screen& screen, QSizeF size) {
     size_ = size.toSize();
     const QSize surface(std::max(surfaceSize_.width(), evenWidth(size_.width())),
                         std::max(stripSize.height(), size_.height()));
-    if (std::exchange(surfaceSize_, surface) != surface && role_) {
+    const QSize before = std::exchange(surfaceSize_, surface);
+    if (surface.height() > before.height() && mayCoverLocker()) {
+        hide(); // A new surface lies below the locker.
+    } else if (surface != before && role_) {
         role_->resize(surface);
         commit();
     }
@@ -124,6 +127,11 @@ void WaylandPanelWindow::configure(QSize size) {
     applyOutline();
     window_.show();
     window_.requestUpdate(); // The compositor waits for a frame even if the size is the same.
+}
+
+/// Whoever has the pointer or the keyboard is not locked out.
+bool WaylandPanelWindow::mayCoverLocker() const {
+    return surfaces_.coverLockers() && !underPointer_ && !wantsKeyboard();
 }
 
 /// The output may be gone, or return.

@@ -70,6 +70,7 @@ private:
     void show();
     void hide();
     void configure(QSize size);
+    [[nodiscard]] bool mayCoverLocker() const;
     void showAgainSoon();
     void setKeyboard(Keyboard keyboard);
     void pressedOutside();

@@ -1,0 +1,349 @@
+"""A private Wayland desktop: a compositor without devices, a session bus and a home directory."""
+
+import contextlib
+import os
+import pathlib
+import pwd
+import re
+import shutil
+import subprocess
+import tempfile
+
+from gi.repository import Gio, GLib
+
+from desktop import HERE, Desktop, Monitor, Picture, Ravelo, _die_with_parent, wait_for
+WIDTH, HEIGHT = 1280, 800
+LEFT, RIGHT = (Monitor(None, x, 0, WIDTH, HEIGHT) for x in (0, WIDTH))
+SWAY_CONFIGURATION = f"""
+output HEADLESS-1 resolution {WIDTH}x{HEIGHT} position 0 0
+default_border none
+xwayland {{xwayland}}
+exec echo "$WAYLAND_DISPLAY $SWAYSOCK $DISPLAY" >&{{report}}
+"""
+LABWC_CONFIGURATION = """<labwc_config>
+  <desktops number="2"/>
+  <keyboard>
+    <keybind key="C-1"><action name="GoToDesktop" to="1"/></keybind>
+    <keybind key="C-2"><action name="GoToDesktop" to="2"/></keybind>
+  </keyboard>
+</labwc_config>
+"""
+KEYS = {"Escape": 1, "Return": 28, " ": 57} | {
+    key: first + place for row, first in (("1234567890", 2), ("qwertyuiop", 16), ("asdfghjkl", 30),
+                                          ("zxcvbnm", 44)) for place, key in enumerate(row)}
+CONTROL = 4
+BACKGROUND = (64, 160, 96)
+
+
+class WaylandDesktop(Desktop):
+    """Its programs speak Wayland only, unless `xwayland`. `hand` is tools/virtual_hand.
+
+    Subclasses start the compositor, as nobody if it would be root: sway refuses that.
+    """
+
+    outputs_at_start = 1
+
+    def __init__(self, hand, xwayland=False):
+        super().__init__(window_manager=None)
+        self.xwayland = xwayland
+        self.hand = None
+        self.outputs = 1  # Of the same size, side by side.
+        self._hand_program = hand
+        self._folder = pathlib.Path(tempfile.mkdtemp(prefix="ravelo-wayland-"))
+        self._cleanup.callback(shutil.rmtree, self._folder, ignore_errors=True)
+        del self.env["QT_QPA_PLATFORM"]
+
+    def _start_server(self):
+        self._start_compositor()
+        self.env["GDK_BACKEND"] = "wayland"
+        self.hand = self.peer(self._hand_program, stdin=subprocess.PIPE)
+
+    def _start_compositor(self):
+        raise NotImplementedError
+
+    def _spawn_wlroots(self, *command, **options):
+        nobody = pwd.getpwnam("nobody") if os.geteuid() == 0 else None
+        if nobody:
+            for path in (self._folder, *self._folder.rglob("*")):
+                os.chown(path, nobody.pw_uid, nobody.pw_gid)
+        env = {**self.env, "HOME": str(self._folder), "XDG_RUNTIME_DIR": str(self._folder),
+               "XDG_CONFIG_HOME": str(self._folder), "WLR_BACKENDS": "headless",
+               "WLR_LIBINPUT_NO_DEVICES": "1", "WLR_RENDERER": "pixman",
+               "WLR_HEADLESS_OUTPUTS": str(self.outputs_at_start)}
+
+        def become():
+            if nobody:
+                os.setgroups([])
+                os.setgid(nobody.pw_gid)
+                os.setuid(nobody.pw_uid)
+            _die_with_parent()
+
+        self.server = self.spawn(*command, env=env, cwd=self._folder, preexec_fn=become,
+                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL, **options)
+
+    def _take_sockets(self, line):
+        sockets = line.split()
+        assert sockets, f"{type(self).__name__}: the compositor did not start"
+        self.env["WAYLAND_DISPLAY"] = str(self._folder / sockets[0])
+        if self.xwayland:
+            self.env["DISPLAY"] = sockets[-1]
+
+    def peer(self, *command, **options):
+        process = self.spawn(*command, stdout=subprocess.PIPE, text=True, **options)
+        line = process.stdout.readline().strip()
+        assert line == "ready", f"{command[0]} said {line!r}"
+        return process
+
+    def show_background(self):
+        """A full-screen GTK window with a text field, which prints its text at each change."""
+        color = "#%02x%02x%02x" % BACKGROUND
+        window = self.gtk("fullscreen", color, 0, WIDTH, HEIGHT)
+        wait_for(lambda: self.picture().at(WIDTH // 2, HEIGHT // 2) == BACKGROUND, "a background")
+        return window
+
+    def layer(self, layer, color, height, output=0):
+        """A bar or a wallpaper."""
+        return self.peer("/usr/bin/python3", HERE / "layer_peer.py", layer, color, height, output)
+
+    # Outputs and workspaces.
+
+    def add_output(self):
+        """A second one, right of the first."""
+        raise NotImplementedError
+
+    def remove_output(self):
+        raise NotImplementedError
+
+    def _wait_for_outputs(self, count):
+        self.outputs = count
+        wait_for(lambda: self.picture().width == count * WIDTH, f"{count} outputs")
+
+    def show_workspace(self, number):
+        """0 or 1."""
+        raise NotImplementedError
+
+    # Clipboard.
+
+    def copy_text(self, text, target=None):
+        as_target = ["--type", target] if target else []
+        self.run("wl-copy", *as_target, "--", text)
+
+    def paste_text(self):
+        return self.run("timeout", "3", "wl-paste", "--no-newline")
+
+    # Screen, pointer and keyboard.
+
+    def picture(self):
+        done = subprocess.run(["grim", "-t", "ppm", "-"], env=self.env, stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, timeout=20, check=False)
+        return Picture(done.stdout)
+
+    def _tell(self, *words):
+        self.hand.stdin.write(" ".join(map(str, words)) + "\n")
+        self.hand.stdin.flush()
+        assert self.hand.stdout.readline() == "ready\n", "the compositor is gone"
+
+    def point(self, x, y):
+        """One motion."""
+        self._tell("move", x, y, WIDTH * self.outputs, HEIGHT)
+
+    def move(self, x, y):
+        self.point(x - 1, y)
+        self.point(x, y)
+
+    def click(self, x, y):
+        self.move(x, y)
+        self.press()
+        self.release()
+
+    def press(self):
+        self._tell("press")
+
+    def release(self):
+        self._tell("release")
+
+    def drag(self, start, to):
+        """Presses at `start`, moves, and does not release."""
+        self.move(*start)
+        self.press()
+        for step in range(1, 21):
+            self.point(start[0] + (to[0] - start[0]) * step // 20,
+                       start[1] + (to[1] - start[1]) * step // 20)
+
+    def key(self, name):
+        modifier = CONTROL if name.startswith("ctrl+") else 0
+        self._tell("key", KEYS[name.removeprefix("ctrl+")], modifier)
+
+    def type(self, text):
+        for letter in text:
+            self.key(letter)
+
+
+class SwayDesktop(WaylandDesktop):
+    def _start_compositor(self):
+        reading, writing = os.pipe()
+        configuration = self._folder / "config"
+        configuration.write_text(SWAY_CONFIGURATION.format(
+            report=writing, xwayland="force" if self.xwayland else "disable"))
+        self._spawn_wlroots("sway", "-c", configuration, pass_fds=(writing,))
+        os.close(writing)
+        with os.fdopen(reading) as answer:
+            line = answer.readline()
+        self._take_sockets(line)
+        self.env["SWAYSOCK"] = line.split()[1]
+
+    def sway(self, *command):
+        return self.run("swaymsg", "--raw", *command)
+
+    def add_output(self):
+        self.sway("create_output")
+        self.sway("output", self._newest(), "resolution", f"{WIDTH}x{HEIGHT}", "position", WIDTH, 0)
+        self._wait_for_outputs(2)
+
+    def remove_output(self):
+        """Sway 1.7 cannot, nor can it disable one of its headless backend."""
+        if "true" not in self.sway("output", self._newest(), "unplug"):
+            raise NotImplementedError
+        self._wait_for_outputs(1)
+
+    def _newest(self):
+        """The name of the newest output: sway counts on."""
+        return max(re.findall(r"HEADLESS-\d+", self.sway("-t", "get_outputs")),
+                   key=lambda name: int(name.split("-")[1]))
+
+    def show_workspace(self, number):
+        self.sway("workspace", f"test-{number}" if number else "1")
+
+
+class LabwcDesktop(WaylandDesktop):
+    """Its second output exists from the start and is off."""
+
+    outputs_at_start = 2
+
+    def _start_compositor(self):
+        folder = self._folder / "labwc"
+        folder.mkdir()
+        (folder / "rc.xml").write_text(LABWC_CONFIGURATION)
+        report = self._folder / "report"
+        self._spawn_wlroots("labwc", "-C", folder, "-s",
+                            f"sh -c 'echo $WAYLAND_DISPLAY $DISPLAY >{report}.new; mv {report}.new {report}'")
+        wait_for(report.exists, "labwc")
+        self._take_sockets(report.read_text())
+        self.run("wlr-randr", "--output", "HEADLESS-2", "--off")
+        self.run("wlr-randr", "--output", "HEADLESS-1", "--custom-mode", f"{WIDTH}x{HEIGHT}")
+
+    def add_output(self):
+        self.run("wlr-randr", "--output", "HEADLESS-2", "--on", "--custom-mode",
+                 f"{WIDTH}x{HEIGHT}", "--pos", f"{WIDTH},0")
+        self._wait_for_outputs(2)
+
+    def remove_output(self):
+        self.run("wlr-randr", "--output", "HEADLESS-2", "--off")
+        self._wait_for_outputs(1)
+
+    def show_workspace(self, number):
+        self.key(f"ctrl+{number + 1}")
+
+
+class KWinDesktop(WaylandDesktop):
+    """Its second output exists from the start and is off."""
+
+    def __init__(self, hand, xwayland=False):
+        super().__init__(hand, xwayland)
+        self._bus = None
+
+    def _start_compositor(self):
+        super()._start_bus()  # It offers screenshots on it.
+        # Its file capabilities can fail in a container, and a copy has none.
+        program = shutil.copy(shutil.which("kwin_wayland"), self._folder)
+        applications = self.home / "data/applications"
+        applications.mkdir(parents=True)
+        (applications / "pictures.desktop").write_text(
+            "[Desktop Entry]\nType=Application\nName=Pictures\n"
+            f"Exec={os.path.realpath('/proc/self/exe')}\n"
+            "X-KDE-DBUS-Restricted-Interfaces=org.kde.KWin.ScreenShot2\n")
+        env = {**self.env, "XDG_RUNTIME_DIR": str(self._folder), "KWIN_COMPOSE": "O2",
+               "LIBGL_ALWAYS_SOFTWARE": "1", "KWIN_WAYLAND_NO_PERMISSION_CHECKS": "1",
+               "KWIN_SCREENSHOT_NO_PERMISSION_CHECKS": "1"}
+        command = [program, "--virtual", "--width", WIDTH, "--height", HEIGHT, "--output-count", 2,
+                   "--no-lockscreen", "--no-global-shortcuts", "--socket", "wayland-k"]
+        self.server = self.spawn(*command, *(["--xwayland"] if self.xwayland else []), env=env,
+                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self._take_sockets("wayland-k")
+        self.env["XDG_CURRENT_DESKTOP"] = "KDE"
+        self._bus = self.bus()
+        wait_for(lambda: "CaptureWorkspace" in self.run(
+            "gdbus", "introspect", "--session", "--dest", "org.kde.KWin", "--object-path",
+            "/org/kde/KWin/ScreenShot2"), "KWin")
+        self._doctor("disable")
+        self._wait_for_outputs(1)
+
+    def _start_bus(self):
+        pass
+
+    def _doctor(self, verb):
+        self.run("env", "QT_QPA_PLATFORM=wayland", "kscreen-doctor", f"output.2.{verb}")
+
+    def add_output(self):
+        self._doctor("enable")
+        self._wait_for_outputs(2)
+
+    def remove_output(self):
+        self._doctor("disable")
+        self._wait_for_outputs(1)
+
+    def show_workspace(self, number):
+        self.run("gdbus", "call", "--session", "--dest", "org.kde.KWin", "--object-path", "/KWin",
+                 "--method", "org.kde.KWin.setCurrentDesktop", number + 1)
+
+    def picture(self):
+        """Not always at once: the effect that takes pictures is loaded anew when outputs change."""
+        def attempt():
+            with contextlib.suppress(GLib.Error):
+                return kwin_picture(self._bus)
+
+        return wait_for(attempt, "a picture by KWin")
+
+
+def kwin_picture(bus):
+    """Of all outputs, without the pointer."""
+    reading, writing = os.pipe()
+    descriptors = Gio.UnixFDList.new()
+    descriptors.append(writing)
+    os.close(writing)
+    answer, _ = bus.call_with_unix_fd_list_sync(
+        "org.kde.KWin", "/org/kde/KWin/ScreenShot2", "org.kde.KWin.ScreenShot2", "CaptureWorkspace",
+        GLib.Variant("(a{sv}h)", ({}, 0)), None, Gio.DBusCallFlags.NONE, 20000, descriptors, None)
+    del descriptors  # Closes it.
+    with os.fdopen(reading, "rb") as file:
+        data = file.read()
+    about = answer.unpack()[0]
+    assert about["format"] in (4, 5, 6), f"an unknown format of pixels, {about['format']}"
+    pixels = bytearray(about["width"] * about["height"] * 3)
+    for to, source in enumerate((2, 1, 0)):  # Blue is first.
+        pixels[to::3] = data[source::4]
+    return Picture(b"P6\n%d %d\n255\n" % (about["width"], about["height"]) + bytes(pixels))
+
+
+class WaylandRavelo(Ravelo):
+    """The program over a background of one colour: its windows cannot be listed, only seen."""
+
+    def complaints(self):
+        return [line for line in super().complaints() if "Wayland connection broke" not in line]
+
+    def _covers(self, monitor, *places):
+        picture, x = self.desktop.picture(), monitor.x + WIDTH // 2
+        return [picture.at(x + at[0], at[1]) != BACKGROUND for at in places]
+
+    def is_covered(self, x, y):
+        return self.desktop.picture().at(x, y) != BACKGROUND
+
+    def is_collapsed(self, monitor=LEFT):
+        return self._covers(monitor, (0, 3), (0, 200)) == [True, False]
+
+    def is_open(self, monitor=LEFT):
+        return all(self._covers(monitor, (0, 3), (-400, 400), (400, 400)))
+
+    def open(self, monitor=LEFT):
+        self.desktop.move(monitor.x + WIDTH // 2 - 140, 5)  # Beside the handle, on the strip.
+        wait_for(lambda: self.is_open(monitor), "the open panel")
