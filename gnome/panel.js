@@ -6,6 +6,16 @@ import {Signals} from './signals.js';
 // How long after it was shown the panel may get the focus that nobody asked for: GNOME 43 gives it later.
 const UNASKED_US = 300000;
 
+/// Whether Alt-Tab and the overview show it. Releases that cannot be asked look at this property.
+function setListed(window, listed) {
+    if (window.hide_from_window_list)
+        listed ? window.show_in_window_list() : window.hide_from_window_list();
+    else if (listed)
+        delete window.skip_taskbar;
+    else
+        Object.defineProperty(window, 'skip_taskbar', {value: true, configurable: true});
+}
+
 /// Ravelo's panel, an ordinary window of its process with an agreed title: at the top centre of a monitor, above
 /// everything, on all workspaces, without the shell's animation and without taking the focus. Reports presses
 /// elsewhere while it is shown.
@@ -20,11 +30,6 @@ export class Panel {
         this._signals.connect(global.display, 'window-created', (_, window) => this._created(window));
         this._signals.connect(global.window_manager, 'map', (_, actor) => this._mapped(actor));
         this._signals.connect(global.display, 'notify::focus-window', () => this._focusChanged());
-        this._signals.connect(global.stage, 'captured-event', (_, event) => {
-            if (event.type() === Clutter.EventType.BUTTON_PRESS)
-                this._pressed(false);
-            return Clutter.EVENT_PROPAGATE;
-        });
         this._focusChanged();
         for (const actor of global.get_window_actors())
             this._mapped(actor);
@@ -46,6 +51,7 @@ export class Panel {
         global.window_group.add_child(actor);
         this._window.unmake_above();
         this._window.unstick();
+        setListed(this._window, true);
     }
 
     place(screen) {
@@ -85,7 +91,7 @@ export class Panel {
         this._window = window;
         this._shown = GLib.get_monotonic_time();
         Main.wm.skipNextEffect(actor); // When it closes.
-        window.hide_from_window_list?.(); // Some releases.
+        setListed(window, false);
         window.make_above();
         window.stick();
         this._center();
@@ -104,9 +110,14 @@ export class Panel {
             this._focusChanged();
     }
 
-    // A press in a window raises it, even if it has the focus already; the shell does not see the press itself.
+    // A press in a window raises it, even if it has the focus already; the stage sees only presses elsewhere.
     _watchOthers() {
         this._others = new Signals();
+        this._others.connect(global.stage, 'captured-event', (_, event) => {
+            if (event.type() === Clutter.EventType.BUTTON_PRESS)
+                this._pressed(false);
+            return Clutter.EVENT_PROPAGATE;
+        });
         for (const {meta_window: other} of global.get_window_actors()) {
             if (other !== this._window)
                 this._watch(other);
