@@ -1,7 +1,5 @@
 """The checks of scripts/desktops on GNOME Shell, one test each; `row` runs them all for its table."""
 
-import os
-import pathlib
 import unittest
 
 import gi
@@ -11,36 +9,22 @@ from gi.repository import GdkPixbuf  # noqa: E402
 
 import shell  # noqa: E402
 from shell import until  # noqa: E402
-from test_program import SEARCH_X, SEARCH_Y, ProgramCase  # noqa: E402
+from test_program import FILE, FOLDER, PASTED, SEARCH_X, SEARCH_Y, ProgramCase  # noqa: E402
 
-PICTURES = pathlib.Path(os.environ.get("RAVELO_PICTURES", shell.ROOT / "build/desktops"))
 MIDDLE = 640
 AWAY = (100, 700)
-FOLDER = "parked"
-FILE = "a file.txt"
-ICON_LEFT, ICON_TOP = 333, 118  # Of the one file in Nautilus.
-
-PASTED = """
-    return new Promise(done => St.Clipboard.get_default().get_text(St.ClipboardType.CLIPBOARD,
-        (_, text) => done(text)));
-"""
 
 
 class DesktopTest(ProgramCase):
-    def keep(self, name):
-        PICTURES.mkdir(parents=True, exist_ok=True)
-        path = PICTURES / f"gnome-{name}.png"
-        self.session.run(f"await sleep(600); await shot('{path}');")
-        return GdkPixbuf.Pixbuf.new_from_file(str(path))
-
-    def seen(self, picture, before, frame):
+    def changed(self, before, now, frame):
         """The share of the frame that looks different now. Its outline is narrower than the window."""
+        before, now = (GdkPixbuf.Pixbuf.new_from_file(str(path)) for path in (before, now))
         x, y, width, height = frame
         def at(image, px, py):
             start = py * image.get_rowstride() + px * image.get_n_channels()
             return image.get_pixels()[start:start + 3]
         points = [(px, py) for px in range(x + 30, x + width - 30, 61) for py in range(y + 1, y + height - 50, 41)]
-        return sum(at(picture, *point) != at(before, *point) for point in points) / len(points)
+        return sum(at(now, *point) != at(before, *point) for point in points) / len(points)
 
     def copied(self, *texts):
         """Windows that have copied these; the last one has the focus."""
@@ -59,16 +43,6 @@ class DesktopTest(ProgramCase):
     def drag(self, start, end):
         self.session.run(f"move({start}); await sleep(200); button(true); await sleep(100);"
                          f"await glide({start}, {end}); await sleep(200);")
-
-    def nautilus_file(self):
-        """Where a file is to be clicked or dragged."""
-        folder = self.session.home / FOLDER
-        folder.mkdir(exist_ok=True)
-        (folder / FILE).write_text("contents")
-        self.session.start("nautilus", folder, log="nautilus.log")
-        x, y, _, _ = until(lambda: self.window(FOLDER), "the file manager is shown", 40)["frame"]
-        self.session.run("await sleep(1500)")
-        return f"{x + ICON_LEFT}, {y + ICON_TOP}"
 
     def test_place(self):
         self.assertFalse(self.panel(), "a window at rest")
@@ -98,7 +72,7 @@ class DesktopTest(ProgramCase):
         before = self.keep("fullscreen")
         panel = self.open()
         self.session.run("move(640, 200)")
-        self.assertGreater(self.seen(self.keep("above-fullscreen"), before, panel["frame"]), 0.98)
+        self.assertGreater(self.changed(before, self.keep("above-fullscreen"), panel["frame"]), 0.98)
 
     def test_hot_zone(self):
         self.session.run(f"move({MIDDLE - 150}, 40); await sleep(400);")
