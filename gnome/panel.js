@@ -1,10 +1,8 @@
 import Clutter from 'gi://Clutter';
-import GLib from 'gi://GLib';
 import * as Main from 'resource:///org/gnome/shell/ui/main.js';
 import {Signals} from './signals.js';
 
-// How long after it was shown the panel may get the focus that nobody asked for: GNOME 43 gives it later.
-const UNASKED_US = 300000;
+const PRESSES = [Clutter.EventType.BUTTON_PRESS, Clutter.EventType.TOUCH_BEGIN];
 
 /// Whether Alt-Tab and the overview show it. Releases that cannot be asked look at this property.
 function setListed(window, listed) {
@@ -69,7 +67,9 @@ export class Panel {
 
     _giveBack() {
         const time = global.display.get_current_time_roundtrip();
-        if (this._before?.get_compositor_private()) // It still exists.
+        const workspace = global.workspace_manager.get_active_workspace();
+        if (this._before?.get_compositor_private() && // It still exists.
+            this._before.located_on_workspace(workspace))
             this._before.focus(time);
         else
             global.display.unset_input_focus(time);
@@ -89,7 +89,6 @@ export class Panel {
             return;
         this._forget();
         this._window = window;
-        this._shown = GLib.get_monotonic_time();
         Main.wm.skipNextEffect(actor); // When it closes.
         setListed(window, false);
         window.make_above();
@@ -150,13 +149,14 @@ export class Panel {
         actor.translation_y = monitor.y - this._window.get_frame_rect().y;
     }
 
+    // By a press on it, or because Ravelo wants it. The shell gives the focus to each new window, too, some
+    // releases later, and when the workspace changes.
     _focusChanged() {
         const focused = global.display.get_focus_window();
-        if (focused !== this._window) {
+        if (focused !== this._window)
             this._before = focused;
-        } else if (focused && !this._wanted && GLib.get_monotonic_time() - this._shown < UNASKED_US) {
+        else if (focused && !this._wanted && !PRESSES.includes(Clutter.get_current_event()?.type()))
             this._giveBack();
-        }
     }
 
     _pressed(own) {

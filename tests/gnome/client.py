@@ -1,6 +1,6 @@
 """A GTK 4 program: a window with a text field that copies, and a label to drag a file from.
 
-    client.py TITLE [--copy TEXT | --image FILE | --secret TEXT] [--fullscreen] [--drag FILE | --drag-text TEXT]
+    client.py TITLE [--copy TEXT | --image FILE | --secret TEXT] [--fullscreen] [--drag FILE]
 
 Copies when F5 is pressed: Mutter ignores who has seen no input. Prints "key TEXT" when its text field changes.
 """
@@ -19,7 +19,6 @@ parser.add_argument("--copy")
 parser.add_argument("--image")
 parser.add_argument("--secret")
 parser.add_argument("--drag")
-parser.add_argument("--drag-text")
 parser.add_argument("--fullscreen", action="store_true")
 options = parser.parse_args()
 
@@ -44,12 +43,12 @@ def activate(application):
     entry = Gtk.Entry()
     entry.connect("changed", lambda _: print("key", entry.get_text(), flush=True))
     box.append(entry)
-    if options.drag or options.drag_text:
+    if options.drag:
         label = Gtk.Label(label="drag me", vexpand=True)
         source = Gtk.DragSource()
-        mime, text = ("text/uri-list", GLib.filename_to_uri(options.drag) + "\r\n") if options.drag else \
-            ("text/plain;charset=utf-8", options.drag_text)
-        source.connect("prepare", lambda *_: Gdk.ContentProvider.new_for_bytes(mime, GLib.Bytes(text.encode())))
+        uri = GLib.filename_to_uri(options.drag) + "\r\n"
+        source.connect("prepare", lambda *_: Gdk.ContentProvider.new_for_bytes("text/uri-list",
+                                                                               GLib.Bytes(uri.encode())))
         label.add_controller(source)
         box.append(label)
     window.set_child(box)

@@ -45,9 +45,11 @@ class DesktopTest(ProgramCase):
                          f"await glide({start}, {end}); await sleep(200);")
 
     def test_place(self):
+        self.client("other")
         self.assertFalse(self.panel(), "a window at rest")
         x, y, width, _ = self.open()["frame"]
-        self.assertEqual((y, x + width // 2), (0, MIDDLE - width % 2))
+        self.assertEqual(y, 0)
+        self.assertLess(abs(x + width / 2 - MIDDLE), 1)
         self.assertEqual(self.session.run("""
             const altTab = RELEASE < 45 ? imports.ui.altTab
                 : await import('resource:///org/gnome/shell/ui/altTab.js');
@@ -55,7 +57,7 @@ class DesktopTest(ProgramCase):
             const titles = popup._getWindowList().map(window => window.title);
             popup.destroy();
             return titles;
-        """.replace("RELEASE", str(shell.release()))), [], "Alt-Tab lists it")
+        """.replace("RELEASE", str(shell.release()))), ["other"], "Alt-Tab lists it")
         self.close()
 
     def test_handle_above(self):
@@ -130,31 +132,19 @@ class DesktopTest(ProgramCase):
 
     def test_workspaces(self):
         self.client("stays on the first")
-        show = "global.workspace_manager.get_workspace_by_index({}).activate(global.get_current_time());" \
-               "await sleep(600);"
-        self.session.run(show.format(1))
         self.open()
-        self.session.run("move(640, 300)")
-        for workspace in (0, 1):
-            self.session.run(show.format(workspace))
-            self.assertTrue(self.session.run("return global.get_window_actors().map(actor => actor.meta_window)"
-                                             ".find(window => window.title === 'Ravelo panel')"
-                                             f"?.located_on_workspace(global.workspace_manager."
-                                             f"get_workspace_by_index({workspace}))"), f"not on {workspace}")
-        self.keep("workspace")
+        self.session.run("move(640, 300); await sleep(300);")
+        for workspace in (1, 0):
+            self.session.run(f"global.workspace_manager.get_workspace_by_index({workspace}).activate("
+                             "global.get_current_time()); await sleep(1000);")
+            self.assertEqual(self.panel()["workspaces"], "all", f"it is not on workspace {workspace}")
+            self.assertFalse(self.panel()["focus"], "it takes the focus that no window has")
+            self.keep(f"workspace-{workspace}")
 
     def test_file_drag(self):
         self.drag(self.nautilus_file(), f"{MIDDLE}, 0")
         until(self.panel, "the panel, opened by a dragged file")
         self.keep("file-drag")
-        self.session.run(f"button(false); await sleep(300); await click{AWAY};")
-        until(lambda: not self.panel(), "the panel closes")
-        self.client("text", "--drag-text", "a text to drag")
-        x, y, width, height = self.window("text")["frame"]
-        self.drag(f"{x + width // 2}, {y + height * 2 // 3}", f"{MIDDLE}, 0")
-        for step in range(20):  # A file would have opened it by now.
-            self.session.run(f"move({MIDDLE} + {step % 2}, 0); await sleep(50);")
-            self.assertFalse(self.panel(), "a dragged text opened it")
 
     def test_two_monitors(self):
         self.skipTest("see TwoMonitorsTest")

@@ -13,8 +13,8 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// What opens the panel at the top edge. Two rows: the pointer that is pushed against the edge is on
-/// the first, and the clock below stays usable.
+/// What opens the panel at the top edge. Two rows: the pointer that is pushed against the edge is
+/// on the first, and the clock below stays usable.
 constexpr QSize strip(320, 2);
 
 /// A window of ours that Mutter places; it has no shadow.
@@ -59,7 +59,8 @@ GnomeDisplayServer::GnomeDisplayServer(std::unique_ptr<Channel> channel, QSizeF 
       lock_(*channel_) {}
 
 std::unique_ptr<PanelWindow> GnomeDisplayServer::panelWindow(QWindow& window) {
-    return std::make_unique<GnomePanelWindow>(window, *channel_, drags_, handle_);
+    return std::make_unique<GnomePanelWindow>(
+        window, GnomePanelWindow::Services{*channel_, drags_, pasteboard_}, handle_);
 }
 
 std::unique_ptr<WindowFrame> GnomeDisplayServer::windowFrame(QWindow& window) {
