@@ -56,12 +56,15 @@ export class Link {
     async pour(message, pour) {
         const cancel = this._cancel;
         const connection = await this._connect(cancel);
-        if (connection.get_socket().get_credentials().get_unix_pid() !== this._pid)
-            throw new Error('not Ravelo');
-        const stream = connection.get_output_stream();
-        stream.write_all(written(message), null);
-        await pour(stream, cancel);
-        connection.close(null);
+        try {
+            if (connection.get_socket().get_credentials().get_unix_pid() !== this._pid)
+                throw new Error('not Ravelo');
+            const stream = connection.get_output_stream();
+            stream.write_all(written(message), null); // Fits into the socket.
+            await pour(stream, cancel);
+        } finally {
+            connection.close(null);
+        }
     }
 
     async _appeared(owner) {

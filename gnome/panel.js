@@ -1,10 +1,18 @@
 import Clutter from 'gi://Clutter';
-import GLib from 'gi://GLib';
 import * as Main from 'resource:///org/gnome/shell/ui/main.js';
 import {Signals} from './signals.js';
 
-// How long after it was shown the panel may get the focus that nobody asked for: GNOME 43 gives it later.
-const UNASKED_US = 300000;
+const PRESSES = [Clutter.EventType.BUTTON_PRESS, Clutter.EventType.TOUCH_BEGIN];
+
+/// Whether Alt-Tab and the overview show it. Releases that cannot be asked look at this property.
+function setListed(window, listed) {
+    if (window.hide_from_window_list)
+        listed ? window.show_in_window_list() : window.hide_from_window_list();
+    else if (listed)
+        delete window.skip_taskbar;
+    else
+        Object.defineProperty(window, 'skip_taskbar', {value: true, configurable: true});
+}
 
 /// Ravelo's panel, an ordinary window of its process with an agreed title: at the top centre of a monitor, above
 /// everything, on all workspaces, without the shell's animation and without taking the focus. Reports presses
@@ -20,11 +28,6 @@ export class Panel {
         this._signals.connect(global.display, 'window-created', (_, window) => this._created(window));
         this._signals.connect(global.window_manager, 'map', (_, actor) => this._mapped(actor));
         this._signals.connect(global.display, 'notify::focus-window', () => this._focusChanged());
-        this._signals.connect(global.stage, 'captured-event', (_, event) => {
-            if (event.type() === Clutter.EventType.BUTTON_PRESS)
-                this._pressed(false);
-            return Clutter.EVENT_PROPAGATE;
-        });
         this._focusChanged();
         for (const actor of global.get_window_actors())
             this._mapped(actor);
@@ -46,6 +49,7 @@ export class Panel {
         global.window_group.add_child(actor);
         this._window.unmake_above();
         this._window.unstick();
+        setListed(this._window, true);
     }
 
     place(screen) {
@@ -63,7 +67,9 @@ export class Panel {
 
     _giveBack() {
         const time = global.display.get_current_time_roundtrip();
-        if (this._before?.get_compositor_private()) // It still exists.
+        const workspace = global.workspace_manager.get_active_workspace();
+        if (this._before?.get_compositor_private() && // It still exists.
+            this._before.located_on_workspace(workspace))
             this._before.focus(time);
         else
             global.display.unset_input_focus(time);
@@ -83,9 +89,8 @@ export class Panel {
             return;
         this._forget();
         this._window = window;
-        this._shown = GLib.get_monotonic_time();
         Main.wm.skipNextEffect(actor); // When it closes.
-        window.hide_from_window_list?.(); // Some releases.
+        setListed(window, false);
         window.make_above();
         window.stick();
         this._center();
@@ -104,9 +109,14 @@ export class Panel {
             this._focusChanged();
     }
 
-    // A press in a window raises it, even if it has the focus already; the shell does not see the press itself.
+    // A press in a window raises it, even if it has the focus already; the stage sees only presses elsewhere.
     _watchOthers() {
         this._others = new Signals();
+        this._others.connect(global.stage, 'captured-event', (_, event) => {
+            if (event.type() === Clutter.EventType.BUTTON_PRESS)
+                this._pressed(false);
+            return Clutter.EVENT_PROPAGATE;
+        });
         for (const {meta_window: other} of global.get_window_actors()) {
             if (other !== this._window)
                 this._watch(other);
@@ -139,13 +149,14 @@ export class Panel {
         actor.translation_y = monitor.y - this._window.get_frame_rect().y;
     }
 
+    // By a press on it, or because Ravelo wants it. The shell gives the focus to each new window, too, some
+    // releases later, and when the workspace changes.
     _focusChanged() {
         const focused = global.display.get_focus_window();
-        if (focused !== this._window) {
+        if (focused !== this._window)
             this._before = focused;
-        } else if (focused && !this._wanted && GLib.get_monotonic_time() - this._shown < UNASKED_US) {
+        else if (focused && !this._wanted && !PRESSES.includes(Clutter.get_current_event()?.type()))
             this._giveBack();
-        }
     }
 
     _pressed(own) {

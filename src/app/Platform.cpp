@@ -18,7 +18,6 @@
 #include "platform/freedesktop/ThemeSound.h"
 #include "platform/freedesktop/TrayStatusItem.h"
 #include "platform/gnome/GnomeDisplayServer.h"
-#include "platform/gnome/PrepareApplication.h"
 #include "platform/gnome/ShellExtension.h"
 #include "platform/system/CurlClient.h"
 #include "platform/system/DataLock.h"
@@ -36,6 +35,7 @@
 #include "platform/wayland/PrepareApplication.h"
 #include "platform/wayland/WaylandDisplayServer.h"
 #include "platform/wayland/WaylandTrayArea.h"
+#include "platform/wayland_client/WaylandClient.h"
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
 #include "store/Store.h"
@@ -187,7 +187,7 @@ Handle Platform::prepareApplication(Display display) {
     case Display::wayland:
         return wayland::prepareApplication();
     case Display::gnome:
-        return gnome::prepareApplication();
+        return prepareWaylandClient();
     }
     return {};
 }

@@ -325,6 +325,37 @@ TEST_F(GnomePasteboardTest, OffersATextThroughTheShellWithoutTheFocus) {
     EXPECT_EQ(board().changeCount(), 3) << "our own write is counted once, the next copy too";
 }
 
+TEST_F(GnomePasteboardTest, KeepsTheFocusUntilItsCopyHasArrivedAndOffersItIfItWasRefused) {
+    QWindow parent;
+    QWindow window(&parent);
+    const auto panel = world_.server->panelWindow(window);
+    QWindow focused;
+    focused.show();
+    focused.requestActivate();
+    ASSERT_TRUE(eventually([] { return QGuiApplication::focusWindow() != nullptr; }));
+    const auto given = [&] {
+        return world_.shell.heard(u"focus"_s).size();
+    };
+    board().write({{plainTextType, "one"}});
+    panel->returnFocus();
+    world_.server->channel().send(place(3)); // Arrives after everything before it.
+    EXPECT_TRUE(eventually([&] {
+        return !world_.shell.heard(u"place"_s).isEmpty() &&
+               world_.shell.heard(u"place"_s).last()[u"screen"] == 3;
+    }));
+    EXPECT_EQ(given(), 0) << "Mutter may ignore the copy now";
+    const QString mark =
+        QGuiApplication::clipboard()->mimeData()->formats().filter(u"x-ravelo"_s).value(0);
+    world_.shell.send(R"({"is":"clip","serial":5,"types":[")" + mark.toUtf8() + R"("]})");
+    EXPECT_TRUE(eventually([&] { return given() == 1; }));
+    EXPECT_TRUE(world_.shell.heard(u"offer"_s).isEmpty());
+
+    board().write({{plainTextType, "two"}});
+    panel->returnFocus();
+    EXPECT_TRUE(eventually([&] { return given() == 2; })) << "keeps the focus for ever";
+    EXPECT_EQ(world_.shell.heard(u"offer"_s).value(0)[u"text"], u"two"_s);
+}
+
 TEST_F(GnomePasteboardTest, IsNotImpressedByWhatWasThereBefore) {
     world_.shell.send(R"({"is":"clip","serial":9,"types":["text/plain"],"initial":true})");
     world_.shell.send(R"({"is":"look","animations":false,"icons":"x"})");

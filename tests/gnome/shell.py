@@ -67,11 +67,11 @@ class Shell:
         self.environment["WAYLAND_DISPLAY"] = "wayland-test"
 
     def __enter__(self):
-        until(self.is_up, "the shell is up", 30)
-        until(lambda: not self.run("return Main.layoutManager._startingUp"), "the shell has started", 30)
+        until(self.is_up, "the shell is up", 120)
+        until(lambda: not self.run("return Main.layoutManager._startingUp"), "the shell has started", 60)
         until(lambda: self.run("Main.overview.hide(); await sleep(400);"
                                "return !Main.overview.visible && global.top_window_group.visible"),
-              "the overview is gone", 30)
+              "the overview is gone", 60)
         self.run("move(600, 500)")
         return self
 

@@ -16,12 +16,16 @@ HERE = pathlib.Path(__file__).parent
 
 # Counts connections to what the extension watches, from now on.
 COUNT_CONNECTIONS = """
-    kept.connections = 0;
+    kept.connections = kept.onStage = 0;
     for (const object of [Main.layoutManager, global.display, global.display.get_selection(), global.stage,
         global.window_manager]) {
         const {connect, disconnect} = object;
         object.connect = function (...all) { kept.connections++; return connect.apply(this, all); };
         object.disconnect = function (...all) { kept.connections--; return disconnect.apply(this, all); };
+        if (object === global.stage) {
+            const {connect: count} = object;
+            object.connect = function (...all) { kept.onStage++; return count.apply(this, all); };
+        }
     }
 """
 
@@ -105,6 +109,7 @@ class ExtensionTest(ExtensionCase):
         self.assertEqual(screen["frame"], [0, 0, 1280, 800])
         self.assertGreater(screen["free"][1], 10, "the bar is known")
         self.assertEqual(self.session.run(TRACES)["strips"], 1)
+        self.assertEqual(self.session.run("return kept.onStage"), 0, "it sees each event while no panel is shown")
         peer.end()
         until(lambda: self.session.run(TRACES) == before, "nothing is left once Ravelo is gone", 2)
 

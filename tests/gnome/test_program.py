@@ -9,6 +9,8 @@ import subprocess
 import time
 import unittest
 
+from gi.repository import GLib
+
 import shell
 from shell import until
 from test_extension import ExtensionCase
@@ -34,25 +36,56 @@ OPENING_TIME = """
     return await shown;
 """
 
+# Locks the screen as GNOME does, which has a locker only with its display manager.
+LOCK = """
+    const {ScreenShield} = %d < 45 ? imports.ui.screenShield
+        : await import('resource:///org/gnome/shell/ui/screenShield.js');
+    kept.shield ??= new ScreenShield();
+    kept.shield.lock(false);
+    await sleep(1500);
+""" % shell.release()
+
 # A key to hold.
-CONTROL = """const control = down => keyboard.notify_keyval(GLib.get_monotonic_time(), Clutter.KEY_Control_L, down);"""
+CONTROL = """const control = async (letter, modifier = Clutter.KEY_Control_L) => {
+    keyboard.notify_keyval(GLib.get_monotonic_time(), modifier, 1);
+    await sleep(50);
+    await key(letter);
+    keyboard.notify_keyval(GLib.get_monotonic_time(), modifier, 0);
+};"""
+
+PASTED = """
+    return new Promise(done => St.Clipboard.get_default().get_text(St.ClipboardType.CLIPBOARD,
+        (_, text) => done(text)));
+"""
+
+PICTURES = pathlib.Path(os.environ.get("RAVELO_PICTURES", shell.ROOT / "build/desktops"))
+FOLDER, FILE = "parked", "a file.txt"
+ICON_LEFT, ICON_TOP = 333, 118  # Of the one file in Nautilus.
 
 
 class ProgramCase(ExtensionCase):
     x11 = False
+    extensions = (shell.COMPANION,)
+    settings = ""
 
     @classmethod
     def setUpClass(cls):
         pass  # A shell for each test.
 
     def setUp(self):
-        self.session = self.enterContext(shell.Shell(monitors=self.monitors, x11=self.x11))
+        self.session = self.enterContext(shell.Shell(self.extensions, self.monitors, self.x11, self.settings))
         config = self.session.home / ".config/ravelo"
         config.mkdir(parents=True)
         (config / "preferences.json").write_text(
             json.dumps({"onboarded": True, "didSetupLogin": True, "seededSiteLinksV1": True}))
-        self.ravelo = self.session.start(PROGRAM, log="ravelo.log")
-        until(lambda: self.strips() > 0 or self.failed(), "the extension is connected", 20)
+        self.ravelo = self.session.start(PROGRAM, log="ravelo.log", **self.x11_names())
+        if self.extensions:
+            until(lambda: self.strips() > 0 or self.failed(), "the extension is connected", 20)
+
+    def x11_names(self):
+        names = ("DISPLAY", "XAUTHORITY")
+        return dict(zip(names, self.session.run("return [GLib.getenv('DISPLAY'), GLib.getenv('XAUTHORITY')]"))) \
+            if self.x11 else {}
 
     def failed(self):
         if self.ravelo.poll() is not None:
@@ -72,13 +105,26 @@ class ProgramCase(ExtensionCase):
     def tearDown(self):
         pass
 
+    def keep(self, name):
+        """A picture, to be looked at or compared."""
+        PICTURES.mkdir(parents=True, exist_ok=True)
+        path = PICTURES / f"gnome-{name}.png"
+        self.session.run(f"await sleep(600); await shot('{path}');")
+        return path
+
+    def nautilus_file(self, name=FOLDER):
+        """Shows a folder with one file, and returns where to click or drag that."""
+        folder = self.session.home / name
+        folder.mkdir(exist_ok=True)
+        (folder / FILE).write_text("contents")
+        self.session.start("nautilus", folder, log="nautilus.log")
+        x, y, _, _ = until(lambda: self.window(name), "the file manager is shown", 40)["frame"]
+        self.session.run("await sleep(1500)")
+        return f"{x + ICON_LEFT}, {y + ICON_TOP}"
+
     def close(self):
         self.session.run("await click(100, 700)")
         until(lambda: not self.panel(), "the panel closes")
-
-    def close_to_bar(self):
-        self.session.run("await click(100, 700)")
-        until(lambda: self.panel()["frame"][3] < 60, "it closes to the bar")
 
     def store(self):
         file = self.session.home / ".local/share/Ravelo/store.json"
@@ -117,30 +163,7 @@ class ProgramTest(ProgramCase):
             self.close()
         print(f"edge to first frame: {min(times):.0f}/{statistics.median(times):.0f}/{max(times):.0f} ms")
 
-    def test_opens_above_all_and_takes_no_focus(self):
-        self.client("full", "--fullscreen")
-        panel = self.open()
-        x, y, width, _ = panel["frame"]
-        self.assertLess(abs(x + width / 2 - 640), 1)
-        self.assertEqual(y, 0)
-        self.assertTrue(panel["top"], "above the bar")
-        self.assertTrue(until(lambda: self.window("full")["focus"], "the client keeps the focus"))
-        self.session.run("move(640, 200); await sleep(700);")
-        self.assertTrue(self.panel(), "it stays open under the pointer")
-        self.close()
-
-    def test_shows_the_timers_bar_at_the_very_top(self):
-        self.command("timer", "start", "5", "work")
-        x, y, width, height = until(self.panel, "the bar is shown")["frame"]
-        self.assertEqual((y, x + width // 2), (0, 640))
-        self.assertLess(height, 60)
-        self.assertFalse(self.panel()["focus"])
-        self.session.run("move(640, 300); await sleep(100); move(640, 20);")
-        until(lambda: self.panel()["frame"][3] > 300, "it opens under the pointer")
-        self.session.run("move(640, 300)")
-        self.close_to_bar()
-
-    def test_copies_back_and_types(self):
+    def test_copies_back(self):
         target = self.client("target", "--copy", "first copy")
         until(lambda: "first copy" in self.store(), "it is stored")
         self.client("other", "--copy", "second copy")
@@ -152,96 +175,134 @@ class ProgramTest(ProgramCase):
             "return global.display.get_selection().get_mimetypes(1)")), "the older copy is put back")
         self.close()
         until(lambda: self.window("other")["focus"], "the focus is given back")
-        self.session.run("(await windows()); const [one] = global.get_window_actors().map(actor => actor.meta_window)"
-                         ".filter(window => window.title === 'target'); one.activate(0); await sleep(300);"
-                         "const control = down => keyboard.notify_keyval(GLib.get_monotonic_time(),"
-                         "Clutter.KEY_Control_L, down); control(1); await key(Clutter.KEY_v); control(0);")
+        self.session.run("global.get_window_actors().map(actor => actor.meta_window)"
+                         ".find(window => window.title === 'target').activate(0); await sleep(300);"
+                         f"{CONTROL} await control(Clutter.KEY_v);")
         until(lambda: "key first copy\n" in target.lines, "the older copy is pasted")
-
-        self.open()
-        self.session.run(f"await click({x + SEARCH_X}, {y + SEARCH_Y}); await type('second');")
-        until(lambda: self.panel()["focus"], "the field has the keyboard")
-        self.session.run(f"await sleep(200); await shot('{self.session.folder}/typed.png');"
-                         "await key(Clutter.KEY_Escape); await key(Clutter.KEY_Escape);")
-        until(lambda: not self.panel(), "Escape closes it")
-        until(lambda: self.window("target")["focus"], "the focus is given back")
-
-    def test_takes_dropped_files(self):
-        self.client("source", "--drag", "/etc/hostname")
-        x, y, width, height = self.window("source")["frame"]
-        start = f"{x + width // 2}, {y + height * 2 // 3}"
-        self.session.run(f"move({start}); await sleep(200); button(true); await sleep(100);"
-                         f"await glide({start}, 640, 0);")
-        until(self.panel, "the panel opens for the drag")
-        self.session.run("await sleep(200); await glide(640, 0, 640, 150); await sleep(300); button(false);")
-        until(lambda: "/etc/hostname" in self.command("shelf", "list"), "the file is on the shelf")
 
     def test_is_gone_while_the_screen_is_locked(self):
         self.open()
-        self.session.run("Main.sessionMode.pushMode('unlock-dialog')")
+        self.session.run(LOCK)
         until(lambda: not self.panel(), "the panel is hidden")
         self.assertEqual(self.strips(), 0)
         self.command("--toggle")
-        self.session.run("await sleep(300)")
+        self.session.run("move(640, 300); await sleep(100); move(640, 0); await sleep(500);")
+        self.assertEqual(self.session.run("return Main.sessionMode.currentMode"), "unlock-dialog")
+        self.keep("locked")
         self.assertFalse(self.panel(), "it opens over the locker")
-        self.session.run("Main.sessionMode.popMode('unlock-dialog')")
+        self.session.run("kept.shield.deactivate(false)")
         until(lambda: self.strips() == 1, "the extension is back")
         self.session.run("move(640, 400)")
         self.open()
 
     def test_ends_cleanly_and_leaves_the_shell_at_rest(self):
-        self.client("text", "--copy", "kept")
-        until(lambda: "kept" in self.store(), "it is stored")
         self.ravelo.send_signal(signal.SIGKILL)
         until(lambda: self.strips() == 0, "the extension is quiet", 1)
         self.ravelo = self.session.start(PROGRAM, log="ravelo.log")
         until(lambda: self.strips() == 1, "it is back with Ravelo", 20)
-        self.session.shell.kill()
+        (self.session.folder / "a parked file").touch()
+        self.command(str(self.session.folder / "a parked file"))
+        self.session.shell.kill()  # Before that is saved.
         self.assertEqual(until(lambda: self.ravelo.poll() is not None, "it ends with the shell"), True)
         self.assertGreaterEqual(self.ravelo.returncode, 0, "it crashed")
-        self.assertIn("kept", self.store())
+        self.assertIn("a parked file", self.store(), "what was not saved yet is lost")
 
-    def test_works_with_the_desktops_own_programs(self):
-        folder = self.session.home / "parked"
-        folder.mkdir()
-        (folder / "a file.txt").write_text("contents")
-        self.session.start("nautilus", folder, log="nautilus.log")
-        x, y, _, _ = until(lambda: self.window("parked"), "the file manager is shown", 40)["frame"]
-        self.session.run("await sleep(1500)")
-        file = f"{x + 333}, {y + 118}"
-        self.session.run(f"await click({file}); await sleep(500);"
-                         f"{CONTROL} control(1); await sleep(50); await key(Clutter.KEY_c); control(0);")
-        until(lambda: "a file.txt" in self.store(), "a copied file is stored by its path")
-        self.session.run(f"move({file}); await sleep(200); button(true); await sleep(100);"
-                         f"await glide({file}, 640, 0);")
-        until(self.panel, "the panel opens for the drag")
-        self.session.run("await sleep(200); await glide(640, 0, 640, 150); await sleep(300); button(false);")
-        until(lambda: str(folder / "a file.txt") in self.command("shelf", "list"), "the file is parked")
-        self.session.run("await sleep(300)")
+    def test_copies_files_of_nautilus_and_back(self):
+        file = self.nautilus_file()
+        self.session.run(f"await click({file}); await sleep(500); {CONTROL} await control(Clutter.KEY_c);")
+        until(lambda: FILE in self.store(), "a copied file is stored by its path")
+        self.client("client", "--copy", "another copy")
+        until(lambda: "another copy" in self.store(), "a text is stored")
+        target = self.session.home / "target"
+        target.mkdir()
+        self.session.start("nautilus", target, log="nautilus.log")
+        until(lambda: (self.window("target") or {}).get("focus"), "the other folder is shown", 40)
+        x, y, width, _ = self.open()["frame"]
+        self.session.run(f"await sleep(300); await click({x + width // 4}, {y + ROW_BELOW});")
+        self.keep("copied-file")
         self.close()
+        until(lambda: self.window("target")["focus"], "the focus is given back")
+        self.session.run(f"{CONTROL} await control(Clutter.KEY_v);")
+        until((target / FILE).exists, "the copied file is pasted")
 
+    def test_pastes_into_the_text_editor(self):
         self.client("client", "--copy", "pasted again")
         until(lambda: "pasted again" in self.store(), "a text is stored")
+        self.client("later", "--copy", "another")
+        until(lambda: "another" in self.store(), "a text is stored")
         self.session.start("gnome-text-editor", "--standalone", log="editor.log")
-        editor = until(lambda: next((one for one in self.session.run("return windows()") if one["focus"]
-                                     and one["title"] not in ("client", "parked")), None), "an editor", 40)
-        self.open()
-        self.session.run(f"await sleep(300); await shot('{self.session.folder}/shelf.png');")
+        until(lambda: next((one for one in self.session.run("return windows()") if one["focus"]
+                            and one["title"] not in ("client", "later")), None), "an editor", 40)
+        x, y, width, _ = self.open()["frame"]
+        self.session.run(f"await sleep(300); await click({x + width // 4}, {y + ROW_BELOW});")
         self.close()
-        self.session.run(f"{CONTROL} control(1); await key(Clutter.KEY_v); control(0); await sleep(1000);"
-                         f"await shot('{self.session.folder}/editor.png');")
+        self.session.run(f"{CONTROL} await control(Clutter.KEY_v);")
         until(lambda: any("pasted again" in one["title"] for one in self.session.run("return windows()")),
-              f"the editor has the text; before: {editor['title']}")
+              "the editor has the text")
+        self.keep("editor")
+
+    def test_leaves_the_resting_shell_alone(self):
+        def at_rest():
+            """Of five seconds: the switches to the shell's main thread, and its memory."""
+            self.session.run("move(600, 500); await sleep(3000); imports.system.gc();")
+            process = pathlib.Path(f"/proc/{self.session.shell.pid}")
+            switches = lambda: sum(int(line.split()[1]) for line in (process / "status").read_text().splitlines()
+                                   if "ctxt_switches" in line)
+            before = switches()
+            time.sleep(5)
+            memory = next(int(line.split()[1]) for line in (process / "smaps_rollup").read_text().splitlines()
+                          if line.startswith("Pss_Anon:"))
+            return switches() - before, memory / 1024
+
+        enabled = f"Main.extensionManager.lookup('{shell.COMPANION}').stateObj"
+        with_it = at_rest()
+        self.session.run(f"{enabled}.disable()")
+        without = at_rest()
+        self.session.run(f"{enabled}.enable()")
+        print(f"the shell at rest with Ravelo: {with_it[0]} switches in 5 s, {with_it[1]:.1f} MB; "
+              f"extension off: {without[0]} switches, {without[1]:.1f} MB")
+        self.assertLess(with_it[0], without[0] + 10)
+
+    def test_loads_no_graphics_driver(self):
+        self.open()
+        self.assertEqual([word for word in ("libLLVM", "_dri.so", "libgallium")
+                          if word in pathlib.Path(f"/proc/{self.ravelo.pid}/maps").read_text()], [])
+
+
+class ScaledTest(ProgramCase):
+    monitors = ("2560x1600",)
+
+    def test_is_in_place_at_scales(self):
+        self.open_at(2)
+
+    def open_at(self, scale):
+        self.session.set_scale(scale)
+        self.session.run("await sleep(1000)")
+        stage, monitor = self.session.run("return [St.ThemeContext.get_for_stage(global.stage).scale_factor,"
+                                          "Main.layoutManager.primaryMonitor.width]")
+        middle = monitor // 2
+        self.session.run(f"move({middle}, 600); await sleep(100); move({middle}, 0);")
+        x, y, width, _ = until(self.panel, f"the panel at a scale of {scale}")["frame"]
+        self.assertEqual(width, 927 * stage)
+        self.assertLess(abs(x + width / 2 - middle), 1.5)
+        self.assertEqual(y, 0)
+        self.session.run(f"move({middle}, 400)")
+        self.keep(f"scale-{scale}")
+
+
+class FractionallyScaledTest(ScaledTest):
+    settings = "[org/gnome/mutter]\nexperimental-features=['scale-monitor-framebuffer']\n"
+
+    def test_is_in_place_at_scales(self):
+        self.open_at(1.25)
 
 
 class OwnersTest(ProgramCase):
     x11 = True
 
     def test_captures_from_x11_and_is_not_held_up_by_an_owner_that_hangs(self):
-        names = ("DISPLAY", "XAUTHORITY")
-        values = self.session.run("return [GLib.getenv('DISPLAY'), GLib.getenv('XAUTHORITY')]")
         copying = subprocess.Popen(["xclip", "-selection", "clipboard"], stdin=subprocess.PIPE,
-                                   env={**self.session.environment, **dict(zip(names, values))})
+                                   env={**self.session.environment, **self.x11_names()})
         self.session.processes.append(copying)
         copying.communicate(b"from X11")
         until(lambda: "from X11" in self.store(), "a copy of an X11 program is stored")
@@ -255,6 +316,67 @@ class OwnersTest(ProgramCase):
         self.assertLess(time.monotonic() - began, 1, "it waits for the owner")
         self.client("next", "--copy", "next copy")
         until(lambda: "next copy" in self.store(), "the next copy is stored")
+
+
+class PasswordTest(ProgramCase):
+    x11 = True
+
+    def keepassxc(self, *command, text):
+        subprocess.run(["keepassxc-cli", *command], input=text, text=True, env=self.session.environment, check=True,
+                       capture_output=True, timeout=60)
+
+    def test_does_not_even_fetch_a_password(self):
+        database = self.session.home / "secrets.kdbx"
+        self.keepassxc("db-create", "--set-password", "--decryption-time", "100", database, text="master\nmaster\n")
+        self.keepassxc("add", "--password-prompt", database, "entry", text="master\nhunter2\n")
+        self.session.run(f"""
+            const clipboard = Main.extensionManager.lookup('{shell.COMPANION}').stateObj._clipboard;
+            const give = clipboard.give;
+            kept.wanted = [];
+            clipboard.give = want => {{ kept.wanted.push(want.type); give.call(clipboard, want); }};
+        """)
+        configuration = self.session.home / "keepassxc.ini"
+        configuration.write_text("[General]\nUpdateCheckMessageShown=true\n[GUI]\nCheckForUpdates=false\n")
+        manager = subprocess.Popen(["keepassxc", "--config", configuration, "--pw-stdin", database], text=True,
+                                   stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                                   env={**self.session.environment, **self.x11_names(), "QT_QPA_PLATFORM": "xcb"},
+                                   preexec_fn=shell.end_with_us)
+        self.session.processes.append(manager)
+        manager.stdin.write("master\n")
+        manager.stdin.close()
+        def shown():
+            return next((one for one in self.session.run("return windows()") if "secrets" in (one["title"] or "")
+                         and "KeePassXC" in one["title"] and "Locked" not in one["title"]), None)
+        x, y, width, height = until(shown, "the password manager is unlocked", 60)["frame"]
+        self.session.run(f"await sleep(1500); await click({x + width * 6 // 10}, {y + 130}); await sleep(300);")
+        self.keep("keepassxc")
+        self.session.run(f"{CONTROL} await control(Clutter.KEY_c);")
+        until(lambda: "x-kde-passwordManagerHint" in self.session.run(
+            "return global.display.get_selection().get_mimetypes(Meta.SelectionType.SELECTION_CLIPBOARD)"),
+              "the password is copied")
+        self.assertEqual(self.session.run(PASTED), "hunter2")
+        self.session.run("await sleep(1000)")
+        self.assertEqual(self.session.run("return kept.wanted"), ["x-kde-passwordManagerHint"])
+        self.assertNotIn("hunter2", self.store())
+
+
+class TurnOnTest(ProgramCase):
+    x11 = True
+    extensions = ()
+
+    def test_settings_turn_it_on(self):
+        self.assertEqual(self.state(), 2, "it is installed and off")
+        self.command("--settings")
+        x, y, width, _ = until(lambda: next((one for one in self.session.run("return windows()")
+                               if "ettings" in (one["title"] or "") and one["visible"]), None), "the settings")["frame"]
+        self.keep("turn-on")
+        self.session.run(f"await click({x + width - 60}, {y + 120})")
+        until(lambda: self.state() == 1, "the extension is on")
+        self.keep("turned-on")
+
+    def state(self):
+        return self.session.call("org.gnome.Shell", "/org/gnome/Shell", "org.gnome.Shell.Extensions",
+                                 "GetExtensionInfo", GLib.Variant("(s)", (shell.COMPANION,)))[0]["state"]
 
 
 if __name__ == "__main__":

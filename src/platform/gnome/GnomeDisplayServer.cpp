@@ -13,9 +13,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Two rows: the pointer that is pushed against the edge is on the first, and the clock below stays
-/// usable.
-constexpr int stripHeight = 2;
+/// What opens the panel at the top edge. Two rows: the pointer that is pushed against the edge is
+/// on the first, and the clock below stays usable.
+constexpr QSize strip(320, 2);
 
 /// A window of ours that Mutter places; it has no shadow.
 class PlainFrame final : public WindowFrame {
@@ -37,7 +37,6 @@ public:
 
 Result<std::unique_ptr<GnomeDisplayServer>>
 GnomeDisplayServer::create(const QString& path, QDBusConnection bus, QSizeF handle) {
-    const QSize strip(static_cast<int>(handle.width()), stripHeight);
     return Channel::listen(path, std::move(bus), hello(panelTitle, strip))
         .map([&](std::unique_ptr<Channel> channel) {
             return std::unique_ptr<GnomeDisplayServer>(
@@ -60,7 +59,8 @@ GnomeDisplayServer::GnomeDisplayServer(std::unique_ptr<Channel> channel, QSizeF 
       lock_(*channel_) {}
 
 std::unique_ptr<PanelWindow> GnomeDisplayServer::panelWindow(QWindow& window) {
-    return std::make_unique<GnomePanelWindow>(window, *channel_, drags_, handle_);
+    return std::make_unique<GnomePanelWindow>(
+        window, GnomePanelWindow::Services{*channel_, drags_, pasteboard_}, handle_);
 }
 
 std::unique_ptr<WindowFrame> GnomeDisplayServer::windowFrame(QWindow& window) {

@@ -12,14 +12,14 @@
 
 namespace ravelo::gnome {
 
-GnomePanelWindow::GnomePanelWindow(QWindow& window, Channel& channel, GnomeDragMonitor& drags,
-                                   QSizeF handle)
+GnomePanelWindow::GnomePanelWindow(QWindow& window, Services services, QSizeF handle)
     : window_(window),
-      channel_(channel),
-      drags_(drags),
+      channel_(services.channel),
+      drags_(services.drags),
+      pasteboard_(services.pasteboard),
       handle_(handle),
       pointerOver_(window),
-      ups_(channel.onUpChange([this] {
+      ups_(channel_.onUpChange([this] {
           if (channel_.isUp()) {
               channel_.send(gnome::place(screen_));
           }
@@ -32,6 +32,10 @@ GnomePanelWindow::GnomePanelWindow(QWindow& window, Channel& channel, GnomeDragM
     window_.setFormat(format);
     window_.installEventFilter(this);
     window_.create();
+}
+
+GnomePanelWindow::~GnomePanelWindow() {
+    pasteboard_.onceWritten({});
 }
 
 void GnomePanelWindow::place(const Screen& screen, QSizeF size) {
@@ -72,11 +76,14 @@ void GnomePanelWindow::setOutline(const QPainterPath& outline) {
 }
 
 void GnomePanelWindow::requestFocus(const QByteArray& /*activationToken*/) {
+    pasteboard_.onceWritten({});
     channel_.send(gnome::focus(Focus::take));
 }
 
+// Not before Mutter has what was just copied: it takes it only from who has the focus, and this
+// message may overtake it.
 void GnomePanelWindow::returnFocus() {
-    channel_.send(gnome::focus(Focus::giveBack));
+    pasteboard_.onceWritten([this] { channel_.send(gnome::focus(Focus::giveBack)); });
 }
 
 bool GnomePanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {

@@ -4,6 +4,7 @@
 #include "platform/PanelWindow.h"
 #include "platform/gnome/Channel.h"
 #include "platform/gnome/GnomeDragMonitor.h"
+#include "platform/gnome/GnomePasteboard.h"
 #include "platform/window/PointerOver.h"
 
 #include <QLatin1StringView>
@@ -22,9 +23,17 @@ inline constexpr QLatin1StringView panelTitle("Ravelo panel");
 /// strip stands: the window lists of some releases would have it all day.
 class GnomePanelWindow final : private QObject, public PanelWindow {
 public:
-    /// All must outlive it; `window` must not have been shown. Up to the size of `handle` nothing
-    /// is shown.
-    GnomePanelWindow(QWindow& window, Channel& channel, GnomeDragMonitor& drags, QSizeF handle);
+    /// All must outlive it.
+    struct Services {
+        Channel& channel;
+        GnomeDragMonitor& drags;
+        GnomePasteboard& pasteboard;
+    };
+
+    /// `window` must outlive it and not have been shown. Up to the size of `handle` nothing is
+    /// shown.
+    GnomePanelWindow(QWindow& window, Services services, QSizeF handle);
+    ~GnomePanelWindow() override;
 
     void place(const Screen& screen, QSizeF size) override;
     void orderFront() override;
@@ -62,6 +71,7 @@ private:
     QWindow& window_;
     Channel& channel_;
     GnomeDragMonitor& drags_;
+    GnomePasteboard& pasteboard_;
     QSizeF handle_;
     QSizeF size_;
     std::size_t screen_ = 0;

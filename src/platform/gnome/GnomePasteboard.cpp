@@ -19,6 +19,9 @@ namespace {
 /// The shell, for contents that it keeps.
 constexpr quint32 shellOwner = 1;
 
+/// How long Mutter may need to see a write; then it has refused it.
+constexpr std::chrono::milliseconds maxDelay{500};
+
 Seconds uptime() {
     return std::chrono::steady_clock::now().time_since_epoch();
 }
@@ -91,6 +94,28 @@ GnomePasteboard::GnomePasteboard(Channel& channel, Transfers& transfers)
           }
       })) {
     QGuiApplication::clipboard()->blockSignals(true);
+    unconfirmed_.setSingleShot(true);
+    unconfirmed_.setInterval(maxDelay);
+    connect(&unconfirmed_, &QTimer::timeout, this, [this] {
+        if (own_) {
+            offerText();
+        }
+        written();
+    });
+}
+
+void GnomePasteboard::onceWritten(std::function<void()> callback) {
+    onceWritten_ = std::move(callback);
+    if (!unconfirmed_.isActive()) {
+        written();
+    }
+}
+
+void GnomePasteboard::written() {
+    unconfirmed_.stop();
+    if (const auto callback = std::exchange(onceWritten_, nullptr)) {
+        callback();
+    }
 }
 
 void GnomePasteboard::copied(const Copied& report) {
@@ -101,6 +126,7 @@ void GnomePasteboard::copied(const Copied& report) {
         if (!std::exchange(own_, true)) {
             ++count_; // Somebody else's copy was reported after our write, but came before it.
         }
+        written();
         return;
     }
     own_ = false;
@@ -167,21 +193,30 @@ qint64 GnomePasteboard::write(const QList<PasteboardEntry>& forms) {
     lastEnd_.reset();
     lastChange_ = uptime();
     if (QGuiApplication::focusWindow() != nullptr) {
-        auto contents = std::make_unique<QMimeData>();
-        for (const PasteboardEntry& form : forms) {
-            contents->setData(form.type, form.bytes);
-        }
-        contents->setData(QString::fromLatin1(mark()), {});
-        QGuiApplication::clipboard()->setMimeData(contents.release());
-        return count_;
+        writeByQt(forms);
+    } else {
+        offerText();
     }
+    return count_;
+}
+
+void GnomePasteboard::writeByQt(const QList<PasteboardEntry>& forms) {
+    auto contents = std::make_unique<QMimeData>();
     for (const PasteboardEntry& form : forms) {
+        contents->setData(form.type, form.bytes);
+    }
+    contents->setData(QString::fromLatin1(mark()), {});
+    QGuiApplication::clipboard()->setMimeData(contents.release());
+    unconfirmed_.start();
+}
+
+void GnomePasteboard::offerText() {
+    for (const PasteboardEntry& form : written_) {
         if (form.type == plainTextType) {
             channel_.send(offer(QString::fromUtf8(form.bytes)));
             break;
         }
     }
-    return count_;
 }
 
 /// Among the types that we offer, so that we know our last write again.

@@ -7,6 +7,7 @@
 #include "platform/gnome/Transfers.h"
 
 #include <QObject>
+#include <QTimer>
 
 #include <map>
 #include <memory>
@@ -15,7 +16,8 @@ namespace ravelo::gnome {
 
 /// The clipboard as the extension reports it. It is written through Qt while one of our windows has
 /// the focus, else, because Mutter would ignore that, by the extension, which can offer a text
-/// only. GNOME Shell itself keeps what programs had that have ended.
+/// only; also if the focus went before Mutter saw our write. GNOME Shell itself keeps what programs
+/// had that have ended.
 ///
 /// From its making on QClipboard gives no signals any more: at each change text fields would read
 /// the new contents on the main thread, and stand still with an owner that does not answer.
@@ -48,8 +50,14 @@ public:
 
     void answerSaveRequests(qint64 /*count*/, SaveAnswer /*answer*/) override {}
 
+    /// Calls back once Mutter has what was written while we had the focus; at once if it has.
+    void onceWritten(std::function<void()> callback);
+
 private:
     void copied(const Copied& report);
+    void writeByQt(const QList<PasteboardEntry>& forms);
+    void offerText();
+    void written();
     [[nodiscard]] QByteArray mark() const;
 
     Channel& channel_;
@@ -63,6 +71,8 @@ private:
     bool own_ = false; ///< The contents are what we wrote last.
     QList<PasteboardEntry> written_;
     int writes_ = 0;
+    QTimer unconfirmed_; ///< Runs while Mutter may not have our last write yet.
+    std::function<void()> onceWritten_;
     int nextKey_ = 0;
     Listeners<> changes_;
     std::shared_ptr<std::map<int, std::unique_ptr<Reading>>> readings_ =

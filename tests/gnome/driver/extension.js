@@ -73,7 +73,7 @@ class Tools {
             const window = actor.meta_window, frame = window.get_frame_rect();
             return {title: window.title, pid: window.get_pid(), focus: window.has_focus(), visible: actor.mapped,
                 frame: [frame.x, frame.y + actor.translation_y, frame.width, frame.height], fullscreen: window.is_fullscreen(),
-                above: window.is_above(), top: actor.get_parent() === global.top_window_group};
+                above: window.is_above(), workspaces: window.is_on_all_workspaces() ? 'all' : '', top: actor.get_parent() === global.top_window_group};
         });
     }
 
