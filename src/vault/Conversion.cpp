@@ -104,12 +104,16 @@ Result<void> writeKeyFile(const Vault& vault, const KeyFile& file,
 } // namespace
 
 Result<void> convertFiles(const Vault& vault, const OwnFile::Permission& mayWrite) {
+    vault.whileNobodyWrites([] {}); // Nothing is still on its way in the former form.
     for (const QString& path : storedFiles(vault.folder())) {
         if (Result<void> done = convertFile(vault, path, mayWrite); !done) {
             return done;
         }
     }
-    return removeFiles(partialFiles(vault.folder()), mayWrite);
+    Result<void> done;
+    vault.whileNobodyWrites(
+        [&] { done = removeFiles(partialFiles(vault.folder()), mayWrite); });
+    return done;
 }
 
 Result<void> beginEncryption(Vault& vault, const KeyFile& file,

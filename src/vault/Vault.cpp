@@ -25,6 +25,15 @@ FileForm formOfFile(const QString& path) {
 } // namespace
 
 Vault::Vault(QString folder) : folder_(std::move(folder)), kept_(maxKept) {
+    look();
+}
+
+void Vault::look() {
+    const std::lock_guard lock(mutex_);
+    state_ = State::plain;
+    trouble_ = Trouble::none;
+    file_.reset();
+    key_.reset();
     const FileForm store = formOfFile(folder_ + u"/store.json"_s);
     if (const auto bytes = readFile(keyPath())) {
         if (const auto file = KeyFile::decoded(*bytes)) {
@@ -127,6 +136,10 @@ std::optional<QByteArray> Vault::bytes(const QString& path) const {
                                                      : std::nullopt;
 }
 
+std::optional<QByteArray> Vault::encryptedBytes(const QString& path) const {
+    return formOfFile(path) == FileForm::plain ? std::nullopt : bytes(path);
+}
+
 Result<QByteArray> Vault::sealed(const QString& path, QByteArray bytes) const {
     const QString name = nameOf(path);
     std::shared_ptr<const StoreKey> key;
@@ -158,12 +171,18 @@ Result<void> Vault::write(const QString& path, const QByteArray& bytes,
     if (Result<void> allowed = mayWrite ? mayWrite() : Result<void>(); !allowed) {
         return allowed;
     }
+    const std::lock_guard lock(writing_);
     const Result<QByteArray> ready = sealed(path, bytes);
     if (!ready) {
         return tl::unexpected(ready.error());
     }
     makePrivateFolder(QFileInfo(path).path());
     return writeFileAtomically(path, *ready);
+}
+
+void Vault::whileNobodyWrites(const std::function<void()>& job) const {
+    const std::lock_guard lock(writing_);
+    job();
 }
 
 bool Vault::isAsWanted(FileForm form) const {

@@ -7,6 +7,7 @@
 #include <QCache>
 #include <QString>
 
+#include <functional>
 #include <memory>
 #include <mutex>
 #include <optional>
@@ -31,8 +32,10 @@ public:
         keyless  ///< The store is encrypted, but the key file is gone.
     };
 
-    /// Looks at the folder. Blocks for two small reads.
     explicit Vault(QString folder);
+
+    /// Looks at the folder again, before anything else is done. Blocks for two small reads.
+    void look();
 
     [[nodiscard]] const QString& folder() const { return folder_; }
 
@@ -67,6 +70,9 @@ public:
     /// The readable bytes of a file, or nothing.
     [[nodiscard]] std::optional<QByteArray> bytes(const QString& path) const;
 
+    /// Likewise, but nothing if the file is not encrypted.
+    [[nodiscard]] std::optional<QByteArray> encryptedBytes(const QString& path) const;
+
     /// The bytes as they are to be written to `path`. An error, for the user, if that would have to
     /// be readable by others or could never be read again.
     [[nodiscard]] Result<QByteArray> sealed(const QString& path, QByteArray bytes) const;
@@ -75,6 +81,9 @@ public:
     [[nodiscard]] Result<void> write(const QString& path, const QByteArray& bytes,
                                      const OwnFile::Permission& mayWrite) const;
 
+    /// Runs `job` while nobody writes: what is written later is as the vault wants it now.
+    void whileNobodyWrites(const std::function<void()>& job) const;
+
     /// Whether a file that starts like this is already as `sealed` would make it.
     [[nodiscard]] bool isAsWanted(FileForm form) const;
 
@@ -82,7 +91,8 @@ private:
     [[nodiscard]] QString nameOf(const QString& path) const;
 
     const QString folder_;
-    mutable std::mutex mutex_; ///< Guards the members below; held for moments only.
+    mutable std::mutex writing_; ///< Held while a file is sealed and written.
+    mutable std::mutex mutex_;   ///< Guards the members below; held for moments only.
     State state_ = State::plain;
     Trouble trouble_ = Trouble::none;
     std::optional<KeyFile> file_;
