@@ -130,7 +130,7 @@ void Store::saveEndedWith(const SaveOutcome& outcome) {
     const bool saved = outcome.kind == SaveOutcome::Kind::saved;
     if (saved && !locked_ && !waitingFiles_.isEmpty()) {
         services_.worker.run([files = std::exchange(waitingFiles_, {}),
-                              mayWrite = services_.mayWrite] { (void)removeImages(files, mayWrite); });
+                              mayWrite = services_.mayWrite] { (void)ravelo::removeImages(files, mayWrite); });
     }
     if (const auto report = std::exchange(saved_, nullptr)) {
         report(outcome);

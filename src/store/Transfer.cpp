@@ -34,8 +34,13 @@ QString clipsOf(const Vault& vault) {
 /// off snippets for which it returns false.
 template <typename Change>
 void forImages(StoreData& data, const Change& change) {
-    data.clips.removeIf(
-        [&](ClipItem& clip) { return !clip.imageFileName.isEmpty() && !change(clip.imageFileName); });
+    QList<ClipItem> kept;
+    for (ClipItem& clip : data.clips) {
+        if (clip.imageFileName.isEmpty() || change(clip.imageFileName)) {
+            kept.append(std::move(clip));
+        }
+    }
+    data.clips = std::move(kept);
     for (Snippet& snippet : data.snippets) {
         if (!snippet.imageFileName.isEmpty() && !change(snippet.imageFileName)) {
             snippet.imageFileName.clear();

@@ -20,7 +20,7 @@ TabPage {
     /// Instead of the list, unless there are clips that came since.
     readonly property bool showsLock: Vault.locked && (list.count === 0 || Vault.asked)
     /// Height of the snippets, which are hidden while locked.
-    readonly property real chipsRoom: Vault.locked ? 4 : 36
+    readonly property real chipsRoom: Vault.locked ? 0 : 36
 
     flick: list
 

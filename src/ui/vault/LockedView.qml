@@ -81,7 +81,7 @@ FocusScope {
                 placeholder: qsTr("Passphrase")
                 enabled: !Vault.busy
                 mistaken: locked.showsMistake
-                onAccepted: Vault.tryPassphrase(edited)
+                onAccepted: Vault.tryPassphrase(field.edited)
             }
             CapsuleButton {
                 objectName: "openStore"
