@@ -5,16 +5,17 @@ _ravelo() {
     local before=${COMP_WORDS[*]:1:COMP_CWORD-1}
     COMPREPLY=()
     case $before in
-    '') words='timer shelf --toggle --settings --setup --updates --status --status=json --store-usage --take-over --quit --help --version --verbose' ;;
+    '') words='timer shelf export import erase --toggle --settings --setup --updates --status --status=json --store-usage --take-over --quit --help --version --verbose' ;;
     timer) words='start stop status' ;;
     'timer status') words='--json' ;;
     shelf) words='list' ;;
     'shelf list') words='--null --json' ;;
-    timer\ * | shelf\ * | --[a-z]*) return ;;
+    erase) words='--yes' ;;
+    timer\ * | shelf\ * | erase\ * | --[a-z]*) return ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
     case $before in
-    timer* | shelf* | --[a-z]*) ;;
+    timer* | shelf* | erase* | --[a-z]*) ;;
     *)
         compopt -o filenames
         local file

@@ -6,13 +6,17 @@ end
 
 function __ravelo_takes_files
     set -l words (commandline -opc)
-    not string match -qr '^(timer|shelf|--[a-z])' -- "$words[2]"
+    not string match -qr '^(timer|shelf|erase|--[a-z])' -- "$words[2]"
 end
 
 complete -c ravelo -f
 complete -c ravelo -n __ravelo_takes_files -F
 complete -c ravelo -n __ravelo_after -a timer -d 'The focus timer'
 complete -c ravelo -n __ravelo_after -a shelf -d 'The parked files'
+complete -c ravelo -n __ravelo_after -a export -d 'Write everything into an archive'
+complete -c ravelo -n __ravelo_after -a import -d 'Add everything in an archive'
+complete -c ravelo -n __ravelo_after -a erase -d 'Remove everything for good'
+complete -c ravelo -n '__ravelo_after erase' -l yes -d 'Without asking'
 complete -c ravelo -n __ravelo_after -l toggle -d 'Open the panel, or close it'
 complete -c ravelo -n __ravelo_after -l settings -d 'Show the settings'
 complete -c ravelo -n __ravelo_after -l updates -d 'Look for a newer version'

@@ -2,6 +2,7 @@
 
 #include "app/Commands.h"
 #include "app/StatusItemController.h"
+#include "app/Transfers.h"
 #include "clipboard/ClipboardManager.h"
 #include "monitor/ClaudeEnvironment.h"
 #include "monitor/LiveContext.h"
@@ -18,14 +19,16 @@
 #include "platform/FolderChanges.h"
 #include "platform/HotZone.h"
 #include "platform/HttpsClient.h"
-#include "platform/ImageDecoder.h"
+#include "platform/Keyring.h"
 #include "platform/LoginItem.h"
 #include "platform/MotionPreference.h"
 #include "platform/NightShift.h"
 #include "platform/PackageUpdates.h"
 #include "platform/SecretStore.h"
+#include "platform/SessionLock.h"
 #include "platform/ShutDown.h"
 #include "platform/StatusItem.h"
+#include "platform/system/DecoderProcess.h"
 #include "platform/system/PreferenceFile.h"
 #include "platform/system/TerminationSignals.h"
 #include "settings/AppSettings.h"
@@ -38,6 +41,8 @@
 #include "ui/windows/SettingsWindow.h"
 #include "ui/windows/UpdateWindow.h"
 #include "updates/Updater.h"
+#include "vault/Encryption.h"
+#include "vault/Vault.h"
 
 #include <QDir>
 #include <QFile>
@@ -45,7 +50,9 @@
 #include <QLocale>
 #include <QStandardPaths>
 
+#include <algorithm>
 #include <cstdlib>
+#include <utility>
 
 namespace ravelo {
 
@@ -143,12 +150,19 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         rememberFirstStart(*platform_.preferences);
     }
     updater(std::move(platform_.packages));
-    store_ = std::make_unique<Store>(
-        Platform::dataFolder(),
-        Store::Services{*platform_.scheduler, *platform_.worker, *platform_.preferences,
-                        platform_.display->pasteboard(), *platform_.sound, *platform_.fileJobs,
-                        *platform_.copiedFiles, *platform_.jobs, platform_.decoder,
-                        platform_.mayWrite()});
+    platform_.vault->look(); // Nobody else changes the folder from now on.
+    encryption_ = std::make_unique<Encryption>(
+        Encryption::Services{*platform_.jobs, *platform_.worker, *platform_.keyring,
+                             platform_.vault, platform_.mayWrite(),
+                             [lock = platform_.dataLock.get()] { lock->followKeyFile(); }});
+    const Store::Services services{
+        *platform_.scheduler,        *platform_.worker,      *platform_.preferences,
+        platform_.display->pasteboard(), *platform_.sound,   *platform_.fileJobs,
+        *platform_.copiedFiles,      *platform_.jobs,        platform_.decoder,
+        platform_.mayWrite(),        platform_.vault};
+    store_ = std::make_unique<Store>(Platform::dataFolder(), services);
+    transfers_ = std::make_unique<Transfers>(Transfers::Services{
+        *store_, *platform_.fileJobs, platform_.decoder, platform_.mayWrite()});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
@@ -176,7 +190,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     view_->load({*store_, *settings_, *notch_, *notices_, platform_.display->pasteboard(),
                  *platform_.scheduler, *platform_.preferences, *platform_.nightShift,
                  *platform_.shutDown, planUsage(), *received_, *nearby_, *platform_.fileJobs,
-                 *platform_.opener, platform_.icons, platform_.decoder},
+                 *platform_.opener, platform_.icons, platform_.decoder, encryption_.get()},
                 QLocale());
     provideWindows();
     const auto checkUpdates = [this] {
@@ -189,9 +203,17 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         QLocale());
     commands_ = std::make_unique<Commands>(
         Commands::Services{*store_, *notch_, *platform_.scheduler, liveContext(), planUsage(),
-                           [this] { showSetup(); }, checkUpdates, quitLater});
+                           [this] { showSetup(); }, checkUpdates, quitLater,
+                           [this](const QString& path, const Commands::Reply& reply) {
+                               transfers_->exportTo(path, reply);
+                           },
+                           [this](const QString& path, const Commands::Reply& reply) {
+                               transfers_->importFrom(path, reply);
+                           },
+                           [this](const Commands::Reply& reply) { erase(reply); }});
     wire();
     wireNotices();
+    wireEncryption();
     if (!settings_->onboarded()) {
         showSetup();
     }
@@ -228,7 +250,8 @@ void AppDelegate::provideWindows() {
                                           return platform_.display->windowFrame(window);
                                       }};
     settingsWindow_ = std::make_unique<SettingsWindow>(SettingsWindow::Subjects{
-        beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get()});
+        beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get(),
+        [this] { erase([](const Answer&) {}); }});
     onboarding_ = std::make_unique<OnboardingController>(
         beside, *settings_, platform_.display->screens(), platform_.extension.get());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());
@@ -290,11 +313,15 @@ void AppDelegate::wireSettings() {
     const auto follow = [this] {
         store_->setHistoryRules({settings_->newestFirst() ? HistoryRules::Order::newerFirst
                                                           : HistoryRules::Order::olderFirst,
-                                 settings_->historyLength()});
+                                 settings_->historyLength(), settings_->keepDays() * 86400.0,
+                                 qint64(settings_->textLimit()) << 20,
+                                 qint64(settings_->imageLimit()) << 20});
         clipboard_->setTextEnds(settings_->keepTextsExactly() ? TextEnds::kept : TextEnds::trimmed);
     };
     follow();
     for (const auto changed : {&AppSettings::newestFirstChanged, &AppSettings::historyLengthChanged,
+                               &AppSettings::keepDaysChanged, &AppSettings::textLimitChanged,
+                               &AppSettings::imageLimitChanged,
                                &AppSettings::keepTextsExactlyChanged}) {
         QObject::connect(settings_.get(), changed, notch_.get(), follow);
     }
@@ -324,6 +351,7 @@ void AppDelegate::wireNotices() {
     };
     QObject::connect(store_.get(), &Store::saveEnded, notices_.get(),
                      follow(Notices::Source::store));
+    QObject::connect(store_.get(), &Store::removalEnded, notices_.get(), &Notices::deletionEnded);
     platform_.preferences->onSaved = follow(Notices::Source::preferences);
     QObject::connect(notices_.get(), &Notices::tryAgain, notices_.get(), [this] {
         store_->save();
@@ -337,6 +365,69 @@ void AppDelegate::wireNotices() {
                      [this](const TooLarge& copy) {
                          view_->features().clips->showTooLarge({measure(copy.kind), copy.amount});
                      });
+}
+
+/// The key opens the store; what waits for it is said; a locked screen can take it away.
+void AppDelegate::wireEncryption() {
+    QObject::connect(encryption_.get(), &Encryption::opened, store_.get(), &Store::unlock);
+    const auto follow = [this] {
+        const VaultView& vault = view_->features().vault;
+        const bool hasCopies = store_->isLocked() && !store_->clips().isEmpty();
+        const bool possible = vault.canUnlock() || vault.asksPassphrase();
+        notices_->setLocked(hasCopies ? vault.title() : QString(),
+                            QCoreApplication::translate("ravelo::AppDelegate", "New copies are sealed until then."),
+                            possible ? QCoreApplication::translate("ravelo::AppDelegate", "Unlock\u2026") : QString());
+    };
+    QObject::connect(encryption_.get(), &Encryption::changed, notices_.get(), follow);
+    QObject::connect(store_.get(), &Store::lockedChanged, notices_.get(), follow);
+    QObject::connect(store_.get(), &Store::clipsChanged, notices_.get(), follow);
+    QObject::connect(notices_.get(), &Notices::unlock, &view_->features().vault,
+                     &VaultView::unlock);
+    for (SessionLock* lock : locks()) {
+        lockChanges_.push_back(lock->onChange([this] { followScreenLock(); }));
+    }
+    encryption_->start();
+}
+
+void AppDelegate::followScreenLock() {
+    const auto all = locks();
+    const bool locked =
+        std::ranges::any_of(all, [](const SessionLock* lock) { return lock->isLocked(); });
+    if (locked == std::exchange(screenLocked_, locked)) {
+        return;
+    }
+    if (!locked) {
+        encryption_->getKey();
+    } else if (settings_->forgetKeyWhileLocked() &&
+               encryption_->state() == Encryption::Open) {
+        store_->lock([this] {
+            encryption_->forgetKey();
+            platform_.decoder->forgetOwn();
+            view_->features().toast.reset(); // It may offer to undo a deletion.
+        });
+    }
+}
+
+bool AppDelegate::answerLater(const QStringList& request,
+                              const std::function<void(const Answer&)>& reply) {
+    return commands_->answerLater(request, reply);
+}
+
+void AppDelegate::erase(const std::function<void(const Answer&)>& reply) {
+    store_->erase([this, reply](const Result<void>& data) {
+        platform_.preferences->erase([this, reply, data](const Result<void>& preferences) {
+            const Result<void>& done = data ? preferences : data;
+            if (!done) {
+                notices_->deletionEnded(done.error().message);
+                reply({1, {}, done.error().message});
+                return;
+            }
+            encryption_->eraseKey([reply] {
+                reply({});
+                quitLater();
+            });
+        });
+    });
 }
 
 void AppDelegate::openSettings() {

@@ -8,11 +8,14 @@
 
 #include <QStringList>
 
+#include <functional>
 #include <memory>
+#include <vector>
 
 namespace ravelo {
 
 class AppSettings;
+class Encryption;
 class ClipboardManager;
 class Commands;
 class HotZone;
@@ -29,6 +32,7 @@ class ReceivedWatcher;
 class SettingsWindow;
 class StatusItemController;
 class Store;
+class Transfers;
 class UpdateWindow;
 
 /// Creates the parts of the program in order and connects them. Everything lives until the
@@ -49,6 +53,13 @@ public:
     /// Answers a request of another instance; see Commands. After launching.
     [[nodiscard]] Answer answer(const QStringList& request, const QByteArray& activationToken);
 
+    /// See Commands.
+    [[nodiscard]] bool answerLater(const QStringList& request,
+                                   const std::function<void(const Answer&)>& reply);
+
+    /// Removes everything from the disk and quits; if something stays, reports that instead.
+    void erase(const std::function<void(const Answer&)>& reply);
+
     void openSettings();
     void showSetup();
 
@@ -65,12 +76,16 @@ private:
     void wireNotices();
     void wireSettings();
     void wirePicture();
+    void wireEncryption();
+    void followScreenLock();
 
     Platform platform_;
     std::unique_ptr<ReceivedWatcher> received_;
     std::unique_ptr<NearbySend> nearby_;
     std::unique_ptr<Notices> notices_;
+    std::unique_ptr<Encryption> encryption_;
     std::unique_ptr<Store> store_;
+    std::unique_ptr<Transfers> transfers_;
     std::unique_ptr<AppSettings> settings_;
     std::unique_ptr<ClipboardManager> clipboard_;
     std::unique_ptr<PanelView> view_;
@@ -86,6 +101,8 @@ private:
     Handle compositor_;
     Handle motion_;
     Handle termination_;
+    std::vector<Handle> lockChanges_;
+    bool screenLocked_ = false;
 };
 
 } // namespace ravelo

@@ -3,6 +3,7 @@
 #include "app/Commands.h"
 #include "app/DisplayChoice.h"
 
+#include <QDir>
 #include <QHash>
 
 namespace ravelo {
@@ -52,6 +53,21 @@ Result<Command> parseWords(const QList<QByteArray>& arguments) {
     return Commands::check(command.request).map([&] { return command; });
 }
 
+/// The running program may have another working folder.
+Result<Command> parseTransfer(const QList<QByteArray>& arguments) {
+    return parseWords(arguments).map([](Command command) {
+        command.request[1] = QDir::current().absoluteFilePath(command.request[1]);
+        return command;
+    });
+}
+
+Result<Command> parseErase(const QList<QByteArray>& arguments) {
+    return parseWords(arguments).map([](Command command) {
+        command.ifNoneRuns = IfNoneRuns::erase;
+        return command;
+    });
+}
+
 Result<Command> parseFiles(const QList<QByteArray>& arguments) {
     Command command{Kind::ask, {u"open"_s}, {}, IfNoneRuns::startAndAsk};
     bool onlyFiles = false;
@@ -81,6 +97,12 @@ Result<Command> parseCommandLine(const QList<QByteArray>& arguments) {
     if (first == "timer" || first == "shelf") {
         return parseWords(arguments);
     }
+    if (first == "export" || first == "import") {
+        return parseTransfer(arguments);
+    }
+    if (first == "erase") {
+        return parseErase(arguments);
+    }
     return first.startsWith('-') && first != "--" ? parseOption(arguments) : parseFiles(arguments);
 }
 
@@ -91,6 +113,9 @@ QString helpText() {
        ravelo timer stop
        ravelo timer status [--json]
        ravelo shelf list [--null | --json]
+       ravelo export FILE
+       ravelo import FILE
+       ravelo erase --yes
 
 Clipboard history, snippets and a quick note in a panel at the top centre of the
 screen. Move the pointer there to open it; click elsewhere to close it.
@@ -119,7 +144,7 @@ If Ravelo is already running, starting it again opens the panel.
 
   FILE...        park the files, or file:// URLs, on the shelf and show it;
                  starts Ravelo if needed. Put names that begin with a dash, and
-                 files called "timer" or "shelf", after --
+                 files called like a command, such as "timer", after --
 
 These commands need a running Ravelo:
 
@@ -134,6 +159,12 @@ These commands need a running Ravelo:
                  --null NUL-terminated; with --json one object: files, an array
                  of objects with path, stack (counted from 0) and selected, and
                  with uri if the path is not UTF-8
+  export FILE    write history, snippets, notes, drawing and shelf into a new
+                 archive (tar), which is not encrypted
+  import FILE    add everything in such an archive, or nothing
+
+  erase --yes    remove history, notes, snippets, shelf and settings from the disk
+                 for good; a running Ravelo ends. Works also if none runs
 
 The exit status is 0 on success, 1 on failure or if Ravelo is not running, and 2
 for an invalid command.

@@ -13,7 +13,7 @@ struct Command {
     enum class Kind { showHelp, showVersion, showDetails, storeUsage, ask };
     /// What to do if no Ravelo runs. `start` alone completes the request; what is asked
     /// for with `readFiles` is answered from files as far as possible.
-    enum class IfNoneRuns { fail, start, startAndAsk, readFiles };
+    enum class IfNoneRuns { fail, start, startAndAsk, readFiles, erase };
 
     Kind kind = Kind::ask;
     QStringList request;     ///< For Commands.

@@ -59,6 +59,17 @@ Result<void> files(const QStringList& arguments) {
                              .arg(maxFiles));
 }
 
+Result<void> oneFile(const QStringList& arguments) {
+    return arguments.isEmpty() ? failure(u"which file?"_s) : nothing(arguments.mid(1));
+}
+
+Result<void> confirmed(const QStringList& arguments) {
+    return arguments.value(0) == "--yes"_L1
+               ? nothing(arguments.mid(1))
+               : failure(u"this erases history, notes, snippets, shelf and settings for good: "
+                         "ravelo erase --yes"_s);
+}
+
 Result<void> lengthAndLabel(const QStringList& arguments) {
     if (arguments.isEmpty()) {
         return failure(u"a timer needs a number of minutes, like 25 or 0.5"_s);
@@ -224,10 +235,23 @@ Answer status(const Call& call) {
                         call.arguments);
 }
 
+void exportTo(const Call& call, const Commands::Reply& reply) {
+    call.services.exportTo(call.arguments.first(), reply);
+}
+
+void importFrom(const Call& call, const Commands::Reply& reply) {
+    call.services.importFrom(call.arguments.first(), reply);
+}
+
+void erase(const Call& call, const Commands::Reply& reply) {
+    call.services.erase(reply);
+}
+
 struct Row {
     QStringList words;
     Result<void> (*check)(const QStringList& arguments);
     Answer (*answer)(const Call& call);
+    void (*answerLater)(const Call& call, const Commands::Reply& reply) = nullptr;
 };
 
 std::span<const Row> allRows() {
@@ -245,6 +269,9 @@ std::span<const Row> allRows() {
         {{u"timer"_s, u"stop"_s}, nothing, stopTimer},
         {{u"timer"_s, u"status"_s}, jsonAtMost, timerStatus},
         {{u"shelf"_s, u"list"_s}, listFormatAtMost, shelfList},
+        {{u"export"_s}, oneFile, nullptr, exportTo},
+        {{u"import"_s}, oneFile, nullptr, importFrom},
+        {{u"erase"_s}, confirmed, nullptr, erase},
     };
     return rows;
 }
@@ -282,7 +309,19 @@ Answer Commands::answer(const QStringList& request, const QByteArray& activation
         return {2, {}, checked.error().message};
     }
     const Row* const row = rowFor(request);
+    if (row->answer == nullptr) {
+        return {2, {}, u"it takes time: "_s + request.first()};
+    }
     return row->answer({services_, request.mid(row->words.size()), activationToken});
+}
+
+bool Commands::answerLater(const QStringList& request, const Reply& reply) const {
+    const Row* const row = check(request) ? rowFor(request) : nullptr;
+    if (row == nullptr || row->answerLater == nullptr) {
+        return false;
+    }
+    row->answerLater({services_, request.mid(row->words.size()), {}}, reply);
+    return true;
 }
 
 } // namespace ravelo

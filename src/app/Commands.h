@@ -20,6 +20,8 @@ class Store;
 /// "status", and "open" with the absolute paths or file URLs of files to park. Main thread.
 class Commands {
 public:
+    using Reply = std::function<void(const Answer&)>;
+
     struct Services {
         Store& store;
         NotchController& notch;
@@ -29,6 +31,9 @@ public:
         std::function<void()> showSetup;
         std::function<void()> checkUpdates;
         std::function<void()> quit; ///< Not at once: the sender waits for the answer.
+        std::function<void(const QString& path, Reply)> exportTo = {};
+        std::function<void(const QString& path, Reply)> importFrom = {};
+        std::function<void(Reply)> erase = {};
     };
 
     explicit Commands(Services services);
@@ -39,6 +44,9 @@ public:
     /// For `activationToken` see PanelWindow::requestFocus.
     [[nodiscard]] Answer answer(const QStringList& request,
                                 const QByteArray& activationToken = {}) const;
+
+    /// Whether it is one of the requests that take time; those call `reply` once, later or at once.
+    [[nodiscard]] bool answerLater(const QStringList& request, const Reply& reply) const;
 
 private:
     Services services_;

@@ -14,6 +14,7 @@
 #include "platform/freedesktop/PackageKit.h"
 #include "platform/freedesktop/PortalSetting.h"
 #include "platform/freedesktop/ScreenSaverBus.h"
+#include "platform/freedesktop/SecretKeyring.h"
 #include "platform/freedesktop/SecretService.h"
 #include "platform/freedesktop/ThemeSound.h"
 #include "platform/freedesktop/TrayStatusItem.h"
@@ -39,6 +40,7 @@
 #include "platform/x11/PrepareApplication.h"
 #include "platform/x11/X11DisplayServer.h"
 #include "store/Store.h"
+#include "vault/Vault.h"
 
 #include <QCoreApplication>
 #include <QDir>
@@ -125,10 +127,12 @@ Result<void> connectGnome(Platform& platform) {
 
 void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
     platform.worker = std::make_unique<WorkerThread>();
+    platform.vault = std::make_shared<Vault>(Platform::dataFolder());
     platform.dataLock =
-        std::make_unique<DataLock>(Platform::lockFile(), Platform::dataFolder() + u"/store.json"_s);
+        std::make_unique<DataLock>(Platform::lockFile(), Platform::dataFolder() + u"/store.json"_s,
+                                   platform.vault->keyPath());
     platform.preferences = std::make_unique<PreferenceFile>(
-        configFolder() + u"/ravelo/preferences.json"_s,
+        Platform::preferenceFile(),
         PreferenceFile::Services{*platform.scheduler, *platform.worker, platform.mayWrite()});
     platform.jobs = std::make_unique<DetachedThreads>();
     platform.fileJobs = std::make_unique<DetachedThreads>(maxFileJobs);
@@ -141,7 +145,10 @@ void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
                                        renewalFolder(QFile::encodeName(QDir::homePath())));
     platform.decoder = std::make_shared<DecoderProcess>(
         QFile::encodeName(helperProgram("ravelo-decode"_L1)),
-        QFile::encodeName(Store::clipsFolder(Platform::dataFolder())));
+        QFile::encodeName(Store::clipsFolder(Platform::dataFolder())),
+        [vault = platform.vault](const QByteArray& path) {
+            return vault->encryptedBytes(QFile::decodeName(path));
+        });
     platform.programs = std::make_unique<SystemPrograms>(*platform.jobs);
     platform.folders = std::make_unique<InotifyFolderWatch>();
     platform.transcriptChanges = std::make_unique<InotifyChanges>();
@@ -159,6 +166,7 @@ void makeDesktop(Platform& platform, const QProcessEnvironment& environment) {
     platform.sound = std::make_unique<ThemeSound>();
     platform.shutDown = std::make_unique<LoginShutDown>(systemBus());
     platform.secrets = std::make_unique<SecretService>(sessionBus());
+    platform.keyring = std::make_unique<SecretKeyring>(sessionBus());
     platform.statusItem =
         std::make_unique<TrayStatusItem>(sessionBus(), *platform.trayArea, *platform.scheduler);
     platform.devices = std::make_unique<KdeConnect>(sessionBus());
@@ -226,6 +234,10 @@ QString Platform::dataFolder() {
 
 QString Platform::lockFile() {
     return dataFolder() + u"/lock"_s;
+}
+
+QString Platform::preferenceFile() {
+    return configFolder() + u"/ravelo/preferences.json"_s;
 }
 
 std::function<Result<void>()> Platform::mayWrite() const {

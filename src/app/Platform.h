@@ -29,7 +29,9 @@ class FolderWatch;
 class HotZone;
 class HttpsClient;
 class IconPreference;
+class DecoderProcess;
 class ImageDecoder;
+class Keyring;
 class LoginItem;
 class MotionPreference;
 class NearbyDevices;
@@ -44,6 +46,7 @@ class SessionLock;
 class ShutDown;
 class StatusItem;
 class TrayArea;
+class Vault;
 class Worker;
 
 /// The adapters that the program runs on in this session. This is the only place that chooses them.
@@ -62,6 +65,7 @@ struct Platform {
     /// The data folder and the lock file.
     [[nodiscard]] static QString dataFolder();
     [[nodiscard]] static QString lockFile();
+    [[nodiscard]] static QString preferenceFile();
 
     /// For data and preferences: an error once another process uses the data. Any thread.
     [[nodiscard]] std::function<Result<void>()> mayWrite() const;
@@ -89,9 +93,11 @@ struct Platform {
     std::unique_ptr<NightShift> nightShift;
     std::unique_ptr<ShutDown> shutDown;
     std::unique_ptr<SecretStore> secrets;
+    std::unique_ptr<Keyring> keyring;
+    std::shared_ptr<Vault> vault; ///< Of the data folder.
     std::unique_ptr<HttpsClient> https;
     std::unique_ptr<ChildProcess> children;
-    std::shared_ptr<ImageDecoder> decoder; ///< May still be in use after the rest is gone.
+    std::shared_ptr<DecoderProcess> decoder; ///< May still be in use after the rest is gone.
     std::unique_ptr<TrayArea> trayArea;
     std::unique_ptr<StatusItem> statusItem;
     std::unique_ptr<Programs> programs;

@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 #include "app/CommandLine.h"
 #include "app/Console.h"
+#include "app/Erasing.h"
 #include "app/FileArguments.h"
 #include "app/StatusCommands.h"
 #include "platform/freedesktop/SingleInstance.h"
@@ -12,6 +13,7 @@
 #include <QProcessEnvironment>
 
 #include <algorithm>
+#include <chrono>
 #include <csignal>
 #include <cstdio>
 #include <cstdlib>
@@ -25,6 +27,14 @@ namespace {
 
 using namespace ravelo;
 using namespace Qt::StringLiterals;
+
+constexpr std::chrono::minutes longAnswerTime{10};
+
+/// These write or read whole disks' worth of images, or ask the keyring.
+std::chrono::milliseconds answerTime(const QStringList& request) {
+    static const QStringList slow{u"export"_s, u"import"_s, u"erase"_s};
+    return slow.contains(request.value(0)) ? longAnswerTime : SingleInstance::answerTime;
+}
 
 constexpr int notRunning = 255; ///< Not a status of an answer.
 
@@ -41,9 +51,10 @@ QByteArray activationToken() {
 /// Split before printing, because names may contain line feeds.
 std::optional<Answer> askForConsole(const QStringList& request) {
     if (request != QStringList{u"shelf"_s, u"list"_s} || !printsToTerminal()) {
-        return SingleInstance::ask(request, activationToken());
+        return SingleInstance::ask(request, activationToken(), answerTime(request));
     }
-    auto answer = SingleInstance::ask(request + QStringList{u"--null"_s});
+    auto answer = SingleInstance::ask(request + QStringList{u"--null"_s}, {},
+                                      SingleInstance::answerTime);
     if (answer) {
         answer->output = harmless(answer->output, '\0').replace('\0', '\n');
     }
@@ -97,7 +108,8 @@ int run(const Command& command, char** argv) {
     const auto instance = SingleInstance::claim();
     if (!instance) {
         return report(
-            SingleInstance::ask(command.request, token).value_or(SingleInstance::silence()));
+            SingleInstance::ask(command.request, token, answerTime(command.request))
+                .value_or(SingleInstance::silence()));
     }
     auto platform = Platform::make(*display, environment);
     if (!platform) {
@@ -111,6 +123,9 @@ int run(const Command& command, char** argv) {
     }
     instance->onRequest = [&](const QStringList& request, const QByteArray& senderToken) {
         return delegate.answer(request, senderToken);
+    };
+    instance->onLongRequest = [&](const QStringList& request, const SingleInstance::Reply& reply) {
+        return delegate.answerLater(request, reply);
     };
     if (command.ifNoneRuns == Command::IfNoneRuns::startAndAsk) {
         (void)report(delegate.answer(command.request, token));
@@ -131,6 +146,10 @@ int ask(Command command, char** argv) {
                                                           : askElsewhere(command.request, argv);
     if (!status && command.ifNoneRuns == Command::IfNoneRuns::readFiles) {
         return report(statusFromFiles(command.request.mid(1)));
+    }
+    if (!status && command.ifNoneRuns == Command::IfNoneRuns::erase) {
+        const QCoreApplication application(nameAlone, argv);
+        return report(eraseEverything());
     }
     if (!status && command.ifNoneRuns == Command::IfNoneRuns::fail) {
         complain(u"not running"_s);

@@ -107,7 +107,8 @@ Result<void> syncFolder(const QByteArray& path) {
     const QByteArray folder = path.first(path.lastIndexOf('/') + 1) + '.';
     const int file = open(folder.constData(), O_RDONLY | O_DIRECTORY | O_CLOEXEC);
     if (file < 0) {
-        return errno == EACCES ? Result<void>() : lastFailure(); // Writable but not readable.
+        // Writable but not readable, or gone.
+        return errno == EACCES || errno == ENOENT ? Result<void>() : lastFailure();
     }
     const bool synced = isSynced(file);
     Result<void> done = synced ? Result<void>() : lastFailure();
@@ -181,6 +182,10 @@ Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes) {
         return done;
     }
     return syncFolder(target);
+}
+
+Result<void> syncFolderOf(const QString& path) {
+    return syncFolder(QFile::encodeName(path));
 }
 
 bool isTemporaryName(const QString& name) {

@@ -38,6 +38,10 @@ enum class Presence {
 /// thread.
 [[nodiscard]] Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes);
 
+/// Makes sure that files created in or removed from the folder of `path` are so after a power cut,
+/// too. Nothing to do if there is no such folder. Blocks; any thread.
+[[nodiscard]] Result<void> syncFolderOf(const QString& path);
+
 /// Whether `name` is a temporary file of `writeFileAtomically`, left by a program that was killed
 /// while writing.
 [[nodiscard]] bool isTemporaryName(const QString& name);

@@ -1,11 +1,11 @@
 #include "clipboard/ClipboardManager.h"
 
-#include "base/Files.h"
 #include "base/Scheduler.h"
 #include "clipboard/FileForms.h"
 #include "platform/DetachedJobs.h"
 #include "store/ImageFiles.h"
 #include "store/Store.h"
+#include "vault/Vault.h"
 
 #include <QUrl>
 
@@ -20,8 +20,8 @@ constexpr Seconds pollInterval{0.5};
 constexpr QLatin1StringView pngType("image/png");
 
 /// Not for the main thread.
-QList<PasteboardEntry> imageForms(const QString& path) {
-    const auto bytes = readFile(path);
+QList<PasteboardEntry> imageForms(const Vault& vault, const QString& path) {
+    const auto bytes = vault.bytes(path);
     return bytes && isPng(*bytes) ? QList<PasteboardEntry>{{pngType, *bytes}}
                                   : QList<PasteboardEntry>();
 }
@@ -247,7 +247,7 @@ const ClipItem* ClipboardManager::find(const QUuid& clip) const {
 
 Handle ClipboardManager::readImage(const QString& path, std::function<void(const Forms&)> done) {
     const auto forms = std::make_shared<Forms>();
-    return jobs_.run([path, forms] { *forms = imageForms(path); },
+    return jobs_.run([vault = store_.vault(), path, forms] { *forms = imageForms(*vault, path); },
                      [forms, done = std::move(done)] { done(*forms); });
 }
 

@@ -49,9 +49,21 @@ void Notices::putAside(Source source, const QString& path) {
     update();
 }
 
+void Notices::deletionEnded(const QString& problem) {
+    notDeleted_ = problem;
+    update();
+}
+
+void Notices::setLocked(const QString& lead, const QString& rest, const QString& action) {
+    locked_ = lead.isEmpty() ? Notice() : Notice{Locked, lead, rest, action};
+    update();
+}
+
 void Notices::act() {
     if (shown_.kind == SavingFails) {
         Q_EMIT tryAgain();
+    } else if (shown_.kind == Locked) {
+        Q_EMIT unlock();
     } else if (shown_.kind == PutAside) {
         const QString path = aside_.begin()->second;
         dismiss();
@@ -60,10 +72,12 @@ void Notices::act() {
 }
 
 void Notices::dismiss() {
-    if (dismissible()) {
+    if (shown_.kind == NotDeleted) {
+        notDeleted_.clear();
+    } else if (shown_.kind == PutAside) {
         aside_.erase(aside_.begin());
-        update();
     }
+    update();
 }
 
 void Notices::update() {
@@ -99,8 +113,14 @@ Notices::Notice Notices::worst() const {
         (failure->retry == Retry::no || scheduler_.uptime() - failure->since >= minute)) {
         return failing(*failure);
     }
+    if (!notDeleted_.isEmpty()) {
+        return {NotDeleted, u"Not deleted from the disk:"_s, notDeleted_ + u'.', {}};
+    }
     if (savedAgain_) {
         return {SavedAgain, u"Saved again."_s, {}, {}};
+    }
+    if (locked_.kind == Locked) {
+        return locked_;
     }
     return aside_.empty() ? Notice() : fileAside(aside_.begin()->first, aside_.begin()->second);
 }

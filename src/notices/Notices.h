@@ -22,7 +22,7 @@ class Notices : public QObject {
 public:
     /// The worst first.
     // NOLINTNEXTLINE(readability-identifier-naming): QML demands capitals.
-    enum Kind { SavingFails, SavedAgain, PutAside, None };
+    enum Kind { SavingFails, NotDeleted, SavedAgain, Locked, PutAside, None };
     Q_ENUM(Kind)
 
     /// Whose file it is about.
@@ -42,6 +42,14 @@ public:
     /// the folder.
     void putAside(Source source, const QString& path);
 
+    /// Files of deleted records are still on the disk, for this reason; an empty one ends it. Shown
+    /// until the user dismisses it or a later deletion succeeds.
+    void deletionEnded(const QString& problem);
+
+    /// The store is locked, and something came since: what it waits for, what that means, and how
+    /// to end it. An empty `lead` ends it.
+    void setLocked(const QString& lead, const QString& rest, const QString& action);
+
     /// What is shown now.
     [[nodiscard]] Kind kind() const { return shown_.kind; }
 
@@ -51,7 +59,9 @@ public:
 
     [[nodiscard]] QString action() const { return shown_.action; }
 
-    [[nodiscard]] bool dismissible() const { return shown_.kind == PutAside; }
+    [[nodiscard]] bool dismissible() const {
+        return shown_.kind == PutAside || shown_.kind == NotDeleted;
+    }
 
     Q_INVOKABLE void act();
     /// Does nothing if the notice cannot be dismissed.
@@ -61,6 +71,7 @@ Q_SIGNALS:
     void changed();
     void tryAgain();                      ///< Save whatever failed.
     void openFolder(const QString& path); ///< Show the file in its folder.
+    void unlock();
 
 private:
     struct Notice {
@@ -88,6 +99,8 @@ private:
     Scheduler& scheduler_;
     std::map<Source, Failure> failures_;
     std::map<Source, QString> aside_;
+    QString notDeleted_;
+    Notice locked_;
     Notice shown_;
     Handle nextMinute_;
     Handle savedAgain_; ///< Set while "Saved again." is shown.

@@ -26,6 +26,16 @@ int knownLength(const QJsonValue& value) {
     return std::ranges::find(known, length) != known.end() ? length : known.front();
 }
 
+int knownDays(const QJsonValue& value) {
+    constexpr std::array known{0, 1, 7, 30};
+    const int days = value.toInt(0);
+    return std::ranges::find(known, days) != known.end() ? days : 0;
+}
+
+int knownMegabytes(const QJsonValue& value) {
+    return std::clamp(value.toInt(0), 0, 1 << 20);
+}
+
 } // namespace
 
 // QJsonValue's getters return the default for missing values and other types.
@@ -42,6 +52,10 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       newestFirst_(preferences.value(u"newestFirst"_s).toBool(false)),
       historyLength_(knownLength(preferences.value(u"historyLength"_s))),
       keepTextsExactly_(preferences.value(u"keepTextsExactly"_s).toBool(false)),
+      keepDays_(knownDays(preferences.value(u"keepDays"_s))),
+      textLimit_(knownMegabytes(preferences.value(u"textLimit"_s))),
+      imageLimit_(knownMegabytes(preferences.value(u"imageLimit"_s))),
+      forgetKeyWhileLocked_(preferences.value(u"forgetKeyWhileLocked"_s).toBool(false)),
       hideClaudeCode_(preferences.value(u"hideClaudeCode"_s).toBool(false)),
       onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
       launchAtLogin_(loginItem.isEnabled()) {}
@@ -84,6 +98,22 @@ int AppSettings::historyLength() const {
 
 bool AppSettings::keepTextsExactly() const {
     return keepTextsExactly_;
+}
+
+int AppSettings::keepDays() const {
+    return keepDays_;
+}
+
+int AppSettings::textLimit() const {
+    return textLimit_;
+}
+
+int AppSettings::imageLimit() const {
+    return imageLimit_;
+}
+
+bool AppSettings::forgetKeyWhileLocked() const {
+    return forgetKeyWhileLocked_;
 }
 
 bool AppSettings::hideClaudeCode() const {
@@ -156,6 +186,26 @@ void AppSettings::setHistoryLength(int clips) {
 void AppSettings::setKeepTextsExactly(bool on) {
     preferences_.set(u"keepTextsExactly"_s, on);
     change(keepTextsExactly_, on, &AppSettings::keepTextsExactlyChanged);
+}
+
+void AppSettings::setKeepDays(int days) {
+    preferences_.set(u"keepDays"_s, days);
+    change(keepDays_, knownDays(days), &AppSettings::keepDaysChanged);
+}
+
+void AppSettings::setTextLimit(int megabytes) {
+    preferences_.set(u"textLimit"_s, megabytes);
+    change(textLimit_, knownMegabytes(megabytes), &AppSettings::textLimitChanged);
+}
+
+void AppSettings::setImageLimit(int megabytes) {
+    preferences_.set(u"imageLimit"_s, megabytes);
+    change(imageLimit_, knownMegabytes(megabytes), &AppSettings::imageLimitChanged);
+}
+
+void AppSettings::setForgetKeyWhileLocked(bool on) {
+    preferences_.set(u"forgetKeyWhileLocked"_s, on);
+    change(forgetKeyWhileLocked_, on, &AppSettings::forgetKeyWhileLockedChanged);
 }
 
 void AppSettings::setHideClaudeCode(bool on) {

@@ -27,6 +27,11 @@ class AppSettings : public QObject {
         int historyLength READ historyLength WRITE setHistoryLength NOTIFY historyLengthChanged)
     Q_PROPERTY(bool keepTextsExactly READ keepTextsExactly WRITE setKeepTextsExactly NOTIFY
                    keepTextsExactlyChanged)
+    Q_PROPERTY(int keepDays READ keepDays WRITE setKeepDays NOTIFY keepDaysChanged)
+    Q_PROPERTY(int textLimit READ textLimit WRITE setTextLimit NOTIFY textLimitChanged)
+    Q_PROPERTY(int imageLimit READ imageLimit WRITE setImageLimit NOTIFY imageLimitChanged)
+    Q_PROPERTY(bool forgetKeyWhileLocked READ forgetKeyWhileLocked WRITE setForgetKeyWhileLocked
+                   NOTIFY forgetKeyWhileLockedChanged)
     Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
                    hideClaudeCodeChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
@@ -50,6 +55,13 @@ public:
     [[nodiscard]] int historyLength() const;
     /// Copied texts keep white space at their ends.
     [[nodiscard]] bool keepTextsExactly() const;
+    /// How long unpinned clips are kept: 30, 7 or 1; 0 for ever. Any other number counts as absent.
+    [[nodiscard]] int keepDays() const;
+    /// Of all texts and of all images together, in MB; 0 for none.
+    [[nodiscard]] int textLimit() const;
+    [[nodiscard]] int imageLimit() const;
+    /// Of the encrypted store, while the screen is locked.
+    [[nodiscard]] bool forgetKeyWhileLocked() const;
     /// Hides Claude Code's usage if it is not installed.
     [[nodiscard]] bool hideClaudeCode() const;
     [[nodiscard]] bool onboarded() const;
@@ -65,6 +77,10 @@ public:
     void setNewestFirst(bool on);
     void setHistoryLength(int clips);
     void setKeepTextsExactly(bool on);
+    void setKeepDays(int days);
+    void setTextLimit(int megabytes);
+    void setImageLimit(int megabytes);
+    void setForgetKeyWhileLocked(bool on);
     void setHideClaudeCode(bool on);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
@@ -90,6 +106,10 @@ Q_SIGNALS:
     void newestFirstChanged();
     void historyLengthChanged();
     void keepTextsExactlyChanged();
+    void keepDaysChanged();
+    void textLimitChanged();
+    void imageLimitChanged();
+    void forgetKeyWhileLockedChanged();
     void hideClaudeCodeChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
@@ -112,6 +132,10 @@ private:
     bool newestFirst_;
     int historyLength_;
     bool keepTextsExactly_;
+    int keepDays_;
+    int textLimit_;
+    int imageLimit_;
+    bool forgetKeyWhileLocked_;
     bool hideClaudeCode_;
     bool onboarded_;
     bool launchAtLogin_;

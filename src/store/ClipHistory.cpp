@@ -2,6 +2,7 @@
 
 #include "store/Deleted.h"
 
+#include <QSet>
 #include <QUrl>
 
 #include <algorithm>
@@ -13,6 +14,17 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Bytes in UTF-8, without converting it.
+qint64 utf8Size(QStringView text) {
+    qint64 size = 0;
+    for (const QChar unit : text) {
+        const ushort code = unit.unicode();
+        // A surrogate is half of four bytes.
+        size += code < 0x80 ? 1 : code < 0x800 || unit.isSurrogate() ? 2 : 3;
+    }
+    return size;
+}
 
 bool isLink(const QString& trimmed) {
     // QUrl would also reject blanks, but takes 15 ms for the largest texts.
@@ -36,6 +48,39 @@ QStringList remove(QList<ClipItem>& clips, Predicate isDoomed) {
         return doomed;
     });
     return images;
+}
+
+qint64 sizeOf(const ClipItem& clip, const ImageSizes& sizes) {
+    return clip.kind == ClipKind::image ? sizes.value(clip.imageFileName) : utf8Size(clip.text);
+}
+
+/// The oldest unpinned clips that have to go until the rest has at most `limit` bytes.
+template <typename Size>
+QSet<QUuid> surplusOf(const QList<ClipItem>& clips, qint64 limit, const Size& size) {
+    QSet<QUuid> surplus;
+    qint64 all = 0;
+    for (const ClipItem& clip : clips) {
+        all += limit > 0 ? size(clip) : 0;
+    }
+    if (all <= limit) {
+        return surplus;
+    }
+    QList<const ClipItem*> byAge;
+    for (const ClipItem& clip : clips) {
+        if (!clip.pinned && size(clip) > 0) {
+            byAge.append(&clip);
+        }
+    }
+    std::ranges::stable_sort(byAge, {},
+                             [](const ClipItem* clip) { return clip->date.sinceReference; });
+    for (const ClipItem* clip : byAge) {
+        if (all <= limit) {
+            break;
+        }
+        all -= size(*clip);
+        surplus.insert(clip->id);
+    }
+    return surplus;
 }
 
 QStringList enforceLimit(QList<ClipItem>& clips, int limit) {
@@ -123,6 +168,83 @@ std::optional<ClipChange> ClipHistory::restored(QList<ClipItem> clips, const Cli
     }
     clips.insert(placeFor(clip.id, order, clips), clip);
     return ClipChange{std::move(clips), {}};
+}
+
+std::optional<ClipChange> ClipHistory::trimmed(QList<ClipItem> clips, Date now,
+                                               const HistoryRules& rules,
+                                               const ImageSizes& sizes) {
+    const qsizetype before = clips.size();
+    QStringList orphans = remove(clips, [&](const ClipItem& clip) {
+        return !clip.pinned && rules.keepFor > 0 &&
+               now.sinceReference - clip.date.sinceReference >= rules.keepFor;
+    });
+    for (const bool images : {false, true}) {
+        const auto size = [&](const ClipItem& clip) {
+            return (clip.kind == ClipKind::image) == images ? sizeOf(clip, sizes) : 0;
+        };
+        const QSet<QUuid> surplus =
+            surplusOf(clips, images ? rules.imageBytes : rules.textBytes, size);
+        orphans +=
+            remove(clips, [&](const ClipItem& clip) { return surplus.contains(clip.id); });
+    }
+    if (clips.size() == before) {
+        return std::nullopt;
+    }
+    return ClipChange{std::move(clips), std::move(orphans)};
+}
+
+qint64 ClipHistory::textBytes(const QList<ClipItem>& clips) {
+    qint64 size = 0;
+    for (const ClipItem& clip : clips) {
+        size += clip.kind == ClipKind::image ? 0 : utf8Size(clip.text);
+    }
+    return size;
+}
+
+ClipChange ClipHistory::merged(QList<ClipItem> clips, QList<ClipItem> others,
+                               const HistoryRules& rules) {
+    std::ranges::stable_sort(others, {},
+                             [](const ClipItem& clip) { return clip.date.sinceReference; });
+    for (const ClipItem& other : others) {
+        const auto same = [&other](const ClipItem& clip) {
+            return clip.id == other.id;
+        };
+        if (std::ranges::any_of(std::as_const(clips), same)) {
+            continue;
+        }
+        if (other.kind != ClipKind::image) {
+            clips.removeIf([&](const ClipItem& clip) {
+                return !clip.pinned && clip.kind != ClipKind::image && clip.text == other.text;
+            });
+        }
+        clips.prepend(other);
+    }
+    QStringList orphans = enforceLimit(clips, rules.limit);
+    return {std::move(clips), std::move(orphans)};
+}
+
+QList<ClipItem> ClipHistory::joined(QList<ClipItem> clips, const QList<ClipItem>& others) {
+    clips += others;
+    std::ranges::stable_sort(clips, std::greater<>(), [](const ClipItem& clip) {
+        return std::pair(clip.pinned, clip.date.sinceReference);
+    });
+    QSet<QString> seen;
+    clips.removeIf([&seen](const ClipItem& clip) {
+        const bool isText = !clip.pinned && clip.kind != ClipKind::image;
+        const bool again = isText && seen.contains(clip.text);
+        if (isText) {
+            seen.insert(clip.text);
+        }
+        return again;
+    });
+    return clips;
+}
+
+ClipChange ClipHistory::clearedSince(QList<ClipItem> clips, Date since) {
+    QStringList orphans = remove(clips, [since](const ClipItem& clip) {
+        return !clip.pinned && clip.date.sinceReference >= since.sinceReference;
+    });
+    return {std::move(clips), std::move(orphans)};
 }
 
 ClipChange ClipHistory::cleared(QList<ClipItem> clips) {

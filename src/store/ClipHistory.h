@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/ImageFiles.h"
 #include "store/Records.h"
 
 #include <optional>
@@ -19,6 +20,9 @@ struct HistoryRules {
 
     Order order = Order::olderFirst;
     int limit = 60; ///< Of unpinned clips; pinned ones are always kept.
+    double keepFor = 0;    ///< Seconds since the copy; 0 for ever.
+    qint64 textBytes = 0;  ///< Of all texts together, in UTF-8; 0 for no limit.
+    qint64 imageBytes = 0; ///< Of all image files together; 0 for no limit.
 
     friend bool operator==(const HistoryRules&, const HistoryRules&) = default;
 };
@@ -50,6 +54,26 @@ struct ClipHistory {
     /// text was copied again meanwhile. The limit applies only with the next copy.
     [[nodiscard]] static std::optional<ClipChange>
     restored(QList<ClipItem> clips, const ClipItem& clip, const QList<QUuid>& order);
+
+    /// Removes unpinned clips that are too old, then the oldest beyond the limits of size. A pinned
+    /// clip counts, but stays. `sizes` are those of image files.
+    [[nodiscard]] static std::optional<ClipChange>
+    trimmed(QList<ClipItem> clips, Date now, const HistoryRules& rules, const ImageSizes& sizes);
+
+    /// Of all texts, in UTF-8.
+    [[nodiscard]] static qint64 textBytes(const QList<ClipItem>& clips);
+
+    /// Adds clips of another list as if they were copied now, the oldest first, with their dates
+    /// and ids. Those that are there already, by id, stay as they are.
+    [[nodiscard]] static ClipChange merged(QList<ClipItem> clips, QList<ClipItem> others,
+                                           const HistoryRules& rules);
+
+    /// Both lists, each group by date, newest first; of two unpinned clips of one text the newer.
+    [[nodiscard]] static QList<ClipItem> joined(QList<ClipItem> clips,
+                                                const QList<ClipItem>& others);
+
+    /// Removes the unpinned clips that were copied at `since` or later.
+    [[nodiscard]] static ClipChange clearedSince(QList<ClipItem> clips, Date since);
 
     /// Only the pinned clips stay.
     [[nodiscard]] static ClipChange cleared(QList<ClipItem> clips);

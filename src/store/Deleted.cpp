@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "store/ImageFiles.h"
+#include "vault/Vault.h"
 
 #include <QFile>
 #include <QFileInfo>
@@ -35,13 +36,14 @@ qint64 sizeOf(const DeletedRecord& record) {
 
 } // namespace
 
-void Deleted::add(const QList<DeletedRecord>& records, const QString& folder) {
+void Deleted::add(const QList<DeletedRecord>& records, const QString& folder,
+                  const Vault& vault) {
     for (DeletedRecord record : records) {
         const QString path = imagePath(record, folder);
         const bool hasImage = !path.isEmpty() && isRegularFile(QFile::encodeName(path));
         const qint64 size = sizeOf(record) + (hasImage ? QFileInfo(path).size() : 0);
         if (hasImage && size <= limit) {
-            record.png = readFile(path);
+            record.png = vault.bytes(path);
         }
         if (size > limit || (hasImage && !record.png)) {
             someLost_ = true;
@@ -56,7 +58,8 @@ void Deleted::add(const QList<DeletedRecord>& records, const QString& folder) {
     }
 }
 
-Deleted::Restorable Deleted::restore(const QString& folder, const OwnFile::Permission& mayWrite) {
+Deleted::Restorable Deleted::restore(const QString& folder, const Vault& vault,
+                                     const OwnFile::Permission& mayWrite) {
     Restorable all;
     if (std::exchange(someLost_, false)) {
         all.problem = u"too large to keep in memory"_s;
@@ -65,7 +68,7 @@ Deleted::Restorable Deleted::restore(const QString& folder, const OwnFile::Permi
         DeletedRecord record = records.takeLast();
         const qint64 size = sizeOf(record);
         if (record.png) {
-            const auto written = writeImage(imagePath(record, folder), *record.png, mayWrite);
+            const auto written = writeImage(vault, imagePath(record, folder), *record.png, mayWrite);
             if (!written) {
                 all.problem = written.error().message;
                 all.someStay = true;

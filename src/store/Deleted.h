@@ -13,6 +13,8 @@
 
 namespace ravelo {
 
+class Vault;
+
 /// A record that was deleted.
 struct DeletedRecord {
     std::variant<ClipItem, Snippet> record;
@@ -76,7 +78,7 @@ public:
     static constexpr qint64 limit = qint64(64) << 20;
 
     /// Reads the images of the records from `folder`. The last record is dropped last.
-    void add(const QList<DeletedRecord>& records, const QString& folder);
+    void add(const QList<DeletedRecord>& records, const QString& folder, const Vault& vault);
 
     struct Restorable {
         QList<DeletedRecord> records; ///< In the order to put them back.
@@ -85,7 +87,8 @@ public:
     };
 
     /// Returns the records whose images are written to `folder` again; the others stay.
-    [[nodiscard]] Restorable restore(const QString& folder, const OwnFile::Permission& mayWrite);
+    [[nodiscard]] Restorable restore(const QString& folder, const Vault& vault,
+                                     const OwnFile::Permission& mayWrite);
 
 private:
     QList<DeletedRecord> records_;

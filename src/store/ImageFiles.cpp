@@ -3,6 +3,7 @@
 #include "base/Files.h"
 #include "base/Uuid.h"
 #include "decode/Formats.h"
+#include "vault/Vault.h"
 
 #include <QDateTime>
 #include <QDir>
@@ -41,22 +42,34 @@ bool isPng(QByteArrayView bytes) {
     return decode::formatOf(bytes) == decode::Format::png;
 }
 
-Result<void> writeImage(const QString& path, const QByteArray& png,
+Result<void> writeImage(const Vault& vault, const QString& path, const QByteArray& png,
                         const OwnFile::Permission& mayWrite) {
-    if (png.isEmpty()) {
-        return failure(u"there is no image"_s);
-    }
-    if (const Result<void> allowed = mayWrite ? mayWrite() : Result<void>(); !allowed) {
-        return allowed;
-    }
-    makePrivateFolder(QFileInfo(path).path());
-    return writeFileAtomically(path, png);
+    return png.isEmpty() ? failure(u"there is no image"_s) : vault.write(path, png, mayWrite);
 }
 
-void removeImage(const QString& path, const OwnFile::Permission& mayWrite) {
-    if (isAllowed(mayWrite)) {
-        QFile::remove(path);
+Result<void> removeImages(const QStringList& paths, const OwnFile::Permission& mayWrite) {
+    if (paths.isEmpty()) {
+        return {};
     }
+    if (Result<void> allowed = mayWrite ? mayWrite() : Result<void>(); !allowed) {
+        return allowed;
+    }
+    Result<void> done;
+    for (const QString& path : paths) {
+        if (!QFile::remove(path) && QFileInfo(path).isFile()) {
+            done = failure(u"%1 could not be removed"_s.arg(QFileInfo(path).fileName()));
+        }
+    }
+    const Result<void> synced = syncFolderOf(paths.first());
+    return done ? synced : done;
+}
+
+ImageSizes imageSizes(const QString& clipsFolder) {
+    ImageSizes sizes;
+    for (const QFileInfo& file : QDir(clipsFolder).entryInfoList(QDir::Files | QDir::NoSymLinks)) {
+        sizes.insert(file.fileName(), file.size());
+    }
+    return sizes;
 }
 
 QSet<QString> imageNames(const StoreData& data) {
@@ -101,6 +114,25 @@ void removeOrphanedImages(const QString& folder, const QSet<QString>& named, Dat
     for (const QString& name : orphanedImages(found, named, now)) {
         QFile::remove(clips.filePath(name));
     }
+}
+
+Result<void> removeLeftovers(const QString& folder, const QSet<QString>& named,
+                             const OwnFile::Permission& mayWrite) {
+    constexpr auto files = QDir::Files | QDir::Hidden | QDir::System;
+    QStringList beside;
+    for (const QFileInfo& file : QDir(folder).entryInfoList({u"store.json.*"_s}, files)) {
+        beside.append(file.filePath());
+    }
+    QStringList images;
+    for (const QFileInfo& file : QDir(folder + u"/clips"_s).entryInfoList(files)) {
+        const QString name = file.fileName();
+        if (isImageName(replacedBy(name)) || (isImageName(name) && !named.contains(name))) {
+            images.append(file.filePath());
+        }
+    }
+    const Result<void> done = removeImages(images, mayWrite);
+    const Result<void> others = removeImages(beside, mayWrite);
+    return done ? others : done;
 }
 
 } // namespace ravelo

@@ -5,11 +5,14 @@
 #include "store/Records.h"
 
 #include <QByteArrayView>
+#include <QHash>
 #include <QList>
 #include <QSet>
 #include <QString>
 
 namespace ravelo {
+
+class Vault;
 
 // The image files of the clips folder. All functions block unless they say otherwise: for the
 // worker.
@@ -19,10 +22,18 @@ namespace ravelo {
 
 /// Writes an image as PNG and creates a missing folder. An error, fit for the user, if there is no
 /// image or it could not be written.
-[[nodiscard]] Result<void> writeImage(const QString& path, const QByteArray& png,
-                                      const OwnFile::Permission& mayWrite);
+[[nodiscard]] Result<void> writeImage(const Vault& vault, const QString& path,
+                                      const QByteArray& png, const OwnFile::Permission& mayWrite);
 
-void removeImage(const QString& path, const OwnFile::Permission& mayWrite);
+/// Deletes these files of one folder and syncs it. An error, fit for the user, if one is still
+/// there.
+[[nodiscard]] Result<void> removeImages(const QStringList& paths,
+                                        const OwnFile::Permission& mayWrite);
+
+/// Sizes in bytes, by name.
+using ImageSizes = QHash<QString, qint64>;
+
+[[nodiscard]] ImageSizes imageSizes(const QString& clipsFolder);
 
 /// The names of all images of clips and snippets. Any thread.
 [[nodiscard]] QSet<QString> imageNames(const StoreData& data);
@@ -42,5 +53,11 @@ struct FoundImage {
 /// nothing while an unreadable store is kept beside it: that one may name them.
 void removeOrphanedImages(const QString& folder, const QSet<QString>& named, Date now,
                           const OwnFile::Permission& mayWrite);
+
+/// Deletes what a cleared history may have left: all images that are not in `named`, stores that
+/// were put aside, and what killed saves left. Syncs. An error, fit for the user, if something is
+/// still there.
+[[nodiscard]] Result<void> removeLeftovers(const QString& folder, const QSet<QString>& named,
+                                           const OwnFile::Permission& mayWrite);
 
 } // namespace ravelo

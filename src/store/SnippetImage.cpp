@@ -115,14 +115,15 @@ private:
 
     void write(const QByteArray& png) {
         const auto written = std::make_shared<bool>(false);
-        auto job = [path = path_, png, written, mayWrite = services_.mayWrite] {
-            *written = writeImage(path, png, mayWrite).has_value();
+        auto job = [vault = services_.vault, path = path_, png, written,
+                    mayWrite = services_.mayWrite] {
+            *written = writeImage(*vault, path, png, mayWrite).has_value();
         };
         services_.worker.run(std::move(job), [self = shared_from_this(), written] {
             if (!self->done_) {
                 self->services_.worker.run(
                     [path = self->path_, mayWrite = self->services_.mayWrite] {
-                        removeImage(path, mayWrite);
+                        (void)removeImages({path}, mayWrite);
                     });
             } else {
                 self->finish(*written);

@@ -13,6 +13,7 @@
 #include "store/PasteboardImage.h"
 #include "store/Seeds.h"
 #include "store/SnippetImage.h"
+#include "vault/Vault.h"
 
 #include <QDir>
 #include <QFile>
@@ -20,6 +21,8 @@
 #include <QPointer>
 
 #include <algorithm>
+#include <cmath>
+#include <limits>
 #include <memory>
 #include <utility>
 
@@ -33,29 +36,30 @@ QString newImageFileName() {
     return uuidText(QUuid::createUuid()) + u".png"_s;
 }
 
+StoreServices withVault(StoreServices services, const QString& folder) {
+    if (!services.vault) {
+        services.vault = std::make_shared<Vault>(folder);
+    }
+    return services;
+}
+
 } // namespace
 
 Store::Store(const QString& folder, Services services)
-    : services_(services),
+    : services_(withVault(services, QDir(folder).absolutePath())),
+      locked_(services_.vault->state() == Vault::State::locked),
       folder_(QDir(folder).absolutePath()),
-      saver_(services.scheduler, services.worker,
-             [this] {
-                 return StoreSaver::Contents{data_, shelf_.stacks};
-             }),
+      saver_(services.scheduler, services.worker, services_.vault, [this] { return contents(); }),
       captures_({services.scheduler, services.worker, services.copiedFiles, services.conversions}),
       look_(services.jobs, services.scheduler),
       countdown_(services.scheduler, services.sound),
       reminders_(Reminders::load(services.preferences)) {
-    connect(&saver_, &StoreSaver::ended, this, &Store::saveEnded);
+    connect(&saver_, &StoreSaver::ended, this, &Store::saveEndedWith);
     connect(&countdown_, &Countdown::ended, this, &Store::timerEnded);
     connect(&countdown_, &Countdown::changed, this, [this] { notify(&Store::timerChanged); });
     makePrivateFolder(folder_);
     makePrivateFolder(clipsDir());
     load();
-    if (data_.snippets.isEmpty()) {
-        data_.snippets = seedSnippets();
-    }
-    addLinkSnippetsIfNeeded();
 }
 
 Store::~Store() = default;
@@ -101,23 +105,6 @@ void Store::setNote(const QString& note) {
     }
 }
 
-void Store::load() {
-    auto saved = saver_.load(fileURL(), services_.mayWrite);
-    if (!saved) {
-        return;
-    }
-    data_ = std::move(saved->data);
-    shelf_.stacks = std::move(saved->shelf);
-    save();
-    if (!shelf_.stacks.isEmpty()) {
-        parkedMeanwhile_.emplace();
-        look_.look(shelf_.files(), [this](const FileLook::Found& found) { dropGone(found); });
-    }
-    services_.worker.run(
-        [folder = folder_, named = imageNames(data_), now = services_.scheduler.now(),
-         mayWrite = services_.mayWrite] { removeOrphanedImages(folder, named, now, mayWrite); });
-}
-
 void Store::dropGone(const FileLook::Found& found) {
     QSet<QUrl> gone;
     for (const auto& [file, presence] : found.asKeyValueRange()) {
@@ -129,17 +116,9 @@ void Store::dropGone(const FileLook::Found& found) {
     setShelf(shelf_.removed(gone));
 }
 
-void Store::addLinkSnippetsIfNeeded() {
-    const QString key = u"seededSiteLinksV1"_s;
-    if (services_.preferences.value(key).isUndefined()) {
-        services_.preferences.set(key, true);
-        data_.snippets.append(linkSnippets());
-        save();
-    }
-}
-
 void Store::setHistoryRules(const HistoryRules& rules) {
     rules_ = rules;
+    trimLater();
     if (rules.order == HistoryRules::Order::newerFirst) {
         apply(ClipHistory::newerFirst(data_.clips));
     }
@@ -149,6 +128,7 @@ void Store::addClip(const QString& text, Kept kept) {
     auto add = [this, text, kept = std::move(kept), now = services_.scheduler.now()] {
         apply(ClipHistory::added(data_.clips, text, now, rules_));
         reportKept(text, kept);
+        trim();
     };
     if (captures_.isEmpty()) {
         add();
@@ -162,25 +142,34 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
         KeptImage image;
         bool decoded = false;
         bool written = false;
+        qint64 size = 0;
     };
 
     const QString name = newImageFileName();
+    lentImages_.insert(name);
     const auto outcome = std::make_shared<Outcome>();
     auto convert = [contents, outcome, decoder = services_.decoder](const CopiedContents& file) {
         outcome->image = imageToKeep(contents, file, *decoder);
     };
-    auto write = [path = imagePath(name), outcome, mayWrite = services_.mayWrite] {
+    auto write = [vault = services_.vault, path = imagePath(name), outcome,
+                  mayWrite = services_.mayWrite] {
         outcome->decoded = !outcome->image.png.isEmpty();
-        outcome->written = writeImage(path, outcome->image.png, mayWrite).has_value();
+        outcome->size = outcome->image.png.size();
+        outcome->written = writeImage(*vault, path, outcome->image.png, mayWrite).has_value();
         outcome->image.png.clear();
     };
     auto add = [this, name, outcome, kept = std::move(kept), refused = std::move(refused),
                 now = services_.scheduler.now()] {
+        lentImages_.remove(name);
         if (outcome->written) {
-            apply(ClipHistory::imageAdded(data_.clips, name, now, rules_));
+            imageSizes_.insert(name, outcome->size);
+            ClipChange change = ClipHistory::imageAdded(data_.clips, name, now, rules_);
+            const QUuid id = change.clips.front().id;
+            apply(std::move(change));
             if (kept) {
-                kept(data_.clips.front().id);
+                kept(id);
             }
+            trim();
         } else if (refused) {
             const auto& tooLarge = outcome->image.tooLarge;
             refused({tooLarge           ? Refusal::Cause::tooLarge
@@ -286,7 +275,10 @@ void Store::requestShelf() {
 
 Handle Store::saveClipboardImageForSnippet(std::function<void(QString)> done) {
     const QString name = newImageFileName();
-    return saveSnippetImage(services_, imagePath(name), [name, done = std::move(done)](bool saved) {
+    return saveSnippetImage(services_, imagePath(name), [this, name, done = std::move(done)](bool saved) {
+        if (saved) {
+            lentImages_.insert(name);
+        }
         done(saved ? name : QString());
     });
 }
@@ -324,6 +316,38 @@ void Store::notify(void (Store::*changed)()) {
 
 void Store::save() {
     saver_.save();
+}
+
+qint64 Store::textBytes() const {
+    return ClipHistory::textBytes(data_.clips);
+}
+
+qint64 Store::imageBytes() const {
+    qint64 size = 0;
+    for (const ClipItem& clip : data_.clips) {
+        size += clip.kind == ClipKind::image ? imageSizes_.value(clip.imageFileName) : 0;
+    }
+    return size;
+}
+
+void Store::trim() {
+    apply(ClipHistory::trimmed(data_.clips, services_.scheduler.now(), rules_, imageSizes_));
+    trimLater();
+}
+
+/// When the next clip becomes too old, but not at once and at least every hour, since the wall
+/// clock may be set.
+void Store::trimLater() {
+    trimming_.reset();
+    double oldest = std::numeric_limits<double>::infinity();
+    for (const ClipItem& clip : data_.clips) {
+        oldest = clip.pinned ? oldest : std::min(oldest, clip.date.sinceReference);
+    }
+    if (rules_.keepFor > 0 && std::isfinite(oldest)) {
+        const double left = oldest + rules_.keepFor - services_.scheduler.now().sinceReference;
+        trimming_ = services_.scheduler.after(Seconds(std::clamp(left, 60.0, 3600.0)),
+                                              [this] { trim(); });
+    }
 }
 
 void Store::flush() {

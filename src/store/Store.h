@@ -5,7 +5,9 @@
 #include "shelf/Shelf.h"
 #include "store/Captures.h"
 #include "store/ClipHistory.h"
+#include "store/ImageFiles.h"
 #include "store/Records.h"
+#include "store/StoreContents.h"
 #include "store/StoreSaver.h"
 #include "store/StoreServices.h"
 #include "store/TooLarge.h"
@@ -22,6 +24,7 @@
 namespace ravelo {
 
 class Deleted;
+class Vault;
 struct DeletedRecord;
 struct PasteboardSnapshot;
 
@@ -39,12 +42,14 @@ class Store : public QObject {
     Q_PROPERTY(bool reminderOpen READ reminderOpen WRITE setReminderOpen NOTIFY remindersChanged)
     Q_PROPERTY(QStringList reminders READ reminders WRITE setReminders NOTIFY remindersChanged)
     Q_PROPERTY(bool reminderVisible READ reminderVisible NOTIFY remindersChanged)
+    Q_PROPERTY(bool locked READ isLocked NOTIFY lockedChanged)
 
 public:
     using Services = StoreServices;
 
     /// Loads "store.json" from `folder` (created if missing, 0700) and seeds the snippets. Soon
-    /// after, removes missing files from the shelf and unused images from their folder.
+    /// after, removes missing files from the shelf and unused images from their folder. If the
+    /// vault is locked, starts empty and locked.
     Store(const QString& folder, Services services);
 
     /// Drops unsaved changes; see `flush`.
@@ -57,6 +62,23 @@ public:
     /// Absolute path of an image in the clips folder.
     [[nodiscard]] QString imagePath(const QString& imageFileName) const;
 
+    /// The files of the store.
+    [[nodiscard]] const std::shared_ptr<Vault>& vault() const { return services_.vault; }
+
+    /// It is encrypted and its key is not here: only what came since then is there, sealed.
+    [[nodiscard]] bool isLocked() const { return locked_; }
+
+    /// The vault was opened: reads what is stored, later, and adds what came meanwhile.
+    void unlock();
+
+    /// Once everything is saved, drops all of it from memory and calls `dropped`, which closes the
+    /// vault. Does nothing while saving fails.
+    void lock(std::function<void()> dropped);
+
+    /// Removes everything from memory and disk, and saves nothing from now on. Then calls `done`,
+    /// with the first failure.
+    void erase(std::function<void(const Result<void>&)> done);
+
     [[nodiscard]] const QList<ClipItem>& clips() const;
     [[nodiscard]] const QList<Snippet>& snippets() const;
     /// The parked files and which of them are selected.
@@ -65,8 +87,13 @@ public:
     void setNote(const QString& note);
 
     /// Applies from the next copy or pin on; only the order "newer first" applies at once. Surplus
-    /// clips go with the next copy, so that choosing a limit by mistake loses nothing.
+    /// clips go with the next copy, and old ones in a minute, so that choosing a limit by mistake
+    /// loses nothing.
     void setHistoryRules(const HistoryRules& rules);
+
+    /// Bytes of all clips' texts in UTF-8, and of their image files.
+    [[nodiscard]] qint64 textBytes() const;
+    [[nodiscard]] qint64 imageBytes() const;
 
     /// Called with the clip, new or old, that holds the copy; not called if there is none.
     using Kept = std::function<void(const QUuid&)>;
@@ -98,6 +125,17 @@ public:
     void clearClips(const std::shared_ptr<Deleted>& kept);
 
     Q_INVOKABLE void clearClips() { clearClips({}); }
+
+    /// Deletes the unpinned clips of the last hour, also those that are still on their way.
+    void clearLastHour(const std::shared_ptr<Deleted>& kept = {});
+    [[nodiscard]] qsizetype lastHourCount() const;
+
+    /// Adds everything of another store, whose images are in the clips folder already; ids are new.
+    /// Calls `saved` once it is on the disk.
+    void addAll(const StoreContents& contents, std::function<void(const SaveOutcome&)> saved);
+
+    /// Everything, as it is saved.
+    [[nodiscard]] StoreContents contents() const { return {data_, shelf_.stacks}; }
 
     void updateSnippet(const Snippet& snippet);
     /// Appends it.
@@ -176,6 +214,9 @@ public:
 
 Q_SIGNALS:
     void saveEnded(const ravelo::SaveOutcome& outcome);
+    /// Files of deleted records were removed from the disk, or not: for the user; empty if so.
+    void removalEnded(const QString& problem);
+    void lockedChanged();
     void cleared(); ///< Also cancels copies that are still being read.
     void clipsChanged();
     void snippetsChanged();
@@ -188,7 +229,17 @@ Q_SIGNALS:
 
 private:
     void load();
+    void begin(StoredContents stored);
+    void adopt(StoredContents stored);
+    void addSeeds();
     void addLinkSnippetsIfNeeded();
+    void saveEndedWith(const SaveOutcome& outcome);
+    void dropAll();
+    void announceAll();
+    void clear(ClipChange change, const std::shared_ptr<Deleted>& kept);
+    void trim();
+    void trimLater();
+    void removeFiles(std::function<Result<void>()> remove);
     void dropGone(const FileLook::Found& found);
     [[nodiscard]] std::function<void()> unlessCleared(std::function<void()> add,
                                                       std::function<void()> discard);
@@ -200,7 +251,15 @@ private:
     void notify(void (Store::*changed)()); ///< Emits a signal, then calls `onTimerChange`.
 
     Services services_;
+    bool locked_ = false;
+    bool opening_ = false; ///< Its contents are being read.
     HistoryRules rules_;
+    ImageSizes imageSizes_;
+    QSet<QString> lentImages_; ///< On their way to a clip or a snippet.
+    QStringList waitingFiles_; ///< To be removed after the next save.
+    std::function<void()> dropped_; ///< Set while a lock waits for a save.
+    std::function<void(const SaveOutcome&)> saved_; ///< Waits for the next save.
+    Handle trimming_;
     QString folder_;
     StoreData data_; ///< All but the shelf.
     Shelf shelf_;

@@ -1,5 +1,6 @@
 // How the store deletes and restores.
 
+#include "base/Scheduler.h"
 #include "platform/ImageDecoder.h"
 #include "platform/Worker.h"
 #include "store/ClipHistory.h"
@@ -8,12 +9,22 @@
 #include "store/Store.h"
 
 #include <QFile>
+#include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+Date hourAgo(const Scheduler& scheduler) {
+    return {scheduler.now().sinceReference - 3600};
+}
+
+} // namespace
 
 void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
     if (auto change = ClipHistory::deleted(data_.clips, id)) {
@@ -24,10 +35,33 @@ void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
 }
 
 void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
+    clear(ClipHistory::cleared(data_.clips), kept);
+    // Only once what the worker has already is done: a restored image is then named again.
+    services_.worker.run([] {}, [store = QPointer(this)] {
+        if (store) {
+            store->removeFiles([folder = store->folder_,
+                                named = imageNames(store->data_) + store->lentImages_,
+                                mayWrite = store->services_.mayWrite] {
+                return removeLeftovers(folder, named, mayWrite);
+            });
+        }
+    });
+}
+
+void Store::clearLastHour(const std::shared_ptr<Deleted>& kept) {
+    clear(ClipHistory::clearedSince(data_.clips, hourAgo(services_.scheduler)), kept);
+}
+
+qsizetype Store::lastHourCount() const {
+    return data_.clips.size() -
+           ClipHistory::clearedSince(data_.clips, hourAgo(services_.scheduler)).clips.size();
+}
+
+/// Also what is on its way goes.
+void Store::clear(ClipChange change, const std::shared_ptr<Deleted>& kept) {
     ++clearings_;
     captures_.drop();
     Q_EMIT cleared();
-    ClipChange change = ClipHistory::cleared(data_.clips);
     takeOffDisk(deletedRecords(data_.clips, change.clips), kept);
     apply(ClipChange{std::move(change.clips), {}});
     saver_.saveNow(); // So that it survives a kill right after.
@@ -54,9 +88,10 @@ void Store::takeOffDisk(const QList<DeletedRecord>& records, const std::shared_p
         }
     }
     if (kept) {
-        services_.worker.run([records, folder = clipsDir(), kept = std::weak_ptr(kept)] {
+        services_.worker.run([records, folder = clipsDir(), vault = services_.vault,
+                              kept = std::weak_ptr(kept)] {
             if (const auto still = kept.lock()) {
-                still->add(records, folder);
+                still->add(records, folder, *vault);
             }
         });
     }
@@ -64,13 +99,60 @@ void Store::takeOffDisk(const QList<DeletedRecord>& records, const std::shared_p
 }
 
 void Store::removeImages(const QStringList& imageFileNames) {
-    for (const QString& name : imageFileNames) {
-        services_.worker.run(
-            [path = imagePath(name), decoder = services_.decoder, mayWrite = services_.mayWrite] {
-                removeImage(path, mayWrite);
-                decoder->forget(PictureFile{QFile::encodeName(path)});
-            });
+    if (imageFileNames.isEmpty()) {
+        return;
     }
+    QStringList paths;
+    for (const QString& name : imageFileNames) {
+        paths.append(imagePath(name));
+        lentImages_.remove(name);
+    }
+    removeFiles([paths, decoder = services_.decoder, mayWrite = services_.mayWrite] {
+        Result<void> done = ravelo::removeImages(paths, mayWrite);
+        for (const QString& path : paths) {
+            decoder->forget(PictureFile{QFile::encodeName(path)});
+        }
+        return done;
+    });
+}
+
+/// On the worker; reports how it ended.
+void Store::removeFiles(std::function<Result<void>()> remove) {
+    const auto outcome = std::make_shared<Result<void>>();
+    services_.worker.run([remove = std::move(remove), outcome] { *outcome = remove(); },
+                         [store = QPointer(this), outcome] {
+                             if (store) {
+                                 Q_EMIT store->removalEnded(
+                                     *outcome ? QString() : outcome->error().message);
+                             }
+                         });
+}
+
+/// Once the records are in place: their images are not yet named by the file on the disk.
+void Store::addAll(const StoreContents& contents, std::function<void(const SaveOutcome&)> saved) {
+    for (const Snippet& snippet : contents.data.snippets) {
+        const auto same = [&snippet](const Snippet& one) {
+            return one.title == snippet.title && one.body == snippet.body &&
+                   one.imageFileName.isEmpty() && snippet.imageFileName.isEmpty();
+        };
+        if (std::ranges::none_of(std::as_const(data_.snippets), same)) {
+            data_.snippets.append(snippet);
+        }
+    }
+    for (const auto& [note, other] : {std::pair(&data_.note, &contents.data.note),
+                                      std::pair(&data_.note2, &contents.data.note2)}) {
+        if (!other->isEmpty() && !note->contains(*other)) {
+            *note += note->isEmpty() ? *other : u"\n\n"_s + *other;
+        }
+    }
+    data_.drawing += contents.data.drawing;
+    data_.clips = ClipHistory::joined(data_.clips, contents.data.clips);
+    for (const QList<QUrl>& stack : contents.shelf) {
+        shelf_ = shelf_.added(stack).value_or(shelf_);
+    }
+    saved_ = std::move(saved);
+    saver_.saveNow();
+    announceAll();
 }
 
 void Store::restore(const std::shared_ptr<Deleted>& deleted,
@@ -95,8 +177,9 @@ void Store::restore(const std::shared_ptr<Deleted>& deleted,
         done({restorable->records.size(), u"the history was cleared"_s, false});
     };
     services_.worker.run(
-        [deleted, restorable, folder = clipsDir(), mayWrite = services_.mayWrite] {
-            *restorable = deleted->restore(folder, mayWrite);
+        [deleted, restorable, folder = clipsDir(), vault = services_.vault,
+         mayWrite = services_.mayWrite] {
+            *restorable = deleted->restore(folder, *vault, mayWrite);
         },
         unlessCleared(std::move(putBackAll), std::move(putBackWhatClearingKeeps)));
 }

@@ -173,6 +173,11 @@ QByteArray encodeStore(const StoreData& data) {
     return QJsonDocument(object).toJson(QJsonDocument::Compact);
 }
 
+bool isOfNewerStore(const QByteArray& bytes) {
+    return bytes.contains("\"version\":") &&
+           QJsonDocument::fromJson(bytes).object().value(u"version").toDouble(1) > 1;
+}
+
 std::optional<StoreData> decodeStore(const QByteArray& bytes) {
     const QJsonValue value = QJsonDocument::fromJson(bytes).object();
     StoreData data;

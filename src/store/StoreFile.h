@@ -18,4 +18,8 @@ namespace ravelo {
 /// ignored. Any thread.
 [[nodiscard]] std::optional<StoreData> decodeStore(const QByteArray& bytes);
 
+/// Whether these are the bytes of a store by a later version: an object with a "version" above 1.
+/// Whoever cannot read it must not replace it. Any thread.
+[[nodiscard]] bool isOfNewerStore(const QByteArray& bytes);
+
 } // namespace ravelo

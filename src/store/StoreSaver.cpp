@@ -1,10 +1,10 @@
 #include "store/StoreSaver.h"
 
-#include "base/Files.h"
 #include "base/Scheduler.h"
 #include "platform/Worker.h"
 #include "store/ShelfPaths.h"
 #include "store/StoreFile.h"
+#include "vault/Vault.h"
 
 #include <QPointer>
 
@@ -19,23 +19,30 @@ constexpr Seconds retryDelay{30};
 
 } // namespace
 
-StoreSaver::StoreSaver(Scheduler& scheduler, Worker& worker, std::function<Contents()> current)
-    : scheduler_(scheduler), worker_(worker), current_(std::move(current)) {}
+StoreSaver::StoreSaver(Scheduler& scheduler, Worker& worker, std::shared_ptr<Vault> vault,
+                       std::function<StoreContents()> current)
+    : scheduler_(scheduler),
+      worker_(worker),
+      vault_(std::move(vault)),
+      current_(std::move(current)) {}
 
-std::optional<StoreSaver::Contents> StoreSaver::load(const QString& path,
-                                                     const OwnFile::Permission& mayWrite) {
-    const std::optional<QByteArray> bytes = readFile(path);
-    std::optional<StoreData> data = bytes ? decodeStore(*bytes) : std::nullopt;
-    file_ = std::make_shared<OwnFile>(
-        path, data ? OwnFile::Contents::ours : OwnFile::Contents::unreadable, mayWrite);
-    if (!data) {
-        return std::nullopt;
-    }
-    QList<QList<QUrl>> shelf = shelfStacks(std::exchange(data->shelfStacks, {}));
-    return Contents{std::move(*data), std::move(shelf)};
+void StoreSaver::setFile(const QString& path, OwnFile::Contents contents,
+                         const OwnFile::Permission& mayWrite) {
+    path_ = path;
+    file_ = std::make_shared<OwnFile>(path, contents, mayWrite);
+}
+
+void StoreSaver::stop() {
+    file_.reset();
+    unsaved_.reset();
+    pending_.reset();
+    retry_.reset();
 }
 
 void StoreSaver::save() {
+    if (!file_) {
+        return;
+    }
     unsaved_ = current_();
     pending_ = scheduler_.after(saveDelay, [this] { write(); });
 }
@@ -52,20 +59,24 @@ void StoreSaver::write() {
     }
     retry_.reset();
     const auto outcome = std::make_shared<SaveOutcome>();
-    auto job = [outcome, file = file_,
+    auto job = [outcome, file = file_, path = path_, vault = vault_,
                 contents = std::move(*std::exchange(unsaved_, std::nullopt))]() mutable {
         contents.data.shelfStacks = shelfPaths(contents.shelf);
-        *outcome = file->write(encodeStore(contents.data));
+        const Result<QByteArray> bytes = vault->sealed(path, encodeStore(contents.data));
+        *outcome = bytes ? file->write(*bytes)
+                         : SaveOutcome{SaveOutcome::Kind::forbidden, bytes.error().message, {}};
     };
+    ++writing_;
     worker_.run(std::move(job), [saver = QPointer(this), outcome] {
         if (saver) {
+            --saver->writing_;
             saver->written(*outcome);
         }
     });
 }
 
 void StoreSaver::written(const SaveOutcome& outcome) {
-    if (outcome.kind == SaveOutcome::Kind::failed) {
+    if (outcome.kind == SaveOutcome::Kind::failed && file_) {
         // Saves the state of that time: a later write may have succeeded meanwhile.
         retry_ = scheduler_.after(retryDelay, [this] { save(); });
     }

@@ -2,10 +2,9 @@
 
 #include "base/Handle.h"
 #include "base/OwnFile.h"
-#include "store/Records.h"
+#include "store/StoreContents.h"
 
 #include <QObject>
-#include <QUrl>
 
 #include <functional>
 #include <memory>
@@ -14,26 +13,29 @@
 namespace ravelo {
 
 class Scheduler;
+class Vault;
 class Worker;
 
-/// Reads the store file and decides when it is written: 0.4 s after the last of a burst of saves,
-/// and again 30 s after a failure. The worker writes. Main thread.
+/// Decides when the store file is written: 0.4 s after the last of a burst of saves, and again 30 s
+/// after a failure. The worker writes. Main thread.
 class StoreSaver : public QObject {
     Q_OBJECT
 
 public:
-    struct Contents {
-        StoreData data; ///< All but the shelf.
-        QList<QList<QUrl>> shelf;
-    };
-
     /// Calls `current` at each save; what changes after that waits for the next one.
-    StoreSaver(Scheduler& scheduler, Worker& worker, std::function<Contents()> current);
+    StoreSaver(Scheduler& scheduler, Worker& worker, std::shared_ptr<Vault> vault,
+               std::function<StoreContents()> current);
 
-    /// Call it before the first save. Nothing if the file is missing or unreadable; an unreadable
-    /// one is put aside before it is overwritten.
-    [[nodiscard]] std::optional<Contents> load(const QString& path,
-                                               const OwnFile::Permission& mayWrite);
+    /// Where later saves go; call it before the first. What is there and unreadable is put aside
+    /// before it is overwritten.
+    void setFile(const QString& path, OwnFile::Contents contents,
+                 const OwnFile::Permission& mayWrite);
+
+    /// Drops what is pending, and saves nothing more.
+    void stop();
+
+    /// Nothing is pending or has failed.
+    [[nodiscard]] bool isSaved() const { return !unsaved_ && !retry_ && writing_ == 0; }
 
     void save();
 
@@ -52,9 +54,12 @@ private:
 
     Scheduler& scheduler_;
     Worker& worker_;
-    std::function<Contents()> current_;
-    std::shared_ptr<OwnFile> file_; ///< Used by the worker only.
-    std::optional<Contents> unsaved_;
+    std::shared_ptr<Vault> vault_;
+    std::function<StoreContents()> current_;
+    QString path_;
+    std::shared_ptr<OwnFile> file_; ///< Used by the worker only; null once stopped.
+    std::optional<StoreContents> unsaved_;
+    int writing_ = 0; ///< Saves that the worker has.
     Handle pending_;
     Handle retry_;
 };

@@ -12,6 +12,7 @@ class ImageDecoder;
 class Pasteboard;
 class Preferences;
 class Scheduler;
+class Vault;
 class Worker;
 
 /// What the store needs of the platform; all of it outlives the store.
@@ -26,6 +27,7 @@ struct StoreServices {
     DetachedJobs& conversions;             ///< To convert images to PNG, which always ends.
     std::shared_ptr<ImageDecoder> decoder; ///< Shared with jobs.
     OwnFile::Permission mayWrite = {};     ///< Asked before each change of a file.
+    std::shared_ptr<Vault> vault = {};     ///< Of the store's folder; made if there is none.
 };
 
 } // namespace ravelo

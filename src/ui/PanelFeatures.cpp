@@ -8,6 +8,7 @@ namespace ravelo {
 PanelFeatures::PanelFeatures(const Services& services, const QLocale& locale,
                              const QQuickWindow& window, QQmlEngine& engine)
     : typing(services.pasteboard, engine),
+      vault(services.encryption, engine),
       toast(services.scheduler),
       deleting(services.store, toast, locale),
       snippets({services.store, services.controller, toast, deleting}, locale),
@@ -47,6 +48,7 @@ void PanelFeatures::followState() {
     QObject::connect(&state, &PanelState::opened, &usage, &Usage::refresh);
     QObject::connect(&state, &PanelState::closed, &toast, &Toast::reset);
     QObject::connect(&state, &PanelState::closed, &tabs, &Tabs::reset);
+    QObject::connect(&state, &PanelState::closed, &vault, &VaultView::reset);
     QObject::connect(&state, &PanelState::closed, &snippets, &Snippets::reset);
     QObject::connect(&state, &PanelState::closed, &focus, &Focus::reload);
     state.start();

@@ -11,6 +11,7 @@
 #include "ui/snippets/Snippets.h"
 #include "ui/text/Typing.h"
 #include "ui/usage/Usage.h"
+#include "ui/vault/VaultView.h"
 
 namespace ravelo {
 
@@ -39,6 +40,7 @@ public:
         FileOpener& opener;
         std::shared_ptr<const FileIcons> icons;
         std::shared_ptr<ImageDecoder> decoder;
+        Encryption* encryption = nullptr; ///< Null: nothing is ever encrypted.
     };
 
     /// `window` is the panel's, still empty; `engine` is shared by all windows.
@@ -48,6 +50,7 @@ public:
     PanelFeatures& operator=(const PanelFeatures&) = delete;
 
     Typing typing;
+    VaultView vault;
     Toast toast;
     Deleting deleting;
     Snippets snippets;

@@ -1,7 +1,7 @@
 """Prints the accessibility tree of a program: one line of JSON per object, with the roles of its
-ancestors.
+ancestors. Or does the first action of a visible object with a certain name.
 
-    atspi_peer.py PROGRAM
+    atspi_peer.py PROGRAM [NAME]
 """
 
 import json
@@ -29,8 +29,19 @@ def show(node, path):
             show(child, path + [line["role"]])
 
 
+def act(node, name):
+    actions = node.get_action_iface()
+    if (node.get_name() == name and actions and actions.get_n_actions() and
+            node.get_state_set().contains(Atspi.StateType.SHOWING)):
+        return actions.do_action(0)
+    children = map(node.get_child_at_index, range(node.get_child_count()))
+    return any(act(child, name) for child in children if child)
+
+
 desktop = Atspi.get_desktop(0)
 for index in range(desktop.get_child_count()):
     application = desktop.get_child_at_index(index)
     if application and application.get_name() == sys.argv[1]:
+        if len(sys.argv) > 2:
+            sys.exit(0 if act(application, sys.argv[2]) else 1)
         show(application, [])

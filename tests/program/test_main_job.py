@@ -388,6 +388,14 @@ class AssistiveCase:
         return [node for node in map(json.loads, lines) if node["showing"]]
 
 
+    def act(self, name):
+        """Presses the visible control with this name."""
+        peer = pathlib.Path(__file__).with_name("atspi_peer.py")
+        wait_for(lambda: subprocess.run(
+            ["/usr/bin/python3", peer, "Ravelo", name], env=self.desktop.env, check=False,
+            stderr=subprocess.DEVNULL).returncode == 0, f"the control {name!r}")
+
+
 class Assistive(AssistiveCase, ProgramCase):
     def test_what_a_screen_reader_gets(self):
         self.provide_assistance()
@@ -455,7 +463,7 @@ class Windows(AssistiveCase, ProgramCase):
             ("Detect automatically", "We found no notch on this display", True),
             ("MacBook with a notch", "", False),
             ("No notch", "iMac, Mac mini, older MacBooks, external display", False)])
-        self.press("Down", "Down", "Tab", "Return")
+        self.press("Down", "Down", "Tab", "Return", "Return")  # The last step offers encryption.
         self.expect_none()
         wait_for(lambda: self.ravelo.preferences().get("onboarded"), "setup done, on disk")
         self.assertEqual(self.ravelo.preferences()["macType"], "none")
@@ -626,6 +634,177 @@ class Traces(ProgramCase):
                                 "a label of the timer": ""}.items():
                 if text.encode() in path.read_bytes():
                     self.assertEqual(path.name, where, f"{text!r} was kept")
+
+
+MARKER = "Marker-of-a-secret-text"
+
+
+class SearchingCase:
+    def files_with(self, marker, among=None):
+        """All files of the home that contain the text, in any of its usual forms."""
+        forms = [marker.encode(), marker.encode("utf-16-le"), marker.encode("utf-16-be")]
+        among = among or self.desktop.home
+        return [str(path.relative_to(self.desktop.home)) for path in among.rglob("*")
+                if path.is_file() and any(form in path.read_bytes() for form in forms)]
+
+    def images(self):
+        return list((self.ravelo.folder / "clips").glob("*"))
+
+
+class Erasing(SearchingCase, ProgramCase):
+    """Deletion that is one."""
+
+    def fill(self):
+        self.ravelo.start()
+        self.copy_and_wait(MARKER)
+        self.desktop.gtk("image", "c04020ff")
+        self.wait_for_texts("Image", MARKER)
+        for name in ("store.json.unreadable", "store.json.AbCdEf", "clips/"
+                     "0F8FAD5B-D9CB-469F-A165-70867728950E.png"):
+            (self.ravelo.folder / name).write_text(MARKER)
+        self.assertEqual(len(self.files_with(MARKER)), 4)
+
+    def expect_nothing(self):
+        self.assertEqual(self.files_with(MARKER), [])
+        left = [path.name for path in self.ravelo.folder.rglob("*")]
+        self.assertEqual([name for name in left if name != "lock"], [])
+        self.assertFalse(self.desktop.preferences.exists())
+
+    def test_everything_is_erased_when_the_command_returns(self):
+        self.fill()
+        self.assertEqual(self.ravelo.call("erase")[0], 2, "only with --yes")
+        self.assertEqual(len(self.files_with(MARKER)), 4)
+        self.assertEqual(self.ravelo.call("erase", "--yes"), (0, ""))
+        self.expect_nothing()
+        self.wait_for_end()
+        self.expect_nothing()
+
+    def test_also_if_none_runs(self):
+        self.fill()
+        self.stop()
+        self.assertEqual(self.ravelo.call("erase", "--yes"), (0, ""))
+        self.expect_nothing()
+
+    def test_nothing_is_found_in_the_raw_image_of_a_file_system_that_discards(self):
+        if os.geteuid() != 0:
+            self.skipTest("only root can mount an image")
+        image = self.desktop.home / "disk"
+        with image.open("wb") as file:
+            file.truncate(32 << 20)
+        for command in (["mkfs.ext4", "-q", "-O", "^has_journal", image],
+                        ["mkdir", "-p", self.ravelo.folder],
+                        ["mount", "-o", "loop,discard,sync", image, self.ravelo.folder]):
+            done = subprocess.run(command, check=False, stderr=subprocess.PIPE, text=True)
+            if done.returncode:
+                self.skipTest(f"no loop mount here: {done.stderr.strip()}")
+        self.addCleanup(subprocess.run, ["umount", "-l", self.ravelo.folder], check=False,
+                        stderr=subprocess.DEVNULL)
+        self.ravelo.start()
+        self.copy_and_wait(MARKER)
+        os.sync()
+        self.assertIn(MARKER.encode(), image.read_bytes(), "the search itself is at fault")
+        self.assertEqual(self.ravelo.call("erase", "--yes"), (0, ""))
+        self.wait_for_end()
+        os.sync()
+        subprocess.run(["fstrim", self.ravelo.folder], check=False)
+        self.assertNotIn(MARKER.encode(), image.read_bytes())
+
+
+class Encrypted(SearchingCase, AssistiveCase, ProgramCase):
+    """Encryption with a real keyring."""
+
+    def setUp(self):
+        super().setUp()
+        self.provide_assistance()
+        self.keyring = None
+        self.start_keyring()
+
+    def start_keyring(self):
+        """Unlocked."""
+        if self.keyring:
+            self.keyring.terminate()
+            self.keyring.wait()
+        self.keyring = self.desktop.spawn(
+            "gnome-keyring-daemon", "--foreground", "--components=secrets", "--unlock",
+            stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        self.keyring.stdin.write(b"password")
+        self.keyring.stdin.close()
+        wait_for(lambda: "default" in self.secrets("ReadAlias", "default") or
+                 "login" in self.secrets("ReadAlias", "default"), "the keyring")
+
+    def secrets(self, method, *arguments):
+        return self.desktop.run("gdbus", "call", "--session", "--dest", "org.freedesktop.secrets",
+                                "--object-path", "/org/freedesktop/secrets", "--method",
+                                f"org.freedesktop.Secret.Service.{method}", *arguments)
+
+    def is_encrypted(self):
+        store = self.ravelo.folder / "store.json"
+        return store.exists() and store.read_bytes().startswith(b"Ravelo\x1a")
+
+    def open_storage(self):
+        self.assertEqual(self.ravelo.call("--settings"), (0, ""))
+        wait_for(lambda: self.ravelo.window("Ravelo Settings"), "the settings")
+        self.press("ctrl+3")
+
+    def exported(self):
+        """The texts of an export, which needs the key."""
+        archive = self.desktop.home / "export.tar"
+        archive.unlink(missing_ok=True)
+        code, output = self.ravelo.call("export", archive)
+        if code:
+            return output
+        store = self.desktop.run("tar", "-xOf", archive, "store.json")
+        archive.unlink()
+        return [clip["text"] for clip in json.loads(store)["clips"]]
+
+    def encrypt(self):
+        self.ravelo.start()
+        self.copy_and_wait(MARKER)
+        self.desktop.gtk("image", "c04020ff")
+        self.wait_for_texts("Image", MARKER)
+        (self.ravelo.folder / "store.json.unreadable").write_text(MARKER)
+        self.open_storage()
+        self.act("Encrypt what is stored")
+        wait_for(lambda: self.is_encrypted() and not self.files_with(MARKER), "no plain copy")
+        wait_for(lambda: all(image.read_bytes().startswith(b"Ravelo\x1a")
+                             for image in self.images()), "encrypted images")
+        self.press("Escape")
+
+    def test_everything_is_encrypted_and_opens_with_the_keyring(self):
+        self.encrypt()
+        self.desktop.copy_text("Marker-two")
+        wait_for(lambda: self.exported() == ["Marker-two", "Image", MARKER], self.exported)
+        self.stop()
+        self.assertEqual(self.files_with("Marker-two"), [])
+        self.ravelo.start()
+        wait_for(lambda: self.exported() == ["Marker-two", "Image", MARKER], self.exported)
+        self.open_storage()
+        self.act("Encrypt what is stored")
+        self.wait_for_texts("Marker-two", "Image", MARKER)
+        wait_for(lambda: not (self.ravelo.folder / "key").exists(), "no key file")
+        self.assertTrue(self.images()[0].read_bytes().startswith(b"\x89PNG"))
+
+    def test_a_locked_keyring_loses_and_shows_nothing(self):
+        self.encrypt()
+        self.stop()
+        stored = (self.ravelo.folder / "store.json").read_bytes()
+        self.secrets("Lock", "[objectpath '/org/freedesktop/secrets/aliases/default']")
+        self.ravelo.start()
+        wait_for(lambda: "unlock" in self.exported(), "the refusal to export")
+        self.toggle()
+        wait_for(lambda: "Waiting for the keyring\u2026" in
+                 [node["name"] for node in self.accessible_nodes()], "what it waits for")
+        self.press("Escape")
+        self.desktop.copy_text("Marker-while-locked")
+        wait_for(lambda: list((self.ravelo.folder / "waiting").glob("*")), "a sealed copy")
+        self.stop()
+        self.assertEqual(self.files_with("Marker-while-locked"), [])
+        self.assertEqual((self.ravelo.folder / "store.json").read_bytes(), stored)
+        self.ravelo.start()
+        self.start_keyring()
+        wait_for(lambda: self.exported() == ["Marker-while-locked", "Image", MARKER],
+                 self.exported)
+        self.assertEqual(list((self.ravelo.folder / "waiting").glob("*")), [])
 
 
 class OwnersEnd(ProgramCase):

@@ -224,6 +224,51 @@ TEST(ClipHistory, ClearingKeepsPinnedClipsInTheirOrder) {
     EXPECT_EQ(change.orphanedImages, QStringList({u"p.png"_s, u"r.png"_s}));
 }
 
+TEST(ClipHistory, TrimsByAgeAndThenBySizeTheOldestFirst) {
+    struct Case {
+        const char* before;
+        HistoryRules rules;
+        const char* after;
+        QStringList orphans;
+    };
+
+    using Order = HistoryRules::Order;
+    const ImageSizes sizes{{u"p.png"_s, 100}, {u"q.png"_s, 50}};
+    const Case table[] = {
+        {"a@9 b@1", {}, unchanged, {}},
+        {"a@9 b@5 *c@1 p.png@2", {Order::newerFirst, 60, 5}, "a@9 *c@1", {u"p.png"_s}},
+        {"aaa@9 bb@8 c@1", {Order::newerFirst, 60, 0, 5}, "aaa@9 bb@8", {}},
+        {"aaa@9 bb@8 c@1", {Order::newerFirst, 60, 0, 6}, unchanged, {}},
+        {"\u00e4\u00e4@9 b@1", {Order::newerFirst, 60, 0, 4}, "\u00e4\u00e4@9", {}},
+        {"*aaaa@1 b@2", {Order::newerFirst, 60, 0, 2}, "*aaaa@1", {}},
+        {"q.png@9 a@1 p.png@2", {Order::newerFirst, 60, 0, 0, 60}, "q.png@9 a@1", {u"p.png"_s}},
+        {"*p.png@9 q.png@2", {Order::newerFirst, 60, 0, 0, 60}, "*p.png@9", {u"q.png"_s}},
+        // The order of the list does not matter, nor does an image of unknown size.
+        {"b@2 a@1 cc@9", {Order::olderFirst, 60, 0, 3}, "b@2 cc@9", {}},
+        {"x.png@1", {Order::newerFirst, 60, 0, 0, 1}, unchanged, {}}};
+    for (const auto& [before, rules, after, orphans] : table) {
+        const auto change =
+            ClipHistory::trimmed(list(QString::fromUtf8(before)), {10}, rules, sizes);
+        EXPECT_EQ(result(change), after) << before;
+        EXPECT_EQ(change.value_or(ClipChange()).orphanedImages, orphans) << before;
+    }
+}
+
+TEST(ClipHistory, MergesLaterClipsAsIfTheyWereCopiedNow) {
+    const QList<ClipItem> before = list(u"b@3 a@2 *c@1"_s);
+    QList<ClipItem> later = list(u"d@9 b@8 p.png@7"_s);
+    later.append(before[1]); // It is there already.
+    EXPECT_EQ(shorthand(ClipHistory::merged(before, later, {}).clips),
+              "d@9 b@8 p.png@7 a@2 *c@1");
+    EXPECT_EQ(shorthand(ClipHistory::merged(before, later, {HistoryRules::Order::olderFirst, 2}).clips),
+              "d@9 b@8 *c@1");
+}
+
+TEST(ClipHistory, JoinsTwoListsByDate) {
+    EXPECT_EQ(shorthand(ClipHistory::joined(list(u"*c@1 b@5 a@2"_s), list(u"b@4 d@3 *e@9 p.png@3"_s))),
+              "*e@9 *c@1 b@5 d@3 p.png@3 a@2");
+}
+
 } // namespace
 
 } // namespace ravelo

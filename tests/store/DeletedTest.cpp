@@ -160,6 +160,7 @@ TEST_F(Undo, restoresTheOldestAboveTheLimitUntilTheNextCopy) {
 
 TEST_F(Undo, keepsTheLastDeletedImagesWithinItsLimit) {
     QDir folder(store_->clipsDir());
+    const Vault& vault = *store_->vault();
     const auto record = [&](const QString& name) {
         QFile file(folder.filePath(name));
         const qint64 mebibytes = name == u"large.png" ? 65 : 30;
@@ -170,10 +171,10 @@ TEST_F(Undo, keepsTheLastDeletedImagesWithinItsLimit) {
         return DeletedRecord{clip, {clip.id}, {}};
     };
     for (const QString& name : {u"1.png"_s, u"2.png"_s, u"3.png"_s, u"large.png"_s}) {
-        deleted_->add({record(name)}, folder.path());
+        deleted_->add({record(name)}, folder.path(), vault);
         folder.remove(name);
     }
-    const Deleted::Restorable all = deleted_->restore(folder.path(), {});
+    const Deleted::Restorable all = deleted_->restore(folder.path(), vault, {});
     EXPECT_EQ(imageFiles(), QStringList({u"2.png"_s, u"3.png"_s}));
     EXPECT_EQ(all.problem, u"too large to keep in memory"_s);
 }

@@ -124,6 +124,39 @@ TEST_F(DataLocks, AreCreatedLaterIfTheyCannotBeAtFirst) {
     EXPECT_TRUE(QFile::exists(path_));
 }
 
+/// What an earlier version makes of the lock's machine and host.
+bool looksElsewhereToEarlierVersions(const QString& path) {
+    const QList<QByteArray> lines = readFile(path).value_or(QByteArray()).split('\n');
+    return lines.value(0).toLongLong() > 0 && lines.value(3) != QSysInfo::machineUniqueId() &&
+           lines.value(2) != QSysInfo::machineHostName().toUtf8();
+}
+
+TEST_F(DataLocks, OfEncryptedDataKeepEarlierVersionsAway) {
+    const QString keyFile = folder_.filePath(u"Ravelo/key"_s);
+    {
+        DataLock lock(path_, data_, keyFile);
+        ASSERT_TRUE(lock.claim(Claim::ifFree));
+        EXPECT_FALSE(looksElsewhereToEarlierVersions(path_));
+        ASSERT_TRUE(writeFileAtomically(keyFile, "key"));
+        lock.followKeyFile();
+        EXPECT_TRUE(lock.check());
+        EXPECT_TRUE(looksElsewhereToEarlierVersions(path_));
+    }
+    EXPECT_TRUE(looksElsewhereToEarlierVersions(path_)) << "also when none runs";
+    {
+        DataLock lock(path_, data_, keyFile);
+        EXPECT_TRUE(lock.claim(Claim::ifFree)) << "but not this version";
+        EXPECT_TRUE(looksElsewhereToEarlierVersions(path_));
+        DataLock second(path_, data_, keyFile);
+        EXPECT_FALSE(second.claim(Claim::ifFree));
+        ASSERT_TRUE(QFile::remove(keyFile));
+        lock.followKeyFile();
+        EXPECT_FALSE(looksElsewhereToEarlierVersions(path_));
+        EXPECT_TRUE(lock.check());
+    }
+    EXPECT_FALSE(QFile::exists(path_));
+}
+
 } // namespace
 
 } // namespace ravelo

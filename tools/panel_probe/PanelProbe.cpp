@@ -7,6 +7,8 @@
 // and prints the rectangles of all named elements as JSON, in logical pixels of the window.
 // --behind puts a picture of a screen below; --time prints what N openings cost.
 
+#include "base/Files.h"
+#include "fakes/FakeKeyring.h"
 #include "fakes/UsageWorld.h"
 #include "panel_fixture/Input.h"
 #include "panel_fixture/Services.h"
@@ -17,6 +19,7 @@
 #include "ui/windows/TitledWindow.h"
 #include "ui/windows/UpdateWindow.h"
 #include "updates/Updater.h"
+#include "vault/Encryption.h"
 
 #include <QCommandLineParser>
 #include <QDir>
@@ -213,6 +216,40 @@ void dragFilesOver(PanelWorld& world, QQuickWindow& window) {
     QCoreApplication::sendEvent(&window, &enter);
 }
 
+/// Encryption as the scene has it, in a folder of its own.
+class SceneEncryption {
+public:
+    SceneEncryption(const QString& scene, PanelWorld& world) : keyring_(world.scheduler) {
+        const StoreKey key = StoreKey::random();
+        const LockedBytes wrapper = LockedBytes::random(KeyFile::wrapperLength);
+        const bool passphrase = scene == u"locked-passphrase";
+        KeyFile file =
+            KeyFile::of(key, passphrase ? KeyFile::Guard::passphrase : KeyFile::Guard::keyring, cost);
+        file.wrap(key, wrapper);
+        if (scene.startsWith(u"locked"_s) || scene.startsWith(u"settings-"_s)) {
+            (void)writeFileAtomically(folder_.filePath(u"key"_s), file.encoded());
+        }
+        keyring_.isLocked = scene.startsWith(u"locked"_s);
+        keyring_.secrets[file.service()] = wrapper.hex().bytes() + QByteArray();
+        encryption_.emplace(Encryption::Services{world.jobs, world.worker, keyring_,
+                                                 std::make_shared<Vault>(folder_.path()),
+                                                 {},
+                                                 {},
+                                                 cost});
+        encryption_->start();
+        world.scheduler.advance(Seconds(0.1));
+    }
+
+    [[nodiscard]] Encryption* get() { return &*encryption_; }
+
+private:
+    static constexpr KeyFile::Cost cost{1, 8};
+
+    QTemporaryDir folder_;
+    FakeKeyring keyring_;
+    std::optional<Encryption> encryption_;
+};
+
 /// The closed panel as a bar with a timer, reminders or both, optionally with a notch.
 void playBar(const QString& scene, PanelWorld& world, PanelView& view) {
     const bool notch = scene.contains(u"notch"_s);
@@ -277,6 +314,21 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     }
     if (scene.startsWith(u"notice-"_s)) {
         notify(scene, world.notices, world.scheduler);
+    } else if (scene == u"locked-copies") {
+        world.notices.setLocked(view.features().vault.title(), u"New copies are sealed until then."_s,
+                                u"Unlock\u2026"_s);
+    } else if (scene == u"locked-passphrase") {
+        click(window, middle(window, u"locked/passphrase"_s));
+        for (const QChar letter : u"wrong horse"_s) {
+            press(window, Qt::Key_unknown, Qt::NoModifier, letter);
+        }
+        click(window, middle(window, u"openStore"_s));
+        world.scheduler.advance(Seconds(1));
+        for (const QChar letter : u"wrong horse"_s) {
+            press(window, Qt::Key_unknown, Qt::NoModifier, letter);
+        }
+        settle(200);
+        return;
     } else if (scene == u"too-large") {
         view.features().clips->showTooLarge({TooLargeCopy::Measure::bytesOfText, 14'885'000});
     }
@@ -391,7 +443,16 @@ QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
     if (scene.startsWith(u"settings"_s)) {
         settings.show();
         settle();
-        if (scene != u"settings") { // "settings-hover", "settings-pressed"
+        if (scene == u"settings-storage" || scene == u"settings-erase") {
+            press(*settings.window(), Qt::Key_3, Qt::ControlModifier);
+            settle();
+            if (scene == u"settings-erase") {
+                turnWheel(*settings.window(), {230, 300}, -3000);
+                settle();
+                click(*settings.window(), middle(*settings.window(), u"eraseEverything"_s));
+                settle();
+            }
+        } else if (scene != u"settings") { // "settings-hover", "settings-pressed"
             const bool pressed = scene == u"settings-pressed";
             send(*settings.window(), pressed ? QEvent::MouseButtonPress : QEvent::MouseMove,
                  middle(*settings.window(), u"launchAtLogin"_s));
@@ -404,8 +465,13 @@ QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
     }
     onboarding.show();
     settle();
-    if (scene == u"setup-mac") {
+    if (scene == u"setup-mac" || scene == u"setup-encryption") {
         click(*onboarding.window(), middle(*onboarding.window(), u"start"_s));
+        if (scene == u"setup-encryption") {
+            click(*onboarding.window(), middle(*onboarding.window(), u"done"_s));
+            settle();
+            click(*onboarding.window(), middle(*onboarding.window(), u"keyring"_s));
+        }
         send(*onboarding.window(), QEvent::MouseMove, {5, 300});
         settle();
     }
@@ -533,7 +599,9 @@ int main(int argc, char** argv) {
 
     StoreData data;
     data.note = note;
-    if (scene != u"empty") {
+    if (scene == u"locked-copies") {
+        data.clips = sampleClips().mid(2, 3);
+    } else if (scene != u"empty" && !scene.startsWith(u"locked"_s)) {
         data.clips = sampleClips();
     }
     while (scene == u"settings" && data.clips.size() < 47) {
@@ -553,8 +621,13 @@ int main(int argc, char** argv) {
     room().save(world.store.imagePath(u"room.png"_s));
     plan().save(world.store.imagePath(u"plan.png"_s));
     world.settings.setLastTab(shelf ? u"Shelf"_s : scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
+    SceneEncryption encryption(scene, world);
+    encryption.get()->look();
+    world.scheduler.advance(Seconds(0.01));
+    PanelFeatures::Services all = services(world, spent.usage);
+    all.encryption = encryption.get();
     PanelView view;
-    view.load(services(world, spent.usage), QLocale(u"en_US"_s));
+    view.load(all, QLocale(u"en_US"_s));
     view.features().state.setBackdrop(Backdrop::Blurred);
     if (shelf) {
         receive(world, "lighting-quote.pdf", day - minute * 18);

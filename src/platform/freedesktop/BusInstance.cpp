@@ -33,7 +33,7 @@ QDBusConnection sessionBus() {
 }
 
 BusInstance::BusInstance(const QDBusConnection& bus) {
-    new AskAdaptor(*this); // Owned by the instance, like the next one.
+    new AskAdaptor(*this, bus); // Owned by the instance, like the next one.
     new ApplicationAdaptor(*this, bus);
 }
 
@@ -66,19 +66,23 @@ std::optional<Answer> BusInstance::ask(const QDBusConnection& bus, const QString
     return meansNobody(reply) ? std::nullopt : std::optional(silence());
 }
 
-AskAdaptor::AskAdaptor(BusInstance& instance)
-    : QDBusAbstractAdaptor(&instance), instance_(instance) {}
+AskAdaptor::AskAdaptor(BusInstance& instance, const QDBusConnection& bus)
+    : QDBusAbstractAdaptor(&instance), instance_(instance), bus_(bus) {}
 
-void AskAdaptor::Ask(const QStringList& request, int& status, QByteArray& output, QString& errors) {
-    Ask(request, {}, status, output, errors);
+void AskAdaptor::Ask(const QStringList& request, const QDBusMessage& call, int& status,
+                     QByteArray& output, QString& errors) {
+    Ask(request, {}, call, status, output, errors);
 }
 
-void AskAdaptor::Ask(const QStringList& request, const QVariantMap& platformData, int& status,
-                     QByteArray& output, QString& errors) {
-    const Answer answer = instance_.answer(request, activationToken(platformData));
-    status = answer.status;
-    output = answer.output;
-    errors = answer.errors;
+void AskAdaptor::Ask(const QStringList& request, const QVariantMap& platformData,
+                     const QDBusMessage& call, int& /*status*/, QByteArray& /*output*/,
+                     QString& /*errors*/) {
+    call.setDelayedReply(true);
+    instance_.answer(request, activationToken(platformData),
+                     [bus = bus_, call](const Answer& answer) {
+                         bus.send(call.createReply(
+                             QVariantList{answer.status, answer.output, answer.errors}));
+                     });
 }
 
 ApplicationAdaptor::ApplicationAdaptor(BusInstance& instance, const QDBusConnection& bus)
@@ -100,11 +104,13 @@ void ApplicationAdaptor::Open(const QStringList& uris, const QVariantMap& platfo
 
 void ApplicationAdaptor::act(const QStringList& request, const QVariantMap& platformData,
                              const QDBusMessage& call) {
-    const Answer answer = instance_.answer(request, activationToken(platformData));
-    if (answer.status != 0) {
-        call.setDelayedReply(true);
-        bus_.send(call.createErrorReply(QDBusError::Failed, answer.errors));
-    }
+    call.setDelayedReply(true);
+    instance_.answer(request, activationToken(platformData),
+                     [bus = bus_, call](const Answer& answer) {
+                         bus.send(answer.status == 0
+                                      ? call.createReply()
+                                      : call.createErrorReply(QDBusError::Failed, answer.errors));
+                     });
 }
 
 } // namespace ravelo

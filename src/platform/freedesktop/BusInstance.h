@@ -36,17 +36,19 @@ class AskAdaptor final : public QDBusAbstractAdaptor {
     Q_CLASSINFO("D-Bus Interface", "org.ravelo.Ravelo")
 
 public:
-    explicit AskAdaptor(BusInstance& instance);
+    AskAdaptor(BusInstance& instance, const QDBusConnection& bus);
 
 public Q_SLOTS:
     // Upper case as on every bus. NOLINTBEGIN(readability-identifier-naming)
-    void Ask(const QStringList& request, int& status, QByteArray& output, QString& errors);
-    void Ask(const QStringList& request, const QVariantMap& platformData, int& status,
-             QByteArray& output, QString& errors);
+    void Ask(const QStringList& request, const QDBusMessage& call, int& status, QByteArray& output,
+             QString& errors);
+    void Ask(const QStringList& request, const QVariantMap& platformData, const QDBusMessage& call,
+             int& status, QByteArray& output, QString& errors);
     // NOLINTEND(readability-identifier-naming)
 
 private:
     BusInstance& instance_;
+    QDBusConnection bus_;
 };
 
 /// For desktops (Desktop Entry Specification, D-Bus Activation).

@@ -1,6 +1,7 @@
 #include "platform/freedesktop/SecretService.h"
 
 #include "platform/freedesktop/BusCall.h"
+#include "platform/freedesktop/SecretCalls.h"
 
 #include <QDBusArgument>
 #include <QDBusMessage>
@@ -17,42 +18,9 @@
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
+using namespace secrets;
 
 namespace {
-
-constexpr QLatin1StringView name("org.freedesktop.secrets");
-constexpr QLatin1StringView servicePath("/org/freedesktop/secrets");
-constexpr QLatin1StringView serviceInterface("org.freedesktop.Secret.Service");
-constexpr QLatin1StringView itemInterface("org.freedesktop.Secret.Item");
-constexpr QLatin1StringView sessionInterface("org.freedesktop.Secret.Session");
-
-using Attributes = QMap<QString, QString>;
-
-/// The first of the paths; none if there are none or it is an error.
-std::optional<QDBusObjectPath> firstPath(const QVariant& paths) {
-    QList<QDBusObjectPath> list;
-    if (const auto argument = paths.value<QDBusArgument>();
-        argument.currentSignature() == "ao"_L1) {
-        argument >> list;
-    }
-    return list.isEmpty() ? std::nullopt : std::optional(list.first());
-}
-
-/// The value in a Secret structure: session, parameters, value, type of contents.
-std::optional<Secret> valueOf(const QVariant& secret) {
-    const auto argument = secret.value<QDBusArgument>();
-    if (argument.currentSignature() != "(oayays)"_L1) {
-        return std::nullopt;
-    }
-    QDBusObjectPath session;
-    QByteArray parameters;
-    QByteArray value;
-    QString type;
-    argument.beginStructure();
-    argument >> session >> parameters >> value >> type;
-    argument.endStructure();
-    return Secret(std::move(value));
-}
 
 /// One call after the other.
 class Search {
@@ -72,8 +40,8 @@ public:
                  {QVariant::fromValue(Attributes{{u"service"_s, service}})}),
             [this](const QVariantList& found) {
                 // Locked items follow in a second list, which we ignore.
-                if (const auto item = firstPath(found.value(0))) {
-                    open(*item);
+                if (const auto items = paths(found.value(0)); !items.isEmpty()) {
+                    open(items.first());
                 } else {
                     finish(std::nullopt);
                 }
@@ -115,17 +83,10 @@ private:
     void closeSession() {
         if (!session_.path().isEmpty()) {
             const Handle nobodyWaits =
-                callBus(bus_, call(session_.path(), sessionInterface, u"Close"_s, {}),
+                callBus(bus_, call(session_.path(), sessionInterface, u"Close"_s),
                         std::chrono::seconds(1), [](const QDBusMessage&) {});
             session_ = {};
         }
-    }
-
-    static QDBusMessage call(const QString& path, const QString& interface, const QString& method,
-                             const QVariantList& arguments) {
-        QDBusMessage message = QDBusMessage::createMethodCall(name, path, interface, method);
-        message.setArguments(arguments);
-        return message;
     }
 
     QDBusConnection bus_;

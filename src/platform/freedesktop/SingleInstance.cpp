@@ -30,21 +30,26 @@ std::unique_ptr<SingleInstance> SingleInstance::claim() {
 }
 
 std::optional<Answer> SingleInstance::ask(const QStringList& request,
-                                          const QByteArray& activationToken) {
+                                          const QByteArray& activationToken,
+                                          std::chrono::milliseconds timeout) {
     if (hasSessionBus()) {
         if (auto bus = sessionBus(); bus.isConnected()) {
-            return BusInstance::ask(bus, request, activationToken);
+            return BusInstance::ask(bus, request, activationToken, timeout);
         }
     }
-    return SocketInstance::ask(request, activationToken);
+    return SocketInstance::ask(request, activationToken, timeout);
 }
 
 Answer SingleInstance::silence() {
     return {1, {}, u"another Ravelo runs but does not answer"_s};
 }
 
-Answer SingleInstance::answer(const QStringList& request, const QByteArray& activationToken) const {
-    return onRequest ? onRequest(request, activationToken) : Answer{1, {}, u"not ready yet"_s};
+void SingleInstance::answer(const QStringList& request, const QByteArray& activationToken,
+                            const Reply& reply) const {
+    if (onLongRequest && onLongRequest(request, reply)) {
+        return;
+    }
+    reply(onRequest ? onRequest(request, activationToken) : Answer{1, {}, u"not ready yet"_s});
 }
 
 } // namespace ravelo

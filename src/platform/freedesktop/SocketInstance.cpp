@@ -9,6 +9,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QLocalSocket>
+#include <QPointer>
 #include <QStandardPaths>
 #include <QThread>
 
@@ -156,9 +157,14 @@ void SocketInstance::accept() {
 void SocketInstance::serve(QLocalSocket& socket) const {
     if (socket.canReadLine()) {
         const auto request = toRequest(socket.readLine());
-        socket.write(written(request ? answer(request->words, request->activationToken)
-                                     : Answer{2, {}, u"no request"_s}));
-        socket.flush();
+        const auto reply = [socket = QPointer(&socket)](const Answer& answer) {
+            if (socket) {
+                socket->write(written(answer));
+                socket->flush();
+            }
+        };
+        request ? answer(request->words, request->activationToken, reply)
+                : reply({2, {}, u"no request"_s});
     } else if (socket.bytesAvailable() > maxRequest) {
         socket.abort();
     }

@@ -24,6 +24,10 @@ namespace {
 
 constexpr int maxAttempts = 10; ///< Others may replace the file between our steps.
 
+// What an earlier version takes for another machine, and shows to the user.
+constexpr QLatin1StringView encryptedHost(" (a newer Ravelo, which has encrypted the data)");
+constexpr QByteArrayView encryptedMachine(" encrypted");
+
 /// The writer of a lock. The lines are those of QLockFile and one of our own.
 struct Owner {
     qint64 process = 0;
@@ -33,8 +37,11 @@ struct Owner {
     explicit Owner(const QByteArray& bytes) {
         const QList<QByteArray> lines = bytes.split('\n');
         process = lines.value(0).toLongLong();
-        host = QString::fromUtf8(lines.value(2));
+        host = QString::fromUtf8(lines.value(2)).section(encryptedHost, 0, 0);
         machine = lines.value(3);
+        if (machine.endsWith(encryptedMachine)) {
+            machine.chop(encryptedMachine.size());
+        }
     }
 
     [[nodiscard]] bool isElsewhere() const {
@@ -51,11 +58,16 @@ struct Owner {
     }
 };
 
-QByteArray newContents() {
+enum class Data { plain, encrypted };
+
+QByteArray newContents(Data data) {
+    const bool marked = data == Data::encrypted;
     const QList<QByteArray> lines = {QByteArray::number(QCoreApplication::applicationPid()),
                                      "ravelo",
-                                     QSysInfo::machineHostName().toUtf8(),
-                                     QSysInfo::machineUniqueId(),
+                                     QSysInfo::machineHostName().toUtf8() +
+                                         (marked ? QByteArray(encryptedHost.data()) : QByteArray()),
+                                     QSysInfo::machineUniqueId() +
+                                         (marked ? encryptedMachine.toByteArray() : QByteArray()),
                                      QSysInfo::bootUniqueId(),
                                      uuidText(QUuid::createUuid()).toLatin1(),
                                      {}};
@@ -87,10 +99,11 @@ tl::unexpected<Error> heldBy(const Owner& owner, const QString& folder) {
 
 } // namespace
 
-DataLock::DataLock(QString path, QString data) : path_(std::move(path)), data_(std::move(data)) {}
+DataLock::DataLock(QString path, QString data, QString keyFile)
+    : path_(std::move(path)), data_(std::move(data)), keyFile_(std::move(keyFile)) {}
 
 DataLock::~DataLock() {
-    if (file_ >= 0 && readFile(path_) == ours_) {
+    if (file_ >= 0 && !isEncrypted() && readFile(path_) == ours_) {
         QFile::remove(path_);
     }
     letGo();
@@ -130,8 +143,27 @@ Result<void> DataLock::acquire(Claim claim) {
     return failure(u"%1 changes all the time"_s.arg(path_));
 }
 
+bool DataLock::isEncrypted() const {
+    return !keyFile_.isEmpty() && QFile::exists(keyFile_);
+}
+
+void DataLock::followKeyFile() {
+    const std::scoped_lock lock(mutex_);
+    if (file_ < 0 || readFile(path_) != ours_) {
+        return;
+    }
+    // Never empty in between: then it would count as free.
+    const QByteArray contents = newContents(isEncrypted() ? Data::encrypted : Data::plain);
+    if (pwrite(file_, contents.constData(), static_cast<size_t>(contents.size()), 0) ==
+            contents.size() &&
+        ftruncate(file_, contents.size()) == 0) {
+        ours_ = contents;
+        fsync(file_);
+    }
+}
+
 Result<void> DataLock::keep(int file) {
-    const QByteArray contents = newContents();
+    const QByteArray contents = newContents(isEncrypted() ? Data::encrypted : Data::plain);
     fchmod(file, S_IRUSR | S_IWUSR); // Older versions created it readable for others.
     if (ftruncate(file, 0) != 0 ||
         pwrite(file, contents.constData(), static_cast<size_t>(contents.size()), 0) !=

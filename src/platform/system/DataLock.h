@@ -14,6 +14,10 @@ namespace ravelo {
 /// changes. A file beside the data names the process and the machine, and is locked while the
 /// process lives. If the home folder is shared over the network, whether a process on another
 /// machine still lives is not known and must not be guessed.
+///
+/// While there is a key file beside the data, they are encrypted. An earlier Ravelo, which would
+/// take them for unreadable and begin anew, then has to stay away: the lock, which stays when we
+/// end, names another machine in its eyes.
 class DataLock {
 public:
     enum class Claim {
@@ -22,7 +26,7 @@ public:
     };
 
     /// `path` is the lock file, `data` the file that it protects.
-    DataLock(QString path, QString data);
+    DataLock(QString path, QString data, QString keyFile = {});
 
     /// Releases the lock if it is still ours.
     ~DataLock();
@@ -37,6 +41,9 @@ public:
     /// Whether the data are ours; once lost, they stay lost. Blocks; any thread.
     [[nodiscard]] Result<void> check();
 
+    /// The key file has come or gone. Blocks; any thread.
+    void followKeyFile();
+
     /// Whether the process named in the file may be alive. Cheap.
     [[nodiscard]] static bool mayBeHeld(const QString& path);
 
@@ -44,9 +51,11 @@ private:
     [[nodiscard]] Result<void> acquire(Claim claim);
     [[nodiscard]] Result<void> keep(int file);
     void letGo();
+    [[nodiscard]] bool isEncrypted() const;
 
     const QString path_;
     const QString data_;
+    const QString keyFile_;
     std::mutex mutex_;
     int file_ = -1;
     QByteArray ours_;           ///< What we wrote; empty if we never had the lock.

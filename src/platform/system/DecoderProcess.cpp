@@ -73,7 +73,8 @@ bool fits(const Request& request, const DecoderConnection::Answer& answer) {
 /// An open picture and its key in the cache.
 struct DecoderProcess::Source {
     Origin origin = Origin::elsewhere;
-    Descriptor descriptor;
+    Descriptor descriptor; ///< What is decoded.
+    Descriptor file;       ///< The file, if that is something else.
     QByteArray identity;
 
     explicit Source(const PictureFile& file) {
@@ -110,8 +111,19 @@ DecoderProcess::Source DecoderProcess::sourceOf(const UntrustedPicture& picture)
     return source;
 }
 
+/// The source itself, or what is encrypted in it.
+DecoderProcess::Source DecoderProcess::readable(Source source,
+                                                const UntrustedPicture& picture) const {
+    if (opener_ && source.origin == Origin::own && source.descriptor) {
+        if (const auto opened = opener_(std::get<PictureFile>(picture).path)) {
+            source.file = std::exchange(source.descriptor, sealedMemory(*opened));
+        }
+    }
+    return source;
+}
+
 PictureLook DecoderProcess::look(const UntrustedPicture& picture) {
-    const auto answer = ask(sourceOf(picture), {Kind::probe, 0, 0, 0, probeTime});
+    const auto answer = ask(readable(sourceOf(picture), picture), {Kind::probe, 0, 0, 0, probeTime});
     if (!answer || answer->reply.width <= 0 || answer->reply.height <= 0) {
         return {};
     }
@@ -127,13 +139,13 @@ QImage DecoderProcess::icon(const PictureFile& file, int size) {
 }
 
 QByteArray DecoderProcess::png(const UntrustedPicture& picture) {
-    auto answer = ask(sourceOf(picture), {Kind::png, 0, 0, 0, wholeTime});
+    auto answer = ask(readable(sourceOf(picture), picture), {Kind::png, 0, 0, 0, wholeTime});
     return answer && answer->reply.status == Status::done ? std::move(answer->contents)
                                                           : QByteArray();
 }
 
 QImage DecoderProcess::pixels(const UntrustedPicture& picture, const Request& request) {
-    const Source source = sourceOf(picture);
+    Source source = sourceOf(picture);
     const QByteArray key = source.identity + bytesOf(request);
     {
         const std::lock_guard lock(mutex_);
@@ -141,6 +153,7 @@ QImage DecoderProcess::pixels(const UntrustedPicture& picture, const Request& re
             return kept->image;
         }
     }
+    source = readable(std::move(source), picture);
     const auto answer = ask(source, request);
     if (!answer || !fits(request, *answer)) {
         return {};
@@ -151,7 +164,7 @@ QImage DecoderProcess::pixels(const UntrustedPicture& picture, const Request& re
     const auto* const file = std::get_if<PictureFile>(&picture);
     if (file != nullptr && image.sizeInBytes() <= maxKept) {
         const std::lock_guard lock(mutex_);
-        if (isThere(source.descriptor)) { // Otherwise `forget` may have been called before.
+        if (isThere(source.file ? source.file : source.descriptor)) { // Otherwise `forget` may have been called before.
             kept_.insert(key, new Kept{image, file->path}, image.sizeInBytes());
         }
     }
@@ -163,6 +176,16 @@ void DecoderProcess::forget(const PictureFile& file) {
     const QList<QByteArray> keys = kept_.keys();
     for (const QByteArray& key : keys) {
         if (kept_.object(key)->path == file.path) {
+            kept_.remove(key);
+        }
+    }
+}
+
+void DecoderProcess::forgetOwn() {
+    const std::lock_guard lock(mutex_);
+    const QList<QByteArray> keys = kept_.keys();
+    for (const QByteArray& key : keys) {
+        if (kept_.object(key)->path.startsWith(ownFolder_)) {
             kept_.remove(key);
         }
     }

@@ -7,6 +7,7 @@
 #include <QSet>
 
 #include <chrono>
+#include <functional>
 #include <mutex>
 #include <optional>
 #include <vector>
@@ -20,15 +21,25 @@ namespace ravelo {
 /// not tried again until its file changes; small pictures of files are cached.
 class DecoderProcess final : public ImageDecoder {
 public:
-    /// `ownFolder` has the pictures that the program keeps itself.
-    DecoderProcess(QByteArray program, const QByteArray& ownFolder)
-        : program_(std::move(program)), ownFolder_(ownFolder + '/') {}
+    /// The contents of an encrypted picture; nothing if it cannot be read or is not encrypted. Any
+    /// thread.
+    using Opener = std::function<std::optional<QByteArray>(const QByteArray& path)>;
+
+    /// `ownFolder` has the pictures that the program keeps itself; `opener`, if any, is asked for
+    /// those only.
+    DecoderProcess(QByteArray program, const QByteArray& ownFolder, Opener opener = {})
+        : program_(std::move(program)),
+          ownFolder_(ownFolder + '/'),
+          opener_(std::move(opener)) {}
 
     [[nodiscard]] PictureLook look(const UntrustedPicture& picture) override;
     [[nodiscard]] QImage filling(const UntrustedPicture& picture, PictureShape shape) override;
     [[nodiscard]] QImage icon(const PictureFile& file, int size) override;
     [[nodiscard]] QByteArray png(const UntrustedPicture& picture) override;
     void forget(const PictureFile& file) override;
+
+    /// Forgets all cached pictures of the own folder.
+    void forgetOwn();
 
 private:
     using Clock = std::chrono::steady_clock;
@@ -53,6 +64,7 @@ private:
     [[nodiscard]] QImage pixels(const UntrustedPicture& picture, const decode::Request& request);
     [[nodiscard]] Origin originOf(const UntrustedPicture& picture) const;
     [[nodiscard]] Source sourceOf(const UntrustedPicture& picture) const;
+    [[nodiscard]] Source readable(Source source, const UntrustedPicture& picture) const;
     [[nodiscard]] std::optional<DecoderConnection> idleConnection(Origin origin);
     [[nodiscard]] std::optional<DecoderConnection> sent(const Source& source,
                                                         const decode::Request& request);
@@ -61,6 +73,7 @@ private:
 
     const QByteArray program_;
     const QByteArray ownFolder_; ///< With a slash at its end.
+    const Opener opener_;
     std::mutex mutex_;           ///< Guards the members below; never held while waiting.
     std::vector<Idle> idle_;     ///< Longest idle first.
     QSet<QByteArray> bad_;       ///< Not to be tried again.

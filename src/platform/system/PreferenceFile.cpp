@@ -4,6 +4,8 @@
 #include "base/Scheduler.h"
 #include "platform/Worker.h"
 
+#include <QDir>
+#include <QFile>
 #include <QFileInfo>
 #include <QJsonDocument>
 
@@ -56,7 +58,29 @@ void PreferenceFile::flush() {
     services_.worker.drain();
 }
 
+void PreferenceFile::erase(std::function<void(const Result<void>&)> done) {
+    erased_ = true;
+    const auto outcome = std::make_shared<Result<void>>();
+    services_.worker.run([path = path_, outcome] { *outcome = erasePreferences(path); },
+                         [outcome, done = std::move(done)] { done(*outcome); });
+}
+
+Result<void> erasePreferences(const QString& path) {
+    const QFileInfo file(path);
+    Result<void> done;
+    for (const QFileInfo& one : file.dir().entryInfoList({file.fileName() + u'*'}, QDir::Files)) {
+        if (!QFile::remove(one.filePath())) {
+            done = failure(QStringLiteral("%1 could not be removed").arg(one.filePath()));
+        }
+    }
+    const Result<void> synced = syncFolderOf(path);
+    return done ? synced : done;
+}
+
 void PreferenceFile::write() {
+    if (erased_) {
+        return;
+    }
     if (writing_) {
         changedMeanwhile_ = true;
         return;

@@ -46,6 +46,10 @@ public:
     /// Like `retry`, but waits for it without an event loop, for the end of the program.
     void flush();
 
+    /// Writes nothing from now on, and lets the worker remove the file and what was put aside. Then
+    /// calls `done`.
+    void erase(std::function<void(const Result<void>&)> done);
+
     /// After each write.
     std::function<void(const SaveOutcome&)> onSaved;
 
@@ -62,6 +66,10 @@ private:
     bool unsaved_ = false; ///< The last write failed.
     bool writing_ = false;
     bool changedMeanwhile_ = false;
+    bool erased_ = false;
 };
+
+/// Removes a preference file and what was put aside beside it. Blocks; any thread.
+[[nodiscard]] Result<void> erasePreferences(const QString& path);
 
 } // namespace ravelo

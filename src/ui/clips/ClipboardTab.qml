@@ -6,6 +6,7 @@ import Ravelo.Controls
 import Ravelo.Lists
 import Ravelo.Snippets
 import Ravelo.Theme
+import Ravelo.Vault
 
 /// Search, snippets and the clipboard history.
 TabPage {
@@ -15,6 +16,11 @@ TabPage {
     readonly property real scrolled: head > 0 ? list.contentY - list.originY + list.topMargin : 0
     /// How far the snippets have moved behind the search.
     readonly property real chipsLifted: Math.max(0, Math.min(36, scrolled - head))
+
+    /// Instead of the list, unless there are clips that came since.
+    readonly property bool showsLock: Vault.locked && (list.count === 0 || Vault.asked)
+    /// Height of the snippets, which are hidden while locked.
+    readonly property real chipsRoom: Vault.locked ? 0 : 36
 
     flick: list
 
@@ -203,6 +209,8 @@ TabPage {
         y: tab.head - Math.min(tab.head, Math.max(0, tab.scrolled))
         z: 1 // The list scrolls up behind the search.
         width: parent.width
+        enabled: !tab.showsLock
+        opacity: enabled ? 1 : 0.4
         placeholder: qsTr("Search clipboard…")
         clearName: qsTr("Clear history")
         clearQuestion: qsTr("Clear clipboard history?")
@@ -244,6 +252,7 @@ TabPage {
         z: 1
         width: parent.width
         height: 36 - tab.chipsLifted
+        visible: !Vault.locked
         clip: tab.chipsLifted > 0
 
         SnippetStrip {
@@ -276,11 +285,20 @@ TabPage {
         }
     }
 
+    LockedView {
+        objectName: "locked"
+        visible: tab.showsLock
+        focus: visible
+        y: tab.head + 40
+        width: parent.width
+        height: parent.height - y
+    }
+
     EmptyState {
         y: tab.head + 76
         width: parent.width
         height: parent.height - y
-        visible: list.count === 0
+        visible: list.count === 0 && !Vault.locked
         symbol: "doc.on.clipboard"
         title: qsTr("No clipboard history yet")
         subtitle: qsTr("Copy anything with ⌘C and it shows up here.")
@@ -288,7 +306,8 @@ TabPage {
     }
 
     FadingEnds {
-        y: tab.head > 0 ? 40 : 76
+        visible: !tab.showsLock
+        y: tab.head > 0 ? 40 : 40 + tab.chipsRoom
         width: parent.width
         height: parent.height - y
         length: Math.min(26, Math.max(0, list.contentHeight - list.contentY - list.height))
@@ -308,7 +327,7 @@ TabPage {
             Accessible.name: qsTr("Clipboard history")
             anchors.fill: parent
             clip: true
-            topMargin: tab.head > 0 ? tab.head + 36 : 0
+            topMargin: tab.head > 0 ? tab.head + tab.chipsRoom : 0
             onTopMarginChanged: showTop()
             Component.onCompleted: showTop()
             onContentHeightChanged: {

@@ -7,16 +7,22 @@ Popover {
     id: question
 
     property alias text: label.text
+    /// A second line.
+    property alias detail: detail.text
+    property alias yesText: yes.text
+    /// "Yes" is red.
+    property bool destroys: false
     /// Return means yes. If false, it means no until "Yes" has the focus.
     property bool yesFirst: false
 
     signal accepted
 
     pad: 14
-    contentWidth: Math.max(label.implicitWidth, buttons.width) + 2
-    contentHeight: 58
+    contentWidth: Math.max(label.implicitWidth, detail.implicitWidth, buttons.width) + 2
+    contentHeight: detail.text === "" ? 58 : 82
     Accessible.role: Accessible.Dialog
     Accessible.name: text
+    Accessible.description: detail.text
     onOpenedChanged: {
         if (opened) {
             (yesFirst ? yes : no).forceActiveFocus();
@@ -30,10 +36,20 @@ Popover {
         color: Theme.text1
     }
 
+    Label {
+        id: detail
+        objectName: "detail"
+        visible: text !== ""
+        x: 2
+        y: 20
+        style: Theme.body
+        color: Theme.text3
+    }
+
     Row {
         id: buttons
         anchors.right: parent.right
-        y: 30
+        y: detail.text === "" ? 30 : 54
         spacing: 8
 
         CapsuleButton {
@@ -52,7 +68,11 @@ Popover {
             id: yes
             objectName: "yes"
             text: qsTr("Yes")
-            primary: true
+            primary: !question.destroys
+            textColor: question.destroys ? Theme.red : Theme.onWhite
+            rest: question.destroys ? Theme.quit : Theme.primary
+            hover: question.destroys ? Theme.hoveredPower : Theme.primaryHovered
+            press: question.destroys ? Theme.pressedPower : Theme.primaryPressed
             ring: question.keyed
             Keys.onPressed: question.keyed = true
             KeyNavigation.priority: KeyNavigation.AfterItem

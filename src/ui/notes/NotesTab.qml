@@ -4,6 +4,7 @@ import Ravelo.Notes
 import Ravelo.Paint
 import Ravelo.Text
 import Ravelo.Theme
+import Ravelo.Vault
 
 /// The quick note, saved at every change.
 TabPage {
@@ -14,8 +15,18 @@ TabPage {
 
     flick: scrolled
 
+    LockedView {
+        objectName: "locked"
+        visible: Vault.locked
+        focus: visible
+        y: tab.headInSight
+        width: parent.width
+        height: parent.height - y
+    }
+
     Label {
         objectName: "caption"
+        visible: !Vault.locked
         y: tab.headInSight + 8
         text: qsTr("Quick note")
         color: Theme.caption
@@ -24,6 +35,7 @@ TabPage {
 
     Box {
         objectName: "editor"
+        visible: !Vault.locked
         y: tab.headInSight + 32
         width: parent.width
         height: parent.height - y
@@ -44,7 +56,7 @@ TabPage {
             EditArea {
                 id: editor
                 objectName: "noteInput"
-                focus: true
+                focus: !Vault.locked
                 name: qsTr("Quick note")
                 width: parent.width
                 exactText: tab.notes.text

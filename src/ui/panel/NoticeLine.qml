@@ -24,7 +24,7 @@ FocusScope {
     property string rest
     property string action
     property bool dismissible
-    readonly property bool red: kind === Notices.SavingFails
+    readonly property bool red: kind === Notices.SavingFails || kind === Notices.NotDeleted
 
     property Item focusedBefore
 
@@ -109,7 +109,8 @@ FocusScope {
         y: 9
         size: 18
         symbol: line.red ? "exclamationmark.circle.fill"
-                         : line.kind === Notices.SavedAgain ? "checkmark.circle.fill" : "info.circle"
+                         : line.kind === Notices.SavedAgain ? "checkmark.circle.fill"
+                         : line.kind === Notices.Locked ? "lock" : "info.circle"
         color: line.red ? Theme.red : line.kind === Notices.SavedAgain ? Theme.green : Theme.text3
     }
 

@@ -3,6 +3,7 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Shelf
 import Ravelo.Theme
+import Ravelo.Vault
 
 /// The parked and the received files.
 TabPage {
@@ -28,8 +29,18 @@ TabPage {
         onTriggered: tab.shelfFiles.parked.lookForMissing()
     }
 
+    LockedView {
+        objectName: "locked"
+        visible: Vault.locked
+        focus: visible
+        y: tab.head
+        width: parent.width
+        height: parent.height - y
+    }
+
     FadingEnds {
         id: ends
+        visible: !Vault.locked
         anchors.fill: parent
         length: tab.whole ? Math.min(26, Math.max(0, page.contentHeight - page.contentY - page.height)) : 0
         topLength: tab.whole ? Math.min(18, Math.max(0, page.contentY)) : 0
@@ -73,7 +84,7 @@ TabPage {
         ShelfGrid {
             id: grid
             objectName: "grid"
-            focus: true
+            focus: !Vault.locked
             y: 44
             width: page.width
             height: tab.whole ? tab.shelfFiles.parked.height

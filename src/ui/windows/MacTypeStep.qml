@@ -96,7 +96,7 @@ FocusScope {
         sidePad: 24
         style: Theme.tab
         primary: true
-        text: qsTr("Done")
+        text: qsTr("Continue")
         onClicked: step.done()
     }
 }

@@ -12,7 +12,7 @@ TitledPage {
     required property OnboardingController host
 
     property int step: 0
-    readonly property int steps: host.extension.isOffered || step === 2 ? 3 : 2
+    readonly property int steps: host.extension.isOffered || step === 3 ? 4 : 3
 
     WelcomeStep {
         anchors.fill: parent
@@ -26,12 +26,19 @@ TitledPage {
         visible: view.step === 1
         focus: visible
         host: view.host
-        onDone: view.steps > 2 ? view.step = 2 : view.host.finish()
+        onDone: view.step = 2
+    }
+
+    EncryptionStep {
+        anchors.fill: parent
+        visible: view.step === 2
+        focus: visible
+        onDone: view.steps > 3 ? view.step = 3 : view.host.finish()
     }
 
     ExtensionStep {
         anchors.fill: parent
-        visible: view.step === 2
+        visible: view.step === 3
         focus: visible
         host: view.host
     }

@@ -7,6 +7,8 @@ Item {
     id: row
 
     property alias text: label.text
+    /// After the text, in grey.
+    property alias amount: amount.text
     property alias note: note.text
     default property alias control: place.data
 
@@ -29,6 +31,16 @@ Item {
         tabular: true
         style: Theme.body
         color: Theme.text1
+    }
+
+    Label {
+        id: amount
+        objectName: "amount"
+        x: label.x + label.width + 8
+        y: 15
+        tabular: true
+        style: Theme.small
+        color: Theme.text3
     }
 
     Item {

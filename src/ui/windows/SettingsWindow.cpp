@@ -1,10 +1,22 @@
 #include "ui/windows/SettingsWindow.h"
 
+#include <QLocale>
+
 #include <utility>
 
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// With one decimal below 10.
+QString megabytes(qint64 bytes) {
+    const double size = static_cast<double>(bytes) / (1 << 20);
+    return SettingsWindow::tr("%1 MB").arg(QLocale().toString(size, 'f', size < 10 ? 1 : 0));
+}
+
+} // namespace
 
 SettingsWindow::SettingsWindow(Subjects subjects)
     : subjects_(std::move(subjects)), extension_(subjects_.extension) {
@@ -17,7 +29,20 @@ int SettingsWindow::clipCount() const {
     return static_cast<int>(subjects_.store.clips().size());
 }
 
+int SettingsWindow::lastHourCount() const {
+    return static_cast<int>(subjects_.store.lastHourCount());
+}
+
+QString SettingsWindow::textSize() const {
+    return megabytes(subjects_.store.textBytes());
+}
+
+QString SettingsWindow::imageSize() const {
+    return megabytes(subjects_.store.imageBytes());
+}
+
 void SettingsWindow::show() {
+    Q_EMIT clipsChanged();
     subjects_.settings.refreshLaunchAtLogin();
     if (!window_) {
         window_ = std::make_unique<TitledWindow>(subjects_.beside, tr("Ravelo Settings"),

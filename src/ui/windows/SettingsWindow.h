@@ -22,6 +22,9 @@ class SettingsWindow : public QObject {
     Q_PROPERTY(QString display READ display CONSTANT)
     Q_PROPERTY(ravelo::ExtensionOffer* extension READ extension CONSTANT)
     Q_PROPERTY(int clipCount READ clipCount NOTIFY clipsChanged)
+    Q_PROPERTY(int lastHourCount READ lastHourCount NOTIFY clipsChanged)
+    Q_PROPERTY(QString textSize READ textSize NOTIFY clipsChanged)
+    Q_PROPERTY(QString imageSize READ imageSize NOTIFY clipsChanged)
 
 public:
     /// All outlive this.
@@ -32,6 +35,7 @@ public:
         std::function<void()> quit;            ///< Quits the program, asynchronously.
         QString display;                       ///< Which display server is in use, and why.
         DesktopExtension* extension = nullptr; ///< Null if the desktop needs none.
+        std::function<void()> erase = {};      ///< Everything; then the program ends.
     };
 
     explicit SettingsWindow(Subjects subjects);
@@ -45,12 +49,28 @@ public:
 
     [[nodiscard]] int clipCount() const;
 
+    [[nodiscard]] int lastHourCount() const;
+    /// Such as "3.1 MB".
+    [[nodiscard]] QString textSize() const;
+    [[nodiscard]] QString imageSize() const;
+
     void show();
 
     /// Null before first use.
     [[nodiscard]] TitledWindow* window() const { return window_.get(); }
 
     Q_INVOKABLE void clearClips() { subjects_.store.clearClips(); }
+
+    /// What is shown changes with time, too.
+    Q_INVOKABLE void refreshSizes() { Q_EMIT clipsChanged(); }
+
+    Q_INVOKABLE void clearLastHour() { subjects_.store.clearLastHour(); }
+
+    Q_INVOKABLE void erase() {
+        if (subjects_.erase) {
+            subjects_.erase();
+        }
+    }
 
     Q_INVOKABLE void quit() { subjects_.quit(); }
 

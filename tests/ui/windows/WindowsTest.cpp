@@ -282,6 +282,8 @@ TEST_F(Setup, CanBeDoneByKeyboard) {
     EXPECT_FALSE(world.settings.onboarded());
     press(*window, Qt::Key_Tab);
     press(*window, Qt::Key_Return);
+    EXPECT_TRUE(in(window, u"continue"_s)->isVisible()) << "plain files is chosen at first";
+    press(*window, Qt::Key_Return);
     EXPECT_EQ(kept(u"onboarded"_s), true);
     EXPECT_EQ(setup.window(), nullptr);
     EXPECT_TRUE(eventually([this] { return window.isNull(); }));
@@ -319,6 +321,7 @@ TEST_F(Setup, CanBeDoneByMouseAndReportsTheNotch) {
         EXPECT_EQ(selected(), QStringList(name));
     }
     clickOn(window, u"done"_s);
+    clickOn(window, u"continue"_s);
     EXPECT_EQ(kept(u"onboarded"_s), true);
     EXPECT_EQ(setup.window(), nullptr);
     EXPECT_TRUE(eventually([this] { return window.isNull(); }));
@@ -332,6 +335,7 @@ TEST_F(Setup, OffersTheDesktopsExtensionLastAndTurnsItOnWhenAsked) {
     ASSERT_TRUE(eventually([&] { return offered->isActive(); }));
     clickOn(offered, u"start"_s);
     clickOn(offered, u"done"_s);
+    clickOn(offered, u"continue"_s);
     ASSERT_EQ(offering.window(), offered) << "there is one more step";
     EXPECT_EQ(extension.requests, 0) << "without being asked";
     clickOn(offered, u"turnOn"_s);

@@ -1,0 +1,66 @@
+#include "store/StoreContents.h"
+
+#include "base/Files.h"
+#include "base/Uuid.h"
+#include "store/ShelfPaths.h"
+#include "store/StoreFile.h"
+#include "vault/Vault.h"
+
+#include <QDir>
+#include <QFileInfo>
+
+#include <optional>
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+std::optional<StoreContents> parsed(const QByteArray& bytes) {
+    std::optional<StoreData> data = decodeStore(bytes);
+    if (!data) {
+        return std::nullopt;
+    }
+    QList<QList<QUrl>> shelf = shelfStacks(std::exchange(data->shelfStacks, {}));
+    return StoreContents{std::move(*data), std::move(shelf)};
+}
+
+QString waitingFolder(const Vault& vault) {
+    return vault.folder() + u"/waiting"_s;
+}
+
+} // namespace
+
+StoredContents readStore(const Vault& vault, const QString& path) {
+    StoredContents stored;
+    const Vault::Contents contents = vault.read(path);
+    if (contents.kind == Vault::Contents::Kind::newer || isOfNewerStore(contents.bytes)) {
+        stored.kind = StoredContents::Kind::newer;
+        return stored;
+    }
+    auto store = contents.kind == Vault::Contents::Kind::readable ? parsed(contents.bytes)
+                                                                  : std::nullopt;
+    if (store) {
+        stored.kind = StoredContents::Kind::read;
+        stored.store = std::move(*store);
+    } else if (presenceOf(QFile::encodeName(path)) != Presence::gone) {
+        stored.kind = StoredContents::Kind::unreadable;
+    }
+    const QDir waiting(waitingFolder(vault));
+    for (const QFileInfo& file : waiting.entryInfoList(QDir::Files, QDir::Time | QDir::Reversed)) {
+        const auto bytes = vault.bytes(file.filePath());
+        if (auto one = bytes ? parsed(*bytes) : std::nullopt) {
+            stored.waiting.append(std::move(*one));
+            stored.waitingFiles.append(file.filePath());
+        }
+    }
+    return stored;
+}
+
+QString newWaitingFile(const Vault& vault) {
+    return waitingFolder(vault) + u'/' + uuidText(QUuid::createUuid());
+}
+
+} // namespace ravelo

@@ -1,0 +1,178 @@
+// How the store is read, locked, unlocked and erased.
+
+#include "base/Scheduler.h"
+#include "base/Uuid.h"
+#include "platform/ImageDecoder.h"
+#include "platform/Preferences.h"
+#include "platform/Worker.h"
+#include "store/Seeds.h"
+#include "store/Store.h"
+#include "vault/Conversion.h"
+#include "vault/Vault.h"
+
+#include <QFile>
+#include <QPointer>
+
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+void Store::load() {
+    if (locked_) {
+        saver_.setFile(newWaitingFile(*services_.vault), OwnFile::Contents::ours,
+                       services_.mayWrite);
+        return;
+    }
+    begin(readStore(*services_.vault, fileURL()));
+}
+
+/// Later saves go to the store file.
+void Store::begin(StoredContents stored) {
+    using Kind = StoredContents::Kind;
+    const bool wasRead = stored.kind == Kind::read;
+    if (stored.kind == Kind::newer) {
+        auto refuse = []() -> Result<void> {
+            return failure(u"what is stored was written by a newer Ravelo"_s);
+        };
+        saver_.setFile(fileURL(), OwnFile::Contents::ours, refuse);
+    } else {
+        saver_.setFile(fileURL(), wasRead ? OwnFile::Contents::ours : OwnFile::Contents::unreadable,
+                       services_.mayWrite);
+    }
+    adopt(std::move(stored));
+    addSeeds();
+    if (!wasRead) {
+        return;
+    }
+    save();
+    if (!shelf_.stacks.isEmpty()) {
+        parkedMeanwhile_.emplace();
+        look_.look(shelf_.files(), [this](const FileLook::Found& found) { dropGone(found); });
+    }
+    const auto sizes = std::make_shared<ImageSizes>();
+    services_.worker.run(
+        [folder = folder_, clips = clipsDir(), named = imageNames(data_), sizes,
+         now = services_.scheduler.now(), mayWrite = services_.mayWrite] {
+            removeOrphanedImages(folder, named, now, mayWrite);
+            *sizes = imageSizes(clips);
+        },
+        [store = QPointer(this), sizes] {
+            if (store) {
+                store->imageSizes_.insert(*sizes);
+                store->trimLater();
+            }
+        });
+}
+
+/// What is here came after what was stored.
+void Store::adopt(StoredContents stored) {
+    QList<StoreContents> later = std::move(stored.waiting);
+    later.append(contents());
+    data_ = std::move(stored.store.data);
+    Shelf shelf{std::move(stored.store.shelf), {}};
+    for (const StoreContents& one : later) {
+        data_.clips = ClipHistory::merged(std::move(data_.clips), one.data.clips, rules_).clips;
+        for (const QList<QUrl>& stack : one.shelf) {
+            shelf = shelf.added(stack).value_or(shelf);
+        }
+    }
+    shelf_ = std::move(shelf);
+    waitingFiles_ += stored.waitingFiles;
+}
+
+void Store::addSeeds() {
+    if (data_.snippets.isEmpty()) {
+        data_.snippets = seedSnippets();
+    }
+    addLinkSnippetsIfNeeded();
+}
+
+void Store::addLinkSnippetsIfNeeded() {
+    const QString key = u"seededSiteLinksV1"_s;
+    if (services_.preferences.value(key).isUndefined()) {
+        services_.preferences.set(key, true);
+        data_.snippets.append(linkSnippets());
+        save();
+    }
+}
+
+void Store::announceAll() {
+    Q_EMIT lockedChanged();
+    Q_EMIT clipsChanged();
+    Q_EMIT snippetsChanged();
+    Q_EMIT noteChanged();
+    Q_EMIT shelfChanged();
+}
+
+void Store::unlock() {
+    if (!locked_ || opening_) {
+        return;
+    }
+    opening_ = true;
+    saver_.saveNow(); // What came meanwhile is read again, from its file.
+    const auto stored = std::make_shared<StoredContents>();
+    services_.worker.run([vault = services_.vault, path = fileURL(),
+                          stored] { *stored = readStore(*vault, path); },
+                         [store = QPointer(this), stored] {
+                             if (store) {
+                                 store->opening_ = false;
+                                 store->locked_ = false;
+                                 store->begin(std::move(*stored));
+                                 store->saver_.saveNow();
+                                 store->announceAll();
+                             }
+                         });
+}
+
+void Store::saveEndedWith(const SaveOutcome& outcome) {
+    const bool saved = outcome.kind == SaveOutcome::Kind::saved;
+    if (saved && !locked_ && !waitingFiles_.isEmpty()) {
+        services_.worker.run([files = std::exchange(waitingFiles_, {}),
+                              mayWrite = services_.mayWrite] { (void)ravelo::removeImages(files, mayWrite); });
+    }
+    if (const auto report = std::exchange(saved_, nullptr)) {
+        report(outcome);
+    }
+    if (saved && dropped_ && saver_.isSaved()) {
+        dropAll();
+    }
+    Q_EMIT saveEnded(outcome);
+}
+
+void Store::lock(std::function<void()> dropped) {
+    if (!locked_ && !opening_) {
+        dropped_ = std::move(dropped);
+        saver_.saveNow();
+    }
+}
+
+void Store::dropAll() {
+    locked_ = true;
+    data_ = {};
+    shelf_ = {};
+    parkedMeanwhile_.reset();
+    trimming_.reset();
+    saver_.stop();
+    saver_.setFile(newWaitingFile(*services_.vault), OwnFile::Contents::ours, services_.mayWrite);
+    std::exchange(dropped_, nullptr)();
+    announceAll();
+}
+
+void Store::erase(std::function<void(const Result<void>&)> done) {
+    ++clearings_;
+    captures_.drop();
+    saver_.stop();
+    trimming_.reset();
+    data_ = {};
+    shelf_ = {};
+    Q_EMIT cleared();
+    const auto outcome = std::make_shared<Result<void>>();
+    services_.worker.run([folder = folder_, outcome,
+                          mayWrite = services_.mayWrite] { *outcome = eraseFiles(folder, mayWrite); },
+                         [outcome, done = std::move(done)] { done(*outcome); });
+    announceAll();
+}
+
+} // namespace ravelo

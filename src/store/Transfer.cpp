@@ -1,0 +1,190 @@
+#include "store/Transfer.h"
+
+#include "base/Uuid.h"
+#include "decode/Protocol.h"
+#include "platform/ImageDecoder.h"
+#include "store/Archive.h"
+#include "store/ImageFiles.h"
+#include "store/ShelfPaths.h"
+#include "store/StoreFile.h"
+#include "vault/Vault.h"
+
+#include <QFile>
+#include <QFileInfo>
+#include <QHash>
+#include <QSaveFile>
+
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+constexpr qint64 maxStore = qint64(512) << 20; ///< Bytes.
+constexpr QByteArrayView storeEntry("store.json");
+constexpr QByteArrayView imageEntries("clips/");
+
+QString clipsOf(const Vault& vault) {
+    return vault.folder() + u"/clips/"_s;
+}
+
+/// Calls `change` with the image's name of every record that has one; drops clips and takes images
+/// off snippets for which it returns false.
+template <typename Change>
+void forImages(StoreData& data, const Change& change) {
+    QList<ClipItem> kept;
+    for (ClipItem& clip : data.clips) {
+        if (clip.imageFileName.isEmpty() || change(clip.imageFileName)) {
+            kept.append(std::move(clip));
+        }
+    }
+    data.clips = std::move(kept);
+    for (Snippet& snippet : data.snippets) {
+        if (!snippet.imageFileName.isEmpty() && !change(snippet.imageFileName)) {
+            snippet.imageFileName.clear();
+        }
+    }
+}
+
+Result<StoreData> storeIn(QIODevice& archive) {
+    ArchiveReader reader(archive);
+    while (true) {
+        const auto entry = reader.next();
+        if (!entry) {
+            return tl::unexpected(entry.error());
+        }
+        if (!*entry) {
+            return failure(u"it is no archive of Ravelo"_s);
+        }
+        if ((*entry)->name == storeEntry) {
+            return reader.contents(maxStore).and_then([](const QByteArray& bytes) {
+                auto data = decodeStore(bytes);
+                return data ? Result<StoreData>(std::move(*data))
+                            : failure(u"its store.json cannot be read"_s);
+            });
+        }
+    }
+}
+
+/// New file names by those in the archive. What is written before an error is in it, too.
+using Names = QHash<QString, QString>;
+
+Result<void> importImages(QIODevice& archive, const QSet<QString>& wanted, const Vault& vault,
+                          ImageDecoder& decoder, const OwnFile::Permission& mayWrite,
+                          Names& names) {
+    ArchiveReader reader(archive);
+    while (true) {
+        const auto entry = reader.next();
+        if (!entry) {
+            return tl::unexpected(entry.error());
+        }
+        if (!*entry) {
+            return {};
+        }
+        const QString name = QString::fromUtf8((*entry)->name.mid(imageEntries.size()));
+        if (!(*entry)->name.startsWith(imageEntries) || !wanted.contains(name) ||
+            names.contains(name)) {
+            continue;
+        }
+        const Result<QByteArray> bytes = reader.contents(decode::maxBytes);
+        if (!bytes) {
+            return tl::unexpected(bytes.error());
+        }
+        const QByteArray png = decoder.png(*bytes);
+        if (png.isEmpty()) {
+            return failure(u"one of its images cannot be decoded"_s);
+        }
+        const QString fresh = uuidText(QUuid::createUuid()) + u".png"_s;
+        if (auto written = writeImage(vault, clipsOf(vault) + fresh, png, mayWrite); !written) {
+            return written;
+        }
+        names.insert(name, fresh);
+    }
+}
+
+} // namespace
+
+Result<int> exportStore(StoreContents contents, const Vault& vault, const QString& path) {
+    if (QFileInfo::exists(path)) {
+        return failure(u"%1 exists already"_s.arg(path));
+    }
+    QSaveFile file(path);
+    if (!file.open(QIODevice::WriteOnly) ||
+        !file.setPermissions(QFile::ReadOwner | QFile::WriteOwner)) {
+        return failure(u"%1: %2"_s.arg(path, file.errorString()));
+    }
+    Result<void> done;
+    QHash<QString, bool> images;
+    int missing = 0;
+    forImages(contents.data, [&](const QString& fileName) {
+        const QString name = QFileInfo(fileName).fileName();
+        if (const auto known = images.constFind(name); known != images.cend()) {
+            return known.value();
+        }
+        const auto bytes = vault.bytes(clipsOf(vault) + name);
+        missing += bytes ? 0 : 1;
+        images[name] = bytes.has_value();
+        if (bytes && done) {
+            done = writeEntry(file, imageEntries.toByteArray() + name.toUtf8(), *bytes);
+        }
+        return bytes.has_value();
+    });
+    contents.data.shelfStacks = shelfPaths(contents.shelf);
+    if (done) {
+        done = writeEntry(file, storeEntry.toByteArray(), encodeStore(contents.data));
+    }
+    if (done) {
+        done = endArchive(file);
+    }
+    if (!done) {
+        return failure(u"%1: %2"_s.arg(path, done.error().message));
+    }
+    return file.commit() ? Result<int>(missing)
+                         : failure(u"%1: %2"_s.arg(path, file.errorString()));
+}
+
+Result<StoreContents> importStore(const QString& path, const Vault& vault, ImageDecoder& decoder,
+                                  const OwnFile::Permission& mayWrite) {
+    QFile file(path);
+    if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
+        return failure(u"%1 cannot be read"_s.arg(path));
+    }
+    Result<StoreData> data = storeIn(file);
+    Names names;
+    const Result<void> images =
+        data ? importImages(file, imageNames(*data), vault, decoder, mayWrite, names)
+             : Result<void>(tl::unexpected(data.error()));
+    bool complete = images.has_value();
+    if (complete) {
+        forImages(*data, [&](QString& name) {
+            const QString fresh = names.value(QFileInfo(name).fileName());
+            complete = complete && !fresh.isEmpty();
+            name = fresh;
+            return true;
+        });
+    }
+    if (!complete) {
+        QStringList written;
+        for (const QString& name : std::as_const(names)) {
+            written.append(clipsOf(vault) + name);
+        }
+        (void)removeImages(written, mayWrite);
+        return failure(u"%1: %2"_s.arg(path, images ? u"one of its images is missing"_s
+                                                    : images.error().message));
+    }
+    for (ClipItem& clip : data->clips) {
+        clip.id = QUuid::createUuid();
+    }
+    for (Snippet& snippet : data->snippets) {
+        snippet.id = QUuid::createUuid();
+    }
+    for (Stroke& stroke : data->drawing) {
+        stroke.id = QUuid::createUuid();
+    }
+    QList<QList<QUrl>> shelf = shelfStacks(std::exchange(data->shelfStacks, {}));
+    return StoreContents{std::move(*data), std::move(shelf)};
+}
+
+} // namespace ravelo

@@ -1,0 +1,108 @@
+#include "store/Transfer.h"
+
+#include "StoreFixture.h"
+#include "store/Archive.h"
+#include "vault/Vault.h"
+
+#include <QBuffer>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+class Transfer : public StoreFixture {
+protected:
+    Transfer() {
+        start();
+        store_->addClip(u"text"_s);
+        store_->addImageClip(png(Qt::red));
+        store_->setNote(u"a note"_s);
+        store_->addToShelf({QUrl::fromLocalFile(directory_.path())});
+        settle();
+    }
+
+    Result<int> exported() { return exportStore(store_->contents(), *store_->vault(), archive_); }
+
+    Result<StoreContents> imported() {
+        return importStore(archive_, *store_->vault(), *decoder_, {});
+    }
+
+    /// An archive with these entries, in place of the exported one.
+    void pack(const QList<std::pair<QByteArray, QByteArray>>& entries) {
+        QFile file(archive_);
+        ASSERT_TRUE(file.open(QFile::WriteOnly));
+        for (const auto& [name, contents] : entries) {
+            ASSERT_TRUE(writeEntry(file, name, contents));
+        }
+        ASSERT_TRUE(endArchive(file));
+    }
+
+    QString archive_ = directory_.filePath(u"archive.tar"_s);
+};
+
+TEST_F(Transfer, EverythingComesBackUnderNewNamesAndIds) {
+    const StoreData before = store_->contents().data;
+    ASSERT_EQ(exported(), 0);
+    EXPECT_EQ(modeOf(archive_), 0600U);
+    EXPECT_FALSE(exported()) << "it replaces no file";
+    store_->clearClips();
+    store_->setNote({});
+    settle();
+    const auto contents = imported();
+    ASSERT_TRUE(contents) << qPrintable(contents.error().message);
+    std::optional<SaveOutcome> outcome;
+    store_->addAll(*contents, [&](const SaveOutcome& saved) { outcome = saved; });
+    settle();
+    ASSERT_TRUE(outcome);
+    EXPECT_EQ(outcome->kind, SaveOutcome::Kind::saved);
+    EXPECT_EQ(texts(), "red text");
+    EXPECT_EQ(store_->note(), u"a note"_s);
+    EXPECT_EQ(store_->snippets(), before.snippets) << "equal ones are not doubled";
+    EXPECT_NE(store_->clips()[0].id, before.clips[0].id);
+    EXPECT_NE(store_->clips()[0].imageFileName, before.clips[0].imageFileName);
+    EXPECT_EQ(saved().clips, store_->clips());
+}
+
+TEST_F(Transfer, ABadArchiveChangesNothing) {
+    ASSERT_TRUE(exported());
+    const QByteArray good = *readFile(archive_);
+    const QByteArray json = encodeStore(store_->contents().data);
+    const QByteArray name = "clips/" + store_->clips()[0].imageFileName.toUtf8();
+    const QStringList images = imageFiles();
+    const auto expectRefused = [&](const char* what) {
+        EXPECT_FALSE(imported()) << what;
+        EXPECT_EQ(imageFiles(), images) << what;
+    };
+    for (const qsizetype size : {qsizetype(0), qsizetype(511), good.size() / 2, good.size() - 1024}) {
+        ASSERT_TRUE(writeFileAtomically(archive_, good.first(size)));
+        expectRefused("cut");
+    }
+    QByteArray changed = good;
+    changed[124] = '7';
+    ASSERT_TRUE(writeFileAtomically(archive_, changed));
+    expectRefused("a wrong sum");
+    pack({{name, picture("png", Qt::red)}});
+    expectRefused("no store");
+    pack({{"store.json", "{}"}});
+    expectRefused("not a store");
+    pack({{"store.json", json}});
+    expectRefused("an image is missing");
+    pack({{name, picture("png", Qt::red)}, {"clips/other.png", "x"}, {"store.json", json}});
+    EXPECT_TRUE(imported()) << "a file that nothing names is ignored";
+    pack({{name, "no image"}, {"store.json", json}});
+    EXPECT_FALSE(imported()) << "an image that is none";
+}
+
+TEST_F(Transfer, AnUnreadableImageIsLeftOut) {
+    ASSERT_TRUE(QFile::remove(store_->imagePath(store_->clips()[0].imageFileName)));
+    EXPECT_EQ(exported(), 1);
+    const auto contents = imported();
+    ASSERT_TRUE(contents);
+    EXPECT_EQ(contents->data.clips.size(), 1);
+}
+
+} // namespace
+
+} // namespace ravelo
