@@ -15,6 +15,7 @@
 namespace ravelo {
 
 class AppSettings;
+class CapturePause;
 class Encryption;
 class ClipboardManager;
 class Commands;
@@ -29,6 +30,7 @@ class PanelView;
 class PanelWindow;
 class PlanUsage;
 class ReceivedWatcher;
+class SelectedTexts;
 class SettingsWindow;
 class StatusItemController;
 class Store;
@@ -75,6 +77,8 @@ private:
     void wire();
     void wireNotices();
     void wireSettings();
+    void wireSecrets();
+    void followRules();
     void wirePicture();
     void wireEncryption();
     void followScreenLock();
@@ -87,7 +91,9 @@ private:
     std::unique_ptr<Store> store_;
     std::unique_ptr<Transfers> transfers_;
     std::unique_ptr<AppSettings> settings_;
+    std::unique_ptr<CapturePause> pause_;
     std::unique_ptr<ClipboardManager> clipboard_;
+    std::unique_ptr<SelectedTexts> selected_; ///< Null if selections cannot be seen.
     std::unique_ptr<PanelView> view_;
     std::unique_ptr<PanelWindow> window_;
     std::unique_ptr<HotZone> zone_;

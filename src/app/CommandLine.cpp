@@ -6,6 +6,8 @@
 #include <QDir>
 #include <QHash>
 
+#include <algorithm>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -94,7 +96,8 @@ Result<Command> parseCommandLine(const QList<QByteArray>& arguments) {
     if (first == "-session" && arguments.size() == 2) {
         return Command{Kind::ask, {u"restore"_s}, {}, IfNoneRuns::start};
     }
-    if (first == "timer" || first == "shelf") {
+    static constexpr const char* commands[] = {"timer", "shelf", "pause", "resume", "ignore-next"};
+    if (std::ranges::any_of(commands, [&](const char* command) { return first == command; })) {
         return parseWords(arguments);
     }
     if (first == "export" || first == "import") {
@@ -113,6 +116,10 @@ QString helpText() {
        ravelo timer stop
        ravelo timer status [--json]
        ravelo shelf list [--null | --json]
+       ravelo pause [MINUTES]
+       ravelo pause --status [--json]
+       ravelo resume
+       ravelo ignore-next
        ravelo export FILE
        ravelo import FILE
        ravelo erase --yes
@@ -159,6 +166,14 @@ These commands need a running Ravelo:
                  --null NUL-terminated; with --json one object: files, an array
                  of objects with path, stack (counted from 0) and selected, and
                  with uri if the path is not UTF-8
+  pause          capture no copies for MINUTES, or until "ravelo resume"; also
+                 after a restart
+  pause --status print "capturing", "paused" or "paused until 10:57"; with --json
+                 one object: paused, remaining in seconds, until (ISO 8601, UTC).
+                 Without an end, remaining is 0 and until is null
+  resume         capture copies again
+  ignore-next    do not capture the next copy, if it comes within 30 seconds
+
   export FILE    write history, snippets, notes, drawing and shelf into a new
                  archive (tar), which is not encrypted
   import FILE    add everything in such an archive, or nothing

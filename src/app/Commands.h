@@ -9,6 +9,7 @@
 
 namespace ravelo {
 
+class CapturePause;
 class LiveContext;
 class NotchController;
 class PlanUsage;
@@ -24,6 +25,7 @@ public:
 
     struct Services {
         Store& store;
+        CapturePause& pause;
         NotchController& notch;
         Scheduler& scheduler;
         const LiveContext& context;

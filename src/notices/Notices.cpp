@@ -59,6 +59,11 @@ void Notices::setLocked(const QString& lead, const QString& rest, const QString&
     update();
 }
 
+void Notices::secretKept(const QString& form) {
+    secret_ = form;
+    update();
+}
+
 void Notices::act() {
     if (shown_.kind == SavingFails) {
         Q_EMIT tryAgain();
@@ -68,6 +73,9 @@ void Notices::act() {
         const QString path = aside_.begin()->second;
         dismiss();
         Q_EMIT openFolder(path);
+    } else if (shown_.kind == SecretKept) {
+        dismiss();
+        Q_EMIT keepSecrets();
     }
 }
 
@@ -76,6 +84,8 @@ void Notices::dismiss() {
         notDeleted_.clear();
     } else if (shown_.kind == PutAside) {
         aside_.erase(aside_.begin());
+    } else if (shown_.kind == SecretKept) {
+        secret_.clear();
     }
     update();
 }
@@ -122,7 +132,13 @@ Notices::Notice Notices::worst() const {
     if (locked_.kind == Locked) {
         return locked_;
     }
-    return aside_.empty() ? Notice() : fileAside(aside_.begin()->first, aside_.begin()->second);
+    if (!aside_.empty()) {
+        return fileAside(aside_.begin()->first, aside_.begin()->second);
+    }
+    return secret_.isEmpty() ? Notice()
+                             : Notice{SecretKept, u"This looks like a secret: %1."_s.arg(secret_),
+                                      u"Such texts are never written to disk and soon forgotten."_s,
+                                      u"Keep such texts"_s};
 }
 
 Notices::Notice Notices::failing(const Failure& failure) const {

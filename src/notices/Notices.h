@@ -22,7 +22,7 @@ class Notices : public QObject {
 public:
     /// The worst first.
     // NOLINTNEXTLINE(readability-identifier-naming): QML demands capitals.
-    enum Kind { SavingFails, NotDeleted, SavedAgain, Locked, PutAside, None };
+    enum Kind { SavingFails, NotDeleted, SavedAgain, Locked, PutAside, SecretKept, None };
     Q_ENUM(Kind)
 
     /// Whose file it is about.
@@ -50,6 +50,10 @@ public:
     /// to end it. An empty `lead` ends it.
     void setLocked(const QString& lead, const QString& rest, const QString& action);
 
+    /// For the first time, a copied text is only kept in memory; `form` is what it looks like.
+    /// Shown until the user dismisses it or wants such texts kept.
+    void secretKept(const QString& form);
+
     /// What is shown now.
     [[nodiscard]] Kind kind() const { return shown_.kind; }
 
@@ -60,7 +64,7 @@ public:
     [[nodiscard]] QString action() const { return shown_.action; }
 
     [[nodiscard]] bool dismissible() const {
-        return shown_.kind == PutAside || shown_.kind == NotDeleted;
+        return shown_.kind == PutAside || shown_.kind == NotDeleted || shown_.kind == SecretKept;
     }
 
     Q_INVOKABLE void act();
@@ -70,6 +74,7 @@ public:
 Q_SIGNALS:
     void changed();
     void tryAgain();                      ///< Save whatever failed.
+    void keepSecrets();                   ///< Such texts are to be kept as any text.
     void openFolder(const QString& path); ///< Show the file in its folder.
     void unlock();
 
@@ -101,6 +106,7 @@ private:
     std::map<Source, QString> aside_;
     QString notDeleted_;
     Notice locked_;
+    QString secret_; ///< Its form; empty if there is nothing to say.
     Notice shown_;
     Handle nextMinute_;
     Handle savedAgain_; ///< Set while "Saved again." is shown.

@@ -1,6 +1,7 @@
 #include "ui/clips/ClipListModel.h"
 
 #include "store/Store.h"
+#include "ui/clips/SecretText.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,6 +20,9 @@ constexpr Seconds justNow(60);
 QString title(const ClipItem& clip) {
     if (clip.kind == ClipKind::image) {
         return ClipListModel::tr("Image");
+    }
+    if (!clip.secret.isEmpty()) {
+        return secretRuns(clip).join(QString());
     }
     return clip.text.left(titleLength).replace(u'\n', u' ');
 }
@@ -63,7 +67,9 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
     case titleRole:
         return title(clip);
     case iconRole:
-        return isTooLarge(clip) ? u"exclamationmark.circle"_s : icon(clip.kind);
+        return isTooLarge(clip)         ? u"exclamationmark.circle"_s
+               : !clip.secret.isEmpty() ? u"shield"_s
+                                        : icon(clip.kind);
     case pinnedRole:
         return clip.pinned;
     case subtitleRole:
@@ -74,6 +80,10 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
         return selection_.orderOf(clip.id);
     case marksRole:
         return QVariant::fromValue((byWords_ ? words_ : phrase_).matches(title(clip)));
+    case maskRole:
+        return clip.secret.isEmpty() ? QStringList() : secretRuns(clip);
+    case spokenRole:
+        return spoken(clip);
     default:
         return {};
     }
@@ -86,7 +96,9 @@ QHash<int, QByteArray> ClipListModel::roleNames() const {
             {subtitleRole, "subtitle"},
             {imageFileNameRole, "imageFileName"},
             {orderRole, "order"},
-            {marksRole, "marks"}};
+            {marksRole, "marks"},
+            {maskRole, "mask"},
+            {spokenRole, "spoken"}};
 }
 
 void ClipListModel::setSearch(const QString& search) {
@@ -126,7 +138,7 @@ void ClipListModel::dismissTooLarge() {
 
 void ClipListModel::refreshDates() {
     if (count() > 0) {
-        Q_EMIT dataChanged(index(0), index(count() - 1), {subtitleRole});
+        Q_EMIT dataChanged(index(0), index(count() - 1), {subtitleRole, spokenRole});
     }
 }
 
@@ -135,6 +147,10 @@ Seconds ClipListModel::untilDatesChange() const {
     Seconds until = Seconds::max();
     for (const ClipItem& clip : rows()) {
         until = std::min(until, RelativeDate::untilChange(clip.date, now));
+        if (const auto left = store_.untilForgotten(clip)) {
+            const Date end{now.sinceReference + left->count()};
+            until = std::min(until, RelativeDate::untilChange(end, now));
+        }
     }
     return until;
 }
@@ -157,6 +173,10 @@ QList<QUuid> ClipListModel::idsBetween(int from, int to) const {
 int ClipListModel::rowOf(const QUuid& id) const {
     const auto row = std::ranges::find(rows(), id, &ClipItem::id);
     return row == rows().end() ? -1 : static_cast<int>(row - rows().begin());
+}
+
+bool ClipListModel::isSecret(int row) const {
+    return row >= 0 && row < count() && !rows()[row].secret.isEmpty();
 }
 
 void ClipListModel::update() {
@@ -187,14 +207,49 @@ QList<ClipItem> ClipListModel::shownClips() {
 QList<ClipItem> ClipListModel::search(TextSearch& texts) {
     QList<ClipItem> found;
     for (const ClipItem& clip : store_.clips()) {
-        if (query_.accepts(clip) && texts.finds(clip.id, clip.text)) {
+        if (query_.accepts(clip) && isFound(clip, texts)) {
             found.append(clip);
         }
     }
     return found;
 }
 
+/// A secret is found by what is shown of it.
+bool ClipListModel::isFound(const ClipItem& clip, TextSearch& texts) const {
+    return clip.secret.isEmpty()
+               ? texts.finds(clip.id, clip.text)
+               : (title(clip) + u' ' + secretKind(clip)).contains(query_.text, Qt::CaseInsensitive);
+}
+
+QString ClipListModel::spoken(const ClipItem& clip) const {
+    if (clip.secret.isEmpty()) {
+        return title(clip);
+    }
+    constexpr double minute = 60;
+    const auto left = store_.untilForgotten(clip);
+    if (!left) {
+        return secretSpoken(clip);
+    }
+    const int minutes = static_cast<int>(left->count() / minute);
+    const QString end = minutes == 0   ? tr("forgotten in less than a minute")
+                        : minutes == 1 ? tr("forgotten in 1 minute")
+                                       : tr("forgotten in %1 minutes").arg(minutes);
+    return secretSpoken(clip) + u", "_s + end;
+}
+
+QString ClipListModel::secretSubtitle(const ClipItem& clip) const {
+    const auto left = store_.untilForgotten(clip);
+    const Date now = scheduler_.now();
+    const QString end =
+        left ? tr("forgotten %1").arg(relativeDate_.text({now.sinceReference + left->count()}, now))
+             : tr("in memory only");
+    return secretKind(clip) + u" \u00b7 "_s + end;
+}
+
 QString ClipListModel::subtitle(const ClipItem& clip) const {
+    if (!clip.secret.isEmpty()) {
+        return secretSubtitle(clip);
+    }
     const Date now = scheduler_.now();
     const QString ago = relativeDate_.text(clip.date, now);
     if (tooLarge_ && isTooLarge(clip)) {

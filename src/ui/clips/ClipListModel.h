@@ -42,6 +42,8 @@ public:
         imageFileNameRole,
         orderRole, ///< Among the chosen clips, from 1; 0 if it is not chosen.
         marksRole, ///< Where the title has what is searched for; a list of TextRange.
+        maskRole,   ///< What is shown instead of a secret's text, in runs; empty for other clips.
+        spokenRole, ///< Name for screen readers.
     };
 
     ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale);
@@ -82,6 +84,8 @@ public:
     /// Invalid if there is no such row.
     [[nodiscard]] QUuid idAt(int row) const;
 
+    [[nodiscard]] Q_INVOKABLE bool isSecret(int row) const;
+
 Q_SIGNALS:
     void searchChanged();
     void found();
@@ -91,6 +95,9 @@ private:
     void update();
     [[nodiscard]] QList<ClipItem> shownClips();
     [[nodiscard]] QList<ClipItem> search(TextSearch& texts);
+    [[nodiscard]] bool isFound(const ClipItem& clip, TextSearch& texts) const;
+    [[nodiscard]] QString spoken(const ClipItem& clip) const;
+    [[nodiscard]] QString secretSubtitle(const ClipItem& clip) const;
     [[nodiscard]] QString subtitle(const ClipItem& clip) const;
     [[nodiscard]] bool isTooLarge(const ClipItem& row) const;
 

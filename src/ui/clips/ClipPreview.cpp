@@ -55,8 +55,9 @@ ClipPreview::ClipPreview(Store& store, std::shared_ptr<ImageDecoder> decoder, co
 void ClipPreview::show(const QUuid& id) {
     const auto& clips = store_.clips();
     const auto found = std::ranges::find(clips, id, &ClipItem::id);
-    clip_ = found == clips.end() ? ClipItem() : *found;
-    kind_ = found == clips.end() ? None : kindOf(clip_);
+    const bool none = found == clips.end() || !found->secret.isEmpty();
+    clip_ = none ? ClipItem() : *found;
+    kind_ = none ? None : kindOf(clip_);
     shown_ = kind_ == Image ? 0 : portionEnd(clip_.text, 0);
     names_.clear();
     values_.clear();

@@ -104,7 +104,11 @@ TabPage {
         const searching = field.edited.activeFocus;
         const shift = event.modifiers === Qt.ShiftModifier;
         if (event.key === Qt.Key_Space && (shift || event.modifiers === Qt.NoModifier && field.isEmpty)) {
-            preview.opened ? preview.close() : preview.openCurrent();
+            if (clips.list.isSecret(list.currentIndex)) {
+                current()?.reveal();
+            } else {
+                preview.opened ? preview.close() : preview.openCurrent();
+            }
         } else if (preview.opened && event.key === Qt.Key_PageUp) {
             bubble.scroll(-1);
         } else if (preview.opened && event.key === Qt.Key_PageDown) {
@@ -146,7 +150,12 @@ TabPage {
         event.accepted = true;
     }
 
+    function current(): ClipRow {
+        return list.currentItem as ClipRow;
+    }
+
     function select(row: int) {
+        current()?.hide();
         list.currentIndex = Math.max(0, Math.min(row, list.count - 1));
         Qt.callLater(preview.follow);
         const before = list.contentY;
@@ -202,6 +211,11 @@ TabPage {
     }
 
     Keys.onPressed: event => handle(event)
+    Keys.onReleased: event => {
+        if (event.key === Qt.Key_Space && !event.isAutoRepeat) {
+            current()?.hide();
+        }
+    }
 
     SearchField {
         id: field

@@ -18,7 +18,7 @@ QtObject {
 
     function open(wanted: int) {
         const item = list.itemAtIndex(wanted) as ClipRow;
-        if (!item || wanted === clips.list.tooLargeRow) {
+        if (!item || item.secret || item.tooLarge) {
             close();
             return;
         }

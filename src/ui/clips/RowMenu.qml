@@ -35,6 +35,11 @@ Menu {
         { text: qsTr("Copy %1").arg(clips.selected), hint: qsTr("Return"), chosen: () => clips.copySelected() },
         { divider: true },
         { text: qsTr("Delete %1").arg(clips.selected), hint: qsTr("Delete"), chosen: () => clips.removeSelected() }
+    ] : row?.secret ? [
+        { text: qsTr("Copy"), hint: qsTr("Return"), chosen: () => tab.copyAndClose(list.currentIndex) },
+        { divider: true },
+        { text: qsTr("Keep as any text"), chosen: () => clips.keepSecret(list.currentIndex) },
+        { text: qsTr("Forget now"), hint: qsTr("Delete"), chosen: () => clips.forgetSecret(list.currentIndex) }
     ] : [
         { text: qsTr("Copy"), hint: qsTr("Return"), chosen: () => tab.copyAndClose(list.currentIndex) },
         { divider: true },

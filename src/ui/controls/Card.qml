@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Ravelo.Controls
 import Ravelo.Paint
@@ -14,6 +16,13 @@ Item {
     /// Parts of the title to stand out.
     property var marks: []
     property string subtitle
+    /// The title in parts, if they have to be drawn separately.
+    property var runs: []
+    /// Name and description for assistive programs.
+    property string spoken: title
+    property string spokenMore: subtitle
+    /// Shows the buttons also without the pointer.
+    property bool showsButtons: false
     property string digit
     /// The current one.
     property bool selected: false
@@ -24,15 +33,16 @@ Item {
 
     readonly property bool hovered: hover.hovered
     property alias tileHovered: tileHover.hovered
-    readonly property real textEnd: width - 12 - (hovered ? buttons.width + 6 : 26)
+    readonly property bool lit: hovered || showsButtons
+    readonly property real textEnd: width - 12 - (lit ? buttons.width + 6 : 26)
 
     signal tapped(int modifiers)
     /// By the right button; the place is in the card.
     signal menuRequested(point place)
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: title
-    Accessible.description: subtitle
+    Accessible.name: spoken
+    Accessible.description: spokenMore
     Accessible.selectable: true
     Accessible.selected: selected || order > 0
     Accessible.onPressAction: card.tapped(Qt.NoModifier)
@@ -107,9 +117,28 @@ Item {
         y: 4.5
         width: Math.min(implicitWidth, card.textEnd - x)
         style: Theme.rowTitle
+        visible: card.runs.length === 0
         text: card.title
         marks: card.marks
         color: card.titleColor
+    }
+
+    Row {
+        x: 46
+        y: 4.5
+
+        Repeater {
+            model: card.runs
+
+            Label {
+                required property string modelData
+                required property int index
+                objectName: "run" + index
+                style: Theme.rowTitle
+                text: modelData
+                color: card.titleColor
+            }
+        }
     }
 
     Label {
@@ -158,8 +187,8 @@ Item {
 
     Row {
         id: buttons
-        visible: card.hovered || opacity > 0 // Also while fading in: it can be pressed at once.
-        opacity: card.hovered ? 1 : 0
+        visible: card.lit || opacity > 0 // Also while fading in: it can be pressed at once.
+        opacity: card.lit ? 1 : 0
         x: card.width - width - 6
         y: 8
         spacing: 4
