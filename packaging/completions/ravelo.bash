@@ -5,16 +5,18 @@ _ravelo() {
     local before=${COMP_WORDS[*]:1:COMP_CWORD-1}
     COMPREPLY=()
     case $before in
-    '') words='timer shelf --toggle --settings --setup --updates --status --status=json --store-usage --take-over --quit --help --version --verbose' ;;
+    '') words='timer shelf pause resume ignore-next --toggle --settings --setup --updates --status --status=json --store-usage --take-over --quit --help --version --verbose' ;;
     timer) words='start stop status' ;;
     'timer status') words='--json' ;;
     shelf) words='list' ;;
+    pause) words='15 60 --status' ;;
+    'pause --status') words='--json' ;;
     'shelf list') words='--null --json' ;;
-    timer\ * | shelf\ * | --[a-z]*) return ;;
+    timer\ * | shelf\ * | pause\ * | resume* | ignore-next* | --[a-z]*) return ;;
     esac
     mapfile -t COMPREPLY < <(compgen -W "$words" -- "$current")
     case $before in
-    timer* | shelf* | --[a-z]*) ;;
+    timer* | shelf* | pause* | resume* | ignore-next* | --[a-z]*) ;;
     *)
         compopt -o filenames
         local file

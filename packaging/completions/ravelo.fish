@@ -6,13 +6,16 @@ end
 
 function __ravelo_takes_files
     set -l words (commandline -opc)
-    not string match -qr '^(timer|shelf|--[a-z])' -- "$words[2]"
+    not string match -qr '^(timer|shelf|pause|resume|ignore-next|--[a-z])' -- "$words[2]"
 end
 
 complete -c ravelo -f
 complete -c ravelo -n __ravelo_takes_files -F
 complete -c ravelo -n __ravelo_after -a timer -d 'The focus timer'
 complete -c ravelo -n __ravelo_after -a shelf -d 'The parked files'
+complete -c ravelo -n __ravelo_after -a pause -d 'Capture no copies for a while'
+complete -c ravelo -n __ravelo_after -a resume -d 'Capture copies again'
+complete -c ravelo -n __ravelo_after -a ignore-next -d 'Do not capture the next copy'
 complete -c ravelo -n __ravelo_after -l toggle -d 'Open the panel, or close it'
 complete -c ravelo -n __ravelo_after -l settings -d 'Show the settings'
 complete -c ravelo -n __ravelo_after -l updates -d 'Look for a newer version'
@@ -30,3 +33,6 @@ complete -c ravelo -n '__ravelo_after timer status' -l json -d 'As one object'
 complete -c ravelo -n '__ravelo_after shelf' -a list -d 'Their paths'
 complete -c ravelo -n '__ravelo_after shelf list' -s 0 -l null -d 'Each ends with a NUL byte'
 complete -c ravelo -n '__ravelo_after shelf list' -l json -d 'As one object'
+complete -c ravelo -n '__ravelo_after pause' -a '15 60' -d 'Minutes'
+complete -c ravelo -n '__ravelo_after pause' -l status -d 'Print whether it is paused'
+complete -c ravelo -n '__ravelo_after pause --status' -l json -d 'As one object'

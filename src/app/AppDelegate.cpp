@@ -2,7 +2,9 @@
 
 #include "app/Commands.h"
 #include "app/StatusItemController.h"
+#include "clipboard/CapturePause.h"
 #include "clipboard/ClipboardManager.h"
+#include "clipboard/SelectedTexts.h"
 #include "monitor/ClaudeEnvironment.h"
 #include "monitor/LiveContext.h"
 #include "monitor/PlanUsage.h"
@@ -101,6 +103,16 @@ TooLargeCopy::Measure measure(TooLarge::Kind kind) {
     return TooLargeCopy::Measure::pixelsOfImage;
 }
 
+CaptureRules captureRules(const AppSettings& settings) {
+    using Secrets = CaptureRules::Secrets;
+    const int minutes = settings.forgetSecrets();
+    return {settings.ignoredPrograms(), ignorePatterns(settings.ignoredPatterns()),
+            minutes == AppSettings::asAnyText   ? Secrets::asAnyText
+            : minutes == AppSettings::neverKept ? Secrets::dropped
+                                                : Secrets::inMemory,
+            settings.keyLikeWords() ? KeyLikeWords::yes : KeyLikeWords::no};
+}
+
 /// Created by the first call, which must pass the packages.
 Updater& updater(std::unique_ptr<PackageUpdates> packages = {}) {
     return Updater::shared([&packages] {
@@ -161,9 +173,14 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         settings_->refreshLaunchAtLogin();
     });
 
+    pause_ = std::make_unique<CapturePause>(*platform_.preferences, *platform_.scheduler);
     clipboard_ = std::make_unique<ClipboardManager>(*store_, platform_.display->pasteboard(),
-                                                    *platform_.scheduler, *platform_.jobs);
+                                                    *platform_.scheduler, *platform_.jobs, *pause_);
     clipboard_->start();
+    if (SelectedText* selection = platform_.display->selectedText()) {
+        selected_ =
+            std::make_unique<SelectedTexts>(*store_, *selection, *platform_.scheduler, *pause_);
+    }
 
     window_ = platform_.display->panelWindow(view_->window());
     zone_ = platform_.makeHotZone(*window_);
@@ -173,7 +190,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
                                   platform_.display->drags(), *platform_.transfers,
                                   platform_.display->barrier(), platform_.display->inputGrab(),
                                   *window_, locks()});
-    view_->load({*store_, *settings_, *notch_, *notices_, platform_.display->pasteboard(),
+    view_->load({*store_, *settings_, *pause_, *notch_, *notices_, platform_.display->pasteboard(),
                  *platform_.scheduler, *platform_.preferences, *platform_.nightShift,
                  *platform_.shutDown, planUsage(), *received_, *nearby_, *platform_.fileJobs,
                  *platform_.opener, platform_.icons, platform_.decoder},
@@ -184,12 +201,12 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         updateWindow_->show();
     };
     statusItem_ = std::make_unique<StatusItemController>(
-        StatusItemController::Services{*platform_.statusItem, *notch_, liveContext(),
+        StatusItemController::Services{*platform_.statusItem, *notch_, *pause_, liveContext(),
                                        *platform_.scheduler, *settings_, checkUpdates, quitLater},
         QLocale());
     commands_ = std::make_unique<Commands>(
-        Commands::Services{*store_, *notch_, *platform_.scheduler, liveContext(), planUsage(),
-                           [this] { showSetup(); }, checkUpdates, quitLater});
+        Commands::Services{*store_, *pause_, *notch_, *platform_.scheduler, liveContext(),
+                           planUsage(), [this] { showSetup(); }, checkUpdates, quitLater});
     wire();
     wireNotices();
     if (!settings_->onboarded()) {
@@ -228,7 +245,8 @@ void AppDelegate::provideWindows() {
                                           return platform_.display->windowFrame(window);
                                       }};
     settingsWindow_ = std::make_unique<SettingsWindow>(SettingsWindow::Subjects{
-        beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get()});
+        beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get(),
+        platform_.display->pasteboard().namesPrograms(), selected_ != nullptr});
     onboarding_ = std::make_unique<OnboardingController>(
         beside, *settings_, platform_.display->screens(), platform_.extension.get());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());
@@ -243,6 +261,7 @@ void AppDelegate::wire() {
         }
     };
     wireSettings();
+    wireSecrets();
     wirePicture();
     statusItem_->onSetup = [this] {
         showSetup();
@@ -282,6 +301,7 @@ void AppDelegate::wirePicture() {
            &Store::shelfChanged, &Store::remindersChanged);
     follow(settings_.get(), &AppSettings::lastTabChanged, &AppSettings::hideClaudeCodeChanged);
     follow(notices_.get(), &Notices::changed);
+    follow(&features.pausing, &Pausing::changed);
     follow(&planUsage(), &PlanUsage::changed);
 }
 
@@ -291,11 +311,14 @@ void AppDelegate::wireSettings() {
         store_->setHistoryRules({settings_->newestFirst() ? HistoryRules::Order::newerFirst
                                                           : HistoryRules::Order::olderFirst,
                                  settings_->historyLength()});
-        clipboard_->setTextEnds(settings_->keepTextsExactly() ? TextEnds::kept : TextEnds::trimmed);
+        followRules();
     };
     follow();
-    for (const auto changed : {&AppSettings::newestFirstChanged, &AppSettings::historyLengthChanged,
-                               &AppSettings::keepTextsExactlyChanged}) {
+    for (const auto changed :
+         {&AppSettings::newestFirstChanged, &AppSettings::historyLengthChanged,
+          &AppSettings::keepTextsExactlyChanged, &AppSettings::ignoredProgramsChanged,
+          &AppSettings::ignoredPatternsChanged, &AppSettings::forgetSecretsChanged,
+          &AppSettings::keyLikeWordsChanged, &AppSettings::keepSelectedTextChanged}) {
         QObject::connect(settings_.get(), changed, notch_.get(), follow);
     }
     const auto look = [this] {
@@ -303,6 +326,39 @@ void AppDelegate::wireSettings() {
     };
     look();
     QObject::connect(&liveContext(), &LiveContext::changed, notch_.get(), look);
+}
+
+void AppDelegate::followRules() {
+    const auto ends = settings_->keepTextsExactly() ? TextEnds::kept : TextEnds::trimmed;
+    const CaptureRules rules = captureRules(*settings_);
+    clipboard_->setTextEnds(ends);
+    clipboard_->setRules(rules);
+    if (selected_) {
+        selected_->setTextEnds(ends);
+        selected_->setRules(rules);
+        selected_->setOn(settings_->keepSelectedText());
+    }
+    const int minutes = settings_->forgetSecrets();
+    if (minutes == AppSettings::asAnyText) {
+        store_->keepSecrets();
+    }
+    store_->setForgetAfter(
+        minutes == AppSettings::asAnyText ? std::nullopt : std::optional(Seconds(minutes * 60)));
+}
+
+/// The first time, the panel explains it.
+void AppDelegate::wireSecrets() {
+    QObject::connect(clipboard_.get(), &ClipboardManager::secretKept, notices_.get(),
+                     [this](const QString& id) {
+                         const auto key = u"secretsExplained"_s;
+                         const SecretForm* form = SecretForms::withId(id);
+                         if (form && !platform_.preferences->value(key).toBool()) {
+                             platform_.preferences->set(key, true);
+                             notices_->secretKept(form->name);
+                         }
+                     });
+    QObject::connect(notices_.get(), &Notices::keepSecrets, settings_.get(),
+                     [this] { settings_->setForgetSecrets(AppSettings::asAnyText); });
 }
 
 /// Messages about saving, unreadable files, and copies that are too large.

@@ -13,6 +13,7 @@
 namespace ravelo {
 
 class AppSettings;
+class CapturePause;
 class ClipboardManager;
 class Commands;
 class HotZone;
@@ -26,6 +27,7 @@ class PanelView;
 class PanelWindow;
 class PlanUsage;
 class ReceivedWatcher;
+class SelectedTexts;
 class SettingsWindow;
 class StatusItemController;
 class Store;
@@ -64,6 +66,8 @@ private:
     void wire();
     void wireNotices();
     void wireSettings();
+    void wireSecrets();
+    void followRules();
     void wirePicture();
 
     Platform platform_;
@@ -72,7 +76,9 @@ private:
     std::unique_ptr<Notices> notices_;
     std::unique_ptr<Store> store_;
     std::unique_ptr<AppSettings> settings_;
+    std::unique_ptr<CapturePause> pause_;
     std::unique_ptr<ClipboardManager> clipboard_;
+    std::unique_ptr<SelectedTexts> selected_; ///< Null if selections cannot be seen.
     std::unique_ptr<PanelView> view_;
     std::unique_ptr<PanelWindow> window_;
     std::unique_ptr<HotZone> zone_;

@@ -5,6 +5,8 @@
 
 #include <QHash>
 
+#include <algorithm>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -78,7 +80,8 @@ Result<Command> parseCommandLine(const QList<QByteArray>& arguments) {
     if (first == "-session" && arguments.size() == 2) {
         return Command{Kind::ask, {u"restore"_s}, {}, IfNoneRuns::start};
     }
-    if (first == "timer" || first == "shelf") {
+    static constexpr const char* commands[] = {"timer", "shelf", "pause", "resume", "ignore-next"};
+    if (std::ranges::any_of(commands, [&](const char* command) { return first == command; })) {
         return parseWords(arguments);
     }
     return first.startsWith('-') && first != "--" ? parseOption(arguments) : parseFiles(arguments);
@@ -91,6 +94,10 @@ QString helpText() {
        ravelo timer stop
        ravelo timer status [--json]
        ravelo shelf list [--null | --json]
+       ravelo pause [MINUTES]
+       ravelo pause --status [--json]
+       ravelo resume
+       ravelo ignore-next
 
 Clipboard history, snippets and a quick note in a panel at the top centre of the
 screen. Move the pointer there to open it; click elsewhere to close it.
@@ -119,7 +126,7 @@ If Ravelo is already running, starting it again opens the panel.
 
   FILE...        park the files, or file:// URLs, on the shelf and show it;
                  starts Ravelo if needed. Put names that begin with a dash, and
-                 files called "timer" or "shelf", after --
+                 files called like a command below, after --
 
 These commands need a running Ravelo:
 
@@ -134,6 +141,13 @@ These commands need a running Ravelo:
                  --null NUL-terminated; with --json one object: files, an array
                  of objects with path, stack (counted from 0) and selected, and
                  with uri if the path is not UTF-8
+  pause          capture no copies for MINUTES, or until "ravelo resume"; also
+                 after a restart
+  pause --status print "capturing", "paused" or "paused until 10:57"; with --json
+                 one object: paused, remaining in seconds, until (ISO 8601, UTC).
+                 Without an end, remaining is 0 and until is null
+  resume         capture copies again
+  ignore-next    do not capture the next copy, if it comes within 30 seconds
 
 The exit status is 0 on success, 1 on failure or if Ravelo is not running, and 2
 for an invalid command.

@@ -4,6 +4,7 @@
 #include "app/StatusCommands.h"
 #include "base/FileUrl.h"
 #include "base/Scheduler.h"
+#include "clipboard/CapturePause.h"
 #include "monitor/StatusText.h"
 #include "panel/NotchController.h"
 #include "store/Store.h"
@@ -67,6 +68,17 @@ Result<void> lengthAndLabel(const QStringList& arguments) {
                ? Result<void>()
                : failure(u"a timer runs for a number of minutes, like 25 or 0.5, not for \""_s +
                          arguments.front() + u'"');
+}
+
+Result<void> pauseArguments(const QStringList& arguments) {
+    if (arguments.value(0) == "--status"_L1) {
+        return jsonAtMost(arguments.mid(1));
+    }
+    if (!arguments.isEmpty() && !writtenMinutes(arguments.front())) {
+        return failure(u"a pause lasts for a number of minutes, like 15 or 0.5, not for \""_s +
+                       arguments.front() + u'"');
+    }
+    return nothing(arguments.mid(1));
 }
 
 // The commands.
@@ -133,6 +145,50 @@ Answer open(const Call& call) {
     return {errors.isEmpty() ? 0 : 1, {}, errors.join(u'\n')};
 }
 
+double roundedToMilliseconds(double seconds) {
+    return std::round(seconds * 1000) / 1000;
+}
+
+/// Of a pause, in the local time zone: "10:57".
+QString timeOfDay(Date date) {
+    return toDateTime(date).toLocalTime().toString(u"HH:mm"_s);
+}
+
+Answer pauseStatus(const CapturePause& pause, bool json) {
+    const auto until = pause.until();
+    if (json) {
+        const QJsonValue ends =
+            until ? toDateTime(*until).toUTC().toString(Qt::ISODate) : QJsonValue();
+        return printed({{u"paused"_s, pause.isPaused()},
+                        {u"remaining"_s, roundedToMilliseconds(pause.remaining().count())},
+                        {u"until"_s, ends}});
+    }
+    const QString text = !pause.isPaused() ? u"capturing"_s
+                         : until           ? u"paused until "_s + timeOfDay(*until)
+                                           : u"paused"_s;
+    return {0, text.toUtf8() + '\n', {}};
+}
+
+Answer pause(const Call& call) {
+    const QString first = call.arguments.value(0);
+    if (first == "--status"_L1) {
+        return pauseStatus(call.services.pause, call.arguments.size() > 1);
+    }
+    const auto minutes = writtenMinutes(first);
+    call.services.pause.pause(minutes ? std::optional(Seconds(*minutes * 60)) : std::nullopt);
+    return {};
+}
+
+Answer resume(const Call& call) {
+    call.services.pause.resume();
+    return {};
+}
+
+Answer ignoreNext(const Call& call) {
+    call.services.pause.ignoreNext();
+    return {};
+}
+
 Answer startTimer(const Call& call) {
     call.services.store.startTimer(call.arguments.mid(1).join(u' '),
                                    writtenMinutes(call.arguments.first()).value_or(0));
@@ -151,10 +207,6 @@ QString harmless(QString label) {
     };
     std::ranges::replace_if(label, isControl, u' ');
     return label.simplified();
-}
-
-double roundedToMilliseconds(double seconds) {
-    return std::round(seconds * 1000) / 1000;
 }
 
 QJsonObject described(const Store& store, Date now) {
@@ -245,6 +297,9 @@ std::span<const Row> allRows() {
         {{u"timer"_s, u"stop"_s}, nothing, stopTimer},
         {{u"timer"_s, u"status"_s}, jsonAtMost, timerStatus},
         {{u"shelf"_s, u"list"_s}, listFormatAtMost, shelfList},
+        {{u"pause"_s}, pauseArguments, pause},
+        {{u"resume"_s}, nothing, resume},
+        {{u"ignore-next"_s}, nothing, ignoreNext},
     };
     return rows;
 }

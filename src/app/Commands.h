@@ -9,6 +9,7 @@
 
 namespace ravelo {
 
+class CapturePause;
 class LiveContext;
 class NotchController;
 class PlanUsage;
@@ -22,6 +23,7 @@ class Commands {
 public:
     struct Services {
         Store& store;
+        CapturePause& pause;
         NotchController& notch;
         Scheduler& scheduler;
         const LiveContext& context;

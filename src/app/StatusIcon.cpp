@@ -3,6 +3,7 @@
 #include <QPainter>
 
 #include <algorithm>
+#include <span>
 
 namespace ravelo {
 
@@ -22,21 +23,44 @@ constexpr Shape shapes[] = {
     {{5.5, 12.2, 7.0, 2.8}, 1.4, 0},    // its notch,
     {{5.0, 6.2, 8.0, 2.2}, 1.1, 0},     // and what the panel holds.
 };
+constexpr std::span screenAndNotch(shapes, 2);
 
-} // namespace
+constexpr double paused = 0.55; ///< Opacity.
 
-void drawStatusIcon(QPainter& painter, QSizeF size, const QColor& foreground) {
+void begin(QPainter& painter, QSizeF size) {
     const double side = std::min(size.width(), size.height());
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.translate((size.width() - side) / 2, (size.height() - side) / 2);
     painter.scale(side / canvas, side / canvas);
-    for (const Shape& shape : shapes) {
+}
+
+void draw(QPainter& painter, std::span<const Shape> some, const QColor& foreground) {
+    for (const Shape& shape : some) {
         QRectF place = shape.place;
         place.moveTop(canvas - place.y() - place.height());
         painter.setPen(shape.stroke > 0 ? QPen(foreground, shape.stroke) : QPen(Qt::NoPen));
         painter.setBrush(shape.stroke > 0 ? QBrush(Qt::NoBrush) : QBrush(foreground));
         painter.drawRoundedRect(place, shape.radius, shape.radius);
+    }
+}
+
+} // namespace
+
+void drawStatusIcon(QPainter& painter, QSizeF size, const QColor& foreground) {
+    begin(painter, size);
+    draw(painter, shapes, foreground);
+    painter.restore();
+}
+
+void drawPausedStatusIcon(QPainter& painter, QSizeF size, const QColor& foreground) {
+    begin(painter, size);
+    painter.setOpacity(paused);
+    draw(painter, screenAndNotch, foreground);
+    painter.setOpacity(1);
+    painter.setPen(QPen(foreground, 1.9, Qt::SolidLine, Qt::RoundCap));
+    for (const double x : {7.0, 11.0}) {
+        painter.drawLine(QPointF(x, 7.6), QPointF(x, 12.2));
     }
     painter.restore();
 }

@@ -2,6 +2,7 @@
 
 #include "app/StatusIcon.h"
 #include "base/Scheduler.h"
+#include "clipboard/CapturePause.h"
 #include "monitor/LiveContext.h"
 #include "monitor/StatusText.h"
 #include "panel/NotchController.h"
@@ -20,6 +21,21 @@ using namespace Qt::StringLiterals;
 
 StatusItemController::StatusItemController(Services services, const QLocale& locale)
     : services_(std::move(services)), locale_(locale) {
+    menu_ = ownRows() + pauseRows();
+    services_.item.show(icon(), menu_);
+    qGuiApp->installEventFilter(this);
+    services_.context.onChange = [this] {
+        updateTitle();
+    };
+    connect(&services_.settings, &AppSettings::hideClaudeCodeChanged, this,
+            &StatusItemController::updateTitle);
+    // Later: the menu is replaced, perhaps while one of its rows is running.
+    connect(&services_.pause, &CapturePause::changed, this, &StatusItemController::followPause,
+            Qt::QueuedConnection);
+    updateTitle();
+}
+
+QList<StatusItem::Row> StatusItemController::ownRows() {
     const auto open = [this] {
         services_.notch.open();
     };
@@ -28,7 +44,7 @@ StatusItemController::StatusItemController(Services services, const QLocale& loc
             callback();
         }
     };
-    menu_ = {
+    return {
         {u"Open Ravelo"_s, {}, open},
         {u"Settings…"_s, QKeySequence(Qt::CTRL | Qt::Key_Comma),
          [=, this] {
@@ -43,13 +59,37 @@ StatusItemController::StatusItemController(Services services, const QLocale& loc
         {},
         {u"Quit Ravelo"_s, QKeySequence(Qt::CTRL | Qt::Key_Q), services_.quit},
     };
-    services_.item.show(drawStatusIcon, menu_);
-    qGuiApp->installEventFilter(this);
-    services_.context.onChange = [this] {
-        updateTitle();
+}
+
+QList<StatusItem::Row> StatusItemController::pauseRows() {
+    const auto pause = [this](std::optional<Seconds> length) {
+        return [this, length] {
+            services_.pause.pause(length);
+        };
     };
-    connect(&services_.settings, &AppSettings::hideClaudeCodeChanged, this,
-            &StatusItemController::updateTitle);
+    if (services_.pause.isPaused()) {
+        return {{}, {u"Resume Capture"_s, {}, [this] {
+                         services_.pause.resume();
+                     }}};
+    }
+    return {{},
+            {u"Pause Capture"_s,
+             {},
+             {},
+             {{u"Pause for 15 minutes"_s, {}, pause(Seconds(15 * 60))},
+              {u"Pause for an hour"_s, {}, pause(Seconds(60 * 60))},
+              {u"Pause until resumed"_s, {}, pause({})}}}};
+}
+
+StatusItem::Icon StatusItemController::icon() const {
+    return services_.pause.isPaused()
+               ? StatusItem::Icon{drawPausedStatusIcon, {}}
+               : StatusItem::Icon{drawStatusIcon, u"org.ravelo.Ravelo-symbolic"_s};
+}
+
+void StatusItemController::followPause() {
+    menu_ = ownRows() + pauseRows();
+    services_.item.replace(icon(), menu_);
     updateTitle();
 }
 
@@ -58,15 +98,25 @@ StatusItemController::~StatusItemController() {
 }
 
 void StatusItemController::updateTitle() {
+    QStringList lines{usualToolTip()};
+    if (services_.pause.isPaused()) {
+        const auto until = services_.pause.until();
+        lines.prepend(until ? u"Capture paused until "_s +
+                                  toDateTime(*until).toLocalTime().toString(u"HH:mm"_s)
+                            : u"Capture paused"_s);
+    }
+    services_.item.setToolTip(lines.join(u'\n'));
+}
+
+QString StatusItemController::usualToolTip() const {
     const LiveContext& context = services_.context;
     if (services_.settings.hideClaudeCode() && !context.installed()) {
-        services_.item.setToolTip(u"Ravelo"_s);
-        return;
+        return u"Ravelo"_s;
     }
     const Date now = services_.scheduler.now();
     const MonitorStatus status{context.model(),        context.used(),    context.limit(),
                                context.lastActivity(), PeakInfo::at(now), {}};
-    services_.item.setToolTip(contextLine(status, now, locale_));
+    return contextLine(status, now, locale_);
 }
 
 bool StatusItemController::eventFilter(QObject* target, QEvent* event) {
@@ -79,6 +129,9 @@ bool StatusItemController::eventFilter(QObject* target, QEvent* event) {
     }
     const auto row = std::ranges::find(menu_, pressed, &StatusItem::Row::keys);
     if (row == menu_.end()) {
+        return false;
+    }
+    if (!row->action) {
         return false;
     }
     row->action();

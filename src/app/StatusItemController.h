@@ -11,6 +11,7 @@
 namespace ravelo {
 
 class AppSettings;
+class CapturePause;
 class LiveContext;
 class NotchController;
 class Scheduler;
@@ -22,6 +23,7 @@ public:
     struct Services {
         StatusItem& item;
         NotchController& notch;
+        CapturePause& pause;
         LiveContext& context; ///< This sets its `onChange`.
         Scheduler& scheduler;
         const AppSettings& settings;
@@ -43,6 +45,12 @@ public:
     bool eventFilter(QObject* target, QEvent* event) override;
 
 private:
+    [[nodiscard]] QList<StatusItem::Row> ownRows();
+    [[nodiscard]] QList<StatusItem::Row> pauseRows();
+    [[nodiscard]] StatusItem::Icon icon() const;
+    void followPause();
+    [[nodiscard]] QString usualToolTip() const;
+
     Services services_;
     QLocale locale_;
     QList<StatusItem::Row> menu_;

@@ -13,9 +13,10 @@ namespace ravelo {
 [[nodiscard]] QString nextCaptureType(const PasteboardSnapshot& snapshot,
                                       const QStringList& useless = {});
 
-/// Whether the owner wants its contents kept out of histories: "org.nspasteboard.ConcealedType" is
-/// offered, or "x-kde-passwordManagerHint" has the value "secret". An unreadable hint counts as
-/// secret.
+/// Whether the owner wants its contents kept out of histories, by one of these marks: KDE's
+/// "x-kde-passwordManagerHint" with the value "secret", those of nspasteboard.org, and those of
+/// Windows, which programs from there also set here ("CanIncludeInClipboardHistory" with the value
+/// 0). A value that cannot be read counts.
 [[nodiscard]] bool isConcealed(const PasteboardSnapshot& snapshot);
 
 /// What happens to white space and line breaks at both ends of a text.

@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "base/Scheduler.h"
+#include "clipboard/CapturePause.h"
 #include "clipboard/FileForms.h"
 #include "platform/DetachedJobs.h"
 #include "store/ImageFiles.h"
@@ -36,11 +37,12 @@ bool mayBePassword(const ClipItem& clip) {
 } // namespace
 
 ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
-                                   DetachedJobs& jobs)
+                                   DetachedJobs& jobs, CapturePause& pause)
     : store_(store),
       pasteboard_(pasteboard),
       scheduler_(scheduler),
       jobs_(jobs),
+      pause_(pause),
       lastChangeCount_(pasteboard.changeCount()) {}
 
 void ClipboardManager::start() {
@@ -81,14 +83,25 @@ void ClipboardManager::poll() {
         offerAgain();
         return;
     }
+    if (pause_.ignoresCopy()) {
+        ignore();
+        return;
+    }
     // Earlier reads go on: an answer may already be on its way, and the pasteboard itself drops
     // reads whose owner has gone.
     read(count, {});
 }
 
+/// Not even its types are read.
+void ClipboardManager::ignore() {
+    ignoredLast_ = true;
+    answerSaveRequest();
+}
+
 void ClipboardManager::read(qint64 count, const QStringList& useless) {
-    const auto plan = [useless](const PasteboardSnapshot& snapshot) {
-        return nextCaptureType(snapshot, useless);
+    const auto plan = [useless, programs = rules_.programs](const PasteboardSnapshot& snapshot) {
+        return isOfProgram(snapshot.owner, programs) ? QString()
+                                                     : nextCaptureType(snapshot, useless);
     };
     reads_[count] = pasteboard_.read(
         plan, [this, count, useless, seen = scheduler_.uptime()](const auto& snapshot) {
@@ -108,7 +121,12 @@ void ClipboardManager::finishRead(qint64 count, const PasteboardSnapshot& snapsh
 
 void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const QStringList& useless,
                                Seconds seen) {
-    const auto key = isConcealed(snapshot) ? std::nullopt : contentsKey(snapshot);
+    const bool passedOnUnread =
+        std::exchange(ignoredLast_, false) && snapshot.owner.kind == PasteboardOwner::Kind::manager;
+    const bool unwanted = isOfProgram(snapshot.owner, rules_.programs);
+    ignoredLast_ = unwanted || passedOnUnread;
+    const auto key =
+        passedOnUnread || unwanted || isConcealed(snapshot) ? std::nullopt : contentsKey(snapshot);
     if (!key) {
         if (held_ && held_->changeCount == snapshot.changeCount) {
             refuse({}); // There was no other form.
@@ -162,7 +180,21 @@ void ClipboardManager::keep(const PasteboardSnapshot& snapshot, const QStringLis
         keepImage(snapshot, useless);
         return;
     }
-    store_.addClip(text, whileHeld([this](Held& held, const QUuid& clip) { kept(held, clip); }));
+    Judging judging;
+    judging.judge = [rules = rules_](const QString& copied) {
+        return judge(rules, copied);
+    };
+    judging.takes = rules_.patterns.isEmpty() ? Judging::Takes::moment : Judging::Takes::longer;
+    judging.judged = whileHeld([this](Held& /*held*/, const Verdict& verdict) {
+        if (!verdict.kept) {
+            refuse({});
+            answerSaveRequest();
+        } else if (!verdict.secret.isEmpty()) {
+            Q_EMIT secretKept(verdict.secret);
+        }
+    });
+    store_.addClip(text, whileHeld([this](Held& held, const QUuid& clip) { kept(held, clip); }),
+                   std::move(judging));
 }
 
 void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStringList& useless) {

@@ -2,6 +2,7 @@
 
 #include "base/Handle.h"
 #include "clipboard/CapturePlan.h"
+#include "clipboard/CaptureRules.h"
 #include "clipboard/HandOver.h"
 #include "platform/Pasteboard.h"
 
@@ -16,6 +17,7 @@ class QUrl;
 
 namespace ravelo {
 
+class CapturePause;
 class DetachedJobs;
 class Scheduler;
 class Store;
@@ -30,8 +32,8 @@ class ClipboardManager : public QObject {
 
 public:
     /// What is on the pasteboard now is never captured.
-    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler,
-                     DetachedJobs& jobs);
+    ClipboardManager(Store& store, Pasteboard& pasteboard, Scheduler& scheduler, DetachedJobs& jobs,
+                     CapturePause& pause);
 
     /// From now on polls at each change that the platform reports, and every 0.5 s if it does not
     /// report all.
@@ -39,6 +41,9 @@ public:
 
     /// Applies to later captures.
     void setTextEnds(TextEnds ends) { textEnds_ = ends; }
+
+    /// Likewise.
+    void setRules(CaptureRules rules) { rules_ = std::move(rules); }
 
     void copyText(const QString& text);
 
@@ -53,6 +58,9 @@ public:
 Q_SIGNALS:
     /// Once for each copy that is too large to keep anything of it.
     void tooLarge(const ravelo::TooLarge& copy);
+
+    /// A copied text has the form of a secret and exists in memory only.
+    void secretKept(const QString& form);
 
 private:
     using Forms = QList<PasteboardEntry>;
@@ -82,6 +90,7 @@ private:
     };
 
     void poll();
+    void ignore();
     void read(qint64 count, const QStringList& useless);
     void finishRead(qint64 count, const PasteboardSnapshot& snapshot, const QStringList& useless,
                     Seconds seen);
@@ -115,10 +124,13 @@ private:
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
     DetachedJobs& jobs_;
+    CapturePause& pause_;
+    CaptureRules rules_;
     TextEnds textEnds_ = TextEnds::trimmed;
     qint64 lastChangeCount_;
     qint64 suppressUntilCount_ = -1; ///< Our own change.
     std::shared_ptr<Held> held_;     ///< Null at first.
+    bool ignoredLast_ = false;       ///< The last copy, unread.
     Handle timer_;
     Handle notice_;
     Handle saveRequests_;

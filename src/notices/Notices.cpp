@@ -49,6 +49,11 @@ void Notices::putAside(Source source, const QString& path) {
     update();
 }
 
+void Notices::secretKept(const QString& form) {
+    secret_ = form;
+    update();
+}
+
 void Notices::act() {
     if (shown_.kind == SavingFails) {
         Q_EMIT tryAgain();
@@ -56,14 +61,19 @@ void Notices::act() {
         const QString path = aside_.begin()->second;
         dismiss();
         Q_EMIT openFolder(path);
+    } else if (shown_.kind == SecretKept) {
+        dismiss();
+        Q_EMIT keepSecrets();
     }
 }
 
 void Notices::dismiss() {
-    if (dismissible()) {
+    if (shown_.kind == PutAside) {
         aside_.erase(aside_.begin());
-        update();
+    } else if (shown_.kind == SecretKept) {
+        secret_.clear();
     }
+    update();
 }
 
 void Notices::update() {
@@ -102,7 +112,13 @@ Notices::Notice Notices::worst() const {
     if (savedAgain_) {
         return {SavedAgain, u"Saved again."_s, {}, {}};
     }
-    return aside_.empty() ? Notice() : fileAside(aside_.begin()->first, aside_.begin()->second);
+    if (!aside_.empty()) {
+        return fileAside(aside_.begin()->first, aside_.begin()->second);
+    }
+    return secret_.isEmpty() ? Notice()
+                             : Notice{SecretKept, u"This looks like a secret: %1."_s.arg(secret_),
+                                      u"Such texts are never written to disk and soon forgotten."_s,
+                                      u"Keep such texts"_s};
 }
 
 Notices::Notice Notices::failing(const Failure& failure) const {

@@ -22,7 +22,7 @@ class Notices : public QObject {
 public:
     /// The worst first.
     // NOLINTNEXTLINE(readability-identifier-naming): QML demands capitals.
-    enum Kind { SavingFails, SavedAgain, PutAside, None };
+    enum Kind { SavingFails, SavedAgain, PutAside, SecretKept, None };
     Q_ENUM(Kind)
 
     /// Whose file it is about.
@@ -42,6 +42,10 @@ public:
     /// the folder.
     void putAside(Source source, const QString& path);
 
+    /// For the first time, a copied text is only kept in memory; `form` is what it looks like.
+    /// Shown until the user dismisses it or wants such texts kept.
+    void secretKept(const QString& form);
+
     /// What is shown now.
     [[nodiscard]] Kind kind() const { return shown_.kind; }
 
@@ -51,7 +55,9 @@ public:
 
     [[nodiscard]] QString action() const { return shown_.action; }
 
-    [[nodiscard]] bool dismissible() const { return shown_.kind == PutAside; }
+    [[nodiscard]] bool dismissible() const {
+        return shown_.kind == PutAside || shown_.kind == SecretKept;
+    }
 
     Q_INVOKABLE void act();
     /// Does nothing if the notice cannot be dismissed.
@@ -60,6 +66,7 @@ public:
 Q_SIGNALS:
     void changed();
     void tryAgain();                      ///< Save whatever failed.
+    void keepSecrets();                   ///< Such texts are to be kept as any text.
     void openFolder(const QString& path); ///< Show the file in its folder.
 
 private:
@@ -88,6 +95,7 @@ private:
     Scheduler& scheduler_;
     std::map<Source, Failure> failures_;
     std::map<Source, QString> aside_;
+    QString secret_; ///< Its form; empty if there is nothing to say.
     Notice shown_;
     Handle nextMinute_;
     Handle savedAgain_; ///< Set while "Saved again." is shown.

@@ -6,6 +6,7 @@
 #include "platform/PanelWindow.h"
 #include "platform/Pasteboard.h"
 #include "platform/Screens.h"
+#include "platform/SelectedText.h"
 #include "platform/SessionLock.h"
 #include "platform/WindowFrame.h"
 
@@ -24,6 +25,10 @@ public:
 
     [[nodiscard]] virtual Pasteboard& pasteboard() = 0;
     [[nodiscard]] virtual DragMonitor& drags() = 0;
+
+    /// Null if programs cannot see what is selected in others.
+    [[nodiscard]] virtual SelectedText* selectedText() { return nullptr; }
+
     [[nodiscard]] virtual Screens& screens() = 0;
 
     /// Null if it cannot hold the pointer.

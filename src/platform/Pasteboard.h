@@ -31,6 +31,7 @@ struct PasteboardOwner {
 
     quint32 id = 0; ///< The same for all copies of one running program; 0 if unknown.
     Kind kind = Kind::program;
+    QStringList names{}; ///< App id, or class and instance of its window, as far as known.
 };
 
 /// An owner exited, and its contents went with it.
@@ -95,6 +96,9 @@ public:
     /// Replaces the contents by one object in these forms, best first. Returns the change count of
     /// that write: `changeCount` may have moved on already.
     virtual qint64 write(const QList<PasteboardEntry>& forms) = 0;
+
+    /// Whether the names of owners are known.
+    [[nodiscard]] virtual bool namesPrograms() const { return false; }
 
     /// Which contents count as orphaned. Some display servers cannot distinguish the end of an
     /// owner from clearing.

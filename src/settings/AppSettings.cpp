@@ -3,6 +3,7 @@
 #include "platform/LoginItem.h"
 #include "platform/Preferences.h"
 
+#include <QJsonArray>
 #include <QLoggingCategory>
 
 #include <algorithm>
@@ -20,10 +21,24 @@ double usable(const QJsonValue& value, double lowest, double highest, double sta
     return number >= lowest && number <= highest ? number : standard;
 }
 
-int knownLength(const QJsonValue& value) {
-    constexpr std::array known{60, 200, 1000};
-    const int length = value.toInt(known.front());
-    return std::ranges::find(known, length) != known.end() ? length : known.front();
+/// The first one stands for any unknown number.
+template <std::size_t count>
+int known(const QJsonValue& value, const std::array<int, count>& numbers) {
+    const int number = value.toInt(numbers.front());
+    return std::ranges::find(numbers, number) != numbers.end() ? number : numbers.front();
+}
+
+constexpr std::array lengths{60, 200, 1000};
+constexpr std::array forgetting{10, 1, 60, AppSettings::neverKept, AppSettings::asAnyText};
+
+QStringList texts(const QJsonValue& value) {
+    QStringList texts;
+    for (const QJsonValue& text : value.toArray()) {
+        if (const QString trimmed = text.toString().trimmed(); !trimmed.isEmpty()) {
+            texts.append(text.toString());
+        }
+    }
+    return texts;
 }
 
 } // namespace
@@ -40,8 +55,13 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       pinnedBar_(preferences.value(u"pinnedBar"_s).toBool(false)),
       macType_(preferences.value(u"macType"_s).toString(u"auto"_s)),
       newestFirst_(preferences.value(u"newestFirst"_s).toBool(false)),
-      historyLength_(knownLength(preferences.value(u"historyLength"_s))),
+      historyLength_(known(preferences.value(u"historyLength"_s), lengths)),
       keepTextsExactly_(preferences.value(u"keepTextsExactly"_s).toBool(false)),
+      ignoredPrograms_(texts(preferences.value(u"ignoredPrograms"_s))),
+      ignoredPatterns_(texts(preferences.value(u"ignoredPatterns"_s))),
+      forgetSecrets_(known(preferences.value(u"forgetSecrets"_s), forgetting)),
+      keyLikeWords_(preferences.value(u"keyLikeWords"_s).toBool(false)),
+      keepSelectedText_(preferences.value(u"keepSelectedText"_s).toBool(false)),
       hideClaudeCode_(preferences.value(u"hideClaudeCode"_s).toBool(false)),
       onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
       launchAtLogin_(loginItem.isEnabled()) {}
@@ -150,12 +170,37 @@ void AppSettings::setNewestFirst(bool on) {
 
 void AppSettings::setHistoryLength(int clips) {
     preferences_.set(u"historyLength"_s, clips);
-    change(historyLength_, knownLength(clips), &AppSettings::historyLengthChanged);
+    change(historyLength_, known(clips, lengths), &AppSettings::historyLengthChanged);
 }
 
 void AppSettings::setKeepTextsExactly(bool on) {
     preferences_.set(u"keepTextsExactly"_s, on);
     change(keepTextsExactly_, on, &AppSettings::keepTextsExactlyChanged);
+}
+
+void AppSettings::setIgnoredPrograms(const QStringList& names) {
+    preferences_.set(u"ignoredPrograms"_s, QJsonArray::fromStringList(names));
+    change(ignoredPrograms_, names, &AppSettings::ignoredProgramsChanged);
+}
+
+void AppSettings::setIgnoredPatterns(const QStringList& expressions) {
+    preferences_.set(u"ignoredPatterns"_s, QJsonArray::fromStringList(expressions));
+    change(ignoredPatterns_, expressions, &AppSettings::ignoredPatternsChanged);
+}
+
+void AppSettings::setForgetSecrets(int minutes) {
+    preferences_.set(u"forgetSecrets"_s, minutes);
+    change(forgetSecrets_, known(minutes, forgetting), &AppSettings::forgetSecretsChanged);
+}
+
+void AppSettings::setKeyLikeWords(bool on) {
+    preferences_.set(u"keyLikeWords"_s, on);
+    change(keyLikeWords_, on, &AppSettings::keyLikeWordsChanged);
+}
+
+void AppSettings::setKeepSelectedText(bool on) {
+    preferences_.set(u"keepSelectedText"_s, on);
+    change(keepSelectedText_, on, &AppSettings::keepSelectedTextChanged);
 }
 
 void AppSettings::setHideClaudeCode(bool on) {

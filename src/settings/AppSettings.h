@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QStringList>
 
 #include <functional>
 
@@ -27,6 +28,15 @@ class AppSettings : public QObject {
         int historyLength READ historyLength WRITE setHistoryLength NOTIFY historyLengthChanged)
     Q_PROPERTY(bool keepTextsExactly READ keepTextsExactly WRITE setKeepTextsExactly NOTIFY
                    keepTextsExactlyChanged)
+    Q_PROPERTY(QStringList ignoredPrograms READ ignoredPrograms WRITE setIgnoredPrograms NOTIFY
+                   ignoredProgramsChanged)
+    Q_PROPERTY(QStringList ignoredPatterns READ ignoredPatterns WRITE setIgnoredPatterns NOTIFY
+                   ignoredPatternsChanged)
+    Q_PROPERTY(
+        int forgetSecrets READ forgetSecrets WRITE setForgetSecrets NOTIFY forgetSecretsChanged)
+    Q_PROPERTY(bool keyLikeWords READ keyLikeWords WRITE setKeyLikeWords NOTIFY keyLikeWordsChanged)
+    Q_PROPERTY(bool keepSelectedText READ keepSelectedText WRITE setKeepSelectedText NOTIFY
+                   keepSelectedTextChanged)
     Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
                    hideClaudeCodeChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
@@ -34,6 +44,9 @@ class AppSettings : public QObject {
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
 
 public:
+    static constexpr int neverKept = 0;
+    static constexpr int asAnyText = -1;
+
     AppSettings(Preferences& preferences, LoginItem& loginItem);
 
     [[nodiscard]] double bgOpacity() const;
@@ -50,6 +63,23 @@ public:
     [[nodiscard]] int historyLength() const;
     /// Copied texts keep white space at their ends.
     [[nodiscard]] bool keepTextsExactly() const;
+
+    /// Copies from programs with these names are not captured.
+    [[nodiscard]] const QStringList& ignoredPrograms() const { return ignoredPrograms_; }
+
+    /// Nor are texts that match one of these expressions.
+    [[nodiscard]] const QStringList& ignoredPatterns() const { return ignoredPatterns_; }
+
+    /// When secrets are forgotten: after 1, 10 or 60 minutes, `neverKept` or `asAnyText`. Any other
+    /// number counts as absent.
+    [[nodiscard]] int forgetSecrets() const { return forgetSecrets_; }
+
+    /// Single words that look like keys count as secrets.
+    [[nodiscard]] bool keyLikeWords() const { return keyLikeWords_; }
+
+    /// Selected text, too, is captured.
+    [[nodiscard]] bool keepSelectedText() const { return keepSelectedText_; }
+
     /// Hides Claude Code's usage if it is not installed.
     [[nodiscard]] bool hideClaudeCode() const;
     [[nodiscard]] bool onboarded() const;
@@ -65,6 +95,11 @@ public:
     void setNewestFirst(bool on);
     void setHistoryLength(int clips);
     void setKeepTextsExactly(bool on);
+    void setIgnoredPrograms(const QStringList& names);
+    void setIgnoredPatterns(const QStringList& expressions);
+    void setForgetSecrets(int minutes);
+    void setKeyLikeWords(bool on);
+    void setKeepSelectedText(bool on);
     void setHideClaudeCode(bool on);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
@@ -90,6 +125,11 @@ Q_SIGNALS:
     void newestFirstChanged();
     void historyLengthChanged();
     void keepTextsExactlyChanged();
+    void ignoredProgramsChanged();
+    void ignoredPatternsChanged();
+    void forgetSecretsChanged();
+    void keyLikeWordsChanged();
+    void keepSelectedTextChanged();
     void hideClaudeCodeChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
@@ -112,6 +152,11 @@ private:
     bool newestFirst_;
     int historyLength_;
     bool keepTextsExactly_;
+    QStringList ignoredPrograms_;
+    QStringList ignoredPatterns_;
+    int forgetSecrets_;
+    bool keyLikeWords_;
+    bool keepSelectedText_;
     bool hideClaudeCode_;
     bool onboarded_;
     bool launchAtLogin_;

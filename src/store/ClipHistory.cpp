@@ -46,13 +46,14 @@ QStringList enforceLimit(QList<ClipItem>& clips, int limit) {
 } // namespace
 
 std::optional<ClipChange> ClipHistory::added(QList<ClipItem> clips, const QString& text, Date now,
-                                             const HistoryRules& rules) {
+                                             const HistoryRules& rules, const QString& secret) {
     const QString trimmed = text.trimmed();
     if (trimmed.isEmpty()) {
         return std::nullopt;
     }
     const auto newest = std::ranges::find(std::as_const(clips), false, &ClipItem::pinned);
-    if (newest != clips.cend() && newest->text == text) {
+    if (newest != clips.cend() && newest->text == text && newest->secret.isEmpty() &&
+        secret.isEmpty()) {
         return std::nullopt;
     }
     clips.removeIf([&](const ClipItem& clip) { return !clip.pinned && clip.text == text; });
@@ -61,7 +62,8 @@ std::optional<ClipChange> ClipHistory::added(QList<ClipItem> clips, const QStrin
                    isLink(trimmed) ? ClipKind::url : ClipKind::text,
                    now,
                    false,
-                   {}});
+                   {},
+                   secret});
     enforceLimit(clips, rules.limit);
     return ClipChange{std::move(clips), {}};
 }
@@ -80,6 +82,7 @@ std::optional<ClipChange> ClipHistory::pinToggled(QList<ClipItem> clips, const Q
         return std::nullopt;
     }
     clip->pinned = !clip->pinned;
+    clip->secret.clear(); // What is pinned is kept.
     std::ranges::stable_sort(clips, [order](const ClipItem& a, const ClipItem& b) {
         if (a.pinned != b.pinned) {
             return a.pinned;
@@ -87,6 +90,19 @@ std::optional<ClipChange> ClipHistory::pinToggled(QList<ClipItem> clips, const Q
         return order == HistoryRules::Order::newerFirst ? b.date < a.date : a.date < b.date;
     });
     return ClipChange{std::move(clips), {}};
+}
+
+std::optional<ClipChange>
+ClipHistory::secretsKept(QList<ClipItem> clips,
+                         const std::function<bool(const ClipItem&)>& isMeant) {
+    bool any = false;
+    for (ClipItem& clip : clips) {
+        if (!clip.secret.isEmpty() && isMeant(clip)) {
+            clip.secret.clear();
+            any = true;
+        }
+    }
+    return any ? std::optional(ClipChange{std::move(clips), {}}) : std::nullopt;
 }
 
 std::optional<ClipChange> ClipHistory::newerFirst(const QList<ClipItem>& clips) {

@@ -2,6 +2,7 @@
 
 #include "store/Records.h"
 
+#include <functional>
 #include <optional>
 
 namespace ravelo {
@@ -28,9 +29,10 @@ struct HistoryRules {
 struct ClipHistory {
     /// Adds a copied text, untrimmed, in place of unpinned clips of the same text. Changes nothing
     /// if it is only white space or already the newest unpinned text. Leaves the image files of
-    /// clips that are pushed out.
+    /// clips that are pushed out. `secret` is the clip's; copied again, a secret begins anew.
     [[nodiscard]] static std::optional<ClipChange> added(QList<ClipItem> clips, const QString& text,
-                                                         Date now, const HistoryRules& rules = {});
+                                                         Date now, const HistoryRules& rules = {},
+                                                         const QString& secret = {});
 
     /// Adds an image whose file is written. Equal images are not detected.
     [[nodiscard]] static ClipChange imageAdded(QList<ClipItem> clips, const QString& imageFileName,
@@ -40,6 +42,10 @@ struct ClipHistory {
     [[nodiscard]] static std::optional<ClipChange>
     pinToggled(QList<ClipItem> clips, const QUuid& id,
                HistoryRules::Order order = HistoryRules::Order::olderFirst);
+
+    /// Makes secrets ordinary clips: all for which `isMeant` holds.
+    [[nodiscard]] static std::optional<ClipChange>
+    secretsKept(QList<ClipItem> clips, const std::function<bool(const ClipItem&)>& isMeant);
 
     /// Sorts each group newest first. A new copy stays above the pinned ones.
     [[nodiscard]] static std::optional<ClipChange> newerFirst(const QList<ClipItem>& clips);

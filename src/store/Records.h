@@ -2,6 +2,7 @@
 
 #include "base/Date.h"
 
+#include <QLatin1StringView>
 #include <QList>
 #include <QPointF>
 #include <QString>
@@ -12,6 +13,9 @@ namespace ravelo {
 /// The kind of a clip. Stored as "text", "url" or "image".
 enum class ClipKind { text, url, image };
 
+/// The form of a text that the user's patterns could not be tried on completely.
+inline constexpr QLatin1StringView uncheckedText("unchecked");
+
 /// One entry of the clipboard history.
 struct ClipItem {
     QUuid id;
@@ -20,6 +24,8 @@ struct ClipItem {
     Date date; ///< Of capture.
     bool pinned = false;
     QString imageFileName; ///< Name of a PNG in the clips folder; empty if there is none.
+    /// Id of its form if it is a secret, which is only kept in memory; never stored.
+    QString secret{};
 
     friend bool operator==(const ClipItem&, const ClipItem&) = default;
 };

@@ -42,6 +42,7 @@ Store::Store(const QString& folder, Services services)
              [this] {
                  return StoreSaver::Contents{data_, shelf_.stacks};
              }),
+      forgetting_(services.scheduler, [this](const QList<QUuid>& over) { forget(over); }),
       captures_({services.scheduler, services.worker, services.copiedFiles, services.conversions}),
       look_(services.jobs, services.scheduler),
       countdown_(services.scheduler, services.sound),
@@ -145,15 +146,36 @@ void Store::setHistoryRules(const HistoryRules& rules) {
     }
 }
 
-void Store::addClip(const QString& text, Kept kept) {
-    auto add = [this, text, kept = std::move(kept), now = services_.scheduler.now()] {
-        apply(ClipHistory::added(data_.clips, text, now, rules_));
-        reportKept(text, kept);
+void Store::addClip(const QString& text, Kept kept, Judging judging) {
+    const auto verdict = std::make_shared<Verdict>();
+    std::function<void(const CopiedContents&)> judgeLater;
+    if (judging.judge && judging.takes == Judging::Takes::longer) {
+        judgeLater = [verdict, text, judge = std::move(judging.judge)](const CopiedContents&) {
+            *verdict = judge(text);
+        };
+    } else if (judging.judge) {
+        *verdict = judging.judge(text);
+    }
+    auto add = [this, text, verdict, kept = std::move(kept), judged = std::move(judging.judged),
+                now = services_.scheduler.now()] {
+        const bool written = std::ranges::any_of(data_.clips, [&](const ClipItem& clip) {
+            return clip.secret.isEmpty() && clip.kind != ClipKind::image && clip.text == text;
+        });
+        if (verdict->kept && written) {
+            verdict->secret.clear();
+        }
+        if (judged) {
+            judged(*verdict);
+        }
+        if (verdict->kept) {
+            apply(ClipHistory::added(data_.clips, text, now, rules_, verdict->secret));
+            reportKept(text, kept);
+        }
     };
-    if (captures_.isEmpty()) {
+    if (captures_.isEmpty() && !judgeLater) {
         add();
     } else {
-        captures_.add({}, {{}, {}, unlessCleared(std::move(add), [] {})});
+        captures_.add({}, {std::move(judgeLater), {}, unlessCleared(std::move(add), [] {})});
     }
 }
 
@@ -219,9 +241,31 @@ void Store::apply(std::optional<ClipChange> change) {
         return;
     }
     data_.clips = std::move(change->clips);
+    forgetting_.follow(data_.clips);
     removeImages(change->orphanedImages);
     save();
     Q_EMIT clipsChanged();
+}
+
+void Store::setForgetAfter(std::optional<Seconds> after) {
+    forgetting_.setAfter(after);
+    forgetting_.follow(data_.clips);
+}
+
+void Store::keepSecret(const QUuid& id) {
+    apply(
+        ClipHistory::secretsKept(data_.clips, [&](const ClipItem& clip) { return clip.id == id; }));
+}
+
+void Store::keepSecrets() {
+    apply(ClipHistory::secretsKept(
+        data_.clips, [](const ClipItem& clip) { return clip.secret != uncheckedText; }));
+}
+
+void Store::forget(const QList<QUuid>& secrets) {
+    QList<ClipItem> clips = data_.clips;
+    clips.removeIf([&](const ClipItem& clip) { return secrets.contains(clip.id); });
+    apply(ClipChange{std::move(clips), {}});
 }
 
 void Store::togglePin(const QUuid& id) {

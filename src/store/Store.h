@@ -5,10 +5,12 @@
 #include "shelf/Shelf.h"
 #include "store/Captures.h"
 #include "store/ClipHistory.h"
+#include "store/Forgetting.h"
 #include "store/Records.h"
 #include "store/StoreSaver.h"
 #include "store/StoreServices.h"
 #include "store/TooLarge.h"
+#include "store/Verdict.h"
 #include "timer/Countdown.h"
 #include "timer/Reminders.h"
 
@@ -83,14 +85,28 @@ public:
     using Refused = std::function<void(const Refusal&)>;
 
     /// Adds a text; see `ClipHistory::added`. Waits for images that are still being written, so
-    /// that the clips are in the order of copying.
-    void addClip(const QString& text, Kept kept = {});
+    /// that the clips are in the order of copying. A secret that is already in the history as an
+    /// ordinary clip stays one.
+    void addClip(const QString& text, Kept kept = {}, Judging judging = {});
 
     /// Writes the image that was read with `nextImageType` (PNG bytes as they are, all others
     /// converted) to the clips folder, then adds its clip. Adds nothing if there is no image or it
     /// cannot be written.
     void addImageClip(const PasteboardSnapshot& contents, Kept kept = {}, Refused refused = {});
 
+    /// How long after copying secrets are forgotten; nothing for not at all. Applies at once.
+    void setForgetAfter(std::optional<Seconds> after);
+
+    /// Until a secret is forgotten.
+    [[nodiscard]] std::optional<Seconds> untilForgotten(const ClipItem& clip) const {
+        return forgetting_.left(clip);
+    }
+
+    /// Makes secrets ordinary clips: one, or all of them of a known form.
+    Q_INVOKABLE void keepSecret(const QUuid& id);
+    void keepSecrets();
+
+    /// Also makes a secret an ordinary clip.
     Q_INVOKABLE void togglePin(const QUuid& id);
     /// Deletes at once, also on the disk; `kept`, if any, gets the clip for `restore`.
     void deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept = {});
@@ -193,6 +209,7 @@ private:
     [[nodiscard]] std::function<void()> unlessCleared(std::function<void()> add,
                                                       std::function<void()> discard);
     void apply(std::optional<ClipChange> change);
+    void forget(const QList<QUuid>& secrets);
     void takeOffDisk(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept);
     void putBack(const QList<DeletedRecord>& records);
     void reportKept(const QString& text, const Kept& kept) const; ///< For a text.
@@ -206,6 +223,7 @@ private:
     Shelf shelf_;
     int shelfRequestTick_ = 0;
     StoreSaver saver_;
+    Forgetting forgetting_;
     Captures captures_;
     int clearings_ = 0; ///< Lets captures see that the history was cleared meanwhile.
     FileLook look_;

@@ -164,7 +164,9 @@ bool read(const QJsonValue& value, QList<T>& list) {
 } // namespace
 
 QByteArray encodeStore(const StoreData& data) {
-    const QJsonObject object = {{u"clips"_s, jsonArray(data.clips)},
+    QList<ClipItem> clips = data.clips;
+    clips.removeIf([](const ClipItem& clip) { return !clip.secret.isEmpty(); });
+    const QJsonObject object = {{u"clips"_s, jsonArray(clips)},
                                 {u"snippets"_s, jsonArray(data.snippets)},
                                 {u"note"_s, data.note},
                                 {u"note2"_s, data.note2},

@@ -10,7 +10,7 @@ namespace ravelo {
 
 /// The store file: one JSON object (RFC 8259) without white space, UUIDs in upper case, dates as
 /// seconds since 2001-01-01 00:00:00 UTC. All values round-trip bit for bit, except NaN and
-/// infinity, which JSON lacks. Any thread.
+/// infinity, which JSON lacks. Secrets are left out. Any thread.
 [[nodiscard]] QByteArray encodeStore(const StoreData& data);
 
 /// All or nothing: a missing key, a value of the wrong type or anything after the object makes the

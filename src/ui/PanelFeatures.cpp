@@ -14,6 +14,7 @@ PanelFeatures::PanelFeatures(const Services& services, const QLocale& locale,
       focus(services.store, services.preferences, services.scheduler),
       usage({services.usage, services.controller, services.settings, services.scheduler}),
       actions(services.nightShift, services.shutDown),
+      pausing({services.pause, services.scheduler, toast}, locale),
       tabs(services.settings),
       state(services.controller, services.settings, services.scheduler) {
     // From left to right.
@@ -44,6 +45,8 @@ void PanelFeatures::followTyping(NotchController& controller, const QQuickWindow
 void PanelFeatures::followState() {
     QObject::connect(&state, &PanelState::opened, &tabs, &Tabs::begin);
     QObject::connect(&state, &PanelState::opened, &usage, &Usage::refresh);
+    QObject::connect(&state, &PanelState::opened, &pausing, [this] { pausing.setShown(true); });
+    QObject::connect(&state, &PanelState::closed, &pausing, [this] { pausing.setShown(false); });
     QObject::connect(&state, &PanelState::closed, &toast, &Toast::reset);
     QObject::connect(&state, &PanelState::closed, &tabs, &Tabs::reset);
     QObject::connect(&state, &PanelState::closed, &snippets, &Snippets::reset);

@@ -6,6 +6,7 @@
 #include "ui/lists/Deleting.h"
 #include "ui/panel/PanelActions.h"
 #include "ui/panel/PanelState.h"
+#include "ui/panel/Pausing.h"
 #include "ui/panel/Tabs.h"
 #include "ui/shelf/ShelfFiles.h"
 #include "ui/snippets/Snippets.h"
@@ -14,6 +15,7 @@
 
 namespace ravelo {
 
+class CapturePause;
 class Notices;
 class Pasteboard;
 class Preferences;
@@ -25,6 +27,7 @@ public:
     struct Services {
         Store& store;
         AppSettings& settings;
+        CapturePause& pause;
         NotchController& controller;
         Notices& notices;
         Pasteboard& pasteboard;
@@ -54,6 +57,7 @@ public:
     Focus focus;
     Usage usage;
     PanelActions actions;
+    Pausing pausing;
     Tabs tabs;
     PanelState state;
     // Owned by `tabs`.

@@ -85,6 +85,7 @@ void PanelView::load(const PanelFeatures::Services& services, const QLocale& loc
     view_.setInitialProperties({{u"controller"_s, QVariant::fromValue(&services.controller)},
                                 {u"panelState"_s, QVariant::fromValue(&all.state)},
                                 {u"tabs"_s, QVariant::fromValue(&all.tabs)},
+                                {u"pausing"_s, QVariant::fromValue(&all.pausing)},
                                 {u"focusing"_s, QVariant::fromValue(&all.focus)},
                                 {u"usage"_s, QVariant::fromValue(&all.usage)},
                                 {u"snippets"_s, QVariant::fromValue(&all.snippets)},

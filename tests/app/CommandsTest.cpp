@@ -35,8 +35,8 @@ protected:
         {world_.scheduler, plan_.jobs}, plan_.home(), std::make_unique<InotifyChanges>()};
     int setups_ = 0;
     int looks_ = 0; ///< For updates.
-    Commands commands_{{world_.store, world_.controller, world_.scheduler, context_, plan_.usage,
-                        [this] { ++setups_; }, [this] { ++looks_; },
+    Commands commands_{{world_.store, world_.pause, world_.controller, world_.scheduler, context_,
+                        plan_.usage, [this] { ++setups_; }, [this] { ++looks_; },
                         [] {
                         }}};
 };
@@ -92,6 +92,48 @@ TEST_F(CommandsTest, AcceptsAnyLabelAndPrintsItInOneLine) {
     }
 }
 
+TEST_F(CommandsTest, PausesCapture) {
+    const auto status = [this](const QStringList& more = {}) {
+        return answer(QStringList{u"pause"_s, u"--status"_s} + more).output;
+    };
+    const auto captures = [this] {
+        static int copies = 0;
+        const QString text = u"copy %1"_s.arg(++copies);
+        world_.pasteboard.offerText(text);
+        world_.scheduler.advance(Seconds(1));
+        return !world_.store.clips().isEmpty() && world_.store.clips().front().text == text;
+    };
+    world_.clipboard.start();
+    EXPECT_EQ(status(), "capturing\n");
+    EXPECT_TRUE(captures());
+
+    EXPECT_EQ(answer({u"pause"_s}), Answer());
+    EXPECT_EQ(status(), "paused\n");
+    EXPECT_EQ(status({u"--json"_s}), "{\"paused\":true,\"remaining\":0,\"until\":null}\n");
+    world_.scheduler.advance(Seconds(100'000));
+    EXPECT_FALSE(captures());
+    EXPECT_EQ(answer({u"resume"_s}), Answer());
+    EXPECT_EQ(world_.store.clips().front().text, u"copy 1"_s) << "nothing is made up for";
+    EXPECT_TRUE(captures());
+
+    EXPECT_EQ(answer({u"pause"_s, u"0.5"_s}), Answer());
+    EXPECT_TRUE(status().startsWith("paused until ")) << status().constData();
+    EXPECT_TRUE(status({u"--json"_s}).startsWith("{\"paused\":true,\"remaining\":30,\"until\":\""));
+    EXPECT_FALSE(captures());
+    EXPECT_TRUE(CapturePause(world_.preferences, world_.scheduler).isPaused()) << "after a restart";
+    world_.scheduler.advance(Seconds(30));
+    EXPECT_EQ(status(), "capturing\n");
+    EXPECT_FALSE(CapturePause(world_.preferences, world_.scheduler).isPaused());
+    EXPECT_TRUE(captures());
+
+    EXPECT_EQ(answer({u"ignore-next"_s}), Answer());
+    EXPECT_FALSE(captures());
+    EXPECT_TRUE(captures());
+    EXPECT_EQ(answer({u"ignore-next"_s}), Answer());
+    world_.scheduler.advance(Seconds(31));
+    EXPECT_TRUE(captures()) << "it has lapsed";
+}
+
 TEST_F(CommandsTest, ReportsTheMonitors) {
     world_.scheduler.advance(Seconds(5));
     const QByteArray line = answer({u"status"_s}).output;
@@ -118,6 +160,10 @@ TEST_F(CommandsTest, RefusesInvalidRequests) {
         {u"quit"_s, u"now"_s},
         {u"show!"_s},
         {u"timer"_s, u"stop"_s, u"--now"_s},
+        {u"pause"_s, u"soon"_s},
+        {u"pause"_s, u"5"_s, u"6"_s},
+        {u"pause"_s, u"--status"_s, u"5"_s},
+        {u"resume"_s, u"5"_s},
         {u"status"_s, u"json"_s},
     };
     for (const QStringList& request : requests) {

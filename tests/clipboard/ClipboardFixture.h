@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clipboard/CapturePause.h"
 #include "clipboard/ClipboardManager.h"
 
 #include "fakes/FakeDetachedJobs.h"
@@ -40,7 +41,7 @@ struct ClipboardWorld {
     explicit ClipboardWorld(bool reportsAll = false) {
         pasteboard.reportsAll = reportsAll;
         pasteboard.offerText(u"there before the start"_s);
-        manager.emplace(store, pasteboard, scheduler, jobs);
+        manager.emplace(store, pasteboard, scheduler, jobs, pause);
         manager->start();
     }
 
@@ -72,6 +73,7 @@ struct ClipboardWorld {
     std::shared_ptr<ImageDecoder> decoder = std::make_shared<InProcessDecoder>();
     Store store{folder.path(),
                 {scheduler, worker, preferences, pasteboard, sound, jobs, jobs, jobs, decoder}};
+    CapturePause pause{preferences, scheduler};
     std::optional<ClipboardManager> manager;
 };
 

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "clipboard/CapturePause.h"
 #include "clipboard/ClipboardManager.h"
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeDisplay.h"
@@ -91,7 +92,8 @@ struct PanelWorld {
     Notices notices{scheduler};
     Store store;
     AppSettings settings{preferences, loginItem};
-    ClipboardManager clipboard{store, pasteboard, scheduler, jobs};
+    CapturePause pause{preferences, scheduler};
+    ClipboardManager clipboard{store, pasteboard, scheduler, jobs, pause};
     PointerHotZone zone;
     NotchController controller;
 

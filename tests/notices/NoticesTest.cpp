@@ -137,6 +137,24 @@ TEST_F(NoticesTest, itsButtonRetriesOrOpensTheFolder) {
     EXPECT_EQ(shown(), nothing) << "it was handled";
 }
 
+TEST_F(NoticesTest, explainsSecretsAndOffersToKeepThem) {
+    int kept = 0;
+    QObject::connect(&notices, &Notices::keepSecrets, [&] { ++kept; });
+    notices.secretKept(u"GitHub token"_s);
+    EXPECT_EQ(notices.lead(), u"This looks like a secret: GitHub token."_s);
+    notices.putAside(store, u"/a/store.json.unreadable"_s);
+    EXPECT_EQ(notices.kind(), Notices::PutAside) << "that is more serious";
+    notices.dismiss();
+    EXPECT_EQ(notices.kind(), Notices::SecretKept);
+    notices.act();
+    EXPECT_EQ(kept, 1);
+    EXPECT_EQ(shown(), nothing);
+    notices.secretKept(u"GitHub token"_s);
+    notices.dismiss();
+    EXPECT_EQ(kept, 1);
+    EXPECT_EQ(shown(), nothing);
+}
+
 } // namespace
 
 } // namespace ravelo

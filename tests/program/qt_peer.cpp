@@ -39,11 +39,13 @@ int main(int argc, char** argv) {
     const QCommandLineOption text(u"text"_s, u"Offers a text."_s, u"text"_s);
     const QCommandLineOption image(u"image"_s, u"Offers an image of one colour."_s, u"color"_s);
     const QCommandLineOption secret(u"secret"_s, u"Marks it as password managers do."_s);
+    const QCommandLineOption mark(u"mark"_s, u"Adds a type; its value is percent-encoded."_s,
+                                  u"type=value"_s);
     const QCommandLineOption leave(u"leave"_s, u"Ends at once."_s);
     const QCommandLineOption series(u"series"_s, u"Copies so many texts."_s, u"count"_s);
     const QCommandLineOption interval(u"interval"_s, u"Between two texts."_s, u"ms"_s, u"25"_s);
     QCommandLineParser parser;
-    parser.addOptions({text, image, secret, leave, series, interval});
+    parser.addOptions({text, image, secret, mark, leave, series, interval});
     parser.process(application);
 
     if (parser.isSet(series)) {
@@ -61,6 +63,10 @@ int main(int argc, char** argv) {
     }
     if (parser.isSet(secret)) {
         mime->setData(u"x-kde-passwordManagerHint"_s, "secret");
+    }
+    for (const QString& one : parser.values(mark)) {
+        mime->setData(one.section(u'=', 0, 0),
+                      QByteArray::fromPercentEncoding(one.section(u'=', 1).toLatin1()));
     }
     QGuiApplication::clipboard()->setMimeData(mime);
     if (parser.isSet(leave)) {

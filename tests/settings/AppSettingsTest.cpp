@@ -4,6 +4,7 @@
 #include "support/RunTests.h"
 #include "support/SignalCount.h"
 
+#include <QJsonArray>
 #include <QVariant>
 
 #include <gtest/gtest.h>
@@ -39,6 +40,13 @@ const Field fields[] = {
     {"newestFirst", &AppSettings::newestFirstChanged, false, true, 1},
     {"historyLength", &AppSettings::historyLengthChanged, 60, 1000, u"200"_s},
     {"keepTextsExactly", &AppSettings::keepTextsExactlyChanged, false, true, u"true"_s},
+    {"ignoredPrograms", &AppSettings::ignoredProgramsChanged, QJsonArray(),
+     QJsonArray{u"KeePassXC"_s}, u"KeePassXC"_s},
+    {"ignoredPatterns", &AppSettings::ignoredPatternsChanged, QJsonArray(),
+     QJsonArray{u"^a"_s, u"b "_s}, true},
+    {"forgetSecrets", &AppSettings::forgetSecretsChanged, 10, -1, u"1"_s},
+    {"keyLikeWords", &AppSettings::keyLikeWordsChanged, false, true, 1},
+    {"keepSelectedText", &AppSettings::keepSelectedTextChanged, false, true, u"true"_s},
     {"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
     {"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}};
 

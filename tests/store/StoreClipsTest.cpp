@@ -1,4 +1,5 @@
 #include "StoreFixture.h"
+#include "store/Deleted.h"
 #include "support/TestFiles.h"
 
 #include <functional>
@@ -48,6 +49,38 @@ TEST_F(StoreClips, OperationsSaveAndNotifyOnlyChanges) {
     EXPECT_EQ(saved().clips, store_->clips());
     EXPECT_TRUE(saved().clips[0].pinned);
     EXPECT_EQ(saved().clips[0].date, Date{scheduler_.now().sinceReference - 0.4});
+}
+
+TEST_F(StoreClips, SecretsAreNeverWritten) {
+    const auto addSecret = [this](const QString& text) {
+        store_->addClip(text, {}, {[](const QString&) {
+                            return Verdict{true, u"github"_s};
+                        }});
+        return store_->clips()[0].id;
+    };
+    store_->setForgetAfter(Seconds(600));
+    add(u"a"_s);
+    const QUuid secret = addSecret(u"marker"_s);
+    const auto kept = std::make_shared<Deleted>();
+    store_->deleteClip(secret, kept);
+    settle();
+    store_->restore(kept, [](const Store::Restored&) {});
+    settle();
+    EXPECT_EQ(texts(), "marker a");
+    EXPECT_FALSE(readFile(storeFile())->contains("marker"));
+    store_->flush();
+    EXPECT_FALSE(readFile(storeFile())->contains("marker"));
+    scheduler_.advance(Seconds(600));
+    EXPECT_EQ(texts(), "a") << "forgotten";
+
+    store_->keepSecret(addSecret(u"one"_s));
+    store_->togglePin(addSecret(u"two"_s));
+    addSecret(u"three"_s);
+    store_->setForgetAfter(Seconds(0));
+    scheduler_.advance(Seconds(0));
+    settle();
+    EXPECT_EQ(texts(), "two a one") << "sorted by the pin";
+    EXPECT_EQ(saved().clips, store_->clips());
 }
 
 TEST_F(StoreClips, AddsAnImageOnceItsFileIsWritten) {

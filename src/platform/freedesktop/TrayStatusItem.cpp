@@ -38,14 +38,14 @@ constexpr QColor unknownForeground(255, 255, 255, 235);
 /// text.
 class DrawnIcon final : public QIconEngine {
 public:
-    DrawnIcon(StatusItem::Draw draw, const QColor& foreground)
-        : draw_(std::move(draw)), foreground_(foreground) {}
+    DrawnIcon(StatusItem::Icon look, const QColor& foreground)
+        : look_(std::move(look)), foreground_(foreground) {}
 
     void paint(QPainter* painter, const QRect& place, QIcon::Mode /*mode*/,
                QIcon::State /*state*/) override {
         painter->save();
         painter->translate(place.topLeft());
-        draw_(*painter, place.size(), foreground_);
+        look_.draw(*painter, place.size(), foreground_);
         painter->restore();
     }
 
@@ -65,30 +65,27 @@ public:
         return sizes;
     }
 
-    QString iconName() override {
-        const QString name = u"org.ravelo.Ravelo-symbolic"_s;
-        return QIcon::hasThemeIcon(name) ? name : QString();
-    }
+    QString iconName() override { return QIcon::hasThemeIcon(look_.name) ? look_.name : QString(); }
 
     bool isNull() override { return false; }
 
-    [[nodiscard]] QIconEngine* clone() const override { return new DrawnIcon(draw_, foreground_); }
+    [[nodiscard]] QIconEngine* clone() const override { return new DrawnIcon(look_, foreground_); }
 
 private:
-    StatusItem::Draw draw_;
+    StatusItem::Icon look_;
     QColor foreground_;
 };
 
-std::unique_ptr<QMenu> makeMenu(const QList<StatusItem::Row>& rows) {
-    auto menu = std::make_unique<QMenu>();
+void fill(QMenu& menu, const QList<StatusItem::Row>& rows) {
     for (const StatusItem::Row& row : rows) {
         if (row.title.isEmpty()) {
-            menu->addSeparator();
+            menu.addSeparator();
+        } else if (!row.rows.isEmpty()) {
+            fill(*menu.addMenu(row.title), row.rows);
         } else {
-            menu->addAction(row.title, row.keys, menu.get(), row.action);
+            menu.addAction(row.title, row.keys, &menu, row.action);
         }
     }
-    return menu;
 }
 
 } // namespace
@@ -101,9 +98,10 @@ TrayStatusItem::TrayStatusItem(QDBusConnection bus, TrayArea& area, Scheduler& s
 
 TrayStatusItem::~TrayStatusItem() = default;
 
-void TrayStatusItem::show(Draw icon, QList<Row> menu) {
-    draw_ = std::move(icon);
-    menu_ = makeMenu(menu);
+void TrayStatusItem::show(Icon icon, QList<Row> menu) {
+    look_ = std::move(icon);
+    menu_ = std::make_unique<QMenu>();
+    fill(*menu_, menu);
     // Connect before asking, so that no change is missed.
     QObject::connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, &watcher_,
                      [this](const QString&, const QString&, const QString& owner) {
@@ -119,6 +117,16 @@ void TrayStatusItem::show(Draw icon, QList<Row> menu) {
                           reply.arguments().value(0).toBool());
     });
     areaChanged();
+}
+
+void TrayStatusItem::replace(Icon icon, QList<Row> menu) {
+    look_ = std::move(icon);
+    qDeleteAll(menu_->findChildren<QMenu*>(Qt::FindDirectChildrenOnly));
+    menu_->clear();
+    fill(*menu_, menu);
+    if (icon_) {
+        icon_->setIcon(drawn());
+    }
 }
 
 void TrayStatusItem::setToolTip(const QString& text) {
@@ -183,7 +191,7 @@ void TrayStatusItem::makeIcon() {
 }
 
 QIcon TrayStatusItem::drawn() const {
-    return QIcon(new DrawnIcon(draw_, area_.foreground().value_or(unknownForeground)));
+    return QIcon(new DrawnIcon(look_, area_.foreground().value_or(unknownForeground)));
 }
 
 } // namespace ravelo

@@ -25,7 +25,8 @@ public:
     TrayStatusItem(QDBusConnection bus, TrayArea& area, Scheduler& scheduler);
     ~TrayStatusItem() override;
 
-    void show(Draw icon, QList<Row> menu) override;
+    void show(Icon icon, QList<Row> menu) override;
+    void replace(Icon icon, QList<Row> menu) override;
     void setToolTip(const QString& text) override;
 
 private:
@@ -39,7 +40,7 @@ private:
     TrayArea& area_;
     Scheduler& scheduler_;
     QDBusServiceWatcher watcher_;
-    Draw draw_;
+    Icon look_;
     QString toolTip_;
     std::unique_ptr<QMenu> menu_; ///< Outlives the icon.
     std::unique_ptr<QSystemTrayIcon> icon_;

@@ -12,6 +12,7 @@
 #include "platform/x11/screens/X11Screens.h"
 #include "platform/x11/selection/X11DragMonitor.h"
 #include "platform/x11/selection/X11Pasteboard.h"
+#include "platform/x11/selection/X11SelectedText.h"
 #include "platform/x11/settings/ManagerSelection.h"
 #include "platform/x11/settings/ScreenSaverStatus.h"
 #include "platform/x11/window/ForeignCover.h"
@@ -28,6 +29,8 @@ public:
     [[nodiscard]] Pasteboard& pasteboard() override { return pasteboard_; }
 
     [[nodiscard]] DragMonitor& drags() override { return drags_; }
+
+    [[nodiscard]] SelectedText* selectedText() override { return &selectedText_; }
 
     [[nodiscard]] Screens& screens() override { return screens_; }
 
@@ -61,6 +64,7 @@ private:
     X11InputGrab inputGrab_;
     std::unique_ptr<Listener> listener_;
     X11Pasteboard pasteboard_;
+    X11SelectedText selectedText_;
     X11DragMonitor drags_;
     X11Pointer pointer_;
     ForeignCover cover_;

@@ -1,6 +1,7 @@
 #include "ui/clips/ClipListModel.h"
 
 #include "store/Store.h"
+#include "ui/clips/SecretText.h"
 
 #include <algorithm>
 #include <utility>
@@ -19,6 +20,9 @@ constexpr Seconds justNow(60);
 QString title(const ClipItem& clip) {
     if (clip.kind == ClipKind::image) {
         return ClipListModel::tr("Image");
+    }
+    if (!clip.secret.isEmpty()) {
+        return secretRuns(clip).join(QString());
     }
     return clip.text.left(titleLength).replace(u'\n', u' ');
 }
@@ -57,13 +61,19 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
     case titleRole:
         return title(clip);
     case iconRole:
-        return isTooLarge(clip) ? u"exclamationmark.circle"_s : icon(clip.kind);
+        return isTooLarge(clip)         ? u"exclamationmark.circle"_s
+               : !clip.secret.isEmpty() ? u"shield"_s
+                                        : icon(clip.kind);
     case pinnedRole:
         return clip.pinned;
     case subtitleRole:
         return subtitle(clip);
     case imageFileNameRole:
         return clip.imageFileName;
+    case maskRole:
+        return clip.secret.isEmpty() ? QStringList() : secretRuns(clip);
+    case spokenRole:
+        return spoken(clip);
     default:
         return {};
     }
@@ -74,7 +84,9 @@ QHash<int, QByteArray> ClipListModel::roleNames() const {
             {iconRole, "icon"},
             {pinnedRole, "pinned"},
             {subtitleRole, "subtitle"},
-            {imageFileNameRole, "imageFileName"}};
+            {imageFileNameRole, "imageFileName"},
+            {maskRole, "mask"},
+            {spokenRole, "spoken"}};
 }
 
 void ClipListModel::setSearch(const QString& search) {
@@ -105,7 +117,7 @@ void ClipListModel::dismissTooLarge() {
 
 void ClipListModel::refreshDates() {
     if (count() > 0) {
-        Q_EMIT dataChanged(index(0), index(count() - 1), {subtitleRole});
+        Q_EMIT dataChanged(index(0), index(count() - 1), {subtitleRole, spokenRole});
     }
 }
 
@@ -114,12 +126,20 @@ Seconds ClipListModel::untilDatesChange() const {
     Seconds until = Seconds::max();
     for (const ClipItem& clip : rows()) {
         until = std::min(until, RelativeDate::untilChange(clip.date, now));
+        if (const auto left = store_.untilForgotten(clip)) {
+            const Date end{now.sinceReference + left->count()};
+            until = std::min(until, RelativeDate::untilChange(end, now));
+        }
     }
     return until;
 }
 
 QUuid ClipListModel::idAt(int row) const {
     return row >= 0 && row < count() ? rows()[row].id : QUuid();
+}
+
+bool ClipListModel::isSecret(int row) const {
+    return row >= 0 && row < count() && !rows()[row].secret.isEmpty();
 }
 
 void ClipListModel::update() {
@@ -142,14 +162,49 @@ QList<ClipItem> ClipListModel::found() {
     }
     QList<ClipItem> found;
     for (const ClipItem& clip : store_.clips()) {
-        if (textSearch_.finds(clip.id, clip.text)) {
+        if (isFound(clip)) {
             found.append(clip);
         }
     }
     return found;
 }
 
+/// A secret is found by what is shown of it.
+bool ClipListModel::isFound(const ClipItem& clip) {
+    return clip.secret.isEmpty()
+               ? textSearch_.finds(clip.id, clip.text)
+               : (title(clip) + u' ' + secretKind(clip)).contains(search_, Qt::CaseInsensitive);
+}
+
+QString ClipListModel::spoken(const ClipItem& clip) const {
+    if (clip.secret.isEmpty()) {
+        return title(clip);
+    }
+    constexpr double minute = 60;
+    const auto left = store_.untilForgotten(clip);
+    if (!left) {
+        return secretSpoken(clip);
+    }
+    const int minutes = static_cast<int>(left->count() / minute);
+    const QString end = minutes == 0   ? tr("forgotten in less than a minute")
+                        : minutes == 1 ? tr("forgotten in 1 minute")
+                                       : tr("forgotten in %1 minutes").arg(minutes);
+    return secretSpoken(clip) + u", "_s + end;
+}
+
+QString ClipListModel::secretSubtitle(const ClipItem& clip) const {
+    const auto left = store_.untilForgotten(clip);
+    const Date now = scheduler_.now();
+    const QString end =
+        left ? tr("forgotten %1").arg(relativeDate_.text({now.sinceReference + left->count()}, now))
+             : tr("in memory only");
+    return secretKind(clip) + u" \u00b7 "_s + end;
+}
+
 QString ClipListModel::subtitle(const ClipItem& clip) const {
+    if (!clip.secret.isEmpty()) {
+        return secretSubtitle(clip);
+    }
     const Date now = scheduler_.now();
     const QString ago = relativeDate_.text(clip.date, now);
     if (tooLarge_ && isTooLarge(clip)) {

@@ -33,6 +33,8 @@ public:
         pinnedRole,
         subtitleRole,
         imageFileNameRole,
+        maskRole,   ///< What is shown instead of a secret's text, in runs; empty for other clips.
+        spokenRole, ///< Name for screen readers.
     };
 
     ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale);
@@ -58,6 +60,8 @@ public:
     /// Invalid if there is no such row.
     [[nodiscard]] QUuid idAt(int row) const;
 
+    [[nodiscard]] Q_INVOKABLE bool isSecret(int row) const;
+
 Q_SIGNALS:
     void searchChanged();
     void tooLargeRowChanged();
@@ -65,6 +69,9 @@ Q_SIGNALS:
 private:
     void update();
     [[nodiscard]] QList<ClipItem> found();
+    [[nodiscard]] bool isFound(const ClipItem& clip);
+    [[nodiscard]] QString spoken(const ClipItem& clip) const;
+    [[nodiscard]] QString secretSubtitle(const ClipItem& clip) const;
     [[nodiscard]] QString subtitle(const ClipItem& clip) const;
     [[nodiscard]] bool isTooLarge(const ClipItem& row) const;
 

@@ -16,13 +16,38 @@ Card {
     readonly property bool tooLarge: index === clips.list.tooLargeRow
     readonly property int place: clips.list.tooLargeRow >= 0 && index > clips.list.tooLargeRow
         ? index - 1 : index
+    required property var mask
+    readonly property bool secret: mask.length > 0
+    /// A secret is shown while a button or key is held.
+    property bool held: false
+    required spoken
     required icon
     required title
     required subtitle
 
     signal deleted
 
+    /// Not bound: the text must not outlive the moment.
+    function reveal() {
+        if (secret && !held) {
+            held = true;
+            runs = [clips.revealed(index)];
+            hiding.restart();
+        }
+    }
+
+    function hide() {
+        held = false;
+        runs = Qt.binding(() => mask);
+        hiding.stop();
+    }
+
     objectName: "card" + index
+    runs: mask
+    spokenMore: secret ? "" : subtitle
+    showsButtons: held
+    onSecretChanged: hide()
+    onShownChanged: hide()
     highlighted: pinned
     digit: place < 9 && !tooLarge ? place + 1 : ""
     titleColor: tooLarge ? Theme.text2 : Theme.text1
@@ -30,9 +55,50 @@ Card {
     thumbnail: shown && imageFileName !== ""
         ? "image://thumb/" + Theme.radiusTile * Screen.devicePixelRatio + "/" + imageFileName : ""
 
+    Timer {
+        id: hiding
+        interval: 10000
+        onTriggered: row.hide()
+    }
+
+    Connections {
+        target: row.Window.window
+        function onActiveChanged() {
+            if (!row.Window.active) {
+                row.hide();
+            }
+        }
+    }
+
+    MiniButton {
+        id: eye
+        objectName: "reveal"
+        visible: row.secret
+        name: qsTr("Reveal while held")
+        symbol: "eye"
+        rest: row.held ? Theme.pressedMini : Theme.surface3
+        onPressedChanged: pressed ? row.reveal() : row.hide()
+        onClicked: {
+            if (activeFocus && !hovered) {
+                row.reveal();
+            }
+        }
+        Keys.onReleased: event => {
+            if (!event.isAutoRepeat) {
+                row.hide();
+            }
+        }
+
+        Tooltip {
+            target: eye
+            hovered: eye.hovered && !eye.pressed
+            text: qsTr("Hold to reveal")
+        }
+    }
+
     MiniButton {
         objectName: "pin"
-        visible: !row.tooLarge
+        visible: !row.tooLarge && !row.secret
         name: row.pinned ? qsTr("Unpin") : qsTr("Pin")
         symbol: row.pinned ? "pin.slash" : "pin"
         onClicked: row.clips.togglePin(row.index)

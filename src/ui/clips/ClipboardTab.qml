@@ -54,6 +54,7 @@ TabPage {
         const page = Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1);
         const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
         const searching = field.edited.activeFocus;
+        const emptySearch = searching && field.edited.text === "";
         if (event.key === Qt.Key_Up) {
             select(list.currentIndex - 1);
         } else if (event.key === Qt.Key_Down) {
@@ -68,9 +69,15 @@ TabPage {
             copyAndClose(list.currentIndex);
         } else if (control && event.key >= Qt.Key_1 && event.key <= Qt.Key_9) {
             copyAndClose(rowOf(event.key - Qt.Key_1));
+        } else if (event.key === Qt.Key_Space && clips.list.isSecret(list.currentIndex)
+                   && (emptySearch || event.modifiers === Qt.ShiftModifier)) {
+            current()?.reveal();
+        } else if (event.key === Qt.Key_Menu || event.key === Qt.Key_F10
+                   && event.modifiers === Qt.ShiftModifier) {
+            openMenu(list.currentIndex, Qt.point(46, Theme.rowHeight), true);
         } else if (control && event.key === Qt.Key_P) {
             clips.togglePin(list.currentIndex);
-        } else if (event.key === Qt.Key_Delete && searching && field.edited.text === ""
+        } else if (event.key === Qt.Key_Delete && emptySearch
                    && !event.isAutoRepeat) {
             clips.remove(list.currentIndex);
         } else {
@@ -79,7 +86,20 @@ TabPage {
         event.accepted = true;
     }
 
+    function current(): ClipRow {
+        return list.currentItem as ClipRow;
+    }
+
+    /// Of a secret; `place` is in its row.
+    function openMenu(row: int, place: point, byKey: bool) {
+        if (clips.list.isSecret(row)) {
+            menu.row = row;
+            menu.openAt(list.itemAtIndex(row).mapToItem(menu.parent, place.x, place.y), false, byKey);
+        }
+    }
+
     function select(row: int) {
+        current()?.hide();
         list.currentIndex = Math.max(0, Math.min(row, list.count - 1));
         const before = list.contentY;
         showCurrent();
@@ -133,6 +153,26 @@ TabPage {
     }
 
     Keys.onPressed: event => handle(event)
+    Keys.onReleased: event => {
+        if (event.key === Qt.Key_Space && !event.isAutoRepeat) {
+            current()?.hide();
+        }
+    }
+
+    Menu {
+        id: menu
+
+        property int row: -1
+
+        objectName: "secretMenu"
+        name: qsTr("Secret")
+        checkable: false
+        minWidth: 248
+        entries: [
+            { text: qsTr("Keep as any text"), chosen: () => tab.clips.keepSecret(menu.row) },
+            { text: qsTr("Forget now"), chosen: () => tab.clips.forgetSecret(menu.row) }
+        ]
+    }
 
     SearchField {
         id: field
@@ -238,6 +278,7 @@ TabPage {
                 selected: index === list.currentIndex
                 onTapped: tab.copy(index)
                 onDeleted: tab.clips.remove(index)
+                onMenuRequested: place => tab.openMenu(index, place, false)
             }
 
             add: Transition {

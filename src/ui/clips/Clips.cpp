@@ -75,6 +75,22 @@ void Clips::togglePin(int row) {
     services_.store.togglePin(list_.idAt(row));
 }
 
+QString Clips::revealed(int row) const {
+    constexpr qsizetype longest = 1000; // Wider than any panel.
+    const ClipItem* clip = clipAt(row);
+    return clip && !clip->secret.isEmpty() ? clip->text.left(longest).simplified() : QString();
+}
+
+void Clips::keepSecret(int row) {
+    services_.store.keepSecret(list_.idAt(row));
+}
+
+void Clips::forgetSecret(int row) {
+    if (list_.isSecret(row)) {
+        services_.store.deleteClip(list_.idAt(row));
+    }
+}
+
 void Clips::remove(int row) {
     if (row == list_.tooLargeRow()) {
         list_.dismissTooLarge();

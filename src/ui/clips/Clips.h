@@ -57,6 +57,12 @@ public:
     /// See LinkOpening; closes the panel if the link opens.
     Q_INVOKABLE void openLink(int row);
     Q_INVOKABLE void togglePin(int row);
+    /// The text of a secret, to be shown while a button is held; of no other clip.
+    [[nodiscard]] Q_INVOKABLE QString revealed(int row) const;
+    /// Makes a secret an ordinary clip.
+    Q_INVOKABLE void keepSecret(int row);
+    /// Without undo.
+    Q_INVOKABLE void forgetSecret(int row);
     Q_INVOKABLE void remove(int row);
     /// All unpinned clips.
     Q_INVOKABLE void clear();

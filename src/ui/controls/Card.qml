@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import Ravelo.Controls
 import Ravelo.Paint
@@ -12,19 +14,28 @@ Item {
     property url thumbnail
     property string title
     property string subtitle
+    /// The title in parts, if they have to be drawn separately.
+    property var runs: []
+    /// Name and description for assistive programs.
+    property string spoken: title
+    property string spokenMore: subtitle
+    /// Shows the buttons also without the pointer.
+    property bool showsButtons: false
     property string digit
     property bool selected: false
     property color titleColor: Theme.text1
     default property alias actions: buttons.data
 
     readonly property bool hovered: hover.hovered
-    readonly property real textEnd: width - 12 - (hovered ? buttons.width + 6 : 26)
+    readonly property bool lit: hovered || showsButtons
+    readonly property real textEnd: width - 12 - (lit ? buttons.width + 6 : 26)
 
     signal tapped
+    signal menuRequested(place: point)
 
     Accessible.role: Accessible.ListItem
-    Accessible.name: title
-    Accessible.description: subtitle
+    Accessible.name: spoken
+    Accessible.description: spokenMore
     Accessible.selectable: true
     Accessible.selected: selected
     Accessible.onPressAction: card.tapped()
@@ -49,7 +60,9 @@ Item {
     MouseArea {
         id: area
         anchors.fill: parent
-        onClicked: card.tapped()
+        acceptedButtons: Qt.LeftButton | Qt.RightButton
+        onClicked: mouse => mouse.button === Qt.RightButton
+            ? card.menuRequested(Qt.point(mouse.x, mouse.y)) : card.tapped()
     }
 
     Box {
@@ -88,8 +101,27 @@ Item {
         y: 4.5
         width: Math.min(implicitWidth, card.textEnd - x)
         style: Theme.rowTitle
+        visible: card.runs.length === 0
         text: card.title
         color: card.titleColor
+    }
+
+    Row {
+        x: 46
+        y: 4.5
+
+        Repeater {
+            model: card.runs
+
+            Label {
+                required property string modelData
+                required property int index
+                objectName: "run" + index
+                style: Theme.rowTitle
+                text: modelData
+                color: card.titleColor
+            }
+        }
     }
 
     Label {
@@ -117,8 +149,8 @@ Item {
 
     Row {
         id: buttons
-        visible: card.hovered || opacity > 0 // Also while fading in: it can be pressed at once.
-        opacity: card.hovered ? 1 : 0
+        visible: card.lit || opacity > 0 // Also while fading in: it can be pressed at once.
+        opacity: card.lit ? 1 : 0
         x: card.width - width - 6
         y: 8
         spacing: 4

@@ -9,12 +9,16 @@ import Ravelo.Theme
 Popover {
     id: menu
 
-    /// Objects with `text`, `chosen()` and optionally `checked`, or with `divider`.
+    /// Objects with `text`, `chosen()` and optionally `checked` and a `note` at the right end, or
+    /// with `divider`.
     property var entries: []
     /// Name for assistive programs.
     property string name
     property real minWidth: 0
     property int current: -1
+
+    /// Leaves room for check marks.
+    property bool checkable: true
 
     readonly property real room: largestHeight - 2 * pad
 
@@ -87,7 +91,7 @@ Popover {
             Accessible.checkable: modelData.checked !== undefined
             Accessible.checked: modelData.checked ?? false
             Accessible.onPressAction: menu.choose(index)
-            Component.onCompleted: list.maxItemWidth = Math.max(list.maxItemWidth, label.x + label.implicitWidth + 10)
+            Component.onCompleted: list.maxItemWidth = Math.max(list.maxItemWidth, label.x + label.implicitWidth + (note.text === "" ? 0 : note.implicitWidth + 28) + 10)
 
             Box {
                 visible: item.divides
@@ -108,12 +112,21 @@ Popover {
 
             Label {
                 id: label
-                x: 30
+                x: menu.checkable ? 30 : 8
                 y: 6
                 width: Math.min(implicitWidth, item.width - x - 10)
                 text: item.modelData.text ?? ""
                 style: Theme.body
                 color: Theme.text1
+            }
+
+            Label {
+                id: note
+                x: item.width - width - 10
+                y: 6
+                text: item.modelData.note ?? ""
+                style: Theme.small
+                color: Theme.text4
             }
 
             FocusRing {

@@ -12,6 +12,8 @@ NotchFill {
     property real notch: 0
     /// The timer has just ended: the whole bar is highlighted.
     property bool ended: false
+    /// Capture is paused.
+    property bool paused: false
 
     readonly property bool timing: focusing.timerRunning || ended
     readonly property bool reminding: focusing.reminderVisible
@@ -26,6 +28,7 @@ NotchFill {
     /// Usable width on either side, up to the notch or the other side.
     readonly property real side: notch > 0 ? (width - notch) / 2 - pad - 14 : (width - gap) / 2 - pad
     readonly property real iconRoom: 15 + gap
+    readonly property real signRoom: paused ? 16 + gap : 0
 
     flare: 8
     bottomRadius: notch > 0 ? 14 : 12
@@ -36,6 +39,19 @@ NotchFill {
         symbol: "checklist"
         size: 15
         color: bar.paleInk // qmllint disable unqualified
+    }
+
+    component PauseSign: Item {
+        visible: bar.paused // qmllint disable unqualified
+        anchors.verticalCenter: parent.verticalCenter
+        width: 16
+        height: 14
+
+        Glyph {
+            size: 14
+            symbol: "pause"
+            color: bar.ended ? Theme.onWhite : Theme.text4 // qmllint disable unqualified
+        }
     }
 
     component Time: Label {
@@ -71,6 +87,11 @@ NotchFill {
             }
         }
 
+        PauseSign {
+            objectName: "pauseBeforeReminders"
+            visible: bar.paused && bar.reminding
+        }
+
         Time {
             objectName: "time"
             visible: bar.timing && bar.reminding
@@ -101,7 +122,7 @@ NotchFill {
             texts: bar.notch > 0 ? bar.reminders.slice(0, Math.ceil(bar.reminders.length / 2))
                                  : bar.reminders
             countsRest: bar.notch === 0
-            room: (bar.notch > 0 ? bar.side : bar.width - 2 * bar.pad) - bar.iconRoom
+            room: (bar.notch > 0 ? bar.side : bar.width - 2 * bar.pad) - bar.iconRoom - bar.signRoom
         }
     }
 
@@ -112,6 +133,11 @@ NotchFill {
         anchors.right: parent.right
         anchors.rightMargin: bar.pad
         spacing: bar.gap
+
+        PauseSign {
+            objectName: "pauseSign"
+            visible: bar.paused && bar.timing && !bar.reminding
+        }
 
         Time {
             objectName: "time"

@@ -15,6 +15,7 @@ FocusScope {
     required property NotchController controller
     required property PanelState panelState
     required property Tabs tabs
+    required property Pausing pausing
     required property Focus focusing
     required property Usage usage
     required property Snippets snippets
@@ -123,11 +124,14 @@ FocusScope {
         z: 1
         width: parent.width - 2 * Theme.insetSide
         controller: content.controller
+        pausing: content.pausing
         focusing: content.focusing
         actions: content.actions
+        crowded: copyLast.visible
         lifted: content.lifted
 
         CopyLastButton {
+            id: copyLast
             objectName: "copyLastShelf"
             shelfFiles: content.shelfFiles
         }

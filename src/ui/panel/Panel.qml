@@ -14,6 +14,7 @@ Item {
     required property NotchController controller
     required property PanelState panelState
     required property Tabs tabs
+    required property Pausing pausing
     required property Focus focusing
     required property Usage usage
     required property Snippets snippets
@@ -57,6 +58,7 @@ Item {
         height: panel.controller.collapsedSize.height
         visible: !slot.open && !panel.controller.showsBar
         backdrop: panel.panelState.backdrop
+        paused: panel.pausing.paused
     }
 
     TimerBarView {
@@ -67,6 +69,7 @@ Item {
         height: panel.controller.collapsedSize.height
         visible: !slot.open && panel.controller.showsBar
         focusing: panel.focusing
+        paused: panel.pausing.paused
         notch: panel.controller.notch
         ended: panel.controller.timerEnded
     }
@@ -101,6 +104,7 @@ Item {
             controller: panel.controller
             panelState: panel.panelState
             tabs: panel.tabs
+            pausing: panel.pausing
             focusing: panel.focusing
             usage: panel.usage
             snippets: panel.snippets

@@ -9,7 +9,10 @@ Item {
     id: bar
 
     required property NotchController controller
+    required property Pausing pausing
     required property Focus focusing
+    /// Another feature has a button here.
+    property bool crowded: false
     required property PanelActions actions
     /// Buttons of other features, before our own.
     default property alias buttons: others.data
@@ -75,6 +78,13 @@ Item {
 
         Row {
             id: others
+        }
+
+        PauseButton {
+            objectName: "pause"
+            pausing: bar.pausing
+            narrow: bar.width < 640 - 2 * Theme.insetSide
+            visible: !narrow || !bar.crowded || bar.pausing.paused
         }
 
         RoundButton {

@@ -47,6 +47,7 @@ QtObject {
     readonly property color round: white(0.08)
     readonly property color hoveredRound: white(0.14)
     readonly property color pressedRound: white(0.19)
+    readonly property color pressedPause: white(0.24)
     readonly property color roundGlyph: white(0.90)
     readonly property color removeGlyph: white(0.40)
     readonly property color roundGlyphOff: white(0.35)
@@ -78,6 +79,7 @@ QtObject {
     readonly property color bannerLine: withAlpha(green, 0.22)
     readonly property color bannerText: "#D7F7E5"
 
+    readonly property color mistake: "#FF9B93"
     readonly property color redNotice: withAlpha(redFill, 0.14)
     readonly property color redNoticeLine: withAlpha(red, 0.24)
 
@@ -120,6 +122,8 @@ QtObject {
     readonly property color handle: Qt.rgba(0, 0, 0, 0.44)
     readonly property color bar: "#000000"
     readonly property color grip: white(0.36)
+    readonly property color pausedGrip: white(0.22)
+    readonly property color pausedStroke: white(0.72)
     readonly property color ring: white(0.92)
     readonly property color ringTrack: white(0.20)
     readonly property color scrollMark: white(0.26)
@@ -194,6 +198,7 @@ QtObject {
     readonly property int sheetMoving: fade(500)
     readonly property int toastLeaving: fade(200)
     readonly property int floatingIn: fade(120)
+    readonly property int pausing: fade(200)
     readonly property int floatingOut: fade(80)
     readonly property int revealing: move(160)
     readonly property int filling: move(400)

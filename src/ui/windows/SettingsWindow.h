@@ -21,6 +21,9 @@ class SettingsWindow : public QObject {
     Q_PROPERTY(ravelo::AppSettings* settings READ settings CONSTANT)
     Q_PROPERTY(QString display READ display CONSTANT)
     Q_PROPERTY(ravelo::ExtensionOffer* extension READ extension CONSTANT)
+    /// Whether the desktop says which program copies, and what is selected.
+    Q_PROPERTY(bool knowsPrograms READ knowsPrograms CONSTANT)
+    Q_PROPERTY(bool knowsSelection READ knowsSelection CONSTANT)
     Q_PROPERTY(int clipCount READ clipCount NOTIFY clipsChanged)
 
 public:
@@ -32,6 +35,8 @@ public:
         std::function<void()> quit;            ///< Quits the program, asynchronously.
         QString display;                       ///< Which display server is in use, and why.
         DesktopExtension* extension = nullptr; ///< Null if the desktop needs none.
+        bool knowsPrograms = true;
+        bool knowsSelection = true;
     };
 
     explicit SettingsWindow(Subjects subjects);
@@ -42,6 +47,10 @@ public:
     [[nodiscard]] const QString& display() const { return subjects_.display; }
 
     [[nodiscard]] ExtensionOffer* extension() { return &extension_; }
+
+    [[nodiscard]] bool knowsPrograms() const { return subjects_.knowsPrograms; }
+
+    [[nodiscard]] bool knowsSelection() const { return subjects_.knowsSelection; }
 
     [[nodiscard]] int clipCount() const;
 

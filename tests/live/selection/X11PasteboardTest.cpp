@@ -41,6 +41,19 @@ TEST_F(X11PasteboardTest, readsTextAsUtf8) {
     }
 }
 
+TEST_F(X11PasteboardTest, namesTheOwnersProgram) {
+    const auto owner = own(u"answer"_s, {offering(u"STRING"_s, "x")});
+    xcb_connection_t* xcb = session_.connection->get();
+    const auto name = [&](xcb_window_t window, const char* names, uint32_t size) {
+        xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING,
+                            8, size, names);
+        xcb_flush(xcb);
+    };
+    EXPECT_EQ(read(plainTextType).owner.names, QStringList());
+    name(session_.clipboardOwner(), "keepassxc\0KeePassXC", 20);
+    EXPECT_EQ(read(plainTextType).owner.names, QStringList({u"keepassxc"_s, u"KeePassXC"_s}));
+}
+
 TEST_F(X11PasteboardTest, readsALargeImageInPieces) {
     const auto owner = own(u"answer"_s, {u"image/png=fill:8388608"_s});
     EXPECT_TRUE(read(u"image/png"_s).answers.value(u"image/png"_s) == filling(8388608))

@@ -4,6 +4,7 @@
 #include "ui/windows/SettingsWindow.h"
 
 #include <QAccessible>
+#include <QJsonArray>
 
 namespace ravelo {
 
@@ -121,6 +122,10 @@ TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
         {Qt::Key_2, u"newestFirst"_s, Qt::Key_Space, true},
         {Qt::Key_2, u"newestFirst"_s, Qt::Key_Space, false},
         {Qt::Key_2, u"keepTextsExactly"_s, Qt::Key_Return, true},
+        {Qt::Key_2, u"keyLikeWords"_s, Qt::Key_Space, true},
+        {Qt::Key_2, u"keepSelectedText"_s, Qt::Key_Space, true},
+        {Qt::Key_2, u"forgetSecrets"_s, Qt::Key_Up, 1},
+        {Qt::Key_2, u"forgetSecrets"_s, Qt::Key_Up, 0},
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 200},
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 1000},
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 1000},
@@ -140,6 +145,45 @@ TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
     EXPECT_TRUE(eventually([this] { return in(window, u"item0"_s)->isVisible(); }));
     clickOn(window, u"item0"_s);
     EXPECT_EQ(kept(u"historyLength"_s), 60);
+}
+
+TEST_F(Settings, IgnoresProgramsAndPatterns) {
+    const auto type = [this](const QString& field, const QString& typed) {
+        in(window, field)->forceActiveFocus();
+        for (const QChar letter : typed) {
+            ravelo::press(*window, Qt::Key_unknown, Qt::NoModifier, letter);
+        }
+    };
+    const auto says = [this](const QString& line) {
+        return in(window, line)->property("text").toString();
+    };
+    press(*window, Qt::Key_2, Qt::ControlModifier);
+    for (const QString& name : {u"KeePassXC"_s, u"Secrets"_s, u"keepassxc"_s}) {
+        type(u"addProgram"_s, name);
+        press(*window, Qt::Key_Return);
+    }
+    EXPECT_EQ(kept(u"ignoredPrograms"_s), (QJsonArray{u"KeePassXC"_s, u"Secrets"_s}));
+    in(window, u"program0"_s)->forceActiveFocus();
+    press(*window, Qt::Key_Delete);
+    EXPECT_EQ(kept(u"ignoredPrograms"_s), QJsonArray{u"Secrets"_s});
+
+    type(u"pattern0"_s, u"^IBAN"_s);
+    press(*window, Qt::Key_Return);
+    type(u"pattern1"_s, u"(a"_s);
+    press(*window, Qt::Key_Return);
+    EXPECT_EQ(says(u"mistake1"_s), u"A bracket is not closed, at character 1"_s);
+    EXPECT_EQ(kept(u"ignoredPatterns"_s), QJsonArray{u"^IBAN"_s}) << "a mistake is not saved";
+    type(u"pattern1"_s, u")"_s);
+    press(*window, Qt::Key_Return);
+    EXPECT_EQ(kept(u"ignoredPatterns"_s), (QJsonArray{u"^IBAN"_s, u"(a)"_s}));
+    EXPECT_EQ(says(u"trial"_s), QString());
+    type(u"triedText"_s, u"b"_s);
+    EXPECT_EQ(says(u"trial"_s), u"Would be kept"_s);
+    type(u"triedText"_s, u"a"_s);
+    EXPECT_EQ(says(u"trial"_s), u"Would be ignored, by the second pattern"_s);
+    clickOn(window, u"removePattern0"_s);
+    EXPECT_EQ(kept(u"ignoredPatterns"_s), QJsonArray{u"(a)"_s});
+    EXPECT_EQ(in(window, u"pattern0"_s)->property("text"), u"(a)"_s);
 }
 
 TEST_F(Settings, TheMouseSetsTheSame) {

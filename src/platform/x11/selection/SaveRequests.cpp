@@ -81,7 +81,8 @@ PasteboardOwner SaveRequests::owner() const {
     const bool isManager = manager_ != XCB_NONE && manager_ != window_ &&
                            own_.clientOf(manager_) == own_.clientOf(clipboardOwner_);
     return {own_.clientOf(clipboardOwner_),
-            isManager ? PasteboardOwner::Kind::manager : PasteboardOwner::Kind::program};
+            isManager ? PasteboardOwner::Kind::manager : PasteboardOwner::Kind::program,
+            {}};
 }
 
 void SaveRequests::handle(const xcb_generic_event_t& event) {

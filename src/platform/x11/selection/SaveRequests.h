@@ -39,6 +39,9 @@ public:
     /// Who has the clipboard; on the listener's thread.
     [[nodiscard]] PasteboardOwner owner() const;
 
+    /// Its window; none if it is ours.
+    [[nodiscard]] xcb_window_t ownerWindow() const { return clipboardOwner_; }
+
     void handle(const xcb_generic_event_t& event) override;
     [[nodiscard]] std::optional<TimePoint> deadline() const override;
     void expire(TimePoint now) override;

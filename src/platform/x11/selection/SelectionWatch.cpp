@@ -5,16 +5,22 @@
 namespace ravelo::x11 {
 
 SelectionWatch::SelectionWatch(Connection& connection, const QByteArray& selection,
-                               Callback changed)
-    : noticeType_(connection.xfixesFirstEvent() + XCB_XFIXES_SELECTION_NOTIFY),
+                               Callback changed, Listens listens)
+    : connection_(connection),
+      noticeType_(connection.xfixesFirstEvent() + XCB_XFIXES_SELECTION_NOTIFY),
       selection_(connection.atom(selection)),
       changed_(std::move(changed)),
       reader_(connection, selection_) {
-    xcb_xfixes_select_selection_input(connection.get(), connection.root(), selection_,
-                                      XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
-                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
-                                          XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE);
-    xcb_flush(connection.get());
+    listen(listens);
+}
+
+void SelectionWatch::listen(Listens listens) {
+    constexpr uint32_t all = XCB_XFIXES_SELECTION_EVENT_MASK_SET_SELECTION_OWNER |
+                             XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_WINDOW_DESTROY |
+                             XCB_XFIXES_SELECTION_EVENT_MASK_SELECTION_CLIENT_CLOSE;
+    xcb_xfixes_select_selection_input(connection_.get(), connection_.root(), selection_,
+                                      listens == Listens::now ? all : 0);
+    xcb_flush(connection_.get());
 }
 
 void SelectionWatch::handle(const xcb_generic_event_t& event) {

@@ -114,7 +114,13 @@ class SelectionWatch final : public EventHandler {
 public:
     using Callback = std::function<void(const OwnerChange&)>;
 
-    SelectionWatch(Connection& connection, const QByteArray& selection, Callback changed);
+    enum class Listens { now, later };
+
+    SelectionWatch(Connection& connection, const QByteArray& selection, Callback changed,
+                   Listens listens = Listens::now);
+
+    /// Any thread.
+    void listen(Listens listens);
 
     [[nodiscard]] SelectionReader& reader() { return reader_; }
 
@@ -125,6 +131,7 @@ public:
     void expire(TimePoint now) override { reader_.expire(now); }
 
 private:
+    Connection& connection_;
     uint8_t noticeType_;
     xcb_atom_t selection_;
     Callback changed_;

@@ -1,5 +1,6 @@
 #include "platform/x11/selection/X11Pasteboard.h"
 
+#include "platform/x11/selection/OwnerNames.h"
 #include "platform/x11/selection/PasteboardConversation.h"
 
 #include <QClipboard>
@@ -55,14 +56,17 @@ Handle X11Pasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSna
         });
     };
     listener_.post([&listener = listener_, counter = counter_, watch = watch_,
-                    saveRequests = saveRequests_, count, key, plan = std::move(plan),
-                    finish = std::move(finish)] {
+                    saveRequests = saveRequests_, clients = ownClient_, count, key,
+                    plan = std::move(plan), finish = std::move(finish)] {
         // Otherwise the event of an earlier change could still arrive and end the reading.
         listener.catchUp();
         if (counter->value() == count) {
             PasteboardSnapshot known;
             known.changeCount = count;
             known.owner = saveRequests->owner();
+            if (const xcb_window_t owner = saveRequests->ownerWindow(); owner != XCB_NONE) {
+                known.owner.names = ownerNames(listener.connection(), clients, owner);
+            }
             known.lastEnd = counter->lastEnd();
             watch->reader().add(key, std::make_unique<PasteboardConversation>(
                                          listener.connection(), std::move(known), plan, finish));

@@ -25,6 +25,8 @@ public:
 
     [[nodiscard]] bool reportsChanges() const override { return true; }
 
+    [[nodiscard]] bool namesPrograms() const override { return true; }
+
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return changes_->add(std::move(callback));
     }

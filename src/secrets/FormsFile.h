@@ -1,0 +1,8 @@
+#pragma once
+
+namespace ravelo {
+
+/// The contents of forms.json.
+extern const char formsFile[];
+
+} // namespace ravelo

@@ -1,0 +1,43 @@
+#pragma once
+
+#include "base/Scheduler.h"
+#include "store/Records.h"
+
+#include <functional>
+#include <optional>
+
+namespace ravelo {
+
+/// Ends the life of secrets, which exist in memory only, a fixed time after they were copied. Main
+/// thread.
+class Forgetting {
+public:
+    /// `forget` gets the ids of clips whose time is over.
+    Forgetting(Scheduler& scheduler, std::function<void(const QList<QUuid>&)> forget)
+        : scheduler_(scheduler), forget_(std::move(forget)) {}
+
+    /// Applies from the next `follow`. Nothing: secrets stay as long as the program runs.
+    void setAfter(std::optional<Seconds> after) { after_ = after; }
+
+    /// Until that clip is forgotten; nothing if it is not.
+    [[nodiscard]] std::optional<Seconds> left(const ClipItem& clip) const;
+
+    /// To be called when the clips or the time have changed.
+    void follow(const QList<ClipItem>& clips);
+
+private:
+    struct Due {
+        QUuid id;
+        Date copied;
+    };
+
+    [[nodiscard]] Seconds left(Date copied) const;
+    void await(const QList<Due>& all);
+
+    Scheduler& scheduler_;
+    std::function<void(const QList<QUuid>&)> forget_;
+    std::optional<Seconds> after_;
+    Handle next_;
+};
+
+} // namespace ravelo
