@@ -77,9 +77,9 @@ struct DecoderProcess::Source {
     Descriptor file;       ///< The file, if that is something else.
     QByteArray identity;
 
-    explicit Source(const PictureFile& file) {
+    explicit Source(const PictureFile& picture) {
         Descriptor opened(
-            open(file.path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
+            open(picture.path.constData(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC));
         struct stat info = {};
         // A pipe or a device may block for ever.
         if (opened && fstat(opened.number(), &info) == 0 && S_ISREG(info.st_mode) &&

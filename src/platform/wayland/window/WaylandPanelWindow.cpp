@@ -131,7 +131,7 @@ void WaylandPanelWindow::configure(QSize size) {
 
 /// Whoever has the pointer or the keyboard is not locked out.
 bool WaylandPanelWindow::mayCoverLocker() const {
-    return surfaces_.coverLockers() && !underPointer_ && !wantsKeyboard();
+    return surfaces_.coverLockers() && !pointerOver_ && !wantsKeyboard();
 }
 
 /// The output may be gone, or return.
