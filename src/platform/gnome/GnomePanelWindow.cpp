@@ -66,7 +66,7 @@ void GnomePanelWindow::apply() {
     }
     window_.setVisible(shown);
     if (!shown) {
-        setUnderPointer(false);
+        setUnderPointer(false, false);
     }
 }
 
@@ -88,12 +88,20 @@ void GnomePanelWindow::returnFocus() {
 bool GnomePanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
     switch (event->type()) {
     case QEvent::Enter:
-    case QEvent::DragEnter:
-        setUnderPointer(true);
+        setUnderPointer(true, underDrag_);
         break;
     case QEvent::Leave:
+        setUnderPointer(false, underDrag_);
+        break;
+    case QEvent::DragEnter:
+        setUnderPointer(hovered_, true);
+        break;
+    case QEvent::Drop: // The pointer enters before or after the drag's end, which looks like its
+                       // leaving.
+        setUnderPointer(true, false);
+        break;
     case QEvent::DragLeave:
-        setUnderPointer(false);
+        setUnderPointer(hovered_, false);
         break;
     case QEvent::MouseButtonPress: {
         const auto button = static_cast<QMouseEvent*>(event)->button();
@@ -108,8 +116,11 @@ bool GnomePanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
     return false;
 }
 
-void GnomePanelWindow::setUnderPointer(bool under) {
-    if (std::exchange(underPointer_, under) != under) {
+void GnomePanelWindow::setUnderPointer(bool hovered, bool underDrag) {
+    const bool before = isUnderPointer();
+    hovered_ = hovered;
+    underDrag_ = underDrag;
+    if (isUnderPointer() != before) {
         underPointerListeners_.notify();
     }
 }

@@ -46,7 +46,7 @@ public:
         return {};
     }
 
-    [[nodiscard]] bool isUnderPointer() const override { return underPointer_; }
+    [[nodiscard]] bool isUnderPointer() const override { return hovered_ || underDrag_; }
 
     [[nodiscard]] Handle onUnderPointerChange(std::function<void()> callback) override {
         return underPointerListeners_.add(std::move(callback));
@@ -65,7 +65,7 @@ public:
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void setUnderPointer(bool under);
+    void setUnderPointer(bool hovered, bool underDrag);
     void apply();
 
     QWindow& window_;
@@ -76,7 +76,8 @@ private:
     QSizeF size_;
     std::size_t screen_ = 0;
     bool front_ = false;
-    bool underPointer_ = false;
+    bool hovered_ = false;
+    bool underDrag_ = false;
     Listeners<> underPointerListeners_;
     Listeners<> pressListeners_;
     Handle ups_;
