@@ -80,7 +80,7 @@ class ProgramCase(ExtensionCase):
             json.dumps({"onboarded": True, "didSetupLogin": True, "seededSiteLinksV1": True}))
         self.ravelo = self.session.start(PROGRAM, log="ravelo.log", **self.x11_names())
         if self.extensions:
-            until(lambda: self.strips() > 0 or self.failed(), "the extension is connected", 20)
+            until(lambda: self.strips() > 0 or self.failed(), "the extension is connected", 60)
 
     def x11_names(self):
         names = ("DISPLAY", "XAUTHORITY")
@@ -198,8 +198,11 @@ class ProgramTest(ProgramCase):
     def test_ends_cleanly_and_leaves_the_shell_at_rest(self):
         self.ravelo.send_signal(signal.SIGKILL)
         until(lambda: self.strips() == 0, "the extension is quiet", 1)
+        self.session.shell.send_signal(signal.SIGSTOP)  # As busy as at a login.
         self.ravelo = self.session.start(PROGRAM, log="ravelo.log")
-        until(lambda: self.strips() == 1, "it is back with Ravelo", 20)
+        time.sleep(2)
+        self.session.shell.send_signal(signal.SIGCONT)
+        until(lambda: self.strips() == 1 or self.failed(), "it is back with Ravelo", 20)
         (self.session.folder / "a parked file").touch()
         self.command(str(self.session.folder / "a parked file"))
         self.session.shell.kill()  # Before that is saved.
