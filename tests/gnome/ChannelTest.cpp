@@ -7,6 +7,7 @@
 #include "platform/gnome/GnomeDisplayServer.h"
 
 #include <QClipboard>
+#include <QDropEvent>
 #include <QFileInfo>
 #include <QGuiApplication>
 #include <QJsonArray>
@@ -183,6 +184,26 @@ TEST(GnomePanel, IsShownOnlyWhileThereIsMoreThanTheHandleAndSomebodyToPlaceIt) {
     EXPECT_TRUE(eventually([&] { return world.shell.heard(u"place"_s).value(1)[u"screen"] == 1; }));
     panel->orderOut();
     EXPECT_FALSE(window.isVisible());
+}
+
+TEST(GnomePanel, KnowsThatThePointerIsStillThereAfterADrop) {
+    World world;
+    QWindow window;
+    const auto panel = world.server->panelWindow(window);
+    const auto happens = [&](QEvent::Type type) {
+        QMimeData none;
+        QDropEvent drop({}, Qt::CopyAction, &none, Qt::NoButton, Qt::NoModifier, type);
+        QEvent other(type);
+        QCoreApplication::sendEvent(&window, type == QEvent::Drop ? &drop : &other);
+        return panel->isUnderPointer();
+    };
+    EXPECT_TRUE(happens(QEvent::DragEnter));
+    EXPECT_FALSE(happens(QEvent::DragLeave));
+    EXPECT_TRUE(happens(QEvent::DragEnter));
+    EXPECT_TRUE(happens(QEvent::Drop));
+    EXPECT_TRUE(happens(QEvent::DragLeave)) << "the end of the drag is not the pointer's";
+    EXPECT_FALSE(happens(QEvent::Leave));
+    EXPECT_TRUE(happens(QEvent::Enter));
 }
 
 // Contents.

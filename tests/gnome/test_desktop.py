@@ -155,6 +155,7 @@ class DesktopTest(ProgramCase):
         self.session.run(f"await glide({MIDDLE}, 0, {MIDDLE}, 150); await sleep(300); button(false);")
         until(lambda: str(self.session.home / FOLDER / FILE) in self.command("shelf", "list"), "the file is parked")
         self.keep("dropped")
+        self.assertTrue(self.panel(), "it closes under the pointer that has dropped something")
 
 
 class TwoMonitorsTest(DesktopTest):

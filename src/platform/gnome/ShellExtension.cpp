@@ -19,7 +19,7 @@ namespace {
 
 using State = DesktopExtension::State;
 
-constexpr int startTimeout = 1000; ///< Milliseconds.
+constexpr int startTimeout = 10000; ///< Milliseconds: at login the shell is busy.
 constexpr int timeout = 5000;
 
 /// Of the shell's ExtensionState.

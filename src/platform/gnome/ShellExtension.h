@@ -19,7 +19,7 @@ inline constexpr QLatin1StringView extensionId("companion@ravelo.org");
 [[nodiscard]] bool isGnomeOnWayland();
 
 /// Whether GNOME Shell runs our extension, in a compatible version. Waits for the shell's answer
-/// for max. one second; outside GNOME it returns at once. Also before the application object.
+/// for max. ten seconds; outside GNOME it returns at once. Also before the application object.
 [[nodiscard]] bool isExtensionRunning();
 
 /// What the shell's answer about our extension means; it is empty if the shell does not know it.

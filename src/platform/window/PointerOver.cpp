@@ -3,8 +3,6 @@
 #include <QEvent>
 #include <QWindow>
 
-#include <utility>
-
 namespace ravelo {
 
 PointerOver::PointerOver(QWindow& window) {
@@ -14,12 +12,19 @@ PointerOver::PointerOver(QWindow& window) {
 bool PointerOver::eventFilter(QObject* /*watched*/, QEvent* event) {
     switch (event->type()) {
     case QEvent::Enter:
-    case QEvent::DragEnter:
-        set(true);
+        set(true, dragged_);
         break;
     case QEvent::Leave:
+        set(false, dragged_);
+        break;
+    case QEvent::DragEnter:
+        set(hovered_, true);
+        break;
     case QEvent::DragLeave:
-        set(false);
+        set(hovered_, false);
+        break;
+    case QEvent::Drop: // The pointer itself may enter before the drag ends, or later.
+        set(true, false);
         break;
     default:
         break;
@@ -27,8 +32,11 @@ bool PointerOver::eventFilter(QObject* /*watched*/, QEvent* event) {
     return false;
 }
 
-void PointerOver::set(bool over) {
-    if (std::exchange(over_, over) != over) {
+void PointerOver::set(bool hovered, bool dragged) {
+    const bool before(*this);
+    hovered_ = hovered;
+    dragged_ = dragged;
+    if (bool(*this) != before) {
         listeners_.notify();
     }
 }

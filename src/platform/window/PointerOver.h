@@ -16,20 +16,21 @@ public:
     /// `window` must outlive it.
     explicit PointerOver(QWindow& window);
 
-    [[nodiscard]] explicit operator bool() const { return over_; }
+    [[nodiscard]] explicit operator bool() const { return hovered_ || dragged_; }
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) {
         return listeners_.add(std::move(callback));
     }
 
     /// For a window that is hidden: nobody reports that the pointer has left it.
-    void leave() { set(false); }
+    void leave() { set(false, false); }
 
 private:
     bool eventFilter(QObject* watched, QEvent* event) override;
-    void set(bool over);
+    void set(bool hovered, bool dragged);
 
-    bool over_ = false;
+    bool hovered_ = false;
+    bool dragged_ = false;
     Listeners<> listeners_;
 };
 
