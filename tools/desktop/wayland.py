@@ -18,7 +18,7 @@ SWAY_CONFIGURATION = f"""
 output HEADLESS-1 resolution {WIDTH}x{HEIGHT} position 0 0
 default_border none
 xwayland {{xwayland}}
-exec echo "$WAYLAND_DISPLAY $SWAYSOCK $DISPLAY" >&{{report}}
+exec {{prepare}} echo "$WAYLAND_DISPLAY $SWAYSOCK $DISPLAY" >&{{report}}
 """
 LABWC_CONFIGURATION = """<labwc_config>
   <desktops number="2"/>
@@ -184,7 +184,8 @@ class SwayDesktop(WaylandDesktop):
         reading, writing = os.pipe()
         configuration = self._folder / "config"
         configuration.write_text(SWAY_CONFIGURATION.format(
-            report=writing, xwayland="force" if self.xwayland else "disable"))
+            report=writing, xwayland="force" if self.xwayland else "disable",
+            prepare="xhost +local: >/dev/null;" if self.xwayland else ""))  # For other users.
         self._spawn_wlroots("sway", "-c", configuration, pass_fds=(writing,))
         os.close(writing)
         with os.fdopen(reading) as answer:
