@@ -276,8 +276,13 @@ class KWinDesktop(WaylandDesktop):
         wait_for(lambda: "CaptureWorkspace" in self.run(
             "gdbus", "introspect", "--session", "--dest", "org.kde.KWin", "--object-path",
             "/org/kde/KWin/ScreenShot2"), "KWin")
+        self._call("/VirtualDesktopManager", "org.kde.KWin.VirtualDesktopManager.createDesktop", 1, "two")
         self._doctor("disable")
         self._wait_for_outputs(1)
+
+    def _call(self, path, method, *arguments):
+        return self.run("gdbus", "call", "--session", "--dest", "org.kde.KWin", "--object-path", path,
+                        "--method", method, *arguments)
 
     def _start_bus(self):
         pass
@@ -294,8 +299,7 @@ class KWinDesktop(WaylandDesktop):
         self._wait_for_outputs(1)
 
     def show_workspace(self, number):
-        self.run("gdbus", "call", "--session", "--dest", "org.kde.KWin", "--object-path", "/KWin",
-                 "--method", "org.kde.KWin.setCurrentDesktop", number + 1)
+        self._call("/KWin", "org.kde.KWin.setCurrentDesktop", number + 1)
 
     def picture(self):
         """Not always at once: the effect that takes pictures is loaded anew when outputs change."""

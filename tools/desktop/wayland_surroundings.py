@@ -101,7 +101,7 @@ class WaylandSurroundings(contextlib.ExitStack):
 
     def keep(self, name):
         """Saves a picture; its name starts with the desktop's."""
-        self.desktop.still_picture().save(self.pictures / f"{self.name}-{name}.png")
+        self.desktop.picture().save(self.pictures / f"{self.name}-{name}.png")
 
     def open(self, monitor=LEFT):
         """Opens it with the pointer, and returns the left edge of the panel."""
