@@ -11,6 +11,7 @@ import os
 import queue
 import subprocess
 import threading
+import time
 
 from desktop import HERE, wait_for
 from wayland import BACKGROUND, HEIGHT, WIDTH
@@ -27,7 +28,9 @@ class Client:
         self.process = None
 
     def focus(self):
+        """Returns once it has surely got the keyboard: only then may it copy or paste."""
         self.desktop.click(WIDTH // 2, HEIGHT - 60)
+        time.sleep(1)
 
     def close(self):
         self.process.kill()

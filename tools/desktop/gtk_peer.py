@@ -67,7 +67,7 @@ def show_field(window):
 
 
 def show_window(color=None):
-    window = make_window(80, 640, 400, 200)
+    window = make_window(80, 640, 400, 700 if color else 200)  # Wayland: visible below the panel.
     if color:
         paint(window, color)
     show_field(window)

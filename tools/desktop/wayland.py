@@ -18,7 +18,7 @@ SWAY_CONFIGURATION = f"""
 output HEADLESS-1 resolution {WIDTH}x{HEIGHT} position 0 0
 default_border none
 xwayland {{xwayland}}
-exec echo "$WAYLAND_DISPLAY $SWAYSOCK $DISPLAY" >&{{report}}
+exec {{prepare}} echo "$WAYLAND_DISPLAY $SWAYSOCK $DISPLAY" >&{{report}}
 """
 LABWC_CONFIGURATION = """<labwc_config>
   <desktops number="2"/>
@@ -184,7 +184,8 @@ class SwayDesktop(WaylandDesktop):
         reading, writing = os.pipe()
         configuration = self._folder / "config"
         configuration.write_text(SWAY_CONFIGURATION.format(
-            report=writing, xwayland="force" if self.xwayland else "disable"))
+            report=writing, xwayland="force" if self.xwayland else "disable",
+            prepare="xhost +local: >/dev/null;" if self.xwayland else ""))  # For other users.
         self._spawn_wlroots("sway", "-c", configuration, pass_fds=(writing,))
         os.close(writing)
         with os.fdopen(reading) as answer:
@@ -275,8 +276,13 @@ class KWinDesktop(WaylandDesktop):
         wait_for(lambda: "CaptureWorkspace" in self.run(
             "gdbus", "introspect", "--session", "--dest", "org.kde.KWin", "--object-path",
             "/org/kde/KWin/ScreenShot2"), "KWin")
+        self._call("/VirtualDesktopManager", "org.kde.KWin.VirtualDesktopManager.createDesktop", 1, "two")
         self._doctor("disable")
         self._wait_for_outputs(1)
+
+    def _call(self, path, method, *arguments):
+        return self.run("gdbus", "call", "--session", "--dest", "org.kde.KWin", "--object-path", path,
+                        "--method", method, *arguments)
 
     def _start_bus(self):
         pass
@@ -293,8 +299,7 @@ class KWinDesktop(WaylandDesktop):
         self._wait_for_outputs(1)
 
     def show_workspace(self, number):
-        self.run("gdbus", "call", "--session", "--dest", "org.kde.KWin", "--object-path", "/KWin",
-                 "--method", "org.kde.KWin.setCurrentDesktop", number + 1)
+        self._call("/KWin", "org.kde.KWin.setCurrentDesktop", number + 1)
 
     def picture(self):
         """Not always at once: the effect that takes pictures is loaded anew when outputs change."""

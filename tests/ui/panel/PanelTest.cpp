@@ -25,23 +25,52 @@ TEST_F(Panel, hasItsNextContentReadySoonAfterItCloses) {
         << "hidden content must not need a new layout at the opening";
 }
 
-/// A panel's window that counts its first pictures.
-struct PicturedWindow : FakePanelWindow {
-    PicturedWindow(DragMonitor& drags, bool canShow) : FakePanelWindow(drags), canShow(canShow) {}
+/// Counts its first pictures, and nothing else.
+class PicturedWindow final : public PanelWindow {
+public:
+    explicit PicturedWindow(bool canShow) : canShow_(canShow) {}
 
     bool setFirstPicture(const QImage& /*picture*/) override {
         ++pictures;
-        return canShow;
+        return canShow_;
     }
 
-    bool canShow;
+    void place(const Screen& /*screen*/, QSizeF /*size*/) override {}
+
+    void orderFront() override {}
+
+    void orderOut() override {}
+
+    void setOutline(const QPainterPath& /*outline*/) override {}
+
+    [[nodiscard]] ShowThrough showThrough() const override { return ShowThrough::sharp; }
+
+    [[nodiscard]] Handle onShowThroughChange(std::function<void()> /*callback*/) override {
+        return {};
+    }
+
+    [[nodiscard]] bool isUnderPointer() const override { return false; }
+
+    [[nodiscard]] Handle onUnderPointerChange(std::function<void()> /*callback*/) override {
+        return {};
+    }
+
+    [[nodiscard]] std::shared_ptr<DragOffer> dragOffer() override { return nullptr; }
+
+    void requestFocus(const QByteArray& /*token*/) override {}
+
+    void returnFocus() override {}
+
     int pictures = 0;
+
+private:
+    bool canShow_;
 };
 
 class PanelPictures : public Panel, public testing::WithParamInterface<bool> {};
 
 TEST_P(PanelPictures, areMadeWhileTheWindowIsVisibleAndCanShowThem) {
-    PicturedWindow window(world.drags, GetParam());
+    PicturedWindow window(GetParam());
     PanelPicture picture({view.window(), window, world.controller, view.features().state,
                           *view.features().clips->list(), world.scheduler});
     const auto pictures = [&](int expected) {
