@@ -397,11 +397,14 @@ void AppDelegate::followScreenLock() {
         return;
     }
     if (!locked) {
+        store_->lock({}); // It may still wait for a save.
         encryption_->getKey();
-    } else if (settings_->forgetKeyWhileLocked() &&
-               encryption_->state() == Encryption::Open) {
+    } else if (settings_->forgetKeyWhileLocked() && encryption_->state() == Encryption::Open) {
         store_->lock([this] {
             encryption_->forgetKey();
+            if (!encryption_->isLocked()) { // It is converting files.
+                store_->unlock();
+            }
             platform_.decoder->forgetOwn();
             view_->features().toast.reset(); // It may offer to undo a deletion.
         });

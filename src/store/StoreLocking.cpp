@@ -144,7 +144,9 @@ void Store::saveEndedWith(const SaveOutcome& outcome) {
 void Store::lock(std::function<void()> dropped) {
     if (!locked_ && !opening_) {
         dropped_ = std::move(dropped);
-        saver_.saveNow();
+        if (dropped_) {
+            saver_.saveNow();
+        }
     }
 }
 

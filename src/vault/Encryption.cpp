@@ -111,9 +111,12 @@ void Encryption::unwrap(const LockedBytes& wrapper) {
     Q_EMIT opened();
     // What an earlier run did not get to. Later the files are as they should be.
     work([mayWrite = services_.mayWrite](Vault& vault) { return finishConversion(vault, mayWrite); },
-         [this](const Result<void>& done) {
-             set(services_.vault->state() == Vault::State::plain ? Off : state_,
-                 done ? QString() : done.error().message);
+         [this, file](const Result<void>& done) {
+             const bool left = services_.vault->state() == Vault::State::plain;
+             if (left && file->guard == Guard::keyring) {
+                 removing_ = services_.keyring.remove(file->service(), [](const Result<void>&) {});
+             }
+             set(left ? Off : state_, done ? QString() : done.error().message);
          });
 }
 

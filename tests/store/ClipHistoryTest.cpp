@@ -232,7 +232,6 @@ TEST(ClipHistory, TrimsByAgeAndThenBySizeTheOldestFirst) {
         QStringList orphans;
     };
 
-    using Order = HistoryRules::Order;
     const ImageSizes sizes{{u"p.png"_s, 100}, {u"q.png"_s, 50}};
     const Case table[] = {
         {"a@9 b@1", {}, unchanged, {}},
