@@ -2,6 +2,7 @@
 
 #include "StoreFixture.h"
 #include "store/Archive.h"
+#include "support/TestFiles.h"
 #include "vault/Vault.h"
 
 #include <QBuffer>

@@ -74,7 +74,7 @@ bool fits(const Request& request, const DecoderConnection::Answer& answer) {
 struct DecoderProcess::Source {
     Origin origin = Origin::elsewhere;
     Descriptor descriptor; ///< What is decoded.
-    Descriptor file;       ///< The file, if that is something else.
+    Descriptor original;   ///< The file, if that is something else.
     QByteArray identity;
 
     explicit Source(const PictureFile& picture) {
@@ -116,7 +116,7 @@ DecoderProcess::Source DecoderProcess::readable(Source source,
                                                 const UntrustedPicture& picture) const {
     if (opener_ && source.origin == Origin::own && source.descriptor) {
         if (const auto opened = opener_(std::get<PictureFile>(picture).path)) {
-            source.file = std::exchange(source.descriptor, sealedMemory(*opened));
+            source.original = std::exchange(source.descriptor, sealedMemory(*opened));
         }
     }
     return source;
@@ -164,7 +164,7 @@ QImage DecoderProcess::pixels(const UntrustedPicture& picture, const Request& re
     const auto* const file = std::get_if<PictureFile>(&picture);
     if (file != nullptr && image.sizeInBytes() <= maxKept) {
         const std::lock_guard lock(mutex_);
-        if (isThere(source.file ? source.file : source.descriptor)) { // Otherwise `forget` may have been called before.
+        if (isThere(source.original ? source.original : source.descriptor)) { // Otherwise `forget` may have been called before.
             kept_.insert(key, new Kept{image, file->path}, image.sizeInBytes());
         }
     }
