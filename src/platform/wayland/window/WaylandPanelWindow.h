@@ -72,6 +72,7 @@ private:
     void configure(QSize size);
     [[nodiscard]] bool mayCoverLocker() const;
     void showAgainSoon();
+    void goForAMoment();
     void setKeyboard(Keyboard keyboard);
     void pressedOutside();
     void catchPresses();
@@ -88,6 +89,7 @@ private:
     QSize surfaceSize_; ///< Of the window around it.
     QPainterPath outline_;
     bool wanted_ = false; ///< To be shown.
+    bool isGoing_ = false; ///< To be shown again in a moment.
     Keyboard keyboard_ = Keyboard::none;
     bool underPointer_ = false;
     std::shared_ptr<DragOffer> dragOffer_;
