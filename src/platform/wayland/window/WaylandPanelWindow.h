@@ -88,7 +88,7 @@ private:
     QSize size_;        ///< Of the panel.
     QSize surfaceSize_; ///< Of the window around it.
     QPainterPath outline_;
-    bool wanted_ = false; ///< To be shown.
+    bool wanted_ = false;  ///< To be shown.
     bool isGoing_ = false; ///< To be shown again in a moment.
     Keyboard keyboard_ = Keyboard::none;
     bool underPointer_ = false;
