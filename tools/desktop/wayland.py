@@ -1,6 +1,7 @@
 """A private Wayland desktop: a compositor without devices, a session bus and a home directory."""
 
 import contextlib
+import json
 import os
 import pathlib
 import pwd
@@ -203,7 +204,7 @@ class SwayDesktop(WaylandDesktop):
 
     def remove_output(self):
         """Sway 1.7 cannot, nor can it disable one of its headless backend."""
-        if "true" not in self.sway("output", self._newest(), "unplug"):
+        if not json.loads(self.sway("output", self._newest(), "unplug"))[0]["success"]:
             raise NotImplementedError
         self._wait_for_outputs(1)
 

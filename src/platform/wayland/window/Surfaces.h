@@ -23,8 +23,8 @@ public:
 
     [[nodiscard]] DropTarget& drops() { return drops_; }
 
-    /// Lockers are surfaces in the overlay layer like ours, and above only those that came later: as
-    /// on sway before 1.8, which has no protocol for lockers (ext-session-lock).
+    /// Lockers are surfaces in the overlay layer like ours, and above only those that came later:
+    /// as on sway before 1.8, which has no protocol for lockers (ext-session-lock).
     [[nodiscard]] bool coverLockers() const { return coverLockers_; }
 
     /// See InvisibleSurface; null if the compositor cannot do it.

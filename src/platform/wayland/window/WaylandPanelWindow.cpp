@@ -98,7 +98,7 @@ void WaylandPanelWindow::orderOut() {
 
 void WaylandPanelWindow::show() {
     QScreen* const screen = WaylandScreens::find(screen_);
-    if (!wanted_ || role_ || screen == nullptr) {
+    if (!wanted_ || isGoing_ || role_ || screen == nullptr) {
         return; // Without a screen: the next one will be reported.
     }
     window_.setScreen(screen);
@@ -165,11 +165,23 @@ void WaylandPanelWindow::returnFocus() {
         return;
     }
     QTimer::singleShot(returnTime, this, [this] {
-        // KWin gives it to another window only if this one goes.
         if (QGuiApplication::focusWindow() == &window_ && keyboard_ == Keyboard::none && role_) {
-            hide();
-            show();
+            goForAMoment();
         }
+    });
+}
+
+/// KWin gives the keyboard to another window only if this one goes. Qt must learn that before the
+/// surface is destroyed, or it complains.
+void WaylandPanelWindow::goForAMoment() {
+    surfaces_.blur().forget();
+    role_.reset();
+    wl_display_flush(qt::display());
+    isGoing_ = true;
+    QTimer::singleShot(returnTime, this, [this] {
+        isGoing_ = false;
+        hide();
+        show();
     });
 }
 

@@ -72,6 +72,7 @@ private:
     void configure(QSize size);
     [[nodiscard]] bool mayCoverLocker() const;
     void showAgainSoon();
+    void goForAMoment();
     void setKeyboard(Keyboard keyboard);
     void pressedOutside();
     void catchPresses();
@@ -87,7 +88,8 @@ private:
     QSize size_;        ///< Of the panel.
     QSize surfaceSize_; ///< Of the window around it.
     QPainterPath outline_;
-    bool wanted_ = false; ///< To be shown.
+    bool wanted_ = false;  ///< To be shown.
+    bool isGoing_ = false; ///< To be shown again in a moment.
     Keyboard keyboard_ = Keyboard::none;
     std::shared_ptr<DragOffer> dragOffer_;
     std::unique_ptr<LayerRole> role_;                               ///< While it is shown.
