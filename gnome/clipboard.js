@@ -40,7 +40,9 @@ export class Clipboard {
             this._link.send({is: 'none', of: 'clip', serial: want.serial, type: want.type});
     }
 
-    offer(text) {
+    offer(text, unless) {
+        if (this._types().includes(unless))
+            return;
         const bytes = new GLib.Bytes(new TextEncoder().encode(text));
         this._offered = Meta.SelectionSourceMemory.new('text/plain;charset=utf-8', bytes);
         global.display.get_selection().set_owner(CLIPBOARD, this._offered);
@@ -52,8 +54,12 @@ export class Clipboard {
         this._report(false);
     }
 
+    _types() {
+        return this._source?.get_mimetypes() ?? global.display.get_selection().get_mimetypes(CLIPBOARD);
+    }
+
     _report(initial) {
-        const types = this._source?.get_mimetypes() ?? global.display.get_selection().get_mimetypes(CLIPBOARD);
+        const types = this._types();
         // The shell itself keeps what a program had that has exited.
         const offered = this._source !== null && this._source === this._offered;
         const kept = !offered && this._source instanceof Meta.SelectionSourceMemory;

@@ -46,7 +46,7 @@ export default class Companion extends Extension {
                 panel.focus(message.on);
                 break;
             case 'offer':
-                this._clipboard.offer(message.text);
+                this._clipboard.offer(message.text, message.unless);
                 break;
             }
         };

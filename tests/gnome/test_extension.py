@@ -182,7 +182,8 @@ class ExtensionTest(ExtensionCase):
         self.assertEqual(data["bytes"], "Grüße")
         peer.send(**ask, serial=clip["serial"] + 1)
         until(lambda: peer.messages("none"), "contents that are not there are refused")
-        peer.send(**{"is": "offer", "text": "ours"})
+        peer.send(**{"is": "offer", "text": "late", "unless": "text/plain;charset=utf-8"})
+        peer.send(**{"is": "offer", "text": "ours", "unless": "application/x-ravelo"})
         offered = until(lambda: [one for one in peer.messages("clip") if one["offered"]], "our offer is reported")[0]
         peer.send(**ask, serial=offered["serial"])
         poured = until(lambda: peer.messages("pour"), "the shell's own contents are copied over")[0]

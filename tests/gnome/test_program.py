@@ -373,6 +373,7 @@ class TurnOnTest(ProgramCase):
 
     def test_settings_turn_it_on(self):
         self.assertNotEqual(self.state(), 1, "it is on before anybody asked")
+        until(lambda: "no timer" in self.command("timer", "status"), "Ravelo has started", 60)
         self.command("--settings")
         x, y, width, _ = until(lambda: next((one for one in self.session.run("return windows()")
                                if "ettings" in (one["title"] or "") and one["visible"]), None), "the settings")["frame"]

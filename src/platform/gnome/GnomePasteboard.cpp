@@ -192,9 +192,8 @@ qint64 GnomePasteboard::write(const QList<PasteboardEntry>& forms) {
     owner_ = {};
     lastEnd_.reset();
     lastChange_ = uptime();
-    if (QGuiApplication::focusWindow() != nullptr) {
-        writeByQt(forms);
-    } else {
+    writeByQt(forms);
+    if (QGuiApplication::focusWindow() == nullptr) { // Although Mutter may have given it already.
         offerText();
     }
     return count_;
@@ -213,7 +212,7 @@ void GnomePasteboard::writeByQt(const QList<PasteboardEntry>& forms) {
 void GnomePasteboard::offerText() {
     for (const PasteboardEntry& form : written_) {
         if (form.type == plainTextType) {
-            channel_.send(offer(QString::fromUtf8(form.bytes)));
+            channel_.send(offer(QString::fromUtf8(form.bytes), mark()));
             break;
         }
     }

@@ -14,10 +14,9 @@
 
 namespace ravelo::gnome {
 
-/// The clipboard as the extension reports it. It is written through Qt while one of our windows has
-/// the focus, else, because Mutter would ignore that, by the extension, which can offer a text
-/// only; also if the focus went before Mutter saw our write. GNOME Shell itself keeps what programs
-/// had that have ended.
+/// The clipboard as the extension reports it. It is written through Qt, which Mutter ignores unless
+/// one of our windows has the focus; then the extension offers the text, all that it can. GNOME
+/// Shell itself keeps what programs had that have ended.
 ///
 /// From its making on QClipboard gives no signals any more: at each change text fields would read
 /// the new contents on the main thread, and stand still with an owner that does not answer.

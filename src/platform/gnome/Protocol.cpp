@@ -204,8 +204,9 @@ QByteArray focus(Focus focus) {
     return line({{u"is"_s, u"focus"_s}, {u"on"_s, focus == Focus::take}});
 }
 
-QByteArray offer(const QString& text) {
-    return line({{u"is"_s, u"offer"_s}, {u"text"_s, text}});
+QByteArray offer(const QString& text, const QByteArray& unless) {
+    return line(
+        {{u"is"_s, u"offer"_s}, {u"text"_s, text}, {u"unless"_s, QString::fromUtf8(unless)}});
 }
 
 } // namespace ravelo::gnome

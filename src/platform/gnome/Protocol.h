@@ -109,7 +109,8 @@ using Report = std::variant<Hello, ScreensReport, Look, Edge, Pressed, Copied, D
 enum class Focus { take, giveBack };
 [[nodiscard]] QByteArray focus(Focus focus);
 
-/// Offers a text on the clipboard in Ravelo's place.
-[[nodiscard]] QByteArray offer(const QString& text);
+/// Offers a text on the clipboard in Ravelo's place, unless the clipboard has this type already:
+/// Ravelo's own write, which may have come after all.
+[[nodiscard]] QByteArray offer(const QString& text, const QByteArray& unless);
 
 } // namespace ravelo::gnome

@@ -21,7 +21,7 @@ const FIELDS = {
     want: {of: isOf, serial: isWhole, type: isText, cap: isWhole},
     place: {screen: isWhole},
     focus: {on: value => typeof value === 'boolean'},
-    offer: {text: isText},
+    offer: {text: isText, unless: isText},
 };
 
 /// The message of a line; null if it is none that Ravelo may send.
