@@ -356,13 +356,14 @@ TabPage {
             model: tab.clips.list
 
             delegate: ClipRow {
+                id: row
                 clips: tab.clips
                 shown: tab.shown
                 width: list.width
                 selected: index === list.currentIndex
                 onTileHoveredChanged: preview.point(index, tileHovered)
                 onTapped: modifiers => tab.tap(index, modifiers)
-                onMenuRequested: place => rowMenu.openAtRow(index, mapToItem(rowMenu.parent, place))
+                onMenuRequested: place => rowMenu.openAtRow(row, mapToItem(rowMenu.parent, place))
                 onDeleted: tab.clips.remove(index)
             }
 
@@ -439,8 +440,9 @@ TabPage {
     RowMenu {
         id: rowMenu
         objectName: "rowMenu"
-        tab: tab
+        clips: tab.clips
         list: list
         preview: preview
+        onCopied: row => tab.copyAndClose(row)
     }
 }

@@ -6,25 +6,27 @@ import Ravelo.Controls
 Menu {
     id: menu
 
-    required property ClipboardTab tab
+    required property Clips clips
     required property ListView list
     required property PreviewControl preview
 
-    readonly property Clips clips: tab.clips
-    readonly property ClipRow row: list.currentItem as ClipRow
+    property ClipRow row
+
+    signal copied(int row)
 
     /// By a key: below the row's text.
     function openFor(wanted: int) {
-        const item = list.itemAtIndex(wanted);
+        const item = list.itemAtIndex(wanted) as ClipRow;
         if (item) {
-            openAtRow(wanted, item.mapToItem(parent, 46, item.height));
+            openAtRow(item, item.mapToItem(parent, 46, item.height));
         }
     }
 
-    function openAtRow(wanted: int, place: point) {
-        list.currentIndex = wanted;
-        if (wanted !== clips.list.tooLargeRow) {
+    function openAtRow(item: ClipRow, place: point) {
+        list.currentIndex = item.index;
+        if (!item.tooLarge) {
             preview.close();
+            row = item;
             openAt(place, false, false);
         }
     }
@@ -36,12 +38,12 @@ Menu {
         { divider: true },
         { text: qsTr("Delete %1").arg(clips.selected), hint: qsTr("Delete"), chosen: () => clips.removeSelected() }
     ] : row?.secret ? [
-        { text: qsTr("Copy"), hint: qsTr("Return"), chosen: () => tab.copyAndClose(list.currentIndex) },
+        { text: qsTr("Copy"), hint: qsTr("Return"), chosen: () => menu.copied(list.currentIndex) },
         { divider: true },
         { text: qsTr("Keep as any text"), chosen: () => clips.keepSecret(list.currentIndex) },
         { text: qsTr("Forget now"), hint: qsTr("Delete"), chosen: () => clips.forgetSecret(list.currentIndex) }
     ] : [
-        { text: qsTr("Copy"), hint: qsTr("Return"), chosen: () => tab.copyAndClose(list.currentIndex) },
+        { text: qsTr("Copy"), hint: qsTr("Return"), chosen: () => menu.copied(list.currentIndex) },
         { divider: true },
         { text: qsTr("Preview"), hint: qsTr("Space"), chosen: () => preview.openCurrent() }
     ].concat(row?.icon === "link" ? [

@@ -80,7 +80,10 @@ TEST_F(SecretRow, CanBeKeptOrForgotten) {
     world.store.addClip(u"marker"_s, {}, {[](const QString&) {
                             return Verdict{true, u"aws"_s};
                         }});
-    view.window().grabWindow();
+    EXPECT_TRUE(eventually([this] { // It moves in.
+        view.window().grabWindow();
+        return item(u"card0"_s)->mapToScene({0, 0}) == QPointF(34, 280);
+    }));
     EXPECT_EQ(title(), u"••••••"_s) << "too short to show any of it";
     clickOn(u"card0"_s, Qt::RightButton);
     clickIn(u"rowMenu"_s, u"item3"_s);
