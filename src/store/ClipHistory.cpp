@@ -203,6 +203,7 @@ qint64 ClipHistory::textBytes(const QList<ClipItem>& clips) {
 
 ClipChange ClipHistory::merged(QList<ClipItem> clips, QList<ClipItem> others,
                                const HistoryRules& rules) {
+    std::ranges::reverse(others); // Of one date, the first in the list is the newest.
     std::ranges::stable_sort(others, {},
                              [](const ClipItem& clip) { return clip.date.sinceReference; });
     for (const ClipItem& other : others) {

@@ -36,9 +36,10 @@ void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
 
 void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
     clear(ClipHistory::cleared(data_.clips), kept);
-    // Only once what the worker has already is done: a restored image is then named again.
+    // Only once what the worker has already is done: a restored image is then named again. While
+    // locked, it is not known what is named.
     services_.worker.run([] {}, [store = QPointer(this)] {
-        if (store) {
+        if (store && !store->locked_) {
             store->removeFiles([folder = store->folder_,
                                 named = imageNames(store->data_) + store->lentImages_,
                                 mayWrite = store->services_.mayWrite] {
