@@ -171,8 +171,7 @@ std::optional<ClipChange> ClipHistory::restored(QList<ClipItem> clips, const Cli
 }
 
 std::optional<ClipChange> ClipHistory::trimmed(QList<ClipItem> clips, Date now,
-                                               const HistoryRules& rules,
-                                               const ImageSizes& sizes) {
+                                               const HistoryRules& rules, const ImageSizes& sizes) {
     const qsizetype before = clips.size();
     QStringList orphans = remove(clips, [&](const ClipItem& clip) {
         return !clip.pinned && rules.keepFor > 0 &&
@@ -184,8 +183,7 @@ std::optional<ClipChange> ClipHistory::trimmed(QList<ClipItem> clips, Date now,
         };
         const QSet<QUuid> surplus =
             surplusOf(clips, images ? rules.imageBytes : rules.textBytes, size);
-        orphans +=
-            remove(clips, [&](const ClipItem& clip) { return surplus.contains(clip.id); });
+        orphans += remove(clips, [&](const ClipItem& clip) { return surplus.contains(clip.id); });
     }
     if (clips.size() == before) {
         return std::nullopt;

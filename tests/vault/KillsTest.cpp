@@ -70,8 +70,8 @@ protected:
         return encrypted;
     }
 
-    /// In the child: saves and converts to and fro until it is killed. Reports each change of a file
-    /// just before it.
+    /// In the child: saves and converts to and fro until it is killed. Reports each change of a
+    /// file just before it.
     [[noreturn]] void work(int reports) {
         const OwnFile::Permission report = [reports]() -> Result<void> {
             return write(reports, "x", 1) == 1 ? Result<void>() : failure(u"no pipe"_s);
@@ -81,10 +81,10 @@ protected:
             vault.open(*file, std::make_shared<const StoreKey>(*file->unwrap(wrapper_)));
         }
         for (int count = saved_ + 1;; ++count) {
-            const bool done = vault.write(storePath(), marker + QByteArray::number(count), report) &&
-                              (vault.state() == Vault::State::plain
-                                   ? beginEncryption(vault, file_, key_, report)
-                                   : endEncryption(vault, report));
+            const bool done =
+                vault.write(storePath(), marker + QByteArray::number(count), report) &&
+                (vault.state() == Vault::State::plain ? beginEncryption(vault, file_, key_, report)
+                                                      : endEncryption(vault, report));
             if (!done) {
                 _exit(1);
             }
