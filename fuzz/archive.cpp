@@ -1,7 +1,7 @@
 // Any archive: it is refused, or what is in it can be packed again.
 
-#include "Input.h"
 #include "store/Archive.h"
+#include "Input.h"
 
 #include <QBuffer>
 

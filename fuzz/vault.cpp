@@ -31,8 +31,8 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
         fuzz::require(formOf(input) != FileForm::plain);
     }
     // The input as contents, and a sealed file with some of its bytes changed.
-    for (QByteArray sealed : {key().seal(name, input),
-                              sealForLater(key().id(), key().publicKey(), name, input)}) {
+    for (QByteArray sealed :
+         {key().seal(name, input), sealForLater(key().id(), key().publicKey(), name, input)}) {
         fuzz::require(key().unseal(name, sealed) == input);
         if (size > 1) {
             const qsizetype place = (bytes[0] << 8 | bytes[1]) % sealed.size();

@@ -163,18 +163,20 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     }
     updater(std::move(platform_.packages));
     platform_.vault->look(); // Nobody else changes the folder from now on.
-    encryption_ = std::make_unique<Encryption>(
-        Encryption::Services{*platform_.jobs, *platform_.worker, *platform_.keyring,
-                             platform_.vault, platform_.mayWrite(),
-                             [lock = platform_.dataLock.get()] { lock->followKeyFile(); }});
-    const Store::Services services{
-        *platform_.scheduler,        *platform_.worker,      *platform_.preferences,
-        platform_.display->pasteboard(), *platform_.sound,   *platform_.fileJobs,
-        *platform_.copiedFiles,      *platform_.jobs,        platform_.decoder,
-        platform_.mayWrite(),        platform_.vault};
+    encryption_ = std::make_unique<Encryption>(Encryption::Services{
+        *platform_.jobs, *platform_.worker, *platform_.keyring, platform_.vault,
+        platform_.mayWrite(), [lock = platform_.dataLock.get()] {
+            lock->followKeyFile();
+        }});
+    const Store::Services services{*platform_.scheduler,   *platform_.worker,
+                                   *platform_.preferences, platform_.display->pasteboard(),
+                                   *platform_.sound,       *platform_.fileJobs,
+                                   *platform_.copiedFiles, *platform_.jobs,
+                                   platform_.decoder,      platform_.mayWrite(),
+                                   platform_.vault};
     store_ = std::make_unique<Store>(Platform::dataFolder(), services);
-    transfers_ = std::make_unique<Transfers>(Transfers::Services{
-        *store_, *platform_.fileJobs, platform_.decoder, platform_.mayWrite()});
+    transfers_ = std::make_unique<Transfers>(
+        Transfers::Services{*store_, *platform_.fileJobs, platform_.decoder, platform_.mayWrite()});
     flushedAtExit = this;
     std::atexit(flushAtExit);
 
@@ -227,7 +229,9 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
                            [this](const QString& path, const Commands::Reply& reply) {
                                transfers_->importFrom(path, reply);
                            },
-                           [this](const Commands::Reply& reply) { erase(reply); }});
+                           [this](const Commands::Reply& reply) {
+                               erase(reply);
+                           }});
     wire();
     wireNotices();
     wireEncryption();
@@ -430,9 +434,11 @@ void AppDelegate::wireEncryption() {
         const VaultView& vault = view_->features().vault;
         const bool hasCopies = store_->isLocked() && !store_->clips().isEmpty();
         const bool possible = vault.canUnlock() || vault.asksPassphrase();
-        notices_->setLocked(hasCopies ? vault.title() : QString(),
-                            QCoreApplication::translate("ravelo::AppDelegate", "New copies are sealed until then."),
-                            possible ? QCoreApplication::translate("ravelo::AppDelegate", "Unlock\u2026") : QString());
+        notices_->setLocked(
+            hasCopies ? vault.title() : QString(),
+            QCoreApplication::translate("ravelo::AppDelegate", "New copies are sealed until then."),
+            possible ? QCoreApplication::translate("ravelo::AppDelegate", "Unlock\u2026")
+                     : QString());
     };
     QObject::connect(encryption_.get(), &Encryption::changed, notices_.get(), follow);
     QObject::connect(store_.get(), &Store::lockedChanged, notices_.get(), follow);

@@ -17,8 +17,7 @@ namespace {
 void removeKey(const QString& service) {
     SecretKeyring keyring(sessionBus());
     QEventLoop loop;
-    const Handle removing =
-        keyring.remove(service, [&loop](const Result<void>&) { loop.quit(); });
+    const Handle removing = keyring.remove(service, [&loop](const Result<void>&) { loop.quit(); });
     loop.exec();
 }
 

@@ -128,9 +128,8 @@ Result<void> connectGnome(Platform& platform) {
 void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
     platform.worker = std::make_unique<WorkerThread>();
     platform.vault = std::make_shared<Vault>(Platform::dataFolder());
-    platform.dataLock =
-        std::make_unique<DataLock>(Platform::lockFile(), Platform::dataFolder() + u"/store.json"_s,
-                                   platform.vault->keyPath());
+    platform.dataLock = std::make_unique<DataLock>(
+        Platform::lockFile(), Platform::dataFolder() + u"/store.json"_s, platform.vault->keyPath());
     platform.preferences = std::make_unique<PreferenceFile>(
         Platform::preferenceFile(),
         PreferenceFile::Services{*platform.scheduler, *platform.worker, platform.mayWrite()});

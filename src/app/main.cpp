@@ -53,8 +53,8 @@ std::optional<Answer> askForConsole(const QStringList& request) {
     if (request != QStringList{u"shelf"_s, u"list"_s} || !printsToTerminal()) {
         return SingleInstance::ask(request, activationToken(), answerTime(request));
     }
-    auto answer = SingleInstance::ask(request + QStringList{u"--null"_s}, {},
-                                      SingleInstance::answerTime);
+    auto answer =
+        SingleInstance::ask(request + QStringList{u"--null"_s}, {}, SingleInstance::answerTime);
     if (answer) {
         answer->output = harmless(answer->output, '\0').replace('\0', '\n');
     }
@@ -107,9 +107,8 @@ int run(const Command& command, char** argv) {
 
     const auto instance = SingleInstance::claim();
     if (!instance) {
-        return report(
-            SingleInstance::ask(command.request, token, answerTime(command.request))
-                .value_or(SingleInstance::silence()));
+        return report(SingleInstance::ask(command.request, token, answerTime(command.request))
+                          .value_or(SingleInstance::silence()));
     }
     auto platform = Platform::make(*display, environment);
     if (!platform) {

@@ -187,8 +187,7 @@ std::optional<ClipChange> ClipHistory::restored(QList<ClipItem> clips, const Cli
 }
 
 std::optional<ClipChange> ClipHistory::trimmed(QList<ClipItem> clips, Date now,
-                                               const HistoryRules& rules,
-                                               const ImageSizes& sizes) {
+                                               const HistoryRules& rules, const ImageSizes& sizes) {
     const qsizetype before = clips.size();
     QStringList orphans = remove(clips, [&](const ClipItem& clip) {
         return !clip.pinned && rules.keepFor > 0 &&
@@ -200,8 +199,7 @@ std::optional<ClipChange> ClipHistory::trimmed(QList<ClipItem> clips, Date now,
         };
         const QSet<QUuid> surplus =
             surplusOf(clips, images ? rules.imageBytes : rules.textBytes, size);
-        orphans +=
-            remove(clips, [&](const ClipItem& clip) { return surplus.contains(clip.id); });
+        orphans += remove(clips, [&](const ClipItem& clip) { return surplus.contains(clip.id); });
     }
     if (clips.size() == before) {
         return std::nullopt;
@@ -219,6 +217,7 @@ qint64 ClipHistory::textBytes(const QList<ClipItem>& clips) {
 
 ClipChange ClipHistory::merged(QList<ClipItem> clips, QList<ClipItem> others,
                                const HistoryRules& rules) {
+    std::ranges::reverse(others); // Of one date, the first in the list is the newest.
     std::ranges::stable_sort(others, {},
                              [](const ClipItem& clip) { return clip.date.sinceReference; });
     for (const ClipItem& other : others) {

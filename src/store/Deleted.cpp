@@ -36,8 +36,7 @@ qint64 sizeOf(const DeletedRecord& record) {
 
 } // namespace
 
-void Deleted::add(const QList<DeletedRecord>& records, const QString& folder,
-                  const Vault& vault) {
+void Deleted::add(const QList<DeletedRecord>& records, const QString& folder, const Vault& vault) {
     for (DeletedRecord record : records) {
         const QString path = imagePath(record, folder);
         const bool hasImage = !path.isEmpty() && isRegularFile(QFile::encodeName(path));
@@ -68,7 +67,8 @@ Deleted::Restorable Deleted::restore(const QString& folder, const Vault& vault,
         DeletedRecord record = records.takeLast();
         const qint64 size = sizeOf(record);
         if (record.png) {
-            const auto written = writeImage(vault, imagePath(record, folder), *record.png, mayWrite);
+            const auto written =
+                writeImage(vault, imagePath(record, folder), *record.png, mayWrite);
             if (!written) {
                 all.problem = written.error().message;
                 all.someStay = true;

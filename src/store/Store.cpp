@@ -319,12 +319,13 @@ void Store::requestShelf() {
 
 Handle Store::saveClipboardImageForSnippet(std::function<void(QString)> done) {
     const QString name = newImageFileName();
-    return saveSnippetImage(services_, imagePath(name), [this, name, done = std::move(done)](bool saved) {
-        if (saved) {
-            lentImages_.insert(name);
-        }
-        done(saved ? name : QString());
-    });
+    return saveSnippetImage(services_, imagePath(name),
+                            [this, name, done = std::move(done)](bool saved) {
+                                if (saved) {
+                                    lentImages_.insert(name);
+                                }
+                                done(saved ? name : QString());
+                            });
 }
 
 void Store::startTimer(const QString& label, double minutes) {
@@ -389,8 +390,8 @@ void Store::trimLater() {
     }
     if (rules_.keepFor > 0 && std::isfinite(oldest)) {
         const double left = oldest + rules_.keepFor - services_.scheduler.now().sinceReference;
-        trimming_ = services_.scheduler.after(Seconds(std::clamp(left, 60.0, 3600.0)),
-                                              [this] { trim(); });
+        trimming_ =
+            services_.scheduler.after(Seconds(std::clamp(left, 60.0, 3600.0)), [this] { trim(); });
     }
 }
 

@@ -40,8 +40,8 @@ StoredContents readStore(const Vault& vault, const QString& path) {
         stored.kind = StoredContents::Kind::newer;
         return stored;
     }
-    auto store = contents.kind == Vault::Contents::Kind::readable ? parsed(contents.bytes)
-                                                                  : std::nullopt;
+    auto store =
+        contents.kind == Vault::Contents::Kind::readable ? parsed(contents.bytes) : std::nullopt;
     if (store) {
         stored.kind = StoredContents::Kind::read;
         stored.store = std::move(*store);

@@ -36,16 +36,19 @@ void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
 
 void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
     clear(ClipHistory::cleared(data_.clips), kept);
-    // Only once what the worker has already is done: a restored image is then named again.
-    services_.worker.run([] {}, [store = QPointer(this)] {
-        if (store) {
-            store->removeFiles([folder = store->folder_,
-                                named = imageNames(store->data_) + store->lentImages_,
-                                mayWrite = store->services_.mayWrite] {
-                return removeLeftovers(folder, named, mayWrite);
-            });
-        }
-    });
+    // Only once what the worker has already is done: a restored image is then named again. While
+    // locked, it is not known what is named.
+    services_.worker.run([] {},
+                         [store = QPointer(this)] {
+                             if (store && !store->locked_) {
+                                 store->removeFiles(
+                                     [folder = store->folder_,
+                                      named = imageNames(store->data_) + store->lentImages_,
+                                      mayWrite = store->services_.mayWrite] {
+                                         return removeLeftovers(folder, named, mayWrite);
+                                     });
+                             }
+                         });
 }
 
 void Store::clearLastHour(const std::shared_ptr<Deleted>& kept) {
@@ -88,12 +91,12 @@ void Store::takeOffDisk(const QList<DeletedRecord>& records, const std::shared_p
         }
     }
     if (kept) {
-        services_.worker.run([records, folder = clipsDir(), vault = services_.vault,
-                              kept = std::weak_ptr(kept)] {
-            if (const auto still = kept.lock()) {
-                still->add(records, folder, *vault);
-            }
-        });
+        services_.worker.run(
+            [records, folder = clipsDir(), vault = services_.vault, kept = std::weak_ptr(kept)] {
+                if (const auto still = kept.lock()) {
+                    still->add(records, folder, *vault);
+                }
+            });
     }
     removeImages(images);
 }
@@ -122,8 +125,8 @@ void Store::removeFiles(std::function<Result<void>()> remove) {
     services_.worker.run([remove = std::move(remove), outcome] { *outcome = remove(); },
                          [store = QPointer(this), outcome] {
                              if (store) {
-                                 Q_EMIT store->removalEnded(
-                                     *outcome ? QString() : outcome->error().message);
+                                 Q_EMIT store->removalEnded(*outcome ? QString()
+                                                                     : outcome->error().message);
                              }
                          });
 }

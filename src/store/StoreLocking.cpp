@@ -113,24 +113,26 @@ void Store::unlock() {
     opening_ = true;
     saver_.saveNow(); // What came meanwhile is read again, from its file.
     const auto stored = std::make_shared<StoredContents>();
-    services_.worker.run([vault = services_.vault, path = fileURL(),
-                          stored] { *stored = readStore(*vault, path); },
-                         [store = QPointer(this), stored] {
-                             if (store) {
-                                 store->opening_ = false;
-                                 store->locked_ = false;
-                                 store->begin(std::move(*stored));
-                                 store->saver_.saveNow();
-                                 store->announceAll();
-                             }
-                         });
+    services_.worker.run(
+        [vault = services_.vault, path = fileURL(), stored] { *stored = readStore(*vault, path); },
+        [store = QPointer(this), stored] {
+            if (store) {
+                store->opening_ = false;
+                store->locked_ = false;
+                store->begin(std::move(*stored));
+                store->saver_.saveNow();
+                store->announceAll();
+            }
+        });
 }
 
 void Store::saveEndedWith(const SaveOutcome& outcome) {
     const bool saved = outcome.kind == SaveOutcome::Kind::saved;
     if (saved && !locked_ && !waitingFiles_.isEmpty()) {
-        services_.worker.run([files = std::exchange(waitingFiles_, {}),
-                              mayWrite = services_.mayWrite] { (void)ravelo::removeImages(files, mayWrite); });
+        services_.worker.run(
+            [files = std::exchange(waitingFiles_, {}), mayWrite = services_.mayWrite] {
+                (void)ravelo::removeImages(files, mayWrite);
+            });
     }
     if (const auto report = std::exchange(saved_, nullptr)) {
         report(outcome);
@@ -171,9 +173,11 @@ void Store::erase(std::function<void(const Result<void>&)> done) {
     shelf_ = {};
     Q_EMIT cleared();
     const auto outcome = std::make_shared<Result<void>>();
-    services_.worker.run([folder = folder_, outcome,
-                          mayWrite = services_.mayWrite] { *outcome = eraseFiles(folder, mayWrite); },
-                         [outcome, done = std::move(done)] { done(*outcome); });
+    services_.worker.run(
+        [folder = folder_, outcome, mayWrite = services_.mayWrite] {
+            *outcome = eraseFiles(folder, mayWrite);
+        },
+        [outcome, done = std::move(done)] { done(*outcome); });
     announceAll();
 }
 

@@ -47,9 +47,9 @@ QStringList storedFiles(const QString& folder) {
 
 /// What killed saves left.
 QStringList partialFiles(const QString& folder) {
-    QStringList paths =
-        filesIn(folder, {u"store.json.*"_s, u"key.*"_s}) +
-        filesIn(folder + u"/clips"_s, {u"*.png.*"_s}) + filesIn(folder + u"/waiting"_s, {u"*"_s});
+    QStringList paths = filesIn(folder, {u"store.json.*"_s, u"key.*"_s}) +
+                        filesIn(folder + u"/clips"_s, {u"*.png.*"_s}) +
+                        filesIn(folder + u"/waiting"_s, {u"*"_s});
     paths.removeIf([](const QString& path) { return !isTemporaryName(path); });
     return paths;
 }
@@ -111,13 +111,11 @@ Result<void> convertFiles(const Vault& vault, const OwnFile::Permission& mayWrit
         }
     }
     Result<void> done;
-    vault.whileNobodyWrites(
-        [&] { done = removeFiles(partialFiles(vault.folder()), mayWrite); });
+    vault.whileNobodyWrites([&] { done = removeFiles(partialFiles(vault.folder()), mayWrite); });
     return done;
 }
 
-Result<void> beginEncryption(Vault& vault, const KeyFile& file,
-                             std::shared_ptr<const StoreKey> key,
+Result<void> beginEncryption(Vault& vault, const KeyFile& file, std::shared_ptr<const StoreKey> key,
                              const OwnFile::Permission& mayWrite) {
     if (Result<void> done = writeKeyFile(vault, file, mayWrite); !done) {
         return done;

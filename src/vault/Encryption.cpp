@@ -110,14 +110,15 @@ void Encryption::unwrap(const LockedBytes& wrapper) {
     set(Open);
     Q_EMIT opened();
     // What an earlier run did not get to. Later the files are as they should be.
-    work([mayWrite = services_.mayWrite](Vault& vault) { return finishConversion(vault, mayWrite); },
-         [this, file](const Result<void>& done) {
-             const bool left = services_.vault->state() == Vault::State::plain;
-             if (left && file->guard == Guard::keyring) {
-                 removing_ = services_.keyring.remove(file->service(), [](const Result<void>&) {});
-             }
-             set(left ? Off : state_, done ? QString() : done.error().message);
-         });
+    work(
+        [mayWrite = services_.mayWrite](Vault& vault) { return finishConversion(vault, mayWrite); },
+        [this, file](const Result<void>& done) {
+            const bool left = services_.vault->state() == Vault::State::plain;
+            if (left && file->guard == Guard::keyring) {
+                removing_ = services_.keyring.remove(file->service(), [](const Result<void>&) {});
+            }
+            set(left ? Off : state_, done ? QString() : done.error().message);
+        });
 }
 
 void Encryption::look() {
@@ -183,8 +184,7 @@ void Encryption::useKeyring() {
     Q_EMIT changed();
     const auto key = keyToGuard();
     const KeyFile file = KeyFile::of(*key, Guard::keyring, services_.cost);
-    const auto wrapper =
-        std::make_shared<LockedBytes>(LockedBytes::random(KeyFile::wrapperLength));
+    const auto wrapper = std::make_shared<LockedBytes>(LockedBytes::random(KeyFile::wrapperLength));
     const auto compare = [this, key, file, wrapper](const Keyring::Found& found) {
         // A keyring that does not give it back would cost everything.
         const LockedBytes there =
@@ -196,8 +196,7 @@ void Encryption::useKeyring() {
         }
     };
     storing_ = services_.keyring.keep(
-        file.service(), label(), wrapper->hex(),
-        [this, file, compare](const Result<void>& kept) {
+        file.service(), label(), wrapper->hex(), [this, file, compare](const Result<void>& kept) {
             if (!kept) {
                 fail(tr("The keyring did not keep the key: %1").arg(kept.error().message));
                 return;

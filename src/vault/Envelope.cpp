@@ -133,11 +133,11 @@ std::optional<QByteArray> StoreKey::unsealOwn(const QString& name, const QByteAr
     const QByteArray authenticated = bytes.first(ownStart) + name.toUtf8();
     const LockedBytes key = fileKey(start + headerLength);
     QByteArray plain(bytes.size() - ownStart - tagLength, Qt::Uninitialized);
-    const bool good = crypto_aead_xchacha20poly1305_ietf_decrypt(
-                          bytesOf(plain), nullptr, nullptr, start + ownStart,
-                          size_t(bytes.size() - ownStart), bytesOf(authenticated),
-                          size_t(authenticated.size()), start + headerLength + saltLength,
-                          key.data()) == 0;
+    const bool good =
+        crypto_aead_xchacha20poly1305_ietf_decrypt(
+            bytesOf(plain), nullptr, nullptr, start + ownStart, size_t(bytes.size() - ownStart),
+            bytesOf(authenticated), size_t(authenticated.size()), start + headerLength + saltLength,
+            key.data()) == 0;
     return good ? std::optional(std::move(plain)) : std::nullopt;
 }
 

@@ -119,9 +119,8 @@ tl::expected<KeyFile, KeyFile::Problem> KeyFile::decoded(const QByteArray& bytes
     const auto isOneOf = [](quint8 value) {
         return value == 1 || value == 2;
     };
-    if (!isOneOf(guard) || !isOneOf(goal) || file.cost.passes < 1 ||
-        file.cost.passes > maxPasses || file.cost.kibibytes < 8 ||
-        file.cost.kibibytes > maxKibibytes) {
+    if (!isOneOf(guard) || !isOneOf(goal) || file.cost.passes < 1 || file.cost.passes > maxPasses ||
+        file.cost.kibibytes < 8 || file.cost.kibibytes > maxKibibytes) {
         return problem(Problem::damaged);
     }
     file.guard = Guard(guard);
@@ -163,9 +162,8 @@ std::optional<StoreKey> KeyFile::unwrap(const LockedBytes& wrapper) const {
     }
     StoreKey key(id, std::move(master));
     const QByteArray expected = key.tag(tagged(*this));
-    const bool whole = std::ranges::equal(QByteArrayView(expected), tag, [](char a, uchar b) {
-        return static_cast<uchar>(a) == b;
-    });
+    const bool whole = std::ranges::equal(
+        QByteArrayView(expected), tag, [](char a, uchar b) { return static_cast<uchar>(a) == b; });
     return whole && key.publicKey() == publicKey ? std::optional(std::move(key)) : std::nullopt;
 }
 
@@ -177,11 +175,10 @@ void KeyFile::setGoal(Goal to, const StoreKey& key) {
 LockedBytes KeyFile::stretched(const LockedBytes& passphrase) const {
     static_assert(sizeof(salt) == crypto_pwhash_SALTBYTES);
     LockedBytes key(wrapperLength);
-    const bool done = crypto_pwhash(key.data(), key.size(),
-                                    reinterpret_cast<const char*>(passphrase.data()),
-                                    passphrase.size(), salt.data(), cost.passes,
-                                    size_t(cost.kibibytes) * 1024,
-                                    crypto_pwhash_ALG_ARGON2ID13) == 0;
+    const bool done =
+        crypto_pwhash(key.data(), key.size(), reinterpret_cast<const char*>(passphrase.data()),
+                      passphrase.size(), salt.data(), cost.passes, size_t(cost.kibibytes) * 1024,
+                      crypto_pwhash_ALG_ARGON2ID13) == 0;
     return done ? std::move(key) : LockedBytes();
 }
 

@@ -55,8 +55,8 @@ LockedBytes LockedBytes::fromHex(QByteArrayView digits, size_t size) {
     size_t written = 0;
     const char* end = nullptr;
     const auto length = static_cast<size_t>(digits.size());
-    const bool read = sodium_hex2bin(bytes.data(), size, digits.data(), length, nullptr, &written,
-                                     &end) == 0;
+    const bool read =
+        sodium_hex2bin(bytes.data(), size, digits.data(), length, nullptr, &written, &end) == 0;
     return read && written == size && end == digits.data() + length ? std::move(bytes)
                                                                     : LockedBytes();
 }

@@ -1,5 +1,7 @@
 #include "app/CommandLine.h"
 
+#include <QDir>
+
 #include <gtest/gtest.h>
 
 namespace ravelo {
@@ -47,6 +49,9 @@ TEST(CommandLine, IsUnderstood) {
         {{"timer", "start", "0.5", "--json", "ü"},
          asks({u"timer"_s, u"start"_s, u"0.5"_s, u"--json"_s, u"ü"_s})},
         {{"shelf", "list", "-0"}, asks({u"shelf"_s, u"list"_s, u"-0"_s})},
+        {{"export", "/a/b.tar"}, asks({u"export"_s, u"/a/b.tar"_s})},
+        {{"import", "b.tar"}, asks({u"import"_s, QDir::currentPath() + u"/b.tar"_s})},
+        {{"erase", "--yes"}, {Kind::ask, {u"erase"_s, u"--yes"_s}, {}, IfNoneRuns::erase}},
         {{"a", "b\xff", "file:///c"}, parks({"a", "b\xff", "file:///c"})},
         {{"--", "timer", "-x", "--"}, parks({"timer", "-x", "--"})},
         {{"./timer", "--", "--quit"}, parks({"./timer", "--quit"})},

@@ -36,10 +36,29 @@ protected:
     int setups_ = 0;
     int looks_ = 0; ///< For updates.
     Commands commands_{{world_.store, world_.pause, world_.controller, world_.scheduler, context_,
-                        plan_.usage, [this] { ++setups_; }, [this] { ++looks_; },
-                        [] {
+                        plan_.usage, [this] { ++setups_; }, [this] { ++looks_; }, [] {},
+                        [this](const QString& path, const Commands::Reply& reply) {
+                            exported_ = path;
+                            reply({1, {}, u"a problem"_s});
                         }}};
+    QString exported_;
 };
+
+TEST_F(CommandsTest, AnswersLaterWhatTakesTime) {
+    std::optional<Answer> later;
+    const auto reply = [&](const Answer& answer) {
+        later = answer;
+    };
+    EXPECT_TRUE(commands_.answerLater({u"export"_s, u"/x"_s}, reply));
+    EXPECT_EQ(exported_, u"/x"_s);
+    EXPECT_EQ(later, (Answer{1, {}, u"a problem"_s}));
+    for (const QStringList& request :
+         {QStringList{u"export"_s}, {u"erase"_s}, {u"erase"_s, u"--no"_s}, {u"show"_s}}) {
+        EXPECT_FALSE(commands_.answerLater(request, reply)) << qPrintable(request.join(u' '));
+    }
+    EXPECT_EQ(answer({u"erase"_s}).status, 2) << "only with --yes";
+    EXPECT_EQ(answer({u"import"_s, u"a"_s, u"b"_s}).status, 2);
+}
 
 TEST_F(CommandsTest, ReportsTheTimer) {
     const QByteArray none = "{\"duration\":0,\"ends\":null,\"label\":\"\",\"remaining\":0,"

@@ -87,11 +87,11 @@ TEST_F(RealKeyring, KeepsGivesLocksAndForgetsASecret) {
     int changes = 0;
     const Handle following = keyring_.onChange([&] { ++changes; });
     QDBusConnection bus = bus_.connect(u"locks"_s);
-    auto lock = QDBusMessage::createMethodCall(
-        u"org.freedesktop.secrets"_s, u"/org/freedesktop/secrets"_s,
-        u"org.freedesktop.Secret.Service"_s, u"Lock"_s);
-    lock << QVariant::fromValue(QList<QDBusObjectPath>{
-        QDBusObjectPath(u"/org/freedesktop/secrets/aliases/default"_s)});
+    auto lock =
+        QDBusMessage::createMethodCall(u"org.freedesktop.secrets"_s, u"/org/freedesktop/secrets"_s,
+                                       u"org.freedesktop.Secret.Service"_s, u"Lock"_s);
+    lock << QVariant::fromValue(
+        QList<QDBusObjectPath>{QDBusObjectPath(u"/org/freedesktop/secrets/aliases/default"_s)});
     ASSERT_EQ(bus.call(lock).type(), QDBusMessage::ReplyMessage);
     EXPECT_TRUE(eventually([&] { return changes > 0; })) << "it reports that it was locked";
     EXPECT_EQ(find(u"a service"_s).kind, Found::Kind::locked);
@@ -106,8 +106,8 @@ TEST_F(RealKeyring, ForgetsASecret) {
     ASSERT_TRUE(keep(u"a service"_s, "0011"));
     for (int i = 0; i < 2; ++i) {
         std::optional<Result<void>> done;
-        const Handle asking = keyring_.remove(
-            u"a service"_s, [&](const Result<void>& removed) { done = removed; });
+        const Handle asking =
+            keyring_.remove(u"a service"_s, [&](const Result<void>& removed) { done = removed; });
         ASSERT_TRUE(eventually([&] { return done.has_value(); }));
         EXPECT_TRUE(*done) << "time " << i;
     }

@@ -117,6 +117,26 @@ TEST_F(NoticesTest, showsTheMostSeriousFirst) {
     EXPECT_EQ(shown(), nothing);
 }
 
+TEST_F(NoticesTest, reportsWhatWasNotDeletedAndWhatWaitsForAKey) {
+    notices.putAside(store, u"/x/store.json.unreadable"_s);
+    notices.setLocked(u"Waiting"_s, u"for it."_s, u"Unlock"_s);
+    EXPECT_EQ(shown(), u"Waiting|for it.|Unlock"_s) << "before what was put aside";
+    EXPECT_FALSE(notices.dismissible());
+    int unlocks = 0;
+    QObject::connect(&notices, &Notices::unlock, &notices, [&] { ++unlocks; });
+    notices.act();
+    EXPECT_EQ(unlocks, 1);
+    notices.deletionEnded(u"the folder is read-only"_s);
+    EXPECT_EQ(shown(), u"Not deleted from the disk:|the folder is read-only.|"_s);
+    EXPECT_TRUE(notices.dismissible());
+    notices.dismiss();
+    EXPECT_EQ(shown(), u"Waiting|for it.|Unlock"_s);
+    notices.deletionEnded(u"again"_s);
+    notices.deletionEnded({});
+    notices.setLocked({}, {}, {});
+    EXPECT_EQ(shown(), storeAside);
+}
+
 TEST_F(NoticesTest, itsButtonRetriesOrOpensTheFolder) {
     QStringList done;
     QObject::connect(&notices, &Notices::tryAgain, [&] { done.append(u"try"_s); });

@@ -257,15 +257,16 @@ TEST(ClipHistory, MergesLaterClipsAsIfTheyWereCopiedNow) {
     const QList<ClipItem> before = list(u"b@3 a@2 *c@1"_s);
     QList<ClipItem> later = list(u"d@9 b@8 p.png@7"_s);
     later.append(before[1]); // It is there already.
-    EXPECT_EQ(shorthand(ClipHistory::merged(before, later, {}).clips),
-              "d@9 b@8 p.png@7 a@2 *c@1");
-    EXPECT_EQ(shorthand(ClipHistory::merged(before, later, {HistoryRules::Order::olderFirst, 2}).clips),
-              "d@9 b@8 *c@1");
+    EXPECT_EQ(shorthand(ClipHistory::merged(before, later, {}).clips), "d@9 b@8 p.png@7 a@2 *c@1");
+    EXPECT_EQ(
+        shorthand(ClipHistory::merged(before, later, {HistoryRules::Order::olderFirst, 2}).clips),
+        "d@9 b@8 *c@1");
 }
 
 TEST(ClipHistory, JoinsTwoListsByDate) {
-    EXPECT_EQ(shorthand(ClipHistory::joined(list(u"*c@1 b@5 a@2"_s), list(u"b@4 d@3 *e@9 p.png@3"_s))),
-              "*e@9 *c@1 b@5 d@3 p.png@3 a@2");
+    EXPECT_EQ(
+        shorthand(ClipHistory::joined(list(u"*c@1 b@5 a@2"_s), list(u"b@4 d@3 *e@9 p.png@3"_s))),
+        "*e@9 *c@1 b@5 d@3 p.png@3 a@2");
 }
 
 } // namespace

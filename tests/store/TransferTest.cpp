@@ -76,7 +76,8 @@ TEST_F(Transfer, ABadArchiveChangesNothing) {
         EXPECT_FALSE(imported()) << what;
         EXPECT_EQ(imageFiles(), images) << what;
     };
-    for (const qsizetype size : {qsizetype(0), qsizetype(511), good.size() / 2, good.size() - 1024}) {
+    for (const qsizetype size :
+         {qsizetype(0), qsizetype(511), good.size() / 2, good.size() - 1024}) {
         ASSERT_TRUE(writeFileAtomically(archive_, good.first(size)));
         expectRefused("cut");
     }

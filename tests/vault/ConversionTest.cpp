@@ -109,7 +109,8 @@ TEST_F(Conversions, InterruptedAnywhereAreFinishedByTheNextStart) {
         {
             const auto half = started();
             expectAllReadable(*half, "half-converted, " + when);
-            const bool encrypts = half->keyFile() && half->keyFile()->goal == KeyFile::Goal::encrypted;
+            const bool encrypts =
+                half->keyFile() && half->keyFile()->goal == KeyFile::Goal::encrypted;
             EXPECT_TRUE(finishConversion(*half, {})) << when;
             EXPECT_EQ(plainFiles().isEmpty(), encrypts) << when;
             expectAllReadable(*half, "finished, " + when);
@@ -140,8 +141,7 @@ TEST_F(Conversions, WhatIsSealedWhileLockedOpensLater) {
     EXPECT_EQ(Vault(path_).read(image).kind, Vault::Contents::Kind::locked);
     EXPECT_EQ(started()->bytes(image), marker);
     ASSERT_TRUE(QFile::rename(image, path_ + u"/clips/other.png"_s));
-    EXPECT_EQ(started()->read(path_ + u"/clips/other.png"_s).kind,
-              Vault::Contents::Kind::damaged);
+    EXPECT_EQ(started()->read(path_ + u"/clips/other.png"_s).kind, Vault::Contents::Kind::damaged);
 }
 
 TEST_F(Conversions, NothingIsWrittenPlainWithoutAKey) {

@@ -27,11 +27,12 @@ protected:
     void start() {
         encryption_.reset();
         vault_ = std::make_shared<Vault>(directory_.path());
-        encryption_ = std::make_unique<Encryption>(Encryption::Services{
-            jobs_, worker_, keyring_, vault_, [this]() -> Result<void> {
-                return full_ ? failure(u"the disk is full"_s) : Result<void>();
-            },
-            [this] { ++keyFileChanges_; }, KeyFile::Cost{1, 8}});
+        encryption_ = std::make_unique<Encryption>(
+            Encryption::Services{jobs_, worker_, keyring_, vault_,
+                                 [this]() -> Result<void> {
+                                     return full_ ? failure(u"the disk is full"_s) : Result<void>();
+                                 },
+                                 [this] { ++keyFileChanges_; }, KeyFile::Cost{1, 8}});
         QObject::connect(encryption_.get(), &Encryption::opened, encryption_.get(),
                          [this] { ++openings_; });
         encryption_->start();
@@ -45,9 +46,7 @@ protected:
         settle();
     }
 
-    [[nodiscard]] bool isEncrypted() const {
-        return formOf(*readFile(store_)) == FileForm::sealed;
-    }
+    [[nodiscard]] bool isEncrypted() const { return formOf(*readFile(store_)) == FileForm::sealed; }
 
     [[nodiscard]] Encryption::State state() const { return encryption_->state(); }
 
@@ -118,7 +117,8 @@ TEST_F(Encryptions, SaysIfTheKeyringIsGoneOrHasLostTheKey) {
     keyring_.notify();
     settle();
     EXPECT_EQ(state(), Encryption::KeyMissing);
-    for (const char* wrong : {"", "zz", "00112233445566778899aabbccddeeff00112233445566778899aabbccddeeff"}) {
+    for (const char* wrong :
+         {"", "zz", "00112233445566778899aabbccddeeff00112233445566778899aabbccddeeff"}) {
         keyring_.secrets[kept.firstKey()] = wrong;
         keyring_.notify();
         settle();

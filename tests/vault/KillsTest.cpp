@@ -70,17 +70,21 @@ protected:
         return encrypted;
     }
 
-    /// In the child: saves and converts to and fro until it is killed.
-    [[noreturn]] void work() {
+    /// In the child: saves and converts to and fro until it is killed. Reports each change of a
+    /// file just before it.
+    [[noreturn]] void work(int reports) {
+        const OwnFile::Permission report = [reports]() -> Result<void> {
+            return write(reports, "x", 1) == 1 ? Result<void>() : failure(u"no pipe"_s);
+        };
         Vault vault(path_);
         if (const auto file = vault.keyFile()) {
             vault.open(*file, std::make_shared<const StoreKey>(*file->unwrap(wrapper_)));
         }
         for (int count = saved_ + 1;; ++count) {
-            const bool done = vault.write(storePath(), marker + QByteArray::number(count), {}) &&
-                              (vault.state() == Vault::State::plain
-                                   ? beginEncryption(vault, file_, key_, {})
-                                   : endEncryption(vault, {}));
+            const bool done =
+                vault.write(storePath(), marker + QByteArray::number(count), report) &&
+                (vault.state() == Vault::State::plain ? beginEncryption(vault, file_, key_, report)
+                                                      : endEncryption(vault, report));
             if (!done) {
                 _exit(1);
             }
@@ -111,13 +115,23 @@ TEST_F(Kills, WhileConvertingAndSavingLoseNothingAndLeaveNoPlainCopy) {
     std::mt19937 random(1);
     int encrypted = 0;
     for (int kill = 0; kill < kills && !HasFailure(); ++kill) {
+        int reports[2];
+        ASSERT_EQ(pipe(reports), 0);
         const pid_t child = fork();
         ASSERT_GE(child, 0);
         if (child == 0) {
-            work();
+            work(reports[1]);
         }
-        usleep(std::uniform_int_distribution<useconds_t>(100, 30'000)(random));
+        close(reports[1]);
+        char report = 0;
+        // One time to and fro is about three changes a file.
+        for (int changes = std::uniform_int_distribution(1, 3 * images)(random); changes > 0;
+             --changes) {
+            ASSERT_EQ(read(reports[0], &report, 1), 1);
+        }
+        usleep(std::uniform_int_distribution<useconds_t>(0, 1'000)(random));
         ::kill(child, SIGKILL);
+        close(reports[0]);
         int status = 0;
         ASSERT_EQ(waitpid(child, &status, 0), child);
         ASSERT_TRUE(WIFSIGNALED(status)) << "a step failed in the child";

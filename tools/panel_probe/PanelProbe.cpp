@@ -223,15 +223,17 @@ public:
         const StoreKey key = StoreKey::random();
         const LockedBytes wrapper = LockedBytes::random(KeyFile::wrapperLength);
         const bool passphrase = scene == u"locked-passphrase";
-        KeyFile file =
-            KeyFile::of(key, passphrase ? KeyFile::Guard::passphrase : KeyFile::Guard::keyring, cost);
+        KeyFile file = KeyFile::of(
+            key, passphrase ? KeyFile::Guard::passphrase : KeyFile::Guard::keyring, cost);
         file.wrap(key, wrapper);
         if (scene.startsWith(u"locked"_s) || scene.startsWith(u"settings-"_s)) {
             (void)writeFileAtomically(folder_.filePath(u"key"_s), file.encoded());
         }
         keyring_.isLocked = scene.startsWith(u"locked"_s);
         keyring_.secrets[file.service()] = wrapper.hex().bytes() + QByteArray();
-        encryption_.emplace(Encryption::Services{world.jobs, world.worker, keyring_,
+        encryption_.emplace(Encryption::Services{world.jobs,
+                                                 world.worker,
+                                                 keyring_,
                                                  std::make_shared<Vault>(folder_.path()),
                                                  {},
                                                  {},
@@ -360,8 +362,8 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     if (scene.startsWith(u"notice-"_s)) {
         notify(scene, world.notices, world.scheduler);
     } else if (scene == u"locked-copies") {
-        world.notices.setLocked(view.features().vault.title(), u"New copies are sealed until then."_s,
-                                u"Unlock\u2026"_s);
+        world.notices.setLocked(view.features().vault.title(),
+                                u"New copies are sealed until then."_s, u"Unlock\u2026"_s);
     } else if (scene == u"locked-passphrase") {
         click(window, middle(window, u"locked/passphrase"_s));
         for (const QChar letter : u"wrong horse"_s) {

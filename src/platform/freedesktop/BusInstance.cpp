@@ -78,11 +78,10 @@ void AskAdaptor::Ask(const QStringList& request, const QVariantMap& platformData
                      const QDBusMessage& call, int& /*status*/, QByteArray& /*output*/,
                      QString& /*errors*/) {
     call.setDelayedReply(true);
-    instance_.answer(request, activationToken(platformData),
-                     [bus = bus_, call](const Answer& answer) {
-                         bus.send(call.createReply(
-                             QVariantList{answer.status, answer.output, answer.errors}));
-                     });
+    instance_.answer(
+        request, activationToken(platformData), [bus = bus_, call](const Answer& answer) {
+            bus.send(call.createReply(QVariantList{answer.status, answer.output, answer.errors}));
+        });
 }
 
 ApplicationAdaptor::ApplicationAdaptor(BusInstance& instance, const QDBusConnection& bus)
@@ -105,12 +104,11 @@ void ApplicationAdaptor::Open(const QStringList& uris, const QVariantMap& platfo
 void ApplicationAdaptor::act(const QStringList& request, const QVariantMap& platformData,
                              const QDBusMessage& call) {
     call.setDelayedReply(true);
-    instance_.answer(request, activationToken(platformData),
-                     [bus = bus_, call](const Answer& answer) {
-                         bus.send(answer.status == 0
-                                      ? call.createReply()
-                                      : call.createErrorReply(QDBusError::Failed, answer.errors));
-                     });
+    instance_.answer(
+        request, activationToken(platformData), [bus = bus_, call](const Answer& answer) {
+            bus.send(answer.status == 0 ? call.createReply()
+                                        : call.createErrorReply(QDBusError::Failed, answer.errors));
+        });
 }
 
 } // namespace ravelo

@@ -106,16 +106,15 @@ public:
     }
 
     void create(const std::function<void()>& next) {
-        const QVariantMap properties{
-            {u"org.freedesktop.Secret.Collection.Label"_s, u"Default"_s}};
-        ask(call(servicePath, serviceInterface, u"CreateCollection"_s,
-                 {properties, u"default"_s}),
+        const QVariantMap properties{{u"org.freedesktop.Secret.Collection.Label"_s, u"Default"_s}};
+        ask(call(servicePath, serviceInterface, u"CreateCollection"_s, {properties, u"default"_s}),
             [this, next](const QVariantList& created) {
                 prompt(created.value(1).value<QDBusObjectPath>(), next);
             });
     }
 
 private Q_SLOTS:
+
     void promptAnswered(bool dismissed) {
         if (const auto next = std::exchange(prompted_, nullptr)) {
             dismissed ? onFailure(u"its question was not answered"_s) : next();
@@ -150,12 +149,12 @@ using Found = Keyring::Found;
 void readItem(SecretTask* task, const QDBusObjectPath& item,
               const std::function<void(const Found&)>& done) {
     task->withSession([task, item, done](const QDBusObjectPath& session) {
-        task->ask(call(item.path(), itemInterface, u"GetSecret"_s, {QVariant::fromValue(session)}),
-                  [done](const QVariantList& answer) {
-                      const auto secret = valueOf(answer.value(0));
-                      done(secret ? Found{Found::Kind::found, *secret}
-                                  : Found{Found::Kind::unavailable});
-                  });
+        task->ask(
+            call(item.path(), itemInterface, u"GetSecret"_s, {QVariant::fromValue(session)}),
+            [done](const QVariantList& answer) {
+                const auto secret = valueOf(answer.value(0));
+                done(secret ? Found{Found::Kind::found, *secret} : Found{Found::Kind::unavailable});
+            });
     });
 }
 
@@ -209,10 +208,9 @@ Handle SecretKeyring::keep(const QString& service, const QString& label, const S
         done(failure(problem));
     };
     const auto create = [task, service, label, secret, done](const QDBusObjectPath& session) {
-        const QVariantMap properties{
-            {u"org.freedesktop.Secret.Item.Label"_s, label},
-            {u"org.freedesktop.Secret.Item.Attributes"_s,
-             QVariant::fromValue(Attributes{{u"service"_s, service}})}};
+        const QVariantMap properties{{u"org.freedesktop.Secret.Item.Label"_s, label},
+                                     {u"org.freedesktop.Secret.Item.Attributes"_s,
+                                      QVariant::fromValue(Attributes{{u"service"_s, service}})}};
         task->ask(call(defaultCollection, collectionInterface, u"CreateItem"_s,
                        {properties, structure(session, secret), true}),
                   [task, done](const QVariantList& created) {

@@ -123,7 +123,8 @@ DecoderProcess::Source DecoderProcess::readable(Source source,
 }
 
 PictureLook DecoderProcess::look(const UntrustedPicture& picture) {
-    const auto answer = ask(readable(sourceOf(picture), picture), {Kind::probe, 0, 0, 0, probeTime});
+    const auto answer =
+        ask(readable(sourceOf(picture), picture), {Kind::probe, 0, 0, 0, probeTime});
     if (!answer || answer->reply.width <= 0 || answer->reply.height <= 0) {
         return {};
     }
@@ -164,7 +165,9 @@ QImage DecoderProcess::pixels(const UntrustedPicture& picture, const Request& re
     const auto* const file = std::get_if<PictureFile>(&picture);
     if (file != nullptr && image.sizeInBytes() <= maxKept) {
         const std::lock_guard lock(mutex_);
-        if (isThere(source.original ? source.original : source.descriptor)) { // Otherwise `forget` may have been called before.
+        if (isThere(source.original
+                        ? source.original
+                        : source.descriptor)) { // Otherwise `forget` may have been called before.
             kept_.insert(key, new Kept{image, file->path}, image.sizeInBytes());
         }
     }

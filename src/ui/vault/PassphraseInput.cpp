@@ -100,8 +100,8 @@ QVariant PassphraseInput::inputMethodQuery(Qt::InputMethodQuery query) const {
     case Qt::ImEnabled:
         return true;
     case Qt::ImHints:
-        return static_cast<int>(Qt::ImhHiddenText | Qt::ImhSensitiveData |
-                                Qt::ImhNoPredictiveText | Qt::ImhNoAutoUppercase);
+        return static_cast<int>(Qt::ImhHiddenText | Qt::ImhSensitiveData | Qt::ImhNoPredictiveText |
+                                Qt::ImhNoAutoUppercase);
     default:
         return QQuickItem::inputMethodQuery(query);
     }

@@ -118,15 +118,14 @@ TEST_F(LockedPanel, SaysWhatIsWrong) {
     };
 
     const QString safe = u"Nothing was overwritten."_s;
-    const Row table[] = {
-        {[&] { keyring.isThere = false; }, u"No keyring answers"_s,
-         u"Ravelo\u2019s key is kept there. Start it, or log in again."_s},
-        {[&] {
-             keyring.isThere = true;
-             keyring.isLocked = false;
-             keyring.secrets.clear();
-         },
-         u"The key is not in the keyring"_s, safe}};
+    const Row table[] = {{[&] { keyring.isThere = false; }, u"No keyring answers"_s,
+                          u"Ravelo\u2019s key is kept there. Start it, or log in again."_s},
+                         {[&] {
+                              keyring.isThere = true;
+                              keyring.isLocked = false;
+                              keyring.secrets.clear();
+                          },
+                          u"The key is not in the keyring"_s, safe}};
     load();
     for (const Row& row : table) {
         row.change();
