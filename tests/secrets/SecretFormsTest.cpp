@@ -94,7 +94,7 @@ public:
 
     template <typename... Texts>
     QString one(const Texts&... texts) {
-        const QStringList list{QString(texts)...};
+        const QStringList list{QStringView(texts).toString()...};
         return list[number(0, int(list.size()) - 1)];
     }
 
