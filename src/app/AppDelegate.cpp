@@ -272,8 +272,9 @@ void AppDelegate::provideWindows() {
                                       }};
     settingsWindow_ = std::make_unique<SettingsWindow>(SettingsWindow::Subjects{
         beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get(),
-        platform_.display->pasteboard().namesPrograms(), selected_ != nullptr,
-        [this] { erase([](const Answer&) {}); }});
+        platform_.display->pasteboard().namesPrograms(), selected_ != nullptr, [this] {
+            erase([](const Answer&) {});
+        }});
     onboarding_ = std::make_unique<OnboardingController>(
         beside, *settings_, platform_.display->screens(), platform_.extension.get());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());

@@ -14,7 +14,6 @@ Pressable {
     readonly property bool wide: pausing.paused && !narrow
 
     function openMenu() {
-        menu.checkable = pausing.paused;
         menu.minWidth = pausing.paused ? 262 : 206;
         menu.entries = entries();
         menu.openLeftUnder(button, 0);

@@ -17,7 +17,7 @@ TEST_F(PauseButton, PausesByItsMenuAndResumesByAClick) {
     EXPECT_EQ(label(), u"15 min"_s);
     world.scheduler.advance(Seconds(60));
     EXPECT_EQ(label(), u"14 min"_s);
-    world.scheduler.advance(Seconds(13 * 60 + 10));
+    world.scheduler.advance(Seconds(13 * 60 + 10.5));
     EXPECT_EQ(label(), u"50 sec"_s);
     EXPECT_TRUE(eventually([this] { return shown(u"pauseMenu"_s) == nullptr; }));
 
