@@ -81,7 +81,7 @@ QString cardDigits(QStringView written) {
     }
     QString digits;
     for (const QStringView group : written.split(*separator)) {
-        const bool fits = group.size() >= 3 && group.size() <= 6;
+        const bool fits = group.size() >= 2 && group.size() <= 6;
         if (!fits || !std::ranges::all_of(group, isDigit)) {
             return {};
         }

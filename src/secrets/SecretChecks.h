@@ -13,7 +13,7 @@ namespace ravelo {
 /// As irregular as a generated key: not a name, a path, a checksum or an identifier.
 [[nodiscard]] bool hasEntropyOfKey(QStringView word);
 
-/// A card number as it is written: digits in a row, or in groups of at least three, all separated
+/// A card number as it is written: digits in a row, or in groups of two to six, all separated
 /// by a blank or all by a hyphen. Returns the digits; empty if it is written otherwise.
 [[nodiscard]] QString cardDigits(QStringView written);
 

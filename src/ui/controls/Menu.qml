@@ -112,7 +112,7 @@ Popover {
 
             Label {
                 id: label
-                x: menu.checkable ? 30 : 8
+                x: menu.checkable ? 30 : 12
                 y: 6
                 width: Math.min(implicitWidth, item.width - x - 10)
                 text: item.modelData.text ?? ""
