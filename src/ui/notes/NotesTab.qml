@@ -16,7 +16,7 @@ TabPage {
     flick: scrolled
 
     LockedView {
-        objectName: "locked"
+        objectName: "lockedNotes"
         visible: Vault.locked
         focus: visible
         y: tab.headInSight

@@ -30,7 +30,7 @@ TabPage {
     }
 
     LockedView {
-        objectName: "locked"
+        objectName: "lockedShelf"
         visible: Vault.locked
         focus: visible
         y: tab.head

@@ -15,7 +15,7 @@ TEST_F(PauseButton, PausesByItsMenuAndResumesByAClick) {
     clickIn(u"pauseMenu"_s, u"item0"_s);
     EXPECT_EQ(world.pause.remaining(), Seconds(15 * 60));
     EXPECT_EQ(label(), u"15 min"_s);
-    world.scheduler.advance(Seconds(60));
+    world.scheduler.advance(Seconds(60.5));
     EXPECT_EQ(label(), u"14 min"_s);
     world.scheduler.advance(Seconds(13 * 60 + 10.5));
     EXPECT_EQ(label(), u"50 sec"_s);

@@ -146,7 +146,7 @@ TEST_F(LockedPanel, ShowsNewCopiesUntilThen) {
         world.controller.dismiss();
         world.scheduler.advance(untilBuilt);
         world.controller.toggle();
-        EXPECT_TRUE(item(u"locked"_s)->isVisible()) << qPrintable(tab);
+        EXPECT_TRUE(item(u"locked"_s + tab)->isVisible()) << qPrintable(tab);
     }
 }
 
