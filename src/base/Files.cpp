@@ -189,7 +189,8 @@ Result<void> syncFolderOf(const QString& path) {
 }
 
 bool isTemporaryName(const QString& name) {
-    static const QRegularExpression form(QStringLiteral("\\.[A-Za-z0-9]{6}$"));
+    // Never destroyed: the saving thread may need it until the process ends.
+    static const auto& form = *new QRegularExpression(QStringLiteral("\\.[A-Za-z0-9]{6}$"));
     return form.match(name).hasMatch();
 }
 

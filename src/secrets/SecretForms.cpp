@@ -93,7 +93,8 @@ bool hasForm(const QString& text, const QString& token, const SecretForm& form) 
 } // namespace
 
 const std::vector<SecretForm>& SecretForms::all() {
-    static const std::vector<SecretForm> forms = parsedFile();
+    // Never destroyed: other threads look at it until the process ends.
+    static const auto& forms = *new const std::vector<SecretForm>(parsedFile());
     return forms;
 }
 

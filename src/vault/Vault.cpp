@@ -5,8 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
@@ -97,8 +97,12 @@ void Vault::leave() {
 
 /// A copy that was put aside keeps the name of its original.
 QString Vault::nameOf(const QString& path) const {
-    static const QRegularExpression aside(u"\\.unreadable\\d*$"_s);
-    return QDir(folder_).relativeFilePath(path).remove(aside);
+    const QString name = QDir(folder_).relativeFilePath(path);
+    const qsizetype mark = name.lastIndexOf(u".unreadable"_s);
+    const QStringView number = mark < 0 ? QStringView() : QStringView(name).sliced(mark + 11);
+    const bool aside =
+        mark >= 0 && std::ranges::all_of(number, [](QChar one) { return one.isDigit(); });
+    return aside ? name.first(mark) : name;
 }
 
 Vault::Contents Vault::read(const QString& path) const {

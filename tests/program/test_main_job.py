@@ -356,7 +356,7 @@ class Keyboard(ProgramCase):
         wait_for(self.ravelo.is_collapsed, "the panel to close")
 
         self.toggle()
-        self.press("Tab", "Tab", "Right", "Right", "Delete", "Right", "Return")
+        self.press("Tab", "Tab", "Tab", "Right", "Right", "Delete", "Right", "Return")
         wait_for(lambda: "Booking confirmed" not in
                  [one["title"] for one in self.ravelo.store()["snippets"]], "the snippet removed")
         self.press("F2", "ctrl+a")
