@@ -60,6 +60,7 @@ class PythonClient(Client):
         super().__init__(desktop)
         self.process = desktop.peer("env", "GTK_A11Y=none", "/usr/bin/python3", HERE / self.script,
                                     COLOR, stdin=subprocess.PIPE)
+        time.sleep(3)  # For its window, which looks like what is below.
 
     def _ask(self, request):
         self.focus()

@@ -186,7 +186,7 @@ class SwayDesktop(WaylandDesktop):
         configuration = self._folder / "config"
         configuration.write_text(SWAY_CONFIGURATION.format(
             report=writing, xwayland="force" if self.xwayland else "disable",
-            prepare="xhost +local: >/dev/null;" if self.xwayland else ""))  # For other users.
+            prepare="xhost +local: >/dev/null &&" if self.xwayland else ""))  # For other users.
         self._spawn_wlroots("sway", "-c", configuration, pass_fds=(writing,))
         os.close(writing)
         with os.fdopen(reading) as answer:
