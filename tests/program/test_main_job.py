@@ -780,6 +780,7 @@ class Encrypted(SearchingCase, AssistiveCase, ProgramCase):
         wait_for(lambda: self.exported() == ["Marker-two", "Image", MARKER], self.exported)
         self.open_storage()
         self.act("Encrypt what is stored")
+        wait_for(lambda: not self.is_encrypted(), "plain files")
         self.wait_for_texts("Marker-two", "Image", MARKER)
         wait_for(lambda: not (self.ravelo.folder / "key").exists(), "no key file")
         self.assertTrue(self.images()[0].read_bytes().startswith(b"\x89PNG"))
