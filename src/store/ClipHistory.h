@@ -20,7 +20,7 @@ struct HistoryRules {
     enum class Order { olderFirst, newerFirst };
 
     Order order = Order::olderFirst;
-    int limit = 60; ///< Of unpinned clips; pinned ones are always kept.
+    int limit = 60;        ///< Of unpinned clips; pinned ones are always kept.
     double keepFor = 0;    ///< Seconds since the copy; 0 for ever.
     qint64 textBytes = 0;  ///< Of all texts together, in UTF-8; 0 for no limit.
     qint64 imageBytes = 0; ///< Of all image files together; 0 for no limit.

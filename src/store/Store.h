@@ -272,9 +272,9 @@ private:
     bool opening_ = false; ///< Its contents are being read.
     HistoryRules rules_;
     ImageSizes imageSizes_;
-    QSet<QString> lentImages_; ///< On their way to a clip or a snippet.
-    QStringList waitingFiles_; ///< To be removed after the next save.
-    std::function<void()> dropped_; ///< Set while a lock waits for a save.
+    QSet<QString> lentImages_;                      ///< On their way to a clip or a snippet.
+    QStringList waitingFiles_;                      ///< To be removed after the next save.
+    std::function<void()> dropped_;                 ///< Set while a lock waits for a save.
     std::function<void(const SaveOutcome&)> saved_; ///< Waits for the next save.
     Handle trimming_;
     QString folder_;

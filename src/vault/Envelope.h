@@ -68,7 +68,7 @@ private:
 
     KeyId id_;
     LockedBytes master_;
-    LockedBytes files_;  ///< The files' keys come from it.
+    LockedBytes files_; ///< The files' keys come from it.
     LockedBytes tags_;
     LockedBytes secret_; ///< Belongs to the public key.
     PublicKey public_{};

@@ -48,7 +48,6 @@ public:
     /// Replies, also if `onRequest` is not set.
     void answer(const QStringList& request, const QByteArray& activationToken,
                 const Reply& reply) const;
-
 };
 
 } // namespace ravelo

@@ -28,9 +28,7 @@ public:
     /// `ownFolder` has the pictures that the program keeps itself; `opener`, if any, is asked for
     /// those only.
     DecoderProcess(QByteArray program, const QByteArray& ownFolder, Opener opener = {})
-        : program_(std::move(program)),
-          ownFolder_(ownFolder + '/'),
-          opener_(std::move(opener)) {}
+        : program_(std::move(program)), ownFolder_(ownFolder + '/'), opener_(std::move(opener)) {}
 
     [[nodiscard]] PictureLook look(const UntrustedPicture& picture) override;
     [[nodiscard]] QImage filling(const UntrustedPicture& picture, PictureShape shape) override;
@@ -74,9 +72,9 @@ private:
     const QByteArray program_;
     const QByteArray ownFolder_; ///< With a slash at its end.
     const Opener opener_;
-    std::mutex mutex_;           ///< Guards the members below; never held while waiting.
-    std::vector<Idle> idle_;     ///< Longest idle first.
-    QSet<QByteArray> bad_;       ///< Not to be tried again.
+    std::mutex mutex_;       ///< Guards the members below; never held while waiting.
+    std::vector<Idle> idle_; ///< Longest idle first.
+    QSet<QByteArray> bad_;   ///< Not to be tried again.
     QCache<QByteArray, Kept> kept_{1 << 20}; ///< By picture and request; the limit is in bytes.
 };
 

@@ -40,8 +40,8 @@ public:
         pinnedRole,
         subtitleRole,
         imageFileNameRole,
-        orderRole, ///< Among the chosen clips, from 1; 0 if it is not chosen.
-        marksRole, ///< Where the title has what is searched for; a list of TextRange.
+        orderRole,  ///< Among the chosen clips, from 1; 0 if it is not chosen.
+        marksRole,  ///< Where the title has what is searched for; a list of TextRange.
         maskRole,   ///< What is shown instead of a secret's text, in runs; empty for other clips.
         spokenRole, ///< Name for screen readers.
     };

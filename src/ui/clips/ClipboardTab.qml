@@ -157,7 +157,7 @@ TabPage {
     function select(row: int) {
         current()?.hide();
         list.currentIndex = Math.max(0, Math.min(row, list.count - 1));
-        Qt.callLater(preview.follow);
+        Qt.callLater(() => preview.follow());
         const before = list.contentY;
         showCurrent();
         if (head > 0 && shown && list.contentY !== before) {

@@ -1,6 +1,5 @@
 import QtQuick
 import Ravelo.Clips
-import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
@@ -21,23 +20,24 @@ Item {
 
     readonly property bool hovered: hover.hovered
     /// The text in it has the keyboard.
-    readonly property bool focused: (text.item as PreviewText)?.focused ?? false
-    readonly property Item body: text.item ?? image.item ?? color.item ?? link.item
+    readonly property bool focused: text.focused
+    readonly property Item body: preview.kind === ClipPreview.Text ? text
+        : preview.kind === ClipPreview.Image ? image : preview.kind === ClipPreview.Color ? color : link
     readonly property real most: lowest - highest - footer.height
     readonly property real wide: room < 764 ? Math.max(240, room - 160) : 452
 
     function scroll(by: int) {
-        (text.item as PreviewText)?.scroll(by);
+        text.scroll(by);
     }
 
     function focusText() {
-        (text.item as PreviewText)?.focusText();
+        text.focusText();
     }
 
     x: room - width
     y: Math.round(Math.max(highest, Math.min(centre - height / 2, lowest - height)))
-    width: body?.implicitWidth ?? 0
-    height: (body?.implicitHeight ?? 0) + footer.height
+    width: body.implicitWidth
+    height: body.implicitHeight + footer.height
     visible: opacity > 0
     enabled: opened
     opacity: opened ? 1 : 0
@@ -45,7 +45,7 @@ Item {
     transformOrigin: Item.Right
     Accessible.role: Accessible.Dialog
     Accessible.name: preview.kind === ClipPreview.Image ? qsTr("Image, %1").arg(preview.measure)
-        : preview.kind === ClipPreview.Color ? qsTr("Color, hex %1").arg(preview.values[0].slice(1).split("").join(" "))
+        : preview.kind === ClipPreview.Color ? qsTr("Color, hex %1").arg(String(preview.values[0]).slice(1).split("").join(" "))
         : qsTr("Preview")
 
     Behavior on opacity {
@@ -94,46 +94,40 @@ Item {
         onWheel: wheel => wheel.accepted = true
     }
 
-    Loader {
+    PreviewText {
         id: text
-        active: bubble.visible && bubble.preview.kind === ClipPreview.Text
+        visible: bubble.preview.kind === ClipPreview.Text
         width: parent.width
         height: footer.y
-        sourceComponent: PreviewText {
-            preview: bubble.preview
-            implicitWidth: bubble.wide
-            largest: bubble.most
-        }
+        preview: bubble.preview
+        implicitWidth: bubble.wide
+        largest: bubble.most
     }
 
-    Loader {
+    PreviewImage {
         id: image
-        active: bubble.visible && bubble.preview.kind === ClipPreview.Image
+        visible: bubble.preview.kind === ClipPreview.Image
         width: parent.width
         height: footer.y
-        sourceComponent: PreviewImage {
-            preview: bubble.preview
-            largest: Qt.size(424, bubble.most - 28)
-        }
+        preview: bubble.preview
+        largest: Qt.size(424, bubble.most - 28)
     }
 
-    Loader {
+    PreviewColor {
         id: color
-        active: bubble.visible && bubble.preview.kind === ClipPreview.Color
-        sourceComponent: PreviewColor {
-            preview: bubble.preview
-        }
+        visible: bubble.preview.kind === ClipPreview.Color
+        width: parent.width
+        preview: bubble.preview
     }
 
-    Loader {
+    PreviewLink {
         id: link
-        active: bubble.visible && bubble.preview.kind === ClipPreview.Link
+        visible: bubble.preview.kind === ClipPreview.Link
+        width: parent.width
         height: footer.y
-        sourceComponent: PreviewLink {
-            preview: bubble.preview
-            implicitWidth: bubble.wide
-            largest: bubble.most
-        }
+        preview: bubble.preview
+        implicitWidth: bubble.wide
+        largest: bubble.most
     }
 
     PreviewFooter {

@@ -1,6 +1,5 @@
 import QtQuick
 import Ravelo.Clips
-import Ravelo.Theme
 
 /// A whole picture, at most in its own size.
 Item {
@@ -9,7 +8,7 @@ Item {
     required property ClipPreview preview
     required property size largest
 
-    readonly property size pixels: preview.pixels
+    readonly property size pixels: Qt.size(preview.pixels.width, preview.pixels.height)
     readonly property real shrunk: pixels.width > 0
         ? Math.min(1, largest.width / pixels.width, largest.height / pixels.height) : 0
 

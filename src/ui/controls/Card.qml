@@ -111,7 +111,14 @@ Item {
         }
     }
 
+    Binding {
+        target: titleLabel
+        property: "marks"
+        value: card.marks
+    }
+
     Label {
+        id: titleLabel
         objectName: "title"
         x: 46
         y: 4.5
@@ -119,7 +126,6 @@ Item {
         style: Theme.rowTitle
         visible: card.runs.length === 0
         text: card.title
-        marks: card.marks
         color: card.titleColor
     }
 

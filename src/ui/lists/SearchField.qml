@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import Ravelo.Controls
-import Ravelo.Lists
 import Ravelo.Paint
 import Ravelo.Text
 import Ravelo.Theme

@@ -14,8 +14,14 @@ SettingsSection {
     /// The desktop says which program copies.
     required property bool knowsPrograms
 
+    Timer {
+        id: added
+        interval: 0
+        onTriggered: section.goToLast()
+    }
+
     function removePattern(index: int, byKey: bool) {
-        settings.ignoredPatterns = settings.ignoredPatterns.filter((one, at) => at !== index);
+        settings.ignoredPatterns = Array.from(settings.ignoredPatterns).filter((one, at) => at !== index);
         if (byKey) {
             (patterns.itemAt(index) as PatternRow)?.line.forceActiveFocus();
         }
@@ -62,7 +68,7 @@ SettingsSection {
                 settings: section.settings
                 trial: ignoring
                 onRemoved: byKey => section.removePattern(index, byKey)
-                onAdded: Qt.callLater(section.goToLast)
+                onAdded: added.start()
             }
         }
     }

@@ -31,7 +31,7 @@ Item {
             }
             return;
         }
-        const patterns = settings.ignoredPatterns.slice();
+        const patterns = Array.from(settings.ignoredPatterns);
         patterns[index] = line.text;
         settings.ignoredPatterns = patterns;
     }

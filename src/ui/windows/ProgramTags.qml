@@ -14,14 +14,14 @@ Flow {
     required property AppSettings settings
 
     function add(name: string) {
-        const known = settings.ignoredPrograms.some(one => one.toLowerCase() === name.toLowerCase());
+        const known = Array.from(settings.ignoredPrograms).some(one => one.toLowerCase() === name.toLowerCase());
         if (name !== "" && !known) {
-            settings.ignoredPrograms = settings.ignoredPrograms.concat([name]);
+            settings.ignoredPrograms = Array.from(settings.ignoredPrograms).concat([name]);
         }
     }
 
     function remove(index: int, byKey: bool) {
-        settings.ignoredPrograms = settings.ignoredPrograms.filter((name, at) => at !== index);
+        settings.ignoredPrograms = Array.from(settings.ignoredPrograms).filter((name, at) => at !== index);
         if (byKey) {
             (names.itemAt(Math.min(index, names.count - 1)) ?? field).forceActiveFocus();
         }

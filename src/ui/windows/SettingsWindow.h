@@ -40,7 +40,7 @@ public:
         DesktopExtension* extension = nullptr; ///< Null if the desktop needs none.
         bool knowsPrograms = true;
         bool knowsSelection = true;
-        std::function<void()> erase = {};      ///< Everything; then the program ends.
+        std::function<void()> erase = {}; ///< Everything; then the program ends.
     };
 
     explicit SettingsWindow(Subjects subjects);

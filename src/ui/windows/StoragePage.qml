@@ -133,10 +133,9 @@ Column {
                 objectName: "key"
                 label: qsTr("Key")
                 value: Vault.byPassphrase || page.newPassphrase
-                choices: [
-                    { text: qsTr("From the keyring"), value: false },
+                choices: (Vault.hasKeyring ? [{ text: qsTr("From the keyring"), value: false }] : []).concat([
                     { text: qsTr("Passphrase…"), value: true }
-                ].filter(choice => choice.value || Vault.hasKeyring)
+                ])
                 onChosen: value => page.useKey(value)
             }
         }
