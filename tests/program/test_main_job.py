@@ -989,7 +989,8 @@ class Drops(ProgramCase):
 
 class Tray(ProgramCase):
     ROWS = [("Open Ravelo", []), ("Settings…", [["Control", ","]]), ("Set Up Ravelo Again…", []),
-            ("Check for Updates…", []), (None, []), ("Quit Ravelo", [["Control", "Q"]])]
+            ("Check for Updates…", []), (None, []), ("Quit Ravelo", [["Control", "Q"]]), (None, []),
+            ("Pause Capture", [])]
 
     def host(self):
         host = TrayHost(self.desktop.bus())
