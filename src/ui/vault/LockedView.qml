@@ -16,7 +16,7 @@ FocusScope {
     Column {
         anchors.horizontalCenter: parent.horizontalCenter
         anchors.verticalCenter: parent.verticalCenter
-        anchors.verticalCenterOffset: Vault.asksPassphrase ? 4 : 3
+        anchors.verticalCenterOffset: Vault.asksPassphrase ? 2 : 1
 
         Box {
             objectName: "lockedDisc"

@@ -41,7 +41,7 @@ FieldFrame {
             objectName: "dots"
             x: Math.min(0, parent.width - width - 4)
             anchors.verticalCenter: parent.verticalCenter
-            spacing: 4
+            spacing: 5
 
             Repeater {
                 model: secret.length

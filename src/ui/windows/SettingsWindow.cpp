@@ -10,8 +10,11 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// With one decimal below 10.
+/// With one decimal below 10 MB.
 QString megabytes(qint64 bytes) {
+    if (bytes < (1 << 20)) {
+        return SettingsWindow::tr("%1 KB").arg(QLocale().toString((bytes + 1023) / 1024));
+    }
     const double size = static_cast<double>(bytes) / (1 << 20);
     return SettingsWindow::tr("%1 MB").arg(QLocale().toString(size, 'f', size < 10 ? 1 : 0));
 }
