@@ -901,7 +901,7 @@ class HungOwner(ProgramCase):
 
 
 class Focus(ProgramCase):
-    BACK_TO_THE_NOTE = ["shift+Tab"] * 12  # From the search: tabs, buttons, reminders, menus.
+    BACK_TO_THE_NOTE = ["shift+Tab"] * 13  # From the search: tabs, buttons, reminders, menus.
 
     def setUp(self):
         super().setUp()
