@@ -97,6 +97,30 @@ TEST_F(Panel, spaceShowsThePreviewOfTheCurrentRow) {
     item(u"preview"_s);
 }
 
+TEST_F(Panel, severalClipsAreCopiedAsOneInTheOrderOfChoosing) {
+    openSearch();
+    pressKeys(u"Down Ctrl+Space Up Ctrl+Space"_s);
+    EXPECT_EQ(text(u"copySelected"_s), u"Copy 2"_s);
+    EXPECT_TRUE(in(u"card1"_s, u"order"_s)->isVisible());
+    pressKeys(u"Return"_s);
+    EXPECT_EQ(pasteboardText(), u"second\nfirst"_s);
+    EXPECT_FALSE(world.controller.isOpen());
+}
+
+TEST_F(Panel, severalClipsAreChosenByShiftOrAllAndDeletedAtOnce) {
+    openSearch();
+    pressKeys(u"Shift+Down"_s);
+    EXPECT_EQ(view.features().clips->selected(), 2);
+    pressKeys(u"Shift+Up Esc"_s);
+    EXPECT_EQ(view.features().clips->selected(), 0);
+    EXPECT_TRUE(world.controller.isOpen());
+    pressKeys(u"Ctrl+A Delete"_s);
+    EXPECT_EQ(clips(), QString());
+    EXPECT_EQ(toast(), u"3 deleted"_s);
+    pressKeys(u"Ctrl+Z"_s);
+    EXPECT_TRUE(eventually([this] { return clips() == u"first second third"_s; }));
+}
+
 TEST_F(Panel, thePointerOnATileShowsThePreviewUntilItLeaves) {
     open();
     const QQuickItem* card = hover(u"card1"_s);
