@@ -27,6 +27,9 @@ public:
     /// as on sway before 1.8, which has no protocol for lockers (ext-session-lock).
     [[nodiscard]] bool coverLockers() const { return coverLockers_; }
 
+    /// A press elsewhere takes the keyboard from a surface that has it, as on KWin.
+    [[nodiscard]] bool loseKeyboardByPress() const { return loseKeyboardByPress_; }
+
     /// See InvisibleSurface; null if the compositor cannot do it.
     [[nodiscard]] std::unique_ptr<InvisibleSurface> makeInvisible(QScreen* screen, QSize size);
 
@@ -36,6 +39,7 @@ private:
     std::unique_ptr<Globals> globals_;
     LayerShell shell_;
     bool coverLockers_;
+    bool loseKeyboardByPress_;
     std::unique_ptr<InvisiblePixel> pixel_; ///< Or null.
     BlurBehind blur_;
     InputSeat seat_;

@@ -27,6 +27,9 @@ constexpr int usualWidth = 1024;
 /// A compositor that has not taken the keyboard back by then keeps it here.
 constexpr std::chrono::milliseconds returnTime(50);
 
+/// If the compositor does not report that the keyboard is gone.
+constexpr std::chrono::milliseconds goneTime(1000);
+
 /// Even, as most screens are: half pixels on both sides would blur it.
 int evenWidth(int width) {
     return width + width % 2;
@@ -178,11 +181,14 @@ void WaylandPanelWindow::goForAMoment() {
     role_.reset();
     wl_display_flush(qt::display());
     isGoing_ = true;
-    QTimer::singleShot(returnTime, this, [this] {
-        isGoing_ = false;
+    QTimer::singleShot(goneTime, this, [this] { comeBack(); });
+}
+
+void WaylandPanelWindow::comeBack() {
+    if (std::exchange(isGoing_, false)) {
         hide();
         show();
-    });
+    }
 }
 
 void WaylandPanelWindow::setKeyboard(Keyboard keyboard) {
@@ -203,6 +209,8 @@ bool WaylandPanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
     case QEvent::FocusOut:
         if (wantsKeyboard()) {
             pressedOutside();
+        } else if (isGoing_) {
+            QTimer::singleShot(0, this, [this] { comeBack(); });
         }
         break;
     default:
@@ -223,9 +231,12 @@ void WaylandPanelWindow::pressedOutside() {
     pressListeners_.notify(HotZone::Press::elsewhere);
 }
 
-/// A layer surface that has the keyboard keeps it when another window is clicked, and is not told.
-/// So that click goes to us.
+/// On most compositors, a layer surface that has the keyboard keeps it when another window is
+/// clicked, and is not told. So that click goes to us. KWin would give the keyboard to the catcher.
 void WaylandPanelWindow::catchPresses() {
+    if (surfaces_.loseKeyboardByPress()) {
+        return;
+    }
     for (QScreen* const screen : QGuiApplication::screens()) {
         if (auto catcher = surfaces_.makeInvisible(screen, wholeOutput)) {
             catchers_[screen->name()] = std::move(catcher);

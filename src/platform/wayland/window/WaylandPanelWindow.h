@@ -73,6 +73,7 @@ private:
     [[nodiscard]] bool mayCoverLocker() const;
     void showAgainSoon();
     void goForAMoment();
+    void comeBack();
     void setKeyboard(Keyboard keyboard);
     void pressedOutside();
     void catchPresses();
