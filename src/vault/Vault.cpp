@@ -5,8 +5,8 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
@@ -95,10 +95,17 @@ void Vault::leave() {
     kept_.clear();
 }
 
-/// A copy that was put aside keeps the name of its original.
+/// A copy that was put aside keeps the name of its original. Also called at exit, when static
+/// objects are gone.
 QString Vault::nameOf(const QString& path) const {
-    static const QRegularExpression aside(u"\\.unreadable\\d*$"_s);
-    return QDir(folder_).relativeFilePath(path).remove(aside);
+    QString name = QDir(folder_).relativeFilePath(path);
+    constexpr QLatin1StringView aside(".unreadable");
+    const qsizetype place = name.lastIndexOf(aside);
+    if (place > 0 && std::all_of(name.cbegin() + place + aside.size(), name.cend(),
+                                 [](QChar letter) { return letter.isDigit(); })) {
+        name.truncate(place);
+    }
+    return name;
 }
 
 Vault::Contents Vault::read(const QString& path) const {
