@@ -3,7 +3,6 @@
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
-#include <QRegularExpression>
 
 #include <algorithm>
 #include <cerrno>
@@ -189,9 +188,13 @@ Result<void> syncFolderOf(const QString& path) {
 }
 
 bool isTemporaryName(const QString& name) {
-    // Never destroyed: the saving thread may need it until the process ends.
-    static const auto& form = *new QRegularExpression(QStringLiteral("\\.[A-Za-z0-9]{6}$"));
-    return form.match(name).hasMatch();
+    // Also called at exit, when a static regular expression would be gone.
+    constexpr qsizetype length = sizeof(temporarySuffix) - 1;
+    const auto isLetter = [](QChar c) {
+        return c.unicode() < 0x80 && c.isLetterOrNumber();
+    };
+    return name.size() >= length && name[name.size() - length] == u'.' &&
+           std::all_of(name.cend() - (length - 1), name.cend(), isLetter);
 }
 
 void makePrivateFolder(const QString& path) {

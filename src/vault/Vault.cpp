@@ -95,14 +95,17 @@ void Vault::leave() {
     kept_.clear();
 }
 
-/// A copy that was put aside keeps the name of its original.
+/// A copy that was put aside keeps the name of its original. Also called at exit, when static
+/// objects are gone.
 QString Vault::nameOf(const QString& path) const {
-    const QString name = QDir(folder_).relativeFilePath(path);
-    const qsizetype mark = name.lastIndexOf(u".unreadable"_s);
-    const QStringView number = mark < 0 ? QStringView() : QStringView(name).sliced(mark + 11);
-    const bool aside =
-        mark >= 0 && std::ranges::all_of(number, [](QChar one) { return one.isDigit(); });
-    return aside ? name.first(mark) : name;
+    QString name = QDir(folder_).relativeFilePath(path);
+    constexpr QLatin1StringView aside(".unreadable");
+    const qsizetype place = name.lastIndexOf(aside);
+    if (place > 0 && std::all_of(name.cbegin() + place + aside.size(), name.cend(),
+                                 [](QChar letter) { return letter.isDigit(); })) {
+        name.truncate(place);
+    }
+    return name;
 }
 
 Vault::Contents Vault::read(const QString& path) const {
