@@ -123,8 +123,9 @@ addEventListener("click", async () => {
 });
 addEventListener("paste", async event => {
     const text = event.clipboardData.getData("text/plain");
+    const files = [...event.clipboardData.files];  // Before the event is over.
     const found = {"text/plain": await encoded(new Blob([text]))};
-    for (const file of event.clipboardData.files) found[file.type] = await encoded(file);
+    for (const file of files) found[file.type] = await encoded(file);
     report(found);
 });
 report(true);
