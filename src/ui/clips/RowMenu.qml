@@ -33,6 +33,7 @@ Menu {
 
     name: qsTr("Clip")
     minWidth: 248
+    plain: true
     entries: clips.selected > 1 ? [
         { text: qsTr("Copy %1").arg(clips.selected), hint: qsTr("Return"), chosen: () => clips.copySelected() },
         { divider: true },

@@ -17,7 +17,8 @@ Popover {
     property int current: -1
 
     readonly property real room: largestHeight - 2 * pad
-    readonly property bool checks: entries.some(entry => entry.checked !== undefined)
+    /// No entry is ever checked.
+    property bool plain: false
 
     function choose(index: int) {
         close();
@@ -110,7 +111,7 @@ Popover {
 
             Label {
                 id: label
-                x: menu.checks ? 30 : 12
+                x: menu.plain ? 12 : 30
                 y: 6
                 width: Math.min(implicitWidth, (hint.text ? hint.x - 24 : item.width - 10) - x)
                 text: item.modelData.text ?? ""

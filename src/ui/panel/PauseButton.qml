@@ -14,6 +14,7 @@ Pressable {
     readonly property bool wide: pausing.paused && !narrow
 
     function openMenu() {
+        menu.plain = !pausing.paused;
         menu.minWidth = pausing.paused ? 262 : 206;
         menu.entries = entries();
         menu.openLeftUnder(button, 0);
