@@ -130,6 +130,7 @@ TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 1000},
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 1000},
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Up, 200},
+        {Qt::Key_3, u"keepDays"_s, Qt::Key_Down, 30},
         {Qt::Key_4, u"hideClaudeCode"_s, Qt::Key_Space, true},
     };
     for (const Case& c : cases) {
@@ -141,10 +142,21 @@ TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
     EXPECT_EQ(world.settings.historyLength(), 200);
 
     press(*window, Qt::Key_3, Qt::ControlModifier);
-    clickOn(window, u"historyLength"_s);
-    press(*window, Qt::Key_Down);
-    press(*window, Qt::Key_Return);
-    EXPECT_EQ(kept(u"historyLength"_s), 60);
+
+    struct Choice {
+        QString control;
+        int kept;
+    };
+
+    const Choice choices[] = {{u"historyLength"_s, 1000},
+                              {u"keepDays"_s, 7},
+                              {u"textLimit"_s, 64},
+                              {u"imageLimit"_s, 512}};
+    for (const Choice& choice : choices) { // The third of each menu.
+        clickOn(window, choice.control);
+        ravelo::pressKeys(*window, u"Down Down Down Return"_s);
+        EXPECT_EQ(kept(choice.control), choice.kept) << qPrintable(choice.control);
+    }
 }
 
 TEST_F(Settings, IgnoresProgramsAndPatterns) {
