@@ -40,6 +40,20 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
             fuzz::require(!key().unseal(name, sealed));
         }
     }
+    // A key file by a passphrase, and with one of its bytes changed.
+    KeyFile own = KeyFile::of(key(), KeyFile::Guard::passphrase, {1, 8});
+    const LockedBytes wrapper = own.stretched(LockedBytes::copyOf(input));
+    own.wrap(key(), wrapper);
+    own.setGoal(size % 2 == 0 ? KeyFile::Goal::plain : KeyFile::Goal::encrypted, key());
+    QByteArray written = own.encoded();
+    fuzz::require(KeyFile::decoded(written) == own && own.unwrap(wrapper).has_value());
+    fuzz::require(!own.service().isEmpty());
+    if (size > 1) {
+        const qsizetype place = (bytes[0] << 8 | bytes[1]) % written.size();
+        written[place] = char(written[place] ^ (bytes[1] | 1));
+        const auto changed = KeyFile::decoded(written);
+        fuzz::require(!changed || !changed->unwrap(wrapper));
+    }
     if (const auto file = KeyFile::decoded(input)) {
         fuzz::require(file->encoded() == input);
         fuzz::require(!file->unwrap(sameBytes(KeyFile::wrapperLength, 7)));
