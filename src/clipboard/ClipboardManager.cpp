@@ -67,6 +67,12 @@ void ClipboardManager::start() {
     });
 }
 
+void ClipboardManager::setRules(CaptureRules rules) {
+    rules_ = std::move(rules);
+    pasteboard_.setNaming(rules_.programs.isEmpty() ? Pasteboard::Naming::off
+                                                    : Pasteboard::Naming::on);
+}
+
 void ClipboardManager::poll() {
     const qint64 count = pasteboard_.changeCount();
     if (count == lastChangeCount_) {

@@ -43,7 +43,7 @@ public:
     void setTextEnds(TextEnds ends) { textEnds_ = ends; }
 
     /// Likewise.
-    void setRules(CaptureRules rules) { rules_ = std::move(rules); }
+    void setRules(CaptureRules rules);
 
     void copyText(const QString& text);
 

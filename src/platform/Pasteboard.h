@@ -97,8 +97,12 @@ public:
     /// that write: `changeCount` may have moved on already.
     virtual qint64 write(const QList<PasteboardEntry>& forms) = 0;
 
-    /// Whether the names of owners are known.
+    /// Whether the names of owners can be known.
     [[nodiscard]] virtual bool namesPrograms() const { return false; }
+
+    /// Whether to find out the names of owners, which delays each reading a little. Off at first.
+    enum class Naming { off, on };
+    virtual void setNaming(Naming /*naming*/) {}
 
     /// Which contents count as orphaned. Some display servers cannot distinguish the end of an
     /// owner from clearing.

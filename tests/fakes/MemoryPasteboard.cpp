@@ -23,6 +23,9 @@ PasteboardSnapshot MemoryPasteboard::follow(const PasteboardPlan& plan) {
     PasteboardSnapshot snapshot;
     snapshot.changeCount = changeCount_;
     snapshot.owner = owner;
+    if (naming_ == Naming::off) {
+        snapshot.owner.names.clear();
+    }
     snapshot.tooLarge = tooLarge;
     if (lastEnd_) {
         snapshot.lastEnd = {lastEnd_->changeCount, lastChange_ - lastEnd_->time};

@@ -20,6 +20,8 @@ public:
                               std::function<void(PasteboardSnapshot)> done) override;
     qint64 write(const QList<PasteboardEntry>& forms) override;
 
+    void setNaming(Naming naming) override { naming_ = naming; }
+
     [[nodiscard]] Orphans orphans() const override { return orphansAre; }
 
     [[nodiscard]] std::optional<qint64> orphaned() const override { return orphaned_; }
@@ -99,6 +101,7 @@ private:
     bool saveAsked_ = false;
     std::optional<SaveAnswer> saveAnswer_;
     bool silent_ = false;
+    Naming naming_ = Naming::off;
 };
 
 } // namespace ravelo

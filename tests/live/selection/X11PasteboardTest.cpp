@@ -49,6 +49,7 @@ TEST_F(X11PasteboardTest, namesTheOwnersProgram) {
                             8, size, names);
         xcb_flush(xcb);
     };
+    board().setNaming(Pasteboard::Naming::on);
     EXPECT_EQ(read(plainTextType).owner.names, QStringList());
     name(session_.clipboardOwner(), "keepassxc\0KeePassXC", 20);
     EXPECT_EQ(read(plainTextType).owner.names, QStringList({u"keepassxc"_s, u"KeePassXC"_s}));

@@ -3,15 +3,15 @@
 #include "platform/x11/connection/Properties.h"
 
 #include <algorithm>
+#include <vector>
 
 namespace ravelo::x11 {
 
 namespace {
 
-QStringList classOf(Connection& connection, xcb_window_t window) {
+QStringList classNames(const QByteArray& property) {
     QStringList names;
-    for (const QByteArray& name :
-         PropertyRequest(connection, window, XCB_ATOM_WM_CLASS).bytes().split('\0')) {
+    for (const QByteArray& name : property.split('\0')) {
         if (!name.isEmpty()) {
             names.append(QString::fromUtf8(name));
         }
@@ -19,33 +19,37 @@ QStringList classOf(Connection& connection, xcb_window_t window) {
     return names;
 }
 
-QStringList classNamedBy(Connection& connection, xcb_window_t window, const QByteArray& property) {
-    const auto named = PropertyRequest(connection, window, connection.atom(property)).cardinals();
-    return named.empty() ? QStringList() : classOf(connection, named.front());
-}
-
-QStringList classOfClient(Connection& connection, const OwnClient& clients, xcb_window_t owner) {
-    const auto windows =
-        PropertyRequest(connection, connection.root(), connection.atom("_NET_CLIENT_LIST"))
-            .cardinals();
-    const auto same = std::ranges::find_if(windows, [&](xcb_window_t window) {
-        return clients.clientOf(window) == clients.clientOf(owner);
-    });
-    return same == windows.end() ? QStringList() : classOf(connection, *same);
-}
-
 } // namespace
 
 QStringList ownerNames(Connection& connection, const OwnClient& clients, xcb_window_t owner) {
-    QStringList names = classOf(connection, owner);
-    if (names.isEmpty()) {
-        names = classNamedBy(connection, owner, "WM_CLIENT_LEADER");
+    const xcb_window_t root = connection.root();
+    // All at once: one round trip.
+    PropertyRequest own(connection, owner, XCB_ATOM_WM_CLASS);
+    PropertyRequest leaders(connection, owner, connection.atom("WM_CLIENT_LEADER"));
+    PropertyRequest list(connection, root, connection.atom("_NET_CLIENT_LIST"));
+    PropertyRequest active(connection, root, connection.atom("_NET_ACTIVE_WINDOW"));
+    std::vector<PropertyRequest> classes;
+    const auto add = [&](const std::vector<uint32_t>& windows, auto isMeant) {
+        const auto window = std::ranges::find_if(windows, isMeant);
+        if (window != windows.end()) {
+            classes.emplace_back(connection, *window, XCB_ATOM_WM_CLASS);
+        }
+    };
+    QStringList names = classNames(own.bytes());
+    if (!names.isEmpty()) {
+        return names;
     }
-    if (names.isEmpty()) {
-        names = classOfClient(connection, clients, owner);
-    }
-    if (names.isEmpty()) {
-        names = classNamedBy(connection, connection.root(), "_NET_ACTIVE_WINDOW");
+    const auto any = [](xcb_window_t window) {
+        return window != XCB_NONE;
+    };
+    add(leaders.cardinals(), any);
+    add(list.cardinals(),
+        [&](xcb_window_t window) { return clients.clientOf(window) == clients.clientOf(owner); });
+    add(active.cardinals(), any);
+    for (PropertyRequest& request : classes) {
+        if (names.isEmpty()) {
+            names = classNames(request.bytes());
+        }
     }
     return names;
 }

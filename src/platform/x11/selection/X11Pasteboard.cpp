@@ -56,15 +56,16 @@ Handle X11Pasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSna
         });
     };
     listener_.post([&listener = listener_, counter = counter_, watch = watch_,
-                    saveRequests = saveRequests_, clients = ownClient_, count, key,
-                    plan = std::move(plan), finish = std::move(finish)] {
+                    saveRequests = saveRequests_, clients = ownClient_, naming = naming_, count,
+                    key, plan = std::move(plan), finish = std::move(finish)] {
         // Otherwise the event of an earlier change could still arrive and end the reading.
         listener.catchUp();
         if (counter->value() == count) {
             PasteboardSnapshot known;
             known.changeCount = count;
             known.owner = saveRequests->owner();
-            if (const xcb_window_t owner = saveRequests->ownerWindow(); owner != XCB_NONE) {
+            const xcb_window_t owner = saveRequests->ownerWindow();
+            if (naming == Naming::on && owner != XCB_NONE) {
                 known.owner.names = ownerNames(listener.connection(), clients, owner);
             }
             known.lastEnd = counter->lastEnd();

@@ -27,6 +27,8 @@ public:
 
     [[nodiscard]] bool namesPrograms() const override { return true; }
 
+    void setNaming(Naming naming) override { naming_ = naming; }
+
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return changes_->add(std::move(callback));
     }
@@ -59,6 +61,7 @@ private:
 
     Listener& listener_;
     OwnClient ownClient_;
+    Naming naming_ = Naming::off;
     xcb_atom_t selection_;
     std::shared_ptr<ChangeCounter> counter_ = std::make_shared<ChangeCounter>();
     std::shared_ptr<Notifier> changes_;
