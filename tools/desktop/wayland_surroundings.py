@@ -267,6 +267,7 @@ def gives_back(on):
             on.desktop.move(*AWAY)
             until(lambda: on.desktop.picture().at(MIDDLE + 300, 100) in (RED, WALLPAPER),
                   f"closed, then {text} typed")
+            time.sleep(1)  # Nobody reports who has the keyboard.
             on.desktop.type(text[-1])
             on.expect_typed(window, text, "after it closed")
 
@@ -293,6 +294,7 @@ def dragged_file(on):
         start = until(lambda: on.find(BLUE), "a window to drag from")
         on.desktop.drag(start, (MIDDLE, 6))
         assert source.stdout.readline() == "begin\n"
+        time.sleep(1)  # For its request to the compositor, which notices motion after that.
         on.desktop.move(MIDDLE, 6)
         on.expect_panel_seen([BAR, BLUE, WALLPAPER], "the panel, opened by a dragged file")
         yield source
