@@ -115,6 +115,32 @@ QString withoutMarks(const QString& text) {
     return bare;
 }
 
+QString foldCase(const QString& text, unsigned options) {
+    const auto* source = reinterpret_cast<const UChar*>(text.utf16());
+    const auto length = static_cast<int32_t>(text.size());
+    QString result(text.size(), Qt::Uninitialized);
+    UErrorCode status = U_ZERO_ERROR;
+    auto fold = [&] {
+        status = U_ZERO_ERROR;
+        return u_strFoldCase(reinterpret_cast<UChar*>(result.data()),
+                             static_cast<int32_t>(result.size()), source, length, options, &status);
+    };
+    const int32_t needed = fold();
+    if (needed > result.size()) { // Folding can add characters, as for ß.
+        result.resize(needed);
+        fold();
+    }
+    result.resize(needed);
+    return result;
+}
+
+void appendLower(QString& to, QStringView ascii) {
+    const qsizetype start = to.size();
+    to.resize(start + ascii.size());
+    std::ranges::transform(ascii.utf16(), ascii.utf16() + ascii.size(),
+                           reinterpret_cast<char16_t*>(to.data()) + start, lower);
+}
+
 } // namespace
 
 TextSearch::TextSearch(const QLocale& locale, For what)
@@ -192,8 +218,8 @@ QList<TextRange> TextSearch::matches(const QString& text) const {
     for (const QString& one : levels_.last().wanted) {
         for (qsizetype at = all.folded.indexOf(one); at >= 0;
              at = all.folded.indexOf(one, at + one.size())) {
-            const TextRange last = all.origins[at + one.size() - 1];
-            const qsizetype start = all.origins[at].start;
+            const TextRange last = all.origin(at + one.size() - 1);
+            const qsizetype start = all.origin(at).start;
             matches.append({start, last.start + last.length - start});
         }
     }
@@ -201,6 +227,9 @@ QList<TextRange> TextSearch::matches(const QString& text) const {
 }
 
 TextSearch::Letters TextSearch::letters(const QString& text) const {
+    if (foldOptions_ == U_FOLD_CASE_DEFAULT && isAscii(text)) {
+        return {folded(text), {}};
+    }
     Letters all;
     QTextBoundaryFinder finder(QTextBoundaryFinder::Grapheme, text);
     qsizetype start = 0;
@@ -213,26 +242,32 @@ TextSearch::Letters TextSearch::letters(const QString& text) const {
     return all;
 }
 
+/// Most texts are ASCII with a few other characters: only those, each with the letter before
+/// it, which it may combine with, need Unicode's rules.
 QString TextSearch::folded(const QString& text) const {
-    const QString composed =
-        what_ == For::words ? withoutMarks(text) : text.normalized(QString::NormalizationForm_C);
-    const auto* source = reinterpret_cast<const UChar*>(composed.utf16());
-    const auto length = static_cast<int32_t>(composed.size());
-    QString result(composed.size(), Qt::Uninitialized);
-    UErrorCode status = U_ZERO_ERROR;
-    auto fold = [&] {
-        status = U_ZERO_ERROR;
-        return u_strFoldCase(reinterpret_cast<UChar*>(result.data()),
-                             static_cast<int32_t>(result.size()), source, length, foldOptions_,
-                             &status);
-    };
-    const int32_t needed = fold();
-    if (needed > result.size()) { // Folding can add characters, as for ß.
-        result.resize(needed);
-        fold();
+    if (foldOptions_ != U_FOLD_CASE_DEFAULT) {
+        return foldedByUnicode(text);
     }
-    result.resize(needed);
+    QString result;
+    result.reserve(text.size());
+    const QStringView all = text;
+    const auto isOther = [](QChar unit) {
+        return unit.unicode() > 0x7f;
+    };
+    for (auto at = all.begin(); at != all.end();) {
+        const auto other = std::find_if(at, all.end(), isOther);
+        const auto start = other == all.end() || other == at ? other : other - 1;
+        appendLower(result, QStringView(at, start));
+        at = std::find_if_not(other, all.end(), isOther);
+        result += foldedByUnicode(QStringView(start, at).toString());
+    }
     return result;
+}
+
+QString TextSearch::foldedByUnicode(const QString& text) const {
+    return foldCase(what_ == For::words ? withoutMarks(text)
+                                        : text.normalized(QString::NormalizationForm_C),
+                    foldOptions_);
 }
 
 } // namespace ravelo

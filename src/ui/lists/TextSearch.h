@@ -42,12 +42,17 @@ private:
     /// A folded text, and for each of its units the letter that it comes from.
     struct Letters {
         QString folded;
-        QList<TextRange> origins;
+        QList<TextRange> origins; ///< Empty if each unit is its own letter.
+
+        [[nodiscard]] TextRange origin(qsizetype unit) const {
+            return origins.isEmpty() ? TextRange{unit, 1} : origins[unit];
+        }
     };
 
     [[nodiscard]] bool contains(const QUuid& id, const QString& text, const QStringList& wanted);
     [[nodiscard]] QStringList parts(const QString& wanted) const;
     [[nodiscard]] QString folded(const QString& text) const;
+    [[nodiscard]] QString foldedByUnicode(const QString& text) const;
     [[nodiscard]] Letters letters(const QString& text) const;
 
     const unsigned foldOptions_;
