@@ -4,6 +4,7 @@
 #include <QJsonObject>
 #include <QLocale>
 #include <QRegularExpression>
+#include <QTimeZone>
 
 #include <algorithm>
 
@@ -153,7 +154,7 @@ Seconds readRetryAfter(const QByteArray& header, Date now) {
     } else {
         QDateTime date = QLocale::c().toDateTime(QString::fromLatin1(text),
                                                  u"ddd, dd MMM yyyy HH:mm:ss 'GMT'"_s);
-        date.setTimeSpec(Qt::UTC);
+        date.setTimeZone(QTimeZone::utc());
         seconds = date.isValid() ? toDate(date).sinceReference - now.sinceReference : 0;
     }
     return Seconds(std::clamp(seconds, 0.0, maxDelay));
