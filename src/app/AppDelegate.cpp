@@ -10,7 +10,9 @@
 #include "monitor/LiveContext.h"
 #include "monitor/PlanUsage.h"
 #include "notices/Notices.h"
+#include "panel/HotKeyCenter.h"
 #include "panel/NotchController.h"
+#include "panel/Pasting.h"
 #include "platform/AlertSound.h"
 #include "platform/ChildProcess.h"
 #include "platform/DesktopExtension.h"
@@ -19,6 +21,7 @@
 #include "platform/FileOpener.h"
 #include "platform/FileTransfer.h"
 #include "platform/FolderChanges.h"
+#include "platform/GlobalShortcut.h"
 #include "platform/HotZone.h"
 #include "platform/HttpsClient.h"
 #include "platform/Keyring.h"
@@ -151,6 +154,7 @@ bool AppDelegate::mayRunAlready() {
 AppDelegate::~AppDelegate() {
     flush();
     flushedAtExit = nullptr;
+    HotKeyCenter::shared().release();
     view_->unload();
 }
 
@@ -206,10 +210,14 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
                                   platform_.display->drags(), *platform_.transfers,
                                   platform_.display->barrier(), platform_.display->inputGrab(),
                                   *window_, locks()});
+    pasting_ = std::make_unique<Pasting>(Pasting::Services{*platform_.scheduler,
+                                                           platform_.display->pasteboard(), *notch_,
+                                                           platform_.display->pasteKeys()});
     view_->load({*store_, *settings_, *pause_, *notch_, *notices_, platform_.display->pasteboard(),
                  *platform_.scheduler, *platform_.preferences, *platform_.nightShift,
                  *platform_.shutDown, planUsage(), *received_, *nearby_, *platform_.fileJobs,
-                 *platform_.opener, platform_.icons, platform_.decoder, encryption_.get()},
+                 *platform_.opener, platform_.icons, platform_.decoder, encryption_.get(),
+                 pasting_.get()},
                 QLocale());
     provideWindows();
     const auto checkUpdates = [this] {
@@ -272,11 +280,14 @@ void AppDelegate::provideWindows() {
                                       }};
     settingsWindow_ = std::make_unique<SettingsWindow>(SettingsWindow::Subjects{
         beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get(),
-        platform_.display->pasteboard().namesPrograms(), selected_ != nullptr, [this] {
-            erase([](const Answer&) {});
+        platform_.display->pasteboard().namesPrograms(), selected_ != nullptr,
+        [this] { erase([](const Answer&) {}); }, platform_.shortcut.get(), pasting_->isPossible(),
+        [this](const QString& text) {
+            clipboard_->copyText(text);
         }});
-    onboarding_ = std::make_unique<OnboardingController>(
-        beside, *settings_, platform_.display->screens(), platform_.extension.get());
+    onboarding_ =
+        std::make_unique<OnboardingController>(beside, *settings_, platform_.display->screens(),
+                                               platform_.extension.get(), platform_.shortcut.get());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());
     QObject::connect(notch_.get(), &NotchController::settingsRequested, settingsWindow_.get(),
                      &SettingsWindow::show);
@@ -290,6 +301,7 @@ void AppDelegate::wire() {
     };
     wireSettings();
     wireSecrets();
+    wireShortcut();
     wirePicture();
     statusItem_->onSetup = [this] {
         showSetup();
@@ -391,6 +403,19 @@ void AppDelegate::wireSecrets() {
                      });
     QObject::connect(notices_.get(), &Notices::keepSecrets, settings_.get(),
                      [this] { settings_->setForgetSecrets(AppSettings::asAnyText); });
+}
+
+/// Does what `--toggle` does.
+void AppDelegate::wireShortcut() {
+    HotKeyCenter::shared().ref =
+        platform_.shortcut->onPress([this](const QByteArray& token) { notch_->toggle(token); });
+    const auto follow = [this] {
+        platform_.shortcut->set(KeyCombination::fromText(settings_->shortcut()));
+    };
+    if (!settings_->shortcut().isEmpty()) {
+        follow();
+    }
+    QObject::connect(settings_.get(), &AppSettings::shortcutChanged, notch_.get(), follow);
 }
 
 /// Messages about saving, unreadable files, and copies that are too large.

@@ -28,6 +28,7 @@ class OnboardingController;
 class PanelPicture;
 class PanelView;
 class PanelWindow;
+class Pasting;
 class PlanUsage;
 class ReceivedWatcher;
 class SelectedTexts;
@@ -78,6 +79,7 @@ private:
     void wireNotices();
     void wireSettings();
     void wireSecrets();
+    void wireShortcut();
     void followRules();
     void wirePicture();
     void wireEncryption();
@@ -98,6 +100,7 @@ private:
     std::unique_ptr<PanelWindow> window_;
     std::unique_ptr<HotZone> zone_;
     std::unique_ptr<NotchController> notch_;
+    std::unique_ptr<Pasting> pasting_;
     std::unique_ptr<SettingsWindow> settingsWindow_;
     std::unique_ptr<OnboardingController> onboarding_;
     std::unique_ptr<UpdateWindow> updateWindow_;

@@ -16,6 +16,7 @@
 #include "platform/freedesktop/ScreenSaverBus.h"
 #include "platform/freedesktop/SecretKeyring.h"
 #include "platform/freedesktop/SecretService.h"
+#include "platform/freedesktop/ShortcutsPortal.h"
 #include "platform/freedesktop/ThemeSound.h"
 #include "platform/freedesktop/TrayStatusItem.h"
 #include "platform/gnome/GnomeDisplayServer.h"
@@ -83,6 +84,7 @@ Result<void> connectX11(Platform& platform, HoverTick::Rest rest) {
     platform.motion = server.motion();
     platform.iconPreference = server.icons();
     platform.trayArea = server.tray();
+    platform.shortcut = server.shortcut();
     platform.makeHotZone = [&server, rest,
                             scheduler = platform.scheduler.get()](PanelWindow& window) {
         return std::make_unique<PointerHotZone>(*scheduler, server.screens(), server.pointer(),
@@ -101,6 +103,7 @@ Result<void> connectWayland(Platform& platform) {
     platform.motion = std::make_unique<PortalMotionPreference>(sessionBus());
     platform.iconPreference = std::make_unique<PortalIconPreference>(sessionBus());
     platform.trayArea = std::make_unique<wayland::WaylandTrayArea>();
+    platform.shortcut = std::make_unique<ShortcutsPortal>(sessionBus());
     platform.makeHotZone = [&server, scheduler = platform.scheduler.get()](PanelWindow& window) {
         return server.hotZone(*scheduler, window);
     };
@@ -118,6 +121,7 @@ Result<void> connectGnome(Platform& platform) {
     platform.motion = server.motion();
     platform.iconPreference = server.icons();
     platform.trayArea = std::make_unique<gnome::NoTrayArea>();
+    platform.shortcut = std::make_unique<ShortcutsPortal>(sessionBus());
     platform.makeHotZone = [&server, scheduler = platform.scheduler.get()](PanelWindow& window) {
         return server.hotZone(*scheduler, window);
     };

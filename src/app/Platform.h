@@ -26,6 +26,7 @@ class FileOpener;
 class FileTransfer;
 class FolderChanges;
 class FolderWatch;
+class GlobalShortcut;
 class HotZone;
 class HttpsClient;
 class IconPreference;
@@ -107,6 +108,7 @@ struct Platform {
     std::unique_ptr<FolderChanges> usageChanges;
     std::unique_ptr<FileOpener> opener;
     std::unique_ptr<PackageUpdates> packages;
+    std::unique_ptr<GlobalShortcut> shortcut;
     std::unique_ptr<DesktopExtension> extension;
     std::unique_ptr<IconPreference> iconPreference;
     std::shared_ptr<FileIcons> icons; ///< Likewise.

@@ -6,8 +6,7 @@
 
 namespace ravelo {
 
-/// Holds the program's system-wide hot key. No key is registered at present: desktops bind keys to
-/// `ravelo --toggle`. Main thread only.
+/// Holds the program's system-wide hot key, see GlobalShortcut. Main thread only.
 class HotKeyCenter {
 public:
     [[nodiscard]] static HotKeyCenter& shared() {

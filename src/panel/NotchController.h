@@ -58,6 +58,9 @@ public:
 
     [[nodiscard]] bool isOpen() const { return isOpen_; }
 
+    /// Whether the session is locked.
+    [[nodiscard]] bool isLocked() const;
+
     /// What the panel would open with, in logical pixels; empty without a screen.
     [[nodiscard]] QSizeF sizeToOpenWith();
 
@@ -167,7 +170,6 @@ private:
     void screensChanged();
     void scheduleClose();
     void resizeForShelf();
-    [[nodiscard]] bool isLocked() const;
     [[nodiscard]] TakenInput::Look hideIfInputIsTaken();
     void hide();
     void lockChanged();

@@ -4,6 +4,7 @@
 #include "platform/EdgeBarrier.h"
 #include "platform/InputGrab.h"
 #include "platform/PanelWindow.h"
+#include "platform/PasteKeys.h"
 #include "platform/Pasteboard.h"
 #include "platform/Screens.h"
 #include "platform/SelectedText.h"
@@ -35,6 +36,9 @@ public:
     [[nodiscard]] virtual EdgeBarrier* barrier() = 0;
 
     [[nodiscard]] virtual InputGrab& inputGrab() = 0;
+
+    /// Null if it lets no program type.
+    [[nodiscard]] virtual PasteKeys* pasteKeys() { return nullptr; }
 
     /// The signs of a locked screen that the display server itself knows of.
     [[nodiscard]] virtual std::vector<SessionLock*> locks() = 0;

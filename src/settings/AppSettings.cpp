@@ -76,6 +76,9 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       forgetSecrets_(known(preferences.value(u"forgetSecrets"_s), forgetting)),
       keyLikeWords_(preferences.value(u"keyLikeWords"_s).toBool(false)),
       keepSelectedText_(preferences.value(u"keepSelectedText"_s).toBool(false)),
+      shortcut_(preferences.value(u"shortcut"_s).toString()),
+      returnPastes_(preferences.value(u"returnPastes"_s).toBool(false)),
+      joinWith_(preferences.value(u"joinWith"_s).toString(u"line"_s)),
       hideClaudeCode_(preferences.value(u"hideClaudeCode"_s).toBool(false)),
       onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
       launchAtLogin_(loginItem.isEnabled()) {}
@@ -251,6 +254,21 @@ void AppSettings::setKeyLikeWords(bool on) {
 void AppSettings::setKeepSelectedText(bool on) {
     preferences_.set(u"keepSelectedText"_s, on);
     change(keepSelectedText_, on, &AppSettings::keepSelectedTextChanged);
+}
+
+void AppSettings::setShortcut(const QString& keys) {
+    preferences_.set(u"shortcut"_s, keys);
+    change(shortcut_, keys, &AppSettings::shortcutChanged);
+}
+
+void AppSettings::setReturnPastes(bool on) {
+    preferences_.set(u"returnPastes"_s, on);
+    change(returnPastes_, on, &AppSettings::returnPastesChanged);
+}
+
+void AppSettings::setJoinWith(const QString& how) {
+    preferences_.set(u"joinWith"_s, how);
+    change(joinWith_, how, &AppSettings::joinWithChanged);
 }
 
 void AppSettings::setHideClaudeCode(bool on) {

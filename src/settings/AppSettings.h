@@ -42,6 +42,9 @@ class AppSettings : public QObject {
     Q_PROPERTY(bool keyLikeWords READ keyLikeWords WRITE setKeyLikeWords NOTIFY keyLikeWordsChanged)
     Q_PROPERTY(bool keepSelectedText READ keepSelectedText WRITE setKeepSelectedText NOTIFY
                    keepSelectedTextChanged)
+    Q_PROPERTY(QString shortcut READ shortcut WRITE setShortcut NOTIFY shortcutChanged)
+    Q_PROPERTY(bool returnPastes READ returnPastes WRITE setReturnPastes NOTIFY returnPastesChanged)
+    Q_PROPERTY(QString joinWith READ joinWith WRITE setJoinWith NOTIFY joinWithChanged)
     Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
                    hideClaudeCodeChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
@@ -92,6 +95,16 @@ public:
     /// Selected text, too, is captured.
     [[nodiscard]] bool keepSelectedText() const { return keepSelectedText_; }
 
+    /// The keys that open the panel from anywhere, see KeyCombination; empty for none.
+    [[nodiscard]] const QString& shortcut() const { return shortcut_; }
+
+    /// Return pastes at once, and Shift+Return only copies; otherwise it is the other way round.
+    [[nodiscard]] bool returnPastes() const { return returnPastes_; }
+
+    /// What several clips are joined by: "line", "space", "comma" or "nothing"; other texts count
+    /// as "line".
+    [[nodiscard]] const QString& joinWith() const { return joinWith_; }
+
     /// Hides Claude Code's usage if it is not installed.
     [[nodiscard]] bool hideClaudeCode() const;
     [[nodiscard]] bool onboarded() const;
@@ -116,6 +129,9 @@ public:
     void setForgetSecrets(int minutes);
     void setKeyLikeWords(bool on);
     void setKeepSelectedText(bool on);
+    void setShortcut(const QString& keys);
+    void setReturnPastes(bool on);
+    void setJoinWith(const QString& how);
     void setHideClaudeCode(bool on);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
@@ -150,6 +166,9 @@ Q_SIGNALS:
     void forgetSecretsChanged();
     void keyLikeWordsChanged();
     void keepSelectedTextChanged();
+    void shortcutChanged();
+    void returnPastesChanged();
+    void joinWithChanged();
     void hideClaudeCodeChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
@@ -181,6 +200,9 @@ private:
     int forgetSecrets_;
     bool keyLikeWords_;
     bool keepSelectedText_;
+    QString shortcut_;
+    bool returnPastes_;
+    QString joinWith_;
     bool hideClaudeCode_;
     bool onboarded_;
     bool launchAtLogin_;

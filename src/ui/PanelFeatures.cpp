@@ -21,7 +21,7 @@ PanelFeatures::PanelFeatures(const Services& services, const QLocale& locale,
     // From left to right.
     clips = &tabs.add<Clips>(Clips::Services{services.store, services.controller, services.opener,
                                              services.scheduler, toast, deleting, snippets,
-                                             services.decoder},
+                                             services.decoder, services.settings, services.pasting},
                              locale);
     tabs.add<Notes>(services.store);
     shelf = &tabs.add<ShelfFiles>(

@@ -18,6 +18,7 @@ namespace ravelo {
 
 class CapturePause;
 class Notices;
+class Pasting;
 class Pasteboard;
 class Preferences;
 
@@ -44,6 +45,7 @@ public:
         std::shared_ptr<const FileIcons> icons;
         std::shared_ptr<ImageDecoder> decoder;
         Encryption* encryption = nullptr; ///< Null: nothing is ever encrypted.
+        Pasting* pasting = nullptr;       ///< Null: nothing is ever pasted.
     };
 
     /// `window` is the panel's, still empty; `engine` is shared by all windows.

@@ -6,6 +6,7 @@
 #include "fakes/FakeDisplay.h"
 #include "fakes/FakeFiles.h"
 #include "fakes/FakeNearby.h"
+#include "fakes/FakePasteKeys.h"
 #include "fakes/FakeServices.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
@@ -14,6 +15,7 @@
 #include "fakes/MemoryPreferences.h"
 #include "notices/Notices.h"
 #include "panel/NotchController.h"
+#include "panel/Pasting.h"
 #include "panel/PointerHotZone.h"
 #include "settings/AppSettings.h"
 #include "shelf/NearbySend.h"
@@ -96,6 +98,8 @@ struct PanelWorld {
     ClipboardManager clipboard{store, pasteboard, scheduler, jobs, pause};
     PointerHotZone zone;
     NotchController controller;
+    FakePasteKeys pasteKeys;
+    Pasting pasting{{scheduler, pasteboard, controller, &pasteKeys}};
 
 private:
     static QString filled(const QTemporaryDir& folder, const StoreData& data) {

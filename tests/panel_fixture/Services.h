@@ -11,7 +11,7 @@ inline PanelFeatures::Services services(PanelWorld& world, PlanUsage& usage) {
             world.notices,    world.pasteboard, world.scheduler, world.preferences,
             world.nightShift, world.shutDown,   usage,           world.received,
             world.nearby,     world.jobs,       world.opener,    world.icons,
-            world.decoder};
+            world.decoder,    nullptr,          &world.pasting};
 }
 
 } // namespace ravelo

@@ -367,6 +367,68 @@ class Keyboard(ProgramCase):
         self.closed_with("second")
 
 
+class Pasting(ProgramCase):
+    def setUp(self):
+        super().setUp()
+        self.ravelo.start()
+        wait_for(self.ravelo.is_collapsed, "the handle")
+        self.field = self.desktop.gtk("window")
+        self.copy_and_wait("to paste, ✓")
+
+    def paste(self, key="shift+Return"):
+        self.toggle()
+        self.desktop.key(key)
+        wait_for(self.ravelo.is_collapsed, "the closed panel")
+
+    def field_text(self):
+        """Of the window's title."""
+        return self.desktop.title(self.desktop.window_of(self.field).window)
+
+    def test_into_a_text_field(self):
+        self.paste()
+        wait_for(lambda: self.field_text() == "to paste, ✓", "the text in the field")
+        self.paste("ctrl+shift+1")
+        wait_for(lambda: self.field_text() == "to paste, ✓" * 2, "the text once more")
+        self.paste("Return")
+        self.desktop.key("x")
+        wait_for(lambda: self.field_text() == "to paste, ✓" * 2 + "x", "no more text")
+
+    def test_into_a_terminal_after_a_question_if_there_are_several_lines(self):
+        file = self.desktop.home / "lines"
+        self.desktop.spawn("xterm", "-u8", "-e", "sh", "-c", f"stty -icanon; cat > {file}")
+        field = self.desktop.focused_window()
+        wait_for(lambda: file.exists() and self.desktop.focused_window() != field, "the terminal")
+        terminal = self.desktop.focused_window()
+        self.paste()
+        wait_for(lambda: file.read_text() == "to paste, ✓", "the text in the terminal")
+        self.copy_and_wait("ls\nrm")
+        self.toggle()
+        self.desktop.key("shift+Return")
+        self.desktop.key("Return")  # No.
+        self.desktop.key("Escape")
+        wait_for(self.ravelo.is_collapsed, "the closed panel")
+        wait_for(lambda: self.desktop.focused_window() == terminal, "the focus back")
+        self.desktop.key("x")
+        wait_for(lambda: file.read_text() == "to paste, ✓x", "nothing pasted without a yes")
+        self.toggle()
+        self.desktop.key("shift+Return")
+        self.desktop.key("Tab")
+        self.desktop.key("Return")
+        wait_for(lambda: file.read_text() == "to paste, ✓xls\nrm", "the lines after a yes")
+
+    def test_a_shortcut_opens_and_closes(self):
+        self.ravelo.call("--quit")
+        wait_for(self.ravelo.has_ended, "the end")
+        preferences = self.ravelo.preferences()
+        path = self.desktop.preferences
+        path.write_text(json.dumps(preferences | {"shortcut": "Super+V"}))
+        self.ravelo.start()
+        wait_for(self.ravelo.is_collapsed, "the handle")
+        for state in (self.ravelo.is_open, self.ravelo.is_collapsed, self.ravelo.is_open):
+            self.desktop.key("super+v")
+            wait_for(state, "the panel opened or closed by the key")
+
+
 class AssistiveCase:
     """With the accessibility bus."""
 

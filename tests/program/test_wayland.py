@@ -90,6 +90,28 @@ class WaylandPanel(WaylandCase):
         lines = iter(self.window.stdout.readline, "")
         self.assertEqual(next(line for line in lines if line != "ready\n"), "z\n")
 
+    def paste_at_once(self):
+        before = self.desktop.still_picture()
+        self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
+        wait_for(lambda: self.desktop.picture() != before, "the open panel")
+        self.desktop.still_picture()
+        self.desktop.key("shift+Return")
+
+    def test_pastes_at_once_into_a_text_field_and_a_terminal(self):
+        self.desktop.copy_text("to paste, ✓")
+        wait_for(lambda: self.ravelo.texts()[:1] == ["to paste, ✓"], "the clip")
+        self.paste_at_once()
+        lines = iter(self.window.stdout.readline, "")
+        self.assertEqual(next(line for line in lines if line != "ready\n"), "to paste, ✓\n")
+
+        self.window.kill()  # Sway would not give the focus to a window below it.
+        file = self.desktop.home / "line"
+        self.desktop.spawn("foot", "--log-level=none", "sh", "-c", f"stty -icanon; cat > {file}")
+        wait_for(file.exists, "the terminal")
+        wait_for(lambda: '"foot"' in self.desktop.sway("-t", "get_tree"), "its window")
+        self.paste_at_once()
+        wait_for(lambda: file.read_text() == "to paste, ✓", "the text in the terminal")
+
     def test_a_dropped_file_is_parked(self):
         file = self.desktop.home / "a file.txt"
         file.write_text("x")

@@ -47,6 +47,9 @@ const Field fields[] = {
     {"forgetSecrets", &AppSettings::forgetSecretsChanged, 10, -1, u"1"_s},
     {"keyLikeWords", &AppSettings::keyLikeWordsChanged, false, true, 1},
     {"keepSelectedText", &AppSettings::keepSelectedTextChanged, false, true, u"true"_s},
+    {"shortcut", &AppSettings::shortcutChanged, u""_s, u"Super+V"_s, true},
+    {"returnPastes", &AppSettings::returnPastesChanged, false, true, 1},
+    {"joinWith", &AppSettings::joinWithChanged, u"line"_s, u"comma"_s, 1},
     {"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
     {"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}};
 

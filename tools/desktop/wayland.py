@@ -32,7 +32,7 @@ LABWC_CONFIGURATION = """<labwc_config>
 KEYS = {"Escape": 1, "Return": 28, " ": 57} | {
     key: first + place for row, first in (("1234567890", 2), ("qwertyuiop", 16), ("asdfghjkl", 30),
                                           ("zxcvbnm", 44)) for place, key in enumerate(row)}
-CONTROL = 4
+MODIFIERS = {"shift": 1, "ctrl": 4}
 BACKGROUND = (64, 160, 96)
 
 
@@ -172,8 +172,8 @@ class WaylandDesktop(Desktop):
                        start[1] + (to[1] - start[1]) * step // 20)
 
     def key(self, name):
-        modifier = CONTROL if name.startswith("ctrl+") else 0
-        self._tell("key", KEYS[name.removeprefix("ctrl+")], modifier)
+        *modifiers, key = name.split("+")
+        self._tell("key", KEYS[key], sum(MODIFIERS[modifier] for modifier in modifiers))
 
     def type(self, text):
         for letter in text:

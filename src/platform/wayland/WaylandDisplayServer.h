@@ -3,6 +3,7 @@
 #include "platform/DisplayServer.h"
 #include "platform/wayland/clipboard/WaylandPasteboard.h"
 #include "platform/wayland/input/Unrevealed.h"
+#include "platform/wayland/keys/WaylandPasteKeys.h"
 #include "platform/wayland/screens/WaylandScreens.h"
 #include "platform/wayland/window/Surfaces.h"
 
@@ -32,6 +33,8 @@ public:
 
     [[nodiscard]] InputGrab& inputGrab() override { return inputGrab_; }
 
+    [[nodiscard]] PasteKeys* pasteKeys() override { return pasteKeys_.get(); }
+
     /// None: the compositor does not say.
     [[nodiscard]] std::vector<SessionLock*> locks() override { return {}; }
 
@@ -48,6 +51,7 @@ private:
     std::unique_ptr<ClipboardThread> thread_;
     std::unique_ptr<Surfaces> surfaces_;
     WaylandPasteboard pasteboard_;
+    std::unique_ptr<WaylandPasteKeys> pasteKeys_;
     NoDragMonitor drags_;
     NoInputGrab inputGrab_;
     WaylandScreens screens_;

@@ -1,5 +1,6 @@
 #include "platform/x11/X11DisplayServer.h"
 
+#include "platform/x11/keys/X11GlobalShortcut.h"
 #include "platform/x11/settings/X11Preferences.h"
 #include "platform/x11/settings/X11TrayArea.h"
 #include "platform/x11/window/X11PanelWindow.h"
@@ -48,6 +49,8 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
                                    std::unique_ptr<Listener> listener)
     : connection_(std::move(connection)),
       events_(*connection_),
+      focus_(*connection_, events_),
+      pasteKeys_(*connection_, focus_),
       screens_(*connection_, events_),
       compositor_(*connection_, events_, ManagerSelection::compositor),
       settings_(*connection_, events_, ManagerSelection::settings, "_XSETTINGS_SETTINGS"),
@@ -66,11 +69,15 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
 
 std::unique_ptr<PanelWindow> X11DisplayServer::panelWindow(QWindow& window) {
     return std::make_unique<X11PanelWindow>(window, *connection_, events_, screens_, compositor_,
-                                            cover_, drags_);
+                                            cover_, drags_, focus_);
 }
 
 std::unique_ptr<WindowFrame> X11DisplayServer::windowFrame(QWindow& window) {
     return std::make_unique<X11WindowFrame>(window, *connection_, compositor_);
+}
+
+std::unique_ptr<GlobalShortcut> X11DisplayServer::shortcut() {
+    return std::make_unique<X11GlobalShortcut>(*connection_, events_);
 }
 
 std::unique_ptr<MotionPreference> X11DisplayServer::motion() {

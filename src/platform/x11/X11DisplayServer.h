@@ -1,11 +1,13 @@
 #pragma once
 
 #include "platform/DisplayServer.h"
+#include "platform/GlobalShortcut.h"
 #include "platform/IconPreference.h"
 #include "platform/MotionPreference.h"
 #include "platform/TrayArea.h"
 #include "platform/x11/connection/Events.h"
 #include "platform/x11/connection/Listener.h"
+#include "platform/x11/keys/X11PasteKeys.h"
 #include "platform/x11/pointer/X11EdgeBarrier.h"
 #include "platform/x11/pointer/X11InputGrab.h"
 #include "platform/x11/pointer/X11Pointer.h"
@@ -16,6 +18,7 @@
 #include "platform/x11/settings/ManagerSelection.h"
 #include "platform/x11/settings/ScreenSaverStatus.h"
 #include "platform/x11/window/ForeignCover.h"
+#include "platform/x11/window/InputFocus.h"
 
 namespace ravelo::x11 {
 
@@ -40,11 +43,16 @@ public:
 
     [[nodiscard]] std::vector<SessionLock*> locks() override { return {&screenSaver_, &cover_}; }
 
+    [[nodiscard]] PasteKeys* pasteKeys() override { return &pasteKeys_; }
+
     [[nodiscard]] std::unique_ptr<PanelWindow> panelWindow(QWindow& window) override;
     [[nodiscard]] std::unique_ptr<WindowFrame> windowFrame(QWindow& window) override;
 
     /// For the hot zone.
     [[nodiscard]] Pointer& pointer() { return pointer_; }
+
+    /// Must be destroyed before it.
+    [[nodiscard]] std::unique_ptr<GlobalShortcut> shortcut();
 
     // What the desktop publishes through the X server. They must be destroyed before it.
     [[nodiscard]] std::unique_ptr<MotionPreference> motion();
@@ -56,6 +64,8 @@ private:
 
     std::unique_ptr<Connection> connection_;
     Events events_;
+    InputFocus focus_;
+    X11PasteKeys pasteKeys_;
     X11Screens screens_;
     ManagerSelection compositor_;
     ManagerProperty settings_;

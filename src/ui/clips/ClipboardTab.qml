@@ -75,6 +75,30 @@ TabPage {
         }
     }
 
+    /// All chosen clips, or that row's. For the keys that do it, see ClipPasting.
+    function finish(row: int, modifiers: int) {
+        if (!clips.pasting.pastes(modifiers)) {
+            copyAndClose(row);
+        } else if (clips.selected > 1) {
+            clips.pasteSelectedAndClose();
+        } else if (row >= 0 && row < list.count) {
+            list.currentIndex = row;
+            clips.pasteAndClose(row);
+        }
+    }
+
+    /// The digit of a key with Ctrl and perhaps Shift; 0 for other keys. With Shift the digits' keys
+    /// have other names, but the same codes.
+    function digitOf(event: KeyEvent): int {
+        const held = event.modifiers & ~(Qt.KeypadModifier | Qt.ShiftModifier);
+        if (held !== Qt.ControlModifier) {
+            return 0;
+        }
+        const shifted = event.modifiers & Qt.ShiftModifier && event.nativeScanCode >= 10 && event.nativeScanCode <= 18;
+        const digit = shifted ? event.nativeScanCode - 9 : event.key - Qt.Key_0;
+        return digit >= 1 && digit <= 9 ? digit : 0;
+    }
+
     /// All chosen clips, or that row's.
     function remove(row: int) {
         clips.selected > 1 ? clips.removeSelected() : clips.remove(row);
@@ -134,9 +158,9 @@ TabPage {
         } else if (control && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             clips.openLink(list.currentIndex);
         } else if (searching && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
-            copyAndClose(list.currentIndex);
-        } else if (control && event.key >= Qt.Key_1 && event.key <= Qt.Key_9) {
-            copyAndClose(rowOf(event.key - Qt.Key_1));
+            finish(list.currentIndex, event.modifiers);
+        } else if (digitOf(event) > 0) {
+            finish(rowOf(digitOf(event) - 1), event.modifiers);
         } else if (control && event.key === Qt.Key_P) {
             clips.togglePin(list.currentIndex);
         } else if (event.key === Qt.Key_F && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier)) {
@@ -258,6 +282,21 @@ TabPage {
         function onAsked(question: string) {
             linkQuestion.text = question;
             linkQuestion.openUnder(list.currentItem ?? field, 46);
+        }
+    }
+
+    Question {
+        id: pasteQuestion
+        objectName: "pasteQuestion"
+        detail: qsTr("Each line may run as a command.")
+        onAccepted: tab.clips.pasting.runAsked()
+    }
+
+    Connections {
+        target: tab.clips.pasting
+        function onAsked(question: string) {
+            pasteQuestion.text = question;
+            pasteQuestion.openUnder(list.currentItem ?? field, 46);
         }
     }
 

@@ -1,6 +1,7 @@
 #include "ui/clips/Clips.h"
 
 #include "panel/NotchController.h"
+#include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "ui/controls/Toast.h"
 #include "ui/lists/Deleting.h"
@@ -18,9 +19,11 @@ Clips::Clips(Services services, const QLocale& locale)
       locale_(locale),
       list_(services.store, services.scheduler, locale),
       links_(services.opener, services.scheduler, services.toast),
+      pasting_(services.pasting, services.settings, services.controller),
       preview_(services.store, services.decoder, locale),
       ages_(services.scheduler, list_) {
     connect(&list_.selection(), &ClipSelection::changed, this, &Clips::selectedChanged);
+    connect(&services_.settings, &AppSettings::joinWithChanged, this, &Clips::joinedChanged);
     connect(&links_, &LinkOpening::opened, &services_.controller, &NotchController::dismiss);
 }
 
@@ -34,6 +37,7 @@ void Clips::reset() {
     list_.dismissTooLarge();
     list_.selection().clear();
     links_.reset();
+    pasting_.reset();
 }
 
 void Clips::showTooLarge(const TooLargeCopy& copy) {
@@ -68,6 +72,12 @@ void Clips::copyAndClose(int row) {
     }
 }
 
+void Clips::pasteAndClose(int row) {
+    if (const ClipItem* clip = clipAt(row)) {
+        pasting_.run(clip->text, [this, id = clip->id] { copy(list_.rowOf(id)); });
+    }
+}
+
 void Clips::close() {
     services_.controller.dismiss();
 }
@@ -93,7 +103,7 @@ void Clips::clearSelection() {
     list_.selection().clear();
 }
 
-void Clips::copySelected() {
+QStringList Clips::selectedTexts() {
     QStringList texts;
     for (const QUuid& id : list_.selection().ids()) {
         const ClipItem* clip = clipOf(id);
@@ -101,11 +111,41 @@ void Clips::copySelected() {
             texts.append(clip->text);
         }
     }
+    return texts;
+}
+
+QString Clips::joined(const QStringList& texts) const {
+    const QString& how = services_.settings.joinWith();
+    return texts.join(how == u"space"     ? u" "_s
+                      : how == u"comma"   ? u", "_s
+                      : how == u"nothing" ? u""_s
+                                          : u"\n"_s);
+}
+
+QString Clips::joined() const {
+    const QString& how = services_.settings.joinWith();
+    return how == u"space"     ? tr("joined by spaces, in this order")
+           : how == u"comma"   ? tr("joined by commas, in this order")
+           : how == u"nothing" ? tr("joined by nothing, in this order")
+                               : tr("joined by line breaks, in this order");
+}
+
+void Clips::pasteSelectedAndClose() {
+    const QStringList texts = selectedTexts();
+    if (texts.isEmpty()) {
+        copySelected();
+    } else {
+        pasting_.run(joined(texts), [this] { copySelected(); });
+    }
+}
+
+void Clips::copySelected() {
+    const QStringList texts = selectedTexts();
     if (texts.isEmpty()) {
         services_.toast.flash(tr("Pictures cannot be joined"));
         return;
     }
-    services_.controller.copy(texts.join(u'\n'));
+    services_.controller.copy(joined(texts));
     services_.toast.flash(tr("Copied %1 \u2713").arg(locale_.toString(texts.size())));
 }
 

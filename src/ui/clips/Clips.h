@@ -1,6 +1,7 @@
 #pragma once
 
 #include "ui/clips/ClipListModel.h"
+#include "ui/clips/ClipPasting.h"
 #include "ui/clips/ClipPreview.h"
 #include "ui/clips/LinkOpening.h"
 #include "ui/controls/Tab.h"
@@ -22,6 +23,9 @@ class Clips : public ravelo::Tab {
     Q_PROPERTY(ravelo::ClipListModel* list READ list CONSTANT)
     Q_PROPERTY(ravelo::LinkOpening* links READ links CONSTANT)
     Q_PROPERTY(ravelo::ClipPreview* preview READ preview CONSTANT)
+    Q_PROPERTY(ravelo::ClipPasting* pasting READ pasting CONSTANT)
+    /// How chosen clips are joined, for the user.
+    Q_PROPERTY(QString joined READ joined NOTIFY joinedChanged)
     /// Number of clips chosen to be copied as one.
     Q_PROPERTY(int selected READ selected NOTIFY selectedChanged)
     Q_PROPERTY(ravelo::Snippets* snippets READ snippets CONSTANT)
@@ -37,6 +41,8 @@ public:
         Deleting& deleting;
         Snippets& snippets;
         std::shared_ptr<ImageDecoder> decoder;
+        AppSettings& settings;
+        Pasting* pasting; ///< Null if nothing can be pasted.
     };
 
     Clips(Services services, const QLocale& locale);
@@ -46,6 +52,10 @@ public:
     [[nodiscard]] LinkOpening* links() { return &links_; }
 
     [[nodiscard]] ClipPreview* preview() { return &preview_; }
+
+    [[nodiscard]] ClipPasting* pasting() { return &pasting_; }
+
+    [[nodiscard]] QString joined() const;
 
     [[nodiscard]] int selected() { return int(list_.selection().ids().size()); }
 
@@ -68,13 +78,16 @@ public:
 
     Q_INVOKABLE void copy(int row);
     Q_INVOKABLE void copyAndClose(int row);
+    /// See ClipPasting.
+    Q_INVOKABLE void pasteAndClose(int row);
     Q_INVOKABLE void toggleSelected(int row);
     /// From where choosing began, else from `current`.
     Q_INVOKABLE void selectTo(int row, int current);
     Q_INVOKABLE void selectAll();
     Q_INVOKABLE void clearSelection();
-    /// Joined by line breaks, pictures left out.
+    /// Joined as the settings say, pictures left out.
     Q_INVOKABLE void copySelected();
+    Q_INVOKABLE void pasteSelectedAndClose();
     Q_INVOKABLE void removeSelected();
     /// Closes the panel.
     Q_INVOKABLE void close();
@@ -93,9 +106,12 @@ public:
 
 Q_SIGNALS:
     void selectedChanged();
+    void joinedChanged();
 
 private:
     [[nodiscard]] qsizetype removed(const std::function<void()>& remove) const;
+    [[nodiscard]] QStringList selectedTexts();
+    [[nodiscard]] QString joined(const QStringList& texts) const;
     [[nodiscard]] const ClipItem* clipOf(const QUuid& id) const;
 
     [[nodiscard]] const ClipItem* clipAt(int row) const { return clipOf(list_.idAt(row)); }
@@ -104,6 +120,7 @@ private:
     QLocale locale_;
     ClipListModel list_;
     LinkOpening links_;
+    ClipPasting pasting_;
     ClipPreview preview_;
     RowAges ages_;
 };

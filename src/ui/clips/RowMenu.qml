@@ -31,6 +31,11 @@ Menu {
         }
     }
 
+    /// Not for several: the menu of those is short.
+    readonly property var paste: clips.pasting.possible ? [
+        { text: qsTr("Paste at once"), hint: clips.pasting.keys, chosen: () => clips.pasteAndClose(list.currentIndex) }
+    ] : []
+
     name: qsTr("Clip")
     minWidth: 248
     plain: true
@@ -39,15 +44,16 @@ Menu {
         { divider: true },
         { text: qsTr("Delete %1").arg(clips.selected), hint: qsTr("Delete"), chosen: () => clips.removeSelected() }
     ] : row?.secret ? [
-        { text: qsTr("Copy"), hint: qsTr("Return"), chosen: () => menu.copied(list.currentIndex) },
+        { text: qsTr("Copy"), hint: clips.pasting.copyKeys, chosen: () => menu.copied(list.currentIndex) },
         { divider: true },
         { text: qsTr("Keep as any text"), chosen: () => clips.keepSecret(list.currentIndex) },
         { text: qsTr("Forget now"), hint: qsTr("Delete"), chosen: () => clips.forgetSecret(list.currentIndex) }
     ] : [
-        { text: qsTr("Copy"), hint: qsTr("Return"), chosen: () => menu.copied(list.currentIndex) },
+        { text: qsTr("Copy"), hint: clips.pasting.copyKeys, chosen: () => menu.copied(list.currentIndex) }
+    ].concat(paste).concat([
         { divider: true },
         { text: qsTr("Preview"), hint: qsTr("Space"), chosen: () => preview.openCurrent() }
-    ].concat(row?.icon === "link" ? [
+    ]).concat(row?.icon === "link" ? [
         { text: qsTr("Open"), hint: qsTr("Ctrl+Return"), chosen: () => clips.openLink(list.currentIndex) }
     ] : []).concat([
         { divider: true },

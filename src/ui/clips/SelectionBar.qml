@@ -36,7 +36,7 @@ Item {
         x: dot.x + 12
         y: 6
         width: Math.min(implicitWidth, buttons.x - x - 8)
-        text: qsTr("joined by line breaks, in this order")
+        text: bar.clips.joined
         style: Theme.small
         color: Theme.text3
     }

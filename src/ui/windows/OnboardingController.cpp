@@ -9,11 +9,13 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 OnboardingController::OnboardingController(TitledWindow::Beside beside, AppSettings& settings,
-                                           Screens& screens, DesktopExtension* extension)
+                                           Screens& screens, DesktopExtension* extension,
+                                           GlobalShortcut* shortcut)
     : beside_(std::move(beside)),
       settings_(settings),
       screens_(screens),
       extension_(extension),
+      shortcut_(shortcut, settings, {}),
       screensMonitor_(screens.onChange([this] { Q_EMIT hasNotchChanged(); })) {}
 
 OnboardingController::~OnboardingController() {

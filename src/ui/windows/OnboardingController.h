@@ -3,6 +3,7 @@
 #include "base/Handle.h"
 #include "settings/AppSettings.h"
 #include "ui/windows/ExtensionOffer.h"
+#include "ui/windows/ShortcutChoice.h"
 #include "ui/windows/TitledWindow.h"
 
 #include <QObject>
@@ -20,17 +21,21 @@ class OnboardingController : public QObject {
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(ravelo::AppSettings* settings READ settings CONSTANT)
     Q_PROPERTY(ravelo::ExtensionOffer* extension READ extension CONSTANT)
+    Q_PROPERTY(ravelo::ShortcutChoice* shortcut READ shortcut CONSTANT)
     Q_PROPERTY(bool hasNotch READ hasNotch NOTIFY hasNotchChanged)
 
 public:
-    /// All outlive this. `extension` is null if the desktop needs none.
+    /// All outlive this. `extension` is null if the desktop needs none, and `shortcut` if it lets
+    /// no program take keys.
     OnboardingController(TitledWindow::Beside beside, AppSettings& settings, Screens& screens,
-                         DesktopExtension* extension = nullptr);
+                         DesktopExtension* extension = nullptr, GlobalShortcut* shortcut = nullptr);
     ~OnboardingController() override;
 
     [[nodiscard]] AppSettings* settings() const { return &settings_; }
 
     [[nodiscard]] ExtensionOffer* extension() { return &extension_; }
+
+    [[nodiscard]] ShortcutChoice* shortcut() { return &shortcut_; }
 
     /// The main screen has a camera housing.
     [[nodiscard]] bool hasNotch() const;
@@ -53,6 +58,7 @@ private:
     AppSettings& settings_;
     Screens& screens_;
     ExtensionOffer extension_;
+    ShortcutChoice shortcut_;
     TitledWindow* window_ = nullptr; ///< Owned. Deleted later, because its own events close it.
     Handle screensMonitor_;
 };

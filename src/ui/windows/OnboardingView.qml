@@ -18,6 +18,7 @@ TitledPage {
         anchors.fill: parent
         visible: view.step === 0
         focus: visible
+        choice: view.host.shortcut
         onDone: view.step = 1
     }
 

@@ -13,6 +13,7 @@ TitledPage {
         { title: qsTr("General"), file: "GeneralPage.qml" },
         { title: qsTr("Capture"), file: "CapturePage.qml" },
         { title: qsTr("Storage"), file: "StoragePage.qml" },
+        { title: qsTr("Keys"), file: "KeysPage.qml" },
         { title: qsTr("More"), file: "MorePage.qml" }
     ]
     property int page: 0

@@ -22,7 +22,10 @@ QString megabytes(qint64 bytes) {
 } // namespace
 
 SettingsWindow::SettingsWindow(Subjects subjects)
-    : subjects_(std::move(subjects)), extension_(subjects_.extension) {
+    : subjects_(std::move(subjects)),
+      extension_(subjects_.extension),
+      shortcut_(subjects_.shortcut, subjects_.settings,
+                qEnvironmentVariable("XDG_CURRENT_DESKTOP")) {
     connect(&subjects_.store, &Store::clipsChanged, this, &SettingsWindow::clipsChanged);
 }
 

@@ -3,6 +3,7 @@
 #include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "ui/windows/ExtensionOffer.h"
+#include "ui/windows/ShortcutChoice.h"
 #include "ui/windows/TitledWindow.h"
 
 #include <QObject>
@@ -21,6 +22,9 @@ class SettingsWindow : public QObject {
     Q_PROPERTY(ravelo::AppSettings* settings READ settings CONSTANT)
     Q_PROPERTY(QString display READ display CONSTANT)
     Q_PROPERTY(ravelo::ExtensionOffer* extension READ extension CONSTANT)
+    Q_PROPERTY(ravelo::ShortcutChoice* shortcut READ shortcut CONSTANT)
+    /// Whether the desktop lets us type.
+    Q_PROPERTY(bool canPaste READ canPaste CONSTANT)
     /// Whether the desktop says which program copies, and what is selected.
     Q_PROPERTY(bool knowsPrograms READ knowsPrograms CONSTANT)
     Q_PROPERTY(bool knowsSelection READ knowsSelection CONSTANT)
@@ -41,6 +45,9 @@ public:
         bool knowsPrograms = true;
         bool knowsSelection = true;
         std::function<void()> erase = {}; ///< Everything; then the program ends.
+        GlobalShortcut* shortcut = nullptr;
+        bool canPaste = true;
+        std::function<void(const QString& text)> copy = {};
     };
 
     explicit SettingsWindow(Subjects subjects);
@@ -51,6 +58,10 @@ public:
     [[nodiscard]] const QString& display() const { return subjects_.display; }
 
     [[nodiscard]] ExtensionOffer* extension() { return &extension_; }
+
+    [[nodiscard]] ShortcutChoice* shortcut() { return &shortcut_; }
+
+    [[nodiscard]] bool canPaste() const { return subjects_.canPaste; }
 
     [[nodiscard]] bool knowsPrograms() const { return subjects_.knowsPrograms; }
 
@@ -81,6 +92,12 @@ public:
         }
     }
 
+    Q_INVOKABLE void copyText(const QString& text) {
+        if (subjects_.copy) {
+            subjects_.copy(text);
+        }
+    }
+
     Q_INVOKABLE void quit() { subjects_.quit(); }
 
 Q_SIGNALS:
@@ -89,6 +106,7 @@ Q_SIGNALS:
 private:
     Subjects subjects_;
     ExtensionOffer extension_;
+    ShortcutChoice shortcut_;
     std::unique_ptr<TitledWindow> window_;
 };
 

@@ -7,6 +7,8 @@ import Ravelo.Windows
 FocusScope {
     id: step
 
+    required property ShortcutChoice choice
+
     signal done
 
     Keys.onReturnPressed: done()
@@ -58,12 +60,36 @@ FocusScope {
         id: start
         objectName: "start"
         anchors.horizontalCenter: parent.horizontalCenter
-        y: Math.min(396, parent.height - 86)
+        y: Math.min(396, parent.height - 86 - (step.choice.isOffered ? 30 : 0))
         implicitHeight: 40
         sidePad: 24
         style: Theme.tab
         primary: true
         text: qsTr("Get started")
         onClicked: step.done()
+    }
+
+    Row {
+        id: offer
+        objectName: "shortcutOffer"
+        visible: step.choice.isOffered
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: start.y + start.height + 14
+        spacing: 10
+
+        Label {
+            objectName: "shortcutText"
+            y: 3
+            text: step.choice.mistaken ? qsTr("Super+V is taken by another program") : qsTr("Open it with Super+V, too")
+            style: Theme.body
+            color: step.choice.mistaken ? Theme.mistake : Theme.text3
+        }
+
+        Toggle {
+            objectName: "useShortcut"
+            name: qsTr("Open it with Super+V, too")
+            on: step.choice.caps.length > 0 && !step.choice.mistaken
+            onToggled: on => step.choice.useOffered(on)
+        }
     }
 }

@@ -129,7 +129,8 @@ TEST_F(FocusTest, ARequestCancelledAtOnceHasNoEffect) {
 TEST_F(PanelFixture, ATextFieldReceivesTyping) {
     QQuickWindow::setGraphicsApi(QSGRendererInterface::Software);
     QQuickWindow quick;
-    x11::X11PanelWindow quickPanel(quick, *connection, events, screens, compositor, cover, drags);
+    x11::X11PanelWindow quickPanel(quick, *connection, events, screens, compositor, cover, drags,
+                                   inputFocus);
     QQmlEngine engine;
     QQmlComponent component(&engine);
     component.setData("import QtQuick\nTextInput { width: 400; height: 200 }", QUrl());

@@ -16,12 +16,13 @@ void RecordingWindow::keyPressEvent(QKeyEvent* event) {
 PanelFixture::PanelFixture()
     : connection(std::move(x11::Connection::create().value())),
       events(*connection),
+      inputFocus(*connection, events),
       screens(*connection, events),
       compositor(*connection, events, x11::ManagerSelection::compositor),
       listener(std::move(x11::Listener::create().value())),
       cover(*listener),
       drags(*listener),
-      panel(window, *connection, events, screens, compositor, cover, drags) {
+      panel(window, *connection, events, screens, compositor, cover, drags, inputFocus) {
     listener->start();
 }
 

@@ -38,6 +38,7 @@ public:
     Server server;
     std::unique_ptr<x11::Connection> connection;
     x11::Events events;
+    x11::InputFocus inputFocus;
     x11::X11Screens screens;
     x11::ManagerSelection compositor;
     std::unique_ptr<x11::Listener> listener;

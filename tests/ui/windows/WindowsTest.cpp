@@ -36,12 +36,18 @@ public:
     [[nodiscard]] QJsonValue kept(const QString& key) const { return world.preferences.value(key); }
 
     int quits = 0;
+    FakeGlobalShortcut shortcut;
     SettingsWindow settings{{{view.window()},
                              world.store,
                              world.settings,
                              [this] { ++quits; },
-                             QStringLiteral("X11 (for a reason)")}};
-    OnboardingController setup{{view.window()}, world.settings, world.screens};
+                             QStringLiteral("X11 (for a reason)"),
+                             nullptr,
+                             true,
+                             true,
+                             {},
+                             &shortcut}};
+    OnboardingController setup{{view.window()}, world.settings, world.screens, nullptr, &shortcut};
 };
 
 class Settings : public Windows {
@@ -110,6 +116,60 @@ TEST_F(Settings, TheKeyboardSetsEachControlAtOnce) {
     EXPECT_FALSE(world.loginItem.enabled);
 }
 
+TEST_F(Settings, AShortcutIsRecorded) {
+    press(*window, Qt::Key_4, Qt::ControlModifier);
+    const QQuickItem* field = in(window, u"shortcut"_s);
+    const auto record = [&](int key, Qt::KeyboardModifiers modifiers) {
+        in(window, u"shortcut"_s)->forceActiveFocus();
+        press(*window, Qt::Key_Return);
+        EXPECT_TRUE(shortcut.suspended) << "the present keys would open the panel";
+        press(*window, key, modifiers);
+    };
+    record(Qt::Key_V, Qt::MetaModifier);
+    EXPECT_EQ(kept(u"shortcut"_s), u"Super+V"_s);
+    EXPECT_FALSE(shortcut.suspended);
+    EXPECT_EQ(find(field, u"caps"_s)->property("caps").toStringList(),
+              (QStringList{u"Super"_s, u"V"_s}));
+
+    record(Qt::Key_Super_L, Qt::MetaModifier);
+    EXPECT_TRUE(in(window, u"shortcutNote"_s)->property("text").toString().startsWith(u"Escape"_s))
+        << "a modifier alone is no mistake";
+    press(*window, Qt::Key_B, Qt::NoModifier);
+    EXPECT_TRUE(shortcut.suspended) << "a letter alone is no shortcut";
+    press(*window, Qt::Key_Escape);
+    EXPECT_FALSE(shortcut.suspended);
+    EXPECT_TRUE(window->isVisible()) << "Escape cancels the recording only";
+    EXPECT_EQ(kept(u"shortcut"_s), u"Super+V"_s);
+
+    shortcut.become(GlobalShortcut::State::taken);
+    EXPECT_TRUE(in(window, u"shortcutNote"_s)
+                    ->property("text")
+                    .toString()
+                    .startsWith(u"Taken by another program"_s));
+    record(Qt::Key_Backspace, Qt::NoModifier);
+    EXPECT_EQ(kept(u"shortcut"_s), QString());
+
+    EXPECT_FALSE(in(window, u"copyLine"_s)->isVisible());
+    shortcut.become(GlobalShortcut::State::impossible);
+    EXPECT_TRUE(in(window, u"copyLine"_s)->isVisible());
+    EXPECT_EQ(in(window, u"shortcutLine"_s)->property("text"), u"ravelo --toggle"_s);
+}
+
+TEST(Shortcut, HasALineForTheCompositorsConfiguration) {
+    const std::pair<const char*, const char*> cases[] = {
+        {"sway", "bindsym Mod4+Shift+v exec ravelo --toggle"},
+        {"Hyprland", "bind = SUPER SHIFT, v, exec, ravelo --toggle"},
+        {"labwc:wlroots", "<keybind key=\"W-S-v\"><action name=\"Execute\">"
+                          "<command>ravelo --toggle</command></action></keybind>"},
+        {"ubuntu:GNOME", "ravelo --toggle"},
+        {"", "ravelo --toggle"},
+    };
+    for (const auto& [desktop, line] : cases) {
+        EXPECT_EQ(shortcutLine(QString::fromLatin1(desktop), u"Super+Shift+V"_s),
+                  QString::fromLatin1(line));
+    }
+}
+
 TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
     struct Case {
         int page;
@@ -131,7 +191,9 @@ TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 1000},
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Up, 200},
         {Qt::Key_3, u"keepDays"_s, Qt::Key_Down, 30},
-        {Qt::Key_4, u"hideClaudeCode"_s, Qt::Key_Space, true},
+        {Qt::Key_4, u"returnPastes"_s, Qt::Key_Space, true},
+        {Qt::Key_4, u"joinWith"_s, Qt::Key_Down, u"space"_s},
+        {Qt::Key_5, u"hideClaudeCode"_s, Qt::Key_Space, true},
     };
     for (const Case& c : cases) {
         press(*window, c.page, Qt::ControlModifier);
@@ -320,6 +382,16 @@ protected:
 
     QPointer<TitledWindow> window;
 };
+
+TEST_F(Setup, OffersSuperVAndTakesItOnlyIfChosen) {
+    EXPECT_TRUE(kept(u"shortcut"_s).isUndefined()) << "taken without being asked for";
+    clickOn(window, u"useShortcut"_s);
+    EXPECT_EQ(kept(u"shortcut"_s), u"Super+V"_s);
+    clickOn(window, u"useShortcut"_s);
+    EXPECT_EQ(kept(u"shortcut"_s), QString());
+    shortcut.become(GlobalShortcut::State::impossible);
+    EXPECT_FALSE(in(window, u"shortcutOffer"_s)->isVisible());
+}
 
 TEST_F(Setup, CanBeDoneByKeyboard) {
     int layouts = 0;

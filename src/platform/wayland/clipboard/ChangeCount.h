@@ -38,6 +38,12 @@ public:
         return isPending();
     }
 
+    /// Whether the last change was a write of ours, and has been made.
+    [[nodiscard]] bool isOwn() const {
+        const std::scoped_lock lock(mutex_);
+        return value_ == newestOwn_ && value_ > 0 && !isPending();
+    }
+
     /// Somebody else copied. False if a write of ours overwrites that.
     bool countForeign() {
         const std::scoped_lock lock(mutex_);

@@ -22,6 +22,9 @@ public:
 
     [[nodiscard]] qint64 changeCount() const override { return count_->value(); }
 
+    /// Whether the contents are ours.
+    [[nodiscard]] bool isOwn() const { return count_->isOwn(); }
+
     [[nodiscard]] bool reportsChanges() const override { return true; }
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {

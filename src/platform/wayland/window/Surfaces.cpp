@@ -28,6 +28,7 @@ Surfaces::Surfaces(std::unique_ptr<Globals> globals, LayerShell shell, Clipboard
       pixel_(InvisiblePixel::create(*globals_)),
       blur_(*globals_),
       seat_(*globals_),
+      activeWindow_(*globals_),
       drops_(*globals_, seat_.seat(), thread) {}
 
 std::unique_ptr<InvisibleSurface> Surfaces::makeInvisible(QScreen* screen, QSize size) {

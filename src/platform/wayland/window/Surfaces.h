@@ -2,6 +2,7 @@
 
 #include "platform/wayland/input/DropTarget.h"
 #include "platform/wayland/input/InputSeat.h"
+#include "platform/wayland/keys/ActiveWindow.h"
 #include "platform/wayland/window/BlurBehind.h"
 #include "platform/wayland/window/InvisibleSurface.h"
 
@@ -20,6 +21,10 @@ public:
     [[nodiscard]] BlurBehind& blur() { return blur_; }
 
     [[nodiscard]] InputSeat& seat() { return seat_; }
+
+    [[nodiscard]] ActiveWindow& activeWindow() { return activeWindow_; }
+
+    [[nodiscard]] const Globals& globals() const { return *globals_; }
 
     [[nodiscard]] DropTarget& drops() { return drops_; }
 
@@ -43,6 +48,7 @@ private:
     std::unique_ptr<InvisiblePixel> pixel_; ///< Or null.
     BlurBehind blur_;
     InputSeat seat_;
+    ActiveWindow activeWindow_;
     DropTarget drops_;
 };
 

@@ -157,6 +157,7 @@ Handle WaylandPanelWindow::onShowThroughChange(std::function<void()> callback) {
 }
 
 void WaylandPanelWindow::requestFocus(const QByteArray& /*activationToken*/) {
+    surfaces_.activeWindow().follow(); // First: it reports which one is active before the panel.
     setKeyboard(Keyboard::exclusive);
     catchPresses();
 }
@@ -164,6 +165,7 @@ void WaylandPanelWindow::requestFocus(const QByteArray& /*activationToken*/) {
 void WaylandPanelWindow::returnFocus() {
     catchers_.clear();
     setKeyboard(Keyboard::none);
+    surfaces_.activeWindow().stopSoon();
     if (QGuiApplication::focusWindow() != &window_) {
         return;
     }

@@ -56,6 +56,15 @@ void InputFocus::giveBack(xcb_window_t window) {
     xcb_flush(connection_.get());
 }
 
+std::optional<xcb_window_t> InputFocus::next(const OwnClient& own) {
+    auto owner = current();
+    if (owner && own.owns(owner->window)) {
+        owner = previous_;
+    }
+    return owner && owner->window > XCB_INPUT_FOCUS_POINTER_ROOT ? std::optional(owner->window)
+                                                                 : std::nullopt;
+}
+
 std::optional<InputFocus::Owner> InputFocus::current() {
     const auto cookie = xcb_get_input_focus(connection_.get());
     const Owned<xcb_get_input_focus_reply_t> reply(

@@ -29,6 +29,10 @@ public:
     /// have it any more, to the window under the pointer. At most two round trips.
     void giveBack(xcb_window_t window);
 
+    /// The window that has the focus now, or that gets it back if a window of `own` has it. Nothing
+    /// if it follows the pointer. One round trip.
+    [[nodiscard]] std::optional<xcb_window_t> next(const OwnClient& own);
+
 private:
     struct Owner {
         xcb_window_t window;

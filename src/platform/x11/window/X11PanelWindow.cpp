@@ -38,14 +38,14 @@ std::vector<xcb_rectangle_t> rectanglesOf(const QRegion& region) {
 
 X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& events,
                                const X11Screens& screens, ManagerSelection& compositor,
-                               ForeignCover& cover, DragMonitor& drags)
+                               ForeignCover& cover, DragMonitor& drags, InputFocus& focus)
     : window_(window),
       screens_(screens),
       compositor_(compositor),
       cover_(cover),
       drags_(drags),
       qt_(qtConnection()),
-      focus_(connection, events),
+      focus_(focus),
       shadow_(connection.atom("_COMPTON_SHADOW")),
       skipCloseAnimation_(connection.atom("_KDE_NET_WM_SKIP_CLOSE_ANIMATION")),
       blur_(connection, events),

@@ -33,7 +33,7 @@ public:
     /// All must outlive it; `window` must not have been shown. Makes the native window.
     X11PanelWindow(QWindow& window, Connection& connection, Events& events,
                    const X11Screens& screens, ManagerSelection& compositor, ForeignCover& cover,
-                   DragMonitor& drags);
+                   DragMonitor& drags, InputFocus& focus);
 
     void place(const Screen& screen, QSizeF size) override;
     void orderFront() override;
@@ -71,7 +71,7 @@ private:
     ForeignCover& cover_;
     DragMonitor& drags_;
     xcb_connection_t* qt_; ///< Qt's own connection.
-    InputFocus focus_;
+    InputFocus& focus_;
     const xcb_atom_t shadow_;
     const xcb_atom_t skipCloseAnimation_;
     BlurEffect blur_;

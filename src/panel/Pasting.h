@@ -1,0 +1,51 @@
+#pragma once
+
+#include "base/Handle.h"
+#include "base/Scheduler.h"
+#include "platform/PasteKeys.h"
+
+#include <functional>
+#include <optional>
+
+namespace ravelo {
+
+class NotchController;
+class Pasteboard;
+
+/// Copies, closes the panel and pastes into the window that had the keyboard before it. If anything
+/// is in the way, it only copies: no other window ever gets the keys. Main thread.
+class Pasting {
+public:
+    /// All outlive this. `keys` is null if there is no way to type.
+    struct Services {
+        Scheduler& scheduler;
+        Pasteboard& pasteboard;
+        NotchController& controller;
+        PasteKeys* keys;
+    };
+
+    explicit Pasting(Services services) : services_(services) {}
+
+    [[nodiscard]] bool isPossible() const;
+
+    /// The window to paste into; nothing if that is not known or cannot be done.
+    [[nodiscard]] std::optional<PasteKeys::Target> target() const;
+
+    /// `copy` writes the pasteboard, perhaps a little later. Without a target nothing is typed.
+    void run(const std::optional<PasteKeys::Target>& target, const std::function<void()>& copy);
+
+private:
+    void wait();
+
+    struct Run {
+        PasteKeys::Target target;
+        qint64 countBefore; ///< The pasteboard's.
+        Seconds end;
+    };
+
+    Services services_;
+    std::optional<Run> run_;
+    Handle waiting_;
+};
+
+} // namespace ravelo

@@ -1,0 +1,42 @@
+#pragma once
+
+#include "base/Handle.h"
+#include "base/KeyCombination.h"
+
+#include <QByteArray>
+
+#include <functional>
+#include <optional>
+
+namespace ravelo {
+
+/// Keys that open the panel whatever has the focus. Main thread.
+class GlobalShortcut {
+public:
+    enum class State {
+        impossible, ///< This desktop lets no program take keys, as far as known.
+        none,       ///< No keys are set.
+        asked,      ///< The desktop has not answered yet.
+        registered,
+        taken,   ///< Another program has these keys.
+        refused, ///< The desktop or the user said no, or the keyboard has no such key.
+    };
+
+    virtual ~GlobalShortcut() = default;
+
+    [[nodiscard]] virtual State state() const = 0;
+
+    [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
+
+    /// Replaces the keys; without a value they go back to the desktop. `state` may follow later.
+    virtual void set(const std::optional<KeyCombination>& keys) = 0;
+
+    /// While the handle lives, the keys go to the focused window, unless the desktop itself takes
+    /// them.
+    [[nodiscard]] virtual Handle suspend() { return {}; }
+
+    /// Called at each press, with a token for `PanelWindow::requestFocus` if the desktop gave one.
+    [[nodiscard]] virtual Handle onPress(std::function<void(const QByteArray& token)> callback) = 0;
+};
+
+} // namespace ravelo

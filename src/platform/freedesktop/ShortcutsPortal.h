@@ -1,0 +1,59 @@
+#pragma once
+
+#include "base/Listeners.h"
+#include "platform/GlobalShortcut.h"
+
+#include <QDBusConnection>
+#include <QDBusMessage>
+#include <QObject>
+
+namespace ravelo {
+
+/// Keys by the portal org.freedesktop.portal.GlobalShortcuts, which may ask the user and register
+/// others than those that we prefer. Impossible until the portal has answered. Main thread.
+class ShortcutsPortal final : public QObject, public GlobalShortcut {
+    Q_OBJECT
+
+public:
+    /// Asks whether there is one; does not wait.
+    explicit ShortcutsPortal(QDBusConnection bus);
+    ~ShortcutsPortal() override;
+
+    [[nodiscard]] State state() const override { return state_; }
+
+    [[nodiscard]] Handle onChange(std::function<void()> callback) override {
+        return changes_.add(std::move(callback));
+    }
+
+    void set(const std::optional<KeyCombination>& keys) override;
+
+    [[nodiscard]] Handle onPress(std::function<void(const QByteArray& token)> callback) override {
+        return presses_.add(std::move(callback));
+    }
+
+private Q_SLOTS:
+    void responded(const QDBusMessage& response);
+    void activated(const QDBusMessage& signal);
+
+private:
+    void setState(State state);
+    void open();
+    void bind();
+    void close();
+    void request(const QString& method, const QVariantList& before, QVariantMap options);
+    [[nodiscard]] bool isFromPortal(const QDBusMessage& message) const;
+
+    QDBusConnection bus_;
+    QString portal_; ///< Its unique name; empty if there is none.
+    std::optional<KeyCombination> keys_;
+    State state_ = State::impossible;
+    QString session_; ///< Its path, while there is one.
+    QString request_; ///< The path of the one that has not been answered.
+    int requests_ = 0;
+    Listeners<> changes_;
+    Listeners<const QByteArray&> presses_;
+    Handle asking_;
+    Handle call_;
+};
+
+} // namespace ravelo

@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/x11/connection/Connection.h"
+
+#include <cstdint>
+#include <vector>
+
+namespace ravelo::x11 {
+
+/// Which keys there are, as the core protocol tells; two round trips to make. A value.
+class KeyMap {
+public:
+    explicit KeyMap(Connection& connection);
+
+    /// Of a key that makes this symbol, in the first layout without Shift if there is one; 0 if
+    /// there is none.
+    [[nodiscard]] xcb_keycode_t codeOf(uint32_t keysym) const;
+
+    /// The modifiers that a key of this symbol sets; 0 if none.
+    [[nodiscard]] uint16_t maskOf(uint32_t keysym) const;
+
+    /// Whether a key that sets a modifier is among those that are down.
+    [[nodiscard]] bool hasModifier(const xcb_query_keymap_reply_t& down) const;
+
+private:
+    xcb_keycode_t first_;
+    int columns_ = 0; ///< Symbols per key: layout by layout, each without and with Shift.
+    std::vector<uint32_t> keysyms_; ///< Key by key.
+    int keysPerModifier_ = 0;
+    std::vector<xcb_keycode_t> modifiers_; ///< Of each of the eight modifiers; 0 for none.
+};
+
+} // namespace ravelo::x11

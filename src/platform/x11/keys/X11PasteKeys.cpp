@@ -1,0 +1,133 @@
+#include "platform/x11/keys/X11PasteKeys.h"
+
+#include "platform/x11/connection/Properties.h"
+
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QMimeData>
+
+#include <X11/keysym.h>
+#include <xcb/xtest.h>
+
+#include <algorithm>
+#include <array>
+
+namespace ravelo::x11 {
+
+namespace {
+
+/// Toolkits focus windows within the one that has a class.
+constexpr int deepest = 8;
+
+bool hasXTest(Connection& connection) {
+    const auto* extension = xcb_get_extension_data(connection.get(), &xcb_test_id);
+    return extension != nullptr && extension->present != 0;
+}
+
+xcb_window_t parentOf(Connection& connection, xcb_window_t window) {
+    const auto cookie = xcb_query_tree(connection.get(), window);
+    const Owned<xcb_query_tree_reply_t> reply(
+        xcb_query_tree_reply(connection.get(), cookie, nullptr));
+    return reply ? reply->parent : XCB_NONE;
+}
+
+/// What is copied counts as selected, too. The selection's own connection is Qt's: its request has
+/// been handled before ours.
+void selectCopiedText() {
+    QClipboard* clipboard = QGuiApplication::clipboard();
+    if (clipboard->ownsClipboard()) {
+        clipboard->setText(clipboard->text(), QClipboard::Selection); // Qt waits for the server.
+    }
+}
+
+} // namespace
+
+X11PasteKeys::X11PasteKeys(Connection& connection, InputFocus& focus)
+    : connection_(connection),
+      focus_(focus),
+      own_(OwnClient::ofQt()),
+      hasXTest_(hasXTest(connection)) {}
+
+std::optional<PasteKeys::Target> X11PasteKeys::target() {
+    const auto window = focus_.next(own_);
+    return window ? std::optional(Target{*window, namesOf(*window)}) : std::nullopt;
+}
+
+PasteKeys::Readiness X11PasteKeys::readiness(const Target& target) {
+    xcb_connection_t* xcb = connection_.get();
+    const auto focusAsked = xcb_get_input_focus(xcb);
+    const auto ownerAsked = xcb_get_selection_owner(xcb, connection_.atom("CLIPBOARD"));
+    const auto downAsked = xcb_query_keymap(xcb);
+    const KeyMap keys(connection_);
+    const Owned<xcb_get_input_focus_reply_t> focus(
+        xcb_get_input_focus_reply(xcb, focusAsked, nullptr));
+    const Owned<xcb_get_selection_owner_reply_t> owner(
+        xcb_get_selection_owner_reply(xcb, ownerAsked, nullptr));
+    const Owned<xcb_query_keymap_reply_t> down(xcb_query_keymap_reply(xcb, downAsked, nullptr));
+    return {.modifiersUp = down && !keys.hasModifier(*down),
+            .ownsPasteboard = owner && own_.owns(owner->owner),
+            .focused = focus && focus->focus == target.id};
+}
+
+void X11PasteKeys::press(const Target& target, PasteChord chord) {
+    if (chord == PasteChord::shiftInsert) {
+        selectCopiedText();
+    }
+    xcb_grab_server(connection_.get());
+    if (readiness(target).isComplete()) {
+        const KeyMap keys(connection_);
+        switch (chord) {
+        case PasteChord::controlV:
+            type(keys, XK_Control_L, XCB_NO_SYMBOL, XK_v);
+            break;
+        case PasteChord::controlShiftV:
+            type(keys, XK_Control_L, XK_Shift_L, XK_v);
+            break;
+        case PasteChord::shiftInsert:
+            type(keys, XK_Shift_L, XCB_NO_SYMBOL, XK_Insert);
+            break;
+        }
+    }
+    xcb_ungrab_server(connection_.get());
+    xcb_flush(connection_.get());
+}
+
+/// Instance and class of the window or the one around it.
+QStringList X11PasteKeys::namesOf(xcb_window_t window) {
+    for (int depth = 0; depth < deepest && window != XCB_NONE && window != connection_.root();
+         ++depth) {
+        QStringList names;
+        const QByteArray wmClass = PropertyRequest(connection_, window, XCB_ATOM_WM_CLASS).bytes();
+        for (const QByteArray& name : wmClass.split('\0')) {
+            if (!name.isEmpty()) {
+                names.append(QString::fromUtf8(name));
+            }
+        }
+        if (!names.isEmpty()) {
+            return names;
+        }
+        window = parentOf(connection_, window);
+    }
+    return {};
+}
+
+/// Nothing if the keyboard lacks one of the keys.
+void X11PasteKeys::type(const KeyMap& keys, uint32_t modifier, uint32_t second, uint32_t key) {
+    std::vector<xcb_keycode_t> codes{keys.codeOf(modifier), keys.codeOf(key)};
+    if (second != XCB_NO_SYMBOL) {
+        codes.insert(codes.begin() + 1, keys.codeOf(second));
+    }
+    if (std::ranges::find(codes, 0) != codes.end()) {
+        return;
+    }
+    const auto send = [this](uint8_t type, xcb_keycode_t code) {
+        xcb_test_fake_input(connection_.get(), type, code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+    };
+    for (const xcb_keycode_t code : codes) {
+        send(XCB_KEY_PRESS, code);
+    }
+    std::ranges::for_each(codes.rbegin(), codes.rend(),
+                          [&](xcb_keycode_t code) { send(XCB_KEY_RELEASE, code); });
+}
+
+} // namespace ravelo::x11

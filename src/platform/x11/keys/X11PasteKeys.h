@@ -1,0 +1,33 @@
+#pragma once
+
+#include "platform/PasteKeys.h"
+#include "platform/x11/keys/KeyMap.h"
+#include "platform/x11/window/InputFocus.h"
+
+namespace ravelo::x11 {
+
+/// Types by the XTEST extension. On the main thread's connection.
+class X11PasteKeys final : public PasteKeys {
+public:
+    /// Both must outlive it.
+    X11PasteKeys(Connection& connection, InputFocus& focus);
+
+    [[nodiscard]] bool isPossible() const override { return hasXTest_; }
+
+    [[nodiscard]] std::optional<Target> target() override;
+    [[nodiscard]] Readiness readiness(const Target& target) override;
+
+    /// With the server to itself, so that nothing changes in between.
+    void press(const Target& target, PasteChord chord) override;
+
+private:
+    [[nodiscard]] QStringList namesOf(xcb_window_t window);
+    void type(const KeyMap& keys, uint32_t modifier, uint32_t second, uint32_t key);
+
+    Connection& connection_;
+    InputFocus& focus_;
+    OwnClient own_;
+    bool hasXTest_;
+};
+
+} // namespace ravelo::x11

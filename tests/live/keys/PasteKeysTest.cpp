@@ -1,0 +1,119 @@
+// Into real programs: a terminal and a text field.
+
+#include "live/window/PanelFixture.h"
+#include "platform/x11/keys/X11PasteKeys.h"
+
+#include <QClipboard>
+#include <QFile>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QTemporaryDir>
+
+namespace ravelo::live {
+namespace {
+
+using namespace Qt::StringLiterals;
+
+/// Writes the text of its field at each change.
+constexpr QLatin1StringView entryProgram(R"(
+import gi
+gi.require_version("Gtk", "3.0")
+from gi.repository import GLib, Gtk
+GLib.set_prgname("entry")
+window, entry = Gtk.Window(), Gtk.Entry()
+window.add(entry)
+entry.connect("changed", lambda entry: print(entry.get_text(), flush=True))
+window.connect("focus-in-event", lambda *_: print("focus", flush=True))
+window.show_all()
+Gtk.main()
+)");
+
+class PasteKeysTest : public PanelFixture {
+protected:
+    void SetUp() override {
+        show(u"DUMMY0"_s, {400, 200});
+        auto contents = std::make_unique<QMimeData>();
+        contents->setData(u"text/plain"_s, "pasted at once");
+        QGuiApplication::clipboard()->setMimeData(contents.release());
+    }
+
+    /// As if the user had come from another window to the panel.
+    PasteKeys::Target comeFrom(const QString& name) {
+        std::optional<PasteKeys::Target> target;
+        EXPECT_TRUE(eventually([&] {
+            target = keys.target();
+            return target && target->names.contains(name, Qt::CaseInsensitive);
+        })) << qPrintable(name)
+            << " does not get the focus";
+        panel.requestFocus({});
+        EXPECT_TRUE(eventually([&] { return server.focus() == id(); }));
+        EXPECT_EQ(keys.target()->id, target->id) << "not the one that gets the focus back";
+        EXPECT_FALSE(keys.readiness(*target).focused) << "while the panel has it";
+        return *target;
+    }
+
+    void paste(const PasteKeys::Target& target, PasteChord chord) {
+        panel.returnFocus();
+        EXPECT_TRUE(eventually([&] { return keys.readiness(target).isComplete(); }));
+        keys.press(target, chord);
+    }
+
+    x11::X11PasteKeys keys{*connection, inputFocus};
+    Client entry{u"/usr/bin/python3"_s, {u"-c"_s, entryProgram}};
+};
+
+TEST_F(PasteKeysTest, ATextFieldGetsTheText) {
+    EXPECT_EQ(entry.readLine(), "focus");
+    const auto target = comeFrom(u"entry"_s);
+    paste(target, PasteChord::controlV);
+    QByteArray line;
+    EXPECT_TRUE(eventually([&] { return (line = entry.readLine()) != "focus"; }));
+    EXPECT_EQ(line, "pasted at once");
+}
+
+TEST_F(PasteKeysTest, ATerminalGetsTheText) {
+    EXPECT_EQ(entry.readLine(), "focus");
+    const QTemporaryDir folder;
+    const QString path = folder.filePath(u"line"_s);
+    const Client terminal(u"xterm"_s,
+                          {u"-e"_s, u"sh"_s, u"-c"_s, u"stty -icanon; cat > "_s + path});
+    const auto target = comeFrom(u"xterm"_s);
+    QFile file(path);
+    ASSERT_TRUE(eventually([&] { return file.open(QIODevice::ReadOnly); }));
+    paste(target, PasteChord::shiftInsert);
+    QByteArray text;
+    EXPECT_TRUE(eventually([&] { return (text += file.readAll()).size() >= 14; }));
+    EXPECT_EQ(text, "pasted at once");
+}
+
+TEST_F(PasteKeysTest, NothingIsTypedUnlessAllIsTrue) {
+    EXPECT_EQ(entry.readLine(), "focus");
+    const auto target = comeFrom(u"entry"_s);
+    panel.returnFocus();
+    EXPECT_TRUE(eventually([&] { return keys.readiness(target).isComplete(); }));
+
+    EXPECT_TRUE(run(u"xdotool"_s, {u"keydown"_s, u"Shift_L"_s}));
+    EXPECT_FALSE(keys.readiness(target).modifiersUp);
+    keys.press(target, PasteChord::controlV);
+    EXPECT_TRUE(run(u"xdotool"_s, {u"keyup"_s, u"Shift_L"_s}));
+    EXPECT_TRUE(keys.readiness(target).modifiersUp);
+
+    auto stranger =
+        std::make_unique<OtherWindow>(OtherWindow::Kind::normal, QRect(300, 600, 300, 200));
+    EXPECT_FALSE(keys.readiness(target).focused);
+    keys.press(target, PasteChord::controlV);
+    stranger.reset();
+    EXPECT_TRUE(eventually([&] { return keys.readiness(target).focused; }));
+
+    EXPECT_TRUE(run(u"sh"_s, {u"-c"_s, u"echo foreign | xclip -selection clipboard"_s}));
+    EXPECT_TRUE(eventually([&] { return !keys.readiness(target).ownsPasteboard; }));
+    keys.press(target, PasteChord::controlV);
+
+    EXPECT_TRUE(run(u"xdotool"_s, {u"key"_s, u"x"_s}));
+    QByteArray line;
+    EXPECT_TRUE(eventually([&] { return (line = entry.readLine()) != "focus"; }));
+    EXPECT_EQ(line, "x") << "something was pasted";
+}
+
+} // namespace
+} // namespace ravelo::live
