@@ -9,6 +9,7 @@
 #include "monitor/ClaudeEnvironment.h"
 #include "monitor/LiveContext.h"
 #include "monitor/PlanUsage.h"
+#include "notices/DesktopNotices.h"
 #include "notices/Notices.h"
 #include "panel/NotchController.h"
 #include "platform/AlertSound.h"
@@ -25,6 +26,7 @@
 #include "platform/LoginItem.h"
 #include "platform/MotionPreference.h"
 #include "platform/NightShift.h"
+#include "platform/Notifier.h"
 #include "platform/PackageUpdates.h"
 #include "platform/SecretStore.h"
 #include "platform/SessionLock.h"
@@ -61,6 +63,8 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr double secondsPerMinute = 60;
 
 QByteArray home() {
     return QFile::encodeName(QDir::homePath());
@@ -118,6 +122,10 @@ CaptureRules captureRules(const AppSettings& settings) {
             : minutes == AppSettings::neverKept ? Secrets::dropped
                                                 : Secrets::inMemory,
             settings.keyLikeWords() ? KeyLikeWords::yes : KeyLikeWords::no};
+}
+
+StatusChoice statusChoice(const AppSettings& settings) {
+    return {settings.showPeakHours(), settings.handedOverFirst()};
 }
 
 /// Created by the first call, which must pass the packages.
@@ -217,12 +225,12 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         updateWindow_->show();
     };
     statusItem_ = std::make_unique<StatusItemController>(
-        StatusItemController::Services{*platform_.statusItem, *notch_, *pause_, liveContext(),
+        StatusItemController::Services{*platform_.statusItem, *notch_, *pause_, liveContext(), planUsage(),
                                        *platform_.scheduler, *settings_, checkUpdates, quitLater},
         QLocale());
     commands_ = std::make_unique<Commands>(
         Commands::Services{*store_, *pause_, *notch_, *platform_.scheduler, liveContext(),
-                           planUsage(), [this] { showSetup(); }, checkUpdates, quitLater,
+                           planUsage(), [this] { return statusChoice(*settings_); }, [this] { showSetup(); }, checkUpdates, quitLater,
                            [this](const QString& path, const Commands::Reply& reply) {
                                transfers_->exportTo(path, reply);
                            },
@@ -234,6 +242,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
                            }});
     wire();
     wireNotices();
+    wireNotifications();
     wireEncryption();
     if (!settings_->onboarded()) {
         showSetup();
@@ -274,7 +283,7 @@ void AppDelegate::provideWindows() {
         beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get(),
         platform_.display->pasteboard().namesPrograms(), selected_ != nullptr, [this] {
             erase([](const Answer&) {});
-        }});
+        }, platform_.notifier.get()});
     onboarding_ = std::make_unique<OnboardingController>(
         beside, *settings_, platform_.display->screens(), platform_.extension.get());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());
@@ -358,6 +367,16 @@ void AppDelegate::wireSettings() {
     };
     look();
     QObject::connect(&liveContext(), &LiveContext::changed, notch_.get(), look);
+    const auto followSession = [this] {
+        using Session = ContextReader::Session;
+        liveContext().setSession(settings_->keepSession() ? Session::steady : Session::newest);
+    };
+    followSession();
+    QObject::connect(settings_.get(), &AppSettings::keepSessionChanged, notch_.get(),
+                     [this, followSession] {
+                         followSession();
+                         liveContext().refresh();
+                     });
 }
 
 void AppDelegate::followRules() {
@@ -428,6 +447,26 @@ void AppDelegate::wireNotices() {
                      });
 }
 
+void AppDelegate::wireNotifications() {
+    notifications_ = std::make_unique<DesktopNotices>(DesktopNotices::Services{
+        *platform_.notifier, *settings_, *platform_.preferences, *platform_.scheduler, planUsage(),
+        *notices_, [this] {
+            return std::ranges::any_of(locks(),
+                                       [](const SessionLock* lock) { return lock->isLocked(); });
+        }});
+    notifications_->onStartTimer = [this](double minutes) {
+        store_->startTimer(store_->timerLabel(), minutes);
+    };
+    QObject::connect(store_.get(), &Store::timerEnded, notifications_.get(), [this] {
+        notifications_->timerEnded(store_->timerDuration() / secondsPerMinute);
+    });
+    arrivals_ = received_->onChange([this] {
+        using Arrivals = DesktopNotices::Arrivals;
+        notifications_->filesReceived(received_->files(),
+                                      received_->receiving() ? Arrivals::goOn : Arrivals::over);
+    });
+}
+
 /// The key opens the store; what waits for it is said; a locked screen can take it away.
 void AppDelegate::wireEncryption() {
     QObject::connect(encryption_.get(), &Encryption::opened, store_.get(), &Store::unlock);
@@ -460,6 +499,7 @@ void AppDelegate::followScreenLock() {
         return;
     }
     if (!locked) {
+        notifications_->followPlan();
         store_->lock({}); // It may still wait for a save.
         encryption_->getKey();
     } else if (settings_->forgetKeyWhileLocked() && encryption_->state() == Encryption::Open) {

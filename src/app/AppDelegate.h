@@ -19,6 +19,7 @@ class CapturePause;
 class Encryption;
 class ClipboardManager;
 class Commands;
+class DesktopNotices;
 class HotZone;
 class LiveContext;
 class Notices;
@@ -76,6 +77,7 @@ private:
     void provideWindows();
     void wire();
     void wireNotices();
+    void wireNotifications();
     void wireSettings();
     void wireSecrets();
     void followRules();
@@ -87,6 +89,7 @@ private:
     std::unique_ptr<ReceivedWatcher> received_;
     std::unique_ptr<NearbySend> nearby_;
     std::unique_ptr<Notices> notices_;
+    std::unique_ptr<DesktopNotices> notifications_;
     std::unique_ptr<Encryption> encryption_;
     std::unique_ptr<Store> store_;
     std::unique_ptr<Transfers> transfers_;
@@ -107,6 +110,7 @@ private:
     Handle compositor_;
     Handle motion_;
     Handle termination_;
+    Handle arrivals_;
     std::vector<Handle> lockChanges_;
     bool screenLocked_ = false;
 };

@@ -44,6 +44,13 @@ class AppSettings : public QObject {
                    keepSelectedTextChanged)
     Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
                    hideClaudeCodeChanged)
+    Q_PROPERTY(bool showPeakHours READ showPeakHours WRITE setShowPeakHours NOTIFY showPeakHoursChanged)
+    Q_PROPERTY(bool keepSession READ keepSession WRITE setKeepSession NOTIFY keepSessionChanged)
+    Q_PROPERTY(bool handedOverFirst READ handedOverFirst WRITE setHandedOverFirst NOTIFY handedOverFirstChanged)
+    Q_PROPERTY(bool notifyTimer READ notifyTimer WRITE setNotifyTimer NOTIFY notifyTimerChanged)
+    Q_PROPERTY(bool notifyFiles READ notifyFiles WRITE setNotifyFiles NOTIFY notifyFilesChanged)
+    Q_PROPERTY(bool notifySaving READ notifySaving WRITE setNotifySaving NOTIFY notifySavingChanged)
+    Q_PROPERTY(bool notifyPlan READ notifyPlan WRITE setNotifyPlan NOTIFY notifyPlanChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
     Q_PROPERTY(
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
@@ -94,6 +101,28 @@ public:
 
     /// Hides Claude Code's usage if it is not installed.
     [[nodiscard]] bool hideClaudeCode() const;
+
+    /// Peak hours are shown beside the session.
+    [[nodiscard]] bool showPeakHours() const { return showPeakHours_; }
+
+    /// Stay with the session that wrote last until it has been quiet for a minute.
+    [[nodiscard]] bool keepSession() const { return keepSession_; }
+
+    /// Show what Claude Code hands to its status line instead of what its transcripts say.
+    [[nodiscard]] bool handedOverFirst() const { return handedOverFirst_; }
+
+    /// Desktop notifications when the timer ends, ...
+    [[nodiscard]] bool notifyTimer() const { return notifyTimer_; }
+
+    /// ... when files were received, ...
+    [[nodiscard]] bool notifyFiles() const { return notifyFiles_; }
+
+    /// ... when saving fails, ...
+    [[nodiscard]] bool notifySaving() const { return notifySaving_; }
+
+    /// ... and when the plan reaches a threshold or is reset.
+    [[nodiscard]] bool notifyPlan() const { return notifyPlan_; }
+
     [[nodiscard]] bool onboarded() const;
     [[nodiscard]] bool launchAtLogin() const;
 
@@ -117,6 +146,13 @@ public:
     void setKeyLikeWords(bool on);
     void setKeepSelectedText(bool on);
     void setHideClaudeCode(bool on);
+    void setShowPeakHours(bool on);
+    void setKeepSession(bool on);
+    void setHandedOverFirst(bool on);
+    void setNotifyTimer(bool on);
+    void setNotifyFiles(bool on);
+    void setNotifySaving(bool on);
+    void setNotifyPlan(bool on);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
 
@@ -151,6 +187,13 @@ Q_SIGNALS:
     void keyLikeWordsChanged();
     void keepSelectedTextChanged();
     void hideClaudeCodeChanged();
+    void showPeakHoursChanged();
+    void keepSessionChanged();
+    void handedOverFirstChanged();
+    void notifyTimerChanged();
+    void notifyFilesChanged();
+    void notifySavingChanged();
+    void notifyPlanChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
 
@@ -182,6 +225,13 @@ private:
     bool keyLikeWords_;
     bool keepSelectedText_;
     bool hideClaudeCode_;
+    bool showPeakHours_;
+    bool keepSession_;
+    bool handedOverFirst_;
+    bool notifyTimer_;
+    bool notifyFiles_;
+    bool notifySaving_;
+    bool notifyPlan_;
     bool onboarded_;
     bool launchAtLogin_;
 };
