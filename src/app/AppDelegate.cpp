@@ -225,12 +225,14 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         updateWindow_->show();
     };
     statusItem_ = std::make_unique<StatusItemController>(
-        StatusItemController::Services{*platform_.statusItem, *notch_, *pause_, liveContext(), planUsage(),
-                                       *platform_.scheduler, *settings_, checkUpdates, quitLater},
+        StatusItemController::Services{*platform_.statusItem, *notch_, *pause_, liveContext(),
+                                       planUsage(), *platform_.scheduler, *settings_, checkUpdates,
+                                       quitLater},
         QLocale());
     commands_ = std::make_unique<Commands>(
         Commands::Services{*store_, *pause_, *notch_, *platform_.scheduler, liveContext(),
-                           planUsage(), [this] { return statusChoice(*settings_); }, [this] { showSetup(); }, checkUpdates, quitLater,
+                           planUsage(), [this] { return statusChoice(*settings_); },
+                           [this] { showSetup(); }, checkUpdates, quitLater,
                            [this](const QString& path, const Commands::Reply& reply) {
                                transfers_->exportTo(path, reply);
                            },
@@ -281,9 +283,8 @@ void AppDelegate::provideWindows() {
                                       }};
     settingsWindow_ = std::make_unique<SettingsWindow>(SettingsWindow::Subjects{
         beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get(),
-        platform_.display->pasteboard().namesPrograms(), selected_ != nullptr, [this] {
-            erase([](const Answer&) {});
-        }, platform_.notifier.get()});
+        platform_.display->pasteboard().namesPrograms(), selected_ != nullptr,
+        [this] { erase([](const Answer&) {}); }, platform_.notifier.get()});
     onboarding_ = std::make_unique<OnboardingController>(
         beside, *settings_, platform_.display->screens(), platform_.extension.get());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());

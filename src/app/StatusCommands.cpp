@@ -50,9 +50,7 @@ Answer statusAnswer(const MonitorStatus& status, Date now, const StatusChoice& c
     if (format == "--tmux"_L1) {
         return {0, tmuxText(status, now, choice), {}};
     }
-    return {0,
-            statusLine(status, now, locale, QTimeZone::systemTimeZone(), choice).toUtf8(),
-            {}};
+    return {0, statusLine(status, now, locale, QTimeZone::systemTimeZone(), choice).toUtf8(), {}};
 }
 
 Answer statusFromFiles(const QString& preferenceFile, const QStringList& arguments) {
@@ -87,8 +85,7 @@ Answer storeUsageFromInput(Printing printing) {
         }
     }
     if (printing == Printing::line) { // Also if the disk is full.
-        answer.output =
-            handedOverText(handed.value_or(HandedOver()), plan.value_or(PlanWindows()));
+        answer.output = handedOverText(handed.value_or(HandedOver()), plan.value_or(PlanWindows()));
     }
     return answer;
 }

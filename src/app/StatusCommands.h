@@ -13,8 +13,8 @@ struct MonitorStatus;
 struct StatusChoice;
 
 /// Prints one line, or with "--json" one object, or what "--waybar" or "--tmux" displays.
-[[nodiscard]] Answer statusAnswer(const MonitorStatus& status, Date now,
-                                  const StatusChoice& choice, const QStringList& arguments);
+[[nodiscard]] Answer statusAnswer(const MonitorStatus& status, Date now, const StatusChoice& choice,
+                                  const QStringList& arguments);
 
 /// The same from this user's files, if no Ravelo runs. Blocks.
 [[nodiscard]] Answer statusFromFiles(const QString& preferenceFile, const QStringList& arguments);

@@ -179,8 +179,8 @@ int main(int argc, char** argv) {
     case Command::Kind::showDetails:
         return print(detailsText().toUtf8());
     case Command::Kind::storeUsage:
-        return report(storeUsageFromInput(
-            command->request.isEmpty() ? Printing::none : Printing::line));
+        return report(
+            storeUsageFromInput(command->request.isEmpty() ? Printing::none : Printing::line));
     case Command::Kind::ask:
         return ask(*command, argv);
     }

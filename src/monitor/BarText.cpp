@@ -53,18 +53,16 @@ QByteArray waybarText(const MonitorStatus& status, Date now, const QLocale& loca
     lines << contextDetails(status, now, zone, choice);
     const double percent =
         std::max(current(status.plan.session, now), current(status.plan.week, now));
-    const QJsonObject object{
-        {u"text"_s, planText(status.plan, timeLeft(status.plan.session, now))},
-        {u"tooltip"_s, lines.join(u'\n')},
-        {u"class"_s, byUsage(percent, u"ok"_s, u"warn"_s, u"critical"_s)},
-        {u"percentage"_s, std::round(std::clamp(percent, 0.0, 100.0))}};
+    const QJsonObject object{{u"text"_s, planText(status.plan, timeLeft(status.plan.session, now))},
+                             {u"tooltip"_s, lines.join(u'\n')},
+                             {u"class"_s, byUsage(percent, u"ok"_s, u"warn"_s, u"critical"_s)},
+                             {u"percentage"_s, std::round(std::clamp(percent, 0.0, 100.0))}};
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 
 QByteArray tmuxText(const MonitorStatus& status, Date now, const StatusChoice& choice) {
     const auto coloured = [now](const QString& name, const std::optional<UsageWindow>& window) {
-        const QString colour =
-            byUsage(current(window, now), u"green"_s, u"yellow"_s, u"red"_s);
+        const QString colour = byUsage(current(window, now), u"green"_s, u"yellow"_s, u"red"_s);
         return u"#[fg=%1]%2 %3#[default]"_s.arg(colour, name, percentText(window));
     };
     QStringList parts{coloured(u"5h"_s, status.plan.session)};

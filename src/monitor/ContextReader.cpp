@@ -129,8 +129,7 @@ void ContextReader::readTurns(Folder& folder, const FolderChanges::Changes& chan
     const std::vector<Transcript> newest = folder.transcripts.newest(changes);
     folder.read.reserve(newest.size()); // `chosen` points into it.
     for (const Transcript& transcript : newest) {
-        const double silence =
-            choice.now.sinceReference - modified(transcript).sinceReference;
+        const double silence = choice.now.sinceReference - modified(transcript).sinceReference;
         const bool isSteady = choice.session == Session::steady &&
                               transcript.path == folder.steady && std::abs(silence) < quiet.count();
         if (chosen != nullptr && !isSteady) {
@@ -153,8 +152,9 @@ void ContextReader::readTurns(Folder& folder, const FolderChanges::Changes& chan
     if (chosen != nullptr) {
         folder.steady = chosen->transcript.path;
         reading.turn = ContextReading::Turn{*chosen->usage, modified(chosen->transcript),
-                        projectName(chosen->usage->folder, storedFolder(chosen->transcript),
-                                    QFile::decodeName(home_))};
+                                            projectName(chosen->usage->folder,
+                                                        storedFolder(chosen->transcript),
+                                                        QFile::decodeName(home_))};
     }
 }
 

@@ -77,7 +77,7 @@ private:
         std::optional<qint64> limit;
         TranscriptFinder transcripts;
         std::vector<ReadTranscript> read; ///< By the last call.
-        QByteArray steady = {}; ///< Path of the transcript that counted last.
+        QByteArray steady = {};           ///< Path of the transcript that counted last.
     };
 
     [[nodiscard]] static std::optional<Stamp> stampOf(const QByteArray& path);

@@ -18,8 +18,8 @@ class FolderChanges;
 /// How much of the plan's two windows is used up. Queried every 90 seconds, or less often if the
 /// provider refuses that or there is no login; while queries fail, read from
 /// "~/.ravelo/usage.json" within five seconds of a change, unless the file is older than the last
-/// answer. A failure changes nothing. The recent figures are kept in "~/.cache/ravelo/pace.json". Main
-/// thread.
+/// answer. A failure changes nothing. The recent figures are kept in "~/.cache/ravelo/pace.json".
+/// Main thread.
 class PlanUsage : public QObject {
     Q_OBJECT
 

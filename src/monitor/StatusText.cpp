@@ -80,9 +80,10 @@ SessionContext chosenContext(const MonitorStatus& status, const StatusChoice& ch
         (!status.lastActivity ||
          status.lastActivity->sinceReference - handed->at.sinceReference < outdated);
     return choice.handedOverFirst && isCurrent
-               ? SessionContext{handed->model, *handed->used, *handed->window, handed->project, handed->at}
+               ? SessionContext{handed->model, *handed->used, *handed->window, handed->project,
+                                handed->at}
                : SessionContext{status.model, status.used, status.limit, status.project,
-                         status.lastActivity};
+                                status.lastActivity};
 }
 
 MonitorStatus MonitorStatus::of(const LiveContext& context, const PlanUsage& usage, Date now) {

@@ -43,11 +43,11 @@ void DesktopNotices::timerEnded(double minutes) {
             }
         };
     };
-    services_.notifier.show({u"timer"_s,
-                             tr("The timer has ended"),
-                             {},
-                             {{tr("Start again"), start(minutes)},
-                              {tr("5 more minutes"), start(moreMinutes)}}});
+    services_.notifier.show(
+        {u"timer"_s,
+         tr("The timer has ended"),
+         {},
+         {{tr("Start again"), start(minutes)}, {tr("5 more minutes"), start(moreMinutes)}}});
 }
 
 void DesktopNotices::filesReceived(const QList<QUrl>& files, Arrivals arrivals) {
@@ -58,11 +58,11 @@ void DesktopNotices::filesReceived(const QList<QUrl>& files, Arrivals arrivals) 
     const qsizetype count = QSet<QUrl>(now).subtract(received_).size();
     received_ = now;
     if (count > 0 && mayShow(services_.settings.notifyFiles())) {
-        services_.notifier.show({u"files"_s,
-                                 count == 1 ? tr("A file has arrived")
-                                            : tr("%1 files have arrived").arg(count),
-                                 tr("In your downloads folder."),
-                                 {}});
+        services_.notifier.show(
+            {u"files"_s,
+             count == 1 ? tr("A file has arrived") : tr("%1 files have arrived").arg(count),
+             tr("In your downloads folder."),
+             {}});
     }
 }
 
@@ -72,8 +72,7 @@ void DesktopNotices::followNotices() {
         !mayShow(services_.settings.notifySaving())) {
         return;
     }
-    services_.notifier.show(
-        {u"saving"_s, tr("Saving fails"), tr("The panel has the reason."), {}});
+    services_.notifier.show({u"saving"_s, tr("Saving fails"), tr("The panel has the reason."), {}});
 }
 
 /// Forgets what the user was notified of before it was turned off.
@@ -99,9 +98,8 @@ void DesktopNotices::followPlan() {
         }
     }
     if (next) {
-        nextReset_ =
-            services_.scheduler.after(Seconds(next->sinceReference - now.sinceReference) + margin,
-                                      [this] { followPlan(); });
+        nextReset_ = services_.scheduler.after(
+            Seconds(next->sinceReference - now.sinceReference) + margin, [this] { followPlan(); });
     }
 }
 

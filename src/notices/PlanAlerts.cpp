@@ -61,8 +61,8 @@ PlanAlert notifiedOf(PlanNews news, const PlanAlert& known,
 }
 
 QJsonValue encodeAlert(const PlanAlert& alert) {
-    return QJsonArray{alert.level, alert.resets ? QJsonValue(alert.resets->sinceReference)
-                                                : QJsonValue()};
+    return QJsonArray{alert.level,
+                      alert.resets ? QJsonValue(alert.resets->sinceReference) : QJsonValue()};
 }
 
 PlanAlert decodeAlert(const QJsonValue& value) {

@@ -44,9 +44,11 @@ class AppSettings : public QObject {
                    keepSelectedTextChanged)
     Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
                    hideClaudeCodeChanged)
-    Q_PROPERTY(bool showPeakHours READ showPeakHours WRITE setShowPeakHours NOTIFY showPeakHoursChanged)
+    Q_PROPERTY(
+        bool showPeakHours READ showPeakHours WRITE setShowPeakHours NOTIFY showPeakHoursChanged)
     Q_PROPERTY(bool keepSession READ keepSession WRITE setKeepSession NOTIFY keepSessionChanged)
-    Q_PROPERTY(bool handedOverFirst READ handedOverFirst WRITE setHandedOverFirst NOTIFY handedOverFirstChanged)
+    Q_PROPERTY(bool handedOverFirst READ handedOverFirst WRITE setHandedOverFirst NOTIFY
+                   handedOverFirstChanged)
     Q_PROPERTY(bool notifyTimer READ notifyTimer WRITE setNotifyTimer NOTIFY notifyTimerChanged)
     Q_PROPERTY(bool notifyFiles READ notifyFiles WRITE setNotifyFiles NOTIFY notifyFilesChanged)
     Q_PROPERTY(bool notifySaving READ notifySaving WRITE setNotifySaving NOTIFY notifySavingChanged)

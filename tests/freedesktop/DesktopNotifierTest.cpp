@@ -53,7 +53,13 @@ protected:
         return {u"timer"_s,
                 u"Over"_s,
                 text,
-                {{u"Again"_s, [this] { ran_ += 'a'; }}, {u"More"_s, [this] { ran_ += 'm'; }}}};
+                {{u"Again"_s,
+                  [this] {
+                      ran_ += 'a';
+                  }},
+                 {u"More"_s, [this] {
+                      ran_ += 'm';
+                  }}}};
     }
 
     PrivateBus bus_;
@@ -77,9 +83,9 @@ TEST_F(DesktopNotifierTest, showsReplacesAndRunsActions) {
     EXPECT_EQ(available(), true);
 
     QDBusConnection intruder = bus_.connect(u"intruder"_s);
-    auto forged = QDBusMessage::createSignal(u"/org/freedesktop/Notifications"_s,
-                                             u"org.freedesktop.Notifications"_s,
-                                             u"ActionInvoked"_s);
+    auto forged =
+        QDBusMessage::createSignal(u"/org/freedesktop/Notifications"_s,
+                                   u"org.freedesktop.Notifications"_s, u"ActionInvoked"_s);
     intruder.send(forged << 1u << u"0"_s);
     for (const char* line : {"act 1 7", "act 1 default", "act 9 0", "act 2 0", "act 1 1"}) {
         command(line);

@@ -1,5 +1,5 @@
-#include "monitor/BarText.h"
 #include "monitor/HandedOver.h"
+#include "monitor/BarText.h"
 
 #include "base/Files.h"
 #include "monitor/TranscriptParser.h"
@@ -27,8 +27,8 @@ const QByteArray handed =
 TEST(HandedOver, isKeptWithoutPaths) {
     const QTemporaryDir folder;
     const QByteArray home = QFile::encodeName(folder.path());
-    const HandedOver expected{u"Opus 4.6"_s, u"3f41"_s, u"larkspur"_s, 200000, 15500, 0.1249,
-                              Date{1000}};
+    const HandedOver expected{u"Opus 4.6"_s, u"3f41"_s, u"larkspur"_s, 200000,
+                              15500,         0.1249,    Date{1000}};
     const auto read = readHandedOver(handed, Date{1000});
     ASSERT_TRUE(read);
     EXPECT_TRUE(*read == expected);
@@ -83,10 +83,10 @@ TEST(Project, isNamedByItsFolder) {
         {"/home/ann/a\nb", "", "a b"},
     };
     for (const Case& c : cases) {
-        EXPECT_EQ(projectName(QString::fromUtf8(c.folder), QString::fromUtf8(c.stored),
-                              u"/home/ann"_s)
-                      .toStdString(),
-                  c.name)
+        EXPECT_EQ(
+            projectName(QString::fromUtf8(c.folder), QString::fromUtf8(c.stored), u"/home/ann"_s)
+                .toStdString(),
+            c.name)
             << c.folder << ' ' << c.stored;
     }
 }

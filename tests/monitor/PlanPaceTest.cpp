@@ -34,16 +34,26 @@ TEST(PlanPace, followsRecordedDays) {
          "14:00",
          10,
          ""},
-        {"between two figures", {{"10:00", 20}, {"12:00", 60}, {"12:30", 71}}, "14:00", 21, "13:52"},
+        {"between two figures",
+         {{"10:00", 20}, {"12:00", 60}, {"12:30", 71}},
+         "14:00",
+         21,
+         "13:52"},
         {"asleep for two hours", {{"09:30", 20}, {"11:30", 20}, {"12:00", 40}}, "14:00", 20, ""},
         {"a rest at the end", {{"10:00", 30}, {"10:30", 60}, {"11:30", 60}}, "14:00", 0, ""},
         {"the first figure, after an hour", {{"10:00", 30}}, "14:00", 30, "12:20"},
         {"the first figure, after five minutes", {{"09:05", 2}}, "14:00", {}, ""},
         {"a window that began meanwhile", {{"08:30", 95}, {"11:30", 15}}, "16:00", 30, "14:20"},
-        {"an early reset", {{"10:00", 70}, {"10:30", 80}, {"11:00", 0}, {"12:00", 10}}, "14:00", 10,
+        {"an early reset",
+         {{"10:00", 70}, {"10:30", 80}, {"11:00", 0}, {"12:00", 10}},
+         "14:00",
+         10,
          ""},
-        {"rounded by another source", {{"11:00", 41.5}, {"11:30", 41}, {"12:00", 51.5}}, "14:00",
-         10, ""},
+        {"rounded by another source",
+         {{"11:00", 41.5}, {"11:30", 41}, {"12:00", 51.5}},
+         "14:00",
+         10,
+         ""},
         {"the clock was set back",
          {{"11:00", 10}, {"12:30", 40}, {"11:45", 40}, {"12:00", 42}},
          "14:00",
@@ -71,8 +81,8 @@ TEST(PlanPace, followsRecordedDays) {
             continue;
         }
         EXPECT_NEAR(pace->perHour, *day.perHour, 0.01) << day.name;
-        const QString full = pace->fullAt ? toDateTime(*pace->fullAt).toUTC().toString(u"HH:mm"_s)
-                                          : QString();
+        const QString full =
+            pace->fullAt ? toDateTime(*pace->fullAt).toUTC().toString(u"HH:mm"_s) : QString();
         EXPECT_EQ(full.toStdString(), day.fullAt) << day.name;
         EXPECT_TRUE(decodeCourse(encodeCourse(course)) == course) << day.name;
     }

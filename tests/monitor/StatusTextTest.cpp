@@ -63,7 +63,7 @@ TEST(Status, isPrintedAsTextAndJson) {
          R"("resetPassed":true,"resets":"2026-01-05T10:00:00Z"},"used":0,"week":null,)" +
              noneHanded +
              R"(})"
-         "\n"},
+             "\n"},
         {"nothingYetInPeak",
          inPeak,
          {{}, 0, 1000000, {}, PeakInfo::at(inPeak), {}},
@@ -73,7 +73,7 @@ TEST(Status, isPrintedAsTextAndJson) {
          R"("week":null,)" +
              noneHanded +
              R"(})"
-         "\n"},
+             "\n"},
         {"nonsense",
          inPeak,
          {u"M"_s, 1, -500, {}, PeakInfo::at(inPeak), {UsageWindow{1e300, Date{1e300}}, {}}},
@@ -84,7 +84,7 @@ TEST(Status, isPrintedAsTextAndJson) {
          R"("used":1,"week":null,)" +
              noneHanded +
              R"(})"
-         "\n"},
+             "\n"},
     };
     const QLocale english(QLocale::English, QLocale::UnitedStates);
     const QTimeZone zone = QTimeZone::utc();

@@ -22,8 +22,9 @@ protected:
 
     void start() {
         desktop_ = std::make_unique<DesktopNotices>(DesktopNotices::Services{
-            notifier_, settings_, preferences_, scheduler_, plan_.usage, notices_,
-            [this] { return locked_; }});
+            notifier_, settings_, preferences_, scheduler_, plan_.usage, notices_, [this] {
+                return locked_;
+            }});
         desktop_->onStartTimer = [this](double minutes) {
             started_.append(minutes);
         };
@@ -93,8 +94,8 @@ TEST_F(DesktopNoticesTest, areShownOnlyWhereWantedAndUnlocked) {
     for (const Notification& shown : notifier_.shown) {
         EXPECT_FALSE((shown.title + shown.text).contains(u"secret"_s)) << "a file is named";
     }
-    EXPECT_EQ(notifier_.titles(), QStringList({u"The timer has ended"_s, u"A file has arrived"_s,
-                                               u"Saving fails"_s}));
+    EXPECT_EQ(notifier_.titles(),
+              QStringList({u"The timer has ended"_s, u"A file has arrived"_s, u"Saving fails"_s}));
     everythingHappens();
     EXPECT_EQ(notifier_.titles().value(2), u"Saving fails"_s) << "it worked in between";
 }

@@ -66,24 +66,23 @@ void DesktopNotifier::send(const Notification& notification, const QStringList& 
             actions << QString::number(i) << notification.actions[i].label;
         }
     }
-    const QString text = capabilities.contains(u"body-markup"_s)
-                             ? notification.text.toHtmlEscaped()
-                             : notification.text;
+    const QString text = capabilities.contains(u"body-markup"_s) ? notification.text.toHtmlEscaped()
+                                                                 : notification.text;
     constexpr int untilTheServiceDecides = -1;
     auto call = callTo(u"Notify"_s);
     call << u"Ravelo"_s << shown.id << u"org.ravelo.Ravelo"_s << notification.title << text
          << actions << QVariantMap{{u"desktop-entry"_s, u"org.ravelo.Ravelo"_s}}
          << untilTheServiceDecides;
     shown.actions = notification.actions;
-    shown.call = callBus(bus_, call, timeOut, [this, &shown, key = notification.key](
-                                                  const QDBusMessage& reply) {
-        if (reply.type() != QDBusMessage::ReplyMessage) {
-            shown_.erase(key);
-            return;
-        }
-        shown.id = reply.arguments().value(0).toUInt();
-        shown.owner = reply.service();
-    });
+    shown.call = callBus(bus_, call, timeOut,
+                         [this, &shown, key = notification.key](const QDBusMessage& reply) {
+                             if (reply.type() != QDBusMessage::ReplyMessage) {
+                                 shown_.erase(key);
+                                 return;
+                             }
+                             shown.id = reply.arguments().value(0).toUInt();
+                             shown.owner = reply.service();
+                         });
 }
 
 DesktopNotifier::Entry DesktopNotifier::find(uint id, const QDBusMessage& signal) {
@@ -120,11 +119,11 @@ Handle DesktopNotifier::look(std::function<void(bool)> done) {
                             done(true);
                             return;
                         }
-                        *step = callBus(bus, callToBus(u"ListActivatableNames"_s), timeOut,
-                                        [done](const QDBusMessage& names) {
-                                            done(names.arguments().value(0).toStringList().contains(
-                                                service));
-                                        });
+                        *step = callBus(
+                            bus, callToBus(u"ListActivatableNames"_s), timeOut,
+                            [done](const QDBusMessage& names) {
+                                done(names.arguments().value(0).toStringList().contains(service));
+                            });
                     });
     return Handle([step] { step->reset(); });
 }

@@ -46,8 +46,8 @@ public:
     bool resetPassed = false; ///< It has reset since; the percentage is old.
     QString left = {};        ///< Short form of `reset`: the remaining time only.
 
-    QString pace = {};        ///< Only if it will be full before its reset.
-    double passed = -1;       ///< Part of its time, 0 to 1; negative if unknown.
+    QString pace = {};  ///< Only if it will be full before its reset.
+    double passed = -1; ///< Part of its time, 0 to 1; negative if unknown.
 
     [[nodiscard]] int bandNumber() const { return band; }
 
