@@ -18,7 +18,7 @@ namespace {
 
 constexpr Seconds fetchSpacing(90);
 constexpr Seconds maxSpacing(1800);
-constexpr Seconds saveSpacing(300);
+constexpr Seconds saveSpacing(600);
 
 } // namespace
 
