@@ -10,6 +10,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -28,7 +29,8 @@ QJsonValue json(const std::optional<Date>& date) {
 }
 
 QJsonValue age(const std::optional<Date>& date, Date now) {
-    return date ? QJsonValue(std::round(now.sinceReference - date->sinceReference))
+    // Another machine's clock may be ahead.
+    return date ? QJsonValue(std::max(0.0, std::round(now.sinceReference - date->sinceReference)))
                 : QJsonValue(QJsonValue::Null);
 }
 
