@@ -44,7 +44,7 @@ Column {
         SwitchRow {
             preference: "handedOverFirst"
             text: qsTr("Prefer what Claude Code reports")
-            note: qsTr("The context window as its status line has it, if that runs ravelo --store-usage.")
+            note: qsTr("From its status line, if that runs ravelo --store-usage.")
             on: page.settings.handedOverFirst
             onToggled: on => page.settings.handedOverFirst = on
         }

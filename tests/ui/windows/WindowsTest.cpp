@@ -175,9 +175,9 @@ TEST_F(Settings, SayIfTheDesktopShowsNoNotifications) {
     for (const bool available : {true, false}) {
         notifier.available = available;
         own.show();
+        ASSERT_TRUE(eventually([&] { return own.window()->isActive(); }));
         press(*own.window(), Qt::Key_4, Qt::ControlModifier);
-        const auto* row =
-            qobject_cast<QQuickItem*>(in(own.window(), u"notifyTimer"_s)->parent())->parentItem();
+        const QQuickItem* row = in(own.window(), u"notifyTimer"_s)->parentItem()->parentItem();
         const QString note = row->findChild<QQuickItem*>(u"note"_s)->property("text").toString();
         EXPECT_EQ(note.isEmpty(), available) << qPrintable(note);
     }
