@@ -180,6 +180,7 @@ TEST_F(Settings, SayIfTheDesktopShowsNoNotifications) {
         const QQuickItem* row = in(own.window(), u"notifyTimer"_s)->parentItem()->parentItem();
         const QString note = row->findChild<QQuickItem*>(u"note"_s)->property("text").toString();
         EXPECT_EQ(note.isEmpty(), available) << qPrintable(note);
+        own.window()->close();
     }
 }
 
