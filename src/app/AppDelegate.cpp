@@ -9,6 +9,7 @@
 #include "monitor/ClaudeEnvironment.h"
 #include "monitor/LiveContext.h"
 #include "monitor/PlanUsage.h"
+#include "notices/DesktopNotices.h"
 #include "notices/Notices.h"
 #include "panel/HotKeyCenter.h"
 #include "panel/NotchController.h"
@@ -28,6 +29,7 @@
 #include "platform/LoginItem.h"
 #include "platform/MotionPreference.h"
 #include "platform/NightShift.h"
+#include "platform/Notifier.h"
 #include "platform/PackageUpdates.h"
 #include "platform/SecretStore.h"
 #include "platform/SessionLock.h"
@@ -64,6 +66,8 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr double secondsPerMinute = 60;
 
 QByteArray home() {
     return QFile::encodeName(QDir::homePath());
@@ -121,6 +125,10 @@ CaptureRules captureRules(const AppSettings& settings) {
             : minutes == AppSettings::neverKept ? Secrets::dropped
                                                 : Secrets::inMemory,
             settings.keyLikeWords() ? KeyLikeWords::yes : KeyLikeWords::no};
+}
+
+StatusChoice statusChoice(const AppSettings& settings) {
+    return {settings.showPeakHours(), settings.handedOverFirst()};
 }
 
 /// Created by the first call, which must pass the packages.
@@ -226,11 +234,13 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     };
     statusItem_ = std::make_unique<StatusItemController>(
         StatusItemController::Services{*platform_.statusItem, *notch_, *pause_, liveContext(),
-                                       *platform_.scheduler, *settings_, checkUpdates, quitLater},
+                                       planUsage(), *platform_.scheduler, *settings_, checkUpdates,
+                                       quitLater},
         QLocale());
     commands_ = std::make_unique<Commands>(
         Commands::Services{*store_, *pause_, *notch_, *platform_.scheduler, liveContext(),
-                           planUsage(), [this] { showSetup(); }, checkUpdates, quitLater,
+                           planUsage(), [this] { return statusChoice(*settings_); },
+                           [this] { showSetup(); }, checkUpdates, quitLater,
                            [this](const QString& path, const Commands::Reply& reply) {
                                transfers_->exportTo(path, reply);
                            },
@@ -242,6 +252,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
                            }});
     wire();
     wireNotices();
+    wireNotifications();
     wireEncryption();
     if (!settings_->onboarded()) {
         showSetup();
@@ -284,7 +295,7 @@ void AppDelegate::provideWindows() {
         [this] { erase([](const Answer&) {}); }, platform_.shortcut.get(), pasting_->isPossible(),
         [this](const QString& text) {
             clipboard_->copyText(text);
-        }});
+        }, platform_.notifier.get()});
     onboarding_ =
         std::make_unique<OnboardingController>(beside, *settings_, platform_.display->screens(),
                                                platform_.extension.get(), platform_.shortcut.get());
@@ -370,6 +381,16 @@ void AppDelegate::wireSettings() {
     };
     look();
     QObject::connect(&liveContext(), &LiveContext::changed, notch_.get(), look);
+    const auto followSession = [this] {
+        using Session = ContextReader::Session;
+        liveContext().setSession(settings_->keepSession() ? Session::steady : Session::newest);
+    };
+    followSession();
+    QObject::connect(settings_.get(), &AppSettings::keepSessionChanged, notch_.get(),
+                     [this, followSession] {
+                         followSession();
+                         liveContext().refresh();
+                     });
 }
 
 void AppDelegate::followRules() {
@@ -453,6 +474,26 @@ void AppDelegate::wireNotices() {
                      });
 }
 
+void AppDelegate::wireNotifications() {
+    notifications_ = std::make_unique<DesktopNotices>(DesktopNotices::Services{
+        *platform_.notifier, *settings_, *platform_.preferences, *platform_.scheduler, planUsage(),
+        *notices_, [this] {
+            return std::ranges::any_of(locks(),
+                                       [](const SessionLock* lock) { return lock->isLocked(); });
+        }});
+    notifications_->onStartTimer = [this](double minutes) {
+        store_->startTimer(store_->timerLabel(), minutes);
+    };
+    QObject::connect(store_.get(), &Store::timerEnded, notifications_.get(), [this] {
+        notifications_->timerEnded(store_->timerDuration() / secondsPerMinute);
+    });
+    arrivals_ = received_->onChange([this] {
+        using Arrivals = DesktopNotices::Arrivals;
+        notifications_->filesReceived(received_->files(),
+                                      received_->receiving() ? Arrivals::goOn : Arrivals::over);
+    });
+}
+
 /// The key opens the store; what waits for it is said; a locked screen can take it away.
 void AppDelegate::wireEncryption() {
     QObject::connect(encryption_.get(), &Encryption::opened, store_.get(), &Store::unlock);
@@ -485,6 +526,7 @@ void AppDelegate::followScreenLock() {
         return;
     }
     if (!locked) {
+        notifications_->followPlan();
         store_->lock({}); // It may still wait for a save.
         encryption_->getKey();
     } else if (settings_->forgetKeyWhileLocked() && encryption_->state() == Encryption::Open) {

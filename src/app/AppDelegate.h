@@ -19,6 +19,7 @@ class CapturePause;
 class Encryption;
 class ClipboardManager;
 class Commands;
+class DesktopNotices;
 class HotZone;
 class LiveContext;
 class Notices;
@@ -77,6 +78,7 @@ private:
     void provideWindows();
     void wire();
     void wireNotices();
+    void wireNotifications();
     void wireSettings();
     void wireSecrets();
     void wireShortcut();
@@ -89,6 +91,7 @@ private:
     std::unique_ptr<ReceivedWatcher> received_;
     std::unique_ptr<NearbySend> nearby_;
     std::unique_ptr<Notices> notices_;
+    std::unique_ptr<DesktopNotices> notifications_;
     std::unique_ptr<Encryption> encryption_;
     std::unique_ptr<Store> store_;
     std::unique_ptr<Transfers> transfers_;
@@ -110,6 +113,7 @@ private:
     Handle compositor_;
     Handle motion_;
     Handle termination_;
+    Handle arrivals_;
     std::vector<Handle> lockChanges_;
     bool screenLocked_ = false;
 };

@@ -27,6 +27,8 @@ Result<Command> parseOption(const QList<QByteArray>& arguments) {
         {"--quit", {Kind::ask, {u"quit"_s}, {}, IfNoneRuns::fail}},
         {"--status", {Kind::ask, {u"status"_s}, {}, IfNoneRuns::readFiles}},
         {"--status=json", {Kind::ask, {u"status"_s, u"--json"_s}, {}, IfNoneRuns::readFiles}},
+        {"--status=waybar", {Kind::ask, {u"status"_s, u"--waybar"_s}, {}, IfNoneRuns::readFiles}},
+        {"--status=tmux", {Kind::ask, {u"status"_s, u"--tmux"_s}, {}, IfNoneRuns::readFiles}},
         {"--store-usage", {Kind::storeUsage, {}, {}, {}}},
         {"--help", {Kind::showHelp, {}, {}, {}}},
         {"-h", {Kind::showHelp, {}, {}, {}}},
@@ -40,6 +42,9 @@ Result<Command> parseOption(const QList<QByteArray>& arguments) {
     if (found->kind == Kind::showVersion && arguments.size() == 2 &&
         arguments.at(1) == "--verbose") {
         return Command{Kind::showDetails, {}, {}, {}};
+    }
+    if (found->kind == Kind::storeUsage && arguments.size() == 2 && arguments.at(1) == "--print") {
+        return Command{Kind::storeUsage, {u"--print"_s}, {}, {}};
     }
     if (arguments.size() > 1) {
         return failure(u"one argument is enough: "_s + QString::fromUtf8(arguments.at(1)));
@@ -137,12 +142,15 @@ screen. Move the pointer there to open it; click elsewhere to close it.
   --status       print one line about Claude Code: model, context used / limit,
                  peak hours, and how much of the plan's five-hour and weekly
                  windows is used; if Ravelo is not running, only as in files
-  --status=json  the same as one JSON object: model, used and limit in tokens,
-                 lastActivity, peak, isPeak, session and week. Session and week
-                 are null or have pct (0 to 100) and resets; dates are ISO 8601
-                 or null
+  --status=json  the same and more as one JSON object; the man page lists its
+                 fields. Dates are ISO 8601, unknown values null
+  --status=waybar
+                 one JSON object for waybar: text, tooltip, class (ok, warn or
+                 critical) and percentage
+  --status=tmux  a short line for tmux, with its colour codes
   --store-usage  read the input of a Claude Code status line from standard input
-                 and store the plan's usage
+                 and store the session's context and the plan's usage; with
+                 --print also print them in one line
   -h, --help     show this help
   -v, --version  show the version; with --verbose also which display server Ravelo
                  would use here, and why

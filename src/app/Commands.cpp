@@ -42,6 +42,11 @@ Result<void> jsonAtMost(const QStringList& arguments) {
     return nothing(arguments.mid(arguments.value(0) == "--json"_L1 ? 1 : 0));
 }
 
+Result<void> statusFormatAtMost(const QStringList& arguments) {
+    static const QStringList formats{u"--json"_s, u"--waybar"_s, u"--tmux"_s};
+    return nothing(arguments.mid(formats.contains(arguments.value(0)) ? 1 : 0));
+}
+
 bool asksForNul(const QString& argument) {
     return argument == "--null"_L1 || argument == "-0"_L1;
 }
@@ -284,7 +289,7 @@ Answer shelfList(const Call& call) {
 Answer status(const Call& call) {
     const Date now = call.services.scheduler.now();
     return statusAnswer(MonitorStatus::of(call.services.context, call.services.usage, now), now,
-                        call.arguments);
+                        call.services.statusChoice(), call.arguments);
 }
 
 void exportTo(const Call& call, const Commands::Reply& reply) {
@@ -315,7 +320,7 @@ std::span<const Row> allRows() {
         {{u"setup"_s}, nothing, setup},
         {{u"updates"_s}, nothing, updates},
         {{u"quit"_s}, nothing, quit},
-        {{u"status"_s}, jsonAtMost, status},
+        {{u"status"_s}, statusFormatAtMost, status},
         {{u"open"_s}, files, open},
         {{u"timer"_s, u"start"_s}, lengthAndLabel, startTimer},
         {{u"timer"_s, u"stop"_s}, nothing, stopTimer},

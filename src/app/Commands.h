@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Result.h"
+#include "monitor/StatusText.h"
 #include "platform/Answer.h"
 
 #include <QStringList>
@@ -30,6 +31,7 @@ public:
         Scheduler& scheduler;
         const LiveContext& context;
         const PlanUsage& usage;
+        std::function<StatusChoice()> statusChoice;
         std::function<void()> showSetup;
         std::function<void()> checkUpdates;
         std::function<void()> quit; ///< Not at once: the sender waits for the answer.

@@ -6,6 +6,7 @@
 #include "platform/freedesktop/AutostartEntry.h"
 #include "platform/freedesktop/BusInstance.h"
 #include "platform/freedesktop/DesktopFileOpener.h"
+#include "platform/freedesktop/DesktopNotifier.h"
 #include "platform/freedesktop/FileTransferPortal.h"
 #include "platform/freedesktop/IconTheme.h"
 #include "platform/freedesktop/KdeConnect.h"
@@ -167,6 +168,7 @@ void makeDesktop(Platform& platform, const QProcessEnvironment& environment) {
     platform.transfers =
         std::make_unique<FileTransferPortal>(helperProgram("ravelo-portal"_L1), environment);
     platform.sound = std::make_unique<ThemeSound>();
+    platform.notifier = std::make_unique<DesktopNotifier>(sessionBus());
     platform.shutDown = std::make_unique<LoginShutDown>(systemBus());
     platform.secrets = std::make_unique<SecretService>(sessionBus());
     platform.keyring = std::make_unique<SecretKeyring>(sessionBus());

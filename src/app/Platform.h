@@ -37,6 +37,7 @@ class LoginItem;
 class MotionPreference;
 class NearbyDevices;
 class NightShift;
+class Notifier;
 class PackageUpdates;
 class PanelWindow;
 class PreferenceFile;
@@ -91,6 +92,7 @@ struct Platform {
     std::unique_ptr<MotionPreference> motion;
     std::unique_ptr<FileTransfer> transfers;
     std::unique_ptr<AlertSound> sound;
+    std::unique_ptr<Notifier> notifier;
     std::unique_ptr<NightShift> nightShift;
     std::unique_ptr<ShutDown> shutDown;
     std::unique_ptr<SecretStore> secrets;

@@ -1,13 +1,17 @@
 #include "app/StatusCommands.h"
 
+#include "base/Files.h"
+#include "monitor/BarText.h"
 #include "monitor/ClaudeEnvironment.h"
-#include "monitor/StatusText.h"
 #include "monitor/UsageFile.h"
+#include "monitor/UsageReaders.h"
 #include "platform/system/InotifyChanges.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QJsonDocument>
+#include <QJsonObject>
 
 #include <cstdio>
 #include <memory>
@@ -24,25 +28,41 @@ QByteArray home() {
     return QFile::encodeName(QDir::homePath());
 }
 
-} // namespace
-
-Answer statusAnswer(const MonitorStatus& status, Date now, const QStringList& arguments) {
-    const bool json = arguments.value(0) == "--json"_L1;
-    return {0,
-            json ? statusJson(status, now, QLocale()) : statusLine(status, now, QLocale()).toUtf8(),
-            {}};
+StatusChoice choiceIn(const QString& preferenceFile) {
+    const QJsonDocument preferences =
+        QJsonDocument::fromJson(readFile(preferenceFile).value_or(QByteArray()));
+    return {preferences["showPeakHours"_L1].toBool(true),
+            preferences["handedOverFirst"_L1].toBool(false)};
 }
 
-Answer statusFromFiles(const QStringList& arguments) {
+} // namespace
+
+Answer statusAnswer(const MonitorStatus& status, Date now, const StatusChoice& choice,
+                    const QStringList& arguments) {
+    const QLocale locale;
+    const QString format = arguments.value(0);
+    if (format == "--json"_L1) {
+        return {0, statusJson(status, now, locale), {}};
+    }
+    if (format == "--waybar"_L1) {
+        return {0, waybarText(status, now, locale, choice), {}};
+    }
+    if (format == "--tmux"_L1) {
+        return {0, tmuxText(status, now, choice), {}};
+    }
+    return {0, statusLine(status, now, locale, QTimeZone::systemTimeZone(), choice).toUtf8(), {}};
+}
+
+Answer statusFromFiles(const QString& preferenceFile, const QStringList& arguments) {
     const Date now = toDate(QDateTime::currentDateTimeUtc());
     const QByteArrayList others =
         otherClaudeFolders(home(), QProcessEnvironment::systemEnvironment());
     return statusAnswer(
         MonitorStatus::fromFiles(home(), others, std::make_unique<InotifyChanges>(), now), now,
-        arguments);
+        choiceIn(preferenceFile), arguments);
 }
 
-Answer storeUsageFromInput() {
+Answer storeUsageFromInput(Printing printing) {
     QFile input;
     if (!input.open(stdin, QIODevice::ReadOnly)) {
         return {1, {}, u"cannot read standard input"_s};
@@ -51,8 +71,23 @@ Answer storeUsageFromInput() {
     if (given.size() > maxInput) {
         return {1, {}, u"that is too long for a status line"_s};
     }
-    const auto stored = storeUsage(home(), given);
-    return stored ? Answer() : Answer{1, {}, stored.error().message};
+    const auto handed = readHandedOver(given, toDate(QDateTime::currentDateTimeUtc()));
+    const auto plan = readUsageFile(given);
+    if (!handed && !plan) {
+        return {1, {}, u"the input has neither a session nor rate limits"_s};
+    }
+    const auto session = handed ? storeHandedOver(home(), *handed) : Result<void>();
+    const auto usage = plan ? storeUsage(home(), given) : Result<void>();
+    Answer answer;
+    for (const auto& stored : {session, usage}) {
+        if (!stored) {
+            answer = {1, {}, stored.error().message};
+        }
+    }
+    if (printing == Printing::line) { // Also if the disk is full.
+        answer.output = handedOverText(handed.value_or(HandedOver()), plan.value_or(PlanWindows()));
+    }
+    return answer;
 }
 
 } // namespace ravelo

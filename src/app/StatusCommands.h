@@ -10,16 +10,19 @@
 namespace ravelo {
 
 struct MonitorStatus;
+struct StatusChoice;
 
-/// Prints one line, or with "--json" one object.
-[[nodiscard]] Answer statusAnswer(const MonitorStatus& status, Date now,
+/// Prints one line, or with "--json" one object, or what "--waybar" or "--tmux" displays.
+[[nodiscard]] Answer statusAnswer(const MonitorStatus& status, Date now, const StatusChoice& choice,
                                   const QStringList& arguments);
 
 /// The same from this user's files, if no Ravelo runs. Blocks.
-[[nodiscard]] Answer statusFromFiles(const QStringList& arguments);
+[[nodiscard]] Answer statusFromFiles(const QString& preferenceFile, const QStringList& arguments);
 
-/// Stores the plan usage that is read from standard input, for the Ravelo that runs or
-/// will run. Blocks.
-[[nodiscard]] Answer storeUsageFromInput();
+enum class Printing { none, line };
+
+/// Stores what Claude Code hands to its status line on standard input, for the Ravelo that runs or
+/// will run, and prints it if wanted. Blocks.
+[[nodiscard]] Answer storeUsageFromInput(Printing printing);
 
 } // namespace ravelo

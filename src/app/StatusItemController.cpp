@@ -4,6 +4,7 @@
 #include "base/Scheduler.h"
 #include "clipboard/CapturePause.h"
 #include "monitor/LiveContext.h"
+#include "monitor/PlanUsage.h"
 #include "monitor/StatusText.h"
 #include "panel/NotchController.h"
 #include "platform/StatusItem.h"
@@ -27,8 +28,12 @@ StatusItemController::StatusItemController(Services services, const QLocale& loc
     services_.context.onChange = [this] {
         updateTitle();
     };
-    connect(&services_.settings, &AppSettings::hideClaudeCodeChanged, this,
-            &StatusItemController::updateTitle);
+    for (const auto changed :
+         {&AppSettings::hideClaudeCodeChanged, &AppSettings::showPeakHoursChanged,
+          &AppSettings::handedOverFirstChanged}) {
+        connect(&services_.settings, changed, this, &StatusItemController::updateTitle);
+    }
+    connect(&services_.plan, &PlanUsage::changed, this, &StatusItemController::updateTitle);
     // Later: the menu is replaced, perhaps while one of its rows is running.
     connect(&services_.pause, &CapturePause::changed, this, &StatusItemController::followPause,
             Qt::QueuedConnection);
@@ -114,9 +119,14 @@ QString StatusItemController::usualToolTip() const {
         return u"Ravelo"_s;
     }
     const Date now = services_.scheduler.now();
-    const MonitorStatus status{context.model(),        context.used(),    context.limit(),
-                               context.lastActivity(), PeakInfo::at(now), {}};
-    return contextLine(status, now, locale_);
+    const StatusChoice choice{services_.settings.showPeakHours(),
+                              services_.settings.handedOverFirst()};
+    const MonitorStatus status = MonitorStatus::of(context, services_.plan, now);
+    const QTimeZone zone = QTimeZone::systemTimeZone();
+    QStringList lines{contextLine(status, now, locale_, zone, choice)};
+    lines += contextDetails(status, now, zone, choice);
+    lines.removeAll(QString());
+    return lines.isEmpty() ? u"Ravelo"_s : lines.join(u'\n');
 }
 
 bool StatusItemController::eventFilter(QObject* target, QEvent* event) {

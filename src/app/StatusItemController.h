@@ -14,10 +14,12 @@ class AppSettings;
 class CapturePause;
 class LiveContext;
 class NotchController;
+class PlanUsage;
 class Scheduler;
 
 /// The program's item in the bar of the desktop: its menu, whose keys work in all windows of the
-/// program, and a tooltip with how full the context of the newest session is. Main thread.
+/// program, and a tooltip with how full the context of the newest session is, and the plan if it
+/// will be full before its reset. Main thread.
 class StatusItemController : public QObject {
 public:
     struct Services {
@@ -25,6 +27,7 @@ public:
         NotchController& notch;
         CapturePause& pause;
         LiveContext& context; ///< This sets its `onChange`.
+        PlanUsage& plan;
         Scheduler& scheduler;
         const AppSettings& settings;
         std::function<void()> checkUpdates;

@@ -144,7 +144,7 @@ int ask(Command command, char** argv) {
     auto status = starts && !AppDelegate::mayRunAlready() ? std::nullopt
                                                           : askElsewhere(command.request, argv);
     if (!status && command.ifNoneRuns == Command::IfNoneRuns::readFiles) {
-        return report(statusFromFiles(command.request.mid(1)));
+        return report(statusFromFiles(Platform::preferenceFile(), command.request.mid(1)));
     }
     if (!status && command.ifNoneRuns == Command::IfNoneRuns::erase) {
         const QCoreApplication application(nameAlone, argv);
@@ -179,7 +179,8 @@ int main(int argc, char** argv) {
     case Command::Kind::showDetails:
         return print(detailsText().toUtf8());
     case Command::Kind::storeUsage:
-        return report(storeUsageFromInput());
+        return report(
+            storeUsageFromInput(command->request.isEmpty() ? Printing::none : Printing::line));
     case Command::Kind::ask:
         return ask(*command, argv);
     }

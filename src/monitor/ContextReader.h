@@ -1,6 +1,8 @@
 #pragma once
 
 #include "base/Date.h"
+#include "base/Scheduler.h"
+#include "monitor/HandedOver.h"
 #include "monitor/TranscriptFinder.h"
 #include "monitor/TranscriptParser.h"
 #include "monitor/WatchedFiles.h"
@@ -18,7 +20,8 @@ namespace ravelo {
 struct ContextReading {
     struct Turn {
         TurnUsage usage;
-        Date modified; ///< Of the transcript.
+        Date modified;        ///< Of the transcript.
+        QString project = {}; ///< Its name, for display.
 
         friend bool operator==(const Turn&, const Turn&) = default;
     };
@@ -27,6 +30,8 @@ struct ContextReading {
     std::optional<Turn> turn;    ///< If there is one that counts.
     bool installed = false;      ///< One of Claude Code's folders, or its program, is there.
     bool watched = false;        ///< Whatever changes this is reported by `changes`.
+    std::optional<HandedOver> handed = {};
+    std::optional<Seconds> untilOther = {}; ///< Then a newer session takes over if all is quiet.
 };
 
 /// Reads the files again only if they have changed. Any one thread; blocks on the disk.
@@ -37,7 +42,16 @@ public:
     ContextReader(const QByteArray& home, std::unique_ptr<FolderChanges> changes,
                   const QByteArrayList& otherFolders = {});
 
-    [[nodiscard]] ContextReading read();
+    /// Which session counts: that of the newest turn, or the same one until it has been quiet for a
+    /// minute.
+    enum class Session { newest, steady };
+
+    struct Choice {
+        Session session = Session::newest;
+        Date now = {}; ///< For a steady one.
+    };
+
+    [[nodiscard]] ContextReading read(const Choice& choice);
 
     [[nodiscard]] FolderChanges& changes() { return *changes_; }
 
@@ -63,14 +77,20 @@ private:
         std::optional<qint64> limit;
         TranscriptFinder transcripts;
         std::vector<ReadTranscript> read; ///< By the last call.
+        QByteArray steady = {};           ///< Path of the transcript that counted last.
     };
 
+    [[nodiscard]] static std::optional<Stamp> stampOf(const QByteArray& path);
     static void readSettings(Folder& folder);
-    static std::optional<ContextReading::Turn> lastTurn(Folder& folder,
-                                                        const FolderChanges::Changes& changes);
+    void readHandedOver();
+    void readTurns(Folder& folder, const FolderChanges::Changes& changes, const Choice& choice,
+                   ContextReading& reading) const;
 
     std::unique_ptr<FolderChanges> changes_;
     WatchedFiles files_; ///< All but the transcripts.
+    QByteArray home_;
+    std::optional<Stamp> handedStamp_;
+    std::optional<HandedOver> handed_;
     std::vector<Folder> folders_;
     QByteArrayList signs_; ///< Paths of which one is there if Claude Code is.
 };

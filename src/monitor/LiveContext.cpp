@@ -41,18 +41,21 @@ void LiveContext::refresh() {
         return;
     }
     auto reading = std::make_shared<std::optional<ContextReading>>();
-    reading_ =
-        services_.jobs.run([reader = reader_, reading] { *reading = reader->read(); },
-                           [this, reading] {
-                               reading_.reset();
-                               const bool watched = *reading && (*reading)->watched;
-                               looks_.looked(watched ? Looks::Watched::yes : Looks::Watched::no);
-                               if (*reading) {
-                                   apply(**reading);
-                               } else { // Not read: everything stays as it is.
-                                   notify();
-                               }
-                           });
+    reading_ = services_.jobs.run(
+        [reader = reader_, reading,
+         choice = ContextReader::Choice{session_, services_.scheduler.now()}] {
+            *reading = reader->read(choice);
+        },
+        [this, reading] {
+            reading_.reset();
+            const bool watched = *reading && (*reading)->watched;
+            looks_.looked(watched ? Looks::Watched::yes : Looks::Watched::no);
+            if (*reading) {
+                apply(**reading);
+            } else { // Not read: everything stays as it is.
+                notify();
+            }
+        });
 }
 
 void LiveContext::apply(const ContextReading& reading) {
@@ -62,7 +65,12 @@ void LiveContext::apply(const ContextReading& reading) {
         model_ = prettyModel(reading.turn->usage.model);
         used_ = reading.turn->usage.tokens;
         lastActivity_ = reading.turn->modified;
+        project_ = reading.turn->project;
     }
+    handed_ = reading.handed;
+    otherSession_ = reading.untilOther ? services_.scheduler.after(*reading.untilOther + margin,
+                                                                   [this] { refresh(); })
+                                       : Handle();
     notify();
 }
 

@@ -53,6 +53,15 @@ public:
 
     [[nodiscard]] const std::optional<Date>& lastActivity() const { return lastActivity_; }
 
+    /// Name of the session's project; untrusted text in one line.
+    [[nodiscard]] const QString& project() const { return project_; }
+
+    /// What Claude Code handed over last, if it does.
+    [[nodiscard]] const std::optional<HandedOver>& handed() const { return handed_; }
+
+    /// Which session counts, from the next refresh on; the newest at first.
+    void setSession(ContextReader::Session session) { session_ = session; }
+
     /// Whether Claude Code is on this computer; yes until somebody has looked.
     [[nodiscard]] bool installed() const { return installed_; }
 
@@ -80,12 +89,16 @@ private:
     qint64 used_ = 0;
     qint64 limit_ = usualLimit;
     std::optional<Date> lastActivity_;
+    QString project_;
+    std::optional<HandedOver> handed_;
+    ContextReader::Session session_ = ContextReader::Session::newest;
     PeakInfo peak_;
     bool installed_ = true;
     std::shared_ptr<ContextReader> reader_; ///< In use by another thread while `reading_` is set.
     Handle reading_;
     Looks looks_;
     Handle nextLabel_;
+    Handle otherSession_; ///< Set while a newer one waits.
 };
 
 } // namespace ravelo

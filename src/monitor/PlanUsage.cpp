@@ -1,5 +1,6 @@
 #include "monitor/PlanUsage.h"
 
+#include "monitor/PaceFile.h"
 #include "monitor/UsageFile.h"
 #include "monitor/WatchedFiles.h"
 #include "platform/DetachedJobs.h"
@@ -17,6 +18,7 @@ namespace {
 
 constexpr Seconds fetchSpacing(90);
 constexpr Seconds maxSpacing(1800);
+constexpr Seconds saveSpacing(600);
 
 } // namespace
 
@@ -90,7 +92,7 @@ void PlanUsage::handle(const UsageQuery::Outcome& outcome) {
         spacing_ = fetchSpacing;
         liveAt_ = services_.scheduler.now();
         looks_.pause();
-        set(*outcome.windows);
+        set(*outcome.windows, *liveAt_);
     } else {
         readFile();
     }
@@ -113,32 +115,86 @@ void PlanUsage::readFile() {
     struct Reading {
         bool watched = false;
         std::optional<PlanWindows> windows;
+        std::optional<Date> written;
+        std::optional<PlanCourse> course;
     };
 
     auto reading = std::make_shared<Reading>();
     reading_ = services_.jobs.run(
-        [reading, files = files_, home = home_, liveAt = liveAt_] {
+        [reading, files = files_, home = home_, liveAt = liveAt_, loaded = courseLoaded_] {
             static_cast<void>(files->changes->take());
             reading->watched = files->watched.watch();
-            if (!liveAt || usageWritten(home) >= liveAt) {
+            reading->written = usageWritten(home);
+            if (!liveAt || reading->written >= liveAt) {
                 reading->windows = loadUsage(home);
+            }
+            if (!loaded) {
+                reading->course = loadCourse(home);
             }
         },
         [this, reading] {
             reading_.reset();
+            if (reading->course) {
+                handleCourse(*reading->course);
+            }
             if (liveOK_) {
                 return;
             }
             looks_.looked(reading->watched ? Looks::Watched::yes : Looks::Watched::no);
             if (reading->windows) {
-                set(*reading->windows);
+                set(*reading->windows, reading->written.value_or(services_.scheduler.now()));
             }
         });
 }
 
-void PlanUsage::set(const PlanWindows& windows) {
+void PlanUsage::set(const PlanWindows& windows, Date at) {
     windows_ = windows;
+    figuresAt_ = at;
+    course_.add(windows, at);
+    pace_ = course_.pace(windows);
     Q_EMIT changed();
+    saveCourse();
+}
+
+/// Figures may have come before it was read.
+void PlanUsage::handleCourse(PlanCourse before) {
+    courseLoaded_ = true;
+    savedCourse_ = before;
+    for (const UsageSample& sample : course_.session.samples()) {
+        before.session.add(sample, sessionKind);
+    }
+    for (const UsageSample& sample : course_.week.samples()) {
+        before.week.add(sample, weekKind);
+    }
+    course_ = std::move(before);
+    if (figuresAt_) {
+        pace_ = course_.pace(windows_);
+        Q_EMIT changed();
+    }
+}
+
+/// While nothing is used, nothing is written.
+void PlanUsage::saveCourse() {
+    const Seconds now = services_.scheduler.uptime();
+    const auto sameUsage = [this](UsageCourse PlanCourse::*window) {
+        const auto percent = [window](const PlanCourse& course) {
+            const auto& samples = (course.*window).samples();
+            return samples.empty() ? -1 : samples.back().pct;
+        };
+        return percent(course_) == percent(*savedCourse_);
+    };
+    if (!courseLoaded_ || savingCourse_ ||
+        (courseSaved_ > Seconds(0) && now - courseSaved_ < saveSpacing) ||
+        (sameUsage(&PlanCourse::session) && sameUsage(&PlanCourse::week))) {
+        return;
+    }
+    savedCourse_ = course_;
+    courseSaved_ = now;
+    savingCourse_ = services_.jobs.run(
+        [home = home_, course = course_] {
+            static_cast<void>(storeCourse(home, course)); // The next one replaces it anyway.
+        },
+        [this] { savingCourse_.reset(); });
 }
 
 } // namespace ravelo

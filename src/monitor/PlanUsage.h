@@ -2,6 +2,7 @@
 
 #include "base/Handle.h"
 #include "monitor/Looks.h"
+#include "monitor/PlanPace.h"
 #include "monitor/UsageQuery.h"
 
 #include <QObject>
@@ -17,7 +18,8 @@ class FolderChanges;
 /// How much of the plan's two windows is used up. Queried every 90 seconds, or less often if the
 /// provider refuses that or there is no login; while queries fail, read from
 /// "~/.ravelo/usage.json" within five seconds of a change, unless the file is older than the last
-/// answer. A failure changes nothing. Main thread.
+/// answer. A failure changes nothing. The recent figures are kept in "~/.cache/ravelo/pace.json".
+/// Main thread.
 class PlanUsage : public QObject {
     Q_OBJECT
 
@@ -38,6 +40,12 @@ public:
 
     [[nodiscard]] const std::optional<UsageWindow>& week() const { return windows_.week; }
 
+    /// How fast they fill up; computed when figures come.
+    [[nodiscard]] const PlanPace& pace() const { return pace_; }
+
+    /// The time of the figures; nothing before the first.
+    [[nodiscard]] const std::optional<Date>& figuresAt() const { return figuresAt_; }
+
     /// A query is running.
     [[nodiscard]] bool fetching() const { return fetching_; }
 
@@ -56,7 +64,9 @@ private:
     void handle(const UsageQuery::Outcome& outcome);
     void readFile();
     void awaitFetch();
-    void set(const PlanWindows& windows);
+    void set(const PlanWindows& windows, Date at);
+    void handleCourse(PlanCourse before);
+    void saveCourse();
 
     struct Files; ///< Used by another thread while `reading_` is set.
 
@@ -66,6 +76,13 @@ private:
     Looks looks_;
     UsageQuery query_;
     PlanWindows windows_;
+    std::optional<Date> figuresAt_;
+    PlanCourse course_;
+    PlanPace pace_;
+    bool courseLoaded_ = false;
+    std::optional<PlanCourse> savedCourse_;
+    Seconds courseSaved_{0}; ///< Uptime.
+    Handle savingCourse_;
     std::optional<Seconds> lastFetch_; ///< Uptime.
     Seconds spacing_;                  ///< Minimum time between fetches.
     Seconds notBefore_{0};             ///< Uptime of the earliest next fetch.

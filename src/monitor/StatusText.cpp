@@ -2,6 +2,7 @@
 
 #include "monitor/ContextReader.h"
 #include "monitor/LiveContext.h"
+#include "monitor/PaceFile.h"
 #include "monitor/PlanUsage.h"
 #include "monitor/UsageFile.h"
 #include "platform/FolderChanges.h"
@@ -9,6 +10,7 @@
 #include <QJsonDocument>
 #include <QJsonObject>
 
+#include <algorithm>
 #include <cmath>
 #include <utility>
 
@@ -26,65 +28,152 @@ QJsonValue json(const std::optional<Date>& date) {
     return toDateTime(*date).toUTC().toString(Qt::ISODate);
 }
 
-QJsonValue json(const std::optional<UsageWindow>& window, Date now) {
+QJsonValue age(const std::optional<Date>& date, Date now) {
+    // Another machine's clock may be ahead.
+    return date ? QJsonValue(std::max(0.0, std::round(now.sinceReference - date->sinceReference)))
+                : QJsonValue(QJsonValue::Null);
+}
+
+QJsonValue json(const std::optional<UsageWindow>& window, const std::optional<Pace>& pace,
+                Date now) {
     if (!window) {
         return QJsonValue::Null;
     }
-    QJsonObject object{{u"pct"_s, window->pct}, {u"resets"_s, json(window->resets)}};
+    QJsonObject object{
+        {u"pct"_s, window->pct},
+        {u"resets"_s, json(window->resets)},
+        {u"pace"_s, pace ? QJsonValue(std::round(pace->perHour * 100) / 100) : QJsonValue()},
+        {u"fullAt"_s, willBeFull(pace, now) ? json(pace->fullAt) : QJsonValue()}};
     if (resetHasPassed(window, now)) {
         object.insert(u"resetPassed"_s, true);
     }
     return object;
 }
 
+template <typename T>
+QJsonValue orNull(const std::optional<T>& value) {
+    return value ? QJsonValue(*value) : QJsonValue();
+}
+
+void insertHandedOver(QJsonObject& object, const std::optional<HandedOver>& handed, Date now) {
+    const HandedOver known = handed.value_or(HandedOver());
+    object.insert(u"window"_s, orNull(known.window));
+    object.insert(u"windowUsed"_s, orNull(known.used));
+    object.insert(u"windowModel"_s, known.model);
+    object.insert(u"windowProject"_s, known.project);
+    object.insert(u"windowAge"_s, age(handed ? std::optional(known.at) : std::nullopt, now));
+    object.insert(u"cost"_s, orNull(known.cost));
+}
+
+/// Today's time of day, else with its date.
+QString timeText(Date date, Date now, const QTimeZone& zone) {
+    const QDateTime time = toDateTime(date).toTimeZone(zone);
+    const bool isToday = time.date() == toDateTime(now).toTimeZone(zone).date();
+    return QLocale::c().toString(time, isToday ? u"HH:mm"_s : u"d MMM, HH:mm"_s);
+}
+
 } // namespace
+
+SessionContext chosenContext(const MonitorStatus& status, const StatusChoice& choice) {
+    constexpr double outdated = 60; // Claude Code hands over within seconds, or no more.
+    const std::optional<HandedOver>& handed = status.handed;
+    const bool isCurrent =
+        handed && handed->window && handed->used &&
+        (!status.lastActivity ||
+         status.lastActivity->sinceReference - handed->at.sinceReference < outdated);
+    return choice.handedOverFirst && isCurrent
+               ? SessionContext{handed->model, *handed->used, *handed->window, handed->project,
+                                handed->at}
+               : SessionContext{status.model, status.used, status.limit, status.project,
+                                status.lastActivity};
+}
 
 MonitorStatus MonitorStatus::of(const LiveContext& context, const PlanUsage& usage, Date now) {
     return {context.model(),        context.used(),    context.limit(),
-            context.lastActivity(), PeakInfo::at(now), {usage.session(), usage.week()}};
+            context.lastActivity(), PeakInfo::at(now), {usage.session(), usage.week()},
+            context.project(),      context.handed(),  usage.pace(),
+            usage.figuresAt()};
 }
 
 MonitorStatus MonitorStatus::fromFiles(const QByteArray& home, const QByteArrayList& otherFolders,
                                        std::unique_ptr<FolderChanges> changes, Date now) {
-    const ContextReading reading = ContextReader(home, std::move(changes), otherFolders).read();
+    const ContextReading reading =
+        ContextReader(home, std::move(changes), otherFolders).read(ContextReader::Choice());
     MonitorStatus status;
     status.limit = reading.limit.value_or(LiveContext::usualLimit);
     if (reading.turn) {
         status.model = prettyModel(reading.turn->usage.model);
         status.used = reading.turn->usage.tokens;
         status.lastActivity = reading.turn->modified;
+        status.project = reading.turn->project;
     }
+    status.handed = reading.handed;
     status.peak = PeakInfo::at(now);
-    status.plan = loadUsage(home).value_or(PlanWindows());
+    if (const auto windows = loadUsage(home)) {
+        status.plan = *windows;
+        status.planAt = usageWritten(home).value_or(now);
+        PlanCourse course = loadCourse(home);
+        course.add(*windows, *status.planAt);
+        status.pace = course.pace(*windows);
+    }
     return status;
 }
 
 QString contextLine(const MonitorStatus& status, Date now, const QLocale& locale,
-                    const QTimeZone& zone) {
-    QString peak = status.peak.label(now, locale, zone);
-    if (status.used < 1) {
-        return peak;
+                    const QTimeZone& zone, const StatusChoice& choice) {
+    QStringList parts;
+    const SessionContext context = chosenContext(status, choice);
+    if (context.used >= 1) {
+        parts << context.model
+              << LiveContext::shortCount(context.used) + u" / "_s +
+                     LiveContext::shortCount(context.limit);
     }
-    return status.model + u" · "_s + LiveContext::shortCount(status.used) + u" / "_s +
-           LiveContext::shortCount(status.limit) + u" · "_s + peak;
+    if (choice.peakHours) {
+        parts << status.peak.label(now, locale, zone);
+    }
+    return parts.join(u" · "_s);
+}
+
+QStringList contextDetails(const MonitorStatus& status, Date now, const QTimeZone& zone,
+                           const StatusChoice& choice) {
+    QStringList lines;
+    const SessionContext context = chosenContext(status, choice);
+    if (context.used >= 1 && context.at) {
+        const QString time = timeText(*context.at, now, zone);
+        lines << (context.project.isEmpty() ? u"Last activity "_s + time
+                                            : context.project + u" · "_s + time);
+    }
+    const std::pair<QString, std::optional<Pace>> windows[] = {
+        {u"5h session"_s, status.pace.session}, {u"Week"_s, status.pace.week}};
+    for (const auto& [name, pace] : windows) {
+        if (const QString text = fullText(pace, now, zone); !text.isEmpty()) {
+            lines << name + u": "_s + text;
+        }
+    }
+    return lines;
 }
 
 QString statusLine(const MonitorStatus& status, Date now, const QLocale& locale,
-                   const QTimeZone& zone) {
-    return contextLine(status, now, locale, zone) + u" · 5h "_s + percentText(status.plan.session) +
-           u" · week "_s + percentText(status.plan.week) + u'\n';
+                   const QTimeZone& zone, const StatusChoice& choice) {
+    const QString context = contextLine(status, now, locale, zone, choice);
+    return context + (context.isEmpty() ? u"5h "_s : u" · 5h "_s) +
+           percentText(status.plan.session) + u" · week "_s + percentText(status.plan.week) + u'\n';
 }
 
 QByteArray statusJson(const MonitorStatus& status, Date now, const QLocale& locale,
                       const QTimeZone& zone) {
-    const QJsonObject object{{u"model"_s, status.model},
-                             {u"used"_s, status.used},
-                             {u"limit"_s, status.limit},
-                             {u"lastActivity"_s, json(status.lastActivity)},
-                             {u"peak"_s, status.peak.label(now, locale, zone)},
-                             {u"isPeak"_s, status.peak.isPeak},
-                             {u"session"_s, json(status.plan.session, now)},
-                             {u"week"_s, json(status.plan.week, now)}};
+    QJsonObject object{{u"model"_s, status.model},
+                       {u"used"_s, status.used},
+                       {u"limit"_s, status.limit},
+                       {u"lastActivity"_s, json(status.lastActivity)},
+                       {u"project"_s, status.project},
+                       {u"age"_s, age(status.lastActivity, now)},
+                       {u"peak"_s, status.peak.label(now, locale, zone)},
+                       {u"isPeak"_s, status.peak.isPeak},
+                       {u"session"_s, json(status.plan.session, status.pace.session, now)},
+                       {u"week"_s, json(status.plan.week, status.pace.week, now)},
+                       {u"planAge"_s, age(status.planAt, now)}};
+    insertHandedOver(object, status.handed, now);
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 

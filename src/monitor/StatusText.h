@@ -1,6 +1,8 @@
 #pragma once
 
+#include "monitor/HandedOver.h"
 #include "monitor/PeakInfo.h"
+#include "monitor/PlanPace.h"
 #include "monitor/UsageWindow.h"
 
 #include <QByteArray>
@@ -16,6 +18,12 @@ class FolderChanges;
 class LiveContext;
 class PlanUsage;
 
+/// What the user wants to see of it.
+struct StatusChoice {
+    bool peakHours = true;
+    bool handedOverFirst = false; ///< What Claude Code handed over counts before its transcripts.
+};
+
 /// A snapshot of the monitors.
 struct MonitorStatus {
     QString model; ///< Empty until a session is found.
@@ -24,6 +32,10 @@ struct MonitorStatus {
     std::optional<Date> lastActivity;
     PeakInfo peak;
     PlanWindows plan;
+    QString project = {};
+    std::optional<HandedOver> handed = {};
+    PlanPace pace = {};
+    std::optional<Date> planAt = {}; ///< The time of the plan's figures.
 
     [[nodiscard]] static MonitorStatus of(const LiveContext& context, const PlanUsage& usage,
                                           Date now);
@@ -35,13 +47,34 @@ struct MonitorStatus {
                                                  std::unique_ptr<FolderChanges> changes, Date now);
 };
 
-/// One line: the session's context, if there is a session, and the peak hours.
+/// How full the context of a session is.
+struct SessionContext {
+    QString model;
+    qint64 used = 0; ///< Tokens; zero if there is no session.
+    qint64 limit = 0;
+    QString project;
+    std::optional<Date> at; ///< Of these figures.
+};
+
+/// By the transcripts, or by what was handed over.
+[[nodiscard]] SessionContext chosenContext(const MonitorStatus& status, const StatusChoice& choice);
+
+/// One line: the session's context, if there is a session, and the peak hours. Empty if there is
+/// neither.
 [[nodiscard]] QString contextLine(const MonitorStatus& status, Date now, const QLocale& locale,
-                                  const QTimeZone& zone = QTimeZone::systemTimeZone());
+                                  const QTimeZone& zone = QTimeZone::systemTimeZone(),
+                                  const StatusChoice& choice = {});
+
+/// Below that line: which session that is and its last activity, and a window of the plan that will
+/// be full before it resets. Only what is known.
+[[nodiscard]] QStringList contextDetails(const MonitorStatus& status, Date now,
+                                         const QTimeZone& zone = QTimeZone::systemTimeZone(),
+                                         const StatusChoice& choice = {});
 
 /// For bars and prompts: the same line with the usage of the plan's two windows.
 [[nodiscard]] QString statusLine(const MonitorStatus& status, Date now, const QLocale& locale,
-                                 const QTimeZone& zone = QTimeZone::systemTimeZone());
+                                 const QTimeZone& zone = QTimeZone::systemTimeZone(),
+                                 const StatusChoice& choice = {});
 
 /// For programs: a JSON object with ISO 8601 dates in UTC and null for unknown values. A window
 /// whose reset has passed has "resetPassed".

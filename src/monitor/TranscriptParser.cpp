@@ -67,7 +67,9 @@ std::optional<TurnUsage> usageOf(QByteArrayView line) {
         return std::nullopt;
     }
     const std::optional<qint64> tokens = tokenTotal(usage.toObject());
-    return tokens && *tokens >= 1 ? std::optional(TurnUsage{model, *tokens}) : std::nullopt;
+    return tokens && *tokens >= 1
+               ? std::optional(TurnUsage{model, *tokens, entry.value("cwd"_L1).toString()})
+               : std::nullopt;
 }
 
 /// "claude-opus-4-6" for "us.anthropic.claude-opus-4-6-v1:0", also at the end of a resource name.
@@ -76,6 +78,12 @@ QString withoutBedrock(const QString& name) {
         u"\\A(?:.*[./])?anthropic\\.(claude-.+?)(?:-v[0-9]+(?::[0-9a-z]+)*)?\\z"_s);
     const QRegularExpressionMatch match = form.match(name);
     return match.hasMatch() ? match.captured(1) : name;
+}
+
+/// A path as the name of a transcript's folder.
+QString stored(const QString& path) {
+    static const QRegularExpression others(u"[^A-Za-z0-9]"_s);
+    return QString(path).replace(others, u"-"_s);
 }
 
 bool isDateStamp(const QString& piece) {
@@ -127,6 +135,29 @@ QString prettyModel(const QString& raw) {
     const qsizetype first = name.at(0).isHighSurrogate() ? 2 : 1;
     name.replace(0, first, name.first(std::min(first, name.size())).toUpper());
     return pieces.isEmpty() ? name : name + u' ' + pieces.join(u'.');
+}
+
+QString projectName(const QString& folder, const QString& stored, const QString& home) {
+    for (QString path = folder; path.contains(u'/'); path = path.section(u'/', 0, -2)) {
+        if (ravelo::stored(path) == stored) {
+            return oneLine(path.section(u'/', -1));
+        }
+    }
+    if (!folder.isEmpty()) {
+        return oneLine(folder.section(u'/', -1, -1, QString::SectionSkipEmpty));
+    }
+    const QString parent = ravelo::stored(home + u'/');
+    return oneLine(stored.startsWith(parent) ? stored.mid(parent.size()) : stored);
+}
+
+QString oneLine(const QString& text) {
+    constexpr qsizetype most = 60;
+    QString line = text.left(most);
+    const auto isControl = [](QChar c) {
+        return c.category() == QChar::Other_Control || c.category() == QChar::Other_Format;
+    };
+    std::ranges::replace_if(line, isControl, u' ');
+    return line.simplified();
 }
 
 } // namespace ravelo

@@ -19,6 +19,7 @@ inline constexpr qint64 maxTranscriptWindow = 16'000'000;
 struct TurnUsage {
     QString model; ///< As in the transcript.
     qint64 tokens = 0;
+    QString folder = {}; ///< That the session was in then; empty if it is not said.
 
     friend bool operator==(const TurnUsage&, const TurnUsage&) = default;
 };
@@ -37,5 +38,14 @@ struct TurnUsage {
 /// "Opus 4.6" for "claude-opus-4-6[1m]" and for the names of Bedrock, which add region, vendor and
 /// version.
 [[nodiscard]] QString prettyModel(const QString& raw);
+
+/// The name of a project for display. `folder` is where the session works, which may be below the
+/// project; `stored` is the name of the transcript's folder, which is the project's path with "-"
+/// for all but letters and digits, and `home` the user's home folder.
+[[nodiscard]] QString projectName(const QString& folder, const QString& stored = {},
+                                  const QString& home = {});
+
+/// Text of another program, short and in one line.
+[[nodiscard]] QString oneLine(const QString& text);
 
 } // namespace ravelo

@@ -1,9 +1,7 @@
 #include "monitor/UsageFile.h"
 
-#include "base/Files.h"
+#include "monitor/MonitorFiles.h"
 #include "monitor/UsageReaders.h"
-
-#include <QFile>
 
 #include <sys/stat.h>
 
@@ -13,22 +11,17 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr qint64 maxSize = qint64(1) << 20;
 constexpr double nanosecond = 1e-9;
-
-QByteArray folder(const QByteArray& home) {
-    return home + "/.ravelo";
-}
 
 } // namespace
 
 QByteArray usageFile(const QByteArray& home) {
-    return folder(home) + "/usage.json";
+    return monitorFile(home, "usage.json");
 }
 
 std::optional<PlanWindows> loadUsage(const QByteArray& home) {
-    const std::optional<QByteArray> bytes = readFileEnd(usageFile(home), maxSize + 1);
-    return bytes && bytes->size() <= maxSize ? readUsageFile(*bytes) : std::nullopt;
+    const std::optional<QByteArray> bytes = readMonitorFile(usageFile(home));
+    return bytes ? readUsageFile(*bytes) : std::nullopt;
 }
 
 std::optional<Date> usageWritten(const QByteArray& home) {
@@ -46,14 +39,7 @@ Result<void> storeUsage(const QByteArray& home, const QByteArray& statusLine) {
     if (!kept) {
         return failure(u"the input has no rate limits"_s);
     }
-    const QString own = QFile::decodeName(folder(home));
-    if (!QFile::exists(own)) { // Otherwise its permissions are the choice of whoever created it.
-        makePrivateFolder(own);
-    }
-    const QString path = QFile::decodeName(usageFile(home));
-    return writeFileAtomically(path, *kept).map_error([&](const Error& error) {
-        return Error{u"cannot write %1: %2"_s.arg(path, error.message)};
-    });
+    return writeMonitorFile(usageFile(home), *kept);
 }
 
 } // namespace ravelo

@@ -17,6 +17,10 @@ struct UsageWindow {
     friend bool operator==(const UsageWindow&, const UsageWindow&) = default;
 };
 
+/// Percent from which a window counts as rather full, and as nearly full.
+inline constexpr double highUsage = 60;
+inline constexpr double criticalUsage = 85;
+
 /// Whether the window has reset, so that its percentage is out of date.
 [[nodiscard]] bool resetHasPassed(const std::optional<UsageWindow>& window, Date now);
 

@@ -80,6 +80,13 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       returnPastes_(preferences.value(u"returnPastes"_s).toBool(false)),
       joinWith_(preferences.value(u"joinWith"_s).toString(u"line"_s)),
       hideClaudeCode_(preferences.value(u"hideClaudeCode"_s).toBool(false)),
+      showPeakHours_(preferences.value(u"showPeakHours"_s).toBool(true)),
+      keepSession_(preferences.value(u"keepSession"_s).toBool(false)),
+      handedOverFirst_(preferences.value(u"handedOverFirst"_s).toBool(false)),
+      notifyTimer_(preferences.value(u"notifyTimer"_s).toBool(false)),
+      notifyFiles_(preferences.value(u"notifyFiles"_s).toBool(false)),
+      notifySaving_(preferences.value(u"notifySaving"_s).toBool(false)),
+      notifyPlan_(preferences.value(u"notifyPlan"_s).toBool(false)),
       onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
       launchAtLogin_(loginItem.isEnabled()) {}
 
@@ -274,6 +281,41 @@ void AppSettings::setJoinWith(const QString& how) {
 void AppSettings::setHideClaudeCode(bool on) {
     preferences_.set(u"hideClaudeCode"_s, on);
     change(hideClaudeCode_, on, &AppSettings::hideClaudeCodeChanged);
+}
+
+void AppSettings::setShowPeakHours(bool on) {
+    preferences_.set(u"showPeakHours"_s, on);
+    change(showPeakHours_, on, &AppSettings::showPeakHoursChanged);
+}
+
+void AppSettings::setKeepSession(bool on) {
+    preferences_.set(u"keepSession"_s, on);
+    change(keepSession_, on, &AppSettings::keepSessionChanged);
+}
+
+void AppSettings::setHandedOverFirst(bool on) {
+    preferences_.set(u"handedOverFirst"_s, on);
+    change(handedOverFirst_, on, &AppSettings::handedOverFirstChanged);
+}
+
+void AppSettings::setNotifyTimer(bool on) {
+    preferences_.set(u"notifyTimer"_s, on);
+    change(notifyTimer_, on, &AppSettings::notifyTimerChanged);
+}
+
+void AppSettings::setNotifyFiles(bool on) {
+    preferences_.set(u"notifyFiles"_s, on);
+    change(notifyFiles_, on, &AppSettings::notifyFilesChanged);
+}
+
+void AppSettings::setNotifySaving(bool on) {
+    preferences_.set(u"notifySaving"_s, on);
+    change(notifySaving_, on, &AppSettings::notifySavingChanged);
+}
+
+void AppSettings::setNotifyPlan(bool on) {
+    preferences_.set(u"notifyPlan"_s, on);
+    change(notifyPlan_, on, &AppSettings::notifyPlanChanged);
 }
 
 void AppSettings::setOnboarded(bool done) {

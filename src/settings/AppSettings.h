@@ -47,6 +47,15 @@ class AppSettings : public QObject {
     Q_PROPERTY(QString joinWith READ joinWith WRITE setJoinWith NOTIFY joinWithChanged)
     Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
                    hideClaudeCodeChanged)
+    Q_PROPERTY(
+        bool showPeakHours READ showPeakHours WRITE setShowPeakHours NOTIFY showPeakHoursChanged)
+    Q_PROPERTY(bool keepSession READ keepSession WRITE setKeepSession NOTIFY keepSessionChanged)
+    Q_PROPERTY(bool handedOverFirst READ handedOverFirst WRITE setHandedOverFirst NOTIFY
+                   handedOverFirstChanged)
+    Q_PROPERTY(bool notifyTimer READ notifyTimer WRITE setNotifyTimer NOTIFY notifyTimerChanged)
+    Q_PROPERTY(bool notifyFiles READ notifyFiles WRITE setNotifyFiles NOTIFY notifyFilesChanged)
+    Q_PROPERTY(bool notifySaving READ notifySaving WRITE setNotifySaving NOTIFY notifySavingChanged)
+    Q_PROPERTY(bool notifyPlan READ notifyPlan WRITE setNotifyPlan NOTIFY notifyPlanChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
     Q_PROPERTY(
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
@@ -107,6 +116,28 @@ public:
 
     /// Hides Claude Code's usage if it is not installed.
     [[nodiscard]] bool hideClaudeCode() const;
+
+    /// Peak hours are shown beside the session.
+    [[nodiscard]] bool showPeakHours() const { return showPeakHours_; }
+
+    /// Stay with the session that wrote last until it has been quiet for a minute.
+    [[nodiscard]] bool keepSession() const { return keepSession_; }
+
+    /// Show what Claude Code hands to its status line instead of what its transcripts say.
+    [[nodiscard]] bool handedOverFirst() const { return handedOverFirst_; }
+
+    /// Desktop notifications when the timer ends, ...
+    [[nodiscard]] bool notifyTimer() const { return notifyTimer_; }
+
+    /// ... when files were received, ...
+    [[nodiscard]] bool notifyFiles() const { return notifyFiles_; }
+
+    /// ... when saving fails, ...
+    [[nodiscard]] bool notifySaving() const { return notifySaving_; }
+
+    /// ... and when the plan reaches a threshold or is reset.
+    [[nodiscard]] bool notifyPlan() const { return notifyPlan_; }
+
     [[nodiscard]] bool onboarded() const;
     [[nodiscard]] bool launchAtLogin() const;
 
@@ -133,6 +164,13 @@ public:
     void setReturnPastes(bool on);
     void setJoinWith(const QString& how);
     void setHideClaudeCode(bool on);
+    void setShowPeakHours(bool on);
+    void setKeepSession(bool on);
+    void setHandedOverFirst(bool on);
+    void setNotifyTimer(bool on);
+    void setNotifyFiles(bool on);
+    void setNotifySaving(bool on);
+    void setNotifyPlan(bool on);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
 
@@ -170,6 +208,13 @@ Q_SIGNALS:
     void returnPastesChanged();
     void joinWithChanged();
     void hideClaudeCodeChanged();
+    void showPeakHoursChanged();
+    void keepSessionChanged();
+    void handedOverFirstChanged();
+    void notifyTimerChanged();
+    void notifyFilesChanged();
+    void notifySavingChanged();
+    void notifyPlanChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
 
@@ -204,6 +249,13 @@ private:
     bool returnPastes_;
     QString joinWith_;
     bool hideClaudeCode_;
+    bool showPeakHours_;
+    bool keepSession_;
+    bool handedOverFirst_;
+    bool notifyTimer_;
+    bool notifyFiles_;
+    bool notifySaving_;
+    bool notifyPlan_;
     bool onboarded_;
     bool launchAtLogin_;
 };

@@ -36,7 +36,8 @@ protected:
     int setups_ = 0;
     int looks_ = 0; ///< For updates.
     Commands commands_{{world_.store, world_.pause, world_.controller, world_.scheduler, context_,
-                        plan_.usage, [this] { ++setups_; }, [this] { ++looks_; }, [] {},
+                        plan_.usage, [] { return StatusChoice(); }, [this] { ++setups_; },
+                        [this] { ++looks_; }, [] {},
                         [this](const QString& path, const Commands::Reply& reply) {
                             exported_ = path;
                             reply({1, {}, u"a problem"_s});
@@ -158,8 +159,11 @@ TEST_F(CommandsTest, ReportsTheMonitors) {
     const QByteArray line = answer({u"status"_s}).output;
     EXPECT_TRUE(line.endsWith(" · 5h 42% · week 78%\n")) << line.constData();
     const QByteArray object = answer({u"status"_s, u"--json"_s}).output;
-    EXPECT_TRUE(object.contains("\"session\":{\"pct\":41.5,\"resets\":null}"))
-        << object.constData();
+    EXPECT_TRUE(object.contains("\"pct\":41.5,\"resets\":null}")) << object.constData();
+    const QByteArray waybar = answer({u"status"_s, u"--waybar"_s}).output;
+    EXPECT_TRUE(waybar.contains("\"text\":\"5h 42% · week 78%\"")) << waybar.constData();
+    EXPECT_TRUE(
+        answer({u"status"_s, u"--tmux"_s}).output.startsWith("#[fg=green]5h 42%#[default]"));
 }
 
 TEST_F(CommandsTest, RefusesInvalidRequests) {
@@ -184,6 +188,7 @@ TEST_F(CommandsTest, RefusesInvalidRequests) {
         {u"pause"_s, u"--status"_s, u"5"_s},
         {u"resume"_s, u"5"_s},
         {u"status"_s, u"json"_s},
+        {u"status"_s, u"--tmux"_s, u"--json"_s},
     };
     for (const QStringList& request : requests) {
         EXPECT_EQ(answer(request).status, 2) << qPrintable(request.join(u' '));

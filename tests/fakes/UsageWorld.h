@@ -16,7 +16,8 @@ namespace ravelo {
 /// Plan usage that is read from the file only.
 struct UsageWorld {
     explicit UsageWorld(Scheduler& scheduler, const PlanWindows& windows = {})
-        : jobs(scheduler),
+        : clock(scheduler),
+          jobs(scheduler),
           usage({scheduler, jobs, secrets, https, children}, (write(windows), home()),
                 std::make_unique<FakeFolderChanges>()) {}
 
@@ -29,6 +30,11 @@ struct UsageWorld {
         const QJsonObject statusLine{{QStringLiteral("rate_limits"), limits}};
         if (!storeUsage(home(), QJsonDocument(statusLine).toJson())) {
             qFatal("cannot write below %s", home().constData());
+        }
+        QFile file(QFile::decodeName(usageFile(home())));
+        if (!file.open(QFile::ReadWrite) ||
+            !file.setFileTime(toDateTime(clock.now()), QFile::FileModificationTime)) {
+            qFatal("cannot set the time of %s", qPrintable(file.fileName()));
         }
     }
 
@@ -44,6 +50,7 @@ struct UsageWorld {
         return object;
     }
 
+    Scheduler& clock;
     QTemporaryDir folder;
     FakeDetachedJobs jobs;
     FakeSecretStore secrets;

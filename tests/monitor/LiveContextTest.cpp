@@ -288,6 +288,47 @@ TEST_F(ContextTest, readsItsLimitFromTheSettingsFile) {
     qunsetenv("CLAUDE_CODE_AUTO_COMPACT_WINDOW");
 }
 
+TEST_F(ContextTest, staysWithOneSessionUntilItIsQuiet) {
+    const auto wrote = [&](const QString& name, qint64 tokens) {
+        const double now = scheduler_.now().sinceReference + referenceInstant;
+        write(name, tokens, static_cast<qint64>(now));
+        pass(tick);
+        return context_->used();
+    };
+    start(std::make_unique<InotifyChanges>());
+    EXPECT_EQ(wrote(u"a/x.jsonl"_s, 1), 1);
+    EXPECT_EQ(wrote(u"b/y.jsonl"_s, 2), 2) << "the newest, unless the user wants otherwise";
+    EXPECT_EQ(context_->project(), u"b"_s);
+    context_->setSession(ContextReader::Session::steady);
+    EXPECT_EQ(wrote(u"a/x.jsonl"_s, 3), 2) << "the other one was active five seconds ago";
+    EXPECT_EQ(wrote(u"b/y.jsonl"_s, 4), 4);
+    pass(Seconds(50));
+    EXPECT_EQ(wrote(u"a/x.jsonl"_s, 5), 4);
+    pass(Seconds(10));
+    EXPECT_EQ(context_->used(), 5) << "the first has been quiet for a minute";
+    EXPECT_EQ(context_->project(), u"a"_s);
+    EXPECT_EQ(wrote(u"b/y.jsonl"_s, 6), 5) << "this one counts now";
+    ASSERT_TRUE(QFile::remove(path(u"a/x.jsonl"_s)));
+    EXPECT_EQ(usedAfterATick(), 6) << "it is gone";
+}
+
+TEST_F(ContextTest, followsWhatIsHandedOver) {
+    const QByteArray home = QFile::encodeName(home_.path());
+    start(std::make_unique<InotifyChanges>());
+    EXPECT_EQ(context_->handed(), std::nullopt);
+    const HandedOver handed{u"Opus"_s, u"1"_s, u"x"_s, 200000, 1500, {}, Date{1000}};
+    ASSERT_TRUE(storeHandedOver(home, handed));
+    pass(tick);
+    EXPECT_EQ(context_->handed(), handed) << "its folder was just made";
+    EXPECT_EQ(context_->used(), 0) << "the transcripts decide";
+    makeFile(QFile::decodeName(handedOverFile(home)), "{");
+    pass(tick);
+    EXPECT_EQ(context_->handed(), handed) << "a broken file changes nothing";
+    ASSERT_TRUE(QFile::remove(QFile::decodeName(handedOverFile(home))));
+    pass(tick);
+    EXPECT_EQ(context_->handed(), std::nullopt);
+}
+
 TEST_F(ContextTest, reportsPeakHoursEvenIfTheDiskHangs) {
     write(u"a/x.jsonl"_s, 11, 1000);
     jobs_.hung = true;

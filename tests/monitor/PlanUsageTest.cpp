@@ -279,6 +279,39 @@ TEST_F(PlanUsageTest, queriesEveryNinetySecondsAndReadsTheFileWhileThatFails) {
     EXPECT_TRUE(windows() == answered);
 }
 
+TEST_F(PlanUsageTest, keepsTheRecentFiguresForItsPace) {
+    const auto answer = [&](double percent) {
+        server.answer = UsageServer::http("200 OK", R"({"five_hour":{"utilization":)" +
+                                                        QByteArray::number(percent) + "}}");
+    };
+    const QString file = path(u".cache/ravelo/pace.json"_s);
+    answer(10);
+    start();
+    EXPECT_EQ(usage->pace().session, std::nullopt) << "one figure";
+    EXPECT_EQ(usage->figuresAt(), scheduler.now());
+    scheduler.advance(Seconds(0));
+    EXPECT_TRUE(QFile::exists(file));
+    pass(Seconds(1200));
+    ASSERT_TRUE(usage->pace().session);
+    EXPECT_EQ(usage->pace().session->perHour, 0);
+    ASSERT_TRUE(QFile::remove(file));
+    pass(Seconds(1200));
+    EXPECT_FALSE(QFile::exists(file)) << "nothing was used, so nothing is written";
+    answer(30);
+    pass(Seconds(100));
+    ASSERT_TRUE(usage->pace().session);
+    const double perHour = usage->pace().session->perHour;
+    EXPECT_GT(perHour, 20);
+    EXPECT_TRUE(QFile::exists(file));
+
+    usage.reset();
+    answer(30.5);
+    scheduler.advance(Seconds(60));
+    start();
+    ASSERT_TRUE(usage->pace().session) << "the figures of before are lost";
+    EXPECT_NEAR(usage->pace().session->perHour, perHour, 3);
+}
+
 TEST_F(PlanUsageTest, queriesLessOftenIfRateLimited) {
     const auto tooMany = [](const QByteArray& header) {
         return UsageServer::http("429 Too Many Requests", "", header);

@@ -10,6 +10,7 @@
 #include "base/Files.h"
 #include "fakes/FakeKeyring.h"
 #include "fakes/UsageWorld.h"
+#include "monitor/PaceFile.h"
 #include "panel_fixture/Input.h"
 #include "panel_fixture/Services.h"
 #include "support/Eventually.h"
@@ -385,6 +386,9 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     }
     if (scene == u"full-black") {
         world.settings.setFullBlack(true);
+    } else if (scene == u"plan-pace") {
+        send(window, QEvent::MouseMove, {80, 90});
+        settle(800);
     } else if (scene == u"hover") {
         send(window, QEvent::MouseMove, {643, 417});
     } else if (scene == u"question") {
@@ -512,6 +516,13 @@ QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
                 click(*settings.window(), middle(*settings.window(), u"eraseEverything"_s));
                 settle();
             }
+        } else if (scene.startsWith(u"settings-more"_s)) {
+            press(*settings.window(), Qt::Key_4, Qt::ControlModifier);
+            settle();
+            if (scene == u"settings-more-end") {
+                turnWheel(*settings.window(), {230, 300}, -3000);
+                settle();
+            }
         } else if (scene != u"settings") { // "settings-hover", "settings-pressed"
             const bool pressed = scene == u"settings-pressed";
             send(*settings.window(), pressed ? QEvent::MouseButtonPress : QEvent::MouseMove,
@@ -587,6 +598,16 @@ public:
 private:
     QImage screen_;
 };
+
+/// So much of the session an hour ago, and of the week a little less a day ago.
+void useBefore(const UsageWorld& spent, double now, double percent) {
+    PlanCourse course;
+    course.session.add({Date{now - 3600}, percent}, sessionKind);
+    course.week.add({Date{now - 86400}, 75}, weekKind);
+    if (!storeCourse(spent.home(), course)) {
+        qFatal("cannot write below %s", spent.home().constData());
+    }
+}
 
 /// CPU time of this thread in milliseconds.
 class Stopwatch {
@@ -676,8 +697,10 @@ int main(int argc, char** argv) {
     const bool shelf = scene.startsWith(u"shelf"_s);
     // One day later, so that received files are old.
     const double now = world.scheduler.now().sinceReference + (shelf ? day.count() : 0);
-    UsageWorld spent(world.scheduler, {UsageWindow{42, Date{now + 125.5 * 60}},
+    const bool isFast = scene == u"plan-pace";
+    UsageWorld spent(world.scheduler, {UsageWindow{isFast ? 71.0 : 42.0, Date{now + 125.5 * 60}},
                                        UsageWindow{78, Date{now + 76.5 * 3600}}});
+    useBefore(spent, now, isFast ? 45 : 38);
     room().save(world.store.imagePath(u"room.png"_s));
     plan().save(world.store.imagePath(u"plan.png"_s));
     world.settings.setLastTab(shelf ? u"Shelf"_s : scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);

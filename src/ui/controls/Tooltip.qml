@@ -24,8 +24,8 @@ Item {
             objectName: "tooltip"
             parent: tooltip.Window.contentItem // qmllint disable unqualified
             z: 1000
-            width: lines.implicitWidth + 20
-            height: lines.implicitHeight + 12
+            width: lines.implicitWidth + 2 * lines.x
+            height: lines.implicitHeight + 2 * lines.y
             radius: Theme.radiusSmall
             color: Theme.tooltip
             lineColor: Theme.lineFloating
@@ -48,17 +48,23 @@ Item {
 
             Column {
                 id: lines
-                x: 10
-                y: 6
+
+                readonly property var texts: tooltip.text.split("\n") // qmllint disable unqualified
+                readonly property bool several: texts.length > 1
+
+                x: several ? 12 : 10
+                y: several ? 8 : 6
+                spacing: several ? 2 : 0
 
                 Repeater {
-                    model: tooltip.text.split("\n") // qmllint disable unqualified
+                    model: lines.texts
 
                     Label {
                         required property string modelData
+                        required property int index
                         style: Theme.small
                         text: modelData
-                        color: Theme.text1
+                        color: index === 0 ? Theme.text1 : Theme.text3
                     }
                 }
             }

@@ -65,6 +65,7 @@ QtObject {
     readonly property color pressedPower: withAlpha(redFill, 0.40)
     readonly property color indigoFill: "#847EFF"
     readonly property color redFill: "#FF5C52"
+    readonly property color timeMarkRim: Qt.rgba(20 / 255, 20 / 255, 28 / 255, 0.65)
     readonly property color pinnedTile: withAlpha(yellow, 0.13)
 
     readonly property color accentGlyph: "#0C1524"

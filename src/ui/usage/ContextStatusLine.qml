@@ -33,6 +33,7 @@ Box {
         usage: block.usage.session
         resetWidth: block.compact ? wantedResetWidth : block.resetWidth
         compact: block.compact
+        showsTime: area.containsMouse
     }
 
     UsageRow {
@@ -45,10 +46,17 @@ Box {
         usage: block.usage.week
         resetWidth: block.compact ? wantedResetWidth : block.resetWidth
         compact: block.compact
+        showsTime: area.containsMouse
     }
 
     MouseArea {
         id: area
+
+        readonly property bool onWeek: block.compact ? mouseX > width / 2 : mouseY > height / 2
+        /// As it was when the pointer came.
+        readonly property var notes: !containsMouse ? []
+            : onWeek ? block.usage.weekNotes() : block.usage.sessionNotes()
+
         anchors.fill: parent
         hoverEnabled: true
         acceptedButtons: Qt.NoButton
@@ -58,7 +66,7 @@ Box {
         target: block
         hovered: area.containsMouse
         text: Array.of(qsTr("Plan usage — updates while Claude Code is active"),
-                       block.compact ? block.whole : "", session.staleText, week.staleText)
+                       block.compact ? block.whole : "", session.staleText, week.staleText, ...area.notes)
             .filter(line => line !== "").join("\n")
     }
 }

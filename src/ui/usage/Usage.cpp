@@ -10,7 +10,7 @@
 
 namespace ravelo {
 
-Usage::Usage(Services services) : services_(services) {
+Usage::Usage(Services services, const QLocale& locale) : services_(services), relative_(locale) {
     connect(&services_.plan, &PlanUsage::changed, this, &Usage::refreshIfOpen);
     connect(&services_.settings, &AppSettings::hideClaudeCodeChanged, this, &Usage::shownChanged);
     refresh();
@@ -44,10 +44,35 @@ void Usage::awaitNextText() {
 
 void Usage::refresh() {
     const Date now = services_.scheduler.now();
-    session_ = usageLine(services_.plan.session(), now);
-    week_ = usageLine(services_.plan.week(), now);
+    session_ = usageLine(pacedSession(), now);
+    week_ = usageLine(pacedWeek(), now);
     Q_EMIT changed();
     awaitNextText();
+}
+
+PacedWindow Usage::pacedSession() const {
+    return {services_.plan.session(), services_.plan.pace().session, sessionKind};
+}
+
+PacedWindow Usage::pacedWeek() const {
+    return {services_.plan.week(), services_.plan.pace().week, weekKind};
+}
+
+QStringList Usage::notes(const PacedWindow& paced) const {
+    const Date now = services_.scheduler.now();
+    QStringList notes = paceNotes(paced, now);
+    if (const auto& at = services_.plan.figuresAt(); at && paced.window) {
+        notes << tr("read %1").arg(relative_.text(*at, now));
+    }
+    return notes;
+}
+
+QStringList Usage::sessionNotes() const {
+    return notes(pacedSession());
+}
+
+QStringList Usage::weekNotes() const {
+    return notes(pacedWeek());
 }
 
 } // namespace ravelo

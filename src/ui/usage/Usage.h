@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "ui/lists/RelativeDate.h"
 #include "ui/usage/UsageLine.h"
 
 namespace ravelo {
@@ -28,7 +29,7 @@ public:
         Scheduler& scheduler;
     };
 
-    explicit Usage(Services services);
+    Usage(Services services, const QLocale& locale);
 
     [[nodiscard]] UsageLine session() const { return session_; }
 
@@ -42,6 +43,10 @@ public:
 
     void refresh();
 
+    /// For a tooltip, as it is now: the pace of a window, and how old its figures are.
+    [[nodiscard]] Q_INVOKABLE QStringList sessionNotes() const;
+    [[nodiscard]] Q_INVOKABLE QStringList weekNotes() const;
+
 Q_SIGNALS:
     void changed();
     void shownChanged();
@@ -49,8 +54,12 @@ Q_SIGNALS:
 private:
     void refreshIfOpen();
     void awaitNextText();
+    [[nodiscard]] PacedWindow pacedSession() const;
+    [[nodiscard]] PacedWindow pacedWeek() const;
+    [[nodiscard]] QStringList notes(const PacedWindow& paced) const;
 
     Services services_;
+    RelativeDate relative_;
     bool installed_ = true;
     UsageLine session_;
     UsageLine week_;

@@ -1,21 +1,53 @@
 #include "ui/usage/UsageLine.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace ravelo {
+
+using namespace Qt::StringLiterals;
 
 namespace {
 
 UsageBand::Kind band(double percent) {
-    if (percent < 60) {
+    if (percent < highUsage) {
         return UsageBand::Low;
     }
-    return percent < 85 ? UsageBand::High : UsageBand::Critical;
+    return percent < criticalUsage ? UsageBand::High : UsageBand::Critical;
+}
+
+/// Part of the window's time.
+double passed(const PacedWindow& paced, Date now) {
+    if (!paced.window || !paced.window->resets) {
+        return -1;
+    }
+    const double left = paced.window->resets->sinceReference - now.sinceReference;
+    const double part = 1 - left / paced.kind.length.count();
+    return part >= 0 && part <= 1 ? part : -1;
+}
+
+/// "57 min." or "1 h 20 min." or "2 days".
+QString span(double seconds) {
+    const auto minutes = static_cast<int>(std::round(seconds / 60));
+    if (minutes < 60) {
+        return u"%1 min."_s.arg(minutes);
+    }
+    const int hours = minutes / 60;
+    if (hours >= 48) {
+        return u"%1 days"_s.arg(hours / 24);
+    }
+    return hours >= 10 || minutes % 60 == 0 ? u"%1 h"_s.arg(hours)
+                                            : u"%1 h %2 min."_s.arg(hours).arg(minutes % 60);
+}
+
+QString capitalised(const QString& text) {
+    return text.left(1).toUpper() + text.mid(1);
 }
 
 } // namespace
 
-UsageLine usageLine(const std::optional<UsageWindow>& window, Date now) {
+UsageLine usageLine(const PacedWindow& paced, Date now) {
+    const std::optional<UsageWindow>& window = paced.window;
     const double percent = window ? window->pct : 0;
     return {window.has_value(),
             percentText(window),
@@ -23,7 +55,31 @@ UsageLine usageLine(const std::optional<UsageWindow>& window, Date now) {
             std::clamp(percent / 100, 0.0, 1.0),
             band(percent),
             resetHasPassed(window, now),
-            timeLeftText(window, now)};
+            timeLeftText(window, now),
+            fullText(paced.pace, now),
+            passed(paced, now)};
+}
+
+QStringList paceNotes(const PacedWindow& paced, Date now) {
+    if (!paced.window || !paced.pace || resetHasPassed(paced.window, now)) {
+        return {};
+    }
+    QStringList notes;
+    const std::optional<Date>& resets = paced.window->resets;
+    if (const QString full = fullText(paced.pace, now); !full.isEmpty()) {
+        notes << capitalised(full);
+        if (resets) {
+            notes.last() += u", "_s +
+                            span(resets->sinceReference - paced.pace->fullAt->sinceReference) +
+                            u" before the reset"_s;
+        }
+    } else if (resets && !paced.pace->fullAt && paced.window->pct < 100) {
+        notes << u"Lasts until the reset"_s;
+    }
+    const bool isDay = paced.kind.recent > Seconds(3600);
+    notes << (isDay ? u"Last day: +%1%"_s : u"Last hour: +%1%"_s)
+                 .arg(std::lround(paced.pace->recent));
+    return notes;
 }
 
 } // namespace ravelo

@@ -13,6 +13,8 @@ Item {
     required property real resetWidth
     /// Show the remaining time only.
     required property bool compact
+    /// Show how much of the window's time has passed.
+    required property bool showsTime
     readonly property real wantedResetWidth: compact ? reset.implicitWidth
                                                      : Math.max(90, reset.implicitWidth)
 
@@ -22,7 +24,7 @@ Item {
 
     Accessible.role: Accessible.StaticText
     Accessible.name: title + " " + usage.percent + " " + usage.reset
-    Accessible.description: staleText
+    Accessible.description: staleText + usage.pace
     implicitHeight: 27
 
     readonly property color bandColor: {
@@ -37,12 +39,27 @@ Item {
     }
 
     Label {
+        id: name
         text: row.title
         style: Theme.strong
         color: Theme.text1
     }
 
+    // Only what needs an eye.
     Label {
+        objectName: "pace"
+        visible: !row.compact && text !== ""
+        x: name.width + 10
+        width: Math.min(implicitWidth, percent.x - 10 - x)
+        y: Theme.strong.baseLine(Screen.devicePixelRatio) - style.baseLine(Screen.devicePixelRatio)
+        text: row.usage.pace
+        style: Theme.subtitle
+        tabular: true
+        color: Theme.text3
+    }
+
+    Label {
+        id: percent
         objectName: "percent"
         anchors.right: parent.right
         anchors.rightMargin: row.resetWidth > 0 ? row.resetWidth + 8 : 0
@@ -84,6 +101,22 @@ Item {
                     duration: Theme.filling
                     easing.type: Easing.InOutQuad
                 }
+            }
+        }
+
+        Box {
+            objectName: "time"
+            visible: row.showsTime && row.usage.passed >= 0
+            x: Math.round(row.usage.passed * (parent.width - 2)) - 1
+            width: 4
+            height: 5
+            color: Theme.timeMarkRim
+
+            Box {
+                x: 1
+                width: 2
+                height: 5
+                color: Theme.text3
             }
         }
     }

@@ -11,6 +11,10 @@ Column {
 
     spacing: 12
 
+    NotificationsSection {
+        host: page.host
+    }
+
     SettingsSection {
         title: qsTr("Claude Code")
 
@@ -20,6 +24,29 @@ Column {
             note: qsTr("Its rows in the panel and its line in the tray tooltip.")
             on: page.settings.hideClaudeCode
             onToggled: on => page.settings.hideClaudeCode = on
+        }
+
+        SwitchRow {
+            preference: "showPeakHours"
+            text: qsTr("Show peak hours")
+            on: page.settings.showPeakHours
+            onToggled: on => page.settings.showPeakHours = on
+        }
+
+        SwitchRow {
+            preference: "keepSession"
+            text: qsTr("Stay with one session")
+            note: qsTr("With several at work, the one that wrote last, until it has been quiet for a minute.")
+            on: page.settings.keepSession
+            onToggled: on => page.settings.keepSession = on
+        }
+
+        SwitchRow {
+            preference: "handedOverFirst"
+            text: qsTr("Prefer what Claude Code reports")
+            note: qsTr("From its status line, if that runs ravelo --store-usage.")
+            on: page.settings.handedOverFirst
+            onToggled: on => page.settings.handedOverFirst = on
         }
     }
 }

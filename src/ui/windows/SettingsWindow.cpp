@@ -1,5 +1,7 @@
 #include "ui/windows/SettingsWindow.h"
 
+#include "platform/Notifier.h"
+
 #include <QLocale>
 
 #include <utility>
@@ -50,12 +52,23 @@ QString SettingsWindow::imageSize() const {
 void SettingsWindow::show() {
     Q_EMIT clipsChanged();
     subjects_.settings.refreshLaunchAtLogin();
+    lookForNotifications();
     if (!window_) {
         window_ = std::make_unique<TitledWindow>(subjects_.beside, tr("Ravelo Settings"),
                                                  QSize(460, 600));
         window_->load(u"SettingsView.qml"_s, this);
     }
     window_->bringToFront();
+}
+
+void SettingsWindow::lookForNotifications() {
+    if (subjects_.notifier == nullptr) {
+        return;
+    }
+    looking_ = subjects_.notifier->look([this](bool available) {
+        hasNotifications_ = available;
+        Q_EMIT hasNotificationsChanged();
+    });
 }
 
 } // namespace ravelo

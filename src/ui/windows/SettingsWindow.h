@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Handle.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "ui/windows/ExtensionOffer.h"
@@ -13,6 +14,8 @@
 #include <memory>
 
 namespace ravelo {
+
+class Notifier;
 
 /// The settings window: created at first use, hidden when closed. Main thread.
 class SettingsWindow : public QObject {
@@ -28,6 +31,8 @@ class SettingsWindow : public QObject {
     /// Whether the desktop says which program copies, and what is selected.
     Q_PROPERTY(bool knowsPrograms READ knowsPrograms CONSTANT)
     Q_PROPERTY(bool knowsSelection READ knowsSelection CONSTANT)
+    /// Whether the desktop has notifications; yes until it is known.
+    Q_PROPERTY(bool hasNotifications READ hasNotifications NOTIFY hasNotificationsChanged)
     Q_PROPERTY(int clipCount READ clipCount NOTIFY clipsChanged)
     Q_PROPERTY(int lastHourCount READ lastHourCount NOTIFY clipsChanged)
     Q_PROPERTY(QString textSize READ textSize NOTIFY clipsChanged)
@@ -48,6 +53,7 @@ public:
         GlobalShortcut* shortcut = nullptr;
         bool canPaste = true;
         std::function<void(const QString& text)> copy = {};
+        Notifier* notifier = nullptr;
     };
 
     explicit SettingsWindow(Subjects subjects);
@@ -66,6 +72,8 @@ public:
     [[nodiscard]] bool knowsPrograms() const { return subjects_.knowsPrograms; }
 
     [[nodiscard]] bool knowsSelection() const { return subjects_.knowsSelection; }
+
+    [[nodiscard]] bool hasNotifications() const { return hasNotifications_; }
 
     [[nodiscard]] int clipCount() const;
 
@@ -102,11 +110,16 @@ public:
 
 Q_SIGNALS:
     void clipsChanged();
+    void hasNotificationsChanged();
 
 private:
+    void lookForNotifications();
+
     Subjects subjects_;
     ExtensionOffer extension_;
     ShortcutChoice shortcut_;
+    bool hasNotifications_ = true;
+    Handle looking_;
     std::unique_ptr<TitledWindow> window_;
 };
 

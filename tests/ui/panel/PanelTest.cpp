@@ -140,6 +140,27 @@ TEST_F(Panel, showsPlanUsage) {
     EXPECT_EQ(percents(), u"42% \u2014"_s);
     spend({UsageWindow{43, {}}, UsageWindow{130, {}}});
     EXPECT_EQ(percents(), u"43% 130%"_s);
+
+    const auto pace = [this] {
+        return property(u"usageSession"_s, u"pace"_s, "text").toString();
+    };
+    EXPECT_EQ(pace(), QString()) << "too little is known";
+    spend({UsageWindow{90, Date{world.scheduler.now().sinceReference + 3 * 3600}}, {}});
+    EXPECT_TRUE(pace().startsWith(u"at this pace full at "_s)) << qPrintable(pace());
+    const QQuickItem* row = item(u"usageSession"_s);
+    send(view.window(), QEvent::MouseMove, row->mapToScene({20, 5}));
+    QStringList lines;
+    for (const QQuickItem* column : item(u"tooltip"_s)->childItems()) {
+        for (const QQuickItem* label : column->childItems()) {
+            lines += label->property("text").toString();
+        }
+    }
+    const QString all = lines.join(u'|');
+    for (const QString& part : {u"Plan usage \u2014 updates while Claude Code is active"_s,
+                                u"At this pace full at "_s, u"before the reset"_s,
+                                u"Last hour: +"_s, u"read "_s}) {
+        EXPECT_TRUE(all.contains(part)) << qPrintable(all);
+    }
 }
 
 TEST_F(Panel, isResetAtEachOpening) {

@@ -27,7 +27,7 @@ TEST(UsageLine, showsAWindowOfThePlan) {
     };
     for (const auto& [window, expected] : cases) {
         SCOPED_TRACE(qPrintable(expected.percent + u' ' + expected.reset));
-        const UsageLine line = usageLine(window, Date{1000});
+        const UsageLine line = usageLine({window}, Date{1000});
         EXPECT_EQ(line.known, expected.known);
         EXPECT_EQ(line.percent, expected.percent);
         EXPECT_EQ(line.reset, expected.reset);
@@ -36,6 +36,44 @@ TEST(UsageLine, showsAWindowOfThePlan) {
         EXPECT_EQ(line.resetPassed, expected.resetPassed);
         EXPECT_EQ(line.left, QString(expected.reset).remove(u"reseta em "_s));
     }
+}
+
+TEST(UsageLine, saysHowLongThePlanLasts) {
+    const Date now{0};
+    const UsageWindow session{71, Date{7500}};
+
+    struct Case {
+        PacedWindow paced;
+        QString pace;
+        QStringList notes;
+    };
+
+    const Case cases[] = {
+        {{session, Pace{26, 26, Date{4080}}},
+         u"at this pace full at "_s,
+         {u"At this pace full at "_s, u"Last hour: +26%"_s}},
+        {{session, Pace{4, 4.4, {}}}, {}, {u"Lasts until the reset"_s, u"Last hour: +4%"_s}},
+        {{session}, {}, {}},
+        {{UsageWindow{100, Date{7500}}, Pace{30, 30, {}}}, {}, {u"Last hour: +30%"_s}},
+        {{UsageWindow{71, {}}, Pace{4, 4, {}}}, {}, {u"Last hour: +4%"_s}},
+        {{UsageWindow{71, now}, Pace{4, 4, {}}}, {}, {}},
+        {{UsageWindow{71, Date{3e5}}, Pace{1, 24, {}}, weekKind},
+         {},
+         {u"Lasts until the reset"_s, u"Last day: +24%"_s}},
+    };
+    for (const Case& c : cases) {
+        const UsageLine line = usageLine(c.paced, now);
+        const QStringList notes = paceNotes(c.paced, now);
+        EXPECT_TRUE(line.pace.startsWith(c.pace) && line.pace.isEmpty() == c.pace.isEmpty())
+            << qPrintable(line.pace);
+        ASSERT_EQ(notes.size(), c.notes.size()) << qPrintable(notes.join(u'|'));
+        for (qsizetype i = 0; i < notes.size(); ++i) {
+            EXPECT_TRUE(notes[i].startsWith(c.notes[i])) << qPrintable(notes[i]);
+        }
+    }
+    EXPECT_TRUE(paceNotes(cases[0].paced, now)[0].endsWith(u", 57 min. before the reset"_s));
+    EXPECT_NEAR(usageLine({session}, now).passed, 1 - 7500.0 / 18000, 1e-9);
+    EXPECT_LT(usageLine({UsageWindow{71, {}}}, now).passed, 0);
 }
 
 } // namespace

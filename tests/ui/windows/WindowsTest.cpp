@@ -1,4 +1,5 @@
 #include "fakes/FakeDesktopExtension.h"
+#include "fakes/FakeNotifier.h"
 #include "panel_fixture/PanelFixture.h"
 #include "ui/windows/OnboardingController.h"
 #include "ui/windows/SettingsWindow.h"
@@ -194,6 +195,13 @@ TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
         {Qt::Key_4, u"returnPastes"_s, Qt::Key_Space, true},
         {Qt::Key_4, u"joinWith"_s, Qt::Key_Down, u"space"_s},
         {Qt::Key_5, u"hideClaudeCode"_s, Qt::Key_Space, true},
+        {Qt::Key_5, u"showPeakHours"_s, Qt::Key_Space, false},
+        {Qt::Key_5, u"keepSession"_s, Qt::Key_Space, true},
+        {Qt::Key_5, u"handedOverFirst"_s, Qt::Key_Space, true},
+        {Qt::Key_5, u"notifyTimer"_s, Qt::Key_Space, true},
+        {Qt::Key_5, u"notifyFiles"_s, Qt::Key_Space, true},
+        {Qt::Key_5, u"notifySaving"_s, Qt::Key_Space, true},
+        {Qt::Key_5, u"notifyPlan"_s, Qt::Key_Space, true},
     };
     for (const Case& c : cases) {
         press(*window, c.page, Qt::ControlModifier);
@@ -218,6 +226,23 @@ TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
         clickOn(window, choice.control);
         ravelo::pressKeys(*window, u"Down Down Down Return"_s);
         EXPECT_EQ(kept(choice.control), choice.kept) << qPrintable(choice.control);
+    }
+}
+
+TEST_F(Settings, SayIfTheDesktopShowsNoNotifications) {
+    FakeNotifier notifier;
+    SettingsWindow::Subjects subjects{{view.window()}, world.store, world.settings, [] {}, {}};
+    subjects.notifier = &notifier;
+    SettingsWindow own(subjects);
+    for (const bool available : {true, false}) {
+        notifier.available = available;
+        own.show();
+        ASSERT_TRUE(eventually([&] { return own.window()->isActive(); }));
+        press(*own.window(), Qt::Key_4, Qt::ControlModifier);
+        const QQuickItem* row = in(own.window(), u"notifyTimer"_s)->parentItem()->parentItem();
+        const QString note = row->findChild<QQuickItem*>(u"note"_s)->property("text").toString();
+        EXPECT_EQ(note.isEmpty(), available) << qPrintable(note);
+        own.window()->close();
     }
 }
 
