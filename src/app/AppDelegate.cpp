@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "app/Commands.h"
+#include "app/FileChoice.h"
 #include "app/StatusItemController.h"
 #include "app/Transfers.h"
 #include "clipboard/CapturePause.h"
@@ -272,14 +273,27 @@ void AppDelegate::provideWindows() {
                                       }};
     settingsWindow_ = std::make_unique<SettingsWindow>(SettingsWindow::Subjects{
         beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get(),
-        platform_.display->pasteboard().namesPrograms(), selected_ != nullptr, [this] {
-            erase([](const Answer&) {});
-        }});
+        platform_.display->pasteboard().namesPrograms(), selected_ != nullptr,
+        [this] { erase([](const Answer&) {}); }, snippetFiles()});
     onboarding_ = std::make_unique<OnboardingController>(
         beside, *settings_, platform_.display->screens(), platform_.extension.get());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());
     QObject::connect(notch_.get(), &NotchController::settingsRequested, settingsWindow_.get(),
                      &SettingsWindow::show);
+}
+
+SettingsWindow::SnippetFiles AppDelegate::snippetFiles() {
+    using Done = SettingsWindow::SnippetFiles::Done;
+    const auto withFile = [this](FileChoice::Kind kind,
+                                 void (Transfers::*transfer)(const QString&, Done)) {
+        return [this, kind, transfer](QWindow& over, const Done& done) {
+            FileChoice::ask(over, kind, [this, transfer, done](const QString& path) {
+                (transfers_.get()->*transfer)(path, done);
+            });
+        };
+    };
+    return {withFile(FileChoice::Kind::toWrite, &Transfers::exportSnippets),
+            withFile(FileChoice::Kind::toRead, &Transfers::importSnippets)};
 }
 
 void AppDelegate::wire() {

@@ -5,6 +5,7 @@
 #include "base/Result.h"
 #include "platform/Answer.h"
 #include "platform/system/DataLock.h"
+#include "ui/windows/SettingsWindow.h"
 
 #include <QStringList>
 
@@ -31,7 +32,6 @@ class PanelWindow;
 class PlanUsage;
 class ReceivedWatcher;
 class SelectedTexts;
-class SettingsWindow;
 class StatusItemController;
 class Store;
 class Transfers;
@@ -74,6 +74,7 @@ private:
     [[nodiscard]] LiveContext& liveContext();
     [[nodiscard]] PlanUsage& planUsage();
     void provideWindows();
+    [[nodiscard]] SettingsWindow::SnippetFiles snippetFiles();
     void wire();
     void wireNotices();
     void wireSettings();

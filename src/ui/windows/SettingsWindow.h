@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/Result.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "ui/windows/ExtensionOffer.h"
@@ -28,8 +29,22 @@ class SettingsWindow : public QObject {
     Q_PROPERTY(int lastHourCount READ lastHourCount NOTIFY clipsChanged)
     Q_PROPERTY(QString textSize READ textSize NOTIFY clipsChanged)
     Q_PROPERTY(QString imageSize READ imageSize NOTIFY clipsChanged)
+    Q_PROPERTY(int snippetCount READ snippetCount NOTIFY snippetsChanged)
+    /// How the last export or import of snippets ended.
+    Q_PROPERTY(QString snippetNews READ snippetNews NOTIFY snippetNewsChanged)
+    Q_PROPERTY(bool snippetsFailed READ snippetsFailed NOTIFY snippetNewsChanged)
 
 public:
+    /// Asks for a file and writes snippets to it, or reads them. Reports how many there were, or
+    /// why none; nothing if the user chose no file.
+    struct SnippetFiles {
+        using Done = std::function<void(const Result<qsizetype>&)>;
+        using Action = std::function<void(QWindow& over, Done done)>;
+
+        Action exportTo;
+        Action importFrom;
+    };
+
     /// All outlive this.
     struct Subjects {
         TitledWindow::Beside beside;
@@ -41,6 +56,7 @@ public:
         bool knowsPrograms = true;
         bool knowsSelection = true;
         std::function<void()> erase = {}; ///< Everything; then the program ends.
+        SnippetFiles snippets = {};
     };
 
     explicit SettingsWindow(Subjects subjects);
@@ -62,6 +78,15 @@ public:
     /// Such as "3.1 MB".
     [[nodiscard]] QString textSize() const;
     [[nodiscard]] QString imageSize() const;
+
+    [[nodiscard]] int snippetCount() const;
+
+    [[nodiscard]] const QString& snippetNews() const { return snippetNews_; }
+
+    [[nodiscard]] bool snippetsFailed() const { return snippetsFailed_; }
+
+    Q_INVOKABLE void exportSnippets();
+    Q_INVOKABLE void importSnippets();
 
     void show();
 
@@ -85,11 +110,17 @@ public:
 
 Q_SIGNALS:
     void clipsChanged();
+    void snippetsChanged();
+    void snippetNewsChanged();
 
 private:
+    void setSnippetNews(const QString& news, bool failed);
+
     Subjects subjects_;
     ExtensionOffer extension_;
     std::unique_ptr<TitledWindow> window_;
+    QString snippetNews_;
+    bool snippetsFailed_ = false;
 };
 
 } // namespace ravelo
