@@ -7,6 +7,7 @@
 #include "clipboard/CapturePause.h"
 #include "clipboard/ClipboardManager.h"
 #include "clipboard/SelectedTexts.h"
+#include "languages/Languages.h"
 #include "monitor/ClaudeEnvironment.h"
 #include "monitor/LiveContext.h"
 #include "monitor/PlanUsage.h"
@@ -182,6 +183,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     std::atexit(flushAtExit);
 
     settings_ = std::make_unique<AppSettings>(*platform_.preferences, *platform_.loginItem);
+    useLanguage(settings_->language()); // Before the first text is made.
     settings_->setupLoginItemDefaultIfNeeded();
     platform_.loginItem->repair([this](const Result<void>& repaired) {
         if (!repaired) {

@@ -3,6 +3,7 @@
 #include "base/Date.h"
 #include "platform/StatusItem.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QObject>
 
@@ -19,6 +20,8 @@ class Scheduler;
 /// The program's item in the bar of the desktop: its menu, whose keys work in all windows of the
 /// program, and a tooltip with how full the context of the newest session is. Main thread.
 class StatusItemController : public QObject {
+    Q_DECLARE_TR_FUNCTIONS(ravelo::StatusItemController)
+
 public:
     struct Services {
         StatusItem& item;

@@ -41,6 +41,11 @@ QStringList texts(const QJsonValue& value) {
     return texts;
 }
 
+QString knownLanguage(const QString& name) {
+    static const QStringList names{u"en"_s, u"pt_BR"_s, u"de"_s};
+    return names.contains(name) ? name : QString();
+}
+
 int knownDays(const QJsonValue& value) {
     constexpr std::array known{0, 1, 7, 30};
     const int days = value.toInt(0);
@@ -77,6 +82,7 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       keyLikeWords_(preferences.value(u"keyLikeWords"_s).toBool(false)),
       keepSelectedText_(preferences.value(u"keepSelectedText"_s).toBool(false)),
       hideClaudeCode_(preferences.value(u"hideClaudeCode"_s).toBool(false)),
+      language_(knownLanguage(preferences.value(u"language"_s).toString())),
       onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
       launchAtLogin_(loginItem.isEnabled()) {}
 
@@ -256,6 +262,11 @@ void AppSettings::setKeepSelectedText(bool on) {
 void AppSettings::setHideClaudeCode(bool on) {
     preferences_.set(u"hideClaudeCode"_s, on);
     change(hideClaudeCode_, on, &AppSettings::hideClaudeCodeChanged);
+}
+
+void AppSettings::setLanguage(const QString& language) {
+    preferences_.set(u"language"_s, language);
+    change(language_, knownLanguage(language), &AppSettings::languageChanged);
 }
 
 void AppSettings::setOnboarded(bool done) {

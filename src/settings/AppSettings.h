@@ -44,6 +44,7 @@ class AppSettings : public QObject {
                    keepSelectedTextChanged)
     Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
                    hideClaudeCodeChanged)
+    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
     Q_PROPERTY(
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
@@ -94,6 +95,11 @@ public:
 
     /// Hides Claude Code's usage if it is not installed.
     [[nodiscard]] bool hideClaudeCode() const;
+
+    /// Of all texts, from the next start on: "en", "pt_BR" or "de"; empty for the texts as they
+    /// are. Anything else counts as absent.
+    [[nodiscard]] const QString& language() const { return language_; }
+
     [[nodiscard]] bool onboarded() const;
     [[nodiscard]] bool launchAtLogin() const;
 
@@ -117,6 +123,7 @@ public:
     void setKeyLikeWords(bool on);
     void setKeepSelectedText(bool on);
     void setHideClaudeCode(bool on);
+    void setLanguage(const QString& language);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
 
@@ -151,6 +158,7 @@ Q_SIGNALS:
     void keyLikeWordsChanged();
     void keepSelectedTextChanged();
     void hideClaudeCodeChanged();
+    void languageChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
 
@@ -182,6 +190,7 @@ private:
     bool keyLikeWords_;
     bool keepSelectedText_;
     bool hideClaudeCode_;
+    QString language_;
     bool onboarded_;
     bool launchAtLogin_;
 };

@@ -48,6 +48,7 @@ const Field fields[] = {
     {"keyLikeWords", &AppSettings::keyLikeWordsChanged, false, true, 1},
     {"keepSelectedText", &AppSettings::keepSelectedTextChanged, false, true, u"true"_s},
     {"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
+    {"language", &AppSettings::languageChanged, QString(), u"pt_BR"_s, u"fr"_s},
     {"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}};
 
 TEST(Settings, AreReadNotifiedAndKept) {

@@ -23,7 +23,8 @@ QString megabytes(qint64 bytes) {
 
 SettingsWindow::SettingsWindow(Subjects subjects)
     : subjects_(std::move(subjects)),
-      extension_(subjects_.extension) {
+      extension_(subjects_.extension),
+      usedLanguage_(subjects_.settings.language()) {
     connect(&subjects_.store, &Store::clipsChanged, this, &SettingsWindow::clipsChanged);
     connect(&subjects_.store, &Store::snippetsChanged, this, &SettingsWindow::snippetsChanged);
 }

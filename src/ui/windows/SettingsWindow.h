@@ -29,6 +29,8 @@ class SettingsWindow : public QObject {
     Q_PROPERTY(int lastHourCount READ lastHourCount NOTIFY clipsChanged)
     Q_PROPERTY(QString textSize READ textSize NOTIFY clipsChanged)
     Q_PROPERTY(QString imageSize READ imageSize NOTIFY clipsChanged)
+    /// The setting, as it was when the program started.
+    Q_PROPERTY(QString usedLanguage READ usedLanguage CONSTANT)
     Q_PROPERTY(int snippetCount READ snippetCount NOTIFY snippetsChanged)
     /// How the last export or import of snippets ended.
     Q_PROPERTY(QString snippetNews READ snippetNews NOTIFY snippetNewsChanged)
@@ -79,6 +81,8 @@ public:
     [[nodiscard]] QString textSize() const;
     [[nodiscard]] QString imageSize() const;
 
+    [[nodiscard]] const QString& usedLanguage() const { return usedLanguage_; }
+
     [[nodiscard]] int snippetCount() const;
 
     [[nodiscard]] const QString& snippetNews() const { return snippetNews_; }
@@ -119,6 +123,7 @@ private:
     Subjects subjects_;
     ExtensionOffer extension_;
     std::unique_ptr<TitledWindow> window_;
+    QString usedLanguage_;
     QString snippetNews_;
     bool snippetsFailed_ = false;
 };

@@ -131,6 +131,7 @@ TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 1000},
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Up, 200},
         {Qt::Key_3, u"keepDays"_s, Qt::Key_Down, 30},
+        {Qt::Key_4, u"language"_s, Qt::Key_Down, u"en"_s},
         {Qt::Key_4, u"hideClaudeCode"_s, Qt::Key_Space, true},
     };
     for (const Case& c : cases) {
