@@ -1,11 +1,13 @@
 #include "app/AppDelegate.h"
 
 #include "app/Commands.h"
+#include "app/FileChoice.h"
 #include "app/StatusItemController.h"
 #include "app/Transfers.h"
 #include "clipboard/CapturePause.h"
 #include "clipboard/ClipboardManager.h"
 #include "clipboard/SelectedTexts.h"
+#include "languages/Languages.h"
 #include "monitor/ClaudeEnvironment.h"
 #include "monitor/LiveContext.h"
 #include "monitor/PlanUsage.h"
@@ -193,6 +195,7 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     std::atexit(flushAtExit);
 
     settings_ = std::make_unique<AppSettings>(*platform_.preferences, *platform_.loginItem);
+    useLanguage(settings_->language()); // Before the first text is made.
     settings_->setupLoginItemDefaultIfNeeded();
     platform_.loginItem->repair([this](const Result<void>& repaired) {
         if (!repaired) {
@@ -293,15 +296,28 @@ void AppDelegate::provideWindows() {
         beside, *store_, *settings_, quitLater, platform_.displayText, platform_.extension.get(),
         platform_.display->pasteboard().namesPrograms(), selected_ != nullptr,
         [this] { erase([](const Answer&) {}); }, platform_.shortcut.get(), pasting_->isPossible(),
-        [this](const QString& text) {
-            clipboard_->copyText(text);
-        }, platform_.notifier.get()});
+        [this](const QString& text) { clipboard_->copyText(text); }, platform_.notifier.get(),
+        snippetFiles()});
     onboarding_ =
         std::make_unique<OnboardingController>(beside, *settings_, platform_.display->screens(),
                                                platform_.extension.get(), platform_.shortcut.get());
     updateWindow_ = std::make_unique<UpdateWindow>(beside, updater());
     QObject::connect(notch_.get(), &NotchController::settingsRequested, settingsWindow_.get(),
                      &SettingsWindow::show);
+}
+
+SettingsWindow::SnippetFiles AppDelegate::snippetFiles() {
+    using Done = SettingsWindow::SnippetFiles::Done;
+    const auto withFile = [this](FileChoice::Kind kind,
+                                 void (Transfers::*transfer)(const QString&, Done)) {
+        return [this, kind, transfer](QWindow& over, const Done& done) {
+            FileChoice::ask(over, kind, [this, transfer, done](const QString& path) {
+                (transfers_.get()->*transfer)(path, done);
+            });
+        };
+    };
+    return {withFile(FileChoice::Kind::toWrite, &Transfers::exportSnippets),
+            withFile(FileChoice::Kind::toRead, &Transfers::importSnippets)};
 }
 
 void AppDelegate::wire() {

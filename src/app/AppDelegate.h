@@ -5,6 +5,7 @@
 #include "base/Result.h"
 #include "platform/Answer.h"
 #include "platform/system/DataLock.h"
+#include "ui/windows/SettingsWindow.h"
 
 #include <QStringList>
 
@@ -33,7 +34,6 @@ class Pasting;
 class PlanUsage;
 class ReceivedWatcher;
 class SelectedTexts;
-class SettingsWindow;
 class StatusItemController;
 class Store;
 class Transfers;
@@ -76,6 +76,7 @@ private:
     [[nodiscard]] LiveContext& liveContext();
     [[nodiscard]] PlanUsage& planUsage();
     void provideWindows();
+    [[nodiscard]] SettingsWindow::SnippetFiles snippetFiles();
     void wire();
     void wireNotices();
     void wireNotifications();

@@ -50,19 +50,19 @@ QList<StatusItem::Row> StatusItemController::ownRows() {
         }
     };
     return {
-        {u"Open Ravelo"_s, {}, open},
-        {u"Settings…"_s, QKeySequence(Qt::CTRL | Qt::Key_Comma),
+        {tr("Open Ravelo"), {}, open},
+        {tr("Settings…"), QKeySequence(Qt::CTRL | Qt::Key_Comma),
          [=, this] {
              run(onSettings);
          }},
-        {u"Set Up Ravelo Again…"_s,
+        {tr("Set Up Ravelo Again…"),
          {},
          [=, this] {
              run(onSetup);
          }},
-        {u"Check for Updates…"_s, {}, services_.checkUpdates},
+        {tr("Check for Updates…"), {}, services_.checkUpdates},
         {},
-        {u"Quit Ravelo"_s, QKeySequence(Qt::CTRL | Qt::Key_Q), services_.quit},
+        {tr("Quit Ravelo"), QKeySequence(Qt::CTRL | Qt::Key_Q), services_.quit},
     };
 }
 
@@ -73,17 +73,17 @@ QList<StatusItem::Row> StatusItemController::pauseRows() {
         };
     };
     if (services_.pause.isPaused()) {
-        return {{}, {u"Resume Capture"_s, {}, [this] {
+        return {{}, {tr("Resume Capture"), {}, [this] {
                          services_.pause.resume();
                      }}};
     }
     return {{},
-            {u"Pause Capture"_s,
+            {tr("Pause Capture"),
              {},
              {},
-             {{u"Pause for 15 minutes"_s, {}, pause(Seconds(15 * 60))},
-              {u"Pause for an hour"_s, {}, pause(Seconds(60 * 60))},
-              {u"Pause until resumed"_s, {}, pause({})}}}};
+             {{tr("Pause for 15 minutes"), {}, pause(Seconds(15 * 60))},
+              {tr("Pause for an hour"), {}, pause(Seconds(60 * 60))},
+              {tr("Pause until resumed"), {}, pause({})}}}};
 }
 
 StatusItem::Icon StatusItemController::icon() const {
@@ -106,9 +106,9 @@ void StatusItemController::updateTitle() {
     QStringList lines{usualToolTip()};
     if (services_.pause.isPaused()) {
         const auto until = services_.pause.until();
-        lines.prepend(until ? u"Capture paused until "_s +
-                                  toDateTime(*until).toLocalTime().toString(u"HH:mm"_s)
-                            : u"Capture paused"_s);
+        lines.prepend(until ? tr("Capture paused until %1")
+                                  .arg(toDateTime(*until).toLocalTime().toString(u"HH:mm"_s))
+                            : tr("Capture paused"));
     }
     services_.item.setToolTip(lines.join(u'\n'));
 }

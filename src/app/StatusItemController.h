@@ -3,6 +3,7 @@
 #include "base/Date.h"
 #include "platform/StatusItem.h"
 
+#include <QCoreApplication>
 #include <QLocale>
 #include <QObject>
 
@@ -21,6 +22,8 @@ class Scheduler;
 /// program, and a tooltip with how full the context of the newest session is, and the plan if it
 /// will be full before its reset. Main thread.
 class StatusItemController : public QObject {
+    Q_DECLARE_TR_FUNCTIONS(ravelo::StatusItemController)
+
 public:
     struct Services {
         StatusItem& item;

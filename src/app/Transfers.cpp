@@ -2,6 +2,7 @@
 
 #include "platform/DetachedJobs.h"
 #include "platform/ImageDecoder.h"
+#include "store/SnippetFile.h"
 #include "store/Store.h"
 #include "store/Transfer.h"
 #include "vault/Vault.h"
@@ -76,6 +77,61 @@ void Transfers::importFrom(const QString& path, Reply reply) {
                           : Answer{1, {}, u"not saved yet: "_s + saved.reason});
             });
         });
+}
+
+bool Transfers::isPossible(const Done& done) const {
+    if (running_) {
+        done(failure(tr("Another export or import is running.")));
+    } else if (services_.store.isLocked()) {
+        done(failure(tr("What is stored is encrypted: unlock it first.")));
+    }
+    return !running_ && !services_.store.isLocked();
+}
+
+void Transfers::exportSnippets(const QString& path, Done done) {
+    if (!isPossible(done)) {
+        return;
+    }
+    const QList<Snippet> snippets = services_.store.snippets();
+    const auto outcome = std::make_shared<Result<void>>(neverRan());
+    running_ =
+        services_.jobs.run([snippets, vault = services_.store.vault(), path,
+                            outcome] { *outcome = ravelo::exportSnippets(snippets, *vault, path); },
+                           [this, outcome, count = snippets.size(), done = std::move(done)] {
+                               running_.reset();
+                               done(outcome->map([count] { return count; }));
+                           });
+}
+
+void Transfers::importSnippets(const QString& path, Done done) {
+    if (!isPossible(done)) {
+        return;
+    }
+    const auto outcome = std::make_shared<Result<QList<Snippet>>>(neverRan());
+    running_ = services_.jobs.run(
+        [vault = services_.store.vault(), path, outcome, decoder = services_.decoder,
+         mayWrite = services_.mayWrite] {
+            *outcome = ravelo::importSnippets(path, *vault, *decoder, mayWrite);
+        },
+        [this, outcome, done = std::move(done)] {
+            running_.reset();
+            if (*outcome) {
+                add(**outcome, done);
+            } else {
+                done(tl::unexpected(outcome->error()));
+            }
+        });
+}
+
+void Transfers::add(const QList<Snippet>& snippets, const Done& done) {
+    const qsizetype before = services_.store.snippets().size();
+    StoreContents contents;
+    contents.data.snippets = snippets;
+    services_.store.addAll(contents, [this, before, done](const SaveOutcome& saved) {
+        done(saved.kind == SaveOutcome::Kind::saved
+                 ? Result<qsizetype>(services_.store.snippets().size() - before)
+                 : failure(tr("Not saved yet: %1").arg(saved.reason)));
+    });
 }
 
 } // namespace ravelo

@@ -1,5 +1,6 @@
 #include "base/Files.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -63,11 +64,11 @@ Result<void> lastFailure() {
     switch (const int code = errno) {
     case ENOSPC:
     case EDQUOT:
-        return failure(QStringLiteral("the disk is full"));
+        return failure(QCoreApplication::translate("ravelo::Files", "the disk is full"));
     case EROFS:
     case EACCES:
     case EPERM:
-        return failure(QStringLiteral("the folder is read-only"));
+        return failure(QCoreApplication::translate("ravelo::Files", "the folder is read-only"));
     default:
         return failure(QString::fromStdString(std::generic_category().message(code)));
     }

@@ -2,6 +2,8 @@
 
 #include "store/Records.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 
 namespace ravelo {
@@ -34,17 +36,26 @@ qsizetype openBracket(const QString& expression) {
     return open.isEmpty() ? -1 : open.last();
 }
 
+/// Qt translates these texts, if it has a translation.
+QString asQtSays(const char* message) {
+    return QCoreApplication::translate("QRegularExpression", message);
+}
+
 QString mistake(const QString& expression, const QRegularExpression& pattern) {
     const QString error = pattern.errorString();
-    const bool isOpen = error.contains(u"missing closing parenthesis"_s) ||
-                        error.contains(u"missing terminating ]"_s);
+    const bool isOpen = error.contains(asQtSays("missing closing parenthesis")) ||
+                        error.contains(asQtSays("missing terminating ] for character class"));
     const qsizetype bracket = isOpen ? openBracket(expression) : -1;
     if (bracket >= 0) {
-        return u"A bracket is not closed, at character %1"_s.arg(bracket + 1);
+        return QCoreApplication::translate("ravelo::CaptureRules",
+                                           "A bracket is not closed, at character %1")
+            .arg(bracket + 1);
     }
     const qsizetype place =
         std::clamp<qsizetype>(pattern.patternErrorOffset() - limit.size(), 1, expression.size());
-    return u"%1%2, at character %3"_s.arg(error.left(1).toUpper(), error.mid(1)).arg(place);
+    return QCoreApplication::translate("ravelo::CaptureRules", "%1%2, at character %3")
+        .arg(error.left(1).toUpper(), error.mid(1))
+        .arg(place);
 }
 
 } // namespace

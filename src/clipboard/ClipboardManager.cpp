@@ -294,11 +294,19 @@ void ClipboardManager::copyText(const QString& text) {
 }
 
 void ClipboardManager::copyImage(const QString& path) {
-    copying_ = readImage(path, [this, before = held_](const Forms& forms) {
+    copyWithImage({}, path);
+}
+
+void ClipboardManager::copyWithImage(const QString& text, const QString& path) {
+    copying_ = readImage(path, [this, text, before = held_](const Forms& image) {
         if (held_ == before && reads_.empty()) { // Otherwise something newer was copied.
-            write(forms);
+            write((text.isEmpty() ? Forms() : Forms{{plainTextType, text.toUtf8()}}) + image);
         }
     });
+}
+
+void ClipboardManager::copyPng(const QByteArray& png) {
+    write({{pngType, png}});
 }
 
 void ClipboardManager::copyFile(const QUrl& url) {

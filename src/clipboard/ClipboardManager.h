@@ -51,6 +51,13 @@ public:
     /// something else was copied meanwhile.
     void copyImage(const QString& path);
 
+    /// Puts a text and a stored image on the pasteboard as one object; only the text if the file is
+    /// no PNG. Otherwise as `copyImage`.
+    void copyWithImage(const QString& text, const QString& path);
+
+    /// Puts an image on the pasteboard: a PNG's bytes.
+    void copyPng(const QByteArray& png);
+
     /// Puts a file on the pasteboard so that file managers can paste a copy. Does nothing if the
     /// URL is not of a file.
     void copyFile(const QUrl& url);

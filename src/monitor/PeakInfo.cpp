@@ -1,5 +1,7 @@
 #include "monitor/PeakInfo.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -8,6 +10,11 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Translation context of this file.
+struct PeakText {
+    Q_DECLARE_TR_FUNCTIONS(ravelo::PeakText)
+};
 
 constexpr int firstHour = 8;
 constexpr int endHour = 14;
@@ -46,9 +53,10 @@ PeakInfo PeakInfo::at(Date now) {
 QString PeakInfo::label(Date now, const QLocale& locale, const QTimeZone& zone) const {
     if (isPeak) {
         const QTime end = toDateTime(transition).toTimeZone(zone).time();
-        return u"PEAK · ends "_s + locale.toString(end, u"h:mm Ap"_s);
+        return PeakText::tr("PEAK · ends %1").arg(locale.toString(end, PeakText::tr("h:mm Ap")));
     }
-    return u"OFF-PEAK · peak in "_s + dur(transition.sinceReference - now.sinceReference);
+    return PeakText::tr("OFF-PEAK · peak in %1")
+        .arg(dur(transition.sinceReference - now.sinceReference));
 }
 
 Seconds untilDurChanges(double seconds) {

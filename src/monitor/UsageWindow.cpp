@@ -2,12 +2,23 @@
 
 #include "monitor/PeakInfo.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Translation context of this file.
+struct UsageText {
+    Q_DECLARE_TR_FUNCTIONS(ravelo::UsageText)
+};
+
+} // namespace
 
 bool resetHasPassed(const std::optional<UsageWindow>& window, Date now) {
     return window && window->resets && *window->resets <= now;
@@ -29,14 +40,14 @@ QString percentText(const std::optional<UsageWindow>& window) {
 
 QString timeLeftText(const std::optional<UsageWindow>& window, Date now) {
     if (!window) {
-        return u"sem dados"_s;
+        return UsageText::tr("sem dados");
     }
     return window->resets ? dur(window->resets->sinceReference - now.sinceReference) : QString();
 }
 
 QString resetText(const std::optional<UsageWindow>& window, Date now) {
     const QString left = timeLeftText(window, now);
-    return window && window->resets ? u"reseta em "_s + left : left;
+    return window && window->resets ? UsageText::tr("reseta em %1").arg(left) : left;
 }
 
 } // namespace ravelo

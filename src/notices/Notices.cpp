@@ -124,10 +124,10 @@ Notices::Notice Notices::worst() const {
         return failing(*failure);
     }
     if (!notDeleted_.isEmpty()) {
-        return {NotDeleted, u"Not deleted from the disk:"_s, notDeleted_ + u'.', {}};
+        return {NotDeleted, tr("Not deleted from the disk:"), notDeleted_ + u'.', {}};
     }
     if (savedAgain_) {
-        return {SavedAgain, u"Saved again."_s, {}, {}};
+        return {SavedAgain, tr("Saved again."), {}, {}};
     }
     if (locked_.kind == Locked) {
         return locked_;
@@ -135,32 +135,33 @@ Notices::Notice Notices::worst() const {
     if (!aside_.empty()) {
         return fileAside(aside_.begin()->first, aside_.begin()->second);
     }
-    return secret_.isEmpty() ? Notice()
-                             : Notice{SecretKept, u"This looks like a secret: %1."_s.arg(secret_),
-                                      u"Such texts are never written to disk and soon forgotten."_s,
-                                      u"Keep such texts"_s};
+    return secret_.isEmpty()
+               ? Notice()
+               : Notice{SecretKept, tr("This looks like a secret: %1.").arg(secret_),
+                        tr("Such texts are never written to disk and soon forgotten."),
+                        tr("Keep such texts")};
 }
 
 Notices::Notice Notices::failing(const Failure& failure) const {
     if (failure.retry == Retry::no) {
-        return {SavingFails, u"Not saved any more:"_s, failure.reason + u'.', {}};
+        return {SavingFails, tr("Not saved any more:"), failure.reason + u'.', {}};
     }
     const auto minutes = static_cast<qint64>((scheduler_.uptime() - failure.since) / minute);
     return {SavingFails,
-            (minutes == 1 ? u"Not saved for %1 minute:"_s : u"Not saved for %1 minutes:"_s)
+            (minutes == 1 ? tr("Not saved for %1 minute:") : tr("Not saved for %1 minutes:"))
                 .arg(minutes),
-            failure.reason + u". Nothing is lost while Ravelo runs."_s, u"Try again"_s};
+            tr("%1. Nothing is lost while Ravelo runs.").arg(failure.reason), tr("Try again")};
 }
 
 Notices::Notice Notices::fileAside(Source source, const QString& path) {
     return source == Source::store
-               ? Notice{PutAside, u"Saved copy put aside:"_s,
-                        fileName(path) +
-                            u", in Ravelo\u2019s data folder. The history starts empty."_s,
-                        u"Open folder"_s}
-               : Notice{PutAside, u"Preferences put aside:"_s,
-                        fileName(path) + u". Settings are back at their defaults."_s,
-                        u"Open folder"_s};
+               ? Notice{PutAside, tr("Saved copy put aside:"),
+                        tr("%1, in Ravelo\u2019s data folder. The history starts empty.")
+                            .arg(fileName(path)),
+                        tr("Open folder")}
+               : Notice{PutAside, tr("Preferences put aside:"),
+                        tr("%1. Settings are back at their defaults.").arg(fileName(path)),
+                        tr("Open folder")};
 }
 
 } // namespace ravelo

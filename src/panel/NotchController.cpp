@@ -388,6 +388,14 @@ void NotchController::copyImage(const QString& path) {
     clipboard_.copyImage(path);
 }
 
+void NotchController::copyWithImage(const QString& text, const QString& path) {
+    clipboard_.copyWithImage(text, path);
+}
+
+void NotchController::copyPng(const QByteArray& png) {
+    clipboard_.copyPng(png);
+}
+
 void NotchController::copyFile(const QUrl& file) {
     clipboard_.copyFile(file);
 }

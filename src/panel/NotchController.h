@@ -125,6 +125,8 @@ public:
     /// Puts a text, or a stored image, on the pasteboard without making a new clip of it.
     Q_INVOKABLE void copy(const QString& text);
     Q_INVOKABLE void copyImage(const QString& path);
+    void copyWithImage(const QString& text, const QString& path);
+    void copyPng(const QByteArray& png);
     void copyFile(const QUrl& file);
 
     /// The user clicked into a text field: the window takes the keyboard.

@@ -3,6 +3,7 @@
 #include "secrets/FormsFile.h"
 #include "secrets/SecretChecks.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -15,6 +16,23 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// The names in forms.json, for the tools that look for texts to translate.
+[[maybe_unused]] constexpr const char* formNames[] = {
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "OpenSSH private key"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "Private key"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "GitHub token"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "GitLab token"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "AWS key"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "Slack token"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "Stripe key"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "Anthropic key"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "OpenAI key"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "Google key"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "JSON Web Token"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "Card number"),
+    QT_TRANSLATE_NOOP("ravelo::SecretForm", "Key-like word"),
+};
 
 /// A longer text is no single token.
 constexpr qsizetype longestToken = 8192;
@@ -41,7 +59,8 @@ SecretForm parsed(const QJsonValue& value) {
     using Shown = SecretForm::Shown;
     SecretForm form;
     form.id = value[u"id"].toString();
-    form.name = value[u"name"].toString();
+    form.name = QCoreApplication::translate("ravelo::SecretForm",
+                                            value[u"name"].toString().toUtf8().constData());
     form.contains = value[u"contains"].toString();
     form.place = named<Place>(value[u"place"].toString(),
                               {{"whole"_L1, Place::whole}, {"anywhere"_L1, Place::anywhere}});

@@ -41,6 +41,11 @@ QStringList texts(const QJsonValue& value) {
     return texts;
 }
 
+QString knownLanguage(const QString& name) {
+    static const QStringList names{u"en"_s, u"pt_BR"_s, u"de"_s};
+    return names.contains(name) ? name : QString();
+}
+
 int knownDays(const QJsonValue& value) {
     constexpr std::array known{0, 1, 7, 30};
     const int days = value.toInt(0);
@@ -87,6 +92,7 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       notifyFiles_(preferences.value(u"notifyFiles"_s).toBool(false)),
       notifySaving_(preferences.value(u"notifySaving"_s).toBool(false)),
       notifyPlan_(preferences.value(u"notifyPlan"_s).toBool(false)),
+      language_(knownLanguage(preferences.value(u"language"_s).toString())),
       onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
       launchAtLogin_(loginItem.isEnabled()) {}
 
@@ -316,6 +322,11 @@ void AppSettings::setNotifySaving(bool on) {
 void AppSettings::setNotifyPlan(bool on) {
     preferences_.set(u"notifyPlan"_s, on);
     change(notifyPlan_, on, &AppSettings::notifyPlanChanged);
+}
+
+void AppSettings::setLanguage(const QString& language) {
+    preferences_.set(u"language"_s, language);
+    change(language_, knownLanguage(language), &AppSettings::languageChanged);
 }
 
 void AppSettings::setOnboarded(bool done) {

@@ -56,6 +56,7 @@ class AppSettings : public QObject {
     Q_PROPERTY(bool notifyFiles READ notifyFiles WRITE setNotifyFiles NOTIFY notifyFilesChanged)
     Q_PROPERTY(bool notifySaving READ notifySaving WRITE setNotifySaving NOTIFY notifySavingChanged)
     Q_PROPERTY(bool notifyPlan READ notifyPlan WRITE setNotifyPlan NOTIFY notifyPlanChanged)
+    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
     Q_PROPERTY(
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
@@ -138,6 +139,10 @@ public:
     /// ... and when the plan reaches a threshold or is reset.
     [[nodiscard]] bool notifyPlan() const { return notifyPlan_; }
 
+    /// Of all texts, from the next start on: "en", "pt_BR" or "de"; empty for the texts as they
+    /// are. Anything else counts as absent.
+    [[nodiscard]] const QString& language() const { return language_; }
+
     [[nodiscard]] bool onboarded() const;
     [[nodiscard]] bool launchAtLogin() const;
 
@@ -171,6 +176,7 @@ public:
     void setNotifyFiles(bool on);
     void setNotifySaving(bool on);
     void setNotifyPlan(bool on);
+    void setLanguage(const QString& language);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
 
@@ -215,6 +221,7 @@ Q_SIGNALS:
     void notifyFilesChanged();
     void notifySavingChanged();
     void notifyPlanChanged();
+    void languageChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
 
@@ -256,6 +263,7 @@ private:
     bool notifyFiles_;
     bool notifySaving_;
     bool notifyPlan_;
+    QString language_;
     bool onboarded_;
     bool launchAtLogin_;
 };

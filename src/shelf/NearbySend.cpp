@@ -5,6 +5,8 @@
 #include "platform/DetachedJobs.h"
 #include "platform/Programs.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <memory>
 #include <utility>
@@ -31,7 +33,9 @@ NearbySend::NearbySend(Services services) : services_(services) {}
 NearbySend::~NearbySend() = default;
 
 QString NearbySend::advice() {
-    return u"Pair a device in KDE Connect, or install Blueman, to send files to it"_s;
+    return QCoreApplication::translate(
+        "ravelo::NearbySend",
+        "Pair a device in KDE Connect, or install Blueman, to send files to it");
 }
 
 Handle NearbySend::refresh(std::function<void()> done) {

@@ -4,6 +4,7 @@
 #include "store/ImageFiles.h"
 #include "vault/Vault.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QFileInfo>
 
@@ -61,7 +62,7 @@ Deleted::Restorable Deleted::restore(const QString& folder, const Vault& vault,
                                      const OwnFile::Permission& mayWrite) {
     Restorable all;
     if (std::exchange(someLost_, false)) {
-        all.problem = u"too large to keep in memory"_s;
+        all.problem = QCoreApplication::translate("ravelo::Store", "too large to keep in memory");
     }
     for (QList<DeletedRecord> records = std::exchange(records_, {}); !records.isEmpty();) {
         DeletedRecord record = records.takeLast();

@@ -5,6 +5,7 @@
 #include "decode/Formats.h"
 #include "vault/Vault.h"
 
+#include <QCoreApplication>
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
@@ -57,7 +58,8 @@ Result<void> removeImages(const QStringList& paths, const OwnFile::Permission& m
     Result<void> done;
     for (const QString& path : paths) {
         if (!QFile::remove(path) && QFileInfo(path).isFile()) {
-            done = failure(u"%1 could not be removed"_s.arg(QFileInfo(path).fileName()));
+            done = failure(QCoreApplication::translate("ravelo::Store", "%1 could not be removed")
+                               .arg(QFileInfo(path).fileName()));
         }
     }
     const Result<void> synced = syncFolderOf(paths.first());

@@ -106,6 +106,20 @@ void Store::setNote(const QString& note) {
     }
 }
 
+void Store::setNote2(const QString& note) {
+    if (note != data_.note2) {
+        data_.note2 = note;
+        Q_EMIT noteChanged();
+    }
+}
+
+void Store::setDrawing(const QList<Stroke>& drawing) {
+    if (drawing != data_.drawing) {
+        data_.drawing = drawing;
+        Q_EMIT drawingChanged();
+    }
+}
+
 void Store::dropGone(const FileLook::Found& found) {
     QSet<QUrl> gone;
     for (const auto& [file, presence] : found.asKeyValueRange()) {

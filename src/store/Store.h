@@ -32,8 +32,8 @@ struct PasteboardSnapshot;
 
 /// The one observable store that every view reads: clips, snippets, notes, sketch and shelf, the
 /// focus timer and the reminders. The timer ends with the program; the reminders are preferences.
-/// Setting a note does not save by itself; the operations do. What could not be saved stays in
-/// memory and is saved later or with the next save. Main thread only.
+/// Setting a note or the drawing does not save by itself; the operations do. What could not be
+/// saved stays in memory and is saved later or with the next save. Main thread only.
 class Store : public QObject {
     Q_OBJECT
     Q_PROPERTY(QString note READ note WRITE setNote NOTIFY noteChanged)
@@ -87,6 +87,14 @@ public:
     [[nodiscard]] const Shelf& shelf() const;
     [[nodiscard]] QString note() const;
     void setNote(const QString& note);
+
+    [[nodiscard]] const QString& note2() const { return data_.note2; }
+
+    void setNote2(const QString& note);
+
+    [[nodiscard]] const QList<Stroke>& drawing() const { return data_.drawing; }
+
+    void setDrawing(const QList<Stroke>& drawing);
 
     /// Applies from the next copy or pin on; only the order "newer first" applies at once. Surplus
     /// clips go with the next copy, and old ones in a minute, so that choosing a limit by mistake
@@ -236,7 +244,8 @@ Q_SIGNALS:
     void cleared(); ///< Also cancels copies that are still being read.
     void clipsChanged();
     void snippetsChanged();
-    void noteChanged();
+    void noteChanged(); ///< Either of them.
+    void drawingChanged();
     void shelfChanged();
     void shelfRequestTickChanged();
     void timerChanged();

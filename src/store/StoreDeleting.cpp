@@ -8,6 +8,7 @@
 #include "store/ImageFiles.h"
 #include "store/Store.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QPointer>
 
@@ -177,7 +178,8 @@ void Store::restore(const std::shared_ptr<Deleted>& deleted,
         });
         takeOffDisk(cleared, {});
         putBack(restorable->records);
-        done({restorable->records.size(), u"the history was cleared"_s, false});
+        done({restorable->records.size(),
+              QCoreApplication::translate("ravelo::Store", "the history was cleared"), false});
     };
     services_.worker.run(
         [deleted, restorable, folder = clipsDir(), vault = services_.vault,

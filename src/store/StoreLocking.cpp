@@ -10,6 +10,7 @@
 #include "vault/Conversion.h"
 #include "vault/Vault.h"
 
+#include <QCoreApplication>
 #include <QFile>
 #include <QPointer>
 
@@ -34,7 +35,8 @@ void Store::begin(StoredContents stored) {
     const bool wasRead = stored.kind == Kind::read;
     if (stored.kind == Kind::newer) {
         auto refuse = []() -> Result<void> {
-            return failure(u"what is stored was written by a newer Ravelo"_s);
+            return failure(QCoreApplication::translate(
+                "ravelo::Store", "what is stored was written by a newer Ravelo"));
         };
         saver_.setFile(fileURL(), OwnFile::Contents::ours, refuse);
     } else {
@@ -103,6 +105,7 @@ void Store::announceAll() {
     Q_EMIT clipsChanged();
     Q_EMIT snippetsChanged();
     Q_EMIT noteChanged();
+    Q_EMIT drawingChanged();
     Q_EMIT shelfChanged();
 }
 

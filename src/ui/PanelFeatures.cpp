@@ -23,7 +23,7 @@ PanelFeatures::PanelFeatures(const Services& services, const QLocale& locale,
                                              services.scheduler, toast, deleting, snippets,
                                              services.decoder, services.settings, services.pasting},
                              locale);
-    tabs.add<Notes>(services.store);
+    tabs.add<Notes>(Sketch::Services{services.store, services.controller, toast});
     shelf = &tabs.add<ShelfFiles>(
         ShelfFiles::Services{services.store, services.controller, services.opener,
                              services.scheduler, services.jobs, services.received, services.nearby,

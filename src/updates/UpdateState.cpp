@@ -1,31 +1,40 @@
 #include "updates/UpdateState.h"
 
+#include <QCoreApplication>
+
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
 namespace {
 
+/// Translation context of this file.
+struct UpdateText {
+    Q_DECLARE_TR_FUNCTIONS(ravelo::UpdateText)
+};
+
 using Phase = UpdateState::Phase;
 
 UpdateMessage message(const UpdateProblem& problem) {
     switch (problem.kind) {
     case UpdateProblem::Kind::noService:
-        return {u"Cannot check for updates"_s,
-                u"PackageKit is not available. Update Ravelo with your package manager."_s};
+        return {UpdateText::tr("Cannot check for updates"),
+                UpdateText::tr(
+                    "PackageKit is not available. Update Ravelo with your package manager.")};
     case UpdateProblem::Kind::notFromRepository:
-        return {
-            u"Ravelo was not installed from a repository"_s,
-            u"So the system does not know of newer versions. Install the newest package over this "
-            "one, or build it again."_s};
+        return {UpdateText::tr("Ravelo was not installed from a repository"),
+                UpdateText::tr(
+                    "So the system does not know of newer versions. Install the newest package "
+                    "over this one, or build it again.")};
     case UpdateProblem::Kind::notAllowed:
-        return {u"Not allowed"_s, u"Permission was denied, or polkit, which grants it, is not "
-                                  u"running. Update Ravelo with "
-                                  "your package manager."_s};
+        return {UpdateText::tr("Not allowed"),
+                UpdateText::tr("Permission was denied, or polkit, which "
+                               "grants it, is not running. Update Ravelo with "
+                               "your package manager.")};
     case UpdateProblem::Kind::failed:
         break;
     }
-    return {u"The update failed"_s, problem.details};
+    return {UpdateText::tr("The update failed"), problem.details};
 }
 
 } // namespace
@@ -49,16 +58,19 @@ UpdateMessage message(const UpdateState& state, const QString& current) {
     case Phase::idle:
         break;
     case Phase::checking:
-        return {u"Checking for updates…"_s, {}};
+        return {UpdateText::tr("Checking for updates…"), {}};
     case Phase::newest:
-        return {u"Ravelo is up to date"_s, u"You have Ravelo "_s + current + u'.'};
+        return {UpdateText::tr("Ravelo is up to date"),
+                UpdateText::tr("You have Ravelo %1.").arg(current)};
     case Phase::available:
-        return {newer + u" is available"_s, u"You have "_s + current + u'.'};
+        return {UpdateText::tr("%1 is available").arg(newer),
+                UpdateText::tr("You have %1.").arg(current)};
     case Phase::installing:
-        return {u"Installing "_s + newer + u'…',
+        return {UpdateText::tr("Installing %1…").arg(newer),
                 state.percent ? QString::number(*state.percent) + u" %"_s : QString()};
     case Phase::installed:
-        return {newer + u" is installed"_s, u"Quit Ravelo and start it again to use it."_s};
+        return {UpdateText::tr("%1 is installed").arg(newer),
+                UpdateText::tr("Quit Ravelo and start it again to use it.")};
     case Phase::problem:
         return message(state.problem);
     }

@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 
+#include <QCoreApplication>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -164,8 +165,10 @@ Result<QByteArray> Vault::sealed(const QString& path, QByteArray bytes) const {
     }
     if (!file || trouble() == Trouble::newer) {
         return trouble() == Trouble::newer
-                   ? tl::unexpected(Error{u"what is stored was written by a newer Ravelo"_s})
-                   : tl::unexpected(Error{u"what is stored is encrypted, and its key is gone"_s});
+                   ? tl::unexpected(Error{QCoreApplication::translate(
+                         "ravelo::Store", "what is stored was written by a newer Ravelo")})
+                   : tl::unexpected(Error{QCoreApplication::translate(
+                         "ravelo::Store", "what is stored is encrypted, and its key is gone")});
     }
     if (!key) {
         return sealForLater(file->id, file->publicKey, name, bytes);

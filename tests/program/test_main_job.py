@@ -629,6 +629,35 @@ class Shelf(ProgramCase):
         wait_for(self.ravelo.is_collapsed, "the panel to close at a click elsewhere")
 
 
+class SketchPad(ProgramCase):
+    ICON, COPY = 14, 84  # Their middles, from the right edge of the content.
+
+    def setUp(self):
+        super().setUp()
+        self.desktop.preferences.write_text('{"lastTab": "Notes", "onboarded": true}')
+        self.ravelo.start()
+
+    def strokes(self):
+        return [stroke["points"] for stroke in self.ravelo.store().get("drawing", [])]
+
+    def test_it_is_drawn_and_dragged_out_as_a_file(self):
+        target = self.desktop.gtk("target")
+        panel = self.ravelo.open()
+        right = panel.x + panel.width - 34
+        self.desktop.click(right - self.ICON, 220)
+        self.desktop.drag((panel.x + 200, 300), (panel.x + 400, 420))
+        self.desktop.run("xdotool", "mouseup", 1)
+        wait_for(self.strokes, "the stroke on disk")
+        self.assertGreaterEqual(len(self.strokes()[0]), 20, "every place where the pointer was")
+        self.desktop.drag((right - self.COPY, 220), (120, 450))
+        self.desktop.run("xdotool", "mouseup", 1)
+        address = json.loads(target.stdout.readline()).strip()
+        self.assertTrue(address.endswith("/Sketch.png"), address)
+        file = pathlib.Path(urllib.parse.unquote(urllib.parse.urlparse(address).path))
+        self.assertTrue(file.read_bytes().startswith(b"\x89PNG"))
+        self.assertEqual(file.parent.stat().st_mode & 0o777, 0o700)
+
+
 class Pictures(ProgramCase):
     """Only ravelo-decode reads pictures; the program must not load any image library."""
 

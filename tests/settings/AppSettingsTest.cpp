@@ -51,6 +51,7 @@ const Field fields[] = {
     {"returnPastes", &AppSettings::returnPastesChanged, false, true, 1},
     {"joinWith", &AppSettings::joinWithChanged, u"line"_s, u"comma"_s, 1},
     {"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
+    {"language", &AppSettings::languageChanged, QString(), u"pt_BR"_s, u"fr"_s},
     {"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}};
 
 TEST(Settings, AreReadNotifiedAndKept) {

@@ -1,7 +1,8 @@
 // Renders the panel, the settings or the setup with sample data, to compare them with design
 // drawings.
 //
-//   panel_probe [--scene NAME] [--scale 1|2] [--screen WxH] [--png FILE] [--behind FILE] [--time N]
+//   panel_probe [--scene NAME] [--scale 1|2] [--screen WxH] [--language NAME] [--png FILE]
+//   [--behind FILE] [--time N]
 //
 // writes the picture (of the closed panel as a bar in scenes such as "bar-timer-reminders-notch")
 // and prints the rectangles of all named elements as JSON, in logical pixels of the window.
@@ -10,6 +11,7 @@
 #include "base/Files.h"
 #include "fakes/FakeKeyring.h"
 #include "fakes/UsageWorld.h"
+#include "languages/Languages.h"
 #include "monitor/PaceFile.h"
 #include "panel_fixture/Input.h"
 #include "panel_fixture/Services.h"
@@ -165,6 +167,33 @@ void parkMany(PanelWorld& world) {
 void receive(PanelWorld& world, const QByteArray& name, Seconds then) {
     world.downloads.report({{}, {{FolderChange::Kind::written, name}}});
     world.scheduler.advance(then);
+}
+
+/// A room from above, a door, and an arrow.
+QList<Stroke> sampleSketch() {
+    QList<Stroke> sketch;
+    const auto draw = [&sketch](int count, const auto& place) {
+        Stroke stroke{QUuid::createUuid(), {}};
+        for (int i = 0; i <= count; ++i) {
+            const double shake = std::sin(i * 1.7) * 0.8;
+            stroke.points.append(place(static_cast<double>(i) / count) + QPointF(shake, -shake));
+        }
+        sketch.append(stroke);
+    };
+    draw(40, [](double t) { return QPointF(120, 60 + 170 * t); });
+    draw(40, [](double t) { return QPointF(120 + 260 * t, 230); });
+    draw(40, [](double t) { return QPointF(380, 230 - 170 * t); });
+    draw(40, [](double t) { return QPointF(380 - 170 * t, 60); });
+    draw(24, [](double t) {
+        return QPointF(210 - 90 * std::cos(t * 1.57), 60 + 90 * std::sin(t * 1.57));
+    });
+    draw(60, [](double t) {
+        return QPointF(300 + 40 * std::cos(t * 6.3), 160 + 28 * std::sin(t * 6.3));
+    });
+    draw(30, [](double t) { return QPointF(560 - 150 * t, 120 + 40 * t * t); });
+    draw(8, [](double t) { return QPointF(432 - 22 * t, 140 + 20 * t); });
+    draw(8, [](double t) { return QPointF(440 - 30 * t, 176 - 16 * t); });
+    return sketch;
 }
 
 const auto note = u"Tuesday, site visit at Alder Lane\n"
@@ -479,6 +508,9 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         world.devices.answer({{u"1"_s, u"Pixel"_s}});
     } else if (scene == u"shelf-menu") {
         click(window, middle(window, u"tile4"_s), Qt::RightButton);
+    } else if (scene.startsWith(u"notes-"_s)) {
+        click(window, middle(window, scene == u"notes-second" ? u"secondNote"_s : u"sketchPad"_s));
+        send(window, QEvent::MouseMove, {5, 300});
     } else if (scene == u"notes") {
         click(window, middle(window, u"noteInput"_s));
         find(window.contentItem(), u"noteInput"_s)
@@ -517,7 +549,7 @@ QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
                 settle();
             }
         } else if (scene.startsWith(u"settings-more"_s)) {
-            press(*settings.window(), Qt::Key_4, Qt::ControlModifier);
+            press(*settings.window(), Qt::Key_5, Qt::ControlModifier);
             settle();
             if (scene == u"settings-more-end") {
                 turnWheel(*settings.window(), {230, 300}, -3000);
@@ -672,14 +704,18 @@ int main(int argc, char** argv) {
     options.addOptions({{u"scene"_s, u"What to show."_s, u"name"_s, u"clipboard"_s},
                         {u"scale"_s, u"Device pixels a logical one."_s, u"factor"_s, u"1"_s},
                         {u"screen"_s, u"How large the screen is."_s, u"size"_s},
+                        {u"language"_s, u"As in the settings."_s, u"name"_s},
                         {u"png"_s, u"Where to write the picture."_s, u"file"_s},
                         {u"behind"_s, u"A picture of the screen below."_s, u"file"_s},
                         {u"time"_s, u"How many openings to time."_s, u"count"_s}});
     options.process(application);
     const QString scene = options.value(u"scene"_s);
+    QLocale::setDefault(QLocale(u"en_US"_s));
+    useLanguage(options.value(u"language"_s));
 
     StoreData data;
     data.note = note;
+    data.drawing = sampleSketch();
     if (scene == u"locked-copies") {
         data.clips = sampleClips().mid(2, 3);
     } else if (scene != u"empty" && !scene.startsWith(u"locked"_s)) {
@@ -703,14 +739,16 @@ int main(int argc, char** argv) {
     useBefore(spent, now, isFast ? 45 : 38);
     room().save(world.store.imagePath(u"room.png"_s));
     plan().save(world.store.imagePath(u"plan.png"_s));
-    world.settings.setLastTab(shelf ? u"Shelf"_s : scene == u"notes" ? u"Notes"_s : u"Clipboard"_s);
+    world.settings.setLastTab(shelf                          ? u"Shelf"_s
+                              : scene.startsWith(u"notes"_s) ? u"Notes"_s
+                                                             : u"Clipboard"_s);
     SceneEncryption encryption(scene, world);
     encryption.get()->look();
     world.scheduler.advance(Seconds(0.01));
     PanelFeatures::Services all = services(world, spent.usage);
     all.encryption = encryption.get();
     PanelView view;
-    view.load(all, QLocale(u"en_US"_s));
+    view.load(all, QLocale());
     view.features().state.setBackdrop(Backdrop::Blurred);
     if (shelf) {
         receive(world, "lighting-quote.pdf", day - minute * 18);
@@ -752,8 +790,10 @@ int main(int argc, char** argv) {
         }
         settle();
         const QWindowList windows = QGuiApplication::topLevelWindows();
-        window = qobject_cast<QQuickWindow*>(
-            *std::ranges::find(windows, u"Ravelo Updates"_s, &QWindow::title));
+        window =
+            qobject_cast<QQuickWindow*>(*std::ranges::find_if(windows, [&view](const QWindow* one) {
+                return one->isVisible() && one != &view.window();
+            }));
     }
     std::optional<Behind> behind;
     if (options.isSet(u"behind"_s)) {

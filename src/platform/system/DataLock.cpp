@@ -186,13 +186,15 @@ Result<void> DataLock::check() {
     if (ours_.isEmpty()) {
         allowed = acquire(Claim::ifFree);
     } else if (found && *found != ours_) {
-        allowed = failure(u"another Ravelo has taken over"_s);
+        allowed = failure(
+            QCoreApplication::translate("ravelo::DataLock", "another Ravelo has taken over"));
     } else if (!found && presenceOf(QFile::encodeName(path_)) == Presence::gone) {
         if (presenceOf(QFile::encodeName(data_)) == Presence::gone) {
             letGo(); // The whole folder was removed, so nobody else has data in it.
             allowed = acquire(Claim::ifFree);
         } else {
-            allowed = failure(u"its lock was removed"_s);
+            allowed =
+                failure(QCoreApplication::translate("ravelo::DataLock", "its lock was removed"));
         }
     }
     if (!allowed) {

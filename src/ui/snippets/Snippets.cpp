@@ -20,7 +20,12 @@ void Snippets::copy(const QUuid& id) {
     const auto& snippets = services_.store.snippets();
     const auto found = std::ranges::find(snippets, id, &Snippet::id);
     if (found != snippets.end()) {
-        services_.controller.copy(found->body);
+        if (found->imageFileName.isEmpty()) {
+            services_.controller.copy(found->body);
+        } else {
+            services_.controller.copyWithImage(found->body,
+                                               services_.store.imagePath(found->imageFileName));
+        }
         services_.toast.flashCopied();
     }
 }

@@ -1,4 +1,5 @@
 import QtQuick
+import Ravelo.Controls
 import Ravelo.Windows
 
 /// Settings about other programs.
@@ -13,6 +14,29 @@ Column {
 
     NotificationsSection {
         host: page.host
+    }
+
+    SettingsSection {
+        title: qsTr("Language")
+
+        SettingRow {
+            text: qsTr("Language")
+            note: page.settings.language === page.host.usedLanguage ? "" : qsTr("Applies when Ravelo starts again.")
+
+            ValueButton {
+                objectName: "language"
+                label: qsTr("Language")
+                value: page.settings.language
+                // In their own languages.
+                choices: [
+                    { text: qsTr("As it is"), value: "" },
+                    { text: "English (this desktop)", value: "en" },
+                    { text: "Deutsch", value: "de" },
+                    { text: "Português (Brasil)", value: "pt_BR" }
+                ]
+                onChosen: value => page.settings.language = value
+            }
+        }
     }
 
     SettingsSection {

@@ -10,6 +10,7 @@ Item {
     /// After the text, in grey.
     property alias amount: amount.text
     property alias note: note.text
+    property alias noteColor: note.color
     default property alias control: place.data
 
     width: parent?.width ?? 0

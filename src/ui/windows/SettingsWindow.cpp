@@ -27,8 +27,10 @@ SettingsWindow::SettingsWindow(Subjects subjects)
     : subjects_(std::move(subjects)),
       extension_(subjects_.extension),
       shortcut_(subjects_.shortcut, subjects_.settings,
-                qEnvironmentVariable("XDG_CURRENT_DESKTOP")) {
+                qEnvironmentVariable("XDG_CURRENT_DESKTOP")),
+      usedLanguage_(subjects_.settings.language()) {
     connect(&subjects_.store, &Store::clipsChanged, this, &SettingsWindow::clipsChanged);
+    connect(&subjects_.store, &Store::snippetsChanged, this, &SettingsWindow::snippetsChanged);
 }
 
 SettingsWindow::~SettingsWindow() = default;
@@ -49,7 +51,43 @@ QString SettingsWindow::imageSize() const {
     return megabytes(subjects_.store.imageBytes());
 }
 
+int SettingsWindow::snippetCount() const {
+    return static_cast<int>(subjects_.store.snippets().size());
+}
+
+void SettingsWindow::setSnippetNews(const QString& news, bool failed) {
+    snippetNews_ = news;
+    snippetsFailed_ = failed;
+    Q_EMIT snippetNewsChanged();
+}
+
+void SettingsWindow::exportSnippets() {
+    if (!subjects_.snippets.exportTo) {
+        return;
+    }
+    subjects_.snippets.exportTo(*window_, [this](const Result<qsizetype>& done) {
+        setSnippetNews(!done        ? done.error().message
+                       : *done == 1 ? tr("1 snippet exported.")
+                                    : tr("%1 snippets exported.").arg(QLocale().toString(*done)),
+                       !done);
+    });
+}
+
+void SettingsWindow::importSnippets() {
+    if (!subjects_.snippets.importFrom) {
+        return;
+    }
+    subjects_.snippets.importFrom(*window_, [this](const Result<qsizetype>& done) {
+        setSnippetNews(!done        ? done.error().message
+                       : *done == 0 ? tr("All of them are there already.")
+                       : *done == 1 ? tr("1 snippet imported.")
+                                    : tr("%1 snippets imported.").arg(QLocale().toString(*done)),
+                       !done);
+    });
+}
+
 void SettingsWindow::show() {
+    setSnippetNews({}, false);
     Q_EMIT clipsChanged();
     subjects_.settings.refreshLaunchAtLogin();
     lookForNotifications();

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "base/Result.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "ui/windows/ExtensionOffer.h"
@@ -37,8 +38,24 @@ class SettingsWindow : public QObject {
     Q_PROPERTY(int lastHourCount READ lastHourCount NOTIFY clipsChanged)
     Q_PROPERTY(QString textSize READ textSize NOTIFY clipsChanged)
     Q_PROPERTY(QString imageSize READ imageSize NOTIFY clipsChanged)
+    /// The setting, as it was when the program started.
+    Q_PROPERTY(QString usedLanguage READ usedLanguage CONSTANT)
+    Q_PROPERTY(int snippetCount READ snippetCount NOTIFY snippetsChanged)
+    /// How the last export or import of snippets ended.
+    Q_PROPERTY(QString snippetNews READ snippetNews NOTIFY snippetNewsChanged)
+    Q_PROPERTY(bool snippetsFailed READ snippetsFailed NOTIFY snippetNewsChanged)
 
 public:
+    /// Asks for a file and writes snippets to it, or reads them. Reports how many there were, or
+    /// why none; nothing if the user chose no file.
+    struct SnippetFiles {
+        using Done = std::function<void(const Result<qsizetype>&)>;
+        using Action = std::function<void(QWindow& over, Done done)>;
+
+        Action exportTo;
+        Action importFrom;
+    };
+
     /// All outlive this.
     struct Subjects {
         TitledWindow::Beside beside;
@@ -54,6 +71,7 @@ public:
         bool canPaste = true;
         std::function<void(const QString& text)> copy = {};
         Notifier* notifier = nullptr;
+        SnippetFiles snippets = {};
     };
 
     explicit SettingsWindow(Subjects subjects);
@@ -81,6 +99,17 @@ public:
     /// Such as "3.1 MB".
     [[nodiscard]] QString textSize() const;
     [[nodiscard]] QString imageSize() const;
+
+    [[nodiscard]] const QString& usedLanguage() const { return usedLanguage_; }
+
+    [[nodiscard]] int snippetCount() const;
+
+    [[nodiscard]] const QString& snippetNews() const { return snippetNews_; }
+
+    [[nodiscard]] bool snippetsFailed() const { return snippetsFailed_; }
+
+    Q_INVOKABLE void exportSnippets();
+    Q_INVOKABLE void importSnippets();
 
     void show();
 
@@ -111,9 +140,12 @@ public:
 Q_SIGNALS:
     void clipsChanged();
     void hasNotificationsChanged();
+    void snippetsChanged();
+    void snippetNewsChanged();
 
 private:
     void lookForNotifications();
+    void setSnippetNews(const QString& news, bool failed);
 
     Subjects subjects_;
     ExtensionOffer extension_;
@@ -121,6 +153,9 @@ private:
     bool hasNotifications_ = true;
     Handle looking_;
     std::unique_ptr<TitledWindow> window_;
+    QString usedLanguage_;
+    QString snippetNews_;
+    bool snippetsFailed_ = false;
 };
 
 } // namespace ravelo

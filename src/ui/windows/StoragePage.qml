@@ -173,6 +173,35 @@ Column {
     }
 
     SettingsSection {
+        objectName: "snippets"
+        title: qsTr("Snippets")
+
+        SettingRow {
+            text: page.host.snippetCount === 1 ? qsTr("1 snippet") : qsTr("%1 snippets").arg(page.host.snippetCount)
+            note: page.host.snippetNews !== "" ? page.host.snippetNews
+                : qsTr("As a file to pass on, with their images. It is not encrypted.")
+            noteColor: page.host.snippetsFailed ? Theme.mistake : Theme.text3
+            enabled: !Vault.locked
+
+            Row {
+                spacing: 8
+
+                CapsuleButton {
+                    objectName: "importSnippets"
+                    text: qsTr("Import…")
+                    onClicked: page.host.importSnippets()
+                }
+
+                CapsuleButton {
+                    objectName: "exportSnippets"
+                    text: qsTr("Export…")
+                    onClicked: page.host.exportSnippets()
+                }
+            }
+        }
+    }
+
+    SettingsSection {
         objectName: "erase"
         title: qsTr("Erase")
 

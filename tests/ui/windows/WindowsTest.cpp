@@ -202,6 +202,7 @@ TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
         {Qt::Key_5, u"notifyFiles"_s, Qt::Key_Space, true},
         {Qt::Key_5, u"notifySaving"_s, Qt::Key_Space, true},
         {Qt::Key_5, u"notifyPlan"_s, Qt::Key_Space, true},
+        {Qt::Key_5, u"language"_s, Qt::Key_Down, u"en"_s},
     };
     for (const Case& c : cases) {
         press(*window, c.page, Qt::ControlModifier);
@@ -238,7 +239,7 @@ TEST_F(Settings, SayIfTheDesktopShowsNoNotifications) {
         notifier.available = available;
         own.show();
         ASSERT_TRUE(eventually([&] { return own.window()->isActive(); }));
-        press(*own.window(), Qt::Key_4, Qt::ControlModifier);
+        press(*own.window(), Qt::Key_5, Qt::ControlModifier);
         const QQuickItem* row = in(own.window(), u"notifyTimer"_s)->parentItem()->parentItem();
         const QString note = row->findChild<QQuickItem*>(u"note"_s)->property("text").toString();
         EXPECT_EQ(note.isEmpty(), available) << qPrintable(note);

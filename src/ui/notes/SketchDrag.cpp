@@ -1,0 +1,100 @@
+#include "ui/notes/SketchDrag.h"
+
+#include "base/FileUrl.h"
+#include "ui/notes/Drawing.h"
+
+#include <QDrag>
+#include <QFile>
+#include <QMimeData>
+#include <QPixmap>
+#include <QPointer>
+#include <QQuickWindow>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+
+#include <utility>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+const auto pngType = u"image/png"_s;
+const auto filesType = u"text/uri-list"_s;
+
+/// Makes its file when somebody asks for it.
+class Picture : public QMimeData {
+public:
+    Picture(QByteArray png, std::shared_ptr<QTemporaryDir> folder)
+        : png_(std::move(png)), folder_(std::move(folder)) {}
+
+    [[nodiscard]] bool hasFormat(const QString& type) const override {
+        return formats().contains(type);
+    }
+
+    [[nodiscard]] QStringList formats() const override { return {filesType, pngType}; }
+
+protected:
+    [[nodiscard]] QVariant retrieveData(const QString& type, QMetaType /*wanted*/) const override {
+        if (type == pngType) {
+            return png_;
+        }
+        return type == filesType ? QVariant(file()) : QVariant();
+    }
+
+private:
+    /// Its address (RFC 2483); empty if it cannot be written.
+    [[nodiscard]] QByteArray file() const {
+        QFile file(folder_->filePath(u"Sketch.png"_s));
+        const bool written =
+            folder_->isValid() &&
+            (file.exists() || (file.open(QIODevice::WriteOnly) && file.write(png_) == png_.size()));
+        return written ? fileAddress(QUrl::fromLocalFile(file.fileName())) + "\r\n" : QByteArray();
+    }
+
+    QByteArray png_;
+    std::shared_ptr<QTemporaryDir> folder_;
+};
+
+} // namespace
+
+SketchDrag::SketchDrag() = default;
+SketchDrag::~SketchDrag() = default;
+
+void SketchDrag::start(const QImage& picture, QQuickItem& from) {
+    from.ungrabMouse();
+    if (dragging_) {
+        return;
+    }
+    setDragging(true);
+    const double scale = from.window() == nullptr ? 1 : from.window()->effectiveDevicePixelRatio();
+    // Deferred: a drag runs its own event loop, in which the pressed item may be deleted.
+    QMetaObject::invokeMethod(
+        this, [this, picture, scale] { drag(picture, scale); }, Qt::QueuedConnection);
+}
+
+void SketchDrag::setDragging(bool dragging) {
+    dragging_ = dragging;
+    Q_EMIT draggingChanged();
+}
+
+void SketchDrag::drag(const QImage& picture, double scale) {
+    folder_ = std::make_shared<QTemporaryDir>(
+        QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
+        u"/ravelo-sketch-XXXXXX"_s);
+    auto* drag = new QDrag(this); // Qt deletes it, with its data, after the drag.
+    drag->setMimeData(new Picture(Drawing::png(picture), folder_));
+    QImage thumb =
+        picture.scaled(QSize(96, 96) * scale, Qt::KeepAspectRatio, Qt::SmoothTransformation);
+    thumb.setDevicePixelRatio(scale);
+    drag->setPixmap(QPixmap::fromImage(thumb));
+    drag->setHotSpot(QPointF(thumb.width(), thumb.height()).toPoint() / scale / 2);
+    const QPointer<SketchDrag> alive(this);
+    drag->exec(Qt::CopyAction, Qt::CopyAction);
+    if (alive) {
+        setDragging(false);
+    }
+}
+
+} // namespace ravelo
