@@ -4,6 +4,7 @@
 #include "clipboard/CapturePause.h"
 #include "clipboard/FileForms.h"
 #include "platform/DetachedJobs.h"
+#include "platform/TimedJob.h"
 #include "store/ImageFiles.h"
 #include "store/Store.h"
 #include "vault/Vault.h"
@@ -18,6 +19,9 @@ namespace ravelo {
 namespace {
 
 constexpr Seconds pollInterval{0.5};
+
+/// How long copying a clip waits for its forms: the user is about to paste.
+constexpr Seconds formsTimeout{0.25};
 constexpr QLatin1StringView pngType("image/png");
 
 /// Not for the main thread.
@@ -25,6 +29,12 @@ QList<PasteboardEntry> imageForms(const Vault& vault, const QString& path) {
     const auto bytes = vault.bytes(path);
     return bytes && isPng(*bytes) ? QList<PasteboardEntry>{{pngType, *bytes}}
                                   : QList<PasteboardEntry>();
+}
+
+/// The other forms of a clip; empty if they cannot be read. Not for the main thread.
+QList<PasteboardEntry> otherForms(const Vault& vault, const QString& path) {
+    const auto kept = readForms(vault, path);
+    return kept ? kept->forms : QList<PasteboardEntry>();
 }
 
 /// Password managers clear what they have copied, and some do not mark it.
@@ -59,6 +69,7 @@ void ClipboardManager::start() {
     });
     connect(&store_, &Store::cleared, this, [this] {
         reads_.clear();
+        readingForms_.reset();
         if (held_) {
             held_->clip = Clip::cleared;
         }
@@ -69,8 +80,9 @@ void ClipboardManager::start() {
 
 void ClipboardManager::setRules(CaptureRules rules) {
     rules_ = std::move(rules);
-    pasteboard_.setNaming(rules_.programs.isEmpty() ? Pasteboard::Naming::off
-                                                    : Pasteboard::Naming::on);
+    const bool needsNames =
+        !rules_.programs.isEmpty() || rules_.programNames == CaptureRules::ProgramNames::kept;
+    pasteboard_.setNaming(needsNames ? Pasteboard::Naming::on : Pasteboard::Naming::off);
 }
 
 void ClipboardManager::poll() {
@@ -150,6 +162,7 @@ void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const QString
     if (held_ && held_->changeCount == snapshot.changeCount) {
         contents = held_->contents; // Another owner is asked for the form that was read first.
     }
+    readingForms_.reset();
     held_ = std::make_shared<Held>(
         Held{snapshot.changeCount, contents, isFromFile(snapshot) ? Source::file : Source::owner});
     if (const auto reason = tooLargeToKeep(snapshot)) {
@@ -199,7 +212,10 @@ void ClipboardManager::keep(const PasteboardSnapshot& snapshot, const QStringLis
             Q_EMIT secretKept(verdict.secret);
         }
     });
-    store_.addClip(text, whileHeld([this](Held& held, const QUuid& clip) { kept(held, clip); }),
+    store_.addClip(text,
+                   whileHeld([this, origin = originOf(snapshot)](Held& held, const QUuid& clip) {
+                       kept(held, clip, origin);
+                   }),
                    std::move(judging));
 }
 
@@ -209,7 +225,9 @@ void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStri
     const QStringList tried = useless + QStringList{type};
     const bool mayRetry = !type.isEmpty() && hasOtherForm(snapshot.types, tried);
     store_.addImageClip(
-        snapshot, whileHeld([this](Held& held, const QUuid& clip) { kept(held, clip); }),
+        snapshot, whileHeld([this, origin = originOf(snapshot)](Held& held, const QUuid& clip) {
+            kept(held, clip, origin);
+        }),
         whileHeld([this, mayRetry, tried](Held& held, const Store::Refusal& refusal) {
             const bool undecodable = refusal.cause == Store::Refusal::Cause::undecodable;
             if (undecodable && mayRetry && held.changeCount == lastChangeCount_) {
@@ -221,11 +239,37 @@ void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStri
         }));
 }
 
-void ClipboardManager::kept(Held& held, const QUuid& clip) {
+ClipboardManager::Origin ClipboardManager::originOf(const PasteboardSnapshot& snapshot) const {
+    return {keptName(rules_, snapshot.owner), std::ranges::any_of(snapshot.types, isKeptForm)};
+}
+
+void ClipboardManager::kept(Held& held, const QUuid& clip, const Origin& origin) {
     held.clip = Clip::kept;
     held.id = clip;
+    const ClipItem* item = find(clip);
+    const bool isPlain = item != nullptr && item->kind != ClipKind::image && item->secret.isEmpty();
+    if (isPlain && origin.hasForms && held.changeCount == lastChangeCount_) {
+        readForms(held, origin.program);
+    } else {
+        store_.setForms(clip, {origin.program});
+    }
     answerSaveRequest();
     offerAgain(); // The owner may have ended while an image was being written.
+}
+
+/// Only now that the user's rules let the text pass. If somebody copies meanwhile, the text alone
+/// is kept.
+void ClipboardManager::readForms(const Held& held, const QString& program) {
+    readingForms_ =
+        pasteboard_.read(nextFormType, [this, program, clip = held.id,
+                                        count = held.changeCount](const auto& snapshot) {
+            readingForms_.reset();
+            if (snapshot.changeCount == count) {
+                store_.setForms(clip, {program, capturedForms(snapshot)});
+            }
+            answerSaveRequest();
+            offerAgain();
+        });
 }
 
 /// As soon as it is certain whether there will be a clip, since the owner is not needed after that.
@@ -233,7 +277,7 @@ void ClipboardManager::answerSaveRequest() {
     // Files are never offered again, so what becomes of their contents need not be waited for.
     const bool known =
         held_ && held_->changeCount == lastChangeCount_ && held_->source == Source::owner;
-    if (saveAsked_ && !reads_.contains(lastChangeCount_) &&
+    if (saveAsked_ && !reads_.contains(lastChangeCount_) && !(known && readingForms_) &&
         !(known && held_->clip == Clip::converting)) {
         saveAsked_ = false;
         const bool saved = known && (held_->clip == Clip::pending || held_->clip == Clip::kept);
@@ -264,11 +308,7 @@ void ClipboardManager::offerAgain() {
             suppressOwnChange(*count);
         }
     };
-    if (clip->kind == ClipKind::image) {
-        offering_ = readImage(store_.imagePath(clip->imageFileName), offer);
-    } else {
-        offer({{plainTextType, clip->text.toUtf8()}});
-    }
+    offering_ = readClip(*clip, Files::left, offer);
 }
 
 /// It is gone with its owner, and we may offer it.
@@ -283,6 +323,32 @@ const ClipItem* ClipboardManager::find(const QUuid& clip) const {
     return found == store_.clips().cend() ? nullptr : &*found;
 }
 
+/// At once if there is nothing to read.
+Handle ClipboardManager::readClip(const ClipItem& clip, Files files,
+                                  std::function<void(const Forms&)> done) {
+    if (clip.kind == ClipKind::image) {
+        return readImage(store_.imagePath(clip.imageFileName), std::move(done));
+    }
+    const PasteboardEntry text{plainTextType, clip.text.toUtf8()};
+    if (!clip.secret.isEmpty() || !store_.hasForms(clip.id)) {
+        done({text});
+        return {};
+    }
+    return runTimed<Forms>(
+        jobs_, scheduler_, formsTimeout,
+        [vault = store_.vault(), path = store_.formsPath(clip.id)] {
+            return otherForms(*vault, path);
+        },
+        [text, files, done = std::move(done)](const std::optional<Forms>& found) {
+            Forms forms = found.value_or(Forms());
+            if (files == Files::left) {
+                forms.removeIf([](const PasteboardEntry& form) { return isFilesForm(form.type); });
+            }
+            forms.append(text);
+            done(forms);
+        });
+}
+
 Handle ClipboardManager::readImage(const QString& path, std::function<void(const Forms&)> done) {
     const auto forms = std::make_shared<Forms>();
     return jobs_.run([vault = store_.vault(), path, forms] { *forms = imageForms(*vault, path); },
@@ -293,12 +359,23 @@ void ClipboardManager::copyText(const QString& text) {
     write({{plainTextType, text.toUtf8()}});
 }
 
+void ClipboardManager::copyClip(const QUuid& clip) {
+    if (const ClipItem* item = find(clip)) {
+        copying_ = readClip(*item, Files::included, unlessOverwritten());
+    }
+}
+
 void ClipboardManager::copyImage(const QString& path) {
-    copying_ = readImage(path, [this, before = held_](const Forms& forms) {
-        if (held_ == before && reads_.empty()) { // Otherwise something newer was copied.
+    copying_ = readImage(path, unlessOverwritten());
+}
+
+/// Writes, unless something newer was copied meanwhile.
+std::function<void(const ClipboardManager::Forms&)> ClipboardManager::unlessOverwritten() {
+    return [this, before = held_](const Forms& forms) {
+        if (held_ == before && reads_.empty()) {
             write(forms);
         }
-    });
+    };
 }
 
 void ClipboardManager::copyFile(const QUrl& url) {

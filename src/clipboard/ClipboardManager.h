@@ -47,6 +47,10 @@ public:
 
     void copyText(const QString& text);
 
+    /// Puts a clip on the pasteboard in all its forms, once they are read; if they cannot be read
+    /// soon, its text alone. Does nothing if something else was copied meanwhile.
+    void copyClip(const QUuid& clip);
+
     /// Puts a stored image on the pasteboard once it is read. Does nothing if the file is no PNG or
     /// something else was copied meanwhile.
     void copyImage(const QString& path);
@@ -99,12 +103,25 @@ private:
                                   Seconds seen) const;
     void keep(const PasteboardSnapshot& snapshot, const QStringList& useless);
     void keepImage(const PasteboardSnapshot& snapshot, const QStringList& useless);
-    void kept(Held& held, const QUuid& clip);
+
+    /// What else is known of a copy when its clip is kept.
+    struct Origin {
+        QString program;
+        bool hasForms; ///< Besides the text.
+    };
+
+    [[nodiscard]] Origin originOf(const PasteboardSnapshot& snapshot) const;
+    void kept(Held& held, const QUuid& clip, const Origin& origin);
+    void readForms(const Held& held, const QString& program);
     void refuse(const std::optional<TooLarge>& reason);
     void answerSaveRequest();
     void offerAgain();
     [[nodiscard]] bool isLost(const Held* held) const;
     [[nodiscard]] const ClipItem* find(const QUuid& clip) const;
+    [[nodiscard]] std::function<void(const Forms&)> unlessOverwritten();
+    enum class Files { included, left };
+    [[nodiscard]] Handle readClip(const ClipItem& clip, Files files,
+                                  std::function<void(const Forms&)> done);
     [[nodiscard]] Handle readImage(const QString& path, std::function<void(const Forms&)> done);
     void write(const Forms& forms);
     void suppressOwnChange(qint64 count);
@@ -135,8 +152,9 @@ private:
     Handle notice_;
     Handle saveRequests_;
     bool saveAsked_ = false;
-    Handle copying_;                 ///< Reads an image to copy it.
-    Handle offering_;                ///< Reads an image to offer it again.
+    Handle readingForms_;            ///< Of the newest clip; null if there is nothing to read.
+    Handle copying_;                 ///< Reads an image or the forms of a clip to copy it.
+    Handle offering_;                ///< Reads them to offer them again.
     std::map<qint64, Handle> reads_; ///< By change count; older ones end with the newest answer.
 };
 
