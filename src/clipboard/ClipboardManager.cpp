@@ -3,11 +3,7 @@
 #include "base/Scheduler.h"
 #include "clipboard/CapturePause.h"
 #include "clipboard/FileForms.h"
-#include "platform/DetachedJobs.h"
-#include "platform/TimedJob.h"
-#include "store/ImageFiles.h"
 #include "store/Store.h"
-#include "vault/Vault.h"
 
 #include <QUrl>
 
@@ -19,23 +15,6 @@ namespace ravelo {
 namespace {
 
 constexpr Seconds pollInterval{0.5};
-
-/// How long copying a clip waits for its forms: the user is about to paste.
-constexpr Seconds formsTimeout{0.25};
-constexpr QLatin1StringView pngType("image/png");
-
-/// Not for the main thread.
-QList<PasteboardEntry> imageForms(const Vault& vault, const QString& path) {
-    const auto bytes = vault.bytes(path);
-    return bytes && isPng(*bytes) ? QList<PasteboardEntry>{{pngType, *bytes}}
-                                  : QList<PasteboardEntry>();
-}
-
-/// The other forms of a clip; empty if they cannot be read. Not for the main thread.
-QList<PasteboardEntry> otherForms(const Vault& vault, const QString& path) {
-    const auto kept = readForms(vault, path);
-    return kept ? kept->forms : QList<PasteboardEntry>();
-}
 
 /// Password managers clear what they have copied, and some do not mark it.
 bool mayBePassword(const ClipItem& clip) {
@@ -51,7 +30,7 @@ ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Schedul
     : store_(store),
       pasteboard_(pasteboard),
       scheduler_(scheduler),
-      jobs_(jobs),
+      reading_{store, jobs, scheduler},
       pause_(pause),
       lastChangeCount_(pasteboard.changeCount()) {}
 
@@ -308,7 +287,7 @@ void ClipboardManager::offerAgain() {
             suppressOwnChange(*count);
         }
     };
-    offering_ = readClip(*clip, Files::left, offer);
+    offering_ = reading_.clip(*clip, ClipReading::Files::left, offer);
 }
 
 /// It is gone with its owner, and we may offer it.
@@ -323,50 +302,18 @@ const ClipItem* ClipboardManager::find(const QUuid& clip) const {
     return found == store_.clips().cend() ? nullptr : &*found;
 }
 
-/// At once if there is nothing to read.
-Handle ClipboardManager::readClip(const ClipItem& clip, Files files,
-                                  std::function<void(const Forms&)> done) {
-    if (clip.kind == ClipKind::image) {
-        return readImage(store_.imagePath(clip.imageFileName), std::move(done));
-    }
-    const PasteboardEntry text{plainTextType, clip.text.toUtf8()};
-    if (!clip.secret.isEmpty() || !store_.hasForms(clip.id)) {
-        done({text});
-        return {};
-    }
-    return runTimed<Forms>(
-        jobs_, scheduler_, formsTimeout,
-        [vault = store_.vault(), path = store_.formsPath(clip.id)] {
-            return otherForms(*vault, path);
-        },
-        [text, files, done = std::move(done)](const std::optional<Forms>& found) {
-            Forms forms = found.value_or(Forms());
-            if (files == Files::left) {
-                forms.removeIf([](const PasteboardEntry& form) { return isFilesForm(form.type); });
-            }
-            forms.append(text);
-            done(forms);
-        });
-}
-
-Handle ClipboardManager::readImage(const QString& path, std::function<void(const Forms&)> done) {
-    const auto forms = std::make_shared<Forms>();
-    return jobs_.run([vault = store_.vault(), path, forms] { *forms = imageForms(*vault, path); },
-                     [forms, done = std::move(done)] { done(*forms); });
-}
-
 void ClipboardManager::copyText(const QString& text) {
     write({{plainTextType, text.toUtf8()}});
 }
 
 void ClipboardManager::copyClip(const QUuid& clip) {
     if (const ClipItem* item = find(clip)) {
-        copying_ = readClip(*item, Files::included, unlessOverwritten());
+        copying_ = reading_.clip(*item, ClipReading::Files::included, unlessOverwritten());
     }
 }
 
 void ClipboardManager::copyImage(const QString& path) {
-    copying_ = readImage(path, unlessOverwritten());
+    copying_ = reading_.image(path, unlessOverwritten());
 }
 
 /// Writes, unless something newer was copied meanwhile.

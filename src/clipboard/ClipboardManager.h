@@ -3,6 +3,7 @@
 #include "base/Handle.h"
 #include "clipboard/CapturePlan.h"
 #include "clipboard/CaptureRules.h"
+#include "clipboard/ClipReading.h"
 #include "clipboard/HandOver.h"
 #include "platform/Pasteboard.h"
 
@@ -119,10 +120,6 @@ private:
     [[nodiscard]] bool isLost(const Held* held) const;
     [[nodiscard]] const ClipItem* find(const QUuid& clip) const;
     [[nodiscard]] std::function<void(const Forms&)> unlessOverwritten();
-    enum class Files { included, left };
-    [[nodiscard]] Handle readClip(const ClipItem& clip, Files files,
-                                  std::function<void(const Forms&)> done);
-    [[nodiscard]] Handle readImage(const QString& path, std::function<void(const Forms&)> done);
     void write(const Forms& forms);
     void suppressOwnChange(qint64 count);
 
@@ -140,7 +137,7 @@ private:
     Store& store_;
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
-    DetachedJobs& jobs_;
+    ClipReading reading_;
     CapturePause& pause_;
     CaptureRules rules_;
     TextEnds textEnds_ = TextEnds::trimmed;

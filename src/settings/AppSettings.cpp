@@ -76,6 +76,7 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       forgetSecrets_(known(preferences.value(u"forgetSecrets"_s), forgetting)),
       keyLikeWords_(preferences.value(u"keyLikeWords"_s).toBool(false)),
       keepSelectedText_(preferences.value(u"keepSelectedText"_s).toBool(false)),
+      showOrigins_(preferences.value(u"showOrigins"_s).toBool(false)),
       hideClaudeCode_(preferences.value(u"hideClaudeCode"_s).toBool(false)),
       onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
       launchAtLogin_(loginItem.isEnabled()) {}
@@ -251,6 +252,11 @@ void AppSettings::setKeyLikeWords(bool on) {
 void AppSettings::setKeepSelectedText(bool on) {
     preferences_.set(u"keepSelectedText"_s, on);
     change(keepSelectedText_, on, &AppSettings::keepSelectedTextChanged);
+}
+
+void AppSettings::setShowOrigins(bool on) {
+    preferences_.set(u"showOrigins"_s, on);
+    change(showOrigins_, on, &AppSettings::showOriginsChanged);
 }
 
 void AppSettings::setHideClaudeCode(bool on) {

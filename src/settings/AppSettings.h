@@ -42,6 +42,7 @@ class AppSettings : public QObject {
     Q_PROPERTY(bool keyLikeWords READ keyLikeWords WRITE setKeyLikeWords NOTIFY keyLikeWordsChanged)
     Q_PROPERTY(bool keepSelectedText READ keepSelectedText WRITE setKeepSelectedText NOTIFY
                    keepSelectedTextChanged)
+    Q_PROPERTY(bool showOrigins READ showOrigins WRITE setShowOrigins NOTIFY showOriginsChanged)
     Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
                    hideClaudeCodeChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
@@ -92,6 +93,9 @@ public:
     /// Selected text, too, is captured.
     [[nodiscard]] bool keepSelectedText() const { return keepSelectedText_; }
 
+    /// Clips show the program they were copied from, and the size of images and files.
+    [[nodiscard]] bool showOrigins() const { return showOrigins_; }
+
     /// Hides Claude Code's usage if it is not installed.
     [[nodiscard]] bool hideClaudeCode() const;
     [[nodiscard]] bool onboarded() const;
@@ -116,6 +120,7 @@ public:
     void setForgetSecrets(int minutes);
     void setKeyLikeWords(bool on);
     void setKeepSelectedText(bool on);
+    void setShowOrigins(bool on);
     void setHideClaudeCode(bool on);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
@@ -150,6 +155,7 @@ Q_SIGNALS:
     void forgetSecretsChanged();
     void keyLikeWordsChanged();
     void keepSelectedTextChanged();
+    void showOriginsChanged();
     void hideClaudeCodeChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
@@ -181,6 +187,7 @@ private:
     int forgetSecrets_;
     bool keyLikeWords_;
     bool keepSelectedText_;
+    bool showOrigins_;
     bool hideClaudeCode_;
     bool onboarded_;
     bool launchAtLogin_;

@@ -47,6 +47,7 @@ const Field fields[] = {
     {"forgetSecrets", &AppSettings::forgetSecretsChanged, 10, -1, u"1"_s},
     {"keyLikeWords", &AppSettings::keyLikeWordsChanged, false, true, 1},
     {"keepSelectedText", &AppSettings::keepSelectedTextChanged, false, true, u"true"_s},
+    {"showOrigins", &AppSettings::showOriginsChanged, false, true, u"on"_s},
     {"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
     {"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}};
 

@@ -22,7 +22,20 @@ TabPage {
     /// Height of the snippets, which are hidden while locked.
     readonly property real chipsRoom: Vault.locked ? 0 : 36
 
+    /// The editor is seen, perhaps fading.
+    property bool editorSeen: false
+
     flick: list
+    sheet: clips.editor.editing || editorSeen ? editorSheet : null
+
+    Component {
+        id: editorSheet
+
+        ClipSheet {
+            editor: tab.clips.editor
+            onVisibleChanged: tab.editorSeen = visible
+        }
+    }
 
     function clearSearch(): bool {
         if (preview.opened) {
@@ -133,6 +146,10 @@ TabPage {
             select(list.currentIndex + page);
         } else if (control && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             clips.openLink(list.currentIndex);
+        } else if (searching && event.modifiers & Qt.AltModifier && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
+            clips.copyPlainAndClose(list.currentIndex);
+        } else if (event.key === Qt.Key_F2) {
+            clips.edit(list.currentIndex);
         } else if (searching && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             copyAndClose(list.currentIndex);
         } else if (control && event.key >= Qt.Key_1 && event.key <= Qt.Key_9) {
@@ -234,6 +251,7 @@ TabPage {
             { text: qsTr("Text"), filter: "type:text" },
             { text: qsTr("Links"), filter: "type:link" },
             { text: qsTr("Images"), filter: "type:image" },
+            { text: qsTr("Files"), filter: "type:files" },
             { text: qsTr("Colors"), filter: "type:color" },
             { divider: true },
             { text: qsTr("Today"), filter: "after:today" },
@@ -364,6 +382,7 @@ TabPage {
                 onTileHoveredChanged: preview.point(index, tileHovered)
                 onTapped: modifiers => tab.tap(index, modifiers)
                 onMenuRequested: place => rowMenu.openAtRow(row, mapToItem(rowMenu.parent, place))
+                onDragged: tab.clips.drag(index, row)
                 onDeleted: tab.clips.remove(index)
             }
 

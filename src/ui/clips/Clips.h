@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/clips/ClipDrag.h"
+#include "ui/clips/ClipEditor.h"
 #include "ui/clips/ClipListModel.h"
 #include "ui/clips/ClipPreview.h"
 #include "ui/clips/LinkOpening.h"
@@ -12,6 +14,7 @@
 namespace ravelo {
 
 class Deleting;
+class DetachedJobs;
 class NotchController;
 
 /// The tab with the clipboard history and snippets. Main thread.
@@ -21,6 +24,7 @@ class Clips : public ravelo::Tab {
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(ravelo::ClipListModel* list READ list CONSTANT)
     Q_PROPERTY(ravelo::LinkOpening* links READ links CONSTANT)
+    Q_PROPERTY(ravelo::ClipEditor* editor READ editor CONSTANT)
     Q_PROPERTY(ravelo::ClipPreview* preview READ preview CONSTANT)
     /// Number of clips chosen to be copied as one.
     Q_PROPERTY(int selected READ selected NOTIFY selectedChanged)
@@ -32,6 +36,7 @@ public:
         Store& store;
         NotchController& controller;
         FileOpener& opener;
+        DetachedJobs& jobs;
         Scheduler& scheduler;
         Toast& toast;
         Deleting& deleting;
@@ -44,6 +49,8 @@ public:
     [[nodiscard]] ClipListModel* list() { return &list_; }
 
     [[nodiscard]] LinkOpening* links() { return &links_; }
+
+    [[nodiscard]] ClipEditor* editor() { return &editor_; }
 
     [[nodiscard]] ClipPreview* preview() { return &preview_; }
 
@@ -68,6 +75,15 @@ public:
 
     Q_INVOKABLE void copy(int row);
     Q_INVOKABLE void copyAndClose(int row);
+    /// Without its other forms.
+    Q_INVOKABLE void copyPlainAndClose(int row);
+    /// Whether that makes a difference, as far as it is known.
+    [[nodiscard]] Q_INVOKABLE bool hasOtherForms(int row) const;
+    Q_INVOKABLE void edit(int row);
+    /// All chosen clips if the row is one of them.
+    Q_INVOKABLE void drag(int row, QQuickItem* from);
+    /// Learns what its menu can offer.
+    Q_INVOKABLE void look(int row);
     Q_INVOKABLE void toggleSelected(int row);
     /// From where choosing began, else from `current`.
     Q_INVOKABLE void selectTo(int row, int current);
@@ -96,6 +112,8 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] qsizetype removed(const std::function<void()>& remove) const;
+    [[nodiscard]] QStringList selectedTexts() const;
+    void copyEdited(const QString& text);
     [[nodiscard]] const ClipItem* clipOf(const QUuid& id) const;
 
     [[nodiscard]] const ClipItem* clipAt(int row) const { return clipOf(list_.idAt(row)); }
@@ -105,6 +123,8 @@ private:
     ClipListModel list_;
     LinkOpening links_;
     ClipPreview preview_;
+    ClipEditor editor_;
+    ClipDrag drag_;
     RowAges ages_;
 };
 

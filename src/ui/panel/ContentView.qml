@@ -239,6 +239,12 @@ FocusScope {
         editor: content.snippets.editor
     }
 
+    Loader {
+        anchors.fill: parent
+        z: 2
+        sourceComponent: content.page?.sheet ?? null
+    }
+
     ToastCapsule {
         z: 2
         anchors.horizontalCenter: parent.horizontalCenter
