@@ -264,7 +264,7 @@ QList<ClipItem> ClipListModel::search(TextSearch& texts) {
     return found;
 }
 
-/// By the expression; nothing if that takes too long.
+/// By the expression, as far as that is found out in time.
 QList<ClipItem> ClipListModel::match() {
     QList<ClipItem> found;
     if (!query_.mistake.isEmpty()) {
@@ -273,14 +273,18 @@ QList<ClipItem> ClipListModel::match() {
     QElapsedTimer spent;
     spent.start();
     for (const ClipItem& clip : store_.clips()) {
-        const bool isText = clip.kind != ClipKind::image && clip.secret.isEmpty();
-        if (isText && query_.accepts(clip, store_.detailsOf(clip.id)) &&
-            tryPattern(*query_.expression, clip.text) == PatternAnswer::matches) {
+        if (clip.kind == ClipKind::image || !clip.secret.isEmpty() ||
+            !query_.accepts(clip, store_.detailsOf(clip.id))) {
+            continue;
+        }
+        const PatternAnswer answer = tryPattern(*query_.expression, clip.text);
+        if (answer == PatternAnswer::matches) {
             found.append(clip);
         }
+        gaveUp_ = gaveUp_ || answer == PatternAnswer::unknown;
         if (spent.elapsed() > patience) {
             gaveUp_ = true;
-            return {};
+            break;
         }
     }
     return found;

@@ -22,19 +22,12 @@ TabPage {
     /// Height of the snippets, which are hidden while locked.
     readonly property real chipsRoom: Vault.locked ? 0 : 36
 
-    /// The editor is seen, perhaps fading.
-    property bool editorSeen: false
-
     flick: list
-    sheet: clips.editor.editing || editorSeen ? editorSheet : null
 
-    Component {
-        id: editorSheet
-
-        ClipSheet {
-            editor: tab.clips.editor
-            onVisibleChanged: tab.editorSeen = visible
-        }
+    ClipSheetPlace {
+        parent: tab.stage
+        anchors.fill: parent
+        editor: tab.clips.editor
     }
 
     function clearSearch(): bool {

@@ -212,6 +212,7 @@ FocusScope {
                 shown: content.shown
                 dropTargeted: content.dropTargeted
                 head: content.compact ? content.headHeight : 0
+                stage: cover
                 // qmllint enable unqualified
             }
         }
@@ -239,10 +240,10 @@ FocusScope {
         editor: content.snippets.editor
     }
 
-    Loader {
+    Item {
+        id: cover
         anchors.fill: parent
         z: 2
-        sourceComponent: content.page?.sheet ?? null
     }
 
     ToastCapsule {

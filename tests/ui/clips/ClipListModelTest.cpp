@@ -210,9 +210,12 @@ TEST(ClipListModel, searchesByARegularExpression) {
     for (const Case& c : cases) {
         model.setSearch(c.search);
         EXPECT_EQ(model.tally(), c.tally) << qPrintable(c.search);
-        EXPECT_EQ(model.data(model.index(0), ClipListModel::marksRole).value<QList<TextRange>>(),
-                  c.marks)
-            << qPrintable(c.search);
+        if (model.count() > 0) {
+            EXPECT_EQ(
+                model.data(model.index(0), ClipListModel::marksRole).value<QList<TextRange>>(),
+                c.marks)
+                << qPrintable(c.search);
+        }
         EXPECT_EQ(model.nothingFound(), c.nothingFound) << qPrintable(c.search);
     }
 }
@@ -226,7 +229,7 @@ TEST(ClipListModel, givesUpAnExpressionThatTakesTooLong) {
     ClipListModel model(world.store, world.scheduler, english);
     QElapsedTimer spent;
     spent.start();
-    model.setSearch(u"re:(a+)+$b"_s);
+    model.setSearch(u"re:(a+)+[x-z]$"_s);
     EXPECT_LT(spent.elapsed(), 2000);
     EXPECT_EQ(model.count(), 0);
     EXPECT_EQ(model.nothingFound(), u"This expression takes too long"_s);

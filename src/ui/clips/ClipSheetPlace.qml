@@ -1,0 +1,19 @@
+import QtQuick
+import Ravelo.Clips
+
+/// Creates the editor when it is needed.
+Loader {
+    id: place
+
+    required property ClipEditor editor
+    /// Until it has faded out.
+    property bool seen: false
+
+    active: editor.editing || seen
+    sourceComponent: ClipSheet {
+        // qmllint disable unqualified
+        editor: place.editor
+        onVisibleChanged: place.seen = visible
+        // qmllint enable unqualified
+    }
+}
