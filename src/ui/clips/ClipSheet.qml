@@ -12,6 +12,12 @@ FocusScope {
     required property ClipEditor editor
     readonly property bool editing: editor.editing
     property Item focusedBefore
+    property bool complete: false
+
+    function follow() {
+        opacity = editing ? 1 : 0;
+        editing ? begin() : end();
+    }
 
     function begin() {
         focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
@@ -43,13 +49,12 @@ FocusScope {
     enabled: editing
     opacity: 0
     Component.onCompleted: {
-        opacity = 1;
-        begin();
+        complete = true;
+        follow();
     }
     onEditingChanged: {
-        if (!editing) {
-            opacity = 0;
-            end();
+        if (complete) {
+            follow();
         }
     }
     Accessible.role: Accessible.Dialog

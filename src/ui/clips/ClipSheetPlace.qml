@@ -10,10 +10,15 @@ Loader {
     property bool seen: false
 
     active: editor.editing || seen
+    onLoaded: seen = true
     sourceComponent: ClipSheet {
         // qmllint disable unqualified
         editor: place.editor
-        onVisibleChanged: place.seen = visible
+        onVisibleChanged: {
+            if (!visible && !editing) {
+                place.seen = false;
+            }
+        }
         // qmllint enable unqualified
     }
 }

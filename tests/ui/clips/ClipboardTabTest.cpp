@@ -147,7 +147,9 @@ TEST_F(Panel, editsAClipBeforeItIsCopied) {
 
     rebuild();
     openSearch();
-    pressKeys(u"F2 Escape"_s);
+    pressKeys(u"F2"_s);
+    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
+    pressKeys(u"Escape"_s);
     EXPECT_TRUE(eventually([this] { return !shown(u"clipSheet"_s); })) << "unchanged: not asked";
     pressKeys(u"F2"_s);
     ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
