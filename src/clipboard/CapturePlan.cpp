@@ -171,6 +171,10 @@ QString capturedText(const PasteboardSnapshot& snapshot, TextEnds ends) {
     return ends == TextEnds::trimmed || trimmed.isEmpty() ? trimmed : text;
 }
 
+QString copiedFilesText(const PasteboardSnapshot& snapshot) {
+    return isFromFile(snapshot) ? QString::fromUtf8(copiedPaths(snapshot).join('\n')) : QString();
+}
+
 QString offeredText(const PasteboardSnapshot& snapshot) {
     return QString::fromUtf8(snapshot.answers.value(plainTextType).value_or(QByteArray()))
         .trimmed();

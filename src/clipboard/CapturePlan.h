@@ -43,6 +43,9 @@ enum class TextEnds { trimmed, kept };
 /// their paths.
 inline constexpr QLatin1StringView filesType = uriListType;
 
+/// The paths of copied files, a line each; empty if there is text, or not all are on this machine.
+[[nodiscard]] QString copiedFilesText(const PasteboardSnapshot& snapshot);
+
 /// Whether its image can only come from a file that the owner named.
 [[nodiscard]] bool isFromFile(const PasteboardSnapshot& snapshot);
 

@@ -172,12 +172,18 @@ bool ClipboardManager::isPassedOn(const PasteboardSnapshot& snapshot, const Cont
     return isHandOver(before, wanted, key, snapshot.owner, seen);
 }
 
+/// Several files are kept as such; a single one may be a picture.
 void ClipboardManager::keep(const PasteboardSnapshot& snapshot, const QStringList& useless) {
     const QString text = capturedText(snapshot, textEnds_);
-    if (text.isEmpty()) {
+    const QString files = copiedFilesText(snapshot);
+    if (!text.isEmpty() || files.contains(u'\n')) {
+        keepText(text.isEmpty() ? files : text, originOf(snapshot));
+    } else {
         keepImage(snapshot, useless);
-        return;
     }
+}
+
+void ClipboardManager::keepText(const QString& text, const Origin& origin) {
     Judging judging;
     judging.judge = [rules = rules_](const QString& copied) {
         return judge(rules, copied);
@@ -191,8 +197,7 @@ void ClipboardManager::keep(const PasteboardSnapshot& snapshot, const QStringLis
             Q_EMIT secretKept(verdict.secret);
         }
     });
-    store_.addClip(text,
-                   whileHeld([this, origin = originOf(snapshot)](Held& held, const QUuid& clip) {
+    store_.addClip(text, whileHeld([this, origin](Held& held, const QUuid& clip) {
                        kept(held, clip, origin);
                    }),
                    std::move(judging));
@@ -207,10 +212,14 @@ void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStri
         snapshot, whileHeld([this, origin = originOf(snapshot)](Held& held, const QUuid& clip) {
             kept(held, clip, origin);
         }),
-        whileHeld([this, mayRetry, tried](Held& held, const Store::Refusal& refusal) {
+        whileHeld([this, mayRetry, tried, origin = originOf(snapshot),
+                   file = copiedFilesText(snapshot)](Held& held, const Store::Refusal& refusal) {
             const bool undecodable = refusal.cause == Store::Refusal::Cause::undecodable;
             if (undecodable && mayRetry && held.changeCount == lastChangeCount_) {
                 read(held.changeCount, tried);
+            } else if (undecodable && !file.isEmpty()) {
+                held.clip = Clip::pending;
+                keepText(file, origin);
             } else {
                 refuse(refusal.tooLarge);
                 answerSaveRequest();

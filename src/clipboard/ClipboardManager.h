@@ -94,6 +94,12 @@ private:
         }
     };
 
+    /// What else is known of a copy when its clip is kept.
+    struct Origin {
+        QString program;
+        bool hasForms; ///< Besides the text.
+    };
+
     void poll();
     void ignore();
     void read(qint64 count, const QStringList& useless);
@@ -103,13 +109,8 @@ private:
     [[nodiscard]] bool isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
                                   Seconds seen) const;
     void keep(const PasteboardSnapshot& snapshot, const QStringList& useless);
+    void keepText(const QString& text, const Origin& origin);
     void keepImage(const PasteboardSnapshot& snapshot, const QStringList& useless);
-
-    /// What else is known of a copy when its clip is kept.
-    struct Origin {
-        QString program;
-        bool hasForms; ///< Besides the text.
-    };
 
     [[nodiscard]] Origin originOf(const PasteboardSnapshot& snapshot) const;
     void kept(Held& held, const QUuid& clip, const Origin& origin);

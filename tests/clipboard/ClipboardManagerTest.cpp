@@ -115,6 +115,12 @@ TEST(Capture, keepsOtherFormsOfATextToOfferThemAgain) {
         {"filesAreCopiedEvenIfCut",
          {gnomeFiles, uriList, text("abc")},
          {u"x-special/gnome-copied-files=copy\nfile:///tmp/a"_s, files, plain}},
+        {"filesWithoutText",
+         {{u"text/uri-list"_s, QByteArray("file:///tmp/a\nfile:///b\0", 24)}},
+         {u"text/uri-list=file:///tmp/a\nfile:///b"_s + QChar(u'\0'), u"text/plain=/tmp/a\n/b"_s}},
+        {"aFileThatIsNoPicture",
+         {{u"text/uri-list"_s, "file:///nowhere/a"}},
+         {u"text/uri-list=file:///nowhere/a"_s, u"text/plain=/nowhere/a"_s}},
         {"addressesThatAreNoFiles",
          {{u"text/uri-list"_s, "https://a.example\r\n"}, text("abc")},
          {plain}},
@@ -124,9 +130,10 @@ TEST(Capture, keepsOtherFormsOfATextToOfferThemAgain) {
     for (const Case& c : cases) {
         ClipboardWorld world;
         world.pasteboard.offer(c.offered);
-        world.settle();
-        world.settle();
-        ASSERT_EQ(world.texts(), QStringList{u"abc"_s}) << c.name;
+        for (int i = 0; i < 4; ++i) {
+            world.settle(); // A file may have to be looked at, and then the forms.
+        }
+        ASSERT_EQ(world.store.clips().size(), 1) << c.name;
         EXPECT_EQ(copiedBack(world), c.expected) << c.name;
         world.settle();
         EXPECT_EQ(world.store.clips().size(), 2) << c.name << ": our own write is captured";
