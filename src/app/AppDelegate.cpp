@@ -126,7 +126,9 @@ CaptureRules captureRules(const AppSettings& settings) {
             minutes == AppSettings::asAnyText   ? Secrets::asAnyText
             : minutes == AppSettings::neverKept ? Secrets::dropped
                                                 : Secrets::inMemory,
-            settings.keyLikeWords() ? KeyLikeWords::yes : KeyLikeWords::no};
+            settings.keyLikeWords() ? KeyLikeWords::yes : KeyLikeWords::no,
+            settings.showOrigins() ? CaptureRules::ProgramNames::kept
+                                   : CaptureRules::ProgramNames::dropped};
 }
 
 StatusChoice statusChoice(const AppSettings& settings) {
@@ -389,7 +391,7 @@ void AppDelegate::wireSettings() {
           &AppSettings::imageLimitChanged, &AppSettings::keepTextsExactlyChanged,
           &AppSettings::ignoredProgramsChanged, &AppSettings::ignoredPatternsChanged,
           &AppSettings::forgetSecretsChanged, &AppSettings::keyLikeWordsChanged,
-          &AppSettings::keepSelectedTextChanged}) {
+          &AppSettings::keepSelectedTextChanged, &AppSettings::showOriginsChanged}) {
         QObject::connect(settings_.get(), changed, notch_.get(), follow);
     }
     const auto look = [this] {
@@ -414,6 +416,8 @@ void AppDelegate::followRules() {
     const CaptureRules rules = captureRules(*settings_);
     clipboard_->setTextEnds(ends);
     clipboard_->setRules(rules);
+    view_->features().clips->list()->setOrigins(
+        settings_->showOrigins() ? ClipListModel::Origins::shown : ClipListModel::Origins::hidden);
     if (selected_) {
         selected_->setTextEnds(ends);
         selected_->setRules(rules);

@@ -58,14 +58,77 @@ QByteArrayList copiedPaths(const PasteboardSnapshot& snapshot) {
     return paths;
 }
 
-} // namespace
-
-QString nextCaptureType(const PasteboardSnapshot& snapshot, const QStringList& useless) {
+/// A mark whose value is not known yet; empty if there is none.
+QString nextMark(const PasteboardSnapshot& snapshot) {
     for (const auto valued : {passwordHint, historyPermission}) {
         const QString type = offeredAs(snapshot, valued);
         if (isUnasked(snapshot, type)) {
             return type;
         }
+    }
+    return {};
+}
+
+QStringList keptTypes(const PasteboardSnapshot& snapshot) {
+    QStringList types;
+    for (const QString& type : snapshot.types) {
+        if (isKeptForm(type)) {
+            types.append(type);
+        }
+    }
+    return types.first(std::min(types.size(), maxFormCount));
+}
+
+/// Nothing if it is more than may be kept.
+std::optional<qsizetype> formBytes(const PasteboardSnapshot& snapshot) {
+    qsizetype bytes = 0;
+    for (const QString& type : keptTypes(snapshot)) {
+        bytes += snapshot.answers.value(type).value_or(QByteArray()).size();
+        if (snapshot.tooLarge.contains(type) || bytes > maxFormsSize) {
+            return std::nullopt;
+        }
+    }
+    return bytes;
+}
+
+/// Pasting it leaves the files where they are.
+QByteArray asCopied(const QByteArray& gnomeFiles) {
+    return gnomeFiles.startsWith("cut\n") ? "copy" + gnomeFiles.mid(3) : gnomeFiles;
+}
+
+} // namespace
+
+QString nextFormType(const PasteboardSnapshot& snapshot) {
+    if (const QString mark = nextMark(snapshot); !mark.isEmpty()) {
+        return mark;
+    }
+    if (isConcealed(snapshot) || !formBytes(snapshot)) {
+        return {};
+    }
+    const QStringList types = keptTypes(snapshot);
+    const auto next =
+        std::ranges::find_if(types, [&](const QString& type) { return isUnasked(snapshot, type); });
+    return next == types.end() ? QString() : *next;
+}
+
+QList<PasteboardEntry> capturedForms(const PasteboardSnapshot& snapshot) {
+    if (isConcealed(snapshot) || !formBytes(snapshot)) {
+        return {};
+    }
+    QList<PasteboardEntry> forms;
+    const bool hasFiles = !copiedPaths(snapshot).isEmpty();
+    for (const QString& type : keptTypes(snapshot)) {
+        const QByteArray bytes = snapshot.answers.value(type).value_or(QByteArray());
+        if (!bytes.isEmpty() && (hasFiles || !isFilesForm(type))) {
+            forms.append({type, type == gnomeFilesType ? asCopied(bytes) : bytes});
+        }
+    }
+    return forms;
+}
+
+QString nextCaptureType(const PasteboardSnapshot& snapshot, const QStringList& useless) {
+    if (const QString mark = nextMark(snapshot); !mark.isEmpty()) {
+        return mark;
     }
     if (isConcealed(snapshot)) {
         return {};
@@ -106,6 +169,10 @@ QString capturedText(const PasteboardSnapshot& snapshot, TextEnds ends) {
         }
     }
     return ends == TextEnds::trimmed || trimmed.isEmpty() ? trimmed : text;
+}
+
+QString copiedFilesText(const PasteboardSnapshot& snapshot) {
+    return isFromFile(snapshot) ? QString::fromUtf8(copiedPaths(snapshot).join('\n')) : QString();
 }
 
 QString offeredText(const PasteboardSnapshot& snapshot) {

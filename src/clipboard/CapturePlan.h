@@ -1,6 +1,7 @@
 #pragma once
 
 #include "platform/Pasteboard.h"
+#include "store/ClipForms.h"
 #include "store/PasteboardImage.h"
 
 #include <QString>
@@ -30,9 +31,20 @@ enum class TextEnds { trimmed, kept };
 /// The same text as its owner joined it, trimmed.
 [[nodiscard]] QString offeredText(const PasteboardSnapshot& snapshot);
 
+/// The next type to ask for when a clip is made of the plain text: its other forms that are kept.
+/// Empty as well if their owner has marked it as secret meanwhile, or if they are too many.
+[[nodiscard]] QString nextFormType(const PasteboardSnapshot& snapshot);
+
+/// The answers to that, in the owner's order; none if they are too large together. Files to be
+/// moved become files to be copied.
+[[nodiscard]] QList<PasteboardEntry> capturedForms(const PasteboardSnapshot& snapshot);
+
 /// A list of files. Requested only if there is neither text nor an image, or if the text may be
 /// their paths.
-inline constexpr QLatin1StringView filesType("text/uri-list");
+inline constexpr QLatin1StringView filesType = uriListType;
+
+/// The paths of copied files, a line each; empty if there is text, or not all are on this machine.
+[[nodiscard]] QString copiedFilesText(const PasteboardSnapshot& snapshot);
 
 /// Whether its image can only come from a file that the owner named.
 [[nodiscard]] bool isFromFile(const PasteboardSnapshot& snapshot);

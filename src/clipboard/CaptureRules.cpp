@@ -14,6 +14,7 @@ namespace {
 
 const auto limit = u"(*LIMIT_MATCH=200000)"_s;
 constexpr qsizetype lookedAt = 65'536;
+constexpr qsizetype longestName = 100;
 
 /// Position of the bracket that is not closed; PCRE only knows where it missed the closing one.
 qsizetype openBracket(const QString& expression) {
@@ -99,6 +100,11 @@ Verdict judge(const CaptureRules& rules, const QString& text) {
         return {rules.secrets == Secrets::inMemory, form->id};
     }
     return {true, unknown ? QString(uncheckedText) : QString()};
+}
+
+QString keptName(const CaptureRules& rules, const PasteboardOwner& owner) {
+    const bool isKept = rules.programNames == CaptureRules::ProgramNames::kept;
+    return isKept && !owner.names.isEmpty() ? owner.names.last().left(longestName) : QString();
 }
 
 bool isOfProgram(const PasteboardOwner& owner, const QStringList& names) {

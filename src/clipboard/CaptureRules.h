@@ -22,6 +22,11 @@ struct CaptureRules {
     QList<QRegularExpression> patterns; ///< Made by `ignorePattern`.
     Secrets secrets = Secrets::inMemory;
     KeyLikeWords keyLikeWords = KeyLikeWords::no;
+
+    /// Whether the names of programs are kept with what is copied from them.
+    enum class ProgramNames { dropped, kept };
+
+    ProgramNames programNames = ProgramNames::dropped;
 };
 
 /// An expression for texts to ignore. Its matching ends after a bounded amount of work. The error
@@ -39,6 +44,9 @@ enum class PatternAnswer { matches, differs, unknown };
 
 /// Any thread; can take long if there are patterns.
 [[nodiscard]] Verdict judge(const CaptureRules& rules, const QString& text);
+
+/// The name to keep; empty if there is none, or none is to be kept.
+[[nodiscard]] QString keptName(const CaptureRules& rules, const PasteboardOwner& owner);
 
 /// Whether the owner has one of these names: its window class or instance, or its app id or the
 /// last part of it; upper and lower case are the same.

@@ -3,10 +3,7 @@
 #include "base/Scheduler.h"
 #include "clipboard/CapturePause.h"
 #include "clipboard/FileForms.h"
-#include "platform/DetachedJobs.h"
-#include "store/ImageFiles.h"
 #include "store/Store.h"
-#include "vault/Vault.h"
 
 #include <QUrl>
 
@@ -18,14 +15,6 @@ namespace ravelo {
 namespace {
 
 constexpr Seconds pollInterval{0.5};
-constexpr QLatin1StringView pngType("image/png");
-
-/// Not for the main thread.
-QList<PasteboardEntry> imageForms(const Vault& vault, const QString& path) {
-    const auto bytes = vault.bytes(path);
-    return bytes && isPng(*bytes) ? QList<PasteboardEntry>{{pngType, *bytes}}
-                                  : QList<PasteboardEntry>();
-}
 
 /// Password managers clear what they have copied, and some do not mark it.
 bool mayBePassword(const ClipItem& clip) {
@@ -41,7 +30,7 @@ ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Schedul
     : store_(store),
       pasteboard_(pasteboard),
       scheduler_(scheduler),
-      jobs_(jobs),
+      reading_{store, jobs, scheduler},
       pause_(pause),
       lastChangeCount_(pasteboard.changeCount()) {}
 
@@ -59,6 +48,7 @@ void ClipboardManager::start() {
     });
     connect(&store_, &Store::cleared, this, [this] {
         reads_.clear();
+        readingForms_.reset();
         if (held_) {
             held_->clip = Clip::cleared;
         }
@@ -69,8 +59,9 @@ void ClipboardManager::start() {
 
 void ClipboardManager::setRules(CaptureRules rules) {
     rules_ = std::move(rules);
-    pasteboard_.setNaming(rules_.programs.isEmpty() ? Pasteboard::Naming::off
-                                                    : Pasteboard::Naming::on);
+    const bool needsNames =
+        !rules_.programs.isEmpty() || rules_.programNames == CaptureRules::ProgramNames::kept;
+    pasteboard_.setNaming(needsNames ? Pasteboard::Naming::on : Pasteboard::Naming::off);
 }
 
 void ClipboardManager::poll() {
@@ -150,6 +141,7 @@ void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const QString
     if (held_ && held_->changeCount == snapshot.changeCount) {
         contents = held_->contents; // Another owner is asked for the form that was read first.
     }
+    readingForms_.reset();
     held_ = std::make_shared<Held>(
         Held{snapshot.changeCount, contents, isFromFile(snapshot) ? Source::file : Source::owner});
     if (const auto reason = tooLargeToKeep(snapshot)) {
@@ -180,12 +172,18 @@ bool ClipboardManager::isPassedOn(const PasteboardSnapshot& snapshot, const Cont
     return isHandOver(before, wanted, key, snapshot.owner, seen);
 }
 
+/// Several files are kept as such; a single one may be a picture.
 void ClipboardManager::keep(const PasteboardSnapshot& snapshot, const QStringList& useless) {
     const QString text = capturedText(snapshot, textEnds_);
-    if (text.isEmpty()) {
+    const QString files = copiedFilesText(snapshot);
+    if (!text.isEmpty() || files.contains(u'\n')) {
+        keepText(text.isEmpty() ? files : text, originOf(snapshot));
+    } else {
         keepImage(snapshot, useless);
-        return;
     }
+}
+
+void ClipboardManager::keepText(const QString& text, const Origin& origin) {
     Judging judging;
     judging.judge = [rules = rules_](const QString& copied) {
         return judge(rules, copied);
@@ -199,7 +197,9 @@ void ClipboardManager::keep(const PasteboardSnapshot& snapshot, const QStringLis
             Q_EMIT secretKept(verdict.secret);
         }
     });
-    store_.addClip(text, whileHeld([this](Held& held, const QUuid& clip) { kept(held, clip); }),
+    store_.addClip(text, whileHeld([this, origin](Held& held, const QUuid& clip) {
+                       kept(held, clip, origin);
+                   }),
                    std::move(judging));
 }
 
@@ -209,11 +209,17 @@ void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStri
     const QStringList tried = useless + QStringList{type};
     const bool mayRetry = !type.isEmpty() && hasOtherForm(snapshot.types, tried);
     store_.addImageClip(
-        snapshot, whileHeld([this](Held& held, const QUuid& clip) { kept(held, clip); }),
-        whileHeld([this, mayRetry, tried](Held& held, const Store::Refusal& refusal) {
+        snapshot, whileHeld([this, origin = originOf(snapshot)](Held& held, const QUuid& clip) {
+            kept(held, clip, origin);
+        }),
+        whileHeld([this, mayRetry, tried, origin = originOf(snapshot),
+                   file = copiedFilesText(snapshot)](Held& held, const Store::Refusal& refusal) {
             const bool undecodable = refusal.cause == Store::Refusal::Cause::undecodable;
             if (undecodable && mayRetry && held.changeCount == lastChangeCount_) {
                 read(held.changeCount, tried);
+            } else if (undecodable && !file.isEmpty()) {
+                held.clip = Clip::pending;
+                keepText(file, origin);
             } else {
                 refuse(refusal.tooLarge);
                 answerSaveRequest();
@@ -221,11 +227,37 @@ void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStri
         }));
 }
 
-void ClipboardManager::kept(Held& held, const QUuid& clip) {
+ClipboardManager::Origin ClipboardManager::originOf(const PasteboardSnapshot& snapshot) const {
+    return {keptName(rules_, snapshot.owner), std::ranges::any_of(snapshot.types, isKeptForm)};
+}
+
+void ClipboardManager::kept(Held& held, const QUuid& clip, const Origin& origin) {
     held.clip = Clip::kept;
     held.id = clip;
+    const ClipItem* item = find(clip);
+    const bool isPlain = item != nullptr && item->kind != ClipKind::image && item->secret.isEmpty();
+    if (isPlain && origin.hasForms && held.changeCount == lastChangeCount_) {
+        readForms(held, origin.program);
+    } else {
+        store_.setForms(clip, {origin.program});
+    }
     answerSaveRequest();
     offerAgain(); // The owner may have ended while an image was being written.
+}
+
+/// Only now that the user's rules let the text pass. If somebody copies meanwhile, the text alone
+/// is kept.
+void ClipboardManager::readForms(const Held& held, const QString& program) {
+    readingForms_ =
+        pasteboard_.read(nextFormType, [this, program, clip = held.id,
+                                        count = held.changeCount](const auto& snapshot) {
+            readingForms_.reset();
+            if (snapshot.changeCount == count) {
+                store_.setForms(clip, {program, capturedForms(snapshot)});
+            }
+            answerSaveRequest();
+            offerAgain();
+        });
 }
 
 /// As soon as it is certain whether there will be a clip, since the owner is not needed after that.
@@ -233,7 +265,7 @@ void ClipboardManager::answerSaveRequest() {
     // Files are never offered again, so what becomes of their contents need not be waited for.
     const bool known =
         held_ && held_->changeCount == lastChangeCount_ && held_->source == Source::owner;
-    if (saveAsked_ && !reads_.contains(lastChangeCount_) &&
+    if (saveAsked_ && !reads_.contains(lastChangeCount_) && !(known && readingForms_) &&
         !(known && held_->clip == Clip::converting)) {
         saveAsked_ = false;
         const bool saved = known && (held_->clip == Clip::pending || held_->clip == Clip::kept);
@@ -264,11 +296,7 @@ void ClipboardManager::offerAgain() {
             suppressOwnChange(*count);
         }
     };
-    if (clip->kind == ClipKind::image) {
-        offering_ = readImage(store_.imagePath(clip->imageFileName), offer);
-    } else {
-        offer({{plainTextType, clip->text.toUtf8()}});
-    }
+    offering_ = reading_.clip(*clip, ClipReading::Files::left, offer);
 }
 
 /// It is gone with its owner, and we may offer it.
@@ -283,26 +311,33 @@ const ClipItem* ClipboardManager::find(const QUuid& clip) const {
     return found == store_.clips().cend() ? nullptr : &*found;
 }
 
-Handle ClipboardManager::readImage(const QString& path, std::function<void(const Forms&)> done) {
-    const auto forms = std::make_shared<Forms>();
-    return jobs_.run([vault = store_.vault(), path, forms] { *forms = imageForms(*vault, path); },
-                     [forms, done = std::move(done)] { done(*forms); });
-}
-
 void ClipboardManager::copyText(const QString& text) {
     write({{plainTextType, text.toUtf8()}});
 }
 
+void ClipboardManager::copyClip(const QUuid& clip) {
+    if (const ClipItem* item = find(clip)) {
+        copying_ = reading_.clip(*item, ClipReading::Files::included, unlessOverwritten());
+    }
+}
+
 void ClipboardManager::copyImage(const QString& path) {
-    copyWithImage({}, path);
+    copying_ = reading_.image(path, unlessOverwritten());
 }
 
 void ClipboardManager::copyWithImage(const QString& text, const QString& path) {
-    copying_ = readImage(path, [this, text, before = held_](const Forms& image) {
-        if (held_ == before && reads_.empty()) { // Otherwise something newer was copied.
-            write((text.isEmpty() ? Forms() : Forms{{plainTextType, text.toUtf8()}}) + image);
-        }
+    copying_ = reading_.image(path, [text, written = unlessOverwritten()](const Forms& image) {
+        written((text.isEmpty() ? Forms() : Forms{{plainTextType, text.toUtf8()}}) + image);
     });
+}
+
+/// Writes, unless something newer was copied meanwhile.
+std::function<void(const ClipboardManager::Forms&)> ClipboardManager::unlessOverwritten() {
+    return [this, before = held_](const Forms& forms) {
+        if (held_ == before && reads_.empty()) {
+            write(forms);
+        }
+    };
 }
 
 void ClipboardManager::copyPng(const QByteArray& png) {

@@ -3,6 +3,7 @@
 #include "base/Handle.h"
 #include "clipboard/CapturePlan.h"
 #include "clipboard/CaptureRules.h"
+#include "clipboard/ClipReading.h"
 #include "clipboard/HandOver.h"
 #include "platform/Pasteboard.h"
 
@@ -46,6 +47,10 @@ public:
     void setRules(CaptureRules rules);
 
     void copyText(const QString& text);
+
+    /// Puts a clip on the pasteboard in all its forms, once they are read; if they cannot be read
+    /// soon, its text alone. Does nothing if something else was copied meanwhile.
+    void copyClip(const QUuid& clip);
 
     /// Puts a stored image on the pasteboard once it is read. Does nothing if the file is no PNG or
     /// something else was copied meanwhile.
@@ -96,6 +101,12 @@ private:
         }
     };
 
+    /// What else is known of a copy when its clip is kept.
+    struct Origin {
+        QString program;
+        bool hasForms; ///< Besides the text.
+    };
+
     void poll();
     void ignore();
     void read(qint64 count, const QStringList& useless);
@@ -105,14 +116,18 @@ private:
     [[nodiscard]] bool isPassedOn(const PasteboardSnapshot& snapshot, const ContentsKey& key,
                                   Seconds seen) const;
     void keep(const PasteboardSnapshot& snapshot, const QStringList& useless);
+    void keepText(const QString& text, const Origin& origin);
     void keepImage(const PasteboardSnapshot& snapshot, const QStringList& useless);
-    void kept(Held& held, const QUuid& clip);
+
+    [[nodiscard]] Origin originOf(const PasteboardSnapshot& snapshot) const;
+    void kept(Held& held, const QUuid& clip, const Origin& origin);
+    void readForms(const Held& held, const QString& program);
     void refuse(const std::optional<TooLarge>& reason);
     void answerSaveRequest();
     void offerAgain();
     [[nodiscard]] bool isLost(const Held* held) const;
     [[nodiscard]] const ClipItem* find(const QUuid& clip) const;
-    [[nodiscard]] Handle readImage(const QString& path, std::function<void(const Forms&)> done);
+    [[nodiscard]] std::function<void(const Forms&)> unlessOverwritten();
     void write(const Forms& forms);
     void suppressOwnChange(qint64 count);
 
@@ -130,7 +145,7 @@ private:
     Store& store_;
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
-    DetachedJobs& jobs_;
+    ClipReading reading_;
     CapturePause& pause_;
     CaptureRules rules_;
     TextEnds textEnds_ = TextEnds::trimmed;
@@ -142,8 +157,9 @@ private:
     Handle notice_;
     Handle saveRequests_;
     bool saveAsked_ = false;
-    Handle copying_;                 ///< Reads an image to copy it.
-    Handle offering_;                ///< Reads an image to offer it again.
+    Handle readingForms_;            ///< Of the newest clip; null if there is nothing to read.
+    Handle copying_;                 ///< Reads an image or the forms of a clip to copy it.
+    Handle offering_;                ///< Reads them to offer them again.
     std::map<qint64, Handle> reads_; ///< By change count; older ones end with the newest answer.
 };
 

@@ -384,6 +384,10 @@ void NotchController::copy(const QString& text) {
     clipboard_.copyText(text);
 }
 
+void NotchController::copyClip(const QUuid& clip) {
+    clipboard_.copyClip(clip);
+}
+
 void NotchController::copyImage(const QString& path) {
     clipboard_.copyImage(path);
 }

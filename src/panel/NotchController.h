@@ -122,8 +122,10 @@ public:
     /// Parks files and opens to show them.
     void onFiles(const QList<QUrl>& urls);
 
-    /// Puts a text, or a stored image, on the pasteboard without making a new clip of it.
+    /// Puts a text, or a stored image, on the pasteboard without making a new clip of it, or a clip
+    /// in all its forms.
     Q_INVOKABLE void copy(const QString& text);
+    void copyClip(const QUuid& clip);
     Q_INVOKABLE void copyImage(const QString& path);
     void copyWithImage(const QString& text, const QString& path);
     void copyPng(const QByteArray& png);

@@ -84,6 +84,7 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       shortcut_(preferences.value(u"shortcut"_s).toString()),
       returnPastes_(preferences.value(u"returnPastes"_s).toBool(false)),
       joinWith_(preferences.value(u"joinWith"_s).toString(u"line"_s)),
+      showOrigins_(preferences.value(u"showOrigins"_s).toBool(false)),
       hideClaudeCode_(preferences.value(u"hideClaudeCode"_s).toBool(false)),
       showPeakHours_(preferences.value(u"showPeakHours"_s).toBool(true)),
       keepSession_(preferences.value(u"keepSession"_s).toBool(false)),
@@ -282,6 +283,11 @@ void AppSettings::setReturnPastes(bool on) {
 void AppSettings::setJoinWith(const QString& how) {
     preferences_.set(u"joinWith"_s, how);
     change(joinWith_, how, &AppSettings::joinWithChanged);
+}
+
+void AppSettings::setShowOrigins(bool on) {
+    preferences_.set(u"showOrigins"_s, on);
+    change(showOrigins_, on, &AppSettings::showOriginsChanged);
 }
 
 void AppSettings::setHideClaudeCode(bool on) {

@@ -45,6 +45,7 @@ class AppSettings : public QObject {
     Q_PROPERTY(QString shortcut READ shortcut WRITE setShortcut NOTIFY shortcutChanged)
     Q_PROPERTY(bool returnPastes READ returnPastes WRITE setReturnPastes NOTIFY returnPastesChanged)
     Q_PROPERTY(QString joinWith READ joinWith WRITE setJoinWith NOTIFY joinWithChanged)
+    Q_PROPERTY(bool showOrigins READ showOrigins WRITE setShowOrigins NOTIFY showOriginsChanged)
     Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
                    hideClaudeCodeChanged)
     Q_PROPERTY(
@@ -115,6 +116,9 @@ public:
     /// as "line".
     [[nodiscard]] const QString& joinWith() const { return joinWith_; }
 
+    /// Clips show the program they were copied from, and the size of images and files.
+    [[nodiscard]] bool showOrigins() const { return showOrigins_; }
+
     /// Hides Claude Code's usage if it is not installed.
     [[nodiscard]] bool hideClaudeCode() const;
 
@@ -168,6 +172,7 @@ public:
     void setShortcut(const QString& keys);
     void setReturnPastes(bool on);
     void setJoinWith(const QString& how);
+    void setShowOrigins(bool on);
     void setHideClaudeCode(bool on);
     void setShowPeakHours(bool on);
     void setKeepSession(bool on);
@@ -213,6 +218,7 @@ Q_SIGNALS:
     void shortcutChanged();
     void returnPastesChanged();
     void joinWithChanged();
+    void showOriginsChanged();
     void hideClaudeCodeChanged();
     void showPeakHoursChanged();
     void keepSessionChanged();
@@ -255,6 +261,7 @@ private:
     QString shortcut_;
     bool returnPastes_;
     QString joinWith_;
+    bool showOrigins_;
     bool hideClaudeCode_;
     bool showPeakHours_;
     bool keepSession_;

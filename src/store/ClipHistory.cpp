@@ -1,5 +1,6 @@
 #include "store/ClipHistory.h"
 
+#include "store/ClipForms.h"
 #include "store/Deleted.h"
 
 #include <QSet>
@@ -50,8 +51,10 @@ QStringList remove(QList<ClipItem>& clips, Predicate isDoomed) {
     return images;
 }
 
-qint64 sizeOf(const ClipItem& clip, const ImageSizes& sizes) {
-    return clip.kind == ClipKind::image ? sizes.value(clip.imageFileName) : utf8Size(clip.text);
+qint64 sizeOf(const ClipItem& clip, const FileSizes& sizes) {
+    const qint64 forms = sizes.value(formsFileName(clip.id));
+    return forms +
+           (clip.kind == ClipKind::image ? sizes.value(clip.imageFileName) : utf8Size(clip.text));
 }
 
 /// The oldest unpinned clips that have to go until the rest has at most `limit` bytes.
@@ -187,7 +190,7 @@ std::optional<ClipChange> ClipHistory::restored(QList<ClipItem> clips, const Cli
 }
 
 std::optional<ClipChange> ClipHistory::trimmed(QList<ClipItem> clips, Date now,
-                                               const HistoryRules& rules, const ImageSizes& sizes) {
+                                               const HistoryRules& rules, const FileSizes& sizes) {
     const qsizetype before = clips.size();
     QStringList orphans = remove(clips, [&](const ClipItem& clip) {
         return !clip.pinned && rules.keepFor > 0 &&

@@ -20,10 +20,12 @@ struct HistoryRules {
     enum class Order { olderFirst, newerFirst };
 
     Order order = Order::olderFirst;
-    int limit = 60;        ///< Of unpinned clips; pinned ones are always kept.
-    double keepFor = 0;    ///< Seconds since the copy; 0 for ever.
-    qint64 textBytes = 0;  ///< Of all texts together, in UTF-8; 0 for no limit.
-    qint64 imageBytes = 0; ///< Of all image files together; 0 for no limit.
+    int limit = 60;     ///< Of unpinned clips; pinned ones are always kept.
+    double keepFor = 0; ///< Seconds since the copy; 0 for ever.
+    /// Of all texts together, in UTF-8, or of all images; 0 for no limit. What is kept beside a
+    /// clip counts with it.
+    qint64 textBytes = 0;
+    qint64 imageBytes = 0;
 
     friend bool operator==(const HistoryRules&, const HistoryRules&) = default;
 };
@@ -62,9 +64,9 @@ struct ClipHistory {
     restored(QList<ClipItem> clips, const ClipItem& clip, const QList<QUuid>& order);
 
     /// Removes unpinned clips that are too old, then the oldest beyond the limits of size. A pinned
-    /// clip counts, but stays. `sizes` are those of image files.
+    /// clip counts, but stays. `sizes` are those of the files in the clips folder.
     [[nodiscard]] static std::optional<ClipChange>
-    trimmed(QList<ClipItem> clips, Date now, const HistoryRules& rules, const ImageSizes& sizes);
+    trimmed(QList<ClipItem> clips, Date now, const HistoryRules& rules, const FileSizes& sizes);
 
     /// Of all texts, in UTF-8.
     [[nodiscard]] static qint64 textBytes(const QList<ClipItem>& clips);

@@ -1,6 +1,7 @@
 #include "store/Deleted.h"
 
 #include "base/Files.h"
+#include "store/ClipForms.h"
 #include "store/ImageFiles.h"
 #include "vault/Vault.h"
 
@@ -22,6 +23,12 @@ QString imagePath(const DeletedRecord& record, const QString& folder) {
     return name.isEmpty() ? QString() : folder + u'/' + name;
 }
 
+/// Empty for a snippet.
+QString formsPath(const DeletedRecord& record, const QString& folder) {
+    const auto* clip = std::get_if<ClipItem>(&record.record);
+    return clip == nullptr ? QString() : folder + u'/' + formsFileName(clip->id);
+}
+
 qint64 sizeOf(const ClipItem& clip) {
     return clip.text.size() * qint64(sizeof(QChar));
 }
@@ -32,7 +39,7 @@ qint64 sizeOf(const Snippet& snippet) {
 
 qint64 sizeOf(const DeletedRecord& record) {
     return std::visit([](const auto& one) { return sizeOf(one); }, record.record) +
-           (record.png ? record.png->size() : 0);
+           (record.png ? record.png->size() : 0) + (record.forms ? record.forms->size() : 0);
 }
 
 } // namespace
@@ -41,6 +48,10 @@ void Deleted::add(const QList<DeletedRecord>& records, const QString& folder, co
     for (DeletedRecord record : records) {
         const QString path = imagePath(record, folder);
         const bool hasImage = !path.isEmpty() && isRegularFile(QFile::encodeName(path));
+        const QString forms = formsPath(record, folder);
+        if (!forms.isEmpty() && isRegularFile(QFile::encodeName(forms))) {
+            record.forms = vault.bytes(forms);
+        }
         const qint64 size = sizeOf(record) + (hasImage ? QFileInfo(path).size() : 0);
         if (hasImage && size <= limit) {
             record.png = vault.bytes(path);
@@ -67,16 +78,22 @@ Deleted::Restorable Deleted::restore(const QString& folder, const Vault& vault,
     for (QList<DeletedRecord> records = std::exchange(records_, {}); !records.isEmpty();) {
         DeletedRecord record = records.takeLast();
         const qint64 size = sizeOf(record);
+        Result<void> written;
         if (record.png) {
-            const auto written =
-                writeImage(vault, imagePath(record, folder), *record.png, mayWrite);
-            if (!written) {
-                all.problem = written.error().message;
-                all.someStay = true;
-                records_.prepend(std::move(record));
-                continue;
-            }
-            record.png.reset();
+            written = writeImage(vault, imagePath(record, folder), *record.png, mayWrite);
+        }
+        if (written && record.forms) {
+            written = vault.write(formsPath(record, folder), *record.forms, mayWrite);
+        }
+        if (!written) {
+            all.problem = written.error().message;
+            all.someStay = true;
+            records_.prepend(std::move(record));
+            continue;
+        }
+        record.png.reset();
+        if (record.forms) {
+            record.forms = QByteArray();
         }
         bytes_ -= size;
         all.records.append(std::move(record));

@@ -20,6 +20,8 @@ struct DeletedRecord {
     std::variant<ClipItem, Snippet> record;
     QList<QUuid> order;            ///< The ids of its list just before.
     std::optional<QByteArray> png; ///< Contents of its image file, if it had one.
+    /// What was kept beside it, if anything; empty once it is back on the disk.
+    std::optional<QByteArray> forms{};
 };
 
 /// The records of `before` that are not in `after`, last first.

@@ -3,6 +3,7 @@
 #include "base/Files.h"
 #include "base/Uuid.h"
 #include "decode/Formats.h"
+#include "store/ClipForms.h"
 #include "vault/Vault.h"
 
 #include <QCoreApplication>
@@ -33,8 +34,9 @@ QString replacedBy(const QString& name) {
     return isTemporaryName(name) ? name.chopped(7) : QString();
 }
 
-bool isImageName(const QString& name) {
-    return name.endsWith(extension) && parseUuid(name.chopped(extension.size()));
+bool isOurName(const QString& name) {
+    return (name.endsWith(extension) && parseUuid(name.chopped(extension.size()))) ||
+           isFormsFileName(name);
 }
 
 } // namespace
@@ -66,8 +68,8 @@ Result<void> removeImages(const QStringList& paths, const OwnFile::Permission& m
     return done ? synced : done;
 }
 
-ImageSizes imageSizes(const QString& clipsFolder) {
-    ImageSizes sizes;
+FileSizes fileSizes(const QString& clipsFolder) {
+    FileSizes sizes;
     for (const QFileInfo& file : QDir(clipsFolder).entryInfoList(QDir::Files | QDir::NoSymLinks)) {
         sizes.insert(file.fileName(), file.size());
     }
@@ -85,10 +87,20 @@ QSet<QString> imageNames(const StoreData& data) {
     return names;
 }
 
+QSet<QString> fileNames(const StoreData& data) {
+    QSet<QString> names = imageNames(data);
+    for (const ClipItem& clip : data.clips) {
+        if (clip.secret.isEmpty()) {
+            names.insert(formsFileName(clip.id));
+        }
+    }
+    return names;
+}
+
 QStringList orphanedImages(const QList<FoundImage>& found, const QSet<QString>& named, Date now) {
     QStringList orphans;
     for (const FoundImage& image : found) {
-        const bool isOurs = isImageName(image.name) || isImageName(replacedBy(image.name));
+        const bool isOurs = isOurName(image.name) || isOurName(replacedBy(image.name));
         if (isOurs && !named.contains(image.name) && isOld(image.written, now)) {
             orphans.append(image.name);
         }
@@ -128,7 +140,7 @@ Result<void> removeLeftovers(const QString& folder, const QSet<QString>& named,
     QStringList images;
     for (const QFileInfo& file : QDir(folder + u"/clips"_s).entryInfoList(files)) {
         const QString name = file.fileName();
-        if (isImageName(replacedBy(name)) || (isImageName(name) && !named.contains(name))) {
+        if (isOurName(replacedBy(name)) || (isOurName(name) && !named.contains(name))) {
             images.append(file.filePath());
         }
     }

@@ -31,12 +31,15 @@ class Vault;
                                         const OwnFile::Permission& mayWrite);
 
 /// Sizes in bytes, by name.
-using ImageSizes = QHash<QString, qint64>;
+using FileSizes = QHash<QString, qint64>;
 
-[[nodiscard]] ImageSizes imageSizes(const QString& clipsFolder);
+[[nodiscard]] FileSizes fileSizes(const QString& clipsFolder);
 
 /// The names of all images of clips and snippets. Any thread.
 [[nodiscard]] QSet<QString> imageNames(const StoreData& data);
+
+/// Likewise, and of the files beside clips, whether they exist or not.
+[[nodiscard]] QSet<QString> fileNames(const StoreData& data);
 
 /// A file in the clips folder.
 struct FoundImage {
@@ -44,7 +47,7 @@ struct FoundImage {
     Date written;
 };
 
-/// Files left behind by a crash or by clips that texts pushed out: named like an image of ours or
+/// Files left behind by a crash or by clips that texts pushed out: named like a file of ours or
 /// like one being written, not in `named`, and older than a day.
 [[nodiscard]] QStringList orphanedImages(const QList<FoundImage>& found, const QSet<QString>& named,
                                          Date now);
@@ -54,7 +57,7 @@ struct FoundImage {
 void removeOrphanedImages(const QString& folder, const QSet<QString>& named, Date now,
                           const OwnFile::Permission& mayWrite);
 
-/// Deletes what a cleared history may have left: all images that are not in `named`, stores that
+/// Deletes what a cleared history may have left: all files that are not in `named`, stores that
 /// were put aside, and what killed saves left. Syncs. An error, fit for the user, if something is
 /// still there.
 [[nodiscard]] Result<void> removeLeftovers(const QString& folder, const QSet<QString>& named,

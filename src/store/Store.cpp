@@ -198,7 +198,7 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
                 now = services_.scheduler.now()] {
         lentImages_.remove(name);
         if (outcome->written) {
-            imageSizes_.insert(name, outcome->size);
+            fileSizes_.insert(name, outcome->size);
             ClipChange change = ClipHistory::imageAdded(data_.clips, name, now, rules_);
             const QUuid id = change.clips.front().id;
             apply(std::move(change));
@@ -243,9 +243,9 @@ void Store::apply(std::optional<ClipChange> change) {
     if (!change) {
         return;
     }
-    data_.clips = std::move(change->clips);
+    const QList<ClipItem> before = std::exchange(data_.clips, std::move(change->clips));
     forgetting_.follow(data_.clips);
-    removeImages(change->orphanedImages);
+    removeImages(change->orphanedImages + goneForms(before));
     save();
     Q_EMIT clipsChanged();
 }
@@ -377,20 +377,8 @@ void Store::save() {
     saver_.save();
 }
 
-qint64 Store::textBytes() const {
-    return ClipHistory::textBytes(data_.clips);
-}
-
-qint64 Store::imageBytes() const {
-    qint64 size = 0;
-    for (const ClipItem& clip : data_.clips) {
-        size += clip.kind == ClipKind::image ? imageSizes_.value(clip.imageFileName) : 0;
-    }
-    return size;
-}
-
 void Store::trim() {
-    apply(ClipHistory::trimmed(data_.clips, services_.scheduler.now(), rules_, imageSizes_));
+    apply(ClipHistory::trimmed(data_.clips, services_.scheduler.now(), rules_, fileSizes_));
     trimLater();
 }
 

@@ -4,6 +4,7 @@
 #include "shelf/FileLook.h"
 #include "shelf/Shelf.h"
 #include "store/Captures.h"
+#include "store/ClipDetails.h"
 #include "store/ClipHistory.h"
 #include "store/Forgetting.h"
 #include "store/ImageFiles.h"
@@ -101,7 +102,7 @@ public:
     /// loses nothing.
     void setHistoryRules(const HistoryRules& rules);
 
-    /// Bytes of all clips' texts in UTF-8, and of their image files.
+    /// Bytes of all texts in UTF-8, and of all images, with what is kept beside them.
     [[nodiscard]] qint64 textBytes() const;
     [[nodiscard]] qint64 imageBytes() const;
 
@@ -128,6 +129,19 @@ public:
     /// converted) to the clips folder, then adds its clip. Adds nothing if there is no image or it
     /// cannot be written.
     void addImageClip(const PasteboardSnapshot& contents, Kept kept = {}, Refused refused = {});
+
+    /// Keeps these beside a clip, in place of earlier ones. Not for secrets.
+    void setForms(const QUuid& clip, const ClipForms& kept);
+
+    /// Whether something may be kept beside a clip, in the file at `formsPath`.
+    [[nodiscard]] bool hasForms(const QUuid& clip) const;
+    [[nodiscard]] QString formsPath(const QUuid& clip) const;
+
+    /// As far as it is known: of what was copied since the start, and what was looked up.
+    [[nodiscard]] ClipDetails detailsOf(const QUuid& clip) const { return details_.value(clip); }
+
+    /// Looks up what is not known yet, of all clips or of one; then `detailsChanged` is emitted.
+    void lookUpDetails(const QUuid& only = {});
 
     /// How long after copying secrets are forgotten; nothing for not at all. Applies at once.
     void setForgetAfter(std::optional<Seconds> after);
@@ -241,6 +255,7 @@ Q_SIGNALS:
     /// Files of deleted records were removed from the disk, or not: for the user; empty if so.
     void removalEnded(const QString& problem);
     void lockedChanged();
+    void detailsChanged();
     void cleared(); ///< Also cancels copies that are still being read.
     void clipsChanged();
     void snippetsChanged();
@@ -259,18 +274,22 @@ private:
     void addSeeds();
     void addLinkSnippetsIfNeeded();
     void saveEndedWith(const SaveOutcome& outcome);
+    void dropData();
     void dropAll();
     void announceAll();
     void clear(ClipChange change, const std::shared_ptr<Deleted>& kept);
     void trim();
     void trimLater();
+    [[nodiscard]] QStringList goneForms(const QList<ClipItem>& before);
+    void measureFiles(std::function<void()> job = {});
     void removeFiles(std::function<Result<void>()> remove);
     void dropGone(const FileLook::Found& found);
     [[nodiscard]] std::function<void()> unlessCleared(std::function<void()> add,
                                                       std::function<void()> discard);
     void apply(std::optional<ClipChange> change);
     void forget(const QList<QUuid>& secrets);
-    void takeOffDisk(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept);
+    [[nodiscard]] QStringList takeOffDisk(const QList<DeletedRecord>& records,
+                                          const std::shared_ptr<Deleted>& kept);
     void putBack(const QList<DeletedRecord>& records);
     void reportKept(const QString& text, const Kept& kept) const; ///< For a text.
     void setShelf(Shelf shelf);
@@ -280,7 +299,10 @@ private:
     bool locked_ = false;
     bool opening_ = false; ///< Its contents are being read.
     HistoryRules rules_;
-    ImageSizes imageSizes_;
+    FileSizes fileSizes_;
+    bool sizesKnown_ = false; ///< Those of files from earlier runs.
+    QHash<QUuid, ClipDetails> details_;
+    Handle lookingUp_;
     QSet<QString> lentImages_;                      ///< On their way to a clip or a snippet.
     QStringList waitingFiles_;                      ///< To be removed after the next save.
     std::function<void()> dropped_;                 ///< Set while a lock waits for a save.

@@ -29,8 +29,8 @@ Date hourAgo(const Scheduler& scheduler) {
 
 void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
     if (auto change = ClipHistory::deleted(data_.clips, id)) {
-        takeOffDisk(deletedRecords(data_.clips, change->clips), kept);
-        apply(ClipChange{std::move(change->clips), {}});
+        change->orphanedImages = takeOffDisk(deletedRecords(data_.clips, change->clips), kept);
+        apply(std::move(change));
         saver_.saveNow(); // So that it survives a kill right after.
     }
 }
@@ -44,7 +44,7 @@ void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
                              if (store && !store->locked_) {
                                  store->removeFiles(
                                      [folder = store->folder_,
-                                      named = imageNames(store->data_) + store->lentImages_,
+                                      named = fileNames(store->data_) + store->lentImages_,
                                       mayWrite = store->services_.mayWrite] {
                                          return removeLeftovers(folder, named, mayWrite);
                                      });
@@ -66,29 +66,35 @@ void Store::clear(ClipChange change, const std::shared_ptr<Deleted>& kept) {
     ++clearings_;
     captures_.drop();
     Q_EMIT cleared();
-    takeOffDisk(deletedRecords(data_.clips, change.clips), kept);
-    apply(ClipChange{std::move(change.clips), {}});
+    change.orphanedImages = takeOffDisk(deletedRecords(data_.clips, change.clips), kept);
+    apply(std::move(change));
     saver_.saveNow(); // So that it survives a kill right after.
 }
 
 void Store::removeSnippet(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
     QList<Snippet> left = data_.snippets;
     if (left.removeIf([&id](const Snippet& snippet) { return snippet.id == id; }) > 0) {
-        takeOffDisk(deletedRecords(data_.snippets, left), kept);
+        removeImages(takeOffDisk(deletedRecords(data_.snippets, left), kept));
         data_.snippets = std::move(left);
         saver_.saveNow(); // So that it survives a kill right after.
         Q_EMIT snippetsChanged();
     }
 }
 
-/// Removes the images of the records, after reading them into memory if they may come back.
-void Store::takeOffDisk(const QList<DeletedRecord>& records, const std::shared_ptr<Deleted>& kept) {
+/// Names of the files to remove with the records. They are read into memory first if they may come
+/// back.
+QStringList Store::takeOffDisk(const QList<DeletedRecord>& records,
+                               const std::shared_ptr<Deleted>& kept) {
     QStringList images;
     for (const DeletedRecord& record : records) {
         const QString name =
             std::visit([](const auto& one) { return one.imageFileName; }, record.record);
         if (!name.isEmpty()) {
             images.append(name);
+        }
+        const auto* clip = std::get_if<ClipItem>(&record.record);
+        if (clip != nullptr && record.forms) { // Back on the disk, but not in the history.
+            images.append(formsFileName(clip->id));
         }
     }
     if (kept) {
@@ -99,7 +105,7 @@ void Store::takeOffDisk(const QList<DeletedRecord>& records, const std::shared_p
                 }
             });
     }
-    removeImages(images);
+    return images;
 }
 
 void Store::removeImages(const QStringList& imageFileNames) {
@@ -150,7 +156,10 @@ void Store::addAll(const StoreContents& contents, std::function<void(const SaveO
         }
     }
     data_.drawing += contents.data.drawing;
+    const QList<ClipItem> both = data_.clips + contents.data.clips;
+    measureFiles();
     data_.clips = ClipHistory::joined(data_.clips, contents.data.clips);
+    removeImages(goneForms(both));
     for (const QList<QUrl>& stack : contents.shelf) {
         shelf_ = shelf_.added(stack).value_or(shelf_);
     }
@@ -176,7 +185,7 @@ void Store::restore(const std::shared_ptr<Deleted>& deleted,
             }
             return gone;
         });
-        takeOffDisk(cleared, {});
+        removeImages(takeOffDisk(cleared, {}));
         putBack(restorable->records);
         done({restorable->records.size(),
               QCoreApplication::translate("ravelo::Store", "the history was cleared"), false});
@@ -202,6 +211,7 @@ void Store::putBack(const QList<DeletedRecord>& records) {
         }
     }
     apply(std::move(clips));
+    measureFiles();
     Q_EMIT snippetsChanged();
     saver_.saveNow(); // So that it survives a kill right after.
 }

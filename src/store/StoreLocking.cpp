@@ -24,6 +24,7 @@ void Store::load() {
     if (locked_) {
         saver_.setFile(newWaitingFile(*services_.vault), OwnFile::Contents::ours,
                        services_.mayWrite);
+        sizesKnown_ = true; // There is nothing yet that they could be of.
         return;
     }
     begin(readStore(*services_.vault, fileURL()));
@@ -43,6 +44,8 @@ void Store::begin(StoredContents stored) {
         saver_.setFile(fileURL(), wasRead ? OwnFile::Contents::ours : OwnFile::Contents::unreadable,
                        services_.mayWrite);
     }
+    details_.clear(); // They could not be read while it was locked.
+    sizesKnown_ = !wasRead && stored.waiting.isEmpty();
     adopt(std::move(stored));
     addSeeds();
     if (!wasRead) {
@@ -53,19 +56,9 @@ void Store::begin(StoredContents stored) {
         parkedMeanwhile_.emplace();
         look_.look(shelf_.files(), [this](const FileLook::Found& found) { dropGone(found); });
     }
-    const auto sizes = std::make_shared<ImageSizes>();
-    services_.worker.run(
-        [folder = folder_, clips = clipsDir(), named = imageNames(data_), sizes,
-         now = services_.scheduler.now(), mayWrite = services_.mayWrite] {
-            removeOrphanedImages(folder, named, now, mayWrite);
-            *sizes = imageSizes(clips);
-        },
-        [store = QPointer(this), sizes] {
-            if (store) {
-                store->imageSizes_.insert(*sizes);
-                store->trimLater();
-            }
-        });
+    measureFiles(
+        [folder = folder_, named = fileNames(data_), now = services_.scheduler.now(),
+         mayWrite = services_.mayWrite] { removeOrphanedImages(folder, named, now, mayWrite); });
 }
 
 /// What is here came after what was stored.
@@ -155,10 +148,17 @@ void Store::lock(std::function<void()> dropped) {
     }
 }
 
-void Store::dropAll() {
-    locked_ = true;
+void Store::dropData() {
     data_ = {};
     shelf_ = {};
+    details_.clear();
+    fileSizes_.clear();
+    sizesKnown_ = true;
+}
+
+void Store::dropAll() {
+    locked_ = true;
+    dropData();
     parkedMeanwhile_.reset();
     trimming_.reset();
     saver_.stop();
@@ -172,8 +172,7 @@ void Store::erase(std::function<void(const Result<void>&)> done) {
     captures_.drop();
     saver_.stop();
     trimming_.reset();
-    data_ = {};
-    shelf_ = {};
+    dropData();
     Q_EMIT cleared();
     const auto outcome = std::make_shared<Result<void>>();
     services_.worker.run(

@@ -4,6 +4,7 @@
 #include "decode/Protocol.h"
 #include "platform/ImageDecoder.h"
 #include "store/Archive.h"
+#include "store/ClipForms.h"
 #include "store/ImageFiles.h"
 #include "store/ShelfPaths.h"
 #include "store/StoreFile.h"
@@ -24,7 +25,7 @@ namespace {
 
 constexpr qint64 maxStore = qint64(512) << 20; ///< Bytes.
 constexpr QByteArrayView storeEntry("store.json");
-constexpr QByteArrayView imageEntries("clips/");
+constexpr QByteArrayView fileEntries("clips/");
 
 QString clipsOf(const Vault& vault) {
     return vault.folder() + u"/clips/"_s;
@@ -71,9 +72,24 @@ Result<StoreData> storeIn(QIODevice& archive) {
 /// New file names by those in the archive. What is written before an error is in it, too.
 using Names = QHash<QString, QString>;
 
-Result<void> importImages(QIODevice& archive, const QSet<QString>& wanted, const Vault& vault,
-                          ImageDecoder& decoder, const OwnFile::Permission& mayWrite,
-                          Names& names) {
+Result<void> importImage(const QByteArray& bytes, const QString& path, const Vault& vault,
+                         ImageDecoder& decoder, const OwnFile::Permission& mayWrite) {
+    const QByteArray png = decoder.png(bytes);
+    return png.isEmpty() ? failure(u"one of its images cannot be decoded"_s)
+                         : writeImage(vault, path, png, mayWrite);
+}
+
+Result<void> importForms(const QByteArray& bytes, const QString& path, const Vault& vault,
+                         const OwnFile::Permission& mayWrite) {
+    const auto kept = decodeForms(bytes);
+    return kept ? vault.write(path, encodeForms(*kept), mayWrite)
+                : failure(u"the forms of one of its clips cannot be read"_s);
+}
+
+/// `wanted` are the names of images; `forms` has the new names of the others.
+Result<void> importFiles(QIODevice& archive, const QSet<QString>& wanted, const Names& forms,
+                         const Vault& vault, ImageDecoder& decoder,
+                         const OwnFile::Permission& mayWrite, Names& names) {
     ArchiveReader reader(archive);
     while (true) {
         const auto entry = reader.next();
@@ -83,8 +99,9 @@ Result<void> importImages(QIODevice& archive, const QSet<QString>& wanted, const
         if (!*entry) {
             return {};
         }
-        const QString name = QString::fromUtf8((*entry)->name.mid(imageEntries.size()));
-        if (!(*entry)->name.startsWith(imageEntries) || !wanted.contains(name) ||
+        const QString name = QString::fromUtf8((*entry)->name.mid(fileEntries.size()));
+        const bool isForms = forms.contains(name);
+        if (!(*entry)->name.startsWith(fileEntries) || !(wanted.contains(name) || isForms) ||
             names.contains(name)) {
             continue;
         }
@@ -92,16 +109,52 @@ Result<void> importImages(QIODevice& archive, const QSet<QString>& wanted, const
         if (!bytes) {
             return tl::unexpected(bytes.error());
         }
-        const QByteArray png = decoder.png(*bytes);
-        if (png.isEmpty()) {
-            return failure(u"one of its images cannot be decoded"_s);
-        }
-        const QString fresh = uuidText(QUuid::createUuid()) + u".png"_s;
-        if (auto written = writeImage(vault, clipsOf(vault) + fresh, png, mayWrite); !written) {
+        const QString fresh =
+            isForms ? forms.value(name) : uuidText(QUuid::createUuid()) + u".png"_s;
+        const QString path = clipsOf(vault) + fresh;
+        if (auto written = isForms ? importForms(*bytes, path, vault, mayWrite)
+                                   : importImage(*bytes, path, vault, decoder, mayWrite);
+            !written) {
             return written;
         }
         names.insert(name, fresh);
     }
+}
+
+/// Gives every record a new id. Returns the new names of the files beside clips.
+Names renewIds(StoreData& data) {
+    Names forms;
+    for (ClipItem& clip : data.clips) {
+        const QString before = formsFileName(clip.id);
+        clip.id = QUuid::createUuid();
+        if (!forms.contains(before)) { // Nobody gets what belongs to another.
+            forms.insert(before, formsFileName(clip.id));
+        }
+    }
+    for (Snippet& snippet : data.snippets) {
+        snippet.id = QUuid::createUuid();
+    }
+    for (Stroke& stroke : data.drawing) {
+        stroke.id = QUuid::createUuid();
+    }
+    return forms;
+}
+
+/// Those of the clips that are exported.
+Result<void> exportForms(QIODevice& archive, const StoreData& data, const Vault& vault) {
+    for (const ClipItem& clip : data.clips) {
+        const QString name = formsFileName(clip.id);
+        const auto bytes =
+            clip.secret.isEmpty() ? vault.bytes(clipsOf(vault) + name) : std::nullopt;
+        if (!bytes || !decodeForms(*bytes)) {
+            continue;
+        }
+        if (auto done = writeEntry(archive, fileEntries.toByteArray() + name.toUtf8(), *bytes);
+            !done) {
+            return done;
+        }
+    }
+    return {};
 }
 
 } // namespace
@@ -127,11 +180,14 @@ Result<int> exportStore(StoreContents contents, const Vault& vault, const QStrin
         missing += bytes ? 0 : 1;
         images[name] = bytes.has_value();
         if (bytes && done) {
-            done = writeEntry(file, imageEntries.toByteArray() + name.toUtf8(), *bytes);
+            done = writeEntry(file, fileEntries.toByteArray() + name.toUtf8(), *bytes);
         }
         return bytes.has_value();
     });
     contents.data.shelfStacks = shelfPaths(contents.shelf);
+    if (done) {
+        done = exportForms(file, contents.data, vault);
+    }
     if (done) {
         done = writeEntry(file, storeEntry.toByteArray(), encodeStore(contents.data));
     }
@@ -153,10 +209,11 @@ Result<StoreContents> importStore(const QString& path, const Vault& vault, Image
     }
     Result<StoreData> data = storeIn(file);
     Names names;
-    const Result<void> images =
-        data ? importImages(file, imageNames(*data), vault, decoder, mayWrite, names)
+    const Names forms = data ? renewIds(*data) : Names();
+    const Result<void> files =
+        data ? importFiles(file, imageNames(*data), forms, vault, decoder, mayWrite, names)
              : Result<void>(tl::unexpected(data.error()));
-    bool complete = images.has_value();
+    bool complete = files.has_value();
     if (complete) {
         forImages(*data, [&](QString& name) {
             const QString fresh = names.value(QFileInfo(name).fileName());
@@ -171,17 +228,8 @@ Result<StoreContents> importStore(const QString& path, const Vault& vault, Image
             written.append(clipsOf(vault) + name);
         }
         (void)removeImages(written, mayWrite);
-        return failure(u"%1: %2"_s.arg(path, images ? u"one of its images is missing"_s
-                                                    : images.error().message));
-    }
-    for (ClipItem& clip : data->clips) {
-        clip.id = QUuid::createUuid();
-    }
-    for (Snippet& snippet : data->snippets) {
-        snippet.id = QUuid::createUuid();
-    }
-    for (Stroke& stroke : data->drawing) {
-        stroke.id = QUuid::createUuid();
+        return failure(u"%1: %2"_s.arg(path, files ? u"one of its images is missing"_s
+                                                   : files.error().message));
     }
     QList<QList<QUrl>> shelf = shelfStacks(std::exchange(data->shelfStacks, {}));
     return StoreContents{std::move(*data), std::move(shelf)};

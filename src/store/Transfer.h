@@ -11,14 +11,14 @@ class ImageDecoder;
 class Vault;
 
 /// Writes everything into one archive, not encrypted and readable by its user alone: "store.json"
-/// and "clips" with the images. Does not replace a file. Returns how many images could not be read
-/// and are left out with their clips. Takes seconds, any thread.
+/// and "clips" with the images and the forms kept beside clips. Does not replace a file. Returns
+/// how many images could not be read and are left out with their clips. Takes seconds, any thread.
 [[nodiscard]] Result<int> exportStore(StoreContents contents, const Vault& vault,
                                       const QString& path);
 
-/// Reads an archive as untrusted: every image is decoded and encoded again and written to the clips
-/// folder under a new name, every record gets a new id. On an error, which is for the user, nothing
-/// stays. Takes seconds, any thread.
+/// Reads an archive as untrusted: every image and all forms are decoded and encoded again and
+/// written to the clips folder under a new name, every record gets a new id. On an error, which is
+/// for the user, nothing stays. Takes seconds, any thread.
 [[nodiscard]] Result<StoreContents> importStore(const QString& path, const Vault& vault,
                                                 ImageDecoder& decoder,
                                                 const OwnFile::Permission& mayWrite);

@@ -48,7 +48,7 @@ QStringList storedFiles(const QString& folder) {
 /// What killed saves left.
 QStringList partialFiles(const QString& folder) {
     QStringList paths = filesIn(folder, {u"store.json.*"_s, u"key.*"_s}) +
-                        filesIn(folder + u"/clips"_s, {u"*.png.*"_s}) +
+                        filesIn(folder + u"/clips"_s, {u"*.png.*"_s, u"*.forms.*"_s}) +
                         filesIn(folder + u"/waiting"_s, {u"*"_s});
     paths.removeIf([](const QString& path) { return !isTemporaryName(path); });
     return paths;

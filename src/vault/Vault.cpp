@@ -159,7 +159,7 @@ Result<QByteArray> Vault::sealed(const QString& path, QByteArray bytes) const {
         }
         key = key_;
         file = file_;
-        if (!key && file && name.endsWith(".png"_L1)) {
+        if (!key && file && (name.endsWith(".png"_L1) || name.endsWith(".forms"_L1))) {
             kept_.insert(name, new QByteArray(bytes), bytes.size());
         }
     }

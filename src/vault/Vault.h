@@ -97,7 +97,7 @@ private:
     Trouble trouble_ = Trouble::none;
     std::optional<KeyFile> file_;
     std::shared_ptr<const StoreKey> key_;
-    /// Images that were sealed for later, which we could not read ourselves. By name.
+    /// Files of clips that were sealed for later, which we could not read ourselves. By name.
     mutable QCache<QString, QByteArray> kept_;
 };
 

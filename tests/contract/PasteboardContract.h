@@ -100,6 +100,32 @@ TEST_P(PasteboardContract, readsOnlyWhatThePlanRequests) {
         << "something that was not on offer";
 }
 
+TEST_P(PasteboardContract, passesAllFormsOnUnchanged) {
+    const QByteArray bytes("<b>\0\r\n\xff</b>", 13);
+    const QList<PasteboardEntry> forms = {
+        {QStringLiteral("text/uri-list"), "file:///tmp/a%20b\r\nfile:///tmp/c\r\n"},
+        {QStringLiteral("x-special/gnome-copied-files"), "copy\nfile:///tmp/a%20b\nfile:///tmp/c"},
+        {QStringLiteral("text/html"), bytes},
+        {QStringLiteral("text/rtf"), "{\\rtf1 \\b b}"},
+        {QStringLiteral("application/x-openoffice-embed-source-xml;windows_formatname=\"Star\""),
+         bytes},
+        text("Gr\xc3\xbc\xc3\x9f")};
+    QStringList types;
+    for (const PasteboardEntry& form : forms) {
+        types.append(form.type);
+    }
+    offer(forms);
+    const auto snapshot = read(types);
+    for (const PasteboardEntry& form : forms) {
+        EXPECT_EQ(snapshot.answers.value(form.type), form.bytes) << qPrintable(form.type);
+    }
+    board().write(forms);
+    for (const PasteboardEntry& form : forms) {
+        const QByteArray type = form.type.toLatin1();
+        EXPECT_EQ(host_->pasted(QLatin1StringView(type)), form.bytes) << type.constData();
+    }
+}
+
 TEST_P(PasteboardContract, neverAnswersADroppedOrOutdatedRead) {
     offer({text("old")});
     int answers = 0;

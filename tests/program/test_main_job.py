@@ -960,6 +960,75 @@ class OwnersEnd(ProgramCase):
         self.assertEqual(self.desktop.paste_text(), "")
 
 
+class Forms(ProgramCase):
+    RICH = {"text/html": b"<b>bold</b>\0\xff", "text/rtf": b"{\\rtf1 \\b bold}",
+            "application/vnd.oasis.opendocument.text": b"PK\3\4"}
+
+    def setUp(self):
+        super().setUp()
+        self.ravelo.start()
+
+    def copy(self, text, forms):
+        marks = [word for kind, value in forms.items()
+                 for word in ("--mark", f"{kind}={urllib.parse.quote(value)}")]
+        peer = self.qt("--text", text, *marks)
+        self.wait_for_texts(text)
+        wait_for(lambda: len(list((self.ravelo.folder / "clips").glob("*.forms"))) == 1,
+                 "its other forms on the disk")
+        return peer
+
+    def pasted(self, kind):
+        return subprocess.run(["timeout", "3", "xclip", "-selection", "clipboard", "-o", "-t", kind],
+                              env=self.desktop.env, stdout=subprocess.PIPE,
+                              stderr=subprocess.DEVNULL, check=False).stdout
+
+    def click_second_row(self):
+        panel = self.ravelo.open()
+        self.desktop.click(panel.x + panel.width // 2, FIRST_ROW + ROW)
+        self.desktop.click(120, 700)
+        wait_for(self.ravelo.is_collapsed, "the panel to close")
+
+    def test_formatted_text_comes_back_as_it_was_or_plain(self):
+        self.copy("bold", self.RICH).kill()
+        self.copy_and_wait("next")
+        self.click_second_row()
+        wait_for(lambda: self.pasted("text/html") == self.RICH["text/html"], "the HTML")
+        for kind, value in self.RICH.items():
+            self.assertEqual(self.pasted(kind), value, kind)
+        self.assertEqual(self.desktop.paste_text(), "bold")
+        self.assertEqual(self.ravelo.texts(), ["next", "bold"], "no clip of its own copy")
+        self.toggle()
+        self.press("Down", "alt+Return")
+        wait_for(lambda: self.pasted("text/html") == b"", "the plain text alone")
+        self.assertEqual(self.desktop.paste_text(), "bold")
+
+    def test_files_come_back_as_files_but_only_by_a_click(self):
+        uris = b"file:///tmp/a%20b\r\nfile:///tmp/c\r\n"
+        owner = self.copy("/tmp/a b\n/tmp/c", {
+            "text/uri-list": uris,
+            "x-special/gnome-copied-files": b"cut\nfile:///tmp/a%20b\nfile:///tmp/c"})
+        owner.kill()
+        wait_for(lambda: self.desktop.paste_text() == "/tmp/a b\n/tmp/c", "the paths")
+        self.assertEqual(self.pasted("text/uri-list"), b"")
+        self.copy_and_wait("next")
+        self.click_second_row()
+        wait_for(lambda: self.pasted("text/uri-list") == uris, "the list of files")
+        self.assertEqual(self.pasted("x-special/gnome-copied-files"),
+                         b"copy\nfile:///tmp/a%20b\nfile:///tmp/c")
+
+    def test_a_row_is_dragged_into_another_window(self):
+        window = self.desktop.gtk("window")
+        self.copy_and_wait("older", "newer")
+        panel = self.ravelo.open()
+        field = self.desktop.window_of(window)
+        self.desktop.drag((panel.x + 300, FIRST_ROW + ROW),
+                          (field.x + 60, field.y + field.height - 16))
+        self.desktop.run("xdotool", "mouseup", 1)
+        said = iter(lambda: window.stdout.readline().strip(), "")
+        self.assertEqual(next(line for line in said if line != "ready"), "older")
+        self.assertEqual(self.desktop.paste_text(), "newer", "a drag is no click")
+
+
 class HungOwner(ProgramCase):
     """Clipboard owners that never finish an answer, while a text field has the focus."""
 

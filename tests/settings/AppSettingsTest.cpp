@@ -50,6 +50,7 @@ const Field fields[] = {
     {"shortcut", &AppSettings::shortcutChanged, u""_s, u"Super+V"_s, true},
     {"returnPastes", &AppSettings::returnPastesChanged, false, true, 1},
     {"joinWith", &AppSettings::joinWithChanged, u"line"_s, u"comma"_s, 1},
+    {"showOrigins", &AppSettings::showOriginsChanged, false, true, u"on"_s},
     {"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
     {"language", &AppSettings::languageChanged, QString(), u"pt_BR"_s, u"fr"_s},
     {"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}};

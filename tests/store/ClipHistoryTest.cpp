@@ -232,7 +232,7 @@ TEST(ClipHistory, TrimsByAgeAndThenBySizeTheOldestFirst) {
         QStringList orphans;
     };
 
-    const ImageSizes sizes{{u"p.png"_s, 100}, {u"q.png"_s, 50}};
+    const FileSizes sizes{{u"p.png"_s, 100}, {u"q.png"_s, 50}};
     const Case table[] = {
         {"a@9 b@1", {}, unchanged, {}},
         {"a@9 b@5 *c@1 p.png@2", {Order::newerFirst, 60, 5}, "a@9 *c@1", {u"p.png"_s}},

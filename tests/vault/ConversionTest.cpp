@@ -33,6 +33,7 @@ protected:
         }
         // What a killed save left, and what is not ours.
         EXPECT_TRUE(writeFileAtomically(path_ + u"/store.json.abcDEF"_s, marker));
+        EXPECT_TRUE(writeFileAtomically(path_ + u"/clips/a.forms.abcDEF"_s, marker));
         EXPECT_TRUE(writeFileAtomically(path_ + u"/lock"_s, "lock"));
     }
 
@@ -76,8 +77,12 @@ protected:
 
     QTemporaryDir directory_;
     QString path_ = directory_.filePath(u"Ravelo"_s);
-    QStringList names_ = {u"store.json"_s, u"store.json.unreadable"_s, u"store.json.unreadable2"_s,
-                          u"clips/0F8FAD5B-D9CB-469F-A165-70867728950E.png"_s, u"clips/b.png"_s};
+    QStringList names_ = {u"store.json"_s,
+                          u"store.json.unreadable"_s,
+                          u"store.json.unreadable2"_s,
+                          u"clips/0F8FAD5B-D9CB-469F-A165-70867728950E.png"_s,
+                          u"clips/b.png"_s,
+                          u"clips/0F8FAD5B-D9CB-469F-A165-70867728950E.forms"_s};
     LockedBytes wrapper_ = LockedBytes::random(KeyFile::wrapperLength);
     std::shared_ptr<const StoreKey> key_ = std::make_shared<const StoreKey>(StoreKey::random());
     KeyFile file_ = KeyFile::of(*key_, KeyFile::Guard::keyring, {1, 8});

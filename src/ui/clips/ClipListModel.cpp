@@ -1,7 +1,11 @@
 #include "ui/clips/ClipListModel.h"
 
+#include "clipboard/CaptureRules.h"
 #include "store/Store.h"
+#include "ui/clips/ProgramName.h"
 #include "ui/clips/SecretText.h"
+
+#include <QElapsedTimer>
 
 #include <algorithm>
 #include <utility>
@@ -16,6 +20,9 @@ namespace {
 constexpr qsizetype titleLength = 1000;
 
 constexpr Seconds justNow(60);
+
+/// Milliseconds for trying an expression on all clips: the user waits.
+constexpr qint64 patience = 200;
 
 QString title(const ClipItem& clip) {
     if (clip.kind == ClipKind::image) {
@@ -50,6 +57,7 @@ ClipListModel::ClipListModel(Store& store, const Scheduler& scheduler, const QLo
       locale_(locale) {
     connect(&store, &Store::cleared, this, &ClipListModel::dismissTooLarge);
     connect(&store, &Store::clipsChanged, this, &ClipListModel::update);
+    connect(&store, &Store::detailsChanged, this, &ClipListModel::detailsFound);
     connect(&selection_, &ClipSelection::changed, this, [this] {
         if (count() > 0) {
             Q_EMIT dataChanged(index(0), index(count() - 1), {orderRole});
@@ -79,11 +87,13 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
     case orderRole:
         return selection_.orderOf(clip.id);
     case marksRole:
-        return QVariant::fromValue((byWords_ ? words_ : phrase_).matches(title(clip)));
+        return QVariant::fromValue(marks(clip));
     case maskRole:
         return clip.secret.isEmpty() ? QStringList() : secretRuns(clip);
     case spokenRole:
         return spoken(clip);
+    case agoRole:
+        return relativeDate_.text(clip.date, scheduler_.now());
     default:
         return {};
     }
@@ -98,7 +108,8 @@ QHash<int, QByteArray> ClipListModel::roleNames() const {
             {orderRole, "order"},
             {marksRole, "marks"},
             {maskRole, "mask"},
-            {spokenRole, "spoken"}};
+            {spokenRole, "spoken"},
+            {agoRole, "ago"}};
 }
 
 void ClipListModel::setSearch(const QString& search) {
@@ -109,6 +120,9 @@ void ClipListModel::setSearch(const QString& search) {
     query_ = ClipQuery::parse(search, scheduler_.now());
     phrase_.setWanted(query_.text);
     words_.setWanted(query_.text);
+    if (query_.needsDetails()) {
+        store_.lookUpDetails();
+    }
     Q_EMIT searchChanged();
     update();
     if (count() > 0) {
@@ -118,6 +132,35 @@ void ClipListModel::setSearch(const QString& search) {
 
 QString ClipListModel::tally() const {
     return search_.isEmpty() ? QString() : tr("%1 of %2").arg(count()).arg(store_.clips().size());
+}
+
+QString ClipListModel::nothingFound() const {
+    if (gaveUp_) {
+        return tr("This expression takes too long");
+    }
+    return !query_.program.isEmpty() && origins_ == Origins::hidden
+               ? tr("Turn on \u201cShow program and size in the list\u201d to find programs")
+               : query_.nothingFound();
+}
+
+void ClipListModel::setOrigins(Origins origins) {
+    if (std::exchange(origins_, origins) == origins) {
+        return;
+    }
+    if (origins == Origins::shown) {
+        store_.lookUpDetails();
+    }
+    refreshDates();
+}
+
+void ClipListModel::detailsFound() {
+    if (query_.needsDetails()) {
+        update();
+    }
+    if (origins_ == Origins::shown) {
+        refreshDates();
+    }
+    Q_EMIT detailsKnown();
 }
 
 void ClipListModel::setTooLarge(const TooLargeCopy& copy) {
@@ -138,7 +181,7 @@ void ClipListModel::dismissTooLarge() {
 
 void ClipListModel::refreshDates() {
     if (count() > 0) {
-        Q_EMIT dataChanged(index(0), index(count() - 1), {subtitleRole, spokenRole});
+        Q_EMIT dataChanged(index(0), index(count() - 1), {subtitleRole, spokenRole, agoRole});
     }
 }
 
@@ -180,6 +223,9 @@ bool ClipListModel::isSecret(int row) const {
 }
 
 void ClipListModel::update() {
+    if (origins_ == Origins::shown) {
+        store_.lookUpDetails(); // Of new images.
+    }
     apply(shownClips());
     Q_EMIT found();
     selection_.keepOnly(idsBetween(0, count() - 1));
@@ -192,12 +238,16 @@ void ClipListModel::update() {
 }
 
 QList<ClipItem> ClipListModel::shownClips() {
+    gaveUp_ = false;
     if (search_.isEmpty()) {
         QList<ClipItem> all = store_.clips();
         if (tooLarge_) {
             all.insert(std::ranges::find(all, false, &ClipItem::pinned), tooLarge_->record);
         }
         return all;
+    }
+    if (query_.expression) {
+        return match();
     }
     QList<ClipItem> found = search(phrase_);
     byWords_ = found.isEmpty();
@@ -207,11 +257,53 @@ QList<ClipItem> ClipListModel::shownClips() {
 QList<ClipItem> ClipListModel::search(TextSearch& texts) {
     QList<ClipItem> found;
     for (const ClipItem& clip : store_.clips()) {
-        if (query_.accepts(clip) && isFound(clip, texts)) {
+        if (query_.accepts(clip, store_.detailsOf(clip.id)) && isFound(clip, texts)) {
             found.append(clip);
         }
     }
     return found;
+}
+
+/// By the expression, as far as that is found out in time.
+QList<ClipItem> ClipListModel::match() {
+    QList<ClipItem> found;
+    if (!query_.mistake.isEmpty()) {
+        return found;
+    }
+    QElapsedTimer spent;
+    spent.start();
+    for (const ClipItem& clip : store_.clips()) {
+        if (clip.kind == ClipKind::image || !clip.secret.isEmpty() ||
+            !query_.accepts(clip, store_.detailsOf(clip.id))) {
+            continue;
+        }
+        const PatternAnswer answer = tryPattern(*query_.expression, clip.text);
+        if (answer == PatternAnswer::matches) {
+            found.append(clip);
+        }
+        gaveUp_ = gaveUp_ || answer == PatternAnswer::unknown;
+        if (spent.elapsed() > patience) {
+            gaveUp_ = true;
+            break;
+        }
+    }
+    return found;
+}
+
+QList<TextRange> ClipListModel::marks(const ClipItem& clip) const {
+    const QString shown = title(clip);
+    if (!query_.expression) {
+        return (byWords_ ? words_ : phrase_).matches(shown);
+    }
+    QList<TextRange> ranges;
+    auto matches = query_.expression->globalMatch(shown);
+    while (query_.mistake.isEmpty() && matches.hasNext()) {
+        const auto match = matches.next();
+        if (match.capturedLength() > 0) {
+            ranges.append({match.capturedStart(), match.capturedLength()});
+        }
+    }
+    return ranges;
 }
 
 /// A secret is found by what is shown of it.
@@ -257,7 +349,25 @@ QString ClipListModel::subtitle(const ClipItem& clip) const {
         return tooLargeDetail(tooLarge_->copy, locale_) + u" \u00b7 "_s +
                (recent ? tr("just now") : ago);
     }
-    return clip.pinned ? tr("Pinned \u00b7 %1").arg(ago) : ago;
+    QStringList parts = clip.pinned ? QStringList{tr("Pinned")} : QStringList();
+    if (origins_ == Origins::shown) {
+        const ClipDetails details = store_.detailsOf(clip.id);
+        parts += {size(clip, details), programName(details.program)};
+        parts.removeAll(QString());
+    }
+    return (parts + QStringList{ago}).join(u" \u00b7 "_s);
+}
+
+/// In the measure of its kind; empty for a text.
+QString ClipListModel::size(const ClipItem& clip, const ClipDetails& details) const {
+    if (clip.kind == ClipKind::image) {
+        return details.pixels.isEmpty()
+                   ? QString()
+                   : tr("%1 \u00d7 %2").arg(details.pixels.width()).arg(details.pixels.height());
+    }
+    return details.files == 0   ? QString()
+           : details.files == 1 ? tr("1 file")
+                                : tr("%1 files").arg(locale_.toString(details.files));
 }
 
 bool ClipListModel::isTooLarge(const ClipItem& row) const {

@@ -20,7 +20,8 @@ class Store;
 
 /// The clipboard history as shown in the panel: clips that `search` finds, in store order, and
 /// after the pinned ones a row about a copy that was too large to keep. A search is a phrase; if no
-/// clip contains it, its words, in any order and with or without accents. Main thread.
+/// clip contains it, its words, in any order and with or without accents. Or it is a regular
+/// expression. Main thread.
 class ClipListModel : public KeyedListModel<ClipItem>, public AgingRows {
     Q_OBJECT
     QML_ELEMENT
@@ -44,7 +45,13 @@ public:
         marksRole,  ///< Where the title has what is searched for; a list of TextRange.
         maskRole,   ///< What is shown instead of a secret's text, in runs; empty for other clips.
         spokenRole, ///< Name for screen readers.
+        agoRole,    ///< When it was copied, alone.
     };
+
+    /// Whether subtitles say the program and the size.
+    enum class Origins { hidden, shown };
+
+    void setOrigins(Origins origins);
 
     ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale);
 
@@ -60,7 +67,7 @@ public:
 
     [[nodiscard]] QString tally() const;
 
-    [[nodiscard]] QString nothingFound() const { return query_.nothingFound(); }
+    [[nodiscard]] QString nothingFound() const;
 
     [[nodiscard]] int count() const { return rowCount(); }
 
@@ -71,6 +78,8 @@ public:
     void dismissTooLarge();
 
     [[nodiscard]] ClipSelection& selection() { return selection_; }
+
+    [[nodiscard]] const ClipSelection& selection() const { return selection_; }
 
     /// Clips from one row to another, in this order.
     [[nodiscard]] QList<QUuid> idsBetween(int from, int to) const;
@@ -90,11 +99,16 @@ Q_SIGNALS:
     void searchChanged();
     void found();
     void tooLargeRowChanged();
+    void detailsKnown(); ///< Of more clips.
 
 private:
     void update();
     [[nodiscard]] QList<ClipItem> shownClips();
     [[nodiscard]] QList<ClipItem> search(TextSearch& texts);
+    [[nodiscard]] QList<ClipItem> match();
+    [[nodiscard]] QList<TextRange> marks(const ClipItem& clip) const;
+    [[nodiscard]] QString size(const ClipItem& clip, const ClipDetails& details) const;
+    void detailsFound();
     [[nodiscard]] bool isFound(const ClipItem& clip, TextSearch& texts) const;
     [[nodiscard]] QString spoken(const ClipItem& clip) const;
     [[nodiscard]] QString secretSubtitle(const ClipItem& clip) const;
@@ -112,6 +126,8 @@ private:
     TextSearch phrase_;
     TextSearch words_;
     bool byWords_ = false; ///< No clip contains the phrase.
+    bool gaveUp_ = false;  ///< The expression takes too long.
+    Origins origins_ = Origins::hidden;
     RelativeDate relativeDate_;
     QLocale locale_;
     QString search_;

@@ -1,8 +1,13 @@
 #include "ui/clips/ClipPreview.h"
 
+#include "base/FileUrl.h"
 #include "platform/ImageDecoder.h"
 #include "store/Store.h"
 #include "ui/clips/ClipColor.h"
+#include "ui/clips/FormNames.h"
+#include "ui/clips/ProgramName.h"
+#include "ui/images/FileThumb.h"
+#include "vault/Vault.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -24,6 +29,14 @@ namespace {
 constexpr qsizetype portion = 20'000;
 
 constexpr qsizetype longestValue = 2000;
+
+constexpr qsizetype maxFiles = 50; ///< Shown of a clip.
+
+/// Bytes of a file, 0 of a folder, -1 if it is not there. May block for ever.
+qint64 sizeOfFile(const QUrl& file) {
+    const QFileInfo info(QFile::decodeName(filePath(file)));
+    return !info.exists() ? -1 : info.isDir() ? 0 : info.size();
+}
 
 /// Does not split a surrogate pair.
 qsizetype portionEnd(const QString& text, qsizetype begin) {
@@ -61,13 +74,19 @@ void ClipPreview::show(const QUuid& id) {
     shown_ = kind_ == Image ? 0 : portionEnd(clip_.text, 0);
     names_.clear();
     values_.clear();
+    pictures_.clear();
     pixels_ = {};
+    details_ = none ? ClipDetails() : store_.detailsOf(id);
+    bytes_ = -1;
     if (kind_ == Link) {
         describeLink();
     } else if (kind_ == Color) {
         describeColor();
     } else if (kind_ == Image) {
         lookAtPicture();
+    }
+    if (kind_ != None && store_.hasForms(id)) {
+        lookAtForms();
     }
     Q_EMIT changed();
     Q_EMIT pixelsChanged();
@@ -133,7 +152,73 @@ void ClipPreview::lookAtPicture() {
     });
 }
 
+/// What is kept beside the clip, and then whether its files are still there.
+void ClipPreview::lookAtForms() {
+    work_.run([vault = store_.vault(), path = store_.formsPath(clip_.id), id = clip_.id,
+               self = QPointer(this)] {
+        const auto kept = readForms(*vault, path).value_or(ClipForms());
+        const QList<QUrl> files = filesOf(kept);
+        const auto report = [&self, &id](auto show) {
+            QMetaObject::invokeMethod(qApp, [self, id, show] {
+                if (self && self->clip_.id == id && self->kind_ != None) {
+                    show(*self);
+                }
+            });
+        };
+        report([details = detailsOf(kept), files](ClipPreview& preview) {
+            preview.showForms(details, files);
+        });
+        QList<qint64> sizes;
+        for (const QUrl& file : files.first(std::min(files.size(), maxFiles))) {
+            sizes.append(sizeOfFile(file));
+        }
+        report([sizes](ClipPreview& preview) { preview.showSizes(sizes); });
+    });
+}
+
+void ClipPreview::showForms(const ClipDetails& details, const QList<QUrl>& files) {
+    details_ = details;
+    if (!files.isEmpty() && kind_ == Text) {
+        kind_ = Files;
+        for (const QUrl& file : files.first(std::min(files.size(), maxFiles))) {
+            names_.append(file.fileName());
+            values_.append(QString());
+            pictures_.append(fileThumbAddress(file));
+        }
+    }
+    Q_EMIT changed();
+    Q_EMIT pixelsChanged();
+}
+
+void ClipPreview::showSizes(const QList<qint64>& sizes) {
+    if (kind_ != Files) {
+        return;
+    }
+    bytes_ = sizes.size() == details_.files && !sizes.contains(-1) ? 0 : -1;
+    for (qsizetype i = 0; i < sizes.size(); ++i) {
+        bytes_ += bytes_ < 0 ? 0 : sizes[i];
+        values_[i] = sizes[i] < 0 ? tr("Not there any more")
+                     : sizes[i] == 0
+                         ? QString()
+                         : locale_.formattedDataSize(sizes[i], 1, QLocale::DataSizeSIFormat);
+    }
+    Q_EMIT changed();
+    Q_EMIT pixelsChanged();
+}
+
+QString ClipPreview::program() const {
+    return programName(details_.program);
+}
+
 QString ClipPreview::measure() const {
+    if (kind_ == Files) {
+        const QString files = details_.files == 1
+                                  ? tr("1 file")
+                                  : tr("%1 files").arg(locale_.toString(details_.files));
+        return bytes_ <= 0 ? files
+                           : files + u", "_s +
+                                 locale_.formattedDataSize(bytes_, 1, QLocale::DataSizeSIFormat);
+    }
     if (kind_ == Image) {
         return pixels_.isEmpty() ? QString()
                                  : tr("%1 \u00d7 %2").arg(pixels_.width()).arg(pixels_.height());
@@ -158,11 +243,13 @@ QString ClipPreview::forms() const {
         return tr("Link");
     case None:
         return {};
+    case Files:
+        return tr("Files");
     case Text:
     case Color:
         break;
     }
-    return tr("Text");
+    return (QStringList{tr("Text")} + formNames(details_.forms)).join(u", "_s);
 }
 
 } // namespace ravelo

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "store/ClipDetails.h"
 #include "store/Records.h"
 #include "ui/images/SlowWork.h"
 
@@ -30,9 +31,14 @@ class ClipPreview : public QObject {
     /// Of a link: scheme and host.
     Q_PROPERTY(QString scheme READ scheme NOTIFY changed)
     Q_PROPERTY(QString host READ host NOTIFY changed)
-    /// Of a link, its parts; of a color, how it can be written. The same number of each.
+    /// Of a link, its parts; of a color, how it can be written; of files, their names and what is
+    /// said below. The same number of each.
     Q_PROPERTY(QStringList names READ names NOTIFY changed)
     Q_PROPERTY(QStringList values READ values NOTIFY changed)
+    /// Of files, addresses of their pictures.
+    Q_PROPERTY(QStringList pictures READ pictures NOTIFY changed)
+    /// That it was copied from; empty if it is not known.
+    Q_PROPERTY(QString program READ program NOTIFY changed)
     Q_PROPERTY(QColor color READ color NOTIFY changed)
     Q_PROPERTY(QString imageFileName READ imageFileName NOTIFY changed)
     /// Pixels of the picture; empty until it is known.
@@ -41,7 +47,7 @@ class ClipPreview : public QObject {
     Q_PROPERTY(QString forms READ forms NOTIFY changed)
 
 public:
-    enum Kind { None, Text, Link, Color, Image };
+    enum Kind { None, Text, Link, Color, Image, Files };
     Q_ENUM(Kind)
 
     /// `store` outlives this.
@@ -65,6 +71,10 @@ public:
 
     [[nodiscard]] QStringList values() const { return values_; }
 
+    [[nodiscard]] const QStringList& pictures() const { return pictures_; }
+
+    [[nodiscard]] QString program() const;
+
     [[nodiscard]] QColor color() const { return color_; }
 
     [[nodiscard]] QString imageFileName() const { return clip_.imageFileName; }
@@ -85,6 +95,9 @@ private:
     void describeColor();
     void add(const QString& name, const QString& value);
     void lookAtPicture();
+    void lookAtForms();
+    void showForms(const ClipDetails& details, const QList<QUrl>& files);
+    void showSizes(const QList<qint64>& sizes);
 
     Store& store_;
     std::shared_ptr<ImageDecoder> decoder_;
@@ -99,6 +112,9 @@ private:
     QStringList values_;
     QColor color_;
     QSize pixels_;
+    ClipDetails details_;
+    QStringList pictures_;
+    qint64 bytes_ = -1; ///< Of all files; negative if not all are known.
 };
 
 } // namespace ravelo

@@ -1,5 +1,6 @@
 #include "ui/clips/ClipQuery.h"
 
+#include "clipboard/CaptureRules.h"
 #include "ui/clips/ClipColor.h"
 
 #include <QDateTime>
@@ -19,10 +20,13 @@ struct NamedType {
     ClipQuery::Type type;
 };
 
-constexpr std::array<NamedType, 4> types = {{{"text"_L1, ClipQuery::Type::text},
+constexpr std::array<NamedType, 5> types = {{{"text"_L1, ClipQuery::Type::text},
                                              {"link"_L1, ClipQuery::Type::link},
                                              {"image"_L1, ClipQuery::Type::image},
+                                             {"files"_L1, ClipQuery::Type::files},
                                              {"color"_L1, ClipQuery::Type::color}}};
+
+constexpr QLatin1StringView expressionMark("re:");
 
 std::optional<ClipQuery::Type> typeOf(QStringView name) {
     const auto* const found =
@@ -58,6 +62,10 @@ bool add(ClipQuery& query, const QString& word, Date now) {
         query.type = type ? type : query.type;
         return type.has_value();
     }
+    if (key == u"app"_s) {
+        query.program = value.isEmpty() ? query.program : value;
+        return !value.isEmpty();
+    }
     if (key == u"before"_s || key == u"after"_s) {
         const auto moment = momentOf(value, now);
         auto& limit = key == u"before"_s ? query.before : query.after;
@@ -81,6 +89,15 @@ ClipQuery ClipQuery::parse(const QString& written, Date now) {
         start = std::min(end + 1, written.size());
     }
     query.text = written.mid(start);
+    if (query.text.startsWith(expressionMark)) {
+        const QString expression = query.text.mid(expressionMark.size());
+        query.text.clear();
+        if (!expression.isEmpty()) {
+            const auto pattern = ignorePattern(expression);
+            query.expression = pattern.value_or(QRegularExpression());
+            query.mistake = pattern ? QString() : pattern.error().message;
+        }
+    }
     return query;
 }
 
@@ -89,8 +106,9 @@ bool ClipQuery::isFilter(const QString& word) {
     return add(query, word, {});
 }
 
-bool ClipQuery::accepts(const ClipItem& clip) const {
-    if ((after && clip.date < *after) || (before && clip.date >= *before)) {
+bool ClipQuery::accepts(const ClipItem& clip, const ClipDetails& details) const {
+    if ((after && clip.date < *after) || (before && clip.date >= *before) ||
+        !details.program.contains(program, Qt::CaseInsensitive)) {
         return false;
     }
     if (!type) {
@@ -103,6 +121,8 @@ bool ClipQuery::accepts(const ClipItem& clip) const {
         return clip.kind == ClipKind::image;
     case Type::color:
         return clip.kind == ClipKind::text && colorOf(clip.text).isValid();
+    case Type::files:
+        return details.files > 0;
     case Type::text:
         return clip.kind == ClipKind::text;
     }
@@ -110,6 +130,15 @@ bool ClipQuery::accepts(const ClipItem& clip) const {
 }
 
 QString ClipQuery::nothingFound() const {
+    if (!mistake.isEmpty()) {
+        return mistake;
+    }
+    if (expression) {
+        return tr("Nothing matches");
+    }
+    if (!program.isEmpty() && text.isEmpty()) {
+        return tr("Nothing from \u201c%1\u201d").arg(program);
+    }
     if (!type) {
         return !text.isEmpty() ? tr("Nothing has \u201c%1\u201d").arg(text)
                : hasFilter()   ? tr("Nothing from this time")
@@ -127,6 +156,8 @@ QString ClipQuery::nothingFound() const {
             return {tr("No link has \u201c%1\u201d."), tr("No links")};
         case Type::image:
             return {tr("No image has \u201c%1\u201d."), tr("No images")};
+        case Type::files:
+            return {tr("No files have \u201c%1\u201d."), tr("No files")};
         case Type::color:
             return {tr("No color has \u201c%1\u201d."), tr("No colors")};
         case Type::text:

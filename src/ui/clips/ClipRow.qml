@@ -26,6 +26,7 @@ Card {
     required subtitle
     required marks
     required order
+    required property string ago
 
     signal deleted
 

@@ -24,6 +24,12 @@ TabPage {
 
     flick: list
 
+    ClipSheetPlace {
+        parent: tab.stage
+        anchors.fill: parent
+        editor: tab.clips.editor
+    }
+
     function clearSearch(): bool {
         if (preview.opened) {
             const hadFocus = bubble.focused;
@@ -157,6 +163,10 @@ TabPage {
             select(list.currentIndex + page);
         } else if (control && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             clips.openLink(list.currentIndex);
+        } else if (searching && event.modifiers & Qt.AltModifier && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
+            clips.copyPlainAndClose(list.currentIndex);
+        } else if (event.key === Qt.Key_F2) {
+            clips.edit(list.currentIndex);
         } else if (searching && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             finish(list.currentIndex, event.modifiers);
         } else if (digitOf(event) > 0) {
@@ -258,6 +268,7 @@ TabPage {
             { text: qsTr("Text"), filter: "type:text" },
             { text: qsTr("Links"), filter: "type:link" },
             { text: qsTr("Images"), filter: "type:image" },
+            { text: qsTr("Files"), filter: "type:files" },
             { text: qsTr("Colors"), filter: "type:color" },
             { divider: true },
             { text: qsTr("Today"), filter: "after:today" },
@@ -403,6 +414,7 @@ TabPage {
                 onTileHoveredChanged: preview.point(index, tileHovered)
                 onTapped: modifiers => tab.tap(index, modifiers)
                 onMenuRequested: place => rowMenu.openAtRow(row, mapToItem(rowMenu.parent, place))
+                onDragged: tab.clips.drag(index, row)
                 onDeleted: tab.clips.remove(index)
             }
 

@@ -18,12 +18,18 @@ Clips::Clips(Services services, const QLocale& locale)
       services_(services),
       locale_(locale),
       list_(services.store, services.scheduler, locale),
-      links_(services.opener, services.scheduler, services.toast),
+      links_(services.opener, services.jobs, services.scheduler, services.toast),
       pasting_(services.pasting, services.settings, services.controller),
       preview_(services.store, services.decoder, locale),
+      drag_(services.store, services.jobs, services.scheduler),
       ages_(services.scheduler, list_) {
     connect(&list_.selection(), &ClipSelection::changed, this, &Clips::selectedChanged);
     connect(&services_.settings, &AppSettings::joinWithChanged, this, &Clips::joinedChanged);
+    connect(&editor_, &ClipEditor::copied, this, &Clips::copyEdited);
+    connect(&editor_, &ClipEditor::tooLong, this,
+            [this] { services_.toast.flash(tr("Too long to edit")); });
+    connect(&drag_, &ClipDrag::draggingChanged, this,
+            [this] { services_.controller.setDraggingOut(drag_.isDragging()); });
     connect(&links_, &LinkOpening::opened, &services_.controller, &NotchController::dismiss);
 }
 
@@ -38,6 +44,7 @@ void Clips::reset() {
     list_.selection().clear();
     links_.reset();
     pasting_.reset();
+    editor_.discard();
 }
 
 void Clips::showTooLarge(const TooLargeCopy& copy) {
@@ -57,10 +64,10 @@ void Clips::copy(int row) {
     if (clip == nullptr) {
         return;
     }
-    if (clip->kind == ClipKind::image && !clip->imageFileName.isEmpty()) {
-        services_.controller.copyImage(services_.store.imagePath(clip->imageFileName));
-    } else {
+    if (clip->kind == ClipKind::image && clip->imageFileName.isEmpty()) {
         services_.controller.copy(clip->text);
+    } else {
+        services_.controller.copyClip(clip->id);
     }
     services_.toast.flashCopied();
 }
@@ -75,6 +82,54 @@ void Clips::copyAndClose(int row) {
 void Clips::pasteAndClose(int row) {
     if (const ClipItem* clip = clipAt(row)) {
         pasting_.run(clip->text, [this, id = clip->id] { copy(list_.rowOf(id)); });
+    }
+}
+
+void Clips::copyPlainAndClose(int row) {
+    const ClipItem* clip = clipAt(row);
+    if (clip != nullptr && clip->kind != ClipKind::image) {
+        services_.controller.copy(clip->text);
+        services_.toast.flashCopied();
+        close();
+    }
+}
+
+bool Clips::hasOtherForms(int row) const {
+    const QUuid id = list_.idAt(row);
+    return services_.store.hasForms(id) && !services_.store.detailsOf(id).forms.isEmpty();
+}
+
+void Clips::edit(int row) {
+    if (const ClipItem* clip = clipAt(row)) {
+        editor_.edit(*clip);
+    }
+}
+
+/// The text is the user's own: no rule applies to it.
+void Clips::copyEdited(const QString& text) {
+    services_.store.addClip(text);
+    services_.controller.copy(text);
+    services_.toast.flashCopied();
+    close();
+}
+
+void Clips::drag(int row, QQuickItem* from) {
+    const ClipItem* clip = clipAt(row);
+    if (clip == nullptr) {
+        return;
+    }
+    const QStringList texts = selectedTexts();
+    if (texts.size() > 1 && list_.selection().orderOf(clip->id) > 0) {
+        drag_.start(joined(texts), *from);
+    } else {
+        drag_.start(*clip, *from);
+    }
+}
+
+void Clips::look(int row) {
+    if (const ClipItem* clip = clipAt(row)) {
+        links_.look(*clip);
+        services_.store.lookUpDetails(clip->id);
     }
 }
 
@@ -103,7 +158,8 @@ void Clips::clearSelection() {
     list_.selection().clear();
 }
 
-QStringList Clips::selectedTexts() {
+/// Of the chosen clips that are no pictures.
+QStringList Clips::selectedTexts() const {
     QStringList texts;
     for (const QUuid& id : list_.selection().ids()) {
         const ClipItem* clip = clipOf(id);

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "ui/clips/ClipDrag.h"
+#include "ui/clips/ClipEditor.h"
 #include "ui/clips/ClipListModel.h"
 #include "ui/clips/ClipPasting.h"
 #include "ui/clips/ClipPreview.h"
@@ -13,6 +15,7 @@
 namespace ravelo {
 
 class Deleting;
+class DetachedJobs;
 class NotchController;
 
 /// The tab with the clipboard history and snippets. Main thread.
@@ -22,6 +25,7 @@ class Clips : public ravelo::Tab {
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(ravelo::ClipListModel* list READ list CONSTANT)
     Q_PROPERTY(ravelo::LinkOpening* links READ links CONSTANT)
+    Q_PROPERTY(ravelo::ClipEditor* editor READ editor CONSTANT)
     Q_PROPERTY(ravelo::ClipPreview* preview READ preview CONSTANT)
     Q_PROPERTY(ravelo::ClipPasting* pasting READ pasting CONSTANT)
     /// How chosen clips are joined, for the user.
@@ -36,6 +40,7 @@ public:
         Store& store;
         NotchController& controller;
         FileOpener& opener;
+        DetachedJobs& jobs;
         Scheduler& scheduler;
         Toast& toast;
         Deleting& deleting;
@@ -50,6 +55,8 @@ public:
     [[nodiscard]] ClipListModel* list() { return &list_; }
 
     [[nodiscard]] LinkOpening* links() { return &links_; }
+
+    [[nodiscard]] ClipEditor* editor() { return &editor_; }
 
     [[nodiscard]] ClipPreview* preview() { return &preview_; }
 
@@ -80,6 +87,15 @@ public:
     Q_INVOKABLE void copyAndClose(int row);
     /// See ClipPasting.
     Q_INVOKABLE void pasteAndClose(int row);
+    /// Without its other forms.
+    Q_INVOKABLE void copyPlainAndClose(int row);
+    /// Whether that makes a difference, as far as it is known.
+    [[nodiscard]] Q_INVOKABLE bool hasOtherForms(int row) const;
+    Q_INVOKABLE void edit(int row);
+    /// All chosen clips if the row is one of them.
+    Q_INVOKABLE void drag(int row, QQuickItem* from);
+    /// Learns what its menu can offer.
+    Q_INVOKABLE void look(int row);
     Q_INVOKABLE void toggleSelected(int row);
     /// From where choosing began, else from `current`.
     Q_INVOKABLE void selectTo(int row, int current);
@@ -110,8 +126,9 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] qsizetype removed(const std::function<void()>& remove) const;
-    [[nodiscard]] QStringList selectedTexts();
+    [[nodiscard]] QStringList selectedTexts() const;
     [[nodiscard]] QString joined(const QStringList& texts) const;
+    void copyEdited(const QString& text);
     [[nodiscard]] const ClipItem* clipOf(const QUuid& id) const;
 
     [[nodiscard]] const ClipItem* clipAt(int row) const { return clipOf(list_.idAt(row)); }
@@ -122,6 +139,8 @@ private:
     LinkOpening links_;
     ClipPasting pasting_;
     ClipPreview preview_;
+    ClipEditor editor_;
+    ClipDrag drag_;
     RowAges ages_;
 };
 

@@ -15,19 +15,20 @@ Item {
     required property real lowest
     property real centre: 0
     property bool opened: false
-    /// Where and when it was copied.
+    /// When it was copied.
     property string origin
 
     readonly property bool hovered: hover.hovered
     /// The text in it has the keyboard.
     readonly property bool focused: text.focused
     readonly property Item body: preview.kind === ClipPreview.Text ? text
-        : preview.kind === ClipPreview.Image ? image : preview.kind === ClipPreview.Color ? color : link
+        : preview.kind === ClipPreview.Image ? image : preview.kind === ClipPreview.Color ? color
+        : preview.kind === ClipPreview.Files ? files : link
     readonly property real most: lowest - highest - footer.height
     readonly property real wide: room < 764 ? Math.max(240, room - 160) : 452
 
     function scroll(by: int) {
-        text.scroll(by);
+        preview.kind === ClipPreview.Files ? files.scroll(by) : text.scroll(by);
     }
 
     function focusText() {
@@ -130,12 +131,21 @@ Item {
         largest: bubble.most
     }
 
+    PreviewFiles {
+        id: files
+        visible: bubble.preview.kind === ClipPreview.Files
+        width: parent.width
+        height: footer.y
+        preview: bubble.preview
+        largest: bubble.most
+    }
+
     PreviewFooter {
         id: footer
         x: 16
         y: parent.height - height
         width: parent.width - 32
-        origin: bubble.origin
+        origin: [bubble.preview.program, bubble.origin].filter(part => part !== "").join(" · ")
         details: [bubble.preview.measure, bubble.preview.forms]
     }
 }

@@ -25,7 +25,7 @@ QtObject {
         row = wanted;
         clips.showPreview(wanted);
         bubble.centre = bubble.parent.mapFromItem(item, 0, item.height / 2).y;
-        bubble.origin = item.subtitle;
+        bubble.origin = item.ago;
         bubble.opened = true;
     }
 

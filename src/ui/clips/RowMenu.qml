@@ -14,6 +14,20 @@ Menu {
 
     signal copied(int row)
 
+    readonly property bool isText: row?.icon !== "photo"
+    /// Known a moment after it opens.
+    property bool hasForms: false
+
+    onOpenedChanged: hasForms = opened && clips.hasOtherForms(list.currentIndex)
+
+    Connections {
+        target: menu.clips.list
+        enabled: menu.opened
+        function onDetailsKnown() {
+            menu.hasForms = menu.clips.hasOtherForms(menu.list.currentIndex);
+        }
+    }
+
     /// By a key: below the row's text.
     function openFor(wanted: int) {
         const item = list.itemAtIndex(wanted) as ClipRow;
@@ -27,6 +41,7 @@ Menu {
         if (!item.tooLarge) {
             preview.close();
             row = item;
+            clips.look(item.index);
             openAt(place, false, false);
         }
     }
@@ -50,10 +65,14 @@ Menu {
         { text: qsTr("Forget now"), hint: qsTr("Delete"), chosen: () => clips.forgetSecret(list.currentIndex) }
     ] : [
         { text: qsTr("Copy"), hint: clips.pasting.copyKeys, chosen: () => menu.copied(list.currentIndex) }
-    ].concat(paste).concat([
+    ].concat(paste).concat(isText && hasForms ? [
+        { text: qsTr("Copy as plain text"), hint: qsTr("Alt+Return"), chosen: () => clips.copyPlainAndClose(list.currentIndex) }
+    ] : []).concat(isText ? [
+        { text: qsTr("Edit…"), hint: qsTr("F2"), chosen: () => clips.edit(list.currentIndex) }
+    ] : []).concat([
         { divider: true },
         { text: qsTr("Preview"), hint: qsTr("Space"), chosen: () => preview.openCurrent() }
-    ]).concat(row?.icon === "link" ? [
+    ]).concat(row?.icon === "link" || clips.links.file ? [
         { text: qsTr("Open"), hint: qsTr("Ctrl+Return"), chosen: () => clips.openLink(list.currentIndex) }
     ] : []).concat([
         { divider: true },

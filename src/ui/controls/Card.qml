@@ -37,6 +37,8 @@ Item {
     readonly property real textEnd: width - 12 - (lit ? buttons.width + 6 : 26)
 
     signal tapped(int modifiers)
+    /// A drag with the mouse is to begin.
+    signal dragged
     /// By the right button; the place is in the card.
     signal menuRequested(point place)
 
@@ -68,6 +70,23 @@ Item {
         id: area
         anchors.fill: parent
         acceptedButtons: Qt.LeftButton | Qt.RightButton
+
+        property point pressPlace
+        property bool drags: false
+
+        // A finger scrolls the list.
+        onPressed: mouse => {
+            preventStealing = mouse.source === Qt.MouseEventNotSynthesized;
+            drags = preventStealing && mouse.button === Qt.LeftButton;
+            pressPlace = Qt.point(mouse.x, mouse.y);
+        }
+        onPositionChanged: mouse => {
+            const moved = Math.abs(mouse.x - pressPlace.x) + Math.abs(mouse.y - pressPlace.y);
+            if (pressed && drags && moved >= Application.styleHints.startDragDistance) {
+                drags = false;
+                card.dragged();
+            }
+        }
         onClicked: mouse => {
             if (mouse.button === Qt.RightButton) {
                 card.menuRequested(Qt.point(mouse.x, mouse.y));

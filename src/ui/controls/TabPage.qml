@@ -13,6 +13,8 @@ FocusScope {
     readonly property real head: place.head
     /// Scrolls the page.
     property Flickable flick: null
+    /// Covers the whole panel, for sheets.
+    readonly property Item stage: place.stage
 
     /// Ends a scroll animation.
     function stopScrolling() {

@@ -13,6 +13,8 @@ Loader {
     required property bool current
     /// Height of what scrolls away above the tabs; 0 if it stays.
     required property real head
+    /// Above the whole panel.
+    required property Item stage
 
     readonly property bool wanted: current || tab.kept
 

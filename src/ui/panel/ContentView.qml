@@ -212,6 +212,7 @@ FocusScope {
                 shown: content.shown
                 dropTargeted: content.dropTargeted
                 head: content.compact ? content.headHeight : 0
+                stage: cover
                 // qmllint enable unqualified
             }
         }
@@ -237,6 +238,12 @@ FocusScope {
         anchors.fill: parent
         z: 2
         editor: content.snippets.editor
+    }
+
+    Item {
+        id: cover
+        anchors.fill: parent
+        z: 2
     }
 
     ToastCapsule {

@@ -80,5 +80,15 @@ Column {
             on: page.settings.keepSelectedText
             onToggled: on => page.settings.keepSelectedText = on
         }
+
+        SwitchRow {
+            preference: "showOrigins"
+            text: qsTr("Show program and size in the list")
+            note: page.host.knowsPrograms
+                ? qsTr("Of what is copied from now on; also finds it by “app:firefox”.")
+                : qsTr("Sizes only: this desktop does not show programs who copied.")
+            on: page.settings.showOrigins
+            onToggled: on => page.settings.showOrigins = on
+        }
     }
 }

@@ -1,5 +1,8 @@
 #include "ui/clips/ClipListModel.h"
 #include "fakes/PanelWorld.h"
+#include "support/TestPictures.h"
+
+#include <QElapsedTimer>
 
 #include <gtest/gtest.h>
 
@@ -145,6 +148,91 @@ TEST(ClipListModel, showsTitleIconAndSubtitle) {
         EXPECT_EQ(model.data(row, ClipListModel::iconRole).toString(), c.icon);
         EXPECT_EQ(model.data(row, ClipListModel::subtitleRole).toString(), c.subtitle);
     }
+}
+
+TEST(ClipListModel, showsProgramAndSizeIfSet) {
+    StoreData data;
+    data.clips = {clip(u"a"_s, Seconds(60)), pinned(clip(u"/x\n/y"_s, Seconds(60))),
+                  clip(u"plain"_s, Seconds(60))};
+    PanelWorld world(data);
+    world.store.addImageClip({{u"image/png"_s}, {{u"image/png"_s, picture("png", Qt::red)}}});
+    world.scheduler.advance(Seconds(0));
+    world.worker.drain();
+    ClipListModel model(world.store, world.scheduler, english);
+    const auto subtitles = [&] {
+        QStringList all;
+        for (int row = 0; row < model.count(); ++row) {
+            all.append(model.data(model.index(row), ClipListModel::subtitleRole).toString());
+        }
+        return all;
+    };
+    const QUuid image = model.idAt(0);
+    world.store.setForms(image, {u"gimp"_s});
+    world.store.setForms(data.clips[0].id, {u"org.kde.kate"_s});
+    world.store.setForms(data.clips[1].id,
+                         {u"Thunar"_s, {{u"text/uri-list"_s, "file:///x\r\nfile:///y\r\n"}}});
+    EXPECT_EQ(subtitles()[2], u"Pinned · 1 min. ago"_s);
+    model.setOrigins(ClipListModel::Origins::shown);
+    world.scheduler.advance(Seconds(0));
+    const QString now = model.data(model.index(0), ClipListModel::agoRole).toString();
+    const QSize size = world.store.detailsOf(image).pixels;
+    EXPECT_FALSE(size.isEmpty());
+    EXPECT_EQ(subtitles(),
+              QStringList({u"%1 × %2 · Gimp · %3"_s.arg(size.width()).arg(size.height()).arg(now),
+                           u"Kate · 1 min. ago"_s, u"Pinned · 2 files · Thunar · 1 min. ago"_s,
+                           u"1 min. ago"_s}));
+    model.setSearch(u"app:thun"_s);
+    EXPECT_EQ(model.tally(), u"1 of 4"_s);
+    model.setSearch(u"type:files"_s);
+    EXPECT_EQ(model.tally(), u"1 of 4"_s);
+}
+
+TEST(ClipListModel, searchesByARegularExpression) {
+    struct Case {
+        QString search;
+        QString tally;
+        QList<TextRange> marks; ///< In the first row.
+        QString nothingFound;
+    };
+
+    const Case cases[] = {
+        {u"re:o+ [a-z]"_s, u"1 of 3"_s, {{1, 4}}, u"Nothing matches"_s},
+        {u"re:(?i)FOO"_s, u"2 of 3"_s, {{0, 3}}, u"Nothing matches"_s},
+        {u"re:x*"_s, u"3 of 3"_s, {}, u"Nothing matches"_s},
+        {u"re:[foo"_s, u"0 of 3"_s, {}, u"A bracket is not closed, at character 1"_s},
+        {u"re:^nothing$"_s, u"0 of 3"_s, {}, u"Nothing matches"_s},
+    };
+    StoreData data;
+    data.clips = {clip(u"foo bar"_s, Seconds(1)), clip(u"Foo"_s, Seconds(2)),
+                  clip(u"third"_s, Seconds(3))};
+    PanelWorld world(data);
+    ClipListModel model(world.store, world.scheduler, english);
+    for (const Case& c : cases) {
+        model.setSearch(c.search);
+        EXPECT_EQ(model.tally(), c.tally) << qPrintable(c.search);
+        if (model.count() > 0) {
+            EXPECT_EQ(
+                model.data(model.index(0), ClipListModel::marksRole).value<QList<TextRange>>(),
+                c.marks)
+                << qPrintable(c.search);
+        }
+        EXPECT_EQ(model.nothingFound(), c.nothingFound) << qPrintable(c.search);
+    }
+}
+
+TEST(ClipListModel, givesUpAnExpressionThatTakesTooLong) {
+    StoreData data;
+    for (int i = 0; i < 1000; ++i) {
+        data.clips.append(clip(QString(60'000, u'a') + QString::number(i), Seconds(i)));
+    }
+    PanelWorld world(data);
+    ClipListModel model(world.store, world.scheduler, english);
+    QElapsedTimer spent;
+    spent.start();
+    model.setSearch(u"re:(a+)+[x-z]$"_s);
+    EXPECT_LT(spent.elapsed(), 2000);
+    EXPECT_EQ(model.count(), 0);
+    EXPECT_EQ(model.nothingFound(), u"This expression takes too long"_s);
 }
 
 const QLocale turkish(QLocale::Turkish, QLocale::Turkey);

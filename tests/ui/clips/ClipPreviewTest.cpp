@@ -1,6 +1,9 @@
 #include "ui/clips/ClipPreview.h"
 #include "fakes/PanelWorld.h"
 
+#include "support/Eventually.h"
+#include "support/TestFiles.h"
+
 #include <gtest/gtest.h>
 
 namespace ravelo {
@@ -79,6 +82,35 @@ TEST(ClipPreview, givesALongTextInParts) {
     while (preview.showMore()) {
     }
     EXPECT_EQ(shown, text);
+}
+
+TEST(ClipPreview, showsFilesAndOtherForms) {
+    StoreData data;
+    data.clips = {clip(u"/x\n/y"_s, Seconds(1)), clip(u"rich"_s, Seconds(2))};
+    PanelWorld world(data);
+    const QString there = makeFile(world.folder.filePath(u"a b.txt"_s), QByteArray(2500, 'x'));
+    const QByteArray list = QUrl::fromLocalFile(there).toEncoded() + "\r\nfile:///nowhere/c\r\n";
+    world.store.setForms(data.clips[0].id, {u"org.gnome.Nautilus"_s, {{u"text/uri-list"_s, list}}});
+    world.store.setForms(data.clips[1].id, {{},
+                                            {{u"text/html"_s, "<b>"},
+                                             {u"application/rtf"_s, "{}"},
+                                             {u"text/rtf"_s, "{}"},
+                                             {u"text/csv"_s, "a"}}});
+    world.worker.drain();
+    ClipPreview preview(world.store, nullptr, english);
+    preview.show(data.clips[0].id);
+    EXPECT_TRUE(eventually([&] { return preview.values().value(0) == u"2.5 kB"_s; }));
+    EXPECT_EQ(preview.kind(), ClipPreview::Files);
+    EXPECT_EQ(preview.names(), QStringList({u"a b.txt"_s, u"c"_s}));
+    EXPECT_EQ(preview.values()[1], u"Not there any more"_s);
+    EXPECT_EQ(preview.pictures().size(), 2);
+    EXPECT_EQ(preview.measure(), u"2 files"_s) << "the size of one is not known";
+    EXPECT_EQ(preview.forms(), u"Files"_s);
+    EXPECT_EQ(preview.program(), u"Nautilus"_s);
+    preview.show(data.clips[1].id);
+    EXPECT_EQ(preview.forms(), u"Text, HTML, RTF, Table"_s);
+    EXPECT_EQ(preview.kind(), ClipPreview::Text);
+    EXPECT_TRUE(preview.pictures().isEmpty());
 }
 
 } // namespace

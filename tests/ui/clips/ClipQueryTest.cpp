@@ -22,6 +22,9 @@ TEST(ClipQuery, filtersAndThenText) {
         {QUuid(), u" #2F6F62 "_s, ClipKind::text, before(24 * 8), false, {}},
     };
 
+    const QList<ClipDetails> details = {
+        {u"Kate"_s}, {u"org.mozilla.firefox"_s}, {u"Gimp"_s}, {u"Thunar"_s, {}, 2}};
+
     struct Case {
         QString written;
         QList<int> accepted;
@@ -36,6 +39,13 @@ TEST(ClipQuery, filtersAndThenText) {
         {u"TYPE:Link  oak "_s, {1}, u" oak "_s, u"No link has “ oak ”."_s},
         {u"type:image alcove"_s, {2}, u"alcove"_s, u"No image has “alcove”."_s},
         {u"type:color"_s, {3}, {}, u"No colors"_s},
+        {u"type:files"_s, {3}, {}, u"No files"_s},
+        {u"app:fireFOX "_s, {1}, {}, u"Nothing from “firefox”"_s},
+        {u"app:a type:text x"_s, {0, 3}, u"x"_s, u"No text has “x”."_s},
+        {u"app:"_s, {0, 1, 2, 3}, u"app:"_s, u"Nothing has “app:”"_s},
+        {u"re:"_s, {0, 1, 2, 3}, {}, {}},
+        {u"type:text re:o a"_s, {0, 3}, {}, u"Nothing matches"_s},
+        {u"re:(oak"_s, {0, 1, 2, 3}, {}, u"A bracket is not closed, at character 1"_s},
         {u"after:today"_s, {0}, {}, u"Nothing from this time"_s},
         {u"before:7d type:text x"_s, {3}, u"x"_s, u"No text has “x”."_s},
         {u"after:12h"_s, {0}, {}, u"Nothing from this time"_s},
@@ -53,7 +63,7 @@ TEST(ClipQuery, filtersAndThenText) {
         const ClipQuery query = ClipQuery::parse(c.written, now);
         QList<int> accepted;
         for (int i = 0; i < clips.size(); ++i) {
-            if (query.accepts(clips[i])) {
+            if (query.accepts(clips[i], details[i])) {
                 accepted.append(i);
             }
         }

@@ -5,7 +5,7 @@ namespace ravelo {
 
 namespace {
 
-enum class Done { nothing, opened, asked, refused };
+enum class Done { nothing, opened, asked, refused, missing };
 
 TEST(LinkOpening, opensHarmlessLinksAndAsksOrRefusesOtherwise) {
     struct Case {
@@ -20,7 +20,11 @@ TEST(LinkOpening, opensHarmlessLinksAndAsksOrRefusesOtherwise) {
         {u"mailto:ren@a.example"_s, ClipKind::text, Done::opened},
         {u"mailto: is a scheme"_s, ClipKind::text, Done::nothing},
         {u"zoommtg://join?x=1"_s, ClipKind::url, Done::asked},
-        {u"file:///home/me/x.desktop"_s, ClipKind::url, Done::asked},
+        {u"file:///nowhere/x.desktop"_s, ClipKind::url, Done::missing},
+        {u" /nowhere/at all "_s, ClipKind::text, Done::missing},
+        {u"/etc/hostname"_s, ClipKind::text, Done::asked},
+        {u"file:///etc/hostname"_s, ClipKind::url, Done::asked},
+        {u"/etc/hostname\n/etc/hosts"_s, ClipKind::text, Done::nothing},
         {u"javascript:alert(1)"_s, ClipKind::text, Done::refused},
         {u"JavaScript://a.example/%0aalert(1)"_s, ClipKind::url, Done::refused},
         {u"data:text/html,<script></script>"_s, ClipKind::text, Done::refused},
@@ -33,14 +37,18 @@ TEST(LinkOpening, opensHarmlessLinksAndAsksOrRefusesOtherwise) {
         ManualScheduler scheduler;
         FakeFileOpener opener;
         Toast toast(scheduler);
-        LinkOpening links(opener, scheduler, toast);
+        FakeDetachedJobs jobs(scheduler);
+        LinkOpening links(opener, jobs, scheduler, toast);
         QString asked;
         QObject::connect(&links, &LinkOpening::asked, &links,
                          [&](const QString& question) { asked = question; });
         links.open(clip(c.text, Seconds(1), c.kind));
+        const bool refused = c.done == Done::refused;
+        EXPECT_EQ(toast.text(), refused ? u"Not opened"_s : QString()) << "at once";
+        scheduler.advance(Seconds(0));
         EXPECT_EQ(opener.opened,
                   c.done == Done::opened ? QList{QUrl(c.text.trimmed())} : QList<QUrl>());
-        EXPECT_EQ(toast.text(), c.done == Done::refused ? u"Not opened"_s : QString()) << "at once";
+        EXPECT_EQ(toast.text() == u"Not there any more"_s, c.done == Done::missing);
         opener.answer(u"Door"_s);
         EXPECT_EQ(asked, c.done == Done::asked ? u"Open with Door?"_s : QString());
     }
@@ -50,7 +58,8 @@ TEST(LinkOpening, reportsThatNothingOpensIt) {
     ManualScheduler scheduler;
     FakeFileOpener opener;
     Toast toast(scheduler);
-    LinkOpening links(opener, scheduler, toast);
+    FakeDetachedJobs jobs(scheduler);
+    LinkOpening links(opener, jobs, scheduler, toast);
     const ClipItem link = clip(u"gopher://a.example"_s, Seconds(1), ClipKind::url);
     links.open(link);
     opener.answer({});

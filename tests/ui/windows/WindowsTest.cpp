@@ -185,6 +185,7 @@ TEST_F(Settings, TheOtherPagesAreSavedAtOnce) {
         {Qt::Key_2, u"keepTextsExactly"_s, Qt::Key_Return, true},
         {Qt::Key_2, u"keyLikeWords"_s, Qt::Key_Space, true},
         {Qt::Key_2, u"keepSelectedText"_s, Qt::Key_Space, true},
+        {Qt::Key_2, u"showOrigins"_s, Qt::Key_Space, true},
         {Qt::Key_2, u"forgetSecrets"_s, Qt::Key_Up, 1},
         {Qt::Key_2, u"forgetSecrets"_s, Qt::Key_Up, 0},
         {Qt::Key_3, u"historyLength"_s, Qt::Key_Down, 200},

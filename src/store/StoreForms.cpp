@@ -1,0 +1,160 @@
+// What the store keeps beside a clip, and how much all of it is.
+
+#include "platform/DetachedJobs.h"
+#include "platform/Worker.h"
+#include "store/Store.h"
+#include "vault/Vault.h"
+
+#include <QPointer>
+
+#include <algorithm>
+#include <memory>
+#include <utility>
+
+namespace ravelo {
+
+namespace {
+
+struct Unknown {
+    QUuid clip;
+    QString forms; ///< Path; empty if there are none.
+    QString image; ///< Likewise.
+};
+
+ClipDetails lookUp(const Unknown& unknown, const Vault& vault) {
+    ClipDetails details;
+    if (const auto kept =
+            unknown.forms.isEmpty() ? std::nullopt : readForms(vault, unknown.forms)) {
+        details = detailsOf(*kept);
+    }
+    if (!unknown.image.isEmpty()) {
+        details.pixels = imageSize(vault, unknown.image);
+    }
+    return details;
+}
+
+} // namespace
+
+QString Store::formsPath(const QUuid& clip) const {
+    return imagePath(formsFileName(clip));
+}
+
+bool Store::hasForms(const QUuid& clip) const {
+    return !sizesKnown_ || fileSizes_.contains(formsFileName(clip));
+}
+
+void Store::setForms(const QUuid& clip, const ClipForms& kept) {
+    const auto found = std::ranges::find(data_.clips, clip, &ClipItem::id);
+    if (found == data_.clips.end() || !found->secret.isEmpty()) {
+        return;
+    }
+    const QString path = formsPath(clip);
+    if (!kept.isEmpty()) {
+        fileSizes_.insert(formsFileName(clip), formsSize(kept));
+        services_.worker.run([vault = services_.vault, path, kept, mayWrite = services_.mayWrite] {
+            (void)vault->write(path, encodeForms(kept), mayWrite);
+        });
+    } else if (hasForms(clip)) {
+        fileSizes_.remove(formsFileName(clip));
+        removeFiles([path, mayWrite = services_.mayWrite] {
+            return ravelo::removeImages({path}, mayWrite);
+        });
+    }
+    ClipDetails details = ravelo::detailsOf(kept);
+    details.pixels = detailsOf(clip).pixels;
+    details_.insert(clip, details);
+    trim();
+    Q_EMIT detailsChanged();
+}
+
+void Store::lookUpDetails(const QUuid& only) {
+    QList<Unknown> unknown;
+    for (const ClipItem& clip : std::as_const(data_.clips)) {
+        const bool isImage = clip.kind == ClipKind::image;
+        const auto known = details_.constFind(clip.id);
+        const bool isKnown = known != details_.cend() && (!isImage || known->pixels.isValid());
+        if ((only.isNull() || clip.id == only) && clip.secret.isEmpty() && !isKnown) {
+            unknown.append({clip.id, hasForms(clip.id) ? formsPath(clip.id) : QString(),
+                            isImage ? imagePath(clip.imageFileName) : QString()});
+        }
+    }
+    if (unknown.isEmpty()) {
+        return;
+    }
+    const auto found = std::make_shared<QHash<QUuid, ClipDetails>>();
+    lookingUp_ = services_.jobs.run(
+        [unknown, found, vault = services_.vault] {
+            for (const Unknown& one : unknown) {
+                found->insert(one.clip, lookUp(one, *vault));
+            }
+        },
+        [this, found] {
+            for (const auto& [clip, details] : found->asKeyValueRange()) {
+                if (!details_.contains(clip)) {
+                    details_.insert(clip, details);
+                } else {
+                    details_[clip].pixels = details.pixels; // Written meanwhile.
+                }
+            }
+            Q_EMIT detailsChanged();
+        });
+}
+
+qint64 Store::textBytes() const {
+    qint64 size = ClipHistory::textBytes(data_.clips);
+    for (const ClipItem& clip : data_.clips) {
+        size += clip.kind == ClipKind::image ? 0 : fileSizes_.value(formsFileName(clip.id));
+    }
+    return size;
+}
+
+qint64 Store::imageBytes() const {
+    qint64 size = 0;
+    for (const ClipItem& clip : data_.clips) {
+        if (clip.kind == ClipKind::image) {
+            size += fileSizes_.value(clip.imageFileName) + fileSizes_.value(formsFileName(clip.id));
+        }
+    }
+    return size;
+}
+
+/// Names of the files beside clips that are no longer there.
+QStringList Store::goneForms(const QList<ClipItem>& before) {
+    QSet<QUuid> there;
+    for (const ClipItem& clip : std::as_const(data_.clips)) {
+        there.insert(clip.id);
+    }
+    QStringList names;
+    for (const ClipItem& clip : before) {
+        if (there.contains(clip.id)) {
+            continue;
+        }
+        details_.remove(clip.id);
+        if (clip.secret.isEmpty() && hasForms(clip.id)) {
+            names.append(formsFileName(clip.id));
+            fileSizes_.remove(names.last());
+        }
+    }
+    return names;
+}
+
+/// On the worker, after what it has already and after `job`.
+void Store::measureFiles(std::function<void()> job) {
+    const auto sizes = std::make_shared<FileSizes>();
+    services_.worker.run(
+        [job = std::move(job), clips = clipsDir(), sizes] {
+            if (job) {
+                job();
+            }
+            *sizes = fileSizes(clips);
+        },
+        [store = QPointer(this), sizes] {
+            if (store) {
+                store->fileSizes_.insert(*sizes);
+                store->sizesKnown_ = true;
+                store->trimLater();
+            }
+        });
+}
+
+} // namespace ravelo

@@ -1,0 +1,130 @@
+#include "ui/clips/ClipDrag.h"
+
+#include "base/FileUrl.h"
+#include "platform/DetachedJobs.h"
+#include "platform/TimedJob.h"
+#include "store/ImageFiles.h"
+#include "store/Store.h"
+#include "ui/images/FilePage.h"
+#include "vault/Vault.h"
+
+#include <QDrag>
+#include <QGuiApplication>
+#include <QMimeData>
+#include <QPixmap>
+#include <QPointer>
+#include <QQuickWindow>
+
+namespace ravelo {
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using Forms = QList<PasteboardEntry>;
+
+constexpr Seconds timeout(1); ///< For reading; the user sees nothing until then.
+constexpr double pageSize = 56;
+
+double scaleOf(const QQuickItem& item) {
+    return item.window() == nullptr ? 1 : item.window()->effectiveDevicePixelRatio();
+}
+
+/// Otherwise the release would pass for a click.
+void letGo(const QQuickItem& item) {
+    QQuickItem* const grabber =
+        item.window() == nullptr ? nullptr : item.window()->mouseGrabberItem();
+    if (grabber != nullptr) {
+        grabber->ungrabMouse();
+    }
+}
+
+/// An image, and its file for programs that only take those, unless it is encrypted.
+Forms imageForms(const Vault& vault, const QString& path) {
+    const auto bytes = vault.bytes(path);
+    if (!bytes || !isPng(*bytes)) {
+        return {};
+    }
+    Forms forms{{u"image/png"_s, *bytes}};
+    if (!vault.encryptedBytes(path)) {
+        forms.append({QString(uriListType), fileAddress(QUrl::fromLocalFile(path)) + "\r\n"});
+    }
+    return forms;
+}
+
+/// What is meant for the clipboard only is left out.
+Forms textForms(const Vault& vault, const QString& path, const QString& text) {
+    Forms forms = readForms(vault, path).value_or(ClipForms()).forms;
+    forms.removeIf([](const PasteboardEntry& form) { return form.type == gnomeFilesType; });
+    forms.append({QString(plainTextType), text.toUtf8()});
+    return forms;
+}
+
+} // namespace
+
+void ClipDrag::start(const ClipItem& clip, QQuickItem& from) {
+    const Picture picture{clip.kind == ClipKind::image ? u"png"_s : u"txt"_s, scaleOf(from)};
+    letGo(from);
+    if (dragging_ || !clip.secret.isEmpty()) {
+        return;
+    }
+    if (clip.kind == ClipKind::image) {
+        read({}, store_.imagePath(clip.imageFileName), picture);
+    } else if (store_.hasForms(clip.id)) {
+        read(clip.text, store_.formsPath(clip.id), picture);
+    } else {
+        start(clip.text, from);
+    }
+}
+
+/// Deferred: a drag runs its own event loop, in which the pressed item may be deleted.
+void ClipDrag::start(const QString& text, QQuickItem& from) {
+    letGo(from);
+    if (!dragging_) {
+        reading_ = scheduler_.after(Seconds(0), [this, text, scale = scaleOf(from)] {
+            drag({{QString(plainTextType), text.toUtf8()}}, {u"txt"_s, scale});
+        });
+    }
+}
+
+/// Of an image if there is no text.
+void ClipDrag::read(const QString& text, const QString& path, const Picture& picture) {
+    reading_ = runTimed<Forms>(
+        jobs_, scheduler_, timeout,
+        [vault = store_.vault(), text, path] {
+            return text.isEmpty() ? imageForms(*vault, path) : textForms(*vault, path, text);
+        },
+        [this, text, picture](const std::optional<Forms>& read) {
+            drag(read.value_or(Forms{{QString(plainTextType), text.toUtf8()}}), picture);
+        });
+}
+
+void ClipDrag::drag(const QList<PasteboardEntry>& forms, const Picture& picture) {
+    if (forms.isEmpty() || !(QGuiApplication::mouseButtons() & Qt::LeftButton)) {
+        return;
+    }
+    const int size = qRound(pageSize * picture.scale);
+    QImage page = filePage(picture.extension, size);
+    page.setDevicePixelRatio(picture.scale);
+    auto* data = new QMimeData;
+    for (const PasteboardEntry& form : forms) {
+        data->setData(form.type, form.bytes);
+    }
+    auto* drag = new QDrag(this); // Qt deletes it, with its data, after the drag.
+    drag->setMimeData(data);
+    drag->setPixmap(QPixmap::fromImage(page));
+    drag->setHotSpot(QPointF(pageSize / 2, pageSize / 2).toPoint());
+    setDragging(true);
+    const QPointer<ClipDrag> alive(this);
+    drag->exec(Qt::CopyAction, Qt::CopyAction);
+    if (alive) {
+        setDragging(false);
+    }
+}
+
+void ClipDrag::setDragging(bool dragging) {
+    dragging_ = dragging;
+    Q_EMIT draggingChanged();
+}
+
+} // namespace ravelo

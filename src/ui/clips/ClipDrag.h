@@ -1,0 +1,52 @@
+#pragma once
+
+#include "base/Handle.h"
+#include "store/ClipForms.h"
+
+#include <QObject>
+#include <QQuickItem>
+
+namespace ravelo {
+
+class DetachedJobs;
+class Scheduler;
+class Store;
+struct ClipItem;
+
+/// Drags clips out of the panel: a text in all its forms, several texts as one, an image, or files.
+/// Main thread.
+class ClipDrag : public QObject {
+    Q_OBJECT
+
+public:
+    /// All outlive this.
+    ClipDrag(Store& store, DetachedJobs& jobs, Scheduler& scheduler)
+        : store_(store), jobs_(jobs), scheduler_(scheduler) {}
+
+    /// Begins once the clip is read, if the button is still held by then.
+    void start(const ClipItem& clip, QQuickItem& from);
+    void start(const QString& text, QQuickItem& from);
+
+    [[nodiscard]] bool isDragging() const { return dragging_; }
+
+Q_SIGNALS:
+    void draggingChanged();
+
+private:
+    struct Picture {
+        QString extension; ///< On the page that the pointer holds.
+        double scale;
+    };
+
+    void read(const QString& text, const QString& path, const Picture& picture);
+    void drag(const QList<PasteboardEntry>& forms, const Picture& picture);
+    void setDragging(bool dragging);
+
+    Store& store_;
+    DetachedJobs& jobs_;
+    Scheduler& scheduler_;
+    bool dragging_ = false;
+    Handle reading_;
+};
+
+} // namespace ravelo
