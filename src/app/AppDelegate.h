@@ -30,6 +30,7 @@ class PanelPicture;
 class PanelView;
 class PanelWindow;
 class PlanUsage;
+class SecondPlan;
 class ReceivedWatcher;
 class SelectedTexts;
 class SettingsWindow;
@@ -78,6 +79,7 @@ private:
     void wire();
     void wireNotices();
     void wireNotifications();
+    void wireSecondPlan();
     void wireSettings();
     void wireSecrets();
     void followRules();
@@ -104,6 +106,7 @@ private:
     std::unique_ptr<SettingsWindow> settingsWindow_;
     std::unique_ptr<OnboardingController> onboarding_;
     std::unique_ptr<UpdateWindow> updateWindow_;
+    std::unique_ptr<SecondPlan> second_;
     std::unique_ptr<StatusItemController> statusItem_;
     std::unique_ptr<Commands> commands_;
     std::unique_ptr<PanelPicture> picture_;

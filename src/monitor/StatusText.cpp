@@ -150,7 +150,15 @@ QStringList contextDetails(const MonitorStatus& status, Date now, const QTimeZon
             lines << name + u": "_s + text;
         }
     }
+    if (status.second) {
+        lines << otherPlanLine(*status.second);
+    }
     return lines;
+}
+
+QString otherPlanLine(const OtherPlan& plan) {
+    return plan.name + u": 5h "_s + percentText(plan.windows.session) + u" · week "_s +
+           percentText(plan.windows.week);
 }
 
 QString statusLine(const MonitorStatus& status, Date now, const QLocale& locale,
@@ -174,6 +182,14 @@ QByteArray statusJson(const MonitorStatus& status, Date now, const QLocale& loca
                        {u"week"_s, json(status.plan.week, status.pace.week, now)},
                        {u"planAge"_s, age(status.planAt, now)}};
     insertHandedOver(object, status.handed, now);
+    if (const auto& second = status.second) {
+        object.insert(
+            u"second"_s,
+            QJsonObject{{u"name"_s, second->name},
+                        {u"session"_s, json(second->windows.session, second->pace.session, now)},
+                        {u"week"_s, json(second->windows.week, second->pace.week, now)},
+                        {u"planAge"_s, age(second->at, now)}});
+    }
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 

@@ -84,6 +84,7 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       notifyFiles_(preferences.value(u"notifyFiles"_s).toBool(false)),
       notifySaving_(preferences.value(u"notifySaving"_s).toBool(false)),
       notifyPlan_(preferences.value(u"notifyPlan"_s).toBool(false)),
+      secondAccount_(preferences.value(u"secondAccount"_s).toString()),
       onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
       launchAtLogin_(loginItem.isEnabled()) {}
 
@@ -298,6 +299,11 @@ void AppSettings::setNotifySaving(bool on) {
 void AppSettings::setNotifyPlan(bool on) {
     preferences_.set(u"notifyPlan"_s, on);
     change(notifyPlan_, on, &AppSettings::notifyPlanChanged);
+}
+
+void AppSettings::setSecondAccount(const QString& folder) {
+    preferences_.set(u"secondAccount"_s, folder);
+    change(secondAccount_, folder, &AppSettings::secondAccountChanged);
 }
 
 void AppSettings::setOnboarded(bool done) {

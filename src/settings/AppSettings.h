@@ -53,6 +53,8 @@ class AppSettings : public QObject {
     Q_PROPERTY(bool notifyFiles READ notifyFiles WRITE setNotifyFiles NOTIFY notifyFilesChanged)
     Q_PROPERTY(bool notifySaving READ notifySaving WRITE setNotifySaving NOTIFY notifySavingChanged)
     Q_PROPERTY(bool notifyPlan READ notifyPlan WRITE setNotifyPlan NOTIFY notifyPlanChanged)
+    Q_PROPERTY(
+        QString secondAccount READ secondAccount WRITE setSecondAccount NOTIFY secondAccountChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
     Q_PROPERTY(
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
@@ -113,6 +115,9 @@ public:
     /// Show what Claude Code hands to its status line instead of what its transcripts say.
     [[nodiscard]] bool handedOverFirst() const { return handedOverFirst_; }
 
+    /// Claude Code's folder of a second account; empty if there is none.
+    [[nodiscard]] const QString& secondAccount() const { return secondAccount_; }
+
     /// Desktop notifications when the timer ends, ...
     [[nodiscard]] bool notifyTimer() const { return notifyTimer_; }
 
@@ -155,6 +160,7 @@ public:
     void setNotifyFiles(bool on);
     void setNotifySaving(bool on);
     void setNotifyPlan(bool on);
+    void setSecondAccount(const QString& folder);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
 
@@ -196,6 +202,7 @@ Q_SIGNALS:
     void notifyFilesChanged();
     void notifySavingChanged();
     void notifyPlanChanged();
+    void secondAccountChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
 
@@ -234,6 +241,7 @@ private:
     bool notifyFiles_;
     bool notifySaving_;
     bool notifyPlan_;
+    QString secondAccount_;
     bool onboarded_;
     bool launchAtLogin_;
 };
