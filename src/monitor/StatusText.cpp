@@ -43,7 +43,7 @@ QJsonValue json(const std::optional<UsageWindow>& window, const std::optional<Pa
         {u"pct"_s, window->pct},
         {u"resets"_s, json(window->resets)},
         {u"pace"_s, pace ? QJsonValue(std::round(pace->perHour * 100) / 100) : QJsonValue()},
-        {u"fullAt"_s, willBeFull(pace, now) ? json(pace->fullAt) : QJsonValue()}};
+        {u"fullAt"_s, json(comingFullAt(pace, now))}};
     if (resetHasPassed(window, now)) {
         object.insert(u"resetPassed"_s, true);
     }
@@ -76,16 +76,18 @@ QString timeText(Date date, Date now, const QTimeZone& zone) {
 
 SessionContext chosenContext(const MonitorStatus& status, const StatusChoice& choice) {
     constexpr double outdated = 60; // Claude Code hands over within seconds, or no more.
-    const std::optional<HandedOver>& handed = status.handed;
-    const bool isCurrent =
-        handed && handed->window && handed->used &&
-        (!status.lastActivity ||
-         status.lastActivity->sinceReference - handed->at.sinceReference < outdated);
-    return choice.handedOverFirst && isCurrent
-               ? SessionContext{handed->model, *handed->used, *handed->window, handed->project,
-                                handed->at}
-               : SessionContext{status.model, status.used, status.limit, status.project,
-                                status.lastActivity};
+    const SessionContext read{status.model, status.used, status.limit, status.project,
+                              status.lastActivity};
+    if (!choice.handedOverFirst || !status.handed) {
+        return read;
+    }
+    const HandedOver& handed = *status.handed;
+    const double behind =
+        status.lastActivity ? status.lastActivity->sinceReference - handed.at.sinceReference : 0;
+    if (!handed.window || !handed.used || behind >= outdated) {
+        return read;
+    }
+    return {handed.model, *handed.used, *handed.window, handed.project, handed.at};
 }
 
 MonitorStatus MonitorStatus::of(const LiveContext& context, const PlanUsage& usage, Date now) {
