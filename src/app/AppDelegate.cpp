@@ -2,6 +2,7 @@
 
 #include "app/Commands.h"
 #include "app/FileChoice.h"
+#include "app/SecondPlan.h"
 #include "app/StatusItemController.h"
 #include "app/Transfers.h"
 #include "clipboard/CapturePause.h"
@@ -237,24 +238,25 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         notch_->dismiss(); // It would cover the window.
         updateWindow_->show();
     };
+    wireSecondPlan();
     statusItem_ = std::make_unique<StatusItemController>(
         StatusItemController::Services{*platform_.statusItem, *notch_, *pause_, liveContext(),
-                                       planUsage(), *platform_.scheduler, *settings_, checkUpdates,
-                                       quitLater},
+                                       planUsage(), *second_, *platform_.scheduler, *settings_,
+                                       checkUpdates, quitLater},
         QLocale());
-    commands_ = std::make_unique<Commands>(
-        Commands::Services{*store_, *pause_, *notch_, *platform_.scheduler, liveContext(),
-                           planUsage(), [this] { return statusChoice(*settings_); },
-                           [this] { showSetup(); }, checkUpdates, quitLater,
-                           [this](const QString& path, const Commands::Reply& reply) {
-                               transfers_->exportTo(path, reply);
-                           },
-                           [this](const QString& path, const Commands::Reply& reply) {
-                               transfers_->importFrom(path, reply);
-                           },
-                           [this](const Commands::Reply& reply) {
-                               erase(reply);
-                           }});
+    commands_ = std::make_unique<Commands>(Commands::Services{
+        *store_, *pause_, *notch_, *platform_.scheduler, liveContext(), planUsage(),
+        [this] { return statusChoice(*settings_); }, [this] { return second_->plan(); },
+        [this] { showSetup(); }, checkUpdates, quitLater,
+        [this](const QString& path, const Commands::Reply& reply) {
+            transfers_->exportTo(path, reply);
+        },
+        [this](const QString& path, const Commands::Reply& reply) {
+            transfers_->importFrom(path, reply);
+        },
+        [this](const Commands::Reply& reply) {
+            erase(reply);
+        }});
     wire();
     wireNotices();
     wireNotifications();
@@ -492,6 +494,27 @@ void AppDelegate::wireNotices() {
                      [this](const TooLarge& copy) {
                          view_->features().clips->showTooLarge({measure(copy.kind), copy.amount});
                      });
+}
+
+void AppDelegate::wireSecondPlan() {
+    second_ = std::make_unique<SecondPlan>([this](const QByteArray& folder) {
+        auto children = platform_.makeChildren(folder);
+        auto usage = std::make_unique<PlanUsage>(
+            UsageQuery::Services{*platform_.scheduler, *platform_.jobs, *platform_.secrets,
+                                 *platform_.https, *children},
+            home(), platform_.makeFolderChanges(), PlanUsage::provider(), QByteArrayList(), folder);
+        return SecondPlan::Made{std::move(children), std::move(usage)};
+    });
+    const auto show = [this] {
+        const auto plan = second_->plan();
+        view_->features().usage.setSecondAccount(plan ? otherPlanLine(*plan) : QString());
+    };
+    QObject::connect(second_.get(), &SecondPlan::changed, second_.get(), show);
+    const auto follow = [this] {
+        second_->setFolder(settings_->secondAccount(), QDir::homePath());
+    };
+    follow();
+    QObject::connect(settings_.get(), &AppSettings::secondAccountChanged, second_.get(), follow);
 }
 
 void AppDelegate::wireNotifications() {

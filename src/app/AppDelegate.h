@@ -32,6 +32,7 @@ class PanelView;
 class PanelWindow;
 class Pasting;
 class PlanUsage;
+class SecondPlan;
 class ReceivedWatcher;
 class SelectedTexts;
 class StatusItemController;
@@ -80,6 +81,7 @@ private:
     void wire();
     void wireNotices();
     void wireNotifications();
+    void wireSecondPlan();
     void wireSettings();
     void wireSecrets();
     void wireShortcut();
@@ -108,6 +110,7 @@ private:
     std::unique_ptr<SettingsWindow> settingsWindow_;
     std::unique_ptr<OnboardingController> onboarding_;
     std::unique_ptr<UpdateWindow> updateWindow_;
+    std::unique_ptr<SecondPlan> second_;
     std::unique_ptr<StatusItemController> statusItem_;
     std::unique_ptr<Commands> commands_;
     std::unique_ptr<PanelPicture> picture_;

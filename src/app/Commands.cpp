@@ -288,8 +288,9 @@ Answer shelfList(const Call& call) {
 
 Answer status(const Call& call) {
     const Date now = call.services.scheduler.now();
-    return statusAnswer(MonitorStatus::of(call.services.context, call.services.usage, now), now,
-                        call.services.statusChoice(), call.arguments);
+    MonitorStatus status = MonitorStatus::of(call.services.context, call.services.usage, now);
+    status.second = call.services.secondPlan();
+    return statusAnswer(status, now, call.services.statusChoice(), call.arguments);
 }
 
 void exportTo(const Call& call, const Commands::Reply& reply) {

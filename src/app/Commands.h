@@ -32,6 +32,7 @@ public:
         const LiveContext& context;
         const PlanUsage& usage;
         std::function<StatusChoice()> statusChoice;
+        std::function<std::optional<OtherPlan>()> secondPlan;
         std::function<void()> showSetup;
         std::function<void()> checkUpdates;
         std::function<void()> quit; ///< Not at once: the sender waits for the answer.

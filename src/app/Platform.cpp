@@ -147,6 +147,15 @@ void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
     platform.children =
         std::make_unique<SpawnedChild>(*platform.jobs, renewalEnvironment(environment),
                                        renewalFolder(QFile::encodeName(QDir::homePath())));
+    platform.makeChildren = [environment, jobs = platform.jobs.get()](const QByteArray& folder) {
+        QProcessEnvironment own = renewalEnvironment(environment);
+        own.insert(u"CLAUDE_CONFIG_DIR"_s, QFile::decodeName(folder));
+        return std::make_unique<SpawnedChild>(
+            *jobs, own, renewalFolder(QFile::encodeName(QDir::homePath())) + "-second");
+    };
+    platform.makeFolderChanges = [] {
+        return std::make_unique<InotifyChanges>();
+    };
     platform.decoder = std::make_shared<DecoderProcess>(
         QFile::encodeName(helperProgram("ravelo-decode"_L1)),
         QFile::encodeName(Store::clipsFolder(Platform::dataFolder())),

@@ -108,6 +108,9 @@ struct Platform {
     std::unique_ptr<FolderWatch> folders;
     std::unique_ptr<FolderChanges> transcriptChanges;
     std::unique_ptr<FolderChanges> usageChanges;
+    std::function<std::unique_ptr<FolderChanges>()> makeFolderChanges;
+    /// Runs Claude Code with its files in this folder.
+    std::function<std::unique_ptr<ChildProcess>(const QByteArray& claudeFolder)> makeChildren;
     std::unique_ptr<FileOpener> opener;
     std::unique_ptr<PackageUpdates> packages;
     std::unique_ptr<GlobalShortcut> shortcut;

@@ -1,5 +1,6 @@
 #include "app/StatusItemController.h"
 
+#include "app/SecondPlan.h"
 #include "app/StatusIcon.h"
 #include "base/Scheduler.h"
 #include "clipboard/CapturePause.h"
@@ -34,6 +35,7 @@ StatusItemController::StatusItemController(Services services, const QLocale& loc
         connect(&services_.settings, changed, this, &StatusItemController::updateTitle);
     }
     connect(&services_.plan, &PlanUsage::changed, this, &StatusItemController::updateTitle);
+    connect(&services_.second, &SecondPlan::changed, this, &StatusItemController::updateTitle);
     // Later: the menu is replaced, perhaps while one of its rows is running.
     connect(&services_.pause, &CapturePause::changed, this, &StatusItemController::followPause,
             Qt::QueuedConnection);
@@ -121,7 +123,8 @@ QString StatusItemController::usualToolTip() const {
     const Date now = services_.scheduler.now();
     const StatusChoice choice{services_.settings.showPeakHours(),
                               services_.settings.handedOverFirst()};
-    const MonitorStatus status = MonitorStatus::of(context, services_.plan, now);
+    MonitorStatus status = MonitorStatus::of(context, services_.plan, now);
+    status.second = services_.second.plan();
     const QTimeZone zone = QTimeZone::systemTimeZone();
     QStringList lines{contextLine(status, now, locale_, zone, choice)};
     lines += contextDetails(status, now, zone, choice);

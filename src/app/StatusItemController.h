@@ -17,6 +17,7 @@ class LiveContext;
 class NotchController;
 class PlanUsage;
 class Scheduler;
+class SecondPlan;
 
 /// The program's item in the bar of the desktop: its menu, whose keys work in all windows of the
 /// program, and a tooltip with how full the context of the newest session is, and the plan if it
@@ -31,6 +32,7 @@ public:
         CapturePause& pause;
         LiveContext& context; ///< This sets its `onChange`.
         PlanUsage& plan;
+        SecondPlan& second;
         Scheduler& scheduler;
         const AppSettings& settings;
         std::function<void()> checkUpdates;

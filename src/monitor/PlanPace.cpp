@@ -65,7 +65,7 @@ QJsonArray encode(const UsageCourse& course) {
 
 UsageCourse decode(const QJsonValue& value, const WindowKind& kind) {
     UsageCourse course;
-    for (const QJsonValue& pair : value.toArray()) {
+    for (const QJsonValue pair : value.toArray()) {
         if (pair[0].isDouble() && pair[1].isDouble()) {
             course.add({Date{pair[0].toDouble() - referenceInstant}, pair[1].toDouble()}, kind);
         }
@@ -152,17 +152,18 @@ PlanCourse decodeCourse(QByteArrayView json) {
     return {decode(document[sessionKey], sessionKind), decode(document[weekKey], weekKind)};
 }
 
-bool willBeFull(const std::optional<Pace>& pace, Date now) {
-    return pace && pace->fullAt && *pace->fullAt > now;
+std::optional<Date> comingFullAt(const std::optional<Pace>& pace, Date now) {
+    return pace && pace->fullAt > now ? pace->fullAt : std::nullopt;
 }
 
 QString fullText(const std::optional<Pace>& pace, Date now, const QTimeZone& zone) {
     constexpr double soon = 20 * hour;
     constexpr double step = 300;
-    if (!willBeFull(pace, now)) {
+    const std::optional<Date> fullAt = comingFullAt(pace, now);
+    if (!fullAt) {
         return {};
     }
-    const Date rounded{std::round(pace->fullAt->sinceReference / step) * step};
+    const Date rounded{std::round(fullAt->sinceReference / step) * step};
     const QDateTime time = toDateTime(rounded).toTimeZone(zone);
     return between(now, rounded) < soon
                ? u"at this pace full at "_s + time.toString(u"HH:mm"_s)

@@ -87,9 +87,9 @@ struct PlanCourse {
 [[nodiscard]] QByteArray encodeCourse(const PlanCourse& course);
 [[nodiscard]] PlanCourse decodeCourse(QByteArrayView json);
 
-/// Whether it will be full before its reset; not if that should have happened by now, because the
-/// figures are too old.
-[[nodiscard]] bool willBeFull(const std::optional<Pace>& pace, Date now);
+/// When it will be full, if that is before its reset; nothing if that should have happened by now,
+/// because then the figures are too old.
+[[nodiscard]] std::optional<Date> comingFullAt(const std::optional<Pace>& pace, Date now);
 
 /// "at this pace full at 11:50", rounded to five minutes, or "at this pace full on Thu"; empty
 /// unless it will be.

@@ -32,9 +32,10 @@ struct PlanUsage::Files {
 
 PlanUsage::PlanUsage(UsageQuery::Services services, const QByteArray& home,
                      std::unique_ptr<FolderChanges> changes, UsageQuery::Endpoint endpoint,
-                     const QByteArrayList& otherFolders)
+                     const QByteArrayList& otherFolders, const QByteArray& onlyFolder)
     : services_(services),
       home_(home),
+      hasFiles_(onlyFolder.isEmpty()),
       files_(std::make_shared<Files>(std::move(changes), home)),
       looks_(services.scheduler, *files_->changes,
              [this] {
@@ -43,10 +44,13 @@ PlanUsage::PlanUsage(UsageQuery::Services services, const QByteArray& home,
                  }
                  refresh();
              }),
-      query_(services, home, std::move(endpoint), otherFolders),
+      query_(services, home, std::move(endpoint), otherFolders, onlyFolder),
       spacing_(fetchSpacing) {
-    files_->watched.add(usageFile(home), FolderChanges::What::contents);
-    for (const QByteArray& folder : QByteArrayList{home + "/.claude"} + otherFolders) {
+    if (hasFiles_) {
+        files_->watched.add(usageFile(home), FolderChanges::What::contents);
+    }
+    for (const QByteArray& folder : hasFiles_ ? QByteArrayList{home + "/.claude"} + otherFolders
+                                              : QByteArrayList{onlyFolder}) {
         files_->watched.add(folder + '/' + UsageQuery::credentialsFile.toByteArray(),
                             FolderChanges::What::names);
     }
@@ -121,9 +125,13 @@ void PlanUsage::readFile() {
 
     auto reading = std::make_shared<Reading>();
     reading_ = services_.jobs.run(
-        [reading, files = files_, home = home_, liveAt = liveAt_, loaded = courseLoaded_] {
+        [reading, files = files_, home = home_, liveAt = liveAt_, loaded = courseLoaded_,
+         hasFiles = hasFiles_] {
             static_cast<void>(files->changes->take());
             reading->watched = files->watched.watch();
+            if (!hasFiles) {
+                return;
+            }
             reading->written = usageWritten(home);
             if (!liveAt || reading->written >= liveAt) {
                 reading->windows = loadUsage(home);

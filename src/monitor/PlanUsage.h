@@ -25,9 +25,11 @@ class PlanUsage : public QObject {
 
 public:
     /// Starts at once. `home` is the user's home folder; see UsageQuery.
+    /// For another account than the usual one there is an `onlyFolder` of Claude Code: its
+    /// credentials are used and no files of the usual account.
     PlanUsage(UsageQuery::Services services, const QByteArray& home,
               std::unique_ptr<FolderChanges> changes, UsageQuery::Endpoint endpoint = provider(),
-              const QByteArrayList& otherFolders = {});
+              const QByteArrayList& otherFolders = {}, const QByteArray& onlyFolder = {});
     ~PlanUsage() override;
 
     /// The process's own: the first call makes it, and nothing destroys it or what it is made from.
@@ -72,6 +74,7 @@ private:
 
     UsageQuery::Services services_;
     QByteArray home_;
+    bool hasFiles_; ///< Of the usual account.
     std::shared_ptr<Files> files_;
     Looks looks_;
     UsageQuery query_;

@@ -43,7 +43,7 @@ QJsonValue json(const std::optional<UsageWindow>& window, const std::optional<Pa
         {u"pct"_s, window->pct},
         {u"resets"_s, json(window->resets)},
         {u"pace"_s, pace ? QJsonValue(std::round(pace->perHour * 100) / 100) : QJsonValue()},
-        {u"fullAt"_s, willBeFull(pace, now) ? json(pace->fullAt) : QJsonValue()}};
+        {u"fullAt"_s, json(comingFullAt(pace, now))}};
     if (resetHasPassed(window, now)) {
         object.insert(u"resetPassed"_s, true);
     }
@@ -76,16 +76,18 @@ QString timeText(Date date, Date now, const QTimeZone& zone) {
 
 SessionContext chosenContext(const MonitorStatus& status, const StatusChoice& choice) {
     constexpr double outdated = 60; // Claude Code hands over within seconds, or no more.
-    const std::optional<HandedOver>& handed = status.handed;
-    const bool isCurrent =
-        handed && handed->window && handed->used &&
-        (!status.lastActivity ||
-         status.lastActivity->sinceReference - handed->at.sinceReference < outdated);
-    return choice.handedOverFirst && isCurrent
-               ? SessionContext{handed->model, *handed->used, *handed->window, handed->project,
-                                handed->at}
-               : SessionContext{status.model, status.used, status.limit, status.project,
-                                status.lastActivity};
+    const SessionContext read{status.model, status.used, status.limit, status.project,
+                              status.lastActivity};
+    if (!choice.handedOverFirst || !status.handed) {
+        return read;
+    }
+    const HandedOver& handed = *status.handed;
+    const double behind =
+        status.lastActivity ? status.lastActivity->sinceReference - handed.at.sinceReference : 0;
+    if (!handed.window || !handed.used || behind >= outdated) {
+        return read;
+    }
+    return {handed.model, *handed.used, *handed.window, handed.project, handed.at};
 }
 
 MonitorStatus MonitorStatus::of(const LiveContext& context, const PlanUsage& usage, Date now) {
@@ -150,7 +152,15 @@ QStringList contextDetails(const MonitorStatus& status, Date now, const QTimeZon
             lines << name + u": "_s + text;
         }
     }
+    if (status.second) {
+        lines << otherPlanLine(*status.second);
+    }
     return lines;
+}
+
+QString otherPlanLine(const OtherPlan& plan) {
+    return plan.name + u": 5h "_s + percentText(plan.windows.session) + u" · week "_s +
+           percentText(plan.windows.week);
 }
 
 QString statusLine(const MonitorStatus& status, Date now, const QLocale& locale,
@@ -174,6 +184,14 @@ QByteArray statusJson(const MonitorStatus& status, Date now, const QLocale& loca
                        {u"week"_s, json(status.plan.week, status.pace.week, now)},
                        {u"planAge"_s, age(status.planAt, now)}};
     insertHandedOver(object, status.handed, now);
+    if (const auto& second = status.second) {
+        object.insert(
+            u"second"_s,
+            QJsonObject{{u"name"_s, second->name},
+                        {u"session"_s, json(second->windows.session, second->pace.session, now)},
+                        {u"week"_s, json(second->windows.week, second->pace.week, now)},
+                        {u"planAge"_s, age(second->at, now)}});
+    }
     return QJsonDocument(object).toJson(QJsonDocument::Compact) + '\n';
 }
 

@@ -24,6 +24,17 @@ struct StatusChoice {
     bool handedOverFirst = false; ///< What Claude Code handed over counts before its transcripts.
 };
 
+/// The plan of a second account.
+struct OtherPlan {
+    QString name; ///< Of its folder.
+    PlanWindows windows;
+    PlanPace pace;
+    std::optional<Date> at;
+};
+
+/// "work: 5h 42% · week 78%"
+[[nodiscard]] QString otherPlanLine(const OtherPlan& plan);
+
 /// A snapshot of the monitors.
 struct MonitorStatus {
     QString model; ///< Empty until a session is found.
@@ -36,6 +47,7 @@ struct MonitorStatus {
     std::optional<HandedOver> handed = {};
     PlanPace pace = {};
     std::optional<Date> planAt = {}; ///< The time of the plan's figures.
+    std::optional<OtherPlan> second = {};
 
     [[nodiscard]] static MonitorStatus of(const LiveContext& context, const PlanUsage& usage,
                                           Date now);
@@ -65,8 +77,8 @@ struct SessionContext {
                                   const QTimeZone& zone = QTimeZone::systemTimeZone(),
                                   const StatusChoice& choice = {});
 
-/// Below that line: which session that is and its last activity, and a window of the plan that will
-/// be full before it resets. Only what is known.
+/// Below that line: which session that is and its last activity, a window of the plan that will be
+/// full before it resets, and the second account. Only what is known.
 [[nodiscard]] QStringList contextDetails(const MonitorStatus& status, Date now,
                                          const QTimeZone& zone = QTimeZone::systemTimeZone(),
                                          const StatusChoice& choice = {});

@@ -25,14 +25,21 @@ constexpr int tooManyRequests = 429;
 } // namespace
 
 UsageQuery::UsageQuery(Services services, QByteArray home, Endpoint endpoint,
-                       QByteArrayList otherFolders)
+                       QByteArrayList otherFolders, QByteArray onlyFolder)
     : services_(services),
       home_(std::move(home)),
       endpoint_(std::move(endpoint)),
-      otherFolders_(std::move(otherFolders)) {}
+      otherFolders_(std::move(otherFolders)),
+      onlyFolder_(std::move(onlyFolder)) {}
 
 void UsageQuery::queryAPI(Done done) {
     done_ = std::move(done);
+    if (!onlyFolder_.isEmpty()) {
+        readFiles({onlyFolder_}, [this](const std::optional<Credentials>& credentials) {
+            useCredentials(credentials);
+        });
+        return;
+    }
     readFiles({home_ + "/.claude"}, [this](const std::optional<Credentials>& credentials) {
         if (credentials) {
             useCredentials(credentials);

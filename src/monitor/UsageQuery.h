@@ -36,7 +36,9 @@ public:
     };
 
     /// `otherFolders` are searched for credentials after the usual folder and the keyring.
-    UsageQuery(Services services, QByteArray home, Endpoint endpoint, QByteArrayList otherFolders);
+    /// If there is an `onlyFolder`, nothing else is searched.
+    UsageQuery(Services services, QByteArray home, Endpoint endpoint, QByteArrayList otherFolders,
+               QByteArray onlyFolder = {});
 
     struct Outcome {
         std::optional<PlanWindows> windows; ///< None if there was no valid answer.
@@ -68,6 +70,7 @@ private:
     QByteArray home_;
     Endpoint endpoint_;
     QByteArrayList otherFolders_;
+    QByteArray onlyFolder_;
     Done done_;
     std::optional<Seconds> lastRenew_; ///< Uptime.
     Handle step_;

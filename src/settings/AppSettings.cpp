@@ -94,6 +94,7 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       notifySaving_(preferences.value(u"notifySaving"_s).toBool(false)),
       notifyPlan_(preferences.value(u"notifyPlan"_s).toBool(false)),
       language_(knownLanguage(preferences.value(u"language"_s).toString())),
+      secondAccount_(preferences.value(u"secondAccount"_s).toString()),
       onboarded_(preferences.value(u"onboarded"_s).toBool(false)),
       launchAtLogin_(loginItem.isEnabled()) {}
 
@@ -333,6 +334,11 @@ void AppSettings::setNotifyPlan(bool on) {
 void AppSettings::setLanguage(const QString& language) {
     preferences_.set(u"language"_s, language);
     change(language_, knownLanguage(language), &AppSettings::languageChanged);
+}
+
+void AppSettings::setSecondAccount(const QString& folder) {
+    preferences_.set(u"secondAccount"_s, folder);
+    change(secondAccount_, folder, &AppSettings::secondAccountChanged);
 }
 
 void AppSettings::setOnboarded(bool done) {

@@ -58,6 +58,8 @@ class AppSettings : public QObject {
     Q_PROPERTY(bool notifySaving READ notifySaving WRITE setNotifySaving NOTIFY notifySavingChanged)
     Q_PROPERTY(bool notifyPlan READ notifyPlan WRITE setNotifyPlan NOTIFY notifyPlanChanged)
     Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
+    Q_PROPERTY(
+        QString secondAccount READ secondAccount WRITE setSecondAccount NOTIFY secondAccountChanged)
     Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
     Q_PROPERTY(
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
@@ -131,6 +133,9 @@ public:
     /// Show what Claude Code hands to its status line instead of what its transcripts say.
     [[nodiscard]] bool handedOverFirst() const { return handedOverFirst_; }
 
+    /// Claude Code's folder of a second account; empty if there is none.
+    [[nodiscard]] const QString& secondAccount() const { return secondAccount_; }
+
     /// Desktop notifications when the timer ends, ...
     [[nodiscard]] bool notifyTimer() const { return notifyTimer_; }
 
@@ -182,6 +187,7 @@ public:
     void setNotifySaving(bool on);
     void setNotifyPlan(bool on);
     void setLanguage(const QString& language);
+    void setSecondAccount(const QString& folder);
     void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
 
@@ -228,6 +234,7 @@ Q_SIGNALS:
     void notifySavingChanged();
     void notifyPlanChanged();
     void languageChanged();
+    void secondAccountChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
 
@@ -271,6 +278,7 @@ private:
     bool notifySaving_;
     bool notifyPlan_;
     QString language_;
+    QString secondAccount_;
     bool onboarded_;
     bool launchAtLogin_;
 };

@@ -36,7 +36,8 @@ protected:
     int setups_ = 0;
     int looks_ = 0; ///< For updates.
     Commands commands_{{world_.store, world_.pause, world_.controller, world_.scheduler, context_,
-                        plan_.usage, [] { return StatusChoice(); }, [this] { ++setups_; },
+                        plan_.usage, [] { return StatusChoice(); },
+                        [] { return std::optional<OtherPlan>(); }, [this] { ++setups_; },
                         [this] { ++looks_; }, [] {},
                         [this](const QString& path, const Commands::Reply& reply) {
                             exported_ = path;

@@ -426,6 +426,29 @@ TEST_F(PlanUsageTest, looksElsewhereForCredentialsLast) {
     EXPECT_TRUE(run().contains("Bearer secret-token\r\n"));
 }
 
+TEST_F(PlanUsageTest, knowsASecondAccountByItsFolderOnly) {
+    const auto second = [this] {
+        auto plan = std::make_unique<PlanUsage>(
+            UsageQuery::Services{scheduler, files, secrets, https, children},
+            QFile::encodeName(home.path()), std::make_unique<FakeFolderChanges>(),
+            UsageQuery::Endpoint{server.url(u"localhost"_s), Seconds(15)}, QByteArrayList(),
+            QFile::encodeName(path(u"work"_s)));
+        settle(*plan);
+        return plan;
+    };
+    secrets.secret = credentials("token-2");
+    const auto without = second();
+    EXPECT_FALSE(without->liveOK());
+    EXPECT_EQ(without->session(), std::nullopt) << "a file of the usual account was read";
+    EXPECT_EQ(server.requests().size(), 0) << "with the usual account's token";
+    EXPECT_EQ(secrets.asked, QStringList());
+    write(u"work/.credentials.json"_s, credentials("token-3"));
+    const auto with = second();
+    EXPECT_TRUE(with->liveOK());
+    ASSERT_EQ(server.requests().size(), 1);
+    EXPECT_TRUE(server.requests().first().contains("token-3"));
+}
+
 TEST_F(PlanUsageTest, hidesTheTokenAndCanBeDestroyedDuringAQuery) {
     server.answer.clear();
     usage = asking(https);

@@ -113,6 +113,11 @@ TEST(Status, followsTheUsersChoice) {
     EXPECT_EQ(contextDetails(status, offPeak, zone),
               QStringList({u"larkspur · 09:30"_s, u"5h session: at this pace full at 11:55"_s}));
     EXPECT_EQ(contextDetails(MonitorStatus(), offPeak, zone), QStringList());
+    MonitorStatus two;
+    two.second = OtherPlan{u"work"_s, {UsageWindow{5, {}}, {}}, {}, offPeak};
+    EXPECT_EQ(contextDetails(two, offPeak, zone), QStringList{u"work: 5h 5% · week —"_s});
+    EXPECT_TRUE(statusJson(two, offPeak, english, zone)
+                    .contains(R"("second":{"name":"work","planAge":0,"session":{"fullAt":null,)"));
 }
 
 TEST(Status, isPrintedForBars) {

@@ -64,6 +64,9 @@ QStringList Usage::notes(const PacedWindow& paced) const {
     if (const auto& at = services_.plan.figuresAt(); at && paced.window) {
         notes << tr("read %1").arg(relative_.text(*at, now));
     }
+    if (!second_.isEmpty()) {
+        notes << second_;
+    }
     return notes;
 }
 

@@ -43,6 +43,9 @@ public:
 
     void refresh();
 
+    /// A line about it; empty if there is none.
+    void setSecondAccount(const QString& line) { second_ = line; }
+
     /// For a tooltip, as it is now: the pace of a window, and how old its figures are.
     [[nodiscard]] Q_INVOKABLE QStringList sessionNotes() const;
     [[nodiscard]] Q_INVOKABLE QStringList weekNotes() const;
@@ -63,6 +66,7 @@ private:
     bool installed_ = true;
     UsageLine session_;
     UsageLine week_;
+    QString second_;
     Handle nextText_;
 };
 

@@ -65,14 +65,13 @@ QStringList paceNotes(const PacedWindow& paced, Date now) {
         return {};
     }
     QStringList notes;
-    const std::optional<Date>& resets = paced.window->resets;
-    if (const QString full = fullText(paced.pace, now); !full.isEmpty()) {
-        notes << capitalised(full);
-        if (resets) {
-            notes.last() += u", "_s +
-                            span(resets->sinceReference - paced.pace->fullAt->sinceReference) +
-                            u" before the reset"_s;
-        }
+    const std::optional<Date> resets = paced.window->resets;
+    const std::optional<Date> fullAt = comingFullAt(paced.pace, now);
+    if (fullAt) {
+        notes << capitalised(fullText(paced.pace, now)) +
+                     (resets ? u", "_s + span(resets->sinceReference - fullAt->sinceReference) +
+                                   u" before the reset"_s
+                             : QString());
     } else if (resets && !paced.pace->fullAt && paced.window->pct < 100) {
         notes << u"Lasts until the reset"_s;
     }

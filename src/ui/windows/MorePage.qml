@@ -1,5 +1,6 @@
 import QtQuick
 import Ravelo.Controls
+import Ravelo.Text
 import Ravelo.Windows
 
 /// Settings about other programs.
@@ -71,6 +72,29 @@ Column {
             note: qsTr("From its status line, if that runs ravelo --store-usage.")
             on: page.settings.handedOverFirst
             onToggled: on => page.settings.handedOverFirst = on
+        }
+
+        SettingBlock {
+            text: qsTr("Second account")
+
+            FieldFrame {
+                width: parent.width
+                height: 32
+                input: secondAccount
+                floats: true
+
+                EditLine {
+                    id: secondAccount
+                    objectName: "secondAccount"
+                    x: 10
+                    width: parent.width - 20
+                    height: parent.height
+                    placeholder: qsTr("Its CLAUDE_CONFIG_DIR…")
+                    text: page.settings.secondAccount
+                    Accessible.name: qsTr("Folder of the second account")
+                    onEditingFinished: page.settings.secondAccount = text.trim()
+                }
+            }
         }
     }
 }
