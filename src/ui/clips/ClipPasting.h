@@ -31,7 +31,7 @@ public:
     [[nodiscard]] QString keys() const;
 
     /// Whether Return, or a digit, with these Qt::KeyboardModifiers pastes.
-    Q_INVOKABLE bool pastes(int modifiers) const;
+    [[nodiscard]] Q_INVOKABLE bool pastes(int modifiers) const;
 
     /// `text` is what `copy` copies, if that is a text.
     void run(const QString& text, const std::function<void()>& copy);
