@@ -5,7 +5,6 @@
 #include "base/Result.h"
 #include "platform/Answer.h"
 #include "platform/system/DataLock.h"
-#include "ui/windows/SettingsWindow.h"
 
 #include <QStringList>
 
@@ -17,28 +16,28 @@ namespace ravelo {
 
 class AppSettings;
 class CapturePause;
-class Encryption;
+class ClaudeCode;
 class ClipboardManager;
 class Commands;
 class DesktopNotices;
+class Encryption;
+class HistorySettings;
 class HotZone;
-class LiveContext;
-class Notices;
+class KeyWhileLocked;
 class NearbySend;
 class NotchController;
-class OnboardingController;
+class Notices;
 class PanelPicture;
 class PanelView;
 class PanelWindow;
 class Pasting;
-class PlanUsage;
-class SecondPlan;
 class ReceivedWatcher;
 class SelectedTexts;
 class StatusItemController;
 class Store;
+class StoreNotices;
 class Transfers;
-class UpdateWindow;
+class Windows;
 
 /// Creates the parts of the program in order and connects them. Everything lives until the
 /// process ends. Main thread only.
@@ -74,26 +73,18 @@ public:
 
 private:
     [[nodiscard]] std::vector<SessionLock*> locks();
-    [[nodiscard]] LiveContext& liveContext();
-    [[nodiscard]] PlanUsage& planUsage();
-    void provideWindows();
-    [[nodiscard]] SettingsWindow::SnippetFiles snippetFiles();
     void wire();
-    void wireNotices();
     void wireNotifications();
-    void wireSecondPlan();
     void wireSettings();
-    void wireSecrets();
     void wireShortcut();
-    void followRules();
     void wirePicture();
     void wireEncryption();
-    void followScreenLock();
 
     Platform platform_;
     std::unique_ptr<ReceivedWatcher> received_;
     std::unique_ptr<NearbySend> nearby_;
     std::unique_ptr<Notices> notices_;
+    std::unique_ptr<ClaudeCode> claude_;
     std::unique_ptr<DesktopNotices> notifications_;
     std::unique_ptr<Encryption> encryption_;
     std::unique_ptr<Store> store_;
@@ -107,19 +98,17 @@ private:
     std::unique_ptr<HotZone> zone_;
     std::unique_ptr<NotchController> notch_;
     std::unique_ptr<Pasting> pasting_;
-    std::unique_ptr<SettingsWindow> settingsWindow_;
-    std::unique_ptr<OnboardingController> onboarding_;
-    std::unique_ptr<UpdateWindow> updateWindow_;
-    std::unique_ptr<SecondPlan> second_;
+    std::unique_ptr<Windows> windows_;
     std::unique_ptr<StatusItemController> statusItem_;
     std::unique_ptr<Commands> commands_;
     std::unique_ptr<PanelPicture> picture_;
+    std::unique_ptr<HistorySettings> history_;
+    std::unique_ptr<StoreNotices> storeNotices_;
+    std::unique_ptr<KeyWhileLocked> screenKey_;
     Handle compositor_;
     Handle motion_;
     Handle termination_;
     Handle arrivals_;
-    std::vector<Handle> lockChanges_;
-    bool screenLocked_ = false;
 };
 
 } // namespace ravelo

@@ -12,6 +12,8 @@
 
 namespace ravelo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 constexpr Seconds pollInterval{0.5};
@@ -341,7 +343,7 @@ std::function<void(const ClipboardManager::Forms&)> ClipboardManager::unlessOver
 }
 
 void ClipboardManager::copyPng(const QByteArray& png) {
-    write({{pngType, png}});
+    write({{u"image/png"_s, png}});
 }
 
 void ClipboardManager::copyFile(const QUrl& url) {

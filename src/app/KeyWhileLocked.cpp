@@ -1,0 +1,49 @@
+#include "app/KeyWhileLocked.h"
+
+#include "platform/SessionLock.h"
+#include "platform/system/DecoderProcess.h"
+#include "settings/AppSettings.h"
+#include "store/Store.h"
+#include "vault/Encryption.h"
+
+#include <algorithm>
+#include <utility>
+
+namespace ravelo {
+
+KeyWhileLocked::KeyWhileLocked(Services services, std::function<void()> forgotten)
+    : services_(std::move(services)), forgotten_(std::move(forgotten)) {
+    for (SessionLock* lock : services_.locks) {
+        changes_.push_back(lock->onChange([this] { follow(); }));
+    }
+}
+
+bool KeyWhileLocked::isScreenLocked() const {
+    return std::ranges::any_of(services_.locks, &SessionLock::isLocked);
+}
+
+void KeyWhileLocked::follow() {
+    const bool locked = isScreenLocked();
+    if (locked == std::exchange(wasLocked_, locked)) {
+        return;
+    }
+    if (!locked) {
+        onScreenUnlock();
+        services_.store.lock({}); // It may still wait for a save.
+        services_.encryption.getKey();
+    } else if (services_.settings.forgetKeyWhileLocked() &&
+               services_.encryption.state() == Encryption::Open) {
+        services_.store.lock([this] { forget(); });
+    }
+}
+
+void KeyWhileLocked::forget() {
+    services_.encryption.forgetKey();
+    if (!services_.encryption.isLocked()) { // It is converting files.
+        services_.store.unlock();
+    }
+    services_.decoder.forgetOwn();
+    forgotten_();
+}
+
+} // namespace ravelo
