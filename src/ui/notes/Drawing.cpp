@@ -8,7 +8,7 @@
 #include <cmath>
 #include <utility>
 
-namespace ravelo::Drawing {
+namespace ravelo::drawing {
 
 namespace {
 
@@ -250,4 +250,4 @@ QByteArray png(const QImage& picture) {
     return bytes;
 }
 
-} // namespace ravelo::Drawing
+} // namespace ravelo::drawing

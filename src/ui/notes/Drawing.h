@@ -11,7 +11,7 @@
 #include <optional>
 
 /// Rules of the sketch, on values. Lengths are logical pixels.
-namespace ravelo::Drawing {
+namespace ravelo::drawing {
 
 inline constexpr double penWidth = 2.5;
 inline constexpr double eraserRadius = 9;
@@ -47,4 +47,4 @@ void paint(QPainter& painter, const QColor& color, const QList<Stroke>& drawing,
 
 [[nodiscard]] QByteArray png(const QImage& picture);
 
-} // namespace ravelo::Drawing
+} // namespace ravelo::drawing

@@ -42,7 +42,7 @@ void Sketch::follow() {
 }
 
 void Sketch::set(QList<Stroke> strokes) {
-    const QRectF region = Drawing::difference(strokes_, strokes);
+    const QRectF region = drawing::difference(strokes_, strokes);
     strokes_ = std::move(strokes);
     Q_EMIT drawn(region);
 }
@@ -69,27 +69,27 @@ void Sketch::jump(QPointF to) {
 }
 
 void Sketch::beginStroke(QPointF point) {
-    drawing_ = Drawing::roomFor(point, strokes_) != Drawing::Room::none;
+    drawing_ = drawing::roomFor(point, strokes_) != drawing::Room::none;
     if (drawing_) {
         strokes_.append({QUuid::createUuid(), {point}});
-        Q_EMIT drawn(Drawing::endOf(strokes_.last()));
+        Q_EMIT drawn(drawing::endOf(strokes_.last()));
     } else {
         services_.toast.flash(tr("The sketch is full"));
     }
 }
 
 void Sketch::draw(QPointF point) {
-    if (drawing_ && Drawing::roomFor(point, strokes_) == Drawing::Room::newStroke) {
+    if (drawing_ && drawing::roomFor(point, strokes_) == drawing::Room::newStroke) {
         beginStroke(last_);
     }
-    if (drawing_ && Drawing::roomFor(point, strokes_) == Drawing::Room::lastStroke) {
+    if (drawing_ && drawing::roomFor(point, strokes_) == drawing::Room::lastStroke) {
         strokes_.last().points.append(point);
-        Q_EMIT drawn(Drawing::endOf(strokes_.last()));
+        Q_EMIT drawn(drawing::endOf(strokes_.last()));
     }
 }
 
 void Sketch::erase(QPointF to) {
-    if (auto left = Drawing::erased(strokes_, {last_, to})) {
+    if (auto left = drawing::erased(strokes_, {last_, to})) {
         set(std::move(*left));
     }
 }
@@ -136,14 +136,14 @@ void Sketch::clear() {
 }
 
 void Sketch::copy() {
-    if (const QImage picture = Drawing::picture(strokes_); !picture.isNull()) {
-        services_.controller.copyPng(Drawing::png(picture));
+    if (const QImage picture = drawing::picture(strokes_); !picture.isNull()) {
+        services_.controller.copyPng(drawing::png(picture));
         services_.toast.flashCopied();
     }
 }
 
 void Sketch::drag(QQuickItem* from) {
-    if (const QImage picture = Drawing::picture(strokes_); !picture.isNull()) {
+    if (const QImage picture = drawing::picture(strokes_); !picture.isNull()) {
         drag_.start(picture, *from);
     }
 }

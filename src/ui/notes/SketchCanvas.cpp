@@ -80,8 +80,8 @@ double SketchCanvas::pixelRatio() const {
 }
 
 double SketchCanvas::fittingScale() const {
-    const QRectF bounds = Drawing::bounds(sketch_->strokes());
-    const double slack = Drawing::penWidth; // Of a line along the edge.
+    const QRectF bounds = drawing::bounds(sketch_->strokes());
+    const double slack = drawing::penWidth; // Of a line along the edge.
     return std::min({1.0, width() / std::max(bounds.right() - slack, 1.0),
                      height() / std::max(bounds.bottom() - slack, 1.0)});
 }
@@ -130,7 +130,7 @@ void SketchCanvas::redraw(const QRectF& region) {
     painter.fillRect(place, Qt::transparent);
     painter.setCompositionMode(QPainter::CompositionMode_SourceOver);
     painter.scale(scale_, scale_);
-    Drawing::paint(painter, color_, sketch_->strokes(),
+    drawing::paint(painter, color_, sketch_->strokes(),
                    {place.topLeft() / scale_, place.size() / scale_});
     painter.end();
     for (const auto& tile : tiles_) {

@@ -84,7 +84,7 @@ void SketchDrag::drag(const QImage& picture, double scale) {
         QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
         u"/ravelo-sketch-XXXXXX"_s);
     auto* drag = new QDrag(this); // Qt deletes it, with its data, after the drag.
-    drag->setMimeData(new Picture(Drawing::png(picture), folder_));
+    drag->setMimeData(new Picture(drawing::png(picture), folder_));
     QImage thumb =
         picture.scaled(QSize(96, 96) * scale, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     thumb.setDevicePixelRatio(scale);

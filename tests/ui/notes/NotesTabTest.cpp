@@ -147,7 +147,7 @@ TEST_F(NotesTab, TheSketchIsCopiedAsAPng) {
     pressKeys(u"Ctrl+C"_s);
     EXPECT_EQ(toast(), u"Copied \u2713"_s);
     const QImage copied = QImage::fromData(world.pasteboard.bytes("image/png"_L1));
-    EXPECT_NEAR(copied.width(), 2 * (50 + 24 + Drawing::penWidth), 2);
+    EXPECT_NEAR(copied.width(), 2 * (50 + 24 + drawing::penWidth), 2);
 }
 
 TEST_F(NotesTab, ASnippetIsCopiedWithItsImage) {
