@@ -31,8 +31,15 @@ SLOWER = int(os.environ.get("RAVELO_SLOWER", 1))  # Time factor for builds with 
 STALL_LIMIT = 0.05 * SLOWER  # Max. seconds without an answer from the main thread.
 
 
+def too_long(*_):
+    raise TimeoutError("the test waits for something that does not come")
+
+
 class ProgramCase(unittest.TestCase):
     def setUp(self):
+        signal.signal(signal.SIGALRM, too_long)
+        signal.alarm(120)
+        self.addCleanup(signal.alarm, 0)
         self.desktop = self.enterContext(Desktop())
         self.ravelo = Ravelo(self.desktop, os.environ["RAVELO"])
 

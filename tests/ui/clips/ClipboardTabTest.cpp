@@ -271,7 +271,7 @@ TEST_F(Panel, copiesAsPlainText) {
     rebuild();
     openSearch();
     pressKeys(u"Menu"_s);
-    EXPECT_EQ(property(u"rowMenu"_s, u"item1"_s, "modelData").toMap()[u"text"_s],
+    EXPECT_EQ(property(u"rowMenu"_s, u"item2"_s, "modelData").toMap()[u"text"_s],
               u"Copy as plain text"_s);
 }
 
