@@ -71,6 +71,18 @@
         <source>This desktop does not show programs what is selected.</source>
         <translation>Dieser Desktop zeigt Programmen nicht, was markiert ist.</translation>
     </message>
+    <message>
+        <source>Show program and size in the list</source>
+        <translation>Programm und Größe in der Liste zeigen</translation>
+    </message>
+    <message>
+        <source>Of what is copied from now on; also finds it by “app:firefox”.</source>
+        <translation>Für alles, was ab jetzt kopiert wird; auch mit „app:firefox“ zu finden.</translation>
+    </message>
+    <message>
+        <source>Sizes only: this desktop does not show programs who copied.</source>
+        <translation>Nur Größen: Dieser Desktop zeigt Programmen nicht, wer kopiert hat.</translation>
+    </message>
 </context>
 <context>
     <name>ClipQuery</name>
@@ -114,6 +126,22 @@
         <source>No texts</source>
         <translation>Keine Texte</translation>
     </message>
+    <message>
+        <source>Nothing matches</source>
+        <translation>Kein Treffer</translation>
+    </message>
+    <message>
+        <source>Nothing from “%1”</source>
+        <translation>Nichts aus „%1“</translation>
+    </message>
+    <message>
+        <source>No files have “%1”.</source>
+        <translation>Keine Datei enthält „%1“.</translation>
+    </message>
+    <message>
+        <source>No files</source>
+        <translation>Keine Dateien</translation>
+    </message>
 </context>
 <context>
     <name>ClipRow</name>
@@ -140,6 +168,29 @@
     <message>
         <source>Delete</source>
         <translation>Löschen</translation>
+    </message>
+</context>
+<context>
+    <name>ClipSheet</name>
+    <message>
+        <source>Edit clip</source>
+        <translation>Eintrag bearbeiten</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Text</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Discard the changes?</source>
+        <translation>Änderungen verwerfen?</translation>
     </message>
 </context>
 <context>
@@ -191,6 +242,14 @@
     <message>
         <source>Clipboard history</source>
         <translation>Verlauf der Zwischenablage</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Each line may run as a command.</source>
+        <translation>Jede Zeile kann als Befehl ausgeführt werden.</translation>
     </message>
 </context>
 <context>
@@ -437,6 +496,133 @@
     </message>
 </context>
 <context>
+    <name>KeysPage</name>
+    <message>
+        <source>Paste at once</source>
+        <translation>Sofort einfügen</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Paste one of the first nine</source>
+        <translation>Einen der ersten neun einfügen</translation>
+    </message>
+    <message>
+        <source>Copy one of the first nine</source>
+        <translation>Einen der ersten neun kopieren</translation>
+    </message>
+    <message>
+        <source>Copy one of them</source>
+        <translation>Einen davon kopieren</translation>
+    </message>
+    <message>
+        <source>Paste one of them</source>
+        <translation>Einen davon einfügen</translation>
+    </message>
+    <message>
+        <source>Preview, reveal a secret</source>
+        <translation>Vorschau, Geheimnis zeigen</translation>
+    </message>
+    <message>
+        <source>Open a link</source>
+        <translation>Link öffnen</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Anheften</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Choose several</source>
+        <translation>Mehrere auswählen</translation>
+    </message>
+    <message>
+        <source>Extend the choice</source>
+        <translation>Auswahl erweitern</translation>
+    </message>
+    <message>
+        <source>Menu of the clip</source>
+        <translation>Menü des Eintrags</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Suchen</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filter</translation>
+    </message>
+    <message>
+        <source>Next tab</source>
+        <translation>Nächster Tab</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Open from anywhere</source>
+        <translation>Von überall öffnen</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Kürzel</translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation>Kopieren</translation>
+    </message>
+    <message>
+        <source>Return pastes at once</source>
+        <translation>Eingabe fügt sofort ein</translation>
+    </message>
+    <message>
+        <source>Not possible on this desktop: it lets no program type.</source>
+        <translation>Auf diesem Desktop nicht möglich: Er lässt kein Programm tippen.</translation>
+    </message>
+    <message>
+        <source>Into the window you came from. Shift+Return only copies.</source>
+        <translation>In das Fenster, aus dem du kommst. Umschalt+Eingabe kopiert nur.</translation>
+    </message>
+    <message>
+        <source>Into the window you came from. Shift+Return always does.</source>
+        <translation>In das Fenster, aus dem du kommst. Umschalt+Eingabe tut das immer.</translation>
+    </message>
+    <message>
+        <source>Join several clips with</source>
+        <translation>Mehrere verbinden mit</translation>
+    </message>
+    <message>
+        <source>Line break</source>
+        <translation>Zeilenumbruch</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Leerzeichen</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation>Komma</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nichts</translation>
+    </message>
+    <message>
+        <source>In the panel</source>
+        <translation>Im Panel</translation>
+    </message>
+</context>
+<context>
     <name>LockedView</name>
     <message>
         <source>Unlock…</source>
@@ -516,6 +702,38 @@
         <source>Its rows in the panel and its line in the tray tooltip.</source>
         <translation>Seine Zeilen im Panel und im Tooltip des Symbols.</translation>
     </message>
+    <message>
+        <source>Show peak hours</source>
+        <translation>Spitzenzeit zeigen</translation>
+    </message>
+    <message>
+        <source>Stay with one session</source>
+        <translation>Bei einer Sitzung bleiben</translation>
+    </message>
+    <message>
+        <source>With several at work, the one that wrote last, until it has been quiet for a minute.</source>
+        <translation>Bei mehreren aktiven die, die zuletzt geschrieben hat, bis sie eine Minute lang ruht.</translation>
+    </message>
+    <message>
+        <source>Prefer what Claude Code reports</source>
+        <translation>Angaben von Claude Code bevorzugen</translation>
+    </message>
+    <message>
+        <source>From its status line, if that runs ravelo --store-usage.</source>
+        <translation>Aus seiner Statuszeile, wenn sie ravelo --store-usage ausführt.</translation>
+    </message>
+    <message>
+        <source>Second account</source>
+        <translation>Zweites Konto</translation>
+    </message>
+    <message>
+        <source>Its CLAUDE_CONFIG_DIR…</source>
+        <translation>Sein CLAUDE_CONFIG_DIR…</translation>
+    </message>
+    <message>
+        <source>Folder of the second account</source>
+        <translation>Ordner des zweiten Kontos</translation>
+    </message>
 </context>
 <context>
     <name>NewPassphrase</name>
@@ -560,6 +778,37 @@
     <message>
         <source>Dismiss</source>
         <translation>Schließen</translation>
+    </message>
+</context>
+<context>
+    <name>NotificationsSection</name>
+    <message>
+        <source>Notifications</source>
+        <translation>Benachrichtigungen</translation>
+    </message>
+    <message>
+        <source>The timer has ended</source>
+        <translation>Timer abgelaufen</translation>
+    </message>
+    <message>
+        <source>This desktop shows no notifications.</source>
+        <translation>Dieser Desktop zeigt keine Benachrichtigungen.</translation>
+    </message>
+    <message>
+        <source>Files have arrived</source>
+        <translation>Dateien angekommen</translation>
+    </message>
+    <message>
+        <source>Saving fails</source>
+        <translation>Speicherfehler</translation>
+    </message>
+    <message>
+        <source>Plan at 80% and 95%, and its reset</source>
+        <translation>Tarif bei 80% und 95% und sein Reset</translation>
+    </message>
+    <message>
+        <source>None while the screen is locked.</source>
+        <translation>Keine, solange der Bildschirm gesperrt ist.</translation>
     </message>
 </context>
 <context>
@@ -805,6 +1054,26 @@
         <source>Ctrl+P</source>
         <translation>Strg+P</translation>
     </message>
+    <message>
+        <source>Paste at once</source>
+        <translation>Sofort einfügen</translation>
+    </message>
+    <message>
+        <source>Copy as plain text</source>
+        <translation>Nur den Text kopieren</translation>
+    </message>
+    <message>
+        <source>Alt+Return</source>
+        <translation>Alt+Eingabe</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>Bearbeiten…</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
 </context>
 <context>
     <name>RunningTimer</name>
@@ -862,10 +1131,6 @@
         <translation>%1 ausgewählt</translation>
     </message>
     <message>
-        <source>joined by line breaks, in this order</source>
-        <translation>mit Zeilenumbrüchen verbunden, in dieser Reihenfolge</translation>
-    </message>
-    <message>
         <source>Clear selection</source>
         <translation>Auswahl aufheben</translation>
     </message>
@@ -907,6 +1172,10 @@
     <message>
         <source>Quit Ravelo</source>
         <translation>Ravelo beenden</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Tasten</translation>
     </message>
 </context>
 <context>
@@ -959,6 +1228,33 @@
     <message>
         <source>No longer available</source>
         <translation>Nicht mehr verfügbar</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutField</name>
+    <message>
+        <source>Press the keys</source>
+        <translation>Tasten drücken</translation>
+    </message>
+    <message>
+        <source>Shortcut, %1</source>
+        <translation>Tastenkürzel, %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>keines</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>Tasten drücken…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Keines</translation>
+    </message>
+    <message>
+        <source>Remove the shortcut</source>
+        <translation>Tastenkürzel entfernen</translation>
     </message>
 </context>
 <context>
@@ -1353,16 +1649,13 @@
         <source>Get started</source>
         <translation>Los geht’s</translation>
     </message>
-</context>
-<context>
-    <name>ravelo::AppDelegate</name>
     <message>
-        <source>New copies are sealed until then.</source>
-        <translation>Neue Kopien sind bis dahin versiegelt.</translation>
+        <source>Super+V is taken by another program</source>
+        <translation>Super+V gehört einem anderen Programm</translation>
     </message>
     <message>
-        <source>Unlock…</source>
-        <translation>Entsperren…</translation>
+        <source>Open it with Super+V, too</source>
+        <translation>Auch mit Super+V öffnen</translation>
     </message>
 </context>
 <context>
@@ -1415,8 +1708,47 @@
         <translation>gerade eben</translation>
     </message>
     <message>
-        <source>Pinned · %1</source>
-        <translation>Angeheftet · %1</translation>
+        <source>This expression takes too long</source>
+        <translation>Dieser Ausdruck dauert zu lange</translation>
+    </message>
+    <message>
+        <source>Turn on “Show program and size in the list” to find programs</source>
+        <translation>Schalte „Programm und Größe in der Liste zeigen“ ein, um Programme zu finden</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Angeheftet</translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 Datei</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::ClipPasting</name>
+    <message>
+        <source>Shift+Return</source>
+        <translation>Umschalt+Eingabe</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Paste a line break into the terminal?</source>
+        <translation>Einen Zeilenumbruch ins Terminal einfügen?</translation>
+    </message>
+    <message>
+        <source>Paste %1 line breaks into the terminal?</source>
+        <translation>%1 Zeilenumbrüche ins Terminal einfügen?</translation>
     </message>
 </context>
 <context>
@@ -1473,6 +1805,30 @@
         <source>Text</source>
         <translation>Text</translation>
     </message>
+    <message>
+        <source>Not there any more</source>
+        <translation>Nicht mehr da</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 Datei</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 Dateien</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Dateien</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabelle</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Dokument</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::Clips</name>
@@ -1495,6 +1851,26 @@
     <message>
         <source>History cleared · %1 clips</source>
         <translation>Verlauf gelöscht · %1 Einträge</translation>
+    </message>
+    <message>
+        <source>Too long to edit</source>
+        <translation>Zu lang zum Bearbeiten</translation>
+    </message>
+    <message>
+        <source>joined by spaces, in this order</source>
+        <translation>mit Leerzeichen verbunden, in dieser Reihenfolge</translation>
+    </message>
+    <message>
+        <source>joined by commas, in this order</source>
+        <translation>mit Kommas verbunden, in dieser Reihenfolge</translation>
+    </message>
+    <message>
+        <source>joined by nothing, in this order</source>
+        <translation>ohne Trennzeichen verbunden, in dieser Reihenfolge</translation>
+    </message>
+    <message>
+        <source>joined by line breaks, in this order</source>
+        <translation>mit Zeilenumbrüchen verbunden, in dieser Reihenfolge</translation>
     </message>
 </context>
 <context>
@@ -1537,6 +1913,61 @@
     <message>
         <source>Try again</source>
         <translation>Erneut versuchen</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::DesktopNotices</name>
+    <message>
+        <source>The timer has ended</source>
+        <translation>Der Timer ist abgelaufen</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>Neu starten</translation>
+    </message>
+    <message>
+        <source>5 more minutes</source>
+        <translation>Noch 5 Minuten</translation>
+    </message>
+    <message>
+        <source>A file has arrived</source>
+        <translation>Eine Datei ist angekommen</translation>
+    </message>
+    <message>
+        <source>%1 files have arrived</source>
+        <translation>%1 Dateien sind angekommen</translation>
+    </message>
+    <message>
+        <source>In your downloads folder.</source>
+        <translation>Im Ordner „Downloads“.</translation>
+    </message>
+    <message>
+        <source>Saving fails</source>
+        <translation>Speichern fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>The panel has the reason.</source>
+        <translation>Der Grund steht im Panel.</translation>
+    </message>
+    <message>
+        <source>5h session</source>
+        <translation>5-Std.-Sitzung</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Woche</translation>
+    </message>
+    <message>
+        <source>%1 was reset</source>
+        <translation>%1 wurde zurückgesetzt</translation>
+    </message>
+    <message>
+        <source>%1: %2 used</source>
+        <translation>%1: %2 verbraucht</translation>
+    </message>
+    <message>
+        <source>Resets in %1.</source>
+        <translation>Reset in %1.</translation>
     </message>
 </context>
 <context>
@@ -1670,6 +2101,14 @@
     <message>
         <source>Open with %1?</source>
         <translation>Mit %1 öffnen?</translation>
+    </message>
+    <message>
+        <source>Not there any more</source>
+        <translation>Nicht mehr da</translation>
+    </message>
+    <message>
+        <source>No program opens %1</source>
+        <translation>Kein Programm öffnet %1</translation>
     </message>
 </context>
 <context>
@@ -1949,6 +2388,52 @@
     </message>
 </context>
 <context>
+    <name>ravelo::ShortcutChoice</name>
+    <message>
+        <source>Letters and digits need Ctrl, Alt or Super.</source>
+        <translation>Buchstaben und Ziffern brauchen Strg, Alt oder Super.</translation>
+    </message>
+    <message>
+        <source>Escape cancels, Backspace clears.</source>
+        <translation>Esc bricht ab, die Rücktaste löscht.</translation>
+    </message>
+    <message>
+        <source>Click, then press the keys to open Ravelo with.</source>
+        <translation>Klicke und drücke dann die Tasten, die Ravelo öffnen sollen.</translation>
+    </message>
+    <message>
+        <source>Waiting for the desktop…</source>
+        <translation>Warten auf den Desktop…</translation>
+    </message>
+    <message>
+        <source>Click, then press new keys to change it.</source>
+        <translation>Zum Ändern klicken, dann neue Tasten drücken.</translation>
+    </message>
+    <message>
+        <source>Taken by another program. Click, then press other keys.</source>
+        <translation>Von einem anderen Programm belegt. Klicke und drücke andere Tasten.</translation>
+    </message>
+    <message>
+        <source>Not accepted. Click, then press other keys.</source>
+        <translation>Nicht angenommen. Klicke und drücke andere Tasten.</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program take keys. Put this line into %1’s configuration:</source>
+        <translation>Dieser Desktop überlässt Programmen keine Tasten. Füge diese Zeile in die Konfiguration von %1 ein:</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program take keys. Set a key for this command in its keyboard settings:</source>
+        <translation>Dieser Desktop überlässt Programmen keine Tasten. Lege in seinen Tastatureinstellungen eine Taste für diesen Befehl fest:</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::ShortcutsPortal</name>
+    <message>
+        <source>Open or close Ravelo</source>
+        <translation>Ravelo öffnen oder schließen</translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Sketch</name>
     <message>
         <source>The sketch is full</source>
@@ -2116,6 +2601,17 @@
     </message>
 </context>
 <context>
+    <name>ravelo::StoreNotices</name>
+    <message>
+        <source>New copies are sealed until then.</source>
+        <translation>Neue Kopien sind bis dahin versiegelt.</translation>
+    </message>
+    <message>
+        <source>Unlock…</source>
+        <translation>Entsperren…</translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Toast</name>
     <message>
         <source>Copied ✓</source>
@@ -2205,6 +2701,13 @@
     <message>
         <source>Ravelo Updates</source>
         <translation>Ravelo – Updates</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::Usage</name>
+    <message>
+        <source>read %1</source>
+        <translation>gelesen %1</translation>
     </message>
 </context>
 <context>

@@ -71,6 +71,18 @@
         <source>This desktop does not show programs what is selected.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Show program and size in the list</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Of what is copied from now on; also finds it by “app:firefox”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Sizes only: this desktop does not show programs who copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ClipQuery</name>
@@ -114,6 +126,22 @@
         <source>No texts</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Nothing matches</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing from “%1”</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No files have “%1”.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No files</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ClipRow</name>
@@ -139,6 +167,29 @@
     </message>
     <message>
         <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ClipSheet</name>
+    <message>
+        <source>Edit clip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard the changes?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -190,6 +241,14 @@
     </message>
     <message>
         <source>Clipboard history</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Each line may run as a command.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -437,6 +496,133 @@
     </message>
 </context>
 <context>
+    <name>KeysPage</name>
+    <message>
+        <source>Paste at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste one of the first nine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy one of the first nine</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy one of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste one of them</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Preview, reveal a secret</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open a link</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Choose several</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Extend the choice</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Menu of the clip</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Next tab</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Open from anywhere</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return pastes at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not possible on this desktop: it lets no program type.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Into the window you came from. Shift+Return only copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Into the window you came from. Shift+Return always does.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Join several clips with</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Line break</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In the panel</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>LockedView</name>
     <message>
         <source>Unlock…</source>
@@ -516,6 +702,38 @@
         <source>Its rows in the panel and its line in the tray tooltip.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Show peak hours</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Stay with one session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>With several at work, the one that wrote last, until it has been quiet for a minute.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Prefer what Claude Code reports</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>From its status line, if that runs ravelo --store-usage.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Second account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Its CLAUDE_CONFIG_DIR…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Folder of the second account</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>NewPassphrase</name>
@@ -559,6 +777,37 @@
     <name>NoticeLine</name>
     <message>
         <source>Dismiss</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>NotificationsSection</name>
+    <message>
+        <source>Notifications</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The timer has ended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This desktop shows no notifications.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files have arrived</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving fails</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Plan at 80% and 95%, and its reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None while the screen is locked.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -805,6 +1054,26 @@
         <source>Ctrl+P</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Paste at once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Copy as plain text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Alt+Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RunningTimer</name>
@@ -862,10 +1131,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>joined by line breaks, in this order</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Clear selection</source>
         <translation type="unfinished"></translation>
     </message>
@@ -906,6 +1171,10 @@
     </message>
     <message>
         <source>Quit Ravelo</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Keys</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -958,6 +1227,33 @@
     <name>ShelfTileView</name>
     <message>
         <source>No longer available</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutField</name>
+    <message>
+        <source>Press the keys</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shortcut, %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Remove the shortcut</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1353,15 +1649,12 @@
         <source>Get started</source>
         <translation type="unfinished"></translation>
     </message>
-</context>
-<context>
-    <name>ravelo::AppDelegate</name>
     <message>
-        <source>New copies are sealed until then.</source>
+        <source>Super+V is taken by another program</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Unlock…</source>
+        <source>Open it with Super+V, too</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1415,7 +1708,46 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Pinned · %1</source>
+        <source>This expression takes too long</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Turn on “Show program and size in the list” to find programs</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::ClipPasting</name>
+    <message>
+        <source>Shift+Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste a line break into the terminal?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Paste %1 line breaks into the terminal?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1473,6 +1805,30 @@
         <source>Text</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Not there any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::Clips</name>
@@ -1494,6 +1850,26 @@
     </message>
     <message>
         <source>History cleared · %1 clips</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Too long to edit</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>joined by spaces, in this order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>joined by commas, in this order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>joined by nothing, in this order</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>joined by line breaks, in this order</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1536,6 +1912,61 @@
     </message>
     <message>
         <source>Try again</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::DesktopNotices</name>
+    <message>
+        <source>The timer has ended</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>5 more minutes</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A file has arrived</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 files have arrived</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>In your downloads folder.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Saving fails</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The panel has the reason.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>5h session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 was reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: %2 used</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Resets in %1.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1669,6 +2100,14 @@
     </message>
     <message>
         <source>Open with %1?</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not there any more</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No program opens %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1949,6 +2388,52 @@
     </message>
 </context>
 <context>
+    <name>ravelo::ShortcutChoice</name>
+    <message>
+        <source>Letters and digits need Ctrl, Alt or Super.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Escape cancels, Backspace clears.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click, then press the keys to open Ravelo with.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Waiting for the desktop…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Click, then press new keys to change it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Taken by another program. Click, then press other keys.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not accepted. Click, then press other keys.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This desktop lets no program take keys. Put this line into %1’s configuration:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>This desktop lets no program take keys. Set a key for this command in its keyboard settings:</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::ShortcutsPortal</name>
+    <message>
+        <source>Open or close Ravelo</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Sketch</name>
     <message>
         <source>The sketch is full</source>
@@ -2116,6 +2601,17 @@
     </message>
 </context>
 <context>
+    <name>ravelo::StoreNotices</name>
+    <message>
+        <source>New copies are sealed until then.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unlock…</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Toast</name>
     <message>
         <source>Copied ✓</source>
@@ -2204,6 +2700,13 @@
     <name>ravelo::UpdateWindow</name>
     <message>
         <source>Ravelo Updates</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::Usage</name>
+    <message>
+        <source>read %1</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -71,6 +71,18 @@
         <source>This desktop does not show programs what is selected.</source>
         <translation>Este ambiente não mostra aos programas o que está selecionado.</translation>
     </message>
+    <message>
+        <source>Show program and size in the list</source>
+        <translation>Mostrar programa e tamanho na lista</translation>
+    </message>
+    <message>
+        <source>Of what is copied from now on; also finds it by “app:firefox”.</source>
+        <translation>Do que for copiado a partir de agora; também dá para buscar “app:firefox”.</translation>
+    </message>
+    <message>
+        <source>Sizes only: this desktop does not show programs who copied.</source>
+        <translation>Só tamanhos: este ambiente não mostra aos programas quem copiou.</translation>
+    </message>
 </context>
 <context>
     <name>ClipQuery</name>
@@ -114,6 +126,22 @@
         <source>No texts</source>
         <translation>Nenhum texto</translation>
     </message>
+    <message>
+        <source>Nothing matches</source>
+        <translation>Nada corresponde</translation>
+    </message>
+    <message>
+        <source>Nothing from “%1”</source>
+        <translation>Nada de “%1”</translation>
+    </message>
+    <message>
+        <source>No files have “%1”.</source>
+        <translation>Nenhum arquivo contém “%1”.</translation>
+    </message>
+    <message>
+        <source>No files</source>
+        <translation>Nenhum arquivo</translation>
+    </message>
 </context>
 <context>
     <name>ClipRow</name>
@@ -140,6 +168,29 @@
     <message>
         <source>Delete</source>
         <translation>Excluir</translation>
+    </message>
+</context>
+<context>
+    <name>ClipSheet</name>
+    <message>
+        <source>Edit clip</source>
+        <translation>Editar item</translation>
+    </message>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Cancelar</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Discard the changes?</source>
+        <translation>Descartar as alterações?</translation>
     </message>
 </context>
 <context>
@@ -191,6 +242,14 @@
     <message>
         <source>Clipboard history</source>
         <translation>Histórico da área de transferência</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Arquivos</translation>
+    </message>
+    <message>
+        <source>Each line may run as a command.</source>
+        <translation>Cada linha pode ser executada como comando.</translation>
     </message>
 </context>
 <context>
@@ -437,6 +496,133 @@
     </message>
 </context>
 <context>
+    <name>KeysPage</name>
+    <message>
+        <source>Paste at once</source>
+        <translation>Colar na hora</translation>
+    </message>
+    <message>
+        <source>Copy</source>
+        <translation>Copiar</translation>
+    </message>
+    <message>
+        <source>Paste one of the first nine</source>
+        <translation>Colar um dos nove primeiros</translation>
+    </message>
+    <message>
+        <source>Copy one of the first nine</source>
+        <translation>Copiar um dos nove primeiros</translation>
+    </message>
+    <message>
+        <source>Copy one of them</source>
+        <translation>Copiar um deles</translation>
+    </message>
+    <message>
+        <source>Paste one of them</source>
+        <translation>Colar um deles</translation>
+    </message>
+    <message>
+        <source>Preview, reveal a secret</source>
+        <translation>Prévia, mostrar um segredo</translation>
+    </message>
+    <message>
+        <source>Open a link</source>
+        <translation>Abrir um link</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Fixar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Choose several</source>
+        <translation>Selecionar vários</translation>
+    </message>
+    <message>
+        <source>Extend the choice</source>
+        <translation>Ampliar a seleção</translation>
+    </message>
+    <message>
+        <source>Menu of the clip</source>
+        <translation>Menu do item</translation>
+    </message>
+    <message>
+        <source>Search</source>
+        <translation>Buscar</translation>
+    </message>
+    <message>
+        <source>Filter</source>
+        <translation>Filtro</translation>
+    </message>
+    <message>
+        <source>Next tab</source>
+        <translation>Próxima aba</translation>
+    </message>
+    <message>
+        <source>Close</source>
+        <translation>Fechar</translation>
+    </message>
+    <message>
+        <source>Open from anywhere</source>
+        <translation>Abrir de qualquer lugar</translation>
+    </message>
+    <message>
+        <source>Shortcut</source>
+        <translation>Atalho</translation>
+    </message>
+    <message>
+        <source>Copying</source>
+        <translation>Cópia</translation>
+    </message>
+    <message>
+        <source>Return pastes at once</source>
+        <translation>Enter cola na hora</translation>
+    </message>
+    <message>
+        <source>Not possible on this desktop: it lets no program type.</source>
+        <translation>Não é possível neste ambiente: ele não deixa programas digitarem.</translation>
+    </message>
+    <message>
+        <source>Into the window you came from. Shift+Return only copies.</source>
+        <translation>Na janela de onde você veio. Shift+Enter só copia.</translation>
+    </message>
+    <message>
+        <source>Into the window you came from. Shift+Return always does.</source>
+        <translation>Na janela de onde você veio. Shift+Enter sempre faz isso.</translation>
+    </message>
+    <message>
+        <source>Join several clips with</source>
+        <translation>Unir vários itens com</translation>
+    </message>
+    <message>
+        <source>Line break</source>
+        <translation>Quebra de linha</translation>
+    </message>
+    <message>
+        <source>Space</source>
+        <translation>Espaço</translation>
+    </message>
+    <message>
+        <source>Comma</source>
+        <translation>Vírgula</translation>
+    </message>
+    <message>
+        <source>Nothing</source>
+        <translation>Nada</translation>
+    </message>
+    <message>
+        <source>In the panel</source>
+        <translation>No painel</translation>
+    </message>
+</context>
+<context>
     <name>LockedView</name>
     <message>
         <source>Unlock…</source>
@@ -516,6 +702,38 @@
         <source>Its rows in the panel and its line in the tray tooltip.</source>
         <translation>Suas linhas no painel e na dica do ícone da bandeja.</translation>
     </message>
+    <message>
+        <source>Show peak hours</source>
+        <translation>Ver horário de pico</translation>
+    </message>
+    <message>
+        <source>Stay with one session</source>
+        <translation>Ficar em uma só sessão</translation>
+    </message>
+    <message>
+        <source>With several at work, the one that wrote last, until it has been quiet for a minute.</source>
+        <translation>Com várias ativas, a que escreveu por último, até ficar um minuto em silêncio.</translation>
+    </message>
+    <message>
+        <source>Prefer what Claude Code reports</source>
+        <translation>Preferir o que o Claude Code informa</translation>
+    </message>
+    <message>
+        <source>From its status line, if that runs ravelo --store-usage.</source>
+        <translation>Da linha de status dele, se ela executa ravelo --store-usage.</translation>
+    </message>
+    <message>
+        <source>Second account</source>
+        <translation>Segunda conta</translation>
+    </message>
+    <message>
+        <source>Its CLAUDE_CONFIG_DIR…</source>
+        <translation>Seu CLAUDE_CONFIG_DIR…</translation>
+    </message>
+    <message>
+        <source>Folder of the second account</source>
+        <translation>Pasta da segunda conta</translation>
+    </message>
 </context>
 <context>
     <name>NewPassphrase</name>
@@ -560,6 +778,37 @@
     <message>
         <source>Dismiss</source>
         <translation>Dispensar</translation>
+    </message>
+</context>
+<context>
+    <name>NotificationsSection</name>
+    <message>
+        <source>Notifications</source>
+        <translation>Notificações</translation>
+    </message>
+    <message>
+        <source>The timer has ended</source>
+        <translation>O timer terminou</translation>
+    </message>
+    <message>
+        <source>This desktop shows no notifications.</source>
+        <translation>Este ambiente não mostra notificações.</translation>
+    </message>
+    <message>
+        <source>Files have arrived</source>
+        <translation>Chegaram arquivos</translation>
+    </message>
+    <message>
+        <source>Saving fails</source>
+        <translation>Falha ao salvar</translation>
+    </message>
+    <message>
+        <source>Plan at 80% and 95%, and its reset</source>
+        <translation>Plano em 80% e 95%, e o reset</translation>
+    </message>
+    <message>
+        <source>None while the screen is locked.</source>
+        <translation>Nenhuma enquanto a tela está bloqueada.</translation>
     </message>
 </context>
 <context>
@@ -805,6 +1054,26 @@
         <source>Ctrl+P</source>
         <translation>Ctrl+P</translation>
     </message>
+    <message>
+        <source>Paste at once</source>
+        <translation>Colar na hora</translation>
+    </message>
+    <message>
+        <source>Copy as plain text</source>
+        <translation>Copiar só o texto</translation>
+    </message>
+    <message>
+        <source>Alt+Return</source>
+        <translation>Alt+Enter</translation>
+    </message>
+    <message>
+        <source>Edit…</source>
+        <translation>Editar…</translation>
+    </message>
+    <message>
+        <source>F2</source>
+        <translation>F2</translation>
+    </message>
 </context>
 <context>
     <name>RunningTimer</name>
@@ -862,10 +1131,6 @@
         <translation>%1 selecionados</translation>
     </message>
     <message>
-        <source>joined by line breaks, in this order</source>
-        <translation>unidos por quebras de linha, nesta ordem</translation>
-    </message>
-    <message>
         <source>Clear selection</source>
         <translation>Limpar seleção</translation>
     </message>
@@ -907,6 +1172,10 @@
     <message>
         <source>Quit Ravelo</source>
         <translation>Sair do Ravelo</translation>
+    </message>
+    <message>
+        <source>Keys</source>
+        <translation>Teclas</translation>
     </message>
 </context>
 <context>
@@ -959,6 +1228,33 @@
     <message>
         <source>No longer available</source>
         <translation>Não está mais disponível</translation>
+    </message>
+</context>
+<context>
+    <name>ShortcutField</name>
+    <message>
+        <source>Press the keys</source>
+        <translation>Pressione as teclas</translation>
+    </message>
+    <message>
+        <source>Shortcut, %1</source>
+        <translation>Atalho, %1</translation>
+    </message>
+    <message>
+        <source>none</source>
+        <translation>nenhum</translation>
+    </message>
+    <message>
+        <source>Press the keys…</source>
+        <translation>Pressione as teclas…</translation>
+    </message>
+    <message>
+        <source>None</source>
+        <translation>Nenhum</translation>
+    </message>
+    <message>
+        <source>Remove the shortcut</source>
+        <translation>Remover o atalho</translation>
     </message>
 </context>
 <context>
@@ -1353,16 +1649,13 @@
         <source>Get started</source>
         <translation>Começar</translation>
     </message>
-</context>
-<context>
-    <name>ravelo::AppDelegate</name>
     <message>
-        <source>New copies are sealed until then.</source>
-        <translation>Novas cópias ficam lacradas até lá.</translation>
+        <source>Super+V is taken by another program</source>
+        <translation>Super+V já é de outro programa</translation>
     </message>
     <message>
-        <source>Unlock…</source>
-        <translation>Desbloquear…</translation>
+        <source>Open it with Super+V, too</source>
+        <translation>Abrir também com Super+V</translation>
     </message>
 </context>
 <context>
@@ -1415,8 +1708,47 @@
         <translation>agora mesmo</translation>
     </message>
     <message>
-        <source>Pinned · %1</source>
-        <translation>Fixado · %1</translation>
+        <source>This expression takes too long</source>
+        <translation>Esta expressão demora demais</translation>
+    </message>
+    <message>
+        <source>Turn on “Show program and size in the list” to find programs</source>
+        <translation>Ative “Mostrar programa e tamanho na lista” para encontrar programas</translation>
+    </message>
+    <message>
+        <source>Pinned</source>
+        <translation>Fixado</translation>
+    </message>
+    <message>
+        <source>%1 × %2</source>
+        <translation>%1 × %2</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 arquivo</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 arquivos</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::ClipPasting</name>
+    <message>
+        <source>Shift+Return</source>
+        <translation>Shift+Enter</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Paste a line break into the terminal?</source>
+        <translation>Colar uma quebra de linha no terminal?</translation>
+    </message>
+    <message>
+        <source>Paste %1 line breaks into the terminal?</source>
+        <translation>Colar %1 quebras de linha no terminal?</translation>
     </message>
 </context>
 <context>
@@ -1473,6 +1805,30 @@
         <source>Text</source>
         <translation>Texto</translation>
     </message>
+    <message>
+        <source>Not there any more</source>
+        <translation>Não existe mais</translation>
+    </message>
+    <message>
+        <source>1 file</source>
+        <translation>1 arquivo</translation>
+    </message>
+    <message>
+        <source>%1 files</source>
+        <translation>%1 arquivos</translation>
+    </message>
+    <message>
+        <source>Files</source>
+        <translation>Arquivos</translation>
+    </message>
+    <message>
+        <source>Table</source>
+        <translation>Tabela</translation>
+    </message>
+    <message>
+        <source>Document</source>
+        <translation>Documento</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::Clips</name>
@@ -1495,6 +1851,26 @@
     <message>
         <source>History cleared · %1 clips</source>
         <translation>Histórico limpo · %1 itens</translation>
+    </message>
+    <message>
+        <source>Too long to edit</source>
+        <translation>Longo demais para editar</translation>
+    </message>
+    <message>
+        <source>joined by spaces, in this order</source>
+        <translation>unidos por espaços, nesta ordem</translation>
+    </message>
+    <message>
+        <source>joined by commas, in this order</source>
+        <translation>unidos por vírgulas, nesta ordem</translation>
+    </message>
+    <message>
+        <source>joined by nothing, in this order</source>
+        <translation>unidos sem separador, nesta ordem</translation>
+    </message>
+    <message>
+        <source>joined by line breaks, in this order</source>
+        <translation>unidos por quebras de linha, nesta ordem</translation>
     </message>
 </context>
 <context>
@@ -1537,6 +1913,61 @@
     <message>
         <source>Try again</source>
         <translation>Tentar de novo</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::DesktopNotices</name>
+    <message>
+        <source>The timer has ended</source>
+        <translation>O timer terminou</translation>
+    </message>
+    <message>
+        <source>Start again</source>
+        <translation>Iniciar de novo</translation>
+    </message>
+    <message>
+        <source>5 more minutes</source>
+        <translation>Mais 5 minutos</translation>
+    </message>
+    <message>
+        <source>A file has arrived</source>
+        <translation>Chegou um arquivo</translation>
+    </message>
+    <message>
+        <source>%1 files have arrived</source>
+        <translation>Chegaram %1 arquivos</translation>
+    </message>
+    <message>
+        <source>In your downloads folder.</source>
+        <translation>Na pasta Downloads.</translation>
+    </message>
+    <message>
+        <source>Saving fails</source>
+        <translation>Falha ao salvar</translation>
+    </message>
+    <message>
+        <source>The panel has the reason.</source>
+        <translation>O painel mostra o motivo.</translation>
+    </message>
+    <message>
+        <source>5h session</source>
+        <translation>Sessão de 5h</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Semana</translation>
+    </message>
+    <message>
+        <source>%1 was reset</source>
+        <translation>%1 resetou</translation>
+    </message>
+    <message>
+        <source>%1: %2 used</source>
+        <translation>%1: %2 usado</translation>
+    </message>
+    <message>
+        <source>Resets in %1.</source>
+        <translation>Reseta em %1.</translation>
     </message>
 </context>
 <context>
@@ -1670,6 +2101,14 @@
     <message>
         <source>Open with %1?</source>
         <translation>Abrir com %1?</translation>
+    </message>
+    <message>
+        <source>Not there any more</source>
+        <translation>Não existe mais</translation>
+    </message>
+    <message>
+        <source>No program opens %1</source>
+        <translation>Nenhum programa abre %1</translation>
     </message>
 </context>
 <context>
@@ -1949,6 +2388,52 @@
     </message>
 </context>
 <context>
+    <name>ravelo::ShortcutChoice</name>
+    <message>
+        <source>Letters and digits need Ctrl, Alt or Super.</source>
+        <translation>Letras e números precisam de Ctrl, Alt ou Super.</translation>
+    </message>
+    <message>
+        <source>Escape cancels, Backspace clears.</source>
+        <translation>Esc cancela, Backspace limpa.</translation>
+    </message>
+    <message>
+        <source>Click, then press the keys to open Ravelo with.</source>
+        <translation>Clique e pressione as teclas que vão abrir o Ravelo.</translation>
+    </message>
+    <message>
+        <source>Waiting for the desktop…</source>
+        <translation>Aguardando o ambiente…</translation>
+    </message>
+    <message>
+        <source>Click, then press new keys to change it.</source>
+        <translation>Para mudar, clique e pressione outras teclas.</translation>
+    </message>
+    <message>
+        <source>Taken by another program. Click, then press other keys.</source>
+        <translation>Em uso por outro programa. Clique e pressione outras teclas.</translation>
+    </message>
+    <message>
+        <source>Not accepted. Click, then press other keys.</source>
+        <translation>Não foi aceito. Clique e pressione outras teclas.</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program take keys. Put this line into %1’s configuration:</source>
+        <translation>Este ambiente não cede teclas a programas. Ponha esta linha na configuração do %1:</translation>
+    </message>
+    <message>
+        <source>This desktop lets no program take keys. Set a key for this command in its keyboard settings:</source>
+        <translation>Este ambiente não cede teclas a programas. Defina uma tecla para este comando nos ajustes de teclado:</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::ShortcutsPortal</name>
+    <message>
+        <source>Open or close Ravelo</source>
+        <translation>Abrir ou fechar o Ravelo</translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Sketch</name>
     <message>
         <source>The sketch is full</source>
@@ -2116,6 +2601,17 @@
     </message>
 </context>
 <context>
+    <name>ravelo::StoreNotices</name>
+    <message>
+        <source>New copies are sealed until then.</source>
+        <translation>Novas cópias ficam lacradas até lá.</translation>
+    </message>
+    <message>
+        <source>Unlock…</source>
+        <translation>Desbloquear…</translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Toast</name>
     <message>
         <source>Copied ✓</source>
@@ -2205,6 +2701,13 @@
     <message>
         <source>Ravelo Updates</source>
         <translation>Atualizações do Ravelo</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::Usage</name>
+    <message>
+        <source>read %1</source>
+        <translation>lido %1</translation>
     </message>
 </context>
 <context>
