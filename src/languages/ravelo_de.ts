@@ -621,6 +621,14 @@
         <source>In the panel</source>
         <translation>Im Panel</translation>
     </message>
+    <message>
+        <source>Copy as plain text</source>
+        <translation>Als reinen Text kopieren</translation>
+    </message>
+    <message>
+        <source>Edit and copy</source>
+        <translation>Bearbeiten und kopieren</translation>
+    </message>
 </context>
 <context>
     <name>LockedView</name>

@@ -621,6 +621,14 @@
         <source>In the panel</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Copy as plain text</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Edit and copy</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>LockedView</name>

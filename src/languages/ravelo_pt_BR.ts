@@ -621,6 +621,14 @@
         <source>In the panel</source>
         <translation>No painel</translation>
     </message>
+    <message>
+        <source>Copy as plain text</source>
+        <translation>Copiar como texto simples</translation>
+    </message>
+    <message>
+        <source>Edit and copy</source>
+        <translation>Editar e copiar</translation>
+    </message>
 </context>
 <context>
     <name>LockedView</name>

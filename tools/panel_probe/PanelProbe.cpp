@@ -548,6 +548,9 @@ QQuickWindow* playTitled(const QString& scene, SettingsWindow& settings,
                 click(*settings.window(), middle(*settings.window(), u"eraseEverything"_s));
                 settle();
             }
+        } else if (scene == u"settings-keys") {
+            press(*settings.window(), Qt::Key_4, Qt::ControlModifier);
+            settle();
         } else if (scene.startsWith(u"settings-more"_s)) {
             press(*settings.window(), Qt::Key_5, Qt::ControlModifier);
             settle();

@@ -19,6 +19,8 @@ Column {
         { text: swapped ? qsTr("Copy") : qsTr("Paste at once"), caps: ["Shift", "Return"] },
         { text: swapped ? qsTr("Paste one of the first nine") : qsTr("Copy one of the first nine"), caps: ["Ctrl", "1 … 9"] },
         { text: swapped ? qsTr("Copy one of them") : qsTr("Paste one of them"), caps: ["Ctrl", "Shift", "1 … 9"] },
+        { text: qsTr("Copy as plain text"), caps: ["Alt", "Return"] },
+        { text: qsTr("Edit and copy"), caps: ["F2"] },
         { text: qsTr("Preview, reveal a secret"), caps: ["Space"] },
         { text: qsTr("Open a link"), caps: ["Ctrl", "Return"] },
         { text: qsTr("Pin"), caps: ["Ctrl", "P"] },
