@@ -85,6 +85,13 @@
     </message>
 </context>
 <context>
+    <name>ClipList</name>
+    <message>
+        <source>Clipboard history</source>
+        <translation>Verlauf der Zwischenablage</translation>
+    </message>
+</context>
+<context>
     <name>ClipQuery</name>
     <message>
         <source>Nothing has “%1”</source>
@@ -238,10 +245,6 @@
     <message>
         <source>Copy anything with ⌘C and it shows up here.</source>
         <translation>Kopiere etwas mit Strg+C, dann erscheint es hier.</translation>
-    </message>
-    <message>
-        <source>Clipboard history</source>
-        <translation>Verlauf der Zwischenablage</translation>
     </message>
     <message>
         <source>Files</source>

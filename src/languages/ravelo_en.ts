@@ -85,6 +85,13 @@
     </message>
 </context>
 <context>
+    <name>ClipList</name>
+    <message>
+        <source>Clipboard history</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ClipQuery</name>
     <message>
         <source>Nothing has “%1”</source>
@@ -238,10 +245,6 @@
     <message>
         <source>Copy anything with ⌘C and it shows up here.</source>
         <translation>Copy anything with Ctrl+C and it shows up here.</translation>
-    </message>
-    <message>
-        <source>Clipboard history</source>
-        <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Files</source>

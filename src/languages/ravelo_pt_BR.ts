@@ -85,6 +85,13 @@
     </message>
 </context>
 <context>
+    <name>ClipList</name>
+    <message>
+        <source>Clipboard history</source>
+        <translation>Histórico da área de transferência</translation>
+    </message>
+</context>
+<context>
     <name>ClipQuery</name>
     <message>
         <source>Nothing has “%1”</source>
@@ -238,10 +245,6 @@
     <message>
         <source>Copy anything with ⌘C and it shows up here.</source>
         <translation>Copie algo com Ctrl+C e aparece aqui.</translation>
-    </message>
-    <message>
-        <source>Clipboard history</source>
-        <translation>Histórico da área de transferência</translation>
     </message>
     <message>
         <source>Files</source>

@@ -384,24 +384,8 @@ void NotchController::copy(const QString& text) {
     clipboard_.copyText(text);
 }
 
-void NotchController::copyClip(const QUuid& clip) {
-    clipboard_.copyClip(clip);
-}
-
 void NotchController::copyImage(const QString& path) {
     clipboard_.copyImage(path);
-}
-
-void NotchController::copyWithImage(const QString& text, const QString& path) {
-    clipboard_.copyWithImage(text, path);
-}
-
-void NotchController::copyPng(const QByteArray& png) {
-    clipboard_.copyPng(png);
-}
-
-void NotchController::copyFile(const QUrl& file) {
-    clipboard_.copyFile(file);
 }
 
 void NotchController::typeFocus() {

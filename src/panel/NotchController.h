@@ -122,14 +122,12 @@ public:
     /// Parks files and opens to show them.
     void onFiles(const QList<QUrl>& urls);
 
-    /// Puts a text, or a stored image, on the pasteboard without making a new clip of it, or a clip
-    /// in all its forms.
+    /// Puts a text, or a stored image, on the pasteboard without making a new clip of it.
     Q_INVOKABLE void copy(const QString& text);
-    void copyClip(const QUuid& clip);
     Q_INVOKABLE void copyImage(const QString& path);
-    void copyWithImage(const QString& text, const QString& path);
-    void copyPng(const QByteArray& png);
-    void copyFile(const QUrl& file);
+
+    /// For whatever else is copied.
+    [[nodiscard]] ClipboardManager& clipboard() { return clipboard_; }
 
     /// The user clicked into a text field: the window takes the keyboard.
     Q_INVOKABLE void typeFocus();

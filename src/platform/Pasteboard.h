@@ -102,6 +102,7 @@ public:
 
     /// Whether to find out the names of owners, which delays each reading a little. Off at first.
     enum class Naming { off, on };
+
     virtual void setNaming(Naming /*naming*/) {}
 
     /// Which contents count as orphaned. Some display servers cannot distinguish the end of an

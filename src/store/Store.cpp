@@ -250,27 +250,6 @@ void Store::apply(std::optional<ClipChange> change) {
     Q_EMIT clipsChanged();
 }
 
-void Store::setForgetAfter(std::optional<Seconds> after) {
-    forgetting_.setAfter(after);
-    forgetting_.follow(data_.clips);
-}
-
-void Store::keepSecret(const QUuid& id) {
-    apply(
-        ClipHistory::secretsKept(data_.clips, [&](const ClipItem& clip) { return clip.id == id; }));
-}
-
-void Store::keepSecrets() {
-    apply(ClipHistory::secretsKept(
-        data_.clips, [](const ClipItem& clip) { return clip.secret != uncheckedText; }));
-}
-
-void Store::forget(const QList<QUuid>& secrets) {
-    QList<ClipItem> clips = data_.clips;
-    clips.removeIf([&](const ClipItem& clip) { return secrets.contains(clip.id); });
-    apply(ClipChange{std::move(clips), {}});
-}
-
 void Store::togglePin(const QUuid& id) {
     apply(ClipHistory::pinToggled(data_.clips, id, rules_.order));
 }

@@ -216,4 +216,25 @@ void Store::putBack(const QList<DeletedRecord>& records) {
     saver_.saveNow(); // So that it survives a kill right after.
 }
 
+void Store::setForgetAfter(std::optional<Seconds> after) {
+    forgetting_.setAfter(after);
+    forgetting_.follow(data_.clips);
+}
+
+void Store::keepSecret(const QUuid& id) {
+    apply(
+        ClipHistory::secretsKept(data_.clips, [&](const ClipItem& clip) { return clip.id == id; }));
+}
+
+void Store::keepSecrets() {
+    apply(ClipHistory::secretsKept(
+        data_.clips, [](const ClipItem& clip) { return clip.secret != uncheckedText; }));
+}
+
+void Store::forget(const QList<QUuid>& secrets) {
+    QList<ClipItem> clips = data_.clips;
+    clips.removeIf([&](const ClipItem& clip) { return secrets.contains(clip.id); });
+    apply(ClipChange{std::move(clips), {}});
+}
+
 } // namespace ravelo

@@ -21,7 +21,8 @@ PanelFeatures::PanelFeatures(const Services& services, const QLocale& locale,
     // From left to right.
     clips = &tabs.add<Clips>(Clips::Services{services.store, services.controller, services.opener,
                                              services.jobs, services.scheduler, toast, deleting,
-                                             snippets, services.decoder, services.settings, services.pasting},
+                                             snippets, services.decoder, services.settings,
+                                             services.pasting},
                              locale);
     tabs.add<Notes>(Sketch::Services{services.store, services.controller, toast});
     shelf = &tabs.add<ShelfFiles>(

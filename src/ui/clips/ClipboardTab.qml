@@ -377,97 +377,16 @@ TabPage {
         length: Math.min(26, Math.max(0, list.contentHeight - list.contentY - list.height))
         topLength: tab.head > 0 ? Math.min(18, Math.max(0, tab.scrolled - list.topMargin)) : 0
 
-        ListView {
+        ClipList {
             id: list
             objectName: "list"
-
-            // ListView's own positioning ignores the margin.
-            function showTop() {
-                positionViewAtBeginning();
-                contentY = originY - topMargin;
-            }
-
-            Accessible.role: Accessible.List
-            Accessible.name: qsTr("Clipboard history")
             anchors.fill: parent
-            clip: true
-            topMargin: tab.head > 0 ? tab.head + tab.chipsRoom : 0
-            onTopMarginChanged: showTop()
-            Component.onCompleted: showTop()
-            onContentHeightChanged: {
-                if (tab.head > 0 && !moving) {
-                    returnToBounds();
-                }
-            }
-            cacheBuffer: 80
-            boundsBehavior: Flickable.StopAtBounds
-            // New clips must not scroll the list away from its beginning.
-            highlightFollowsCurrentItem: false
-            model: tab.clips.list
-
-            delegate: ClipRow {
-                id: row
-                clips: tab.clips
-                shown: tab.shown
-                width: list.width
-                selected: index === list.currentIndex
-                onTileHoveredChanged: preview.point(index, tileHovered)
-                onTapped: modifiers => tab.tap(index, modifiers)
-                onMenuRequested: place => rowMenu.openAtRow(row, mapToItem(rowMenu.parent, place))
-                onDragged: tab.clips.drag(index, row)
-                onDeleted: tab.clips.remove(index)
-            }
-
-            add: Transition {
-                id: entering
-                enabled: tab.shown
-                ParallelAnimation {
-                    NumberAnimation {
-                        property: "opacity"
-                        from: 0
-                        to: 1
-                        duration: Theme.entering
-                        easing.type: Easing.OutCubic
-                    }
-                    NumberAnimation {
-                        property: "y"
-                        from: entering.ViewTransition.destination.y - Theme.move(40)
-                        duration: Theme.entering
-                        easing.type: Easing.OutCubic
-                    }
-                }
-            }
-            remove: Transition {
-                enabled: tab.shown
-                NumberAnimation {
-                    property: "scale"
-                    to: 1 - Theme.move(10) / 100
-                    duration: Theme.leaving
-                    easing.type: Easing.InCubic
-                }
-                NumberAnimation {
-                    property: "opacity"
-                    to: 0
-                    duration: Theme.leaving
-                    easing.type: Easing.InCubic
-                }
-            }
-            displaced: Transition {
-                id: making
-                enabled: tab.shown
-                NumberAnimation {
-                    property: "y"
-                    duration: Theme.move(Theme.entering)
-                    easing.type: Easing.OutCubic
-                }
-                // A move interrupts the row's fade-in; it must not stay faint.
-                NumberAnimation {
-                    property: "opacity"
-                    to: 1
-                    duration: Theme.entering
-                }
-            }
-            move: making
+            clips: tab.clips
+            shown: tab.shown
+            head: tab.head > 0 ? tab.head + tab.chipsRoom : 0
+            onPointed: (row, hovered) => preview.point(row, hovered)
+            onTapped: (row, modifiers) => tab.tap(row, modifiers)
+            onMenuRequested: (row, place) => rowMenu.openAtRow(row, row.mapToItem(rowMenu.parent, place))
         }
     }
 

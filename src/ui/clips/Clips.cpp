@@ -1,5 +1,6 @@
 #include "ui/clips/Clips.h"
 
+#include "clipboard/ClipboardManager.h"
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
@@ -67,7 +68,7 @@ void Clips::copy(int row) {
     if (clip->kind == ClipKind::image && clip->imageFileName.isEmpty()) {
         services_.controller.copy(clip->text);
     } else {
-        services_.controller.copyClip(clip->id);
+        services_.controller.clipboard().copyClip(clip->id);
     }
     services_.toast.flashCopied();
 }

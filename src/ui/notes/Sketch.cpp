@@ -1,5 +1,6 @@
 #include "ui/notes/Sketch.h"
 
+#include "clipboard/ClipboardManager.h"
 #include "panel/NotchController.h"
 #include "store/Store.h"
 #include "ui/controls/Toast.h"
@@ -137,7 +138,7 @@ void Sketch::clear() {
 
 void Sketch::copy() {
     if (const QImage picture = drawing::picture(strokes_); !picture.isNull()) {
-        services_.controller.copyPng(drawing::png(picture));
+        services_.controller.clipboard().copyPng(drawing::png(picture));
         services_.toast.flashCopied();
     }
 }

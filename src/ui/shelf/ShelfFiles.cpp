@@ -1,5 +1,6 @@
 #include "ui/shelf/ShelfFiles.h"
 
+#include "clipboard/ClipboardManager.h"
 #include "panel/NotchController.h"
 #include "platform/FileOpener.h"
 #include "store/Store.h"
@@ -54,7 +55,7 @@ void ShelfFiles::showInFolder(const QUrl& file) {
 
 void ShelfFiles::copyLast() {
     if (parked_.count() > 0) {
-        controller_.copyFile(parked_.fileAt(parked_.count() - 1));
+        controller_.clipboard().copyFile(parked_.fileAt(parked_.count() - 1));
         toast_.flashCopied();
     }
 }

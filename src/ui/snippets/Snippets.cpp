@@ -1,5 +1,6 @@
 #include "ui/snippets/Snippets.h"
 
+#include "clipboard/ClipboardManager.h"
 #include "panel/NotchController.h"
 #include "store/Store.h"
 #include "ui/controls/Toast.h"
@@ -23,8 +24,8 @@ void Snippets::copy(const QUuid& id) {
         if (found->imageFileName.isEmpty()) {
             services_.controller.copy(found->body);
         } else {
-            services_.controller.copyWithImage(found->body,
-                                               services_.store.imagePath(found->imageFileName));
+            services_.controller.clipboard().copyWithImage(
+                found->body, services_.store.imagePath(found->imageFileName));
         }
         services_.toast.flashCopied();
     }

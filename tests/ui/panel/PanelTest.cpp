@@ -156,9 +156,9 @@ TEST_F(Panel, showsPlanUsage) {
         }
     }
     const QString all = lines.join(u'|');
-    for (const QString& part : {u"Plan usage \u2014 updates while Claude Code is active"_s,
-                                u"At this pace full at "_s, u"before the reset"_s,
-                                u"Last hour: +"_s, u"read "_s}) {
+    for (const QString& part :
+         {u"Plan usage \u2014 updates while Claude Code is active"_s, u"At this pace full at "_s,
+          u"before the reset"_s, u"Last hour: +"_s, u"read "_s}) {
         EXPECT_TRUE(all.contains(part)) << qPrintable(all);
     }
 }
