@@ -34,12 +34,13 @@ std::optional<Delivery> Inbox::take() {
     if (broken_) {
         return std::nullopt;
     }
-    Descriptor descriptor;
+    Delivery delivery;
+    delivery.report = std::move(*report); // In an initialiser, g++ 14 believes it uninitialised.
     if (carries) {
-        descriptor = std::move(descriptors_.front());
+        delivery.descriptor = std::move(descriptors_.front());
         descriptors_.pop_front();
     }
-    return Delivery{std::move(*report), std::move(descriptor)};
+    return delivery;
 }
 
 } // namespace ravelo::gnome
