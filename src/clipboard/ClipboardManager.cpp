@@ -3,8 +3,11 @@
 #include "base/Scheduler.h"
 #include "clipboard/CapturePause.h"
 #include "clipboard/FileForms.h"
+#include "clipboard/FormRules.h"
+#include "platform/DetachedJobs.h"
 #include "store/Store.h"
 
+#include <QPointer>
 #include <QUrl>
 
 #include <algorithm>
@@ -32,6 +35,7 @@ ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Schedul
     : store_(store),
       pasteboard_(pasteboard),
       scheduler_(scheduler),
+      jobs_(jobs),
       reading_{store, jobs, scheduler},
       pause_(pause),
       lastChangeCount_(pasteboard.changeCount()) {}
@@ -186,12 +190,7 @@ void ClipboardManager::keep(const PasteboardSnapshot& snapshot, const QStringLis
 }
 
 void ClipboardManager::keepText(const QString& text, const Origin& origin) {
-    Judging judging;
-    judging.judge = [rules = rules_](const QString& copied) {
-        return judge(rules, copied);
-    };
-    judging.takes = rules_.patterns.isEmpty() ? Judging::Takes::moment : Judging::Takes::longer;
-    judging.judged = whileHeld([this](Held& /*held*/, const Verdict& verdict) {
+    auto judged = whileHeld([this](Held& /*held*/, const Verdict& verdict) {
         if (!verdict.kept) {
             refuse({});
             answerSaveRequest();
@@ -202,7 +201,13 @@ void ClipboardManager::keepText(const QString& text, const Origin& origin) {
     store_.addClip(text, whileHeld([this, origin](Held& held, const QUuid& clip) {
                        kept(held, clip, origin);
                    }),
-                   std::move(judging));
+                   judging(std::move(judged)));
+}
+
+Judging ClipboardManager::judging(std::function<void(const Verdict&)> judged) const {
+    return {[rules = rules_](const QString& copied) { return judge(rules, copied); },
+            rules_.patterns.isEmpty() ? Judging::Takes::moment : Judging::Takes::longer,
+            std::move(judged)};
 }
 
 void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStringList& useless) {
@@ -255,11 +260,34 @@ void ClipboardManager::readForms(const Held& held, const QString& program) {
                                         count = held.changeCount](const auto& snapshot) {
             readingForms_.reset();
             if (snapshot.changeCount == count) {
-                store_.setForms(clip, {program, capturedForms(snapshot)});
+                judgeForms(clip, {program, capturedForms(snapshot)});
+            } else {
+                formsEnded();
             }
-            answerSaveRequest();
-            offerAgain();
         });
+}
+
+void ClipboardManager::judgeForms(const QUuid& clip, const ClipForms& forms) {
+    const ClipItem* item = find(clip);
+    if (item == nullptr || forms.forms.isEmpty()) {
+        store_.setForms(clip, forms);
+        formsEnded();
+        return;
+    }
+    const auto harmless = std::make_shared<bool>(false);
+    readingForms_ =
+        jobs_.run([rules = rules_, text = item->text, forms = forms.forms,
+                   harmless] { *harmless = mayKeepForms(rules, text, forms); },
+                  [this, clip, forms, harmless] {
+                      readingForms_.reset();
+                      store_.setForms(clip, *harmless ? forms : ClipForms{forms.program});
+                      formsEnded();
+                  });
+}
+
+void ClipboardManager::formsEnded() {
+    answerSaveRequest();
+    offerAgain();
 }
 
 /// As soon as it is certain whether there will be a clip, since the owner is not needed after that.
@@ -315,6 +343,17 @@ const ClipItem* ClipboardManager::find(const QUuid& clip) const {
 
 void ClipboardManager::copyText(const QString& text) {
     write({{plainTextType, text.toUtf8()}});
+}
+
+void ClipboardManager::copyNewText(const QString& text) {
+    if (!pause_.isPaused()) {
+        store_.addClip(text, {}, judging([manager = QPointer(this)](const Verdict& verdict) {
+                           if (manager && verdict.kept && !verdict.secret.isEmpty()) {
+                               Q_EMIT manager->secretKept(verdict.secret);
+                           }
+                       }));
+    }
+    copyText(text);
 }
 
 void ClipboardManager::copyClip(const QUuid& clip) {
