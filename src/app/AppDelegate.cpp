@@ -345,6 +345,7 @@ void AppDelegate::erase(const std::function<void(const Answer&)>& reply) {
         platform_.preferences->erase([this, reply, data](const Result<void>& preferences) {
             const Result<void>& done = data ? preferences : data;
             if (!done) {
+                store_->captureAgain();
                 notices_->deletionEnded(done.error().message);
                 reply({1, {}, done.error().message});
                 return;

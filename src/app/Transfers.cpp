@@ -2,6 +2,7 @@
 
 #include "platform/DetachedJobs.h"
 #include "platform/ImageDecoder.h"
+#include "store/KnownSnippets.h"
 #include "store/SnippetFile.h"
 #include "store/Store.h"
 #include "store/Transfer.h"
@@ -25,17 +26,28 @@ tl::unexpected<Error> neverRan() {
 
 Transfers::Transfers(Services services) : services_(std::move(services)) {}
 
-bool Transfers::isPossible(const Reply& reply) const {
-    if (running_) {
-        reply({1, {}, u"another export or import is running"_s});
-    } else if (services_.store.isLocked()) {
-        reply({1, {}, u"what is stored is encrypted: unlock it first"_s});
-    }
-    return !running_ && !services_.store.isLocked();
+/// Neither is possible while another runs, or while what is stored is encrypted.
+std::optional<Transfers::Obstacle> Transfers::obstacle() const {
+    return running_ || importing_       ? std::optional(Obstacle::running)
+           : services_.store.isLocked() ? std::optional(Obstacle::locked)
+                                        : std::nullopt;
+}
+
+Answer Transfers::answerTo(Obstacle obstacle) {
+    return {1,
+            {},
+            obstacle == Obstacle::running ? u"another export or import is running"_s
+                                          : u"what is stored is encrypted: unlock it first"_s};
+}
+
+QString Transfers::textOf(Obstacle obstacle) {
+    return obstacle == Obstacle::running ? tr("Another export or import is running.")
+                                         : tr("What is stored is encrypted: unlock it first.");
 }
 
 void Transfers::exportTo(const QString& path, Reply reply) {
-    if (!isPossible(reply)) {
+    if (const auto obstacle = this->obstacle()) {
+        reply(answerTo(*obstacle));
         return;
     }
     const auto outcome = std::make_shared<Result<int>>(neverRan());
@@ -55,41 +67,55 @@ void Transfers::exportTo(const QString& path, Reply reply) {
         });
 }
 
+/// Reads in a job, then adds what was read.
+void Transfers::import(std::function<Imported()> read, std::function<void(const Imported&)> add) {
+    importing_ = services_.store.keepFiles([this, read = std::move(read), add = std::move(add)] {
+        const auto outcome = std::make_shared<Imported>(neverRan());
+        running_ = services_.jobs.run(
+            [read, outcome, known = services_.store.snippets(), vault = services_.store.vault(),
+             decoder = services_.decoder, mayWrite = services_.mayWrite] {
+                *outcome = read();
+                if (*outcome) {
+                    dropKnownSnippets((*outcome)->data, known, *vault, *decoder, mayWrite);
+                }
+            },
+            [this, outcome, add] {
+                running_.reset();
+                add(*outcome);
+                importing_.reset();
+            });
+    });
+}
+
 void Transfers::importFrom(const QString& path, Reply reply) {
-    if (!isPossible(reply)) {
+    if (const auto obstacle = this->obstacle()) {
+        reply(answerTo(*obstacle));
         return;
     }
-    const auto outcome = std::make_shared<Result<StoreContents>>(neverRan());
-    running_ = services_.jobs.run(
-        [vault = services_.store.vault(), path, outcome, decoder = services_.decoder,
-         mayWrite = services_.mayWrite] {
-            *outcome = importStore(path, *vault, *decoder, mayWrite);
-        },
-        [this, outcome, reply = std::move(reply)] {
-            running_.reset();
-            if (!*outcome) {
-                reply({1, {}, outcome->error().message});
+    import(
+        [vault = services_.store.vault(), path, decoder = services_.decoder,
+         mayWrite = services_.mayWrite] { return importStore(path, *vault, *decoder, mayWrite); },
+        [this, reply = std::move(reply)](const Imported& imported) {
+            if (!imported) {
+                reply({1, {}, imported.error().message});
                 return;
             }
-            services_.store.addAll(**outcome, [reply](const SaveOutcome& saved) {
-                reply(saved.kind == SaveOutcome::Kind::saved
+            const auto saved = [reply](const SaveOutcome& outcome) {
+                reply(outcome.kind == SaveOutcome::Kind::saved
                           ? Answer()
-                          : Answer{1, {}, u"not saved yet: "_s + saved.reason});
-            });
+                          : Answer{1, {}, u"not saved yet: "_s + outcome.reason});
+            };
+            if (!services_.store.addAll(*imported, saved)) {
+                reply({1,
+                       {},
+                       u"nothing was imported: what is stored was locked or erased meanwhile"_s});
+            }
         });
 }
 
-bool Transfers::isPossible(const Done& done) const {
-    if (running_) {
-        done(failure(tr("Another export or import is running.")));
-    } else if (services_.store.isLocked()) {
-        done(failure(tr("What is stored is encrypted: unlock it first.")));
-    }
-    return !running_ && !services_.store.isLocked();
-}
-
 void Transfers::exportSnippets(const QString& path, Done done) {
-    if (!isPossible(done)) {
+    if (const auto obstacle = this->obstacle()) {
+        done(failure(textOf(*obstacle)));
         return;
     }
     const QList<Snippet> snippets = services_.store.snippets();
@@ -104,34 +130,35 @@ void Transfers::exportSnippets(const QString& path, Done done) {
 }
 
 void Transfers::importSnippets(const QString& path, Done done) {
-    if (!isPossible(done)) {
+    if (const auto obstacle = this->obstacle()) {
+        done(failure(textOf(*obstacle)));
         return;
     }
-    const auto outcome = std::make_shared<Result<QList<Snippet>>>(neverRan());
-    running_ = services_.jobs.run(
-        [vault = services_.store.vault(), path, outcome, decoder = services_.decoder,
+    import(
+        [vault = services_.store.vault(), path, decoder = services_.decoder,
          mayWrite = services_.mayWrite] {
-            *outcome = ravelo::importSnippets(path, *vault, *decoder, mayWrite);
+            return ravelo::importSnippets(path, *vault, *decoder, mayWrite)
+                .map([](const QList<Snippet>& snippets) {
+                    StoreContents contents;
+                    contents.data.snippets = snippets;
+                    return contents;
+                });
         },
-        [this, outcome, done = std::move(done)] {
-            running_.reset();
-            if (*outcome) {
-                add(**outcome, done);
-            } else {
-                done(tl::unexpected(outcome->error()));
-            }
+        [this, done = std::move(done)](const Imported& imported) {
+            imported ? add(*imported, done) : done(tl::unexpected(imported.error()));
         });
 }
 
-void Transfers::add(const QList<Snippet>& snippets, const Done& done) {
-    const qsizetype before = services_.store.snippets().size();
-    StoreContents contents;
-    contents.data.snippets = snippets;
-    services_.store.addAll(contents, [this, before, done](const SaveOutcome& saved) {
+void Transfers::add(const StoreContents& contents, const Done& done) {
+    const auto count = std::make_shared<std::optional<qsizetype>>();
+    *count = services_.store.addAll(contents, [done, count](const SaveOutcome& saved) {
         done(saved.kind == SaveOutcome::Kind::saved
-                 ? Result<qsizetype>(services_.store.snippets().size() - before)
+                 ? Result<qsizetype>(count->value_or(0))
                  : failure(tr("Not saved yet: %1").arg(saved.reason)));
     });
+    if (!*count) {
+        done(failure(tr("Nothing was imported: what is stored was locked or erased meanwhile.")));
+    }
 }
 
 } // namespace ravelo

@@ -4,20 +4,20 @@
 #include "base/OwnFile.h"
 #include "base/Result.h"
 #include "platform/Answer.h"
+#include "store/StoreContents.h"
 
 #include <QCoreApplication>
-#include <QList>
 #include <QString>
 
 #include <functional>
 #include <memory>
+#include <optional>
 
 namespace ravelo {
 
 class DetachedJobs;
 class ImageDecoder;
 class Store;
-struct Snippet;
 
 /// Exports the store to a file and imports it, one at a time, without blocking. Main thread.
 class Transfers {
@@ -48,12 +48,17 @@ public:
     void importSnippets(const QString& path, Done done);
 
 private:
-    [[nodiscard]] bool isPossible(const Done& done) const;
-    void add(const QList<Snippet>& snippets, const Done& done);
+    enum class Obstacle { running, locked };
+    using Imported = Result<StoreContents>;
 
-    [[nodiscard]] bool isPossible(const Reply& reply) const;
+    [[nodiscard]] std::optional<Obstacle> obstacle() const;
+    [[nodiscard]] static Answer answerTo(Obstacle obstacle);
+    [[nodiscard]] static QString textOf(Obstacle obstacle); ///< For the user.
+    void import(std::function<Imported()> read, std::function<void(const Imported&)> add);
+    void add(const StoreContents& contents, const Done& done);
 
     Services services_;
+    Handle importing_; ///< Until it is added.
     Handle running_;
 };
 

@@ -2,10 +2,9 @@
 
 #include "base/Scheduler.h"
 #include "clipboard/CapturePause.h"
-#include "clipboard/FileForms.h"
+#include "clipboard/FormRules.h"
+#include "platform/DetachedJobs.h"
 #include "store/Store.h"
-
-#include <QUrl>
 
 #include <algorithm>
 #include <utility>
@@ -32,6 +31,7 @@ ClipboardManager::ClipboardManager(Store& store, Pasteboard& pasteboard, Schedul
     : store_(store),
       pasteboard_(pasteboard),
       scheduler_(scheduler),
+      jobs_(jobs),
       reading_{store, jobs, scheduler},
       pause_(pause),
       lastChangeCount_(pasteboard.changeCount()) {}
@@ -186,12 +186,7 @@ void ClipboardManager::keep(const PasteboardSnapshot& snapshot, const QStringLis
 }
 
 void ClipboardManager::keepText(const QString& text, const Origin& origin) {
-    Judging judging;
-    judging.judge = [rules = rules_](const QString& copied) {
-        return judge(rules, copied);
-    };
-    judging.takes = rules_.patterns.isEmpty() ? Judging::Takes::moment : Judging::Takes::longer;
-    judging.judged = whileHeld([this](Held& /*held*/, const Verdict& verdict) {
+    auto judged = whileHeld([this](Held& /*held*/, const Verdict& verdict) {
         if (!verdict.kept) {
             refuse({});
             answerSaveRequest();
@@ -202,7 +197,13 @@ void ClipboardManager::keepText(const QString& text, const Origin& origin) {
     store_.addClip(text, whileHeld([this, origin](Held& held, const QUuid& clip) {
                        kept(held, clip, origin);
                    }),
-                   std::move(judging));
+                   judging(std::move(judged)));
+}
+
+Judging ClipboardManager::judging(std::function<void(const Verdict&)> judged) const {
+    return {[rules = rules_](const QString& copied) { return judge(rules, copied); },
+            rules_.patterns.isEmpty() ? Judging::Takes::moment : Judging::Takes::longer,
+            std::move(judged)};
 }
 
 void ClipboardManager::keepImage(const PasteboardSnapshot& snapshot, const QStringList& useless) {
@@ -255,11 +256,34 @@ void ClipboardManager::readForms(const Held& held, const QString& program) {
                                         count = held.changeCount](const auto& snapshot) {
             readingForms_.reset();
             if (snapshot.changeCount == count) {
-                store_.setForms(clip, {program, capturedForms(snapshot)});
+                judgeForms(clip, {program, capturedForms(snapshot)});
+            } else {
+                formsEnded();
             }
-            answerSaveRequest();
-            offerAgain();
         });
+}
+
+void ClipboardManager::judgeForms(const QUuid& clip, const ClipForms& forms) {
+    const ClipItem* item = find(clip);
+    if (item == nullptr || forms.forms.isEmpty()) {
+        store_.setForms(clip, forms);
+        formsEnded();
+        return;
+    }
+    const auto harmless = std::make_shared<bool>(false);
+    readingForms_ =
+        jobs_.run([rules = rules_, text = item->text, forms = forms.forms,
+                   harmless] { *harmless = mayKeepForms(rules, text, forms); },
+                  [this, clip, forms, harmless] {
+                      readingForms_.reset();
+                      store_.setForms(clip, *harmless ? forms : ClipForms{forms.program});
+                      formsEnded();
+                  });
+}
+
+void ClipboardManager::formsEnded() {
+    answerSaveRequest();
+    offerAgain();
 }
 
 /// As soon as it is certain whether there will be a clip, since the owner is not needed after that.
@@ -311,66 +335,6 @@ bool ClipboardManager::isLost(const Held* held) const {
 const ClipItem* ClipboardManager::find(const QUuid& clip) const {
     const auto found = std::ranges::find(store_.clips(), clip, &ClipItem::id);
     return found == store_.clips().cend() ? nullptr : &*found;
-}
-
-void ClipboardManager::copyText(const QString& text) {
-    write({{plainTextType, text.toUtf8()}});
-}
-
-void ClipboardManager::copyClip(const QUuid& clip) {
-    if (const ClipItem* item = find(clip)) {
-        copying_ = reading_.clip(*item, ClipReading::Files::included, unlessOverwritten());
-    }
-}
-
-void ClipboardManager::copyImage(const QString& path) {
-    copying_ = reading_.image(path, unlessOverwritten());
-}
-
-void ClipboardManager::copyWithImage(const QString& text, const QString& path) {
-    copying_ = reading_.image(path, [text, written = unlessOverwritten()](const Forms& image) {
-        written((text.isEmpty() ? Forms() : Forms{{plainTextType, text.toUtf8()}}) + image);
-    });
-}
-
-/// Writes, unless something newer was copied meanwhile.
-std::function<void(const ClipboardManager::Forms&)> ClipboardManager::unlessOverwritten() {
-    return [this, before = held_](const Forms& forms) {
-        if (held_ == before && reads_.empty()) {
-            write(forms);
-        }
-    };
-}
-
-void ClipboardManager::copyPng(const QByteArray& png) {
-    write({{u"image/png"_s, png}});
-}
-
-void ClipboardManager::copyFile(const QUrl& url) {
-    write(fileForms(url));
-}
-
-void ClipboardManager::write(const Forms& forms) {
-    copying_.reset();
-    if (forms.isEmpty()) {
-        return;
-    }
-    const qint64 count = pasteboard_.write(forms);
-    suppressOwnChange(count);
-    PasteboardSnapshot written;
-    for (const PasteboardEntry& form : forms) {
-        written.types.append(form.type);
-        written.answers.insert(form.type, form.bytes);
-    }
-    if (const auto key = contentsKey(written)) {
-        held_ = std::make_shared<Held>(
-            Held{count, {*key, 0, scheduler_.uptime()}, Source::owner, Clip::kept});
-    }
-}
-
-void ClipboardManager::suppressOwnChange(qint64 count) {
-    suppressUntilCount_ = count;
-    lastChangeCount_ = count;
 }
 
 } // namespace ravelo

@@ -48,6 +48,10 @@ public:
 
     void copyText(const QString& text);
 
+    /// Puts a text of the user's own on the pasteboard, and into the history as the rules and a
+    /// pause allow.
+    void copyNewText(const QString& text);
+
     /// Puts a clip on the pasteboard in all its forms, once they are read; if they cannot be read
     /// soon, its text alone. Does nothing if something else was copied meanwhile.
     void copyClip(const QUuid& clip);
@@ -118,10 +122,13 @@ private:
     void keep(const PasteboardSnapshot& snapshot, const QStringList& useless);
     void keepText(const QString& text, const Origin& origin);
     void keepImage(const PasteboardSnapshot& snapshot, const QStringList& useless);
+    [[nodiscard]] Judging judging(std::function<void(const Verdict&)> judged) const;
 
     [[nodiscard]] Origin originOf(const PasteboardSnapshot& snapshot) const;
     void kept(Held& held, const QUuid& clip, const Origin& origin);
     void readForms(const Held& held, const QString& program);
+    void judgeForms(const QUuid& clip, const ClipForms& forms);
+    void formsEnded();
     void refuse(const std::optional<TooLarge>& reason);
     void answerSaveRequest();
     void offerAgain();
@@ -145,6 +152,7 @@ private:
     Store& store_;
     Pasteboard& pasteboard_;
     Scheduler& scheduler_;
+    DetachedJobs& jobs_; ///< To judge forms.
     ClipReading reading_;
     CapturePause& pause_;
     CaptureRules rules_;

@@ -2643,6 +2643,10 @@
         <source>Not saved yet: %1</source>
         <translation>Noch nicht gespeichert: %1</translation>
     </message>
+    <message>
+        <source>Nothing was imported: what is stored was locked or erased meanwhile.</source>
+        <translation>Nichts wurde importiert: Das Gespeicherte wurde inzwischen gesperrt oder gelöscht.</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::UpdateText</name>

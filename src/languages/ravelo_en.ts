@@ -2643,6 +2643,10 @@
         <source>Not saved yet: %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Nothing was imported: what is stored was locked or erased meanwhile.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::UpdateText</name>

@@ -2643,6 +2643,10 @@
         <source>Not saved yet: %1</source>
         <translation>Ainda não foi salvo: %1</translation>
     </message>
+    <message>
+        <source>Nothing was imported: what is stored was locked or erased meanwhile.</source>
+        <translation>Nada foi importado: o que está guardado foi bloqueado ou apagado nesse meio-tempo.</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::UpdateText</name>

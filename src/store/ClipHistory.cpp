@@ -210,6 +210,13 @@ std::optional<ClipChange> ClipHistory::trimmed(QList<ClipItem> clips, Date now,
     return ClipChange{std::move(clips), std::move(orphans)};
 }
 
+QSet<QUuid> ClipHistory::surplusForms(const QList<ClipItem>& clips, qint64 limit,
+                                      const FileSizes& sizes) {
+    return surplusOf(clips, limit, [&sizes](const ClipItem& clip) {
+        return sizes.value(formsFileName(clip.id));
+    });
+}
+
 qint64 ClipHistory::textBytes(const QList<ClipItem>& clips) {
     qint64 size = 0;
     for (const ClipItem& clip : clips) {

@@ -68,6 +68,10 @@ struct ClipHistory {
     [[nodiscard]] static std::optional<ClipChange>
     trimmed(QList<ClipItem> clips, Date now, const HistoryRules& rules, const FileSizes& sizes);
 
+    /// The oldest unpinned clips whose forms have to go until all forms have at most `limit` bytes.
+    [[nodiscard]] static QSet<QUuid> surplusForms(const QList<ClipItem>& clips, qint64 limit,
+                                                  const FileSizes& sizes);
+
     /// Of all texts, in UTF-8.
     [[nodiscard]] static qint64 textBytes(const QList<ClipItem>& clips);
 

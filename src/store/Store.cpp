@@ -140,6 +140,9 @@ void Store::setHistoryRules(const HistoryRules& rules) {
 }
 
 void Store::addClip(const QString& text, Kept kept, Judging judging) {
+    if (erased_) {
+        return;
+    }
     const auto verdict = std::make_shared<Verdict>();
     std::function<void(const CopiedContents&)> judgeLater;
     if (judging.judge && judging.takes == Judging::Takes::longer) {
@@ -181,6 +184,9 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
         qint64 size = 0;
     };
 
+    if (erased_) {
+        return;
+    }
     const QString name = newImageFileName();
     lentImages_.insert(name);
     const auto outcome = std::make_shared<Outcome>();
@@ -358,6 +364,7 @@ void Store::save() {
 
 void Store::trim() {
     apply(ClipHistory::trimmed(data_.clips, services_.scheduler.now(), rules_, fileSizes_));
+    trimForms();
     trimLater();
 }
 

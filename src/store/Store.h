@@ -79,8 +79,11 @@ public:
     void lock(std::function<void()> dropped);
 
     /// Removes everything from memory and disk, and saves nothing from now on. Then calls `done`,
-    /// with the first failure.
+    /// with the first failure. Copies are not kept from now on, unless it fails.
     void erase(std::function<void(const Result<void>&)> done);
+
+    /// Something else could not be erased, so the program goes on.
+    void captureAgain() { erased_ = false; }
 
     [[nodiscard]] const QList<ClipItem>& clips() const;
     [[nodiscard]] const QList<Snippet>& snippets() const;
@@ -130,7 +133,8 @@ public:
     /// cannot be written.
     void addImageClip(const PasteboardSnapshot& contents, Kept kept = {}, Refused refused = {});
 
-    /// Keeps these beside a clip, in place of earlier ones. Not for secrets.
+    /// Keeps these beside a clip, in place of earlier ones. Not for secrets. If they cannot be
+    /// written, nothing is kept beside it.
     void setForms(const QUuid& clip, const ClipForms& kept);
 
     /// Whether something may be kept beside a clip, in the file at `formsPath`.
@@ -141,6 +145,7 @@ public:
     [[nodiscard]] ClipDetails detailsOf(const QUuid& clip) const { return details_.value(clip); }
 
     /// Looks up what is not known yet, of all clips or of one; then `detailsChanged` is emitted.
+    /// One lookup at a time; what is asked for meanwhile is looked up after it.
     void lookUpDetails(const QUuid& only = {});
 
     /// How long after copying secrets are forgotten; nothing for not at all. Applies at once.
@@ -168,9 +173,15 @@ public:
     void clearLastHour(const std::shared_ptr<Deleted>& kept = {});
     [[nodiscard]] qsizetype lastHourCount() const;
 
-    /// Adds everything of another store, whose images are in the clips folder already; ids are new.
-    /// Calls `saved` once it is on the disk.
-    void addAll(const StoreContents& contents, std::function<void(const SaveOutcome&)> saved);
+    /// Adds everything of another store, whose files are in the clips folder already; ids are new.
+    /// Calls `saved` once it is on the disk. Returns how many snippets are new. If it is locked or
+    /// erased, removes the files, returns nothing and does not call `saved`.
+    std::optional<qsizetype> addAll(const StoreContents& contents,
+                                    std::function<void(const SaveOutcome&)> saved);
+
+    /// Calls `ready` once files can be written for `addAll`: until the handle is dropped, no
+    /// cleared history removes what nothing names yet.
+    [[nodiscard]] Handle keepFiles(std::function<void()> ready);
 
     /// Everything, as it is saved.
     [[nodiscard]] StoreContents contents() const { return {data_, shelf_.stacks}; }
@@ -280,6 +291,10 @@ private:
     void clear(ClipChange change, const std::shared_ptr<Deleted>& kept);
     void trim();
     void trimLater();
+    void trimForms();
+    void formsFailed(const QUuid& clip, const ClipDetails& described);
+    void removeLeftovers();
+    void lookedUp(const QHash<QUuid, ClipDetails>& found);
     [[nodiscard]] QStringList goneForms(const QList<ClipItem>& before);
     void measureFiles(std::function<void()> job = {});
     void removeFiles(std::function<Result<void>()> remove);
@@ -298,11 +313,16 @@ private:
     Services services_;
     bool locked_ = false;
     bool opening_ = false; ///< Its contents are being read.
+    bool erased_ = false;
     HistoryRules rules_;
     FileSizes fileSizes_;
     bool sizesKnown_ = false; ///< Those of files from earlier runs.
+    int measurings_ = 0;      ///< Only the last one counts.
     QHash<QUuid, ClipDetails> details_;
     Handle lookingUp_;
+    std::optional<QUuid> lookUpNext_;               ///< Null for all.
+    int keepingFiles_ = 0;                          ///< Handles of `keepFiles`.
+    bool leftoversAsked_ = false;                   ///< Once there are none.
     QSet<QString> lentImages_;                      ///< On their way to a clip or a snippet.
     QStringList waitingFiles_;                      ///< To be removed after the next save.
     std::function<void()> dropped_;                 ///< Set while a lock waits for a save.

@@ -25,6 +25,10 @@ Date hourAgo(const Scheduler& scheduler) {
     return {scheduler.now().sinceReference - 3600};
 }
 
+bool hasClip(const QList<ClipItem>& clips, const QUuid& id) {
+    return std::ranges::find(clips, id, &ClipItem::id) != clips.cend();
+}
+
 } // namespace
 
 void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
@@ -41,15 +45,38 @@ void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
     // locked, it is not known what is named.
     services_.worker.run([] {},
                          [store = QPointer(this)] {
-                             if (store && !store->locked_) {
-                                 store->removeFiles(
-                                     [folder = store->folder_,
-                                      named = fileNames(store->data_) + store->lentImages_,
-                                      mayWrite = store->services_.mayWrite] {
-                                         return removeLeftovers(folder, named, mayWrite);
-                                     });
+                             if (store) {
+                                 store->removeLeftovers();
                              }
                          });
+}
+
+void Store::removeLeftovers() {
+    if (keepingFiles_ > 0) {
+        leftoversAsked_ = true;
+    } else if (!locked_) {
+        removeFiles([folder = folder_, named = fileNames(data_) + lentImages_,
+                     mayWrite = services_.mayWrite] {
+            return ravelo::removeLeftovers(folder, named, mayWrite);
+        });
+    }
+}
+
+Handle Store::keepFiles(std::function<void()> ready) {
+    ++keepingFiles_;
+    const auto asked = std::make_shared<std::function<void()>>(std::move(ready));
+    // The worker may still have a removal that does not know of them.
+    services_.worker.run([] {},
+                         [weak = std::weak_ptr(asked)] {
+                             if (const auto still = weak.lock()) {
+                                 (*still)();
+                             }
+                         });
+    return Handle([store = QPointer(this), asked] {
+        if (store && --store->keepingFiles_ == 0 && std::exchange(store->leftoversAsked_, false)) {
+            store->removeLeftovers();
+        }
+    });
 }
 
 void Store::clearLastHour(const std::shared_ptr<Deleted>& kept) {
@@ -139,7 +166,15 @@ void Store::removeFiles(std::function<Result<void>()> remove) {
 }
 
 /// Once the records are in place: their images are not yet named by the file on the disk.
-void Store::addAll(const StoreContents& contents, std::function<void(const SaveOutcome&)> saved) {
+std::optional<qsizetype> Store::addAll(const StoreContents& contents,
+                                       std::function<void(const SaveOutcome&)> saved) {
+    if (locked_ || erased_) {
+        QSet<QString> names = fileNames(contents.data);
+        names.remove(QString());
+        removeImages(names.values());
+        return std::nullopt;
+    }
+    const qsizetype before = data_.snippets.size();
     for (const Snippet& snippet : contents.data.snippets) {
         const auto same = [&snippet](const Snippet& one) {
             return one.title == snippet.title && one.body == snippet.body &&
@@ -163,9 +198,11 @@ void Store::addAll(const StoreContents& contents, std::function<void(const SaveO
     for (const QList<QUrl>& stack : contents.shelf) {
         shelf_ = shelf_.added(stack).value_or(shelf_);
     }
+    const qsizetype added = data_.snippets.size() - before;
     saved_ = std::move(saved);
     saver_.saveNow();
     announceAll();
+    return added;
 }
 
 void Store::restore(const std::shared_ptr<Deleted>& deleted,
@@ -204,6 +241,8 @@ void Store::putBack(const QList<DeletedRecord>& records) {
         if (const auto* clip = std::get_if<ClipItem>(&deleted.record)) {
             if (auto change = ClipHistory::restored(clips.clips, *clip, deleted.order)) {
                 clips = std::move(*change);
+            } else if (deleted.forms && !hasClip(clips.clips, clip->id)) {
+                clips.orphanedImages.append(formsFileName(clip->id));
             }
         } else {
             const auto& snippet = std::get<Snippet>(deleted.record);

@@ -15,6 +15,9 @@ namespace ravelo {
 
 namespace {
 
+/// Bytes of all forms together if the user has set no limit.
+constexpr qint64 maxAllForms = qint64(256) << 20;
+
 struct Unknown {
     QUuid clip;
     QString forms; ///< Path; empty if there are none.
@@ -45,29 +48,67 @@ bool Store::hasForms(const QUuid& clip) const {
 
 void Store::setForms(const QUuid& clip, const ClipForms& kept) {
     const auto found = std::ranges::find(data_.clips, clip, &ClipItem::id);
-    if (found == data_.clips.end() || !found->secret.isEmpty()) {
+    if (erased_ || found == data_.clips.end() || !found->secret.isEmpty()) {
         return;
     }
     const QString path = formsPath(clip);
+    ClipDetails details = ravelo::detailsOf(kept);
+    details.pixels = detailsOf(clip).pixels;
     if (!kept.isEmpty()) {
         fileSizes_.insert(formsFileName(clip), formsSize(kept));
-        services_.worker.run([vault = services_.vault, path, kept, mayWrite = services_.mayWrite] {
-            (void)vault->write(path, encodeForms(kept), mayWrite);
-        });
+        const auto written = std::make_shared<Result<void>>();
+        services_.worker.run(
+            [vault = services_.vault, path, kept, mayWrite = services_.mayWrite, written] {
+                *written = vault->write(path, encodeForms(kept), mayWrite);
+                if (!*written) {
+                    (void)ravelo::removeImages({path}, mayWrite); // They are of an earlier copy.
+                }
+            },
+            [store = QPointer(this), clip, details, written] {
+                if (store && !*written) {
+                    store->formsFailed(clip, details);
+                }
+            });
     } else if (hasForms(clip)) {
         fileSizes_.remove(formsFileName(clip));
         removeFiles([path, mayWrite = services_.mayWrite] {
             return ravelo::removeImages({path}, mayWrite);
         });
     }
-    ClipDetails details = ravelo::detailsOf(kept);
-    details.pixels = detailsOf(clip).pixels;
     details_.insert(clip, details);
     trim();
     Q_EMIT detailsChanged();
 }
 
+/// Unless others are on their way already.
+void Store::formsFailed(const QUuid& clip, const ClipDetails& described) {
+    const auto known = details_.find(clip);
+    if (known != details_.end() && *known == described) {
+        fileSizes_.remove(formsFileName(clip));
+        *known = {.pixels = known->pixels};
+        Q_EMIT detailsChanged();
+    }
+}
+
+/// Without a limit of the user: their clips stay, as plain text.
+void Store::trimForms() {
+    if (rules_.textBytes > 0) {
+        return;
+    }
+    QStringList names;
+    for (const QUuid& clip : ClipHistory::surplusForms(data_.clips, maxAllForms, fileSizes_)) {
+        names.append(formsFileName(clip));
+        fileSizes_.remove(names.last());
+        details_.insert(clip, {.pixels = detailsOf(clip).pixels});
+    }
+    removeImages(names);
+}
+
 void Store::lookUpDetails(const QUuid& only) {
+    if (lookingUp_) {
+        lookUpNext_ = lookUpNext_ && *lookUpNext_ != only ? QUuid() : only;
+        return;
+    }
     QList<Unknown> unknown;
     for (const ClipItem& clip : std::as_const(data_.clips)) {
         const bool isImage = clip.kind == ClipKind::image;
@@ -89,15 +130,29 @@ void Store::lookUpDetails(const QUuid& only) {
             }
         },
         [this, found] {
-            for (const auto& [clip, details] : found->asKeyValueRange()) {
-                if (!details_.contains(clip)) {
-                    details_.insert(clip, details);
-                } else {
-                    details_[clip].pixels = details.pixels; // Written meanwhile.
-                }
+            lookingUp_.reset();
+            lookedUp(*found);
+            if (const auto next = std::exchange(lookUpNext_, std::nullopt)) {
+                lookUpDetails(*next);
             }
-            Q_EMIT detailsChanged();
         });
+}
+
+void Store::lookedUp(const QHash<QUuid, ClipDetails>& found) {
+    for (const ClipItem& clip : std::as_const(data_.clips)) {
+        const auto details = found.constFind(clip.id);
+        if (details == found.cend()) {
+            continue;
+        }
+        if (!details_.contains(clip.id)) {
+            details_.insert(clip.id, *details);
+        } else {
+            details_[clip.id].pixels = details->pixels; // Written meanwhile.
+        }
+    }
+    if (!found.isEmpty()) {
+        Q_EMIT detailsChanged();
+    }
 }
 
 qint64 Store::textBytes() const {
@@ -138,8 +193,9 @@ QStringList Store::goneForms(const QList<ClipItem>& before) {
     return names;
 }
 
-/// On the worker, after what it has already and after `job`.
+/// On the worker, after what it has already and after `job`. Until then any clip may have forms.
 void Store::measureFiles(std::function<void()> job) {
+    sizesKnown_ = false;
     const auto sizes = std::make_shared<FileSizes>();
     services_.worker.run(
         [job = std::move(job), clips = clipsDir(), sizes] {
@@ -148,8 +204,8 @@ void Store::measureFiles(std::function<void()> job) {
             }
             *sizes = fileSizes(clips);
         },
-        [store = QPointer(this), sizes] {
-            if (store) {
+        [store = QPointer(this), sizes, number = ++measurings_] {
+            if (store && store->measurings_ == number) {
                 store->fileSizes_.insert(*sizes);
                 store->sizesKnown_ = true;
                 store->trimLater();

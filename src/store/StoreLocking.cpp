@@ -12,6 +12,7 @@
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 
 #include <utility>
@@ -67,12 +68,25 @@ void Store::adopt(StoredContents stored) {
     later.append(contents());
     data_ = std::move(stored.store.data);
     Shelf shelf{std::move(stored.store.shelf), {}};
+    QList<ClipItem> all = data_.clips;
     for (const StoreContents& one : later) {
-        data_.clips = ClipHistory::merged(std::move(data_.clips), one.data.clips, rules_).clips;
+        if (!one.data.clips.isEmpty()) {
+            all += one.data.clips;
+            data_.clips = ClipHistory::merged(std::move(data_.clips), one.data.clips, rules_).clips;
+        }
         for (const QList<QUrl>& stack : one.shelf) {
             shelf = shelf.added(stack).value_or(shelf);
         }
     }
+    QStringList gone = goneForms(all);
+    const QSet<QString> named = imageNames(data_);
+    for (const ClipItem& clip : std::as_const(all)) {
+        if (!named.contains(QFileInfo(clip.imageFileName).fileName())) {
+            gone.append(clip.imageFileName);
+        }
+    }
+    gone.removeAll(QString());
+    removeImages(gone);
     shelf_ = std::move(shelf);
     waitingFiles_ += stored.waitingFiles;
 }
@@ -152,7 +166,10 @@ void Store::dropData() {
     data_ = {};
     shelf_ = {};
     details_.clear();
+    lookingUp_.reset();
+    lookUpNext_.reset();
     fileSizes_.clear();
+    ++measurings_;
     sizesKnown_ = true;
 }
 
@@ -168,6 +185,7 @@ void Store::dropAll() {
 }
 
 void Store::erase(std::function<void(const Result<void>&)> done) {
+    erased_ = true;
     ++clearings_;
     captures_.drop();
     saver_.stop();
@@ -179,7 +197,12 @@ void Store::erase(std::function<void(const Result<void>&)> done) {
         [folder = folder_, outcome, mayWrite = services_.mayWrite] {
             *outcome = eraseFiles(folder, mayWrite);
         },
-        [outcome, done = std::move(done)] { done(*outcome); });
+        [store = QPointer(this), outcome, done = std::move(done)] {
+            if (store && !*outcome) {
+                store->captureAgain();
+            }
+            done(*outcome);
+        });
     announceAll();
 }
 

@@ -196,6 +196,17 @@ TEST_F(StoreForms, comeBackWithTheirClip) {
     settle();
     settle();
     EXPECT_EQ(imageFiles(), QStringList()) << "the history was cleared meanwhile";
+
+    store_->addClip(u"rich"_s);
+    id_ = store_->clips()[0].id;
+    store_->setForms(id_, rich);
+    settle();
+    store_->deleteClip(id_, deleted);
+    store_->addClip(u"rich"_s);
+    store_->restore(deleted, [](const auto& /*outcome*/) {});
+    settle();
+    settle();
+    EXPECT_EQ(imageFiles(), QStringList()) << "the text was copied again meanwhile";
 }
 
 TEST_F(StoreForms, countAsText) {
@@ -236,6 +247,54 @@ TEST_F(StoreForms, areExportedAndImportedUnderANewName) {
     EXPECT_NE(id_, before);
     EXPECT_EQ(onDisk(), encodeForms(rich));
     EXPECT_TRUE(store_->hasForms(id_));
+
+    const auto again = importStore(archive, *store_->vault(), *decoder_, {});
+    ASSERT_TRUE(again);
+    store_->addAll(*again, [](const auto& /*outcome*/) {});
+    settle();
+    EXPECT_EQ(imageFiles().size(), 1) << "those of a clip that is there already";
+}
+
+TEST_F(StoreForms, describeNothingIfTheyAreNotWritten) {
+    int refusals = 0;
+    mayWrite_ = [&]() -> Result<void> {
+        return refusals-- > 0 ? failure(u"the disk is full"_s) : Result<void>();
+    };
+    restart();
+    settle();
+    refusals = 1;
+    store_->setForms(id_, {u"Kate"_s, rich.forms});
+    worker_.drain();
+    EXPECT_EQ(imageFiles(), QStringList()) << "forms of an earlier copy";
+    EXPECT_EQ(store_->detailsOf(id_), ClipDetails());
+    EXPECT_FALSE(store_->hasForms(id_));
+}
+
+TEST_F(StoreForms, areLookedUpOnceAndNotOfWhatIsGone) {
+    restart();
+    settle();
+    const int before = jobs_.given;
+    for (int letter = 0; letter < 3; ++letter) {
+        store_->lookUpDetails();
+    }
+    settle();
+    EXPECT_EQ(jobs_.given, before + 1);
+    EXPECT_EQ(store_->detailsOf(id_), detailsOf(rich));
+
+    for (const bool erased : {false, true}) {
+        restart();
+        settle();
+        ASSERT_EQ(store_->detailsOf(id_), ClipDetails());
+        store_->lookUpDetails();
+        erased ? store_->erase([](const auto& /*outcome*/) {}) : store_->deleteClip(id_);
+        settle();
+        EXPECT_EQ(store_->detailsOf(id_), ClipDetails()) << "erased: " << erased;
+        start();
+        store_->addClip(u"rich"_s);
+        id_ = store_->clips()[0].id;
+        store_->setForms(id_, rich);
+        settle();
+    }
 }
 
 } // namespace

@@ -1,5 +1,7 @@
 #include "store/ClipHistory.h"
 
+#include "store/ClipForms.h"
+
 #include <gtest/gtest.h>
 
 namespace ravelo {
@@ -251,6 +253,18 @@ TEST(ClipHistory, TrimsByAgeAndThenBySizeTheOldestFirst) {
         EXPECT_EQ(result(change), after) << before;
         EXPECT_EQ(change.value_or(ClipChange()).orphanedImages, orphans) << before;
     }
+}
+
+TEST(ClipHistory, TheOldestUnpinnedFormsGoFirst) {
+    const QList<ClipItem> clips = list(u"*a@1 c@9 b@2 none@0"_s);
+    FileSizes sizes;
+    for (int i = 0; i < 3; ++i) {
+        sizes.insert(formsFileName(clips[i].id), 100);
+    }
+    EXPECT_EQ(ClipHistory::surplusForms(clips, 300, sizes), QSet<QUuid>());
+    EXPECT_EQ(ClipHistory::surplusForms(clips, 299, sizes), QSet<QUuid>{clips[2].id});
+    EXPECT_EQ(ClipHistory::surplusForms(clips, 10, sizes), (QSet<QUuid>{clips[1].id, clips[2].id}))
+        << "the pinned one's stay";
 }
 
 TEST(ClipHistory, MergesLaterClipsAsIfTheyWereCopiedNow) {

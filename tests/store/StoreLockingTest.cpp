@@ -140,6 +140,29 @@ TEST_F(Locking, LockingDropsEverythingOnceItIsSaved) {
     EXPECT_EQ(all(), QStringList({u"while locked"_s, u"last"_s, u"red"_s, u"before"_s}));
 }
 
+TEST_F(Locking, WhatUnlockingReplacesGoesWithItsFiles) {
+    unlock();
+    const QUuid before = store_->clips()[1].id;
+    store_->setForms(before, {u"Kate"_s});
+    settle();
+    ASSERT_EQ(imageFiles().size(), 2);
+    store_->vault()->lock();
+    startLocked();
+    store_->addClip(u"before"_s);
+    settle();
+    unlock();
+    EXPECT_EQ(all(), QStringList({u"before"_s, u"red"_s}));
+    EXPECT_EQ(imageFiles().size(), 1) << "the image alone";
+    store_->vault()->lock();
+    startLocked();
+    for (int i = 0; i < HistoryRules().limit; ++i) {
+        store_->addClip(u"text %1"_s.arg(i));
+    }
+    settle();
+    unlock();
+    EXPECT_EQ(imageFiles(), QStringList()) << "the image was pushed out";
+}
+
 TEST_F(Locking, AStoreByALaterVersionIsLeftAlone) {
     ASSERT_TRUE(QFile::remove(folder() + u"/key"_s));
     const QByteArray newer = R"({"version":2,"clips":[],"snippets":[],"note":"","note2":"",)"
@@ -219,11 +242,28 @@ TEST_F(Erasing, EverythingGoesAndNothingComesBack) {
     std::optional<Result<void>> done;
     store_->addClip(u"on its way"_s);
     store_->erase([&](const Result<void>& outcome) { done = outcome; });
+    store_->addImageClip(png(Qt::green)); // While the preferences are still being erased, too.
     worker_.drain();
     ASSERT_TRUE(done && *done);
     store_->addClip(u"later"_s);
+    store_->addImageClip(png(Qt::green));
+    EXPECT_TRUE(store_->clips().isEmpty());
     store_->flush();
     EXPECT_EQ(QDir(folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
+}
+
+TEST_F(Erasing, CopiesAreKeptAgainIfItFails) {
+    mayWrite_ = [] {
+        return Result<void>(failure(u"the folder is read-only"_s));
+    };
+    store_.reset();
+    start();
+    std::optional<Result<void>> done;
+    store_->erase([&](const Result<void>& outcome) { done = outcome; });
+    worker_.drain();
+    ASSERT_TRUE(done && !*done);
+    store_->addClip(u"later"_s);
+    EXPECT_EQ(all(), QStringList(u"later"_s));
 }
 
 TEST_F(Erasing, OldClipsGoAfterTheirTime) {

@@ -2,6 +2,7 @@
 
 #include "StoreFixture.h"
 #include "store/Archive.h"
+#include "store/KnownSnippets.h"
 #include "support/TestFiles.h"
 #include "vault/Vault.h"
 
@@ -95,6 +96,34 @@ TEST_F(Transfer, ABadArchiveChangesNothing) {
     EXPECT_TRUE(imported()) << "a file that nothing names is ignored";
     pack({{name, "no image"}, {"store.json", json}});
     EXPECT_FALSE(imported()) << "an image that is none";
+}
+
+TEST_F(Transfer, SnippetsWithTheSameImageAreNotDoubled) {
+    Snippet snippet = store_->snippets()[0];
+    snippet.imageFileName = u"0F8FAD5B-D9CB-469F-A165-70867728950E.png"_s;
+    ASSERT_TRUE(writeFileAtomically(store_->imagePath(snippet.imageFileName),
+                                    picture("png", Qt::blue) + "tail"));
+    store_->updateSnippet(snippet);
+    ASSERT_TRUE(exported());
+    const auto import = [&] {
+        auto contents = imported();
+        dropKnownSnippets(contents->data, store_->snippets(), *store_->vault(), *decoder_, {});
+        const auto added = store_->addAll(*contents, [](const auto& /*outcome*/) {});
+        settle();
+        return added.value_or(-1);
+    };
+    const qsizetype before = imageFiles().size();
+    EXPECT_EQ(import(), 0);
+    EXPECT_EQ(imageFiles().size(), before + 1) << "the clip's image, which is added again";
+    snippet.body += u"other"_s;
+    store_->updateSnippet(snippet);
+    EXPECT_EQ(import(), 1) << "the text differs";
+    snippet.body.chop(5);
+    store_->updateSnippet(snippet);
+    ASSERT_TRUE(
+        writeFileAtomically(store_->imagePath(snippet.imageFileName), picture("png", Qt::green)));
+    store_->removeSnippet(store_->snippets().last().id);
+    EXPECT_EQ(import(), 1) << "the image differs";
 }
 
 TEST_F(Transfer, AnUnreadableImageIsLeftOut) {

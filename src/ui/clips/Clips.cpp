@@ -106,10 +106,8 @@ void Clips::edit(int row) {
     }
 }
 
-/// The text is the user's own: no rule applies to it.
 void Clips::copyEdited(const QString& text) {
-    services_.store.addClip(text);
-    services_.controller.copy(text);
+    services_.controller.clipboard().copyNewText(text);
     services_.toast.flashCopied();
     close();
 }
@@ -119,7 +117,7 @@ void Clips::drag(int row, QQuickItem* from) {
     if (clip == nullptr) {
         return;
     }
-    const QStringList texts = selectedTexts();
+    const QStringList texts = selectedTexts(Secrets::leftOut); // They never leave by a drag.
     if (texts.size() > 1 && list_.selection().orderOf(clip->id) > 0) {
         drag_.start(joined(texts), *from);
     } else {
@@ -160,11 +158,12 @@ void Clips::clearSelection() {
 }
 
 /// Of the chosen clips that are no pictures.
-QStringList Clips::selectedTexts() const {
+QStringList Clips::selectedTexts(Secrets secrets) const {
     QStringList texts;
     for (const QUuid& id : list_.selection().ids()) {
         const ClipItem* clip = clipOf(id);
-        if (clip != nullptr && clip->kind != ClipKind::image) {
+        if (clip != nullptr && clip->kind != ClipKind::image &&
+            (secrets == Secrets::included || clip->secret.isEmpty())) {
             texts.append(clip->text);
         }
     }

@@ -126,7 +126,8 @@ Q_SIGNALS:
 
 private:
     [[nodiscard]] qsizetype removed(const std::function<void()>& remove) const;
-    [[nodiscard]] QStringList selectedTexts() const;
+    enum class Secrets { included, leftOut };
+    [[nodiscard]] QStringList selectedTexts(Secrets secrets = Secrets::included) const;
     [[nodiscard]] QString joined(const QStringList& texts) const;
     void copyEdited(const QString& text);
     [[nodiscard]] const ClipItem* clipOf(const QUuid& id) const;
