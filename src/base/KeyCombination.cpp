@@ -74,6 +74,9 @@ bool isLetterOrDigit(int key) {
 }
 
 bool isShortcut(int key, Qt::KeyboardModifiers modifiers) {
+    if (KeyCombination::copiesOrPastes(key, modifiers)) {
+        return false;
+    }
     if (isFunctionKey(key) || key == Qt::Key_Print || key == Qt::Key_Pause) {
         return true;
     }
@@ -135,6 +138,21 @@ std::optional<KeyCombination> KeyCombination::pressed(int key, Qt::KeyboardModif
     modifiers &= Qt::ControlModifier | Qt::AltModifier | Qt::ShiftModifier | Qt::MetaModifier;
     return isShortcut(key, modifiers) ? std::optional(KeyCombination{modifiers, key})
                                       : std::nullopt;
+}
+
+bool KeyCombination::copiesOrPastes(int key, Qt::KeyboardModifiers modifiers) {
+    switch (key) {
+    case Qt::Key_C:
+    case Qt::Key_V:
+    case Qt::Key_X:
+        return (modifiers & ~Qt::ShiftModifier) == Qt::ControlModifier;
+    case Qt::Key_Insert:
+        return modifiers == Qt::ControlModifier || modifiers == Qt::ShiftModifier;
+    case Qt::Key_Delete:
+        return modifiers == Qt::ShiftModifier;
+    default:
+        return false;
+    }
 }
 
 QStringList KeyCombination::caps() const {

@@ -17,9 +17,13 @@ struct KeyCombination {
 
     /// What a key event stands for. `scanCode` is that of evdev + 8, or 0: with Shift, digits have
     /// other names. Nothing while only modifiers are down, or for keys that cannot be a shortcut:
-    /// letters and the like need Ctrl, Alt or Super.
+    /// letters and the like need Ctrl, Alt or Super, and keys that copy or paste are never one.
     [[nodiscard]] static std::optional<KeyCombination>
     pressed(int key, Qt::KeyboardModifiers modifiers, quint32 scanCode);
+
+    /// Whether programs copy, cut or paste with these keys: taking them would break that, and what
+    /// we type to paste would open the panel.
+    [[nodiscard]] static bool copiesOrPastes(int key, Qt::KeyboardModifiers modifiers);
 
     /// As on the keys: "Super", "V".
     [[nodiscard]] QStringList caps() const;

@@ -2405,6 +2405,10 @@
         <translation>Buchstaben und Ziffern brauchen Strg, Alt oder Super.</translation>
     </message>
     <message>
+        <source>Programs copy and paste with these keys. Press others.</source>
+        <translation>Mit diesen Tasten kopieren und fügen Programme ein. Drücke andere.</translation>
+    </message>
+    <message>
         <source>Escape cancels, Backspace clears.</source>
         <translation>Esc bricht ab, die Rücktaste löscht.</translation>
     </message>

@@ -2405,6 +2405,10 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>Programs copy and paste with these keys. Press others.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Escape cancels, Backspace clears.</source>
         <translation type="unfinished"></translation>
     </message>

@@ -2405,6 +2405,10 @@
         <translation>Letras e números precisam de Ctrl, Alt ou Super.</translation>
     </message>
     <message>
+        <source>Programs copy and paste with these keys. Press others.</source>
+        <translation>Os programas copiam e colam com estas teclas. Pressione outras.</translation>
+    </message>
+    <message>
         <source>Escape cancels, Backspace clears.</source>
         <translation>Esc cancela, Backspace limpa.</translation>
     </message>

@@ -13,7 +13,9 @@ class NotchController;
 class Pasteboard;
 
 /// Copies, closes the panel and pastes into the window that had the keyboard before it. If anything
-/// is in the way, it only copies: no other window ever gets the keys. Main thread.
+/// is known to be in the way, it only copies. How certain it is that no other window gets the keys
+/// depends on PasteKeys: on X11 it is, on Wayland the focus may change in the last moment. Main
+/// thread.
 class Pasting {
 public:
     /// All outlive this. `keys` is null if there is no way to type.

@@ -28,6 +28,10 @@ public:
 
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
 
+    /// Finds out whether it is possible, if nobody has asked the desktop yet; `state` follows
+    /// later.
+    virtual void ask() {}
+
     /// Replaces the keys; without a value they go back to the desktop. `state` may follow later.
     virtual void set(const std::optional<KeyCombination>& keys) = 0;
 

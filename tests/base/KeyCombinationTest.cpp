@@ -30,6 +30,12 @@ TEST(KeyCombination, IsWhatAKeyEventStandsFor) {
         {Qt::Key_PageUp, super, 112, "Super+Page Up", 0xff55, "Prior"},
         {Qt::Key_V, {}, 55, nullptr},
         {Qt::Key_V, shift, 55, nullptr},
+        {Qt::Key_C, super, 54, "Super+C", 0x63, "c"},
+        {Qt::Key_V, Qt::ControlModifier | Qt::AltModifier, 55, "Ctrl+Alt+V", 0x76, "v"},
+        {Qt::Key_V, Qt::ControlModifier, 55, nullptr}, // Pastes.
+        {Qt::Key_V, Qt::ControlModifier | shift, 55, nullptr},
+        {Qt::Key_X, Qt::ControlModifier | Qt::KeypadModifier, 53, nullptr},
+        {Qt::Key_Insert, Qt::ControlModifier, 118, nullptr},
         {Qt::Key_Super_L, super, 133, nullptr},
         {Qt::Key_Control, Qt::ControlModifier, 37, nullptr},
         {0x42c, super, 55, nullptr}, // A Cyrillic letter.
@@ -48,7 +54,8 @@ TEST(KeyCombination, IsWhatAKeyEventStandsFor) {
 }
 
 TEST(KeyCombination, IsNothingForOtherTexts) {
-    for (const char* text : {"", "V", "Shift+V", "Hyper+V", "Super+", "+", "Super+VV", "Super"}) {
+    for (const char* text : {"", "V", "Shift+V", "Hyper+V", "Super+", "+", "Super+VV", "Super",
+                             "Ctrl+V", "Shift+Insert"}) {
         EXPECT_FALSE(KeyCombination::fromText(QString::fromLatin1(text))) << text;
     }
 }

@@ -32,6 +32,21 @@ public:
         connection_.send(signal);
     }
 
+    /// Ends a session by itself.
+    void close() {
+        connection_.send(
+            QDBusMessage::createSignal(session, u"org.freedesktop.portal.Session"_s, u"Closed"_s));
+    }
+
+    /// Answers what was `held`.
+    void release() {
+        held = false;
+        for (const QDBusMessage& signal : std::exchange(waiting_, {})) {
+            connection_.send(signal);
+        }
+    }
+
+    bool held = false; ///< Requests are not answered.
     uint response = 0; ///< To requests; 1 if the user declines.
     QString trigger;   ///< The preferred one of the last request.
     QStringList calls;
@@ -60,7 +75,7 @@ private:
         auto signal =
             QDBusMessage::createSignal(request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
         signal << response << results;
-        connection_.send(signal);
+        held ? waiting_.append(signal) : void(connection_.send(signal));
         return QVariant::fromValue(QDBusObjectPath(request));
     }
 
@@ -79,6 +94,7 @@ private:
     }
 
     QDBusConnection connection_;
+    QList<QDBusMessage> waiting_;
     StandIn standIn_{[this](const QDBusMessage& call) {
         return std::optional(answer(call));
     }};
@@ -111,12 +127,63 @@ TEST(ShortcutsPortal, IsRefusedByTheUserAndImpossibleWithoutAPortal) {
     PrivateBus bus;
     ShortcutsPortal without(bus.connect(u"early"_s));
     without.set(KeyCombination::fromText(u"Super+V"_s));
+    EXPECT_EQ(without.state(), State::impossible);
     Portal portal(bus);
     portal.response = 1;
     ShortcutsPortal shortcut(bus.connect(u"ours"_s));
     shortcut.set(KeyCombination::fromText(u"Super+V"_s));
     EXPECT_TRUE(eventually([&] { return shortcut.state() == State::refused; }));
-    EXPECT_EQ(without.state(), State::impossible);
+    EXPECT_TRUE(eventually([&] { return without.state() == State::refused; }))
+        << "a portal that comes later is asked, too";
+}
+
+TEST(ShortcutsPortal, IsAskedOnlyIfKeysAreSetOrItMatters) {
+    PrivateBus bus;
+    Portal portal(bus);
+    ShortcutsPortal unused(bus.connect(u"unused"_s));
+    unused.set(std::nullopt);
+    ShortcutsPortal shown(bus.connect(u"shown"_s));
+    shown.ask();
+    shown.ask();
+    EXPECT_TRUE(eventually([&] { return shown.state() == State::none; }));
+    EXPECT_EQ(portal.calls, QStringList{u"Get"_s}) << "by the one that is shown, once";
+    EXPECT_EQ(unused.state(), State::impossible);
+}
+
+TEST(ShortcutsPortal, RegistersAgainWithAPortalThatStartsAgain) {
+    PrivateBus bus;
+    Portal portal(bus);
+    ShortcutsPortal shortcut(bus.connect(u"ours"_s));
+    shortcut.set(KeyCombination::fromText(u"Super+V"_s));
+    EXPECT_TRUE(eventually([&] { return shortcut.state() == State::registered; }));
+    ASSERT_TRUE(portal.connection().unregisterService(service));
+    EXPECT_TRUE(eventually([&] { return shortcut.state() == State::impossible; }))
+        << "its keys went with it";
+    ASSERT_TRUE(portal.connection().registerService(service));
+    EXPECT_TRUE(eventually([&] { return shortcut.state() == State::registered; }));
+    EXPECT_EQ(portal.calls.count(u"BindShortcuts"_s), 2);
+}
+
+TEST(ShortcutsPortal, SessionsEndOnEitherSide) {
+    PrivateBus bus;
+    Portal portal(bus);
+    ShortcutsPortal shortcut(bus.connect(u"ours"_s));
+    const auto keys = KeyCombination::fromText(u"Super+V"_s);
+    shortcut.set(keys);
+    EXPECT_TRUE(eventually([&] { return shortcut.state() == State::registered; }));
+    portal.close();
+    EXPECT_TRUE(eventually([&] { return shortcut.state() == State::refused; }))
+        << "the portal has ended the session";
+
+    portal.calls.clear();
+    portal.held = true;
+    shortcut.set(keys);
+    EXPECT_TRUE(eventually([&] { return portal.calls.contains(u"CreateSession"_s); }));
+    shortcut.set(std::nullopt);
+    portal.release();
+    EXPECT_TRUE(eventually([&] { return portal.calls.contains(u"Close"_s); }))
+        << "the late session keeps the keys";
+    EXPECT_EQ(shortcut.state(), State::none);
 }
 
 } // namespace

@@ -69,6 +69,38 @@ QString trigger(const KeyCombination& keys) {
 ShortcutsPortal::ShortcutsPortal(QDBusConnection bus) : bus_(std::move(bus)) {
     qDBusRegisterMetaType<PortalShortcut>();
     qDBusRegisterMetaType<QList<PortalShortcut>>();
+    watcher_.setConnection(bus_);
+    watcher_.setWatchMode(QDBusServiceWatcher::WatchForOwnerChange);
+    connect(&watcher_, &QDBusServiceWatcher::serviceOwnerChanged, this,
+            [this](const QString&, const QString&, const QString& owner) { follow(owner); });
+}
+
+ShortcutsPortal::~ShortcutsPortal() {
+    close();
+}
+
+void ShortcutsPortal::ask() {
+    if (watcher_.watchedServices().isEmpty()) {
+        watcher_.addWatchedService(service);
+        askForVersion();
+    }
+}
+
+/// Sessions end with the portal; a new one knows nothing of our keys.
+void ShortcutsPortal::follow(const QString& owner) {
+    if (owner == portal_) {
+        return; // Our question has started it.
+    }
+    forget();
+    portal_.clear();
+    abandoned_.clear();
+    setState(State::impossible);
+    if (!owner.isEmpty()) {
+        askForVersion();
+    }
+}
+
+void ShortcutsPortal::askForVersion() {
     auto question = QDBusMessage::createMethodCall(service, path,
                                                    u"org.freedesktop.DBus.Properties"_s, u"Get"_s);
     question << interface << u"version"_s;
@@ -87,13 +119,12 @@ ShortcutsPortal::ShortcutsPortal(QDBusConnection bus) : bus_(std::move(bus)) {
         Activation::allowed);
 }
 
-ShortcutsPortal::~ShortcutsPortal() {
-    close();
-}
-
 void ShortcutsPortal::set(const std::optional<KeyCombination>& keys) {
     keys_ = keys;
     if (portal_.isEmpty()) {
+        if (keys_) {
+            ask();
+        }
         return;
     }
     close();
@@ -128,12 +159,40 @@ void ShortcutsPortal::bind() {
 }
 
 void ShortcutsPortal::close() {
+    if (!request_.isEmpty() && session_.isEmpty()) {
+        abandoned_.append(std::exchange(request_, {})); // Its session is still to come.
+    }
+    const QString session = session_;
+    forget();
+    if (!session.isEmpty()) {
+        closeSession(session);
+    }
+}
+
+void ShortcutsPortal::forget() {
     call_.reset();
-    request_.clear();
-    if (const QString session = std::exchange(session_, {}); !session.isEmpty()) {
-        const Handle nobodyWaits = callBus(
-            bus_, QDBusMessage::createMethodCall(service, session, sessionInterface, u"Close"_s),
-            timeout, [](const QDBusMessage&) {});
+    if (!request_.isEmpty()) {
+        listenTo(std::exchange(request_, {}), Listening::off);
+    }
+    if (!session_.isEmpty()) {
+        bus_.disconnect({}, std::exchange(session_, {}), sessionInterface, u"Closed"_s, this,
+                        SLOT(closed(QDBusMessage)));
+    }
+}
+
+void ShortcutsPortal::closeSession(const QString& session) {
+    const Handle nobodyWaits = callBus(
+        bus_, QDBusMessage::createMethodCall(service, session, sessionInterface, u"Close"_s),
+        timeout, [](const QDBusMessage&) {});
+}
+
+void ShortcutsPortal::listenTo(const QString& request, Listening listening) {
+    if (listening == Listening::on) {
+        bus_.connect({}, request, requestInterface, u"Response"_s, this,
+                     SLOT(responded(QDBusMessage)));
+    } else {
+        bus_.disconnect({}, request, requestInterface, u"Response"_s, this,
+                        SLOT(responded(QDBusMessage)));
     }
 }
 
@@ -143,8 +202,7 @@ void ShortcutsPortal::request(const QString& method, const QVariantList& before,
     const QString token = u"ravelo"_s + QString::number(++requests_);
     const QString sender = bus_.baseService().mid(1).replace(u'.', u'_');
     request_ = u"%1/request/%2/%3"_s.arg(path, sender, token);
-    bus_.connect({}, request_, requestInterface, u"Response"_s, this,
-                 SLOT(responded(QDBusMessage)));
+    listenTo(request_, Listening::on);
     options.insert(u"handle_token"_s, token);
     auto call = QDBusMessage::createMethodCall(service, path, interface, method);
     call.setArguments(before + QVariantList{options});
@@ -156,22 +214,38 @@ void ShortcutsPortal::request(const QString& method, const QVariantList& before,
 }
 
 void ShortcutsPortal::responded(const QDBusMessage& response) {
-    if (!isFromPortal(response) || response.path() != request_) {
+    const bool isAbandoned = abandoned_.contains(response.path());
+    if (!isFromPortal(response) || (response.path() != request_ && !isAbandoned)) {
         return;
     }
-    bus_.disconnect({}, request_, requestInterface, u"Response"_s, this,
-                    SLOT(responded(QDBusMessage)));
-    request_.clear();
+    listenTo(response.path(), Listening::off);
     const QVariantList arguments = response.arguments();
     const auto results = qdbus_cast<QVariantMap>(arguments.value(1));
+    const QString session = results.value(u"session_handle"_s).toString();
+    if (isAbandoned) {
+        abandoned_.removeOne(response.path());
+        if (!session.isEmpty()) {
+            closeSession(session);
+        }
+        return;
+    }
+    request_.clear();
     if (arguments.value(0).toUInt() != 0) {
         setState(State::refused);
     } else if (session_.isEmpty()) {
-        session_ = results.value(u"session_handle"_s).toString();
+        session_ = session;
+        bus_.connect({}, session_, sessionInterface, u"Closed"_s, this, SLOT(closed(QDBusMessage)));
         bind();
     } else {
         const auto bound = qdbus_cast<QList<PortalShortcut>>(results.value(u"shortcuts"_s));
         setState(bound.isEmpty() ? State::refused : State::registered);
+    }
+}
+
+void ShortcutsPortal::closed(const QDBusMessage& signal) {
+    if (isFromPortal(signal) && signal.path() == session_) {
+        forget();
+        setState(State::refused);
     }
 }
 

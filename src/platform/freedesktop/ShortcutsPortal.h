@@ -5,17 +5,19 @@
 
 #include <QDBusConnection>
 #include <QDBusMessage>
+#include <QDBusServiceWatcher>
 #include <QObject>
 
 namespace ravelo {
 
 /// Keys by the portal org.freedesktop.portal.GlobalShortcuts, which may ask the user and register
-/// others than those that we prefer. Impossible until the portal has answered. Main thread.
+/// others than those that we prefer. Impossible until the portal has answered. If the portal starts
+/// again, the keys are registered again. Main thread.
 class ShortcutsPortal final : public QObject, public GlobalShortcut {
     Q_OBJECT
 
 public:
-    /// Asks whether there is one; does not wait.
+    /// Asks nothing yet, so that no portal is started for users without a shortcut.
     explicit ShortcutsPortal(QDBusConnection bus);
     ~ShortcutsPortal() override;
 
@@ -25,6 +27,7 @@ public:
         return changes_.add(std::move(callback));
     }
 
+    void ask() override;
     void set(const std::optional<KeyCombination>& keys) override;
 
     [[nodiscard]] Handle onPress(std::function<void(const QByteArray& token)> callback) override {
@@ -34,8 +37,16 @@ public:
 private Q_SLOTS:
     void responded(const QDBusMessage& response);
     void activated(const QDBusMessage& signal);
+    void closed(const QDBusMessage& signal);
 
 private:
+    enum class Listening { off, on };
+
+    void askForVersion();
+    void follow(const QString& owner);
+    void forget();
+    void closeSession(const QString& session);
+    void listenTo(const QString& request, Listening listening);
     void setState(State state);
     void open();
     void bind();
@@ -47,9 +58,11 @@ private:
     QString portal_; ///< Its unique name; empty if there is none.
     std::optional<KeyCombination> keys_;
     State state_ = State::impossible;
-    QString session_; ///< Its path, while there is one.
-    QString request_; ///< The path of the one that has not been answered.
+    QString session_;       ///< Its path, while there is one.
+    QString request_;       ///< The path of the one that has not been answered.
+    QStringList abandoned_; ///< Paths of requests for sessions that are no longer wanted.
     int requests_ = 0;
+    QDBusServiceWatcher watcher_; ///< Of the portal, once it was asked.
     Listeners<> changes_;
     Listeners<const QByteArray&> presses_;
     Handle asking_;

@@ -41,15 +41,16 @@ bool ClipPasting::pastes(int modifiers) const {
     return isPossible() && shift != settings_.returnPastes();
 }
 
-void ClipPasting::run(const QString& text, const std::function<void()>& copy) {
+void ClipPasting::run(const QString& text, Kind kind, const std::function<void()>& copy) {
     reset();
     const auto target = pasting_ != nullptr ? pasting_->target() : std::nullopt;
-    if (!target) {
+    const auto terminal = target ? terminalChord(target->names) : std::nullopt;
+    if (!target || (kind == Kind::secret && terminal == PasteChord::shiftInsert)) {
         copy();
         controller_.dismiss();
         return;
     }
-    const qsizetype breaks = terminalChord(target->names) ? lineBreaks(text) : 0;
+    const qsizetype breaks = terminal ? lineBreaks(text) : 0;
     if (breaks == 0) {
         pasting_->run(*target, copy);
         return;

@@ -33,8 +33,11 @@ public:
     /// Whether Return, or a digit, with these Qt::KeyboardModifiers pastes.
     [[nodiscard]] Q_INVOKABLE bool pastes(int modifiers) const;
 
-    /// `text` is what `copy` copies, if that is a text.
-    void run(const QString& text, const std::function<void()>& copy);
+    enum class Kind { ordinary, secret };
+
+    /// `text` is what `copy` copies, if that is a text. A secret is only copied for terminals that
+    /// paste the selected text: nobody would clear that later.
+    void run(const QString& text, Kind kind, const std::function<void()>& copy);
 
     /// The question was answered with yes.
     Q_INVOKABLE void runAsked();

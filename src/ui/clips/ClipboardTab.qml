@@ -164,9 +164,11 @@ TabPage {
         } else if (control && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             clips.openLink(list.currentIndex);
         } else if (searching && event.modifiers & Qt.AltModifier && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
-            clips.copyPlainAndClose(list.currentIndex);
+            clips.selected > 1 ? copyAndClose(-1) : clips.copyPlainAndClose(list.currentIndex);
         } else if (event.key === Qt.Key_F2) {
-            clips.edit(list.currentIndex);
+            if (clips.selected < 2) {
+                clips.edit(list.currentIndex);
+            }
         } else if (searching && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
             finish(list.currentIndex, event.modifiers);
         } else if (digitOf(event) > 0) {

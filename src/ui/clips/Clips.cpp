@@ -82,7 +82,9 @@ void Clips::copyAndClose(int row) {
 
 void Clips::pasteAndClose(int row) {
     if (const ClipItem* clip = clipAt(row)) {
-        pasting_.run(clip->text, [this, id = clip->id] { copy(list_.rowOf(id)); });
+        const auto kind =
+            clip->secret.isEmpty() ? ClipPasting::Kind::ordinary : ClipPasting::Kind::secret;
+        pasting_.run(clip->text, kind, [this, id = clip->id] { copy(list_.rowOf(id)); });
     }
 }
 
@@ -191,7 +193,13 @@ void Clips::pasteSelectedAndClose() {
     if (texts.isEmpty()) {
         copySelected();
     } else {
-        pasting_.run(joined(texts), [this] { copySelected(); });
+        const bool hasSecret = std::ranges::any_of(list_.selection().ids(), [this](const auto& id) {
+            const ClipItem* clip = clipOf(id);
+            return clip != nullptr && !clip->secret.isEmpty();
+        });
+        pasting_.run(joined(texts),
+                     hasSecret ? ClipPasting::Kind::secret : ClipPasting::Kind::ordinary,
+                     [this] { copySelected(); });
     }
 }
 

@@ -55,7 +55,7 @@ Menu {
     minWidth: 248
     plain: true
     entries: clips.selected > 1 ? [
-        { text: qsTr("Copy %1").arg(clips.selected), hint: qsTr("Return"), chosen: () => clips.copySelected() },
+        { text: qsTr("Copy %1").arg(clips.selected), hint: clips.pasting.copyKeys, chosen: () => clips.copySelected() },
         { divider: true },
         { text: qsTr("Delete %1").arg(clips.selected), hint: qsTr("Delete"), chosen: () => clips.removeSelected() }
     ] : row?.secret ? [

@@ -16,9 +16,9 @@ Column {
     readonly property bool swapped: settings.returnPastes && host.canPaste
     readonly property var keys: [
         { text: swapped ? qsTr("Paste at once") : qsTr("Copy"), caps: ["Return"] },
-        { text: swapped ? qsTr("Copy") : qsTr("Paste at once"), caps: ["Shift", "Return"] },
+        { text: swapped ? qsTr("Copy") : qsTr("Paste at once"), caps: ["Shift", "Return"], pasting: true },
         { text: swapped ? qsTr("Paste one of the first nine") : qsTr("Copy one of the first nine"), caps: ["Ctrl", "1 … 9"] },
-        { text: swapped ? qsTr("Copy one of them") : qsTr("Paste one of them"), caps: ["Ctrl", "Shift", "1 … 9"] },
+        { text: swapped ? qsTr("Copy one of them") : qsTr("Paste one of them"), caps: ["Ctrl", "Shift", "1 … 9"], pasting: true },
         { text: qsTr("Copy as plain text"), caps: ["Alt", "Return"] },
         { text: qsTr("Edit and copy"), caps: ["F2"] },
         { text: qsTr("Preview, reveal a secret"), caps: ["Space"] },
@@ -36,6 +36,7 @@ Column {
     ]
 
     spacing: 12
+    Component.onCompleted: choice.look()
 
     SettingsSection {
         title: qsTr("Open from anywhere")
@@ -143,7 +144,7 @@ Column {
             bottomPadding: 6
 
             Repeater {
-                model: page.keys
+                model: page.keys.filter(one => !one.pasting || page.host.canPaste)
 
                 Item {
                     id: row

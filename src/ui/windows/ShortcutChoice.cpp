@@ -101,11 +101,22 @@ bool ShortcutChoice::isMistaken() const {
            (shortcut_->state() == State::taken || shortcut_->state() == State::refused);
 }
 
+QString ShortcutChoice::refusal() const {
+    switch (refused_) {
+    case Refused::tooFew:
+        return tr("Letters and digits need Ctrl, Alt or Super.");
+    case Refused::copying:
+        return tr("Programs copy and paste with these keys. Press others.");
+    case Refused::none:
+        break;
+    }
+    return tr("Escape cancels, Backspace clears.");
+}
+
 QString ShortcutChoice::note() const {
     using State = GlobalShortcut::State;
     if (recording_) {
-        return tooFew_ ? tr("Letters and digits need Ctrl, Alt or Super.")
-                       : tr("Escape cancels, Backspace clears.");
+        return refusal();
     }
     switch (shortcut_ != nullptr ? shortcut_->state() : State::impossible) {
     case State::none:
@@ -142,9 +153,18 @@ bool ShortcutChoice::isOffered() const {
            (caps().isEmpty() || settings_.shortcut() == offered);
 }
 
+void ShortcutChoice::look() {
+    if (shortcut_ != nullptr) {
+        shortcut_->ask();
+    }
+}
+
 void ShortcutChoice::start() {
+    if (recording_) {
+        return; // A second suspension would end with the first.
+    }
     recording_ = true;
-    tooFew_ = false;
+    refused_ = Refused::none;
     if (shortcut_ != nullptr) {
         suspended_ = shortcut_->suspend();
     }
@@ -162,9 +182,11 @@ void ShortcutChoice::record(int key, int modifiers, quint32 scanCode) {
     if (isModifier(key)) {
         return; // Another key follows.
     }
-    const auto keys =
-        KeyCombination::pressed(key, Qt::KeyboardModifiers::fromInt(modifiers), scanCode);
-    tooFew_ = !keys;
+    const auto held = Qt::KeyboardModifiers::fromInt(modifiers);
+    const auto keys = KeyCombination::pressed(key, held, scanCode);
+    refused_ = keys                                                              ? Refused::none
+               : KeyCombination::copiesOrPastes(key, held & ~Qt::KeypadModifier) ? Refused::copying
+                                                                                 : Refused::tooFew;
     if (keys) {
         settings_.setShortcut(keys->text());
         stop();

@@ -42,6 +42,9 @@ public:
     [[nodiscard]] QString line() const;
     [[nodiscard]] bool isOffered() const;
 
+    /// To be called when the user sees it: finds out what the desktop can do.
+    Q_INVOKABLE void look();
+
     /// Until `record` or `stop`, the present keys are not taken.
     Q_INVOKABLE void start();
     Q_INVOKABLE void stop();
@@ -57,11 +60,15 @@ Q_SIGNALS:
     void changed();
 
 private:
+    enum class Refused { none, tooFew, copying };
+
+    [[nodiscard]] QString refusal() const;
+
     GlobalShortcut* shortcut_;
     AppSettings& settings_;
     QString desktop_;
     bool recording_ = false;
-    bool tooFew_ = false; ///< The last keys cannot be a shortcut.
+    Refused refused_ = Refused::none; ///< Why the last keys cannot be a shortcut.
     Handle suspended_;
     Handle listening_;
 };

@@ -11,6 +11,7 @@ FocusScope {
 
     signal done
 
+    Component.onCompleted: choice.look()
     Keys.onReturnPressed: done()
     Keys.onEnterPressed: done()
 

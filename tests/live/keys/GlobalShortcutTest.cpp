@@ -86,5 +86,27 @@ TEST_F(GlobalShortcutTest, KeysOfAnotherProgramAreTaken) {
     EXPECT_EQ(shortcut.state(), State::refused) << "the keyboard has no such key";
 }
 
+TEST_F(GlobalShortcutTest, FollowsTheKeyboardsMapping) {
+    const auto map = [](const char* expression) {
+        EXPECT_TRUE(run(u"xmodmap"_s, {u"-e"_s, QString::fromLatin1(expression)}));
+    };
+    shortcut.set(KeyCombination::fromText(u"Super+Shift+V"_s));
+    ASSERT_EQ(shortcut.state(), State::registered);
+    int changes = 0;
+    const Handle following = shortcut.onChange([&] { ++changes; });
+    map("keycode 94 = F20");
+    mark.set(KeyCombination::fromText(u"F20"_s)); // After the change has been seen.
+    mark.set(KeyCombination::fromText(u"F9"_s));
+    EXPECT_EQ(pressesBy("super+shift+v"), 1);
+    EXPECT_EQ(changes, 0) << "none of its keys was moved";
+    map("clear mod4");
+    EXPECT_TRUE(eventually([&] { return shortcut.state() == State::refused; }))
+        << "there is no Super";
+    EXPECT_EQ(pressesBy("shift+v"), 0) << "a capital V opens the panel";
+    map("add mod4 = Super_L");
+    EXPECT_TRUE(eventually([&] { return shortcut.state() == State::registered; }));
+    EXPECT_EQ(pressesBy("super+shift+v"), 1);
+}
+
 } // namespace
 } // namespace ravelo::live

@@ -102,9 +102,16 @@ TEST_F(Panel, severalClipsAreCopiedAsOneInTheOrderOfChoosing) {
     pressKeys(u"Down Ctrl+Space Up Ctrl+Space"_s);
     EXPECT_EQ(text(u"copySelected"_s), u"Copy 2"_s);
     EXPECT_TRUE(in(u"card1"_s, u"order"_s)->isVisible());
+    pressKeys(u"F2"_s);
+    EXPECT_EQ(shown(u"clipSheet"_s), nullptr) << "one of them is edited";
     pressKeys(u"Return"_s);
     EXPECT_EQ(pasteboardText(), u"second\nfirst"_s);
     EXPECT_FALSE(world.controller.isOpen());
+
+    rebuild();
+    openSearch();
+    pressKeys(u"Down Ctrl+Space Down Ctrl+Space Alt+Return"_s);
+    EXPECT_EQ(pasteboardText(), u"second\nthird"_s) << "or only the current one";
 }
 
 TEST_F(Panel, severalClipsAreJoinedAsTheSettingsSay) {

@@ -70,6 +70,19 @@ TEST_F(SecretRow, ShowsItsTextWhileSpaceIsHeld) {
     EXPECT_EQ(view.features().clips->list()->count(), 1);
 }
 
+TEST_F(SecretRow, IsOnlyCopiedForATerminalThatPastesTheSelectedText) {
+    for (const auto& [terminal, typed] : {std::pair(u"xterm"_s, 0U), std::pair(u"foot"_s, 1U)}) {
+        world.pasteKeys.next = PasteKeys::Target{1, {terminal}};
+        openSearch();
+        press(Qt::Key_Return, Qt::ShiftModifier);
+        world.scheduler.advance(Seconds(0.02));
+        EXPECT_EQ(world.pasteKeys.pressed.size(), typed) << qPrintable(terminal);
+        EXPECT_EQ(pasteboardText(), token);
+        EXPECT_FALSE(world.controller.isOpen());
+        rebuild();
+    }
+}
+
 TEST_F(SecretRow, CanBeKept) {
     open();
     clickOn(u"card0"_s, Qt::RightButton);

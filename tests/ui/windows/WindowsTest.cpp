@@ -137,6 +137,12 @@ TEST_F(Settings, AShortcutIsRecorded) {
         << "a modifier alone is no mistake";
     press(*window, Qt::Key_B, Qt::NoModifier);
     EXPECT_TRUE(shortcut.suspended) << "a letter alone is no shortcut";
+    press(*window, Qt::Key_V, Qt::ControlModifier);
+    EXPECT_TRUE(
+        in(window, u"shortcutNote"_s)->property("text").toString().startsWith(u"Programs copy"_s))
+        << "it would end pasting everywhere";
+    clickOn(window, u"shortcut"_s);
+    EXPECT_TRUE(shortcut.suspended) << "while others are still recorded";
     press(*window, Qt::Key_Escape);
     EXPECT_FALSE(shortcut.suspended);
     EXPECT_TRUE(window->isVisible()) << "Escape cancels the recording only";

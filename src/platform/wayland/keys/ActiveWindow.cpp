@@ -24,7 +24,8 @@ const zwlr_foreign_toplevel_manager_v1_listener ActiveWindow::managerEvents = {
             active.windows_.try_emplace(handle, std::move(owned), Window{active.nextId_++});
         }
     },
-    [](void* /*self*/, Manager* manager) {
+    [](void* self, Manager* manager) {
+        static_cast<ActiveWindow*>(self)->finished(manager);
         zwlr_foreign_toplevel_manager_v1_destroy(manager);
     }};
 
@@ -74,9 +75,20 @@ void ActiveWindow::stopSoon() {
 }
 
 void ActiveWindow::stop() {
-    zwlr_foreign_toplevel_manager_v1_stop(std::exchange(manager_, nullptr));
+    if (Manager* const manager = std::exchange(manager_, nullptr)) {
+        zwlr_foreign_toplevel_manager_v1_stop(manager);
+    }
     windows_.clear();
     last_.reset();
+}
+
+/// After `stop`, or because the compositor ends it by itself.
+void ActiveWindow::finished(const Manager* manager) {
+    if (manager == manager_) {
+        manager_ = nullptr;
+        windows_.clear();
+        last_.reset();
+    }
 }
 
 void ActiveWindow::done(Toplevel* handle) {

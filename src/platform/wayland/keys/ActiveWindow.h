@@ -51,6 +51,7 @@ private:
     using Toplevel = zwlr_foreign_toplevel_handle_v1;
 
     void stop();
+    void finished(const Manager* manager);
     void done(Toplevel* handle);
 
     static const zwlr_foreign_toplevel_manager_v1_listener managerEvents;

@@ -1,6 +1,7 @@
 #include "platform/wayland/keys/WaylandPasteKeys.h"
 
 #include "platform/wayland/clipboard/WaylandPasteboard.h"
+#include "platform/wayland/connection/QtConnection.h"
 #include "platform/wayland/keys/VirtualKeyboard.h"
 #include "platform/wayland/window/Surfaces.h"
 
@@ -19,13 +20,14 @@ std::optional<PasteKeys::Target> WaylandPasteKeys::target() {
 }
 
 PasteKeys::Readiness WaylandPasteKeys::readiness(const Target& target) {
-    return {.modifiersUp = true,
+    return {.modifiersUp = true, // As far as anybody can know.
             .ownsPasteboard = pasteboard_.isOwn(),
             .focused = QGuiApplication::focusWindow() == nullptr &&
                        surfaces_.activeWindow().isActive(target.id)};
 }
 
 void WaylandPasteKeys::press(const Target& target, PasteChord chord) {
+    wl_display_roundtrip(qt::display()); // Or the active window may be an earlier one.
     if (!isPossible() || !readiness(target).isComplete()) {
         return;
     }

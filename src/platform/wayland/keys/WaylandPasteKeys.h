@@ -18,8 +18,12 @@ public:
     [[nodiscard]] bool isPossible() const override;
     [[nodiscard]] std::optional<Target> target() override;
 
-    /// The user's modifiers do not matter to a keyboard of our own.
+    /// Without the keyboard nobody learns which modifiers the user holds. Our own keyboard sends
+    /// its own, and the compositor passes on those of the keyboard that was used last.
     [[nodiscard]] Readiness readiness(const Target& target) override;
+
+    /// Asks the compositor once more which window is active. It may still change before the keys
+    /// arrive: there is no way to prevent that.
     void press(const Target& target, PasteChord chord) override;
 
 private:

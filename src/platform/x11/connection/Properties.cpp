@@ -45,6 +45,16 @@ QByteArray PropertyRequest::bytes() {
     return {values, static_cast<qsizetype>(answer->value_len)};
 }
 
+QStringList PropertyRequest::strings() {
+    QStringList strings;
+    for (const QByteArray& string : bytes().split('\0')) {
+        if (!string.isEmpty()) {
+            strings.append(QString::fromUtf8(string));
+        }
+    }
+    return strings;
+}
+
 std::vector<uint32_t> PropertyRequest::cardinals() {
     const auto answer = reply();
     if (!answer || answer->format != 32) {

@@ -4,6 +4,7 @@
 
 #include <QByteArray>
 #include <QSize>
+#include <QStringList>
 
 #include <vector>
 
@@ -21,13 +22,16 @@ public:
     PropertyRequest& operator=(const PropertyRequest&) = delete;
     ~PropertyRequest();
 
-    /// Waits for the answer: whether there is such a property, of any type. One of these three
+    /// Waits for the answer: whether there is such a property, of any type. One of these four
     /// may be called, once.
     [[nodiscard]] bool exists();
 
     /// Waits for the answer: the property's bytes, none if there is no such window or property
     /// or it is not made of bytes.
     [[nodiscard]] QByteArray bytes();
+
+    /// Waits for the answer: the strings of a list such as WM_CLASS, without empty ones.
+    [[nodiscard]] QStringList strings();
 
     /// Waits for the answer: the property's 32-bit values, none if there is no such window or
     /// property.

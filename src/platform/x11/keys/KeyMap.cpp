@@ -1,5 +1,7 @@
 #include "platform/x11/keys/KeyMap.h"
 
+#include <X11/keysym.h>
+
 namespace ravelo::x11 {
 
 KeyMap::KeyMap(Connection& connection) : first_(xcb_get_setup(connection.get())->min_keycode) {
@@ -57,6 +59,19 @@ bool KeyMap::hasModifier(const xcb_query_keymap_reply_t& down) const {
         }
     }
     return false;
+}
+
+bool KeyMap::hasModifier(uint16_t state) const {
+    constexpr uint16_t allModifiers = 0xff; // Above are buttons, and the layout.
+    uint16_t ignored = 0;
+    for (const uint16_t lock : locks()) {
+        ignored |= lock;
+    }
+    return (state & allModifiers & ~ignored) != 0;
+}
+
+std::array<uint16_t, 3> KeyMap::locks() const {
+    return {uint16_t(XCB_MOD_MASK_LOCK), maskOf(XK_Num_Lock), maskOf(XK_Scroll_Lock)};
 }
 
 } // namespace ravelo::x11

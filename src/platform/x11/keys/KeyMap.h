@@ -2,6 +2,7 @@
 
 #include "platform/x11/connection/Connection.h"
 
+#include <array>
 #include <cstdint>
 #include <vector>
 
@@ -21,6 +22,13 @@ public:
 
     /// Whether a key that sets a modifier is among those that are down.
     [[nodiscard]] bool hasModifier(const xcb_query_keymap_reply_t& down) const;
+
+    /// Whether this state of the keyboard has a modifier, held, latched or locked, besides Caps
+    /// Lock, Num Lock and Scroll Lock.
+    [[nodiscard]] bool hasModifier(uint16_t state) const;
+
+    /// The modifiers of Caps Lock, Num Lock and Scroll Lock; 0 for one that there is none of.
+    [[nodiscard]] std::array<uint16_t, 3> locks() const;
 
 private:
     xcb_keycode_t first_;

@@ -5,6 +5,8 @@
 #include "platform/x11/connection/Events.h"
 #include "platform/x11/keys/KeyMap.h"
 
+#include <QTimer>
+
 #include <vector>
 
 namespace ravelo::x11 {
@@ -33,16 +35,27 @@ public:
     }
 
 private:
+    /// Where the keys are on the keyboard.
+    struct Place {
+        xcb_keycode_t code = 0;            ///< 0 if the keyboard lacks one of the keys.
+        std::vector<uint16_t> modifiers{}; ///< With each combination of locks.
+
+        friend bool operator==(const Place&, const Place&) = default;
+    };
+
+    [[nodiscard]] Place place() const;
     [[nodiscard]] State grab();
     void release();
+    void followMapping();
     void handle(const xcb_generic_event_t& event);
 
     Connection& connection_;
     std::optional<KeyCombination> keys_;
     State state_ = State::none;
     bool suspended_ = false;
-    xcb_keycode_t code_ = 0;          ///< While grabbed.
-    std::vector<uint16_t> modifiers_; ///< With each combination of locks.
+    bool grabbed_ = false;
+    Place place_; ///< At the last attempt to grab.
+    QTimer remapped_;
     xcb_timestamp_t released_ = XCB_CURRENT_TIME;
     Listeners<> changes_;
     Listeners<const QByteArray&> presses_;

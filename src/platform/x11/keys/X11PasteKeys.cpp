@@ -31,13 +31,29 @@ xcb_window_t parentOf(Connection& connection, xcb_window_t window) {
     return reply ? reply->parent : XCB_NONE;
 }
 
-/// What is copied counts as selected, too. The selection's own connection is Qt's: its request has
-/// been handled before ours.
-void selectCopiedText() {
+/// Makes the copied text the selected one, too; false if there is none. Qt has a connection of its
+/// own and waits for the server here, so this must not happen while we have the server grabbed.
+bool selectCopiedText() {
     QClipboard* clipboard = QGuiApplication::clipboard();
-    if (clipboard->ownsClipboard()) {
-        clipboard->setText(clipboard->text(), QClipboard::Selection); // Qt waits for the server.
+    const QString text = clipboard->ownsClipboard() ? clipboard->text() : QString();
+    if (!text.isEmpty()) {
+        clipboard->setText(text, QClipboard::Selection);
     }
+    return !text.isEmpty();
+}
+
+/// A menu or launcher that has grabbed the keyboard would get our keys instead of the focused
+/// window. Only while the server is grabbed does the answer stay true.
+bool isKeyboardGrabbed(Connection& connection) {
+    xcb_connection_t* xcb = connection.get();
+    const auto cookie = xcb_grab_keyboard(xcb, 1, connection.root(), XCB_CURRENT_TIME,
+                                          XCB_GRAB_MODE_ASYNC, XCB_GRAB_MODE_ASYNC);
+    const Owned<xcb_grab_keyboard_reply_t> reply(xcb_grab_keyboard_reply(xcb, cookie, nullptr));
+    if (!reply || reply->status != XCB_GRAB_STATUS_SUCCESS) {
+        return true;
+    }
+    xcb_ungrab_keyboard(xcb, XCB_CURRENT_TIME);
+    return false;
 }
 
 } // namespace
@@ -54,28 +70,36 @@ std::optional<PasteKeys::Target> X11PasteKeys::target() {
 }
 
 PasteKeys::Readiness X11PasteKeys::readiness(const Target& target) {
+    return readiness(target, KeyMap(connection_));
+}
+
+PasteKeys::Readiness X11PasteKeys::readiness(const Target& target, const KeyMap& keys) {
     xcb_connection_t* xcb = connection_.get();
     const auto focusAsked = xcb_get_input_focus(xcb);
     const auto ownerAsked = xcb_get_selection_owner(xcb, connection_.atom("CLIPBOARD"));
     const auto downAsked = xcb_query_keymap(xcb);
-    const KeyMap keys(connection_);
+    const auto pointerAsked = xcb_query_pointer(xcb, connection_.root());
     const Owned<xcb_get_input_focus_reply_t> focus(
         xcb_get_input_focus_reply(xcb, focusAsked, nullptr));
     const Owned<xcb_get_selection_owner_reply_t> owner(
         xcb_get_selection_owner_reply(xcb, ownerAsked, nullptr));
     const Owned<xcb_query_keymap_reply_t> down(xcb_query_keymap_reply(xcb, downAsked, nullptr));
-    return {.modifiersUp = down && !keys.hasModifier(*down),
+    const Owned<xcb_query_pointer_reply_t> pointer(
+        xcb_query_pointer_reply(xcb, pointerAsked, nullptr));
+    const bool modified = !pointer || keys.hasModifier(pointer->mask);
+    return {.modifiersUp = down && !keys.hasModifier(*down) && !modified,
             .ownsPasteboard = owner && own_.owns(owner->owner),
             .focused = focus && focus->focus == target.id};
 }
 
 void X11PasteKeys::press(const Target& target, PasteChord chord) {
-    if (chord == PasteChord::shiftInsert) {
-        selectCopiedText();
+    const KeyMap keys(connection_);
+    if (!readiness(target, keys).isComplete() ||
+        (chord == PasteChord::shiftInsert && !selectCopiedText())) {
+        return;
     }
     xcb_grab_server(connection_.get());
-    if (readiness(target).isComplete()) {
-        const KeyMap keys(connection_);
+    if (readiness(target, keys).isComplete() && !isKeyboardGrabbed(connection_)) {
         switch (chord) {
         case PasteChord::controlV:
             type(keys, XK_Control_L, XCB_NO_SYMBOL, XK_v);
@@ -96,13 +120,7 @@ void X11PasteKeys::press(const Target& target, PasteChord chord) {
 QStringList X11PasteKeys::namesOf(xcb_window_t window) {
     for (int depth = 0; depth < deepest && window != XCB_NONE && window != connection_.root();
          ++depth) {
-        QStringList names;
-        const QByteArray wmClass = PropertyRequest(connection_, window, XCB_ATOM_WM_CLASS).bytes();
-        for (const QByteArray& name : wmClass.split('\0')) {
-            if (!name.isEmpty()) {
-                names.append(QString::fromUtf8(name));
-            }
-        }
+        const QStringList names = PropertyRequest(connection_, window, XCB_ATOM_WM_CLASS).strings();
         if (!names.isEmpty()) {
             return names;
         }

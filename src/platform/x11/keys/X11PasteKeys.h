@@ -17,10 +17,12 @@ public:
     [[nodiscard]] std::optional<Target> target() override;
     [[nodiscard]] Readiness readiness(const Target& target) override;
 
-    /// With the server to itself, so that nothing changes in between.
+    /// Grabs the server, so that nothing changes between the check and the keys. Types nothing
+    /// while another program has grabbed the keyboard.
     void press(const Target& target, PasteChord chord) override;
 
 private:
+    [[nodiscard]] Readiness readiness(const Target& target, const KeyMap& keys);
     [[nodiscard]] QStringList namesOf(xcb_window_t window);
     void type(const KeyMap& keys, uint32_t modifier, uint32_t second, uint32_t key);
 

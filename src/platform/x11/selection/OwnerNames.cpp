@@ -7,20 +7,6 @@
 
 namespace ravelo::x11 {
 
-namespace {
-
-QStringList classNames(const QByteArray& property) {
-    QStringList names;
-    for (const QByteArray& name : property.split('\0')) {
-        if (!name.isEmpty()) {
-            names.append(QString::fromUtf8(name));
-        }
-    }
-    return names;
-}
-
-} // namespace
-
 QStringList ownerNames(Connection& connection, const OwnClient& clients, xcb_window_t owner) {
     const xcb_window_t root = connection.root();
     // All at once: one round trip.
@@ -35,7 +21,7 @@ QStringList ownerNames(Connection& connection, const OwnClient& clients, xcb_win
             classes.emplace_back(connection, *window, XCB_ATOM_WM_CLASS);
         }
     };
-    QStringList names = classNames(own.bytes());
+    QStringList names = own.strings();
     if (!names.isEmpty()) {
         return names;
     }
@@ -48,7 +34,7 @@ QStringList ownerNames(Connection& connection, const OwnClient& clients, xcb_win
     add(active.cardinals(), any);
     for (PropertyRequest& request : classes) {
         if (names.isEmpty()) {
-            names = classNames(request.bytes());
+            names = request.strings();
         }
     }
     return names;
