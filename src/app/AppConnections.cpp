@@ -125,7 +125,7 @@ void AppDelegate::wireNotifications() {
     notifications_ = std::make_unique<DesktopNotices>(
         DesktopNotices::Services{*platform_.notifier, *settings_, *platform_.preferences,
                                  *platform_.scheduler, claude_->plan(), *notices_, [this] {
-                                     return screenKey_ && screenKey_->isScreenLocked();
+                                     return screenKey_->isScreenLocked();
                                  }});
     notifications_->onStartTimer = [this](double minutes) {
         store_->startTimer(store_->timerLabel(), minutes);

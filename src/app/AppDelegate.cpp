@@ -130,8 +130,8 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     storeNotices_ = std::make_unique<StoreNotices>(
         StoreNotices::Services{*notices_, *store_, *platform_.preferences, *settings_, *clipboard_,
                                *encryption_, view_->features()});
+    wireEncryption(); // Notifications ask it whether the screen is locked.
     wireNotifications();
-    wireEncryption();
     encryption_->start();
     if (!settings_->onboarded()) {
         showSetup();
