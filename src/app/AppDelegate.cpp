@@ -38,6 +38,7 @@
 #include "platform/SessionLock.h"
 #include "platform/ShutDown.h"
 #include "platform/StatusItem.h"
+#include "platform/Worker.h"
 #include "platform/system/DecoderProcess.h"
 #include "platform/system/PreferenceFile.h"
 #include "platform/system/TerminationSignals.h"
