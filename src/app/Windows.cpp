@@ -8,6 +8,7 @@
 #include "monitor/ClaudeEnvironment.h"
 #include "panel/NotchController.h"
 #include "platform/DesktopExtension.h"
+#include "platform/DetachedJobs.h"
 #include "platform/DisplayServer.h"
 #include "platform/PackageUpdates.h"
 #include "settings/AppSettings.h"

@@ -1,4 +1,4 @@
-#include "windows/WindowsFixture.h"
+#include "WindowsFixture.h"
 
 namespace ravelo {
 
