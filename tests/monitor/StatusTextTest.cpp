@@ -155,7 +155,7 @@ TEST(Status, isTranslatedForTheInterfaceOnly) {
     EXPECT_EQ(contextDetails(status, offPeak, zone, shown),
               QStringList({u"*Last activity 31 Dez., 09:30"_s,
                            u"*5h session: *at this pace full at 11:55"_s,
-                           u"*Week: *at this pace full on Do"_s}));
+                           u"*Week: *at this pace full on Do."_s}));
     QCoreApplication::removeTranslator(&marking);
 }
 
