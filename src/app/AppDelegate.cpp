@@ -14,6 +14,7 @@
 #include "clipboard/SelectedTexts.h"
 #include "languages/Languages.h"
 #include "monitor/LiveContext.h"
+#include "monitor/MonitorFiles.h"
 #include "monitor/PlanUsage.h"
 #include "notices/DesktopNotices.h"
 #include "notices/Notices.h"
@@ -37,6 +38,7 @@
 #include "platform/SessionLock.h"
 #include "platform/ShutDown.h"
 #include "platform/StatusItem.h"
+#include "platform/Worker.h"
 #include "platform/system/DecoderProcess.h"
 #include "platform/system/PreferenceFile.h"
 #include "platform/system/TerminationSignals.h"
@@ -49,6 +51,8 @@
 #include "vault/Encryption.h"
 #include "vault/Vault.h"
 
+#include <QDir>
+#include <QFile>
 #include <QGuiApplication>
 #include <QLocale>
 #include <QStandardPaths>
@@ -62,8 +66,6 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
-
-constexpr double secondsPerMinute = 60;
 
 void quitLater() {
     QMetaObject::invokeMethod(qApp, &QCoreApplication::quit, Qt::QueuedConnection);
@@ -83,18 +85,6 @@ void flushAtExit() {
     if (flushedAtExit) {
         flushedAtExit->flush();
     }
-}
-
-Backdrop::Kind backdrop(PanelWindow::ShowThrough showThrough) {
-    switch (showThrough) {
-    case PanelWindow::ShowThrough::blurred:
-        return Backdrop::Blurred;
-    case PanelWindow::ShowThrough::sharp:
-        return Backdrop::Translucent;
-    case PanelWindow::ShowThrough::none:
-        break;
-    }
-    return Backdrop::Opaque;
 }
 
 StatusChoice statusChoice(const AppSettings& settings) {
@@ -131,6 +121,26 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
     if (platform_.preferences->wasUnreadable()) {
         rememberFirstStart(*platform_.preferences);
     }
+    makeStore();
+    makeSettings();
+    makeCapture();
+    makePanel();
+    makeWindows();
+    makeCommands();
+    wire();
+    storeNotices_ = std::make_unique<StoreNotices>(
+        StoreNotices::Services{*notices_, *store_, *platform_.preferences, *settings_, *clipboard_,
+                               *encryption_, view_->features()});
+    wireEncryption(); // Notifications ask it whether the screen is locked.
+    wireNotifications();
+    encryption_->start();
+    if (!settings_->onboarded()) {
+        showSetup();
+    }
+    return {};
+}
+
+void AppDelegate::makeStore() {
     platform_.vault->look(); // Nobody else changes the folder from now on.
     encryption_ = std::make_unique<Encryption>(Encryption::Services{
         *platform_.jobs, *platform_.worker, *platform_.keyring, platform_.vault,
@@ -148,7 +158,9 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         Transfers::Services{*store_, *platform_.fileJobs, platform_.decoder, platform_.mayWrite()});
     flushedAtExit = this;
     std::atexit(flushAtExit);
+}
 
+void AppDelegate::makeSettings() {
     settings_ = std::make_unique<AppSettings>(*platform_.preferences, *platform_.loginItem);
     useLanguage(settings_->language()); // Before the first text is made.
     settings_->setupLoginItemDefaultIfNeeded();
@@ -158,7 +170,9 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         }
         settings_->refreshLaunchAtLogin();
     });
+}
 
+void AppDelegate::makeCapture() {
     pause_ = std::make_unique<CapturePause>(*platform_.preferences, *platform_.scheduler);
     clipboard_ = std::make_unique<ClipboardManager>(*store_, platform_.display->pasteboard(),
                                                     *platform_.scheduler, *platform_.jobs, *pause_);
@@ -167,7 +181,9 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         selected_ =
             std::make_unique<SelectedTexts>(*store_, *selection, *platform_.scheduler, *pause_);
     }
+}
 
+void AppDelegate::makePanel() {
     window_ = platform_.display->panelWindow(view_->window());
     zone_ = platform_.makeHotZone(*window_);
     notch_ = std::make_unique<NotchController>(
@@ -180,30 +196,48 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
                                                            platform_.display->pasteboard(), *notch_,
                                                            platform_.display->pasteKeys()});
     claude_ = std::make_unique<ClaudeCode>(platform_, *settings_);
-    view_->load({*store_, *settings_, *pause_, *notch_, *notices_, platform_.display->pasteboard(),
-                 *platform_.scheduler, *platform_.preferences, *platform_.nightShift,
-                 *platform_.shutDown, claude_->plan(), *received_, *nearby_, *platform_.fileJobs,
-                 *platform_.opener, platform_.icons, platform_.decoder, encryption_.get(),
+    view_->load({*store_,
+                 *settings_,
+                 *pause_,
+                 *notch_,
+                 *clipboard_,
+                 *notices_,
+                 platform_.display->pasteboard(),
+                 *platform_.scheduler,
+                 *platform_.preferences,
+                 *platform_.nightShift,
+                 *platform_.shutDown,
+                 claude_->plan(),
+                 *received_,
+                 *nearby_,
+                 *platform_.fileJobs,
+                 *platform_.opener,
+                 platform_.icons,
+                 platform_.decoder,
+                 encryption_.get(),
                  pasting_.get()},
                 QLocale());
+    claude_->show(view_->features().usage);
+}
+
+void AppDelegate::makeWindows() {
     windows_ = std::make_unique<Windows>(
         Windows::Services{platform_, view_->window(), *store_, *settings_, *transfers_, *clipboard_,
                           *notch_, pasting_->isPossible(), selected_ != nullptr, quitLater, [this] {
                               erase([](const Answer&) {});
                           }});
-    const auto checkUpdates = [this] {
-        windows_->showUpdates();
-    };
-    claude_->show(view_->features().usage);
     statusItem_ = std::make_unique<StatusItemController>(
         StatusItemController::Services{*platform_.statusItem, *notch_, *pause_, claude_->context(),
                                        claude_->plan(), claude_->second(), *platform_.scheduler,
-                                       *settings_, checkUpdates, quitLater},
+                                       *settings_, [this] { windows_->showUpdates(); }, quitLater},
         QLocale());
+}
+
+void AppDelegate::makeCommands() {
     commands_ = std::make_unique<Commands>(Commands::Services{
         *store_, *pause_, *notch_, *platform_.scheduler, claude_->context(), claude_->plan(),
         [this] { return statusChoice(*settings_); }, [this] { return claude_->second().plan(); },
-        [this] { showSetup(); }, checkUpdates, quitLater,
+        [this] { showSetup(); }, [this] { windows_->showUpdates(); }, quitLater,
         [this](const QString& path, const Commands::Reply& reply) {
             transfers_->exportTo(path, reply);
         },
@@ -213,17 +247,6 @@ Result<void> AppDelegate::applicationDidFinishLaunching(DataLock::Claim claim) {
         [this](const Commands::Reply& reply) {
             erase(reply);
         }});
-    wire();
-    storeNotices_ = std::make_unique<StoreNotices>(
-        StoreNotices::Services{*notices_, *store_, *platform_.preferences, *settings_, *clipboard_,
-                               *encryption_, view_->features()});
-    wireEncryption();
-    wireNotifications();
-    encryption_->start();
-    if (!settings_->onboarded()) {
-        showSetup();
-    }
-    return {};
 }
 
 std::vector<SessionLock*> AppDelegate::locks() {
@@ -234,107 +257,6 @@ std::vector<SessionLock*> AppDelegate::locks() {
     return locks;
 }
 
-void AppDelegate::wire() {
-    settings_->onLayoutChange = [this] {
-        if (!notch_->isOpen()) {
-            notch_->positionCollapsed();
-        }
-    };
-    wireSettings();
-    wireShortcut();
-    wirePicture();
-    statusItem_->onSetup = [this] {
-        showSetup();
-    };
-    statusItem_->onSettings = [this] {
-        openSettings();
-    };
-    const auto followCompositor = [this] {
-        view_->features().state.setBackdrop(backdrop(window_->showThrough()));
-    };
-    followCompositor();
-    compositor_ = window_->onShowThroughChange(followCompositor);
-    const auto followMotion = [this] {
-        view_->features().state.setReducedMotion(platform_.motion->isReduced());
-    };
-    followMotion();
-    motion_ = platform_.motion->onChange(followMotion);
-    termination_ = onTerminationSignal([] { QCoreApplication::quit(); });
-    QObject::connect(qGuiApp, &QGuiApplication::commitDataRequest, notch_.get(),
-                     [this] { flush(); });
-    QObject::connect(qGuiApp, &QCoreApplication::aboutToQuit, notch_.get(), [this] {
-        view_->features().snippets.editor()->cancel(); // Deletes an image that nothing refers to.
-        flush();
-    });
-}
-
-/// The picture shows what the panel will.
-void AppDelegate::wirePicture() {
-    PanelFeatures& features = view_->features();
-    picture_ = std::make_unique<PanelPicture>(
-        PanelPicture::Services{view_->window(), *window_, *notch_, features.state,
-                               *features.clips->list(), *platform_.scheduler});
-    const auto follow = [this](auto* source, auto... changed) {
-        (QObject::connect(source, changed, picture_.get(), &PanelPicture::refreshSoon), ...);
-    };
-    follow(store_.get(), &Store::clipsChanged, &Store::snippetsChanged, &Store::noteChanged,
-           &Store::shelfChanged, &Store::remindersChanged);
-    follow(settings_.get(), &AppSettings::lastTabChanged, &AppSettings::hideClaudeCodeChanged);
-    follow(notices_.get(), &Notices::changed);
-    follow(&features.pausing, &Pausing::changed);
-    follow(&claude_->plan(), &PlanUsage::changed);
-}
-
-/// Does what `--toggle` does.
-void AppDelegate::wireShortcut() {
-    HotKeyCenter::shared().ref =
-        platform_.shortcut->onPress([this](const QByteArray& token) { notch_->toggle(token); });
-    const auto follow = [this] {
-        platform_.shortcut->set(KeyCombination::fromText(settings_->shortcut()));
-    };
-    if (!settings_->shortcut().isEmpty()) {
-        follow();
-    }
-    QObject::connect(settings_.get(), &AppSettings::shortcutChanged, notch_.get(), follow);
-}
-
-/// Settings apply at once, without a restart.
-void AppDelegate::wireSettings() {
-    history_ = std::make_unique<HistorySettings>(HistorySettings::Services{
-        *settings_, *store_, *clipboard_, selected_.get(), *view_->features().clips->list()});
-}
-
-void AppDelegate::wireNotifications() {
-    notifications_ = std::make_unique<DesktopNotices>(
-        DesktopNotices::Services{*platform_.notifier, *settings_, *platform_.preferences,
-                                 *platform_.scheduler, claude_->plan(), *notices_, [this] {
-                                     return screenKey_->isScreenLocked();
-                                 }});
-    screenKey_->onScreenUnlock = [this] {
-        notifications_->followPlan();
-    };
-    notifications_->onStartTimer = [this](double minutes) {
-        store_->startTimer(store_->timerLabel(), minutes);
-    };
-    QObject::connect(store_.get(), &Store::timerEnded, notifications_.get(), [this] {
-        notifications_->timerEnded(store_->timerDuration() / secondsPerMinute);
-    });
-    arrivals_ = received_->onChange([this] {
-        using Arrivals = DesktopNotices::Arrivals;
-        notifications_->filesReceived(received_->files(),
-                                      received_->receiving() ? Arrivals::goOn : Arrivals::over);
-    });
-}
-
-void AppDelegate::wireEncryption() {
-    QObject::connect(encryption_.get(), &Encryption::opened, store_.get(), &Store::unlock);
-    screenKey_ = std::make_unique<KeyWhileLocked>(
-        KeyWhileLocked::Services{*settings_, *store_, *encryption_, *platform_.decoder, locks()},
-        [this] {
-            view_->features().toast.reset(); // It may offer to undo a deletion.
-        });
-}
-
 bool AppDelegate::answerLater(const QStringList& request,
                               const std::function<void(const Answer&)>& reply) {
     return commands_->answerLater(request, reply);
@@ -343,18 +265,27 @@ bool AppDelegate::answerLater(const QStringList& request,
 void AppDelegate::erase(const std::function<void(const Answer&)>& reply) {
     store_->erase([this, reply](const Result<void>& data) {
         platform_.preferences->erase([this, reply, data](const Result<void>& preferences) {
-            const Result<void>& done = data ? preferences : data;
-            if (!done) {
-                store_->captureAgain();
-                notices_->deletionEnded(done.error().message);
-                reply({1, {}, done.error().message});
-                return;
-            }
-            encryption_->eraseKey([reply] {
-                reply({});
-                quitLater();
-            });
+            const auto cache = std::make_shared<Result<void>>();
+            platform_.worker->run(
+                [cache] { *cache = eraseMonitorCache(QFile::encodeName(QDir::homePath())); },
+                [this, reply, data, preferences, cache] {
+                    erased(!data ? data : !preferences ? preferences : *cache, reply);
+                });
         });
+    });
+}
+
+void AppDelegate::erased(const Result<void>& done,
+                         const std::function<void(const Answer&)>& reply) {
+    if (!done) {
+        store_->captureAgain();
+        notices_->deletionEnded(done.error().message);
+        reply({1, {}, done.error().message});
+        return;
+    }
+    encryption_->eraseKey([reply] {
+        reply({});
+        quitLater();
     });
 }
 

@@ -73,6 +73,13 @@ public:
 
 private:
     [[nodiscard]] std::vector<SessionLock*> locks();
+    void makeStore();
+    void makeSettings();
+    void makeCapture();
+    void makePanel();
+    void makeWindows();
+    void makeCommands();
+    void erased(const Result<void>& done, const std::function<void(const Answer&)>& reply);
     void wire();
     void wireNotifications();
     void wireSettings();

@@ -98,7 +98,7 @@ void ClaudeCode::show(Usage& usage) {
     QObject::connect(&context_, &LiveContext::changed, &usage, look);
     const auto showSecond = [this, &usage] {
         const auto plan = second_->plan();
-        usage.setSecondAccount(plan ? otherPlanLine(*plan) : QString());
+        usage.setSecondAccount(plan ? otherPlanLine(*plan, Wording::translated) : QString());
     };
     showSecond();
     QObject::connect(second_.get(), &SecondPlan::changed, &usage, showSecond);

@@ -1,6 +1,7 @@
 #include "app/Erasing.h"
 
 #include "app/Platform.h"
+#include "monitor/MonitorFiles.h"
 #include "platform/freedesktop/BusInstance.h"
 #include "platform/freedesktop/SecretKeyring.h"
 #include "platform/system/DataLock.h"
@@ -8,7 +9,9 @@
 #include "vault/Conversion.h"
 #include "vault/Vault.h"
 
+#include <QDir>
 #include <QEventLoop>
+#include <QFile>
 
 namespace ravelo {
 
@@ -36,7 +39,8 @@ Answer eraseEverything() {
     if (file && file->guard == KeyFile::Guard::keyring) {
         removeKey(file->service());
     }
-    const Result<void>& done = data ? preferences : data;
+    const Result<void> cache = eraseMonitorCache(QFile::encodeName(QDir::homePath()));
+    const Result<void>& done = !data ? data : !preferences ? preferences : cache;
     return done ? Answer() : Answer{1, {}, done.error().message};
 }
 

@@ -11,8 +11,8 @@
 
 namespace ravelo {
 
-KeyWhileLocked::KeyWhileLocked(Services services, std::function<void()> forgotten)
-    : services_(std::move(services)), forgotten_(std::move(forgotten)) {
+KeyWhileLocked::KeyWhileLocked(Services services, Reports reports)
+    : services_(std::move(services)), reports_(std::move(reports)) {
     for (SessionLock* lock : services_.locks) {
         changes_.push_back(lock->onChange([this] { follow(); }));
     }
@@ -28,7 +28,7 @@ void KeyWhileLocked::follow() {
         return;
     }
     if (!locked) {
-        onScreenUnlock();
+        reports_.screenUnlocked();
         services_.store.lock({}); // It may still wait for a save.
         services_.encryption.getKey();
     } else if (services_.settings.forgetKeyWhileLocked() &&
@@ -43,7 +43,7 @@ void KeyWhileLocked::forget() {
         services_.store.unlock();
     }
     services_.decoder.forgetOwn();
-    forgotten_();
+    reports_.forgotten();
 }
 
 } // namespace ravelo

@@ -25,19 +25,21 @@ public:
         std::vector<SessionLock*> locks;
     };
 
-    /// `forgotten`: the key is gone, and so should be what else shows decrypted clips.
-    KeyWhileLocked(Services services, std::function<void()> forgotten);
+    struct Reports {
+        std::function<void()> forgotten; ///< What else shows decrypted clips has to go, too.
+        std::function<void()> screenUnlocked;
+    };
+
+    KeyWhileLocked(Services services, Reports reports);
 
     [[nodiscard]] bool isScreenLocked() const;
-
-    std::function<void()> onScreenUnlock;
 
 private:
     void follow();
     void forget();
 
     Services services_;
-    std::function<void()> forgotten_;
+    Reports reports_;
     std::vector<Handle> changes_;
     bool wasLocked_ = false;
 };

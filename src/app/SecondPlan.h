@@ -13,6 +13,12 @@ namespace ravelo {
 
 class PlanUsage;
 
+/// Why `folder` cannot be that of a second account; empty if it can, or is empty. `home` is the
+/// user's home folder, `otherFolders` where the first account may be if it is not in "~/.claude".
+/// Blocks; any thread.
+[[nodiscard]] QString secondAccountProblem(const QString& folder, const QString& home,
+                                           const QByteArrayList& otherFolders);
+
 /// The plan of a second account, if the user has named its Claude Code folder. Main thread.
 class SecondPlan : public QObject {
     Q_OBJECT

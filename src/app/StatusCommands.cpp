@@ -39,7 +39,7 @@ StatusChoice choiceIn(const QString& preferenceFile) {
 
 Answer statusAnswer(const MonitorStatus& status, Date now, const StatusChoice& choice,
                     const QStringList& arguments) {
-    const QLocale locale;
+    const QLocale locale = QLocale::system(); // The default one follows the interface.
     const QString format = arguments.value(0);
     if (format == "--json"_L1) {
         return {0, statusJson(status, now, locale), {}};

@@ -122,7 +122,7 @@ QString StatusItemController::usualToolTip() const {
     }
     const Date now = services_.scheduler.now();
     const StatusChoice choice{services_.settings.showPeakHours(),
-                              services_.settings.handedOverFirst()};
+                              services_.settings.handedOverFirst(), Wording::translated};
     MonitorStatus status = MonitorStatus::of(context, services_.plan, now);
     status.second = services_.second.plan();
     const QTimeZone zone = QTimeZone::systemTimeZone();

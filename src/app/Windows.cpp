@@ -2,10 +2,13 @@
 
 #include "app/FileChoice.h"
 #include "app/Platform.h"
+#include "app/SecondPlan.h"
 #include "app/Transfers.h"
 #include "clipboard/ClipboardManager.h"
+#include "monitor/ClaudeEnvironment.h"
 #include "panel/NotchController.h"
 #include "platform/DesktopExtension.h"
+#include "platform/DetachedJobs.h"
 #include "platform/DisplayServer.h"
 #include "platform/PackageUpdates.h"
 #include "settings/AppSettings.h"
@@ -15,6 +18,11 @@
 #include "ui/windows/UpdateWindow.h"
 #include "updates/Updater.h"
 
+#include <QDir>
+#include <QFile>
+#include <QProcessEnvironment>
+
+#include <memory>
 #include <utility>
 
 namespace ravelo {
@@ -56,7 +64,10 @@ Windows::Windows(Services services) : notch_(services.notch) {
         services.knowsSelection, std::move(services.erase), platform.shortcut.get(),
         services.canPaste,
         [&clipboard = services.clipboard](const QString& text) { clipboard.copyText(text); },
-        platform.notifier.get(), snippetFiles(services.transfers)});
+        platform.notifier.get(), snippetFiles(services.transfers),
+        [this, &platform](const QString& folder, const auto& done) {
+            checkAccount(platform, folder, done);
+        }});
     setup_ = std::make_unique<OnboardingController>(
         beside, services.settings, platform.display->screens(), platform.extension.get(),
         platform.shortcut.get());
@@ -66,6 +77,21 @@ Windows::Windows(Services services) : notch_(services.notch) {
 }
 
 Windows::~Windows() = default;
+
+/// The folder may be on a disk that hangs.
+void Windows::checkAccount(Platform& platform, const QString& folder,
+                           const std::function<void(const QString& problem)>& done) {
+    const auto problem = std::make_shared<QString>(SecondPlan::tr("No such folder"));
+    accountCheck_ = platform.jobs->run(
+        [folder, problem] {
+            const QString home = QDir::homePath();
+            *problem =
+                secondAccountProblem(folder, home,
+                                     otherClaudeFolders(QFile::encodeName(home),
+                                                        QProcessEnvironment::systemEnvironment()));
+        },
+        [problem, done] { done(*problem); });
+}
 
 void Windows::showSetup() {
     notch_.dismiss();

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/Handle.h"
+
 #include <functional>
 #include <memory>
 
@@ -44,7 +46,11 @@ public:
     void showUpdates();
 
 private:
+    void checkAccount(Platform& platform, const QString& folder,
+                      const std::function<void(const QString& problem)>& done);
+
     NotchController& notch_;
+    Handle accountCheck_;
     std::unique_ptr<SettingsWindow> settings_;
     std::unique_ptr<OnboardingController> setup_;
     std::unique_ptr<UpdateWindow> updates_;

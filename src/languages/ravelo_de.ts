@@ -2207,6 +2207,52 @@
     </message>
 </context>
 <context>
+    <name>ravelo::PaceNotes</name>
+    <message>
+        <source>%1 min.</source>
+        <translation>%1 Min.</translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation>%1 Tage</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 Std.</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min.</source>
+        <translation>%1 Std. %2 Min.</translation>
+    </message>
+    <message>
+        <source>%1, %2 before the reset</source>
+        <translation>%1, %2 vor dem Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Lasts until the reset</source>
+        <translation>Reicht bis zum Zurücksetzen</translation>
+    </message>
+    <message>
+        <source>Last day: +%1%</source>
+        <translation>Letzter Tag: +%1%</translation>
+    </message>
+    <message>
+        <source>Last hour: +%1%</source>
+        <translation>Letzte Stunde: +%1%</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::PaceText</name>
+    <message>
+        <source>at this pace full at %1</source>
+        <translation>so um %1 voll</translation>
+    </message>
+    <message>
+        <source>at this pace full on %1</source>
+        <translation>so am %1 voll</translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Pausing</name>
     <message>
         <source>Paused</source>
@@ -2249,6 +2295,21 @@
     <message>
         <source>just now</source>
         <translation>gerade eben</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::SecondPlan</name>
+    <message>
+        <source>No such folder</source>
+        <translation>Kein solcher Ordner</translation>
+    </message>
+    <message>
+        <source>That is the first account</source>
+        <translation>Das ist das erste Konto</translation>
+    </message>
+    <message>
+        <source>No login there</source>
+        <translation>Dort ist keine Anmeldung</translation>
     </message>
 </context>
 <context>
@@ -2593,6 +2654,25 @@
     </message>
 </context>
 <context>
+    <name>ravelo::StatusText</name>
+    <message>
+        <source>Last activity %1</source>
+        <translation>Zuletzt aktiv: %1</translation>
+    </message>
+    <message>
+        <source>5h session</source>
+        <translation>5-Std.-Sitzung</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Woche</translation>
+    </message>
+    <message>
+        <source>%1: 5h %2 · week %3</source>
+        <translation>%1: 5 Std. %2 · Woche %3</translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Store</name>
     <message>
         <source>too large to keep in memory</source>
@@ -2781,6 +2861,13 @@
     <message>
         <source>Nothing was overwritten.</source>
         <translation>Nichts wurde überschrieben.</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::Wording</name>
+    <message>
+        <source>en</source>
+        <translation>de</translation>
     </message>
 </context>
 </TS>

@@ -2207,6 +2207,52 @@
     </message>
 </context>
 <context>
+    <name>ravelo::PaceNotes</name>
+    <message>
+        <source>%1 min.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1 h %2 min.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1, %2 before the reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Lasts until the reset</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last day: +%1%</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Last hour: +%1%</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::PaceText</name>
+    <message>
+        <source>at this pace full at %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>at this pace full on %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Pausing</name>
     <message>
         <source>Paused</source>
@@ -2248,6 +2294,21 @@
     <name>ravelo::ReceivedModel</name>
     <message>
         <source>just now</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::SecondPlan</name>
+    <message>
+        <source>No such folder</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>That is the first account</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>No login there</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2593,6 +2654,25 @@
     </message>
 </context>
 <context>
+    <name>ravelo::StatusText</name>
+    <message>
+        <source>Last activity %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>5h session</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>%1: 5h %2 · week %3</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Store</name>
     <message>
         <source>too large to keep in memory</source>
@@ -2780,6 +2860,13 @@
     </message>
     <message>
         <source>Nothing was overwritten.</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::Wording</name>
+    <message>
+        <source>en</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2207,6 +2207,52 @@
     </message>
 </context>
 <context>
+    <name>ravelo::PaceNotes</name>
+    <message>
+        <source>%1 min.</source>
+        <translation>%1 min</translation>
+    </message>
+    <message>
+        <source>%1 days</source>
+        <translation>%1 dias</translation>
+    </message>
+    <message>
+        <source>%1 h</source>
+        <translation>%1 h</translation>
+    </message>
+    <message>
+        <source>%1 h %2 min.</source>
+        <translation>%1 h %2 min</translation>
+    </message>
+    <message>
+        <source>%1, %2 before the reset</source>
+        <translation>%1, %2 antes de resetar</translation>
+    </message>
+    <message>
+        <source>Lasts until the reset</source>
+        <translation>Dura até resetar</translation>
+    </message>
+    <message>
+        <source>Last day: +%1%</source>
+        <translation>Último dia: +%1%</translation>
+    </message>
+    <message>
+        <source>Last hour: +%1%</source>
+        <translation>Última hora: +%1%</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::PaceText</name>
+    <message>
+        <source>at this pace full at %1</source>
+        <translation>nesse ritmo, cheio às %1</translation>
+    </message>
+    <message>
+        <source>at this pace full on %1</source>
+        <translation>nesse ritmo, cheio %1</translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Pausing</name>
     <message>
         <source>Paused</source>
@@ -2249,6 +2295,21 @@
     <message>
         <source>just now</source>
         <translation>agora mesmo</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::SecondPlan</name>
+    <message>
+        <source>No such folder</source>
+        <translation>Essa pasta não existe</translation>
+    </message>
+    <message>
+        <source>That is the first account</source>
+        <translation>Essa é a primeira conta</translation>
+    </message>
+    <message>
+        <source>No login there</source>
+        <translation>Não há login nessa pasta</translation>
     </message>
 </context>
 <context>
@@ -2593,6 +2654,25 @@
     </message>
 </context>
 <context>
+    <name>ravelo::StatusText</name>
+    <message>
+        <source>Last activity %1</source>
+        <translation>Última atividade: %1</translation>
+    </message>
+    <message>
+        <source>5h session</source>
+        <translation>Sessão de 5h</translation>
+    </message>
+    <message>
+        <source>Week</source>
+        <translation>Semana</translation>
+    </message>
+    <message>
+        <source>%1: 5h %2 · week %3</source>
+        <translation>%1: 5h %2 · semana %3</translation>
+    </message>
+</context>
+<context>
     <name>ravelo::Store</name>
     <message>
         <source>too large to keep in memory</source>
@@ -2781,6 +2861,13 @@
     <message>
         <source>Nothing was overwritten.</source>
         <translation>Nada foi sobrescrito.</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::Wording</name>
+    <message>
+        <source>en</source>
+        <translation>pt_BR</translation>
     </message>
 </context>
 </TS>

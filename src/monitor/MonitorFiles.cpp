@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 
+#include <QDir>
 #include <QFile>
 #include <QFileInfo>
 
@@ -14,7 +15,20 @@ QByteArray monitorFile(const QByteArray& home, const QByteArray& name) {
 }
 
 QByteArray monitorCache(const QByteArray& home, const QByteArray& name) {
-    return home + "/.cache/ravelo/" + name;
+    const QByteArray chosen = qgetenv("XDG_CACHE_HOME");
+    return (chosen.startsWith('/') ? chosen : home + "/.cache") + "/ravelo/" + name;
+}
+
+Result<void> eraseMonitorCache(const QByteArray& home) {
+    Result<void> done;
+    for (const char* name : {"session.json", "pace.json"}) {
+        QFile file(QFile::decodeName(monitorCache(home, name)));
+        if (file.exists() && !file.remove()) {
+            done = failure(u"cannot remove %1: %2"_s.arg(file.fileName(), file.errorString()));
+        }
+    }
+    QDir().rmdir(QFileInfo(QFile::decodeName(monitorCache(home, {}))).path());
+    return done;
 }
 
 std::optional<QByteArray> readMonitorFile(const QByteArray& path) {

@@ -13,8 +13,11 @@ namespace ravelo {
 /// In "~/.ravelo", which is watched: other programs write there.
 [[nodiscard]] QByteArray monitorFile(const QByteArray& home, const QByteArray& name);
 
-/// In "~/.cache/ravelo", for what we write ourselves.
+/// In "ravelo" below XDG_CACHE_HOME, else "~/.cache", for what we write ourselves.
 [[nodiscard]] QByteArray monitorCache(const QByteArray& home, const QByteArray& name);
+
+/// Removes what is in the cache, and its folder if nothing else is there.
+[[nodiscard]] Result<void> eraseMonitorCache(const QByteArray& home);
 
 /// Nothing if it is missing or larger than such a file can be.
 [[nodiscard]] std::optional<QByteArray> readMonitorFile(const QByteArray& path);

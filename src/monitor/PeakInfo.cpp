@@ -11,11 +11,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-/// Translation context of this file.
-struct PeakText {
-    Q_DECLARE_TR_FUNCTIONS(ravelo::PeakText)
-};
-
+constexpr const char* peakContext = "ravelo::PeakText";
 constexpr int firstHour = 8;
 constexpr int endHour = 14;
 constexpr int maxSearch = 8; ///< Days; no weekend is that long.
@@ -50,12 +46,18 @@ PeakInfo PeakInfo::at(Date now) {
     return {false, now}; // Only if the system lacks the time zone.
 }
 
-QString PeakInfo::label(Date now, const QLocale& locale, const QTimeZone& zone) const {
+QString PeakInfo::label(Date now, const QLocale& locale, const QTimeZone& zone,
+                        Wording wording) const {
     if (isPeak) {
         const QTime end = toDateTime(transition).toTimeZone(zone).time();
-        return PeakText::tr("PEAK · ends %1").arg(locale.toString(end, PeakText::tr("h:mm Ap")));
+        const QString format =
+            worded(wording, peakContext, QT_TRANSLATE_NOOP("ravelo::PeakText", "h:mm Ap"));
+        return worded(wording, peakContext,
+                      QT_TRANSLATE_NOOP("ravelo::PeakText", "PEAK · ends %1"))
+            .arg(locale.toString(end, format));
     }
-    return PeakText::tr("OFF-PEAK · peak in %1")
+    return worded(wording, peakContext,
+                  QT_TRANSLATE_NOOP("ravelo::PeakText", "OFF-PEAK · peak in %1"))
         .arg(dur(transition.sinceReference - now.sinceReference));
 }
 

@@ -2,6 +2,7 @@
 
 #include "base/Date.h"
 #include "base/Scheduler.h"
+#include "monitor/Wording.h"
 
 #include <QLocale>
 #include <QString>
@@ -18,7 +19,8 @@ struct PeakInfo {
 
     /// One line, with the time of day in `zone`.
     [[nodiscard]] QString label(Date now, const QLocale& locale,
-                                const QTimeZone& zone = QTimeZone::systemTimeZone()) const;
+                                const QTimeZone& zone = QTimeZone::systemTimeZone(),
+                                Wording wording = Wording::english) const;
 
     /// Time until `label` changes; the maximum if never.
     [[nodiscard]] Seconds untilLabelChanges(Date now) const;

@@ -1,5 +1,6 @@
 #include "monitor/PlanPace.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -156,7 +157,9 @@ std::optional<Date> comingFullAt(const std::optional<Pace>& pace, Date now) {
     return pace && pace->fullAt > now ? pace->fullAt : std::nullopt;
 }
 
-QString fullText(const std::optional<Pace>& pace, Date now, const QTimeZone& zone) {
+QString fullText(const std::optional<Pace>& pace, Date now, const QTimeZone& zone,
+                 Wording wording) {
+    constexpr const char* context = "ravelo::PaceText";
     constexpr double soon = 20 * hour;
     constexpr double step = 300;
     const std::optional<Date> fullAt = comingFullAt(pace, now);
@@ -166,8 +169,12 @@ QString fullText(const std::optional<Pace>& pace, Date now, const QTimeZone& zon
     const Date rounded{std::round(fullAt->sinceReference / step) * step};
     const QDateTime time = toDateTime(rounded).toTimeZone(zone);
     return between(now, rounded) < soon
-               ? u"at this pace full at "_s + time.toString(u"HH:mm"_s)
-               : u"at this pace full on "_s + QLocale::c().toString(time, u"ddd"_s);
+               ? worded(wording, context,
+                        QT_TRANSLATE_NOOP("ravelo::PaceText", "at this pace full at %1"))
+                     .arg(time.toString(u"HH:mm"_s))
+               : worded(wording, context,
+                        QT_TRANSLATE_NOOP("ravelo::PaceText", "at this pace full on %1"))
+                     .arg(localeOf(wording).toString(time, u"ddd"_s));
 }
 
 } // namespace ravelo

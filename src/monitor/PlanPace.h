@@ -3,6 +3,7 @@
 #include "base/Date.h"
 #include "base/Scheduler.h"
 #include "monitor/UsageWindow.h"
+#include "monitor/Wording.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -94,6 +95,7 @@ struct PlanCourse {
 /// "at this pace full at 11:50", rounded to five minutes, or "at this pace full on Thu"; empty
 /// unless it will be.
 [[nodiscard]] QString fullText(const std::optional<Pace>& pace, Date now,
-                               const QTimeZone& zone = QTimeZone::systemTimeZone());
+                               const QTimeZone& zone = QTimeZone::systemTimeZone(),
+                               Wording wording = Wording::english);
 
 } // namespace ravelo

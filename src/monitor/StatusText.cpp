@@ -7,6 +7,7 @@
 #include "monitor/UsageFile.h"
 #include "platform/FolderChanges.h"
 
+#include <QCoreApplication>
 #include <QJsonDocument>
 #include <QJsonObject>
 
@@ -19,6 +20,8 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+constexpr const char* statusContext = "ravelo::StatusText";
 
 QJsonValue json(const std::optional<Date>& date) {
     constexpr double maxSeconds = 2.5e11; // Seconds; keeps the year at four digits.
@@ -66,10 +69,10 @@ void insertHandedOver(QJsonObject& object, const std::optional<HandedOver>& hand
 }
 
 /// Today's time of day, else with its date.
-QString timeText(Date date, Date now, const QTimeZone& zone) {
+QString timeText(Date date, Date now, const QTimeZone& zone, Wording wording) {
     const QDateTime time = toDateTime(date).toTimeZone(zone);
     const bool isToday = time.date() == toDateTime(now).toTimeZone(zone).date();
-    return QLocale::c().toString(time, isToday ? u"HH:mm"_s : u"d MMM, HH:mm"_s);
+    return localeOf(wording).toString(time, isToday ? u"HH:mm"_s : u"d MMM, HH:mm"_s);
 }
 
 } // namespace
@@ -131,7 +134,7 @@ QString contextLine(const MonitorStatus& status, Date now, const QLocale& locale
                      LiveContext::shortCount(context.limit);
     }
     if (choice.peakHours) {
-        parts << status.peak.label(now, locale, zone);
+        parts << status.peak.label(now, locale, zone, choice.wording);
     }
     return parts.join(u" · "_s);
 }
@@ -141,26 +144,31 @@ QStringList contextDetails(const MonitorStatus& status, Date now, const QTimeZon
     QStringList lines;
     const SessionContext context = chosenContext(status, choice);
     if (context.used >= 1 && context.at) {
-        const QString time = timeText(*context.at, now, zone);
-        lines << (context.project.isEmpty() ? u"Last activity "_s + time
-                                            : context.project + u" · "_s + time);
+        const QString time = timeText(*context.at, now, zone, choice.wording);
+        lines << (context.project.isEmpty()
+                      ? worded(choice.wording, statusContext,
+                               QT_TRANSLATE_NOOP("ravelo::StatusText", "Last activity %1"))
+                            .arg(time)
+                      : context.project + u" · "_s + time);
     }
-    const std::pair<QString, std::optional<Pace>> windows[] = {
-        {u"5h session"_s, status.pace.session}, {u"Week"_s, status.pace.week}};
+    const std::pair<const char*, std::optional<Pace>> windows[] = {
+        {QT_TRANSLATE_NOOP("ravelo::StatusText", "5h session"), status.pace.session},
+        {QT_TRANSLATE_NOOP("ravelo::StatusText", "Week"), status.pace.week}};
     for (const auto& [name, pace] : windows) {
-        if (const QString text = fullText(pace, now, zone); !text.isEmpty()) {
-            lines << name + u": "_s + text;
+        if (const QString text = fullText(pace, now, zone, choice.wording); !text.isEmpty()) {
+            lines << worded(choice.wording, statusContext, name) + u": "_s + text;
         }
     }
     if (status.second) {
-        lines << otherPlanLine(*status.second);
+        lines << otherPlanLine(*status.second, choice.wording);
     }
     return lines;
 }
 
-QString otherPlanLine(const OtherPlan& plan) {
-    return plan.name + u": 5h "_s + percentText(plan.windows.session) + u" · week "_s +
-           percentText(plan.windows.week);
+QString otherPlanLine(const OtherPlan& plan, Wording wording) {
+    return worded(wording, statusContext,
+                  QT_TRANSLATE_NOOP("ravelo::StatusText", "%1: 5h %2 · week %3"))
+        .arg(plan.name, percentText(plan.windows.session), percentText(plan.windows.week));
 }
 
 QString statusLine(const MonitorStatus& status, Date now, const QLocale& locale,

@@ -22,6 +22,7 @@ class PlanUsage;
 struct StatusChoice {
     bool peakHours = true;
     bool handedOverFirst = false; ///< What Claude Code handed over counts before its transcripts.
+    Wording wording = Wording::english;
 };
 
 /// The plan of a second account.
@@ -33,7 +34,7 @@ struct OtherPlan {
 };
 
 /// "work: 5h 42% · week 78%"
-[[nodiscard]] QString otherPlanLine(const OtherPlan& plan);
+[[nodiscard]] QString otherPlanLine(const OtherPlan& plan, Wording wording = Wording::english);
 
 /// A snapshot of the monitors.
 struct MonitorStatus {

@@ -25,6 +25,8 @@ DesktopNotices::DesktopNotices(Services services) : services_(std::move(services
     connect(&services_.plan, &PlanUsage::changed, this, &DesktopNotices::followPlan);
     connect(&services_.settings, &AppSettings::notifyPlanChanged, this, &DesktopNotices::beginPlan);
     connect(&services_.notices, &Notices::changed, this, &DesktopNotices::followNotices);
+    connect(&services_.settings, &AppSettings::notifySavingChanged, this,
+            &DesktopNotices::followNotices);
     followPlan();
 }
 
@@ -66,13 +68,19 @@ void DesktopNotices::filesReceived(const QList<QUrl>& files, Arrivals arrivals) 
     }
 }
 
+void DesktopNotices::screenUnlocked() {
+    followNotices();
+    followPlan();
+}
+
 void DesktopNotices::followNotices() {
-    const bool fails = services_.notices.kind() == Notices::SavingFails;
-    if (std::exchange(savingFailed_, fails) == fails || !fails ||
-        !mayShow(services_.settings.notifySaving())) {
-        return;
+    if (services_.notices.kind() != Notices::SavingFails) {
+        failureShown_ = false;
+    } else if (!failureShown_ && mayShow(services_.settings.notifySaving())) {
+        failureShown_ = true;
+        services_.notifier.show(
+            {u"saving"_s, tr("Saving fails"), tr("The panel has the reason."), {}});
     }
-    services_.notifier.show({u"saving"_s, tr("Saving fails"), tr("The panel has the reason."), {}});
 }
 
 /// Forgets what the user was notified of before it was turned off.

@@ -48,10 +48,11 @@ public:
     /// The files received so far. One notification when no more come for now.
     void filesReceived(const QList<QUrl>& files, Arrivals arrivals);
 
-    /// Call this when the screen is unlocked, too: what is still true is shown then.
-    void followPlan();
+    /// Shows what is still true.
+    void screenUnlocked();
 
 private:
+    void followPlan();
     void followNotices();
     void beginPlan();
     /// When to look again, if the user waits for a reset.
@@ -63,7 +64,7 @@ private:
 
     Services services_;
     QSet<QUrl> received_; ///< What was there before.
-    bool savingFailed_ = false;
+    bool failureShown_ = false; ///< That saving fails.
     Handle nextReset_;
 };
 

@@ -127,7 +127,6 @@ public:
     Q_INVOKABLE void copyImage(const QString& path);
 
     /// For whatever else is copied.
-    [[nodiscard]] ClipboardManager& clipboard() { return clipboard_; }
 
     /// The user clicked into a text field: the window takes the keyboard.
     Q_INVOKABLE void typeFocus();

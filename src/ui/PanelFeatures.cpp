@@ -11,7 +11,7 @@ PanelFeatures::PanelFeatures(const Services& services, const QLocale& locale,
       vault(services.encryption, engine),
       toast(services.scheduler),
       deleting(services.store, toast, locale),
-      snippets({services.store, services.controller, toast, deleting}, locale),
+      snippets({services.store, services.controller, services.clipboard, toast, deleting}, locale),
       focus(services.store, services.preferences, services.scheduler),
       usage({services.usage, services.controller, services.settings, services.scheduler}, locale),
       actions(services.nightShift, services.shutDown),
@@ -19,16 +19,17 @@ PanelFeatures::PanelFeatures(const Services& services, const QLocale& locale,
       tabs(services.settings),
       state(services.controller, services.settings, services.scheduler) {
     // From left to right.
-    clips = &tabs.add<Clips>(Clips::Services{services.store, services.controller, services.opener,
-                                             services.jobs, services.scheduler, toast, deleting,
-                                             snippets, services.decoder, services.settings,
-                                             services.pasting},
+    clips = &tabs.add<Clips>(Clips::Services{services.store, services.controller,
+                                             services.clipboard, services.opener, services.jobs,
+                                             services.scheduler, toast, deleting, snippets,
+                                             services.decoder, services.settings, services.pasting},
                              locale);
-    tabs.add<Notes>(Sketch::Services{services.store, services.controller, toast});
+    tabs.add<Notes>(
+        Sketch::Services{services.store, services.controller, services.clipboard, toast});
     shelf = &tabs.add<ShelfFiles>(
-        ShelfFiles::Services{services.store, services.controller, services.opener,
-                             services.scheduler, services.jobs, services.received, services.nearby,
-                             toast, services.icons, services.decoder},
+        ShelfFiles::Services{services.store, services.controller, services.clipboard,
+                             services.opener, services.scheduler, services.jobs, services.received,
+                             services.nearby, toast, services.icons, services.decoder},
         locale);
     followTyping(services.controller, window);
     followState();

@@ -17,6 +17,7 @@
 namespace ravelo {
 
 class CapturePause;
+class ClipboardManager;
 class Notices;
 class Pasting;
 class Pasteboard;
@@ -31,6 +32,7 @@ public:
         AppSettings& settings;
         CapturePause& pause;
         NotchController& controller;
+        ClipboardManager& clipboard;
         Notices& notices;
         Pasteboard& pasteboard;
         Scheduler& scheduler;

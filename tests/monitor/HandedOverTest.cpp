@@ -2,6 +2,8 @@
 #include "monitor/BarText.h"
 
 #include "base/Files.h"
+#include "monitor/MonitorFiles.h"
+#include "monitor/PaceFile.h"
 #include "monitor/TranscriptParser.h"
 
 #include <gtest/gtest.h>
@@ -40,6 +42,24 @@ TEST(HandedOver, isKeptWithoutPaths) {
     EXPECT_EQ(QFileInfo(file).permissions() & 0x77, 0) << "others can read it";
     EXPECT_EQ(handedOverText(*read, {UsageWindow{41.5, {}}, {}}).toStdString(),
               "5h 42% · week — · Opus 4.6 · 16k / 200k · $0.12\n");
+}
+
+TEST(HandedOver, isErasedWithTheRestOfTheCache) {
+    const QTemporaryDir folder;
+    const QByteArray home = QFile::encodeName(folder.path());
+    const auto expectErased = [&](const QString& cache) {
+        ASSERT_TRUE(storeHandedOver(home, {}));
+        ASSERT_TRUE(storeCourse(home, {}));
+        ASSERT_TRUE(QFile::exists(folder.filePath(cache + u"/ravelo/pace.json"_s)));
+        EXPECT_TRUE(eraseMonitorCache(home));
+        EXPECT_TRUE(QFileInfo(folder.filePath(cache)).isDir());
+        EXPECT_FALSE(QFile::exists(folder.filePath(cache + u"/ravelo"_s)));
+        EXPECT_TRUE(eraseMonitorCache(home)) << "nothing is there";
+    };
+    expectErased(u".cache"_s);
+    qputenv("XDG_CACHE_HOME", home + "/chosen");
+    expectErased(u"chosen"_s);
+    qunsetenv("XDG_CACHE_HOME");
 }
 
 TEST(HandedOver, mayBeIncomplete) {

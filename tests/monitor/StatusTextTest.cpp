@@ -2,6 +2,9 @@
 
 #include "monitor/BarText.h"
 
+#include <QCoreApplication>
+#include <QTranslator>
+
 #include <gtest/gtest.h>
 
 namespace ravelo {
@@ -118,6 +121,42 @@ TEST(Status, followsTheUsersChoice) {
     EXPECT_EQ(contextDetails(two, offPeak, zone), QStringList{u"work: 5h 5% · week —"_s});
     EXPECT_TRUE(statusJson(two, offPeak, english, zone)
                     .contains(R"("second":{"name":"work","planAge":0,"session":{"fullAt":null,)"));
+}
+
+class Marking : public QTranslator {
+public:
+    [[nodiscard]] bool isEmpty() const override { return false; }
+
+    [[nodiscard]] QString translate(const char* /*context*/, const char* source,
+                                    const char* /*note*/, int /*count*/) const override {
+        return source == QByteArrayView("en") ? u"de"_s : u'*' + QString::fromUtf8(source);
+    }
+};
+
+TEST(Status, isTranslatedForTheInterfaceOnly) {
+    const QLocale english(QLocale::English, QLocale::UnitedStates);
+    const QTimeZone zone = QTimeZone::utc();
+    MonitorStatus status = session(offPeak);
+    status.project.clear();
+    status.lastActivity = utc("2025-12-31T09:30:00Z");
+    status.pace.week->fullAt = utc("2026-01-08T10:00:00Z");
+    const auto printed = [&] {
+        return statusJson(status, offPeak, english, zone) +
+               waybarText(status, offPeak, english, {}, zone) +
+               statusJson(session(inPeak), inPeak, english, zone);
+    };
+    const QByteArray before = printed();
+    Marking marking;
+    QCoreApplication::installTranslator(&marking);
+    EXPECT_EQ(printed(), before) << "scripts read it";
+    const StatusChoice shown{true, false, Wording::translated};
+    EXPECT_EQ(contextLine(status, offPeak, english, zone, shown),
+              u"Opus 4.6 · 42k / 1.0M · *OFF-PEAK · peak in 3h 0m"_s);
+    EXPECT_EQ(contextDetails(status, offPeak, zone, shown),
+              QStringList({u"*Last activity 31 Dez., 09:30"_s,
+                           u"*5h session: *at this pace full at 11:55"_s,
+                           u"*Week: *at this pace full on Do."_s}));
+    QCoreApplication::removeTranslator(&marking);
 }
 
 TEST(Status, isPrintedForBars) {

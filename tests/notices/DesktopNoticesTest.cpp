@@ -88,7 +88,7 @@ TEST_F(DesktopNoticesTest, areShownOnlyWhereWantedAndUnlocked) {
     everythingHappens();
     EXPECT_EQ(notifier_.titles(), QStringList()) << "the screen is locked";
     locked_ = false;
-    desktop_->followPlan();
+    desktop_->screenUnlocked();
     EXPECT_EQ(notifier_.titles(), QStringList{u"5h session: 99% used"_s}) << "still true";
     everythingHappens();
     for (const Notification& shown : notifier_.shown) {
@@ -98,6 +98,26 @@ TEST_F(DesktopNoticesTest, areShownOnlyWhereWantedAndUnlocked) {
               QStringList({u"The timer has ended"_s, u"A file has arrived"_s, u"Saving fails"_s}));
     everythingHappens();
     EXPECT_EQ(notifier_.titles().value(2), u"Saving fails"_s) << "it worked in between";
+}
+
+TEST_F(DesktopNoticesTest, showAFailureLaterIfItMayNotBeShownAtOnce) {
+    const QStringList failure{u"Saving fails"_s};
+    locked_ = true;
+    notices_.saveFailed(Notices::Source::store, u"the disk is full"_s, Notices::Retry::no);
+    settings_.setNotifySaving(true);
+    EXPECT_EQ(notifier_.titles(), QStringList()) << "the screen is locked";
+    locked_ = false;
+    desktop_->screenUnlocked();
+    EXPECT_EQ(notifier_.titles(), failure) << "saving still fails";
+    desktop_->screenUnlocked();
+    EXPECT_EQ(notifier_.titles(), QStringList()) << "once";
+
+    settings_.setNotifySaving(false);
+    notices_.saved(Notices::Source::store);
+    notices_.saveFailed(Notices::Source::store, u"the disk is full"_s, Notices::Retry::no);
+    EXPECT_EQ(notifier_.titles(), QStringList()) << "turned off";
+    settings_.setNotifySaving(true);
+    EXPECT_EQ(notifier_.titles(), failure) << "turned on while saving fails";
 }
 
 TEST_F(DesktopNoticesTest, offerAnotherTimer) {

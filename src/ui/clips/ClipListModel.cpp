@@ -295,9 +295,16 @@ QList<TextRange> ClipListModel::marks(const ClipItem& clip) const {
     if (!query_.expression) {
         return (byWords_ ? words_ : phrase_).matches(shown);
     }
+    constexpr qsizetype maxMarks = 50;
+    constexpr qint64 patienceForMarks = 5; // Milliseconds; each visible row needs its own.
     QList<TextRange> ranges;
+    if (!query_.mistake.isEmpty()) {
+        return ranges;
+    }
+    QElapsedTimer spent;
+    spent.start();
     auto matches = query_.expression->globalMatch(shown);
-    while (query_.mistake.isEmpty() && matches.hasNext()) {
+    while (ranges.size() < maxMarks && spent.elapsed() < patienceForMarks && matches.hasNext()) {
         const auto match = matches.next();
         if (match.capturedLength() > 0) {
             ranges.append({match.capturedStart(), match.capturedLength()});

@@ -42,7 +42,7 @@ public:
     /// The question was answered with yes.
     Q_INVOKABLE void runAsked();
 
-    /// The question can no longer be answered.
+    /// Withdraws the question.
     void reset() { asked_ = nullptr; }
 
 Q_SIGNALS:

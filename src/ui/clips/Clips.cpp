@@ -36,6 +36,7 @@ Clips::Clips(Services services, const QLocale& locale)
 
 void Clips::begin() {
     ages_.start();
+    editor_.resume();
 }
 
 void Clips::reset() {
@@ -45,7 +46,7 @@ void Clips::reset() {
     list_.selection().clear();
     links_.reset();
     pasting_.reset();
-    editor_.discard();
+    editor_.putAside();
 }
 
 void Clips::showTooLarge(const TooLargeCopy& copy) {
@@ -68,7 +69,7 @@ void Clips::copy(int row) {
     if (clip->kind == ClipKind::image && clip->imageFileName.isEmpty()) {
         services_.controller.copy(clip->text);
     } else {
-        services_.controller.clipboard().copyClip(clip->id);
+        services_.clipboard.copyClip(clip->id);
     }
     services_.toast.flashCopied();
 }

@@ -14,6 +14,7 @@
 
 namespace ravelo {
 
+class ClipboardManager;
 class Deleting;
 class DetachedJobs;
 class NotchController;
@@ -39,6 +40,7 @@ public:
     struct Services {
         Store& store;
         NotchController& controller;
+        ClipboardManager& clipboard;
         FileOpener& opener;
         DetachedJobs& jobs;
         Scheduler& scheduler;

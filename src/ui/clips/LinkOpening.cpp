@@ -18,7 +18,7 @@ namespace {
 
 constexpr Seconds timeout(2);
 
-/// A menu must not grow later than that.
+/// Rows that come later would move under the pointer.
 constexpr Seconds lookTimeout(0.2);
 constexpr qsizetype maxPath = 4096;
 constexpr qsizetype maxName = 40;

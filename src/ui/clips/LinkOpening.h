@@ -38,7 +38,7 @@ public:
     /// The question was answered with yes.
     Q_INVOKABLE void openAsked();
 
-    /// The question can no longer be answered.
+    /// Withdraws the question.
     void reset();
 
 Q_SIGNALS:

@@ -132,12 +132,16 @@ private:
 
 } // namespace
 
+bool isFull(const QList<Stroke>& drawing) {
+    return pointCount(drawing) >= maxPoints;
+}
+
 Room roomFor(QPointF point, const QList<Stroke>& drawing) {
-    if (!isNear(point) || pointCount(drawing) >= maxPoints) {
+    if (!isNear(point) || isFull(drawing)) {
         return Room::none;
     }
-    const bool full = drawing.isEmpty() || drawing.last().points.size() >= maxStrokePoints;
-    return full ? Room::newStroke : Room::lastStroke;
+    const bool needsNew = drawing.isEmpty() || drawing.last().points.size() >= maxStrokePoints;
+    return needsNew ? Room::newStroke : Room::lastStroke;
 }
 
 std::optional<QList<Stroke>> erased(const QList<Stroke>& drawing, const QLineF& way) {

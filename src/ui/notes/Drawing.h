@@ -22,6 +22,9 @@ inline constexpr qsizetype maxPoints = 200'000; ///< Of all strokes; about 10 MB
 /// absurd (not finite, far outside) or the drawing is full.
 enum class Room { lastStroke, newStroke, none };
 
+/// Not even a new stroke has room.
+[[nodiscard]] bool isFull(const QList<Stroke>& drawing);
+
 [[nodiscard]] Room roomFor(QPointF point, const QList<Stroke>& drawing);
 
 /// The drawing after the eraser moved along `way`; nothing if that changes nothing. A stroke that

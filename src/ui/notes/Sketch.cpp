@@ -80,6 +80,11 @@ void Sketch::beginStroke(QPointF point) {
 }
 
 void Sketch::draw(QPointF point) {
+    if (drawing_ && drawing::isFull(strokes_)) {
+        release(); // Further moves do nothing, so the user sees one message.
+        services_.toast.flash(tr("The sketch is full"));
+        return;
+    }
     if (drawing_ && drawing::roomFor(point, strokes_) == drawing::Room::newStroke) {
         beginStroke(last_);
     }
@@ -138,7 +143,7 @@ void Sketch::clear() {
 
 void Sketch::copy() {
     if (const QImage picture = drawing::picture(strokes_); !picture.isNull()) {
-        services_.controller.clipboard().copyPng(drawing::png(picture));
+        services_.clipboard.copyPng(drawing::png(picture));
         services_.toast.flashCopied();
     }
 }

@@ -12,6 +12,7 @@
 
 namespace ravelo {
 
+class ClipboardManager;
 class NotchController;
 class Store;
 class Toast;
@@ -35,6 +36,7 @@ public:
     struct Services {
         Store& store;
         NotchController& controller;
+        ClipboardManager& clipboard;
         Toast& toast;
     };
 

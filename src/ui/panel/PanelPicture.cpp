@@ -5,6 +5,7 @@
 #include "platform/PanelWindow.h"
 #include "ui/lists/RowAges.h"
 #include "ui/panel/PanelState.h"
+#include "ui/usage/Usage.h"
 
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -45,6 +46,7 @@ void PanelPicture::make() {
         return;
     }
     services_.rows.refreshDates();
+    services_.usage.refresh();
     const Seconds lifetime = services_.rows.untilDatesChange();
     if (lifetime != Seconds::max()) {
         waiting_ = services_.scheduler.after(std::max(lifetime, minLifetime), [this] { make(); });

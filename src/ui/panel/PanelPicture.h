@@ -15,6 +15,7 @@ class NotchController;
 class PanelState;
 class PanelWindow;
 class Scheduler;
+class Usage;
 
 /// Keeps a picture of the closed panel's content with the panel's window, so that opening shows
 /// something before anything is rendered; not if the display server cannot show it. Main thread.
@@ -29,6 +30,7 @@ public:
         const NotchController& controller;
         PanelState& state;
         AgingRows& rows; ///< The list that the panel usually opens with.
+        Usage& usage;    ///< Updates itself only while the panel is open.
         Scheduler& scheduler;
     };
 

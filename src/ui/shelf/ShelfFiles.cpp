@@ -15,6 +15,7 @@ ShelfFiles::ShelfFiles(const Services& services, const QLocale& locale)
            Look::Page::dropped}),
       store_(services.store),
       controller_(services.controller),
+      clipboard_(services.clipboard),
       opener_(services.opener),
       toast_(services.toast),
       parked_(services.store, services.jobs, services.scheduler),
@@ -55,7 +56,7 @@ void ShelfFiles::showInFolder(const QUrl& file) {
 
 void ShelfFiles::copyLast() {
     if (parked_.count() > 0) {
-        controller_.clipboard().copyFile(parked_.fileAt(parked_.count() - 1));
+        clipboard_.copyFile(parked_.fileAt(parked_.count() - 1));
         toast_.flashCopied();
     }
 }

@@ -9,6 +9,7 @@
 
 namespace ravelo {
 
+class ClipboardManager;
 class FileOpener;
 class NotchController;
 class Toast;
@@ -28,6 +29,7 @@ public:
     struct Services {
         Store& store;
         NotchController& controller;
+        ClipboardManager& clipboard;
         FileOpener& opener;
         Scheduler& scheduler;
         DetachedJobs& jobs;
@@ -61,6 +63,7 @@ public:
 private:
     Store& store_;
     NotchController& controller_;
+    ClipboardManager& clipboard_;
     FileOpener& opener_;
     Toast& toast_;
     ShelfContents parked_;

@@ -24,8 +24,8 @@ void Snippets::copy(const QUuid& id) {
         if (found->imageFileName.isEmpty()) {
             services_.controller.copy(found->body);
         } else {
-            services_.controller.clipboard().copyWithImage(
-                found->body, services_.store.imagePath(found->imageFileName));
+            services_.clipboard.copyWithImage(found->body,
+                                              services_.store.imagePath(found->imageFileName));
         }
         services_.toast.flashCopied();
     }

@@ -5,6 +5,7 @@
 
 namespace ravelo {
 
+class ClipboardManager;
 class Deleting;
 class NotchController;
 class Toast;
@@ -22,6 +23,7 @@ public:
     struct Services {
         Store& store;
         NotchController& controller;
+        ClipboardManager& clipboard;
         Toast& toast;
         Deleting& deleting;
     };

@@ -1,5 +1,7 @@
 #include "ui/usage/UsageLine.h"
 
+#include <QCoreApplication>
+
 #include <algorithm>
 #include <cmath>
 
@@ -8,6 +10,16 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+/// Translation context of this file.
+struct PaceNotes {
+    Q_DECLARE_TR_FUNCTIONS(ravelo::PaceNotes)
+};
+
+/// As the interface shows it.
+QString paceText(const PacedWindow& paced, Date now) {
+    return fullText(paced.pace, now, QTimeZone::systemTimeZone(), Wording::translated);
+}
 
 UsageBand::Kind band(double percent) {
     if (percent < highUsage) {
@@ -30,14 +42,14 @@ double passed(const PacedWindow& paced, Date now) {
 QString span(double seconds) {
     const auto minutes = static_cast<int>(std::round(seconds / 60));
     if (minutes < 60) {
-        return u"%1 min."_s.arg(minutes);
+        return PaceNotes::tr("%1 min.").arg(minutes);
     }
     const int hours = minutes / 60;
     if (hours >= 48) {
-        return u"%1 days"_s.arg(hours / 24);
+        return PaceNotes::tr("%1 days").arg(hours / 24);
     }
-    return hours >= 10 || minutes % 60 == 0 ? u"%1 h"_s.arg(hours)
-                                            : u"%1 h %2 min."_s.arg(hours).arg(minutes % 60);
+    return hours >= 10 || minutes % 60 == 0 ? PaceNotes::tr("%1 h").arg(hours)
+                                            : PaceNotes::tr("%1 h %2 min.").arg(hours).arg(minutes % 60);
 }
 
 QString capitalised(const QString& text) {
@@ -56,7 +68,7 @@ UsageLine usageLine(const PacedWindow& paced, Date now) {
             band(percent),
             resetHasPassed(window, now),
             timeLeftText(window, now),
-            fullText(paced.pace, now),
+            paceText(paced, now),
             passed(paced, now)};
 }
 
@@ -68,15 +80,15 @@ QStringList paceNotes(const PacedWindow& paced, Date now) {
     const std::optional<Date> resets = paced.window->resets;
     const std::optional<Date> fullAt = comingFullAt(paced.pace, now);
     if (fullAt) {
-        notes << capitalised(fullText(paced.pace, now)) +
-                     (resets ? u", "_s + span(resets->sinceReference - fullAt->sinceReference) +
-                                   u" before the reset"_s
-                             : QString());
+        const QString full = capitalised(paceText(paced, now));
+        notes << (resets ? PaceNotes::tr("%1, %2 before the reset")
+                               .arg(full, span(resets->sinceReference - fullAt->sinceReference))
+                         : full);
     } else if (resets && !paced.pace->fullAt && paced.window->pct < 100) {
-        notes << u"Lasts until the reset"_s;
+        notes << PaceNotes::tr("Lasts until the reset");
     }
     const bool isDay = paced.kind.recent > Seconds(3600);
-    notes << (isDay ? u"Last day: +%1%"_s : u"Last hour: +%1%"_s)
+    notes << (isDay ? PaceNotes::tr("Last day: +%1%") : PaceNotes::tr("Last hour: +%1%"))
                  .arg(std::lround(paced.pace->recent));
     return notes;
 }

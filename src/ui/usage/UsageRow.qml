@@ -45,7 +45,7 @@ Item {
         color: Theme.text1
     }
 
-    // Only what needs an eye.
+    // Shown only if the plan may not last.
     Label {
         objectName: "pace"
         visible: !row.compact && text !== ""

@@ -92,8 +92,14 @@ Column {
                     placeholder: qsTr("Its CLAUDE_CONFIG_DIR…")
                     text: page.settings.secondAccount
                     Accessible.name: qsTr("Folder of the second account")
-                    onEditingFinished: page.settings.secondAccount = text.trim()
+                    onEditingFinished: page.host.chooseSecondAccount(text.trim())
                 }
+            }
+
+            Answer {
+                objectName: "accountProblem"
+                text: page.host.accountProblem
+                symbol: "exclamationmark.circle.fill"
             }
         }
     }

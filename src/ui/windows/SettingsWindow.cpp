@@ -55,6 +55,21 @@ int SettingsWindow::snippetCount() const {
     return static_cast<int>(subjects_.store.snippets().size());
 }
 
+void SettingsWindow::chooseSecondAccount(const QString& folder) {
+    const auto finish = [this, folder](const QString& problem) {
+        accountProblem_ = problem;
+        if (problem.isEmpty()) {
+            subjects_.settings.setSecondAccount(folder);
+        }
+        Q_EMIT accountProblemChanged();
+    };
+    if (subjects_.checkAccount) {
+        subjects_.checkAccount(folder, finish);
+    } else {
+        finish({});
+    }
+}
+
 void SettingsWindow::setSnippetNews(const QString& news, bool failed) {
     snippetNews_ = news;
     snippetsFailed_ = failed;

@@ -45,6 +45,9 @@ class SettingsWindow : public QObject {
     Q_PROPERTY(QString snippetNews READ snippetNews NOTIFY snippetNewsChanged)
     Q_PROPERTY(bool snippetsFailed READ snippetsFailed NOTIFY snippetNewsChanged)
 
+    /// Why the folder that was entered last is not used.
+    Q_PROPERTY(QString accountProblem READ accountProblem NOTIFY accountProblemChanged)
+
 public:
     /// Asks for a file and writes snippets to it, or reads them. Reports how many there were, or
     /// why none; nothing if the user chose no file.
@@ -72,6 +75,9 @@ public:
         std::function<void(const QString& text)> copy = {};
         Notifier* notifier = nullptr;
         SnippetFiles snippets = {};
+        /// Reports why a folder cannot be that of a second account; an empty text if it can.
+        std::function<void(const QString& folder, std::function<void(const QString& problem)>)>
+            checkAccount = {};
     };
 
     explicit SettingsWindow(Subjects subjects);
@@ -108,6 +114,11 @@ public:
 
     [[nodiscard]] bool snippetsFailed() const { return snippetsFailed_; }
 
+    [[nodiscard]] const QString& accountProblem() const { return accountProblem_; }
+
+    /// The former one stays if there is a problem.
+    Q_INVOKABLE void chooseSecondAccount(const QString& folder);
+
     Q_INVOKABLE void exportSnippets();
     Q_INVOKABLE void importSnippets();
 
@@ -142,6 +153,7 @@ Q_SIGNALS:
     void hasNotificationsChanged();
     void snippetsChanged();
     void snippetNewsChanged();
+    void accountProblemChanged();
 
 private:
     void lookForNotifications();
@@ -154,6 +166,7 @@ private:
     Handle looking_;
     std::unique_ptr<TitledWindow> window_;
     QString usedLanguage_;
+    QString accountProblem_;
     QString snippetNews_;
     bool snippetsFailed_ = false;
 };

@@ -45,6 +45,7 @@ TEST(ClipQuery, filtersAndThenText) {
         {u"app:"_s, {0, 1, 2, 3}, u"app:"_s, u"Nothing has “app:”"_s},
         {u"re:"_s, {0, 1, 2, 3}, {}, {}},
         {u"type:text re:o a"_s, {0, 3}, {}, u"Nothing matches"_s},
+        {u"re: oak"_s, {0, 1, 2, 3}, u"re: oak"_s, u"Nothing has “re: oak”"_s},
         {u"re:(oak"_s, {0, 1, 2, 3}, {}, u"A bracket is not closed, at character 1"_s},
         {u"after:today"_s, {0}, {}, u"Nothing from this time"_s},
         {u"before:7d type:text x"_s, {3}, u"x"_s, u"No text has “x”."_s},

@@ -40,6 +40,22 @@ protected:
     QQuickItem* canvas = nullptr;
 };
 
+TEST_F(NotesTab, AStrokeEndsWithOneMessageWhenTheSketchIsFull) {
+    Stroke most{QUuid::createUuid(), {}};
+    for (qsizetype i = 0; i < drawing::maxPoints - 3; ++i) {
+        most.points.append({static_cast<double>(i % 100), 1});
+    }
+    world.store.setDrawing({most});
+    startSketch();
+    Toast& toast = view.features().toast;
+    int messages = 0;
+    QObject::connect(&toast, &Toast::textChanged, &toast,
+                     [&] { messages += toast.text() == u"The sketch is full"_s ? 1 : 0; });
+    draw({{10, 10}, {20, 10}, {30, 10}, {40, 10}, {50, 10}, {60, 10}});
+    EXPECT_EQ(drawing().last().points.size(), 3) << "as much as has room";
+    EXPECT_EQ(messages, 1);
+}
+
 TEST_F(NotesTab, TheIconsSwitchBetweenNoteSecondNoteAndSketch) {
     EXPECT_EQ(text(u"caption"_s), u"Quick note"_s);
     clickOn(u"secondNote"_s);

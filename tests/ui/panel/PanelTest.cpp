@@ -72,7 +72,7 @@ class PanelPictures : public Panel, public testing::WithParamInterface<bool> {};
 TEST_P(PanelPictures, areMadeWhileTheWindowIsVisibleAndCanShowThem) {
     PicturedWindow window(GetParam());
     PanelPicture picture({view.window(), window, world.controller, view.features().state,
-                          *view.features().clips->list(), world.scheduler});
+                          *view.features().clips->list(), view.features().usage, world.scheduler});
     const auto pictures = [&](int expected) {
         world.scheduler.advance(Seconds(0.31));
         return eventually([&] { return window.pictures == expected; });
@@ -86,6 +86,14 @@ TEST_P(PanelPictures, areMadeWhileTheWindowIsVisibleAndCanShowThem) {
     EXPECT_EQ(view.features().state.isPictured(), GetParam());
     picture.refreshSoon();
     EXPECT_TRUE(pictures(GetParam() ? 3 : 1));
+
+    plan.write({UsageWindow{64, {}}, std::nullopt});
+    world.scheduler.advance(Seconds(5));
+    EXPECT_EQ(plan.usage.session()->pct, 64);
+    picture.refreshSoon();
+    world.scheduler.advance(Seconds(0.31));
+    EXPECT_EQ(view.features().usage.session().percent == u"64%"_s, GetParam())
+        << "a picture shows the current usage";
 }
 
 INSTANTIATE_TEST_SUITE_P(OfWindows, PanelPictures, testing::Bool());

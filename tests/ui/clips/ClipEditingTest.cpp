@@ -1,0 +1,83 @@
+#include "panel_fixture/PanelFixture.h"
+
+namespace ravelo {
+
+namespace {
+
+TEST_F(Panel, editsAClipBeforeItIsCopied) {
+    openSearch();
+    pressKeys(u"F2"_s);
+    QQuickItem* const input = item(u"clipInput"_s);
+    ASSERT_TRUE(eventually([&] { return input->hasActiveFocus(); }));
+    pressKeys(u"Return ! Ctrl+Return"_s);
+    EXPECT_EQ(pasteboardText(), u"first\n!"_s);
+    EXPECT_EQ(clips(), u"first\n! first second third"_s) << "the old clip is gone";
+    EXPECT_FALSE(world.controller.isOpen());
+
+    rebuild();
+    openSearch();
+    pressKeys(u"F2"_s);
+    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
+    pressKeys(u"Escape"_s);
+    EXPECT_TRUE(eventually([this] { return !shown(u"clipSheet"_s); })) << "unchanged: not asked";
+    pressKeys(u"F2"_s);
+    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
+    pressKeys(u"x Escape"_s);
+    EXPECT_TRUE(item(u"discardQuestion"_s)->isVisible());
+    pressKeys(u"Tab Return"_s);
+    EXPECT_TRUE(eventually([this] { return !shown(u"clipSheet"_s); }));
+    EXPECT_TRUE(world.controller.isOpen());
+    EXPECT_EQ(pasteboardText(), u"first\n!"_s);
+}
+
+TEST_F(Panel, keepsAnEditedClipUntilItOpensAgain) {
+    openSearch();
+    pressKeys(u"F2"_s);
+    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
+    rebuild();
+    openByKey();
+    EXPECT_EQ(shown(u"clipSheet"_s), nullptr) << "nothing was changed";
+    close();
+
+    openSearch();
+    pressKeys(u"F2"_s);
+    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
+    pressKeys(u"x"_s);
+    rebuild();
+    EXPECT_FALSE(view.features().clips->editor()->isEditing()) << "closed";
+    openByKey();
+    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
+    EXPECT_EQ(text(u"clipInput"_s), u"firstx"_s);
+    pressKeys(u"Escape"_s);
+    EXPECT_TRUE(item(u"discardQuestion"_s)->isVisible());
+    pressKeys(u"Tab Return"_s);
+    EXPECT_TRUE(eventually([this] { return !shown(u"clipSheet"_s); }));
+    rebuild();
+    openByKey();
+    EXPECT_EQ(shown(u"clipSheet"_s), nullptr) << "discarded";
+}
+
+TEST_F(Panel, copiesAsPlainText) {
+    const QUuid first = world.store.clips()[0].id;
+    world.store.setForms(first, {{}, {{u"text/html"_s, "<b>first</b>"}}});
+    world.worker.drain();
+    for (const auto& [keys, html] : {std::pair(u"Return"_s, QByteArray("<b>first</b>")),
+                                     std::pair(u"Alt+Return"_s, QByteArray())}) {
+        rebuild();
+        openSearch();
+        pressKeys(keys);
+        world.scheduler.advance(Seconds(0));
+        EXPECT_EQ(world.pasteboard.bytes("text/html"_L1), html) << qPrintable(keys);
+        EXPECT_EQ(pasteboardText(), u"first"_s);
+        EXPECT_FALSE(world.controller.isOpen());
+    }
+    rebuild();
+    openSearch();
+    pressKeys(u"Menu"_s);
+    EXPECT_EQ(property(u"rowMenu"_s, u"item2"_s, "modelData").toMap()[u"text"_s],
+              u"Copy as plain text"_s);
+}
+
+} // namespace
+
+} // namespace ravelo
