@@ -110,7 +110,7 @@ void Clips::edit(int row) {
 }
 
 void Clips::copyEdited(const QString& text) {
-    services_.controller.clipboard().copyNewText(text);
+    services_.clipboard.copyNewText(text);
     services_.toast.flashCopied();
     close();
 }
