@@ -98,16 +98,6 @@ TEST_F(PasteKeysTest, NothingIsTypedUnlessAllIsTrue) {
     EXPECT_TRUE(run(u"xdotool"_s, {u"keyup"_s, u"Shift_L"_s}));
     EXPECT_TRUE(keys.readiness(target).modifiersUp);
 
-    EXPECT_TRUE(run(u"xmodmap"_s, {u"-e"_s, u"keycode 94 = ISO_Level3_Lock"_s, u"-e"_s,
-                                   u"add mod5 = ISO_Level3_Lock"_s}));
-    const auto toggleLock = [] {
-        EXPECT_TRUE(run(u"xdotool"_s, {u"key"_s, u"94"_s}));
-    };
-    toggleLock();
-    EXPECT_FALSE(keys.readiness(target).modifiersUp) << "locked, though no key is down";
-    toggleLock();
-    EXPECT_TRUE(keys.readiness(target).modifiersUp);
-
     xcb_grab_keyboard(server.get(), 0, server.root(), XCB_CURRENT_TIME, XCB_GRAB_MODE_ASYNC,
                       XCB_GRAB_MODE_ASYNC);
     static_cast<void>(server.focus()); // At the answer it is done.
