@@ -52,8 +52,7 @@ QString PeakInfo::label(Date now, const QLocale& locale, const QTimeZone& zone,
         const QTime end = toDateTime(transition).toTimeZone(zone).time();
         const QString format =
             worded(wording, peakContext, QT_TRANSLATE_NOOP("ravelo::PeakText", "h:mm Ap"));
-        return worded(wording, peakContext,
-                      QT_TRANSLATE_NOOP("ravelo::PeakText", "PEAK · ends %1"))
+        return worded(wording, peakContext, QT_TRANSLATE_NOOP("ravelo::PeakText", "PEAK · ends %1"))
             .arg(locale.toString(end, format));
     }
     return worded(wording, peakContext,

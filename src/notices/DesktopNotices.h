@@ -63,7 +63,7 @@ private:
     [[nodiscard]] bool mayShow(bool wanted) const;
 
     Services services_;
-    QSet<QUrl> received_; ///< What was there before.
+    QSet<QUrl> received_;       ///< What was there before.
     bool failureShown_ = false; ///< That saving fails.
     Handle nextReset_;
 };

@@ -48,8 +48,9 @@ QString span(double seconds) {
     if (hours >= 48) {
         return PaceNotes::tr("%1 days").arg(hours / 24);
     }
-    return hours >= 10 || minutes % 60 == 0 ? PaceNotes::tr("%1 h").arg(hours)
-                                            : PaceNotes::tr("%1 h %2 min.").arg(hours).arg(minutes % 60);
+    return hours >= 10 || minutes % 60 == 0
+               ? PaceNotes::tr("%1 h").arg(hours)
+               : PaceNotes::tr("%1 h %2 min.").arg(hours).arg(minutes % 60);
 }
 
 QString capitalised(const QString& text) {
