@@ -11,13 +11,11 @@ void ClipEditor::edit(const ClipItem& clip) {
         return;
     }
     text_ = clip.text;
-    draft_ = clip.text;
-    resumed_ = false;
     Q_EMIT editingChanged();
 }
 
 void ClipEditor::copy(const QString& text) {
-    if (isEditing() && !text.trimmed().isEmpty()) {
+    if (text_ && !text.trimmed().isEmpty()) {
         discard();
         Q_EMIT copied(text);
     }
@@ -26,25 +24,6 @@ void ClipEditor::copy(const QString& text) {
 void ClipEditor::discard() {
     if (text_) {
         text_.reset();
-        draft_.clear();
-        aside_ = false;
-        Q_EMIT editingChanged();
-    }
-}
-
-void ClipEditor::putAside() {
-    if (draft_ == text()) {
-        discard();
-    } else if (isEditing()) {
-        aside_ = true;
-        Q_EMIT editingChanged();
-    }
-}
-
-void ClipEditor::resume() {
-    if (aside_) {
-        aside_ = false;
-        resumed_ = true;
         Q_EMIT editingChanged();
     }
 }

@@ -17,10 +17,6 @@ class ClipEditor : public QObject {
     Q_PROPERTY(bool editing READ isEditing NOTIFY editingChanged)
     /// As it was.
     Q_PROPERTY(QString text READ text NOTIFY editingChanged)
-    /// As the user has changed it so far.
-    Q_PROPERTY(QString draft READ draft NOTIFY editingChanged)
-    /// It was put aside in between.
-    Q_PROPERTY(bool resumed READ isResumed NOTIFY editingChanged)
 
 public:
     /// In UTF-16 code units; a field with more would react slowly.
@@ -29,19 +25,9 @@ public:
     /// No effect for images and secrets; while a text is edited, neither.
     void edit(const ClipItem& clip);
 
-    [[nodiscard]] bool isEditing() const { return text_ && !aside_; }
+    [[nodiscard]] bool isEditing() const { return text_.has_value(); }
 
     [[nodiscard]] QString text() const { return text_.value_or(QString()); }
-
-    [[nodiscard]] QString draft() const { return draft_; }
-
-    [[nodiscard]] bool isResumed() const { return resumed_; }
-
-    /// The panel closes: a changed text is kept until it opens again.
-    void putAside();
-    void resume();
-
-    Q_INVOKABLE void keep(const QString& draft) { draft_ = draft; }
 
     /// Nothing is copied if there is nothing but white space.
     Q_INVOKABLE void copy(const QString& text);
@@ -54,9 +40,6 @@ Q_SIGNALS:
 
 private:
     std::optional<QString> text_;
-    QString draft_;
-    bool aside_ = false;
-    bool resumed_ = false;
 };
 
 } // namespace ravelo

@@ -89,7 +89,7 @@ ClipQuery ClipQuery::parse(const QString& written, Date now) {
         start = std::min(end + 1, written.size());
     }
     query.text = written.mid(start);
-    if (query.text.startsWith(expressionMark) && query.text.at(expressionMark.size()) != u' ') {
+    if (query.text.startsWith(expressionMark) && !query.text.startsWith(u"re: ")) {
         const QString expression = query.text.mid(expressionMark.size());
         query.text.clear();
         if (!expression.isEmpty()) {

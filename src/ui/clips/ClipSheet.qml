@@ -21,11 +21,8 @@ FocusScope {
 
     function begin() {
         focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
-        body.exactText = editor.draft;
-        // The pointer may have opened the panel by chance; then only a click asks for the keyboard.
-        if (!editor.resumed) {
-            Typing.wantKeyboard(layer);
-        }
+        body.exactText = editor.text;
+        Typing.wantKeyboard(layer);
         body.forceActiveFocus();
         body.cursorPosition = body.length;
     }
@@ -160,11 +157,6 @@ FocusScope {
                     id: body
                     objectName: "clipInput"
                     name: qsTr("Text")
-                    onTextChanged: {
-                        if (layer.editing) {
-                            layer.editor.keep(exactText);
-                        }
-                    }
                     width: parent.width
                     style: Theme.bodyLoose
                     color: Theme.text1

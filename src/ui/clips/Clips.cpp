@@ -36,7 +36,6 @@ Clips::Clips(Services services, const QLocale& locale)
 
 void Clips::begin() {
     ages_.start();
-    editor_.resume();
 }
 
 void Clips::reset() {
@@ -46,7 +45,7 @@ void Clips::reset() {
     list_.selection().clear();
     links_.reset();
     pasting_.reset();
-    editor_.putAside();
+    editor_.discard();
 }
 
 void Clips::showTooLarge(const TooLargeCopy& copy) {

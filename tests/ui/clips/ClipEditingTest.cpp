@@ -30,33 +30,6 @@ TEST_F(Panel, editsAClipBeforeItIsCopied) {
     EXPECT_EQ(pasteboardText(), u"first\n!"_s);
 }
 
-TEST_F(Panel, keepsAnEditedClipUntilItOpensAgain) {
-    openSearch();
-    pressKeys(u"F2"_s);
-    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
-    rebuild();
-    openByKey();
-    EXPECT_EQ(shown(u"clipSheet"_s), nullptr) << "nothing was changed";
-    close();
-
-    openSearch();
-    pressKeys(u"F2"_s);
-    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
-    pressKeys(u"x"_s);
-    rebuild();
-    EXPECT_FALSE(view.features().clips->editor()->isEditing()) << "closed";
-    openByKey();
-    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
-    EXPECT_EQ(text(u"clipInput"_s), u"firstx"_s);
-    pressKeys(u"Escape"_s);
-    EXPECT_TRUE(item(u"discardQuestion"_s)->isVisible());
-    pressKeys(u"Tab Return"_s);
-    EXPECT_TRUE(eventually([this] { return !shown(u"clipSheet"_s); }));
-    rebuild();
-    openByKey();
-    EXPECT_EQ(shown(u"clipSheet"_s), nullptr) << "discarded";
-}
-
 TEST_F(Panel, copiesAsPlainText) {
     const QUuid first = world.store.clips()[0].id;
     world.store.setForms(first, {{}, {{u"text/html"_s, "<b>first</b>"}}});
