@@ -81,7 +81,7 @@ bool CapturePause::ignoresCopy() {
     return pause_.has_value();
 }
 
-/// The wall clock decides, because the user is told a time of day.
+/// The wall clock decides, because the user sees a time of day.
 void CapturePause::awaitEnd() {
     end_.reset();
     if (pause_ && pause_->timed) {

@@ -48,7 +48,7 @@ const QString sessionInterface = u"org.freedesktop.portal.Session"_s;
 const QString shortcutId = u"toggle"_s;
 constexpr std::chrono::seconds timeout(5);
 
-/// As in the XDG specification of shortcuts.
+/// In the XDG format for shortcuts.
 QString trigger(const KeyCombination& keys) {
     QStringList parts;
     const std::pair<Qt::KeyboardModifier, QString> names[] = {{Qt::ControlModifier, u"CTRL"_s},
