@@ -248,8 +248,8 @@ void ClipboardManager::kept(Held& held, const QUuid& clip, const Origin& origin)
     offerAgain(); // The owner may have ended while an image was being written.
 }
 
-/// Only now that the user's rules let the text pass. If another copy comes meanwhile, the text alone
-/// is kept.
+/// Only now that the user's rules let the text pass. If another copy comes meanwhile, the text
+/// alone is kept.
 void ClipboardManager::readForms(const Held& held, const QString& program) {
     readingForms_ =
         pasteboard_.read(nextFormType, [this, program, clip = held.id,
