@@ -28,7 +28,7 @@ public:
 
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
 
-    /// Finds out whether it is possible, if nobody has asked the desktop yet; `state` follows
+    /// Finds out whether it is possible, if the desktop was not asked yet; `state` follows
     /// later.
     virtual void ask() {}
 

@@ -82,7 +82,7 @@ public:
     /// with the first failure. Copies are not kept from now on, unless it fails.
     void erase(std::function<void(const Result<void>&)> done);
 
-    /// Something else could not be erased, so the program goes on.
+    /// Something else could not be erased, so the program keeps running.
     void captureAgain() { erased_ = false; }
 
     [[nodiscard]] const QList<ClipItem>& clips() const;

@@ -36,7 +36,7 @@ public:
     enum class Kind { ordinary, secret };
 
     /// `text` is what `copy` copies, if that is a text. A secret is only copied for terminals that
-    /// paste the selected text: nobody would clear that later.
+    /// paste the selected text: it would stay there.
     void run(const QString& text, Kind kind, const std::function<void()>& copy);
 
     /// The question was answered with yes.

@@ -18,7 +18,7 @@ public:
     [[nodiscard]] bool isPossible() const override;
     [[nodiscard]] std::optional<Target> target() override;
 
-    /// Without the keyboard nobody learns which modifiers the user holds. Our own keyboard sends
+    /// Without the keyboard we cannot know which modifiers the user holds. Our own keyboard sends
     /// its own, and the compositor passes on those of the keyboard that was used last.
     [[nodiscard]] Readiness readiness(const Target& target) override;
 
