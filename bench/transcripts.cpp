@@ -91,14 +91,14 @@ void look(const QByteArray& home) {
     ContextReader reader(home, std::make_unique<InotifyChanges>());
     QElapsedTimer timer;
     timer.start();
-    const ContextReading reading = reader.read();
+    const ContextReading reading = reader.read({});
     const double cold = milliseconds(timer);
     if (!reading.turn || reading.turn->usage.tokens != lastTokens) {
         qFatal("the last turn of the newest was not found");
     }
     const double before = processorTime();
     for (int i = 0; i < idleLooks; ++i) {
-        if (!reader.read().turn) {
+        if (!reader.read({}).turn) {
             qFatal("what was found is gone");
         }
     }
