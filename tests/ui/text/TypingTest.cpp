@@ -103,6 +103,21 @@ TEST_F(FieldWindow, isIndependentOfThePanel) {
     EXPECT_EQ(world.store.clips().size(), 2) << "undid what was deleted in the panel";
 }
 
+// A cursor that blinks in a closed panel would wake the program twice a second, all day.
+TEST_F(FieldWindow, onlyTheFocusedCursorBlinks) {
+    const auto blinks = [this] {
+        return find(field, u"caret"_s)->parentItem()->findChild<QObject*>(u"blink"_s)->property(
+            "running");
+    };
+    click(window, {20, 50});
+    ravelo::pressKeys(window, u"A"_s);
+    EXPECT_EQ(blinks(), true) << "with the focus";
+    field->setFocus(false);
+    EXPECT_EQ(blinks(), false) << "without the focus";
+    field->setProperty("text", u"moved"_s);
+    EXPECT_EQ(blinks(), false) << "moved without the focus";
+}
+
 } // namespace
 
 } // namespace ravelo
