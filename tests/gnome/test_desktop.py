@@ -9,6 +9,7 @@ from gi.repository import GdkPixbuf  # noqa: E402
 
 import shell  # noqa: E402
 from shell import until  # noqa: E402
+import test_program  # noqa: E402
 from test_program import FILE, FOLDER, PASTED, SEARCH_X, SEARCH_Y, ProgramCase  # noqa: E402
 
 MIDDLE = 640
@@ -172,13 +173,21 @@ class TwoMonitorsTest(DesktopTest):
             self.close()
 
 
+ELSEWHERE = {
+    "two_monitors": (TwoMonitorsTest, "test_two_monitors"),
+    "copies": (test_program.ProgramTest, "test_copies_back"),
+    "secret": (test_program.PasswordTest, "test_does_not_even_fetch_a_password"),
+    "scaled": (test_program.FractionallyScaledTest, "test_is_in_place_at_scales"),
+}
+
+
 def row(checks):
     """The cell of each check and a remark on it."""
     cells = {}
     for name in checks:
-        case = TwoMonitorsTest if name == "two_monitors" else DesktopTest
+        case, test = ELSEWHERE.get(name, (DesktopTest, f"test_{name}"))
         result = unittest.TestResult()
-        case(f"test_{name}").run(result)
+        case(test).run(result)
         problems = result.errors + result.failures
         cells[name] = ("FAILED", problems[0][1]) if problems else \
             ("-", result.skipped[0][1]) if result.skipped else ("ok", "")

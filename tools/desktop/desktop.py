@@ -270,9 +270,9 @@ class Desktop(contextlib.AbstractContextManager):
         """Empty if the owner does not answer: xclip alone would wait forever."""
         return self.run("timeout", "3", "xclip", "-selection", "clipboard", "-o")
 
-    def peer(self, *command):
+    def peer(self, *command, **options):
         """Starts a helper program and returns once it prints "ready"."""
-        process = self.spawn(*command, stdout=subprocess.PIPE, text=True)
+        process = self.spawn(*command, stdout=subprocess.PIPE, text=True, **options)
         line = process.stdout.readline().strip()
         assert line == "ready", f"{command[0]} said {line!r}"
         return process
@@ -375,6 +375,9 @@ class Desktop(contextlib.AbstractContextManager):
         self.move(*start, "mousedown", 1)
         self.glide(to)
 
+    def release(self):
+        self.run("xdotool", "mouseup", 1)
+
     def type(self, text):
         self.run("xdotool", "type", "--delay", 20, text)
 
@@ -395,11 +398,12 @@ class Ravelo:
         self.process = None
         self.log = desktop.home / "ravelo.log"
 
-    def start(self, *arguments):
+    def start(self, *arguments, is_there=None, expected=None):
         """Starts it and waits for its handle at the top of the screen."""
         with self.log.open("a") as log:
             self.process = self.desktop.spawn(self.program, *arguments, stderr=log)
-        wait_for(lambda: self.has_ended() or self.is_collapsed(), "the handle, 200 x 12, centred")
+        is_there = is_there or self.is_collapsed
+        wait_for(lambda: self.has_ended() or is_there(), expected or "the handle, 200 x 12, centred")
         assert not self.has_ended(), f"ravelo ended at once with {self.process.returncode}"
         return self
 
@@ -445,20 +449,20 @@ class Ravelo:
     def window(self, title):
         return self.desktop.window_of(self.process, title)
 
-    def _hangs_at_the_top(self, width, height, monitor):
+    def hangs_at_the_top(self, width, height, monitor):
         panel = self.panel()
         there = panel and panel[2:] == (monitor.y, width, height) \
             and abs(panel.x + width / 2 - monitor.x - monitor.width / 2) <= 1
         return panel if there else None
 
     def is_collapsed(self, monitor=MAIN):
-        return self._hangs_at_the_top(200, 12, monitor)
+        return self.hangs_at_the_top(200, 12, monitor)
 
     def is_open(self, monitor=MAIN):
-        return self._hangs_at_the_top(927, 560, monitor)
+        return self.hangs_at_the_top(927, 560, monitor)
 
     def is_open_for_files(self, monitor=MAIN):
-        return self._hangs_at_the_top(927, 700, monitor)
+        return self.hangs_at_the_top(927, 700, monitor)
 
     def open(self, monitor=MAIN):
         """Opens it with the pointer and returns its geometry."""

@@ -5,6 +5,7 @@ gtk_peer.py image COLOR    owns the clipboard with an image of one colour, 64 x 
 gtk_peer.py leave text TEXT  copies and exits at once, like gnome-screenshot; also with image
 gtk_peer.py window [COLOR] a focused window with a text field; prints its text at each change
 gtk_peer.py fullscreen COLOR LEFT WIDTH HEIGHT  the same, full-screen on a monitor
+gtk_peer.py movable [COLOR]  a focused window that the window manager moves when it is dragged
 gtk_peer.py bar COLOR WIDTH HEIGHT  a dock at the top left that reserves its height
 gtk_peer.py source TEXT    a window with a selected text to drag; its title becomes "dragged"
 gtk_peer.py target         a drop target for files, left of the panel; prints the raw list
@@ -80,6 +81,16 @@ def show_fullscreen(color, left, width, height):
     show_field(window)
 
 
+def show_movable(color="#204060"):
+    window = make_window(80, 640, 400, 200)
+    paint(window, color)
+    window.add_events(Gdk.EventMask.BUTTON_PRESS_MASK)
+    window.connect("button-press-event", lambda _, event: window.begin_move_drag(
+        event.button, int(event.x_root), int(event.y_root), event.time))
+    ready_when_focused(window)
+    window.show()
+
+
 def show_bar(color, width, height):
     window = make_window(0, 0, int(width), int(height), decorated=False, accept_focus=False,
                          type_hint=Gdk.WindowTypeHint.DOCK)
@@ -116,7 +127,7 @@ def show_target():
     window.show()
 
 
-SHOWN = {"window": show_window, "fullscreen": show_fullscreen, "bar": show_bar,
+SHOWN = {"window": show_window, "fullscreen": show_fullscreen, "movable": show_movable, "bar": show_bar,
          "source": show_source, "target": show_target}
 
 

@@ -5,11 +5,12 @@ AssertionError that says what it saw.
 """
 
 import contextlib
+import functools
 import json
 import subprocess
 import time
 
-from desktop import GTK_PEER, MAIN, RIGHT, WIDTH, Desktop, Ravelo, wait_for, xorg_with_outputs
+from desktop import GTK_PEER, HERE, MAIN, RIGHT, WIDTH, Desktop, Ravelo, wait_for, xorg_with_outputs
 
 MIDDLE = WIDTH // 2
 BAR_HEIGHT = 28
@@ -17,6 +18,7 @@ BAR, SCREENFUL, WALLPAPER = (255, 0, 255), (0, 255, 0), (255, 160, 0)
 AWAY = (40, 400)  # A click there closes.
 SEARCH_LEFT, SEARCH_TOP = 200, 220
 FILE = "dragged.txt"
+FILE_SOURCE = ("/usr/bin/python3", HERE / "file_source.py")
 PAPER = (255, 255, 255)
 ICON_LEFT, ICON_TOP = 207, 98  # Of the one file in the file manager's window.
 TIMEOUT = 20
@@ -56,13 +58,16 @@ class Surroundings(contextlib.ExitStack):
 
     def rest(self):
         """Closes the panel and moves the pointer away, whatever the last check left behind."""
-        self.desktop.run("xdotool", "mouseup", 1)
+        self.desktop.release()
         try:
             self.close()
         except AssertionError:
-            self.ravelo.process.kill()
-            self.ravelo.process.wait()  # Or the next one would ask it to come to the front.
-            self.ravelo.start()
+            self.restart()
+
+    def restart(self, is_there=None, expected=None):
+        self.ravelo.process.kill()
+        self.ravelo.process.wait()  # Or the next one would ask it to come to the front.
+        self.ravelo.start(is_there=is_there, expected=expected)
 
     @contextlib.contextmanager
     def running(self, *command):
@@ -98,6 +103,21 @@ class Surroundings(contextlib.ExitStack):
         self.desktop.click(panel.x + SEARCH_LEFT, SEARCH_TOP)
         self.expect_focus(str(panel.window), "the panel after a click into the search field")
         return panel
+
+    def open_panel(self):
+        """Returns its left edge."""
+        return self.ravelo.open().x
+
+    def focus_middle(self):
+        self.desktop.click(MIDDLE, 700)
+
+    @contextlib.contextmanager
+    def field(self):
+        """A text field: what expects a text in it, and where it is."""
+        with self.gtk("window") as window:
+            corner = self.desktop.geometry(window)
+            yield (functools.partial(self.expect_typed, window),
+                   (corner.x + 100, corner.y + corner.height - 12))
 
     def close(self, monitor=MAIN):
         self.desktop.click(monitor.x + AWAY[0], monitor.y + AWAY[1])
@@ -179,6 +199,28 @@ def hot_zone(on):
     on.expect_closed("below the hot zone")
     on.desktop.move(MIDDLE - 150, 6)
     until(on.ravelo.is_open, "the panel, opened by the pointer in the hot zone")
+
+
+def stays_closed(on):
+    """A window that is moved to the hot zone, and a dragged link, do not open it."""
+    with on.gtk("movable") as window:
+        corner = on.desktop.geometry(window)
+        on.desktop.drag((corner.x + 100, corner.y + 60), (MIDDLE, 3))
+        expect_still_closed(on, "a window that was moved to the top")
+        on.desktop.release()
+    on.rest()
+    with on.running(*FILE_SOURCE, "https://www.debian.org/") as window:
+        corner = on.desktop.geometry(window)
+        on.desktop.drag((corner.x + 100, corner.y + 60), (MIDDLE - 200, 100))
+        expect_still_closed(on, "a dragged link")
+
+
+def expect_still_closed(on, what):
+    """A file would have opened it within a second."""
+    end = time.monotonic() + 1
+    while time.monotonic() < end:
+        on.desktop.run("xdotool", "mousemove_relative", "--", 1, 0)
+        assert on.ravelo.is_collapsed(), f"{what} opened it: {on.ravelo.panel()}"
 
 
 def timer_bar(on):
@@ -304,7 +346,7 @@ def start_drag(on, start, to):
         on.desktop.drag(start, to)
         with contextlib.suppress(AssertionError):
             return wait_for(follows, "a drag", 3)
-        on.desktop.run("xdotool", "mouseup", 1)
+        on.desktop.release()
     raise AssertionError("five attempts started no drag")
 
 
@@ -318,10 +360,7 @@ def file_drag(on):
         corner = on.desktop.geometry(window)
         on.desktop.drag((corner.x + 30, corner.y + 10), (MIDDLE - 200, 100))
         until(lambda: on.desktop.title(window) == "dragged", "the start of a text's drag")
-        end = time.monotonic() + 1
-        while time.monotonic() < end:  # A file would have opened it by now.
-            on.desktop.run("xdotool", "mousemove_relative", "--", 1, 0)
-            assert on.ravelo.is_collapsed(), f"a dragged text opened it: {on.ravelo.panel()}"
+        expect_still_closed(on, "a dragged text")
 
 
 def drop(on):
@@ -329,7 +368,7 @@ def drop(on):
     with dragged_file(on):
         panel = until(on.ravelo.is_open, "the panel, opened by a dragged file")
         on.desktop.glide((panel.x + 400, 300))
-        on.desktop.run("xdotool", "mouseup", 1)
+        on.desktop.release()
         until(lambda: FILE in json.dumps(on.ravelo.store().get("shelfStacks", [])),
               lambda: f"{FILE} on the shelf; there is {on.ravelo.store().get('shelfStacks')}")
 
@@ -350,6 +389,21 @@ def two_monitors(on):
         on.desktop.hide(right)
 
 
+def scaled(on):
+    """At a scale of 1.5 handle and panel are that much larger, and still in place."""
+    on.desktop.run("xrdb", "-merge", input="Xft.dpi: 144\n")
+    on.restart(lambda: on.ravelo.hangs_at_the_top(300, 18, MAIN), "the handle, 300 x 18")
+    try:
+        on.desktop.move(MIDDLE, 3)
+        until(lambda: on.ravelo.hangs_at_the_top(1391, 840, MAIN),
+              lambda: f"the open panel, 1391 x 840; it is {on.ravelo.panel()}")
+        on.keep("scaled")
+        on.desktop.click(*AWAY)
+    finally:
+        on.desktop.run("xrdb", "-merge", input="Xft.dpi: 96\n")
+        on.restart()
+
+
 # Drop is last: a file on the shelf makes the panel taller.
 CHECKS = (place, handle_above, panel_above, hot_zone, timer_bar, focus, typing, gives_back, workspaces,
-          file_drag, two_monitors, drop)
+          stays_closed, file_drag, two_monitors, scaled, drop)

@@ -89,12 +89,6 @@ class WaylandDesktop(Desktop):
         if self.xwayland:
             self.env["DISPLAY"] = sockets[-1]
 
-    def peer(self, *command, **options):
-        process = self.spawn(*command, stdout=subprocess.PIPE, text=True, **options)
-        line = process.stdout.readline().strip()
-        assert line == "ready", f"{command[0]} said {line!r}"
-        return process
-
     def show_background(self):
         """A full-screen GTK window with a text field, which prints its text at each change."""
         color = "#%02x%02x%02x" % BACKGROUND
@@ -118,6 +112,10 @@ class WaylandDesktop(Desktop):
     def _wait_for_outputs(self, count):
         self.outputs = count
         wait_for(lambda: self.picture().width == count * WIDTH, f"{count} outputs")
+
+    def set_scale(self, scale):
+        """Of the first output, which keeps its number of pixels."""
+        raise NotImplementedError
 
     def show_workspace(self, number):
         """0 or 1."""
@@ -213,6 +211,9 @@ class SwayDesktop(WaylandDesktop):
         return max(re.findall(r"HEADLESS-\d+", self.sway("-t", "get_outputs")),
                    key=lambda name: int(name.split("-")[1]))
 
+    def set_scale(self, scale):
+        self.sway("output", "HEADLESS-1", "scale", scale)
+
     def show_workspace(self, number):
         self.sway("workspace", f"test-{number}" if number else "1")
 
@@ -242,6 +243,9 @@ class LabwcDesktop(WaylandDesktop):
     def remove_output(self):
         self.run("wlr-randr", "--output", "HEADLESS-2", "--off")
         self._wait_for_outputs(1)
+
+    def set_scale(self, scale):
+        self.run("wlr-randr", "--output", "HEADLESS-1", "--scale", scale)
 
     def show_workspace(self, number):
         self.key(f"ctrl+{number + 1}")
@@ -278,7 +282,7 @@ class KWinDesktop(WaylandDesktop):
             "gdbus", "introspect", "--session", "--dest", "org.kde.KWin", "--object-path",
             "/org/kde/KWin/ScreenShot2"), "KWin")
         self._call("/VirtualDesktopManager", "org.kde.KWin.VirtualDesktopManager.createDesktop", 1, "two")
-        self._doctor("disable")
+        self._doctor(2, "disable")
         self._wait_for_outputs(1)
 
     def _call(self, path, method, *arguments):
@@ -288,16 +292,19 @@ class KWinDesktop(WaylandDesktop):
     def _start_bus(self):
         pass
 
-    def _doctor(self, verb):
-        self.run("env", "QT_QPA_PLATFORM=wayland", "kscreen-doctor", f"output.2.{verb}")
+    def _doctor(self, output, change):
+        self.run("env", "QT_QPA_PLATFORM=wayland", "kscreen-doctor", f"output.{output}.{change}")
 
     def add_output(self):
-        self._doctor("enable")
+        self._doctor(2, "enable")
         self._wait_for_outputs(2)
 
     def remove_output(self):
-        self._doctor("disable")
+        self._doctor(2, "disable")
         self._wait_for_outputs(1)
+
+    def set_scale(self, scale):
+        self._doctor(1, f"scale.{scale}")
 
     def show_workspace(self, number):
         self._call("/KWin", "org.kde.KWin.setCurrentDesktop", number + 1)

@@ -3,6 +3,7 @@ and by what programs get typed.
 """
 
 import contextlib
+import functools
 import json
 import subprocess
 import threading
@@ -41,6 +42,7 @@ class WaylandSurroundings(contextlib.ExitStack):
         self.name, self.desktop, self.pictures = name, desktop, pictures
         self.ravelo = WaylandRavelo(desktop, program)
         self.bare = None  # A picture without Ravelo.
+        self.scale = 1  # Of the outputs.
 
     def __enter__(self):
         self.enter_context(self.desktop)
@@ -109,6 +111,32 @@ class WaylandSurroundings(contextlib.ExitStack):
         self.expect_at(PANEL, "under the pointer", monitor)
         return monitor.x + (WIDTH - PANEL[0]) // 2
 
+    def open_panel(self):
+        """Opens it above any window, and returns its left edge."""
+        self.desktop.move(MIDDLE, 2)
+        self.expect_panel_seen([BAR, RED, WALLPAPER], "the panel")
+        return MIDDLE - PANEL[0] // 2
+
+    def focus_middle(self):
+        self.desktop.click(MIDDLE, AWAY[1])
+        time.sleep(1)  # Nobody reports who has the keyboard.
+
+    @contextlib.contextmanager
+    def field(self):
+        """A text field: what expects a text in it, and where it is."""
+        with self.window("window", RED) as peer:
+            x, y = self.find(RED)
+            yield functools.partial(self.expect_typed, peer), self.field_of(x, y)
+
+    def field_of(self, x, y):
+        """The field is at the window's lower left corner."""
+        picture = self.desktop.picture()
+        while picture.at(x, y + 1) == RED:
+            y += 1
+        while picture.at(x - 1, y) == RED:
+            x -= 1
+        return x + 40, y + 12
+
     def close(self, monitor=LEFT):
         """It leaves, and clicks if it has the keyboard."""
         self.desktop.click(monitor.x + AWAY[0], AWAY[1])
@@ -128,8 +156,9 @@ class WaylandSurroundings(contextlib.ExitStack):
 
     def expect_at(self, size, when, monitor=LEFT):
         """Nothing else of Ravelo is on the screen."""
-        left = monitor.x + (WIDTH - size[0]) // 2
-        expected = left, 0, left + size[0], size[1]
+        width, height = (round(self.scale * length) for length in size)
+        left = monitor.x + (WIDTH - width) // 2
+        expected = left, 0, left + width, height
 
         def fits():
             box = self.box()
@@ -198,6 +227,27 @@ def hot_zone(on):
         still_closed(on, f"with the pointer at {x}, {y}")
     on.desktop.move(MIDDLE - 150, 6)
     on.expect_at(PANEL, "with the pointer in the hot zone")
+
+
+def stays_closed(on):
+    """A window that is moved to the hot zone, and a dragged link, do not open it."""
+    movable = on.desktop.gtk("movable", css(RED))
+    try:
+        on.desktop.drag(until(lambda: on.find(RED), "a window to move"), (MIDDLE - 150, 4))
+        still_below(on, "a window that was moved to the top")
+    finally:
+        on.desktop.release()
+        movable.kill()
+        movable.wait()
+    with drag_source(on, "https://www.debian.org/"):
+        on.desktop.move(MIDDLE - 150, 4)
+        still_below(on, "a dragged link")
+
+
+def still_below(on, what):
+    """No panel above windows."""
+    time.sleep(HALF_A_SECOND)
+    assert on.desktop.picture().at(MIDDLE + 300, 300) in (RED, BLUE, WALLPAPER), f"{what} opened it"
 
 
 def still_closed(on, when):
@@ -285,23 +335,29 @@ def workspaces(on):
 
 
 @contextlib.contextmanager
-def dragged_file(on):
-    """Drags a file to the strip."""
-    file = on.desktop.home / FILE
-    file.write_text("dragged")
-    source = on.desktop.peer("/usr/bin/python3", HERE / "file_source.py", "--color", css(BLUE), file)
+def drag_source(on, what):
+    """Drags a file or a link to the strip."""
+    source = on.desktop.peer("/usr/bin/python3", HERE / "file_source.py", "--color", css(BLUE), what)
     try:
         start = until(lambda: on.find(BLUE), "a window to drag from")
         on.desktop.drag(start, (MIDDLE, 6))
         assert source.stdout.readline() == "begin\n"
         time.sleep(1)  # For its request to the compositor, which notices motion after that.
         on.desktop.move(MIDDLE, 6)
-        on.expect_panel_seen([BAR, BLUE, WALLPAPER], "the panel, opened by a dragged file")
         yield source
     finally:
         on.desktop.release()  # Sway 1.7 crashes if the source of a drag ends.
         source.kill()
         source.wait()
+
+
+@contextlib.contextmanager
+def dragged_file(on):
+    file = on.desktop.home / FILE
+    file.write_text("dragged")
+    with drag_source(on, file) as source:
+        on.expect_panel_seen([BAR, BLUE, WALLPAPER], "the panel, opened by a dragged file")
+        yield source
 
 
 def file_drag(on):
@@ -349,6 +405,23 @@ def two_monitors(on):
     on.expect_at(HANDLE, "after the second monitor went")
 
 
+def scaled(on):
+    """At a scale of 1.5 the handle is that much larger and in place, and the panel fits the screen."""
+    on.scale = 1.5
+    on.desktop.set_scale(on.scale)
+    try:
+        on.restart()
+        on.desktop.move(MIDDLE, 2)
+        until(lambda: (box := on.box()) and abs(box[0] + box[2] - WIDTH) < 5 and box[2] - box[0] > 0.9 * WIDTH,
+              lambda: f"the panel across the screen; it is at {on.box()}")
+        on.keep("scaled")
+    finally:
+        on.scale = 1
+        on.desktop.set_scale(on.scale)
+        on.desktop.move(*AWAY)
+        on.restart()
+
+
 # Those that change the desktop for good are last.
 CHECKS = (place, handle_above, panel_above, hot_zone, timer_bar, focus, typing, gives_back, workspaces,
-          file_drag, two_monitors, drop)
+          stays_closed, file_drag, scaled, two_monitors, drop)
