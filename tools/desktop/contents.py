@@ -52,7 +52,7 @@ def drag_out(on):
     expect_newest(on, "dragged out")
     with on.field() as (expect_text, field):
         left = on.open_panel()
-        on.desktop.drag((left + 300, ROWS), field); on.keep("drag-out")
+        on.desktop.drag((left + 300, ROWS), field)
         on.desktop.release()
         expect_text("dragged out", "after the drop")
 

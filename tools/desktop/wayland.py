@@ -326,7 +326,7 @@ def kwin_picture(bus):
     os.close(writing)
     answer, _ = bus.call_with_unix_fd_list_sync(
         "org.kde.KWin", "/org/kde/KWin/ScreenShot2", "org.kde.KWin.ScreenShot2", "CaptureWorkspace",
-        GLib.Variant("(a{sv}h)", ({}, 0)), None, Gio.DBusCallFlags.NONE, 20000, descriptors, None)
+        GLib.Variant("(a{sv}h)", ({"native-resolution": GLib.Variant("b", True)}, 0)), None, Gio.DBusCallFlags.NONE, 20000, descriptors, None)
     del descriptors  # Closes it.
     with os.fdopen(reading, "rb") as file:
         data = file.read()
