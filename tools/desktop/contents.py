@@ -3,6 +3,7 @@
 import base64
 import json
 import subprocess
+import time
 
 from desktop import HERE
 from surroundings import until
@@ -53,6 +54,9 @@ def drag_out(on):
     with on.field() as (expect_text, field):
         left = on.open_panel()
         on.desktop.drag((left + 300, ROWS), field)
+        time.sleep(0.5)  # For the drag to begin, which is noticed at the next motion.
+        on.desktop.move(*field)
+        time.sleep(0.5)  # For the field to accept it.
         on.desktop.release()
         expect_text("dragged out", "after the drop")
 

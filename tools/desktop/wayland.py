@@ -257,6 +257,7 @@ class KWinDesktop(WaylandDesktop):
     def __init__(self, hand, xwayland=False):
         super().__init__(hand, xwayland)
         self._bus = None
+        self._scale = 1
 
     def _start_compositor(self):
         super()._start_bus()  # It offers screenshots on it.
@@ -304,7 +305,12 @@ class KWinDesktop(WaylandDesktop):
         self._wait_for_outputs(1)
 
     def set_scale(self, scale):
+        self._scale = scale
         self._doctor(1, f"scale.{scale}")
+
+    def point(self, x, y):
+        """Its places are not in pixels."""
+        super().point(round(x / self._scale), round(y / self._scale))
 
     def show_workspace(self, number):
         self._call("/KWin", "org.kde.KWin.setCurrentDesktop", number + 1)
