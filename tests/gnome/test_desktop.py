@@ -14,6 +14,7 @@ from test_program import FILE, FOLDER, PASTED, SEARCH_X, SEARCH_Y, ProgramCase  
 
 MIDDLE = 640
 AWAY = (100, 700)
+FIRST_ROW = 300
 
 
 class DesktopTest(ProgramCase):
@@ -146,6 +147,27 @@ class DesktopTest(ProgramCase):
         self.drag(self.nautilus_file(), f"{MIDDLE}, 0")
         until(self.panel, "the panel, opened by a dragged file")
         self.keep("file-drag")
+
+    def test_stays_closed(self):
+        self.client("moved")
+        x, y, width, _ = until(lambda: self.window("moved"), "a window")["frame"]
+        self.drag(f"{x + width // 4}, {y + 15}", f"{MIDDLE - 100}, 0")
+        self.session.run("await sleep(500)")
+        self.assertNotEqual(self.window("moved")["frame"][:2], [x, y], "the window did not move")
+        self.assertFalse(self.panel(), "a window that was moved to the top opened it")
+        self.session.run(f"await glide({MIDDLE - 100}, 0, 300, 500); button(false);")
+
+    def test_drag_out(self):
+        client = self.client("dragged out", "--copy", "dragged out")
+        until(lambda: "dragged out" in self.store(), "the text is stored")
+        self.session.run("global.get_window_actors().map(actor => actor.meta_window)"
+                         ".find(window => window.title === 'dragged out').move_frame(true, 20, 590);")
+        left, top, _, _ = self.window("dragged out")["frame"]
+        field = f"{left + 100}, {top + 60}"
+        x, _, _, _ = self.open()["frame"]
+        self.drag(f"{x + 300}, {FIRST_ROW}", field)
+        self.session.run(f"await sleep(300); move({field}); await sleep(300); button(false);")
+        self.typed(client, "dragged out", "after the drop")
 
     def test_two_monitors(self):
         self.skipTest("see TwoMonitorsTest")
