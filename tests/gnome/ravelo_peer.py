@@ -81,10 +81,10 @@ class Peer:
             say(message)
 
     def pass_on(self, source):
-        line = source.readline()
-        if not line:
+        lines = os.read(source.fileno(), 65536)  # Unbuffered: a second line would wait for a third.
+        if not lines:
             sys.exit()
-        self.link.sendall(line)
+        self.link.sendall(lines)
 
 
 def main():

@@ -14,10 +14,13 @@ const INTERFACE = `<node><interface name="org.ravelo.Test.Driver">
 </interface></node>`;
 const AsyncFunction = Object.getPrototypeOf(async function () {}).constructor;
 
+// For tests. The shell disables and enables again what was enabled after an extension that goes.
+const kept = {};
+
 /// What the code of a test can use by name.
 class Tools {
     constructor() {
-        Object.assign(this, {Gio, GLib, Clutter, Meta, Shell, St, DND, Main, kept: {}});
+        Object.assign(this, {Gio, GLib, Clutter, Meta, Shell, St, DND, Main, kept});
         const seat = Clutter.get_default_backend().get_default_seat();
         this.pointer = seat.create_virtual_device(Clutter.InputDeviceType.POINTER_DEVICE);
         this.keyboard = seat.create_virtual_device(Clutter.InputDeviceType.KEYBOARD_DEVICE);
