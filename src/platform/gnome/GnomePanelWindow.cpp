@@ -7,6 +7,7 @@
 #include <QPolygonF>
 #include <QRegion>
 #include <QWindow>
+#include <qpa/qplatformwindow.h>
 
 #include <utility>
 
@@ -64,6 +65,8 @@ void GnomePanelWindow::apply() {
         window_.setMinimumSize(size); // Else Mutter may tile it, or keep an earlier size.
         window_.setMaximumSize(size);
         window_.resize(size);
+        // While the shell has not shown the last frame for 0.1 s, Qt keeps the size to itself.
+        sizeUnsent_ = !window_.handle()->isExposed();
     }
     window_.setVisible(shown);
     if (!shown) {
@@ -87,7 +90,9 @@ void GnomePanelWindow::returnFocus() {
 }
 
 bool GnomePanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
-    if (event->type() == QEvent::MouseButtonPress) {
+    if (event->type() == QEvent::Expose && window_.isExposed() && std::exchange(sizeUnsent_, false)) {
+        window_.handle()->setGeometry(window_.geometry());
+    } else if (event->type() == QEvent::MouseButtonPress) {
         const auto button = static_cast<QMouseEvent*>(event)->button();
         if (button == Qt::LeftButton || button == Qt::RightButton) {
             pressListeners_.notify();

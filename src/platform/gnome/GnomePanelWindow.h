@@ -76,6 +76,7 @@ private:
     QSizeF size_;
     std::size_t screen_ = 0;
     bool front_ = false;
+    bool sizeUnsent_ = false; ///< The shell may not know the size.
     PointerOver pointerOver_;
     Listeners<> pressListeners_;
     Handle ups_;
