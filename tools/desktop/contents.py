@@ -53,6 +53,7 @@ def drag_out(on):
     expect_newest(on, "dragged out")
     with on.field() as (expect_text, field):
         left = on.open_panel()
+        time.sleep(0.5)  # For the rows.
         on.desktop.drag((left + 300, ROWS), field)
         time.sleep(0.5)  # For the drag to begin, which is noticed at the next motion.
         on.desktop.move(*field)

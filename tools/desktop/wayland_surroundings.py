@@ -198,7 +198,7 @@ def place(on):
     """Handle and panel are at the centre of the top edge, above the bar, and nowhere else."""
     on.expect_at(HANDLE, "at the start")
     on.open()
-    on.keep("open")
+    on.keep("above-bar")
     on.close()
 
 
