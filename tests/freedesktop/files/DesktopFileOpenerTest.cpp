@@ -1,9 +1,9 @@
 #include "platform/freedesktop/files/DesktopFileOpener.h"
-#include "freedesktop/PrivateBus.h"
-#include "freedesktop/StandIn.h"
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeNearby.h"
 #include "fakes/ManualScheduler.h"
+#include "freedesktop/PrivateBus.h"
+#include "freedesktop/StandIn.h"
 
 namespace ravelo {
 

@@ -1,10 +1,10 @@
 // The services that send and receive files, against stand-ins that record their calls.
 
+#include "base/FileUrl.h"
 #include "freedesktop/PrivateBus.h"
 #include "freedesktop/StandIn.h"
-#include "base/FileUrl.h"
-#include "platform/freedesktop/portals/FileTransferPortal.h"
 #include "platform/freedesktop/files/KdeConnect.h"
+#include "platform/freedesktop/portals/FileTransferPortal.h"
 
 #include <QDBusConnectionInterface>
 #include <QDBusMetaType>
