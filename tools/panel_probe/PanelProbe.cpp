@@ -286,7 +286,7 @@ private:
 void playBar(const QString& scene, PanelWorld& world, PanelView& view) {
     const bool notch = scene.contains(u"notch"_s);
     world.screens.screens.front().visibleFrame.setTop(notch ? 32 : 28);
-    world.settings.setMacType(notch ? u"notch"_s : u"none"_s);
+    world.settings.macType.set(notch ? u"notch"_s : u"none"_s);
     if (scene.contains(u"timer"_s)) {
         constexpr double left = 24 * 60 + 12.5;
         constexpr double length = left / 0.62;
@@ -376,7 +376,7 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
     if (scene == u"running") {
         world.store.startTimer(u"Estimates"_s, (24 * 60 + 12.5) / 60);
     } else if (scene == u"narrow") {
-        world.settings.setPanelWidth(560);
+        world.settings.panelWidth.set(560);
     }
     if (scene.startsWith(u"small"_s)) {
         world.store.setReminders({u"Call the framer"_s});
@@ -414,7 +414,7 @@ void play(const QString& scene, PanelWorld& world, PanelView& view) {
         grid->setFocus(false); // Hides the focus ring of the first tile.
     }
     if (scene == u"full-black") {
-        world.settings.setFullBlack(true);
+        world.settings.fullBlack.set(true);
     } else if (scene == u"plan-pace") {
         send(window, QEvent::MouseMove, {80, 90});
         settle(800);
@@ -742,7 +742,7 @@ int main(int argc, char** argv) {
     useBefore(spent, now, isFast ? 45 : 38);
     room().save(world.store.imagePath(u"room.png"_s));
     plan().save(world.store.imagePath(u"plan.png"_s));
-    world.settings.setLastTab(shelf                          ? u"Shelf"_s
+    world.settings.lastTab.set(shelf                          ? u"Shelf"_s
                               : scene.startsWith(u"notes"_s) ? u"Notes"_s
                                                              : u"Clipboard"_s);
     SceneEncryption encryption(scene, world);
@@ -774,8 +774,8 @@ int main(int argc, char** argv) {
         return 0;
     }
     world.settings.setLaunchAtLogin(true);
-    world.settings.setIgnoredPrograms({u"KeePassXC"_s, u"Secrets"_s});
-    world.settings.setIgnoredPatterns({u"^IBAN [A-Z]{2}\\d+"_s, u"\\b\\d{3}-\\d{4}\\b"_s});
+    world.settings.ignoredPrograms.set({u"KeePassXC"_s, u"Secrets"_s});
+    world.settings.ignoredPatterns.set({u"^IBAN [A-Z]{2}\\d+"_s, u"\\b\\d{3}-\\d{4}\\b"_s});
     SettingsWindow settings(
         {{view.window()}, world.store, world.settings, [] {}, u"X11 (set by RAVELO_PLATFORM)"_s});
     OnboardingController onboarding({view.window()}, world.settings, world.screens);

@@ -16,7 +16,7 @@ QUrl file(const QString& name) {
 
 class ShelfTab : public Panel {
 protected:
-    ShelfTab() { world.settings.setLastTab(u"Shelf"_s); }
+    ShelfTab() { world.settings.lastTab.set(u"Shelf"_s); }
 
     /// A file that exists, until it is removed.
     QUrl create(const QString& name) {
