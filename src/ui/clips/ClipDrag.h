@@ -34,7 +34,7 @@ Q_SIGNALS:
 
 private:
     struct Picture {
-        QString extension; ///< On the page that the pointer holds.
+        QString extension; ///< Of the file icon under the pointer.
         double scale;
     };
 
