@@ -83,18 +83,7 @@ class ProgramCase(unittest.TestCase):
 
 
 class AssistiveCase:
-    """With the accessibility bus."""
-
-    def provide_assistance(self):
-        del self.desktop.env["NO_AT_BRIDGE"]
-        self.desktop.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
-        launcher = self.desktop.spawn("/usr/libexec/at-spi-bus-launcher", "--launch-immediately",
-                                      stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                      start_new_session=True)
-        self.addCleanup(os.killpg, launcher.pid, signal.SIGKILL)  # It has a bus of its own.
-        wait_for(lambda: "org.a11y.Bus" in self.desktop.run(
-            "gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path", "/",
-            "--method", "org.freedesktop.DBus.ListNames"), "the launcher on the bus")
+    """For a desktop with `provide_assistance`."""
 
     def accessible_nodes(self):
         """The visible ones."""

@@ -132,7 +132,7 @@ class Windows(AssistiveCase, ProgramCase):
         self.assertEqual(self.ravelo.call("timer", "status"), (0, "no timer\n"), "it runs on")
 
     def test_the_first_start_asks_and_the_second_does_not(self):
-        self.provide_assistance()
+        self.desktop.provide_assistance()
         self.desktop.preferences.unlink()
         self.ravelo.start()
         setup = self.expect_window(self.SETUP)

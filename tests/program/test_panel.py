@@ -263,7 +263,7 @@ class SketchPad(ProgramCase):
 
 class Assistive(AssistiveCase, ProgramCase):
     def test_what_a_screen_reader_gets(self):
-        self.provide_assistance()
+        self.desktop.provide_assistance()
         self.ravelo.start()
         self.copy_and_wait("a clip")
         self.ravelo.call("--toggle")

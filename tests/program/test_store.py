@@ -209,7 +209,7 @@ class Encrypted(SearchingCase, AssistiveCase, ProgramCase):
 
     def setUp(self):
         super().setUp()
-        self.provide_assistance()
+        self.desktop.provide_assistance()
         self.keyring = None
         self.start_keyring()
 

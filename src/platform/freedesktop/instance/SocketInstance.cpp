@@ -13,9 +13,6 @@
 #include <QStandardPaths>
 #include <QThread>
 
-#include <sys/stat.h>
-#include <unistd.h>
-
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
@@ -23,12 +20,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 constexpr qint64 maxRequest = 64 << 20; // Bytes before the end of the line.
-
-bool isPrivateFolder(const QByteArray& path) {
-    struct stat info = {};
-    return ::lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) &&
-           info.st_uid == ::geteuid() && (info.st_mode & (S_IRWXG | S_IRWXO)) == 0;
-}
 
 QString socketFolder() {
     if (const QByteArray runtime = qgetenv("XDG_RUNTIME_DIR"); isPrivateFolder(runtime)) {

@@ -1,5 +1,7 @@
 #include "platform/freedesktop/secrets/SecretCalls.h"
 
+#include "platform/freedesktop/BusCall.h"
+
 namespace ravelo::secrets {
 
 using namespace Qt::StringLiterals;
@@ -9,6 +11,13 @@ QDBusMessage call(const QString& path, const QString& interface, const QString& 
     QDBusMessage message = QDBusMessage::createMethodCall(name, path, interface, method);
     message.setArguments(arguments);
     return message;
+}
+
+void closeSession(const QDBusConnection& bus, const QDBusObjectPath& path) {
+    if (!path.path().isEmpty()) {
+        const Handle nobodyWaits = callBus(bus, call(path.path(), sessionInterface, u"Close"_s),
+                                           std::chrono::seconds(1), [](const QDBusMessage&) {});
+    }
 }
 
 QList<QDBusObjectPath> paths(const QVariant& answer) {

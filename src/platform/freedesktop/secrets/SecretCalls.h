@@ -3,6 +3,7 @@
 #include "base/Secret.h"
 
 #include <QDBusArgument>
+#include <QDBusConnection>
 #include <QDBusMessage>
 #include <QDBusObjectPath>
 #include <QMap>
@@ -29,6 +30,9 @@ using Attributes = QMap<QString, QString>;
 
 [[nodiscard]] QDBusMessage call(const QString& path, const QString& interface,
                                 const QString& method, const QVariantList& arguments = {});
+
+/// Closes a session, if `path` is one. Does not wait.
+void closeSession(const QDBusConnection& bus, const QDBusObjectPath& path);
 
 /// The paths in an answer; none if it is something else.
 [[nodiscard]] QList<QDBusObjectPath> paths(const QVariant& answer);

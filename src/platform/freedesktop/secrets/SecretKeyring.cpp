@@ -36,7 +36,7 @@ public:
     SecretTask(QDBusConnection bus, std::chrono::milliseconds timeout)
         : bus_(std::move(bus)), timeout_(timeout) {}
 
-    ~SecretTask() override { closeSession(); }
+    ~SecretTask() override { closeSession(bus_, session_); }
 
     /// Nothing is called any more. Its own callbacks may do this, so it is deleted later.
     void cancel() {
@@ -122,14 +122,6 @@ private Q_SLOTS:
     }
 
 private:
-    void closeSession() {
-        if (!session_.path().isEmpty()) {
-            const Handle nobodyWaits =
-                callBus(bus_, call(session_.path(), sessionInterface, u"Close"_s),
-                        std::chrono::seconds(1), [](const QDBusMessage&) {});
-        }
-    }
-
     QDBusConnection bus_;
     std::chrono::milliseconds timeout_;
     QDBusServiceWatcher service_{name, bus_, QDBusServiceWatcher::WatchForUnregistration};

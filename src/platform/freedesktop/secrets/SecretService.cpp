@@ -30,7 +30,7 @@ public:
     Search(QDBusConnection bus, std::chrono::milliseconds timeout, Done done)
         : bus_(std::move(bus)), deadline_(timeout), done_(std::move(done)) {}
 
-    ~Search() { closeSession(); }
+    ~Search() { closeSession(bus_, session_); }
 
     Search(const Search&) = delete;
     Search& operator=(const Search&) = delete;
@@ -75,18 +75,9 @@ private:
     }
 
     void finish(const std::optional<Secret>& secret) {
-        closeSession();
+        closeSession(bus_, std::exchange(session_, {}));
         const Done done = std::exchange(done_, nullptr); // The callback may destroy this search.
         done(secret);
-    }
-
-    void closeSession() {
-        if (!session_.path().isEmpty()) {
-            const Handle nobodyWaits =
-                callBus(bus_, call(session_.path(), sessionInterface, u"Close"_s),
-                        std::chrono::seconds(1), [](const QDBusMessage&) {});
-            session_ = {};
-        }
     }
 
     QDBusConnection bus_;
