@@ -116,6 +116,17 @@ void setPreferences(AppSettings& settings) {
     settings.ignoredPatterns.set({u"^IBAN [A-Z]{2}\\d+"_s, u"\\b\\d{3}-\\d{4}\\b"_s});
 }
 
+void parse(QCommandLineParser& options) {
+    options.addOptions({{u"scene"_s, u"What to show."_s, u"name"_s, u"clipboard"_s},
+                        {u"scale"_s, u"Device pixels a logical one."_s, u"factor"_s, u"1"_s},
+                        {u"screen"_s, u"How large the screen is."_s, u"size"_s},
+                        {u"language"_s, u"As in the settings."_s, u"name"_s},
+                        {u"png"_s, u"Where to write the picture."_s, u"file"_s},
+                        {u"behind"_s, u"A picture of the screen below."_s, u"file"_s},
+                        {u"time"_s, u"How many openings to time."_s, u"count"_s}});
+    options.process(*QCoreApplication::instance());
+}
+
 /// The picture, if wanted, and the rectangles.
 void write(QQuickWindow& window, const QCommandLineParser& options) {
     std::optional<Behind> behind;
@@ -140,14 +151,7 @@ int main(int argc, char** argv) {
     }
     const QGuiApplication application(argc, argv);
     QCommandLineParser options;
-    options.addOptions({{u"scene"_s, u"What to show."_s, u"name"_s, u"clipboard"_s},
-                        {u"scale"_s, u"Device pixels a logical one."_s, u"factor"_s, u"1"_s},
-                        {u"screen"_s, u"How large the screen is."_s, u"size"_s},
-                        {u"language"_s, u"As in the settings."_s, u"name"_s},
-                        {u"png"_s, u"Where to write the picture."_s, u"file"_s},
-                        {u"behind"_s, u"A picture of the screen below."_s, u"file"_s},
-                        {u"time"_s, u"How many openings to time."_s, u"count"_s}});
-    options.process(application);
+    parse(options);
     const QString scene = options.value(u"scene"_s);
     QLocale::setDefault(QLocale(u"en_US"_s));
     useLanguage(options.value(u"language"_s));

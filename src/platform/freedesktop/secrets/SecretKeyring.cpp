@@ -7,7 +7,6 @@
 #include <QDBusServiceWatcher>
 #include <QDBusVariant>
 
-#include <memory>
 #include <utility>
 
 namespace ravelo {
