@@ -1,7 +1,7 @@
 // Ravelo with a tick that never stops: the reference for measurements at rest.
 
 #include "app/AppDelegate.h"
-#include "platform/freedesktop/SingleInstance.h"
+#include "platform/freedesktop/instance/SingleInstance.h"
 
 #include <QApplication>
 #include <QProcessEnvironment>

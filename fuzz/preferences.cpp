@@ -70,14 +70,14 @@ private:
 void changeEach(AppSettings& settings) {
     settings.onLayoutChange = [] {
     };
-    settings.setBgOpacity(0.4);
-    settings.setFullBlack(!settings.fullBlack());
-    settings.setPanelWidth(700);
-    settings.setHotkeyEnabled(!settings.hotkeyEnabled());
-    settings.setLastTab(settings.lastTab() + u'x');
-    settings.setPinnedBar(!settings.pinnedBar());
-    settings.setMacType(u"notch"_s);
-    settings.setOnboarded(!settings.onboarded());
+    settings.bgOpacity.set(0.4);
+    settings.fullBlack.set(!settings.fullBlack());
+    settings.panelWidth.set(700);
+    settings.hotkeyEnabled.set(!settings.hotkeyEnabled());
+    settings.lastTab.set(settings.lastTab() + u'x');
+    settings.pinnedBar.set(!settings.pinnedBar());
+    settings.macType.set(u"notch"_s);
+    settings.onboarded.set(!settings.onboarded());
     settings.setupLoginItemDefaultIfNeeded();
 }
 

@@ -57,7 +57,6 @@
 #include <QLocale>
 #include <QStandardPaths>
 
-#include <algorithm>
 #include <cstdlib>
 #include <utility>
 

@@ -27,7 +27,7 @@ public:
 
     [[nodiscard]] SecondPlan& second() { return *second_; }
 
-    /// Keeps the panel's usage block up to date about what it does not follow itself.
+    /// Keeps the second account and whether Claude Code is installed up to date in `usage`.
     void show(Usage& usage);
 
 private:

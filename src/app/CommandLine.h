@@ -11,8 +11,8 @@ namespace ravelo {
 /// A parsed command line.
 struct Command {
     enum class Kind { showHelp, showVersion, showDetails, storeUsage, ask };
-    /// What to do if no Ravelo runs. `start` alone completes the request; what is asked
-    /// for with `readFiles` is answered from files as far as possible.
+    /// What to do if no Ravelo runs. `start`: starting it is the answer. `readFiles`: answers from
+    /// files, as far as possible.
     enum class IfNoneRuns { fail, start, startAndAsk, readFiles, erase };
 
     Kind kind = Kind::ask;

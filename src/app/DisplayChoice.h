@@ -11,7 +11,7 @@ enum class Display { x11, wayland, gnome };
 
 struct DisplayChoice {
     Display display;
-    QString reason; ///< In the middle of a sentence.
+    QString reason; ///< To stand in parentheses; see `describe`.
 };
 
 /// Which display server to use: what RAVELO_PLATFORM names, or else what there is, Wayland first.

@@ -2,8 +2,8 @@
 
 #include "app/Platform.h"
 #include "monitor/MonitorFiles.h"
-#include "platform/freedesktop/BusInstance.h"
-#include "platform/freedesktop/SecretKeyring.h"
+#include "platform/freedesktop/instance/BusInstance.h"
+#include "platform/freedesktop/secrets/SecretKeyring.h"
 #include "platform/system/DataLock.h"
 #include "platform/system/PreferenceFile.h"
 #include "vault/Conversion.h"

@@ -13,7 +13,7 @@ class Encryption;
 class SessionLock;
 class Store;
 
-/// Lets go of the key and the decrypted clips while the screen is locked, if the user wants that,
+/// Forgets the key and the decrypted clips while the screen is locked, if the user wants that,
 /// and gets the key again afterwards. Main thread.
 class KeyWhileLocked {
 public:

@@ -83,7 +83,7 @@ void StoreNotices::followSecrets() {
         }
     });
     connect(&services_.notices, &Notices::keepSecrets, this,
-            [this] { services_.settings.setForgetSecrets(AppSettings::asAnyText); });
+            [this] { services_.settings.forgetSecrets.set(AppSettings::asAnyText); });
 }
 
 void StoreNotices::followLock() {

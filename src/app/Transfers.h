@@ -58,7 +58,7 @@ private:
     void add(const StoreContents& contents, const Done& done);
 
     Services services_;
-    Handle importing_; ///< Until it is added.
+    Handle importing_; ///< Held until what was read is added.
     Handle running_;
 };
 

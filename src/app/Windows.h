@@ -23,7 +23,7 @@ class UpdateWindow;
 class Windows {
 public:
     struct Services {
-        Platform& platform; ///< Its packages are taken.
+        Platform& platform; ///< This takes over its `packages`.
         QQuickView& panel;
         Store& store;
         AppSettings& settings;

@@ -4,8 +4,8 @@
 #include "app/Erasing.h"
 #include "app/FileArguments.h"
 #include "app/StatusCommands.h"
-#include "platform/freedesktop/SingleInstance.h"
 #include "platform/freedesktop/XdgEnvironment.h"
+#include "platform/freedesktop/instance/SingleInstance.h"
 #include "platform/system/CoreDumps.h"
 #include "ui/theme/Fonts.h"
 

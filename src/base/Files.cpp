@@ -150,6 +150,12 @@ bool isFolder(const QByteArray& path) {
     return S_ISDIR(modeOf(path));
 }
 
+bool isPrivateFolder(const QByteArray& path) {
+    struct stat info = {};
+    return ::lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) &&
+           info.st_uid == ::geteuid() && (info.st_mode & (S_IRWXG | S_IRWXO)) == 0;
+}
+
 std::optional<QByteArray> readFileEnd(const QByteArray& path, qint64 max) {
     const int file = open(path.constData(), O_RDONLY | O_NONBLOCK | O_CLOEXEC | O_NOCTTY);
     if (file < 0) {

@@ -27,6 +27,9 @@ enum class Presence {
 /// Whether it is a folder or a link to one. May block for ever; any thread.
 [[nodiscard]] bool isFolder(const QByteArray& path);
 
+/// Whether it is a folder of this user, without access for anyone else. Blocks; any thread.
+[[nodiscard]] bool isPrivateFolder(const QByteArray& path);
+
 /// The last `max` bytes of a regular file, or all of a shorter one; nothing if it is missing, not a
 /// regular file or cannot be read. For files of other programs: does not wait for a writer if
 /// there is a pipe instead. `path` is in the encoding of the system. Blocks; any thread.

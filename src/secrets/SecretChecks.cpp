@@ -1,8 +1,6 @@
 #include "secrets/SecretChecks.h"
 
 #include <QByteArray>
-#include <QJsonDocument>
-#include <QJsonObject>
 #include <QStringList>
 
 #include <algorithm>

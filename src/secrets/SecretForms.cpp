@@ -112,7 +112,7 @@ bool hasForm(const QString& text, const QString& token, const SecretForm& form) 
 } // namespace
 
 const std::vector<SecretForm>& SecretForms::all() {
-    // Never destroyed: other threads look at it until the process ends.
+    // Never destroyed: other threads use it until the process ends.
     static const auto& forms = *new const std::vector<SecretForm>(parsedFile());
     return forms;
 }
@@ -133,7 +133,7 @@ const SecretForm* SecretForms::withId(const QString& id) {
 }
 
 MaskedSecret masked(const QString& text, const SecretForm& form) {
-    constexpr qsizetype shortest = 16; // With anything visible.
+    constexpr qsizetype shortest = 16; // Of a shorter secret nothing is shown.
     constexpr qsizetype visible = 4;
     const QString dots(6, u'•');
     const QString token = text.trimmed();

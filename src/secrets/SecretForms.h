@@ -12,7 +12,7 @@ namespace ravelo {
 struct SecretForm {
     /// Whether the whole text has the form, apart from white space at its ends, or a part of it.
     enum class Place { whole, anywhere };
-    /// What has to hold besides the expression.
+    /// A further condition besides the expression.
     enum class Check { none, luhn, jwt, entropy };
     /// What of the text may be visible: a few characters at both ends, the last digits, or only the
     /// form's name.

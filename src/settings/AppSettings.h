@@ -11,184 +11,165 @@ class LoginItem;
 class Preferences;
 
 /// The user's preferences, read once at construction and written when they are set. A value of the
-/// wrong type counts as absent, and so does a number that makes the panel invisible or unusable;
-/// other numbers beyond the sliders' ranges are used. Main thread only.
+/// wrong type counts as absent, and so does one that is not allowed. Main thread only.
 class AppSettings : public QObject {
     Q_OBJECT
-    Q_PROPERTY(double bgOpacity READ bgOpacity WRITE setBgOpacity NOTIFY bgOpacityChanged)
-    Q_PROPERTY(bool fullBlack READ fullBlack WRITE setFullBlack NOTIFY fullBlackChanged)
-    Q_PROPERTY(double panelWidth READ panelWidth WRITE setPanelWidth NOTIFY panelWidthChanged)
+    Q_PROPERTY(double bgOpacity READ bgOpacity WRITE bgOpacity NOTIFY bgOpacityChanged)
+    Q_PROPERTY(bool fullBlack READ fullBlack WRITE fullBlack NOTIFY fullBlackChanged)
+    Q_PROPERTY(double panelWidth READ panelWidth WRITE panelWidth NOTIFY panelWidthChanged)
     Q_PROPERTY(
-        bool hotkeyEnabled READ hotkeyEnabled WRITE setHotkeyEnabled NOTIFY hotkeyEnabledChanged)
-    Q_PROPERTY(QString lastTab READ lastTab WRITE setLastTab NOTIFY lastTabChanged)
-    Q_PROPERTY(bool pinnedBar READ pinnedBar WRITE setPinnedBar NOTIFY pinnedBarChanged)
-    Q_PROPERTY(QString macType READ macType WRITE setMacType NOTIFY macTypeChanged)
-    Q_PROPERTY(bool newestFirst READ newestFirst WRITE setNewestFirst NOTIFY newestFirstChanged)
-    Q_PROPERTY(
-        int historyLength READ historyLength WRITE setHistoryLength NOTIFY historyLengthChanged)
-    Q_PROPERTY(bool keepTextsExactly READ keepTextsExactly WRITE setKeepTextsExactly NOTIFY
+        bool hotkeyEnabled READ hotkeyEnabled WRITE hotkeyEnabled NOTIFY hotkeyEnabledChanged)
+    Q_PROPERTY(QString lastTab READ lastTab WRITE lastTab NOTIFY lastTabChanged)
+    Q_PROPERTY(bool pinnedBar READ pinnedBar WRITE pinnedBar NOTIFY pinnedBarChanged)
+    Q_PROPERTY(QString macType READ macType WRITE macType NOTIFY macTypeChanged)
+    Q_PROPERTY(bool newestFirst READ newestFirst WRITE newestFirst NOTIFY newestFirstChanged)
+    Q_PROPERTY(int historyLength READ historyLength WRITE historyLength NOTIFY historyLengthChanged)
+    Q_PROPERTY(bool keepTextsExactly READ keepTextsExactly WRITE keepTextsExactly NOTIFY
                    keepTextsExactlyChanged)
-    Q_PROPERTY(int keepDays READ keepDays WRITE setKeepDays NOTIFY keepDaysChanged)
-    Q_PROPERTY(int textLimit READ textLimit WRITE setTextLimit NOTIFY textLimitChanged)
-    Q_PROPERTY(int imageLimit READ imageLimit WRITE setImageLimit NOTIFY imageLimitChanged)
-    Q_PROPERTY(bool forgetKeyWhileLocked READ forgetKeyWhileLocked WRITE setForgetKeyWhileLocked
-                   NOTIFY forgetKeyWhileLockedChanged)
-    Q_PROPERTY(QStringList ignoredPrograms READ ignoredPrograms WRITE setIgnoredPrograms NOTIFY
+    Q_PROPERTY(int keepDays READ keepDays WRITE keepDays NOTIFY keepDaysChanged)
+    Q_PROPERTY(int textLimit READ textLimit WRITE textLimit NOTIFY textLimitChanged)
+    Q_PROPERTY(int imageLimit READ imageLimit WRITE imageLimit NOTIFY imageLimitChanged)
+    Q_PROPERTY(bool forgetKeyWhileLocked READ forgetKeyWhileLocked WRITE forgetKeyWhileLocked NOTIFY
+                   forgetKeyWhileLockedChanged)
+    Q_PROPERTY(QStringList ignoredPrograms READ ignoredPrograms WRITE ignoredPrograms NOTIFY
                    ignoredProgramsChanged)
-    Q_PROPERTY(QStringList ignoredPatterns READ ignoredPatterns WRITE setIgnoredPatterns NOTIFY
+    Q_PROPERTY(QStringList ignoredPatterns READ ignoredPatterns WRITE ignoredPatterns NOTIFY
                    ignoredPatternsChanged)
-    Q_PROPERTY(
-        int forgetSecrets READ forgetSecrets WRITE setForgetSecrets NOTIFY forgetSecretsChanged)
-    Q_PROPERTY(bool keyLikeWords READ keyLikeWords WRITE setKeyLikeWords NOTIFY keyLikeWordsChanged)
-    Q_PROPERTY(bool keepSelectedText READ keepSelectedText WRITE setKeepSelectedText NOTIFY
+    Q_PROPERTY(int forgetSecrets READ forgetSecrets WRITE forgetSecrets NOTIFY forgetSecretsChanged)
+    Q_PROPERTY(bool keyLikeWords READ keyLikeWords WRITE keyLikeWords NOTIFY keyLikeWordsChanged)
+    Q_PROPERTY(bool keepSelectedText READ keepSelectedText WRITE keepSelectedText NOTIFY
                    keepSelectedTextChanged)
-    Q_PROPERTY(QString shortcut READ shortcut WRITE setShortcut NOTIFY shortcutChanged)
-    Q_PROPERTY(bool returnPastes READ returnPastes WRITE setReturnPastes NOTIFY returnPastesChanged)
-    Q_PROPERTY(QString joinWith READ joinWith WRITE setJoinWith NOTIFY joinWithChanged)
-    Q_PROPERTY(bool showOrigins READ showOrigins WRITE setShowOrigins NOTIFY showOriginsChanged)
-    Q_PROPERTY(bool hideClaudeCode READ hideClaudeCode WRITE setHideClaudeCode NOTIFY
-                   hideClaudeCodeChanged)
+    Q_PROPERTY(QString shortcut READ shortcut WRITE shortcut NOTIFY shortcutChanged)
+    Q_PROPERTY(bool returnPastes READ returnPastes WRITE returnPastes NOTIFY returnPastesChanged)
+    Q_PROPERTY(QString joinWith READ joinWith WRITE joinWith NOTIFY joinWithChanged)
+    Q_PROPERTY(bool showOrigins READ showOrigins WRITE showOrigins NOTIFY showOriginsChanged)
     Q_PROPERTY(
-        bool showPeakHours READ showPeakHours WRITE setShowPeakHours NOTIFY showPeakHoursChanged)
-    Q_PROPERTY(bool keepSession READ keepSession WRITE setKeepSession NOTIFY keepSessionChanged)
-    Q_PROPERTY(bool handedOverFirst READ handedOverFirst WRITE setHandedOverFirst NOTIFY
+        bool hideClaudeCode READ hideClaudeCode WRITE hideClaudeCode NOTIFY hideClaudeCodeChanged)
+    Q_PROPERTY(
+        bool showPeakHours READ showPeakHours WRITE showPeakHours NOTIFY showPeakHoursChanged)
+    Q_PROPERTY(bool keepSession READ keepSession WRITE keepSession NOTIFY keepSessionChanged)
+    Q_PROPERTY(bool handedOverFirst READ handedOverFirst WRITE handedOverFirst NOTIFY
                    handedOverFirstChanged)
-    Q_PROPERTY(bool notifyTimer READ notifyTimer WRITE setNotifyTimer NOTIFY notifyTimerChanged)
-    Q_PROPERTY(bool notifyFiles READ notifyFiles WRITE setNotifyFiles NOTIFY notifyFilesChanged)
-    Q_PROPERTY(bool notifySaving READ notifySaving WRITE setNotifySaving NOTIFY notifySavingChanged)
-    Q_PROPERTY(bool notifyPlan READ notifyPlan WRITE setNotifyPlan NOTIFY notifyPlanChanged)
-    Q_PROPERTY(QString language READ language WRITE setLanguage NOTIFY languageChanged)
     Q_PROPERTY(
-        QString secondAccount READ secondAccount WRITE setSecondAccount NOTIFY secondAccountChanged)
-    Q_PROPERTY(bool onboarded READ onboarded WRITE setOnboarded NOTIFY onboardedChanged)
+        QString secondAccount READ secondAccount WRITE secondAccount NOTIFY secondAccountChanged)
+    Q_PROPERTY(bool notifyTimer READ notifyTimer WRITE notifyTimer NOTIFY notifyTimerChanged)
+    Q_PROPERTY(bool notifyFiles READ notifyFiles WRITE notifyFiles NOTIFY notifyFilesChanged)
+    Q_PROPERTY(bool notifySaving READ notifySaving WRITE notifySaving NOTIFY notifySavingChanged)
+    Q_PROPERTY(bool notifyPlan READ notifyPlan WRITE notifyPlan NOTIFY notifyPlanChanged)
+    Q_PROPERTY(QString language READ language WRITE language NOTIFY languageChanged)
+    Q_PROPERTY(bool onboarded READ onboarded WRITE onboarded NOTIFY onboardedChanged)
     Q_PROPERTY(
         bool launchAtLogin READ launchAtLogin WRITE setLaunchAtLogin NOTIFY launchAtLoginChanged)
+
+    Preferences& preferences_;
+    LoginItem& loginItem_;
 
 public:
     static constexpr int neverKept = 0;
     static constexpr int asAnyText = -1;
 
+    enum class Kept { always, untilTheEnd };
+
+    /// One preference. Code calls `setting()` and `setting.set(value)`; Qt's property system reads
+    /// it as `setting()` and writes it as `setting(value)`.
+    template <typename T>
+    class Setting {
+    public:
+        using Changed = void (AppSettings::*)();
+        using Allowed = bool (*)(const T&);
+
+        /// Without a value, or with one that is not `allowed`, it is `standard`. `changed` is
+        /// emitted once it is written. `Kept::untilTheEnd`: it is never written.
+        Setting(AppSettings& settings, QString key, T standard, Changed changed,
+                Allowed allowed = nullptr, Kept kept = Kept::always);
+        Setting(const Setting&) = delete;
+        Setting& operator=(const Setting&) = delete;
+
+        [[nodiscard]] const T& operator()() const { return value_; }
+
+        void operator()(const T& value) { set(value); }
+
+        void set(const T& value);
+
+    private:
+        [[nodiscard]] const T& effective(const T& value) const;
+
+        AppSettings& settings_;
+        const QString key_;
+        const T standard_;
+        const Changed changed_;
+        const Allowed allowed_;
+        const Kept kept_;
+        T value_;
+    };
+
     AppSettings(Preferences& preferences, LoginItem& loginItem);
 
-    [[nodiscard]] double bgOpacity() const;
-    [[nodiscard]] bool fullBlack() const;
-    [[nodiscard]] double panelWidth() const; ///< Logical pixels.
-    [[nodiscard]] bool hotkeyEnabled() const;
-    [[nodiscard]] QString lastTab() const;
-    [[nodiscard]] bool pinnedBar() const;
+    Setting<double> bgOpacity;
+    Setting<bool> fullBlack;
+    Setting<double> panelWidth; ///< Logical pixels.
+    Setting<bool> hotkeyEnabled;
+    Setting<QString> lastTab;
+    Setting<bool> pinnedBar;
     /// "auto", "notch" or "none"; other texts count as "auto".
-    [[nodiscard]] QString macType() const;
+    Setting<QString> macType;
     /// Newer clips come first, also after a pin.
-    [[nodiscard]] bool newestFirst() const;
-    /// How many unpinned clips are kept: 60, 200 or 1,000. Any other number counts as absent.
-    [[nodiscard]] int historyLength() const;
+    Setting<bool> newestFirst;
+    /// How many unpinned clips are kept: 60, 200 or 1,000.
+    Setting<int> historyLength;
     /// Copied texts keep white space at their ends.
-    [[nodiscard]] bool keepTextsExactly() const;
-    /// How long unpinned clips are kept: 30, 7 or 1; 0 for ever. Any other number counts as absent.
-    [[nodiscard]] int keepDays() const;
+    Setting<bool> keepTextsExactly;
+    /// How long unpinned clips are kept: 30, 7 or 1; 0 for ever.
+    Setting<int> keepDays;
     /// Of all texts and of all images together, in MB; 0 for none.
-    [[nodiscard]] int textLimit() const;
-    [[nodiscard]] int imageLimit() const;
+    Setting<int> textLimit;
+    Setting<int> imageLimit;
     /// Of the encrypted store, while the screen is locked.
-    [[nodiscard]] bool forgetKeyWhileLocked() const;
-
+    Setting<bool> forgetKeyWhileLocked;
     /// Copies from programs with these names are not captured.
-    [[nodiscard]] const QStringList& ignoredPrograms() const { return ignoredPrograms_; }
-
+    Setting<QStringList> ignoredPrograms;
     /// Nor are texts that match one of these expressions.
-    [[nodiscard]] const QStringList& ignoredPatterns() const { return ignoredPatterns_; }
-
-    /// When secrets are forgotten: after 1, 10 or 60 minutes, `neverKept` or `asAnyText`. Any other
-    /// number counts as absent.
-    [[nodiscard]] int forgetSecrets() const { return forgetSecrets_; }
-
+    Setting<QStringList> ignoredPatterns;
+    /// When secrets are forgotten: after 1, 10 or 60 minutes, `neverKept` or `asAnyText`.
+    Setting<int> forgetSecrets;
     /// Single words that look like keys count as secrets.
-    [[nodiscard]] bool keyLikeWords() const { return keyLikeWords_; }
-
+    Setting<bool> keyLikeWords;
     /// Selected text, too, is captured.
-    [[nodiscard]] bool keepSelectedText() const { return keepSelectedText_; }
-
+    Setting<bool> keepSelectedText;
     /// The keys that open the panel from anywhere, see KeyCombination; empty for none.
-    [[nodiscard]] const QString& shortcut() const { return shortcut_; }
-
+    Setting<QString> shortcut;
     /// Return pastes at once, and Shift+Return only copies; otherwise it is the other way round.
-    [[nodiscard]] bool returnPastes() const { return returnPastes_; }
-
+    Setting<bool> returnPastes;
     /// What several clips are joined by: "line", "space", "comma" or "nothing"; other texts count
     /// as "line".
-    [[nodiscard]] const QString& joinWith() const { return joinWith_; }
-
+    Setting<QString> joinWith;
     /// Clips show the program they were copied from, and the size of images and files.
-    [[nodiscard]] bool showOrigins() const { return showOrigins_; }
-
+    Setting<bool> showOrigins;
     /// Hides Claude Code's usage if it is not installed.
-    [[nodiscard]] bool hideClaudeCode() const;
-
+    Setting<bool> hideClaudeCode;
     /// Peak hours are shown beside the session.
-    [[nodiscard]] bool showPeakHours() const { return showPeakHours_; }
-
+    Setting<bool> showPeakHours;
     /// Stay with the session that wrote last until it has been quiet for a minute.
-    [[nodiscard]] bool keepSession() const { return keepSession_; }
-
+    Setting<bool> keepSession;
     /// Show what Claude Code hands to its status line instead of what its transcripts say.
-    [[nodiscard]] bool handedOverFirst() const { return handedOverFirst_; }
-
+    Setting<bool> handedOverFirst;
     /// Claude Code's folder of a second account; empty if there is none.
-    [[nodiscard]] const QString& secondAccount() const { return secondAccount_; }
-
+    Setting<QString> secondAccount;
     /// Desktop notifications when the timer ends, ...
-    [[nodiscard]] bool notifyTimer() const { return notifyTimer_; }
-
+    Setting<bool> notifyTimer;
     /// ... when files were received, ...
-    [[nodiscard]] bool notifyFiles() const { return notifyFiles_; }
-
+    Setting<bool> notifyFiles;
     /// ... when saving fails, ...
-    [[nodiscard]] bool notifySaving() const { return notifySaving_; }
-
+    Setting<bool> notifySaving;
     /// ... and when the plan reaches a threshold or is reset.
-    [[nodiscard]] bool notifyPlan() const { return notifyPlan_; }
-
+    Setting<bool> notifyPlan;
     /// Of all texts, from the next start on: "en", "pt_BR" or "de"; empty for the texts as they
-    /// are. Anything else counts as absent.
-    [[nodiscard]] const QString& language() const { return language_; }
+    /// are.
+    Setting<QString> language;
+    Setting<bool> onboarded;
 
-    [[nodiscard]] bool onboarded() const;
-    [[nodiscard]] bool launchAtLogin() const;
+    [[nodiscard]] bool launchAtLogin() const { return launchAtLogin_; }
 
-    void setBgOpacity(double opacity);
-    void setFullBlack(bool on);
-    void setPanelWidth(double width);
-    void setHotkeyEnabled(bool on); ///< Until the program ends: not written back.
-    void setLastTab(const QString& tab);
-    void setPinnedBar(bool on); ///< Until the program ends: not written back.
-    void setMacType(const QString& type);
-    void setNewestFirst(bool on);
-    void setHistoryLength(int clips);
-    void setKeepTextsExactly(bool on);
-    void setKeepDays(int days);
-    void setTextLimit(int megabytes);
-    void setImageLimit(int megabytes);
-    void setForgetKeyWhileLocked(bool on);
-    void setIgnoredPrograms(const QStringList& names);
-    void setIgnoredPatterns(const QStringList& expressions);
-    void setForgetSecrets(int minutes);
-    void setKeyLikeWords(bool on);
-    void setKeepSelectedText(bool on);
-    void setShortcut(const QString& keys);
-    void setReturnPastes(bool on);
-    void setJoinWith(const QString& how);
-    void setShowOrigins(bool on);
-    void setHideClaudeCode(bool on);
-    void setShowPeakHours(bool on);
-    void setKeepSession(bool on);
-    void setHandedOverFirst(bool on);
-    void setNotifyTimer(bool on);
-    void setNotifyFiles(bool on);
-    void setNotifySaving(bool on);
-    void setNotifyPlan(bool on);
-    void setLanguage(const QString& language);
-    void setSecondAccount(const QString& folder);
-    void setOnboarded(bool done);
     void setLaunchAtLogin(bool on); ///< Registers or unregisters at each call.
 
     /// Reads the state again: desktops have settings for it, too.
@@ -229,57 +210,18 @@ Q_SIGNALS:
     void showPeakHoursChanged();
     void keepSessionChanged();
     void handedOverFirstChanged();
+    void secondAccountChanged();
     void notifyTimerChanged();
     void notifyFilesChanged();
     void notifySavingChanged();
     void notifyPlanChanged();
     void languageChanged();
-    void secondAccountChanged();
     void onboardedChanged();
     void launchAtLoginChanged();
 
 private:
-    template <typename T>
-    bool change(T& field, const T& value, void (AppSettings::*changed)());
+    void showLaunchAtLogin(bool on);
 
-    void applyLogin();
-
-    Preferences& preferences_;
-    LoginItem& loginItem_;
-    double bgOpacity_;
-    bool fullBlack_;
-    double panelWidth_;
-    bool hotkeyEnabled_;
-    QString lastTab_;
-    bool pinnedBar_;
-    QString macType_;
-    bool newestFirst_;
-    int historyLength_;
-    bool keepTextsExactly_;
-    int keepDays_;
-    int textLimit_;
-    int imageLimit_;
-    bool forgetKeyWhileLocked_;
-    QStringList ignoredPrograms_;
-    QStringList ignoredPatterns_;
-    int forgetSecrets_;
-    bool keyLikeWords_;
-    bool keepSelectedText_;
-    QString shortcut_;
-    bool returnPastes_;
-    QString joinWith_;
-    bool showOrigins_;
-    bool hideClaudeCode_;
-    bool showPeakHours_;
-    bool keepSession_;
-    bool handedOverFirst_;
-    bool notifyTimer_;
-    bool notifyFiles_;
-    bool notifySaving_;
-    bool notifyPlan_;
-    QString language_;
-    QString secondAccount_;
-    bool onboarded_;
     bool launchAtLogin_;
 };
 

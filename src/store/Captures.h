@@ -37,7 +37,7 @@ public:
 
     explicit Captures(Services services) : services_(services) {}
 
-    /// Nothing is on its way.
+    /// No capture is in progress.
     [[nodiscard]] bool isEmpty() const { return waiting_.empty() && *working_ == 0; }
 
     /// Reads the file at `path`, unless that is empty, as `readCopiedFile` does, then does the
@@ -56,7 +56,7 @@ private:
 
     struct Capture {
         Work work;
-        std::optional<CopiedContents> file; ///< Once it is read or given up.
+        std::optional<CopiedContents> file; ///< Set once it is read or given up.
         Handle reading;
         std::shared_ptr<Conversion> conversion; ///< Once started.
         Handle converting;

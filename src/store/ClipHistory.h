@@ -23,7 +23,7 @@ struct HistoryRules {
     int limit = 60;     ///< Of unpinned clips; pinned ones are always kept.
     double keepFor = 0; ///< Seconds since the copy; 0 for ever.
     /// Of all texts together, in UTF-8, or of all images; 0 for no limit. What is kept beside a
-    /// clip counts with it.
+    /// clip counts, too.
     qint64 textBytes = 0;
     qint64 imageBytes = 0;
 
@@ -49,7 +49,7 @@ struct ClipHistory {
     pinToggled(QList<ClipItem> clips, const QUuid& id,
                HistoryRules::Order order = HistoryRules::Order::olderFirst);
 
-    /// Makes secrets ordinary clips: all for which `isMeant` holds.
+    /// Makes those secrets ordinary clips for which `isMeant` returns true.
     [[nodiscard]] static std::optional<ClipChange>
     secretsKept(QList<ClipItem> clips, const std::function<bool(const ClipItem&)>& isMeant);
 

@@ -85,7 +85,7 @@ public:
     struct Restorable {
         QList<DeletedRecord> records; ///< In the order to put them back.
         QString problem;              ///< Why not all; for the user.
-        bool someStay = false;        ///< Some images could not be written: worth a retry.
+        bool someStay = false;        ///< Some images could not be written; a retry may succeed.
     };
 
     /// Returns the records whose images are written to `folder` again; the others stay.

@@ -16,10 +16,10 @@ public:
     Forgetting(Scheduler& scheduler, std::function<void(const QList<QUuid>&)> forget)
         : scheduler_(scheduler), forget_(std::move(forget)) {}
 
-    /// Applies from the next `follow`. Nothing: secrets stay as long as the program runs.
+    /// Applies from the next `follow`. Without it, secrets stay as long as the program runs.
     void setAfter(std::optional<Seconds> after) { after_ = after; }
 
-    /// Until that clip is forgotten; nothing if it is not.
+    /// The time left until that clip is forgotten; nothing if it never is.
     [[nodiscard]] std::optional<Seconds> left(const ClipItem& clip) const;
 
     /// To be called when the clips or the time have changed.

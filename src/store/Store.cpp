@@ -16,7 +16,6 @@
 #include "vault/Vault.h"
 
 #include <QDir>
-#include <QFile>
 #include <QFileInfo>
 #include <QPointer>
 

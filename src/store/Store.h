@@ -68,10 +68,10 @@ public:
     /// The files of the store.
     [[nodiscard]] const std::shared_ptr<Vault>& vault() const { return services_.vault; }
 
-    /// It is encrypted and its key is not here: only what came since then is there, sealed.
+    /// It is encrypted and its key is not available: only what was added since is here.
     [[nodiscard]] bool isLocked() const { return locked_; }
 
-    /// The vault was opened: reads what is stored, later, and adds what came meanwhile.
+    /// The vault was opened: reads what is stored, later, and adds what was copied meanwhile.
     void unlock();
 
     /// Once everything is saved, drops all of it from memory and calls `dropped`, which closes the
@@ -82,7 +82,7 @@ public:
     /// with the first failure. Copies are not kept from now on, unless it fails.
     void erase(std::function<void(const Result<void>&)> done);
 
-    /// Something else could not be erased, so the program keeps running.
+    /// For a program that keeps running after `erase`, because something else was not erased.
     void captureAgain() { erased_ = false; }
 
     [[nodiscard]] const QList<ClipItem>& clips() const;
@@ -117,7 +117,7 @@ public:
         enum class Cause { undecodable, tooLarge, unwritable };
 
         Cause cause;
-        std::optional<TooLarge> tooLarge; ///< Of that cause.
+        std::optional<TooLarge> tooLarge; ///< Set if that is the cause.
     };
 
     /// Called if an image is not kept. Never called after the history was cleared.
@@ -141,17 +141,17 @@ public:
     [[nodiscard]] bool hasForms(const QUuid& clip) const;
     [[nodiscard]] QString formsPath(const QUuid& clip) const;
 
-    /// As far as it is known: of what was copied since the start, and what was looked up.
+    /// What is known: clips copied since the start, and those looked up.
     [[nodiscard]] ClipDetails detailsOf(const QUuid& clip) const { return details_.value(clip); }
 
     /// Looks up what is not known yet, of all clips or of one; then `detailsChanged` is emitted.
     /// One lookup at a time; what is asked for meanwhile is looked up after it.
     void lookUpDetails(const QUuid& only = {});
 
-    /// How long after copying secrets are forgotten; nothing for not at all. Applies at once.
+    /// How long after copying secrets are forgotten; nothing for never. Applies at once.
     void setForgetAfter(std::optional<Seconds> after);
 
-    /// Until a secret is forgotten.
+    /// The time left until a secret is forgotten.
     [[nodiscard]] std::optional<Seconds> untilForgotten(const ClipItem& clip) const {
         return forgetting_.left(clip);
     }
@@ -219,7 +219,7 @@ public:
     void toggleSelectStack(const QList<QUrl>& stack);
     Q_INVOKABLE void clearSelection();
 
-    /// Increases each time the shelf is to be shown.
+    /// Increases with each `requestShelf`.
     [[nodiscard]] int shelfRequestTick() const { return shelfRequestTick_; }
 
     void requestShelf();
@@ -263,14 +263,14 @@ public:
 
 Q_SIGNALS:
     void saveEnded(const ravelo::SaveOutcome& outcome);
-    /// Files of deleted records were removed from the disk, or not: for the user; empty if so.
+    /// Why files of deleted records were not removed, for the user; empty if they were.
     void removalEnded(const QString& problem);
     void lockedChanged();
     void detailsChanged();
     void cleared(); ///< Also cancels copies that are still being read.
     void clipsChanged();
     void snippetsChanged();
-    void noteChanged(); ///< Either of them.
+    void noteChanged(); ///< The first or the second note.
     void drawingChanged();
     void shelfChanged();
     void shelfRequestTickChanged();
@@ -316,13 +316,13 @@ private:
     bool erased_ = false;
     HistoryRules rules_;
     FileSizes fileSizes_;
-    bool sizesKnown_ = false; ///< Those of files from earlier runs.
+    bool sizesKnown_ = false; ///< The sizes of files from earlier runs.
     int measurings_ = 0;      ///< Only the last one counts.
     QHash<QUuid, ClipDetails> details_;
     Handle lookingUp_;
     std::optional<QUuid> lookUpNext_;               ///< Null for all.
     int keepingFiles_ = 0;                          ///< Handles of `keepFiles`.
-    bool leftoversAsked_ = false;                   ///< Once there are none.
+    bool leftoversAsked_ = false;                   ///< To be removed once it is 0.
     QSet<QString> lentImages_;                      ///< On their way to a clip or a snippet.
     QStringList waitingFiles_;                      ///< To be removed after the next save.
     std::function<void()> dropped_;                 ///< Set while a lock waits for a save.

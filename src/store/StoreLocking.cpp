@@ -11,7 +11,6 @@
 #include "vault/Vault.h"
 
 #include <QCoreApplication>
-#include <QFile>
 #include <QFileInfo>
 #include <QPointer>
 

@@ -34,12 +34,12 @@ public:
     /// Drops what is pending, and saves nothing more.
     void stop();
 
-    /// Nothing is pending or has failed.
+    /// Everything is saved.
     [[nodiscard]] bool isSaved() const { return !unsaved_ && !retry_ && writing_ == 0; }
 
     void save();
 
-    /// Does not wait for the end of a burst.
+    /// Saves without waiting for the end of a burst of changes.
     void saveNow();
 
     /// Writes what is pending or failed, and waits until the worker has nothing left to do.
@@ -59,7 +59,7 @@ private:
     QString path_;
     std::shared_ptr<OwnFile> file_; ///< Used by the worker only; null once stopped.
     std::optional<StoreContents> unsaved_;
-    int writing_ = 0; ///< Saves that the worker has.
+    int writing_ = 0; ///< Saves given to the worker.
     Handle pending_;
     Handle retry_;
 };

@@ -127,7 +127,7 @@ Names renewIds(StoreData& data) {
     for (ClipItem& clip : data.clips) {
         const QString before = formsFileName(clip.id);
         clip.id = QUuid::createUuid();
-        if (!forms.contains(before)) { // Nobody gets what belongs to another.
+        if (!forms.contains(before)) { // Of clips with the same id only the first has them.
             forms.insert(before, formsFileName(clip.id));
         }
     }

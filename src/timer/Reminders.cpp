@@ -5,8 +5,6 @@
 #include <QJsonArray>
 #include <QTextBoundaryFinder>
 
-#include <algorithm>
-
 namespace ravelo {
 
 using namespace Qt::StringLiterals;

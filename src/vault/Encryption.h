@@ -44,12 +44,12 @@ public:
 
     /// All outlive this.
     struct Services {
-        DetachedJobs& jobs; ///< For what a passphrase costs.
+        DetachedJobs& jobs; ///< To derive keys from passphrases.
         Worker& worker;
         Keyring& keyring;
         std::shared_ptr<Vault> vault;
         OwnFile::Permission mayWrite = {};
-        /// After the key file appeared or went; on the worker.
+        /// Called on the worker after the key file was created or removed.
         std::function<void()> keyFileChanged = {};
         KeyFile::Cost cost = {};
     };
@@ -57,7 +57,7 @@ public:
     explicit Encryption(Services services);
     ~Encryption() override;
 
-    /// Gets the key, if it can without the user.
+    /// Gets the key, if that is possible without asking the user.
     void start();
 
     [[nodiscard]] State state() const { return state_; }
@@ -68,23 +68,23 @@ public:
 
     [[nodiscard]] bool isByPassphrase() const;
 
-    /// Something was asked for and is not done yet.
+    /// A change is in progress.
     [[nodiscard]] bool isBusy() const { return busy_; }
 
     /// As far as known; see `look`.
     [[nodiscard]] bool hasKeyring() const { return hasKeyring_; }
 
-    /// Why the last wish was not fulfilled, for the user; empty if it was.
+    /// Why the last change failed, for the user; empty if it succeeded.
     [[nodiscard]] const QString& problem() const { return problem_; }
 
     /// Asks whether there is a keyring.
     Q_INVOKABLE void look();
 
-    /// Lets the keyring ask the user, if it is locked, and asks it again.
+    /// Lets a locked keyring ask the user to unlock it, then gets the key from it.
     Q_INVOKABLE void unlock();
     void tryPassphrase(LockedBytes passphrase);
 
-    /// Turns encryption on, or changes who has the key.
+    /// Turns encryption on, or changes what guards the key.
     Q_INVOKABLE void useKeyring();
     void usePassphrase(LockedBytes passphrase);
     Q_INVOKABLE void turnOff();
@@ -99,7 +99,7 @@ public:
 
 Q_SIGNALS:
     void changed();
-    void opened(); ///< The key is there; also if that was the user's first wish for it.
+    void opened(); ///< The key is available, also after turning encryption on.
 
 private:
     using Guard = KeyFile::Guard;

@@ -24,7 +24,7 @@ namespace ravelo {
 ///     32        keyed BLAKE2b of all before it, with a key that follows from the store's
 struct KeyFile {
     enum class Guard : quint8 { keyring = 1, passphrase = 2 };
-    /// What is done with files that are otherwise.
+    /// What all files are converted to.
     enum class Goal : quint8 { encrypted = 1, plain = 2 };
 
     struct Cost {
@@ -56,7 +56,7 @@ struct KeyFile {
 
     /// Sets the wrapped key and the tag. `wrapper` has `wrapperLength` bytes.
     void wrap(const StoreKey& key, const LockedBytes& wrapper);
-    /// Nothing if it is the wrong wrapper or the file was changed.
+    /// Nothing if the wrapper is wrong or the file was changed.
     [[nodiscard]] std::optional<StoreKey> unwrap(const LockedBytes& wrapper) const;
 
     void setGoal(Goal to, const StoreKey& key);
@@ -67,7 +67,7 @@ struct KeyFile {
 
     static constexpr size_t wrapperLength = 32;
 
-    /// Under which the keyring has it.
+    /// The name of the wrapper in the keyring.
     [[nodiscard]] QString service() const;
 };
 

@@ -24,7 +24,7 @@ public:
         open
     };
 
-    /// Why there is no key file to ask a key for.
+    /// Why no key can open the store.
     enum class Trouble {
         none,
         newer,   ///< Written by a later version.
@@ -49,7 +49,7 @@ public:
     void open(const KeyFile& file, std::shared_ptr<const StoreKey> key);
     /// Forgets the key.
     void lock();
-    /// There is no key any more.
+    /// Encryption was turned off: there is no key any more.
     void leave();
 
     struct Contents {
@@ -81,10 +81,10 @@ public:
     [[nodiscard]] Result<void> write(const QString& path, const QByteArray& bytes,
                                      const OwnFile::Permission& mayWrite) const;
 
-    /// Runs `job` while nobody writes: what is written later is as the vault wants it now.
+    /// Runs `job` while nobody writes; later writes use the vault's present state.
     void whileNobodyWrites(const std::function<void()>& job) const;
 
-    /// Whether a file that starts like this is already as `sealed` would make it.
+    /// Whether a file of this form is already as `sealed` would make it.
     [[nodiscard]] bool isAsWanted(FileForm form) const;
 
 private:
@@ -97,7 +97,7 @@ private:
     Trouble trouble_ = Trouble::none;
     std::optional<KeyFile> file_;
     std::shared_ptr<const StoreKey> key_;
-    /// Files of clips that were sealed for later, which we could not read ourselves. By name.
+    /// Clips' files sealed while locked, by name: without the key we cannot read them back.
     mutable QCache<QString, QByteArray> kept_;
 };
 

@@ -31,10 +31,10 @@ protected:
     }
 
     void turnAllOn() {
-        settings_.setNotifyTimer(true);
-        settings_.setNotifyFiles(true);
-        settings_.setNotifySaving(true);
-        settings_.setNotifyPlan(true);
+        settings_.notifyTimer.set(true);
+        settings_.notifyFiles.set(true);
+        settings_.notifySaving.set(true);
+        settings_.notifyPlan.set(true);
     }
 
     void everythingHappens() {
@@ -104,7 +104,7 @@ TEST_F(DesktopNoticesTest, showAFailureLaterIfItMayNotBeShownAtOnce) {
     const QStringList failure{u"Saving fails"_s};
     locked_ = true;
     notices_.saveFailed(Notices::Source::store, u"the disk is full"_s, Notices::Retry::no);
-    settings_.setNotifySaving(true);
+    settings_.notifySaving.set(true);
     EXPECT_EQ(notifier_.titles(), QStringList()) << "the screen is locked";
     locked_ = false;
     desktop_->screenUnlocked();
@@ -112,11 +112,11 @@ TEST_F(DesktopNoticesTest, showAFailureLaterIfItMayNotBeShownAtOnce) {
     desktop_->screenUnlocked();
     EXPECT_EQ(notifier_.titles(), QStringList()) << "once";
 
-    settings_.setNotifySaving(false);
+    settings_.notifySaving.set(false);
     notices_.saved(Notices::Source::store);
     notices_.saveFailed(Notices::Source::store, u"the disk is full"_s, Notices::Retry::no);
     EXPECT_EQ(notifier_.titles(), QStringList()) << "turned off";
-    settings_.setNotifySaving(true);
+    settings_.notifySaving.set(true);
     EXPECT_EQ(notifier_.titles(), failure) << "turned on while saving fails";
 }
 
@@ -168,10 +168,10 @@ TEST_F(DesktopNoticesTest, followThePlan) {
     EXPECT_EQ(after(window(99, 9)),
               QStringList({u"5h session was reset"_s, u"5h session: 99% used"_s}));
     EXPECT_EQ(after(window(3, 9)), QStringList{u"5h session was reset"_s}) << "early";
-    settings_.setNotifyPlan(false);
+    settings_.notifyPlan.set(false);
     EXPECT_EQ(after(window(99, 9)), QStringList());
     EXPECT_EQ(after(window(1, 9)), QStringList());
-    settings_.setNotifyPlan(true);
+    settings_.notifyPlan.set(true);
     EXPECT_EQ(notifier_.titles(), QStringList());
 }
 

@@ -123,7 +123,7 @@ TEST(NotchController, followsScreensWhileCollapsedAndWhileOpen) {
 TEST(NotchController, aNewWidthCountsFromTheNextOpening) {
     PanelWorld world;
     world.moveTo(720, 5);
-    world.settings.setPanelWidth(700);
+    world.settings.panelWidth.set(700);
     world.scheduler.advance(Seconds(1));
     EXPECT_EQ(world.window.size, QSizeF(927, 560));
     world.controller.collapse();
@@ -226,7 +226,7 @@ TEST(NotchController, showsABarWhileATimerRunsOrRemindersAreShown) {
     world.settings.onLayoutChange = [&] {
         world.controller.positionCollapsed();
     };
-    world.settings.setMacType(u"notch"_s);
+    world.settings.macType.set(u"notch"_s);
     EXPECT_EQ(world.window.size, QSizeF(640, 28));
     EXPECT_EQ(world.controller.notch(), 200);
     world.moveTo(410, 20);

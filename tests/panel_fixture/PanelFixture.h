@@ -116,7 +116,7 @@ public:
     }
 
     void openTab(const QString& key) {
-        world.settings.setLastTab(key);
+        world.settings.lastTab.set(key);
         rebuild();
         open();
     }

@@ -6,8 +6,6 @@
 #include "support/TestFiles.h"
 #include "vault/Vault.h"
 
-#include <QBuffer>
-
 namespace ravelo {
 
 using namespace Qt::StringLiterals;

@@ -232,6 +232,18 @@ class Desktop(contextlib.AbstractContextManager):
         # Not the machine's own: one of the buttons shuts it down.
         self.env["DBUS_SYSTEM_BUS_ADDRESS"] = f"unix:path={socket}"
 
+    def provide_assistance(self):
+        """Starts the accessibility bus, for programs started later."""
+        del self.env["NO_AT_BRIDGE"]
+        self.env["QT_LINUX_ACCESSIBILITY_ALWAYS_ON"] = "1"
+        launcher = self.spawn("/usr/libexec/at-spi-bus-launcher", "--launch-immediately",
+                              stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
+                              start_new_session=True)
+        self._cleanup.callback(os.killpg, launcher.pid, signal.SIGKILL)  # It has a bus of its own.
+        wait_for(lambda: "org.a11y.Bus" in self.run(
+            "gdbus", "call", "--session", "--dest", "org.freedesktop.DBus", "--object-path", "/",
+            "--method", "org.freedesktop.DBus.ListNames"), "the launcher on the bus")
+
     def bus(self):
         """A new connection to the session bus."""
         return Gio.DBusConnection.new_for_address_sync(

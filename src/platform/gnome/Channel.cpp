@@ -13,7 +13,6 @@
 #include <utility>
 
 #include <sys/socket.h>
-#include <sys/stat.h>
 #include <sys/un.h>
 #include <unistd.h>
 
@@ -27,12 +26,6 @@ constexpr std::size_t maxGuests = 16;
 constexpr int maxDescriptorsAtOnce = 16;
 constexpr qsizetype maxOutgoing = 32 << 20; ///< A text, escaped.
 constexpr int busTimeout = 2000;            ///< Milliseconds.
-
-bool isPrivateFolder(const QByteArray& path) {
-    struct stat info = {};
-    return ::lstat(path.constData(), &info) == 0 && S_ISDIR(info.st_mode) &&
-           info.st_uid == ::geteuid() && (info.st_mode & (S_IRWXG | S_IRWXO)) == 0;
-}
 
 Result<Descriptor> listeningSocket(const QString& path) {
     const QString folder = QFileInfo(path).path();

@@ -2,9 +2,6 @@
 
 #include "decode/Packets.h"
 
-#include <QFile>
-#include <QHash>
-
 #include <algorithm>
 #include <cstring>
 #include <utility>

@@ -8,11 +8,8 @@
 #include "ui/images/FilePage.h"
 #include "vault/Vault.h"
 
-#include <QDrag>
 #include <QGuiApplication>
 #include <QMimeData>
-#include <QPixmap>
-#include <QPointer>
 #include <QQuickWindow>
 
 namespace ravelo {
@@ -25,10 +22,6 @@ using Forms = QList<PasteboardEntry>;
 
 constexpr Seconds timeout(1); ///< For reading; the user sees nothing until then.
 constexpr double pageSize = 56;
-
-double scaleOf(const QQuickItem& item) {
-    return item.window() == nullptr ? 1 : item.window()->effectiveDevicePixelRatio();
-}
 
 /// Otherwise the release would pass for a click.
 void letGo(const QQuickItem& item) {
@@ -65,7 +58,7 @@ Forms textForms(const Vault& vault, const QString& path, const QString& text) {
 void ClipDrag::start(const ClipItem& clip, QQuickItem& from) {
     const Picture picture{clip.kind == ClipKind::image ? u"png"_s : u"txt"_s, scaleOf(from)};
     letGo(from);
-    if (dragging_ || !clip.secret.isEmpty()) {
+    if (isDragging() || !clip.secret.isEmpty()) {
         return;
     }
     if (clip.kind == ClipKind::image) {
@@ -80,9 +73,9 @@ void ClipDrag::start(const ClipItem& clip, QQuickItem& from) {
 /// Deferred: a drag runs its own event loop, in which the pressed item may be deleted.
 void ClipDrag::start(const QString& text, QQuickItem& from) {
     letGo(from);
-    if (!dragging_) {
+    if (!isDragging()) {
         reading_ = scheduler_.after(Seconds(0), [this, text, scale = scaleOf(from)] {
-            drag({{QString(plainTextType), text.toUtf8()}}, {u"txt"_s, scale});
+            dragForms({{QString(plainTextType), text.toUtf8()}}, {u"txt"_s, scale});
         });
     }
 }
@@ -95,11 +88,11 @@ void ClipDrag::read(const QString& text, const QString& path, const Picture& pic
             return text.isEmpty() ? imageForms(*vault, path) : textForms(*vault, path, text);
         },
         [this, text, picture](const std::optional<Forms>& read) {
-            drag(read.value_or(Forms{{QString(plainTextType), text.toUtf8()}}), picture);
+            dragForms(read.value_or(Forms{{QString(plainTextType), text.toUtf8()}}), picture);
         });
 }
 
-void ClipDrag::drag(const QList<PasteboardEntry>& forms, const Picture& picture) {
+void ClipDrag::dragForms(const QList<PasteboardEntry>& forms, const Picture& picture) {
     if (forms.isEmpty() || !(QGuiApplication::mouseButtons() & Qt::LeftButton)) {
         return;
     }
@@ -110,21 +103,7 @@ void ClipDrag::drag(const QList<PasteboardEntry>& forms, const Picture& picture)
     for (const PasteboardEntry& form : forms) {
         data->setData(form.type, form.bytes);
     }
-    auto* drag = new QDrag(this); // Qt deletes it, with its data, after the drag.
-    drag->setMimeData(data);
-    drag->setPixmap(QPixmap::fromImage(page));
-    drag->setHotSpot(QPointF(pageSize / 2, pageSize / 2).toPoint());
-    setDragging(true);
-    const QPointer<ClipDrag> alive(this);
-    drag->exec(Qt::CopyAction, Qt::CopyAction);
-    if (alive) {
-        setDragging(false);
-    }
-}
-
-void ClipDrag::setDragging(bool dragging) {
-    dragging_ = dragging;
-    Q_EMIT draggingChanged();
+    drag(data, page, {pageSize / 2, pageSize / 2});
 }
 
 } // namespace ravelo

@@ -2,8 +2,8 @@
 
 #include "base/Handle.h"
 #include "store/ClipForms.h"
+#include "ui/controls/OutgoingDrag.h"
 
-#include <QObject>
 #include <QQuickItem>
 
 namespace ravelo {
@@ -15,7 +15,7 @@ struct ClipItem;
 
 /// Drags clips out of the panel: a text in all its forms, several texts as one, an image, or files.
 /// Main thread.
-class ClipDrag : public QObject {
+class ClipDrag : public OutgoingDrag {
     Q_OBJECT
 
 public:
@@ -27,25 +27,18 @@ public:
     void start(const ClipItem& clip, QQuickItem& from);
     void start(const QString& text, QQuickItem& from);
 
-    [[nodiscard]] bool isDragging() const { return dragging_; }
-
-Q_SIGNALS:
-    void draggingChanged();
-
 private:
     struct Picture {
-        QString extension; ///< On the page that the pointer holds.
+        QString extension; ///< Of the file icon under the pointer.
         double scale;
     };
 
     void read(const QString& text, const QString& path, const Picture& picture);
-    void drag(const QList<PasteboardEntry>& forms, const Picture& picture);
-    void setDragging(bool dragging);
+    void dragForms(const QList<PasteboardEntry>& forms, const Picture& picture);
 
     Store& store_;
     DetachedJobs& jobs_;
     Scheduler& scheduler_;
-    bool dragging_ = false;
     Handle reading_;
 };
 

@@ -125,7 +125,7 @@ private:
     const Scheduler& scheduler_;
     TextSearch phrase_;
     TextSearch words_;
-    bool byWords_ = false; ///< No clip contains the phrase.
+    bool byWords_ = false; ///< Searches for words: no clip contains the phrase.
     bool gaveUp_ = false;  ///< The expression takes too long.
     Origins origins_ = Origins::hidden;
     RelativeDate relativeDate_;

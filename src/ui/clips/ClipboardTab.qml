@@ -17,7 +17,7 @@ TabPage {
     /// How far the snippets have moved behind the search.
     readonly property real chipsLifted: Math.max(0, Math.min(36, scrolled - head))
 
-    /// Instead of the list, unless there are clips that came since.
+    /// The lock instead of the list, unless clips were copied since.
     readonly property bool showsLock: Vault.locked && (list.count === 0 || Vault.asked)
     /// Height of the snippets, which are hidden while locked.
     readonly property real chipsRoom: Vault.locked ? 0 : 36
@@ -93,18 +93,6 @@ TabPage {
         }
     }
 
-    /// The digit of a key with Ctrl and perhaps Shift; 0 for other keys. With Shift the digits' keys
-    /// have other names, but the same codes.
-    function digitOf(event: KeyEvent): int {
-        const held = event.modifiers & ~(Qt.KeypadModifier | Qt.ShiftModifier);
-        if (held !== Qt.ControlModifier) {
-            return 0;
-        }
-        const shifted = event.modifiers & Qt.ShiftModifier && event.nativeScanCode >= 10 && event.nativeScanCode <= 18;
-        const digit = shifted ? event.nativeScanCode - 9 : event.key - Qt.Key_0;
-        return digit >= 1 && digit <= 9 ? digit : 0;
-    }
-
     /// All chosen clips, or that row's.
     function remove(row: int) {
         clips.selected > 1 ? clips.removeSelected() : clips.remove(row);
@@ -125,65 +113,6 @@ TabPage {
         const to = Math.max(0, Math.min(row, list.count - 1));
         clips.selectTo(to, list.currentIndex);
         select(to);
-    }
-
-    /// Keys for the list while the search has the focus.
-    function handle(event: KeyEvent) {
-        const page = Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1);
-        const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
-        const searching = field.edited.activeFocus;
-        const shift = event.modifiers === Qt.ShiftModifier;
-        if (event.key === Qt.Key_Space && (shift || event.modifiers === Qt.NoModifier && field.isEmpty)) {
-            if (clips.list.isSecret(list.currentIndex)) {
-                current()?.reveal();
-            } else {
-                preview.opened ? preview.close() : preview.openCurrent();
-            }
-        } else if (preview.opened && event.key === Qt.Key_PageUp) {
-            bubble.scroll(-1);
-        } else if (preview.opened && event.key === Qt.Key_PageDown) {
-            bubble.scroll(1);
-        } else if (preview.opened && event.key === Qt.Key_Tab) {
-            bubble.focusText();
-        } else if (shift && (event.key === Qt.Key_Up || event.key === Qt.Key_Down)) {
-            extend(list.currentIndex + (event.key === Qt.Key_Up ? -1 : 1));
-        } else if (control && event.key === Qt.Key_Space) {
-            clips.toggleSelected(list.currentIndex);
-        } else if (control && event.key === Qt.Key_A && field.isEmpty) {
-            clips.selectAll();
-        } else if (event.key === Qt.Key_Menu || shift && event.key === Qt.Key_F10) {
-            rowMenu.openFor(list.currentIndex);
-        } else if (event.key === Qt.Key_Up) {
-            select(list.currentIndex - 1);
-        } else if (event.key === Qt.Key_Down) {
-            select(list.currentIndex + 1);
-        } else if (event.key === Qt.Key_PageUp) {
-            select(list.currentIndex - page);
-        } else if (event.key === Qt.Key_PageDown) {
-            select(list.currentIndex + page);
-        } else if (control && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
-            clips.openLink(list.currentIndex);
-        } else if (searching && event.modifiers & Qt.AltModifier && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
-            clips.selected > 1 ? copyAndClose(-1) : clips.copyPlainAndClose(list.currentIndex);
-        } else if (event.key === Qt.Key_F2) {
-            if (clips.selected < 2) {
-                clips.edit(list.currentIndex);
-            }
-        } else if (searching && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
-            finish(list.currentIndex, event.modifiers);
-        } else if (digitOf(event) > 0) {
-            finish(rowOf(digitOf(event) - 1), event.modifiers);
-        } else if (control && event.key === Qt.Key_P) {
-            clips.togglePin(list.currentIndex);
-        } else if (event.key === Qt.Key_F && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier)) {
-            field.openFilters();
-        } else if (event.key === Qt.Key_Delete && searching && field.isEmpty
-                   && !event.isAutoRepeat) {
-            remove(list.currentIndex);
-        } else {
-            return;
-        }
-        event.accepted = true;
     }
 
     function current(): ClipRow {
@@ -246,7 +175,7 @@ TabPage {
         easing.type: Easing.OutCubic
     }
 
-    Keys.onPressed: event => handle(event)
+    Keys.onPressed: event => keys.handle(event)
     Keys.onReleased: event => {
         if (event.key === Qt.Key_Space && !event.isAutoRepeat) {
             current()?.hide();
@@ -407,6 +336,22 @@ TabPage {
         room: tab.width
         highest: field.y + field.height + 8
         lowest: tab.height + Theme.insetBottom - 18
+    }
+
+    ClipKeys {
+        id: keys
+        clips: tab.clips
+        list: list
+        search: field
+        preview: preview
+        bubble: bubble
+        rowMenu: rowMenu
+        onMoved: row => tab.select(row)
+        onExtended: row => tab.extend(row)
+        onCopied: row => tab.copyAndClose(row)
+        onFinished: (row, modifiers) => tab.finish(row, modifiers)
+        onDigitPressed: (digit, modifiers) => tab.finish(tab.rowOf(digit - 1), modifiers)
+        onRemoved: row => tab.remove(row)
     }
 
     RowMenu {

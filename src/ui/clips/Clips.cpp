@@ -267,7 +267,7 @@ void Clips::clear() {
         {tr("History cleared \u00b7 1 clip"), tr("History cleared \u00b7 %1 clips")});
 }
 
-/// How many clips `remove` removes.
+/// How many clips `remove` would delete.
 qsizetype Clips::removed(const std::function<void()>& remove) const {
     const qsizetype before = services_.store.clips().size();
     remove();

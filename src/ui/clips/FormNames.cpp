@@ -4,8 +4,6 @@
 
 #include <QCoreApplication>
 
-#include <algorithm>
-
 namespace ravelo {
 
 using namespace Qt::StringLiterals;

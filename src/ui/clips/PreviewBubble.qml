@@ -10,7 +10,7 @@ Item {
     required property ClipPreview preview
     /// Width of the list beside which it floats.
     required property real room
-    /// Between these it stays, as near to `centre` as it can.
+    /// It stays between these, as near to `centre` as possible.
     required property real highest
     required property real lowest
     property real centre: 0
@@ -19,7 +19,7 @@ Item {
     property string origin
 
     readonly property bool hovered: hover.hovered
-    /// The text in it has the keyboard.
+    /// Its text has the keyboard focus.
     readonly property bool focused: text.focused
     readonly property Item body: preview.kind === ClipPreview.Text ? text
         : preview.kind === ClipPreview.Image ? image : preview.kind === ClipPreview.Color ? color

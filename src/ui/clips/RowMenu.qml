@@ -46,7 +46,7 @@ Menu {
         }
     }
 
-    /// Not for several: the menu of those is short.
+    /// Not for several clips.
     readonly property var paste: clips.pasting.possible ? [
         { text: qsTr("Paste at once"), hint: clips.pasting.keys, chosen: () => clips.pasteAndClose(list.currentIndex) }
     ] : []

@@ -1,6 +1,5 @@
 #include "ui/controls/Toast.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace ravelo {

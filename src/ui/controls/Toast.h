@@ -65,7 +65,7 @@ private:
         QString action;
         std::function<void()> act;
         Seconds left;
-        Seconds begun{}; ///< Start of the period `left` is counted from.
+        Seconds begun{}; ///< When `left` began to run.
         Handle end;
     };
 

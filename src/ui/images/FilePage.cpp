@@ -1,6 +1,5 @@
 #include "ui/images/FilePage.h"
 
-#include <QHash>
 #include <QPainter>
 #include <QPainterPath>
 #include <QStringList>

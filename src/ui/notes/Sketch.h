@@ -66,13 +66,13 @@ public:
     /// Drags it out of the panel as a PNG.
     Q_INVOKABLE void drag(QQuickItem* from);
 
-    /// No longer shown: forgets what could be undone, and takes the pen.
+    /// No longer shown: forgets what could be undone, and goes back to the pen.
     void reset();
 
 Q_SIGNALS:
     void toolChanged();
     void changed();
-    void drawn(const QRectF& region); ///< It looks different there.
+    void drawn(const QRectF& region); ///< `region` looks different.
 
 private:
     void follow();
@@ -86,9 +86,9 @@ private:
     SketchDrag drag_;
     Tool tool_ = Pen;
     QList<Stroke> strokes_;
-    QList<QList<Stroke>> undone_;         ///< What it was before each change, oldest first.
-    std::optional<QList<Stroke>> before_; ///< While the tool touches the pad.
-    bool drawing_ = false;                ///< The last of `strokes_`.
+    QList<QList<Stroke>> undone_;         ///< The strokes before each change, oldest first.
+    std::optional<QList<Stroke>> before_; ///< The strokes before the tool touched the pad.
+    bool drawing_ = false;                ///< The last of `strokes_` is being drawn.
     QPointF last_;
 };
 

@@ -67,7 +67,7 @@ private:
     std::vector<std::unique_ptr<Tile>> tiles_;
     bool drawing_ = false;
     bool outside_ = false;
-    bool compressed_ = true; ///< Events were, before drawing.
+    bool compressed_ = true; ///< Whether Qt compressed events before drawing began.
     Finger finger_;
 };
 

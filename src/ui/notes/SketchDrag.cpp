@@ -3,12 +3,8 @@
 #include "base/FileUrl.h"
 #include "ui/notes/Drawing.h"
 
-#include <QDrag>
 #include <QFile>
 #include <QMimeData>
-#include <QPixmap>
-#include <QPointer>
-#include <QQuickWindow>
 #include <QStandardPaths>
 #include <QTemporaryDir>
 
@@ -64,37 +60,25 @@ SketchDrag::~SketchDrag() = default;
 
 void SketchDrag::start(const QImage& picture, QQuickItem& from) {
     from.ungrabMouse();
-    if (dragging_) {
+    if (isDragging()) {
         return;
     }
     setDragging(true);
-    const double scale = from.window() == nullptr ? 1 : from.window()->effectiveDevicePixelRatio();
     // Deferred: a drag runs its own event loop, in which the pressed item may be deleted.
     QMetaObject::invokeMethod(
-        this, [this, picture, scale] { drag(picture, scale); }, Qt::QueuedConnection);
+        this, [this, picture, scale = scaleOf(from)] { dragPicture(picture, scale); },
+        Qt::QueuedConnection);
 }
 
-void SketchDrag::setDragging(bool dragging) {
-    dragging_ = dragging;
-    Q_EMIT draggingChanged();
-}
-
-void SketchDrag::drag(const QImage& picture, double scale) {
+void SketchDrag::dragPicture(const QImage& picture, double scale) {
     folder_ = std::make_shared<QTemporaryDir>(
         QStandardPaths::writableLocation(QStandardPaths::RuntimeLocation) +
         u"/ravelo-sketch-XXXXXX"_s);
-    auto* drag = new QDrag(this); // Qt deletes it, with its data, after the drag.
-    drag->setMimeData(new Picture(drawing::png(picture), folder_));
     QImage thumb =
         picture.scaled(QSize(96, 96) * scale, Qt::KeepAspectRatio, Qt::SmoothTransformation);
     thumb.setDevicePixelRatio(scale);
-    drag->setPixmap(QPixmap::fromImage(thumb));
-    drag->setHotSpot(QPointF(thumb.width(), thumb.height()).toPoint() / scale / 2);
-    const QPointer<SketchDrag> alive(this);
-    drag->exec(Qt::CopyAction, Qt::CopyAction);
-    if (alive) {
-        setDragging(false);
-    }
+    drag(new Picture(drawing::png(picture), folder_), thumb,
+         QPointF(thumb.width(), thumb.height()) / scale / 2);
 }
 
 } // namespace ravelo

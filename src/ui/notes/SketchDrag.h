@@ -1,7 +1,8 @@
 #pragma once
 
+#include "ui/controls/OutgoingDrag.h"
+
 #include <QImage>
-#include <QObject>
 #include <QQuickItem>
 
 #include <memory>
@@ -13,7 +14,7 @@ namespace ravelo {
 /// Drags a picture out of the panel: as its bytes, or as a file for those that ask for one. The
 /// file is made only then, in the session's runtime folder (in memory, readable by its user alone),
 /// and stays until the next drag. Main thread.
-class SketchDrag : public QObject {
+class SketchDrag : public OutgoingDrag {
     Q_OBJECT
 
 public:
@@ -23,16 +24,9 @@ public:
     /// Starts a drag, unless one is in progress. The item it starts from may be deleted meanwhile.
     void start(const QImage& picture, QQuickItem& from);
 
-    [[nodiscard]] bool isDragging() const { return dragging_; }
-
-Q_SIGNALS:
-    void draggingChanged();
-
 private:
-    void setDragging(bool dragging);
-    void drag(const QImage& picture, double scale);
+    void dragPicture(const QImage& picture, double scale);
 
-    bool dragging_ = false;
     std::shared_ptr<QTemporaryDir> folder_;
 };
 

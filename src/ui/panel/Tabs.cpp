@@ -31,7 +31,7 @@ int Tabs::searchable() const {
 
 void Tabs::choose(int index) {
     if (index != current()) {
-        settings_.setLastTab(list_[index]->key());
+        settings_.lastTab.set(list_[index]->key());
         Q_EMIT chosen();
     }
 }

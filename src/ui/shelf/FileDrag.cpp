@@ -7,13 +7,9 @@
 #include "ui/images/FilePage.h"
 #include "ui/images/FileThumb.h"
 
-#include <QDrag>
 #include <QFileInfo>
 #include <QMimeData>
 #include <QPainter>
-#include <QPixmap>
-#include <QPointer>
-#include <QQuickWindow>
 
 #include <algorithm>
 #include <utility>
@@ -27,10 +23,6 @@ namespace {
 constexpr double iconSize = 56;
 constexpr double step = 2;        ///< Offset between icons.
 constexpr qsizetype maxIcons = 8; ///< More would be hidden behind these.
-
-double scaleOf(const QQuickItem& item) {
-    return item.window() == nullptr ? 1 : item.window()->effectiveDevicePixelRatio();
-}
 
 /// RFC 2483.
 QByteArray uriList(const QList<QUrl>& files) {
@@ -93,36 +85,23 @@ void FileDrag::prepare(const QList<QUrl>& files, QQuickItem* from) {
 
 void FileDrag::start(const QList<QUrl>& files, QQuickItem* from) {
     from->ungrabMouse();
-    if (files.isEmpty() || dragging_) {
+    if (files.isEmpty() || isDragging()) {
         return;
     }
     setDragging(true);
     // Deferred: a drag runs its own event loop, in which the pressed item may be deleted.
     QMetaObject::invokeMethod(
-        this, [this, files, scale = scaleOf(*from)] { drag(files, scale); }, Qt::QueuedConnection);
+        this, [this, files, scale = scaleOf(*from)] { dragFiles(files, scale); },
+        Qt::QueuedConnection);
 }
 
-void FileDrag::setDragging(bool dragging) {
-    dragging_ = dragging;
-    Q_EMIT draggingChanged();
-}
-
-void FileDrag::drag(const QList<QUrl>& files, double scale) {
+void FileDrag::dragFiles(const QList<QUrl>& files, double scale) {
     const int size = qRound(iconSize * scale);
     const bool ready = files == prepared_ && !pictures_.isEmpty();
     const QImage fan = fanned(ready ? pictures_ : pages(files, size), scale);
     auto* data = new QMimeData;
     data->setData(u"text/uri-list"_s, uriList(files));
-    auto* drag = new QDrag(this); // Qt deletes it, with its data, after the drag.
-    drag->setMimeData(data);
-    drag->setPixmap(QPixmap::fromImage(fan));
-    const double below = fan.height() / scale - iconSize / 2;
-    drag->setHotSpot(QPointF(iconSize / 2, below).toPoint());
-    const QPointer<FileDrag> alive(this);
-    drag->exec(Qt::CopyAction, Qt::CopyAction);
-    if (alive) {
-        setDragging(false);
-    }
+    drag(data, fan, {iconSize / 2, fan.height() / scale - iconSize / 2});
 }
 
 } // namespace ravelo

@@ -1,10 +1,10 @@
 #pragma once
 
 #include "base/Handle.h"
+#include "ui/controls/OutgoingDrag.h"
 
 #include <QImage>
 #include <QList>
-#include <QObject>
 #include <QQmlEngine>
 #include <QQuickItem>
 #include <QUrl>
@@ -18,7 +18,7 @@ class FileIcons;
 class ImageDecoder;
 
 /// Drags files out of the panel; drop targets get copies. Main thread.
-class FileDrag : public QObject {
+class FileDrag : public ravelo::OutgoingDrag {
     Q_OBJECT
     QML_ELEMENT
     QML_UNCREATABLE("made in C++")
@@ -34,21 +34,14 @@ public:
     /// be deleted meanwhile.
     Q_INVOKABLE void start(const QList<QUrl>& files, QQuickItem* from);
 
-    [[nodiscard]] bool isDragging() const { return dragging_; }
-
-Q_SIGNALS:
-    void draggingChanged();
-
 private:
-    void setDragging(bool dragging);
-    void drag(const QList<QUrl>& files, double scale);
+    void dragFiles(const QList<QUrl>& files, double scale);
 
     DetachedJobs& jobs_;
     std::shared_ptr<const FileIcons> icons_;
     std::shared_ptr<ImageDecoder> decoder_;
     QList<QUrl> prepared_;
     QList<QImage> pictures_; ///< Of `prepared_`; empty until ready.
-    bool dragging_ = false;
     Handle preparing_;
 };
 

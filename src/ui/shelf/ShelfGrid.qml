@@ -77,7 +77,7 @@ FocusScope {
     activeFocusOnTab: true
     onCountChanged: {
         if (count === 0) {
-            wanted = -1; // No key acts on the next file before an arrow key chose it.
+            wanted = -1; // Keys act on no other file until an arrow key has chosen one.
         }
     }
     onWidthChanged: shelf.lay(width)

@@ -4,7 +4,7 @@ import Ravelo.Paint
 import Ravelo.Theme
 import Ravelo.Vault
 
-/// In place of what is encrypted, while its key is not here.
+/// Shown in place of the encrypted content while its key is not available.
 FocusScope {
     id: locked
 

@@ -54,7 +54,7 @@ public:
     [[nodiscard]] bool canUnlock() const;
     [[nodiscard]] bool asksPassphrase() const;
 
-    /// The user wants to unlock it, also if there are new clips to show.
+    /// The user has asked to unlock it, even if there are new clips to show.
     [[nodiscard]] bool isAsked() const { return asked_; }
 
     /// Shows the keyring's prompt, or asks for the passphrase.

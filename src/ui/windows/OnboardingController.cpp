@@ -37,7 +37,7 @@ void OnboardingController::show() {
 }
 
 void OnboardingController::finish() {
-    settings_.setOnboarded(true);
+    settings_.onboarded.set(true);
     if (window_ != nullptr) {
         window_->close();
     }

@@ -59,7 +59,7 @@ void SettingsWindow::chooseSecondAccount(const QString& folder) {
     const auto finish = [this, folder](const QString& problem) {
         accountProblem_ = problem;
         if (problem.isEmpty()) {
-            subjects_.settings.setSecondAccount(folder);
+            subjects_.settings.secondAccount.set(folder);
         }
         Q_EMIT accountProblemChanged();
     };

@@ -188,7 +188,7 @@ void ShortcutChoice::record(int key, int modifiers, quint32 scanCode) {
                : KeyCombination::copiesOrPastes(key, held & ~Qt::KeypadModifier) ? Refused::copying
                                                                                  : Refused::tooFew;
     if (keys) {
-        settings_.setShortcut(keys->text());
+        settings_.shortcut.set(keys->text());
         stop();
     } else {
         Q_EMIT changed();
@@ -196,12 +196,12 @@ void ShortcutChoice::record(int key, int modifiers, quint32 scanCode) {
 }
 
 void ShortcutChoice::clear() {
-    settings_.setShortcut({});
+    settings_.shortcut.set({});
     stop();
 }
 
 void ShortcutChoice::useOffered(bool on) {
-    settings_.setShortcut(on ? offered : QString());
+    settings_.shortcut.set(on ? offered : QString());
 }
 
 } // namespace ravelo

@@ -26,7 +26,7 @@ TEST_F(Panel, severalClipsAreJoinedAsTheSettingsSay) {
                                     {u"comma"_s, u"first, second"_s},
                                     {u"nothing"_s, u"firstsecond"_s},
                                     {u"something else"_s, u"first\nsecond"_s}}) {
-        world.settings.setJoinWith(how);
+        world.settings.joinWith.set(how);
         openSearch();
         pressKeys(u"Ctrl+Space Down Ctrl+Space Return"_s);
         EXPECT_EQ(pasteboardText(), text);
@@ -59,7 +59,7 @@ TEST_F(Pastes, byShiftUnlessTheSettingIsTheOtherWay) {
                           {Qt::Key_3, control, u"third"_s},
                           {Qt::Key_3, control | shift, u"third"_s}};
     for (const bool returnPastes : {false, true}) {
-        world.settings.setReturnPastes(returnPastes);
+        world.settings.returnPastes.set(returnPastes);
         for (const Case& c : cases) {
             SCOPED_TRACE(testing::Message() << returnPastes << " " << c.key << " " << c.modifiers);
             openSearch();

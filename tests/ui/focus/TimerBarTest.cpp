@@ -105,7 +105,7 @@ protected:
     Bar() { world.store.setReminderOpen(true); }
 
     void show(const QStringList& reminders, const QString& notch = u"none"_s) {
-        world.settings.setMacType(notch);
+        world.settings.macType.set(notch);
         world.store.setReminders(reminders);
         world.controller.positionCollapsed();
         view.window().resize(world.controller.frame().size().toSize());

@@ -46,7 +46,7 @@ TEST_F(PauseButton, IsSeenWhileClosed) {
 }
 
 TEST_F(PauseButton, LeavesRoomInANarrowPanel) {
-    world.settings.setPanelWidth(600);
+    world.settings.panelWidth.set(600);
     rebuild();
     open();
     EXPECT_NE(shown(u"pause"_s), nullptr);

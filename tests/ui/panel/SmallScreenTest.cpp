@@ -113,7 +113,7 @@ TEST_F(Panel, hidesThePlanIfClaudeCodeIsNotInstalled) {
     open();
     view.features().usage.setInstalled(false);
     EXPECT_NE(shown(u"usage"_s), nullptr) << "only if the user wants that";
-    world.settings.setHideClaudeCode(true);
+    world.settings.hideClaudeCode.set(true);
     EXPECT_EQ(shown(u"usage"_s), nullptr);
     EXPECT_EQ(item(u"tabs"_s)->y(), 72);
     view.features().usage.setInstalled(true);

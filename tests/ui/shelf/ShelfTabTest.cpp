@@ -1,7 +1,5 @@
 #include "panel_fixture/PanelFixture.h"
 #include "support/TestFiles.h"
-#include "ui/shelf/DragSourceView.h"
-#include "ui/shelf/ShelfLayout.h"
 
 #include <QDragEnterEvent>
 #include <QMimeData>
@@ -16,7 +14,7 @@ QUrl file(const QString& name) {
 
 class ShelfTab : public Panel {
 protected:
-    ShelfTab() { world.settings.setLastTab(u"Shelf"_s); }
+    ShelfTab() { world.settings.lastTab.set(u"Shelf"_s); }
 
     /// A file that exists, until it is removed.
     QUrl create(const QString& name) {
@@ -361,77 +359,6 @@ TEST_F(ShelfTab, createsVisibleTilesAndRowsOnly) {
     EXPECT_TRUE(item(u"tile199"_s)->hasActiveFocus());
     EXPECT_NE(shown(u"received9999"_s), nullptr) << "the list ends with the newest";
     EXPECT_EQ(shown(u"received0"_s), nullptr);
-}
-
-TEST(DragSource, distinguishesADragFromATap) {
-    struct Case {
-        const char* name;
-        QList<double> moves;
-        int taps;
-        int drags;
-    };
-
-    for (const Case& c :
-         {Case{"still", {}, 1, 0}, Case{"trembling", {2, -3, 2}, 1, 0}, Case{"moved", {20}, 0, 1},
-          Case{"moved far", {12, 12, 12, 12, -40}, 0, 1}}) {
-        SCOPED_TRACE(c.name);
-        QQuickWindow window;
-        window.resize(100, 100);
-        DragSourceView source(window.contentItem());
-        source.setSize({100, 100});
-        int taps = 0;
-        int drags = 0;
-        QObject::connect(&source, &DragSourceView::tapped, [&] { ++taps; });
-        QObject::connect(&source, &DragSourceView::dragged, [&] { ++drags; });
-        window.show();
-        for (int again = 1; again <= 2; ++again) {
-            send(window, QEvent::MouseButtonPress, {10, 50});
-            double x = 10;
-            for (const double move : c.moves) {
-                send(window, QEvent::MouseMove, {x += move, 50});
-            }
-            send(window, QEvent::MouseButtonRelease, {x, 50});
-            EXPECT_EQ(taps, again * c.taps);
-            EXPECT_EQ(drags, again * c.drags);
-        }
-    }
-}
-
-TEST(Layout, placesTraysSideBySideAndWrapsLongOnes) {
-    struct Case {
-        const char* name;
-        QList<qsizetype> stacks;
-        double width;
-        QList<QRectF> trays;
-        QList<QPointF> lastTiles; ///< Of each stack.
-    };
-
-    const Case cases[] = {
-        {"none", {}, 859, {}, {}},
-        {"side by side",
-         {3, 2, 3, 1},
-         859,
-         {{0, 0, 315, 116}, {323, 0, 212, 116}, {543, 0, 315, 116}, {0, 124, 109, 116}},
-         {{210, 4}, {430, 4}, {753, 4}, {4, 128}}},
-        {"wrapped",
-         {1, 9, 1},
-         859,
-         {{0, 0, 109, 116}, {0, 124, 830, 226}, {0, 358, 109, 116}},
-         {{4, 4}, {4, 238}, {4, 362}}},
-        {"narrower than a tile", {2}, 50, {{0, 0, 109, 226}}, {{4, 114}}},
-    };
-    for (const Case& c : cases) {
-        SCOPED_TRACE(c.name);
-        const ShelfLayout layout(c.stacks, c.width);
-        EXPECT_EQ(layout.trays, c.trays);
-        EXPECT_EQ(layout.height, c.trays.isEmpty() ? 0 : c.trays.last().bottom());
-        qsizetype tiles = 0;
-        for (qsizetype i = 0; i < c.stacks.size(); ++i) {
-            tiles += c.stacks[i];
-            EXPECT_EQ(layout.tiles[tiles - 1].topLeft(), c.lastTiles[i]);
-        }
-        EXPECT_EQ(layout.tiles.size(), tiles);
-    }
 }
 
 } // namespace

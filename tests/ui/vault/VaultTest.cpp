@@ -142,7 +142,7 @@ TEST_F(LockedPanel, ShowsNewCopiesUntilThen) {
     EXPECT_TRUE(item(u"card0"_s)->isVisible());
     EXPECT_TRUE(item(u"search"_s)->isEnabled());
     for (const QString& tab : {u"Notes"_s, u"Shelf"_s}) {
-        world.settings.setLastTab(tab);
+        world.settings.lastTab.set(tab);
         world.controller.dismiss();
         world.scheduler.advance(untilBuilt);
         world.controller.toggle();

@@ -89,7 +89,7 @@ TEST_F(Setup, CanBeDoneByMouseAndReportsTheNotch) {
         }
         return names;
     };
-    world.settings.setMacType(u"nonsense"_s);
+    world.settings.macType.set(u"nonsense"_s);
     EXPECT_EQ(selected(), QStringList(u"auto"_s));
     for (const QString& name : {u"none"_s, u"notch"_s, u"auto"_s}) {
         clickOn(window, name);

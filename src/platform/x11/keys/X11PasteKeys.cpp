@@ -4,13 +4,11 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
-#include <QMimeData>
 
 #include <X11/keysym.h>
 #include <xcb/xtest.h>
 
 #include <algorithm>
-#include <array>
 
 namespace ravelo::x11 {
 

@@ -2,7 +2,6 @@
 
 #include "platform/x11/connection/Events.h"
 
-#include <algorithm>
 #include <utility>
 
 namespace ravelo::x11 {

@@ -1,0 +1,91 @@
+import QtQuick
+import Ravelo.Clips
+import Ravelo.Lists
+import Ravelo.Theme
+
+/// What the keys do in the list of clips, also while the search has the focus.
+QtObject {
+    required property Clips clips
+    required property ListView list
+    required property SearchField search
+    required property PreviewControl preview
+    required property PreviewBubble bubble
+    required property RowMenu rowMenu
+
+    signal moved(row: int)
+    signal extended(row: int)
+    signal copied(row: int)
+    signal finished(row: int, modifiers: int)
+    signal digitPressed(digit: int, modifiers: int)
+    signal removed(row: int)
+
+    function handle(event: KeyEvent) {
+        const page = Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1);
+        const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
+        const searching = search.edited.activeFocus;
+        const shift = event.modifiers === Qt.ShiftModifier;
+        if (event.key === Qt.Key_Space && (shift || event.modifiers === Qt.NoModifier && search.isEmpty)) {
+            if (clips.list.isSecret(list.currentIndex)) {
+                (list.currentItem as ClipRow)?.reveal();
+            } else {
+                preview.opened ? preview.close() : preview.openCurrent();
+            }
+        } else if (preview.opened && event.key === Qt.Key_PageUp) {
+            bubble.scroll(-1);
+        } else if (preview.opened && event.key === Qt.Key_PageDown) {
+            bubble.scroll(1);
+        } else if (preview.opened && event.key === Qt.Key_Tab) {
+            bubble.focusText();
+        } else if (shift && (event.key === Qt.Key_Up || event.key === Qt.Key_Down)) {
+            extended(list.currentIndex + (event.key === Qt.Key_Up ? -1 : 1));
+        } else if (control && event.key === Qt.Key_Space) {
+            clips.toggleSelected(list.currentIndex);
+        } else if (control && event.key === Qt.Key_A && search.isEmpty) {
+            clips.selectAll();
+        } else if (event.key === Qt.Key_Menu || shift && event.key === Qt.Key_F10) {
+            rowMenu.openFor(list.currentIndex);
+        } else if (event.key === Qt.Key_Up) {
+            moved(list.currentIndex - 1);
+        } else if (event.key === Qt.Key_Down) {
+            moved(list.currentIndex + 1);
+        } else if (event.key === Qt.Key_PageUp) {
+            moved(list.currentIndex - page);
+        } else if (event.key === Qt.Key_PageDown) {
+            moved(list.currentIndex + page);
+        } else if (control && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
+            clips.openLink(list.currentIndex);
+        } else if (searching && event.modifiers & Qt.AltModifier && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
+            clips.selected > 1 ? copied(-1) : clips.copyPlainAndClose(list.currentIndex);
+        } else if (event.key === Qt.Key_F2) {
+            if (clips.selected < 2) {
+                clips.edit(list.currentIndex);
+            }
+        } else if (searching && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
+            finished(list.currentIndex, event.modifiers);
+        } else if (digitOf(event) > 0) {
+            digitPressed(digitOf(event), event.modifiers);
+        } else if (control && event.key === Qt.Key_P) {
+            clips.togglePin(list.currentIndex);
+        } else if (event.key === Qt.Key_F && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier)) {
+            search.openFilters();
+        } else if (event.key === Qt.Key_Delete && searching && search.isEmpty
+                   && !event.isAutoRepeat) {
+            removed(list.currentIndex);
+        } else {
+            return;
+        }
+        event.accepted = true;
+    }
+
+    /// The digit of a key with Ctrl and perhaps Shift; 0 for other keys. With Shift the digits' keys
+    /// have other names, but the same codes.
+    function digitOf(event: KeyEvent): int {
+        const held = event.modifiers & ~(Qt.KeypadModifier | Qt.ShiftModifier);
+        if (held !== Qt.ControlModifier) {
+            return 0;
+        }
+        const shifted = event.modifiers & Qt.ShiftModifier && event.nativeScanCode >= 10 && event.nativeScanCode <= 18;
+        const digit = shifted ? event.nativeScanCode - 9 : event.key - Qt.Key_0;
+        return digit >= 1 && digit <= 9 ? digit : 0;
+    }
+}

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "Stage.h"
+#include "ui/windows/OnboardingController.h"
+#include "ui/windows/SettingsWindow.h"
+#include "ui/windows/UpdateWindow.h"
+#include "updates/Updater.h"
+
+namespace ravelo {
+
+/// Scenes in the settings, the setup and the update window.
+class WindowScenes {
+public:
+    WindowScenes(const QString& scene, PanelWorld& world, QQuickWindow& panel);
+
+    /// The window of the scene; null if it is one of the panel's.
+    [[nodiscard]] QQuickWindow* play();
+
+private:
+    [[nodiscard]] QQuickWindow& playSettings();
+    [[nodiscard]] QQuickWindow& playSetup();
+    [[nodiscard]] QQuickWindow* playUpdates();
+
+    const QString scene_;
+    QQuickWindow& panel_;
+    SettingsWindow settings_;
+    OnboardingController onboarding_;
+    Updater updater_;
+    UpdateWindow updates_;
+};
+
+} // namespace ravelo
