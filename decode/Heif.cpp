@@ -81,6 +81,10 @@ QImage decoded(const heif_image_handle* picture) {
 
 } // namespace
 
+void loadHeif() {
+    heif_init(nullptr); // Since 1.16 they are plugins.
+}
+
 QSize heifSize(const QByteArray& bytes) {
     const File file(bytes);
     return file.primary() == nullptr ? QSize() : sizeOf(file.primary());

@@ -208,6 +208,7 @@ void loadFormats() {
             (void)decodePicture({kind, 1, 1, 1, 0}, bytes);
         }
     }
+    loadHeif();
 }
 
 } // namespace ravelo::decode

@@ -77,12 +77,15 @@ void rememberFirstStart(Preferences& preferences) {
     }
 }
 
-// Qt calls exit() when the display server ends, as at the end of many sessions.
 AppDelegate* flushedAtExit = nullptr;
 
-void flushAtExit() {
+/// Qt calls exit() when the display server ends, as at the end of many sessions. Nothing is
+/// destroyed then, not even what is static: Qt 6.8 would complain that its application object still
+/// exists.
+void flushAtExit(int status, void* /*nothing*/) {
     if (flushedAtExit) {
         flushedAtExit->flush();
+        std::_Exit(status);
     }
 }
 
@@ -156,7 +159,7 @@ void AppDelegate::makeStore() {
     transfers_ = std::make_unique<Transfers>(
         Transfers::Services{*store_, *platform_.fileJobs, platform_.decoder, platform_.mayWrite()});
     flushedAtExit = this;
-    std::atexit(flushAtExit);
+    on_exit(flushAtExit, nullptr);
 }
 
 void AppDelegate::makeSettings() {

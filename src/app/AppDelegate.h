@@ -67,8 +67,8 @@ public:
     void openSettings();
     void showSetup();
 
-    /// Writes everything that is not on disk yet and waits for it. Can be called again, and from
-    /// atexit.
+    /// Writes everything that is not on disk yet and waits for it. Can be called again, and
+    /// while the process exits.
     void flush();
 
 private:

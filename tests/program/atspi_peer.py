@@ -13,11 +13,16 @@ gi.require_version("Atspi", "2.0")
 from gi.repository import Atspi  # noqa: E402
 
 
+def role(node):
+    """By its name in earlier releases."""
+    return {"button": "push button"}.get(node.get_role_name(), node.get_role_name())
+
+
 def show(node, path):
     states = node.get_state_set()
     actions = node.get_action_iface()
     line = {"name": node.get_name(), "description": node.get_description(),
-            "checked": states.contains(Atspi.StateType.CHECKED), "role": node.get_role_name(), "path": path,
+            "checked": states.contains(Atspi.StateType.CHECKED), "role": role(node), "path": path,
             "showing": states.contains(Atspi.StateType.SHOWING),
             "focused": states.contains(Atspi.StateType.FOCUSED),
             "actions": [actions.get_action_name(i) for i in range(actions.get_n_actions())]

@@ -1,6 +1,7 @@
 #include "platform/system/DataLock.h"
 
 #include "base/Files.h"
+#include "platform/system/MachineId.h"
 
 #include <QDir>
 #include <QFile>
@@ -55,7 +56,7 @@ TEST_F(DataLocks, AreHeldByOneProcess) {
 }
 
 TEST_F(DataLocks, OfThisMachineAreFreeAfterTheirProcess) {
-    for (const QByteArray& left : {lockOf(getpid(), QSysInfo::machineUniqueId()), QByteArray()}) {
+    for (const QByteArray& left : {lockOf(getpid(), machineId()), QByteArray()}) {
         leave(left);
         DataLock lock(path_, data_);
         EXPECT_TRUE(lock.claim(Claim::ifFree)) << left.constData();
@@ -66,7 +67,7 @@ TEST_F(DataLocks, OfThisMachineAreFreeAfterTheirProcess) {
 }
 
 TEST_F(DataLocks, OfAnotherMachineAreTakenOverOnDemandOnly) {
-    if (QSysInfo::machineUniqueId().isEmpty()) {
+    if (machineId().isEmpty()) {
         GTEST_SKIP() << "this machine has no unique ID";
     }
     leave(lockOf(7, "another machine"));
@@ -127,7 +128,7 @@ TEST_F(DataLocks, AreCreatedLaterIfTheyCannotBeAtFirst) {
 /// What an earlier version makes of the lock's machine and host.
 bool looksElsewhereToEarlierVersions(const QString& path) {
     const QList<QByteArray> lines = readFile(path).value_or(QByteArray()).split('\n');
-    return lines.value(0).toLongLong() > 0 && lines.value(3) != QSysInfo::machineUniqueId() &&
+    return lines.value(0).toLongLong() > 0 && lines.value(3) != machineId() &&
            lines.value(2) != QSysInfo::machineHostName().toUtf8();
 }
 

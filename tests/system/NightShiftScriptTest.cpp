@@ -71,7 +71,10 @@ TEST_F(NightShiftScriptTest, isRunByTheShellAtEachStart) {
         expected += std::filesystem::read_symlink("/proc/self/fd/"s + stream).string() + '\n';
     }
     EXPECT_EQ(printed(2), std::vector(2, expected));
-    EXPECT_TRUE(waitpid(-1, nullptr, WNOHANG) == -1 && errno == ECHILD) << "a zombie";
+    EXPECT_TRUE(eventually([] {
+        siginfo_t child = {};
+        return waitid(P_ALL, 0, &child, WEXITED | WNOHANG | WNOWAIT) == -1 && errno == ECHILD;
+    })) << "a zombie";
 }
 
 TEST_F(NightShiftScriptTest, runsWithoutThatShellAndOutlivesTheProgram) {

@@ -7,6 +7,8 @@
 
 namespace ravelo {
 
+using namespace Qt::StringLiterals;
+
 Handle callBus(const QDBusConnection& bus, QDBusMessage call, std::chrono::milliseconds timeOut,
                std::function<void(const QDBusMessage&)> done, Activation activation) {
     call.setAutoStartService(activation == Activation::allowed);
@@ -25,6 +27,18 @@ Handle callBus(const QDBusConnection& bus, QDBusMessage call, std::chrono::milli
         QObject::connect(watcher, &QDBusPendingCallWatcher::finished, watcher, finish);
     }
     return Handle([end] { *end = nullptr; }); // The watcher is deleted when the call ends.
+}
+
+Handle findOwner(const QDBusConnection& bus, const QString& service,
+                 std::chrono::milliseconds timeOut, std::function<void(const QString&)> done) {
+    const auto driver = u"org.freedesktop.DBus"_s;
+    auto question = QDBusMessage::createMethodCall(driver, u"/org/freedesktop/DBus"_s, driver,
+                                                   u"GetNameOwner"_s);
+    question << service;
+    return callBus(bus, question, timeOut, [done = std::move(done)](const QDBusMessage& answer) {
+        done(answer.type() == QDBusMessage::ReplyMessage ? answer.arguments().value(0).toString()
+                                                         : QString());
+    });
 }
 
 } // namespace ravelo

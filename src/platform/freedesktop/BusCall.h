@@ -19,4 +19,10 @@ enum class Activation { none, allowed };
                              std::function<void(const QDBusMessage&)> done,
                              Activation activation = Activation::none);
 
+/// The unique name of the service's owner; empty if it has none. (Answers do not say it: since
+/// Qt 6.8 their `service()` is empty.) As `callBus`.
+[[nodiscard]] Handle findOwner(const QDBusConnection& bus, const QString& service,
+                               std::chrono::milliseconds timeOut,
+                               std::function<void(const QString& owner)> done);
+
 } // namespace ravelo

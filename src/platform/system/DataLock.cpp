@@ -2,6 +2,7 @@
 
 #include "base/Files.h"
 #include "base/Uuid.h"
+#include "platform/system/MachineId.h"
 
 #include <QCoreApplication>
 #include <QFile>
@@ -48,7 +49,7 @@ struct Owner {
         if (process <= 0) {
             return false; // It was never written.
         }
-        const QByteArray here = QSysInfo::machineUniqueId();
+        const QByteArray here = machineId();
         return machine.isEmpty() || here.isEmpty() ? host != QSysInfo::machineHostName()
                                                    : machine != here;
     }
@@ -66,7 +67,7 @@ QByteArray newContents(Data data) {
                                      "ravelo",
                                      QSysInfo::machineHostName().toUtf8() +
                                          (marked ? QByteArray(encryptedHost.data()) : QByteArray()),
-                                     QSysInfo::machineUniqueId() +
+                                     machineId() +
                                          (marked ? encryptedMachine.toByteArray() : QByteArray()),
                                      QSysInfo::bootUniqueId(),
                                      uuidText(QUuid::createUuid()).toLatin1(),

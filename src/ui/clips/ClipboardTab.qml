@@ -147,6 +147,7 @@ TabPage {
 
     // Clips copied while this is hidden move the rows down.
     function begin() {
+        list.forceLayout(); // Else an index that will move down with its row counts as set.
         list.currentIndex = Math.min(rowOf(0), list.count - 1);
         stopScrolling();
         list.showTop();

@@ -16,6 +16,7 @@ Item {
     signal removed(byKey: bool)
 
     height: 32
+    Accessible.ignored: true // Qt 6.8 reports the rows of a list as elements of their own.
 
     FieldFrame {
         input: line

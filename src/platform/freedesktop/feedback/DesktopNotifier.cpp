@@ -50,12 +50,27 @@ void DesktopNotifier::show(const Notification& notification) {
         bus_, callTo(u"GetCapabilities"_s), timeOut,
         [this, notification](const QDBusMessage& reply) {
             if (reply.type() == QDBusMessage::ReplyMessage) {
-                send(notification, reply.arguments().value(0).toStringList());
+                address(notification, reply.arguments().value(0).toStringList());
             } else {
                 shown_.erase(notification.key);
             }
         },
         Activation::allowed);
+}
+
+void DesktopNotifier::address(const Notification& notification, const QStringList& capabilities) {
+    shown_[notification.key].call =
+        findOwner(bus_, service, timeOut, [this, notification, capabilities](const QString& owner) {
+            if (owner.isEmpty()) {
+                shown_.erase(notification.key);
+                return;
+            }
+            Shown& shown = shown_[notification.key];
+            if (std::exchange(shown.owner, owner) != owner) {
+                shown.id = 0; // Another service does not know it.
+            }
+            send(notification, capabilities);
+        });
 }
 
 void DesktopNotifier::send(const Notification& notification, const QStringList& capabilities) {
@@ -69,7 +84,7 @@ void DesktopNotifier::send(const Notification& notification, const QStringList& 
     const QString text = capabilities.contains(u"body-markup"_s) ? notification.text.toHtmlEscaped()
                                                                  : notification.text;
     constexpr int untilTheServiceDecides = -1;
-    auto call = callTo(u"Notify"_s);
+    auto call = QDBusMessage::createMethodCall(shown.owner, path, service, u"Notify"_s);
     call << u"Ravelo"_s << shown.id << u"org.ravelo.Ravelo"_s << notification.title << text
          << actions << QVariantMap{{u"desktop-entry"_s, u"org.ravelo.Ravelo"_s}}
          << untilTheServiceDecides;
@@ -81,7 +96,6 @@ void DesktopNotifier::send(const Notification& notification, const QStringList& 
                                  return;
                              }
                              shown.id = reply.arguments().value(0).toUInt();
-                             shown.owner = reply.service();
                          });
 }
 

@@ -36,6 +36,7 @@ private:
     using Entry = std::map<QString, Shown>::iterator;
 
     void listen();
+    void address(const Notification& notification, const QStringList& capabilities);
     void send(const Notification& notification, const QStringList& capabilities);
     [[nodiscard]] Entry find(uint id, const QDBusMessage& signal);
 

@@ -107,16 +107,24 @@ void ShortcutsPortal::askForVersion() {
     asking_ = callBus(
         bus_, question, timeout,
         [this](const QDBusMessage& answer) {
-            if (answer.type() != QDBusMessage::ReplyMessage) {
-                return;
-            }
-            portal_ = answer.service();
-            setState(State::none);
-            if (keys_) {
-                open();
+            if (answer.type() == QDBusMessage::ReplyMessage) {
+                asking_ = findOwner(bus_, service, timeout,
+                                    [this](const QString& owner) { meet(owner); });
             }
         },
         Activation::allowed);
+}
+
+/// It has answered. If it has gone since, the watcher reports the next one.
+void ShortcutsPortal::meet(const QString& owner) {
+    if (owner.isEmpty()) {
+        return;
+    }
+    portal_ = owner;
+    setState(State::none);
+    if (keys_) {
+        open();
+    }
 }
 
 void ShortcutsPortal::set(const std::optional<KeyCombination>& keys) {

@@ -43,6 +43,7 @@ private:
     enum class Listening { off, on };
 
     void askForVersion();
+    void meet(const QString& owner);
     void follow(const QString& owner);
     void forget();
     void closeSession(const QString& session);

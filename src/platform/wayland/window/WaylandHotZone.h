@@ -45,6 +45,7 @@ private:
     std::function<Report(const Sight&)> callback_;
     Handle next_; ///< The next report.
     Handle underPointer_;
+    Handle drawn_;
     Handle pointer_;
     Handle drags_;
     Handle screenChanges_;
