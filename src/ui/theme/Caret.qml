@@ -8,7 +8,9 @@ Item {
 
     function rest() {
         blink.on = true;
-        blink.restart();
+        if (visible) { // A hidden one moves while it is laid out.
+            blink.restart();
+        }
     }
 
     width: 1.5
