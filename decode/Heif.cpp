@@ -101,4 +101,9 @@ QImage heifImage(const QByteArray& bytes, int height) {
     return decoded(file.primary());
 }
 
+const HeifReader* raveloHeif() {
+    static constexpr HeifReader reader{heifSize, heifImage};
+    return &reader;
+}
+
 } // namespace ravelo::decode

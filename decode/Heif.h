@@ -17,4 +17,13 @@ void loadHeif();
 /// The embedded thumbnail if it has `height`, otherwise the whole picture.
 [[nodiscard]] QImage heifImage(const QByteArray& bytes, int height);
 
+/// The functions above, for who loads them as a library: initialising libheif takes as long as the
+/// rest of a start, so a process that reads only PNG goes without.
+struct HeifReader {
+    QSize (*size)(const QByteArray& bytes);
+    QImage (*image)(const QByteArray& bytes, int height);
+};
+
+extern "C" const HeifReader* raveloHeif();
+
 } // namespace ravelo::decode

@@ -137,16 +137,21 @@ QImage scaled(const QImage& image, QRect part, QSize size) {
     return image.copy(part).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
+const HeifReader* heif = nullptr;
+
 Picture fromHeif(const Request& request, const QByteArray& bytes) {
+    if (heif == nullptr) {
+        return {};
+    }
     const bool whole = request.kind == Kind::probe || request.kind == Kind::png;
-    const Picture found = probed(heifSize(bytes), whole ? maxPixels : maxHeifPixels);
+    const Picture found = probed(heif->size(bytes), whole ? maxPixels : maxHeifPixels);
     if (found.status != Status::done || request.kind == Kind::probe) {
         return found;
     }
     if (whole) {
-        return wholeAsPng(heifImage(bytes, std::numeric_limits<int>::max()));
+        return wholeAsPng(heif->image(bytes, std::numeric_limits<int>::max()));
     }
-    const QImage image = heifImage(bytes, request.height);
+    const QImage image = heif->image(bytes, request.height);
     if (image.isNull()) {
         return {};
     }
@@ -198,6 +203,10 @@ Picture decodePicture(const Request& request, const QByteArray& bytes) {
     }
     QImageReader::setAllocationLimit(maxMegabytes);
     return format == Format::heif ? fromHeif(request, bytes) : fromQt(request, format, bytes);
+}
+
+void readHeifBy(const HeifReader* reader) {
+    heif = reader;
 }
 
 void loadFormats() {

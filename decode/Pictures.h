@@ -19,7 +19,12 @@ struct Picture {
 /// Reads untrusted bytes: only in a process that is locked down. Needs no application object.
 [[nodiscard]] Picture decodePicture(const Request& request, const QByteArray& bytes);
 
-/// Loads everything from the disk that is needed to read and write any format.
+struct HeifReader;
+
+/// HEIF is refused without; null for none. Before the first picture.
+void readHeifBy(const HeifReader* reader);
+
+/// Loads everything from the disk that is needed to read and write any format but HEIF.
 void loadFormats();
 
 } // namespace ravelo::decode

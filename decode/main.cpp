@@ -2,15 +2,19 @@
 // when there is a picture to read; it ends by itself.
 
 #include "decode/Conversation.h"
+#include "decode/Formats.h"
+#include "decode/Heif.h"
 #include "decode/LockDown.h"
 #include "decode/Pictures.h"
 
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <string_view>
 #include <thread>
 #include <utility>
 
+#include <dlfcn.h>
 #include <malloc.h>
 #include <sys/resource.h>
 #include <sys/socket.h>
@@ -62,11 +66,26 @@ bool hasWorkedLong() {
     return double(std::clock()) / CLOCKS_PER_SEC > busyLife;
 }
 
+enum class Readable { png, all };
+
+void load(Readable readable) {
+    if (readable == Readable::png) {
+        return; // Qt needs no library for it.
+    }
+    loadFormats();
+    if (void* library = dlopen("$ORIGIN/ravelo-decode-heif.so", RTLD_NOW)) {
+        using Reader = const HeifReader* (*)();
+        const auto reader = reinterpret_cast<Reader>(dlsym(library, "raveloHeif"));
+        readHeifBy(reader != nullptr ? reader() : nullptr);
+    }
+}
+
 /// Whether to continue.
-bool carryOut(Order& order) {
+bool carryOut(Order& order, Readable readable) {
     limitTime(order.request.milliseconds); // Of reading, too: a file's mount may die meanwhile.
     const QByteArray bytes = readAll(std::exchange(order.picture, {})); // Closed before decoding.
-    const Picture picture = decodePicture(order.request, bytes);
+    const bool isReadable = readable == Readable::all || formatOf(bytes) == Format::png;
+    const Picture picture = isReadable ? decodePicture(order.request, bytes) : Picture();
     Reply reply{picture.status, picture.size.width(), picture.size.height(),
                 hasWorkedLong() ? 1U : 0U, 0};
     const QByteArrayView contents =
@@ -80,14 +99,16 @@ bool carryOut(Order& order) {
 
 } // namespace
 
-int main() {
+int main(int argc, char** argv) {
     if (!isCalledByRavelo()) {
         std::fputs("ravelo-decode reads pictures for ravelo, which starts it.\n", stderr);
         return EXIT_FAILURE;
     }
     detach();
     avoidFiles();
-    loadFormats();
+    const bool onlyPng = argc > 1 && std::string_view(argv[1]) == onlyPngOption;
+    const Readable readable = onlyPng ? Readable::png : Readable::all;
+    load(readable);
     std::thread([] {}).join(); // The first thread sets up signal handling.
     if (!lockDown()) {
         _exit(EXIT_FAILURE);
@@ -95,7 +116,7 @@ int main() {
     if (!send({Status::ready, 0, 0, 0, 0}, {})) {
         _exit(EXIT_FAILURE);
     }
-    for (auto order = nextOrder(); order && carryOut(*order); order = nextOrder()) {
+    for (auto order = nextOrder(); order && carryOut(*order, readable); order = nextOrder()) {
     }
     _exit(EXIT_SUCCESS);
 }

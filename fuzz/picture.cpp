@@ -2,6 +2,7 @@
 
 #include "Input.h"
 #include "decode/Formats.h"
+#include "decode/Heif.h"
 #include "decode/Pictures.h"
 
 #include <algorithm>
@@ -21,7 +22,7 @@ constexpr int maxEncoded = 256 * 256;
 } // namespace
 
 int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
-    static const bool loaded = (loadFormats(), true);
+    static const bool loaded = (loadFormats(), readHeifBy(raveloHeif()), true);
     (void)loaded;
     const QByteArray picture = fuzz::view(bytes, size).toByteArray();
     if (formatOf(picture) != FORMAT) {

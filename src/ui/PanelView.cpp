@@ -29,8 +29,12 @@ QWindow* chooseRenderer() {
     return nullptr;
 }
 
-QUrl contentUrl() {
+QUrl closedUrl() {
     return QUrl(u"qrc:/Ravelo/Panel/Panel.qml"_s);
+}
+
+QUrl contentUrl() {
+    return QUrl(u"qrc:/Ravelo/Panel/ContentView.qml"_s);
 }
 
 /// "<radius in device pixels>/<file name>"; paths outside `folder` are not possible.
@@ -54,7 +58,8 @@ QQuickImageProvider* fileThumbs(const std::shared_ptr<const FileIcons>& icons,
 
 } // namespace
 
-PanelView::PanelView() : view_(chooseRenderer()), content_(view_.engine()) {
+PanelView::PanelView()
+    : view_(chooseRenderer()), closed_(view_.engine()), content_(view_.engine()) {
     keepStemsThin();
     registerModules();
     view_.setTitle(u"Ravelo"_s);
@@ -62,6 +67,8 @@ PanelView::PanelView() : view_(chooseRenderer()), content_(view_.engine()) {
     view_.installEventFilter(&copyOnly_);
     view_.setResizeMode(QQuickView::SizeRootObjectToView);
     view_.engine()->addImportPath(u"qrc:/"_s);
+    // One after the other: the closed panel is drawn while the thread compiles the rest.
+    closed_.loadUrl(closedUrl(), QQmlComponent::Asynchronous);
     content_.loadUrl(contentUrl(), QQmlComponent::Asynchronous);
 }
 
@@ -75,6 +82,8 @@ void PanelView::load(const PanelFeatures::Services& services, const QLocale& loc
     };
     QObject::connect(&view_, &QWindow::widthChanged, &all.state, resized);
     QObject::connect(&view_, &QWindow::heightChanged, &all.state, resized);
+    QObject::connect(&view_, &QQuickWindow::frameSwapped, &all.state, &PanelState::windowDrawn,
+                     Qt::SingleShotConnection);
     view_.engine()->addImageProvider(u"thumb"_s,
                                      clipThumbs(services.store.clipsDir(), services.decoder));
     view_.engine()->addImageProvider(u"file"_s, fileThumbs(services.icons, services.decoder));
@@ -93,7 +102,7 @@ void PanelView::load(const PanelFeatures::Services& services, const QLocale& loc
                                 {u"notices"_s, QVariant::fromValue(&services.notices)},
                                 {u"toast"_s, QVariant::fromValue(&all.toast)},
                                 {u"actions"_s, QVariant::fromValue(&all.actions)}});
-    view_.setSource(contentUrl());
+    view_.setSource(closedUrl());
 }
 
 void PanelView::unload() {

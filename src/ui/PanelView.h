@@ -33,8 +33,9 @@ public:
 private:
     std::unique_ptr<PanelFeatures> features_; // Must outlive the content in the view.
     QQuickView view_;
-    QQmlComponent content_;
-    std::vector<std::unique_ptr<QQmlComponent>> pages_; ///< Of the tabs, kept compiled.
+    QQmlComponent closed_;
+    QQmlComponent content_;                             ///< Kept compiled, like the pages.
+    std::vector<std::unique_ptr<QQmlComponent>> pages_; ///< Of the tabs.
     CopyOnly copyOnly_;
 };
 

@@ -33,8 +33,8 @@ QStringList children() {
 class CountedDecoder : public testing::Test {
 protected:
     CountedDecoder() {
-        const QString script =
-            makeProgram(folder.filePath(u"start"_s), "echo >>\"${0}ed\"\nexec " RAVELO_DECODE "\n");
+        const QString script = makeProgram(folder.filePath(u"start"_s),
+                                           "echo >>\"${0}ed\"\nexec " RAVELO_DECODE " \"$@\"\n");
         decoder = std::make_unique<DecoderProcess>(QFile::encodeName(script),
                                                    QFile::encodeName(folder.filePath(u"own"_s)));
     }
@@ -90,6 +90,10 @@ TEST_F(CountedDecoder, KeepsPicturesOfDifferentOriginApart) {
         EXPECT_EQ(sizeOf(*decoder, step.picture), QSize(64, 32)) << step.what;
         EXPECT_EQ(starts(), step.starts) << step.what;
     }
+    const PictureFile renamed = write("own/b.png", samples::picture("jpg"));
+    EXPECT_EQ(sizeOf(*decoder, renamed), QSize()) << "ours are all PNG";
+    EXPECT_EQ(decoder->filling(own, {9, 9, 9}).size(), QSize(9, 9));
+    EXPECT_EQ(starts(), 4) << "another format ends the process";
 }
 
 TEST_F(CountedDecoder, ForgetsOneFileOnly) {

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "base/Files.h"
+#include "decode/Heif.h"
 #include "decode/Pictures.h"
 #include "platform/ImageDecoder.h"
 
@@ -11,6 +12,8 @@ namespace ravelo {
 /// Decodes in this process: for pictures made by tests.
 class InProcessDecoder final : public ImageDecoder {
 public:
+    InProcessDecoder() { decode::readHeifBy(decode::raveloHeif()); }
+
     PictureLook look(const UntrustedPicture& picture) override {
         using Kind = PictureLook::Kind;
         const decode::Picture found = decoded(picture, {decode::Kind::probe, 0, 0, 0, 0});

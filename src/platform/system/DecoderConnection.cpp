@@ -27,7 +27,7 @@ constexpr std::chrono::milliseconds startTime(5000); ///< On a busy machine.
 constexpr std::chrono::milliseconds restCheck(5000); ///< How often a resting process is checked.
 
 /// Without environment, other descriptors or blocked signals. 0 if it could not be started.
-pid_t spawn(const QByteArray& program, int socket) {
+pid_t spawn(const QByteArray& program, DecoderConnection::Formats formats, int socket) {
     posix_spawn_file_actions_t files;
     posix_spawn_file_actions_init(&files);
     posix_spawn_file_actions_adddup2(&files, socket, socketNumber);
@@ -43,7 +43,10 @@ pid_t spawn(const QByteArray& program, int socket) {
     posix_spawnattr_setsigmask(&attributes, &signals);
     sigfillset(&signals);
     posix_spawnattr_setsigdefault(&attributes, &signals);
-    std::array arguments{const_cast<char*>(program.constData()), static_cast<char*>(nullptr)};
+    const bool onlyPng = formats == DecoderConnection::Formats::png;
+    std::array arguments{const_cast<char*>(program.constData()),
+                         onlyPng ? const_cast<char*>(onlyPngOption) : nullptr,
+                         static_cast<char*>(nullptr)};
     std::array environment{static_cast<char*>(nullptr)};
     pid_t child = 0;
     if (posix_spawn(&child, program.constData(), &files, &attributes, arguments.data(),
@@ -82,14 +85,15 @@ bool waitFor(const Descriptor& socket, std::chrono::milliseconds timeout) {
 
 } // namespace
 
-std::optional<DecoderConnection> DecoderConnection::start(const QByteArray& program) {
+std::optional<DecoderConnection> DecoderConnection::start(const QByteArray& program,
+                                                          Formats formats) {
     std::array<int, 2> ends{};
     if (socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()) != 0) {
         return std::nullopt;
     }
     Descriptor ours(ends[0]);
     const Descriptor theirs(ends[1]);
-    const pid_t child = spawn(program, theirs.number());
+    const pid_t child = spawn(program, formats, theirs.number());
     if (child == 0) {
         return std::nullopt;
     }

@@ -21,8 +21,11 @@ public:
         QByteArray contents; ///< As long as the reply says.
     };
 
+    enum class Formats { png, all };
+
     /// Starts the program, which needs no waiting for; nothing if that fails.
-    [[nodiscard]] static std::optional<DecoderConnection> start(const QByteArray& program);
+    [[nodiscard]] static std::optional<DecoderConnection> start(const QByteArray& program,
+                                                                Formats formats = Formats::all);
 
     /// Uses an existing socket; `process` is the pidfd of the other side, if that is to be killed.
     explicit DecoderConnection(Descriptor socket, Descriptor process = {})

@@ -220,7 +220,9 @@ std::optional<DecoderConnection> DecoderProcess::sent(const Source& source,
             return old;
         }
     }
-    auto connection = DecoderConnection::start(program_);
+    using Formats = DecoderConnection::Formats;
+    auto connection = DecoderConnection::start(
+        program_, source.origin == Origin::own ? Formats::png : Formats::all);
     return connection && connection->send(request, source.descriptor) ? std::move(connection)
                                                                       : std::nullopt;
 }

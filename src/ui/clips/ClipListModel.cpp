@@ -251,7 +251,11 @@ QList<ClipItem> ClipListModel::shownClips() {
     }
     QList<ClipItem> found = search(phrase_);
     byWords_ = found.isEmpty();
-    return byWords_ ? search(words_) : found;
+    if (byWords_) {
+        words_.skipMissed(phrase_);
+        found = search(words_);
+    }
+    return found;
 }
 
 QList<ClipItem> ClipListModel::search(TextSearch& texts) {

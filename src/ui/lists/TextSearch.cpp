@@ -190,6 +190,18 @@ bool TextSearch::finds(const QUuid& id, const QString& text) {
     return found;
 }
 
+void TextSearch::skipMissed(const TextSearch& other) {
+    if (levels_.isEmpty() || other.levels_.isEmpty() ||
+        levels_.last().wanted != other.levels_.last().wanted) {
+        return;
+    }
+    for (const QUuid& id : other.levels_.last().missed) {
+        if (!other.folded_.contains(id)) {
+            levels_.last().missed.insert(id);
+        }
+    }
+}
+
 bool TextSearch::contains(const QUuid& id, const QString& text, const QStringList& wanted) {
     const auto known = folded_.constFind(id);
     if (known != folded_.cend()) {

@@ -30,6 +30,10 @@ public:
     /// `id` identifies a text that never changes.
     [[nodiscard]] bool finds(const QUuid& id, const QString& text);
 
+    /// Skips texts in which `other` searched the same in vain, unless they are not ASCII: only
+    /// there phrases and words differ.
+    void skipMissed(const TextSearch& other);
+
     /// Where `text` has what is wanted.
     [[nodiscard]] QList<TextRange> matches(const QString& text) const;
 

@@ -8,8 +8,18 @@ FocusScope {
 
     required property PanelState panelState
     required property bool open
-    /// Shown while the panel is open.
-    required property Component content
+    /// Shown while the panel is open. By its address: the closed panel is drawn before this is
+    /// compiled.
+    required property url content
+    required property var contentProperties
+
+    function follow() {
+        if (panelState.hasContent) {
+            loader.setSource(content, contentProperties);
+        } else {
+            loader.source = "";
+        }
+    }
 
     // Independent of the window, which is small until the panel opens.
     width: panelState.contentSize.width
@@ -22,11 +32,19 @@ FocusScope {
         }
     }
 
+    Component.onCompleted: follow()
+
+    Connections {
+        target: slot.panelState
+        function onHasContentChanged() {
+            slot.follow();
+        }
+    }
+
     Loader {
+        id: loader
         anchors.fill: parent
-        active: slot.panelState.hasContent
         focus: true
-        sourceComponent: slot.content
     }
 
     // A picture that is shown first must not fade to what it shows.

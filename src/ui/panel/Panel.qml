@@ -61,17 +61,28 @@ Item {
         paused: panel.pausing.paused
     }
 
-    TimerBarView {
+    Loader {
         id: bar
-        objectName: "bar"
+
+        /// Loaded when it is first shown: no text delays the first handle.
+        readonly property bool needed: panel.controller.showsBar
+
+        function follow() {
+            if (needed && status === Loader.Null) {
+                setSource("BarView.qml", {
+                    controller: panel.controller,
+                    focusing: panel.focusing,
+                    pausing: panel.pausing
+                });
+            }
+        }
+
         x: panel.centred(width)
         width: panel.controller.collapsedSize.width
         height: panel.controller.collapsedSize.height
-        visible: !slot.open && panel.controller.showsBar
-        focusing: panel.focusing
-        paused: panel.pausing.paused
-        notch: panel.controller.notch
-        ended: panel.controller.timerEnded
+        visible: !slot.open && needed
+        onNeededChanged: follow()
+        Component.onCompleted: follow()
     }
 
     Binding {
@@ -99,20 +110,19 @@ Item {
         focus: true
         panelState: panel.panelState
         open: panel.controller.isOpen
-        // qmllint disable unqualified
-        content: ContentView {
-            controller: panel.controller
-            panelState: panel.panelState
-            tabs: panel.tabs
-            pausing: panel.pausing
-            focusing: panel.focusing
-            usage: panel.usage
-            snippets: panel.snippets
-            shelfFiles: panel.shelfFiles
-            notices: panel.notices
-            toast: panel.toast
+        content: Qt.resolvedUrl("ContentView.qml")
+        contentProperties: ({
+            controller: panel.controller,
+            panelState: panel.panelState,
+            tabs: panel.tabs,
+            pausing: panel.pausing,
+            focusing: panel.focusing,
+            usage: panel.usage,
+            snippets: panel.snippets,
+            shelfFiles: panel.shelfFiles,
+            notices: panel.notices,
+            toast: panel.toast,
             actions: panel.actions
-        }
-        // qmllint enable unqualified
+        })
     }
 }

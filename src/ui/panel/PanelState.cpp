@@ -4,12 +4,18 @@
 #include "panel/NotchController.h"
 #include "settings/AppSettings.h"
 
+#include <utility>
+
 namespace ravelo {
 
 namespace {
 
 /// Long enough for the closed panel to leave the screen, short enough to precede the next opening.
 constexpr Seconds buildDelay(0.04);
+
+/// At the start, the content must not delay the first frame of the closed panel, which some
+/// desktops never show.
+constexpr Seconds frameTimeout(1);
 
 } // namespace
 
@@ -77,8 +83,19 @@ void PanelState::follow() {
         setHasContent(false);
         Q_EMIT closed();
         setContentSize(controller_.sizeToOpenWith());
-        building_ = scheduler_.after(buildDelay, [this] { setHasContent(true); });
+        buildSoon();
     }
+}
+
+void PanelState::windowDrawn() {
+    if (!std::exchange(drawn_, true) && !controller_.isOpen()) {
+        buildSoon();
+    }
+}
+
+void PanelState::buildSoon() {
+    building_ =
+        scheduler_.after(drawn_ ? buildDelay : frameTimeout, [this] { setHasContent(true); });
 }
 
 void PanelState::setHasContent(bool has) {

@@ -55,6 +55,9 @@ public:
     /// The user wants fades instead of movements.
     void setReducedMotion(bool reduced);
 
+    /// The window has been drawn for the first time.
+    void windowDrawn();
+
     /// The window has this size now.
     void windowResized(QSizeF size);
 
@@ -70,12 +73,14 @@ Q_SIGNALS:
 
 private:
     void follow();
+    void buildSoon();
     void setHasContent(bool has);
     void setContentSize(QSizeF size);
 
     NotchController& controller_;
     AppSettings& settings_;
     Scheduler& scheduler_;
+    bool drawn_ = false;
     bool hasContent_ = false;
     QSizeF contentSize_;
     Backdrop::Kind backdrop_ = Backdrop::Translucent;
