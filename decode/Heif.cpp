@@ -81,10 +81,6 @@ QImage decoded(const heif_image_handle* picture) {
 
 } // namespace
 
-void loadHeif() {
-    heif_init(nullptr); // Since 1.16 they are plugins.
-}
-
 QSize heifSize(const QByteArray& bytes) {
     const File file(bytes);
     return file.primary() == nullptr ? QSize() : sizeOf(file.primary());
@@ -103,6 +99,7 @@ QImage heifImage(const QByteArray& bytes, int height) {
 
 const HeifReader* raveloHeif() {
     static constexpr HeifReader reader{heifSize, heifImage};
+    heif_init(nullptr); // Since 1.16 the codecs are plugins.
     return &reader;
 }
 

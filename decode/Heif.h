@@ -8,9 +8,6 @@ namespace ravelo::decode {
 
 inline constexpr qint64 maxHeifPixels = 50'000'000;
 
-/// Loads the codecs. Without it the first picture does, which needs files.
-void loadHeif();
-
 /// HEIF (ISO/IEC 23008-12), as written by phones; upright. Empty if it cannot be read.
 [[nodiscard]] QSize heifSize(const QByteArray& bytes);
 
@@ -24,6 +21,7 @@ struct HeifReader {
     QImage (*image)(const QByteArray& bytes, int height);
 };
 
+/// Loads the codecs, too, which needs files.
 extern "C" const HeifReader* raveloHeif();
 
 } // namespace ravelo::decode

@@ -217,7 +217,6 @@ void loadFormats() {
             (void)decodePicture({kind, 1, 1, 1, 0}, bytes);
         }
     }
-    loadHeif();
 }
 
 } // namespace ravelo::decode
