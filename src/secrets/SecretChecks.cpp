@@ -1,6 +1,8 @@
 #include "secrets/SecretChecks.h"
 
 #include <QByteArray>
+#include <QJsonDocument>
+#include <QJsonObject>
 #include <QStringList>
 
 #include <algorithm>
