@@ -233,7 +233,7 @@ class LabwcDesktop(WaylandDesktop):
         wait_for(report.exists, "labwc")
         self._take_sockets(report.read_text())
         self.run("wlr-randr", "--output", "HEADLESS-2", "--off")
-        self.run("wlr-randr", "--output", "HEADLESS-1", "--custom-mode", f"{WIDTH}x{HEIGHT}")
+        self.run("wlr-randr", "--output", "HEADLESS-1", "--custom-mode", f"{WIDTH}x{HEIGHT}", "--pos", "0,0")
 
     def add_output(self):
         self.run("wlr-randr", "--output", "HEADLESS-2", "--on", "--custom-mode",
