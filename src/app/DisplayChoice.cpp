@@ -42,9 +42,12 @@ Result<DisplayChoice> chooseDisplay() {
     if (choice) {
         return choice;
     }
-    return gnome::isExtensionRunning()
-               ? DisplayChoice{Display::gnome, u"its extension for Ravelo is running"_s}
-               : onX11(choice.error().message);
+    if (gnome::isExtensionRunning()) {
+        return DisplayChoice{Display::gnome, u"its extension for Ravelo is running"_s};
+    }
+    const bool isThere =
+        qEnvironmentVariableIsSet("WAYLAND_DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_SOCKET");
+    return onX11(isThere ? choice.error().message : QString());
 }
 
 QString describe(const DisplayChoice& choice) {
@@ -59,7 +62,7 @@ QString describe(const DisplayChoice& choice) {
         }
         return QString();
     };
-    return u"%1 (%2)"_s.arg(name(), choice.reason);
+    return choice.reason.isEmpty() ? name() : u"%1 (%2)"_s.arg(name(), choice.reason);
 }
 
 } // namespace ravelo

@@ -2,7 +2,7 @@
 
 #include "platform/DetachedJobs.h"
 #include "platform/ImageDecoder.h"
-#include "store/KnownSnippets.h"
+#include "store/KnownRecords.h"
 #include "store/SnippetFile.h"
 #include "store/Store.h"
 #include "store/Transfer.h"
@@ -72,11 +72,12 @@ void Transfers::import(std::function<Imported()> read, std::function<void(const 
     importing_ = services_.store.keepFiles([this, read = std::move(read), add = std::move(add)] {
         const auto outcome = std::make_shared<Imported>(neverRan());
         running_ = services_.jobs.run(
-            [read, outcome, known = services_.store.snippets(), vault = services_.store.vault(),
-             decoder = services_.decoder, mayWrite = services_.mayWrite] {
+            [read, outcome, known = services_.store.contents().data,
+             vault = services_.store.vault(), decoder = services_.decoder,
+             mayWrite = services_.mayWrite] {
                 *outcome = read();
                 if (*outcome) {
-                    dropKnownSnippets((*outcome)->data, known, *vault, *decoder, mayWrite);
+                    dropKnownRecords((*outcome)->data, known, *vault, *decoder, mayWrite);
                 }
             },
             [this, outcome, add] {

@@ -4,6 +4,7 @@
 #include "base/UriList.h"
 
 #include <QSysInfo>
+#include <QUtf8StringView>
 
 #include <algorithm>
 
@@ -43,19 +44,30 @@ bool isUnasked(const PasteboardSnapshot& snapshot, const QString& type) {
     return snapshot.types.contains(type) && !snapshot.answers.contains(type);
 }
 
-/// GTK 4.8 puts the paths of several files on one line.
-bool mayBePathsInALine(const QString& text) {
-    return text.startsWith(u'/') && text.contains(u" /") && !text.contains(u'\n');
+/// GTK 4.8 puts the paths of several files on one line; others offer the files' addresses as text.
+bool mayBeFiles(const QString& text) {
+    return text.startsWith("file:/"_L1) ||
+           (text.startsWith(u'/') && text.contains(u" /") && !text.contains(u'\n'));
 }
 
-/// Their paths if they are all on this machine.
-QByteArrayList copiedPaths(const PasteboardSnapshot& snapshot) {
-    const QByteArray list = snapshot.answers.value(filesType).value_or(QByteArray());
+/// Those that are on this machine.
+QByteArrayList pathsIn(const QByteArray& addresses) {
     QByteArrayList paths;
-    for (const QUrl& file : localFiles(list, QSysInfo::machineHostName().toUtf8())) {
+    for (const QUrl& file : localFiles(addresses, QSysInfo::machineHostName().toUtf8())) {
         paths.append(filePath(file));
     }
     return paths;
+}
+
+QByteArrayList copiedPaths(const PasteboardSnapshot& snapshot) {
+    return pathsIn(snapshot.answers.value(filesType).value_or(QByteArray()));
+}
+
+/// Whether the text is these files: their paths in a line, or nothing but their addresses.
+bool names(const QString& text, const QByteArrayList& paths) {
+    const QByteArray bytes = text.toUtf8();
+    return text == QString::fromUtf8(paths.join(' ')).trimmed() ||
+           (!paths.isEmpty() && pathsIn(bytes) == paths && bytes.count('\n') == paths.size() - 1);
 }
 
 /// A mark whose value is not known yet; empty if there is none.
@@ -137,7 +149,7 @@ QString nextCaptureType(const PasteboardSnapshot& snapshot, const QStringList& u
         return plainTextType;
     }
     const QString text = capturedText(snapshot);
-    if (mayBePathsInALine(text) && isUnasked(snapshot, filesType)) {
+    if (mayBeFiles(text) && isUnasked(snapshot, filesType)) {
         return filesType;
     }
     return text.isEmpty() ? nextImageType(snapshot, useless) : QString();
@@ -162,10 +174,11 @@ bool isConcealed(const PasteboardSnapshot& snapshot) {
 QString capturedText(const PasteboardSnapshot& snapshot, TextEnds ends) {
     QString text = QString::fromUtf8(snapshot.answers.value(plainTextType).value_or(QByteArray()));
     QString trimmed = text.trimmed();
-    if (mayBePathsInALine(trimmed)) {
+    if (mayBeFiles(trimmed)) {
         const QByteArrayList paths = copiedPaths(snapshot);
-        if (trimmed == QString::fromUtf8(paths.join(' ')).trimmed()) {
-            return QString::fromUtf8(paths.join('\n')).trimmed();
+        const QByteArray joined = paths.join('\n');
+        if (QUtf8StringView(joined).isValidUtf8() && names(trimmed, paths)) {
+            return QString::fromUtf8(joined).trimmed();
         }
     }
     return ends == TextEnds::trimmed || trimmed.isEmpty() ? trimmed : text;

@@ -1014,10 +1014,6 @@
         <translation>%1 kopieren</translation>
     </message>
     <message>
-        <source>Return</source>
-        <translation>Eingabe</translation>
-    </message>
-    <message>
         <source>Delete %1</source>
         <translation>%1 löschen</translation>
     </message>
@@ -1324,6 +1320,10 @@
     <message>
         <source>Save</source>
         <translation>Sichern</translation>
+    </message>
+    <message>
+        <source>Discard the changes?</source>
+        <translation>Änderungen verwerfen?</translation>
     </message>
 </context>
 <context>
@@ -2059,6 +2059,10 @@
         <source>New</source>
         <translation>Neu</translation>
     </message>
+    <message>
+        <source>Minutes are a whole number from 1</source>
+        <translation>Minuten: eine ganze Zahl ab 1</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::IgnoreTrial</name>
@@ -2396,14 +2400,6 @@
 </context>
 <context>
     <name>ravelo::SettingsWindow</name>
-    <message>
-        <source>%1 KB</source>
-        <translation>%1 KB</translation>
-    </message>
-    <message>
-        <source>%1 MB</source>
-        <translation>%1 MB</translation>
-    </message>
     <message>
         <source>1 snippet exported.</source>
         <translation>1 Baustein exportiert.</translation>

@@ -1014,10 +1014,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Return</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Delete %1</source>
         <translation type="unfinished"></translation>
     </message>
@@ -1323,6 +1319,10 @@
     </message>
     <message>
         <source>Save</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Discard the changes?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2059,6 +2059,10 @@
         <source>New</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Minutes are a whole number from 1</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::IgnoreTrial</name>
@@ -2396,14 +2400,6 @@
 </context>
 <context>
     <name>ravelo::SettingsWindow</name>
-    <message>
-        <source>%1 KB</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>%1 MB</source>
-        <translation type="unfinished"></translation>
-    </message>
     <message>
         <source>1 snippet exported.</source>
         <translation type="unfinished"></translation>

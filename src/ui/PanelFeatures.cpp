@@ -31,6 +31,8 @@ PanelFeatures::PanelFeatures(const Services& services, const QLocale& locale,
                              services.opener, services.scheduler, services.jobs, services.received,
                              services.nearby, toast, services.icons, services.decoder},
         locale);
+    QObject::connect(&focus, &Focus::minutesRefused, &toast,
+                     [this] { toast.flash(Focus::tr("Minutes are a whole number from 1")); });
     followTyping(services.controller, window);
     followState();
 }

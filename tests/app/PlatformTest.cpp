@@ -41,6 +41,7 @@ TEST(DisplayChoice, isTheOneThatIsAskedForOrAClearError) {
         EXPECT_EQ(chosen(ravelo, qt), expected) << ravelo << ", " << qt;
     }
     qunsetenv("RAVELO_PLATFORM");
+    EXPECT_EQ(describe({Display::x11, {}}), u"X11"_s) << "there was no choice";
 }
 
 } // namespace

@@ -3,6 +3,7 @@
 The build passes RAVELO (the program) and VIRTUAL_HAND (its pointer and keyboard).
 """
 
+import json
 import os
 import pathlib
 import signal
@@ -55,6 +56,21 @@ class WaylandClipboard(WaylandCase):
         self.wait_for_texts("two words")
         copier.kill()
         wait_for(lambda: self.desktop.paste_text() == "two words", "the text offered again")
+
+    def test_copies_in_windows_of_an_ignored_program_are_not_kept(self):
+        self.ravelo.process.terminate()
+        wait_for(self.ravelo.has_ended, "the end of the program")
+        self.desktop.preferences.write_text(json.dumps(
+            {"onboarded": True, "ignoredPrograms": ["gtk_peer.py"]}))
+        self.ravelo.start()
+        for key in ("a", "b", "ctrl+a", "ctrl+c"):  # In GTK's text field.
+            self.desktop.key(key)
+        wait_for(lambda: self.desktop.paste_text() == "ab", "the copied text")
+        self.window.kill()
+        wait_for(lambda: "gtk_peer.py" not in self.desktop.sway("-t", "get_tree"), "no window")
+        self.desktop.copy_text("of another program")
+        wait_for(lambda: self.ravelo.texts(), "the next copy")
+        self.assertEqual(self.ravelo.texts(), ["of another program"])
 
     def test_nothing_is_lost_when_the_compositor_dies(self):
         self.desktop.copy_text("before")

@@ -2,7 +2,7 @@
 
 #include "StoreFixture.h"
 #include "store/Archive.h"
-#include "store/KnownSnippets.h"
+#include "store/KnownRecords.h"
 #include "support/TestFiles.h"
 #include "vault/Vault.h"
 
@@ -27,6 +27,15 @@ protected:
 
     Result<StoreContents> imported() {
         return importStore(archive_, *store_->vault(), *decoder_, {});
+    }
+
+    /// What an import does; the number of new snippets.
+    qsizetype importAll() {
+        auto contents = imported();
+        dropKnownRecords(contents->data, store_->contents().data, *store_->vault(), *decoder_, {});
+        const auto added = store_->addAll(*contents, [](const auto& /*outcome*/) {});
+        settle();
+        return added.value_or(-1);
     }
 
     /// An archive with these entries, in place of the exported one.
@@ -96,6 +105,26 @@ TEST_F(Transfer, ABadArchiveChangesNothing) {
     EXPECT_FALSE(imported()) << "an image that is none";
 }
 
+TEST_F(Transfer, ItsOwnExportDoublesNothing) {
+    const QByteArray odd = picture("png", Qt::blue) + "tail"; // Imported, it has other bytes.
+    store_->addImageClip({{u"image/png"_s}, {{u"image/png"_s, odd}}});
+    settle();
+    store_->togglePin(store_->clips().last().id);
+    settle();
+    ASSERT_TRUE(exported());
+    const QStringList images = imageFiles();
+    const QList<ClipItem> clips = store_->clips();
+    importAll();
+    EXPECT_EQ(store_->clips(), clips);
+    EXPECT_EQ(imageFiles(), images);
+    store_->togglePin(clips[1].id);
+    ASSERT_TRUE(QFile::remove(archive_));
+    ASSERT_TRUE(exported());
+    store_->togglePin(clips[1].id);
+    importAll();
+    EXPECT_EQ(store_->clips().size(), clips.size() + 1) << "only one of both is pinned";
+}
+
 TEST_F(Transfer, SnippetsWithTheSameImageAreNotDoubled) {
     Snippet snippet = store_->snippets()[0];
     snippet.imageFileName = u"0F8FAD5B-D9CB-469F-A165-70867728950E.png"_s;
@@ -103,25 +132,18 @@ TEST_F(Transfer, SnippetsWithTheSameImageAreNotDoubled) {
                                     picture("png", Qt::blue) + "tail"));
     store_->updateSnippet(snippet);
     ASSERT_TRUE(exported());
-    const auto import = [&] {
-        auto contents = imported();
-        dropKnownSnippets(contents->data, store_->snippets(), *store_->vault(), *decoder_, {});
-        const auto added = store_->addAll(*contents, [](const auto& /*outcome*/) {});
-        settle();
-        return added.value_or(-1);
-    };
     const qsizetype before = imageFiles().size();
-    EXPECT_EQ(import(), 0);
-    EXPECT_EQ(imageFiles().size(), before + 1) << "the clip's image, which is added again";
+    EXPECT_EQ(importAll(), 0);
+    EXPECT_EQ(imageFiles().size(), before);
     snippet.body += u"other"_s;
     store_->updateSnippet(snippet);
-    EXPECT_EQ(import(), 1) << "the text differs";
+    EXPECT_EQ(importAll(), 1) << "the text differs";
     snippet.body.chop(5);
     store_->updateSnippet(snippet);
     ASSERT_TRUE(
         writeFileAtomically(store_->imagePath(snippet.imageFileName), picture("png", Qt::green)));
     store_->removeSnippet(store_->snippets().last().id);
-    EXPECT_EQ(import(), 1) << "the image differs";
+    EXPECT_EQ(importAll(), 1) << "the image differs";
 }
 
 TEST_F(Transfer, AnUnreadableImageIsLeftOut) {

@@ -17,6 +17,7 @@ Result<std::unique_ptr<WaylandDisplayServer>> WaylandDisplayServer::create() {
     }
     std::unique_ptr<WaylandDisplayServer> server(new WaylandDisplayServer(std::move(*thread)));
     server->surfaces_ = std::move(*surfaces);
+    server->pasteboard_.setWindows(server->surfaces_->activeWindow());
     server->pasteKeys_ =
         std::make_unique<WaylandPasteKeys>(*server->surfaces_, server->pasteboard_);
     return server;

@@ -7,6 +7,7 @@
 #include "ui/clips/FormNames.h"
 #include "ui/clips/ProgramName.h"
 #include "ui/images/FileThumb.h"
+#include "ui/lists/DataSize.h"
 #include "vault/Vault.h"
 
 #include <QCoreApplication>
@@ -197,10 +198,9 @@ void ClipPreview::showSizes(const QList<qint64>& sizes) {
     bytes_ = sizes.size() == details_.files && !sizes.contains(-1) ? 0 : -1;
     for (qsizetype i = 0; i < sizes.size(); ++i) {
         bytes_ += bytes_ < 0 ? 0 : sizes[i];
-        values_[i] = sizes[i] < 0 ? tr("Not there any more")
-                     : sizes[i] == 0
-                         ? QString()
-                         : locale_.formattedDataSize(sizes[i], 1, QLocale::DataSizeSIFormat);
+        values_[i] = sizes[i] < 0    ? tr("Not there any more")
+                     : sizes[i] == 0 ? QString()
+                                     : dataSize(sizes[i], locale_);
     }
     Q_EMIT changed();
     Q_EMIT pixelsChanged();
@@ -215,9 +215,7 @@ QString ClipPreview::measure() const {
         const QString files = details_.files == 1
                                   ? tr("1 file")
                                   : tr("%1 files").arg(locale_.toString(details_.files));
-        return bytes_ <= 0 ? files
-                           : files + u", "_s +
-                                 locale_.formattedDataSize(bytes_, 1, QLocale::DataSizeSIFormat);
+        return bytes_ <= 0 ? files : files + u", "_s + dataSize(bytes_, locale_);
     }
     if (kind_ == Image) {
         return pixels_.isEmpty() ? QString()
@@ -237,7 +235,7 @@ QString ClipPreview::forms() const {
     switch (kind_) {
     case Image: {
         const qint64 bytes = QFileInfo(store_.imagePath(clip_.imageFileName)).size();
-        return tr("PNG, %1").arg(locale_.formattedDataSize(bytes, 1, QLocale::DataSizeSIFormat));
+        return tr("PNG, %1").arg(dataSize(bytes, locale_));
     }
     case Link:
         return tr("Link");

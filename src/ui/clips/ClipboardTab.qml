@@ -168,6 +168,13 @@ TabPage {
         }
     }
 
+    Connections {
+        target: tab.clips
+        function onRestored(row: int) {
+            tab.select(row);
+        }
+    }
+
     NumberAnimation {
         id: revealing
         target: list

@@ -31,6 +31,7 @@ Clips::Clips(Services services, const QLocale& locale)
             [this] { services_.toast.flash(tr("Too long to edit")); });
     connect(&drag_, &ClipDrag::draggingChanged, this,
             [this] { services_.controller.setDraggingOut(drag_.isDragging()); });
+    connect(&services_.deleting, &Deleting::clipsRestored, this, &Clips::showRestored);
     connect(&links_, &LinkOpening::opened, &services_.controller, &NotchController::dismiss);
 }
 
@@ -112,6 +113,17 @@ void Clips::copyEdited(const QString& text) {
     services_.clipboard.copyNewText(text);
     services_.toast.flashCopied();
     close();
+}
+
+void Clips::showRestored(const QSet<QUuid>& ids) {
+    int first = -1;
+    for (const QUuid& id : ids) {
+        const int row = list_.rowOf(id);
+        first = row >= 0 && (first < 0 || row < first) ? row : first;
+    }
+    if (first >= 0) {
+        Q_EMIT restored(first);
+    }
 }
 
 void Clips::drag(int row, QQuickItem* from) {

@@ -125,6 +125,8 @@ public:
 Q_SIGNALS:
     void selectedChanged();
     void joinedChanged();
+    /// Deleted clips are back; this is the first of their rows.
+    void restored(int row);
 
 private:
     [[nodiscard]] qsizetype removed(const std::function<void()>& remove) const;
@@ -132,6 +134,7 @@ private:
     [[nodiscard]] QStringList selectedTexts(Secrets secrets = Secrets::included) const;
     [[nodiscard]] QString joined(const QStringList& texts) const;
     void copyEdited(const QString& text);
+    void showRestored(const QSet<QUuid>& ids);
     [[nodiscard]] const ClipItem* clipOf(const QUuid& id) const;
 
     [[nodiscard]] const ClipItem* clipAt(int row) const { return clipOf(list_.idAt(row)); }

@@ -12,9 +12,15 @@ Item {
     /// An extra line below; it does not shift the others.
     property alias detail: detail.text
 
+    /// At the bottom, where a toast may cover the text.
+    readonly property real toastRoom: 56
+
     Column {
+        id: column
+        readonly property real room: (empty.height - height) / 2
+
         anchors.centerIn: parent
-        anchors.verticalCenterOffset: 2
+        anchors.verticalCenterOffset: Math.max(-room, Math.min(2, room - empty.toastRoom))
 
         Box {
             objectName: "emptyDisc"

@@ -14,6 +14,8 @@ Popover {
     property bool destroys: false
     /// Return means yes. If false, it means no until "Yes" has the focus.
     property bool yesFirst: false
+    /// The white button: the one that Return presses.
+    property bool yesIsWhite: yesFirst
 
     signal accepted
 
@@ -56,6 +58,7 @@ Popover {
             id: no
             objectName: "no"
             text: qsTr("No")
+            primary: !question.destroys && !question.yesIsWhite
             ring: question.keyed
             Keys.onPressed: question.keyed = true
             KeyNavigation.priority: KeyNavigation.AfterItem
@@ -68,11 +71,11 @@ Popover {
             id: yes
             objectName: "yes"
             text: qsTr("Yes")
-            primary: !question.destroys
-            textColor: question.destroys ? Theme.red : Theme.onWhite
-            rest: question.destroys ? Theme.quit : Theme.primary
-            hover: question.destroys ? Theme.hoveredPower : Theme.primaryHovered
-            press: question.destroys ? Theme.pressedPower : Theme.primaryPressed
+            primary: !question.destroys && question.yesIsWhite
+            textColor: question.destroys ? Theme.red : primary ? Theme.onWhite : Theme.text1
+            rest: question.destroys ? Theme.quit : primary ? Theme.primary : Theme.surface3
+            hover: question.destroys ? Theme.hoveredPower : primary ? Theme.primaryHovered : Theme.surface4
+            press: question.destroys ? Theme.pressedPower : primary ? Theme.primaryPressed : Theme.pressedButton
             ring: question.keyed
             Keys.onPressed: question.keyed = true
             KeyNavigation.priority: KeyNavigation.AfterItem

@@ -59,6 +59,8 @@ void Focus::reload() {
 void Focus::applyCustomMinutes(const QString& typed) {
     if (const auto minutes = customMinutes(typed)) {
         setMinutes(*minutes);
+    } else if (!typed.trimmed().isEmpty()) {
+        Q_EMIT minutesRefused();
     }
 }
 

@@ -66,6 +66,8 @@ Q_SIGNALS:
     void changed();
     void timerChanged();
     void remindersChanged();
+    /// What was typed is no length.
+    void minutesRefused();
 
 private:
     void setPresets(const QStringList& presets);

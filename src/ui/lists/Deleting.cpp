@@ -12,7 +12,20 @@ struct Deleting::Offered {
     Message message;
     qsizetype count = 0;
     qsizetype restored = 0;
+    QSet<QUuid> clips; ///< Those of the records that are clips.
 };
+
+namespace {
+
+QSet<QUuid> clipIds(const Store& store) {
+    QSet<QUuid> ids;
+    for (const ClipItem& clip : store.clips()) {
+        ids.insert(clip.id);
+    }
+    return ids;
+}
+
+} // namespace
 
 Deleting::Deleting(Store& store, Toast& toast, const QLocale& locale)
     : store_(store), toast_(toast), locale_(locale) {}
@@ -26,6 +39,7 @@ void Deleting::run(const Remove& remove, const Message& message) {
     if (!what) {
         what = std::make_shared<Offered>();
     }
+    const QSet<QUuid> before = clipIds(store_);
     const qsizetype removed = remove(what->records);
     if (removed == 0) {
         return;
@@ -33,6 +47,7 @@ void Deleting::run(const Remove& remove, const Message& message) {
     const bool mixed = what->count > 0 && what->message != message;
     what->message = mixed ? Message{{}, tr("%1 deleted")} : message;
     what->count += removed;
+    what->clips += before - clipIds(store_);
     last_ = what;
     toast_.offer(what->count == 1 ? what->message.one
                                   : what->message.many.arg(locale_.toString(what->count)),
@@ -50,6 +65,9 @@ void Deleting::undo(const std::shared_ptr<Offered>& what) {
 
 void Deleting::report(const std::shared_ptr<Offered>& what, const Store::Restored& restored) {
     what->restored += restored.count;
+    if (restored.count > 0) {
+        Q_EMIT clipsRestored(what->clips);
+    }
     if (what->restored == what->count) {
         toast_.flash(tr("Restored \u2713"));
         return;

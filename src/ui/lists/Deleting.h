@@ -4,6 +4,8 @@
 
 #include <QLocale>
 #include <QObject>
+#include <QSet>
+#include <QUuid>
 
 #include <functional>
 #include <memory>
@@ -34,6 +36,10 @@ public:
     void run(const Remove& remove, const Message& message);
     /// With a message for any record.
     void run(const Remove& remove);
+
+Q_SIGNALS:
+    /// These were deleted and are back in the history, as far as possible.
+    void clipsRestored(const QSet<QUuid>& ids);
 
 private:
     struct Offered;

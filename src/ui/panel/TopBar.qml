@@ -146,6 +146,7 @@ Item {
     Question {
         id: confirmPower
         objectName: "powerQuestion"
+        yesIsWhite: true // As designed; Return still means no.
         text: qsTr("Shut down the Mac?")
         onAccepted: bar.actions.shutDown()
     }

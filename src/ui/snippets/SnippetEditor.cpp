@@ -39,7 +39,7 @@ void SnippetEditor::editNew() {
 
 void SnippetEditor::begin(const Snippet& snippet) {
     if (!editing_) {
-        editing_ = snippet;
+        editing_ = begun_ = snippet;
         Q_EMIT changed();
     }
 }

@@ -23,6 +23,8 @@ class SnippetEditor : public QObject {
     Q_PROPERTY(QString body READ body WRITE setBody NOTIFY changed)
     Q_PROPERTY(QString imageFileName READ imageFileName NOTIFY changed)
     Q_PROPERTY(bool canSave READ canSave NOTIFY changed)
+    /// Something would be lost by `cancel`.
+    Q_PROPERTY(bool modified READ isModified NOTIFY changed)
 
 public:
     explicit SnippetEditor(Store& store);
@@ -41,6 +43,8 @@ public:
 
     /// Requires a title.
     [[nodiscard]] bool canSave() const { return !title().trimmed().isEmpty(); }
+
+    [[nodiscard]] bool isModified() const { return editing_ && *editing_ != begun_; }
 
     // No effect while another one is edited or if there is no such snippet.
     Q_INVOKABLE void edit(const QUuid& id);
@@ -67,6 +71,7 @@ private:
 
     Store& store_;
     std::optional<Snippet> editing_;
+    Snippet begun_;        ///< As it was.
     QStringList attached_; ///< Image files that the store does not refer to.
     Handle attaching_;
 };

@@ -45,7 +45,7 @@ void SnippetListModel::update() {
             found.append(snippet);
         }
     }
-    apply(found);
+    apply(found.isEmpty() ? store_.snippets() : found);
 }
 
 } // namespace ravelo

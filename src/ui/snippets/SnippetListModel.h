@@ -10,7 +10,8 @@ namespace ravelo {
 
 class Store;
 
-/// The snippets as shown in the strip: those whose title or body contains `search`. Main thread.
+/// The snippets as shown in the strip: those whose title or body contains `search`, all
+/// if none does. Main thread.
 class SnippetListModel : public KeyedListModel<Snippet> {
     Q_OBJECT
     QML_ELEMENT

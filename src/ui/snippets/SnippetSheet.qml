@@ -33,6 +33,11 @@ FocusScope {
         }
     }
 
+    /// By key, which is easily pressed by mistake: asks first if something would be lost.
+    function leave() {
+        editor.modified ? question.openUnder(titleField, 0) : editor.cancel();
+    }
+
     function begin() {
         titleField.mistaken = false;
         focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
@@ -66,7 +71,7 @@ FocusScope {
     Keys.onPressed: event => {
         const returns = event.key === Qt.Key_Return || event.key === Qt.Key_Enter;
         if (event.key === Qt.Key_Escape) {
-            editor.cancel();
+            leave();
         } else if (returns && (event.modifiers & Qt.ControlModifier || title.activeFocus)) {
             layer.save();
         }
@@ -277,5 +282,12 @@ FocusScope {
             KeyNavigation.backtab: cancel
             onClicked: layer.save()
         }
+    }
+
+    Question {
+        id: question
+        objectName: "snippetDiscardQuestion"
+        text: qsTr("Discard the changes?")
+        onAccepted: layer.editor.cancel()
     }
 }

@@ -1,6 +1,7 @@
 #include "ui/windows/SettingsWindow.h"
 
 #include "platform/Notifier.h"
+#include "ui/lists/DataSize.h"
 
 #include <QLocale>
 
@@ -9,19 +10,6 @@
 namespace ravelo {
 
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// With one decimal below 10 MB.
-QString megabytes(qint64 bytes) {
-    if (bytes < (1 << 20)) {
-        return SettingsWindow::tr("%1 KB").arg(QLocale().toString((bytes + 1023) / 1024));
-    }
-    const double size = static_cast<double>(bytes) / (1 << 20);
-    return SettingsWindow::tr("%1 MB").arg(QLocale().toString(size, 'f', size < 10 ? 1 : 0));
-}
-
-} // namespace
 
 SettingsWindow::SettingsWindow(Subjects subjects)
     : subjects_(std::move(subjects)),
@@ -44,11 +32,11 @@ int SettingsWindow::lastHourCount() const {
 }
 
 QString SettingsWindow::textSize() const {
-    return megabytes(subjects_.store.textBytes());
+    return dataSize(subjects_.store.textBytes(), QLocale());
 }
 
 QString SettingsWindow::imageSize() const {
-    return megabytes(subjects_.store.imageBytes());
+    return dataSize(subjects_.store.imageBytes(), QLocale());
 }
 
 int SettingsWindow::snippetCount() const {

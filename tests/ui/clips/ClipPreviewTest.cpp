@@ -99,7 +99,7 @@ TEST(ClipPreview, showsFilesAndOtherForms) {
     world.worker.drain();
     ClipPreview preview(world.store, nullptr, english);
     preview.show(data.clips[0].id);
-    EXPECT_TRUE(eventually([&] { return preview.values().value(0) == u"2.5 kB"_s; }));
+    EXPECT_TRUE(eventually([&] { return preview.values().value(0) == u"2.4 kB"_s; }));
     EXPECT_EQ(preview.kind(), ClipPreview::Files);
     EXPECT_EQ(preview.names(), QStringList({u"a b.txt"_s, u"c"_s}));
     EXPECT_EQ(preview.values()[1], u"Not there any more"_s);

@@ -54,6 +54,18 @@ TEST_F(Panel, searchesWhateverIsTyped) {
     EXPECT_EQ(text(u"tally"_s), u"1 of 3"_s);
 }
 
+TEST_F(Panel, showsTheSnippetsThatAreFoundOrElseAll) {
+    openSearch();
+    const auto count = [this] {
+        return view.features().snippets.list()->rowCount();
+    };
+    const int all = count();
+    pressKeys(u"z e l l e"_s);
+    EXPECT_EQ(count(), 2);
+    pressKeys(u"q q"_s);
+    EXPECT_EQ(count(), all) << "no empty strip";
+}
+
 TEST_F(Panel, aTypedFilterBecomesATokenThatBackspaceRemoves) {
     openSearch();
     pressKeys(u"t y p e : i m a g e"_s);

@@ -96,6 +96,8 @@ TEST_F(Pastes, asksBeforeSeveralLinesGoIntoATerminal) {
     item(u"pasteQuestion"_s);
     EXPECT_TRUE(world.controller.isOpen());
     EXPECT_EQ(pasteboardText(), QString()) << "copied before the answer";
+    EXPECT_EQ(property(u"pasteQuestion"_s, u"no"_s, "primary"), true) << "Return presses it";
+    EXPECT_EQ(property(u"pasteQuestion"_s, u"yes"_s, "primary"), false);
     pressKeys(u"Return"_s);
     EXPECT_EQ(pasted(), QString()) << "Return means no";
     EXPECT_TRUE(world.controller.isOpen());

@@ -25,6 +25,23 @@ TEST_F(Panel, startsAndStopsATimerByItsControls) {
     EXPECT_EQ(find(item(u"minutesMenu"_s), u"choice"_s)->property("text"), u"25m"_s);
 }
 
+TEST_F(Panel, saysWhyMinutesAreNotTaken) {
+    open();
+    for (const auto& [keys, says] :
+         {std::pair(u"0 Return"_s, u"Minutes are a whole number from 1"_s),
+          {u"Delete Return"_s, QString()},
+          {u"4 5 Return"_s, QString()}}) {
+        clickOn(u"minutesMenu"_s);
+        clickIn(u"minuteChoices"_s, u"item8"_s);
+        item(u"minutesInput"_s);
+        pressKeys(keys);
+        EXPECT_TRUE(eventually([this] { return shown(u"minutesInput"_s) == nullptr; }));
+        EXPECT_EQ(toast(), says) << qPrintable(keys);
+        world.scheduler.advance(Seconds(2));
+    }
+    EXPECT_EQ(view.features().focus.minutesText(), u"45m"_s);
+}
+
 TEST_F(Panel, keepsReminders) {
     open();
     clickOn(u"reminderDraft"_s);

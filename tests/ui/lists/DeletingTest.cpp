@@ -25,6 +25,16 @@ TEST_F(PanelUndo, restoresEverythingDeletedWhileTheToastIsShown) {
     EXPECT_EQ(clips(), u"first second third"_s);
 }
 
+TEST_F(PanelUndo, selectsWhatCameBack) {
+    openSearch();
+    pressKeys(u"Down Delete Up"_s);
+    ASSERT_EQ(clips(), u"first third"_s);
+    ASSERT_EQ(item(u"list"_s)->property("currentIndex"), 0);
+    undoByKey();
+    EXPECT_TRUE(eventually([this] { return clips() == u"first second third"_s; }));
+    EXPECT_EQ(item(u"list"_s)->property("currentIndex"), 1);
+}
+
 TEST_F(PanelUndo, expiresAfterTenSecondsOrOnClosing) {
     openSearch();
     press(Qt::Key_Delete);

@@ -101,6 +101,19 @@ TEST_F(SmallScreen, focusedItemsScrollIntoView) {
     EXPECT_TRUE(tabsAt(tabsBelowAll));
 }
 
+TEST_F(SmallScreen, theUndoToastCoversNoText) {
+    clickOn(u"trash"_s);
+    clickIn(u"clearQuestion"_s, u"yes"_s);
+    item(u"toastAction"_s);
+    item(u"emptySubtitle"_s);
+    EXPECT_TRUE(eventually([this] {
+        const QQuickItem* subtitle = item(u"emptySubtitle"_s);
+        return top(u"emptySubtitle"_s) + subtitle->height() <= top(u"toast"_s);
+    })) << top(u"emptySubtitle"_s)
+        << ", the toast is at " << top(u"toast"_s);
+    EXPECT_GE(top(u"emptyTitle"_s), 252) << "below the snippets";
+}
+
 TEST_F(SmallScreen, theSheetOfASnippetFits) {
     clickOn(u"addSnippet"_s);
     const QQuickItem* sheet = item(u"sheet"_s);

@@ -101,5 +101,28 @@ TEST_F(Panel, aSnippetWithoutATitleIsNotSaved) {
     EXPECT_EQ(world.store.snippets().size(), before + 1);
 }
 
+TEST_F(Panel, EscapeAsksBeforeItDiscardsASnippet) {
+    open();
+    const auto isEditing = [this] {
+        return view.features().snippets.editor()->isEditing();
+    };
+    clickOn(u"addSnippet"_s);
+    press(Qt::Key_Escape);
+    EXPECT_FALSE(isEditing()) << "nothing was typed";
+    EXPECT_TRUE(eventually([this] { return shown(u"sheet"_s) == nullptr; }));
+    clickOn(u"addSnippet"_s);
+    type(u"t"_s);
+    press(Qt::Key_Escape);
+    item(u"snippetDiscardQuestion"_s);
+    press(Qt::Key_Return);
+    EXPECT_TRUE(isEditing()) << "Return means no";
+    EXPECT_EQ(text(u"titleInput"_s), u"t"_s);
+    EXPECT_TRUE(eventually([this] { return shown(u"snippetDiscardQuestion"_s) == nullptr; }));
+    press(Qt::Key_Escape);
+    item(u"snippetDiscardQuestion"_s);
+    pressKeys(u"Tab Return"_s);
+    EXPECT_FALSE(isEditing());
+}
+
 } // namespace
 } // namespace ravelo

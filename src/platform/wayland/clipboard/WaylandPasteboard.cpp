@@ -1,5 +1,7 @@
 #include "platform/wayland/clipboard/WaylandPasteboard.h"
 
+#include "platform/wayland/keys/ActiveWindow.h"
+
 #include <QClipboard>
 #include <QGuiApplication>
 #include <QMimeData>
@@ -31,8 +33,27 @@ WaylandPasteboard::WaylandPasteboard(ClipboardThread& thread) : thread_(thread) 
     });
 }
 
+bool WaylandPasteboard::namesPrograms() const {
+    return windows_ != nullptr && windows_->isReported();
+}
+
+void WaylandPasteboard::setNaming(Naming naming) {
+    if (namesPrograms() && naming != naming_) {
+        naming_ = naming;
+        windows_->setFollowing(naming == Naming::on ? ActiveWindow::Following::always
+                                                    : ActiveWindow::Following::whileAsked);
+    }
+}
+
 Handle WaylandPasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSnapshot)> done) {
     const auto key = nextKey_++;
+    if (const QString name = naming_ == Naming::on ? windows_->activeAppId() : QString();
+        !name.isEmpty()) {
+        done = [name, done = std::move(done)](PasteboardSnapshot snapshot) {
+            snapshot.owner.names = {name};
+            done(std::move(snapshot));
+        };
+    }
     reads_->emplace(key, std::move(done));
     // A complete reading is reported even if the owner has changed since: a main thread that is
     // behind loses no copy.

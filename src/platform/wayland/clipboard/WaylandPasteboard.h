@@ -10,6 +10,8 @@
 
 namespace ravelo::wayland {
 
+class ActiveWindow;
+
 /// The clipboard by data control: needs no focus, and neither reads nor serves contents on the main
 /// thread. The end of an owner and clearing look the same.
 ///
@@ -26,6 +28,13 @@ public:
     [[nodiscard]] bool isOwn() const { return count_->isOwn(); }
 
     [[nodiscard]] bool reportsChanges() const override { return true; }
+
+    /// A copy counts as that of the active window: the compositor does not say whose it is. They
+    /// must outlive this.
+    void setWindows(ActiveWindow& windows) { windows_ = &windows; }
+
+    [[nodiscard]] bool namesPrograms() const override;
+    void setNaming(Naming naming) override;
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return changes_->listeners.add(std::move(callback));
@@ -57,6 +66,8 @@ private:
     qint64 write(const QList<PasteboardEntry>& forms, Selection::Over over);
 
     ClipboardThread& thread_;
+    ActiveWindow* windows_ = nullptr;
+    Naming naming_ = Naming::off;
     std::shared_ptr<ChangeCount> count_ = std::make_shared<ChangeCount>();
     std::shared_ptr<Changes> changes_ = std::make_shared<Changes>();
     std::shared_ptr<Selection> selection_;

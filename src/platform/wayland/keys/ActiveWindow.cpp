@@ -69,9 +69,20 @@ void ActiveWindow::follow() {
 }
 
 void ActiveWindow::stopSoon() {
-    if (manager_ != nullptr) {
+    if (manager_ != nullptr && following_ == Following::whileAsked) {
         end_.start(whileKeysAreTyped);
     }
+}
+
+void ActiveWindow::setFollowing(Following following) {
+    following_ = following;
+    following == Following::always ? follow() : stopSoon();
+}
+
+QString ActiveWindow::activeAppId() const {
+    const auto active =
+        std::ranges::find_if(windows_, [](const auto& one) { return one.second.second.active; });
+    return active == windows_.end() ? QString() : active->second.second.appId;
 }
 
 void ActiveWindow::stop() {

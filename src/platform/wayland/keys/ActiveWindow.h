@@ -15,8 +15,9 @@ namespace ravelo::wayland {
 RAVELO_OWNED(zwlr_foreign_toplevel_handle_v1, zwlr_foreign_toplevel_handle_v1_destroy)
 
 /// Which window of another program is active, as far as the compositor reports it
-/// (wlr-foreign-toplevel-management). Windows are followed only while the panel has the keyboard
-/// and for a moment after: each new title would wake us. On Qt's connection; main thread.
+/// (wlr-foreign-toplevel-management). Unless asked to do so always, windows are followed only while
+/// the panel has the keyboard and for a moment after: each new title wakes us. On Qt's connection;
+/// main thread.
 class ActiveWindow {
 public:
     struct Window {
@@ -37,8 +38,15 @@ public:
 
     void follow();
 
-    /// After two seconds.
+    /// After two seconds, unless it follows always.
     void stopSoon();
+
+    enum class Following { whileAsked, always };
+
+    void setFollowing(Following following);
+
+    /// The app id of the window that is active now; empty if it is not known.
+    [[nodiscard]] QString activeAppId() const;
 
     /// The one that was active last, while windows are followed.
     [[nodiscard]] std::optional<Window> last() const { return last_; }
@@ -62,6 +70,7 @@ private:
     std::map<Toplevel*, std::pair<Owned<Toplevel>, Window>> windows_;
     std::optional<Window> last_;
     quint64 nextId_ = 1;
+    Following following_ = Following::whileAsked;
     QTimer end_;
 };
 
