@@ -65,7 +65,7 @@ Scenes panelScenes() {
          }},
         {u"plan-pace"_s, nothing,
          [](Stage& stage) {
-             stage.hand.point({80, 90});
+             stage.hand.point(QPointF(80, 90));
              settle(Milliseconds(800));
          }},
         {u"power"_s, nothing,

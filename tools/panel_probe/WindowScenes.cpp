@@ -3,6 +3,7 @@
 #include "ui/windows/TitledWindow.h"
 
 #include <QGuiApplication>
+#include <QHash>
 
 #include <algorithm>
 
@@ -39,15 +40,19 @@ private:
     QString scene_;
 };
 
-const QHash<QString, int> settingsPages{{u"capture"_s, Qt::Key_2},
-                                        {u"storage"_s, Qt::Key_3},
-                                        {u"erase"_s, Qt::Key_3},
-                                        {u"keys"_s, Qt::Key_4},
-                                        {u"more"_s, Qt::Key_5}};
+/// With Ctrl; 0 for the first page.
+int keyOfPage(const QString& part) {
+    static const QHash<QString, int> keys{{u"capture"_s, Qt::Key_2},
+                                          {u"storage"_s, Qt::Key_3},
+                                          {u"erase"_s, Qt::Key_3},
+                                          {u"keys"_s, Qt::Key_4},
+                                          {u"more"_s, Qt::Key_5}};
+    return keys.value(part);
+}
 
 } // namespace
 
-WindowScenes::WindowScenes(const QString& scene, PanelWorld& world, QQuickWindow& panel)
+WindowScenes::WindowScenes(const QString& scene, PanelWorld& world, QQuickView& panel)
     : scene_(scene),
       panel_(panel),
       settings_({{panel}, world.store, world.settings, [] {}, u"X11 (set by RAVELO_PLATFORM)"_s}),
@@ -70,7 +75,7 @@ QQuickWindow& WindowScenes::playSettings() {
     settle();
     Hand hand(*settings_.window());
     const QString part = scene_.section(u'-', 1, 1);
-    if (const int key = settingsPages.value(part)) {
+    if (const int key = keyOfPage(part)) {
         hand.press(key, Qt::ControlModifier);
         settle();
     }

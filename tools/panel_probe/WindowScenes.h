@@ -6,12 +6,14 @@
 #include "ui/windows/UpdateWindow.h"
 #include "updates/Updater.h"
 
+#include <QQuickView>
+
 namespace ravelo {
 
 /// Scenes in the settings, the setup and the update window.
 class WindowScenes {
 public:
-    WindowScenes(const QString& scene, PanelWorld& world, QQuickWindow& panel);
+    WindowScenes(const QString& scene, PanelWorld& world, QQuickView& panel);
 
     /// The window of the scene; null if it is one of the panel's.
     [[nodiscard]] QQuickWindow* play();
@@ -22,7 +24,7 @@ private:
     [[nodiscard]] QQuickWindow* playUpdates();
 
     const QString scene_;
-    QQuickWindow& panel_;
+    QQuickView& panel_;
     SettingsWindow settings_;
     OnboardingController onboarding_;
     Updater updater_;
