@@ -1,5 +1,6 @@
 #include "panel_fixture/PanelFixture.h"
 #include "support/TestFiles.h"
+#include "ui/shelf/DragSourceView.h"
 
 #include <QDragEnterEvent>
 #include <QMimeData>
