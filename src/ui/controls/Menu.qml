@@ -74,7 +74,7 @@ Popover {
             readonly property bool divides: modelData.divider ?? false
 
             objectName: "item" + index
-            x: 2
+            transform: Translate { x: 2 } // In Qt 6.8 a vertical list sets x to 0.
             z: ring.visible ? 1 : 0
             width: list.width - 4
             height: divides ? 11 : 28

@@ -76,7 +76,7 @@ Item {
                     }
 
                     objectName: "chip" + index
-                    y: 4
+                    transform: Translate { y: 4 } // In Qt 6.8 a horizontal list sets y to 0.
                     symbol: icon
                     onClicked: strip.snippets.copy(snippetId)
                     onEditRequested: strip.snippets.editor.edit(snippetId)

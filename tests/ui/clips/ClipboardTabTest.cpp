@@ -33,6 +33,8 @@ TEST_F(Panel, aClickCopies) {
     EXPECT_EQ(pasteboardText(), u"second"_s);
     item(u"toast"_s);
     EXPECT_EQ(world.store.clips().size(), 3) << "its own copy became a clip";
+    EXPECT_EQ(item(u"chip0"_s)->mapToScene({}).y(), item(u"addSnippet"_s)->mapToScene({}).y())
+        << "side by side";
     clickOn(u"chip0"_s);
     EXPECT_EQ(pasteboardText(), world.store.snippets().first().body);
 }

@@ -88,6 +88,10 @@ TEST_F(PanelUndo, canBeClickedAndBlocksClicksBelow) {
     const QString title = world.store.snippets().first().title;
     press(Qt::Key_Tab);
     clickOn(u"chip0"_s, Qt::RightButton);
+    const QQuickItem* remove = in(u"snippetMenu"_s, u"item1"_s);
+    const QQuickItem* menu = remove->parentItem()->parentItem();
+    EXPECT_EQ(remove->mapToItem(menu, {remove->width() / 2, 0}).x(), menu->width() / 2)
+        << "centred";
     clickIn(u"snippetMenu"_s, u"item1"_s);
     clickIn(u"deleteQuestion"_s, u"yes"_s);
     EXPECT_EQ(toast(), u"Snippet deleted"_s);
