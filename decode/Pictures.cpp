@@ -209,9 +209,12 @@ void readHeifBy(const HeifReader* reader) {
     heif = reader;
 }
 
-void loadFormats() {
+void loadFormats(Formats formats) {
     for (const Format format : {Format::png, Format::jpeg, Format::gif, Format::bmp, Format::webp,
                                 Format::tiff, Format::svg}) {
+        if (formats == Formats::png && format != Format::png) {
+            continue;
+        }
         const QByteArray bytes = smallPicture(format);
         for (const Kind kind : {Kind::icon, Kind::png}) {
             (void)decodePicture({kind, 1, 1, 1, 0}, bytes);

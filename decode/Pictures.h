@@ -24,7 +24,10 @@ struct HeifReader;
 /// HEIF is refused without; null for none. Before the first picture.
 void readHeifBy(const HeifReader* reader);
 
-/// Loads everything from the disk that is needed to read and write any format but HEIF.
-void loadFormats();
+/// `all` but HEIF.
+enum class Formats { png, all };
+
+/// Loads everything from the disk that is needed to read and write these formats.
+void loadFormats(Formats formats = Formats::all);
 
 } // namespace ravelo::decode

@@ -66,13 +66,11 @@ bool hasWorkedLong() {
     return double(std::clock()) / CLOCKS_PER_SEC > busyLife;
 }
 
-enum class Readable { png, all };
-
-void load(Readable readable) {
-    if (readable == Readable::png) {
-        return; // Qt needs no library for it.
+void load(Formats formats) {
+    loadFormats(formats);
+    if (formats == Formats::png) {
+        return;
     }
-    loadFormats();
     if (void* library = dlopen("$ORIGIN/ravelo-decode-heif.so", RTLD_NOW)) {
         using Reader = const HeifReader* (*)();
         const auto reader = reinterpret_cast<Reader>(dlsym(library, "raveloHeif"));
@@ -81,10 +79,10 @@ void load(Readable readable) {
 }
 
 /// Whether to continue.
-bool carryOut(Order& order, Readable readable) {
+bool carryOut(Order& order, Formats formats) {
     limitTime(order.request.milliseconds); // Of reading, too: a file's mount may die meanwhile.
     const QByteArray bytes = readAll(std::exchange(order.picture, {})); // Closed before decoding.
-    const bool isReadable = readable == Readable::all || formatOf(bytes) == Format::png;
+    const bool isReadable = formats == Formats::all || formatOf(bytes) == Format::png;
     const Picture picture = isReadable ? decodePicture(order.request, bytes) : Picture();
     Reply reply{picture.status, picture.size.width(), picture.size.height(),
                 hasWorkedLong() ? 1U : 0U, 0};
@@ -107,8 +105,8 @@ int main(int argc, char** argv) {
     detach();
     avoidFiles();
     const bool onlyPng = argc > 1 && std::string_view(argv[1]) == onlyPngOption;
-    const Readable readable = onlyPng ? Readable::png : Readable::all;
-    load(readable);
+    const Formats formats = onlyPng ? Formats::png : Formats::all;
+    load(formats);
     std::thread([] {}).join(); // The first thread sets up signal handling.
     if (!lockDown()) {
         _exit(EXIT_FAILURE);
@@ -116,7 +114,7 @@ int main(int argc, char** argv) {
     if (!send({Status::ready, 0, 0, 0, 0}, {})) {
         _exit(EXIT_FAILURE);
     }
-    for (auto order = nextOrder(); order && carryOut(*order, readable); order = nextOrder()) {
+    for (auto order = nextOrder(); order && carryOut(*order, formats); order = nextOrder()) {
     }
     _exit(EXIT_SUCCESS);
 }

@@ -13,9 +13,9 @@ namespace {
 /// Long enough for the closed panel to leave the screen, short enough to precede the next opening.
 constexpr Seconds buildDelay(0.04);
 
-/// At the start, the content must not delay the first frame of the closed panel, which some
-/// desktops never show.
-constexpr Seconds frameTimeout(1);
+/// At the start, content must not delay the first frame of the closed panel. A busy login takes
+/// seconds for it, and some desktops never show it.
+constexpr Seconds frameTimeout(5);
 
 } // namespace
 
