@@ -948,6 +948,13 @@
     </message>
 </context>
 <context>
+    <name>ReadOnlyText</name>
+    <message>
+        <source>Text</source>
+        <translation>Texto</translation>
+    </message>
+</context>
+<context>
     <name>ReceivedFiles</name>
     <message>
         <source>Received files</source>

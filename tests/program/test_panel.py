@@ -280,6 +280,53 @@ class Assistive(AssistiveCase, ProgramCase):
                        ("list", "Clipboard history", False)):
             self.assertIn(wanted, seen)
 
+    def named(self, *wanted):
+        """The visible nodes, once these roles and names are among them; all of them have names."""
+        def there():
+            nodes = self.accessible_nodes()
+            return nodes if set(wanted) <= {(node["role"], node["name"]) for node in nodes} else None
+
+        nodes = wait_for(there, lambda: f"{wanted}, not "
+                         f"{[(node['role'], node['name']) for node in self.accessible_nodes()]}")
+        self.assertEqual([node for node in nodes if not node["name"] and node["role"] != "page tab list"], [],
+                         "nodes without a name")
+        return nodes
+
+    def focused(self):
+        return [(node["role"], node["name"]) for node in self.accessible_nodes() if node["focused"]]
+
+    def walk(self, *names):
+        """Tab reaches these one after the other."""
+        for name in names:
+            self.press("Tab")
+            wait_for(lambda n=name: [one for _, one in self.focused()][-1:] == [n],
+                     lambda n=name: f"the focus on {n!r}, not {self.focused()}")
+
+    def open_with_clips(self):
+        self.provide_assistance()
+        self.ravelo.start()
+        self.copy_and_wait("older", "a clip")
+        self.toggle()
+
+    def test_preview_and_editor_have_names_and_are_reached_by_key(self):
+        self.open_with_clips()
+        self.press("shift+space")
+        self.named(("dialog", "Preview"), ("text", "Text"))
+        self.press("Escape", "F2")
+        self.named(("dialog", "Edit clip"), ("push button", "Cancel"), ("push button", "Copy"))
+        self.walk("Cancel", "Copy", "Text")
+
+    def test_chosen_clips_notes_and_sketch_have_names(self):
+        self.open_with_clips()
+        self.press("shift+Down")
+        self.named(("tool bar", "2 clips selected"), ("push button", "Clear selection"),
+                   ("push button", "Delete"), ("push button", "Copy 2"))
+        self.press("Escape", "ctrl+Tab")
+        self.named(("push button", "Second note"), ("push button", "Sketch pad"))
+        self.act("Sketch pad")
+        tools = ("Pen", "Eraser", "Undo", "Clear", "Copy, or drag it out")
+        self.named(("canvas", "Sketch"), *(("push button", tool) for tool in tools[2:]))
+
 
 if __name__ == "__main__":
     unittest.main()

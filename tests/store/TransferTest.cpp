@@ -38,6 +38,16 @@ protected:
         return added.value_or(-1);
     }
 
+    static QSet<QUuid> idsOf(const QList<ClipItem>& clips) {
+        QSet<QUuid> ids;
+        for (const ClipItem& clip : clips) {
+            ids.insert(clip.id);
+        }
+        return ids;
+    }
+
+    [[nodiscard]] QSet<QUuid> ids() const { return idsOf(store_->clips()); }
+
     /// An archive with these entries, in place of the exported one.
     void pack(const QList<std::pair<QByteArray, QByteArray>>& entries) {
         QFile file(archive_);
@@ -115,14 +125,14 @@ TEST_F(Transfer, ItsOwnExportDoublesNothing) {
     const QStringList images = imageFiles();
     const QList<ClipItem> clips = store_->clips();
     importAll();
-    EXPECT_EQ(store_->clips(), clips);
+    EXPECT_EQ(ids(), idsOf(clips));
     EXPECT_EQ(imageFiles(), images);
     store_->togglePin(clips[1].id);
     ASSERT_TRUE(QFile::remove(archive_));
     ASSERT_TRUE(exported());
     store_->togglePin(clips[1].id);
     importAll();
-    EXPECT_EQ(store_->clips().size(), clips.size() + 1) << "only one of both is pinned";
+    EXPECT_EQ(ids().size(), clips.size() + 1) << "only one of both is pinned";
 }
 
 TEST_F(Transfer, SnippetsWithTheSameImageAreNotDoubled) {

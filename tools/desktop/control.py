@@ -66,6 +66,8 @@ def ignored_program(session):
     # Where programs cannot be told apart, the settings say so.
     yield f"a copy in a window of `{name}`", LETTERS, not session.names_programs
     window.kill()
+    window.wait()
+    time.sleep(2)  # On Wayland the active window counts, whoever copies.
     session.desktop.copy_text("other zuckerhut")
     yield "a copy of another program", "other zuckerhut", True
 
@@ -147,7 +149,10 @@ CHECKS = {"Pause": pause, "Ignore the next copy": ignore_next, "Ignored program"
 def in_panel(session, marker):
     if session.ravelo.has_ended():
         return "it has ended"
-    rows = [name for name in session.shown() if marker in name]
+    try:
+        rows = [name for name in session.shown() if marker in name]
+    except subprocess.TimeoutExpired:
+        return "not read within a minute"
     return "shown" if rows else "nothing"
 
 

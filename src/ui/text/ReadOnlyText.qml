@@ -11,6 +11,7 @@ TextEdit {
     property alias exactText: exact.text
 
     Accessible.role: Accessible.EditableText
+    Accessible.name: qsTr("Text")
     Accessible.readOnly: true
     font: style.font
     color: Theme.text1
