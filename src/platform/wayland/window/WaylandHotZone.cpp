@@ -26,10 +26,6 @@ WaylandHotZone::WaylandHotZone(Scheduler& scheduler, WaylandScreens& screens,
       window_(window),
       surfaces_(surfaces),
       underPointer_(window.onUnderPointerChange([this] { report(); })),
-      drawn_(window.onDrawn([this] {
-          makeStrips();
-          lookAgain();
-      })),
       pointer_(surfaces.seat().onChange(
           [this](InputSeat::Change change, wl_surface* surface) { hover(change, surface); })),
       drags_(surfaces.drops().onChange([this](DropTarget::Change change, wl_surface* surface) {
@@ -84,14 +80,11 @@ void WaylandHotZone::report() {
     }
 }
 
-/// On every screen but the panel's. There it stays until the panel is drawn: some compositors
-/// (sway 1.10) look for what is under a resting pointer when a surface goes, but not when one
-/// comes.
+/// On every screen but the panel's.
 void WaylandHotZone::makeStrips() {
     const auto screens = screens_.all();
     std::erase_if(strips_, [&](const auto& strip) {
-        return (strip.first == window_.screen() && window_.isDrawn()) ||
-               !find(screens, strip.first);
+        return strip.first == window_.screen() || !find(screens, strip.first);
     });
     for (const Screen& screen : screens) {
         if (screen.id != window_.screen() && !strips_.contains(screen.id)) {

@@ -45,7 +45,6 @@ private:
     std::function<Report(const Sight&)> callback_;
     Handle next_; ///< The next report.
     Handle underPointer_;
-    Handle drawn_;
     Handle pointer_;
     Handle drags_;
     Handle screenChanges_;

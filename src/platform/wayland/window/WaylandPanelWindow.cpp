@@ -119,8 +119,6 @@ void WaylandPanelWindow::show() {
 void WaylandPanelWindow::hide() {
     catchers_.clear();
     surfaces_.blur().forget();
-    firstFrame_.reset();
-    isDrawn_ = false;
     role_.reset(); // Before its surface.
     window_.hide();
     window_.destroy();
@@ -128,12 +126,6 @@ void WaylandPanelWindow::hide() {
 }
 
 void WaylandPanelWindow::configure(QSize size) {
-    if (!firstFrame_) {
-        firstFrame_ = std::make_unique<FirstFrame>(*qt::surface(window_), [this] {
-            isDrawn_ = true;
-            drawnListeners_.notify();
-        });
-    }
     window_.resize(size);
     applyOutline();
     window_.show();

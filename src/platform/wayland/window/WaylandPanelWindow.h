@@ -3,7 +3,6 @@
 #include "base/Listeners.h"
 #include "platform/HotZone.h"
 #include "platform/PanelWindow.h"
-#include "platform/wayland/window/FirstFrame.h"
 #include "platform/wayland/window/Surfaces.h"
 #include "platform/window/PointerOver.h"
 
@@ -58,13 +57,6 @@ public:
     /// Places it on that screen in its present size.
     void moveTo(const QString& screen);
 
-    /// Whether the compositor has drawn it there. The pointer may be over it only then.
-    [[nodiscard]] bool isDrawn() const { return isDrawn_; }
-
-    [[nodiscard]] Handle onDrawn(std::function<void()> callback) {
-        return drawnListeners_.add(std::move(callback));
-    }
-
     /// Whether the keyboard has been requested. Presses elsewhere are reported meanwhile.
     [[nodiscard]] bool wantsKeyboard() const { return keyboard_ == Keyboard::exclusive; }
 
@@ -99,15 +91,12 @@ private:
     QPainterPath outline_;
     bool wanted_ = false;  ///< To be shown.
     bool isGoing_ = false; ///< To be shown again in a moment.
-    bool isDrawn_ = false;
     Keyboard keyboard_ = Keyboard::none;
     std::shared_ptr<DragOffer> dragOffer_;
     std::unique_ptr<LayerRole> role_;                               ///< While it is shown.
-    std::unique_ptr<FirstFrame> firstFrame_;                        ///< Of that role.
     std::map<QString, std::unique_ptr<InvisibleSurface>> catchers_; ///< By the ids of screens.
     PointerOver pointerOver_;
     Listeners<HotZone::Press> pressListeners_;
-    Listeners<> drawnListeners_;
     Handle catcherSubscription_;
     Handle blurSubscription_;
 };
