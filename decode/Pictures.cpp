@@ -176,6 +176,10 @@ constexpr std::array oneGifPixel{'G',    'I',    'F',  '8',  '9',  'a',  '\1', '
                                  '\0',   '\x80', '\0', '\0', '\0', '\0', '\0', '\xff', '\xff',
                                  '\xff', ',',    '\0', '\0', '\0', '\0', '\1', '\0',   '\1',
                                  '\0',   '\0',   '\2', '\2', 'D',  '\1', '\0', ';'};
+/// Asking Qt to write one would load the libraries of all formats.
+constexpr const char* onePngPixel = // Base64.
+    "iVBORw0KGgoAAAANSUhEUgAAAAEAAAABCAIAAACQd1PeAA"
+    "AADElEQVR42mNgaGgAAAGEAQFocvOPAAAAAElFTkSuQmCC";
 constexpr const char* smallSvg = R"(<svg xmlns="http://www.w3.org/2000/svg" width="2" height="2">)"
                                  R"(<path d="M0 0h2v2z" fill="#123"/></svg>)";
 
@@ -210,11 +214,12 @@ void readHeifBy(const HeifReader* reader) {
 }
 
 void loadFormats(Formats formats) {
+    if (formats == Formats::png) {
+        (void)decodePicture({Kind::icon, 1, 1, 1, 0}, QByteArray::fromBase64(onePngPixel));
+        return;
+    }
     for (const Format format : {Format::png, Format::jpeg, Format::gif, Format::bmp, Format::webp,
                                 Format::tiff, Format::svg}) {
-        if (formats == Formats::png && format != Format::png) {
-            continue;
-        }
         const QByteArray bytes = smallPicture(format);
         for (const Kind kind : {Kind::icon, Kind::png}) {
             (void)decodePicture({kind, 1, 1, 1, 0}, bytes);

@@ -24,7 +24,7 @@ struct HeifReader;
 /// HEIF is refused without; null for none. Before the first picture.
 void readHeifBy(const HeifReader* reader);
 
-/// `all` but HEIF.
+/// `all` but HEIF; `png` is for reading only.
 enum class Formats { png, all };
 
 /// Loads everything from the disk that is needed to read and write these formats.

@@ -8,7 +8,8 @@
 /// Both programs are in one package, so there is no version.
 namespace ravelo::decode {
 
-/// The argument of a ravelo-decode that reads nothing but PNG, and starts in a fifth of the time.
+/// The argument of a ravelo-decode that reads PNG and makes none, and starts in less than half the
+/// instructions.
 inline constexpr const char* onlyPngOption = "png";
 inline constexpr int socketNumber = 3; ///< The descriptor of the socket in ravelo-decode.
 inline constexpr int idleSeconds = 20; ///< It ends after this time without a request.

@@ -82,8 +82,9 @@ void load(Formats formats) {
 bool carryOut(Order& order, Formats formats) {
     limitTime(order.request.milliseconds); // Of reading, too: a file's mount may die meanwhile.
     const QByteArray bytes = readAll(std::exchange(order.picture, {})); // Closed before decoding.
-    const bool isReadable = formats == Formats::all || formatOf(bytes) == Format::png;
-    const Picture picture = isReadable ? decodePicture(order.request, bytes) : Picture();
+    const bool isPossible = formats == Formats::all ||
+                            (formatOf(bytes) == Format::png && order.request.kind != Kind::png);
+    const Picture picture = isPossible ? decodePicture(order.request, bytes) : Picture();
     Reply reply{picture.status, picture.size.width(), picture.size.height(),
                 hasWorkedLong() ? 1U : 0U, 0};
     const QByteArrayView contents =

@@ -15,10 +15,11 @@
 namespace ravelo {
 
 /// Uses ravelo-decode, started on demand. Parallel requests use separate processes. A process
-/// serves many pictures of our own folder, all of them PNG, or many files from elsewhere, never
-/// both, and only one that was copied: a picture that takes it over sees none of another origin. (A
-/// copied PNG is kept unchanged, so it is first read as one of our own.) A picture that kills it or
-/// takes too long is not tried again until its file changes; small pictures of files are cached.
+/// serves many pictures of our own folder (all of them PNG, of which none is made) or many files
+/// from elsewhere, never both, and only one that was copied: a picture that takes it over sees none
+/// of another origin. (A copied PNG is kept unchanged, so it is first read as one of our own.) A
+/// picture that kills it or takes too long is not tried again until its file changes; small
+/// pictures of files are cached.
 class DecoderProcess final : public ImageDecoder {
 public:
     /// The contents of an encrypted picture; nothing if it cannot be read or is not encrypted. Any
