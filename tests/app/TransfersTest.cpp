@@ -18,6 +18,8 @@ protected:
         transfers_->exportTo(archive_, note());
         settle();
         EXPECT_EQ(answer(), 0);
+        store_->clearClips(); // Or an import would have nothing new.
+        settle();
     }
 
     Transfers::Reply note() {

@@ -303,7 +303,7 @@ class Assistive(AssistiveCase, ProgramCase):
                      lambda n=name: f"the focus on {n!r}, not {self.focused()}")
 
     def open_with_clips(self):
-        self.provide_assistance()
+        self.desktop.provide_assistance()
         self.ravelo.start()
         self.copy_and_wait("older", "a clip")
         self.toggle()

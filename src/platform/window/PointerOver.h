@@ -22,6 +22,9 @@ public:
         return listeners_.add(std::move(callback));
     }
 
+    /// For a window that comes under a resting pointer: not every compositor reports that.
+    void enter() { set(true, dragged_); }
+
     /// For a window that is hidden: nobody reports that the pointer has left it.
     void leave() { set(false, false); }
 

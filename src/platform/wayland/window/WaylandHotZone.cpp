@@ -93,7 +93,10 @@ void WaylandHotZone::makeStrips() {
             }
         }
     }
-    if (!strips_.contains(hovered_)) {
+    if (!hovered_.isEmpty() && !strips_.contains(hovered_)) {
+        if (hovered_ == window_.screen()) {
+            window_.comesUnderPointer();
+        }
         hovered_.clear();
     }
 }

@@ -34,6 +34,9 @@ public:
     [[nodiscard]] ShowThrough showThrough() const override;
     [[nodiscard]] Handle onShowThroughChange(std::function<void()> callback) override;
 
+    /// To be called if the pointer rests at its new place.
+    void comesUnderPointer() { pointerOver_.enter(); }
+
     [[nodiscard]] bool isUnderPointer() const override { return bool(pointerOver_); }
 
     [[nodiscard]] Handle onUnderPointerChange(std::function<void()> callback) override {
