@@ -68,6 +68,7 @@ class ProgramCase(ExtensionCase):
     x11 = False
     extensions = (shell.COMPANION,)
     settings = ""
+    environment = {}
 
     @classmethod
     def setUpClass(cls):
@@ -79,7 +80,7 @@ class ProgramCase(ExtensionCase):
         config.mkdir(parents=True)
         (config / "preferences.json").write_text(
             json.dumps({"onboarded": True, "didSetupLogin": True, "seededSiteLinksV1": True}))
-        self.ravelo = self.session.start(PROGRAM, log="ravelo.log", **self.x11_names())
+        self.ravelo = self.session.start(PROGRAM, log="ravelo.log", **self.environment, **self.x11_names())
         if self.extensions:
             until(lambda: self.strips() > 0 or self.failed(), "the extension is connected", 60)
 
@@ -269,6 +270,10 @@ class ProgramTest(ProgramCase):
         print(f"the shell at rest with Ravelo: {with_it[0]} switches in 5 s, {with_it[1]:.1f} MB; "
               f"extension off: {without[0]} switches, {without[1]:.1f} MB")
         self.assertLess(with_it[0], without[0] + 10)
+
+
+class DriverTest(ProgramCase):
+    environment = {"RAVELO_CORE_DUMPS": "1"}  # Or only root can read the maps.
 
     def test_loads_no_graphics_driver(self):
         self.open()
