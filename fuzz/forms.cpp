@@ -14,6 +14,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
         for (const PasteboardEntry& form : kept->forms) {
             fuzz::require(isKeptForm(form.type) && form.bytes.size() <= maxFormsSize);
         }
+        fuzz::require(formsSize(*kept) <= input.size());
         (void)filesOf(*kept);
     }
     return 0;
