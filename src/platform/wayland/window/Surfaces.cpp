@@ -25,6 +25,7 @@ Surfaces::Surfaces(std::unique_ptr<Globals> globals, LayerShell shell, Clipboard
       coverLockers_(globals_->has("zwlr_input_inhibit_manager_v1") &&
                     !globals_->has("ext_session_lock_manager_v1")),
       loseKeyboardByPress_(globals_->has("org_kde_plasma_shell")),
+      lookWhenSurfacesGo_(globals_->has("wp_alpha_modifier_v1")),
       pixel_(InvisiblePixel::create(*globals_)),
       blur_(*globals_),
       seat_(*globals_),

@@ -32,6 +32,10 @@ public:
     /// as on sway before 1.8, which has no protocol for lockers (ext-session-lock).
     [[nodiscard]] bool coverLockers() const { return coverLockers_; }
 
+    /// What is under a resting pointer is looked for when a surface goes, but not when one comes:
+    /// sway since 1.10, which is recognised by what it offers since then.
+    [[nodiscard]] bool lookWhenSurfacesGo() const { return lookWhenSurfacesGo_; }
+
     /// A press elsewhere takes the keyboard from a surface that has it, as on KWin.
     [[nodiscard]] bool loseKeyboardByPress() const { return loseKeyboardByPress_; }
 
@@ -45,6 +49,7 @@ private:
     LayerShell shell_;
     bool coverLockers_;
     bool loseKeyboardByPress_;
+    bool lookWhenSurfacesGo_;
     std::unique_ptr<InvisiblePixel> pixel_; ///< Or null.
     BlurBehind blur_;
     InputSeat seat_;

@@ -90,8 +90,8 @@ void WaylandHotZone::report() {
 void WaylandHotZone::makeStrips() {
     const auto screens = screens_.all();
     std::erase_if(strips_, [&](const auto& strip) {
-        return (strip.first == window_.screen() && window_.isDrawn()) ||
-               !find(screens, strip.first);
+        const bool mayGo = window_.isDrawn() || !surfaces_.lookWhenSurfacesGo();
+        return (strip.first == window_.screen() && mayGo) || !find(screens, strip.first);
     });
     for (const Screen& screen : screens) {
         if (screen.id != window_.screen() && !strips_.contains(screen.id)) {
