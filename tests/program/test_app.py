@@ -147,7 +147,7 @@ class Windows(AssistiveCase, ProgramCase):
         self.desktop.run("xdotool", "mouseup", 1)
         # The motion before the window manager grabbed the pointer is not part of the move.
         wait_for(lambda: (now := self.ravelo.window(self.SETUP)) and
-                 40 < now.x - setup.x <= 60 and 15 < now.y - setup.y <= 30,
+                 0 < now.x - setup.x <= 60 and 0 < now.y - setup.y <= 30,
                  lambda: f"the window moved by its strip: {self.ravelo.window(self.SETUP)}")
         self.press("Return", "Tab")
         options = wait_for(lambda: [

@@ -222,6 +222,7 @@ class Forms(ProgramCase):
         field = self.desktop.window_of(window)
         self.desktop.drag((panel.x + 300, FIRST_ROW + ROW),
                           (field.x + 60, field.y + field.height - 16))
+        time.sleep(0.5)  # No hand lets go before the field has accepted it.
         self.desktop.run("xdotool", "mouseup", 1)
         said = iter(lambda: window.stdout.readline().strip(), "")
         self.assertEqual(next(line for line in said if line != "ready"), "older")
