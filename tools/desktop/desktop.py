@@ -317,7 +317,9 @@ class Desktop(contextlib.AbstractContextManager):
         windows = [self.geometry(window) for window in
                    self.run("xdotool", "search", "--onlyvisible", "--pid", process.pid).split()
                    if title in ("", self.title(window))]
-        found = [window for window in windows if window and window.width > MAX_TRAY_ICON]
+        # One is listed twice while the window manager wraps it.
+        found = list(dict.fromkeys(window for window in windows
+                                   if window and window.width > MAX_TRAY_ICON))
         assert len(found) <= 1, f"more than one visible window: {found}"
         return found[0] if found else None
 
