@@ -90,7 +90,8 @@ void GnomePanelWindow::returnFocus() {
 }
 
 bool GnomePanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
-    if (event->type() == QEvent::Expose && window_.isExposed() && std::exchange(sizeUnsent_, false)) {
+    if (event->type() == QEvent::Expose && window_.isExposed() &&
+        std::exchange(sizeUnsent_, false)) {
         window_.handle()->setGeometry(window_.geometry());
     } else if (event->type() == QEvent::MouseButtonPress) {
         const auto button = static_cast<QMouseEvent*>(event)->button();

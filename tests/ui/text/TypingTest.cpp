@@ -106,8 +106,10 @@ TEST_F(FieldWindow, isIndependentOfThePanel) {
 // A cursor that blinks in a closed panel would wake the program twice a second, all day.
 TEST_F(FieldWindow, onlyTheFocusedCursorBlinks) {
     const auto blinks = [this] {
-        return find(field, u"caret"_s)->parentItem()->findChild<QObject*>(u"blink"_s)->property(
-            "running");
+        return find(field, u"caret"_s)
+            ->parentItem()
+            ->findChild<QObject*>(u"blink"_s)
+            ->property("running");
     };
     click(window, {20, 50});
     ravelo::pressKeys(window, u"A"_s);
