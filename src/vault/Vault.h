@@ -81,7 +81,7 @@ public:
     [[nodiscard]] Result<void> write(const QString& path, const QByteArray& bytes,
                                      const OwnFile::Permission& mayWrite) const;
 
-    /// Runs `job` while nobody writes; later writes use the vault's present state.
+    /// Runs `job` while there are no writes; later writes use the vault's present state.
     void whileNobodyWrites(const std::function<void()>& job) const;
 
     /// Whether a file of this form is already as `sealed` would make it.
