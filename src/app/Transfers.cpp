@@ -2,10 +2,10 @@
 
 #include "platform/DetachedJobs.h"
 #include "platform/ImageDecoder.h"
-#include "store/KnownRecords.h"
-#include "store/SnippetFile.h"
 #include "store/Store.h"
-#include "store/Transfer.h"
+#include "store/transfer/KnownRecords.h"
+#include "store/transfer/SnippetFile.h"
+#include "store/transfer/Transfer.h"
 #include "vault/Vault.h"
 
 #include <memory>

@@ -4,7 +4,7 @@
 #include "base/OwnFile.h"
 #include "base/Result.h"
 #include "platform/Answer.h"
-#include "store/StoreContents.h"
+#include "store/disk/StoreContents.h"
 
 #include <QCoreApplication>
 #include <QString>

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "platform/Pasteboard.h"
-#include "store/ClipForms.h"
-#include "store/PasteboardImage.h"
+#include "store/history/ClipForms.h"
+#include "store/images/PasteboardImage.h"
 
 #include <QString>
 

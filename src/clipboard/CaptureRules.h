@@ -3,7 +3,7 @@
 #include "base/Result.h"
 #include "platform/Pasteboard.h"
 #include "secrets/SecretForms.h"
-#include "store/Verdict.h"
+#include "store/history/Verdict.h"
 
 #include <QList>
 #include <QRegularExpression>

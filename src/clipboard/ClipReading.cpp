@@ -2,8 +2,8 @@
 
 #include "platform/DetachedJobs.h"
 #include "platform/TimedJob.h"
-#include "store/ImageFiles.h"
 #include "store/Store.h"
+#include "store/images/ImageFiles.h"
 #include "vault/Vault.h"
 
 #include <memory>

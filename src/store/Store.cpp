@@ -7,12 +7,12 @@
 #include "platform/Pasteboard.h"
 #include "platform/Preferences.h"
 #include "platform/Worker.h"
-#include "store/ClipHistory.h"
-#include "store/CopiedFile.h"
-#include "store/ImageFiles.h"
-#include "store/PasteboardImage.h"
 #include "store/Seeds.h"
-#include "store/SnippetImage.h"
+#include "store/history/ClipHistory.h"
+#include "store/images/CopiedFile.h"
+#include "store/images/ImageFiles.h"
+#include "store/images/PasteboardImage.h"
+#include "store/images/SnippetImage.h"
 #include "vault/Vault.h"
 
 #include <QDir>

@@ -3,10 +3,10 @@
 #include "base/Scheduler.h"
 #include "platform/ImageDecoder.h"
 #include "platform/Worker.h"
-#include "store/ClipHistory.h"
-#include "store/Deleted.h"
-#include "store/ImageFiles.h"
 #include "store/Store.h"
+#include "store/history/ClipHistory.h"
+#include "store/history/Deleted.h"
+#include "store/images/ImageFiles.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -21,7 +21,7 @@
 #include "shelf/NearbySend.h"
 #include "shelf/ReceivedWatcher.h"
 #include "store/Store.h"
-#include "store/StoreFile.h"
+#include "store/disk/StoreFile.h"
 
 #include <QFile>
 #include <QTemporaryDir>

@@ -1,8 +1,8 @@
-#include "store/ClipForms.h"
+#include "store/history/ClipForms.h"
 #include "StoreFixture.h"
 #include "base/Uuid.h"
-#include "store/Deleted.h"
-#include "store/Transfer.h"
+#include "store/history/Deleted.h"
+#include "store/transfer/Transfer.h"
 #include "support/TestFiles.h"
 #include "vault/Vault.h"
 

@@ -1,6 +1,6 @@
-#include "store/ClipHistory.h"
+#include "store/history/ClipHistory.h"
 
-#include "store/ClipForms.h"
+#include "store/history/ClipForms.h"
 
 #include <gtest/gtest.h>
 

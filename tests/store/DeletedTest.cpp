@@ -1,8 +1,8 @@
 // Deleted records are restored, complete and in their place, or are gone.
 
-#include "store/Deleted.h"
+#include "store/history/Deleted.h"
 #include "StoreFixture.h"
-#include "store/ClipHistory.h"
+#include "store/history/ClipHistory.h"
 
 namespace ravelo {
 

@@ -1,9 +1,9 @@
-#include "store/PasteboardImage.h"
+#include "store/images/PasteboardImage.h"
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/InProcessDecoder.h"
 #include "fakes/ManualScheduler.h"
 #include "fakes/MemoryPasteboard.h"
-#include "store/CopiedFile.h"
+#include "store/images/CopiedFile.h"
 #include "support/TestFiles.h"
 #include "support/TestPictures.h"
 

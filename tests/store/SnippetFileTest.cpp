@@ -1,4 +1,4 @@
-#include "store/SnippetFile.h"
+#include "store/transfer/SnippetFile.h"
 
 #include "StoreFixture.h"
 #include "support/TestFiles.h"

@@ -1,5 +1,5 @@
 #include "StoreFixture.h"
-#include "store/Deleted.h"
+#include "store/history/Deleted.h"
 #include "support/TestFiles.h"
 
 #include <functional>

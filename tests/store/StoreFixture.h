@@ -9,7 +9,7 @@
 #include "fakes/MemoryPasteboard.h"
 #include "fakes/MemoryPreferences.h"
 #include "store/Store.h"
-#include "store/StoreFile.h"
+#include "store/disk/StoreFile.h"
 #include "support/SignalCount.h"
 #include "support/TestPictures.h"
 

@@ -1,7 +1,7 @@
 // A store whose files are encrypted, and deletion that leaves nothing.
 
 #include "StoreFixture.h"
-#include "store/Deleted.h"
+#include "store/history/Deleted.h"
 #include "vault/Conversion.h"
 #include "vault/Vault.h"
 

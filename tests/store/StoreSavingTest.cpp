@@ -1,6 +1,6 @@
 #include "StoreFixture.h"
 #include "base/FileUrl.h"
-#include "store/ImageFiles.h"
+#include "store/images/ImageFiles.h"
 #include "support/TestFiles.h"
 
 #include <cstdio>

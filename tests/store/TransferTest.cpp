@@ -1,8 +1,8 @@
-#include "store/Transfer.h"
+#include "store/transfer/Transfer.h"
 
 #include "StoreFixture.h"
-#include "store/Archive.h"
-#include "store/KnownRecords.h"
+#include "store/transfer/Archive.h"
+#include "store/transfer/KnownRecords.h"
 #include "support/TestFiles.h"
 #include "vault/Vault.h"
 

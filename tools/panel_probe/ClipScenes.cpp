@@ -2,7 +2,7 @@
 
 #include "Stage.h"
 
-#include "store/TooLarge.h"
+#include "store/images/TooLarge.h"
 
 namespace ravelo {
 

@@ -3,8 +3,8 @@
 #include "base/FileUrl.h"
 #include "platform/DetachedJobs.h"
 #include "platform/TimedJob.h"
-#include "store/ImageFiles.h"
 #include "store/Store.h"
+#include "store/images/ImageFiles.h"
 #include "ui/images/FilePage.h"
 #include "vault/Vault.h"
 

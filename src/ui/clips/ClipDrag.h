@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Handle.h"
-#include "store/ClipForms.h"
+#include "store/history/ClipForms.h"
 #include "ui/controls/OutgoingDrag.h"
 
 #include <QQuickItem>

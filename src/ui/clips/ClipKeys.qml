@@ -20,6 +20,9 @@ QtObject {
     signal removed(row: int)
 
     function handle(event: KeyEvent) {
+        if (!edits(event)) {
+            clips.list.finishSearch();
+        }
         const page = Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1);
         const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
         const searching = search.edited.activeFocus;
@@ -75,6 +78,14 @@ QtObject {
             return;
         }
         event.accepted = true;
+    }
+
+    /// Whether the key changes what is searched for.
+    function edits(event: KeyEvent): bool {
+        return event.key === Qt.Key_Backspace
+            || event.key === Qt.Key_Space && !search.isEmpty && !(event.modifiers & Qt.ShiftModifier)
+            || event.text > " " && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier))
+                && event.key !== Qt.Key_Delete;
     }
 
     /// The digit of a key with Ctrl and perhaps Shift; 0 for other keys. With Shift the digits' keys

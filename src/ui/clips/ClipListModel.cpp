@@ -1,11 +1,8 @@
 #include "ui/clips/ClipListModel.h"
 
-#include "clipboard/CaptureRules.h"
 #include "store/Store.h"
 #include "ui/clips/ProgramName.h"
 #include "ui/clips/SecretText.h"
-
-#include <QElapsedTimer>
 
 #include <algorithm>
 #include <utility>
@@ -20,9 +17,6 @@ namespace {
 constexpr qsizetype titleLength = 1000;
 
 constexpr Seconds justNow(60);
-
-/// Milliseconds for trying an expression on all clips: the user waits.
-constexpr qint64 patience = 200;
 
 QString title(const ClipItem& clip) {
     if (clip.kind == ClipKind::image) {
@@ -48,11 +42,10 @@ QString icon(ClipKind kind) {
 
 } // namespace
 
-ClipListModel::ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale)
+ClipListModel::ClipListModel(Store& store, Scheduler& scheduler, const QLocale& locale)
     : store_(store),
       scheduler_(scheduler),
-      phrase_(locale),
-      words_(locale, TextSearch::For::words),
+      search_(locale),
       relativeDate_(locale),
       locale_(locale) {
     connect(&store, &Store::cleared, this, &ClipListModel::dismissTooLarge);
@@ -87,7 +80,7 @@ QVariant ClipListModel::data(const QModelIndex& index, int role) const {
     case orderRole:
         return selection_.orderOf(clip.id);
     case marksRole:
-        return QVariant::fromValue(marks(clip));
+        return QVariant::fromValue(search_.marks(title(clip)));
     case maskRole:
         return clip.secret.isEmpty() ? QStringList() : secretRuns(clip);
     case spokenRole:
@@ -112,35 +105,39 @@ QHash<int, QByteArray> ClipListModel::roleNames() const {
             {agoRole, "ago"}};
 }
 
-void ClipListModel::setSearch(const QString& search) {
-    if (search == search_) {
+void ClipListModel::setSearch(const QString& written) {
+    if (written == search_.written()) {
         return;
     }
-    search_ = search;
-    query_ = ClipQuery::parse(search, scheduler_.now());
-    phrase_.setWanted(query_.text);
-    words_.setWanted(query_.text);
-    if (query_.needsDetails()) {
+    search_.setWritten(written, scheduler_.now());
+    if (search_.query().needsDetails()) {
         store_.lookUpDetails();
     }
+    isNewSearch_ = true;
     Q_EMIT searchChanged();
     update();
-    if (count() > 0) {
-        Q_EMIT dataChanged(index(0), index(count() - 1), {marksRole});
+}
+
+void ClipListModel::finishSearch() {
+    if (searching_) {
+        while (!search_.advance()) {
+        }
+        show(search_.take());
     }
 }
 
 QString ClipListModel::tally() const {
-    return search_.isEmpty() ? QString() : tr("%1 of %2").arg(count()).arg(store_.clips().size());
+    return search().isEmpty() ? QString() : tr("%1 of %2").arg(count()).arg(store_.clips().size());
 }
 
 QString ClipListModel::nothingFound() const {
-    if (gaveUp_) {
+    const ClipQuery& query = search_.query();
+    if (!search().isEmpty() && search_.gaveUp()) {
         return tr("This expression takes too long");
     }
-    return !query_.program.isEmpty() && origins_ == Origins::hidden
+    return !query.program.isEmpty() && origins_ == Origins::hidden
                ? tr("Turn on \u201cShow program and size in the list\u201d to find programs")
-               : query_.nothingFound();
+               : query.nothingFound();
 }
 
 void ClipListModel::setOrigins(Origins origins) {
@@ -154,7 +151,7 @@ void ClipListModel::setOrigins(Origins origins) {
 }
 
 void ClipListModel::detailsFound() {
-    if (query_.needsDetails()) {
+    if (search_.query().needsDetails()) {
         update();
     }
     if (origins_ == Origins::shown) {
@@ -226,7 +223,33 @@ void ClipListModel::update() {
     if (origins_ == Origins::shown) {
         store_.lookUpDetails(); // Of new images.
     }
-    apply(shownClips());
+    if (search().isEmpty()) {
+        show(allRows());
+        return;
+    }
+    search_.begin(store_.clips(), [this](const QUuid& id) { return store_.detailsOf(id); });
+    continueSearch();
+}
+
+void ClipListModel::continueSearch() {
+    if (search_.advance()) {
+        show(search_.take());
+    } else { // Keys and frames come first.
+        searching_ = scheduler_.after(Seconds(0), [this] { continueSearch(); });
+    }
+}
+
+QList<ClipItem> ClipListModel::allRows() const {
+    QList<ClipItem> all = store_.clips();
+    if (tooLarge_) {
+        all.insert(std::ranges::find(all, false, &ClipItem::pinned), tooLarge_->record);
+    }
+    return all;
+}
+
+void ClipListModel::show(const QList<ClipItem>& clips) {
+    searching_.reset();
+    apply(clips);
     Q_EMIT found();
     selection_.keepOnly(idsBetween(0, count() - 1));
     const auto row =
@@ -235,93 +258,12 @@ void ClipListModel::update() {
     if (std::exchange(tooLargeRow_, now) != now) {
         Q_EMIT tooLargeRowChanged();
     }
-}
-
-QList<ClipItem> ClipListModel::shownClips() {
-    gaveUp_ = false;
-    if (search_.isEmpty()) {
-        QList<ClipItem> all = store_.clips();
-        if (tooLarge_) {
-            all.insert(std::ranges::find(all, false, &ClipItem::pinned), tooLarge_->record);
+    if (std::exchange(isNewSearch_, false)) {
+        if (count() > 0) {
+            Q_EMIT dataChanged(index(0), index(count() - 1), {marksRole});
         }
-        return all;
+        Q_EMIT searched();
     }
-    if (query_.expression) {
-        return match();
-    }
-    QList<ClipItem> found = search(phrase_);
-    byWords_ = found.isEmpty();
-    if (byWords_) {
-        words_.skipMissed(phrase_);
-        found = search(words_);
-    }
-    return found;
-}
-
-QList<ClipItem> ClipListModel::search(TextSearch& texts) {
-    QList<ClipItem> found;
-    for (const ClipItem& clip : store_.clips()) {
-        if (query_.accepts(clip, store_.detailsOf(clip.id)) && isFound(clip, texts)) {
-            found.append(clip);
-        }
-    }
-    return found;
-}
-
-/// By the expression, as far as that is found out in time.
-QList<ClipItem> ClipListModel::match() {
-    QList<ClipItem> found;
-    if (!query_.mistake.isEmpty()) {
-        return found;
-    }
-    QElapsedTimer spent;
-    spent.start();
-    for (const ClipItem& clip : store_.clips()) {
-        if (clip.kind == ClipKind::image || !clip.secret.isEmpty() ||
-            !query_.accepts(clip, store_.detailsOf(clip.id))) {
-            continue;
-        }
-        const PatternAnswer answer = tryPattern(*query_.expression, clip.text);
-        if (answer == PatternAnswer::matches) {
-            found.append(clip);
-        }
-        gaveUp_ = gaveUp_ || answer == PatternAnswer::unknown;
-        if (spent.elapsed() > patience) {
-            gaveUp_ = true;
-            break;
-        }
-    }
-    return found;
-}
-
-QList<TextRange> ClipListModel::marks(const ClipItem& clip) const {
-    const QString shown = title(clip);
-    if (!query_.expression) {
-        return (byWords_ ? words_ : phrase_).matches(shown);
-    }
-    constexpr qsizetype maxMarks = 50;
-    constexpr qint64 patienceForMarks = 5; // Milliseconds; each visible row needs its own.
-    QList<TextRange> ranges;
-    if (!query_.mistake.isEmpty()) {
-        return ranges;
-    }
-    QElapsedTimer spent;
-    spent.start();
-    auto matches = query_.expression->globalMatch(shown);
-    while (ranges.size() < maxMarks && spent.elapsed() < patienceForMarks && matches.hasNext()) {
-        const auto match = matches.next();
-        if (match.capturedLength() > 0) {
-            ranges.append({match.capturedStart(), match.capturedLength()});
-        }
-    }
-    return ranges;
-}
-
-/// A secret is found by what is shown of it.
-bool ClipListModel::isFound(const ClipItem& clip, TextSearch& texts) const {
-    return clip.secret.isEmpty()
-               ? texts.finds(clip.id, clip.text)
-               : (title(clip) + u' ' + secretKind(clip)).contains(query_.text, Qt::CaseInsensitive);
 }
 
 QString ClipListModel::spoken(const ClipItem& clip) const {

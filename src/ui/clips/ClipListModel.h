@@ -2,13 +2,12 @@
 
 #include "base/Scheduler.h"
 #include "store/Records.h"
-#include "ui/clips/ClipQuery.h"
+#include "ui/clips/ClipSearch.h"
 #include "ui/clips/ClipSelection.h"
 #include "ui/clips/TooLarge.h"
 #include "ui/lists/KeyedListModel.h"
 #include "ui/lists/RelativeDate.h"
 #include "ui/lists/RowAges.h"
-#include "ui/lists/TextSearch.h"
 
 #include <QQmlEngine>
 
@@ -19,9 +18,8 @@ namespace ravelo {
 class Store;
 
 /// The clipboard history as shown in the panel: clips that `search` finds, in store order, and
-/// after the pinned ones a row about a copy that was too large to keep. A search is a phrase; if no
-/// clip contains it, its words, in any order and with or without accents. Or it is a regular
-/// expression. Main thread.
+/// after the pinned ones a row about a copy that was too large to keep. Until a search of a long
+/// history is done, the rows stay as they were. Main thread.
 class ClipListModel : public KeyedListModel<ClipItem>, public AgingRows {
     Q_OBJECT
     QML_ELEMENT
@@ -53,17 +51,20 @@ public:
 
     void setOrigins(Origins origins);
 
-    ClipListModel(Store& store, const Scheduler& scheduler, const QLocale& locale);
+    ClipListModel(Store& store, Scheduler& scheduler, const QLocale& locale);
 
     [[nodiscard]] QVariant data(const QModelIndex& index, int role) const override;
     [[nodiscard]] QHash<int, QByteArray> roleNames() const override;
 
-    [[nodiscard]] QString search() const { return search_; }
+    [[nodiscard]] const QString& search() const { return search_.written(); }
 
-    void setSearch(const QString& search);
+    void setSearch(const QString& written);
+
+    /// For keys that refer to the rows found.
+    Q_INVOKABLE void finishSearch();
 
     /// Without the filters.
-    [[nodiscard]] QString searchedText() const { return query_.text; }
+    [[nodiscard]] QString searchedText() const { return search_.query().text; }
 
     [[nodiscard]] QString tally() const;
 
@@ -98,18 +99,17 @@ public:
 Q_SIGNALS:
     void searchChanged();
     void found();
+    void searched(); ///< The rows are those of the new search.
     void tooLargeRowChanged();
     void detailsKnown(); ///< Of more clips.
 
 private:
     void update();
-    [[nodiscard]] QList<ClipItem> shownClips();
-    [[nodiscard]] QList<ClipItem> search(TextSearch& texts);
-    [[nodiscard]] QList<ClipItem> match();
-    [[nodiscard]] QList<TextRange> marks(const ClipItem& clip) const;
+    void continueSearch();
+    void show(const QList<ClipItem>& clips);
+    [[nodiscard]] QList<ClipItem> allRows() const;
     [[nodiscard]] QString size(const ClipItem& clip, const ClipDetails& details) const;
     void detailsFound();
-    [[nodiscard]] bool isFound(const ClipItem& clip, TextSearch& texts) const;
     [[nodiscard]] QString spoken(const ClipItem& clip) const;
     [[nodiscard]] QString secretSubtitle(const ClipItem& clip) const;
     [[nodiscard]] QString subtitle(const ClipItem& clip) const;
@@ -122,16 +122,13 @@ private:
     };
 
     Store& store_;
-    const Scheduler& scheduler_;
-    TextSearch phrase_;
-    TextSearch words_;
-    bool byWords_ = false; ///< Searches for words: no clip contains the phrase.
-    bool gaveUp_ = false;  ///< The expression takes too long.
+    Scheduler& scheduler_;
+    ClipSearch search_;
+    Handle searching_; ///< While clips are left to search.
+    bool isNewSearch_ = false;
     Origins origins_ = Origins::hidden;
     RelativeDate relativeDate_;
     QLocale locale_;
-    QString search_;
-    ClipQuery query_;
     ClipSelection selection_;
     std::optional<TooLargeRow> tooLarge_;
     int tooLargeRow_ = -1;

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "store/ClipDetails.h"
 #include "store/Records.h"
+#include "store/history/ClipDetails.h"
 
 #include <QCoreApplication>
 #include <QRegularExpression>

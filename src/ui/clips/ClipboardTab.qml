@@ -170,6 +170,9 @@ TabPage {
 
     Connections {
         target: tab.clips
+        function onSearched() {
+            tab.select(tab.rowOf(0));
+        }
         function onRestored(row: int) {
             tab.select(row);
         }
@@ -214,10 +217,7 @@ TabPage {
             { text: qsTr("Older than a week"), filter: "before:7d" }
         ]
         keyHandler: tab
-        onSearched: text => {
-            tab.clips.search(text);
-            tab.select(tab.rowOf(0));
-        }
+        onSearched: text => tab.clips.search(text)
         onCleared: tab.clips.clear()
     }
 

@@ -24,6 +24,8 @@ Clips::Clips(Services services, const QLocale& locale)
       preview_(services.store, services.decoder, locale),
       drag_(services.store, services.jobs, services.scheduler),
       ages_(services.scheduler, list_) {
+    connect(&list_, &ClipListModel::searched, this, &Clips::searched);
+    connect(&list_, &ClipListModel::detailsKnown, this, &Clips::detailsKnown);
     connect(&list_.selection(), &ClipSelection::changed, this, &Clips::selectedChanged);
     connect(&services_.settings, &AppSettings::joinWithChanged, this, &Clips::joinedChanged);
     connect(&editor_, &ClipEditor::copied, this, &Clips::copyEdited);

@@ -123,6 +123,8 @@ public:
     Q_INVOKABLE void clear();
 
 Q_SIGNALS:
+    void searched();     ///< The rows are those of the last search.
+    void detailsKnown(); ///< Of more clips.
     void selectedChanged();
     void joinedChanged();
     /// Deleted clips are back; this is the first of their rows.

@@ -1,6 +1,6 @@
 #include "ui/clips/FormNames.h"
 
-#include "store/ClipForms.h"
+#include "store/history/ClipForms.h"
 
 #include <QCoreApplication>
 

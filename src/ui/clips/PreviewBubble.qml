@@ -142,10 +142,11 @@ Item {
 
     PreviewFooter {
         id: footer
+        readonly property string program: bubble.preview.program
         x: 16
         y: parent.height - height
         width: parent.width - 32
-        origin: [bubble.preview.program, bubble.origin].filter(part => part !== "").join(" · ")
+        origin: program + (program !== "" && bubble.origin !== "" ? " · " : "") + bubble.origin
         details: [bubble.preview.measure, bubble.preview.forms]
     }
 }

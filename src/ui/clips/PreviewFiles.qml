@@ -40,6 +40,7 @@ Item {
 
                 required property int index
                 required property string modelData
+                readonly property string picture: view.preview.pictures[index] ?? ""
                 readonly property string below: view.preview.values[index] ?? ""
 
                 width: list.width
@@ -53,7 +54,7 @@ Item {
                     asynchronous: true
                     sourceSize.width: 72
                     sourceSize.height: 64
-                    source: view.visible ? view.preview.pictures[row.index] ?? "" : ""
+                    source: view.visible ? row.picture : ""
                 }
 
                 Label {

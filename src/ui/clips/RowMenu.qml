@@ -21,7 +21,7 @@ Menu {
     onOpenedChanged: hasForms = opened && clips.hasOtherForms(list.currentIndex)
 
     Connections {
-        target: menu.clips.list
+        target: menu.clips
         enabled: menu.opened
         function onDetailsKnown() {
             menu.hasForms = menu.clips.hasOtherForms(menu.list.currentIndex);

@@ -1,6 +1,6 @@
 #include "ui/lists/Deleting.h"
 
-#include "store/Deleted.h"
+#include "store/history/Deleted.h"
 #include "ui/controls/Toast.h"
 
 #include <QPointer>

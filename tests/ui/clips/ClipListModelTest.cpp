@@ -340,6 +340,67 @@ TEST(ClipListModel, findsTheSameAsAPlainSearchAtEveryKeystroke) {
     }
 }
 
+StoreData longHistory() {
+    StoreData data;
+    for (int i = 0; i < 8; ++i) {
+        data.clips.append(clip(QString(1 << 19, u'a'), Seconds(60)));
+    }
+    data.clips.append(clip(u"found"_s, Seconds(60)));
+    return data;
+}
+
+TEST(ClipListModel, searchesALongHistoryInPortions) {
+    const auto advance = [](PanelWorld& world, ClipListModel&) {
+        world.scheduler.advance(Seconds(0));
+    };
+    const auto finish = [](PanelWorld&, ClipListModel& model) {
+        model.finishSearch();
+    };
+    const auto copy = [](PanelWorld& world, ClipListModel&) {
+        world.store.addClip(u"found, too"_s);
+        world.scheduler.advance(Seconds(0));
+    };
+
+    struct Case {
+        const char* what;
+        std::function<void(PanelWorld&, ClipListModel&)> then;
+        int found;
+    };
+
+    const Case cases[] = {{"time passes", advance, 1},
+                          {"a key refers to the rows", finish, 1},
+                          {"a clip comes meanwhile", copy, 2}};
+    for (const Case& c : cases) {
+        SCOPED_TRACE(c.what);
+        PanelWorld world(longHistory());
+        ClipListModel model(world.store, world.scheduler, english);
+        int searched = 0;
+        QObject::connect(&model, &ClipListModel::searched, &model, [&] { ++searched; });
+        model.setSearch(u"found"_s);
+        EXPECT_EQ(model.count(), 9) << "the rows stay until the search is done";
+        EXPECT_EQ(searched, 0);
+        c.then(world, model);
+        EXPECT_EQ(model.count(), c.found);
+        EXPECT_EQ(searched, 1);
+        world.scheduler.advance(Seconds(1));
+        EXPECT_EQ(searched, 1) << "it is not searched again";
+    }
+}
+
+TEST(ClipListModel, aSearchThatIsNotDoneIsReplacedByTheNext) {
+    PanelWorld world(longHistory());
+    ClipListModel model(world.store, world.scheduler, english);
+    model.setSearch(u"nothing"_s);
+    model.setSearch(u"foun"_s);
+    model.finishSearch();
+    EXPECT_EQ(model.count(), 1);
+    model.setSearch(u"nothing"_s);
+    model.setSearch({});
+    EXPECT_EQ(model.count(), 9);
+    world.scheduler.advance(Seconds(1));
+    EXPECT_EQ(model.count(), 9);
+}
+
 TEST(ClipListModel, listsAClipCopiedDuringASearchOnlyIfItMatches) {
     PanelWorld world(fiveClips());
     ClipListModel model(world.store, world.scheduler, english);

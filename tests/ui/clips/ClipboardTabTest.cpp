@@ -254,6 +254,26 @@ INSTANTIATE_TEST_SUITE_P(
         KeysCase{"escapeClearsThenCloses", "5 Esc Esc", {}, false}),
     [](const auto& row) { return row.param.name; });
 
+class PanelWithLongTexts : public Panel {
+public:
+    PanelWithLongTexts() : Panel(data()) {}
+
+    static StoreData data() {
+        StoreData data;
+        for (int i = 0; i < 8; ++i) {
+            data.clips.append(clip(QString(1 << 19, u'a'), Seconds(60)));
+        }
+        data.clips.append(clip(u"found"_s, Seconds(60)));
+        return data;
+    }
+};
+
+TEST_F(PanelWithLongTexts, returnWaitsForTheSearch) {
+    openByKey();
+    pressKeys(u"f o u Return"_s);
+    EXPECT_EQ(pasteboardText(), u"found"_s);
+}
+
 class PanelWithImages : public Panel {
 public:
     PanelWithImages() : Panel(data()) {

@@ -1,7 +1,7 @@
-#include "store/KnownRecords.h"
+#include "store/transfer/KnownRecords.h"
 
 #include "platform/ImageDecoder.h"
-#include "store/ImageFiles.h"
+#include "store/images/ImageFiles.h"
 #include "vault/Vault.h"
 
 #include <QCryptographicHash>

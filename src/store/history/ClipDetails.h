@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/ClipForms.h"
+#include "store/history/ClipForms.h"
 
 #include <QSize>
 

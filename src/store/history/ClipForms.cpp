@@ -1,4 +1,4 @@
-#include "store/ClipForms.h"
+#include "store/history/ClipForms.h"
 
 #include "base/UriList.h"
 #include "base/Uuid.h"

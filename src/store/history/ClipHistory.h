@@ -1,7 +1,7 @@
 #pragma once
 
-#include "store/ImageFiles.h"
 #include "store/Records.h"
+#include "store/images/ImageFiles.h"
 
 #include <functional>
 #include <optional>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "store/TooLarge.h"
+#include "store/images/TooLarge.h"
 
 #include <QByteArray>
 #include <QString>

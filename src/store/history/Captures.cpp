@@ -1,4 +1,4 @@
-#include "store/Captures.h"
+#include "store/history/Captures.h"
 
 #include "platform/DetachedJobs.h"
 #include "platform/Worker.h"

@@ -1,4 +1,4 @@
-#include "store/ClipDetails.h"
+#include "store/history/ClipDetails.h"
 
 #include "decode/Formats.h"
 #include "vault/Vault.h"

@@ -1,4 +1,4 @@
-#include "store/Forgetting.h"
+#include "store/history/Forgetting.h"
 
 #include <algorithm>
 

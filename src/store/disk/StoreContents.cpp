@@ -1,9 +1,9 @@
-#include "store/StoreContents.h"
+#include "store/disk/StoreContents.h"
 
 #include "base/Files.h"
 #include "base/Uuid.h"
-#include "store/ShelfPaths.h"
-#include "store/StoreFile.h"
+#include "store/disk/ShelfPaths.h"
+#include "store/disk/StoreFile.h"
 #include "vault/Vault.h"
 
 #include <QDir>

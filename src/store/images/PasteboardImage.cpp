@@ -1,10 +1,10 @@
-#include "store/PasteboardImage.h"
+#include "store/images/PasteboardImage.h"
 
 #include "decode/Formats.h"
 #include "decode/Protocol.h"
 #include "platform/ImageDecoder.h"
 #include "platform/Pasteboard.h"
-#include "store/CopiedFile.h"
+#include "store/images/CopiedFile.h"
 
 #include <algorithm>
 

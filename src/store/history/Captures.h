@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/Handle.h"
-#include "store/CopiedFile.h"
+#include "store/images/CopiedFile.h"
 
 #include <QByteArray>
 

@@ -1,7 +1,7 @@
-#include "store/ClipHistory.h"
+#include "store/history/ClipHistory.h"
 
-#include "store/ClipForms.h"
-#include "store/Deleted.h"
+#include "store/history/ClipForms.h"
+#include "store/history/Deleted.h"
 
 #include <QSet>
 #include <QUrl>

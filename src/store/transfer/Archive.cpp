@@ -1,4 +1,4 @@
-#include "store/Archive.h"
+#include "store/transfer/Archive.h"
 
 #include <QIODevice>
 

@@ -1,4 +1,4 @@
-#include "store/CopiedFile.h"
+#include "store/images/CopiedFile.h"
 
 #include "base/FileUrl.h"
 #include "base/UriList.h"

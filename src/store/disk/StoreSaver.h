@@ -2,7 +2,7 @@
 
 #include "base/Handle.h"
 #include "base/OwnFile.h"
-#include "store/StoreContents.h"
+#include "store/disk/StoreContents.h"
 
 #include <QObject>
 

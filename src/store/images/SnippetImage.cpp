@@ -1,12 +1,12 @@
-#include "store/SnippetImage.h"
+#include "store/images/SnippetImage.h"
 
 #include "base/Scheduler.h"
 #include "platform/DetachedJobs.h"
 #include "platform/Pasteboard.h"
 #include "platform/Worker.h"
-#include "store/CopiedFile.h"
-#include "store/ImageFiles.h"
-#include "store/PasteboardImage.h"
+#include "store/images/CopiedFile.h"
+#include "store/images/ImageFiles.h"
+#include "store/images/PasteboardImage.h"
 
 #include <QStringList>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "base/OwnFile.h"
-#include "store/StoreContents.h"
+#include "store/disk/StoreContents.h"
 
 #include <QString>
 

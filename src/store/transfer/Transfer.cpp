@@ -1,13 +1,13 @@
-#include "store/Transfer.h"
+#include "store/transfer/Transfer.h"
 
 #include "base/Uuid.h"
 #include "decode/Protocol.h"
 #include "platform/ImageDecoder.h"
-#include "store/Archive.h"
-#include "store/ClipForms.h"
-#include "store/ImageFiles.h"
-#include "store/ShelfPaths.h"
-#include "store/StoreFile.h"
+#include "store/disk/ShelfPaths.h"
+#include "store/disk/StoreFile.h"
+#include "store/history/ClipForms.h"
+#include "store/images/ImageFiles.h"
+#include "store/transfer/Archive.h"
 #include "vault/Vault.h"
 
 #include <QFile>

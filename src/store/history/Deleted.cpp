@@ -1,8 +1,8 @@
-#include "store/Deleted.h"
+#include "store/history/Deleted.h"
 
 #include "base/Files.h"
-#include "store/ClipForms.h"
-#include "store/ImageFiles.h"
+#include "store/history/ClipForms.h"
+#include "store/images/ImageFiles.h"
 #include "vault/Vault.h"
 
 #include <QCoreApplication>

@@ -1,4 +1,4 @@
-#include "store/StoreFile.h"
+#include "store/disk/StoreFile.h"
 
 #include "base/Uuid.h"
 

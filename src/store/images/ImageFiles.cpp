@@ -1,9 +1,9 @@
-#include "store/ImageFiles.h"
+#include "store/images/ImageFiles.h"
 
 #include "base/Files.h"
 #include "base/Uuid.h"
 #include "decode/Formats.h"
-#include "store/ClipForms.h"
+#include "store/history/ClipForms.h"
 #include "vault/Vault.h"
 
 #include <QCoreApplication>

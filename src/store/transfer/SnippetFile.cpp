@@ -1,8 +1,8 @@
-#include "store/SnippetFile.h"
+#include "store/transfer/SnippetFile.h"
 
 #include "base/Uuid.h"
 #include "platform/ImageDecoder.h"
-#include "store/ImageFiles.h"
+#include "store/images/ImageFiles.h"
 #include "vault/Vault.h"
 
 #include <QCoreApplication>

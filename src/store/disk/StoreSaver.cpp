@@ -1,9 +1,9 @@
-#include "store/StoreSaver.h"
+#include "store/disk/StoreSaver.h"
 
 #include "base/Scheduler.h"
 #include "platform/Worker.h"
-#include "store/ShelfPaths.h"
-#include "store/StoreFile.h"
+#include "store/disk/ShelfPaths.h"
+#include "store/disk/StoreFile.h"
 #include "vault/Vault.h"
 
 #include <QPointer>

@@ -1,4 +1,4 @@
-#include "store/ShelfPaths.h"
+#include "store/disk/ShelfPaths.h"
 
 #include "base/FileUrl.h"
 #include "base/UriList.h"

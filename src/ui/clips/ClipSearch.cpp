@@ -1,0 +1,124 @@
+#include "ui/clips/ClipSearch.h"
+
+#include "clipboard/CaptureRules.h"
+#include "ui/clips/SecretText.h"
+
+#include <QElapsedTimer>
+
+#include <utility>
+
+namespace ravelo {
+
+using namespace std::chrono_literals;
+
+namespace {
+
+/// Of text, in UTF-16 units: a millisecond or two, ten if none of it is ASCII.
+constexpr qsizetype portion = 1 << 20;
+
+/// What a clip costs besides its text, in the same measure.
+constexpr qsizetype perClip = 200;
+
+/// For trying an expression on all clips.
+constexpr auto maxForExpression = 200ms;
+
+/// For its marks; each visible row needs its own.
+constexpr qint64 maxMillisecondsForMarks = 5;
+constexpr qsizetype maxMarks = 50;
+
+} // namespace
+
+ClipSearch::ClipSearch(const QLocale& locale)
+    : phrase_(locale), words_(locale, TextSearch::For::words) {}
+
+void ClipSearch::setWritten(const QString& written, Date now) {
+    written_ = written;
+    query_ = ClipQuery::parse(written, now);
+    phrase_.setWanted(query_.text);
+    words_.setWanted(query_.text);
+}
+
+void ClipSearch::begin(QList<ClipItem> clips, Details details) {
+    clips_ = std::move(clips);
+    details_ = std::move(details);
+    next_ = 0;
+    found_ = {};
+    byWords_ = false;
+    gaveUp_ = false;
+    spent_ = {};
+}
+
+bool ClipSearch::advance() {
+    for (qsizetype left = portion; left > 0; ++next_) {
+        if (next_ == clips_.size()) {
+            if (!found_.isEmpty() || byWords_ || query_.expression) {
+                return true;
+            }
+            byWords_ = true;
+            words_.skipMissed(phrase_);
+            next_ = -1;
+            continue;
+        }
+        const ClipItem& clip = clips_[next_];
+        if (query_.accepts(clip, details_(clip.id)) && accepts(clip)) {
+            found_.append(clip);
+        }
+        left -= perClip + clip.text.size();
+    }
+    return false;
+}
+
+QList<ClipItem> ClipSearch::take() {
+    clips_ = {};
+    return std::exchange(found_, {});
+}
+
+/// A secret is found by what is shown of it.
+bool ClipSearch::accepts(const ClipItem& clip) {
+    if (query_.expression) {
+        return matches(clip);
+    }
+    return clip.secret.isEmpty() ? (byWords_ ? words_ : phrase_).finds(clip.id, clip.text)
+                                 : (secretRuns(clip).join(QString()) + u' ' + secretKind(clip))
+                                       .contains(query_.text, Qt::CaseInsensitive);
+}
+
+bool ClipSearch::matches(const ClipItem& clip) {
+    if (!query_.mistake.isEmpty() || clip.kind == ClipKind::image || !clip.secret.isEmpty()) {
+        return false;
+    }
+    if (spent_ > maxForExpression) {
+        gaveUp_ = true;
+        return false;
+    }
+    const auto start = std::chrono::steady_clock::now();
+    const PatternAnswer answer = tryPattern(*query_.expression, clip.text);
+    spent_ += std::chrono::steady_clock::now() - start;
+    gaveUp_ = gaveUp_ || answer == PatternAnswer::unknown;
+    return answer == PatternAnswer::matches;
+}
+
+QList<TextRange> ClipSearch::marks(const QString& shown) const {
+    return query_.expression ? expressionMarks(shown)
+                             : (byWords_ ? words_ : phrase_).matches(shown);
+}
+
+QList<TextRange> ClipSearch::expressionMarks(const QString& shown) const {
+    QList<TextRange> ranges;
+    if (!query_.mistake.isEmpty()) {
+        return ranges;
+    }
+    QElapsedTimer spent;
+    spent.start();
+    auto matches = query_.expression->globalMatch(shown);
+    while (ranges.size() < maxMarks && spent.elapsed() < maxMillisecondsForMarks &&
+           matches.hasNext()) {
+        const auto match = matches.next();
+        if (match.capturedLength() > 0) {
+            ranges.append({match.capturedStart(), match.capturedLength()});
+        }
+    }
+    return ranges;
+}
+
+} // namespace ravelo
