@@ -1,16 +1,17 @@
 // thumbnails here|there FOLDER: makes thumbnails of all pictures in the folder, like a list shown
-// for the first time, in this process or in ravelo-decode. Prints the milliseconds until the first
-// and the last one.
+// for the first time, in this process, as programs usually do it, or in ravelo-decode. Prints the
+// milliseconds until the first and the last one.
 
-#include "fakes/InProcessDecoder.h"
 #include "platform/system/DecoderProcess.h"
 #include "ui/images/SlowWork.h"
 
 #include <QCoreApplication>
 #include <QDir>
+#include <QImageReader>
 
 #include <chrono>
 #include <condition_variable>
+#include <functional>
 #include <iostream>
 #include <mutex>
 
@@ -42,11 +43,30 @@ private:
     std::vector<Clock::time_point> times_;
 };
 
-std::shared_ptr<ImageDecoder> decoder(const QString& where, const QString& folder) {
+using Make = std::function<QImage(const QString& path)>;
+
+/// Qt finds out the format.
+QImage readHere(const QString& path) {
+    const QSize size(tile.minWidth, tile.height);
+    QImageReader reader(path);
+    reader.setAutoTransform(true);
+    const QSize natural = reader.size();
+    const QSize part = size.scaled(natural, Qt::KeepAspectRatio);
+    reader.setClipRect(
+        {QPoint((natural.width() - part.width()) / 2, (natural.height() - part.height()) / 2),
+         part});
+    reader.setScaledSize(size);
+    return reader.read();
+}
+
+Make reader(const QString& where, const QString& folder) {
     if (where == u"here") {
-        return std::make_shared<InProcessDecoder>();
+        return readHere;
     }
-    return std::make_shared<DecoderProcess>(RAVELO_DECODE, QFile::encodeName(folder));
+    return [decoder = std::make_shared<DecoderProcess>(RAVELO_DECODE, QFile::encodeName(folder))](
+               const QString& path) {
+        return decoder->filling(PictureFile{QFile::encodeName(path)}, tile);
+    };
 }
 
 } // namespace
@@ -54,13 +74,13 @@ std::shared_ptr<ImageDecoder> decoder(const QString& where, const QString& folde
 int main(int argc, char** argv) {
     const QCoreApplication application(argc, argv);
     const QFileInfoList files = QDir(application.arguments().value(2)).entryInfoList(QDir::Files);
-    const auto reader = decoder(application.arguments().value(1), application.arguments().value(2));
+    const Make make = reader(application.arguments().value(1), application.arguments().value(2));
     const auto arrivals = std::make_shared<Arrivals>();
     SlowWork work;
     const auto begun = Clock::now();
     for (const QFileInfo& file : files) {
         work.run([=, path = file.filePath()] {
-            if (reader->filling(PictureFile{QFile::encodeName(path)}, tile).isNull()) {
+            if (make(path).isNull()) {
                 std::cerr << "no picture: " << qPrintable(path) << std::endl;
                 std::_Exit(EXIT_FAILURE);
             }

@@ -65,6 +65,24 @@ Picture asPixels(const QImage& image, QSize expected) {
     return {Status::done, expected, image.convertToFormat(QImage::Format_ARGB32_Premultiplied), {}};
 }
 
+/// Not a copy if its pixels allow that: then `image` has to outlive it.
+QImage partOf(const QImage& image, QRect part) {
+    constexpr int wholeBytes = 24; // Smaller pixels share bytes, or have a table of colours.
+    if (image.depth() < wholeBytes) {
+        return image.copy(part);
+    }
+    const uchar* const first =
+        image.constScanLine(part.y()) + qsizetype(part.x()) * image.depth() / 8;
+    return {first, part.width(), part.height(), image.bytesPerLine(), image.format()};
+}
+
+QImage scaled(const QImage& image, QRect part, QSize size) {
+    if (part.size() == size) {
+        return image.copy(part);
+    }
+    return partOf(image, part).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+}
+
 class QtPicture {
 public:
     QtPicture(Format format, QByteArray bytes) : format_(format), bytes_(std::move(bytes)) {
@@ -90,6 +108,12 @@ public:
 
     Picture filling(const Request& request) {
         const QSize size = fillSize(request, turned(stored_, turn_));
+        if (format_ == Format::png) { // Qt would copy the visible part, and never turns a PNG.
+            const QImage whole = reader_.read();
+            return whole.size() == stored_
+                       ? asPixels(scaled(whole, visiblePart(stored_, size), size), size)
+                       : Picture();
+        }
         // Crop first, because scaling a very long picture as a whole would exhaust the memory.
         // The orientation is applied after that.
         reader_.setClipRect(visiblePart(stored_, turned(size, turn_)));
@@ -131,10 +155,6 @@ Picture fromQt(const Request& request, Format format, const QByteArray& bytes) {
         return picture.png();
     }
     return {};
-}
-
-QImage scaled(const QImage& image, QRect part, QSize size) {
-    return image.copy(part).scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
 }
 
 const HeifReader* heif = nullptr;

@@ -150,7 +150,10 @@ TEST_F(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
         EXPECT_EQ(QDir(process + u"/fd"_s)
                       .entryList(QDir::NoDotAndDotDot | QDir::AllEntries | QDir::System),
                   (QStringList{u"0"_s, u"1"_s, u"2"_s, u"3"_s}));
-        EXPECT_EQ(readFile(process + u"/environ"_s), "") << "it knows the environment";
+        const auto environment = readFile(process + u"/environ"_s).value_or(QByteArray());
+        EXPECT_EQ(environment.split('\0'),
+                  (QByteArrayList{"GLIBC_TUNABLES=glibc.malloc.hugetlb=1", ""}))
+            << "it knows the environment";
     }
     decoder.reset();
     EXPECT_TRUE(eventually([] { return children().isEmpty(); })) << "it stays";

@@ -26,7 +26,10 @@ using namespace decode;
 constexpr std::chrono::milliseconds startTime(5000); ///< On a busy machine.
 constexpr std::chrono::milliseconds restCheck(5000); ///< How often a resting process is checked.
 
-/// Without environment, other descriptors or blocked signals. 0 if it could not be started.
+/// Large pages for pictures: half the page faults, and a tenth of the time.
+constexpr const char* memorySetting = "GLIBC_TUNABLES=glibc.malloc.hugetlb=1";
+
+/// Without our environment, other descriptors or blocked signals. 0 if it could not be started.
 pid_t spawn(const QByteArray& program, DecoderConnection::Formats formats, int socket) {
     posix_spawn_file_actions_t files;
     posix_spawn_file_actions_init(&files);
@@ -47,7 +50,7 @@ pid_t spawn(const QByteArray& program, DecoderConnection::Formats formats, int s
     std::array arguments{const_cast<char*>(program.constData()),
                          onlyPng ? const_cast<char*>(onlyPngOption) : nullptr,
                          static_cast<char*>(nullptr)};
-    std::array environment{static_cast<char*>(nullptr)};
+    std::array environment{const_cast<char*>(memorySetting), static_cast<char*>(nullptr)};
     pid_t child = 0;
     if (posix_spawn(&child, program.constData(), &files, &attributes, arguments.data(),
                     environment.data()) != 0) {
