@@ -112,6 +112,10 @@ def scrolling(_):
 
 # Rest.
 
+# Until no row counts seconds, no caret blinks and no ravelo-decode waits for more pictures.
+SETTLED = 62
+
+
 def resting(program, seconds, state="collapsed"):
     """Usage per second at rest: closed, open, or with a timer."""
     with running(program) as (_, ravelo):
@@ -120,7 +124,7 @@ def resting(program, seconds, state="collapsed"):
             assert ravelo.call("timer", "start", "60", "Deep work")[0] == 0, "no timer runs"
         elif state == "open":
             assert ravelo.call("--toggle")[0] == 0, "the panel does not open"
-        time.sleep(2)
+        time.sleep(SETTLED)
         used = use_a_second(ravelo.process, seconds)
         as_it_was = {"collapsed": ravelo.is_collapsed, "open": ravelo.is_open}.get(state)
         assert not as_it_was or as_it_was(), f"the panel is not {state} any more"

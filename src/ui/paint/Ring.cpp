@@ -2,7 +2,20 @@
 
 namespace ravelo {
 
+/// In strips: Qt hands a path of about a hundred spans to other threads, and a timer that runs all
+/// day would wake them every second.
 void Ring::paint(QPainter& painter) {
+    constexpr double strip = 4;
+    const QRectF whole = boundingRect();
+    for (double top = 0; top < whole.height(); top += strip) {
+        painter.save();
+        painter.setClipRect(QRectF(0, top, whole.width(), strip), Qt::IntersectClip);
+        paintWhole(painter);
+        painter.restore();
+    }
+}
+
+void Ring::paintWhole(QPainter& painter) const {
     constexpr double degree = 16; // QPainter's unit, counter-clockwise.
     const double inset = lineWidth_ / 2;
     const QRectF circle = boundingRect().adjusted(inset, inset, -inset, -inset);

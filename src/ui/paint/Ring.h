@@ -22,6 +22,8 @@ protected:
     void paint(QPainter& painter) override;
 
 private:
+    void paintWhole(QPainter& painter) const;
+
     double fraction_ = 0;
     QColor color_ = Qt::white;
     QColor trackColor_ = Qt::transparent;
