@@ -56,7 +56,7 @@ def drag_out(on):
         time.sleep(0.5)  # For the rows.
         on.desktop.drag((left + 300, ROWS), field)
         time.sleep(0.5)  # For the drag to begin, which is noticed at the next motion.
-        on.desktop.move(*field)
+        on.desktop.move(field[0] + 1, field[1])
         time.sleep(0.5)  # For the field to accept it.
         on.desktop.release()
         expect_text("dragged out", "after the drop")
