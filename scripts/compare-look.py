@@ -16,6 +16,7 @@ import subprocess
 import sys
 import tempfile
 
+ROOT = pathlib.Path(__file__).resolve().parent.parent
 TOLERANCE = 1.0
 
 # Scene of the probe, drawing, origin in the drawing, then per element: its name, its CSS selector, and
@@ -89,7 +90,7 @@ SCENES = [
     ("notice-fails", "24c-notice-save-fails.html", ".panel", [
         ("notice", ".notice", ALL),
         ("notice/noticeGlyph", ".notice > i", ALL),
-        ("notice/noticeRest", ".notice .lt|text", "xyw"),
+        ("notice/noticeRest", ".notice .el span|text", "xyw"),
         ("notice/noticeAction", ".notice .btn", ALL),
     ]),
     ("question", "04-timer-search-confirm.html", ".panel", [
@@ -379,8 +380,8 @@ def compare(folder, probe):
 def main():
     if not 2 <= len(sys.argv) <= 3:
         sys.exit(__doc__)
-    root = pathlib.Path(__file__).resolve().parent.parent
-    probe = sys.argv[2] if len(sys.argv) == 3 else root / "build/dev/tools/panel_probe/panel_probe"
+    subprocess.run([ROOT / "scripts/packages", "run", "look"], check=True)
+    probe = sys.argv[2] if len(sys.argv) == 3 else ROOT / "build/dev/tools/panel_probe/panel_probe"
     sys.exit(0 if compare(pathlib.Path(sys.argv[1]), probe) else 1)
 
 

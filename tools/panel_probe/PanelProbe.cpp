@@ -33,10 +33,12 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
+/// The slot of the content is not part of any path.
 void collect(const QQuickItem* item, const QString& path, QJsonObject& into) {
     for (const QQuickItem* child : item->childItems()) {
         QString childPath = path;
-        if (!child->objectName().isEmpty() && child->isVisible()) {
+        const bool named = !child->objectName().isEmpty() && child->objectName() != u"content";
+        if (named && child->isVisible()) {
             childPath = path.isEmpty() ? child->objectName() : path + u'/' + child->objectName();
             const QRectF rect = child->mapRectToScene(child->boundingRect());
             into[childPath] = QJsonArray{rect.x(), rect.y(), child->width(), child->height()};
