@@ -49,6 +49,7 @@ int main(int argc, char** argv) {
     XServer server;
     WindowWatch window(server, static_cast<xcb_window_t>(std::strtoul(argv[1], nullptr, 10)));
     openByPointer(server, window, inSearch);
+    awaitIdle(process); // No hand clicks in the moment of opening.
     server.click();
     xcb_flush(server.get());
     for (int word = 3; word < argc; ++word) {
