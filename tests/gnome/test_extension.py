@@ -104,7 +104,7 @@ class ExtensionTest(ExtensionCase):
     def test_connects_to_the_owner_of_the_name_and_rests_after_it(self):
         before = self.session.run(TRACES)
         peer = self.attached()
-        self.assertEqual(peer.messages("hello"), [{"is": "hello", "version": 1}])
+        self.assertEqual(peer.messages("hello"), [{"is": "hello", "version": 2}])
         screen = peer.messages("screens")[0]["screens"][0]
         self.assertEqual(screen["frame"], [0, 0, 1280, 800])
         self.assertGreater(screen["free"][1], 10, "the bar is known")
@@ -122,7 +122,7 @@ class ExtensionTest(ExtensionCase):
         self.assertEqual(self.session.run(TRACES)["strips"], 0)
 
     def test_refuses_another_version(self):
-        peer = self.ravelo("--version", "2")
+        peer = self.ravelo("--version", "3")
         until(lambda: peer.messages("end"), "it hangs up")
         self.assertEqual(peer.messages("screens"), [])
 

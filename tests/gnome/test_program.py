@@ -372,6 +372,71 @@ class PasswordTest(ProgramCase):
         self.assertNotIn("hunter2", self.store())
 
 
+class PasteAtOnceTest(ProgramCase):
+    """With the desktop's own portal, whose dialog asks the user."""
+
+    dialog = "Remote desktop"
+
+    def setUp(self):
+        super().setUp()
+        for name in ("xdg-permission-store", "xdg-desktop-portal-gnome", "xdg-desktop-portal"):
+            self.session.start(f"/usr/libexec/{name}", log=f"{name}.log")
+        until(self.has_portal, "the portal is up")
+        self.target = self.client("target", "--copy", "a clip")
+        until(lambda: "a clip" in self.store(), "it is stored")
+
+    def has_portal(self):
+        try:
+            return self.session.call("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                                     "org.freedesktop.DBus.Properties", "Get",
+                                     GLib.Variant("(ss)", ("org.freedesktop.portal.RemoteDesktop", "version")))
+        except GLib.Error:
+            return None
+
+    def paste(self):
+        self.command("--toggle")
+        until(lambda: (self.panel() or {}).get("focus"), "the panel has the keyboard")
+        self.session.run(f"{CONTROL} await control(Clutter.KEY_Return, Clutter.KEY_Shift_L);")
+
+    def answer(self, *clicks):
+        """Clicks at these places of the dialog."""
+        x, y, _, _ = until(lambda: self.window(self.dialog), "the desktop asks")["frame"]
+        self.session.run("await sleep(600);")
+        for dx, dy in clicks:
+            self.session.run(f"await click({x + dx}, {y + dy}); await sleep(300);")
+        until(lambda: not self.window(self.dialog), "the question is answered")
+
+    def pasted(self):
+        return [line for line in self.target.lines if line.startswith("key")]
+
+    def test_pastes_once_the_user_allows_it(self):
+        self.session.run("await sleep(500)")
+        self.assertFalse(self.window(self.dialog), "it asks before anybody wants to paste")
+        self.paste()
+        until(lambda: self.window(self.dialog), "the desktop asks")
+        self.keep("paste-dialog")
+        self.assertEqual(self.pasted(), [])
+        self.answer((430, 74), (453, 23))
+        until(self.pasted, "it pastes after the answer")
+        self.assertEqual(self.pasted(), ["key a clip\n"])
+        self.paste()
+        until(lambda: len(self.pasted()) == 2, "it pastes again, without a question")
+        self.assertEqual(self.pasted()[1], "key a clipa clip\n")
+
+    def test_only_copies_after_a_refusal(self):
+        self.paste()
+        self.answer((50, 23))
+        until(lambda: "typingRefused" in self.preferences(), "the refusal is kept")
+        self.paste()
+        until(lambda: self.window("target")["focus"], "the focus is given back")
+        self.session.run("await sleep(1500)")
+        self.assertFalse(self.window(self.dialog), "it asks again")
+        self.assertEqual(self.pasted(), [])
+
+    def preferences(self):
+        return (self.session.home / ".config/ravelo/preferences.json").read_text()
+
+
 class TurnOnTest(ProgramCase):
     x11 = True
     extensions = ()
