@@ -13,14 +13,13 @@ PastePermission::PastePermission(PasteKeys* keys) : keys_(keys) {
 QString PastePermission::note() const {
     switch (keys_ != nullptr ? keys_->permission() : TypingPermission::notNeeded) {
     case TypingPermission::unasked:
-        return tr("Your desktop asks you first: it calls this remote interaction. Ravelo only "
-                  "types the keys that "
-                  "paste.");
+        return tr("Into the window you came from. The desktop asks you first whether to allow "
+                  "remote interaction.");
     case TypingPermission::refused:
         return tr("You did not allow Ravelo to type, so it only copies.");
     case TypingPermission::unavailable:
-        return tr(
-            "Only copies: your desktop did not answer when Ravelo asked for permission to type.");
+        return tr("Only copies: the desktop did not answer when Ravelo asked for permission to "
+                  "type.");
     case TypingPermission::notNeeded:
     case TypingPermission::given:
         break;
