@@ -84,7 +84,7 @@ QDBusMessage Keyboard::call(const QString& object, const QString& of, const QStr
 }
 
 void Keyboard::meetPortal() {
-    // Newer portals name the program in their question then, and keep the answer for it.
+    // Newer portals keep the answer for this program then, however it was started.
     call(path, u"org.freedesktop.host.portal.Registry"_s, u"Register"_s,
          {u"org.ravelo.Ravelo"_s, QVariantMap()});
     const QDBusMessage version =
