@@ -1,5 +1,6 @@
 """Ravelo on a real GNOME Shell with its extension. Run by scripts/gnome, which says where the program is."""
 
+import contextlib
 import json
 import os
 import pathlib
@@ -375,7 +376,11 @@ class PasswordTest(ProgramCase):
 class PasteAtOnceTest(ProgramCase):
     """With the desktop's own portal, whose dialog asks the user."""
 
-    dialog = "Remote desktop"
+    # Its title, and where it has its switch, its button that allows and the one that does not.
+    dialog, switch, share = ("Remote desktop", (430, 74), (453, 23)) if shell.release() < 45 \
+        else ("Remote Desktop", (575, 157), (612, 23))
+    cancel = (50, 23)
+    remembers = shell.release() >= 46
 
     def setUp(self):
         super().setUp()
@@ -416,16 +421,30 @@ class PasteAtOnceTest(ProgramCase):
         until(lambda: self.window(self.dialog), "the desktop asks")
         self.keep("paste-dialog")
         self.assertEqual(self.pasted(), [])
-        self.answer((430, 74), (453, 23))
+        self.answer(self.switch, self.share)
         until(self.pasted, "it pastes after the answer")
         self.assertEqual(self.pasted(), ["key a clip\n"])
         self.paste()
         until(lambda: len(self.pasted()) == 2, "it pastes again, without a question")
         self.assertEqual(self.pasted()[1], "key a clipa clip\n")
+        self.session.run("await sleep(500)")
+        self.assertEqual(self.has_session(), not self.remembers, "it is open for no longer than it has to be")
+        self.ravelo.terminate()
+        until(lambda: not self.has_session(), "it ends with Ravelo")
+
+    def has_session(self):
+        """Ravelo's child lives on this session's bus."""
+        def is_it(process):
+            with contextlib.suppress(OSError):  # It may have ended.
+                return b"ravelo-portal\0keyboard" in (process / "cmdline").read_bytes() \
+                    and bytes(self.session.runtime) in (process / "environ").read_bytes()
+            return False
+
+        return any(map(is_it, pathlib.Path("/proc").glob("[0-9]*")))
 
     def test_only_copies_after_a_refusal(self):
         self.paste()
-        self.answer((50, 23))
+        self.answer(self.cancel)
         until(lambda: "typingRefused" in self.preferences(), "the refusal is kept")
         self.paste()
         until(lambda: self.window("target")["focus"], "the focus is given back")
