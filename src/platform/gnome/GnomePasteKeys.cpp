@@ -40,7 +40,7 @@ GnomePasteKeys::GnomePasteKeys(Channel& channel, const GnomePasteboard& pasteboa
           }
       })) {
     again_.setInterval(interval);
-    again_.callOnTimeout([this] { now() < press_->end ? ask() : end(); });
+    again_.callOnTimeout([this] { press_ && now() < press_->end ? ask() : end(); });
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
         if (window != nullptr) {
             ask();
@@ -79,7 +79,7 @@ void GnomePasteKeys::press(const Target& target, PasteChord chord) {
 }
 
 void GnomePasteKeys::opened(bool open) {
-    if (!open || now() > press_->end) {
+    if (!press_ || !open || now() > press_->end) {
         end();
         return;
     }
@@ -92,15 +92,15 @@ void GnomePasteKeys::opened(bool open) {
 void GnomePasteKeys::heard(const KeyboardReport& report) {
     report_ = report;
     if (press_ && since_ > 0 && report.serial >= since_) {
-        typeIfReady();
+        typeIfReady(*press_);
     }
 }
 
-void GnomePasteKeys::typeIfReady() {
-    if (pasteboard_.changeCount() != press_->count) {
+void GnomePasteKeys::typeIfReady(const Press& press) {
+    if (pasteboard_.changeCount() != press.count) {
         end();
-    } else if (latest(press_->target).isComplete()) {
-        keyboard_.type(press_->chord);
+    } else if (latest(press.target).isComplete()) {
+        keyboard_.type(press.chord);
         end();
     }
 }
