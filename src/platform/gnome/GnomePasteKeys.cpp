@@ -40,7 +40,7 @@ GnomePasteKeys::GnomePasteKeys(Channel& channel, const GnomePasteboard& pasteboa
           }
       })) {
     again_.setInterval(interval);
-    again_.callOnTimeout([this] { press_ && now() < press_->end ? ask() : end(); });
+    again_.callOnTimeout([this] { press_&& now() < press_->end ? ask() : end(); });
     connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
         if (window != nullptr) {
             ask();
