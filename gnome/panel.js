@@ -1,4 +1,5 @@
 import Clutter from 'gi://Clutter';
+import * as Keyboard from 'resource:///org/gnome/shell/ui/status/keyboard.js';
 import * as Main from 'resource:///org/gnome/shell/ui/main.js';
 import {Signals} from './signals.js';
 
@@ -79,6 +80,7 @@ export class Panel {
             is: 'keyboard', serial, names: [...new Set(names.filter(name => name))],
             ...isOther ? {window: window.get_stable_sequence()} : {},
             focused: Boolean(isOther) && window === has && Main.modalCount === 0,
+            layout: Keyboard.getInputSourceManager().currentSource?.xkbId ?? '',
             modifiers: (global.get_pointer()[2] & MODIFIERS) !== 0,
         });
     }

@@ -5,10 +5,12 @@
 #include <QDBusObjectPath>
 #include <QDBusVariant>
 
+#include <algorithm>
 #include <array>
 #include <cstdio>
 #include <span>
 #include <utility>
+#include <vector>
 
 #include <unistd.h>
 
@@ -28,10 +30,6 @@ constexpr uint untilRevoked = 2;    ///< A persist mode.
 constexpr uint firstWithTokens = 2; ///< Version of the interface.
 constexpr uint cancelled = 1;       ///< A response.
 
-// Names of X11 for keys, which the desktop looks up in the user's layout.
-constexpr int controlKey = 0xffe3;
-constexpr int shiftKey = 0xffe1;
-constexpr int vKey = 0x76;
 constexpr uint pressed = 1;
 constexpr uint released = 0;
 
@@ -178,12 +176,29 @@ void Keyboard::opened(const QVariantMap& results) {
     say(token.isEmpty() || token.contains('\n') ? "open" : "open " + token);
 }
 
+struct Keyboard::Key {
+    const char* word; ///< In a line of the input.
+    const char* method;
+    int code; ///< A keysym of X11, which the desktop looks up in the user's layout, or a code of
+              ///< evdev.
+};
+
 void Keyboard::type(const QByteArray& chord) {
-    constexpr std::array shifted{controlKey, shiftKey, vKey};
-    constexpr std::array plain{controlKey, vKey};
-    const auto keys = chord == "V" ? std::span<const int>(shifted) : std::span<const int>(plain);
+    static constexpr std::array known{Key{"control", "NotifyKeyboardKeysym", 0xffe3},
+                                      Key{"shift", "NotifyKeyboardKeysym", 0xffe1},
+                                      Key{"v", "NotifyKeyboardKeysym", 0x76},
+                                      Key{"place", "NotifyKeyboardKeycode", 47}};
+    std::vector<Key> keys;
+    for (const QByteArray& word : chord.split(' ')) {
+        const auto* const key =
+            std::ranges::find_if(known, [&](const Key& one) { return word == one.word; });
+        if (key == known.end()) {
+            return;
+        }
+        keys.push_back(*key);
+    }
     bool worked = true;
-    for (const int key : keys) {
+    for (const Key& key : keys) {
         worked = worked && notify(key, pressed);
     }
     for (auto key = keys.rbegin(); key != keys.rend(); ++key) {
@@ -195,9 +210,9 @@ void Keyboard::type(const QByteArray& chord) {
 }
 
 /// Waits for the answer: the portal handles calls in threads, in whatever order.
-bool Keyboard::notify(int keysym, uint state) {
-    return call(path, interface, u"NotifyKeyboardKeysym"_s,
-                {QVariant::fromValue(QDBusObjectPath(session_)), QVariantMap(), keysym, state})
+bool Keyboard::notify(const Key& key, uint state) {
+    return call(path, interface, QString::fromLatin1(key.method),
+                {QVariant::fromValue(QDBusObjectPath(session_)), QVariantMap(), key.code, state})
                .type() == QDBusMessage::ReplyMessage;
 }
 

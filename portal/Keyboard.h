@@ -6,10 +6,10 @@
 #include <QSocketNotifier>
 
 /// A keyboard by the portal org.freedesktop.portal.RemoteDesktop. Reads lines from standard input:
-/// first the token of an earlier session, or nothing; then each chord to type, "v" with Control or
-/// "V" with Control and Shift. Prints "open", with the next token if the portal gives one, and ends
-/// with "refused" by the user, "unavailable", or "closed" by the desktop. Also ends with its input,
-/// once all is typed; the session ends with it.
+/// first the token of an earlier session, or nothing; then each chord to type: "control" or
+/// "control shift", and "v" or "place", the key where Latin layouts have it. Prints "open", with
+/// the next token if the portal gives one, and ends with "refused" by the user, "unavailable", or
+/// "closed" by the desktop. Also ends with its input, once all is typed; the session ends with it.
 class Keyboard : public QObject {
     Q_OBJECT
 
@@ -32,7 +32,8 @@ private:
     void start();
     void opened(const QVariantMap& results);
     void type(const QByteArray& chord);
-    bool notify(int keysym, uint state);
+    struct Key;
+    bool notify(const Key& key, uint state);
     QDBusMessage call(const QString& path, const QString& interface, const QString& method,
                       const QVariantList& arguments);
 

@@ -23,8 +23,12 @@ public:
     /// refusal it fails without a question.
     [[nodiscard]] virtual Handle open(std::function<void(bool)> done) = 0;
 
+    /// How to find the key of a letter: in the user's layout, or where Latin ones have it, which
+    /// programs understand if the layout has no such letter.
+    enum class Letters { byLayout, byPlace };
+
     /// While it is open. Nothing for chords that do not paste the clipboard.
-    virtual void type(PasteChord chord) = 0;
+    virtual void type(PasteChord chord, Letters letters) = 0;
 
     /// No more keys for now. Stays open where opening it would mean a question each time.
     virtual void close() = 0;

@@ -121,6 +121,7 @@ public:
     /// What it says about the keyboard when it is asked: all but "is" and "serial".
     QJsonObject keyboard{{QStringLiteral("focused"), false},
                          {QStringLiteral("modifiers"), false},
+                         {QStringLiteral("layout"), QString()},
                          {QStringLiteral("names"), QJsonArray()}};
     bool answersAboutKeyboard = true;
 

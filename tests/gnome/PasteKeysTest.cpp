@@ -30,13 +30,17 @@ public:
         return {};
     }
 
-    void type(PasteChord chord) override { typed.push_back(chord); }
+    void type(PasteChord chord, Letters how) override {
+        typed.push_back(chord);
+        letters = how;
+    }
 
     void close() override { ++closings; }
 
     TypingPermission allowed = TypingPermission::given;
     std::function<void(bool)> answer; ///< The user's.
     std::vector<PasteChord> typed;
+    Letters letters = Letters::byLayout; ///< Of the last one.
     int closings = 0;
 };
 
@@ -44,6 +48,7 @@ QJsonObject report(int window, bool focused, bool modifiers = false) {
     return {{u"window"_s, window},
             {u"names"_s, QJsonArray{u"kgx"_s}},
             {u"focused"_s, focused},
+            {u"layout"_s, u"us"_s},
             {u"modifiers"_s, modifiers}};
 }
 
@@ -146,6 +151,26 @@ TEST_F(PasteKeysTest, TypesOnlyOnceTheUserAllowsItAndAllIsReadyAgain) {
     const qsizetype before = questions();
     wait();
     EXPECT_EQ(questions(), before) << "it asks on for ever";
+}
+
+TEST_F(PasteKeysTest, FindsTheKeyByItsPlaceInLayoutsOfOtherScripts) {
+    using Letters = RemoteKeyboard::Letters;
+    const std::pair<QString, Letters> rows[] = {
+        {u"us"_s, Letters::byLayout},         {u"fr+bepo"_s, Letters::byLayout},
+        {u"rs+latin"_s, Letters::byLayout},   {u""_s, Letters::byLayout},
+        {u"rs"_s, Letters::byPlace},          {u"ru"_s, Letters::byPlace},
+        {u"ru+phonetic"_s, Letters::byPlace},
+    };
+    copy();
+    for (const auto& [layout, letters] : rows) {
+        shell.keyboard = report(7, true);
+        shell.keyboard[u"layout"_s] = layout;
+        keyboard.typed.clear();
+        keys().press({7, {}}, PasteChord::controlV);
+        keyboard.answer(true);
+        EXPECT_TRUE(eventually([&] { return !keyboard.typed.empty(); }));
+        EXPECT_EQ(keyboard.letters, letters) << qPrintable(layout);
+    }
 }
 
 TEST_F(PasteKeysTest, TypesNothingIfItIsNotAllowedOrNotReadyInTime) {

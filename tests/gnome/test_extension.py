@@ -205,6 +205,7 @@ class ExtensionTest(ExtensionCase):
         self.assertTrue(first["focused"])
         self.assertFalse(first["modifiers"])
         self.assertEqual(len(first["names"]), 1)
+        self.assertEqual(first["layout"], "us")
         self.assertNotIn("one", json.dumps(first), "the title is nobody's business")
         self.session.run(shift % 1)
         self.assertTrue(asked()["modifiers"], "Shift is held")

@@ -427,6 +427,14 @@ class PasteAtOnceTest(ProgramCase):
         self.paste()
         until(lambda: len(self.pasted()) == 2, "it pastes again, without a question")
         self.assertEqual(self.pasted()[1], "key a clipa clip\n")
+        self.session.run("""
+            new Gio.Settings({schema_id: 'org.gnome.desktop.input-sources'}).set_value('sources',
+                new GLib.Variant('a(ss)', [['xkb', 'ru']]));
+            Gio.Settings.sync();
+            await sleep(1500);
+        """)
+        self.paste()
+        until(lambda: len(self.pasted()) == 3, "it pastes with a layout without a V")
         self.session.run("await sleep(500)")
         self.assertEqual(self.has_session(), not self.remembers, "it is open for no longer than it has to be")
         self.ravelo.terminate()

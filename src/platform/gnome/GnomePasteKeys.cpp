@@ -1,6 +1,7 @@
 #include "platform/gnome/GnomePasteKeys.h"
 
 #include "platform/gnome/GnomePasteboard.h"
+#include "platform/gnome/Layouts.h"
 
 #include <QGuiApplication>
 #include <QWindow>
@@ -100,7 +101,9 @@ void GnomePasteKeys::typeIfReady(const Press& press) {
     if (pasteboard_.changeCount() != press.count) {
         end();
     } else if (latest(press.target).isComplete()) {
-        keyboard_.type(press.chord);
+        using Letters = RemoteKeyboard::Letters;
+        const bool hasV = hasLatinLetters(report_->layout);
+        keyboard_.type(press.chord, hasV ? Letters::byLayout : Letters::byPlace);
         end();
     }
 }

@@ -136,13 +136,15 @@ std::optional<Report> parseKeyboard(const QJsonObject& message) {
     const auto serial = wholeNumber(message[u"serial"]);
     const QJsonValue focused = message[u"focused"];
     const QJsonValue modifiers = message[u"modifiers"];
+    const QJsonValue layout = message[u"layout"];
     const auto names = texts(message[u"names"]);
     const auto window = wholeNumber(message[u"window"]);
-    if (!serial || !focused.isBool() || !modifiers.isBool() || !names ||
+    if (!serial || !focused.isBool() || !modifiers.isBool() || !layout.isString() || !names ||
         window.has_value() != message.contains(u"window")) {
         return std::nullopt;
     }
-    KeyboardReport report{*serial, window, {}, focused.toBool(), modifiers.toBool()};
+    KeyboardReport report{*serial,          window, {}, focused.toBool(), modifiers.toBool(),
+                          layout.toString()};
     for (const QByteArray& name : *names) {
         report.names.append(QString::fromUtf8(name));
     }

@@ -94,6 +94,7 @@ struct KeyboardReport {
     QStringList names; ///< Its app id, or class and instance.
     bool focused;      ///< It has the keyboard.
     bool modifiersDown;
+    QString layout; ///< XKB's name of the user's layout, such as "us" or "rs+latin".
 };
 
 /// The screen is locked; the extension hangs up until it is unlocked.

@@ -55,8 +55,9 @@ public:
     QString token;      ///< For the next session.
     QVariantMap wanted; ///< The options for the devices.
     QStringList calls;
-    QStringList keys; ///< "65507 1" when Control goes down.
-    QString caller;   ///< Of the last call.
+    QStringList
+        keys;       ///< "65507 1" if Control goes down, "code 47 1" if the key with this code does.
+    QString caller; ///< Of the last call.
     uint callersPid = 0;
 
 private:
@@ -67,9 +68,10 @@ private:
         if (call.member() == u"Get") {
             return QVariant::fromValue(QDBusVariant(version));
         }
-        if (call.member() == u"NotifyKeyboardKeysym") {
-            keys.append(
-                u"%1 %2"_s.arg(arguments.value(2).toInt()).arg(arguments.value(3).toUInt()));
+        if (call.member().startsWith(u"NotifyKeyboard")) {
+            const QString kind = call.member().endsWith(u"Keycode") ? u"code "_s : QString();
+            const QString key = QString::number(arguments.value(2).toInt());
+            keys.append(kind + key + u' ' + QString::number(arguments.value(3).toUInt()));
             return {};
         }
         calls.append(call.member());
@@ -135,6 +137,8 @@ protected:
     PortalKeyboard keyboard{u"" RAVELO_PORTAL ""_s, environment(bus.address()), preferences};
 };
 
+using Letters = RemoteKeyboard::Letters;
+
 const QStringList controlV = {u"65507 1"_s, u"118 1"_s, u"118 0"_s, u"65507 0"_s};
 
 TEST_F(PortalKeyboardTest, TypesInASessionOfItsOwnAndKeepsTheTokenForTheNext) {
@@ -147,8 +151,8 @@ TEST_F(PortalKeyboardTest, TypesInASessionOfItsOwnAndKeepsTheTokenForTheNext) {
     EXPECT_FALSE(portal.wanted.contains(u"restore_token"_s));
     EXPECT_NE(portal.callersPid, static_cast<uint>(getpid())) << "the portal may not look at us";
     EXPECT_EQ(keyboard.permission(), TypingPermission::given);
-    keyboard.type(PasteChord::shiftInsert);
-    keyboard.type(PasteChord::controlV);
+    keyboard.type(PasteChord::shiftInsert, Letters::byLayout);
+    keyboard.type(PasteChord::controlV, Letters::byLayout);
     keyboard.close();
     EXPECT_TRUE(childIsGone(portal)) << "the session goes on";
     EXPECT_EQ(portal.keys, controlV) << "the last keys are typed before it ends";
@@ -159,9 +163,9 @@ TEST_F(PortalKeyboardTest, TypesInASessionOfItsOwnAndKeepsTheTokenForTheNext) {
     EXPECT_EQ(preferences.value(u"typingToken"_s).toString(), u"second"_s)
         << "each token is good for one session";
     portal.keys.clear();
-    keyboard.type(PasteChord::controlShiftV);
+    keyboard.type(PasteChord::controlShiftV, Letters::byPlace);
     EXPECT_TRUE(eventually([&] { return portal.keys.size() == 6; }));
-    EXPECT_EQ(portal.keys, (QStringList{u"65507 1"_s, u"65505 1"_s, u"118 1"_s, u"118 0"_s,
+    EXPECT_EQ(portal.keys, (QStringList{u"65507 1"_s, u"65505 1"_s, u"code 47 1"_s, u"code 47 0"_s,
                                         u"65505 0"_s, u"65507 0"_s}));
 }
 
@@ -175,7 +179,7 @@ TEST_F(PortalKeyboardTest, StaysOpenWhereThePortalWouldAskEachTime) {
     portal.calls.clear();
     ASSERT_TRUE(open());
     EXPECT_EQ(portal.calls, QStringList()) << "the user was asked again";
-    keyboard.type(PasteChord::controlV);
+    keyboard.type(PasteChord::controlV, Letters::byLayout);
     EXPECT_TRUE(eventually([&] { return portal.keys == controlV; }));
 
     portal.closeSession();

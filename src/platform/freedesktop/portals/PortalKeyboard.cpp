@@ -147,9 +147,10 @@ void PortalKeyboard::letGo() {
     QTimer::singleShot(lastMoments, child, &QProcess::kill);
 }
 
-void PortalKeyboard::type(PasteChord chord) {
+void PortalKeyboard::type(PasteChord chord, Letters letters) {
     if (open_ && chord != PasteChord::shiftInsert) { // The selection is not ours.
-        child_->write(chord == PasteChord::controlShiftV ? "V\n" : "v\n");
+        child_->write(chord == PasteChord::controlShiftV ? "control shift " : "control ");
+        child_->write(letters == Letters::byPlace ? "place\n" : "v\n");
     }
 }
 

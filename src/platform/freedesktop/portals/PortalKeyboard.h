@@ -35,7 +35,7 @@ public:
 
     void forgetRefusal() override;
     [[nodiscard]] Handle open(std::function<void(bool)> done) override;
-    void type(PasteChord chord) override;
+    void type(PasteChord chord, Letters letters) override;
     void close() override;
 
 private:
