@@ -93,16 +93,16 @@ void GnomePasteKeys::opened(bool open) {
 void GnomePasteKeys::heard(const KeyboardReport& report) {
     report_ = report;
     if (press_ && since_ > 0 && report.serial >= since_) {
-        typeIfReady(*press_);
+        typeIfReady(*press_, report);
     }
 }
 
-void GnomePasteKeys::typeIfReady(const Press& press) {
+void GnomePasteKeys::typeIfReady(const Press& press, const KeyboardReport& report) {
     if (pasteboard_.changeCount() != press.count) {
         end();
     } else if (latest(press.target).isComplete()) {
         using Letters = RemoteKeyboard::Letters;
-        const bool hasV = hasLatinLetters(report_->layout);
+        const bool hasV = hasLatinLetters(report.layout);
         keyboard_.type(press.chord, hasV ? Letters::byLayout : Letters::byPlace);
         end();
     }

@@ -52,7 +52,7 @@ private:
     void ask();
     void heard(const KeyboardReport& report);
     void opened(bool open);
-    void typeIfReady(const Press& press);
+    void typeIfReady(const Press& press, const KeyboardReport& report);
     void end();
     [[nodiscard]] Readiness latest(const Target& target) const;
 
