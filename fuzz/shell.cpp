@@ -34,7 +34,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
                 for (const QByteArray& type : copied->types) {
                     requireOneLine(
                         gnome::want(gnome::Selection::clip, copied->serial, type, 1 << 20));
-                    requireOneLine(gnome::offer(QString::fromUtf8(type)));
+                    requireOneLine(gnome::offer(QString::fromUtf8(type), type));
                 }
             }
             if (const auto* screens = std::get_if<gnome::ScreensReport>(&delivery->report)) {

@@ -45,6 +45,9 @@ export default class Companion extends Extension {
             case 'focus':
                 panel.focus(message.on);
                 break;
+            case 'keyboard':
+                panel.reportKeyboard(message.serial);
+                break;
             case 'offer':
                 this._clipboard.offer(message.text, message.unless);
                 break;

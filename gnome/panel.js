@@ -1,8 +1,13 @@
 import Clutter from 'gi://Clutter';
+import * as Keyboard from 'resource:///org/gnome/shell/ui/status/keyboard.js';
 import * as Main from 'resource:///org/gnome/shell/ui/main.js';
 import {Signals} from './signals.js';
 
 const PRESSES = [Clutter.EventType.BUTTON_PRESS, Clutter.EventType.TOUCH_BEGIN];
+
+/// What would be mixed with keys that are typed; neither Num Lock nor Caps Lock.
+const MODIFIERS = ['SHIFT', 'CONTROL', 'MOD1', 'MOD4', 'MOD5', 'SUPER', 'HYPER', 'META']
+    .reduce((mask, name) => mask | Clutter.ModifierType[`${name}_MASK`], 0);
 
 /// Whether Alt-Tab and the overview show it. Releases that cannot be asked look at this property.
 function setListed(window, listed) {
@@ -63,6 +68,21 @@ export class Panel {
             this._window?.focus(global.display.get_current_time_roundtrip());
         else if (this._window?.has_focus())
             this._giveBack();
+    }
+
+    /// Which window has the keyboard, or gets it back from the panel; none if it is Ravelo's or the shell's.
+    reportKeyboard(serial) {
+        const has = global.display.get_focus_window();
+        const window = has === this._window ? this._before : has;
+        const isOther = window?.get_compositor_private() && window.get_pid() !== this._link.pid;
+        const names = isOther ? [window.get_wm_class(), window.get_wm_class_instance()] : [];
+        this._link.send({
+            is: 'keyboard', serial, names: [...new Set(names.filter(name => name))],
+            ...isOther ? {window: window.get_stable_sequence()} : {},
+            focused: Boolean(isOther) && window === has && Main.modalCount === 0,
+            layout: Keyboard.getInputSourceManager().currentSource?.xkbId ?? '',
+            modifiers: (global.get_pointer()[2] & MODIFIERS) !== 0,
+        });
     }
 
     _giveBack() {

@@ -12,6 +12,7 @@
 #include "platform/freedesktop/instance/BusInstance.h"
 #include "platform/freedesktop/packages/PackageKit.h"
 #include "platform/freedesktop/portals/FileTransferPortal.h"
+#include "platform/freedesktop/portals/PortalKeyboard.h"
 #include "platform/freedesktop/portals/PortalSetting.h"
 #include "platform/freedesktop/portals/ShortcutsPortal.h"
 #include "platform/freedesktop/secrets/SecretKeyring.h"
@@ -196,6 +197,13 @@ void makeDesktop(Platform& platform, const QProcessEnvironment& environment) {
     platform.icons = icons;
 }
 
+/// On GNOME, which lets programs type by a portal.
+void makeTyping(Platform& platform, const QProcessEnvironment& environment) {
+    platform.keyboard = std::make_unique<PortalKeyboard>(helperProgram("ravelo-portal"_L1),
+                                                         environment, *platform.preferences);
+    static_cast<gnome::GnomeDisplayServer&>(*platform.display).typeWith(*platform.keyboard);
+}
+
 } // namespace
 
 Platform::Platform() = default;
@@ -239,6 +247,9 @@ Result<Platform> Platform::make(const DisplayChoice& choice, const QProcessEnvir
         sessionBus(), choice.display == Display::gnome ? Used::yes : Used::no);
     makeSystem(platform, environment);
     makeDesktop(platform, environment);
+    if (choice.display == Display::gnome) {
+        makeTyping(platform, environment);
+    }
     return platform;
 }
 

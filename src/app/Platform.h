@@ -42,6 +42,7 @@ class PackageUpdates;
 class PanelWindow;
 class PreferenceFile;
 class Programs;
+class RemoteKeyboard;
 class Scheduler;
 class SecretStore;
 class SessionLock;
@@ -78,6 +79,7 @@ struct Platform {
     ~Platform();
 
     QString displayText; ///< Which display server this is, and why, for the user.
+    std::unique_ptr<RemoteKeyboard> keyboard; ///< Null except on GNOME.
     std::unique_ptr<DisplayServer> display;
     std::function<std::unique_ptr<HotZone>(PanelWindow&)> makeHotZone;
     std::unique_ptr<DataLock> dataLock;

@@ -62,7 +62,7 @@ Windows::Windows(Services services) : notch_(services.notch) {
         beside, services.store, services.settings, std::move(services.quit), platform.displayText,
         platform.extension.get(), platform.display->pasteboard().namesPrograms(),
         services.knowsSelection, std::move(services.erase), platform.shortcut.get(),
-        services.canPaste,
+        services.canPaste, platform.display->pasteKeys(),
         [&clipboard = services.clipboard](const QString& text) { clipboard.copyText(text); },
         platform.notifier.get(), snippetFiles(services.transfers),
         [this, &platform](const QString& folder, const auto& done) {

@@ -632,6 +632,14 @@
         <source>Edit and copy</source>
         <translation>Bearbeiten und kopieren</translation>
     </message>
+    <message>
+        <source>Permission to type</source>
+        <translation>Erlaubnis zum Tippen</translation>
+    </message>
+    <message>
+        <source>Ask Again</source>
+        <translation>Wieder fragen</translation>
+    </message>
 </context>
 <context>
     <name>LockedView</name>
@@ -2261,6 +2269,21 @@
     <message>
         <source>at this pace full on %1</source>
         <translation>so am %1 voll</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::PastePermission</name>
+    <message>
+        <source>You did not allow Ravelo to type, so it only copies.</source>
+        <translation>Du hast Ravelo nicht erlaubt zu tippen, deshalb kopiert es nur.</translation>
+    </message>
+    <message>
+        <source>Into the window you came from. The desktop asks you first whether to allow remote interaction.</source>
+        <translation>In das Fenster, aus dem du kommst. Der Desktop fragt dich vorher, ob er Interaktion aus der Ferne erlauben soll.</translation>
+    </message>
+    <message>
+        <source>Only copies: the desktop did not answer when Ravelo asked for permission to type.</source>
+        <translation>Kopiert nur: Der Desktop hat nicht geantwortet, als Ravelo um die Erlaubnis zum Tippen bat.</translation>
     </message>
 </context>
 <context>

@@ -632,6 +632,14 @@
         <source>Edit and copy</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Permission to type</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>LockedView</name>
@@ -2260,6 +2268,21 @@
     </message>
     <message>
         <source>at this pace full on %1</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::PastePermission</name>
+    <message>
+        <source>You did not allow Ravelo to type, so it only copies.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Into the window you came from. The desktop asks you first whether to allow remote interaction.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Only copies: the desktop did not answer when Ravelo asked for permission to type.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -632,6 +632,14 @@
         <source>Edit and copy</source>
         <translation>Editar e copiar</translation>
     </message>
+    <message>
+        <source>Permission to type</source>
+        <translation>Permissão para digitar</translation>
+    </message>
+    <message>
+        <source>Ask Again</source>
+        <translation>Perguntar de novo</translation>
+    </message>
 </context>
 <context>
     <name>LockedView</name>
@@ -2261,6 +2269,21 @@
     <message>
         <source>at this pace full on %1</source>
         <translation>nesse ritmo, cheio %1</translation>
+    </message>
+</context>
+<context>
+    <name>ravelo::PastePermission</name>
+    <message>
+        <source>You did not allow Ravelo to type, so it only copies.</source>
+        <translation>Você não permitiu que o Ravelo digite, por isso ele só copia.</translation>
+    </message>
+    <message>
+        <source>Into the window you came from. The desktop asks you first whether to allow remote interaction.</source>
+        <translation>Na janela de onde você veio. O ambiente pergunta antes se pode permitir interação remota.</translation>
+    </message>
+    <message>
+        <source>Only copies: the desktop did not answer when Ravelo asked for permission to type.</source>
+        <translation>Só copia: o ambiente não respondeu quando o Ravelo pediu permissão para digitar.</translation>
     </message>
 </context>
 <context>

@@ -1,13 +1,25 @@
 #pragma once
 
+#include "base/Handle.h"
+
 #include <QStringList>
 
+#include <functional>
 #include <optional>
 
 namespace ravelo {
 
 /// Keys that paste. `shiftInsert` is for terminals that paste what is selected.
 enum class PasteChord { controlV, controlShiftV, shiftInsert };
+
+/// What the user says to programs that type, on desktops that ask them.
+enum class TypingPermission {
+    notNeeded,
+    unasked, ///< The desktop asks when the keys are typed.
+    given,
+    refused,
+    unavailable, ///< Nobody answered who could ask the user.
+};
 
 /// Types the keys that paste into the window that had the keyboard before the panel. Main thread.
 class PasteKeys {
@@ -37,8 +49,20 @@ public:
 
     [[nodiscard]] virtual Readiness readiness(const Target& target) = 0;
 
-    /// Types the keys, unless something of `readiness` is no longer true.
+    /// Types the keys, unless something of `readiness` is no longer true. If the desktop asks the
+    /// user first, the keys follow the answer.
     virtual void press(const Target& target, PasteChord chord) = 0;
+
+    [[nodiscard]] virtual TypingPermission permission() const {
+        return TypingPermission::notNeeded;
+    }
+
+    [[nodiscard]] virtual Handle onPermissionChange(std::function<void()> /*callback*/) {
+        return {};
+    }
+
+    /// After a refusal: the desktop may ask again when keys are typed next.
+    virtual void forgetRefusal() {}
 };
 
 } // namespace ravelo

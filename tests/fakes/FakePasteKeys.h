@@ -19,6 +19,19 @@ public:
         pressed.push_back({target.id, chord});
     }
 
+    [[nodiscard]] TypingPermission permission() const override { return allowed; }
+
+    [[nodiscard]] Handle onPermissionChange(std::function<void()> callback) override {
+        return permissionChanges.add(std::move(callback));
+    }
+
+    void forgetRefusal() override { become(TypingPermission::unasked); }
+
+    void become(TypingPermission now) {
+        allowed = now;
+        permissionChanges.notify();
+    }
+
     struct Press {
         quint64 target;
         PasteChord chord;
@@ -30,6 +43,8 @@ public:
     std::optional<Target> next = Target{7, {QStringLiteral("mousepad")}};
     Readiness ready{true, true, true};
     std::vector<Press> pressed;
+    TypingPermission allowed = TypingPermission::notNeeded;
+    Listeners<> permissionChanges;
 };
 
 class FakeGlobalShortcut final : public GlobalShortcut {

@@ -6,6 +6,7 @@
 
 #include <QDBusConnection>
 #include <QFile>
+#include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
 #include <QSocketNotifier>
@@ -117,6 +118,13 @@ public:
     /// Called for each question about contents.
     std::function<void(const QJsonObject& want)> onWant;
 
+    /// What it says about the keyboard when it is asked: all but "is" and "serial".
+    QJsonObject keyboard{{QStringLiteral("focused"), false},
+                         {QStringLiteral("modifiers"), false},
+                         {QStringLiteral("layout"), QString()},
+                         {QStringLiteral("names"), QJsonArray()}};
+    bool answersAboutKeyboard = true;
+
 private:
     [[nodiscard]] static QByteArray answer(const char* is, QJsonObject want) {
         want[QStringLiteral("is")] = QLatin1StringView(is);
@@ -139,6 +147,11 @@ private:
             messages_.append(message);
             if (message[u"is"].toString() == QLatin1StringView("want") && onWant) {
                 onWant(message);
+            } else if (message[u"is"].toString() == QLatin1StringView("keyboard") &&
+                       answersAboutKeyboard) {
+                QJsonObject report = keyboard;
+                report[QStringLiteral("serial")] = message[u"serial"];
+                send(answer("keyboard", report));
             }
         }
     }

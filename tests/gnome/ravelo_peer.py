@@ -15,7 +15,7 @@ import sys
 
 from gi.repository import Gio, GLib
 
-VERSION = int(sys.argv[sys.argv.index("--version") + 1]) if "--version" in sys.argv else 1
+VERSION = int(sys.argv[sys.argv.index("--version") + 1]) if "--version" in sys.argv else 2
 HELLO = {"is": "hello", "version": VERSION, "title": "Ravelo panel", "stripWidth": 200, "stripHeight": 2}
 
 

@@ -104,7 +104,7 @@ class ExtensionTest(ExtensionCase):
     def test_connects_to_the_owner_of_the_name_and_rests_after_it(self):
         before = self.session.run(TRACES)
         peer = self.attached()
-        self.assertEqual(peer.messages("hello"), [{"is": "hello", "version": 1}])
+        self.assertEqual(peer.messages("hello"), [{"is": "hello", "version": 2}])
         screen = peer.messages("screens")[0]["screens"][0]
         self.assertEqual(screen["frame"], [0, 0, 1280, 800])
         self.assertGreater(screen["free"][1], 10, "the bar is known")
@@ -122,7 +122,7 @@ class ExtensionTest(ExtensionCase):
         self.assertEqual(self.session.run(TRACES)["strips"], 0)
 
     def test_refuses_another_version(self):
-        peer = self.ravelo("--version", "2")
+        peer = self.ravelo("--version", "3")
         until(lambda: peer.messages("end"), "it hangs up")
         self.assertEqual(peer.messages("screens"), [])
 
@@ -188,6 +188,36 @@ class ExtensionTest(ExtensionCase):
         peer.send(**ask, serial=offered["serial"])
         poured = until(lambda: peer.messages("pour"), "the shell's own contents are copied over")[0]
         self.assertEqual(poured["bytes"], "ours")
+
+    def test_says_which_window_has_the_keyboard_when_it_is_asked(self):
+        peer = self.attached()
+        serial = 0
+
+        def asked():
+            nonlocal serial
+            serial += 1
+            peer.send(**{"is": "keyboard", "serial": serial})
+            return until(lambda: [one for one in peer.messages("keyboard") if one["serial"] == serial], "an answer")[0]
+
+        shift = "keyboard.notify_keyval(GLib.get_monotonic_time(), Clutter.KEY_Shift_L, %d); await sleep(50);"
+        one = self.client("one")
+        first = asked()
+        self.assertTrue(first["focused"])
+        self.assertFalse(first["modifiers"])
+        self.assertEqual(len(first["names"]), 1)
+        self.assertEqual(first["layout"], "us")
+        self.assertNotIn("one", json.dumps(first), "the title is nobody's business")
+        self.session.run(shift % 1)
+        self.assertTrue(asked()["modifiers"], "Shift is held")
+        self.session.run(shift % 0)
+        self.assertEqual({**asked(), "serial": 1}, first)
+        self.client("two")
+        self.assertNotEqual(asked()["window"], first["window"])
+        self.session.run("Main.overview.show(); await sleep(600);")
+        self.assertFalse(asked()["focused"], "the shell takes the keys")
+        self.session.run("Main.overview.hide(); await sleep(600);")
+        one.end()
+        self.assertEqual(len(peer.messages("keyboard")), serial, "it reports without being asked")
 
     def test_answers_nobody_on_the_bus(self):
         self.attached()

@@ -1,5 +1,6 @@
 """Ravelo on a real GNOME Shell with its extension. Run by scripts/gnome, which says where the program is."""
 
+import contextlib
 import json
 import os
 import pathlib
@@ -370,6 +371,97 @@ class PasswordTest(ProgramCase):
         self.session.run("await sleep(1000)")
         self.assertEqual(self.session.run("return kept.wanted"), ["x-kde-passwordManagerHint"])
         self.assertNotIn("hunter2", self.store())
+
+
+class PasteAtOnceTest(ProgramCase):
+    """With the desktop's own portal, whose dialog asks the user."""
+
+    # Its title, and where it has its switch, its button that allows and the one that does not.
+    dialog, switch, share = ("Remote desktop", (430, 74), (453, 23)) if shell.release() < 45 \
+        else ("Remote Desktop", (575, 157), (612, 23))
+    cancel = (50, 23)
+    remembers = shell.release() >= 46
+
+    def setUp(self):
+        super().setUp()
+        for name in ("xdg-permission-store", "xdg-desktop-portal-gnome", "xdg-desktop-portal"):
+            self.session.start(f"/usr/libexec/{name}", log=f"{name}.log")
+        until(self.has_portal, "the portal is up")
+        self.target = self.client("target", "--copy", "a clip")
+        until(lambda: "a clip" in self.store(), "it is stored")
+
+    def has_portal(self):
+        try:
+            return self.session.call("org.freedesktop.portal.Desktop", "/org/freedesktop/portal/desktop",
+                                     "org.freedesktop.DBus.Properties", "Get",
+                                     GLib.Variant("(ss)", ("org.freedesktop.portal.RemoteDesktop", "version")))
+        except GLib.Error:
+            return None
+
+    def paste(self):
+        self.command("--toggle")
+        until(lambda: (self.panel() or {}).get("focus"), "the panel has the keyboard")
+        self.session.run(f"{CONTROL} await control(Clutter.KEY_Return, Clutter.KEY_Shift_L);")
+
+    def answer(self, *clicks):
+        """Clicks at these places of the dialog."""
+        x, y, _, _ = until(lambda: self.window(self.dialog), "the desktop asks")["frame"]
+        self.session.run("await sleep(600);")
+        for dx, dy in clicks:
+            self.session.run(f"await click({x + dx}, {y + dy}); await sleep(300);")
+        until(lambda: not self.window(self.dialog), "the question is answered")
+
+    def pasted(self):
+        return [line for line in self.target.lines if line.startswith("key")]
+
+    def test_pastes_once_the_user_allows_it(self):
+        self.session.run("await sleep(500)")
+        self.assertFalse(self.window(self.dialog), "it asks before anybody wants to paste")
+        self.paste()
+        until(lambda: self.window(self.dialog), "the desktop asks")
+        self.keep("paste-dialog")
+        self.assertEqual(self.pasted(), [])
+        self.answer(self.switch, self.share)
+        until(self.pasted, "it pastes after the answer")
+        self.assertEqual(self.pasted(), ["key a clip\n"])
+        self.paste()
+        until(lambda: len(self.pasted()) == 2, "it pastes again, without a question")
+        self.assertEqual(self.pasted()[1], "key a clipa clip\n")
+        self.session.run("""
+            new Gio.Settings({schema_id: 'org.gnome.desktop.input-sources'}).set_value('sources',
+                new GLib.Variant('a(ss)', [['xkb', 'ru']]));
+            Gio.Settings.sync();
+            await sleep(1500);
+        """)
+        self.paste()
+        until(lambda: len(self.pasted()) == 3, "it pastes with a layout without a V")
+        self.session.run("await sleep(500)")
+        self.assertEqual(self.has_session(), not self.remembers, "it is open for no longer than it has to be")
+        self.ravelo.terminate()
+        until(lambda: not self.has_session(), "it ends with Ravelo")
+
+    def has_session(self):
+        """Ravelo's child lives on this session's bus."""
+        def is_it(process):
+            with contextlib.suppress(OSError):  # It may have ended.
+                return b"ravelo-portal\0keyboard" in (process / "cmdline").read_bytes() \
+                    and bytes(self.session.runtime) in (process / "environ").read_bytes()
+            return False
+
+        return any(map(is_it, pathlib.Path("/proc").glob("[0-9]*")))
+
+    def test_only_copies_after_a_refusal(self):
+        self.paste()
+        self.answer(self.cancel)
+        until(lambda: "typingRefused" in self.preferences(), "the refusal is kept")
+        self.paste()
+        until(lambda: self.window("target")["focus"], "the focus is given back")
+        self.session.run("await sleep(1500)")
+        self.assertFalse(self.window(self.dialog), "it asks again")
+        self.assertEqual(self.pasted(), [])
+
+    def preferences(self):
+        return (self.session.home / ".config/ravelo/preferences.json").read_text()
 
 
 class TurnOnTest(ProgramCase):

@@ -58,6 +58,10 @@ GnomeDisplayServer::GnomeDisplayServer(std::unique_ptr<Channel> channel, QSizeF 
       look_(*channel_),
       lock_(*channel_) {}
 
+void GnomeDisplayServer::typeWith(RemoteKeyboard& keyboard) {
+    pasteKeys_ = std::make_unique<GnomePasteKeys>(*channel_, pasteboard_, keyboard);
+}
+
 std::unique_ptr<PanelWindow> GnomeDisplayServer::panelWindow(QWindow& window) {
     return std::make_unique<GnomePanelWindow>(
         window, GnomePanelWindow::Services{*channel_, drags_, pasteboard_}, handle_);

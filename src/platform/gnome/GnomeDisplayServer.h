@@ -7,6 +7,7 @@
 #include "platform/TrayArea.h"
 #include "platform/gnome/Channel.h"
 #include "platform/gnome/GnomeDragMonitor.h"
+#include "platform/gnome/GnomePasteKeys.h"
 #include "platform/gnome/GnomePasteboard.h"
 #include "platform/gnome/GnomePreferences.h"
 #include "platform/gnome/GnomeScreens.h"
@@ -41,6 +42,12 @@ public:
 
     [[nodiscard]] InputGrab& inputGrab() override { return inputGrab_; }
 
+    [[nodiscard]] PasteKeys* pasteKeys() override { return pasteKeys_.get(); }
+
+    /// From now on keys can be typed. To be called before `pasteKeys`; the keyboard must outlive
+    /// this.
+    void typeWith(RemoteKeyboard& keyboard);
+
     [[nodiscard]] std::vector<SessionLock*> locks() override { return {&lock_}; }
 
     [[nodiscard]] std::unique_ptr<PanelWindow> panelWindow(QWindow& window) override;
@@ -72,6 +79,7 @@ private:
     QSizeF handle_;
     Transfers transfers_;
     GnomePasteboard pasteboard_;
+    std::unique_ptr<GnomePasteKeys> pasteKeys_;
     GnomeDragMonitor drags_;
     GnomeScreens screens_;
     LookReports look_;

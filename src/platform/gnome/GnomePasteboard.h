@@ -49,6 +49,9 @@ public:
 
     void answerSaveRequests(qint64 /*count*/, SaveAnswer /*answer*/) override {}
 
+    /// Whether the contents are what we wrote last.
+    [[nodiscard]] bool isOwn() const { return own_; }
+
     /// Calls back once Mutter has what was written while we had the focus; at once if it has.
     void onceWritten(std::function<void()> callback);
 

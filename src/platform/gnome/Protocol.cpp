@@ -42,7 +42,7 @@ std::optional<QRectF> rectangle(const QJsonValue& value) {
     return result.width() >= 0 && result.height() >= 0 ? std::optional(result) : std::nullopt;
 }
 
-std::optional<QList<QByteArray>> types(const QJsonValue& value) {
+std::optional<QList<QByteArray>> texts(const QJsonValue& value) {
     const QJsonArray names = value.toArray();
     if (!value.isArray() || names.size() > maxTypes) {
         return std::nullopt; // A mark of secrecy could be among those that are not looked at.
@@ -106,7 +106,7 @@ std::optional<Report> parsePressed(const QJsonObject& message) {
 
 std::optional<Report> parseCopied(const QJsonObject& message) {
     const auto serial = wholeNumber(message[u"serial"]);
-    auto names = types(message[u"types"]);
+    auto names = texts(message[u"types"]);
     if (!serial || !names) {
         return std::nullopt;
     }
@@ -116,7 +116,7 @@ std::optional<Report> parseCopied(const QJsonObject& message) {
 
 std::optional<Report> parseDrag(const QJsonObject& message) {
     const auto serial = wholeNumber(message[u"serial"]);
-    auto names = types(message[u"types"]);
+    auto names = texts(message[u"types"]);
     return serial && names ? std::optional<Report>(DragBegan{*serial, std::move(*names)})
                            : std::nullopt;
 }
@@ -130,6 +130,25 @@ std::optional<Report> parseGiven(const QJsonObject& message, Given::How how) {
     }
     return Given{how, of == "clip"_L1 ? Selection::clip : Selection::drag, *serial,
                  type.toString().toUtf8()};
+}
+
+std::optional<Report> parseKeyboard(const QJsonObject& message) {
+    const auto serial = wholeNumber(message[u"serial"]);
+    const QJsonValue focused = message[u"focused"];
+    const QJsonValue modifiers = message[u"modifiers"];
+    const QJsonValue layout = message[u"layout"];
+    const auto names = texts(message[u"names"]);
+    const auto window = wholeNumber(message[u"window"]);
+    if (!serial || !focused.isBool() || !modifiers.isBool() || !layout.isString() || !names ||
+        window.has_value() != message.contains(u"window")) {
+        return std::nullopt;
+    }
+    KeyboardReport report{*serial,          window, {}, focused.toBool(), modifiers.toBool(),
+                          layout.toString()};
+    for (const QByteArray& name : *names) {
+        report.names.append(QString::fromUtf8(name));
+    }
+    return report;
 }
 
 QByteArray line(const QJsonObject& message) {
@@ -167,6 +186,7 @@ std::optional<Report> parseReport(QByteArrayView line) {
          [](const QJsonObject& given) {
              return parseGiven(given, Given::How::refused);
          }},
+        {"keyboard"_L1, parseKeyboard},
         {"locked"_L1,
          [](const QJsonObject&) {
              return std::optional<Report>(Locked{});
@@ -202,6 +222,10 @@ QByteArray place(std::size_t screen) {
 
 QByteArray focus(Focus focus) {
     return line({{u"is"_s, u"focus"_s}, {u"on"_s, focus == Focus::take}});
+}
+
+QByteArray askAboutKeyboard(quint32 serial) {
+    return line({{u"is"_s, u"keyboard"_s}, {u"serial"_s, qint64(serial)}});
 }
 
 QByteArray offer(const QString& text, const QByteArray& unless) {

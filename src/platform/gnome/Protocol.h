@@ -7,6 +7,7 @@
 #include <QLatin1StringView>
 #include <QList>
 #include <QString>
+#include <QStringList>
 
 #include <optional>
 #include <variant>
@@ -18,7 +19,7 @@
 /// hangs up.
 namespace ravelo::gnome {
 
-inline constexpr int protocolVersion = 1;
+inline constexpr int protocolVersion = 2;
 
 /// Below XDG_RUNTIME_DIR.
 inline constexpr QLatin1StringView socketPath("ravelo-shell/socket");
@@ -85,11 +86,22 @@ struct Given {
     QByteArray type;
 };
 
+/// The answer to `askAboutKeyboard`.
+struct KeyboardReport {
+    quint32 serial; ///< The question's.
+    /// The window of another program that has the keyboard, or gets it back from the panel.
+    std::optional<quint32> window;
+    QStringList names; ///< Its app id, or class and instance.
+    bool focused;      ///< It has the keyboard.
+    bool modifiersDown;
+    QString layout; ///< XKB's name of the user's layout, such as "us" or "rs+latin".
+};
+
 /// The screen is locked; the extension hangs up until it is unlocked.
 struct Locked {};
 
 using Report = std::variant<Hello, ScreensReport, Look, Edge, Pressed, Copied, DragBegan, DragEnded,
-                            Given, Locked>;
+                            Given, KeyboardReport, Locked>;
 
 /// The report on a line, without its end and without the NUL byte; nothing if it is none. Pure.
 [[nodiscard]] std::optional<Report> parseReport(QByteArrayView line);
@@ -108,6 +120,9 @@ using Report = std::variant<Hello, ScreensReport, Look, Edge, Pressed, Copied, D
 
 enum class Focus { take, giveBack };
 [[nodiscard]] QByteArray focus(Focus focus);
+
+/// Asks which window has the keyboard, and whether modifiers are held.
+[[nodiscard]] QByteArray askAboutKeyboard(quint32 serial);
 
 /// Offers a text on the clipboard in Ravelo's place, unless the clipboard has this type already:
 /// Ravelo's own write, which may have come after all.

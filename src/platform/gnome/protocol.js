@@ -1,7 +1,7 @@
 // The messages between the extension and Ravelo, on the extension's side; Protocol.h is the other side and
 // describes them. Both speak this version or nothing.
 
-export const VERSION = 1;
+export const VERSION = 2;
 
 /// The socket on which Ravelo listens, below XDG_RUNTIME_DIR.
 export const SOCKET = 'ravelo-shell/socket';
@@ -21,6 +21,7 @@ const FIELDS = {
     want: {of: isOf, serial: isWhole, type: isText, cap: isWhole},
     place: {screen: isWhole},
     focus: {on: value => typeof value === 'boolean'},
+    keyboard: {serial: isWhole},
     offer: {text: isText, unless: isText},
 };
 

@@ -159,6 +159,7 @@ TabPage {
             begin();
         }
     }
+    Component.onCompleted: begin() // It may be shown from the start, without a list until now.
 
     Connections {
         target: list.model

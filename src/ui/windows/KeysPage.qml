@@ -13,6 +13,7 @@ Column {
 
     readonly property AppSettings settings: host.settings
     readonly property ShortcutChoice choice: host.shortcut
+    readonly property PastePermission permission: host.pastePermission
     readonly property bool swapped: settings.returnPastes && host.canPaste
     readonly property var keys: [
         { text: swapped ? qsTr("Paste at once") : qsTr("Copy"), caps: ["Return"] },
@@ -109,12 +110,25 @@ Column {
             preference: "returnPastes"
             text: qsTr("Return pastes at once")
             note: !page.host.canPaste ? qsTr("Not possible on this desktop: it lets no program type.")
+                : page.permission.note !== "" ? page.permission.note
                 : page.settings.returnPastes ? qsTr("Into the window you came from. Shift+Return only copies.")
                 : qsTr("Into the window you came from. Shift+Return always does.")
             enabled: page.host.canPaste
             opacity: enabled ? 1 : 0.4
             on: page.settings.returnPastes && page.host.canPaste
             onToggled: on => page.settings.returnPastes = on
+        }
+
+        SettingRow {
+            visible: page.permission.refused
+            height: visible ? implicitHeight : 0
+            text: qsTr("Permission to type")
+
+            CapsuleButton {
+                objectName: "askAgain"
+                text: qsTr("Ask Again")
+                onClicked: page.permission.forgetRefusal()
+            }
         }
 
         SettingRow {

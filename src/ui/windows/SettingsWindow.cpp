@@ -16,6 +16,7 @@ SettingsWindow::SettingsWindow(Subjects subjects)
       extension_(subjects_.extension),
       shortcut_(subjects_.shortcut, subjects_.settings,
                 qEnvironmentVariable("XDG_CURRENT_DESKTOP")),
+      pastePermission_(subjects_.pasteKeys),
       usedLanguage_(subjects_.settings.language()) {
     connect(&subjects_.store, &Store::clipsChanged, this, &SettingsWindow::clipsChanged);
     connect(&subjects_.store, &Store::snippetsChanged, this, &SettingsWindow::snippetsChanged);

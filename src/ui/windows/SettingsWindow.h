@@ -5,6 +5,7 @@
 #include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "ui/windows/ExtensionOffer.h"
+#include "ui/windows/PastePermission.h"
 #include "ui/windows/ShortcutChoice.h"
 #include "ui/windows/TitledWindow.h"
 
@@ -29,6 +30,7 @@ class SettingsWindow : public QObject {
     Q_PROPERTY(ravelo::ShortcutChoice* shortcut READ shortcut CONSTANT)
     /// Whether the desktop lets us type.
     Q_PROPERTY(bool canPaste READ canPaste CONSTANT)
+    Q_PROPERTY(ravelo::PastePermission* pastePermission READ pastePermission CONSTANT)
     /// Whether the desktop says which program copies, and what is selected.
     Q_PROPERTY(bool knowsPrograms READ knowsPrograms CONSTANT)
     Q_PROPERTY(bool knowsSelection READ knowsSelection CONSTANT)
@@ -72,6 +74,7 @@ public:
         std::function<void()> erase = {}; ///< Everything; then the program ends.
         GlobalShortcut* shortcut = nullptr;
         bool canPaste = true;
+        PasteKeys* pasteKeys = nullptr;
         std::function<void(const QString& text)> copy = {};
         Notifier* notifier = nullptr;
         SnippetFiles snippets = {};
@@ -92,6 +95,8 @@ public:
     [[nodiscard]] ShortcutChoice* shortcut() { return &shortcut_; }
 
     [[nodiscard]] bool canPaste() const { return subjects_.canPaste; }
+
+    [[nodiscard]] PastePermission* pastePermission() { return &pastePermission_; }
 
     [[nodiscard]] bool knowsPrograms() const { return subjects_.knowsPrograms; }
 
@@ -162,6 +167,7 @@ private:
     Subjects subjects_;
     ExtensionOffer extension_;
     ShortcutChoice shortcut_;
+    PastePermission pastePermission_;
     bool hasNotifications_ = true;
     Handle looking_;
     std::unique_ptr<TitledWindow> window_;

@@ -184,6 +184,40 @@ TEST_F(Settings, SayIfTheDesktopShowsNoNotifications) {
     }
 }
 
+TEST_F(Settings, SayWhyTheyOnlyCopyAndAllowTheDesktopToAskAgain) {
+    FakePasteKeys keys;
+    SettingsWindow::Subjects subjects{{view.window()}, world.store, world.settings, [] {}, {}};
+    subjects.pasteKeys = &keys;
+    SettingsWindow own(subjects);
+    own.show();
+    ASSERT_TRUE(eventually([&] { return own.window()->isActive(); }));
+    press(*own.window(), Qt::Key_4, Qt::ControlModifier);
+
+    struct Row {
+        TypingPermission permission;
+        QString note; ///< Its beginning.
+        bool asksAgain;
+    };
+
+    const Row rows[] = {
+        {TypingPermission::unasked, u"Into the window you came from. The desktop asks"_s, false},
+        {TypingPermission::unavailable, u"Only copies: the desktop did not answer"_s, false},
+        {TypingPermission::given, u"Into the window you came from. Shift+Return"_s, false},
+        {TypingPermission::refused, u"You did not allow"_s, true},
+    };
+    const QQuickItem* row = in(own.window(), u"returnPastes"_s)->parentItem()->parentItem();
+    for (const Row& one : rows) {
+        keys.become(one.permission);
+        const QString note = row->findChild<QQuickItem*>(u"note"_s)->property("text").toString();
+        EXPECT_TRUE(note.startsWith(one.note)) << qPrintable(note);
+        EXPECT_EQ(in(own.window(), u"askAgain"_s)->isVisible(), one.asksAgain) << qPrintable(note);
+    }
+    clickOn(own.window(), u"askAgain"_s);
+    EXPECT_EQ(keys.allowed, TypingPermission::unasked);
+    EXPECT_FALSE(in(own.window(), u"askAgain"_s)->isVisible());
+    own.window()->close();
+}
+
 TEST_F(Settings, IgnoresProgramsAndPatterns) {
     const auto type = [this](const QString& field, const QString& typed) {
         in(window, field)->forceActiveFocus();

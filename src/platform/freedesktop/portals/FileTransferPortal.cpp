@@ -2,12 +2,11 @@
 
 #include "base/FileUrl.h"
 #include "base/ProgramRun.h"
+#include "platform/freedesktop/portals/PortalProgram.h"
 
 #include <utility>
 
 namespace ravelo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -27,14 +26,7 @@ QList<QUrl> filesIn(const QByteArray& output) {
 } // namespace
 
 FileTransferPortal::FileTransferPortal(QString program, const QProcessEnvironment& environment)
-    : program_(std::move(program)) {
-    for (const auto& name : {u"DBUS_SESSION_BUS_ADDRESS"_s, u"XDG_RUNTIME_DIR"_s}) {
-        if (environment.contains(name)) {
-            environment_.insert(name, environment.value(name));
-        }
-    }
-    environment_.insert(u"LC_ALL"_s, u"C.UTF-8"_s);
-}
+    : program_(std::move(program)), environment_(portalEnvironment(environment)) {}
 
 Handle FileTransferPortal::retrieve(const QByteArray& key,
                                     std::function<void(const QList<QUrl>&)> done) {
