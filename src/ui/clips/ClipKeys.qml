@@ -20,15 +20,12 @@ QtObject {
     signal removed(row: int)
 
     function handle(event: KeyEvent) {
-        if (!edits(event)) {
-            clips.list.finishSearch();
-        }
         const page = Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1);
         const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
         const searching = search.edited.activeFocus;
         const shift = event.modifiers === Qt.ShiftModifier;
         if (event.key === Qt.Key_Space && (shift || event.modifiers === Qt.NoModifier && search.isEmpty)) {
-            if (clips.list.isSecret(list.currentIndex)) {
+            if (clips.list.isSecret(row())) {
                 (list.currentItem as ClipRow)?.reveal();
             } else {
                 preview.opened ? preview.close() : preview.openCurrent();
@@ -40,52 +37,51 @@ QtObject {
         } else if (preview.opened && event.key === Qt.Key_Tab) {
             bubble.focusText();
         } else if (shift && (event.key === Qt.Key_Up || event.key === Qt.Key_Down)) {
-            extended(list.currentIndex + (event.key === Qt.Key_Up ? -1 : 1));
+            extended(row() + (event.key === Qt.Key_Up ? -1 : 1));
         } else if (control && event.key === Qt.Key_Space) {
-            clips.toggleSelected(list.currentIndex);
+            clips.toggleSelected(row());
         } else if (control && event.key === Qt.Key_A && search.isEmpty) {
             clips.selectAll();
         } else if (event.key === Qt.Key_Menu || shift && event.key === Qt.Key_F10) {
-            rowMenu.openFor(list.currentIndex);
+            rowMenu.openFor(row());
         } else if (event.key === Qt.Key_Up) {
-            moved(list.currentIndex - 1);
+            moved(row() - 1);
         } else if (event.key === Qt.Key_Down) {
-            moved(list.currentIndex + 1);
+            moved(row() + 1);
         } else if (event.key === Qt.Key_PageUp) {
-            moved(list.currentIndex - page);
+            moved(row() - page);
         } else if (event.key === Qt.Key_PageDown) {
-            moved(list.currentIndex + page);
+            moved(row() + page);
         } else if (control && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
-            clips.openLink(list.currentIndex);
+            clips.openLink(row());
         } else if (searching && event.modifiers & Qt.AltModifier && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
-            clips.selected > 1 ? copied(-1) : clips.copyPlainAndClose(list.currentIndex);
+            clips.selected > 1 ? copied(-1) : clips.copyPlainAndClose(row());
         } else if (event.key === Qt.Key_F2) {
             if (clips.selected < 2) {
-                clips.edit(list.currentIndex);
+                clips.edit(row());
             }
         } else if (searching && (event.key === Qt.Key_Return || event.key === Qt.Key_Enter)) {
-            finished(list.currentIndex, event.modifiers);
+            finished(row(), event.modifiers);
         } else if (digitOf(event) > 0) {
+            clips.list.finishSearch();
             digitPressed(digitOf(event), event.modifiers);
         } else if (control && event.key === Qt.Key_P) {
-            clips.togglePin(list.currentIndex);
+            clips.togglePin(row());
         } else if (event.key === Qt.Key_F && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier)) {
             search.openFilters();
         } else if (event.key === Qt.Key_Delete && searching && search.isEmpty
                    && !event.isAutoRepeat) {
-            removed(list.currentIndex);
+            removed(row());
         } else {
             return;
         }
         event.accepted = true;
     }
 
-    /// Whether the key changes what is searched for.
-    function edits(event: KeyEvent): bool {
-        return event.key === Qt.Key_Backspace
-            || event.key === Qt.Key_Space && !search.isEmpty && !(event.modifiers & Qt.ShiftModifier)
-            || event.text > " " && !(event.modifiers & (Qt.ControlModifier | Qt.AltModifier))
-                && event.key !== Qt.Key_Delete;
+    /// The row of what is searched for, not of the search before.
+    function row(): int {
+        clips.list.finishSearch();
+        return list.currentIndex;
     }
 
     /// The digit of a key with Ctrl and perhaps Shift; 0 for other keys. With Shift the digits' keys

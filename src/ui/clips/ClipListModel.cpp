@@ -114,6 +114,7 @@ void ClipListModel::setSearch(const QString& written) {
         store_.lookUpDetails();
     }
     isNewSearch_ = true;
+    searching_.reset();
     Q_EMIT searchChanged();
     update();
 }
@@ -224,6 +225,7 @@ void ClipListModel::update() {
         store_.lookUpDetails(); // Of new images.
     }
     if (search().isEmpty()) {
+        (void)search_.take(); // Not the clips of a search that was not done.
         show(allRows());
         return;
     }
@@ -258,10 +260,10 @@ void ClipListModel::show(const QList<ClipItem>& clips) {
     if (std::exchange(tooLargeRow_, now) != now) {
         Q_EMIT tooLargeRowChanged();
     }
+    if ((isNewSearch_ || !search().isEmpty()) && count() > 0) {
+        Q_EMIT dataChanged(index(0), index(count() - 1), {marksRole});
+    }
     if (std::exchange(isNewSearch_, false)) {
-        if (count() > 0) {
-            Q_EMIT dataChanged(index(0), index(count() - 1), {marksRole});
-        }
         Q_EMIT searched();
     }
 }

@@ -13,23 +13,24 @@ using namespace std::chrono_literals;
 
 namespace {
 
-/// Of text, in UTF-16 units: a millisecond or two, ten if none of it is ASCII.
+/// UTF-16 units searched at once: 1 to 2 ms, or 10 ms for text without ASCII.
 constexpr qsizetype portion = 1 << 20;
 
-/// What a clip costs besides its text, in the same measure.
+/// Fixed cost of a clip, in the same units.
 constexpr qsizetype perClip = 200;
 
-/// For trying an expression on all clips.
+/// Time for an expression at once, and over all clips.
+constexpr auto expressionPortion = 2ms;
 constexpr auto maxForExpression = 200ms;
 
-/// For its marks; each visible row needs its own.
+/// For the marks of an expression; each visible row needs its own.
 constexpr qint64 maxMillisecondsForMarks = 5;
 constexpr qsizetype maxMarks = 50;
 
 } // namespace
 
 ClipSearch::ClipSearch(const QLocale& locale)
-    : phrase_(locale), words_(locale, TextSearch::For::words) {}
+    : locale_(locale), phrase_(locale), words_(locale, TextSearch::For::words) {}
 
 void ClipSearch::setWritten(const QString& written, Date now) {
     written_ = written;
@@ -49,7 +50,8 @@ void ClipSearch::begin(QList<ClipItem> clips, Details details) {
 }
 
 bool ClipSearch::advance() {
-    for (qsizetype left = portion; left > 0; ++next_) {
+    const auto spentBefore = spent_;
+    for (qsizetype left = portion; left > 0 && spent_ - spentBefore < expressionPortion; ++next_) {
         if (next_ == clips_.size()) {
             if (!found_.isEmpty() || byWords_ || query_.expression) {
                 return true;
@@ -70,6 +72,10 @@ bool ClipSearch::advance() {
 
 QList<ClipItem> ClipSearch::take() {
     clips_ = {};
+    details_ = nullptr;
+    marker_.emplace(locale_, byWords_ ? TextSearch::For::words : TextSearch::For::phrase);
+    marker_->setWanted(query_.text);
+    markedBy_ = query_.mistake.isEmpty() ? query_.expression : std::nullopt;
     return std::exchange(found_, {});
 }
 
@@ -99,18 +105,17 @@ bool ClipSearch::matches(const ClipItem& clip) {
 }
 
 QList<TextRange> ClipSearch::marks(const QString& shown) const {
-    return query_.expression ? expressionMarks(shown)
-                             : (byWords_ ? words_ : phrase_).matches(shown);
+    if (markedBy_) {
+        return expressionMarks(shown);
+    }
+    return marker_ ? marker_->matches(shown) : QList<TextRange>();
 }
 
 QList<TextRange> ClipSearch::expressionMarks(const QString& shown) const {
     QList<TextRange> ranges;
-    if (!query_.mistake.isEmpty()) {
-        return ranges;
-    }
     QElapsedTimer spent;
     spent.start();
-    auto matches = query_.expression->globalMatch(shown);
+    auto matches = markedBy_->globalMatch(shown);
     while (ranges.size() < maxMarks && spent.elapsed() < maxMillisecondsForMarks &&
            matches.hasNext()) {
         const auto match = matches.next();

@@ -7,6 +7,7 @@
 
 #include <chrono>
 #include <functional>
+#include <optional>
 
 namespace ravelo {
 
@@ -30,16 +31,16 @@ public:
     void begin(QList<ClipItem> clips, Details details);
 
     /// Searches some more clips, for a few milliseconds; more only if one text alone takes longer.
-    /// Returns whether all are searched.
+    /// Returns whether all have been searched.
     bool advance();
 
-    /// Once all are searched: those found, in their order.
+    /// Returns the clips found, in history order, and ends the search: no clip stays here.
     [[nodiscard]] QList<ClipItem> take();
 
     /// Whether clips are left out because the expression takes too long.
     [[nodiscard]] bool gaveUp() const { return gaveUp_; }
 
-    /// Where `shown` has what was searched for last.
+    /// Ranges of `shown` that match the search whose clips were taken last.
     [[nodiscard]] QList<TextRange> marks(const QString& shown) const;
 
 private:
@@ -47,6 +48,7 @@ private:
     [[nodiscard]] bool matches(const ClipItem& clip);
     [[nodiscard]] QList<TextRange> expressionMarks(const QString& shown) const;
 
+    QLocale locale_;
     QString written_;
     ClipQuery query_;
     TextSearch phrase_;
@@ -58,6 +60,8 @@ private:
     Details details_;
     qsizetype next_ = 0;
     QList<ClipItem> found_;
+    std::optional<TextSearch> marker_;
+    std::optional<QRegularExpression> markedBy_; ///< Instead, if there is an expression.
 };
 
 } // namespace ravelo

@@ -2,8 +2,8 @@
 
 namespace ravelo {
 
-/// In strips: Qt hands a path of about a hundred spans to other threads, and a timer that runs all
-/// day would wake them every second.
+/// In strips: Qt (6.4 at least) hands a path of about a hundred spans to other threads, and a timer
+/// that runs all day would wake them every second.
 void Ring::paint(QPainter& painter) {
     constexpr double strip = 4;
     const QRectF whole = boundingRect();

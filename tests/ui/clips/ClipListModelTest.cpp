@@ -341,6 +341,10 @@ TEST(ClipListModel, findsTheSameAsAPlainSearchAtEveryKeystroke) {
     }
 }
 
+QList<TextRange> marksOf(const ClipListModel& model, int row) {
+    return model.data(model.index(row), ClipListModel::marksRole).value<QList<TextRange>>();
+}
+
 StoreData longHistory() {
     StoreData data;
     for (int i = 0; i < 8; ++i) {
@@ -379,9 +383,11 @@ TEST(ClipListModel, searchesALongHistoryInPortions) {
         QObject::connect(&model, &ClipListModel::searched, &model, [&] { ++searched; });
         model.setSearch(u"found"_s);
         EXPECT_EQ(model.count(), 9) << "the rows stay until the search is done";
+        EXPECT_EQ(marksOf(model, 8), QList<TextRange>()) << "of a search that is not done";
         EXPECT_EQ(searched, 0);
         c.then(world, model);
         EXPECT_EQ(model.count(), c.found);
+        EXPECT_EQ(marksOf(model, 0), QList<TextRange>({{0, 5}}));
         EXPECT_EQ(searched, 1);
         world.scheduler.advance(Seconds(1));
         EXPECT_EQ(searched, 1) << "it is not searched again";
