@@ -10,6 +10,7 @@
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
 #include <string_view>
 #include <thread>
 #include <utility>
@@ -71,7 +72,11 @@ void load(Formats formats) {
     if (formats == Formats::png) {
         return;
     }
-    if (void* library = dlopen("$ORIGIN/ravelo-decode-heif.so", RTLD_NOW)) {
+    // By its whole path: with the address sanitizer, $ORIGIN would be the sanitizer's folder.
+    std::error_code error;
+    const auto program = std::filesystem::read_symlink("/proc/self/exe", error);
+    const auto path = program.parent_path() / "ravelo-decode-heif.so";
+    if (void* library = dlopen(path.c_str(), RTLD_NOW)) {
         using Reader = const HeifReader* (*)();
         const auto reader = reinterpret_cast<Reader>(dlsym(library, "raveloHeif"));
         readHeifBy(reader != nullptr ? reader() : nullptr);
