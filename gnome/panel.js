@@ -177,6 +177,8 @@ export class Panel {
             this._before = focused;
         else if (focused && !this._wanted && !PRESSES.includes(Clutter.get_current_event()?.type()))
             this._giveBack();
+        else if (focused)
+            this.reportKeyboard(0); // Before any key reaches the panel.
     }
 
     _pressed(own) {

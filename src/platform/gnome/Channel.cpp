@@ -217,6 +217,9 @@ void Channel::adopt(Descriptor socket) {
 }
 
 void Channel::receive() {
+    if (!up_) {
+        return;
+    }
     char buffer[16 << 10];
     Received received = receiveFrom(socket_, buffer, sizeof buffer);
     if (received.size < 0) {

@@ -40,6 +40,9 @@ public:
             [callback = std::move(callback)](Delivery* delivery) { callback(*delivery); });
     }
 
+    /// Delivers what has arrived, before the event loop does.
+    void receive();
+
     /// Does nothing while the extension is not connected.
     void send(const QByteArray& line);
 
@@ -58,7 +61,6 @@ private:
     void verified(qint64 pid, const QDBusMessage& answer);
     void hearGuest(std::list<Guest>::iterator guest);
     void adopt(Descriptor socket);
-    void receive();
     void flush();
     void close();
 

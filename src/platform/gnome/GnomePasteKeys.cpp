@@ -3,9 +3,6 @@
 #include "platform/gnome/GnomePasteboard.h"
 #include "platform/gnome/Layouts.h"
 
-#include <QGuiApplication>
-#include <QWindow>
-
 #include <chrono>
 #include <utility>
 
@@ -42,11 +39,6 @@ GnomePasteKeys::GnomePasteKeys(Channel& channel, const GnomePasteboard& pasteboa
       })) {
     again_.setInterval(interval);
     again_.callOnTimeout([this] { press_&& now() < press_->end ? ask() : end(); });
-    connect(qGuiApp, &QGuiApplication::focusWindowChanged, this, [this](const QWindow* window) {
-        if (window != nullptr) {
-            ask();
-        }
-    });
 }
 
 void GnomePasteKeys::ask() {
@@ -54,6 +46,7 @@ void GnomePasteKeys::ask() {
 }
 
 std::optional<PasteKeys::Target> GnomePasteKeys::target() {
+    channel_.receive(); // The report comes before the first key, but we may have read that first.
     if (permission() == TypingPermission::refused || !report_ || !report_->window) {
         return std::nullopt;
     }

@@ -4,7 +4,6 @@
 #include "platform/RemoteKeyboard.h"
 #include "platform/gnome/Channel.h"
 
-#include <QObject>
 #include <QTimer>
 
 #include <optional>
@@ -14,9 +13,9 @@ namespace ravelo::gnome {
 class GnomePasteboard;
 
 /// Types by leave of the user (RemoteKeyboard); the extension says which window has the keyboard
-/// and whether modifiers are down, when it is asked. It is asked as one of our windows gets the
-/// keyboard, and while keys are to be typed.
-class GnomePasteKeys final : public QObject, public PasteKeys {
+/// and whether modifiers are down, when the panel gets the keyboard and when it is asked, which it
+/// is while keys are to be typed.
+class GnomePasteKeys final : public PasteKeys {
 public:
     /// All must outlive it.
     GnomePasteKeys(Channel& channel, const GnomePasteboard& pasteboard, RemoteKeyboard& keyboard);

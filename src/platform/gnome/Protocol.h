@@ -86,9 +86,9 @@ struct Given {
     QByteArray type;
 };
 
-/// The answer to `askAboutKeyboard`.
+/// The answer to `askAboutKeyboard`; also sent when the panel gets the keyboard.
 struct KeyboardReport {
-    quint32 serial; ///< The question's.
+    quint32 serial; ///< The question's, or 0.
     /// The window of another program that has the keyboard, or gets it back from the panel.
     std::optional<quint32> window;
     QStringList names; ///< Its app id, or class and instance.
