@@ -12,6 +12,7 @@
 #include "platform/freedesktop/instance/BusInstance.h"
 #include "platform/freedesktop/packages/PackageKit.h"
 #include "platform/freedesktop/portals/FileTransferPortal.h"
+#include "platform/freedesktop/portals/PortalBus.h"
 #include "platform/freedesktop/portals/PortalKeyboard.h"
 #include "platform/freedesktop/portals/PortalSetting.h"
 #include "platform/freedesktop/portals/ShortcutsPortal.h"
@@ -96,16 +97,20 @@ Result<void> connectX11(Platform& platform, HoverTick::Rest rest) {
     return {};
 }
 
+QDBusConnection portals() {
+    return portalBus(helperProgram("ravelo-bus"_L1));
+}
+
 Result<void> connectWayland(Platform& platform) {
     auto created = wayland::WaylandDisplayServer::create();
     if (!created) {
         return tl::unexpected(created.error());
     }
     wayland::WaylandDisplayServer& server = **created;
-    platform.motion = std::make_unique<PortalMotionPreference>(sessionBus());
-    platform.iconPreference = std::make_unique<PortalIconPreference>(sessionBus());
+    platform.motion = std::make_unique<PortalMotionPreference>(portals());
+    platform.iconPreference = std::make_unique<PortalIconPreference>(portals());
     platform.trayArea = std::make_unique<wayland::WaylandTrayArea>();
-    platform.shortcut = std::make_unique<ShortcutsPortal>(sessionBus());
+    platform.shortcut = std::make_unique<ShortcutsPortal>(portals());
     platform.makeHotZone = [&server, scheduler = platform.scheduler.get()](PanelWindow& window) {
         return server.hotZone(*scheduler, window);
     };
@@ -123,7 +128,7 @@ Result<void> connectGnome(Platform& platform) {
     platform.motion = server.motion();
     platform.iconPreference = server.icons();
     platform.trayArea = std::make_unique<gnome::NoTrayArea>();
-    platform.shortcut = std::make_unique<ShortcutsPortal>(sessionBus());
+    platform.shortcut = std::make_unique<ShortcutsPortal>(portals());
     platform.makeHotZone = [&server, scheduler = platform.scheduler.get()](PanelWindow& window) {
         return server.hotZone(*scheduler, window);
     };
