@@ -57,6 +57,7 @@ public:
         return TypingPermission::notNeeded;
     }
 
+    // NOLINTNEXTLINE(performance-unnecessary-value-param): others keep it.
     [[nodiscard]] virtual Handle onPermissionChange(std::function<void()> /*callback*/) {
         return {};
     }

@@ -42,6 +42,16 @@ class ProgramCase(unittest.TestCase):
     def qt(self, *arguments):
         return self.desktop.peer(os.environ["QT_PEER"], *arguments)
 
+    def drag_out(self, start, to):
+        """Drags something out of the panel and lets go once the target has accepted it."""
+        self.desktop.drag(start, to)
+        wait_for(lambda: len(self.desktop.run("xdotool", "search", "--onlyvisible", "--pid",
+                                              self.ravelo.process.pid).split()) > 1,
+                 "the picture at the pointer")
+        self.desktop.move(to[0] + 1, to[1])  # Targets learn of a drag by the next motion.
+        time.sleep(0.5)
+        self.desktop.release()
+
     def copy_and_wait(self, *texts):
         for text in texts:
             self.desktop.copy_text(text)

@@ -12,7 +12,6 @@ from program_case import FIRST_ROW, ROW, SEARCH, SLOWER, STALL_LIMIT, ProgramCas
 from desktop import wait_for
 
 CAPTURE_LIMIT = 0.9  # Seconds from the copy to store.json: max. one poll and one debounce.
-DRAGGED = 56  # Width of the picture at the pointer.
 
 
 class Capture(ProgramCase):
@@ -216,22 +215,13 @@ class Forms(ProgramCase):
         self.assertEqual(self.pasted("x-special/gnome-copied-files"),
                          b"copy\nfile:///tmp/a%20b\nfile:///tmp/c")
 
-    def has_begun_a_drag(self):
-        windows = self.desktop.run("xdotool", "search", "--onlyvisible", "--pid",
-                                   self.ravelo.process.pid).split()
-        return any(shape and shape.width == DRAGGED for shape in map(self.desktop.geometry, windows))
-
     def test_a_row_is_dragged_into_another_window(self):
         window = self.desktop.gtk("window")
         self.copy_and_wait("older", "newer")
         panel = self.ravelo.open()
         field = self.desktop.window_of(window)
-        x, y = field.x + 60, field.y + field.height - 16
-        self.desktop.drag((panel.x + 300, FIRST_ROW + ROW), (x, y))
-        wait_for(self.has_begun_a_drag, "the drag to begin")
-        self.desktop.move(x + 1, y)  # The field learns of a drag by the next motion.
-        time.sleep(0.5)  # No hand lets go before the field has accepted it.
-        self.desktop.run("xdotool", "mouseup", 1)
+        self.drag_out((panel.x + 300, FIRST_ROW + ROW),
+                      (field.x + 60, field.y + field.height - 16))
         said = iter(lambda: window.stdout.readline().strip(), "")
         self.assertEqual(next(line for line in said if line != "ready"), "older")
         self.assertEqual(self.desktop.paste_text(), "newer", "a drag is no click")

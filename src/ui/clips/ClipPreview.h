@@ -47,6 +47,7 @@ class ClipPreview : public QObject {
     Q_PROPERTY(QString forms READ forms NOTIFY changed)
 
 public:
+    // NOLINTNEXTLINE(readability-identifier-naming): QML demands capitals.
     enum Kind { None, Text, Link, Color, Image, Files };
     Q_ENUM(Kind)
 

@@ -27,6 +27,21 @@ constexpr auto maxForExpression = 200ms;
 constexpr qint64 maxMillisecondsForMarks = 5;
 constexpr qsizetype maxMarks = 50;
 
+QList<TextRange> matchesOf(const QRegularExpression& expression, const QString& shown) {
+    QList<TextRange> ranges;
+    QElapsedTimer spent;
+    spent.start();
+    auto matches = expression.globalMatch(shown);
+    while (ranges.size() < maxMarks && spent.elapsed() < maxMillisecondsForMarks &&
+           matches.hasNext()) {
+        const auto match = matches.next();
+        if (match.capturedLength() > 0) {
+            ranges.append({match.capturedStart(), match.capturedLength()});
+        }
+    }
+    return ranges;
+}
+
 } // namespace
 
 ClipSearch::ClipSearch(const QLocale& locale)
@@ -82,14 +97,14 @@ QList<ClipItem> ClipSearch::take() {
 /// A secret is found by what is shown of it.
 bool ClipSearch::accepts(const ClipItem& clip) {
     if (query_.expression) {
-        return matches(clip);
+        return matches(clip, *query_.expression);
     }
     return clip.secret.isEmpty() ? (byWords_ ? words_ : phrase_).finds(clip.id, clip.text)
                                  : (secretRuns(clip).join(QString()) + u' ' + secretKind(clip))
                                        .contains(query_.text, Qt::CaseInsensitive);
 }
 
-bool ClipSearch::matches(const ClipItem& clip) {
+bool ClipSearch::matches(const ClipItem& clip, const QRegularExpression& expression) {
     if (!query_.mistake.isEmpty() || clip.kind == ClipKind::image || !clip.secret.isEmpty()) {
         return false;
     }
@@ -98,7 +113,7 @@ bool ClipSearch::matches(const ClipItem& clip) {
         return false;
     }
     const auto start = std::chrono::steady_clock::now();
-    const PatternAnswer answer = tryPattern(*query_.expression, clip.text);
+    const PatternAnswer answer = tryPattern(expression, clip.text);
     spent_ += std::chrono::steady_clock::now() - start;
     gaveUp_ = gaveUp_ || answer == PatternAnswer::unknown;
     return answer == PatternAnswer::matches;
@@ -106,24 +121,9 @@ bool ClipSearch::matches(const ClipItem& clip) {
 
 QList<TextRange> ClipSearch::marks(const QString& shown) const {
     if (markedBy_) {
-        return expressionMarks(shown);
+        return matchesOf(*markedBy_, shown);
     }
     return marker_ ? marker_->matches(shown) : QList<TextRange>();
-}
-
-QList<TextRange> ClipSearch::expressionMarks(const QString& shown) const {
-    QList<TextRange> ranges;
-    QElapsedTimer spent;
-    spent.start();
-    auto matches = markedBy_->globalMatch(shown);
-    while (ranges.size() < maxMarks && spent.elapsed() < maxMillisecondsForMarks &&
-           matches.hasNext()) {
-        const auto match = matches.next();
-        if (match.capturedLength() > 0) {
-            ranges.append({match.capturedStart(), match.capturedLength()});
-        }
-    }
-    return ranges;
 }
 
 } // namespace ravelo

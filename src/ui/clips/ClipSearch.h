@@ -45,8 +45,7 @@ public:
 
 private:
     [[nodiscard]] bool accepts(const ClipItem& clip);
-    [[nodiscard]] bool matches(const ClipItem& clip);
-    [[nodiscard]] QList<TextRange> expressionMarks(const QString& shown) const;
+    [[nodiscard]] bool matches(const ClipItem& clip, const QRegularExpression& expression);
 
     QLocale locale_;
     QString written_;

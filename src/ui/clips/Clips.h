@@ -80,7 +80,9 @@ public:
     /// In clips and snippets; the latter without the filters.
     Q_INVOKABLE void search(const QString& written);
 
-    Q_INVOKABLE bool isFilter(const QString& word) const { return ClipQuery::isFilter(word); }
+    [[nodiscard]] Q_INVOKABLE bool isFilter(const QString& word) const {
+        return ClipQuery::isFilter(word);
+    }
 
     /// -1 ends it.
     Q_INVOKABLE void showPreview(int row) { preview_.show(list_.idAt(row)); }

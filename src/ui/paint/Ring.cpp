@@ -5,9 +5,9 @@ namespace ravelo {
 /// In strips: Qt (6.4 at least) hands a path of about a hundred spans to other threads, and a timer
 /// that runs all day would wake them every second.
 void Ring::paint(QPainter& painter) {
-    constexpr double strip = 4;
+    constexpr int strip = 4;
     const QRectF whole = boundingRect();
-    for (double top = 0; top < whole.height(); top += strip) {
+    for (int top = 0; top < whole.height(); top += strip) {
         painter.save();
         painter.setClipRect(QRectF(0, top, whole.width(), strip), Qt::IntersectClip);
         paintWhole(painter);
