@@ -206,7 +206,7 @@ class ExtensionTest(ExtensionCase):
         self.assertFalse(first["modifiers"])
         self.assertEqual(len(first["names"]), 1)
         self.assertEqual(first["layout"], "us")
-        self.assertNotIn("one", json.dumps(first), "the title is nobody's business")
+        self.assertNotIn("one", json.dumps(first), "titles are not reported")
         self.session.run(shift % 1)
         self.assertTrue(asked()["modifiers"], "Shift is held")
         self.session.run(shift % 0)

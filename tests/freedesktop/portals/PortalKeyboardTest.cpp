@@ -49,7 +49,7 @@ public:
     QDBusConnection& connection() { return connection_; }
 
     uint version = 2;
-    uint response = 0;  ///< To Start: 1 if the user cancels, 2 if nobody could ask them.
+    uint response = 0;  ///< To Start: 1 if the user cancels, 2 if no dialog could be shown.
     uint devices = 1;   ///< The user may allow less.
     bool held = false;  ///< The user thinks.
     QString token;      ///< For the next session.
