@@ -5,6 +5,7 @@
 
 #include <QClipboard>
 #include <QGuiApplication>
+#include <QLoggingCategory>
 #include <QMimeData>
 
 namespace ravelo::x11 {
@@ -24,6 +25,8 @@ X11Pasteboard::X11Pasteboard(Listener& listener)
       saveRequests_(std::make_shared<SaveRequests>(listener.connection(), ownClient_,
                                                    [asked = saveAsked_] { asked->notify(); })) {
     QGuiApplication::clipboard()->blockSignals(true);
+    // Qt warns if another program copies during a write; settleWrite() handles that.
+    QLoggingCategory::setFilterRules(QStringLiteral("qt.qpa.clipboard.warning=false"));
     auto changed = [counter = counter_, changes = changes_, saveRequests = saveRequests_,
                     own = ownClient_](const OwnerChange& change) {
         saveRequests->ownerChanged(change.owner);
