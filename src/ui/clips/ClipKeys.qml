@@ -1,6 +1,7 @@
 import QtQuick
 import Ravelo.Clips
 import Ravelo.Lists
+import Ravelo.Preview
 import Ravelo.Theme
 
 /// What the keys do in the list of clips, also while the search has the focus.

@@ -1,7 +1,7 @@
 #include "ui/clips/ClipListModel.h"
 
 #include "store/Store.h"
-#include "ui/clips/ProgramName.h"
+#include "ui/preview/ProgramName.h"
 #include "ui/clips/SecretText.h"
 
 #include <algorithm>

@@ -1,7 +1,7 @@
 #include "ui/clips/ClipQuery.h"
 
 #include "clipboard/CaptureRules.h"
-#include "ui/clips/ClipColor.h"
+#include "ui/preview/ClipColor.h"
 
 #include <QDateTime>
 #include <QRegularExpression>

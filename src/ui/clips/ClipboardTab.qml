@@ -4,6 +4,7 @@ import QtQuick
 import Ravelo.Clips
 import Ravelo.Controls
 import Ravelo.Lists
+import Ravelo.Preview
 import Ravelo.Snippets
 import Ravelo.Theme
 import Ravelo.Vault

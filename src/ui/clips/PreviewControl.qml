@@ -1,5 +1,6 @@
 import QtQuick
 import Ravelo.Clips
+import Ravelo.Preview
 
 /// Decides when the preview is shown, and of which row.
 QtObject {

@@ -1,6 +1,6 @@
 #include "ui/clips/ClipQuery.h"
 #include "fakes/PanelWorld.h"
-#include "ui/clips/ClipColor.h"
+#include "ui/preview/ClipColor.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "ui/clips/FormNames.h"
+#include "ui/preview/FormNames.h"
 
 #include "store/history/ClipForms.h"
 

@@ -1,4 +1,4 @@
-#include "ui/clips/ClipColor.h"
+#include "ui/preview/ClipColor.h"
 
 #include <QRegularExpression>
 

@@ -1,7 +1,7 @@
 pragma ComponentBehavior: Bound
 
 import QtQuick
-import Ravelo.Clips
+import Ravelo.Preview
 import Ravelo.Theme
 
 /// The names and values of a preview in two columns.

@@ -1,5 +1,5 @@
 import QtQuick
-import Ravelo.Clips
+import Ravelo.Preview
 import Ravelo.Controls
 import Ravelo.Text
 import Ravelo.Theme

@@ -1,4 +1,4 @@
-#include "ui/clips/ProgramName.h"
+#include "ui/preview/ProgramName.h"
 
 namespace ravelo {
 

@@ -1,4 +1,4 @@
-#include "ui/clips/ClipPreview.h"
+#include "ui/preview/ClipPreview.h"
 #include "fakes/PanelWorld.h"
 
 #include "support/Eventually.h"

@@ -1,5 +1,5 @@
 import QtQuick
-import Ravelo.Clips
+import Ravelo.Preview
 
 /// A whole picture, at most in its own size.
 Item {
