@@ -149,7 +149,7 @@ class ProgramTest(ProgramCase):
         self.session.run("await sleep(1000)")
         self.assertEqual(json.loads(self.store())["clips"], before, "which is no new copy")
         self.client("secret", "--secret", "hunter2")
-        self.client("picture", "--image", next(shell.ROOT.glob("docs/screenshots/dark-1x/*.png")))
+        self.client("picture", "--image", next(shell.ROOT.glob("docs/screenshots/dark/*.png")))
         clips = self.session.home / ".local/share/Ravelo/clips"
         until(lambda: list(clips.glob("*.png")), "an image is stored")
         self.assertNotIn("hunter2", self.store())
