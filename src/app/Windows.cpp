@@ -13,9 +13,9 @@
 #include "platform/PackageUpdates.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
-#include "ui/windows/OnboardingController.h"
-#include "ui/windows/SettingsWindow.h"
-#include "ui/windows/UpdateWindow.h"
+#include "ui/settings/SettingsWindow.h"
+#include "ui/setup/OnboardingController.h"
+#include "ui/updates/UpdateWindow.h"
 #include "updates/Updater.h"
 
 #include <QDir>

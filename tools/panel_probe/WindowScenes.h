@@ -1,9 +1,9 @@
 #pragma once
 
 #include "Stage.h"
-#include "ui/windows/OnboardingController.h"
-#include "ui/windows/SettingsWindow.h"
-#include "ui/windows/UpdateWindow.h"
+#include "ui/settings/SettingsWindow.h"
+#include "ui/setup/OnboardingController.h"
+#include "ui/updates/UpdateWindow.h"
 #include "updates/Updater.h"
 
 #include <QQuickView>

@@ -55,7 +55,7 @@ TitledWindow::~TitledWindow() {
 void TitledWindow::load(const QString& page, QObject* host) {
     setInitialProperties(
         {{u"host"_s, QVariant::fromValue(host)}, {u"title"_s, title()}, {u"frame"_s, inside_}});
-    setSource(QUrl(u"qrc:/Ravelo/Windows/"_s + page));
+    setSource(QUrl(u"qrc:/Ravelo/"_s + page));
 }
 
 void TitledWindow::fit() {
