@@ -6,6 +6,7 @@
 #include <fstream>
 #include <string>
 #include <thread>
+#include <utility>
 
 namespace ravelo::bench {
 
@@ -13,7 +14,6 @@ namespace {
 
 using namespace std::chrono_literals;
 
-constexpr auto window = 150ms;
 constexpr auto oddMoment = 2ms;
 constexpr auto timeout = 30s;
 
@@ -33,16 +33,21 @@ std::chrono::nanoseconds busy(int process) {
 
 } // namespace
 
+Idleness::Idleness(int process) : process_(process), busy_(busy(process)) {}
+
+bool Idleness::isIdle() {
+    const auto before = std::exchange(busy_, busy(process_));
+    return busy_ - before < oddMoment;
+}
+
 void awaitIdle(int process) {
     const auto deadline = Clock::now() + timeout;
-    auto before = busy(process);
+    Idleness idleness(process);
     while (Clock::now() < deadline) {
-        std::this_thread::sleep_for(window);
-        const auto now = busy(process);
-        if (now - before < oddMoment) {
+        std::this_thread::sleep_for(Idleness::window);
+        if (idleness.isIdle()) {
             return;
         }
-        before = now;
     }
     giveUp("the program does not come to rest");
 }

@@ -23,13 +23,15 @@ PINNED, UNPINNED, IMAGES = 5, 60, 6
 
 
 def clip(number, **more):
+    # So old that the age that is shown does not change during a measurement: such a change would
+    # be taken for a detail that the panel had shown late.
     kind, text = [
         ("text", f"A sentence that somebody copied for later, number {number}"),
         ("url", f"https://www.example.org/articles/{number}"),
         ("text", f"def number_{number}():\n    return {number}\n"),
     ][number % 3]
     return {"id": str(uuid.uuid4()).upper(), "kind": kind, "text": text, "pinned": False,
-            "date": time.time() - 978307200 - 1000 * number, **more}
+            "date": time.time() - 978307200 - 4500 - 30 * number, **more}
 
 
 def fill(desktop, ravelo, clips=None):

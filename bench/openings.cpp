@@ -24,13 +24,11 @@
 namespace {
 
 using namespace ravelo::bench;
-using namespace std::chrono_literals;
 using namespace Qt::StringLiterals;
 
 constexpr Place away = {200, 800};
-constexpr auto betweenFrames = 100ms; ///< Much longer than the time between two frames of a fade.
-constexpr double maxPause = 100;      ///< Milliseconds; many ticks of the program.
-constexpr double picture = 0.9; ///< Of the details; the others move with pointer and keyboard.
+constexpr double maxPause = 100; ///< Milliseconds; many ticks of the program.
+constexpr double picture = 0.9;  ///< Of the details; the others move with pointer and keyboard.
 
 struct Opening {
     Clock::time_point begun;
@@ -40,12 +38,13 @@ struct Opening {
 
 /// The next frame; empty once the program is at rest and draws nothing more.
 std::optional<Frame> nextFrame(WindowWatch& window, int process) {
-    auto frame = window.nextFrame(betweenFrames);
-    if (!frame) { // On a busy machine it may just be late.
-        awaitIdle(process);
-        frame = window.nextFrame(0ms);
-    }
-    return frame;
+    Idleness idleness(process);
+    do {
+        if (auto frame = window.nextFrame(Idleness::window)) {
+            return frame;
+        }
+    } while (!idleness.isIdle()); // On a busy machine it may just be late.
+    return std::nullopt;
 }
 
 using Trigger = void (*)(XServer&);

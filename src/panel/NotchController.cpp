@@ -96,8 +96,9 @@ void NotchController::evaluateOpen(const HotZone::Sight& sight) {
     if (sight.inZone || sight.nearPanel) {
         awaitsPointer_ = false;
         closeWork_.reset();
-    } else if (services_.zone.reportsPressesElsewhere() ||
-               !(closeWork_ || awaitsPointer_ || draggingOut_)) {
+    } else if (services_.zone.reportsPressesElsewhere()) {
+        closeWork_.reset(); // A press will close it.
+    } else if (!(closeWork_ || awaitsPointer_ || draggingOut_)) {
         scheduleClose();
     }
 }
@@ -197,12 +198,16 @@ void NotchController::pressed(HotZone::Press press) {
 void NotchController::screensChanged() {
     if (!isOpen_) {
         positionCollapsed();
-    } else if (const auto on = services_.zone.look().screen) {
-        placeExpanded(*on);
+        return;
+    }
+    const HotZone::Sight sight = services_.zone.look();
+    if (sight.screen) {
+        placeExpanded(*sight.screen);
+    } else if (!sight.inZone && !sight.nearPanel) {
+        scheduleClose();
     }
 }
 
-// Every sight of the pointer outside the panel renews it, unless nothing else would ever close.
 void NotchController::scheduleClose() {
     closeWork_ = services_.scheduler.after(closeDelay, [this] {
         closeWork_.reset();

@@ -73,7 +73,7 @@ TEST(NotchController, closesOnAPressElsewhereOnly) {
     world.pointer.release();
     world.moveTo(100, 800);
     world.scheduler.advance(Seconds(10));
-    EXPECT_TRUE(world.controller.isOpen()) << "each tick outside puts the delayed close off";
+    EXPECT_TRUE(world.controller.isOpen()) << "outside, for longer than the delayed close takes";
     world.pointer.press();
     EXPECT_FALSE(world.controller.isOpen());
     EXPECT_EQ(world.controller.frame(), QRectF(620, 0, 200, 12));
@@ -92,7 +92,7 @@ TEST(NotchController, aPressInOurOwnWindowDoesNotClose) {
     EXPECT_FALSE(world.controller.isOpen());
 }
 
-TEST(NotchController, theDelayedCloseFiresIfTicksStop) {
+TEST(NotchController, closesSoonAfterTheLastScreenHasGone) {
     PanelWorld world;
     world.moveTo(720, 5);
     world.moveTo(100, 800);
@@ -101,7 +101,7 @@ TEST(NotchController, theDelayedCloseFiresIfTicksStop) {
     world.scheduler.advance(Seconds(0.34));
     EXPECT_TRUE(world.controller.isOpen());
     world.scheduler.advance(Seconds(0.03));
-    EXPECT_FALSE(world.controller.isOpen()) << "0.35 s after the last tick that saw a screen";
+    EXPECT_FALSE(world.controller.isOpen()) << "0.35 s later";
     world.screens.change(screens);
     EXPECT_EQ(world.window.size, QSizeF(200, 12));
 }

@@ -26,6 +26,10 @@ protected:
     void paint(QPainter& painter) override;
 
 private:
+    void paintRounded(QPainter& painter) const;
+    void paintSides(QPainter& painter) const;
+    [[nodiscard]] bool hasLine() const;
+    [[nodiscard]] double shownRadius() const;
     [[nodiscard]] QBrush fill() const;
     [[nodiscard]] QPen pen() const;
 

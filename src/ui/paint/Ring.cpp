@@ -1,18 +1,11 @@
 #include "ui/paint/Ring.h"
 
+#include "ui/paint/Strips.h"
+
 namespace ravelo {
 
-/// In strips: Qt (6.4 at least) hands a path of about a hundred spans to other threads, and a timer
-/// that runs all day would wake them every second.
 void Ring::paint(QPainter& painter) {
-    constexpr int strip = 4;
-    const QRectF whole = boundingRect();
-    for (int top = 0; top < whole.height(); top += strip) {
-        painter.save();
-        painter.setClipRect(QRectF(0, top, whole.width(), strip), Qt::IntersectClip);
-        paintWhole(painter);
-        painter.restore();
-    }
+    inStrips(painter, boundingRect().toAlignedRect(), 4, [&] { paintWhole(painter); });
 }
 
 void Ring::paintWhole(QPainter& painter) const {
