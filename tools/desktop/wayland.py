@@ -288,6 +288,8 @@ class KWinDesktop(WaylandDesktop):
         program = shutil.copy(shutil.which("kwin_wayland"), self._folder)
         report, script = self._folder / "report", self._folder / "report.sh"
         script.write_text(f"echo $WAYLAND_DISPLAY $DISPLAY >{report}.new; mv {report}.new {report}")
+        # The pointer jumps here, and would be held at the edge of an output.
+        (self.home / "config/kwinrc").write_text("[EdgeBarrier]\nEdgeBarrier=0\nCornerBarrier=false\n")
         env = {**self.env, "XDG_RUNTIME_DIR": str(self._folder), "KWIN_COMPOSE": renderer,
                "LIBGL_ALWAYS_SOFTWARE": "1", "KWIN_WAYLAND_NO_PERMISSION_CHECKS": "1",
                "KWIN_SCREENSHOT_NO_PERMISSION_CHECKS": "1"}
