@@ -34,7 +34,7 @@ LABWC_CONFIGURATION = """<labwc_config>
 KEYS = {"Escape": 1, "Tab": 15, "Return": 28, " ": 57, "F2": 60, "End": 107, "Down": 108} | {
     key: first + place for row, first in (("1234567890", 2), ("qwertyuiop", 16), ("asdfghjkl", 30),
                                           ("zxcvbnm", 44)) for place, key in enumerate(row)}
-MODIFIERS = {"shift": 1, "ctrl": 4}
+MODIFIERS = {"shift": 1, "ctrl": 4, "super": 64}
 BACKGROUND = (64, 160, 96)
 
 
