@@ -2512,6 +2512,14 @@
         <translation>Zum Ändern klicken, dann neue Tasten drücken.</translation>
     </message>
     <message>
+        <source>The desktop has registered “%1”. Click, then press new keys to change it.</source>
+        <translation>Der Desktop hat „%1“ eingetragen. Klicken, dann neue Tasten drücken, um sie zu ändern.</translation>
+    </message>
+    <message>
+        <source>The desktop has assigned no keys to it; another program may have them. Click, then press other keys, or choose some in the desktop’s settings.</source>
+        <translation>Der Desktop hat keine Tasten dafür vergeben; vielleicht hat sie ein anderes Programm. Klicken, dann andere drücken, oder in den Einstellungen des Desktops welche wählen.</translation>
+    </message>
+    <message>
         <source>Taken by another program. Click, then press other keys.</source>
         <translation>Von einem anderen Programm belegt. Klicke und drücke andere Tasten.</translation>
     </message>

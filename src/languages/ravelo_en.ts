@@ -2512,6 +2512,14 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
+        <source>The desktop has registered “%1”. Click, then press new keys to change it.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The desktop has assigned no keys to it; another program may have them. Click, then press other keys, or choose some in the desktop’s settings.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
         <source>Taken by another program. Click, then press other keys.</source>
         <translation type="unfinished"></translation>
     </message>

@@ -2512,6 +2512,14 @@
         <translation>Para mudar, clique e pressione outras teclas.</translation>
     </message>
     <message>
+        <source>The desktop has registered “%1”. Click, then press new keys to change it.</source>
+        <translation>A área de trabalho registrou “%1”. Clique e pressione novas teclas para mudar.</translation>
+    </message>
+    <message>
+        <source>The desktop has assigned no keys to it; another program may have them. Click, then press other keys, or choose some in the desktop’s settings.</source>
+        <translation>A área de trabalho não atribuiu teclas; talvez outro programa as use. Clique e pressione outras, ou escolha nas configurações da área de trabalho.</translation>
+    </message>
+    <message>
         <source>Taken by another program. Click, then press other keys.</source>
         <translation>Em uso por outro programa. Clique e pressione outras teclas.</translation>
     </message>

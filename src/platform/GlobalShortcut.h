@@ -4,6 +4,7 @@
 #include "base/KeyCombination.h"
 
 #include <QByteArray>
+#include <QString>
 
 #include <functional>
 #include <optional>
@@ -18,14 +19,20 @@ public:
         none,       ///< No keys are set.
         asked,      ///< The desktop has not answered yet.
         registered,
-        taken,   ///< Another program has these keys.
-        refused, ///< The desktop or the user said no, or the keyboard has no such key.
+        unassigned, ///< The desktop knows us, but has given us no keys.
+        taken,      ///< Another program has these keys.
+        refused,    ///< The desktop or the user said no, or the keyboard has no such key.
     };
 
     virtual ~GlobalShortcut() = default;
 
     [[nodiscard]] virtual State state() const = 0;
 
+    /// What the desktop calls the registered keys, which may be others than those that were set.
+    /// Empty if they are the same.
+    [[nodiscard]] virtual QString description() const { return {}; }
+
+    /// Of the state or the description.
     [[nodiscard]] virtual Handle onChange(std::function<void()> callback) = 0;
 
     /// Finds out whether it is possible, if the desktop was not asked yet; `state` follows

@@ -51,6 +51,8 @@ class FakeGlobalShortcut final : public GlobalShortcut {
 public:
     [[nodiscard]] State state() const override { return state_; }
 
+    [[nodiscard]] QString description() const override { return called; }
+
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return changes_.add(std::move(callback));
     }
@@ -75,6 +77,7 @@ public:
     }
 
     std::optional<KeyCombination> keys;
+    QString called; ///< By the desktop.
     bool suspended = false;
     Listeners<const QByteArray&> presses;
 

@@ -37,11 +37,11 @@ def secret(on):
         peer.stdin.flush()
         assert peer.stdout.readline() == "true\n", "it does not copy"
         until(lambda: on.desktop.paste_text() == "a password", "the password on the clipboard")
+        on.desktop.copy_text("after the password")  # Now: at its end Mutter copies again what was before.
+        expect_newest(on, "after the password")
     finally:
         peer.kill()
         peer.wait()
-    on.desktop.copy_text("after the password")
-    expect_newest(on, "after the password")
     stored = [file for file in on.desktop.home.rglob("Ravelo/**/*")
               if file.is_file() and b"a password" in file.read_bytes()]
     assert not stored, f"the password is in {stored}"

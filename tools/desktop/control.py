@@ -102,7 +102,7 @@ def keep_for(session):
 
 def caps(session):
     session.restart(textLimit=16)
-    command = ["wl-copy"] if session.on_wayland else ["xclip", "-selection", "clipboard", "-i"]
+    command = ["wl-copy", "--type", "text/plain"] if session.on_wayland else ["xclip", "-selection", "clipboard", "-i"]
     for number in range(3):
         text = f"large zuckerhut {number} " + "x" * 6_000_000
         subprocess.run(command, input=text.encode(), env=session.desktop.env, check=True,
@@ -110,6 +110,17 @@ def caps(session):
         wait_for(lambda t=text: session.files_with(t[:18]), f"text {number} on the disk", 60)
     yield "the oldest of three texts of 6 MB", "large zuckerhut 0", False
     yield "the newest of them", "large zuckerhut 2", True
+
+
+def switch_encryption(session, on):
+    session.ravelo.call("--settings")
+    time.sleep(3)
+    session.desktop.key("ctrl+3")
+    session.act("Encrypt what is stored")
+    store = session.ravelo.folder / "store.json"
+    wait_for(lambda: store.read_bytes().startswith(b"Ravelo\x1a") == on,
+             "an encrypted store" if on else "a plain store")
+    session.desktop.key("Escape")
 
 
 def encryption(session):
@@ -121,18 +132,14 @@ def encryption(session):
     time.sleep(2)
     session.restart()
     session.copy_plain("before zuckerhut")
-    session.ravelo.call("--settings")
-    time.sleep(3)
-    session.desktop.key("ctrl+3")
-    session.act("Encrypt what is stored")
-    store = session.ravelo.folder / "store.json"
-    wait_for(lambda: store.read_bytes().startswith(b"Ravelo\x1a"), "an encrypted store")
-    session.desktop.key("Escape")
+    switch_encryption(session, True)
     yield "a text from before it was encrypted", "before zuckerhut", False
     session.desktop.copy_text("encrypted zuckerhut")
     time.sleep(1)
     session.restart(**session.ravelo.preferences())
     yield "a text copied since, after a restart", "encrypted zuckerhut", False
+    switch_encryption(session, False)
+    yield "the same once it is turned off", "encrypted zuckerhut", True
 
 
 def erase(session):

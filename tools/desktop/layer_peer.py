@@ -1,6 +1,7 @@
-"""A bar or a wallpaper on a Wayland desktop. Prints "ready" when mapped.
+"""A bar, a wallpaper or a pulse on a Wayland desktop: an invisible line that is drawn all the time.
+Prints "ready" when mapped.
 
-layer_peer.py bar|wallpaper COLOR HEIGHT OUTPUT   the number of the output, from the left
+layer_peer.py bar|wallpaper|pulse COLOR HEIGHT OUTPUT   the number of the output, from the left
 """
 
 import sys
@@ -20,12 +21,17 @@ window.set_size_request(1, max(int(height), 1))
 paint(window, color)
 GtkLayerShell.init_for_window(window)
 GtkLayerShell.set_monitor(window, Gdk.Display.get_default().get_monitor(int(output)))
-bar = kind == "bar"
-GtkLayerShell.set_layer(window, GtkLayerShell.Layer.TOP if bar else GtkLayerShell.Layer.BACKGROUND)
-for edge in (GtkLayerShell.Edge.TOP, GtkLayerShell.Edge.LEFT, GtkLayerShell.Edge.RIGHT):
-    GtkLayerShell.set_anchor(window, edge, True)
-GtkLayerShell.set_anchor(window, GtkLayerShell.Edge.BOTTOM, not bar)
-GtkLayerShell.set_exclusive_zone(window, int(height) if bar else -1)
+LAYERS, EDGES = GtkLayerShell.Layer, GtkLayerShell.Edge
+layer, free_edge, zone = {"bar": (LAYERS.TOP, EDGES.BOTTOM, int(height)),
+                            "wallpaper": (LAYERS.BACKGROUND, None, -1),
+                            "pulse": (LAYERS.OVERLAY, EDGES.TOP, -1)}[kind]
+GtkLayerShell.set_layer(window, layer)
+for edge in (EDGES.TOP, EDGES.LEFT, EDGES.RIGHT, EDGES.BOTTOM):
+    GtkLayerShell.set_anchor(window, edge, edge != free_edge)
+GtkLayerShell.set_exclusive_zone(window, zone)
+if kind == "pulse":
+    window.set_visual(window.get_screen().get_rgba_visual())
+    window.add_tick_callback(lambda *_: window.queue_draw() or True)
 window.connect("map-event", lambda *_: say("ready"))
 window.show()
 Gtk.main()

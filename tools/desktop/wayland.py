@@ -2,6 +2,7 @@
 
 import contextlib
 import json
+import math
 import os
 import pathlib
 import pwd
@@ -12,6 +13,7 @@ import tempfile
 
 from gi.repository import Gio, GLib
 
+import page
 from desktop import HERE, Desktop, Monitor, Picture, Ravelo, _die_with_parent, wait_for
 WIDTH, HEIGHT = 1280, 800
 LEFT, RIGHT = (Monitor(None, x, 0, WIDTH, HEIGHT) for x in (0, WIDTH))
@@ -32,7 +34,7 @@ LABWC_CONFIGURATION = """<labwc_config>
 KEYS = {"Escape": 1, "Tab": 15, "Return": 28, " ": 57, "F2": 60, "End": 107, "Down": 108} | {
     key: first + place for row, first in (("1234567890", 2), ("qwertyuiop", 16), ("asdfghjkl", 30),
                                           ("zxcvbnm", 44)) for place, key in enumerate(row)}
-MODIFIERS = {"shift": 1, "ctrl": 4}
+MODIFIERS = {"shift": 1, "ctrl": 4, "super": 64}
 BACKGROUND = (64, 160, 96)
 
 
@@ -133,7 +135,11 @@ class WaylandDesktop(Desktop):
     # Screen, pointer and keyboard.
 
     def picture(self):
-        done = subprocess.run(["grim", "-t", "ppm", "-"], env=self.env, stdout=subprocess.PIPE,
+        return self._grim()
+
+    def _grim(self, *part, display=None):
+        env = {**self.env, "WAYLAND_DISPLAY": display or self.env["WAYLAND_DISPLAY"]}
+        done = subprocess.run(["grim", "-t", "ppm", *part, "-"], env=env, stdout=subprocess.PIPE,
                               stderr=subprocess.DEVNULL, timeout=20, check=False)
         return Picture(done.stdout)
 
@@ -180,11 +186,14 @@ class WaylandDesktop(Desktop):
 
 class SwayDesktop(WaylandDesktop):
     def _start_compositor(self):
+        self._start_sway(self.xwayland)
+
+    def _start_sway(self, xwayland):
         reading, writing = os.pipe()
         configuration = self._folder / "config"
         configuration.write_text(SWAY_CONFIGURATION.format(
-            report=writing, xwayland="force" if self.xwayland else "disable",
-            prepare="xhost +local: >/dev/null &&" if self.xwayland else ""))  # For other users.
+            report=writing, xwayland="force" if xwayland else "disable",
+            prepare="xhost +local: >/dev/null &&" if xwayland else ""))  # For other users.
         self._spawn_wlroots("sway", "-c", configuration, pass_fds=(writing,))
         os.close(writing)
         with os.fdopen(reading) as answer:
@@ -260,28 +269,39 @@ class KWinDesktop(WaylandDesktop):
         self._scale = 1
 
     def _start_compositor(self):
-        super()._start_bus()  # It offers screenshots on it.
-        # Its file capabilities can fail in a container, and a copy has none.
-        program = shutil.copy(shutil.which("kwin_wayland"), self._folder)
+        super()._start_bus()  # It is called on it.
         applications = self.home / "data/applications"
         applications.mkdir(parents=True)
         (applications / "pictures.desktop").write_text(
             "[Desktop Entry]\nType=Application\nName=Pictures\n"
             f"Exec={os.path.realpath('/proc/self/exe')}\n"
             "X-KDE-DBUS-Restricted-Interfaces=org.kde.KWin.ScreenShot2\n")
-        env = {**self.env, "XDG_RUNTIME_DIR": str(self._folder), "KWIN_COMPOSE": "O2",
-               "LIBGL_ALWAYS_SOFTWARE": "1", "KWIN_WAYLAND_NO_PERMISSION_CHECKS": "1",
-               "KWIN_SCREENSHOT_NO_PERMISSION_CHECKS": "1"}
-        command = [program, "--virtual", "--width", WIDTH, "--height", HEIGHT, "--output-count", 2,
-                   "--no-lockscreen", "--no-global-shortcuts", "--socket", "wayland-k"]
-        self.server = self.spawn(*command, *(["--xwayland"] if self.xwayland else []), env=env,
-                                 stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
-        self._take_sockets("wayland-k")
-        self.env["XDG_CURRENT_DESKTOP"] = "KDE"
+        self._start_kwin("O2", "--virtual")
         self._bus = self.bus()
         wait_for(lambda: "CaptureWorkspace" in self.run(
             "gdbus", "introspect", "--session", "--dest", "org.kde.KWin", "--object-path",
             "/org/kde/KWin/ScreenShot2"), "KWin")
+        self._prepare()
+
+    def _start_kwin(self, renderer, *backend):
+        # Its file capabilities can fail in a container, and a copy has none.
+        program = shutil.copy(shutil.which("kwin_wayland"), self._folder)
+        report, script = self._folder / "report", self._folder / "report.sh"
+        script.write_text(f"echo $WAYLAND_DISPLAY $DISPLAY >{report}.new; mv {report}.new {report}")
+        # The pointer jumps here, and would be held at the edge of an output.
+        (self.home / "config/kwinrc").write_text("[EdgeBarrier]\nEdgeBarrier=0\nCornerBarrier=false\n")
+        env = {**self.env, "XDG_RUNTIME_DIR": str(self._folder), "KWIN_COMPOSE": renderer,
+               "LIBGL_ALWAYS_SOFTWARE": "1", "KWIN_WAYLAND_NO_PERMISSION_CHECKS": "1",
+               "KWIN_SCREENSHOT_NO_PERMISSION_CHECKS": "1"}
+        self.server = self.spawn(
+            program, *backend, "--width", WIDTH, "--height", HEIGHT, "--output-count", 2, "--no-lockscreen",
+            "--no-global-shortcuts", "--socket", "wayland-k", *(["--xwayland"] if self.xwayland else []),
+            f"sh {script}", env=env, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL)
+        wait_for(report.exists, "KWin")
+        self._take_sockets(report.read_text())
+        self.env["XDG_CURRENT_DESKTOP"] = "KDE"
+
+    def _prepare(self):
         self._call("/VirtualDesktopManager", "org.kde.KWin.VirtualDesktopManager.createDesktop", 1, "two")
         self._doctor(2, "disable")
         self._wait_for_outputs(1)
@@ -342,6 +362,46 @@ def kwin_picture(bus):
     for to, source in enumerate((2, 1, 0)):  # Blue is first.
         pixels[to::3] = data[source::4]
     return Picture(b"P6\n%d %d\n255\n" % (about["width"], about["height"]) + bytes(pixels))
+
+
+class NestedKWinDesktop(KWinDesktop, SwayDesktop):
+    """With its outputs in windows of a sway, which takes the pictures: without a graphics device KWin 6
+    draws by the processor only, and then takes none itself.
+    """
+
+    outputs_at_start = 2
+
+    def _start_compositor(self):
+        WaylandDesktop._start_bus(self)
+        self._start_sway(xwayland=False)
+        self._outer = self.env["WAYLAND_DISPLAY"]
+        self.sway("output", "HEADLESS-2", "resolution", f"{WIDTH}x{HEIGHT}", "position", WIDTH, 0)
+        for output in range(2):  # KWin waits for sway's next picture, even if it has changed nothing.
+            self.layer("pulse", "transparent", 1, output)
+        self._start_kwin("Q", "--wayland-display", self._outer)
+        for number in (1, 2):  # Each fills one of sway's.
+            wait_for(lambda n=number: '"success": true' in self.sway(
+                f'[title="WL-{n - 1}"] move container to output HEADLESS-{n}'), f"KWin's output {number}")
+        self._prepare()
+
+    def set_scale(self, scale):
+        """Sway gives the window a size that makes as many pixels as before."""
+        super().set_scale(scale)
+        width, height = (int(length / scale) * self._outer_scale() for length in (WIDTH, HEIGHT))
+        self.sway("output", "HEADLESS-1", "resolution", f"{width}x{height}", "scale", self._outer_scale())
+
+    def _outer_scale(self):
+        """KWin tells sway whole scales only."""
+        return math.ceil(self._scale)
+
+    def picture(self):
+        width, height = (length // self._outer_scale() for length in (WIDTH * self.outputs, HEIGHT))
+        return self._grim("-g", f"0,0 {width}x{height}", display=self._outer)
+
+
+def kwin_desktop(hand, xwayland=False):
+    major = int(page.version("kwin_wayland").split(".")[0])
+    return (NestedKWinDesktop if major >= 6 else KWinDesktop)(hand, xwayland)
 
 
 class WaylandRavelo(Ravelo):

@@ -2,8 +2,8 @@
 //
 //   move X Y WIDTH HEIGHT   to a place in the layout of all outputs, which is that large
 //   press, release          the left button
-//   key CODE [MODIFIERS]    a key of linux/input-event-codes.h; 1 is Shift, 4 is Control
-//   wait                    nothing
+//   key CODE [MODIFIERS]    a key of linux/input-event-codes.h; 1 is Shift, 4 is Control, 64 is
+//   Super wait                    nothing
 //
 // Says "ready" once both exist, and after each line once the compositor has handled it.
 
@@ -15,6 +15,7 @@
 #include <memory>
 #include <sstream>
 #include <string>
+#include <utility>
 
 #include <fake-input-client.h>
 #include <linux/input-event-codes.h>
@@ -114,11 +115,12 @@ public:
 
     void key(uint32_t code, uint32_t modifiers) override {
         const auto hold = [&](uint32_t state) {
-            if ((modifiers & 1) != 0) {
-                org_kde_kwin_fake_input_keyboard_key(fake_, KEY_LEFTSHIFT, state);
-            }
-            if ((modifiers & 4) != 0) {
-                org_kde_kwin_fake_input_keyboard_key(fake_, KEY_LEFTCTRL, state);
+            constexpr std::pair<uint32_t, uint32_t> keys[] = {
+                {1, KEY_LEFTSHIFT}, {4, KEY_LEFTCTRL}, {64, KEY_LEFTMETA}};
+            for (const auto& [modifier, held] : keys) {
+                if ((modifiers & modifier) != 0) {
+                    org_kde_kwin_fake_input_keyboard_key(fake_, held, state);
+                }
             }
         };
         hold(1);

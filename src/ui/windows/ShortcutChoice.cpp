@@ -98,7 +98,8 @@ QStringList ShortcutChoice::caps() const {
 bool ShortcutChoice::isMistaken() const {
     using State = GlobalShortcut::State;
     return shortcut_ != nullptr && !recording_ &&
-           (shortcut_->state() == State::taken || shortcut_->state() == State::refused);
+           (shortcut_->state() == State::taken || shortcut_->state() == State::refused ||
+            shortcut_->state() == State::unassigned);
 }
 
 QString ShortcutChoice::refusal() const {
@@ -124,7 +125,14 @@ QString ShortcutChoice::note() const {
     case State::asked:
         return tr("Waiting for the desktop\u2026");
     case State::registered:
-        return tr("Click, then press new keys to change it.");
+        return shortcut_->description().isEmpty()
+                   ? tr("Click, then press new keys to change it.")
+                   : tr("The desktop has registered \u201c%1\u201d. Click, then press new keys to "
+                        "change it.")
+                         .arg(shortcut_->description());
+    case State::unassigned:
+        return tr("The desktop has assigned no keys to it; another program may have them. Click, "
+                  "then press other keys, or choose some in the desktop\u2019s settings.");
     case State::taken:
         return tr("Taken by another program. Click, then press other keys.");
     case State::refused:

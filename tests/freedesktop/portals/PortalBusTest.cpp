@@ -1,6 +1,7 @@
 #include "platform/freedesktop/portals/PortalBus.h"
 #include "base/Files.h"
 #include "freedesktop/PrivateBus.h"
+#include "freedesktop/StandIn.h"
 
 #include <QCoreApplication>
 #include <QDBusConnectionInterface>
@@ -23,6 +24,13 @@ public Q_SLOTS:
 
 TEST(PortalBus, isConnectedByAChildThatAnybodyMayLookAt) {
     PrivateBus bus;
+    QStringList calls;
+    StandIn portal([&](const QDBusMessage& call) {
+        calls.append(call.member() + u' ' + call.arguments().value(0).toString());
+        return std::optional(QVariant());
+    });
+    QDBusConnection portalSide = bus.connect(u"portal"_s);
+    portal.serve(portalSide, u"org.freedesktop.portal.Desktop"_s);
     const QByteArray before = qgetenv("DBUS_SESSION_BUS_ADDRESS");
     qputenv("DBUS_SESSION_BUS_ADDRESS", bus.address().toUtf8());
     QDBusConnection portals = portalBus(RAVELO_BUS);
@@ -45,6 +53,9 @@ TEST(PortalBus, isConnectedByAChildThatAnybodyMayLookAt) {
     const auto answer = portals.asyncCall(call);
     EXPECT_TRUE(eventually([&] { return answer.isFinished(); }));
     EXPECT_EQ(answer.reply().arguments().value(0).toByteArray(), large);
+
+    EXPECT_EQ(calls, QStringList{u"Register org.ravelo.Ravelo"_s})
+        << "the portal does not know whose permissions it keeps";
 
     portals = QDBusConnection(QString());
     QDBusConnection::disconnectFromBus(u"ravelo-portals"_s);

@@ -5,8 +5,35 @@
 #include "freedesktop/StandIn.h"
 
 #include <QDBusArgument>
+#include <QDBusMetaType>
 #include <QDBusObjectPath>
 #include <QDBusVariant>
+
+namespace ravelo {
+
+/// As portals list them.
+struct Listed {
+    QString id;
+    QVariantMap properties;
+};
+
+QDBusArgument& operator<<(QDBusArgument& argument, const Listed& one) {
+    argument.beginStructure();
+    argument << one.id << one.properties;
+    argument.endStructure();
+    return argument;
+}
+
+const QDBusArgument& operator>>(const QDBusArgument& argument, Listed& one) {
+    argument.beginStructure();
+    argument >> one.id >> one.properties;
+    argument.endStructure();
+    return argument;
+}
+
+} // namespace ravelo
+
+Q_DECLARE_METATYPE(ravelo::Listed)
 
 namespace ravelo {
 namespace {
@@ -18,10 +45,12 @@ const QString path = u"/org/freedesktop/portal/desktop"_s;
 const QString shortcuts = u"org.freedesktop.portal.GlobalShortcuts"_s;
 const QString session = u"/org/freedesktop/portal/desktop/session/it"_s;
 
-/// Answers requests by signals, as the real one.
+/// Answers requests by signals, as the real one, and keeps the keys of each ID.
 class Portal {
 public:
     explicit Portal(PrivateBus& bus) : connection_(bus.connect(u"portal"_s)) {
+        qDBusRegisterMetaType<Listed>();
+        qDBusRegisterMetaType<QList<Listed>>();
         standIn_.serve(connection_, service);
     }
 
@@ -29,6 +58,14 @@ public:
         auto signal = QDBusMessage::createSignal(path, shortcuts, u"Activated"_s);
         signal << QVariant::fromValue(QDBusObjectPath(session)) << id << quint64(1)
                << QVariantMap{{u"activation_token"_s, token}};
+        connection_.send(signal);
+    }
+
+    /// In its settings.
+    void change(const QString& description) {
+        known[0].properties[u"trigger_description"_s] = description;
+        auto signal = QDBusMessage::createSignal(path, shortcuts, u"ShortcutsChanged"_s);
+        signal << QVariant::fromValue(QDBusObjectPath(session)) << QVariant::fromValue(known);
         connection_.send(signal);
     }
 
@@ -46,9 +83,11 @@ public:
         }
     }
 
-    bool held = false; ///< Requests are not answered.
-    uint response = 0; ///< To requests; 1 if the user declines.
-    QString trigger;   ///< The preferred one of the last request.
+    bool held = false;         ///< Requests are not answered.
+    uint response = 0;         ///< To requests; 1 if the user declines.
+    QString assigned = u"M"_s; ///< What it calls the keys of a new ID.
+    QString trigger;           ///< The preferred one of the last request.
+    QList<Listed> known;
     QStringList calls;
 
     QDBusConnection& connection() { return connection_; }
@@ -70,7 +109,10 @@ private:
         if (call.member() == u"CreateSession") {
             results.insert(u"session_handle"_s, session);
         } else {
-            results.insert(u"shortcuts"_s, bound(call));
+            if (call.member() == u"BindShortcuts") {
+                bind(call);
+            }
+            results.insert(u"shortcuts"_s, QVariant::fromValue(known));
         }
         auto signal =
             QDBusMessage::createSignal(request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
@@ -79,18 +121,10 @@ private:
         return QVariant::fromValue(QDBusObjectPath(request));
     }
 
-    /// The shortcuts as they were asked for.
-    QVariant bound(const QDBusMessage& call) {
-        const auto asked = call.arguments().at(1).value<QDBusArgument>();
-        QString id;
-        QVariantMap properties;
-        asked.beginArray();
-        asked.beginStructure();
-        asked >> id >> properties;
-        asked.endStructure();
-        asked.endArray();
-        trigger = properties.value(u"preferred_trigger"_s).toString();
-        return call.arguments().at(1);
+    void bind(const QDBusMessage& call) {
+        known = qdbus_cast<QList<Listed>>(call.arguments().at(1));
+        trigger = known[0].properties.take(u"preferred_trigger"_s).toString();
+        known[0].properties.insert(u"trigger_description"_s, assigned);
     }
 
     QDBusConnection connection_;
@@ -114,7 +148,7 @@ TEST(ShortcutsPortal, RegistersKeysAndReportsPresses) {
     EXPECT_TRUE(eventually([&] { return shortcut.state() == State::registered; }));
     EXPECT_EQ(portal.trigger, u"SHIFT+LOGO+v"_s);
     portal.press(u"another"_s);
-    portal.press(u"toggle"_s, u"a token"_s);
+    portal.press(u"toggle-SHIFT+LOGO+v"_s, u"a token"_s);
     EXPECT_TRUE(eventually([&] { return !tokens.isEmpty(); }));
     EXPECT_EQ(tokens, QByteArrayList{"a token"});
     shortcut.set(std::nullopt);
@@ -161,7 +195,33 @@ TEST(ShortcutsPortal, RegistersAgainWithAPortalThatStartsAgain) {
         << "its keys went with it";
     ASSERT_TRUE(portal.connection().registerService(service));
     EXPECT_TRUE(eventually([&] { return shortcut.state() == State::registered; }));
-    EXPECT_EQ(portal.calls.count(u"BindShortcuts"_s), 2);
+    EXPECT_EQ(portal.calls.count(u"Register"_s), 1) << "it asks an unknown program";
+    EXPECT_EQ(portal.calls.count(u"CreateSession"_s), 2);
+}
+
+TEST(ShortcutsPortal, KnownKeysAreNotBoundAgainButOthersAre) {
+    PrivateBus bus;
+    Portal portal(bus);
+    const auto keys = KeyCombination::fromText(u"Super+V"_s);
+    for (const QString& name : {u"first"_s, u"second"_s}) {
+        ShortcutsPortal shortcut(bus.connect(name));
+        shortcut.set(keys);
+        EXPECT_TRUE(eventually([&] { return shortcut.state() == State::registered; }));
+        EXPECT_EQ(shortcut.description(), u"M"_s);
+    }
+    EXPECT_EQ(portal.calls.count(u"BindShortcuts"_s), 1) << "KDE shows its settings at each start";
+
+    ShortcutsPortal shortcut(bus.connect(u"third"_s));
+    shortcut.set(keys);
+    EXPECT_TRUE(eventually([&] { return shortcut.state() == State::registered; }));
+    portal.change(u"N"_s);
+    EXPECT_TRUE(eventually([&] { return shortcut.description() == u"N"_s; }))
+        << "the user has changed them in the desktop's settings";
+    portal.assigned.clear();
+    shortcut.set(KeyCombination::fromText(u"Super+J"_s));
+    EXPECT_TRUE(eventually([&] { return shortcut.state() == State::unassigned; }))
+        << "another program has them";
+    EXPECT_EQ(portal.trigger, u"LOGO+j"_s) << "the portal keeps the old keys of an ID";
 }
 
 TEST(ShortcutsPortal, SessionsEndOnEitherSide) {

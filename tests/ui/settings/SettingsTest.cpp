@@ -78,6 +78,10 @@ TEST_F(Settings, AShortcutIsRecorded) {
     EXPECT_TRUE(window->isVisible()) << "Escape cancels the recording only";
     EXPECT_EQ(kept(u"shortcut"_s), u"Super+V"_s);
 
+    shortcut.called = u"Meta+J"_s;
+    shortcut.become(GlobalShortcut::State::registered);
+    EXPECT_TRUE(in(window, u"shortcutNote"_s)->property("text").toString().contains(u"Meta+J"_s))
+        << "the user has changed them in the desktop's settings";
     shortcut.become(GlobalShortcut::State::taken);
     EXPECT_TRUE(in(window, u"shortcutNote"_s)
                     ->property("text")

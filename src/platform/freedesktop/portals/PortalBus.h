@@ -11,4 +11,8 @@ namespace ravelo {
 /// this process. Not connected if it could not be started.
 [[nodiscard]] QDBusConnection portalBus(const QString& program);
 
+/// Tells the portal which desktop file is ours, so that its dialogs and settings name us. To be
+/// called before anything else, and again if it starts again. Nothing if it cannot know that.
+void introduceToPortals(const QDBusConnection& bus);
+
 } // namespace ravelo

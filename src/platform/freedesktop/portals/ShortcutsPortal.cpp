@@ -1,6 +1,7 @@
 #include "platform/freedesktop/portals/ShortcutsPortal.h"
 
 #include "platform/freedesktop/BusCall.h"
+#include "platform/freedesktop/portals/PortalBus.h"
 
 #include <QDBusArgument>
 #include <QDBusMetaType>
@@ -45,7 +46,6 @@ const QString path = u"/org/freedesktop/portal/desktop"_s;
 const QString interface = u"org.freedesktop.portal.GlobalShortcuts"_s;
 const QString requestInterface = u"org.freedesktop.portal.Request"_s;
 const QString sessionInterface = u"org.freedesktop.portal.Session"_s;
-const QString shortcutId = u"toggle"_s;
 constexpr std::chrono::seconds timeout(5);
 
 /// In the XDG format for shortcuts.
@@ -62,6 +62,11 @@ QString trigger(const KeyCombination& keys) {
     }
     parts.append(keys.keysymName());
     return parts.join(u'+');
+}
+
+/// Portals keep the keys of an ID that they know, whatever we prefer: other keys need another.
+QString shortcutId(const KeyCombination& keys) {
+    return u"toggle-"_s + trigger(keys);
 }
 
 } // namespace
@@ -96,6 +101,7 @@ void ShortcutsPortal::follow(const QString& owner) {
     abandoned_.clear();
     setState(State::impossible);
     if (!owner.isEmpty()) {
+        introduceToPortals(bus_);
         askForVersion();
     }
 }
@@ -142,8 +148,9 @@ void ShortcutsPortal::set(const std::optional<KeyCombination>& keys) {
     }
 }
 
-void ShortcutsPortal::setState(State state) {
-    if (std::exchange(state_, state) != state) {
+void ShortcutsPortal::setState(State state, const QString& description) {
+    const bool isNew = std::exchange(state_, state) != state;
+    if (std::exchange(description_, description) != description || isNew) {
         changes_.notify();
     }
 }
@@ -151,13 +158,21 @@ void ShortcutsPortal::setState(State state) {
 void ShortcutsPortal::open() {
     // From any sender, because matching one blocks.
     bus_.connect({}, path, interface, u"Activated"_s, this, SLOT(activated(QDBusMessage)));
-    request(u"CreateSession"_s, {},
-            {{u"session_handle_token"_s, u"ravelo"_s + QString::number(requests_)}});
+    bus_.connect({}, path, interface, u"ShortcutsChanged"_s, this, SLOT(changed(QDBusMessage)));
+    // KDE stores the keys by it for programs without a desktop file.
+    const QString token = abandoned_.isEmpty() ? u"ravelo"_s : u"ravelo%1"_s.arg(requests_);
+    request(u"CreateSession"_s, {}, {{u"session_handle_token"_s, token}});
     setState(State::asked);
 }
 
+/// To bind keys again that it knows could show its settings again, as on KDE.
+void ShortcutsPortal::list() {
+    isListing_ = true;
+    request(u"ListShortcuts"_s, {QVariant::fromValue(QDBusObjectPath(session_))}, {});
+}
+
 void ShortcutsPortal::bind() {
-    const QList<PortalShortcut> shortcuts{{shortcutId,
+    const QList<PortalShortcut> shortcuts{{shortcutId(*keys_),
                                            {{u"description"_s, tr("Open or close Ravelo")},
                                             {u"preferred_trigger"_s, trigger(*keys_)}}}};
     request(
@@ -179,6 +194,7 @@ void ShortcutsPortal::close() {
 
 void ShortcutsPortal::forget() {
     call_.reset();
+    isListing_ = false;
     if (!request_.isEmpty()) {
         listenTo(std::exchange(request_, {}), Listening::off);
     }
@@ -238,15 +254,39 @@ void ShortcutsPortal::responded(const QDBusMessage& response) {
         return;
     }
     request_.clear();
-    if (arguments.value(0).toUInt() != 0) {
-        setState(State::refused);
-    } else if (session_.isEmpty()) {
+    const bool isGranted = arguments.value(0).toUInt() == 0;
+    if (session_.isEmpty() && isGranted) {
         session_ = session;
         bus_.connect({}, session_, sessionInterface, u"Closed"_s, this, SLOT(closed(QDBusMessage)));
+        list();
+    } else if (isGranted && accept(results.value(u"shortcuts"_s))) {
+        isListing_ = false;
+    } else if (std::exchange(isListing_, false)) {
         bind();
     } else {
-        const auto bound = qdbus_cast<QList<PortalShortcut>>(results.value(u"shortcuts"_s));
-        setState(bound.isEmpty() ? State::refused : State::registered);
+        setState(State::refused);
+    }
+}
+
+/// False if they do not include ours. Those without a description have keys, as far as known.
+bool ShortcutsPortal::accept(const QVariant& shortcuts) {
+    for (const PortalShortcut& one : qdbus_cast<QList<PortalShortcut>>(shortcuts)) {
+        if (one.id == shortcutId(*keys_)) {
+            const QVariant description = one.properties.value(u"trigger_description"_s);
+            const bool hasNone = description.isValid() && description.toString().isEmpty();
+            setState(hasNone ? State::unassigned : State::registered, description.toString());
+            return true;
+        }
+    }
+    return false;
+}
+
+/// In the desktop's settings.
+void ShortcutsPortal::changed(const QDBusMessage& signal) {
+    const QVariantList arguments = signal.arguments();
+    if (isFromPortal(signal) && keys_ &&
+        arguments.value(0).value<QDBusObjectPath>().path() == session_) {
+        (void)accept(arguments.value(1));
     }
 }
 
@@ -259,7 +299,7 @@ void ShortcutsPortal::closed(const QDBusMessage& signal) {
 
 void ShortcutsPortal::activated(const QDBusMessage& signal) {
     const QVariantList arguments = signal.arguments();
-    if (isFromPortal(signal) && arguments.value(1).toString() == shortcutId &&
+    if (isFromPortal(signal) && keys_ && arguments.value(1).toString() == shortcutId(*keys_) &&
         arguments.value(0).value<QDBusObjectPath>().path() == session_) {
         const auto options = qdbus_cast<QVariantMap>(arguments.value(3));
         presses_.notify(options.value(u"activation_token"_s).toString().toUtf8());

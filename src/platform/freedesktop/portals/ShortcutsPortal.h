@@ -11,8 +11,8 @@
 namespace ravelo {
 
 /// Keys by the portal org.freedesktop.portal.GlobalShortcuts, which may ask the user and register
-/// others than those that we prefer. Impossible until the portal has answered. If the portal starts
-/// again, the keys are registered again. Main thread.
+/// others than those that we prefer; there the user can change them later. Impossible until the
+/// portal has answered. If the portal starts again, the keys are registered again. Main thread.
 class ShortcutsPortal final : public QObject, public GlobalShortcut {
     Q_OBJECT
 
@@ -22,6 +22,8 @@ public:
     ~ShortcutsPortal() override;
 
     [[nodiscard]] State state() const override { return state_; }
+
+    [[nodiscard]] QString description() const override { return description_; }
 
     [[nodiscard]] Handle onChange(std::function<void()> callback) override {
         return changes_.add(std::move(callback));
@@ -37,6 +39,7 @@ public:
 private Q_SLOTS:
     void responded(const QDBusMessage& response);
     void activated(const QDBusMessage& signal);
+    void changed(const QDBusMessage& signal);
     void closed(const QDBusMessage& signal);
 
 private:
@@ -48,9 +51,11 @@ private:
     void forget();
     void closeSession(const QString& session);
     void listenTo(const QString& request, Listening listening);
-    void setState(State state);
+    void setState(State state, const QString& description = {});
     void open();
+    void list();
     void bind();
+    [[nodiscard]] bool accept(const QVariant& shortcuts);
     void close();
     void request(const QString& method, const QVariantList& before, QVariantMap options);
     [[nodiscard]] bool isFromPortal(const QDBusMessage& message) const;
@@ -59,9 +64,11 @@ private:
     QString portal_; ///< Its unique name; empty if there is none.
     std::optional<KeyCombination> keys_;
     State state_ = State::impossible;
-    QString session_;       ///< Its path, while there is one.
-    QString request_;       ///< The path of the one that has not been answered.
-    QStringList abandoned_; ///< Paths of requests for sessions that are no longer wanted.
+    QString description_;
+    QString session_;        ///< Its path, while there is one.
+    bool isListing_ = false; ///< Whether the request is for the keys that it knows.
+    QString request_;        ///< The path of the one that has not been answered.
+    QStringList abandoned_;  ///< Paths of requests for sessions that are no longer wanted.
     int requests_ = 0;
     QDBusServiceWatcher watcher_; ///< Of the portal, once it was asked.
     Listeners<> changes_;

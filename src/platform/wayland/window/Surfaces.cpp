@@ -2,6 +2,9 @@
 
 #include "platform/wayland/connection/QtConnection.h"
 
+#include <QLibraryInfo>
+#include <QVersionNumber>
+
 namespace ravelo::wayland {
 
 using namespace Qt::StringLiterals;
@@ -25,6 +28,9 @@ Surfaces::Surfaces(std::unique_ptr<Globals> globals, LayerShell shell, Clipboard
       coverLockers_(globals_->has("zwlr_input_inhibit_manager_v1") &&
                     !globals_->has("ext_session_lock_manager_v1")),
       loseKeyboardByPress_(globals_->has("org_kde_plasma_shell")),
+      fitBuffers_(QLibraryInfo::version() >= QVersionNumber(6, 5) &&
+                  globals_->has("wp_fractional_scale_manager_v1") &&
+                  globals_->has("wp_viewporter")),
       pixel_(InvisiblePixel::create(*globals_)),
       blur_(*globals_),
       seat_(*globals_),

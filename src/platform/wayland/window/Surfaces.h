@@ -35,6 +35,9 @@ public:
     /// A press elsewhere takes the keyboard from a surface that has it, as on KWin.
     [[nodiscard]] bool loseKeyboardByPress() const { return loseKeyboardByPress_; }
 
+    /// Qt draws for any scale, and has the compositor fit its buffers into the surface.
+    [[nodiscard]] bool fitBuffers() const { return fitBuffers_; }
+
     /// See InvisibleSurface; null if the compositor cannot do it.
     [[nodiscard]] std::unique_ptr<InvisibleSurface> makeInvisible(QScreen* screen, QSize size);
 
@@ -45,6 +48,7 @@ private:
     LayerShell shell_;
     bool coverLockers_;
     bool loseKeyboardByPress_;
+    bool fitBuffers_;
     std::unique_ptr<InvisiblePixel> pixel_; ///< Or null.
     BlurBehind blur_;
     InputSeat seat_;

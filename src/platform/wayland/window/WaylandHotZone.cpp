@@ -80,11 +80,13 @@ void WaylandHotZone::report() {
     }
 }
 
-/// On every screen but the panel's.
+/// On every screen but the panel's. There the strip that the pointer is in stays, below the panel:
+/// sway 1.10 does not report the panel under a pointer that rests, nor that it leaves then.
 void WaylandHotZone::makeStrips() {
     const auto screens = screens_.all();
     std::erase_if(strips_, [&](const auto& strip) {
-        return strip.first == window_.screen() || !find(screens, strip.first);
+        return (strip.first == window_.screen() && strip.first != hovered_) ||
+               !find(screens, strip.first);
     });
     for (const Screen& screen : screens) {
         if (screen.id != window_.screen() && !strips_.contains(screen.id)) {
@@ -106,8 +108,14 @@ void WaylandHotZone::hover(InputSeat::Change change, const wl_surface* surface) 
     if (screen.isEmpty() || change == InputSeat::Change::pressed) {
         return;
     }
-    hovered_ = change == InputSeat::Change::entered ? screen : QString();
-    report();
+    if (change == InputSeat::Change::entered) {
+        hovered_ = screen;
+        report();
+    } else {
+        hovered_.clear();
+        makeStrips();
+        lookAgain(); // Not before it can have come to the panel.
+    }
 }
 
 QString WaylandHotZone::screenOf(const wl_surface* strip) const {

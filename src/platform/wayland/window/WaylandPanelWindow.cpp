@@ -129,6 +129,11 @@ void WaylandPanelWindow::configure(QSize size) {
     window_.resize(size);
     applyOutline();
     window_.show();
+    if (surfaces_.fitBuffers()) {
+        // Before it is shown, Qt takes up the whole scale that the compositor prefers, and keeps
+        // it.
+        wl_surface_set_buffer_scale(qt::surface(window_), 1);
+    }
     window_.requestUpdate(); // The compositor waits for a frame even if the size is the same.
 }
 
