@@ -5,7 +5,6 @@
 #include "panel/NotchGeometry.h"
 #include "panel/NotchShape.h"
 #include "platform/DragMonitor.h"
-#include "platform/InputGrab.h"
 #include "platform/SessionLock.h"
 #include "settings/AppSettings.h"
 #include "store/Store.h"
@@ -113,7 +112,7 @@ void NotchController::evaluateCollapsed(const HotZone::Sight& sight) {
         return;
     }
     if (++stripTicks_ >= 1) {
-        positionExpanded();
+        expand(sight, services_.inputGrab.ask());
     }
 }
 
@@ -294,8 +293,14 @@ void NotchController::setCollapsed(const Collapsed& collapsed) {
 }
 
 void NotchController::positionExpanded() {
-    const HotZone::Sight sight = services_.zone.look();
-    if (isOpen_ || !sight.screen || isLocked() || isInputHeld(sight)) {
+    if (!isOpen_ && !isLocked()) {
+        const auto grab = services_.inputGrab.ask(); // First: both answers come at once.
+        expand(services_.zone.look(), grab);
+    }
+}
+
+void NotchController::expand(const HotZone::Sight& sight, const InputGrab::Answer& grab) {
+    if (!sight.screen || isInputHeld(sight, grab)) {
         return;
     }
     isOpen_ = true;
@@ -334,16 +339,16 @@ bool NotchController::isLocked() const {
 
 /// A client that holds pointer and keyboard may be an unknown locker; the source of a drag
 /// may hold both too.
-bool NotchController::isInputHeld(const HotZone::Sight& sight) {
-    return services_.inputGrab.isHeldByAnother() && !filesOver_ &&
-           !(isDragOn(sight) && dragCarriesFiles());
+bool NotchController::isInputHeld(const HotZone::Sight& sight, const InputGrab::Answer& grab) {
+    return grab() && !filesOver_ && !(isDragOn(sight) && dragCarriesFiles());
 }
 
 TakenInput::Look NotchController::hideIfInputIsTaken() {
     if (!isOpen_) {
         return TakenInput::Look::enough;
     }
-    if (!isInputHeld(services_.zone.look())) {
+    const auto grab = services_.inputGrab.ask();
+    if (!isInputHeld(services_.zone.look(), grab)) {
         return TakenInput::Look::again;
     }
     hide();

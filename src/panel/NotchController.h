@@ -6,6 +6,7 @@
 #include "panel/HoverHold.h"
 #include "panel/TakenInput.h"
 #include "platform/HotZone.h"
+#include "platform/InputGrab.h"
 #include "platform/PanelWindow.h"
 #include "platform/Screens.h"
 #include "shelf/FileDrop.h"
@@ -23,7 +24,6 @@ class ClipboardManager;
 class DragMonitor;
 class EdgeBarrier;
 class FileTransfer;
-class InputGrab;
 class SessionLock;
 class Store;
 
@@ -165,7 +165,8 @@ private:
     [[nodiscard]] HoverHold::Press pressOf(const HotZone::Sight& sight) const;
     [[nodiscard]] bool isDragOn(const HotZone::Sight& sight) const;
     [[nodiscard]] bool dragCarriesFiles();
-    [[nodiscard]] bool isInputHeld(const HotZone::Sight& sight);
+    void expand(const HotZone::Sight& sight, const InputGrab::Answer& grab);
+    [[nodiscard]] bool isInputHeld(const HotZone::Sight& sight, const InputGrab::Answer& grab);
     void openBefore(Opening opening);
     void pressed(HotZone::Press press);
     void screensChanged();

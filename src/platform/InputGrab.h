@@ -12,8 +12,14 @@ class InputGrab {
 public:
     virtual ~InputGrab() = default;
 
-    /// Whether another program holds the pointer and the keyboard now. Two round trips at most.
-    [[nodiscard]] virtual bool isHeldByAnother() = 0;
+    /// Whether another program holds the pointer and the keyboard. Two round trips at most.
+    using Answer = std::function<bool()>;
+
+    /// Sends the question. The answer comes along with that to whatever is asked next, so the two
+    /// cost one round trip.
+    [[nodiscard]] virtual Answer ask() = 0;
+
+    [[nodiscard]] bool isHeldByAnother() { return ask()(); }
 
     /// Called when another program has shown a window of the kind that lockers and menus use: it
     /// may grab the input now or a few milliseconds later.

@@ -223,7 +223,11 @@ private:
 
 class FakeInputGrab final : public InputGrab {
 public:
-    [[nodiscard]] bool isHeldByAnother() override { return held; }
+    [[nodiscard]] Answer ask() override {
+        return [this] {
+            return held;
+        };
+    }
 
     [[nodiscard]] Handle onLikelyTaken(std::function<void()> callback) override {
         return likelyTaken.add(std::move(callback));

@@ -66,7 +66,11 @@ private:
     /// The shell's own grabs let no pointer reach the strip.
     class NoInputGrab final : public InputGrab {
     public:
-        [[nodiscard]] bool isHeldByAnother() override { return false; }
+        [[nodiscard]] Answer ask() override {
+            return [] {
+                return false;
+            };
+        }
 
         [[nodiscard]] Handle onLikelyTaken(std::function<void()> /*callback*/) override {
             return {};

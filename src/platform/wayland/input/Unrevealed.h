@@ -18,7 +18,11 @@ public:
 /// Programs cannot hold the input; the compositor keeps everything below a locker.
 class NoInputGrab final : public InputGrab {
 public:
-    [[nodiscard]] bool isHeldByAnother() override { return false; }
+    [[nodiscard]] Answer ask() override {
+        return [] {
+            return false;
+        };
+    }
 
     [[nodiscard]] Handle onLikelyTaken(std::function<void()> /*callback*/) override { return {}; }
 };

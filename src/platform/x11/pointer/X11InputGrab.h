@@ -8,7 +8,7 @@ namespace ravelo::x11 {
 
 /// Tries the pointer first and then the keyboard, and gives back at once what it got. The keyboard
 /// is tried only if the pointer is refused, because the focused window notices that.
-[[nodiscard]] bool isInputHeldByAnother(Connection& connection);
+[[nodiscard]] InputGrab::Answer askWhoHoldsInput(Connection& connection);
 
 /// On the main thread's connection.
 class X11InputGrab final : public InputGrab {
@@ -16,7 +16,7 @@ public:
     X11InputGrab(Connection& connection, ForeignCover& cover)
         : connection_(connection), cover_(cover) {}
 
-    [[nodiscard]] bool isHeldByAnother() override { return isInputHeldByAnother(connection_); }
+    [[nodiscard]] Answer ask() override { return askWhoHoldsInput(connection_); }
 
     [[nodiscard]] Handle onLikelyTaken(std::function<void()> callback) override {
         return cover_.onNewcomer(std::move(callback));

@@ -82,7 +82,7 @@ void CoverWatch::follow(xcb_window_t panel, QRect monitor) {
     const bool first = panel_ == XCB_WINDOW_NONE;
     panel_ = panel;
     monitor_ = monitor;
-    if (first && isInputHeldByAnother(connection_)) {
+    if (first && askWhoHoldsInput(connection_)()) {
         for (const xcb_window_t window : stack()) {
             newcomers_.push_back({window, true});
         }

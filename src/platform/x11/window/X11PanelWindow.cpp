@@ -74,7 +74,6 @@ void X11PanelWindow::place(const Screen& screen, QSizeF size) {
     if (monitor == nullptr) {
         return; // It went away; the notice of that is on its way.
     }
-    cover_.follow(id_, monitor->native);
     const QSize logicalSize = size.toSize();
     const QSize nativeSize = (QSizeF(logicalSize) * monitor->scale).toSize();
     const QPoint corner(monitor->native.x() + (monitor->native.width() - nativeSize.width()) / 2,
@@ -88,7 +87,8 @@ void X11PanelWindow::place(const Screen& screen, QSizeF size) {
     // Qt knows whole logical pixels only, which at scale 2 may be one device pixel off the middle.
     const auto left = static_cast<uint32_t>(corner.x());
     xcb_configure_window(qt_, id_, XCB_CONFIG_WINDOW_X, &left);
-    xcb_flush(qt_); // Qt flushes only when it has something to do itself.
+    xcb_flush(qt_);                      // Qt flushes only when it has something to do itself.
+    cover_.follow(id_, monitor->native); // Last: it asks the server, which shall paint first.
     if (scale_ != monitor->scale) {
         scale_ = monitor->scale;
         applyOutline();
