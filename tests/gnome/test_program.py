@@ -464,6 +464,71 @@ class PasteAtOnceTest(ProgramCase):
         return (self.session.home / ".config/ravelo/preferences.json").read_text()
 
 
+@unittest.skipIf(shell.release() < 48, "its portal has no shortcuts")
+class ShortcutTest(ProgramCase):
+    """Keys by the desktop's own portal, whose dialog asks the user."""
+
+    dialog, add = "Add Keyboard Shortcuts", (440, 22)
+
+    def setUp(self):
+        super().setUp()
+        self.ravelo.terminate()
+        self.ravelo.wait()
+        applications = self.session.home / ".local/share/applications"
+        applications.mkdir(parents=True, exist_ok=True)
+        (applications / "org.ravelo.Ravelo.desktop").write_text(
+            "[Desktop Entry]\nType=Application\nName=Ravelo\nExec=/bin/true\n")
+        for name in ("xdg-permission-store", "gsd-media-keys", "gnome-control-center-global-shortcuts-provider",
+                     "xdg-desktop-portal-gnome", "xdg-desktop-portal"):
+            self.session.start(f"/usr/libexec/{name}", log=f"{name}.log")
+            self.session.run("await sleep(1000)")
+
+    def start(self, shortcut):
+        preferences = self.session.home / ".config/ravelo/preferences.json"
+        preferences.write_text(json.dumps({**json.loads(preferences.read_text()), "shortcut": shortcut}))
+        self.ravelo = self.session.start(PROGRAM, log="ravelo.log")
+        until(lambda: self.strips() > 0 or self.failed(), "the extension is connected", 60)
+
+    def stop(self):
+        self.ravelo.terminate()
+        self.ravelo.wait()
+
+    def allow(self):
+        x, y, _, _ = until(lambda: self.window(self.dialog), "the desktop asks")["frame"]
+        self.session.run(f"await sleep(600); await click({x + self.add[0]}, {y + self.add[1]});")
+        until(lambda: not self.window(self.dialog), "the question is answered")
+
+    def press(self, letter):
+        self.session.run(f"{CONTROL} await control(Clutter.KEY_{letter}, Clutter.KEY_Super_L);")
+
+    def opens(self, letter):
+        """And closes."""
+        def pressed():
+            self.press(letter)
+            self.session.run("await sleep(500)")
+            return self.panel()
+
+        until(pressed, f"Super+{letter} opens the panel")
+        self.press(letter)
+        until(lambda: not self.panel(), f"Super+{letter} closes it")
+
+    def test_keys_are_asked_for_once_and_change(self):
+        self.start("Super+J")
+        self.allow()
+        self.opens("j")
+        self.stop()
+        self.start("Super+J")
+        self.opens("j")
+        self.assertFalse(self.window(self.dialog), "it asks again for the same keys")
+        self.stop()
+        self.start("Super+K")
+        self.allow()
+        self.opens("k")
+        self.press("j")
+        self.session.run("await sleep(1000)")
+        self.assertFalse(self.panel(), "the old keys still work")
+
+
 class TurnOnTest(ProgramCase):
     x11 = True
     extensions = ()

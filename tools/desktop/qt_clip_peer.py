@@ -17,6 +17,8 @@ def do(verb, value):
     clipboard = QGuiApplication.clipboard()
     if verb == "paste":
         data = clipboard.mimeData()
+        if value.startswith("text/plain"):  # Qt 6.8 hides its charset.
+            return base64.b64encode(data.text().encode()).decode()
         return base64.b64encode(data.data(value).data()).decode() if data.hasFormat(value) else \
             f"no {value}, but {data.formats()}"
     data = QMimeData()
