@@ -21,6 +21,8 @@ TooLargeCopy::Measure measure(TooLarge::Kind kind) {
         return TooLargeCopy::Measure::bytesOfText;
     case TooLarge::Kind::image:
         return TooLargeCopy::Measure::bytesOfImage;
+    case TooLarge::Kind::deepPixels:
+        return TooLargeCopy::Measure::deepPixelsOfImage;
     case TooLarge::Kind::pixels:
         break;
     }

@@ -1603,6 +1603,10 @@
         <source>Too large to keep · image of %1</source>
         <translation>Zu groß zum Behalten · Bild von %1</translation>
     </message>
+    <message>
+        <source>%1 megapixels of 16 bits</source>
+        <translation>%1 Megapixel mit 16 Bit</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

@@ -1603,6 +1603,10 @@
         <source>Too large to keep · image of %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 megapixels of 16 bits</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

@@ -1603,6 +1603,10 @@
         <source>Too large to keep · image of %1</source>
         <translation>Grande demais para guardar · imagem de %1</translation>
     </message>
+    <message>
+        <source>%1 megapixels of 16 bits</source>
+        <translation>%1 megapixels de 16 bits</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>

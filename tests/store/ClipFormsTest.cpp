@@ -241,7 +241,7 @@ TEST_F(StoreForms, areExportedAndImportedUnderANewName) {
     settle();
     const auto contents = importStore(archive, *store_->vault(), *decoder_, {});
     ASSERT_TRUE(contents) << qPrintable(contents.error().message);
-    store_->addAll(*contents, [](const auto& /*outcome*/) {});
+    store_->addAll(contents->contents, [](const auto& /*outcome*/) {});
     settle();
     const QUuid before = std::exchange(id_, store_->clips()[0].id);
     EXPECT_NE(id_, before);
@@ -250,7 +250,7 @@ TEST_F(StoreForms, areExportedAndImportedUnderANewName) {
 
     const auto again = importStore(archive, *store_->vault(), *decoder_, {});
     ASSERT_TRUE(again);
-    store_->addAll(*again, [](const auto& /*outcome*/) {});
+    store_->addAll(again->contents, [](const auto& /*outcome*/) {});
     settle();
     EXPECT_EQ(imageFiles().size(), 1) << "those of a clip that is there already";
 }

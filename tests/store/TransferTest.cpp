@@ -25,8 +25,10 @@ protected:
 
     Result<int> exported() { return exportStore(store_->contents(), *store_->vault(), archive_); }
 
+    Result<Import> import() { return importStore(archive_, *store_->vault(), *decoder_, {}); }
+
     Result<StoreContents> imported() {
-        return importStore(archive_, *store_->vault(), *decoder_, {});
+        return import().map([](const Import& import) { return import.contents; });
     }
 
     /// What an import does; the number of new snippets.
@@ -111,8 +113,27 @@ TEST_F(Transfer, ABadArchiveChangesNothing) {
     expectRefused("an image is missing");
     pack({{name, picture("png", Qt::red)}, {"clips/other.png", "x"}, {"store.json", json}});
     EXPECT_TRUE(imported()) << "a file that nothing names is ignored";
-    pack({{name, "no image"}, {"store.json", json}});
-    EXPECT_FALSE(imported()) << "an image that is none";
+}
+
+TEST_F(Transfer, AnImageThatCannotBeDecodedGoesWithItsClip) {
+    const ClipItem image = store_->clips()[0];
+    store_->setForms(image.id, {u"GIMP"_s});
+    Snippet snippet = store_->snippets()[0];
+    snippet.imageFileName = image.imageFileName;
+    store_->updateSnippet(snippet);
+    const QString file = store_->imagePath(image.imageFileName);
+    ASSERT_TRUE(writeFileAtomically(file, readFile(file)->first(60)));
+    settle();
+    ASSERT_EQ(exported(), 0);
+    const QStringList files = imageFiles();
+    const auto rest = import();
+    ASSERT_TRUE(rest) << qPrintable(rest.error().message);
+    EXPECT_EQ(rest->missing, 1);
+    ASSERT_EQ(rest->contents.data.clips.size(), 1);
+    EXPECT_EQ(rest->contents.data.clips[0].text, u"text"_s);
+    EXPECT_EQ(rest->contents.data.snippets[0].body, snippet.body);
+    EXPECT_EQ(rest->contents.data.snippets[0].imageFileName, QString());
+    EXPECT_EQ(imageFiles(), files) << "what was kept beside the clip is left out, too";
 }
 
 TEST_F(Transfer, ItsOwnExportDoublesNothing) {
