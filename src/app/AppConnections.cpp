@@ -1,6 +1,7 @@
 #include "app/AppDelegate.h"
 
 #include "app/ClaudeCode.h"
+#include "app/HistoryLength.h"
 #include "app/HistorySettings.h"
 #include "app/KeyWhileLocked.h"
 #include "app/StatusItemController.h"
@@ -118,6 +119,10 @@ void AppDelegate::wireShortcut() {
 /// Settings apply at once, without a restart.
 void AppDelegate::wireSettings() {
     history_ = std::make_unique<HistorySettings>(HistorySettings::Services{
+    historyLength_ = std::make_unique<HistoryLength>(*settings_, *store_,
+                                                     platform_.preferences->wasEmpty()
+                                                         ? HistoryLength::Preferences::lost
+                                                         : HistoryLength::Preferences::kept);
         *settings_, *store_, *clipboard_, selected_.get(), *view_->features().clips->list()});
 }
 

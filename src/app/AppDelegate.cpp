@@ -2,6 +2,7 @@
 
 #include "app/ClaudeCode.h"
 #include "app/Commands.h"
+#include "app/HistoryLength.h"
 #include "app/HistorySettings.h"
 #include "app/KeyWhileLocked.h"
 #include "app/SecondPlan.h"

@@ -275,6 +275,7 @@ Q_SIGNALS:
     void shelfChanged();
     void shelfRequestTickChanged();
     void timerChanged();
+    void imported(); ///< By `addAll`.
     void timerEnded(); ///< By itself; `timerChanged` follows.
     void remindersChanged();
 

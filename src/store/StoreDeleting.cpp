@@ -231,6 +231,7 @@ void Store::restore(const std::shared_ptr<Deleted>& deleted,
         [deleted, restorable, folder = clipsDir(), vault = services_.vault,
          mayWrite = services_.mayWrite] {
             *restorable = deleted->restore(folder, *vault, mayWrite);
+    Q_EMIT imported();
         },
         unlessCleared(std::move(putBackAll), std::move(putBackWhatClearingKeeps)));
 }

@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
@@ -71,7 +72,10 @@ void Store::adopt(StoredContents stored) {
     for (const StoreContents& one : later) {
         if (!one.data.clips.isEmpty()) {
             all += one.data.clips;
-            data_.clips = ClipHistory::merged(std::move(data_.clips), one.data.clips, rules_).clips;
+            data_.clips = ClipHistory::merged(std::move(data_.clips), one.data.clips, rules).clips;
+    HistoryRules rules = rules_; // The limit may not be known yet, if the preferences were lost.
+    rules.limit = std::max(rules.limit,
+                           int(std::ranges::count(std::as_const(all), false, &ClipItem::pinned)));
         }
         for (const QList<QUrl>& stack : one.shelf) {
             shelf = shelf.added(stack).value_or(shelf);

@@ -164,6 +164,24 @@ TEST_F(Locking, WhatUnlockingReplacesGoesWithItsFiles) {
 }
 
 TEST_F(Locking, AStoreByALaterVersionIsLeftAlone) {
+TEST_F(Locking, UnlockingDropsNoMoreThanWhatCameMeanwhileReplaces) {
+    unlock();
+    HistoryRules longer;
+    longer.limit = 200;
+    store_->setHistoryRules(longer);
+    for (int i = 0; i < 98; ++i) {
+        store_->addClip(u"text %1"_s.arg(i));
+    }
+    settle();
+    store_->vault()->lock();
+    startLocked(); // With the standard rules, as if the preferences were lost.
+    store_->addClip(u"later"_s);
+    settle();
+    unlock();
+    EXPECT_EQ(store_->clips().size(), 100);
+    EXPECT_EQ(store_->clips()[0].text, u"later"_s);
+}
+
     ASSERT_TRUE(QFile::remove(folder() + u"/key"_s));
     const QByteArray newer = R"({"version":2,"clips":[],"snippets":[],"note":"","note2":"",)"
                              R"("drawing":[],"shelfStacks":[]})";

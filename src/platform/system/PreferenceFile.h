@@ -40,6 +40,9 @@ public:
     /// The file existed at the start but could not be read, so this is not the first start.
     [[nodiscard]] bool wasUnreadable() const { return wasUnreadable_; }
 
+    /// Nothing was read at the start.
+    [[nodiscard]] bool wasEmpty() const { return wasEmpty_; }
+
     /// Retries a failed write now.
     void retry();
 
@@ -67,6 +70,7 @@ private:
     bool writing_ = false;
     bool changedMeanwhile_ = false;
     bool erased_ = false;
+    bool wasEmpty_ = false;
 };
 
 /// Removes a preference file and what was put aside beside it. Blocks; any thread.
