@@ -273,8 +273,14 @@ void Store::keepSecrets() {
 
 void Store::forget(const QList<QUuid>& secrets) {
     QList<ClipItem> clips = data_.clips;
-    clips.removeIf([&](const ClipItem& clip) { return secrets.contains(clip.id); });
-    apply(ClipChange{std::move(clips), {}});
+    const auto isOver = [&](const ClipItem& clip) {
+        return !clip.secret.isEmpty() && secrets.contains(clip.id);
+    };
+    if (clips.removeIf(isOver) > 0) {
+        apply(ClipChange{std::move(clips), {}});
+    } else { // It was deleted or kept meanwhile.
+        forgetting_.follow(data_.clips);
+    }
 }
 
 } // namespace ravelo

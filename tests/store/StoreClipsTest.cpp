@@ -81,6 +81,15 @@ TEST_F(StoreClips, SecretsAreNeverWritten) {
     settle();
     EXPECT_EQ(texts(), "two a one") << "sorted by the pin";
     EXPECT_EQ(saved().clips, store_->clips());
+
+    store_->setForgetAfter(Seconds(600));
+    const QUuid four = addSecret(u"four"_s);
+    addSecret(u"five"_s);
+    scheduler_.advance(Seconds(300));
+    scheduler_.setNow(Date{scheduler_.now().sinceReference - 3600});
+    store_->keepSecret(four);
+    scheduler_.advance(Seconds(300));
+    EXPECT_EQ(texts(), "four two a one") << "also if the clock was set back";
 }
 
 TEST_F(StoreClips, AddsAnImageOnceItsFileIsWritten) {
