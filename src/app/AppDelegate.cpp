@@ -281,7 +281,9 @@ void AppDelegate::erase(const std::function<void(const Answer&)>& reply) {
 void AppDelegate::erased(const Result<void>& done,
                          const std::function<void(const Answer&)>& reply) {
     if (!done) {
-        store_->captureAgain();
+        store_->resume();
+        platform_.preferences->resume();
+        encryption_->resume();
         notices_->deletionEnded(done.error().message);
         reply({1, {}, done.error().message});
         return;

@@ -2724,6 +2724,10 @@
         <source>what is stored is encrypted, and its key is gone</source>
         <translation>das Gespeicherte ist verschlüsselt, und sein Schlüssel fehlt</translation>
     </message>
+    <message>
+        <source>what is stored was erased meanwhile</source>
+        <translation>das Gespeicherte wurde inzwischen gelöscht</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::StoreNotices</name>

@@ -2724,6 +2724,10 @@
         <source>what is stored is encrypted, and its key is gone</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>what is stored was erased meanwhile</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::StoreNotices</name>

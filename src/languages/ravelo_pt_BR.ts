@@ -2724,6 +2724,10 @@
         <source>what is stored is encrypted, and its key is gone</source>
         <translation>o que está guardado é criptografado, e a chave se perdeu</translation>
     </message>
+    <message>
+        <source>what is stored was erased meanwhile</source>
+        <translation>o que estava guardado foi apagado nesse meio-tempo</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::StoreNotices</name>

@@ -126,6 +126,9 @@ void Store::dropGone(const FileLook::Found& found) {
             gone.insert(file);
         }
     }
+    if (!parkedMeanwhile_) { // Locked meanwhile.
+        return;
+    }
     parkedMeanwhile_.reset();
     setShelf(shelf_.removed(gone));
 }

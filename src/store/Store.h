@@ -78,12 +78,16 @@ public:
     /// vault. Does nothing while saving fails.
     void lock(std::function<void()> dropped);
 
-    /// Removes everything from memory and disk, and saves nothing from now on. Then calls `done`,
-    /// with the first failure. Copies are not kept from now on, unless it fails.
+    /// Why the last `lock` still waits, for the user; empty if it does not, or nothing failed.
+    [[nodiscard]] const QString& lockProblem() const { return lockProblem_; }
+
+    /// Removes everything from memory and disk; nothing is kept or saved from now on. Then calls
+    /// `done`, with the first failure.
     void erase(std::function<void(const Result<void>&)> done);
 
-    /// For a program that keeps running after `erase`, because something else was not erased.
-    void captureAgain() { erased_ = false; }
+    /// For a program that keeps running after `erase`, because something was not erased: begins
+    /// with what is left on the disk.
+    void resume();
 
     [[nodiscard]] const QList<ClipItem>& clips() const;
     [[nodiscard]] const QList<Snippet>& snippets() const;

@@ -129,8 +129,11 @@ void Store::unlock() {
     services_.worker.run(
         [vault = services_.vault, path = fileURL(), stored] { *stored = readStore(*vault, path); },
         [store = QPointer(this), stored] {
-            if (store) {
-                store->opening_ = false;
+            if (!store) {
+                return;
+            }
+            store->opening_ = false;
+            if (!store->erased_) { // Meanwhile.
                 store->locked_ = false;
                 store->begin(std::move(*stored));
                 store->saver_.saveNow();
@@ -197,15 +200,25 @@ void Store::erase(std::function<void(const Result<void>&)> done) {
     Q_EMIT cleared();
     const auto outcome = std::make_shared<Result<void>>();
     services_.worker.run(
-        [folder = folder_, outcome, mayWrite = services_.mayWrite] {
+        [folder = folder_, vault = services_.vault, outcome, mayWrite = services_.mayWrite] {
+            vault->refuseWrites();
             *outcome = eraseFiles(folder, mayWrite);
         },
-        [store = QPointer(this), outcome, done = std::move(done)] {
-            if (store && !*outcome) {
-                store->captureAgain();
-            }
-            done(*outcome);
-        });
+        [outcome, done = std::move(done)] { done(*outcome); });
+    announceAll();
+}
+
+void Store::resume() {
+    if (!std::exchange(erased_, false)) {
+        return;
+    }
+    Vault& vault = *services_.vault;
+    vault.admitWrites();
+    if (!QFileInfo::exists(vault.keyPath())) { // What is saved now could not be read without it.
+        vault.look();
+    }
+    locked_ = vault.state() == Vault::State::locked;
+    load();
     announceAll();
 }
 

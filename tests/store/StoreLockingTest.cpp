@@ -270,9 +270,10 @@ TEST_F(Erasing, EverythingGoesAndNothingComesBack) {
     EXPECT_EQ(QDir(folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
 }
 
-TEST_F(Erasing, CopiesAreKeptAgainIfItFails) {
-    mayWrite_ = [] {
-        return Result<void>(failure(u"the folder is read-only"_s));
+TEST_F(Erasing, IfItFailsWhatIsLeftStaysAndSavingGoesOn) {
+    bool readOnly = true;
+    mayWrite_ = [&] {
+        return readOnly ? Result<void>(failure(u"the folder is read-only"_s)) : Result<void>();
     };
     store_.reset();
     start();
@@ -281,7 +282,69 @@ TEST_F(Erasing, CopiesAreKeptAgainIfItFails) {
     worker_.drain();
     ASSERT_TRUE(done && !*done);
     store_->addClip(u"later"_s);
-    EXPECT_EQ(all(), QStringList(u"later"_s));
+    settle();
+    EXPECT_EQ(saved().clips.size(), 1);
+}
+
+TEST_F(Locking, ErasingEndsAnUnlock) {
+    store_->vault()->open(file_, key_);
+    store_->unlock();
+    store_->erase([](const auto& /*outcome*/) {});
+    worker_.drain();
+    store_->flush();
+    EXPECT_FALSE(QFile::exists(storeFile())) << "what was read is not saved again";
+    EXPECT_TRUE(store_->clips().isEmpty());
+}
+
+TEST_F(Locking, ALockThatCannotSaveSaysWhy) {
+    bool full = false;
+    mayWrite_ = [&]() -> Result<void> {
+        return full ? failure(u"the disk is full"_s) : Result<void>();
+    };
+    startLocked();
+    unlock();
+    full = true;
+    store_->addClip(u"last"_s);
+    store_->lock([&] { store_->vault()->lock(); });
+    EXPECT_EQ(store_->lockProblem(), QString()) << "not yet";
+    worker_.drain();
+    EXPECT_FALSE(store_->isLocked());
+    EXPECT_EQ(store_->lockProblem(), u"the disk is full"_s);
+    full = false;
+    store_->lock([&] { store_->vault()->lock(); });
+    worker_.drain();
+    EXPECT_TRUE(store_->isLocked());
+    EXPECT_EQ(store_->lockProblem(), QString());
+}
+
+TEST_F(Locking, ADeletedImageDoesNotStayInMemory) {
+    store_->addImageClip(png(Qt::blue));
+    settle();
+    const QString path = store_->imagePath(store_->clips()[0].imageFileName);
+    const QByteArray sealed = *readFile(path);
+    ASSERT_TRUE(store_->vault()->bytes(path)) << "shown while locked";
+    store_->deleteClip(store_->clips()[0].id);
+    worker_.drain();
+    ASSERT_TRUE(writeFileAtomically(path, sealed));
+    EXPECT_FALSE(store_->vault()->bytes(path));
+}
+
+TEST_F(Locking, WithParkedFilesDuringTheirCheck) {
+    const QUrl file = QUrl::fromLocalFile(storeFile());
+    unlock();
+    store_->addToShelf({file});
+    settle();
+    startLocked();
+    store_->vault()->open(file_, key_);
+    store_->unlock();
+    worker_.drain();
+    jobs_.hung = true;
+    store_->lock([&] { store_->vault()->lock(); });
+    worker_.drain();
+    ASSERT_TRUE(store_->isLocked());
+    settle(Seconds(3));
+    unlock();
+    EXPECT_EQ(store_->shelf().files(), QList<QUrl>{file});
 }
 
 TEST_F(Erasing, OldClipsGoAfterTheirTime) {
@@ -307,3 +370,19 @@ TEST_F(Erasing, AMistakenChoiceCanBeTakenBackForAMinute) {
 } // namespace
 
 } // namespace ravelo
+    worker_.drain();
+    store_->resume();
+    readOnly = false;
+    store_->addClip(u"later"_s);
+    store_->addImageClip(png(Qt::green));
+    settle();
+    settle();
+    EXPECT_EQ(all(), QStringList({u"green"_s, u"later"_s, u"red"_s, u"before"_s}));
+    EXPECT_EQ(saved().clips.size(), 4);
+}
+
+TEST_F(Locking, WithoutItsKeyAnErasedStoreBeginsPlain) {
+    unlock();
+    store_->erase([](const auto& /*outcome*/) {});
+    worker_.drain();
+    store_->resume(); // The preferences were not erased, say.

@@ -50,8 +50,12 @@ public:
     void flush();
 
     /// Writes nothing from now on, and lets the worker remove the file and what was put aside. Then
-    /// calls `done`.
+    /// calls `done`. The values stay in memory.
     void erase(std::function<void(const Result<void>&)> done);
+
+    /// For a program that keeps running after `erase`, because something was not erased: the next
+    /// change writes everything.
+    void resume() { erased_ = false; }
 
     /// After each write.
     std::function<void(const SaveOutcome&)> onSaved;
@@ -66,11 +70,11 @@ private:
     std::shared_ptr<OwnFile> file_; ///< For the worker only.
     Handle retry_;
     bool wasUnreadable_ = false;
+    bool wasEmpty_ = false;
     bool unsaved_ = false; ///< The last write failed.
     bool writing_ = false;
     bool changedMeanwhile_ = false;
     bool erased_ = false;
-    bool wasEmpty_ = false;
 };
 
 /// Removes a preference file and what was put aside beside it. Blocks; any thread.
