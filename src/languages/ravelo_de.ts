@@ -2739,6 +2739,14 @@
         <source>Unlock…</source>
         <translation>Entsperren…</translation>
     </message>
+    <message>
+        <source>The key stayed in memory while the screen was locked:</source>
+        <translation>Der Schlüssel blieb im Speicher, während der Bildschirm gesperrt war:</translation>
+    </message>
+    <message>
+        <source>A copied image was not kept:</source>
+        <translation>Ein kopiertes Bild wurde nicht behalten:</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::Toast</name>

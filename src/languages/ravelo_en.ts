@@ -2739,6 +2739,14 @@
         <source>Unlock…</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The key stayed in memory while the screen was locked:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A copied image was not kept:</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::Toast</name>

@@ -2739,6 +2739,14 @@
         <source>Unlock…</source>
         <translation>Desbloquear…</translation>
     </message>
+    <message>
+        <source>The key stayed in memory while the screen was locked:</source>
+        <translation>A chave ficou na memória enquanto a tela estava bloqueada:</translation>
+    </message>
+    <message>
+        <source>A copied image was not kept:</source>
+        <translation>Uma imagem copiada não foi guardada:</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::Toast</name>

@@ -55,7 +55,11 @@ void Store::begin(StoredContents stored) {
     save();
     if (!shelf_.stacks.isEmpty()) {
         parkedMeanwhile_.emplace();
-        look_.look(shelf_.files(), [this](const FileLook::Found& found) { dropGone(found); });
+        QSet<QUrl> asked;
+        for (const QUrl& file : shelf_.files()) {
+            asked << file << folderOf(file);
+        }
+        look_.look(asked.values(), [this](const FileLook::Found& found) { dropGone(found); });
     }
     measureFiles(
         [folder = folder_, named = fileNames(data_), now = services_.scheduler.now(),
@@ -69,27 +73,19 @@ void Store::adopt(StoredContents stored) {
     data_ = std::move(stored.store.data);
     Shelf shelf{std::move(stored.store.shelf), {}};
     QList<ClipItem> all = data_.clips;
+    HistoryRules rules = rules_; // The limit may not be known yet, if the preferences were lost.
+    rules.limit = std::max(rules.limit,
+                           int(std::ranges::count(std::as_const(all), false, &ClipItem::pinned)));
     for (const StoreContents& one : later) {
         if (!one.data.clips.isEmpty()) {
             all += one.data.clips;
             data_.clips = ClipHistory::merged(std::move(data_.clips), one.data.clips, rules).clips;
-    HistoryRules rules = rules_; // The limit may not be known yet, if the preferences were lost.
-    rules.limit = std::max(rules.limit,
-                           int(std::ranges::count(std::as_const(all), false, &ClipItem::pinned)));
         }
         for (const QList<QUrl>& stack : one.shelf) {
             shelf = shelf.added(stack).value_or(shelf);
         }
     }
-    QStringList gone = goneForms(all);
-    const QSet<QString> named = imageNames(data_);
-    for (const ClipItem& clip : std::as_const(all)) {
-        if (!named.contains(QFileInfo(clip.imageFileName).fileName())) {
-            gone.append(clip.imageFileName);
-        }
-    }
-    gone.removeAll(QString());
-    removeImages(gone);
+    removeImages(goneForms(all) + goneImages(all));
     shelf_ = std::move(shelf);
     waitingFiles_ += stored.waitingFiles;
 }
@@ -150,9 +146,7 @@ void Store::saveEndedWith(const SaveOutcome& outcome) {
                 (void)ravelo::removeImages(files, mayWrite);
             });
     }
-    if (const auto report = std::exchange(saved_, nullptr)) {
-        report(outcome);
-    }
+    lockProblem_ = dropped_ ? outcome.reason : QString();
     if (saved && dropped_ && saver_.isSaved()) {
         dropAll();
     }
@@ -162,6 +156,7 @@ void Store::saveEndedWith(const SaveOutcome& outcome) {
 void Store::lock(std::function<void()> dropped) {
     if (!locked_ && !opening_) {
         dropped_ = std::move(dropped);
+        lockProblem_.clear();
         if (dropped_) {
             saver_.saveNow();
         }

@@ -72,12 +72,6 @@ TEST(ClipForms, officeFormsButNotTheirPicturesAndLinks) {
     }
 }
 
-void makeOld(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QFile::ReadWrite) &&
-                file.setFileTime(QDateTime(QDate(2001, 2, 3), {}), QFile::FileModificationTime));
-}
-
 /// A clip "rich" with other forms among others without.
 class StoreForms : public StoreFixture {
 protected:

@@ -103,6 +103,21 @@ TEST_F(StoreClips, AddsAnImageOnceItsFileIsWritten) {
     EXPECT_EQ(imageFiles(), QStringList(clip.imageFileName));
 }
 
+TEST_F(StoreClips, AnImageThatCannotBeWrittenIsReported) {
+    mayWrite_ = []() -> Result<void> {
+        return failure(u"the disk is full"_s);
+    };
+    start();
+    QStringList reasons;
+    QObject::connect(store_.get(), &Store::imageNotKept, store_.get(),
+                     [&](const QString& reason) { reasons.append(reason); });
+    store_->addImageClip(png(Qt::red));
+    store_->addImageClip({{u"image/png"_s}, {{u"image/png"_s, "no image"}}});
+    settle();
+    settle();
+    EXPECT_EQ(reasons, QStringList(u"the disk is full"_s)) << "the other one is no image";
+}
+
 TEST_F(StoreClips, OrderOfCopyingIsKept) {
     store_->addClip(u"1"_s);
     store_->addImageClip(png(Qt::red));

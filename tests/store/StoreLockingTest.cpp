@@ -2,6 +2,7 @@
 
 #include "StoreFixture.h"
 #include "store/history/Deleted.h"
+#include "support/TestFiles.h"
 #include "vault/Conversion.h"
 #include "vault/Vault.h"
 
@@ -163,7 +164,6 @@ TEST_F(Locking, WhatUnlockingReplacesGoesWithItsFiles) {
     EXPECT_EQ(imageFiles(), QStringList()) << "the image was pushed out";
 }
 
-TEST_F(Locking, AStoreByALaterVersionIsLeftAlone) {
 TEST_F(Locking, UnlockingDropsNoMoreThanWhatCameMeanwhileReplaces) {
     unlock();
     HistoryRules longer;
@@ -182,6 +182,7 @@ TEST_F(Locking, UnlockingDropsNoMoreThanWhatCameMeanwhileReplaces) {
     EXPECT_EQ(store_->clips()[0].text, u"later"_s);
 }
 
+TEST_F(Locking, AStoreByALaterVersionIsLeftAlone) {
     ASSERT_TRUE(QFile::remove(folder() + u"/key"_s));
     const QByteArray newer = R"({"version":2,"clips":[],"snippets":[],"note":"","note2":"",)"
                              R"("drawing":[],"shelfStacks":[]})";
@@ -237,14 +238,37 @@ TEST_F(Erasing, TheLastHourGoesAndTheRestStays) {
     EXPECT_EQ(filesWith("new\""), QStringList());
 }
 
+TEST_F(Erasing, ImagesThatTextsPushedOutGoWithTheLastHourAndWithALimit) {
+    const auto pushOut = [this] {
+        store_->addImageClip(png(Qt::green));
+        settle();
+        for (int i = 0; i < HistoryRules().limit; ++i) {
+            store_->addClip(u"text %1"_s.arg(i));
+        }
+        settle();
+    };
+    scheduler_.setNow(toDate(QDateTime::currentDateTime())); // Files have the time of the disk.
+    const QStringList old = imageFiles();
+    makeOld(store_->clipsDir() + u'/' + old[0]);
+    pushOut();
+    EXPECT_EQ(imageFiles().size(), 2) << "left for a later start";
+    store_->clearLastHour();
+    settle();
+    EXPECT_EQ(imageFiles(), old) << "older than an hour";
+    store_->setHistoryRules({.imageBytes = 1 << 20});
+    pushOut();
+    EXPECT_EQ(imageFiles(), old);
+}
+
 TEST_F(Erasing, AFailureIsReported) {
     QStringList problems;
     QObject::connect(store_.get(), &Store::removalEnded, store_.get(),
                      [&](const QString& problem) { problems.append(problem); });
     const ClipItem image = store_->clips()[0];
     const QString path = store_->imagePath(image.imageFileName);
-    mayWrite_ = [] {
-        return Result<void>(failure(u"the folder is read-only"_s));
+    bool readOnly = true;
+    mayWrite_ = [&] {
+        return readOnly ? Result<void>(failure(u"the folder is read-only"_s)) : Result<void>();
     };
     store_.reset();
     start();
@@ -254,6 +278,17 @@ TEST_F(Erasing, AFailureIsReported) {
     worker_.drain();
     EXPECT_EQ(problems, QStringList(u"the folder is read-only"_s));
     EXPECT_TRUE(QFile::exists(path));
+    readOnly = false;
+    store_->addImageClip(png(Qt::blue));
+    settle();
+    settle();
+    store_->deleteClip(store_->clips()[0].id);
+    worker_.drain();
+    EXPECT_EQ(problems.size(), 1) << "another deletion does not make up for it";
+    store_->clearClips();
+    worker_.drain();
+    EXPECT_EQ(problems.last(), QString());
+    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST_F(Erasing, EverythingGoesAndNothingComesBack) {
@@ -277,10 +312,26 @@ TEST_F(Erasing, IfItFailsWhatIsLeftStaysAndSavingGoesOn) {
     };
     store_.reset();
     start();
+    worker_.drain();
     std::optional<Result<void>> done;
     store_->erase([&](const Result<void>& outcome) { done = outcome; });
     worker_.drain();
     ASSERT_TRUE(done && !*done);
+    store_->resume();
+    readOnly = false;
+    store_->addClip(u"later"_s);
+    store_->addImageClip(png(Qt::green));
+    settle();
+    settle();
+    EXPECT_EQ(all(), QStringList({u"green"_s, u"later"_s, u"red"_s, u"before"_s}));
+    EXPECT_EQ(saved().clips.size(), 4);
+}
+
+TEST_F(Locking, WithoutItsKeyAnErasedStoreBeginsPlain) {
+    unlock();
+    store_->erase([](const auto& /*outcome*/) {});
+    worker_.drain();
+    store_->resume(); // The preferences were not erased, say.
     store_->addClip(u"later"_s);
     settle();
     EXPECT_EQ(saved().clips.size(), 1);
@@ -370,19 +421,3 @@ TEST_F(Erasing, AMistakenChoiceCanBeTakenBackForAMinute) {
 } // namespace
 
 } // namespace ravelo
-    worker_.drain();
-    store_->resume();
-    readOnly = false;
-    store_->addClip(u"later"_s);
-    store_->addImageClip(png(Qt::green));
-    settle();
-    settle();
-    EXPECT_EQ(all(), QStringList({u"green"_s, u"later"_s, u"red"_s, u"before"_s}));
-    EXPECT_EQ(saved().clips.size(), 4);
-}
-
-TEST_F(Locking, WithoutItsKeyAnErasedStoreBeginsPlain) {
-    unlock();
-    store_->erase([](const auto& /*outcome*/) {});
-    worker_.drain();
-    store_->resume(); // The preferences were not erased, say.

@@ -142,10 +142,12 @@ TEST_F(Transfer, ItsOwnExportDoublesNothing) {
     settle();
     store_->togglePin(store_->clips().last().id);
     settle();
+    store_->setDrawing({{QUuid::createUuid(), {{1, 2}, {3, 4}}}});
     ASSERT_TRUE(exported());
     const QStringList images = imageFiles();
     const QList<ClipItem> clips = store_->clips();
     importAll();
+    EXPECT_EQ(store_->drawing().size(), 1);
     EXPECT_EQ(ids(), idsOf(clips));
     EXPECT_EQ(imageFiles(), images);
     store_->togglePin(clips[1].id);
@@ -175,6 +177,18 @@ TEST_F(Transfer, SnippetsWithTheSameImageAreNotDoubled) {
         writeFileAtomically(store_->imagePath(snippet.imageFileName), picture("png", Qt::green)));
     store_->removeSnippet(store_->snippets().last().id);
     EXPECT_EQ(importAll(), 1) << "the image differs";
+}
+
+TEST_F(Transfer, OnlyItsOwnSaveIsReported) {
+    ASSERT_TRUE(exported());
+    int saves = 0;
+    QObject::connect(store_.get(), &Store::saveEnded, store_.get(), [&] { ++saves; });
+    store_->addClip(u"before"_s);
+    scheduler_.advance(Seconds(1)); // The worker has it.
+    int savesThen = 0;
+    store_->addAll(*imported(), [&](const auto& /*outcome*/) { savesThen = saves; });
+    worker_.drain();
+    EXPECT_EQ(savesThen, 2);
 }
 
 TEST_F(Transfer, AnUnreadableImageIsLeftOut) {
