@@ -61,6 +61,7 @@ void SnippetEditor::save() {
         store_.updateSnippet(edited);
     } else {
         store_.addSnippet(edited);
+        store_.removeUnusedImage(begun_.imageFileName);
         Q_EMIT added();
     }
     Q_EMIT changed();
