@@ -266,6 +266,7 @@ bool AppDelegate::answerLater(const QStringList& request,
 }
 
 void AppDelegate::erase(const std::function<void(const Answer&)>& reply) {
+    view_->features().forget();
     store_->erase([this, reply](const Result<void>& data) {
         platform_.preferences->erase([this, reply, data](const Result<void>& preferences) {
             const auto cache = std::make_shared<Result<void>>();
