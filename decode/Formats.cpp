@@ -66,6 +66,12 @@ std::optional<int64_t> pngPixels(QByteArrayView bytes) {
     return across > 0 && down > 0 ? std::optional(int64_t{across} * down) : std::nullopt;
 }
 
+bool isDeepPng(QByteArrayView bytes) {
+    constexpr qsizetype depth = 24; // Then the type of colours.
+    return pngPixels(bytes) && bytes.size() > depth + 1 && bytes[depth] == 16 &&
+           bytes[depth + 1] != 0; // Qt has a format of two bytes for grey.
+}
+
 const char* qtName(Format format) {
     switch (format) {
     case Format::png:

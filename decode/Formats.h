@@ -20,6 +20,9 @@ enum class Format { none, png, jpeg, gif, bmp, webp, tiff, heif, svg };
 /// How many pixels a PNG says it has; nothing if it does not begin like a valid one.
 [[nodiscard]] std::optional<int64_t> pngPixels(QByteArrayView bytes);
 
+/// Whether Qt needs eight bytes instead of four for each pixel of this PNG.
+[[nodiscard]] bool isDeepPng(QByteArrayView bytes);
+
 /// Qt's name for it; null if Qt does not read it here.
 [[nodiscard]] const char* qtName(Format format);
 

@@ -1,9 +1,11 @@
 #include "app/AppDelegate.h"
 
 #include "app/ClaudeCode.h"
+#include "app/HistoryLength.h"
 #include "app/HistorySettings.h"
 #include "app/KeyWhileLocked.h"
 #include "app/StatusItemController.h"
+#include "app/StoreNotices.h"
 #include "clipboard/ClipboardManager.h"
 #include "clipboard/SelectedTexts.h"
 #include "monitor/PlanUsage.h"
@@ -117,6 +119,10 @@ void AppDelegate::wireShortcut() {
 
 /// Settings apply at once, without a restart.
 void AppDelegate::wireSettings() {
+    historyLength_ = std::make_unique<HistoryLength>(*settings_, *store_,
+                                                     platform_.preferences->wasEmpty()
+                                                         ? HistoryLength::Preferences::lost
+                                                         : HistoryLength::Preferences::kept);
     history_ = std::make_unique<HistorySettings>(HistorySettings::Services{
         *settings_, *store_, *clipboard_, selected_.get(), *view_->features().clips->list()});
 }
@@ -144,14 +150,11 @@ void AppDelegate::wireEncryption() {
     QObject::connect(encryption_.get(), &Encryption::opened, store_.get(), &Store::unlock);
     screenKey_ = std::make_unique<KeyWhileLocked>(
         KeyWhileLocked::Services{*settings_, *store_, *encryption_, *platform_.decoder, locks()},
-        KeyWhileLocked::Reports{
-            [this] {
-                view_->features().toast.reset(); // It may offer to undo a deletion.
-                view_->features().clips->editor()->discard();
-            },
-            [this] {
-                notifications_->screenUnlocked();
-            }});
+        KeyWhileLocked::Reports{[this] { view_->features().forget(); },
+                                [this](const QString& reason) { storeNotices_->keyStayed(reason); },
+                                [this] {
+                                    notifications_->screenUnlocked();
+                                }});
 }
 
 } // namespace ravelo

@@ -2,6 +2,7 @@
 
 #include "app/ClaudeCode.h"
 #include "app/Commands.h"
+#include "app/HistoryLength.h"
 #include "app/HistorySettings.h"
 #include "app/KeyWhileLocked.h"
 #include "app/SecondPlan.h"
@@ -265,6 +266,7 @@ bool AppDelegate::answerLater(const QStringList& request,
 }
 
 void AppDelegate::erase(const std::function<void(const Answer&)>& reply) {
+    view_->features().forget();
     store_->erase([this, reply](const Result<void>& data) {
         platform_.preferences->erase([this, reply, data](const Result<void>& preferences) {
             const auto cache = std::make_shared<Result<void>>();
@@ -280,7 +282,9 @@ void AppDelegate::erase(const std::function<void(const Answer&)>& reply) {
 void AppDelegate::erased(const Result<void>& done,
                          const std::function<void(const Answer&)>& reply) {
     if (!done) {
-        store_->captureAgain();
+        store_->resume();
+        platform_.preferences->resume();
+        encryption_->resume();
         notices_->deletionEnded(done.error().message);
         reply({1, {}, done.error().message});
         return;

@@ -21,6 +21,7 @@ class ClipboardManager;
 class Commands;
 class DesktopNotices;
 class Encryption;
+class HistoryLength;
 class HistorySettings;
 class HotZone;
 class KeyWhileLocked;
@@ -109,6 +110,7 @@ private:
     std::unique_ptr<StatusItemController> statusItem_;
     std::unique_ptr<Commands> commands_;
     std::unique_ptr<PanelPicture> picture_;
+    std::unique_ptr<HistoryLength> historyLength_;
     std::unique_ptr<HistorySettings> history_;
     std::unique_ptr<StoreNotices> storeNotices_;
     std::unique_ptr<KeyWhileLocked> screenKey_;

@@ -28,6 +28,9 @@ void KeyWhileLocked::follow() {
         return;
     }
     if (!locked) {
+        if (const QString& problem = services_.store.lockProblem(); !problem.isEmpty()) {
+            reports_.keyStayed(problem);
+        }
         reports_.screenUnlocked();
         services_.store.lock({}); // It may still wait for a save.
         services_.encryption.getKey();

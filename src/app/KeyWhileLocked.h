@@ -27,6 +27,8 @@ public:
 
     struct Reports {
         std::function<void()> forgotten; ///< What else shows decrypted clips has to go, too.
+        /// The key stayed in memory behind the lock screen, since saving failed for this reason.
+        std::function<void(const QString&)> keyStayed;
         std::function<void()> screenUnlocked;
     };
 

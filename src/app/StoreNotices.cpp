@@ -21,6 +21,8 @@ TooLargeCopy::Measure measure(TooLarge::Kind kind) {
         return TooLargeCopy::Measure::bytesOfText;
     case TooLarge::Kind::image:
         return TooLargeCopy::Measure::bytesOfImage;
+    case TooLarge::Kind::deepPixels:
+        return TooLargeCopy::Measure::deepPixelsOfImage;
     case TooLarge::Kind::pixels:
         break;
     }
@@ -45,6 +47,10 @@ StoreNotices::~StoreNotices() {
     services_.preferences.onSaved = nullptr;
 }
 
+void StoreNotices::keyStayed(const QString& reason) {
+    services_.notices.warn(tr("The key stayed in memory while the screen was locked:"), reason);
+}
+
 void StoreNotices::followSaving() {
     connect(&services_.store, &Store::saveEnded, this,
             [this](const SaveOutcome& outcome) { report(Notices::Source::store, outcome); });
@@ -52,6 +58,9 @@ void StoreNotices::followSaving() {
         report(Notices::Source::preferences, outcome);
     };
     connect(&services_.store, &Store::removalEnded, &services_.notices, &Notices::deletionEnded);
+    connect(&services_.store, &Store::imageNotKept, this, [this](const QString& reason) {
+        services_.notices.warn(tr("A copied image was not kept:"), reason);
+    });
     connect(&services_.notices, &Notices::tryAgain, this, [this] {
         services_.store.save();
         services_.preferences.retry();

@@ -33,6 +33,9 @@ public:
     explicit StoreNotices(Services services);
     ~StoreNotices() override;
 
+    /// It was to leave the memory while the screen was locked.
+    void keyStayed(const QString& reason);
+
 private:
     void followSaving();
     void followSecrets();

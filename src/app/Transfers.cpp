@@ -2,12 +2,13 @@
 
 #include "platform/DetachedJobs.h"
 #include "platform/ImageDecoder.h"
+#include "settings/AppSettings.h"
 #include "store/Store.h"
 #include "store/transfer/KnownRecords.h"
 #include "store/transfer/SnippetFile.h"
-#include "store/transfer/Transfer.h"
 #include "vault/Vault.h"
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -16,6 +17,12 @@ namespace ravelo {
 using namespace Qt::StringLiterals;
 
 namespace {
+
+Answer withoutImages(int missing) {
+    return missing == 0
+               ? Answer()
+               : Answer{1, {}, u"%1 images could not be read and are left out"_s.arg(missing)};
+}
 
 /// If the job was not even started, because too many hang.
 tl::unexpected<Error> neverRan() {
@@ -57,13 +64,7 @@ void Transfers::exportTo(const QString& path, Reply reply) {
         },
         [this, outcome, reply = std::move(reply)] {
             running_.reset();
-            if (!*outcome) {
-                reply({1, {}, outcome->error().message});
-            } else if (**outcome > 0) {
-                reply({1, {}, u"%1 images could not be read and are left out"_s.arg(**outcome)});
-            } else {
-                reply({});
-            }
+            reply(*outcome ? withoutImages(**outcome) : Answer{1, {}, outcome->error().message});
         });
 }
 
@@ -77,7 +78,7 @@ void Transfers::import(std::function<Imported()> read, std::function<void(const 
              mayWrite = services_.mayWrite] {
                 *outcome = read();
                 if (*outcome) {
-                    dropKnownRecords((*outcome)->data, known, *vault, *decoder, mayWrite);
+                    dropKnownRecords((*outcome)->contents.data, known, *vault, *decoder, mayWrite);
                 }
             },
             [this, outcome, add] {
@@ -86,6 +87,16 @@ void Transfers::import(std::function<Imported()> read, std::function<void(const 
                 importing_.reset();
             });
     });
+}
+
+void Transfers::warnOfLongHistory(Answer& answer) const {
+    const auto clips = std::ranges::count(services_.store.clips(), false, &ClipItem::pinned);
+    if (clips > AppSettings::longestHistory) {
+        answer.errors +=
+            (answer.errors.isEmpty() ? u""_s : u"\n"_s) +
+            u"%1 clips are more than the history keeps: the oldest go with the next copy"_s.arg(
+                clips);
+    }
 }
 
 void Transfers::importFrom(const QString& path, Reply reply) {
@@ -101,12 +112,15 @@ void Transfers::importFrom(const QString& path, Reply reply) {
                 reply({1, {}, imported.error().message});
                 return;
             }
-            const auto saved = [reply](const SaveOutcome& outcome) {
-                reply(outcome.kind == SaveOutcome::Kind::saved
-                          ? Answer()
-                          : Answer{1, {}, u"not saved yet: "_s + outcome.reason});
+            const auto saved = [this, reply,
+                                missing = imported->missing](const SaveOutcome& outcome) {
+                Answer answer = outcome.kind == SaveOutcome::Kind::saved
+                                    ? withoutImages(missing)
+                                    : Answer{1, {}, u"not saved yet: "_s + outcome.reason};
+                warnOfLongHistory(answer);
+                reply(answer);
             };
-            if (!services_.store.addAll(*imported, saved)) {
+            if (!services_.store.addAll(imported->contents, saved)) {
                 reply({1,
                        {},
                        u"nothing was imported: what is stored was locked or erased meanwhile"_s});
@@ -140,13 +154,13 @@ void Transfers::importSnippets(const QString& path, Done done) {
          mayWrite = services_.mayWrite] {
             return ravelo::importSnippets(path, *vault, *decoder, mayWrite)
                 .map([](const QList<Snippet>& snippets) {
-                    StoreContents contents;
-                    contents.data.snippets = snippets;
-                    return contents;
+                    Import import;
+                    import.contents.data.snippets = snippets;
+                    return import;
                 });
         },
         [this, done = std::move(done)](const Imported& imported) {
-            imported ? add(*imported, done) : done(tl::unexpected(imported.error()));
+            imported ? add(imported->contents, done) : done(tl::unexpected(imported.error()));
         });
 }
 

@@ -4,7 +4,7 @@
 #include "base/OwnFile.h"
 #include "base/Result.h"
 #include "platform/Answer.h"
-#include "store/disk/StoreContents.h"
+#include "store/transfer/Transfer.h"
 
 #include <QCoreApplication>
 #include <QString>
@@ -37,7 +37,8 @@ public:
 
     /// `path` is absolute. Answers once the file is on the disk.
     void exportTo(const QString& path, Reply reply);
-    /// Answers once everything is saved.
+    /// Answers once everything is saved. Images that cannot be read are left out of both, and
+    /// reported.
     void importFrom(const QString& path, Reply reply);
 
     /// How many snippets, or why none; for the user.
@@ -49,12 +50,13 @@ public:
 
 private:
     enum class Obstacle { running, locked };
-    using Imported = Result<StoreContents>;
+    using Imported = Result<Import>;
 
     [[nodiscard]] std::optional<Obstacle> obstacle() const;
     [[nodiscard]] static Answer answerTo(Obstacle obstacle);
     [[nodiscard]] static QString textOf(Obstacle obstacle); ///< For the user.
     void import(std::function<Imported()> read, std::function<void(const Imported&)> add);
+    void warnOfLongHistory(Answer& answer) const;
     void add(const StoreContents& contents, const Done& done);
 
     Services services_;

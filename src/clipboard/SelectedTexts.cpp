@@ -18,11 +18,22 @@ constexpr Seconds untilSelected{0.7};
 
 SelectedTexts::SelectedTexts(Store& store, SelectedText& selection, Scheduler& scheduler,
                              const CapturePause& pause)
-    : store_(store), selection_(selection), scheduler_(scheduler), pause_(pause) {}
+    : store_(store), selection_(selection), scheduler_(scheduler), pause_(pause) {
+    connect(&store, &Store::cleared, this, &SelectedTexts::drop);
+    connect(&pause, &CapturePause::changed, this, [this] {
+        if (pause_.isPaused()) {
+            drop();
+        }
+    });
+}
 
 void SelectedTexts::setOn(bool on) {
     selection_.setWatch(on ? SelectedText::Watch::on : SelectedText::Watch::off);
     changes_ = on ? selection_.onChange([this] { wait(); }) : Handle();
+    drop();
+}
+
+void SelectedTexts::drop() {
     rest_.reset();
     reading_.reset();
 }

@@ -4,6 +4,8 @@
 #include "clipboard/CapturePlan.h"
 #include "clipboard/CaptureRules.h"
 
+#include <QObject>
+
 namespace ravelo {
 
 class CapturePause;
@@ -12,8 +14,11 @@ class SelectedText;
 class Store;
 
 /// Makes clips of the texts that are selected elsewhere, once the user has stopped selecting. The
-/// same rules hold as for copies; images are never read. Main thread.
-class SelectedTexts {
+/// same rules hold as for copies; images are never read. A cleared history or a pause also drops
+/// what was about to be read. Main thread.
+class SelectedTexts : public QObject {
+    Q_OBJECT
+
 public:
     /// All outlive this. Off at first.
     SelectedTexts(Store& store, SelectedText& selection, Scheduler& scheduler,
@@ -26,6 +31,7 @@ public:
     void setRules(CaptureRules rules) { rules_ = std::move(rules); }
 
 private:
+    void drop();
     void wait();
     void read();
     void keep(const PasteboardSnapshot& snapshot);

@@ -1603,6 +1603,10 @@
         <source>Too large to keep · image of %1</source>
         <translation>Zu groß zum Behalten · Bild von %1</translation>
     </message>
+    <message>
+        <source>%1 megapixels of 16 bits</source>
+        <translation>%1 Megapixel mit 16 Bit</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>
@@ -2728,6 +2732,10 @@
         <source>what is stored is encrypted, and its key is gone</source>
         <translation>das Gespeicherte ist verschlüsselt, und sein Schlüssel fehlt</translation>
     </message>
+    <message>
+        <source>what is stored was erased meanwhile</source>
+        <translation>das Gespeicherte wurde inzwischen gelöscht</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::StoreNotices</name>
@@ -2738,6 +2746,14 @@
     <message>
         <source>Unlock…</source>
         <translation>Entsperren…</translation>
+    </message>
+    <message>
+        <source>The key stayed in memory while the screen was locked:</source>
+        <translation>Der Schlüssel blieb im Speicher, während der Bildschirm gesperrt war:</translation>
+    </message>
+    <message>
+        <source>A copied image was not kept:</source>
+        <translation>Ein kopiertes Bild wurde nicht behalten:</translation>
     </message>
 </context>
 <context>

@@ -1603,6 +1603,10 @@
         <source>Too large to keep · image of %1</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 megapixels of 16 bits</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>
@@ -2728,6 +2732,10 @@
         <source>what is stored is encrypted, and its key is gone</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>what is stored was erased meanwhile</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::StoreNotices</name>
@@ -2737,6 +2745,14 @@
     </message>
     <message>
         <source>Unlock…</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The key stayed in memory while the screen was locked:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>A copied image was not kept:</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

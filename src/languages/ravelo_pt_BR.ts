@@ -1603,6 +1603,10 @@
         <source>Too large to keep · image of %1</source>
         <translation>Grande demais para guardar · imagem de %1</translation>
     </message>
+    <message>
+        <source>%1 megapixels of 16 bits</source>
+        <translation>%1 megapixels de 16 bits</translation>
+    </message>
 </context>
 <context>
     <name>TopBar</name>
@@ -2728,6 +2732,10 @@
         <source>what is stored is encrypted, and its key is gone</source>
         <translation>o que está guardado é criptografado, e a chave se perdeu</translation>
     </message>
+    <message>
+        <source>what is stored was erased meanwhile</source>
+        <translation>o que estava guardado foi apagado nesse meio-tempo</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::StoreNotices</name>
@@ -2738,6 +2746,14 @@
     <message>
         <source>Unlock…</source>
         <translation>Desbloquear…</translation>
+    </message>
+    <message>
+        <source>The key stayed in memory while the screen was locked:</source>
+        <translation>A chave ficou na memória enquanto a tela estava bloqueada:</translation>
+    </message>
+    <message>
+        <source>A copied image was not kept:</source>
+        <translation>Uma imagem copiada não foi guardada:</translation>
     </message>
 </context>
 <context>

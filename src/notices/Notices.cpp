@@ -54,6 +54,11 @@ void Notices::deletionEnded(const QString& problem) {
     update();
 }
 
+void Notices::warn(const QString& what, const QString& why) {
+    warning_ = {Warning, what, why + u'.', {}};
+    update();
+}
+
 void Notices::setLocked(const QString& lead, const QString& rest, const QString& action) {
     locked_ = lead.isEmpty() ? Notice() : Notice{Locked, lead, rest, action};
     update();
@@ -82,6 +87,8 @@ void Notices::act() {
 void Notices::dismiss() {
     if (shown_.kind == NotDeleted) {
         notDeleted_.clear();
+    } else if (shown_.kind == Warning) {
+        warning_ = {};
     } else if (shown_.kind == PutAside) {
         aside_.erase(aside_.begin());
     } else if (shown_.kind == SecretKept) {
@@ -125,6 +132,9 @@ Notices::Notice Notices::worst() const {
     }
     if (!notDeleted_.isEmpty()) {
         return {NotDeleted, tr("Not deleted from the disk:"), notDeleted_ + u'.', {}};
+    }
+    if (warning_.kind == Warning) {
+        return warning_;
     }
     if (savedAgain_) {
         return {SavedAgain, tr("Saved again."), {}, {}};

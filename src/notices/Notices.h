@@ -22,7 +22,7 @@ class Notices : public QObject {
 public:
     /// The worst first.
     // NOLINTNEXTLINE(readability-identifier-naming): QML demands capitals.
-    enum Kind { SavingFails, NotDeleted, SavedAgain, Locked, PutAside, SecretKept, None };
+    enum Kind { SavingFails, NotDeleted, Warning, SavedAgain, Locked, PutAside, SecretKept, None };
     Q_ENUM(Kind)
 
     /// Whose file it is about.
@@ -43,8 +43,11 @@ public:
     void putAside(Source source, const QString& path);
 
     /// Files of deleted records are still on the disk, for this reason; an empty one ends it. Shown
-    /// until the user dismisses it or a later deletion succeeds.
+    /// until the user dismisses it or no such file can be left.
     void deletionEnded(const QString& problem);
+
+    /// Something went wrong and cannot be mended: what, and why. Shown until the user dismisses it.
+    void warn(const QString& what, const QString& why);
 
     /// The store is locked, and something came since: what it waits for, what that means, and how
     /// to end it. An empty `lead` ends it.
@@ -64,7 +67,8 @@ public:
     [[nodiscard]] QString action() const { return shown_.action; }
 
     [[nodiscard]] bool dismissible() const {
-        return shown_.kind == PutAside || shown_.kind == NotDeleted || shown_.kind == SecretKept;
+        return shown_.kind == PutAside || shown_.kind == NotDeleted || shown_.kind == Warning ||
+               shown_.kind == SecretKept;
     }
 
     Q_INVOKABLE void act();
@@ -105,6 +109,7 @@ private:
     std::map<Source, Failure> failures_;
     std::map<Source, QString> aside_;
     QString notDeleted_;
+    Notice warning_;
     Notice locked_;
     QString secret_; ///< Its form; empty if there is nothing to say.
     Notice shown_;

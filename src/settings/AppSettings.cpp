@@ -15,17 +15,22 @@ namespace {
 constexpr int maxMegabytes = 1 << 20;
 
 template <int lowest, int highest, typename T>
-bool within(const T& number) {
-    return number >= lowest && number <= highest;
+T within(const T& number, const T& standard) {
+    return number >= lowest && number <= highest ? number : standard;
 }
 
 template <int... numbers>
-bool oneOf(const int& number) {
-    return ((number == numbers) || ...);
+int oneOf(const int& number, const int& standard) {
+    return ((number == numbers) || ...) ? number : standard;
 }
 
-bool isLanguage(const QString& name) {
-    return QStringList{u"en"_s, u"pt_BR"_s, u"de"_s}.contains(name);
+/// A value written by hand must not shorten the history.
+int nextHistoryLength(const int& number, const int& /*standard*/) {
+    return AppSettings::historyLengthFor(number);
+}
+
+QString knownLanguage(const QString& name, const QString& standard) {
+    return QStringList{u"en"_s, u"pt_BR"_s, u"de"_s}.contains(name) ? name : standard;
 }
 
 // QJsonValue's getters return the standard for missing values and other types.
@@ -77,8 +82,8 @@ AppSettings::Setting<T>::Setting(AppSettings& settings, QString key, T standard,
       value_(effective(read(settings.preferences_.value(key_), standard_))) {}
 
 template <typename T>
-const T& AppSettings::Setting<T>::effective(const T& value) const {
-    return allowed_ == nullptr || allowed_(value) ? value : standard_;
+T AppSettings::Setting<T>::effective(const T& value) const {
+    return allowed_ == nullptr ? value : allowed_(value, standard_);
 }
 
 template <typename T>
@@ -86,7 +91,7 @@ void AppSettings::Setting<T>::set(const T& value) {
     if (kept_ == Kept::always) {
         settings_.preferences_.set(key_, written(value));
     }
-    if (const T& wanted = effective(value); value_ != wanted) {
+    if (const T wanted = effective(value); value_ != wanted) {
         value_ = wanted;
         Q_EMIT(settings_.*changed_)();
     }
@@ -113,7 +118,7 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       macType(*this, u"macType"_s, u"auto"_s, &AppSettings::macTypeChanged),
       newestFirst(*this, u"newestFirst"_s, false, &AppSettings::newestFirstChanged),
       historyLength(*this, u"historyLength"_s, 60, &AppSettings::historyLengthChanged,
-                    oneOf<60, 200, 1000>),
+                    nextHistoryLength),
       keepTextsExactly(*this, u"keepTextsExactly"_s, false, &AppSettings::keepTextsExactlyChanged),
       keepDays(*this, u"keepDays"_s, 0, &AppSettings::keepDaysChanged, oneOf<0, 1, 7, 30>),
       textLimit(*this, u"textLimit"_s, 0, &AppSettings::textLimitChanged, within<0, maxMegabytes>),
@@ -140,7 +145,7 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
       notifyFiles(*this, u"notifyFiles"_s, false, &AppSettings::notifyFilesChanged),
       notifySaving(*this, u"notifySaving"_s, false, &AppSettings::notifySavingChanged),
       notifyPlan(*this, u"notifyPlan"_s, false, &AppSettings::notifyPlanChanged),
-      language(*this, u"language"_s, {}, &AppSettings::languageChanged, isLanguage),
+      language(*this, u"language"_s, {}, &AppSettings::languageChanged, knownLanguage),
       onboarded(*this, u"onboarded"_s, false, &AppSettings::onboardedChanged),
       launchAtLogin_(loginItem.isEnabled()) {
     connect(this, &AppSettings::macTypeChanged, this, [this] {
@@ -148,6 +153,15 @@ AppSettings::AppSettings(Preferences& preferences, LoginItem& loginItem)
             onLayoutChange();
         }
     });
+}
+
+int AppSettings::historyLengthFor(qsizetype clips) {
+    for (const int length : {60, 200}) {
+        if (clips <= length) {
+            return length;
+        }
+    }
+    return longestHistory;
 }
 
 void AppSettings::setLaunchAtLogin(bool on) {

@@ -11,7 +11,8 @@ class LoginItem;
 class Preferences;
 
 /// The user's preferences, read once at construction and written when they are set. A value of the
-/// wrong type counts as absent, and so does one that is not allowed. Main thread only.
+/// wrong type counts as absent, and so does one that is not allowed, except for `historyLength`.
+/// Main thread only.
 class AppSettings : public QObject {
     Q_OBJECT
     Q_PROPERTY(double bgOpacity READ bgOpacity WRITE bgOpacity NOTIFY bgOpacityChanged)
@@ -76,9 +77,9 @@ public:
     class Setting {
     public:
         using Changed = void (AppSettings::*)();
-        using Allowed = bool (*)(const T&);
+        using Allowed = T (*)(const T& value, const T& standard);
 
-        /// Without a value, or with one that is not `allowed`, it is `standard`. `changed` is
+        /// Without a value it is `standard`. `allowed` returns what a value counts as. `changed` is
         /// emitted once it is written. `Kept::untilTheEnd`: it is never written.
         Setting(AppSettings& settings, QString key, T standard, Changed changed,
                 Allowed allowed = nullptr, Kept kept = Kept::always);
@@ -92,7 +93,7 @@ public:
         void set(const T& value);
 
     private:
-        [[nodiscard]] const T& effective(const T& value) const;
+        [[nodiscard]] T effective(const T& value) const;
 
         AppSettings& settings_;
         const QString key_;
@@ -115,8 +116,11 @@ public:
     Setting<QString> macType;
     /// Newer clips come first, also after a pin.
     Setting<bool> newestFirst;
-    /// How many unpinned clips are kept: 60, 200 or 1,000.
+    /// How many unpinned clips are kept: 60, 200 or 1,000. Other values count as the next larger.
     Setting<int> historyLength;
+    static constexpr int longestHistory = 1000;
+    /// The shortest of them that keeps so many clips, or the longest.
+    [[nodiscard]] static int historyLengthFor(qsizetype clips);
     /// Copied texts keep white space at their ends.
     Setting<bool> keepTextsExactly;
     /// How long unpinned clips are kept: 30, 7 or 1; 0 for ever.

@@ -1,5 +1,6 @@
 #include "store/Store.h"
 
+#include "base/FileUrl.h"
 #include "base/Files.h"
 #include "base/Scheduler.h"
 #include "base/Uuid.h"
@@ -43,6 +44,11 @@ StoreServices withVault(StoreServices services, const QString& folder) {
 }
 
 } // namespace
+
+QUrl Store::folderOf(const QUrl& file) {
+    const QByteArray path = filePath(file);
+    return fileUrl(path.first(std::max<qsizetype>(path.lastIndexOf('/'), 1)));
+}
 
 Store::Store(const QString& folder, Services services)
     : services_(withVault(services, QDir(folder).absolutePath())),
@@ -120,9 +126,15 @@ void Store::setDrawing(const QList<Stroke>& drawing) {
 }
 
 void Store::dropGone(const FileLook::Found& found) {
+    if (!parkedMeanwhile_) { // Locked meanwhile.
+        return;
+    }
     QSet<QUrl> gone;
     for (const auto& [file, presence] : found.asKeyValueRange()) {
-        if (presence == Presence::gone && !parkedMeanwhile_->contains(file)) {
+        // Without its folder, it may be on a medium that is not mounted yet.
+        if (presence == Presence::gone &&
+            found.value(folderOf(file), Presence::unknown) == Presence::there &&
+            !parkedMeanwhile_->contains(file)) {
             gone.insert(file);
         }
     }
@@ -179,7 +191,7 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
     struct Outcome {
         KeptImage image;
         bool decoded = false;
-        bool written = false;
+        Result<void> written;
         qint64 size = 0;
     };
 
@@ -196,7 +208,7 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
                   mayWrite = services_.mayWrite] {
         outcome->decoded = !outcome->image.png.isEmpty();
         outcome->size = outcome->image.png.size();
-        outcome->written = writeImage(*vault, path, outcome->image.png, mayWrite).has_value();
+        outcome->written = writeImage(*vault, path, outcome->image.png, mayWrite);
         outcome->image.png.clear();
     };
     auto add = [this, name, outcome, kept = std::move(kept), refused = std::move(refused),
@@ -211,7 +223,12 @@ void Store::addImageClip(const PasteboardSnapshot& contents, Kept kept, Refused 
                 kept(id);
             }
             trim();
-        } else if (refused) {
+            return;
+        }
+        if (outcome->decoded) {
+            Q_EMIT imageNotKept(outcome->written.error().message);
+        }
+        if (refused) {
             const auto& tooLarge = outcome->image.tooLarge;
             refused({tooLarge           ? Refusal::Cause::tooLarge
                      : outcome->decoded ? Refusal::Cause::unwritable
@@ -250,7 +267,11 @@ void Store::apply(std::optional<ClipChange> change) {
     }
     const QList<ClipItem> before = std::exchange(data_.clips, std::move(change->clips));
     forgetting_.follow(data_.clips);
-    removeImages(change->orphanedImages + goneForms(before));
+    QStringList gone = change->orphanedImages + goneForms(before);
+    if (rules_.imageBytes > 0 || rules_.keepFor > 0) { // Those that texts have pushed out count.
+        gone += goneImages(before);
+    }
+    removeImages(gone);
     save();
     Q_EMIT clipsChanged();
 }

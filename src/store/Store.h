@@ -78,12 +78,16 @@ public:
     /// vault. Does nothing while saving fails.
     void lock(std::function<void()> dropped);
 
-    /// Removes everything from memory and disk, and saves nothing from now on. Then calls `done`,
-    /// with the first failure. Copies are not kept from now on, unless it fails.
+    /// Why the last `lock` still waits, for the user; empty if it does not, or nothing failed.
+    [[nodiscard]] const QString& lockProblem() const { return lockProblem_; }
+
+    /// Removes everything from memory and disk; nothing is kept or saved from now on. Then calls
+    /// `done`, with the first failure.
     void erase(std::function<void(const Result<void>&)> done);
 
-    /// For a program that keeps running after `erase`, because something else was not erased.
-    void captureAgain() { erased_ = false; }
+    /// For a program that keeps running after `erase`, because something was not erased: begins
+    /// with what is left on the disk.
+    void resume();
 
     [[nodiscard]] const QList<ClipItem>& clips() const;
     [[nodiscard]] const QList<Snippet>& snippets() const;
@@ -211,6 +215,8 @@ public:
 
     /// Deletes files of the clips folder that are not in use, and their cached thumbnails.
     void removeImages(const QStringList& imageFileNames);
+    /// Deletes an image that a snippet no longer has, unless something else has it.
+    void removeUnusedImage(const QString& imageFileName);
 
     /// Following the rules of `Shelf`. Saves only changes.
     void addToShelf(const QList<QUrl>& urls);
@@ -263,9 +269,13 @@ public:
 
 Q_SIGNALS:
     void saveEnded(const ravelo::SaveOutcome& outcome);
-    /// Why files of deleted records were not removed, for the user; empty if they were.
+    /// Why files of deleted records were not removed, for the user; empty once no such file can be
+    /// left.
     void removalEnded(const QString& problem);
+    /// A copied image could not be written, for this reason; for the user.
+    void imageNotKept(const QString& reason);
     void lockedChanged();
+    void imported(); ///< By `addAll`.
     void detailsChanged();
     void cleared(); ///< Also cancels copies that are still being read.
     void clipsChanged();
@@ -293,11 +303,15 @@ private:
     void trimLater();
     void trimForms();
     void formsFailed(const QUuid& clip, const ClipDetails& described);
-    void removeLeftovers();
+    void removeLeftoversSoon(std::optional<Date> since);
+    void removeLeftovers(std::optional<Date> since);
     void lookedUp(const QHash<QUuid, ClipDetails>& found);
+    [[nodiscard]] QStringList goneImages(const QList<ClipItem>& before) const;
     [[nodiscard]] QStringList goneForms(const QList<ClipItem>& before);
     void measureFiles(std::function<void()> job = {});
-    void removeFiles(std::function<Result<void>()> remove);
+    enum class Removal { some, allLeftovers };
+    void removeFiles(std::function<Result<void>()> remove, Removal removal = Removal::some);
+    [[nodiscard]] static QUrl folderOf(const QUrl& file);
     void dropGone(const FileLook::Found& found);
     [[nodiscard]] std::function<void()> unlessCleared(std::function<void()> add,
                                                       std::function<void()> discard);
@@ -320,13 +334,13 @@ private:
     int measurings_ = 0;      ///< Only the last one counts.
     QHash<QUuid, ClipDetails> details_;
     Handle lookingUp_;
-    std::optional<QUuid> lookUpNext_;               ///< Null for all.
-    int keepingFiles_ = 0;                          ///< Handles of `keepFiles`.
-    bool leftoversAsked_ = false;                   ///< To be removed once it is 0.
-    QSet<QString> lentImages_;                      ///< On their way to a clip or a snippet.
-    QStringList waitingFiles_;                      ///< To be removed after the next save.
-    std::function<void()> dropped_;                 ///< Set while a lock waits for a save.
-    std::function<void(const SaveOutcome&)> saved_; ///< Waits for the next save.
+    std::optional<QUuid> lookUpNext_;           ///< Null for all.
+    int keepingFiles_ = 0;                      ///< Handles of `keepFiles`.
+    QList<std::optional<Date>> leftoversAsked_; ///< To be removed once it is 0.
+    QSet<QString> lentImages_;                  ///< On their way to a clip or a snippet.
+    QStringList waitingFiles_;                  ///< To be removed after the next save.
+    std::function<void()> dropped_;             ///< Set while a lock waits for a save.
+    QString lockProblem_;
     Handle trimming_;
     QString folder_;
     StoreData data_; ///< All but the shelf.

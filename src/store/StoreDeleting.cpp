@@ -7,9 +7,11 @@
 #include "store/history/ClipHistory.h"
 #include "store/history/Deleted.h"
 #include "store/images/ImageFiles.h"
+#include "vault/Vault.h"
 
 #include <QCoreApplication>
 #include <QFile>
+#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -41,24 +43,30 @@ void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
 
 void Store::clearClips(const std::shared_ptr<Deleted>& kept) {
     clear(ClipHistory::cleared(data_.clips), kept);
+    removeLeftoversSoon({});
+}
+
+void Store::removeLeftoversSoon(std::optional<Date> since) {
     // Only once what the worker has already is done: a restored image is then named again. While
     // locked, it is not known what is named.
     services_.worker.run([] {},
-                         [store = QPointer(this)] {
+                         [store = QPointer(this), since] {
                              if (store) {
-                                 store->removeLeftovers();
+                                 store->removeLeftovers(since);
                              }
                          });
 }
 
-void Store::removeLeftovers() {
+void Store::removeLeftovers(std::optional<Date> since) {
     if (keepingFiles_ > 0) {
-        leftoversAsked_ = true;
+        leftoversAsked_.append(since);
     } else if (!locked_) {
-        removeFiles([folder = folder_, named = fileNames(data_) + lentImages_,
-                     mayWrite = services_.mayWrite] {
-            return ravelo::removeLeftovers(folder, named, mayWrite);
-        });
+        removeFiles(
+            [folder = folder_, named = fileNames(data_) + lentImages_, since,
+             mayWrite = services_.mayWrite] {
+                return ravelo::removeLeftovers(folder, named, since, mayWrite);
+            },
+            since ? Removal::some : Removal::allLeftovers);
     }
 }
 
@@ -73,14 +81,18 @@ Handle Store::keepFiles(std::function<void()> ready) {
                              }
                          });
     return Handle([store = QPointer(this), asked] {
-        if (store && --store->keepingFiles_ == 0 && std::exchange(store->leftoversAsked_, false)) {
-            store->removeLeftovers();
+        if (store && --store->keepingFiles_ == 0) {
+            for (const auto& since : std::exchange(store->leftoversAsked_, {})) {
+                store->removeLeftovers(since);
+            }
         }
     });
 }
 
 void Store::clearLastHour(const std::shared_ptr<Deleted>& kept) {
-    clear(ClipHistory::clearedSince(data_.clips, hourAgo(services_.scheduler)), kept);
+    const Date since = hourAgo(services_.scheduler);
+    clear(ClipHistory::clearedSince(data_.clips, since), kept);
+    removeLeftoversSoon(since); // Images that texts have pushed out.
 }
 
 qsizetype Store::lastHourCount() const {
@@ -144,21 +156,31 @@ void Store::removeImages(const QStringList& imageFileNames) {
         paths.append(imagePath(name));
         lentImages_.remove(name);
     }
-    removeFiles([paths, decoder = services_.decoder, mayWrite = services_.mayWrite] {
+    removeFiles([paths, decoder = services_.decoder, vault = services_.vault,
+                 mayWrite = services_.mayWrite] {
         Result<void> done = ravelo::removeImages(paths, mayWrite);
         for (const QString& path : paths) {
+            vault->forget(path);
             decoder->forget(PictureFile{QFile::encodeName(path)});
         }
         return done;
     });
 }
 
-/// On the worker; reports how it ended.
-void Store::removeFiles(std::function<Result<void>()> remove) {
+void Store::removeUnusedImage(const QString& imageFileName) {
+    if (!imageFileName.isEmpty() &&
+        !imageNames(data_).contains(QFileInfo(imageFileName).fileName())) {
+        saver_.saveNow(); // The file on the disk names it until then.
+        removeImages({imageFileName});
+    }
+}
+
+/// On the worker; reports a failure, and that nothing is left over.
+void Store::removeFiles(std::function<Result<void>()> remove, Removal removal) {
     const auto outcome = std::make_shared<Result<void>>();
     services_.worker.run([remove = std::move(remove), outcome] { *outcome = remove(); },
-                         [store = QPointer(this), outcome] {
-                             if (store) {
+                         [store = QPointer(this), outcome, removal] {
+                             if (store && (!*outcome || removal == Removal::allLeftovers)) {
                                  Q_EMIT store->removalEnded(*outcome ? QString()
                                                                      : outcome->error().message);
                              }
@@ -190,7 +212,15 @@ std::optional<qsizetype> Store::addAll(const StoreContents& contents,
             *note += note->isEmpty() ? *other : u"\n\n"_s + *other;
         }
     }
-    data_.drawing += contents.data.drawing;
+    const QList<Stroke> drawn = data_.drawing;
+    for (const Stroke& stroke : contents.data.drawing) {
+        const auto same = [&stroke](const Stroke& one) {
+            return one.points == stroke.points;
+        };
+        if (std::ranges::none_of(drawn, same)) {
+            data_.drawing.append(stroke);
+        }
+    }
     const QList<ClipItem> both = data_.clips + contents.data.clips;
     measureFiles();
     data_.clips = ClipHistory::joined(data_.clips, contents.data.clips);
@@ -199,9 +229,9 @@ std::optional<qsizetype> Store::addAll(const StoreContents& contents,
         shelf_ = shelf_.added(stack).value_or(shelf_);
     }
     const qsizetype added = data_.snippets.size() - before;
-    saved_ = std::move(saved);
-    saver_.saveNow();
+    saver_.saveNow(std::move(saved));
     announceAll();
+    Q_EMIT imported();
     return added;
 }
 
@@ -272,8 +302,14 @@ void Store::keepSecrets() {
 
 void Store::forget(const QList<QUuid>& secrets) {
     QList<ClipItem> clips = data_.clips;
-    clips.removeIf([&](const ClipItem& clip) { return secrets.contains(clip.id); });
-    apply(ClipChange{std::move(clips), {}});
+    const auto isOver = [&](const ClipItem& clip) {
+        return !clip.secret.isEmpty() && secrets.contains(clip.id);
+    };
+    if (clips.removeIf(isOver) > 0) {
+        apply(ClipChange{std::move(clips), {}});
+    } else { // It was deleted or kept meanwhile.
+        forgetting_.follow(data_.clips);
+    }
 }
 
 } // namespace ravelo

@@ -5,6 +5,7 @@
 #include "store/Store.h"
 #include "vault/Vault.h"
 
+#include <QFileInfo>
 #include <QPointer>
 
 #include <algorithm>
@@ -51,14 +52,14 @@ void Store::setForms(const QUuid& clip, const ClipForms& kept) {
     if (erased_ || found == data_.clips.end() || !found->secret.isEmpty()) {
         return;
     }
-    const QString path = formsPath(clip);
     ClipDetails details = ravelo::detailsOf(kept);
     details.pixels = detailsOf(clip).pixels;
     if (!kept.isEmpty()) {
         fileSizes_.insert(formsFileName(clip), formsSize(kept));
         const auto written = std::make_shared<Result<void>>();
         services_.worker.run(
-            [vault = services_.vault, path, kept, mayWrite = services_.mayWrite, written] {
+            [vault = services_.vault, path = formsPath(clip), kept, mayWrite = services_.mayWrite,
+             written] {
                 *written = vault->write(path, encodeForms(kept), mayWrite);
                 if (!*written) {
                     (void)ravelo::removeImages({path}, mayWrite); // They are of an earlier copy.
@@ -71,9 +72,7 @@ void Store::setForms(const QUuid& clip, const ClipForms& kept) {
             });
     } else if (hasForms(clip)) {
         fileSizes_.remove(formsFileName(clip));
-        removeFiles([path, mayWrite = services_.mayWrite] {
-            return ravelo::removeImages({path}, mayWrite);
-        });
+        removeImages({formsFileName(clip)});
     }
     details_.insert(clip, details);
     trim();
@@ -171,6 +170,19 @@ qint64 Store::imageBytes() const {
         }
     }
     return size;
+}
+
+/// Names of the images of clips that are no longer there.
+QStringList Store::goneImages(const QList<ClipItem>& before) const {
+    const QSet<QString> named = imageNames(data_);
+    QStringList names;
+    for (const ClipItem& clip : before) {
+        if (!clip.imageFileName.isEmpty() &&
+            !named.contains(QFileInfo(clip.imageFileName).fileName())) {
+            names.append(clip.imageFileName);
+        }
+    }
+    return names;
 }
 
 /// Names of the files beside clips that are no longer there.

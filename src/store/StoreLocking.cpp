@@ -14,6 +14,7 @@
 #include <QFileInfo>
 #include <QPointer>
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
@@ -54,7 +55,11 @@ void Store::begin(StoredContents stored) {
     save();
     if (!shelf_.stacks.isEmpty()) {
         parkedMeanwhile_.emplace();
-        look_.look(shelf_.files(), [this](const FileLook::Found& found) { dropGone(found); });
+        QSet<QUrl> asked;
+        for (const QUrl& file : shelf_.files()) {
+            asked << file << folderOf(file);
+        }
+        look_.look(asked.values(), [this](const FileLook::Found& found) { dropGone(found); });
     }
     measureFiles(
         [folder = folder_, named = fileNames(data_), now = services_.scheduler.now(),
@@ -68,24 +73,19 @@ void Store::adopt(StoredContents stored) {
     data_ = std::move(stored.store.data);
     Shelf shelf{std::move(stored.store.shelf), {}};
     QList<ClipItem> all = data_.clips;
+    HistoryRules rules = rules_; // The limit may not be known yet, if the preferences were lost.
+    rules.limit = std::max(rules.limit,
+                           int(std::ranges::count(std::as_const(all), false, &ClipItem::pinned)));
     for (const StoreContents& one : later) {
         if (!one.data.clips.isEmpty()) {
             all += one.data.clips;
-            data_.clips = ClipHistory::merged(std::move(data_.clips), one.data.clips, rules_).clips;
+            data_.clips = ClipHistory::merged(std::move(data_.clips), one.data.clips, rules).clips;
         }
         for (const QList<QUrl>& stack : one.shelf) {
             shelf = shelf.added(stack).value_or(shelf);
         }
     }
-    QStringList gone = goneForms(all);
-    const QSet<QString> named = imageNames(data_);
-    for (const ClipItem& clip : std::as_const(all)) {
-        if (!named.contains(QFileInfo(clip.imageFileName).fileName())) {
-            gone.append(clip.imageFileName);
-        }
-    }
-    gone.removeAll(QString());
-    removeImages(gone);
+    removeImages(goneForms(all) + goneImages(all));
     shelf_ = std::move(shelf);
     waitingFiles_ += stored.waitingFiles;
 }
@@ -125,8 +125,11 @@ void Store::unlock() {
     services_.worker.run(
         [vault = services_.vault, path = fileURL(), stored] { *stored = readStore(*vault, path); },
         [store = QPointer(this), stored] {
-            if (store) {
-                store->opening_ = false;
+            if (!store) {
+                return;
+            }
+            store->opening_ = false;
+            if (!store->erased_) { // Meanwhile.
                 store->locked_ = false;
                 store->begin(std::move(*stored));
                 store->saver_.saveNow();
@@ -143,9 +146,7 @@ void Store::saveEndedWith(const SaveOutcome& outcome) {
                 (void)ravelo::removeImages(files, mayWrite);
             });
     }
-    if (const auto report = std::exchange(saved_, nullptr)) {
-        report(outcome);
-    }
+    lockProblem_ = dropped_ ? outcome.reason : QString();
     if (saved && dropped_ && saver_.isSaved()) {
         dropAll();
     }
@@ -155,6 +156,7 @@ void Store::saveEndedWith(const SaveOutcome& outcome) {
 void Store::lock(std::function<void()> dropped) {
     if (!locked_ && !opening_) {
         dropped_ = std::move(dropped);
+        lockProblem_.clear();
         if (dropped_) {
             saver_.saveNow();
         }
@@ -193,15 +195,25 @@ void Store::erase(std::function<void(const Result<void>&)> done) {
     Q_EMIT cleared();
     const auto outcome = std::make_shared<Result<void>>();
     services_.worker.run(
-        [folder = folder_, outcome, mayWrite = services_.mayWrite] {
+        [folder = folder_, vault = services_.vault, outcome, mayWrite = services_.mayWrite] {
+            vault->refuseWrites();
             *outcome = eraseFiles(folder, mayWrite);
         },
-        [store = QPointer(this), outcome, done = std::move(done)] {
-            if (store && !*outcome) {
-                store->captureAgain();
-            }
-            done(*outcome);
-        });
+        [outcome, done = std::move(done)] { done(*outcome); });
+    announceAll();
+}
+
+void Store::resume() {
+    if (!std::exchange(erased_, false)) {
+        return;
+    }
+    Vault& vault = *services_.vault;
+    vault.admitWrites();
+    if (!QFileInfo::exists(vault.keyPath())) { // What is saved now could not be read without it.
+        vault.look();
+    }
+    locked_ = vault.state() == Vault::State::locked;
+    load();
     announceAll();
 }
 

@@ -37,6 +37,12 @@ PanelFeatures::PanelFeatures(const Services& services, const QLocale& locale,
     followState();
 }
 
+void PanelFeatures::forget() {
+    toast.reset(); // It may offer to undo a deletion.
+    clips->editor()->discard();
+    snippets.editor()->cancel();
+}
+
 void PanelFeatures::followTyping(NotchController& controller, const QQuickWindow& window) {
     typing.setUndo(window, toast);
     QObject::connect(&typing, &Typing::copied, &controller, &NotchController::copy);
@@ -50,6 +56,7 @@ void PanelFeatures::followTyping(NotchController& controller, const QQuickWindow
 
 void PanelFeatures::followState() {
     QObject::connect(&state, &PanelState::opened, &tabs, &Tabs::begin);
+    QObject::connect(&state, &PanelState::opened, &snippets, &Snippets::begin);
     QObject::connect(&state, &PanelState::opened, &usage, &Usage::refresh);
     QObject::connect(&state, &PanelState::opened, &pausing, [this] { pausing.setShown(true); });
     QObject::connect(&state, &PanelState::closed, &pausing, [this] { pausing.setShown(false); });

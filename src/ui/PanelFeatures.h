@@ -54,6 +54,10 @@ public:
     PanelFeatures(const Services& services, const QLocale& locale, const QQuickWindow& window,
                   QQmlEngine& engine);
     PanelFeatures(const PanelFeatures&) = delete;
+
+    /// Drops what still shows or holds something of the store, which was locked or erased.
+    void forget();
+
     PanelFeatures& operator=(const PanelFeatures&) = delete;
 
     Typing typing;

@@ -20,24 +20,31 @@ QString label() {
 
 } // namespace
 
-Encryption::Encryption(Services services) : services_(std::move(services)) {
+Encryption::Encryption(Services services)
+    : services_(std::move(services)), state_(stateOfVault()) {}
+
+Encryption::~Encryption() = default;
+
+Encryption::State Encryption::stateOfVault() const {
     switch (services_.vault->trouble()) {
     case Vault::Trouble::newer:
-        state_ = Newer;
-        return;
+        return Newer;
     case Vault::Trouble::damaged:
     case Vault::Trouble::keyless:
-        state_ = Damaged;
-        return;
+        return Damaged;
     case Vault::Trouble::none:
         break;
     }
-    if (services_.vault->state() != Vault::State::plain) {
-        state_ = isByPassphrase() ? WaitingForPassphrase : Starting;
+    switch (services_.vault->state()) {
+    case Vault::State::plain:
+        return Off;
+    case Vault::State::open:
+        return Open;
+    case Vault::State::locked:
+        break;
     }
+    return isByPassphrase() ? WaitingForPassphrase : Starting;
 }
-
-Encryption::~Encryption() = default;
 
 bool Encryption::isByPassphrase() const {
     const auto file = services_.vault->keyFile();
@@ -283,6 +290,14 @@ void Encryption::forgetKey() {
     if (state_ == Open && !busy_) {
         services_.vault->lock();
         set(isByPassphrase() ? WaitingForPassphrase : Starting);
+    }
+}
+
+void Encryption::resume() {
+    if (isOn() && !services_.vault->keyFile()) {
+        set(stateOfVault());
+        work([](Vault& /*vault*/) { return Result<void>(); },
+             [this](const Result<void>& /*done*/) { Q_EMIT changed(); }); // The lock follows.
     }
 }
 

@@ -97,6 +97,9 @@ public:
     /// Removes the key from the keyring, if it is there, then calls `done`.
     void eraseKey(std::function<void()> done);
 
+    /// Not everything was erased: takes the state that the vault has now.
+    void resume();
+
 Q_SIGNALS:
     void changed();
     void opened(); ///< The key is available, also after turning encryption on.
@@ -104,6 +107,7 @@ Q_SIGNALS:
 private:
     using Guard = KeyFile::Guard;
 
+    [[nodiscard]] State stateOfVault() const;
     void set(State state, const QString& problem = {});
     void fail(const QString& problem);
     void found(const Keyring::Found& found);

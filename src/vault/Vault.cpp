@@ -182,12 +182,32 @@ Result<void> Vault::write(const QString& path, const QByteArray& bytes,
         return allowed;
     }
     const std::lock_guard lock(writing_);
+    if (refusing_) {
+        return failure(
+            QCoreApplication::translate("ravelo::Store", "what is stored was erased meanwhile"));
+    }
     const Result<QByteArray> ready = sealed(path, bytes);
     if (!ready) {
         return tl::unexpected(ready.error());
     }
     makePrivateFolder(QFileInfo(path).path());
     return writeFileAtomically(path, *ready);
+}
+
+void Vault::refuseWrites() {
+    const std::lock_guard lock(writing_);
+    refusing_ = true;
+}
+
+void Vault::admitWrites() {
+    const std::lock_guard lock(writing_);
+    refusing_ = false;
+}
+
+void Vault::forget(const QString& path) {
+    const QString name = nameOf(path);
+    const std::lock_guard lock(mutex_);
+    kept_.remove(name);
 }
 
 void Vault::whileNobodyWrites(const std::function<void()>& job) const {

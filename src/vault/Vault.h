@@ -81,6 +81,14 @@ public:
     [[nodiscard]] Result<void> write(const QString& path, const QByteArray& bytes,
                                      const OwnFile::Permission& mayWrite) const;
 
+    /// Waits for writes in progress and refuses later ones, for example of an import while
+    /// everything is erased.
+    void refuseWrites();
+    void admitWrites();
+
+    /// The file was removed: drops what is kept of it.
+    void forget(const QString& path);
+
     /// Runs `job` while there are no writes; later writes use the vault's present state.
     void whileNobodyWrites(const std::function<void()>& job) const;
 
@@ -92,6 +100,7 @@ private:
 
     const QString folder_;
     mutable std::mutex writing_; ///< Held while a file is sealed and written.
+    bool refusing_ = false;      ///< Guarded by `writing_`.
     mutable std::mutex mutex_;   ///< Guards the members below; held for moments only.
     State state_ = State::plain;
     Trouble trouble_ = Trouble::none;

@@ -71,12 +71,11 @@ TEST_F(TransfersTest, AnImportThatEndsTooLateSaysSoAndLeavesNoFiles) {
     worker_.drain();
     store_->erase([](const auto& /*outcome*/) {});
     worker_.drain();
-    settle();
-    settle();
+    scheduler_.advance(Seconds(1)); // Without the worker: Ravelo ends once all is erased.
     ASSERT_EQ(answer(), 1);
-    EXPECT_EQ(answer_->errors,
-              u"nothing was imported: what is stored was locked or erased meanwhile"_s);
-    EXPECT_EQ(imageFiles(), QStringList());
+    EXPECT_TRUE(answer_->errors.endsWith(u"what is stored was erased meanwhile"_s))
+        << qPrintable(answer_->errors);
+    EXPECT_FALSE(QFile::exists(store_->clipsDir()));
 }
 
 } // namespace

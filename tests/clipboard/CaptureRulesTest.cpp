@@ -171,10 +171,18 @@ TEST_F(Clipboard, keepsSelectedTextsOnlyIfSet) {
     select({text("pass")});
     scheduler.advance(Seconds(1));
     pause.resume();
+    select({text("paused")});
+    pause.pause({});
+    pause.resume();
+    scheduler.advance(Seconds(1));
+    EXPECT_EQ(texts(), QStringList(u"word"_s));
+    select({text("cleared")});
+    store.clearClips();
+    scheduler.advance(Seconds(1));
     selected.setOn(false);
     select({text("after")});
     scheduler.advance(Seconds(1));
-    EXPECT_EQ(texts(), QStringList(u"word"_s));
+    EXPECT_EQ(texts(), QStringList());
     EXPECT_FALSE(primary.watched);
 }
 

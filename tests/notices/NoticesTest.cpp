@@ -129,6 +129,11 @@ TEST_F(NoticesTest, reportsWhatWasNotDeletedAndWhatWaitsForAKey) {
     notices.deletionEnded(u"the folder is read-only"_s);
     EXPECT_EQ(shown(), u"Not deleted from the disk:|the folder is read-only.|"_s);
     EXPECT_TRUE(notices.dismissible());
+    notices.warn(u"Not kept:"_s, u"the disk is full"_s);
+    EXPECT_EQ(notices.kind(), Notices::NotDeleted) << "that is more serious";
+    notices.dismiss();
+    EXPECT_EQ(shown(), u"Not kept:|the disk is full.|"_s);
+    EXPECT_TRUE(notices.dismissible());
     notices.dismiss();
     EXPECT_EQ(shown(), u"Waiting|for it.|Unlock"_s);
     notices.deletionEnded(u"again"_s);

@@ -109,6 +109,12 @@ class Keyboard(ProgramCase):
         wait_for(lambda: self.desktop.focused_window() == self.focus, "the keyboard back")
         self.assertEqual(self.desktop.paste_text(), text)
 
+    def toggle_twice(self):
+        self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
+        wait_for(self.ravelo.is_collapsed, "the panel to close")
+        wait_for(lambda: self.desktop.focused_window() == self.focus, "the keyboard back")
+        self.toggle()
+
     def test_clips_links_and_snippets_by_key(self):
         self.toggle()
         self.press("Down", "Return")
@@ -130,8 +136,25 @@ class Keyboard(ProgramCase):
         self.desktop.type("edited")
         self.press("ctrl+Return")
         wait_for(lambda: self.ravelo.store()["snippets"][2]["body"] == "edited", "the snippet edited")
+        self.press("F2", "ctrl+a")
+        self.desktop.type("kept")
+        self.toggle_twice()
+        self.desktop.type(" open")
+        self.press("ctrl+Return")
+        wait_for(lambda: self.ravelo.store()["snippets"][2]["body"] == "kept open",
+                 lambda: f"what was typed before and after, not {self.ravelo.store()['snippets'][2]}")
         self.press("Escape")
         self.closed_with("second")
+
+
+    def test_an_edited_clip_waits_while_the_panel_is_closed(self):
+        self.toggle()
+        self.press("F2")
+        self.desktop.type(" and more")
+        self.toggle_twice()
+        self.desktop.type(" at last")
+        self.press("ctrl+Return")
+        self.closed_with("first and more at last")
 
 
 class Pasting(ProgramCase):

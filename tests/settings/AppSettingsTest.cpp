@@ -106,8 +106,9 @@ TEST(SettingsRange, KeepsThePanelVisible) {
     }
 }
 
-TEST(SettingsRange, AllowsThreeHistoryLengths) {
-    for (const auto& [stored, length] : {std::pair(200, 200), {0, 60}, {-1, 60}, {61, 60}}) {
+TEST(SettingsRange, AllowsThreeHistoryLengthsAndNeverShortensOne) {
+    for (const auto& [stored, length] :
+         {std::pair(200, 200), {0, 60}, {-1, 60}, {61, 200}, {500, 1000}, {5000, 1000}}) {
         MemoryPreferences preferences;
         FakeLoginItem loginItem;
         preferences.set(u"historyLength"_s, stored);

@@ -72,12 +72,6 @@ TEST(ClipForms, officeFormsButNotTheirPicturesAndLinks) {
     }
 }
 
-void makeOld(const QString& path) {
-    QFile file(path);
-    EXPECT_TRUE(file.open(QFile::ReadWrite) &&
-                file.setFileTime(QDateTime(QDate(2001, 2, 3), {}), QFile::FileModificationTime));
-}
-
 /// A clip "rich" with other forms among others without.
 class StoreForms : public StoreFixture {
 protected:
@@ -241,7 +235,7 @@ TEST_F(StoreForms, areExportedAndImportedUnderANewName) {
     settle();
     const auto contents = importStore(archive, *store_->vault(), *decoder_, {});
     ASSERT_TRUE(contents) << qPrintable(contents.error().message);
-    store_->addAll(*contents, [](const auto& /*outcome*/) {});
+    store_->addAll(contents->contents, [](const auto& /*outcome*/) {});
     settle();
     const QUuid before = std::exchange(id_, store_->clips()[0].id);
     EXPECT_NE(id_, before);
@@ -250,7 +244,7 @@ TEST_F(StoreForms, areExportedAndImportedUnderANewName) {
 
     const auto again = importStore(archive, *store_->vault(), *decoder_, {});
     ASSERT_TRUE(again);
-    store_->addAll(*again, [](const auto& /*outcome*/) {});
+    store_->addAll(again->contents, [](const auto& /*outcome*/) {});
     settle();
     EXPECT_EQ(imageFiles().size(), 1) << "those of a clip that is there already";
 }

@@ -9,6 +9,7 @@
 
 #include <QTemporaryDir>
 #include <QUrl>
+#include <QtEndian>
 
 namespace ravelo {
 
@@ -110,6 +111,24 @@ TEST_F(OfferedImage, KeepsPngBytesUnchanged) {
     const QByteArray bytes = picture("png", Qt::red) + "and what a program may add to it";
     pasteboard_.offer({{u"image/png"_s, bytes}});
     EXPECT_EQ(image(), bytes);
+}
+
+TEST_F(OfferedImage, APngOf16BitsIsKeptOnlyIfItCanBeReadBack) {
+    const auto kept = [this](int side, char type) {
+        QByteArray bytes = picture("png", Qt::red);
+        qToBigEndian(qint32(side), bytes.data() + 16);
+        qToBigEndian(qint32(side), bytes.data() + 20);
+        bytes[24] = 16;
+        bytes[25] = type;
+        return imageToKeep({{u"image/png"_s}, {{u"image/png"_s, bytes}}}, {}, decoder_);
+    };
+    const KeptImage large = kept(5200, 2);
+    ASSERT_TRUE(large.tooLarge);
+    EXPECT_EQ(large.tooLarge->kind, TooLarge::Kind::deepPixels);
+    EXPECT_EQ(large.tooLarge->amount, 5200 * 5200);
+    EXPECT_TRUE(large.png.isEmpty());
+    EXPECT_FALSE(kept(4096, 6).png.isEmpty()) << "takes 128 MB";
+    EXPECT_FALSE(kept(5200, 0).png.isEmpty()) << "grey";
 }
 
 class CopiedFile : public OfferedImage {

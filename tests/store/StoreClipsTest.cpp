@@ -81,6 +81,15 @@ TEST_F(StoreClips, SecretsAreNeverWritten) {
     settle();
     EXPECT_EQ(texts(), "two a one") << "sorted by the pin";
     EXPECT_EQ(saved().clips, store_->clips());
+
+    store_->setForgetAfter(Seconds(600));
+    const QUuid four = addSecret(u"four"_s);
+    addSecret(u"five"_s);
+    scheduler_.advance(Seconds(300));
+    scheduler_.setNow(Date{scheduler_.now().sinceReference - 3600});
+    store_->keepSecret(four);
+    scheduler_.advance(Seconds(300));
+    EXPECT_EQ(texts(), "four two a one") << "also if the clock was set back";
 }
 
 TEST_F(StoreClips, AddsAnImageOnceItsFileIsWritten) {
@@ -92,6 +101,21 @@ TEST_F(StoreClips, AddsAnImageOnceItsFileIsWritten) {
     EXPECT_EQ(clip.imageFileName.size(), 40);
     EXPECT_NE(clip.imageFileName.first(36), clip.id.toString(QUuid::WithoutBraces).toUpper());
     EXPECT_EQ(imageFiles(), QStringList(clip.imageFileName));
+}
+
+TEST_F(StoreClips, AnImageThatCannotBeWrittenIsReported) {
+    mayWrite_ = []() -> Result<void> {
+        return failure(u"the disk is full"_s);
+    };
+    start();
+    QStringList reasons;
+    QObject::connect(store_.get(), &Store::imageNotKept, store_.get(),
+                     [&](const QString& reason) { reasons.append(reason); });
+    store_->addImageClip(png(Qt::red));
+    store_->addImageClip({{u"image/png"_s}, {{u"image/png"_s, "no image"}}});
+    settle();
+    settle();
+    EXPECT_EQ(reasons, QStringList(u"the disk is full"_s)) << "the other one is no image";
 }
 
 TEST_F(StoreClips, OrderOfCopyingIsKept) {

@@ -2,6 +2,7 @@
 
 #include "StoreFixture.h"
 #include "store/history/Deleted.h"
+#include "support/TestFiles.h"
 #include "vault/Conversion.h"
 #include "vault/Vault.h"
 
@@ -163,6 +164,24 @@ TEST_F(Locking, WhatUnlockingReplacesGoesWithItsFiles) {
     EXPECT_EQ(imageFiles(), QStringList()) << "the image was pushed out";
 }
 
+TEST_F(Locking, UnlockingDropsNoMoreThanWhatCameMeanwhileReplaces) {
+    unlock();
+    HistoryRules longer;
+    longer.limit = 200;
+    store_->setHistoryRules(longer);
+    for (int i = 0; i < 98; ++i) {
+        store_->addClip(u"text %1"_s.arg(i));
+    }
+    settle();
+    store_->vault()->lock();
+    startLocked(); // With the standard rules, as if the preferences were lost.
+    store_->addClip(u"later"_s);
+    settle();
+    unlock();
+    EXPECT_EQ(store_->clips().size(), 100);
+    EXPECT_EQ(store_->clips()[0].text, u"later"_s);
+}
+
 TEST_F(Locking, AStoreByALaterVersionIsLeftAlone) {
     ASSERT_TRUE(QFile::remove(folder() + u"/key"_s));
     const QByteArray newer = R"({"version":2,"clips":[],"snippets":[],"note":"","note2":"",)"
@@ -219,14 +238,37 @@ TEST_F(Erasing, TheLastHourGoesAndTheRestStays) {
     EXPECT_EQ(filesWith("new\""), QStringList());
 }
 
+TEST_F(Erasing, ImagesThatTextsPushedOutGoWithTheLastHourAndWithALimit) {
+    const auto pushOut = [this] {
+        store_->addImageClip(png(Qt::green));
+        settle();
+        for (int i = 0; i < HistoryRules().limit; ++i) {
+            store_->addClip(u"text %1"_s.arg(i));
+        }
+        settle();
+    };
+    scheduler_.setNow(toDate(QDateTime::currentDateTime())); // Files have the time of the disk.
+    const QStringList old = imageFiles();
+    makeOld(store_->clipsDir() + u'/' + old[0]);
+    pushOut();
+    EXPECT_EQ(imageFiles().size(), 2) << "left for a later start";
+    store_->clearLastHour();
+    settle();
+    EXPECT_EQ(imageFiles(), old) << "older than an hour";
+    store_->setHistoryRules({.imageBytes = 1 << 20});
+    pushOut();
+    EXPECT_EQ(imageFiles(), old);
+}
+
 TEST_F(Erasing, AFailureIsReported) {
     QStringList problems;
     QObject::connect(store_.get(), &Store::removalEnded, store_.get(),
                      [&](const QString& problem) { problems.append(problem); });
     const ClipItem image = store_->clips()[0];
     const QString path = store_->imagePath(image.imageFileName);
-    mayWrite_ = [] {
-        return Result<void>(failure(u"the folder is read-only"_s));
+    bool readOnly = true;
+    mayWrite_ = [&] {
+        return readOnly ? Result<void>(failure(u"the folder is read-only"_s)) : Result<void>();
     };
     store_.reset();
     start();
@@ -236,6 +278,17 @@ TEST_F(Erasing, AFailureIsReported) {
     worker_.drain();
     EXPECT_EQ(problems, QStringList(u"the folder is read-only"_s));
     EXPECT_TRUE(QFile::exists(path));
+    readOnly = false;
+    store_->addImageClip(png(Qt::blue));
+    settle();
+    settle();
+    store_->deleteClip(store_->clips()[0].id);
+    worker_.drain();
+    EXPECT_EQ(problems.size(), 1) << "another deletion does not make up for it";
+    store_->clearClips();
+    worker_.drain();
+    EXPECT_EQ(problems.last(), QString());
+    EXPECT_FALSE(QFile::exists(path));
 }
 
 TEST_F(Erasing, EverythingGoesAndNothingComesBack) {
@@ -252,18 +305,97 @@ TEST_F(Erasing, EverythingGoesAndNothingComesBack) {
     EXPECT_EQ(QDir(folder()).entryList(QDir::AllEntries | QDir::NoDotAndDotDot), QStringList());
 }
 
-TEST_F(Erasing, CopiesAreKeptAgainIfItFails) {
-    mayWrite_ = [] {
-        return Result<void>(failure(u"the folder is read-only"_s));
+TEST_F(Erasing, IfItFailsWhatIsLeftStaysAndSavingGoesOn) {
+    bool readOnly = true;
+    mayWrite_ = [&] {
+        return readOnly ? Result<void>(failure(u"the folder is read-only"_s)) : Result<void>();
     };
     store_.reset();
     start();
+    worker_.drain();
     std::optional<Result<void>> done;
     store_->erase([&](const Result<void>& outcome) { done = outcome; });
     worker_.drain();
     ASSERT_TRUE(done && !*done);
+    store_->resume();
+    readOnly = false;
     store_->addClip(u"later"_s);
-    EXPECT_EQ(all(), QStringList(u"later"_s));
+    store_->addImageClip(png(Qt::green));
+    settle();
+    settle();
+    EXPECT_EQ(all(), QStringList({u"green"_s, u"later"_s, u"red"_s, u"before"_s}));
+    EXPECT_EQ(saved().clips.size(), 4);
+}
+
+TEST_F(Locking, WithoutItsKeyAnErasedStoreBeginsPlain) {
+    unlock();
+    store_->erase([](const auto& /*outcome*/) {});
+    worker_.drain();
+    store_->resume(); // The preferences were not erased, say.
+    store_->addClip(u"later"_s);
+    settle();
+    EXPECT_EQ(saved().clips.size(), 1);
+}
+
+TEST_F(Locking, ErasingEndsAnUnlock) {
+    store_->vault()->open(file_, key_);
+    store_->unlock();
+    store_->erase([](const auto& /*outcome*/) {});
+    worker_.drain();
+    store_->flush();
+    EXPECT_FALSE(QFile::exists(storeFile())) << "what was read is not saved again";
+    EXPECT_TRUE(store_->clips().isEmpty());
+}
+
+TEST_F(Locking, ALockThatCannotSaveSaysWhy) {
+    bool full = false;
+    mayWrite_ = [&]() -> Result<void> {
+        return full ? failure(u"the disk is full"_s) : Result<void>();
+    };
+    startLocked();
+    unlock();
+    full = true;
+    store_->addClip(u"last"_s);
+    store_->lock([&] { store_->vault()->lock(); });
+    EXPECT_EQ(store_->lockProblem(), QString()) << "not yet";
+    worker_.drain();
+    EXPECT_FALSE(store_->isLocked());
+    EXPECT_EQ(store_->lockProblem(), u"the disk is full"_s);
+    full = false;
+    store_->lock([&] { store_->vault()->lock(); });
+    worker_.drain();
+    EXPECT_TRUE(store_->isLocked());
+    EXPECT_EQ(store_->lockProblem(), QString());
+}
+
+TEST_F(Locking, ADeletedImageDoesNotStayInMemory) {
+    store_->addImageClip(png(Qt::blue));
+    settle();
+    const QString path = store_->imagePath(store_->clips()[0].imageFileName);
+    const QByteArray sealed = *readFile(path);
+    ASSERT_TRUE(store_->vault()->bytes(path)) << "shown while locked";
+    store_->deleteClip(store_->clips()[0].id);
+    worker_.drain();
+    ASSERT_TRUE(writeFileAtomically(path, sealed));
+    EXPECT_FALSE(store_->vault()->bytes(path));
+}
+
+TEST_F(Locking, WithParkedFilesDuringTheirCheck) {
+    const QUrl file = QUrl::fromLocalFile(storeFile());
+    unlock();
+    store_->addToShelf({file});
+    settle();
+    startLocked();
+    store_->vault()->open(file_, key_);
+    store_->unlock();
+    worker_.drain();
+    jobs_.hung = true;
+    store_->lock([&] { store_->vault()->lock(); });
+    worker_.drain();
+    ASSERT_TRUE(store_->isLocked());
+    settle(Seconds(3));
+    unlock();
+    EXPECT_EQ(store_->shelf().files(), QList<QUrl>{file});
 }
 
 TEST_F(Erasing, OldClipsGoAfterTheirTime) {

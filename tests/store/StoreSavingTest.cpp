@@ -148,7 +148,7 @@ TEST_F(StoreSaving, KeepsEverythingOverARestart) {
 TEST_F(StoreSaving, VanishedFilesLeaveTheShelf) {
     const QString here = directory_.path();
     StoreData data;
-    data.shelfStacks = {{u"/no/such"_s}, {here, u"/no/such"_s, u"/"_s}, {}, {u"/"_s}};
+    data.shelfStacks = {{u"/no-such"_s}, {here, u"/no-such"_s, u"/"_s}, {}, {u"/"_s}};
     write(encodeStore(data));
     start();
     EXPECT_EQ(saved().shelfStacks, data.shelfStacks) << "written back 0.4 s later, not at once";
@@ -160,11 +160,11 @@ TEST_F(StoreSaving, FilesOfUnknownStateStayOnTheShelf) {
     const QString loop = directory_.filePath(u"loop"_s);
     ASSERT_TRUE(QFile::link(loop, loop));
     StoreData data;
-    data.shelfStacks = {{u"/no/such"_s, loop}};
+    data.shelfStacks = {{u"/no-such"_s, loop, u"/not-mounted/file"_s}};
     write(encodeStore(data));
     start();
     settle();
-    EXPECT_EQ(saved().shelfStacks, QList<QStringList>({{loop}}));
+    EXPECT_EQ(saved().shelfStacks, QList<QStringList>({{loop, u"/not-mounted/file"_s}}));
 
     write(encodeStore(data));
     jobs_.hung = true;
@@ -175,12 +175,12 @@ TEST_F(StoreSaving, FilesOfUnknownStateStayOnTheShelf) {
 
 TEST_F(StoreSaving, AFileParkedAgainMeanwhileIsKept) {
     StoreData data;
-    data.shelfStacks = {{u"/no/such"_s, u"/no/other"_s}};
+    data.shelfStacks = {{u"/no-such"_s, u"/no-other"_s}};
     write(encodeStore(data));
     start();
-    store_->addToShelf({QUrl(u"file:///no/such"_s)});
+    store_->addToShelf({QUrl(u"file:///no-such"_s)});
     settle();
-    EXPECT_EQ(saved().shelfStacks, QList<QStringList>({{u"/no/such"_s}}));
+    EXPECT_EQ(saved().shelfStacks, QList<QStringList>({{u"/no-such"_s}}));
 }
 
 TEST(OrphanedImages, AreOldOursAndUnnamed) {

@@ -1,5 +1,6 @@
 #pragma once
 
+#include <QDateTime>
 #include <QDir>
 #include <QFile>
 #include <QFileInfo>
@@ -24,6 +25,13 @@ inline QString makeProgram(const QString& path, const QByteArray& script) {
     makeFile(path, "#!/bin/sh\n" + script);
     EXPECT_EQ(chmod(QFile::encodeName(path), 0700), 0) << qPrintable(path);
     return path;
+}
+
+/// As if it had been written years ago.
+inline void makeOld(const QString& path) {
+    QFile file(path);
+    EXPECT_TRUE(file.open(QFile::ReadWrite) &&
+                file.setFileTime(QDateTime(QDate(2001, 2, 3), {}), QFile::FileModificationTime));
 }
 
 /// The rights to a file or folder.

@@ -152,6 +152,19 @@ TEST_F(PreferenceFileTest, RetriesAtExit) {
     EXPECT_EQ(contents().simplified(), R"({ "a": 1 })");
 }
 
+TEST_F(PreferenceFileTest, WritesAgainIfNotEverythingWasErased) {
+    PreferenceFile preferences(path_, services_);
+    preferences.set(u"a"_s, 1);
+    preferences.erase([](const auto& /*outcome*/) {});
+    preferences.set(u"b"_s, 2);
+    worker_.drain();
+    EXPECT_EQ(contents(), "missing");
+    preferences.resume();
+    preferences.set(u"c"_s, 3);
+    worker_.drain();
+    EXPECT_EQ(contents().simplified(), R"({ "a": 1, "b": 2, "c": 3 })");
+}
+
 TEST_F(PreferenceFileTest, WritesNothingOnceTheDataIsNotOurs) {
     services_.mayWrite = [] {
         return failure(u"taken over"_s);

@@ -24,6 +24,7 @@ PreferenceFile::PreferenceFile(QString path, Services services)
     const QJsonDocument document = QJsonDocument::fromJson(readFile(path_).value_or(QByteArray()));
     wasUnreadable_ = !document.isObject() && QFileInfo::exists(path_);
     values_ = document.object();
+    wasEmpty_ = values_.isEmpty();
     file_ = std::make_shared<OwnFile>(
         path_, document.isObject() ? OwnFile::Contents::ours : OwnFile::Contents::unreadable,
         services_.mayWrite);

@@ -40,6 +40,9 @@ public:
     /// The file existed at the start but could not be read, so this is not the first start.
     [[nodiscard]] bool wasUnreadable() const { return wasUnreadable_; }
 
+    /// Nothing was read at the start.
+    [[nodiscard]] bool wasEmpty() const { return wasEmpty_; }
+
     /// Retries a failed write now.
     void retry();
 
@@ -47,8 +50,12 @@ public:
     void flush();
 
     /// Writes nothing from now on, and lets the worker remove the file and what was put aside. Then
-    /// calls `done`.
+    /// calls `done`. The values stay in memory.
     void erase(std::function<void(const Result<void>&)> done);
+
+    /// For a program that keeps running after `erase`, because something was not erased: the next
+    /// change writes everything.
+    void resume() { erased_ = false; }
 
     /// After each write.
     std::function<void(const SaveOutcome&)> onSaved;
@@ -63,6 +70,7 @@ private:
     std::shared_ptr<OwnFile> file_; ///< For the worker only.
     Handle retry_;
     bool wasUnreadable_ = false;
+    bool wasEmpty_ = false;
     bool unsaved_ = false; ///< The last write failed.
     bool writing_ = false;
     bool changedMeanwhile_ = false;

@@ -47,12 +47,12 @@ void StoreSaver::save() {
     pending_ = scheduler_.after(saveDelay, [this] { write(); });
 }
 
-void StoreSaver::saveNow() {
+void StoreSaver::saveNow(Saved saved) {
     save();
-    write();
+    write(std::move(saved));
 }
 
-void StoreSaver::write() {
+void StoreSaver::write(Saved saved) {
     pending_.reset();
     if (!unsaved_) {
         return;
@@ -67,10 +67,13 @@ void StoreSaver::write() {
                          : SaveOutcome{SaveOutcome::Kind::forbidden, bytes.error().message, {}};
     };
     ++writing_;
-    worker_.run(std::move(job), [saver = QPointer(this), outcome] {
+    worker_.run(std::move(job), [saver = QPointer(this), outcome, saved = std::move(saved)] {
         if (saver) {
             --saver->writing_;
             saver->written(*outcome);
+            if (saved) {
+                saved(*outcome);
+            }
         }
     });
 }

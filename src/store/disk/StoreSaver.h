@@ -39,8 +39,11 @@ public:
 
     void save();
 
-    /// Saves without waiting for the end of a burst of changes.
-    void saveNow();
+    using Saved = std::function<void(const SaveOutcome&)>;
+
+    /// Saves without waiting for the end of a burst of changes. `saved`, if any, gets the outcome,
+    /// after `ended`; it is not called once stopped.
+    void saveNow(Saved saved = {});
 
     /// Writes what is pending or failed, and waits until the worker has nothing left to do.
     void flush();
@@ -49,7 +52,7 @@ Q_SIGNALS:
     void ended(const ravelo::SaveOutcome& outcome);
 
 private:
-    void write();
+    void write(Saved saved = {});
     void written(const SaveOutcome& outcome);
 
     Scheduler& scheduler_;

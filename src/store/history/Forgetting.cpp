@@ -1,46 +1,52 @@
 #include "store/history/Forgetting.h"
 
+#include <QSet>
+
 #include <algorithm>
 
 namespace ravelo {
 
 std::optional<Seconds> Forgetting::left(const ClipItem& clip) const {
-    return clip.secret.isEmpty() || !after_ ? std::nullopt : std::optional(left(clip.date));
+    return clip.secret.isEmpty() || !after_
+               ? std::nullopt
+               : std::optional(left(since_.value(clip.id, scheduler_.uptime())));
 }
 
-/// Never longer than at first, even if the clock is set back.
-Seconds Forgetting::left(Date copied) const {
-    const Seconds age(scheduler_.now().sinceReference - copied.sinceReference);
-    return std::clamp(*after_ - age, Seconds(0), *after_);
+Seconds Forgetting::left(Seconds since) const {
+    return std::max(since + *after_ - scheduler_.uptime(), Seconds(0));
 }
 
 void Forgetting::follow(const QList<ClipItem>& clips) {
-    QList<Due> all; // Not the clips: a deleted one must not stay in memory here.
+    QSet<QUuid> secrets;
     for (const ClipItem& clip : clips) {
         if (!clip.secret.isEmpty()) {
-            all.append({clip.id, clip.date});
-        }
-    }
-    await(all);
-}
-
-void Forgetting::await(const QList<Due>& all) {
-    next_.reset();
-    if (all.isEmpty() || !after_) {
-        return;
-    }
-    Seconds next = *after_;
-    for (const Due& due : all) {
-        next = std::min(next, left(due.copied));
-    }
-    next_ = scheduler_.after(next, [this, all] {
-        QList<QUuid> over;
-        for (const Due& due : all) {
-            if (left(due.copied) <= Seconds(0)) {
-                over.append(due.id);
+            secrets.insert(clip.id);
+            if (!since_.contains(clip.id)) {
+                since_.insert(clip.id, scheduler_.uptime());
             }
         }
-        over.isEmpty() ? await(all) : forget_(over);
+    }
+    // One that comes back soon after it was deleted does not begin anew.
+    since_.removeIf([&](QHash<QUuid, Seconds>::iterator one) {
+        return !secrets.contains(one.key()) && (!after_ || left(one.value()) <= Seconds(0));
+    });
+    await();
+}
+
+void Forgetting::await() {
+    next_.reset();
+    if (since_.isEmpty() || !after_) {
+        return;
+    }
+    const Seconds first = *std::min_element(since_.cbegin(), since_.cend());
+    next_ = scheduler_.after(left(first), [this] {
+        QList<QUuid> over;
+        for (auto one = since_.cbegin(); one != since_.cend(); ++one) {
+            if (left(one.value()) <= Seconds(0)) {
+                over.append(one.key());
+            }
+        }
+        over.isEmpty() ? await() : forget_(over);
     });
 }
 

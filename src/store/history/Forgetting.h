@@ -3,13 +3,15 @@
 #include "base/Scheduler.h"
 #include "store/Records.h"
 
+#include <QHash>
+
 #include <functional>
 #include <optional>
 
 namespace ravelo {
 
-/// Ends the life of secrets, which exist in memory only, a fixed time after they were copied. Main
-/// thread.
+/// Ends the life of secrets, which exist in memory only, a fixed time after they were copied, also
+/// if the wall clock is set meanwhile. Main thread.
 class Forgetting {
 public:
     /// `forget` gets the ids of clips whose time is over.
@@ -26,17 +28,14 @@ public:
     void follow(const QList<ClipItem>& clips);
 
 private:
-    struct Due {
-        QUuid id;
-        Date copied;
-    };
-
-    [[nodiscard]] Seconds left(Date copied) const;
-    void await(const QList<Due>& all);
+    [[nodiscard]] Seconds left(Seconds since) const;
+    void await();
 
     Scheduler& scheduler_;
     std::function<void(const QList<QUuid>&)> forget_;
     std::optional<Seconds> after_;
+    /// Uptime when each came. Not the clips: a deleted one must not stay in memory here.
+    QHash<QUuid, Seconds> since_;
     Handle next_;
 };
 

@@ -131,16 +131,20 @@ void removeOrphanedImages(const QString& folder, const QSet<QString>& named, Dat
 }
 
 Result<void> removeLeftovers(const QString& folder, const QSet<QString>& named,
-                             const OwnFile::Permission& mayWrite) {
+                             std::optional<Date> since, const OwnFile::Permission& mayWrite) {
     constexpr auto files = QDir::Files | QDir::Hidden | QDir::System;
     QStringList beside;
     for (const QFileInfo& file : QDir(folder).entryInfoList({u"store.json.*"_s}, files)) {
-        beside.append(file.filePath());
+        if (!since) {
+            beside.append(file.filePath());
+        }
     }
     QStringList images;
     for (const QFileInfo& file : QDir(folder + u"/clips"_s).entryInfoList(files)) {
         const QString name = file.fileName();
-        if (isOurName(replacedBy(name)) || (isOurName(name) && !named.contains(name))) {
+        const bool isLeft =
+            isOurName(replacedBy(name)) || (isOurName(name) && !named.contains(name));
+        if (isLeft && (!since || *since < toDate(file.lastModified()))) {
             images.append(file.filePath());
         }
     }

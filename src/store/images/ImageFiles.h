@@ -10,6 +10,8 @@
 #include <QSet>
 #include <QString>
 
+#include <optional>
+
 namespace ravelo {
 
 class Vault;
@@ -58,9 +60,10 @@ void removeOrphanedImages(const QString& folder, const QSet<QString>& named, Dat
                           const OwnFile::Permission& mayWrite);
 
 /// Deletes what a cleared history may have left: all files that are not in `named`, stores that
-/// were put aside, and what killed saves left. Syncs. An error, fit for the user, if something is
-/// still there.
+/// were put aside, and what killed saves left. With `since`, only images written later. Syncs. An
+/// error, fit for the user, if something is still there.
 [[nodiscard]] Result<void> removeLeftovers(const QString& folder, const QSet<QString>& named,
+                                           std::optional<Date> since,
                                            const OwnFile::Permission& mayWrite);
 
 } // namespace ravelo

@@ -104,8 +104,10 @@ KeptImage imageToKeep(const PasteboardSnapshot& contents, const CopiedContents& 
     if (!pixels) { // Whatever the owner calls it.
         return converted(bytes, decoder);
     }
-    return *pixels > decode::maxPixels ? KeptImage{{}, TooLarge{TooLarge::Kind::pixels, *pixels}}
-                                       : KeptImage{bytes, {}};
+    const bool deep = decode::isDeepPng(bytes);
+    const auto kind = deep ? TooLarge::Kind::deepPixels : TooLarge::Kind::pixels;
+    return *pixels > decode::maxPixels / (deep ? 2 : 1) ? KeptImage{{}, TooLarge{kind, *pixels}}
+                                                        : KeptImage{bytes, {}};
 }
 
 } // namespace ravelo

@@ -69,20 +69,22 @@ Result<StoreData> storeIn(QIODevice& archive) {
     }
 }
 
-/// New file names by those in the archive. What is written before an error is in it, too.
+/// New file names by those in the archive; empty for images that cannot be decoded. What is written
+/// before an error is in it, too.
 using Names = QHash<QString, QString>;
 
-Result<void> importImage(const QByteArray& bytes, const QString& path, const Vault& vault,
+/// Whether it could be decoded.
+Result<bool> importImage(const QByteArray& bytes, const QString& path, const Vault& vault,
                          ImageDecoder& decoder, const OwnFile::Permission& mayWrite) {
     const QByteArray png = decoder.png(bytes);
-    return png.isEmpty() ? failure(u"one of its images cannot be decoded"_s)
-                         : writeImage(vault, path, png, mayWrite);
+    return png.isEmpty() ? Result<bool>(false)
+                         : writeImage(vault, path, png, mayWrite).map([] { return true; });
 }
 
-Result<void> importForms(const QByteArray& bytes, const QString& path, const Vault& vault,
+Result<bool> importForms(const QByteArray& bytes, const QString& path, const Vault& vault,
                          const OwnFile::Permission& mayWrite) {
     const auto kept = decodeForms(bytes);
-    return kept ? vault.write(path, encodeForms(*kept), mayWrite)
+    return kept ? vault.write(path, encodeForms(*kept), mayWrite).map([] { return true; })
                 : failure(u"the forms of one of its clips cannot be read"_s);
 }
 
@@ -112,12 +114,12 @@ Result<void> importFiles(QIODevice& archive, const QSet<QString>& wanted, const 
         const QString fresh =
             isForms ? forms.value(name) : uuidText(QUuid::createUuid()) + u".png"_s;
         const QString path = clipsOf(vault) + fresh;
-        if (auto written = isForms ? importForms(*bytes, path, vault, mayWrite)
-                                   : importImage(*bytes, path, vault, decoder, mayWrite);
-            !written) {
-            return written;
+        const Result<bool> written = isForms ? importForms(*bytes, path, vault, mayWrite)
+                                             : importImage(*bytes, path, vault, decoder, mayWrite);
+        if (!written) {
+            return tl::unexpected(written.error());
         }
-        names.insert(name, fresh);
+        names.insert(name, *written ? fresh : QString());
     }
 }
 
@@ -138,6 +140,17 @@ Names renewIds(StoreData& data) {
         stroke.id = QUuid::createUuid();
     }
     return forms;
+}
+
+/// The written files, except those that `used` names.
+QStringList filesOf(const Names& names, const QSet<QString>& used, const Vault& vault) {
+    QStringList paths;
+    for (const QString& name : names) {
+        if (!name.isEmpty() && !used.contains(name)) {
+            paths.append(clipsOf(vault) + name);
+        }
+    }
+    return paths;
 }
 
 /// Those of the clips that are exported.
@@ -201,8 +214,8 @@ Result<int> exportStore(StoreContents contents, const Vault& vault, const QStrin
                          : failure(u"%1: %2"_s.arg(path, file.errorString()));
 }
 
-Result<StoreContents> importStore(const QString& path, const Vault& vault, ImageDecoder& decoder,
-                                  const OwnFile::Permission& mayWrite) {
+Result<Import> importStore(const QString& path, const Vault& vault, ImageDecoder& decoder,
+                           const OwnFile::Permission& mayWrite) {
     QFile file(path);
     if (!QFileInfo(path).isFile() || !file.open(QIODevice::ReadOnly)) {
         return failure(u"%1 cannot be read"_s.arg(path));
@@ -216,23 +229,20 @@ Result<StoreContents> importStore(const QString& path, const Vault& vault, Image
     bool complete = files.has_value();
     if (complete) {
         forImages(*data, [&](QString& name) {
-            const QString fresh = names.value(QFileInfo(name).fileName());
-            complete = complete && !fresh.isEmpty();
-            name = fresh;
-            return true;
+            const auto fresh = names.constFind(QFileInfo(name).fileName());
+            complete = complete && fresh != names.cend();
+            name = complete ? *fresh : QString();
+            return !name.isEmpty();
         });
     }
+    const QSet<QString> used = complete ? fileNames(*data) : QSet<QString>();
+    (void)removeImages(filesOf(names, used, vault), mayWrite);
     if (!complete) {
-        QStringList written;
-        for (const QString& name : std::as_const(names)) {
-            written.append(clipsOf(vault) + name);
-        }
-        (void)removeImages(written, mayWrite);
         return failure(u"%1: %2"_s.arg(path, files ? u"one of its images is missing"_s
                                                    : files.error().message));
     }
     QList<QList<QUrl>> shelf = shelfStacks(std::exchange(data->shelfStacks, {}));
-    return StoreContents{std::move(*data), std::move(shelf)};
+    return Import{{std::move(*data), std::move(shelf)}, int(names.values().count(QString()))};
 }
 
 } // namespace ravelo

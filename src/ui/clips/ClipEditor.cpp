@@ -1,5 +1,7 @@
 #include "ui/clips/ClipEditor.h"
 
+#include <utility>
+
 namespace ravelo {
 
 void ClipEditor::edit(const ClipItem& clip) {
@@ -10,12 +12,36 @@ void ClipEditor::edit(const ClipItem& clip) {
         Q_EMIT tooLong();
         return;
     }
-    text_ = clip.text;
+    text_ = draft_ = clip.text;
+    resumed_ = false;
     Q_EMIT editingChanged();
 }
 
-void ClipEditor::copy(const QString& text) {
-    if (text_ && !text.trimmed().isEmpty()) {
+void ClipEditor::setDraft(const QString& draft) {
+    if (isEditing() && draft != draft_) {
+        draft_ = draft;
+        Q_EMIT draftChanged();
+    }
+}
+
+void ClipEditor::putAside() {
+    if (draft_ == text()) {
+        discard();
+    } else if (text_ && !std::exchange(aside_, true)) {
+        Q_EMIT editingChanged();
+    }
+}
+
+void ClipEditor::resume() {
+    if (std::exchange(aside_, false)) {
+        resumed_ = true;
+        Q_EMIT editingChanged();
+    }
+}
+
+void ClipEditor::copy() {
+    if (isEditing() && !draft_.trimmed().isEmpty()) {
+        const QString text = draft_;
         discard();
         Q_EMIT copied(text);
     }
@@ -24,6 +50,8 @@ void ClipEditor::copy(const QString& text) {
 void ClipEditor::discard() {
     if (text_) {
         text_.reset();
+        draft_.clear();
+        aside_ = false;
         Q_EMIT editingChanged();
     }
 }

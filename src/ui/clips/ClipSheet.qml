@@ -21,8 +21,11 @@ FocusScope {
 
     function begin() {
         focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
-        body.exactText = editor.text;
-        Typing.wantKeyboard(layer);
+        body.exactText = editor.draft;
+        // The pointer may have opened the panel by chance; then only a press asks for the keyboard.
+        if (!editor.resumed) {
+            Typing.wantKeyboard(layer);
+        }
         body.forceActiveFocus();
         body.cursorPosition = body.length;
     }
@@ -37,7 +40,7 @@ FocusScope {
 
     /// Asks first if the text was changed.
     function leave() {
-        if (body.exactText === editor.text) {
+        if (editor.draft === editor.text) {
             editor.discard();
         } else {
             question.openUnder(bodyField, 0);
@@ -65,7 +68,7 @@ FocusScope {
         if (event.key === Qt.Key_Escape) {
             leave();
         } else if (returns && event.modifiers & Qt.ControlModifier) {
-            editor.copy(body.exactText);
+            editor.copy();
         }
         event.accepted = true; // Modal: keys do not reach what is below.
     }
@@ -160,6 +163,9 @@ FocusScope {
                     width: parent.width
                     style: Theme.bodyLoose
                     color: Theme.text1
+                    // Not `onTextChanged`, which comes before `exactText` follows, and while the
+                    // field is still empty.
+                    onExactTextChanged: layer.editor.draft = exactText
                     KeyNavigation.priority: KeyNavigation.BeforeItem
                     KeyNavigation.tab: cancel
                     KeyNavigation.backtab: copy
@@ -191,7 +197,7 @@ FocusScope {
             text: qsTr("Copy")
             KeyNavigation.tab: body
             KeyNavigation.backtab: cancel
-            onClicked: layer.editor.copy(body.exactText)
+            onClicked: layer.editor.copy()
         }
     }
 

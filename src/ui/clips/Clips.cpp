@@ -39,6 +39,7 @@ Clips::Clips(Services services, const QLocale& locale)
 
 void Clips::begin() {
     ages_.start();
+    editor_.resume();
 }
 
 void Clips::reset() {
@@ -48,7 +49,7 @@ void Clips::reset() {
     list_.selection().clear();
     links_.reset();
     pasting_.reset();
-    editor_.discard();
+    editor_.putAside();
 }
 
 void Clips::showTooLarge(const TooLargeCopy& copy) {

@@ -24,6 +24,8 @@ int limit(Measure measure) {
         return 64;
     case Measure::pixelsOfImage:
         return 32;
+    case Measure::deepPixelsOfImage:
+        return 16;
     }
     return 0;
 }
@@ -33,8 +35,16 @@ bool isKnown(const TooLargeCopy& copy) {
 }
 
 QString withUnit(const QString& number, Measure measure) {
-    return measure == Measure::pixelsOfImage ? TooLargeText::tr("%1 megapixels").arg(number)
-                                             : TooLargeText::tr("%1 MB").arg(number);
+    switch (measure) {
+    case Measure::pixelsOfImage:
+        return TooLargeText::tr("%1 megapixels").arg(number);
+    case Measure::deepPixelsOfImage:
+        return TooLargeText::tr("%1 megapixels of 16 bits").arg(number);
+    case Measure::bytesOfText:
+    case Measure::bytesOfImage:
+        break;
+    }
+    return TooLargeText::tr("%1 MB").arg(number);
 }
 
 QString limitWithUnit(Measure measure) {

@@ -7,7 +7,7 @@ namespace ravelo {
 
 /// A copy that was too large to keep.
 struct TooLargeCopy {
-    enum class Measure { bytesOfText, bytesOfImage, pixelsOfImage };
+    enum class Measure { bytesOfText, bytesOfImage, pixelsOfImage, deepPixelsOfImage };
 
     Measure measure = Measure::bytesOfText;
     qint64 amount = 0; ///< At most the limit if the real amount is unknown.

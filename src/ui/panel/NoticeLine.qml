@@ -25,6 +25,7 @@ FocusScope {
     property string action
     property bool dismissible
     readonly property bool red: kind === Notices.SavingFails || kind === Notices.NotDeleted
+                                || kind === Notices.Warning
 
     property Item focusedBefore
 

@@ -12,14 +12,14 @@ using namespace Qt::StringLiterals;
 SnippetEditor::SnippetEditor(Store& store) : store_(store) {}
 
 void SnippetEditor::setTitle(const QString& title) {
-    if (editing_ && editing_->title != title) {
+    if (isEditing() && editing_->title != title) {
         editing_->title = title;
         Q_EMIT changed();
     }
 }
 
 void SnippetEditor::setBody(const QString& body) {
-    if (editing_ && editing_->body != body) {
+    if (isEditing() && editing_->body != body) {
         editing_->body = body;
         Q_EMIT changed();
     }
@@ -40,12 +40,14 @@ void SnippetEditor::editNew() {
 void SnippetEditor::begin(const Snippet& snippet) {
     if (!editing_) {
         editing_ = begun_ = snippet;
+        resumed_ = false;
         Q_EMIT changed();
     }
 }
 
 std::optional<Snippet> SnippetEditor::end(const QString& keptImage) {
     attaching_.reset();
+    aside_ = false;
     attached_.removeAll(keptImage);
     store_.removeImages(std::exchange(attached_, {}));
     return std::exchange(editing_, std::nullopt);
@@ -59,6 +61,7 @@ void SnippetEditor::save() {
     const auto& snippets = store_.snippets();
     if (std::ranges::find(snippets, edited.id, &Snippet::id) != snippets.end()) {
         store_.updateSnippet(edited);
+        store_.removeUnusedImage(begun_.imageFileName);
     } else {
         store_.addSnippet(edited);
         Q_EMIT added();
@@ -68,6 +71,21 @@ void SnippetEditor::save() {
 
 void SnippetEditor::cancel() {
     if (end({})) {
+        Q_EMIT changed();
+    }
+}
+
+void SnippetEditor::putAside() {
+    if (!isModified()) {
+        cancel();
+    } else if (!std::exchange(aside_, true)) {
+        Q_EMIT changed();
+    }
+}
+
+void SnippetEditor::resume() {
+    if (std::exchange(aside_, false)) {
+        resumed_ = true;
         Q_EMIT changed();
     }
 }

@@ -25,11 +25,13 @@ class SnippetEditor : public QObject {
     Q_PROPERTY(bool canSave READ canSave NOTIFY changed)
     /// Something would be lost by `cancel`.
     Q_PROPERTY(bool modified READ isModified NOTIFY changed)
+    /// The panel was closed in between.
+    Q_PROPERTY(bool resumed READ isResumed NOTIFY changed)
 
 public:
     explicit SnippetEditor(Store& store);
 
-    [[nodiscard]] bool isEditing() const { return editing_.has_value(); }
+    [[nodiscard]] bool isEditing() const { return editing_ && !aside_; }
 
     [[nodiscard]] QString title() const { return copy().title; }
 
@@ -45,6 +47,12 @@ public:
     [[nodiscard]] bool canSave() const { return !title().trimmed().isEmpty(); }
 
     [[nodiscard]] bool isModified() const { return editing_ && *editing_ != begun_; }
+
+    [[nodiscard]] bool isResumed() const { return resumed_; }
+
+    /// The panel closes: what was changed is kept until it opens again.
+    void putAside();
+    void resume();
 
     // No effect while another one is edited or if there is no such snippet.
     Q_INVOKABLE void edit(const QUuid& id);
@@ -71,6 +79,8 @@ private:
 
     Store& store_;
     std::optional<Snippet> editing_;
+    bool aside_ = false;
+    bool resumed_ = false;
     Snippet begun_;        ///< As it was.
     QStringList attached_; ///< Image files that the store does not refer to.
     Handle attaching_;

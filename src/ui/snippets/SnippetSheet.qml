@@ -14,6 +14,7 @@ FocusScope {
     /// Kept while the sheet fades out.
     property string imageFileName
     property Item focusedBefore
+    property bool complete: false
 
     function end() {
         if (focusedBefore) {
@@ -41,9 +42,13 @@ FocusScope {
     function begin() {
         titleField.mistaken = false;
         focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
+        imageFileName = editor.imageFileName;
         title.text = editor.title;
         body.exactText = editor.body;
-        Typing.wantKeyboard(layer);
+        // The pointer may have opened the panel by chance; then only a press asks for the keyboard.
+        if (!editor.resumed) {
+            Typing.wantKeyboard(layer);
+        }
         if (editor.title === "") {
             title.forceActiveFocus();
         } else {
@@ -55,7 +60,17 @@ FocusScope {
     visible: opacity > 0
     enabled: editing
     opacity: editing ? 1 : 0
-    onEditingChanged: editing ? begin() : end()
+    Component.onCompleted: {
+        complete = true;
+        if (editing) {
+            begin();
+        }
+    }
+    onEditingChanged: {
+        if (complete) {
+            editing ? begin() : end();
+        }
+    }
     Accessible.role: Accessible.Dialog
     Accessible.name: heading.text
 

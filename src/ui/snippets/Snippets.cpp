@@ -13,10 +13,6 @@ namespace ravelo {
 Snippets::Snippets(Services services, const QLocale& locale)
     : services_(services), list_(services.store, locale), editor_(services.store) {}
 
-void Snippets::reset() {
-    editor_.cancel();
-}
-
 void Snippets::copy(const QUuid& id) {
     const auto& snippets = services_.store.snippets();
     const auto found = std::ranges::find(snippets, id, &Snippet::id);

@@ -34,8 +34,11 @@ public:
 
     [[nodiscard]] SnippetEditor* editor() { return &editor_; }
 
-    /// No longer visible. The search is the tab's to reset.
-    void reset();
+    /// Visible, or no longer: a snippet that is being edited waits meanwhile. The search is the
+    /// tab's to reset.
+    void begin() { editor_.resume(); }
+
+    void reset() { editor_.putAside(); }
 
     Q_INVOKABLE void copy(const QUuid& id);
     Q_INVOKABLE void remove(const QUuid& id);

@@ -30,6 +30,45 @@ TEST_F(Panel, editsAClipBeforeItIsCopied) {
     EXPECT_EQ(pasteboardText(), u"first\n!"_s);
 }
 
+TEST_F(Panel, keepsAChangedClipUntilItOpensAgain) {
+    const auto isEditing = [this] {
+        return view.features().clips->editor()->isEditing();
+    };
+    openSearch();
+    pressKeys(u"F2"_s);
+    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
+    rebuild();
+    openByKey();
+    EXPECT_FALSE(isEditing()) << "nothing was changed";
+    close();
+
+    openSearch();
+    pressKeys(u"F2"_s);
+    ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
+    for (const QString& next : {u"a"_s, u"b"_s, u"c"_s}) {
+        pressKeys(next);
+        rebuild();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // The former content.
+        EXPECT_FALSE(isEditing()) << "closed";
+        openByKey();
+        ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
+    }
+    EXPECT_EQ(text(u"clipInput"_s), u"firstabc"_s);
+    pressKeys(u"Escape"_s);
+    EXPECT_TRUE(item(u"discardQuestion"_s)->isVisible());
+    pressKeys(u"Tab Return"_s);
+    rebuild();
+    openByKey();
+    EXPECT_FALSE(isEditing()) << "discarded";
+
+    pressKeys(u"F2 x"_s);
+    close();
+    openByKey(); // Before the panel was built again.
+    EXPECT_EQ(text(u"clipInput"_s), u"firstx"_s);
+    pressKeys(u"y Ctrl+Return"_s);
+    EXPECT_EQ(pasteboardText(), u"firstxy"_s);
+}
+
 TEST_F(Panel, copiesAsPlainText) {
     const QUuid first = world.store.clips()[0].id;
     world.store.setForms(first, {{}, {{u"text/html"_s, "<b>first</b>"}}});

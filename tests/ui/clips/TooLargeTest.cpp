@@ -96,6 +96,9 @@ TEST(TooLargeText, statesSizeAndLimit) {
         {{Measure::pixelsOfImage, 50 << 20},
          u"Image of 50 megapixels, the limit is 32 megapixels"_s,
          u"image of 50 megapixels"_s},
+        {{Measure::deepPixelsOfImage, 20 << 20},
+         u"Image of 20 megapixels of 16 bits, the limit is 16 megapixels of 16 bits"_s,
+         u"image of 20 megapixels of 16 bits"_s},
     };
     const QLocale english(u"en_US"_s);
     for (const Case& c : cases) {

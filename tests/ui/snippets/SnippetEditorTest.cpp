@@ -101,6 +101,66 @@ TEST_F(Panel, aSnippetWithoutATitleIsNotSaved) {
     EXPECT_EQ(world.store.snippets().size(), before + 1);
 }
 
+TEST_F(SnippetEditing, deletesAnImageThatASavedSnippetNoLongerHas) {
+    world.pasteboard.offer({{u"image/png"_s, picture("png")}});
+    editor.edit(first.id);
+    attach();
+    editor.save();
+    ASSERT_EQ(images().size(), 1);
+    editor.edit(first.id);
+    editor.removeImage();
+    editor.cancel();
+    EXPECT_EQ(images().size(), 1) << "the snippet still has it";
+    editor.edit(first.id);
+    attach();
+    editor.save();
+    EXPECT_EQ(images(), QStringList{snippets().first().imageFileName}) << "the other one is gone";
+    editor.edit(first.id);
+    editor.removeImage();
+    editor.save();
+    EXPECT_EQ(images(), QStringList());
+}
+
+TEST_F(Panel, aChangedSnippetWaitsWhileThePanelIsClosed) {
+    const auto reopen = [this] {
+        rebuild();
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete); // The former content.
+        EXPECT_FALSE(view.features().snippets.editor()->isEditing()) << "closed";
+        openByKey();
+    };
+    open();
+    clickOn(u"addSnippet"_s);
+    reopen();
+    EXPECT_EQ(shown(u"sheet"_s), nullptr) << "nothing was typed";
+    clickOn(u"addSnippet"_s);
+    type(u"title"_s);
+    clickOn(u"bodyInput"_s);
+    type(u"ab"_s);
+    for (const QString& next : {u"c"_s, u"d"_s}) {
+        reopen();
+        ASSERT_TRUE(eventually([&] { return item(u"bodyInput"_s)->hasActiveFocus(); }));
+        type(next);
+    }
+    EXPECT_EQ(text(u"titleInput"_s), u"title"_s);
+    EXPECT_EQ(text(u"bodyInput"_s), u"abcd"_s);
+    press(Qt::Key_Escape);
+    item(u"snippetDiscardQuestion"_s);
+    pressKeys(u"Tab Return"_s);
+    reopen();
+    EXPECT_FALSE(view.features().snippets.editor()->isEditing()) << "discarded";
+
+    clickOn(u"addSnippet"_s);
+    type(u"title"_s);
+    close();
+    openByKey(); // Before the panel was built again.
+    EXPECT_EQ(text(u"titleInput"_s), u"title"_s);
+    close();
+    view.features().forget();
+    openByKey();
+    EXPECT_FALSE(view.features().snippets.editor()->isEditing())
+        << "the store was locked or erased";
+}
+
 TEST_F(Panel, EscapeAsksBeforeItDiscardsASnippet) {
     open();
     const auto isEditing = [this] {
