@@ -21,6 +21,17 @@ TEST(HoverTick, restsWhileNothingMoves) {
     EXPECT_EQ(world.scheduler.pending(), 0);
 }
 
+TEST(HoverTick, restsWhileThePanelIsOpenAndThePointerElsewhere) {
+    PanelWorld world;
+    world.controller.toggle();
+    world.moveTo(100, 800);
+    world.scheduler.advance(Seconds(3));
+    const int questions = world.pointer.questions;
+    world.scheduler.advance(Seconds(3600));
+    EXPECT_TRUE(world.controller.isOpen());
+    EXPECT_EQ(world.pointer.questions, questions) << "an hour at rest";
+}
+
 /// Everything that may happen to a controller, applied to two of them alike.
 struct Event {
     enum Kind {
