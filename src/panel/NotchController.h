@@ -188,7 +188,7 @@ private:
     bool isOpen_ = false;
     bool awaitsPointer_ = false; ///< Opened by a request; it has not been hovered over yet.
     Collapsed collapsed_;
-    /// A press elsewhere closes it, or that nobody looks at where the pointer is any more.
+    /// The pointer was elsewhere at the last look: without another one, the panel closes.
     bool closeIsPutOff_ = false;
     QRectF frame_;
     QString screenId_;         ///< Of the screen that it is on.
