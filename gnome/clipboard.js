@@ -1,5 +1,6 @@
 import GLib from 'gi://GLib';
 import Meta from 'gi://Meta';
+import {reportable} from './protocol.js';
 import {Giver} from './selection.js';
 import {Signals} from './signals.js';
 
@@ -59,7 +60,7 @@ export class Clipboard {
     }
 
     _report(initial) {
-        const types = this._types();
+        const types = reportable(this._types());
         // The shell itself keeps what a program had that has exited.
         const offered = this._source !== null && this._source === this._offered;
         const kept = !offered && this._source instanceof Meta.SelectionSourceMemory;

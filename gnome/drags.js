@@ -1,4 +1,5 @@
 import Meta from 'gi://Meta';
+import {reportable} from './protocol.js';
 import {Giver} from './selection.js';
 import {Signals} from './signals.js';
 
@@ -12,6 +13,9 @@ export class Drags {
         this._source = null;
         this._giver = new Giver(DRAG, 'drag');
         this._signals = new Signals();
+    }
+
+    start() {
         this._signals.connect(global.display.get_selection(), 'owner-changed', (_, kind, source) => {
             if (kind === DRAG)
                 this._changed(source);
@@ -33,7 +37,7 @@ export class Drags {
     _changed(source) {
         this._source = source;
         if (source)
-            this._link.send({is: 'drag', serial: ++this._serial, types: source.get_mimetypes()});
+            this._link.send({is: 'drag', serial: ++this._serial, types: reportable(source.get_mimetypes())});
         else
             this._link.send({is: 'dragEnd'});
     }

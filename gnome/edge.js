@@ -13,10 +13,6 @@ export class Edge {
         this._strips = [];
         this._over = -1;
         this._signals = new Signals();
-        this._signals.connect(Main.layoutManager, 'monitors-changed', () => this._makeStrips());
-        // The overview hides all windows, the panel too.
-        for (const change of ['showing', 'hidden'])
-            this._signals.connect(Main.overview, change, () => this._showStrips());
         // During a drag GNOME 45 and later tell this monitor, earlier releases the strip itself.
         this._monitor = {
             dragMotion: event => {
@@ -24,6 +20,13 @@ export class Edge {
                 return DND.DragMotionResult.CONTINUE;
             },
         };
+    }
+
+    start() {
+        this._signals.connect(Main.layoutManager, 'monitors-changed', () => this._makeStrips());
+        // The overview hides all windows, the panel too.
+        for (const change of ['showing', 'hidden'])
+            this._signals.connect(Main.overview, change, () => this._showStrips());
         DND.addDragMonitor(this._monitor);
         this._makeStrips();
     }

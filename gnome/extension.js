@@ -29,10 +29,26 @@ export default class Companion extends Extension {
     }
 
     _attach(link, hello) {
-        const drags = new Drags(link);
-        const edge = new Edge(link, hello);
-        const panel = new Panel(link, hello);
-        this._parts = [new Monitors(link), new Preferences(link), drags, edge, panel];
+        try {
+            this._makeParts(link, hello);
+        } catch (error) {
+            this._detach();
+            throw error;
+        }
+    }
+
+    // Each is kept before it starts: any may fail on the way.
+    _makeParts(link, hello) {
+        const keep = part => {
+            this._parts.push(part);
+            part.start();
+            return part;
+        };
+        const drags = keep(new Drags(link));
+        keep(new Edge(link, hello));
+        const panel = keep(new Panel(link, hello));
+        keep(new Monitors(link));
+        keep(new Preferences(link));
         this._clipboard.attach(link);
         link.onMessage = message => {
             switch (message.is) {

@@ -12,11 +12,15 @@ const RETRIES = 50;
 /// Greetings that fail in a row, after which this owner of the name is none of ours.
 const MAX_FAILURES = 3;
 
+// A connection that ends sooner has failed, too. The pause before the next one doubles each time.
+const LASTING_US = 10e6;
+const MAX_PAUSE_S = 64;
+
 /// The connection to Ravelo, for as long as it runs: found by its name on the bus, made to its socket, believed
 /// only if the process at the other end is the one that owns the name, and ours. Nothing here ever waits: if
 /// Ravelo does not read, it is dropped.
 export class Link {
-    /// `onUp` gets this link and Ravelo's greeting.
+    /// `onUp` gets this link and Ravelo's greeting; if it throws, that is a greeting that failed.
     constructor(onUp, onDown) {
         this._onUp = onUp;
         this._onDown = onDown;
@@ -36,6 +40,11 @@ export class Link {
     /// The process at the other end.
     get pid() {
         return this._pid;
+    }
+
+    /// Cancelled once the connection ends.
+    get cancellable() {
+        return this._cancel;
     }
 
     send(message) {
@@ -92,11 +101,13 @@ export class Link {
 
     // It may have hung for a while. Whether it has gone the bus says.
     _tryLater(owner) {
-        const failures = this._isUp ? 0 : this._failures + 1;
+        const wasUp = this._isUp;
+        const failures = wasUp && GLib.get_monotonic_time() - this._upSince > LASTING_US ? 0 : this._failures + 1;
         this._close();
         this._failures = failures;
-        if (failures < MAX_FAILURES) {
-            this._retry = GLib.timeout_add_seconds(GLib.PRIORITY_DEFAULT, 1, () => {
+        if (wasUp || failures < MAX_FAILURES) {
+            const pause = Math.min(2 ** Math.max(0, failures - 1), MAX_PAUSE_S);
+            this._retry = GLib.timeout_add_seconds(GLib.PRIORITY_DEFAULT, pause, () => {
                 this._retry = 0;
                 this._appeared(owner);
                 return GLib.SOURCE_REMOVE;
@@ -162,8 +173,9 @@ export class Link {
             if (!this._isUp) {
                 if (message.is !== 'hello' || message.version !== VERSION)
                     throw new Error('Ravelo is of another version: log out and in once');
-                this._isUp = true;
                 this._onUp(this, message);
+                this._isUp = true;
+                this._upSince = GLib.get_monotonic_time();
             } else {
                 this.onMessage(message);
             }

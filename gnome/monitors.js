@@ -8,6 +8,9 @@ export class Monitors {
         this._link = link;
         this._last = '';
         this._signals = new Signals();
+    }
+
+    start() {
         this._signals.connect(Main.layoutManager, 'monitors-changed', () => this._report());
         this._signals.connect(global.display, 'workareas-changed', () => this._report());
         this._report();

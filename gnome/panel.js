@@ -30,6 +30,9 @@ export class Panel {
         this._wanted = false;
         this._window = this._before = null;
         this._signals = new Signals();
+    }
+
+    start() {
         this._signals.connect(global.display, 'window-created', (_, window) => this._created(window));
         this._signals.connect(global.window_manager, 'map', (_, actor) => this._mapped(actor));
         this._signals.connect(global.display, 'notify::focus-window', () => this._focusChanged());

@@ -7,6 +7,9 @@ export class Preferences {
         this._link = link;
         this._settings = new Gio.Settings({schema_id: 'org.gnome.desktop.interface'});
         this._signals = new Signals();
+    }
+
+    start() {
         for (const key of ['enable-animations', 'icon-theme'])
             this._signals.connect(this._settings, `changed::${key}`, () => this._report());
         this._report();

@@ -15,7 +15,7 @@ export class Giver {
         const answer = {of: this._name, serial: want.serial, type: want.type};
         try {
             const stream = source && !(source instanceof Meta.SelectionSourceMemory)
-                ? await this._open(source, want.type) : null;
+                ? await this._open(source, want.type, link.cancellable) : null;
             const fd = stream?.fd ?? -1;
             if (fd >= 0)
                 link.sendWith({is: 'data', ...answer}, fd);
@@ -27,8 +27,8 @@ export class Giver {
         }
     }
 
-    _open(source, type) {
-        return new Promise((done, failed) => source.read_async(type, null, (from, result) => {
+    _open(source, type, cancel) {
+        return new Promise((done, failed) => source.read_async(type, cancel, (from, result) => {
             try {
                 done(from.read_finish(result));
             } catch (error) {

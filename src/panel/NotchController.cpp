@@ -94,10 +94,14 @@ void NotchController::guardEdge(const HotZone::Sight& sight) {
 void NotchController::evaluateOpen(const HotZone::Sight& sight) {
     if (sight.inZone || sight.nearPanel) {
         awaitsPointer_ = false;
+        closeIsPutOff_ = false;
         closeWork_.reset();
     } else if (services_.zone.reportsPressesElsewhere()) {
-        closeWork_.reset(); // A press will close it.
-    } else if (!(closeWork_ || awaitsPointer_ || draggingOut_)) {
+        // Each look would put it off again, so it is scheduled once there are none any more.
+        closeIsPutOff_ = true;
+        closeWork_.reset();
+    } else if (std::exchange(closeIsPutOff_, false) ||
+               !(closeWork_ || awaitsPointer_ || draggingOut_)) {
         scheduleClose();
     }
 }
@@ -197,14 +201,18 @@ void NotchController::pressed(HotZone::Press press) {
 void NotchController::screensChanged() {
     if (!isOpen_) {
         positionCollapsed();
-        return;
-    }
-    const HotZone::Sight sight = services_.zone.look();
-    if (sight.screen) {
-        placeExpanded(*sight.screen);
-    } else if (!sight.inZone && !sight.nearPanel) {
+    } else if (const auto on = screenOfPanel()) {
+        placeExpanded(*on);
+    } else if (std::exchange(closeIsPutOff_, false)) {
         scheduleClose();
     }
+}
+
+/// Where it opened; where the pointer is if that screen is gone.
+std::optional<Screen> NotchController::screenOfPanel() {
+    const auto all = services_.screens.all();
+    const auto found = std::ranges::find(all, screenId_, &Screen::id);
+    return found != all.end() ? std::optional(*found) : services_.zone.look().screen;
 }
 
 void NotchController::scheduleClose() {
@@ -304,6 +312,7 @@ void NotchController::expand(const HotZone::Sight& sight, const InputGrab::Answe
         return;
     }
     isOpen_ = true;
+    closeIsPutOff_ = false;
     awaitsPointer_ = !sight.inZone && !sight.nearPanel;
     placeExpanded(*sight.screen); // First: what is shown is laid out for the frame.
     Q_EMIT isOpenChanged();
@@ -379,9 +388,16 @@ void NotchController::lockChanged() {
 }
 
 void NotchController::setFrame(const Screen& screen, QSizeF size, const QPainterPath& outline) {
+    const bool grows = size.height() > frame_.height();
     frame_ = hangingFrame(screen, size);
+    screenId_ = screen.id;
+    if (grows) { // First, or a click on the new part would go to what is below.
+        services_.window.setOutline(outline);
+    }
     services_.window.place(screen, size);
-    services_.window.setOutline(outline);
+    if (!grows) {
+        services_.window.setOutline(outline);
+    }
     services_.zone.setPanel(frame_);
 }
 

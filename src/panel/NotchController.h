@@ -178,6 +178,7 @@ private:
     void setCollapsed(const Collapsed& collapsed);
     void setFrame(const Screen& screen, QSizeF size, const QPainterPath& outline);
     void placeExpanded(const Screen& screen);
+    [[nodiscard]] std::optional<Screen> screenOfPanel();
     [[nodiscard]] QSizeF sizeOn(const Screen& screen) const;
 
     Store& store_;
@@ -188,7 +189,10 @@ private:
     bool isOpen_ = false;
     bool awaitsPointer_ = false; ///< Opened by a request; it has not been hovered over yet.
     Collapsed collapsed_;
+    /// The pointer was elsewhere at the last look: without another one, the panel closes.
+    bool closeIsPutOff_ = false;
     QRectF frame_;
+    QString screenId_;         ///< Of the screen that it is on.
     int stripTicks_ = 0;       ///< Sights in a row with the pointer in the zone while collapsed.
     qint64 idleDragCount_ = 0; ///< The drag count last seen with no button down.
     HoverHold hold_;

@@ -19,7 +19,7 @@ PointerHotZone::PointerHotZone(Scheduler& scheduler, Screens& screens, Pointer& 
       pointer_(pointer),
       window_(window),
       tick_(scheduler, pointer, rest, [this] { return report(); }),
-      pressMonitor_(pointer.onPress([this] { pressed(); })),
+      pressMonitor_(pointer.onPress([this](const auto& place) { pressed(place); })),
       hover_(window.onUnderPointerChange([this] { tick_.wakeNow(); })) {}
 
 HotZone::Sight PointerHotZone::look() {
@@ -79,10 +79,10 @@ HoverTick::Next PointerHotZone::report() {
     return moved || again ? Next::busy : Next::still;
 }
 
-void PointerHotZone::pressed() {
+void PointerHotZone::pressed(std::optional<QPointF> place) {
     tick_.wake();
     Press press = Press::elsewhere;
-    if (look().onPanel) {
+    if (place ? panel_.contains(*place) : window_.isUnderPointer()) {
         press = Press::onPanel;
     } else if (pointer_.isOverOwnWindow()) {
         press = Press::onOwnWindow;

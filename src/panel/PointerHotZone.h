@@ -36,7 +36,7 @@ private:
     [[nodiscard]] PointerState ask();
     [[nodiscard]] Sight sightOf(const PointerState& pointer) const;
     HoverTick::Next report();
-    void pressed();
+    void pressed(std::optional<QPointF> place);
 
     Screens& screens_;
     Pointer& pointer_;

@@ -35,8 +35,9 @@ public:
     [[nodiscard]] virtual bool isOverOwnWindow() = 0;
 
     /// Called for each press of the left or right button anywhere, including other programs'
-    /// windows.
-    [[nodiscard]] virtual Handle onPress(std::function<void()> callback) = 0;
+    /// windows, with its place in global logical pixels: the pointer may be elsewhere by now.
+    /// Nothing if the display server does not reveal it.
+    [[nodiscard]] virtual Handle onPress(std::function<void(std::optional<QPointF>)> callback) = 0;
 
     /// Calls `wake` once, when the pointer next moves or a button goes down or up. Costs nothing
     /// while nothing moves. A later call replaces an earlier one.

@@ -27,7 +27,7 @@ public:
 
     [[nodiscard]] bool isOverOwnWindow() override { return overOwnWindow; }
 
-    [[nodiscard]] Handle onPress(std::function<void()> callback) override {
+    [[nodiscard]] Handle onPress(std::function<void(std::optional<QPointF>)> callback) override {
         return presses_.add(std::move(callback));
     }
 
@@ -46,8 +46,13 @@ public:
 
     void press(Qt::MouseButton button = Qt::LeftButton) {
         button_ = button;
+        pressedAt(location);
+    }
+
+    /// The pointer has gone on since.
+    void pressedAt(std::optional<QPointF> place) {
         clicked_ = true;
-        presses_.notify();
+        presses_.notify(place);
         active();
     }
 
@@ -69,7 +74,7 @@ private:
 
     Qt::MouseButton button_ = Qt::NoButton;
     bool clicked_ = false;
-    Listeners<> presses_;
+    Listeners<std::optional<QPointF>> presses_;
     std::function<void()> wake_;
 };
 
@@ -246,6 +251,7 @@ public:
         screen = on.id;
         size = wanted;
         frame = QRectF(QPointF(on.frame.center().x() - size.width() / 2, on.frame.top()), size);
+        isCovered = outline.boundingRect().size() == wanted;
     }
 
     void orderFront() override { shown = true; }
@@ -284,6 +290,7 @@ public:
     QString screen;
     QSizeF size;
     QRectF frame;
+    bool isCovered = false; ///< By the outline, when it was placed.
     QPainterPath outline;
     bool shown = false;
     bool focused = false;

@@ -16,6 +16,8 @@
 #include <QTemporaryDir>
 #include <QWindow>
 
+#include <atomic>
+#include <chrono>
 #include <thread>
 
 namespace ravelo::gnome {
@@ -319,6 +321,34 @@ TEST_F(GnomePasteboardTest, GivesUpAnOwnerThatHangsAndOneThatGivesTooMuch) {
     EXPECT_EQ(result->answers.value(plainTextType), std::nullopt);
     EXPECT_GT(result->tooLarge.value(plainTextType), 8 << 20);
     flood.join();
+}
+
+TEST_F(GnomePasteboardTest, DeliversWhatWasReadBeforeTheNextCopy) {
+    Pipe pipe = makePipe();
+    bool isGiven = false;
+    world_.shell.onWant = [&](const QJsonObject& want) {
+        world_.shell.give(want, pipe.out);
+        isGiven = true;
+    };
+    std::atomic<bool> isRead = false;
+    std::optional<PasteboardSnapshot> result;
+    const Handle reading = board().read(
+        [&](const PasteboardSnapshot& known) {
+            isRead = !known.answers.isEmpty();
+            return isRead ? QString() : QString(plainTextType);
+        },
+        [&result](PasteboardSnapshot snapshot) { result = std::move(snapshot); });
+    int turns = 0; // Of the event loop, which passes the descriptor on.
+    ASSERT_TRUE(eventually([&] { return isGiven && ++turns > 10; }));
+    FakeShell::write(pipe.in, "read in time");
+    pipe.in = Descriptor();
+    for (int wait = 0; wait < 2000 && !isRead; ++wait) {
+        std::this_thread::sleep_for(std::chrono::milliseconds(1)); // No event is handled meanwhile.
+    }
+    std::this_thread::sleep_for(std::chrono::milliseconds(50));
+    board().write({{QString(plainTextType), "the next"}});
+    ASSERT_TRUE(eventually([&] { return result.has_value(); })) << "it is lost";
+    EXPECT_EQ(result->answers.value(plainTextType), "read in time");
 }
 
 TEST_F(GnomePasteboardTest, TakesNothingGivenForARefusal) {

@@ -1,6 +1,6 @@
 """A GTK 4 program: a window with a text field that copies, and a label to drag a file from.
 
-    client.py TITLE [--copy TEXT | --image FILE | --secret TEXT] [--fullscreen] [--drag FILE]
+    client.py TITLE [--copy TEXT | --image FILE | --secret TEXT | --types COUNT] [--fullscreen] [--drag FILE]
 
 Copies when F5 is pressed: Mutter ignores who has seen no input. Prints "key TEXT" when its text field changes.
 """
@@ -18,6 +18,7 @@ parser.add_argument("title")
 parser.add_argument("--copy")
 parser.add_argument("--image")
 parser.add_argument("--secret")
+parser.add_argument("--types", type=int)
 parser.add_argument("--drag")
 parser.add_argument("--fullscreen", action="store_true")
 options = parser.parse_args()
@@ -28,6 +29,8 @@ def content():
         return Gdk.ContentProvider.new_for_bytes(mime, GLib.Bytes(data))
     if options.copy is not None:
         return of("text/plain;charset=utf-8", options.copy.encode())
+    if options.types:
+        return Gdk.ContentProvider.new_union([of(f"application/x-{i}", b"") for i in range(options.types)])
     if options.image:
         return of("image/png", open(options.image, "rb").read())
     if options.secret:

@@ -91,7 +91,7 @@ class ExtensionCase(unittest.TestCase):
         peer = Peer(self.session, HERE / "client.py", *arguments)
         self.addCleanup(peer.end)
         until(lambda: (self.window(arguments[0]) or {}).get("focus"), f"{arguments[0]} has the focus", 30)
-        if {"--copy", "--image", "--secret"} & set(arguments):
+        if {"--copy", "--image", "--secret", "--types"} & set(arguments):
             self.session.run("await key(Clutter.KEY_F5)")
             until(lambda: "copied\n" in peer.lines, f"{arguments[0]} copies")
         return peer
@@ -131,6 +131,35 @@ class ExtensionTest(ExtensionCase):
         self.session.run(f"Main.extensionManager.lookup('{shell.COMPANION}').stateObj._link._put("
                          "new Uint8Array(8 << 20))")
         until(lambda: len(peer.messages("hello")) == 2 and len(peer.messages("screens")) == 2, "it is back")
+
+    def test_reports_no_types_of_an_owner_with_too_many(self):
+        peer = self.attached()
+        counts = lambda: [len(one["types"]) for one in peer.messages("clip")]
+        self.client("few", "--types", "500")
+        until(lambda: counts()[-1] == 500, "the first copy is reported")
+        self.client("many", "--types", "600")
+        until(lambda: counts()[-1] != 500, "the second copy is reported")
+        self.assertEqual(counts()[-1], 0)
+
+    def test_gives_up_if_a_part_fails_and_leaves_none_behind(self):
+        before = self.session.run(TRACES)
+        self.addCleanup(self.session.run, "Main.layoutManager.getWorkAreaForMonitor = kept.getter;")
+        self.session.run("kept.getter = Main.layoutManager.getWorkAreaForMonitor;"
+                         "Main.layoutManager.getWorkAreaForMonitor = () => { throw new Error('broken part'); };")
+        peer = self.ravelo()
+        until(lambda: len(peer.messages("end")) == 3, "it tries three times")
+        self.assertEqual(self.session.run("await sleep(5000);" + TRACES), before)
+        self.assertEqual(len(peer.messages("hello")), 3, "it goes on for ever")
+
+    def test_waits_longer_each_time_the_connection_ends_at_once(self):
+        peer = self.ravelo()
+        for count in (1, 2, 3):
+            until(lambda: len(peer.messages("screens")) == count, f"connection {count}")
+            peer.send(**{"is": "nonsense"})
+            until(lambda: len(peer.messages("end")) == count, f"it hangs up {count} times")
+        self.session.run("await sleep(2500)")
+        self.assertEqual(len(peer.messages("screens")), 3, "it comes back too soon")
+        until(lambda: len(peer.messages("screens")) == 4, "it comes back")
 
     def test_leaves_nothing_behind_when_disabled_a_hundred_times(self):
         peer = self.attached()

@@ -79,6 +79,25 @@ TEST(NotchController, closesOnAPressElsewhereOnly) {
     EXPECT_EQ(world.controller.frame(), QRectF(620, 0, 200, 12));
 }
 
+TEST(NotchController, aPressThatIsHeardLateCountsWhereItWas) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    world.moveTo(100, 800);
+    world.pointer.pressedAt(QPointF(500, 300));
+    EXPECT_TRUE(world.controller.isOpen()) << "a press on the panel";
+    world.moveTo(500, 300);
+    world.pointer.pressedAt(QPointF(100, 800));
+    EXPECT_FALSE(world.controller.isOpen()) << "a press elsewhere";
+}
+
+TEST(NotchController, hasItsOutlineBeforeItGrows) {
+    PanelWorld world;
+    world.moveTo(720, 5);
+    EXPECT_TRUE(world.window.isCovered) << "a click would fall through";
+    world.controller.collapse();
+    EXPECT_FALSE(world.window.isCovered) << "it is cut before it is smaller";
+}
+
 TEST(NotchController, aPressInOurOwnWindowDoesNotClose) {
     PanelWorld world;
     world.moveTo(720, 5);
@@ -118,6 +137,20 @@ TEST(NotchController, followsScreensWhileCollapsedAndWhileOpen) {
     EXPECT_TRUE(world.controller.isOpen());
     EXPECT_EQ(world.controller.frame(), QRectF(36.5, 0, 927, 560));
     EXPECT_EQ(world.window.screen, u"narrow"_s);
+}
+
+TEST(NotchController, staysOnItsScreenWhenAnotherComes) {
+    PanelWorld world;
+    const Screen right{
+        u"right"_s, QRectF(1440, 0, 1920, 1080), QRectF(1440, 0, 1920, 1080), {}, {}};
+    world.controller.toggle();
+    world.moveTo(2000, 500);
+    auto screens = world.screens.screens;
+    screens.push_back(right);
+    world.screens.change(screens);
+    EXPECT_EQ(world.window.screen, u"one"_s) << "the user types into it there";
+    world.screens.change({right});
+    EXPECT_EQ(world.window.screen, u"right"_s) << "its screen is gone";
 }
 
 TEST(NotchController, aNewWidthCountsFromTheNextOpening) {

@@ -302,12 +302,22 @@ def typing(on):
 
 
 def gives_back(on):
-    """Escape and a click elsewhere close it and give the keyboard back."""
+    """Escape, a click elsewhere, and its key before it has the keyboard close it and give the keyboard back."""
+    def toggle_twice():
+        toggles = []
+        for _ in range(2):
+            toggles.append(on.desktop.spawn(on.ravelo.program, "--toggle"))
+            time.sleep(0.014)
+        for toggle in toggles:
+            toggle.wait()
+
     with on.window("window", RED) as window:
         ways = {"a": lambda: on.desktop.key("Escape"),
-                "ab": lambda: on.desktop.click(*on.find(RED))}
+                "ab": lambda: on.desktop.click(*on.find(RED)),
+                "abc": toggle_twice, "abcd": toggle_twice, "abcde": toggle_twice}
         for text, leave in ways.items():
-            on.open_search([BAR, RED, WALLPAPER])
+            if leave is not toggle_twice:
+                on.open_search([BAR, RED, WALLPAPER])
             leave()
             on.desktop.move(*AWAY)
             until(lambda: on.desktop.picture().at(MIDDLE + 300, 100) in (RED, WALLPAPER),

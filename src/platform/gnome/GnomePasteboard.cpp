@@ -119,7 +119,7 @@ void GnomePasteboard::written() {
 }
 
 void GnomePasteboard::copied(const Copied& report) {
-    readings_->clear(); // They are about contents that are gone.
+    dropReadings();
     const bool wasEmpty = !own_ && types_.isEmpty();
     serial_ = report.serial;
     if (report.offered || report.types.contains(mark())) {
@@ -144,6 +144,11 @@ void GnomePasteboard::copied(const Copied& report) {
     lastChange_ = uptime();
     ++count_;
     changes_.notify();
+}
+
+/// They are about contents that are gone, except those that have them already.
+void GnomePasteboard::dropReadings() {
+    std::erase_if(*readings_, [](const auto& entry) { return !entry.second->isFinished(); });
 }
 
 Handle GnomePasteboard::read(PasteboardPlan plan, std::function<void(PasteboardSnapshot)> done) {
@@ -184,7 +189,7 @@ Handle GnomePasteboard::read(PasteboardPlan plan, std::function<void(PasteboardS
 }
 
 qint64 GnomePasteboard::write(const QList<PasteboardEntry>& forms) {
-    readings_->clear();
+    dropReadings();
     ++writes_;
     ++count_;
     own_ = true;

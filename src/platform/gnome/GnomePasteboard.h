@@ -57,6 +57,7 @@ public:
 
 private:
     void copied(const Copied& report);
+    void dropReadings();
     void writeByQt(const QList<PasteboardEntry>& forms);
     void offerText();
     void written();

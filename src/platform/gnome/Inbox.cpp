@@ -18,14 +18,32 @@ void Inbox::put(QByteArrayView bytes, std::vector<Descriptor> descriptors) {
     broken_ = broken_ || descriptors_.size() > maxDescriptors;
 }
 
+std::optional<QByteArray> Inbox::takeLine() {
+    while (!broken_) {
+        const qsizetype end = bytes_.indexOf('\n');
+        isTooLong_ = isTooLong_ || (end < 0 ? bytes_.size() : end) > maxLine;
+        broken_ = isTooLong_ && bytes_.startsWith('\0'); // Or whose is the descriptor?
+        if (end < 0) {
+            if (isTooLong_) {
+                bytes_.clear(); // So that it does not pile up.
+            }
+            break;
+        }
+        QByteArray line = bytes_.first(end);
+        bytes_.remove(0, end + 1);
+        if (!std::exchange(isTooLong_, false) && !broken_) {
+            return line;
+        }
+    }
+    return std::nullopt;
+}
+
 std::optional<Delivery> Inbox::take() {
-    const qsizetype end = bytes_.indexOf('\n');
-    broken_ = broken_ || end > maxLine || (end < 0 && bytes_.size() > maxLine);
-    if (broken_ || end < 0) {
+    const auto taken = takeLine();
+    if (!taken) {
         return std::nullopt;
     }
-    const QByteArray line = bytes_.first(end);
-    bytes_.remove(0, end + 1);
+    const QByteArray& line = *taken;
     const bool carries = line.startsWith('\0');
     auto report = parseReport(QByteArrayView(line).sliced(carries ? 1 : 0));
     const auto* given = report ? std::get_if<Given>(&*report) : nullptr;

@@ -19,15 +19,19 @@ public:
     /// Bytes, and the descriptors that came with them, as received.
     void put(QByteArrayView bytes, std::vector<Descriptor> descriptors);
 
-    /// The next complete message; nothing if there is none yet, or `isBroken`.
+    /// The next complete message, without those that are too long; nothing if there is none yet, or
+    /// `isBroken`.
     [[nodiscard]] std::optional<Delivery> take();
 
     /// Something arrived that is no message. Nothing after it counts.
     [[nodiscard]] bool isBroken() const { return broken_; }
 
 private:
+    [[nodiscard]] std::optional<QByteArray> takeLine();
+
     QByteArray bytes_;
     std::deque<Descriptor> descriptors_;
+    bool isTooLong_ = false; ///< The line whose end is still to come.
     bool broken_ = false;
 };
 

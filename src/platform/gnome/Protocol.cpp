@@ -44,8 +44,11 @@ std::optional<QRectF> rectangle(const QJsonValue& value) {
 
 std::optional<QList<QByteArray>> texts(const QJsonValue& value) {
     const QJsonArray names = value.toArray();
-    if (!value.isArray() || names.size() > maxTypes) {
-        return std::nullopt; // A mark of secrecy could be among those that are not looked at.
+    if (!value.isArray()) {
+        return std::nullopt;
+    }
+    if (names.size() > maxTypes) {
+        return QList<QByteArray>(); // A mark of secrecy could be among those that are left out.
     }
     QList<QByteArray> result;
     for (const auto name : names) {

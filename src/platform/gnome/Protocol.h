@@ -24,7 +24,7 @@ inline constexpr int protocolVersion = 2;
 /// Below XDG_RUNTIME_DIR.
 inline constexpr QLatin1StringView socketPath("ravelo-shell/socket");
 
-/// A line that is longer is an error.
+/// A line that is longer does not count.
 inline constexpr qsizetype maxLine = 64 << 10;
 
 enum class Selection { clip, drag };

@@ -3,6 +3,7 @@
 #include "base/SignalsBlocked.h"
 #include "platform/gnome/Transfers.h"
 
+#include <atomic>
 #include <functional>
 #include <memory>
 #include <thread>
@@ -20,18 +21,19 @@ public:
 
     Reading(QObject& owner, Work work) {
         const SignalsBlocked blocked;
-        thread_ = std::thread(
-            [&owner, cancellation = cancellation_, alive = alive_, work = std::move(work)] {
-                auto done = work(*cancellation);
-                QMetaObject::invokeMethod(
-                    &owner,
-                    [alive = std::weak_ptr(alive), done = std::move(done)] {
-                        if (alive.lock()) {
-                            done();
-                        }
-                    },
-                    Qt::QueuedConnection);
-            });
+        thread_ = std::thread([&owner, cancellation = cancellation_, alive = alive_,
+                               finished = finished_, work = std::move(work)] {
+            auto done = work(*cancellation);
+            *finished = true;
+            QMetaObject::invokeMethod(
+                &owner,
+                [alive = std::weak_ptr(alive), done = std::move(done)] {
+                    if (alive.lock()) {
+                        done();
+                    }
+                },
+                Qt::QueuedConnection);
+        });
     }
 
     Reading(const Reading&) = delete;
@@ -43,7 +45,11 @@ public:
         thread_.join();
     }
 
+    /// What to do next is on its way to the main thread.
+    [[nodiscard]] bool isFinished() const { return *finished_; }
+
 private:
+    std::shared_ptr<std::atomic<bool>> finished_ = std::make_shared<std::atomic<bool>>(false);
     std::shared_ptr<Cancellation> cancellation_ = std::make_shared<Cancellation>();
     std::shared_ptr<int> alive_ = std::make_shared<int>();
     std::thread thread_;

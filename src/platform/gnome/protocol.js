@@ -11,6 +11,16 @@ export function written(message) {
     return new TextEncoder().encode(`${JSON.stringify(message)}\n`);
 }
 
+// More types, or a longer line, Ravelo does not take.
+const MAX_TYPES = 512;
+const MAX_TYPES_BYTES = 60 << 10;
+
+/// These types as they may be reported: none if they are too many, as one that is left out could mark a password.
+export function reportable(types) {
+    const fits = types.length <= MAX_TYPES && written(types).length <= MAX_TYPES_BYTES;
+    return fits ? types : [];
+}
+
 const isWhole = value => Number.isInteger(value) && value >= 0;
 const isText = value => typeof value === 'string';
 const isOf = value => value === 'clip' || value === 'drag';

@@ -41,6 +41,10 @@ TitledWindow::TitledWindow(const Beside& beside, const QString& title, QSize siz
         translucency_ = frame_->onTranslucencyChange([this] { fit(); });
     }
     fit();
+    connect(this, &QWindow::screenChanged, this, [this](QScreen* screen) {
+        follow(screen);
+        fit();
+    });
     connect(this, &QWindow::visibleChanged, this, [this](bool visible) {
         if (!visible) {
             Q_EMIT closed();
@@ -61,7 +65,7 @@ void TitledWindow::load(const QString& page, QObject* host) {
 void TitledWindow::fit() {
     constexpr int margin = 20;
     const QSize available = free().size();
-    const QSize screen = panel_.screen()->size() - QSize(margin, margin);
+    const QSize screen = screenToFit()->size() - QSize(margin, margin);
     const QSize frame = wanted_.boundedTo(screen).boundedTo(available);
     const bool shadowed = frame_ && frame_->isTranslucent();
     const QMargins room = shadowed ? roomAround(frame, available) : QMargins();
@@ -81,11 +85,28 @@ void TitledWindow::fit() {
     }
 }
 
+/// It appears on the panel's; the user may move it to another.
+QScreen* TitledWindow::screenToFit() const {
+    return isVisible() ? screen() : panel_.screen();
+}
+
+/// A screen that is gone, or has no window of ours any more, may go on reporting: fitting again
+/// changes nothing.
+void TitledWindow::follow(QScreen* screen) {
+    if (screen != nullptr) {
+        connect(screen, &QScreen::availableGeometryChanged, this, &TitledWindow::fit,
+                Qt::UniqueConnection);
+        connect(screen, &QScreen::logicalDotsPerInchChanged, this, &TitledWindow::fit,
+                Qt::UniqueConnection); // With it the device pixels of the frame.
+    }
+}
+
 /// Screen area not covered by the desktop's bars or the closed panel.
 QRect TitledWindow::free() const {
     constexpr int highestBar = 100; // Taller panels are open, and will have closed by then.
-    QRect room = panel_.screen()->availableGeometry();
-    if (panel_.isVisible() && panel_.height() <= highestBar) {
+    const QScreen* const screen = screenToFit();
+    QRect room = screen->availableGeometry();
+    if (panel_.isVisible() && panel_.screen() == screen && panel_.height() <= highestBar) {
         room.setTop(std::max(room.top(), panel_.y() + panel_.height()));
     }
     return room;
@@ -102,8 +123,7 @@ void TitledWindow::place() {
 }
 
 void TitledWindow::bringToFront() {
-    connect(panel_.screen(), &QScreen::availableGeometryChanged, this, &TitledWindow::fit,
-            Qt::UniqueConnection);
+    follow(screenToFit());
     fit();
     if (isVisible()) {
         showNormal(); // Restores it if minimised.

@@ -35,6 +35,8 @@ Q_SIGNALS:
 private:
     void fit();
     void place();
+    void follow(QScreen* screen);
+    [[nodiscard]] QScreen* screenToFit() const;
     [[nodiscard]] QRect free() const;
 
     QQuickView& panel_;

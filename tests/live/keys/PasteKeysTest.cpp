@@ -9,6 +9,9 @@
 #include <QMimeData>
 #include <QTemporaryDir>
 
+#include <X11/keysym.h>
+#include <xcb/xtest.h>
+
 namespace ravelo::live {
 namespace {
 
@@ -58,6 +61,16 @@ protected:
         keys.press(target, chord);
     }
 
+    /// xdotool would switch back.
+    void switchLayout() {
+        const auto code = x11::KeyMap(*connection).codeOf(XK_ISO_Next_Group);
+        EXPECT_NE(code, 0) << "no key switches the layout";
+        for (const uint8_t type : {uint8_t(XCB_KEY_PRESS), uint8_t(XCB_KEY_RELEASE)}) {
+            xcb_test_fake_input(server.get(), type, code, XCB_CURRENT_TIME, XCB_NONE, 0, 0, 0);
+        }
+        static_cast<void>(server.focus()); // At the answer it is done.
+    }
+
     x11::X11PasteKeys keys{*connection, inputFocus};
     Client entry{u"/usr/bin/python3"_s, {u"-c"_s, entryProgram}};
 };
@@ -69,6 +82,41 @@ TEST_F(PasteKeysTest, ATextFieldGetsTheText) {
     QByteArray line;
     EXPECT_TRUE(eventually([&] { return (line = entry.readLine()) != "focus"; }));
     EXPECT_EQ(line, "pasted at once");
+}
+
+TEST_F(PasteKeysTest, TheActiveLayoutSaysWhichKeyIsV) {
+    struct Case {
+        const char *layouts, *variants;
+        int active;
+        bool isTyped;
+    };
+
+    EXPECT_EQ(entry.readLine(), "focus");
+    const auto target = comeFrom(u"entry"_s);
+    QByteArray line;
+    for (const auto& [layouts, variants, active, isTyped] :
+         {Case{"us,us", ",dvorak", 0, true},
+          {"us,us", ",dvorak", 1, true},
+          {"us,tr", ",f", 1, true},
+          {"us,ru", ",", 1, true},
+          {"us,de,ru", ",,", 2, true},
+          // The core protocol does not tell the third layout.
+          {"us,us,us", ",dvorak,dvorak", 2, false}}) {
+        EXPECT_TRUE(run(u"setxkbmap"_s, {u"-option"_s, u"grp:menu_toggle"_s, u"-layout"_s,
+                                         QString::fromLatin1(layouts), u"-variant"_s,
+                                         QString::fromLatin1(variants)}));
+        for (int key = 0; key < active; ++key) {
+            switchLayout();
+        }
+        paste(target, PasteChord::controlV);
+        const auto before = line.size();
+        EXPECT_TRUE(run(u"xdotool"_s, {u"key"_s, u"1"_s}));
+        // The field asks for the clipboard, so the text may come after the 1.
+        const qsizetype more = isTyped ? QByteArrayView("pasted at once1").size() : 1;
+        EXPECT_TRUE(eventually([&] { return (line = entry.readLine()).size() == before + more; }))
+            << layouts << ' ' << variants << " with layout " << active << ": " << line.constData();
+    }
+    EXPECT_TRUE(run(u"setxkbmap"_s, {u"-option"_s, u""_s, u"-layout"_s, u"us"_s}));
 }
 
 TEST_F(PasteKeysTest, ATerminalGetsTheText) {

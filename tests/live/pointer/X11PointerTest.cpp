@@ -48,7 +48,7 @@ class PointerAction : public X11PointerTest, public testing::WithParamInterface<
 
 TEST_P(PointerAction, isReportedAsPressOrActivity) {
     QStringList calls;
-    const Handle pressing = pointer().onPress([&] { calls.append(u"press"_s); });
+    const Handle pressing = pointer().onPress([&](auto) { calls.append(u"press"_s); });
     const Handle waking = pointer().onNextActivity([&] { calls.append(u"wake"_s); });
     xdotool(GetParam().action);
     EXPECT_TRUE(eventually([&] { return calls == GetParam().calls; }))
@@ -89,6 +89,15 @@ INSTANTIATE_TEST_SUITE_P(
                    {u"wake"_s},
                    false}),
     [](const auto& tested) { return tested.param.name; });
+
+TEST_F(X11PointerTest, reportsThePlaceOfAPressThatIsHeardLate) {
+    std::vector<std::optional<QPointF>> places;
+    const Handle pressing = pointer().onPress([&](auto place) { places.push_back(place); });
+    ASSERT_TRUE(live::run(u"xdotool"_s, {u"click"_s, u"1"_s, u"sleep"_s, u"0.1"_s, u"mousemove"_s,
+                                         u"30"_s, u"40"_s}));
+    ASSERT_TRUE(eventually([&] { return !places.empty(); }));
+    EXPECT_EQ(places, std::vector({std::optional(QPointF(300, 200))}));
+}
 
 TEST_F(X11PointerTest, wakesForAMoveJustBeforeTheRequest) {
     xdotool({u"mousemove_relative"_s, u"40"_s, u"0"_s});

@@ -81,6 +81,17 @@ TEST_F(ScreensTest, FollowABar) {
     }
     EXPECT_TRUE(settles({}, {})) << "the bar is closed";
     EXPECT_EQ(changes, 4);
+    OtherWindow window(OtherWindow::Kind::normal, {100, 100, 300, 200});
+    const auto isWatched = [&] {
+        const x11::Owned<xcb_get_window_attributes_reply_t> reply(xcb_get_window_attributes_reply(
+            connection->get(), xcb_get_window_attributes(connection->get(), window.id()), nullptr));
+        return reply && reply->your_event_mask != 0;
+    };
+    window.reserve({0, 0, 30, 0, 0, 0, 0, 0, 0, 1919, 0, 0});
+    const OtherWindow next(OtherWindow::Kind::normal, {100, 100, 300, 200}); // Else nobody looks.
+    EXPECT_TRUE(eventually(isWatched)) << "a window that reserves something";
+    window.reserve({});
+    EXPECT_TRUE(eventually([&] { return !isWatched(); })) << "it is an ordinary one again";
 }
 
 TEST_F(ScreensTest, DoNotNotifyWithoutAChange) {

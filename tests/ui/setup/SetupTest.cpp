@@ -1,5 +1,7 @@
 #include "../WindowsFixture.h"
 
+#include <QScreen>
+
 namespace ravelo {
 
 namespace {
@@ -12,6 +14,41 @@ TEST_F(Windows, TheGearClosesThePanelAndAsksForTheSettings) {
     EXPECT_FALSE(world.controller.isOpen());
     ASSERT_NE(settings.window(), nullptr);
     EXPECT_TRUE(settings.window()->isVisible());
+}
+
+/// Counts how often the window says what room its shadow has.
+class CountingFrame final : public WindowFrame {
+public:
+    explicit CountingFrame(int& rooms) : rooms_(rooms) {}
+
+    [[nodiscard]] bool isTranslucent() const override { return true; }
+
+    [[nodiscard]] Handle onTranslucencyChange(std::function<void()> /*callback*/) override {
+        return {};
+    }
+
+    void setRoom(QMargins /*room*/) override { ++rooms_; }
+
+    void moveTo(QPoint /*corner*/) override {}
+
+private:
+    int& rooms_;
+};
+
+TEST_F(Windows, FitAgainOnAnotherMonitorOrAtAnotherScale) {
+    int rooms = 0;
+    TitledWindow window({view.window(),
+                         [&](QWindow&) {
+                             return std::make_unique<CountingFrame>(rooms);
+                         }},
+                        u"A"_s, {300, 200});
+    window.bringToFront();
+    int before = rooms;
+    Q_EMIT window.screenChanged(window.screen());
+    EXPECT_GT(rooms, before) << "moved to a monitor";
+    before = rooms;
+    Q_EMIT window.screen()->logicalDotsPerInchChanged(120);
+    EXPECT_GT(rooms, before) << "its scale has changed";
 }
 
 class Setup : public Windows {

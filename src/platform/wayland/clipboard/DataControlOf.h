@@ -77,6 +77,15 @@ private:
         events_.changed(types.size() > maxTypes ? Types() : types);
     }
 
+    /// If the next device says nothing either, the seat is gone.
+    void renew() {
+        select(nullptr);
+        if (std::exchange(hasSpoken_, false)) {
+            device_.reset(Protocol::getDevice(manager_.get(), seat_.get()));
+            Protocol::listenToDevice(device_.get(), &deviceEvents, this);
+        }
+    }
+
     void drop(Offer* offer) {
         if (offer != nullptr) {
             offers_.erase(offer);
@@ -107,8 +116,12 @@ private:
                 of(self).offers_[offer] = {};
                 Protocol::listenToOffer(offer, &offerEvents, self);
             },
-        .selection = [](void* self, Device*, Offer* offer) { of(self).select(offer); },
-        .finished = [](void* self, Device*) { of(self).select(nullptr); },
+        .selection =
+            [](void* self, Device*, Offer* offer) {
+                of(self).hasSpoken_ = true;
+                of(self).select(offer);
+            },
+        .finished = [](void* self, Device*) { of(self).renew(); },
         .primary_selection = [](void* self, Device*, Offer* offer) { of(self).drop(offer); },
     };
     static constexpr typename Protocol::SourceEvents sourceEvents = {
@@ -123,6 +136,7 @@ private:
     Owned<wl_seat> seat_;
     std::unique_ptr<typename Protocol::Manager, DestroyBy<Protocol::destroyManager>> manager_;
     std::unique_ptr<Device, DestroyBy<Protocol::destroyDevice>> device_;
+    bool hasSpoken_ = false; ///< The device, since it was made.
     std::map<Offer*, Types> offers_;
     Offer* current_ = nullptr;
     std::map<Source*, qint64> sources_;

@@ -57,7 +57,13 @@ WaylandPanelWindow::WaylandPanelWindow(QWindow& window, Surfaces& surfaces)
     window_.setFormat(format);
     window_.installEventFilter(
         this); // Gets events before `pointerOver_`: what is dragged is known first.
+    connect(qGuiApp, &QGuiApplication::screenAdded, this, [this] {
+        if (wantsKeyboard()) {
+            catchPresses();
+        }
+    });
     connect(qGuiApp, &QGuiApplication::screenRemoved, this, [this](const QScreen* gone) {
+        catchers_.erase(gone->name());
         if (gone->name() == screen_) {
             hide(); // Not every compositor reports that it is closed.
         }
@@ -69,7 +75,7 @@ WaylandPanelWindow::~WaylandPanelWindow() {
 }
 
 void WaylandPanelWindow::place(const Screen& screen, QSizeF size) {
-    size_ = size.toSize();
+    const QSize sizeBefore = std::exchange(size_, size.toSize());
     const QSize surface(std::max(surfaceSize_.width(), evenWidth(size_.width())),
                         std::max(stripSize.height(), size_.height()));
     const QSize before = std::exchange(surfaceSize_, surface);
@@ -78,6 +84,9 @@ void WaylandPanelWindow::place(const Screen& screen, QSizeF size) {
     } else if (surface != before && role_) {
         role_->resize(surface);
         commit();
+    }
+    if (size_ != sizeBefore) {
+        applyOutline();
     }
     moveTo(screen.id);
 }
@@ -171,9 +180,11 @@ void WaylandPanelWindow::returnFocus() {
     catchers_.clear();
     setKeyboard(Keyboard::none);
     surfaces_.activeWindow().stopSoon();
-    if (QGuiApplication::focusWindow() != &window_) {
-        return;
-    }
+    giveBackSoon();
+}
+
+/// Also if Qt does not know yet that the keyboard is here.
+void WaylandPanelWindow::giveBackSoon() {
     QTimer::singleShot(returnTime, this, [this] {
         if (QGuiApplication::focusWindow() == &window_ && keyboard_ == Keyboard::none && role_) {
             goForAMoment();
@@ -213,6 +224,11 @@ bool WaylandPanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
     case QEvent::MouseButtonPress:
         pressListeners_.notify(HotZone::Press::onPanel);
         break;
+    case QEvent::FocusIn:
+        if (!wantsKeyboard()) {
+            giveBackSoon(); // It was on its way when it was returned.
+        }
+        break;
     case QEvent::FocusOut:
         if (wantsKeyboard()) {
             pressedOutside();
@@ -245,6 +261,9 @@ void WaylandPanelWindow::catchPresses() {
         return;
     }
     for (QScreen* const screen : QGuiApplication::screens()) {
+        if (catchers_.contains(screen->name())) {
+            continue;
+        }
         if (auto catcher = surfaces_.makeInvisible(screen, wholeOutput)) {
             catchers_[screen->name()] = std::move(catcher);
         }
@@ -260,8 +279,9 @@ void WaylandPanelWindow::keepPressesOnPanel() {
 
 void WaylandPanelWindow::applyOutline() {
     wl_surface* const surface = role_ ? qt::surface(window_) : nullptr;
-    if (surface == nullptr) {
-        return;
+    const QRectF room = QRectF({}, size_).adjusted(-1, -1, 1, 1);
+    if (surface == nullptr || !room.contains(outline_.boundingRect())) {
+        return; // It will be shown, or placed in a larger size.
     }
     window_.setMask(inputRegion());
     surfaces_.blur().apply(*surface, outlineRegion());

@@ -75,6 +75,7 @@ private:
     void configure(QSize size);
     [[nodiscard]] bool mayCoverLocker() const;
     void showAgainSoon();
+    void giveBackSoon();
     void goForAMoment();
     void comeBack();
     void setKeyboard(Keyboard keyboard);

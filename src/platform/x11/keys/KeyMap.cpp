@@ -2,6 +2,8 @@
 
 #include <X11/keysym.h>
 
+#include <algorithm>
+
 namespace ravelo::x11 {
 
 KeyMap::KeyMap(Connection& connection) : first_(xcb_get_setup(connection.get())->min_keycode) {
@@ -25,15 +27,34 @@ KeyMap::KeyMap(Connection& connection) : first_(xcb_get_setup(connection.get())-
     }
 }
 
-xcb_keycode_t KeyMap::codeOf(uint32_t keysym) const {
-    for (int column = 0; column < columns_; ++column) {
+std::vector<xcb_keycode_t> KeyMap::codesOf(uint32_t keysym, int first, int last) const {
+    std::vector<xcb_keycode_t> codes;
+    for (int column = first; column < std::min(last, columns_); ++column) {
         for (size_t at = size_t(column); at < keysyms_.size(); at += size_t(columns_)) {
             if (keysyms_[at] == keysym) {
-                return xcb_keycode_t(first_ + at / size_t(columns_));
+                codes.push_back(xcb_keycode_t(first_ + at / size_t(columns_)));
             }
         }
     }
-    return 0;
+    return codes;
+}
+
+xcb_keycode_t KeyMap::codeOf(uint32_t keysym) const {
+    const auto codes = codesOf(keysym, 0, columns_);
+    return codes.empty() ? 0 : codes.front();
+}
+
+xcb_keycode_t KeyMap::codeOf(uint32_t keysym, uint16_t state) const {
+    const int layout = state >> 13 & 3;
+    const bool isShown = layout < 2;
+    auto codes = isShown ? codesOf(keysym, 2 * layout, 2 * layout + 2) : decltype(modifiers_){};
+    if (codes.empty()) {
+        codes = codesOf(keysym, 0, columns_);
+    }
+    // If only one key makes it in whatever layout, it does not matter which one is active.
+    const bool isSure =
+        !codes.empty() && (isShown || std::ranges::count(codes, codes[0]) == ssize(codes));
+    return isSure ? codes[0] : 0;
 }
 
 uint16_t KeyMap::maskOf(uint32_t keysym) const {

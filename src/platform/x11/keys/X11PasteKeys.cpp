@@ -129,9 +129,13 @@ QStringList X11PasteKeys::namesOf(xcb_window_t window) {
 
 /// Nothing if the keyboard lacks one of the keys.
 void X11PasteKeys::type(const KeyMap& keys, uint32_t modifier, uint32_t second, uint32_t key) {
-    std::vector<xcb_keycode_t> codes{keys.codeOf(modifier), keys.codeOf(key)};
+    const auto cookie = xcb_query_pointer(connection_.get(), connection_.root());
+    const Owned<xcb_query_pointer_reply_t> pointer(
+        xcb_query_pointer_reply(connection_.get(), cookie, nullptr));
+    const uint16_t state = pointer ? pointer->mask : 0;
+    std::vector<xcb_keycode_t> codes{keys.codeOf(modifier, state), keys.codeOf(key, state)};
     if (second != XCB_NO_SYMBOL) {
-        codes.insert(codes.begin() + 1, keys.codeOf(second));
+        codes.insert(codes.begin() + 1, keys.codeOf(second, state));
     }
     if (std::ranges::find(codes, 0) != codes.end()) {
         return;

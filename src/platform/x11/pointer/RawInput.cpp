@@ -74,7 +74,7 @@ void RawInput::handle(const xcb_generic_event_t& event) {
     if (generic.event_type == XCB_INPUT_RAW_BUTTON_PRESS) {
         pressed_ = true;
         if (button != middleButton) {
-            callbacks_.pressed();
+            callbacks_.pressed(look(connection_)); // Here: the main thread may be late.
         }
     }
     active();

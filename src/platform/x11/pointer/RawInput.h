@@ -30,8 +30,9 @@ struct PointerSight {
 class RawInput final : public EventHandler {
 public:
     struct Callbacks {
-        std::function<void()> pressed; ///< The left or the right button.
-        std::function<void()> active;  ///< Once for each `awaitActivity`.
+        /// The left or the right button, there; nothing if the server is gone.
+        std::function<void(std::optional<PointerSight>)> pressed;
+        std::function<void()> active; ///< Once for each `awaitActivity`.
     };
 
     RawInput(Connection& connection, Callbacks callbacks);

@@ -11,6 +11,10 @@ namespace ravelo::x11 {
 
 namespace {
 
+/// Who presses more often than the main thread can hear is a program, which must not fill our
+/// queue.
+constexpr int maxPending = 64;
+
 /// Our visible managed windows.
 std::vector<xcb_window_t> ownWindows() {
     std::vector<xcb_window_t> ids;
@@ -29,10 +33,15 @@ X11Pointer::X11Pointer(Connection& connection, Listener& listener, Known known, 
     : connection_(connection),
       listener_(listener),
       known_(known),
-      toLogical_(std::move(toLogical)),
-      presses_(std::make_shared<Notifier>(listener)) {
-    auto pressed = [presses = presses_] {
-        presses->notify();
+      toLogical_(std::move(toLogical)) {
+    auto pressed = [&listener, presses = presses_](const std::optional<PointerSight>& sight) {
+        if (presses->pending < maxPending) {
+            ++presses->pending;
+            listener.callOnMain([presses, sight] {
+                --presses->pending;
+                presses->listeners.notify(sight);
+            });
+        }
     };
     auto active = [&listener, waiting = waiting_] {
         listener.callOnMain([waiting] {
@@ -50,10 +59,19 @@ PointerState X11Pointer::state() {
     seen_ = look(connection_);
     // After the query: a press that its reply includes must not be reported again by the flag.
     const bool pressed = input_->takePressed();
-    if (!seen_ || known_ == Known::overX11Windows) {
-        return {std::nullopt, pressed};
-    }
-    return {toLogical_(seen_->location), seen_->buttonDown || pressed, seen_->leftDown};
+    const auto place = placeOf(seen_);
+    return place ? PointerState{place, seen_->buttonDown || pressed, seen_->leftDown}
+                 : PointerState{std::nullopt, pressed};
+}
+
+std::optional<QPointF> X11Pointer::placeOf(const std::optional<PointerSight>& sight) const {
+    const bool known = sight && known_ == Known::everywhere;
+    return known ? std::optional(toLogical_(sight->location)) : std::nullopt;
+}
+
+Handle X11Pointer::onPress(std::function<void(std::optional<QPointF>)> callback) {
+    return presses_->listeners.add(
+        [this, callback = std::move(callback)](const auto& sight) { callback(placeOf(sight)); });
 }
 
 bool X11Pointer::isOverOwnWindow() {

@@ -1,10 +1,13 @@
 #pragma once
 
+#include "base/Listeners.h"
 #include "platform/Pointer.h"
-#include "platform/x11/connection/Notifier.h"
 #include "platform/x11/pointer/RawInput.h"
 
 #include <QPoint>
+
+#include <atomic>
+#include <memory>
 
 namespace ravelo::x11 {
 
@@ -24,9 +27,7 @@ public:
     [[nodiscard]] PointerState state() override;
     [[nodiscard]] bool isOverOwnWindow() override;
 
-    [[nodiscard]] Handle onPress(std::function<void()> callback) override {
-        return presses_->add(std::move(callback));
-    }
+    [[nodiscard]] Handle onPress(std::function<void(std::optional<QPointF>)> callback) override;
 
     [[nodiscard]] Handle onNextActivity(std::function<void()> wake) override;
 
@@ -37,11 +38,19 @@ private:
         std::function<void()> wake;
     };
 
+    /// On their way to the main thread.
+    struct Presses {
+        std::atomic<int> pending = 0;
+        Listeners<std::optional<PointerSight>> listeners;
+    };
+
+    [[nodiscard]] std::optional<QPointF> placeOf(const std::optional<PointerSight>& sight) const;
+
     Connection& connection_;
     Listener& listener_;
     const Known known_;
     ToLogical toLogical_;
-    std::shared_ptr<Notifier> presses_;
+    std::shared_ptr<Presses> presses_ = std::make_shared<Presses>();
     std::shared_ptr<Waiting> waiting_ = std::make_shared<Waiting>();
     std::shared_ptr<RawInput> input_;
     std::optional<PointerSight> seen_; ///< At the last `state`.

@@ -21,8 +21,8 @@ bool contains(const std::vector<uint32_t>& values, uint32_t value) {
     return std::find(values.begin(), values.end(), value) != values.end();
 }
 
-void watchProperties(Connection& connection, xcb_window_t window) {
-    const uint32_t mask = XCB_EVENT_MASK_PROPERTY_CHANGE;
+void watchProperties(Connection& connection, xcb_window_t window, bool watched = true) {
+    const uint32_t mask = watched ? XCB_EVENT_MASK_PROPERTY_CHANGE : XCB_EVENT_MASK_NO_EVENT;
     xcb_change_window_attributes(connection.get(), window, XCB_CW_EVENT_MASK, &mask);
 }
 
@@ -155,12 +155,16 @@ void X11Screens::findBars() {
                              {connection_, window, strut_},
                              {connection_, window, strutPartial_}});
     }
-    bars_.clear();
+    const auto before = std::exchange(bars_, {});
     for (Question& question : questions) {
-        if (contains(question.type.cardinals(), dock_) || !question.strut.cardinals().empty() ||
-            !question.strutPartial.cardinals().empty()) {
+        const bool isBar = contains(question.type.cardinals(), dock_) ||
+                           !question.strut.cardinals().empty() ||
+                           !question.strutPartial.cardinals().empty();
+        if (isBar) {
             bars_.push_back(question.window);
-            watchProperties(connection_, question.window);
+        }
+        if (isBar || contains(before, question.window)) {
+            watchProperties(connection_, question.window, isBar);
         }
     }
 }

@@ -4,15 +4,16 @@
 
 namespace ravelo::x11 {
 
-ForeignCover::ForeignCover(Listener& listener) : listener_(listener) {
+ForeignCover::ForeignCover(Listener& listener)
+    : listener_(listener), newcomers_(std::make_shared<Notifier>(listener)) {
     auto changed = [&listener, state = state_](bool covered) {
         listener.callOnMain([state, covered] {
             state->covered = covered;
             state->listeners.notify();
         });
     };
-    auto newcomer = [&listener, state = state_] {
-        listener.callOnMain([state] { state->newcomers.notify(); });
+    auto newcomer = [newcomers = newcomers_] {
+        newcomers->notify();
     };
     watch_ = std::make_shared<CoverWatch>(listener.connection(), changed, newcomer);
     listener.attach(watch_);

@@ -2,7 +2,7 @@
 
 #include "base/Listeners.h"
 #include "platform/SessionLock.h"
-#include "platform/x11/connection/Listener.h"
+#include "platform/x11/connection/Notifier.h"
 
 #include <QRect>
 
@@ -30,18 +30,18 @@ public:
 
     /// Called when another program has mapped any window that is not managed.
     [[nodiscard]] Handle onNewcomer(std::function<void()> callback) {
-        return state_->newcomers.add(std::move(callback));
+        return newcomers_->add(std::move(callback));
     }
 
 private:
     struct State {
         bool covered = false;
         Listeners<> listeners;
-        Listeners<> newcomers;
     };
 
     Listener& listener_;
     std::shared_ptr<State> state_ = std::make_shared<State>();
+    std::shared_ptr<Notifier> newcomers_;
     std::shared_ptr<CoverWatch> watch_;
 };
 
