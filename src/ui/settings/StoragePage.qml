@@ -150,13 +150,8 @@ Column {
                 id: form
                 x: 14
                 onChosen: passphrase => {
+                    Vault.usePassphrase(passphrase); // First: a hidden field is empty.
                     page.newPassphrase = false;
-                    Vault.usePassphrase(passphrase);
-                }
-                onVisibleChanged: {
-                    if (visible) {
-                        forceActiveFocus();
-                    }
                 }
             }
         }

@@ -126,11 +126,6 @@ FocusScope {
                 step.waiting = true;
                 Vault.usePassphrase(passphrase);
             }
-            onVisibleChanged: {
-                if (visible) {
-                    forceActiveFocus();
-                }
-            }
         }
 
         Paragraph {

@@ -3,7 +3,7 @@ import Ravelo.Controls
 import Ravelo.Theme
 import Ravelo.Vault
 
-/// Asks for a new passphrase, twice.
+/// Asks for a new passphrase, twice. Has the keyboard once it is shown.
 FocusScope {
     id: form
 
@@ -18,6 +18,12 @@ FocusScope {
             chosen(first.edited);
         } else {
             mistake.visible = true;
+        }
+    }
+
+    onVisibleChanged: {
+        if (visible) {
+            first.edited.forceActiveFocus();
         }
     }
 
@@ -41,7 +47,6 @@ FocusScope {
     PassphraseField {
         id: first
         objectName: "passphrase"
-        focus: true
         placeholder: qsTr("Passphrase")
         floats: form.floats
         onAccepted: again.edited.forceActiveFocus()

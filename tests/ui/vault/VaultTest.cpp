@@ -2,6 +2,8 @@
 
 #include "fakes/FakeKeyring.h"
 #include "panel_fixture/PanelFixture.h"
+#include "ui/settings/SettingsWindow.h"
+#include "ui/windows/TitledWindow.h"
 #include "vault/Encryption.h"
 
 namespace ravelo {
@@ -108,6 +110,30 @@ TEST_F(LockedPanel, AsksForThePassphrase) {
     clickMiddle(view->window(), item(u"openStore"_s));
     world.scheduler.advance(Seconds(0.1));
     EXPECT_EQ(encryption->state(), Encryption::Open) << qPrintable(encryption->problem());
+}
+
+TEST_F(LockedPanel, IsEncryptedByAPassphraseTypedIntoTheSettings) {
+    ASSERT_TRUE(QFile::remove(folder.filePath(u"key"_s)));
+    keyring.isThere = false;
+    load();
+    SettingsWindow settings{
+        {{view->window()}, world.store, world.settings, [] {}, u"X11 (for a reason)"_s}};
+    settings.show();
+    QQuickWindow& window = *settings.window();
+    ASSERT_TRUE(eventually([&] { return window.isActive(); }));
+    press(window, Qt::Key_3, Qt::ControlModifier);
+    world.scheduler.advance(Seconds(0.1));
+    clickMiddle(window, find(window.contentItem(), u"encrypt"_s));
+    for (const char* field : {"the first field", "the second"}) {
+        for (const QChar letter : u"words"_s) {
+            press(window, Qt::Key_unknown, Qt::NoModifier, letter);
+        }
+        EXPECT_EQ(encryption->state(), Encryption::Off) << field;
+        press(window, Qt::Key_Return);
+    }
+    world.scheduler.advance(Seconds(0.1));
+    EXPECT_TRUE(encryption->isOn()) << qPrintable(encryption->problem());
+    EXPECT_TRUE(encryption->isByPassphrase());
 }
 
 TEST_F(LockedPanel, SaysWhatIsWrong) {
