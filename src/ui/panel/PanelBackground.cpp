@@ -3,6 +3,7 @@
 #include "panel/NotchShape.h"
 
 #include <QPainterPath>
+#include <QtMath>
 
 #include <algorithm>
 
@@ -12,6 +13,9 @@ namespace {
 
 constexpr double flare = 18;
 constexpr double bottomRadius = 42;
+
+/// Device pixels between the ends that are kept; the rest of the panel looks the same.
+constexpr int slice = 128;
 
 QColor materialColor(Backdrop::Kind backdrop) {
     QColor color(0x14, 0x14, 0x18);
@@ -86,12 +90,23 @@ QImage panelImage(QSizeF size, double scale, const PanelMaterial& material) {
 void PanelBackground::paint(QPainter& painter) {
     const double scale = painter.device()->devicePixelRatio();
     const PanelMaterial material{backdrop_, darkness_, fullBlack_};
+    const int whole = qRound(width() * scale);
+    const int end = qCeil((flare + bottomRadius) * scale);
+    const int narrow = std::min(whole, 2 * end + slice);
     if (size() != paintedSize_ || image_.devicePixelRatio() != scale || material != painted_) {
         paintedSize_ = size();
         painted_ = material;
-        image_ = panelImage(size(), scale, material);
+        image_ = panelImage({narrow / scale, height()}, scale, material);
     }
-    painter.drawImage(QPointF(0, 0), image_);
+    const auto draw = [&](int from, int to, int count) {
+        painter.drawImage(QPointF(to / scale, 0), image_, QRectF(from, 0, count, image_.height()));
+    };
+    const int left = narrow - end; // All but the right end.
+    draw(0, 0, left);
+    for (int to = left; to < whole - end; to += slice) {
+        draw(end, to, std::min(slice, whole - end - to));
+    }
+    draw(left, whole - end, end);
 }
 
 } // namespace ravelo

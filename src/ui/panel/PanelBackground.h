@@ -34,7 +34,7 @@ struct PanelMaterial {
 /// pixels per logical pixel.
 [[nodiscard]] QImage panelImage(QSizeF size, double scale, const PanelMaterial& material);
 
-/// Paints it.
+/// Paints it. Keeps its ends and a part of its middle only.
 class PanelBackground : public ravelo::PaintedItem {
     Q_OBJECT
     QML_ELEMENT

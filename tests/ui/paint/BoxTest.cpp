@@ -112,7 +112,7 @@ TEST(Box, looksLikeARoundedRectangleAndUsesNoOtherThread) {
     const int before = threads();
     for (const Look& look : looks) {
         boxes.push_back(asBox(look));
-        EXPECT_EQ(threads(), before) << look.name;
+        EXPECT_LE(threads(), before) << look.name << ": a thread was started";
     }
     for (size_t i = 0; i < boxes.size(); ++i) {
         const Look& look = looks[i];
