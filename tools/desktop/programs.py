@@ -195,12 +195,16 @@ class Gimp(Program):
     """Pastes into a picture of one colour, and overwrites its file."""
 
     def prepare(self):
-        settings = pathlib.Path(self.session.desktop.env["XDG_CONFIG_HOME"]) / "GIMP/2.10"
-        settings.mkdir(parents=True)
-        (settings / "menurc").write_text('(gtk_accel_path "<Actions>/file/file-export" "")\n'
-                                         '(gtk_accel_path "<Actions>/file/file-overwrite" "<Primary>e")\n')
-        (settings / "gimprc").write_text("(check-updates no)\n(show-tips no)\n")
-        (settings / "sessionrc").write_text("(single-window-mode no)\n")
+        for release in ("2.10", "3.0"):
+            settings = pathlib.Path(self.session.desktop.env["XDG_CONFIG_HOME"]) / "GIMP" / release
+            settings.mkdir(parents=True)
+            (settings / "menurc").write_text('(gtk_accel_path "<Actions>/file/file-export" "")\n'
+                                             '(gtk_accel_path "<Actions>/file/file-overwrite" "<Primary>e")\n')
+            (settings / "shortcutsrc").write_text('(file-version 1)\n(action "file-export")\n'
+                                                  '(action "file-overwrite" "<Primary>e")\n')
+            (settings / "gimprc").write_text("(check-updates no)\n(show-tips no)\n(show-welcome-dialog no)\n"
+                                               "(color-profile-policy keep)\n")
+            (settings / "sessionrc").write_text("(single-window-mode no)\n")
         run = self.session.desktop.run
         run("convert", "-size", "48x32", "xc:#c04020", "-depth", 8, self.folder / "source.png")
         run("convert", "-size", "48x32", "xc:#f0e0ff", "-depth", 8, f"PNG24:{self.folder}/target.png")
@@ -264,7 +268,7 @@ class Chromium(Program):
         threading.Thread(target=self._server.serve_forever, daemon=True).start()
         address = f"http://127.0.0.1:{self._server.server_port}"
         for page in ("source", "target"):
-            self.spawn("chromium", *(["--no-sandbox"] if os.geteuid() == 0 else []),
+            self.spawn("chromium", "--no-sandbox",
                        f"--ozone-platform={self.session.name}", "--no-first-run", "--disable-gpu",
                        "--password-store=basic", f"--user-data-dir={self.folder}/{page}",
                        f"--app={address}/{page}")
