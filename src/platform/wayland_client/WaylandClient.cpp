@@ -22,7 +22,8 @@ bool isQuiet = false; ///< What Qt complains about now is on purpose.
 /// When the compositor is gone, Qt says so and calls _exit(), which saves nothing. So the program
 /// ends here, by exit().
 void endInOrder(QtMsgType type, const QMessageLogContext& context, const QString& text) {
-    // Since Qt 6.6, requesting a frame while the scale changes logs this; Qt then corrects the scale.
+    // Since Qt 6.6, requesting a frame while the scale changes logs this; Qt then corrects the
+    // scale.
     if (isQuiet || text.startsWith("The cached device pixel ratio value was stale"_L1)) {
         return;
     }

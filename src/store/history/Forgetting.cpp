@@ -26,7 +26,7 @@ void Forgetting::follow(const QList<ClipItem>& clips) {
             }
         }
     }
-    // One that comes back soon after it was deleted does not begin anew.
+    // If a deleted one is restored, its time goes on.
     since_.removeIf([&](QHash<QUuid, Seconds>::iterator one) {
         return !secrets.contains(one.key()) && (!after_ || left(one.value()) <= Seconds(0));
     });

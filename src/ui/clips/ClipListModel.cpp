@@ -1,8 +1,8 @@
 #include "ui/clips/ClipListModel.h"
 
 #include "store/Store.h"
-#include "ui/preview/ProgramName.h"
 #include "ui/clips/SecretText.h"
+#include "ui/preview/ProgramName.h"
 
 #include <algorithm>
 #include <utility>

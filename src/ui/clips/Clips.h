@@ -4,10 +4,10 @@
 #include "ui/clips/ClipEditor.h"
 #include "ui/clips/ClipListModel.h"
 #include "ui/clips/ClipPasting.h"
-#include "ui/preview/ClipPreview.h"
 #include "ui/clips/LinkOpening.h"
 #include "ui/controls/Tab.h"
 #include "ui/lists/RowAges.h"
+#include "ui/preview/ClipPreview.h"
 #include "ui/snippets/Snippets.h"
 
 #include <functional>

@@ -3,11 +3,11 @@
 #include "base/FileUrl.h"
 #include "platform/ImageDecoder.h"
 #include "store/Store.h"
+#include "ui/images/FileThumb.h"
+#include "ui/lists/DataSize.h"
 #include "ui/preview/ClipColor.h"
 #include "ui/preview/FormNames.h"
 #include "ui/preview/ProgramName.h"
-#include "ui/images/FileThumb.h"
-#include "ui/lists/DataSize.h"
 #include "vault/Vault.h"
 
 #include <QCoreApplication>

@@ -88,7 +88,7 @@ TEST_F(ScreensTest, FollowABar) {
         return reply && reply->your_event_mask != 0;
     };
     window.reserve({0, 0, 30, 0, 0, 0, 0, 0, 0, 1919, 0, 0});
-    const OtherWindow next(OtherWindow::Kind::normal, {100, 100, 300, 200}); // Else nobody looks.
+    const OtherWindow next(OtherWindow::Kind::normal, {100, 100, 300, 200}); // Triggers a new look.
     EXPECT_TRUE(eventually(isWatched)) << "a window that reserves something";
     window.reserve({});
     EXPECT_TRUE(eventually([&] { return !isWatched(); })) << "it is an ordinary one again";
