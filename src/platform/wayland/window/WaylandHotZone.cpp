@@ -47,7 +47,9 @@ HotZone::Sight WaylandHotZone::look() {
     if (!sight.screen) {
         sight.screen = screens_.main();
     }
-    const bool over = window_.isUnderPointer();
+    // A strip on the panel's screen is below the panel.
+    const bool over =
+        window_.isUnderPointer() || (!hovered_.isEmpty() && hovered_ == window_.screen());
     sight.inZone = over || !hovered_.isEmpty();
     sight.inDragZone = sight.onPanel = over;
     // Who types into the panel need not hover over it.
