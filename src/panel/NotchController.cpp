@@ -36,13 +36,13 @@ NotchController::NotchController(Store& store, ClipboardManager& clipboard, AppS
       clipboard_(clipboard),
       settings_(settings),
       services_(std::move(services)),
+      foreignDrag_(services_.drags),
       drop_(services_.transfers, [this] { lookAtDrag(); }),
       takenInput_(services_.scheduler, services_.inputGrab,
                   [this] { return hideIfInputIsTaken(); }) {
-    idleDragCount_ = services_.drags.changeCount();
     if (services_.barrier != nullptr) {
         guard_.emplace(services_.scheduler, services_.screens, *services_.barrier,
-                       [this] { return dragCarriesFiles(); });
+                       [this] { return foreignDrag_.carriesFiles(); });
         guard_->start();
     }
     connect(&store_, &Store::shelfChanged, this, &NotchController::resizeForShelf);
@@ -75,7 +75,7 @@ HotZone::Report NotchController::evaluateHover(const HotZone::Sight& sight) {
         return HotZone::Report::onChange; // Screens that return, and unlocking, ask for a report.
     }
     if (!sight.buttonDown) {
-        idleDragCount_ = services_.drags.changeCount();
+        foreignDrag_.buttonsUp();
     }
     guardEdge(sight);
     isOpen_ ? evaluateOpen(sight) : evaluateCollapsed(sight);
@@ -107,7 +107,7 @@ void NotchController::evaluateOpen(const HotZone::Sight& sight) {
 }
 
 void NotchController::evaluateCollapsed(const HotZone::Sight& sight) {
-    if (sight.inDragZone && isDragOn(sight) && dragCarriesFiles()) {
+    if (sight.inDragZone && isDragOn(sight) && foreignDrag_.carriesFiles()) {
         openForFiles();
         return;
     }
@@ -128,15 +128,7 @@ HoverHold::Press NotchController::pressOf(const HotZone::Sight& sight) const {
 }
 
 bool NotchController::isDragOn(const HotZone::Sight& sight) const {
-    return sight.buttonDown && services_.drags.changeCount() != idleDragCount_;
-}
-
-/// To be asked last: some sources make their files only when they are asked for them.
-bool NotchController::dragCarriesFiles() {
-    if (auto newest = services_.drags.newest(); newest != dragged_.offer()) {
-        dragged_ = OfferedFiles(std::move(newest));
-    }
-    return !dragged_.named().value_or(QList<QUrl>()).isEmpty();
+    return sight.buttonDown && foreignDrag_.isOn();
 }
 
 void NotchController::openForFiles() {
@@ -349,7 +341,7 @@ bool NotchController::isLocked() const {
 /// A client that holds pointer and keyboard may be an unknown locker; the source of a drag
 /// may hold both too.
 bool NotchController::isInputHeld(const HotZone::Sight& sight, const InputGrab::Answer& grab) {
-    return grab() && !filesOver_ && !(isDragOn(sight) && dragCarriesFiles());
+    return grab() && !filesOver_ && !(isDragOn(sight) && foreignDrag_.carriesFiles());
 }
 
 TakenInput::Look NotchController::hideIfInputIsTaken() {

@@ -3,6 +3,7 @@
 #include "base/Handle.h"
 #include "base/Scheduler.h"
 #include "panel/EdgeGuard.h"
+#include "panel/ForeignDrag.h"
 #include "panel/HoverHold.h"
 #include "panel/TakenInput.h"
 #include "platform/HotZone.h"
@@ -126,8 +127,6 @@ public:
     Q_INVOKABLE void copy(const QString& text);
     Q_INVOKABLE void copyImage(const QString& path);
 
-    /// For whatever else is copied.
-
     /// The user clicked into a text field: the window takes the keyboard.
     Q_INVOKABLE void typeFocus();
 
@@ -164,7 +163,6 @@ private:
     void lookAtDrag();
     [[nodiscard]] HoverHold::Press pressOf(const HotZone::Sight& sight) const;
     [[nodiscard]] bool isDragOn(const HotZone::Sight& sight) const;
-    [[nodiscard]] bool dragCarriesFiles();
     void expand(const HotZone::Sight& sight, const InputGrab::Answer& grab);
     [[nodiscard]] bool isInputHeld(const HotZone::Sight& sight, const InputGrab::Answer& grab);
     void openBefore(Opening opening);
@@ -192,17 +190,16 @@ private:
     /// The pointer was elsewhere at the last look: without another one, the panel closes.
     bool closeIsPutOff_ = false;
     QRectF frame_;
-    QString screenId_;         ///< Of the screen that it is on.
-    int stripTicks_ = 0;       ///< Sights in a row with the pointer in the zone while collapsed.
-    qint64 idleDragCount_ = 0; ///< The drag count last seen with no button down.
+    QString screenId_;   ///< Of the screen that it is on.
+    int stripTicks_ = 0; ///< Sights in a row with the pointer in the zone while collapsed.
     HoverHold hold_;
     bool draggingOut_ = false; ///< Files, out of the panel.
     bool dragOver_ = false;    ///< One of another program is over the window.
     bool filesOver_ = false;   ///< It is known to carry files.
     int closings_ = 0;         ///< How often the open panel has been closed.
-    OfferedFiles dragged_;     ///< By the newest drag.
 
     std::optional<EdgeGuard> guard_;
+    ForeignDrag foreignDrag_;
     FileDrop drop_;
     TakenInput takenInput_;
     Handle closeWork_;

@@ -206,7 +206,7 @@ public:
     /// that was copied again meanwhile counts as restored. If the history is cleared first,
     /// unpinned clips do not come back.
     void restore(const std::shared_ptr<Deleted>& deleted,
-                 std::function<void(const Restored&)> done);
+                 const std::function<void(const Restored&)>& done);
 
     /// Writes the image now on the pasteboard to the clips folder and calls `done` later with its
     /// file name, or with an empty one if there is no image. If the handle is dropped before that,
@@ -290,8 +290,8 @@ Q_SIGNALS:
 
 private:
     void load();
-    void begin(StoredContents stored);
-    void adopt(StoredContents stored);
+    void begin(ReadStore stored);
+    void adopt(ReadStore stored);
     void addSeeds();
     void addLinkSnippetsIfNeeded();
     void saveEndedWith(const SaveOutcome& outcome);

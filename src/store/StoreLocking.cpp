@@ -32,8 +32,8 @@ void Store::load() {
 }
 
 /// Later saves go to the store file.
-void Store::begin(StoredContents stored) {
-    using Kind = StoredContents::Kind;
+void Store::begin(ReadStore stored) {
+    using Kind = ReadStore::Kind;
     const bool wasRead = stored.kind == Kind::read;
     if (stored.kind == Kind::newer) {
         auto refuse = []() -> Result<void> {
@@ -67,7 +67,7 @@ void Store::begin(StoredContents stored) {
 }
 
 /// What is here came after what was stored.
-void Store::adopt(StoredContents stored) {
+void Store::adopt(ReadStore stored) {
     QList<StoreContents> later = std::move(stored.waiting);
     later.append(contents());
     data_ = std::move(stored.store.data);
@@ -121,7 +121,7 @@ void Store::unlock() {
     }
     opening_ = true;
     saver_.saveNow(); // What came meanwhile is read again, from its file.
-    const auto stored = std::make_shared<StoredContents>();
+    const auto stored = std::make_shared<ReadStore>();
     services_.worker.run(
         [vault = services_.vault, path = fileURL(), stored] { *stored = readStore(*vault, path); },
         [store = QPointer(this), stored] {

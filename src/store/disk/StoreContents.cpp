@@ -33,20 +33,20 @@ QString waitingFolder(const Vault& vault) {
 
 } // namespace
 
-StoredContents readStore(const Vault& vault, const QString& path) {
-    StoredContents stored;
+ReadStore readStore(const Vault& vault, const QString& path) {
+    ReadStore stored;
     const Vault::Contents contents = vault.read(path);
     if (contents.kind == Vault::Contents::Kind::newer || isOfNewerStore(contents.bytes)) {
-        stored.kind = StoredContents::Kind::newer;
+        stored.kind = ReadStore::Kind::newer;
         return stored;
     }
     auto store =
         contents.kind == Vault::Contents::Kind::readable ? parsed(contents.bytes) : std::nullopt;
     if (store) {
-        stored.kind = StoredContents::Kind::read;
+        stored.kind = ReadStore::Kind::read;
         stored.store = std::move(*store);
     } else if (presenceOf(QFile::encodeName(path)) != Presence::gone) {
-        stored.kind = StoredContents::Kind::unreadable;
+        stored.kind = ReadStore::Kind::unreadable;
     }
     const QDir waiting(waitingFolder(vault));
     for (const QFileInfo& file : waiting.entryInfoList(QDir::Files, QDir::Time | QDir::Reversed)) {

@@ -18,7 +18,7 @@ struct StoreContents {
 };
 
 /// A store as it was read from its folder.
-struct StoredContents {
+struct ReadStore {
     enum class Kind { none, read, unreadable, newer };
 
     Kind kind = Kind::none;
@@ -28,7 +28,7 @@ struct StoredContents {
 };
 
 /// Reads the store file at `path`, and beside it the folder "waiting". Blocks; any thread.
-[[nodiscard]] StoredContents readStore(const Vault& vault, const QString& path);
+[[nodiscard]] ReadStore readStore(const Vault& vault, const QString& path);
 
 /// Where what comes while the store is locked waits; a new name at each call.
 [[nodiscard]] QString newWaitingFile(const Vault& vault);

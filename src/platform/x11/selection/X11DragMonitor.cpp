@@ -8,7 +8,7 @@ namespace ravelo::x11 {
 
 X11DragMonitor::X11DragMonitor(Listener& listener)
     : listener_(listener),
-      changes_(std::make_shared<Notifier>(listener)),
+      changes_(std::make_shared<MainThreadNotifier>(listener)),
       reads_(std::make_shared<DragReads>(
           listener.connection(), listener.connection().atom(QByteArrayLiteral("XdndSelection")))) {
     auto changed = [counter = counter_, changes = changes_, reads = reads_,

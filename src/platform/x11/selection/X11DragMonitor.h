@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/DragMonitor.h"
-#include "platform/x11/connection/Notifier.h"
+#include "platform/x11/connection/MainThreadNotifier.h"
 #include "platform/x11/selection/DragReads.h"
 #include "platform/x11/selection/SelectionWatch.h"
 
@@ -29,7 +29,7 @@ public:
 private:
     Listener& listener_;
     std::shared_ptr<ChangeCounter> counter_ = std::make_shared<ChangeCounter>();
-    std::shared_ptr<Notifier> changes_;
+    std::shared_ptr<MainThreadNotifier> changes_;
     std::shared_ptr<DragReads> reads_;
     std::shared_ptr<X11DragOffer> newest_;
 };

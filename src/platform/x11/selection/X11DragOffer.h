@@ -1,7 +1,7 @@
 #pragma once
 
 #include "platform/DragOffer.h"
-#include "platform/x11/connection/Notifier.h"
+#include "platform/x11/connection/MainThreadNotifier.h"
 #include "platform/x11/selection/DragReads.h"
 #include "platform/x11/selection/SelectionWatch.h"
 
@@ -16,7 +16,7 @@ public:
     struct Source {
         Listener& listener; ///< Must outlive the offer.
         std::shared_ptr<ChangeCounter> counter;
-        std::shared_ptr<Notifier> changes;
+        std::shared_ptr<MainThreadNotifier> changes;
         std::weak_ptr<DragReads> reads; ///< Its questions hold the offer.
     };
 

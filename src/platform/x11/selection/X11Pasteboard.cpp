@@ -20,8 +20,8 @@ X11Pasteboard::X11Pasteboard(Listener& listener)
     : listener_(listener),
       ownClient_(OwnClient::ofQt()),
       selection_(listener.connection().atom(selectionName)),
-      changes_(std::make_shared<Notifier>(listener)),
-      saveAsked_(std::make_shared<Notifier>(listener)),
+      changes_(std::make_shared<MainThreadNotifier>(listener)),
+      saveAsked_(std::make_shared<MainThreadNotifier>(listener)),
       saveRequests_(std::make_shared<SaveRequests>(listener.connection(), ownClient_,
                                                    [asked = saveAsked_] { asked->notify(); })) {
     QGuiApplication::clipboard()->blockSignals(true);

@@ -2,7 +2,7 @@
 
 #include "platform/Pasteboard.h"
 #include "platform/x11/connection/Connection.h"
-#include "platform/x11/connection/Notifier.h"
+#include "platform/x11/connection/MainThreadNotifier.h"
 #include "platform/x11/selection/SaveRequests.h"
 #include "platform/x11/selection/SelectionWatch.h"
 
@@ -64,8 +64,8 @@ private:
     Naming naming_ = Naming::off;
     xcb_atom_t selection_;
     std::shared_ptr<ChangeCounter> counter_ = std::make_shared<ChangeCounter>();
-    std::shared_ptr<Notifier> changes_;
-    std::shared_ptr<Notifier> saveAsked_;
+    std::shared_ptr<MainThreadNotifier> changes_;
+    std::shared_ptr<MainThreadNotifier> saveAsked_;
     std::shared_ptr<SaveRequests> saveRequests_;
     std::shared_ptr<SelectionWatch> watch_;
     std::shared_ptr<Reads> reads_ = std::make_shared<Reads>();

@@ -8,7 +8,7 @@ namespace ravelo::x11 {
 X11SelectedText::X11SelectedText(Listener& listener)
     : listener_(listener),
       clients_(OwnClient::ofQt()),
-      changes_(std::make_shared<Notifier>(listener)),
+      changes_(std::make_shared<MainThreadNotifier>(listener)),
       owner_(std::make_shared<xcb_window_t>(XCB_NONE)) {
     auto changed = [changes = changes_, owner = owner_,
                     clients = clients_](const OwnerChange& now) {

@@ -2,7 +2,7 @@
 
 #include "platform/SelectedText.h"
 #include "platform/x11/connection/Listener.h"
-#include "platform/x11/connection/Notifier.h"
+#include "platform/x11/connection/MainThreadNotifier.h"
 #include "platform/x11/selection/SelectionWatch.h"
 
 #include <map>
@@ -30,7 +30,7 @@ private:
 
     Listener& listener_;
     OwnClient clients_;
-    std::shared_ptr<Notifier> changes_;
+    std::shared_ptr<MainThreadNotifier> changes_;
     std::shared_ptr<xcb_window_t> owner_; ///< The listener's thread only.
     std::shared_ptr<SelectionWatch> watch_;
     std::shared_ptr<Reads> reads_ = std::make_shared<Reads>();

@@ -5,7 +5,7 @@
 namespace ravelo::x11 {
 
 ForeignCover::ForeignCover(Listener& listener)
-    : listener_(listener), newcomers_(std::make_shared<Notifier>(listener)) {
+    : listener_(listener), newcomers_(std::make_shared<MainThreadNotifier>(listener)) {
     auto changed = [&listener, state = state_](bool covered) {
         listener.callOnMain([state, covered] {
             state->covered = covered;

@@ -2,7 +2,7 @@
 
 #include "base/Listeners.h"
 #include "platform/SessionLock.h"
-#include "platform/x11/connection/Notifier.h"
+#include "platform/x11/connection/MainThreadNotifier.h"
 
 #include <QRect>
 
@@ -41,7 +41,7 @@ private:
 
     Listener& listener_;
     std::shared_ptr<State> state_ = std::make_shared<State>();
-    std::shared_ptr<Notifier> newcomers_;
+    std::shared_ptr<MainThreadNotifier> newcomers_;
     std::shared_ptr<CoverWatch> watch_;
 };
 
