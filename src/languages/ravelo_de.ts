@@ -1902,6 +1902,10 @@
         <source>joined by line breaks, in this order</source>
         <translation>mit Zeilenumbrüchen verbunden, in dieser Reihenfolge</translation>
     </message>
+    <message>
+        <source>Copied %1 ✓ Pictures left out</source>
+        <translation>%1 kopiert ✓ Ohne Bilder</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::DataLock</name>

@@ -1902,6 +1902,10 @@
         <source>joined by line breaks, in this order</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Copied %1 ✓ Pictures left out</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::DataLock</name>

@@ -1902,6 +1902,10 @@
         <source>joined by line breaks, in this order</source>
         <translation>unidos por quebras de linha, nesta ordem</translation>
     </message>
+    <message>
+        <source>Copied %1 ✓ Pictures left out</source>
+        <translation>%1 copiados ✓ Sem imagens</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::DataLock</name>

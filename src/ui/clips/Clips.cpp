@@ -225,7 +225,9 @@ void Clips::copySelected() {
         return;
     }
     services_.controller.copy(joined(texts));
-    services_.toast.flash(tr("Copied %1 \u2713").arg(locale_.toString(texts.size())));
+    const bool all = texts.size() == list_.selection().ids().size();
+    services_.toast.flash((all ? tr("Copied %1 \u2713") : tr("Copied %1 \u2713 Pictures left out"))
+                              .arg(locale_.toString(texts.size())));
 }
 
 void Clips::removeSelected() {
