@@ -119,9 +119,9 @@ private:
 
 Handle runProgram(const ProgramRun& run, QObject* owner,
                   std::function<void(std::optional<QByteArray>)> done) {
-    const QPointer<Child> child = new Child(run, owner, std::move(done));
+    QPointer<Child> child = new Child(run, owner, std::move(done));
     child->run(run);
-    return Handle([child] {
+    return Handle([child = std::move(child)] {
         if (child) {
             child->drop();
         }

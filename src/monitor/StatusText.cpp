@@ -79,8 +79,8 @@ QString timeText(Date date, Date now, const QTimeZone& zone, Wording wording) {
 
 SessionContext chosenContext(const MonitorStatus& status, const StatusChoice& choice) {
     constexpr double outdated = 60; // Claude Code hands over within seconds, or no more.
-    const SessionContext read{status.model, status.used, status.limit, status.project,
-                              status.lastActivity};
+    SessionContext read{status.model, status.used, status.limit, status.project,
+                        status.lastActivity};
     if (!choice.handedOverFirst || !status.handed) {
         return read;
     }

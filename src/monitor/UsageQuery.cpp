@@ -108,13 +108,14 @@ void UsageQuery::request(const Secret& token) {
 }
 
 void UsageQuery::handleAnswer(const std::optional<HttpsAnswer>& answer) {
-    const int status = answer ? answer->status : 0;
-    if (status == unauthorized) {
+    if (!answer) {
+        finish({});
+    } else if (answer->status == unauthorized) {
         renewViaCLI([this] { finish({}); });
-    } else if (status == tooManyRequests) {
+    } else if (answer->status == tooManyRequests) {
         finish({{}, readRetryAfter(answer->retryAfter, services_.scheduler.now())});
     } else {
-        finish({status == ok ? readUsageAnswer(answer->body) : std::nullopt, {}});
+        finish({answer->status == ok ? readUsageAnswer(answer->body) : std::nullopt, {}});
     }
 }
 

@@ -47,7 +47,7 @@ Value named(const QString& name, std::initializer_list<std::pair<QLatin1StringVi
 
 QStringList texts(const QJsonValue& list) {
     QStringList texts;
-    for (const QJsonValue& text : list.toArray()) {
+    for (const QJsonValue text : list.toArray()) {
         texts.append(text.toString());
     }
     return texts;
@@ -81,7 +81,7 @@ SecretForm parsed(const QJsonValue& value) {
 
 std::vector<SecretForm> parsedFile() {
     std::vector<SecretForm> forms;
-    for (const QJsonValue& form : QJsonDocument::fromJson(formsFile).array()) {
+    for (const QJsonValue form : QJsonDocument::fromJson(formsFile).array()) {
         forms.push_back(parsed(form));
     }
     return forms;

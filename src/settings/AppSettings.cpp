@@ -52,7 +52,7 @@ QString read(const QJsonValue& value, const QString& standard) {
 
 QStringList read(const QJsonValue& value, const QStringList& /*standard*/) {
     QStringList texts;
-    for (const QJsonValue& item : value.toArray()) {
+    for (const QJsonValue item : value.toArray()) {
         if (const QString text = item.toString(); !text.trimmed().isEmpty()) {
             texts.append(text);
         }

@@ -236,7 +236,7 @@ std::optional<qsizetype> Store::addAll(const StoreContents& contents,
 }
 
 void Store::restore(const std::shared_ptr<Deleted>& deleted,
-                    std::function<void(const Restored&)> done) {
+                    const std::function<void(const Restored&)>& done) {
     const auto restorable = std::make_shared<Deleted::Restorable>();
     auto putBackAll = [this, restorable, done] {
         putBack(restorable->records);

@@ -28,7 +28,7 @@ std::optional<QStringList> texts(const QJsonValue& value) {
         return std::nullopt;
     }
     QStringList list;
-    for (const QJsonValue& text : value.toArray()) {
+    for (const QJsonValue text : value.toArray()) {
         if (!text.isString()) {
             return std::nullopt;
         }

@@ -176,7 +176,7 @@ Result<void> eraseFiles(const QString& folder, const OwnFile::Permission& mayWri
         return done;
     }
     for (const QString& path : paths) {
-        if (Result<void> removed = removeFile(path); !removed && done) {
+        if (const Result<void> removed = removeFile(path); !removed && done) {
             done = removed;
         }
     }

@@ -104,7 +104,7 @@ void Encryption::found(const Keyring::Found& found) {
 void Encryption::unwrap(const LockedBytes& wrapper) {
     const auto file = services_.vault->keyFile();
     auto key = file ? file->unwrap(wrapper) : std::nullopt;
-    if (!key) {
+    if (!file || !key) {
         if (isByPassphrase()) {
             fail(tr("That is not the passphrase"));
         } else {

@@ -28,7 +28,7 @@ class Encryption : public QObject {
     Q_PROPERTY(QString problem READ problem NOTIFY changed)
 
 public:
-    // NOLINTNEXTLINE(readability-identifier-naming): QML demands capitals.
+    // NOLINTBEGIN(readability-identifier-naming): QML demands capitals.
     enum State {
         Off,
         Open,
@@ -40,6 +40,7 @@ public:
         Newer, ///< Written by a later version.
         Damaged
     };
+    // NOLINTEND(readability-identifier-naming)
     Q_ENUM(State)
 
     /// All outlive this.

@@ -52,9 +52,9 @@ void Captures::handOver() {
 
 /// Passes on what is ready, and starts converting the first that is not.
 void Captures::passOn() {
-    while (!waiting_.empty() && waiting_.begin()->second.file) {
+    while (!waiting_.empty()) {
         Capture& first = waiting_.begin()->second;
-        if (first.conversion) {
+        if (!first.file || first.conversion) {
             return;
         }
         if (!first.work.convert) {

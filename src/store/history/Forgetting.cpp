@@ -3,6 +3,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <limits>
 
 namespace ravelo {
 
@@ -13,7 +14,8 @@ std::optional<Seconds> Forgetting::left(const ClipItem& clip) const {
 }
 
 Seconds Forgetting::left(Seconds since) const {
-    return std::max(since + *after_ - scheduler_.uptime(), Seconds(0));
+    constexpr Seconds forever{std::numeric_limits<double>::infinity()};
+    return std::max(since + after_.value_or(forever) - scheduler_.uptime(), Seconds(0));
 }
 
 void Forgetting::follow(const QList<ClipItem>& clips) {
