@@ -113,6 +113,8 @@ public:
     void rebuild() {
         close();
         world.scheduler.advance(untilBuilt);
+        // The former content: outside an event loop nothing else deletes it.
+        QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
     }
 
     void openTab(const QString& key) {

@@ -50,12 +50,14 @@ TabPage {
     }
 
     function type(text: string) {
-        field.type(text);
+        showsLock ? locked.type(text) : field.type(text);
     }
 
     function search() {
-        field.edited.forceActiveFocus();
-        field.edited.selectAll();
+        if (!showsLock) {
+            field.edited.forceActiveFocus();
+            field.edited.selectAll();
+        }
     }
 
     /// Row of the clip with this digit.
@@ -143,6 +145,11 @@ TabPage {
             list.showTop();
         } else {
             list.positionViewAtIndex(list.currentIndex, ListView.Contain);
+            // Out of the fading end.
+            const hidden = list.currentItem.y + list.currentItem.height + ends.length - list.contentY - list.height;
+            if (hidden > 0) {
+                list.contentY = Math.min(list.contentY + hidden, list.originY + list.contentHeight - list.height);
+            }
         }
     }
 
@@ -165,8 +172,9 @@ TabPage {
     Connections {
         target: list.model
         enabled: !tab.shown
+        // Later: the list may not know of the rows yet, and would make them of what was there before.
         function onRowsInserted() {
-            tab.begin();
+            Qt.callLater(tab.begin);
         }
     }
 
@@ -291,9 +299,11 @@ TabPage {
     }
 
     LockedView {
+        id: locked
         objectName: "locked"
         visible: tab.showsLock
-        focus: visible
+        focus: tab.showsLock
+        shown: tab.shown
         y: tab.head + 40
         width: parent.width
         height: parent.height - y
@@ -311,6 +321,7 @@ TabPage {
     }
 
     FadingEnds {
+        id: ends
         visible: !tab.showsLock
         y: tab.head > 0 ? 40 : 40 + tab.chipsRoom
         width: parent.width

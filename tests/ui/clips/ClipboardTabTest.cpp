@@ -12,8 +12,11 @@ TEST_F(Panel, showsTheNewestClipCopiedWhileClosed) {
     }
     open();
     const QQuickItem* newest = item(u"card0"_s);
-    EXPECT_EQ(find(newest, u"title"_s)->property("text"), u"while it was closed 19"_s);
     EXPECT_EQ(newest->mapToScene({0, 0}), QPointF(34, 280));
+    for (int row = 0; row < 5; ++row) {
+        EXPECT_EQ(find(item(u"card%1"_s.arg(row)), u"title"_s)->property("text"),
+                  u"while it was closed %1"_s.arg(19 - row));
+    }
 }
 
 TEST_F(Panel, staysScrolledToTheNewestClip) {
