@@ -19,8 +19,9 @@ using namespace Qt::StringLiterals;
 namespace {
 
 Answer withoutImages(int missing) {
-    return missing == 0
-               ? Answer()
+    return missing == 0 ? Answer()
+           : missing == 1
+               ? Answer{1, {}, u"1 image could not be read and is left out"_s}
                : Answer{1, {}, u"%1 images could not be read and are left out"_s.arg(missing)};
 }
 

@@ -54,7 +54,8 @@ public:
 
     /// Puts a clip on the pasteboard in all its forms, once they are read; if they cannot be read
     /// soon, its text alone. Does nothing if something else was copied meanwhile.
-    void copyClip(const QUuid& clip);
+    void copyClip(
+        const QUuid& clip, const std::function<void()>& done = [] {});
 
     /// Puts a stored image on the pasteboard once it is read. Does nothing if the file is no PNG or
     /// something else was copied meanwhile.

@@ -28,9 +28,15 @@ void ClipboardManager::copyNewText(const QString& text) {
     copyText(text);
 }
 
-void ClipboardManager::copyClip(const QUuid& clip) {
+void ClipboardManager::copyClip(const QUuid& clip, const std::function<void()>& done) {
     if (const ClipItem* item = find(clip)) {
-        copying_ = reading_.clip(*item, ClipReading::Files::included, unlessOverwritten());
+        copying_ = reading_.clip(*item, ClipReading::Files::included,
+                                 [write = unlessOverwritten(), done](const Forms& forms) {
+                                     write(forms);
+                                     done();
+                                 });
+    } else {
+        done();
     }
 }
 

@@ -68,10 +68,6 @@
         <translation>Die primäre Auswahl, die mit der mittleren Maustaste eingefügt wird.</translation>
     </message>
     <message>
-        <source>This desktop does not show programs what is selected.</source>
-        <translation>Dieser Desktop zeigt Programmen nicht, was markiert ist.</translation>
-    </message>
-    <message>
         <source>Show program and size in the list</source>
         <translation>Programm und Größe in der Liste zeigen</translation>
     </message>
@@ -82,6 +78,10 @@
     <message>
         <source>Sizes only: this desktop does not show programs who copied.</source>
         <translation>Nur Größen: Dieser Desktop zeigt Programmen nicht, wer kopiert hat.</translation>
+    </message>
+    <message>
+        <source>Possible on X11 only.</source>
+        <translation>Nur unter X11 möglich.</translation>
     </message>
 </context>
 <context>
@@ -470,6 +470,10 @@
         <source>Your data is saved locally on this Mac. Syncing to an iPhone app is the next phase — it needs an Apple Developer account and a companion iOS app.</source>
         <translation>Deine Daten liegen nur auf diesem Computer. Der Abgleich mit einer iPhone-App ist der nächste Schritt — er braucht ein Apple-Entwicklerkonto und eine zugehörige iOS-App.</translation>
     </message>
+    <message>
+        <source>Locked</source>
+        <translation>Gesperrt</translation>
+    </message>
 </context>
 <context>
     <name>IgnoreSection</name>
@@ -639,6 +643,27 @@
     <message>
         <source>Ask Again</source>
         <translation>Wieder fragen</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Eingabe</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Umschalt</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Strg</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>key</comment>
+        <translation>Entf</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Ab</translation>
     </message>
 </context>
 <context>
@@ -1096,6 +1121,11 @@
         <source>F2</source>
         <translation>F2</translation>
     </message>
+    <message>
+        <source>Delete</source>
+        <comment>key</comment>
+        <translation>Entf</translation>
+    </message>
 </context>
 <context>
     <name>RunningTimer</name>
@@ -1549,6 +1579,18 @@
     <message>
         <source>There is no undo.</source>
         <translation>Das lässt sich nicht rückgängig machen.</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>Gesperrt</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>gesperrt</translation>
+    </message>
+    <message>
+        <source>Clear the last hour?</source>
+        <translation>Die letzte Stunde löschen?</translation>
     </message>
 </context>
 <context>

@@ -68,10 +68,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>This desktop does not show programs what is selected.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Show program and size in the list</source>
         <translation type="unfinished"></translation>
     </message>
@@ -81,6 +77,10 @@
     </message>
     <message>
         <source>Sizes only: this desktop does not show programs who copied.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Possible on X11 only.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -470,6 +470,10 @@
         <source>Your data is saved locally on this Mac. Syncing to an iPhone app is the next phase — it needs an Apple Developer account and a companion iOS app.</source>
         <translation>Your data is saved locally on this computer. Syncing to an iPhone app is the next phase — it needs an Apple Developer account and a companion iOS app.</translation>
     </message>
+    <message>
+        <source>Locked</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>IgnoreSection</name>
@@ -638,6 +642,27 @@
     </message>
     <message>
         <source>Ask Again</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>key</comment>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Down</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -1096,6 +1121,11 @@
         <source>F2</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>Delete</source>
+        <comment>key</comment>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>RunningTimer</name>
@@ -1548,6 +1578,18 @@
     </message>
     <message>
         <source>There is no undo.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Clear the last hour?</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -68,10 +68,6 @@
         <translation>A seleção primária, colada com o botão do meio do mouse.</translation>
     </message>
     <message>
-        <source>This desktop does not show programs what is selected.</source>
-        <translation>Este ambiente não mostra aos programas o que está selecionado.</translation>
-    </message>
-    <message>
         <source>Show program and size in the list</source>
         <translation>Mostrar programa e tamanho na lista</translation>
     </message>
@@ -82,6 +78,10 @@
     <message>
         <source>Sizes only: this desktop does not show programs who copied.</source>
         <translation>Só tamanhos: este ambiente não mostra aos programas quem copiou.</translation>
+    </message>
+    <message>
+        <source>Possible on X11 only.</source>
+        <translation>Possível somente no X11.</translation>
     </message>
 </context>
 <context>
@@ -470,6 +470,10 @@
         <source>Your data is saved locally on this Mac. Syncing to an iPhone app is the next phase — it needs an Apple Developer account and a companion iOS app.</source>
         <translation>Seus dados ficam salvos neste computador. Sincronizar com um app de iPhone é a próxima fase — requer uma conta de desenvolvedor Apple e um app iOS.</translation>
     </message>
+    <message>
+        <source>Locked</source>
+        <translation>Bloqueado</translation>
+    </message>
 </context>
 <context>
     <name>IgnoreSection</name>
@@ -639,6 +643,27 @@
     <message>
         <source>Ask Again</source>
         <translation>Perguntar de novo</translation>
+    </message>
+    <message>
+        <source>Return</source>
+        <translation>Enter</translation>
+    </message>
+    <message>
+        <source>Shift</source>
+        <translation>Shift</translation>
+    </message>
+    <message>
+        <source>Ctrl</source>
+        <translation>Ctrl</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <comment>key</comment>
+        <translation>Delete</translation>
+    </message>
+    <message>
+        <source>Down</source>
+        <translation>Seta abaixo</translation>
     </message>
 </context>
 <context>
@@ -1096,6 +1121,11 @@
         <source>F2</source>
         <translation>F2</translation>
     </message>
+    <message>
+        <source>Delete</source>
+        <comment>key</comment>
+        <translation>Delete</translation>
+    </message>
 </context>
 <context>
     <name>RunningTimer</name>
@@ -1549,6 +1579,18 @@
     <message>
         <source>There is no undo.</source>
         <translation>Não há como desfazer.</translation>
+    </message>
+    <message>
+        <source>Locked</source>
+        <translation>Bloqueado</translation>
+    </message>
+    <message>
+        <source>locked</source>
+        <translation>bloqueado</translation>
+    </message>
+    <message>
+        <source>Clear the last hour?</source>
+        <translation>Limpar a última hora?</translation>
     </message>
 </context>
 <context>

@@ -22,17 +22,19 @@ std::optional<PasteKeys::Target> Pasting::target() const {
     return isPossible() ? services_.keys->target() : std::nullopt;
 }
 
-void Pasting::run(const std::optional<PasteKeys::Target>& target,
-                  const std::function<void()>& copy) {
-    const qint64 before = services_.pasteboard.changeCount();
-    copy();
-    services_.controller.dismiss();
+void Pasting::run(const std::optional<PasteKeys::Target>& target, const Copy& copy) {
     waiting_.reset();
     run_.reset();
     if (target) {
-        run_ = Run{*target, before, services_.scheduler.uptime() + timeout};
-        wait();
+        run_ = Run{*target, services_.pasteboard.changeCount()};
     }
+    copy([this] {
+        services_.controller.dismiss();
+        if (run_) {
+            run_->end = services_.scheduler.uptime() + timeout;
+            wait();
+        }
+    });
 }
 
 void Pasting::wait() {

@@ -33,8 +33,12 @@ public:
     /// The window to paste into; nothing if that is not known or cannot be done.
     [[nodiscard]] std::optional<PasteKeys::Target> target() const;
 
-    /// `copy` writes the pasteboard, perhaps a little later. Without a target nothing is typed.
-    void run(const std::optional<PasteKeys::Target>& target, const std::function<void()>& copy);
+    /// Writes the pasteboard, and calls `done` then: where only a program with the keyboard may
+    /// write, it has to come before the panel closes.
+    using Copy = std::function<void(const std::function<void()>& done)>;
+
+    /// Without a target nothing is typed.
+    void run(const std::optional<PasteKeys::Target>& target, const Copy& copy);
 
 private:
     void wait();
@@ -42,7 +46,7 @@ private:
     struct Run {
         PasteKeys::Target target;
         qint64 countBefore; ///< The pasteboard's.
-        Seconds end;
+        Seconds end{};
     };
 
     Services services_;

@@ -2,7 +2,6 @@
 
 #include "panel/NotchController.h"
 #include "panel/PasteChords.h"
-#include "panel/Pasting.h"
 #include "settings/AppSettings.h"
 
 #include <QLocale>
@@ -41,13 +40,12 @@ bool ClipPasting::pastes(int modifiers) const {
     return isPossible() && shift != settings_.returnPastes();
 }
 
-void ClipPasting::run(const QString& text, Kind kind, const std::function<void()>& copy) {
+void ClipPasting::run(const QString& text, Kind kind, const Pasting::Copy& copy) {
     reset();
     const auto target = pasting_ != nullptr ? pasting_->target() : std::nullopt;
     const auto terminal = target ? terminalChord(target->names) : std::nullopt;
     if (!target || (kind == Kind::secret && terminal == PasteChord::shiftInsert)) {
-        copy();
-        controller_.dismiss();
+        copy([this] { controller_.dismiss(); });
         return;
     }
     const qsizetype breaks = terminal ? lineBreaks(text) : 0;

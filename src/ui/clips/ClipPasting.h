@@ -1,5 +1,7 @@
 #pragma once
 
+#include "panel/Pasting.h"
+
 #include <QObject>
 #include <QQmlEngine>
 
@@ -9,7 +11,6 @@ namespace ravelo {
 
 class AppSettings;
 class NotchController;
-class Pasting;
 
 /// Copies, closes the panel and, if the keys ask for it, pastes at once. Text of several lines goes
 /// into a terminal only after a question: there each line may be a command. Main thread.
@@ -37,7 +38,7 @@ public:
 
     /// `text` is what `copy` copies, if that is a text. A secret is only copied for terminals that
     /// paste the selected text: it would stay there.
-    void run(const QString& text, Kind kind, const std::function<void()>& copy);
+    void run(const QString& text, Kind kind, const Pasting::Copy& copy);
 
     /// The question was answered with yes.
     Q_INVOKABLE void runAsked();

@@ -65,30 +65,33 @@ void Clips::search(const QString& written) {
 }
 
 void Clips::copy(int row) {
+    copy(row, [] {});
+}
+
+void Clips::copy(int row, const std::function<void()>& done) {
     const ClipItem* clip = clipAt(row);
     if (clip == nullptr) {
         return;
     }
+    services_.toast.flashCopied();
     if (clip->kind == ClipKind::image && clip->imageFileName.isEmpty()) {
         services_.controller.copy(clip->text);
+        done();
     } else {
-        services_.clipboard.copyClip(clip->id);
+        services_.clipboard.copyClip(clip->id, done);
     }
-    services_.toast.flashCopied();
 }
 
 void Clips::copyAndClose(int row) {
-    if (clipAt(row) != nullptr) {
-        copy(row);
-        close();
-    }
+    copy(row, [this] { close(); });
 }
 
 void Clips::pasteAndClose(int row) {
     if (const ClipItem* clip = clipAt(row)) {
         const auto kind =
             clip->secret.isEmpty() ? ClipPasting::Kind::ordinary : ClipPasting::Kind::secret;
-        pasting_.run(clip->text, kind, [this, id = clip->id] { copy(list_.rowOf(id)); });
+        pasting_.run(clip->text, kind,
+                     [this, id = clip->id](const auto& done) { copy(list_.rowOf(id), done); });
     }
 }
 
@@ -214,7 +217,10 @@ void Clips::pasteSelectedAndClose() {
         });
         pasting_.run(joined(texts),
                      hasSecret ? ClipPasting::Kind::secret : ClipPasting::Kind::ordinary,
-                     [this] { copySelected(); });
+                     [this](const auto& done) {
+                         copySelected();
+                         done();
+                     });
     }
 }
 

@@ -137,6 +137,7 @@ private:
     enum class Secrets { included, leftOut };
     [[nodiscard]] QStringList selectedTexts(Secrets secrets = Secrets::included) const;
     [[nodiscard]] QString joined(const QStringList& texts) const;
+    void copy(int row, const std::function<void()>& done);
     void copyEdited(const QString& text);
     void showRestored(const QSet<QUuid>& ids);
     [[nodiscard]] const ClipItem* clipOf(const QUuid& id) const;

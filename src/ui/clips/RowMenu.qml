@@ -57,12 +57,12 @@ Menu {
     entries: clips.selected > 1 ? [
         { text: qsTr("Copy %1").arg(clips.selected), hint: clips.pasting.copyKeys, chosen: () => clips.copySelected() },
         { divider: true },
-        { text: qsTr("Delete %1").arg(clips.selected), hint: qsTr("Delete"), chosen: () => clips.removeSelected() }
+        { text: qsTr("Delete %1").arg(clips.selected), hint: qsTr("Delete", "key"), chosen: () => clips.removeSelected() }
     ] : row?.secret ? [
         { text: qsTr("Copy"), hint: clips.pasting.copyKeys, chosen: () => menu.copied(list.currentIndex) },
         { divider: true },
         { text: qsTr("Keep as any text"), chosen: () => clips.keepSecret(list.currentIndex) },
-        { text: qsTr("Forget now"), hint: qsTr("Delete"), chosen: () => clips.forgetSecret(list.currentIndex) }
+        { text: qsTr("Forget now"), hint: qsTr("Delete", "key"), chosen: () => clips.forgetSecret(list.currentIndex) }
     ] : [
         { text: qsTr("Copy"), hint: clips.pasting.copyKeys, chosen: () => menu.copied(list.currentIndex) }
     ].concat(paste).concat(isText && hasForms ? [
@@ -77,6 +77,6 @@ Menu {
     ] : []).concat([
         { divider: true },
         { text: row?.pinned ? qsTr("Unpin") : qsTr("Pin"), hint: qsTr("Ctrl+P"), chosen: () => clips.togglePin(list.currentIndex) },
-        { text: qsTr("Delete"), hint: qsTr("Delete"), chosen: () => clips.remove(list.currentIndex) }
+        { text: qsTr("Delete"), hint: qsTr("Delete", "key"), chosen: () => clips.remove(list.currentIndex) }
     ])
 }

@@ -90,7 +90,7 @@ Popover {
             Accessible.checked: modelData.checked ?? false
             Accessible.onPressAction: menu.choose(index)
             Component.onCompleted: list.maxItemWidth = Math.max(list.maxItemWidth, label.x + label.implicitWidth + 10
-                + (hint.text ? hint.implicitWidth + 24 : 0))
+                + (hint.text ? hint.implicitWidth + 26 : 0))
 
             Box {
                 visible: item.divides

@@ -14,6 +14,10 @@ FadingEnds {
         flick.contentY = 0;
     }
 
+    function scrollToEnd() {
+        flick.contentY = Math.max(0, contentHeight - height);
+    }
+
     onFocusedChanged: {
         const spare = 26;
         let inside = focused;

@@ -110,6 +110,7 @@ Item {
 
     MouseArea {
         property real grip ///< Offset of the press from the knob's left edge.
+        property bool taken: false ///< Pressed since the pointer came.
         property int turned ///< Wheel angle that does not yet make a notch, in eighths of a degree.
 
         function follow(x: real) {
@@ -119,15 +120,26 @@ Item {
 
         anchors.fill: parent
         preventStealing: true
+        hoverEnabled: true
+        onExited: taken = false
         onPressed: mouse => {
+            taken = true;
             const held = mouse.x >= knob.x && mouse.x <= knob.x + knob.width;
             grip = held ? mouse.x - knob.x : knob.width / 2;
             if (!held) {
                 follow(mouse.x);
             }
         }
-        onPositionChanged: mouse => follow(mouse.x)
+        onPositionChanged: mouse => {
+            if (pressed) {
+                follow(mouse.x);
+            }
+        }
         onWheel: wheel => {
+            wheel.accepted = taken || slider.activeFocus;
+            if (!wheel.accepted) {
+                return; // A page that is scrolled must not change it in passing.
+            }
             turned += wheel.angleDelta.y || -wheel.angleDelta.x;
             const notches = Math.trunc(turned / 120);
             turned -= notches * 120;

@@ -28,7 +28,7 @@ FieldFrame {
     property Item keyHandler
 
     readonly property bool isEmpty: line.text === "" && tokens.length === 0
-    readonly property bool used: !isEmpty || line.activeFocus || menu.opened
+    readonly property bool used: !isEmpty || line.activeFocus || filterButton.activeFocus || menu.opened
 
     signal searched(string text)
     signal cleared

@@ -31,7 +31,8 @@ TabPage {
     LockedView {
         objectName: "lockedNotes"
         visible: Vault.locked
-        focus: visible
+        focus: Vault.locked
+        shown: tab.shown
         y: tab.headInSight
         width: parent.width
         height: parent.height - y

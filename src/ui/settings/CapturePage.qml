@@ -77,7 +77,7 @@ Column {
             text: qsTr("Keep selected text, too")
             note: page.host.knowsSelection
                 ? qsTr("The primary selection, pasted with the middle mouse button.")
-                : qsTr("This desktop does not show programs what is selected.")
+                : qsTr("Possible on X11 only.")
             on: page.settings.keepSelectedText
             onToggled: on => page.settings.keepSelectedText = on
         }

@@ -2,6 +2,7 @@ import QtQuick
 import Ravelo.Controls
 import Ravelo.Settings
 import Ravelo.Theme
+import Ravelo.Vault
 import Ravelo.Windows
 
 /// Start, look and storage.
@@ -99,7 +100,8 @@ Column {
 
         SettingRow {
             objectName: "clips"
-            text: page.host.clipCount === 1 ? qsTr("1 item stored") : qsTr("%1 items stored").arg(page.host.clipCount)
+            enabled: !Vault.locked
+            text: Vault.locked ? qsTr("Locked") : page.host.clipCount === 1 ? qsTr("1 item stored") : qsTr("%1 items stored").arg(page.host.clipCount)
 
             CapsuleButton {
                 objectName: "clearHistory"

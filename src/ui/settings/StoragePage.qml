@@ -26,7 +26,7 @@ Column {
 
     function useKey(passphrase: bool) {
         newPassphrase = passphrase;
-        if (!passphrase) {
+        if (!passphrase && Vault.on) {
             Vault.useKeyring();
         }
     }
@@ -77,7 +77,7 @@ Column {
 
         SettingRow {
             text: qsTr("Texts")
-            amount: qsTr("%1 used").arg(page.host.textSize)
+            amount: Vault.locked ? "" : qsTr("%1 used").arg(page.host.textSize)
 
             ValueButton {
                 objectName: "textLimit"
@@ -95,7 +95,7 @@ Column {
 
         SettingRow {
             text: qsTr("Images")
-            amount: qsTr("%1 used").arg(page.host.imageSize)
+            amount: Vault.locked ? "" : qsTr("%1 used").arg(page.host.imageSize)
             note: qsTr("Pinned clips stay. When it is full, the oldest go first.")
 
             ValueButton {
@@ -127,8 +127,9 @@ Column {
 
         SettingRow {
             text: qsTr("Key")
-            enabled: Vault.on && !Vault.busy && !Vault.locked
-            opacity: Vault.on ? 1 : 0.4
+            note: Vault.problem
+            noteColor: Theme.mistake
+            enabled: !Vault.busy && !Vault.locked
 
             ValueButton {
                 objectName: "key"
@@ -159,10 +160,9 @@ Column {
         SwitchRow {
             preference: "forgetKeyWhileLocked"
             text: qsTr("Forget the key while the screen is locked")
-            note: Vault.problem !== "" ? Vault.problem
-                : qsTr("Clips, notes, snippets and images. Without the key nobody can read them, you included. Settings and reminders stay plain.")
+            note: qsTr("Clips, notes, snippets and images. Without the key nobody can read them, you included. Settings and reminders stay plain.")
             enabled: Vault.on
-            opacity: Vault.on || Vault.problem !== "" ? 1 : 0.4
+            opacity: Vault.on ? 1 : 0.4
             on: page.settings.forgetKeyWhileLocked
             onToggled: on => page.settings.forgetKeyWhileLocked = on
         }
@@ -173,7 +173,7 @@ Column {
         title: qsTr("Snippets")
 
         SettingRow {
-            text: page.host.snippetCount === 1 ? qsTr("1 snippet") : qsTr("%1 snippets").arg(page.host.snippetCount)
+            text: Vault.locked ? qsTr("Locked") : page.host.snippetCount === 1 ? qsTr("1 snippet") : qsTr("%1 snippets").arg(page.host.snippetCount)
             note: page.host.snippetNews !== "" ? page.host.snippetNews
                 : qsTr("As a file to pass on, with their images. It is not encrypted.")
             noteColor: page.host.snippetsFailed ? Theme.mistake : Theme.text3
@@ -203,12 +203,14 @@ Column {
 
         SettingRow {
             text: qsTr("The last hour")
-            amount: page.host.lastHourCount === 1 ? qsTr("1 item") : qsTr("%1 items").arg(page.host.lastHourCount)
+            enabled: !Vault.locked
+            amount: Vault.locked ? qsTr("locked") : page.host.lastHourCount === 1 ? qsTr("1 item") : qsTr("%1 items").arg(page.host.lastHourCount)
 
             CapsuleButton {
+                id: clearButton
                 objectName: "clearLastHour"
                 text: qsTr("Clear")
-                onClicked: page.host.clearLastHour()
+                onClicked: hourQuestion.openLeftUnder(clearButton, 0)
             }
         }
 
@@ -227,6 +229,16 @@ Column {
                 onClicked: question.openLeftUnder(eraseButton, 0)
             }
         }
+    }
+
+    Question {
+        id: hourQuestion
+        objectName: "clearHourQuestion"
+        text: qsTr("Clear the last hour?")
+        detail: qsTr("There is no undo.")
+        yesText: qsTr("Clear")
+        destroys: true
+        onAccepted: page.host.clearLastHour()
     }
 
     Question {

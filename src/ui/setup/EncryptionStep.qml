@@ -73,7 +73,7 @@ FocusScope {
         id: scrolled
         y: 40
         width: parent.width
-        height: next.y - y - 8
+        height: (form.visible ? step.height - 36 : next.y - 8) - y
         contentHeight: form.visible ? form.y + form.height + 8 : problem.visible ? problem.y + problem.height : 334
 
         Label {
@@ -120,6 +120,11 @@ FocusScope {
         NewPassphrase {
             id: form
             visible: step.current === 2 && !Vault.on
+            onVisibleChanged: {
+                if (visible) {
+                    scrolled.scrollToEnd();
+                }
+            }
             x: (scrolled.width - width) / 2
             y: 110 + 78 * 3 + 4
             onChosen: passphrase => {

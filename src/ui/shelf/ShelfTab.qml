@@ -32,7 +32,8 @@ TabPage {
     LockedView {
         objectName: "lockedShelf"
         visible: Vault.locked
-        focus: visible
+        focus: Vault.locked
+        shown: tab.shown
         y: tab.head
         width: parent.width
         height: parent.height - y

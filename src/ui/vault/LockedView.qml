@@ -1,12 +1,39 @@
 import QtQuick
 import Ravelo.Controls
 import Ravelo.Paint
+import Ravelo.Text
 import Ravelo.Theme
 import Ravelo.Vault
 
 /// Shown in place of the encrypted content while its key is not available.
 FocusScope {
     id: locked
+
+    /// Whether the tab is shown.
+    required property bool shown
+    readonly property bool asks: shown && visible && Vault.asksPassphrase
+    /// By a button, when the panel may not have the keyboard.
+    readonly property bool asked: asks && Vault.asked
+
+    onAsksChanged: {
+        if (asks) {
+            field.edited.forceActiveFocus();
+        }
+    }
+    onAskedChanged: {
+        if (asked) {
+            Typing.wantKeyboard(field);
+            field.edited.forceActiveFocus();
+        }
+    }
+
+    /// As if typed into the field.
+    function type(text: string) {
+        if (asks) {
+            field.edited.forceActiveFocus();
+            field.edited.type(text);
+        }
+    }
 
     readonly property bool showsMistake: Vault.asksPassphrase && Vault.problem !== ""
 

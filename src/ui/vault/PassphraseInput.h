@@ -26,6 +26,9 @@ public:
 
     [[nodiscard]] QByteArrayView view() const { return bytes_.view().first(used_); }
 
+    /// A key that something else got.
+    Q_INVOKABLE void type(const QString& text) { add(text); }
+
     Q_INVOKABLE void clear();
     Q_INVOKABLE [[nodiscard]] bool equals(const ravelo::PassphraseInput* other) const;
 

@@ -270,6 +270,8 @@ TEST_F(Settings, TheMouseSetsTheSame) {
 
     click(*window, on(u"darkness"_s, 0.8));
     EXPECT_NEAR(kept(u"bgOpacity"_s).toDouble(), 0.74, 1e-9);
+    turn(u"panelWidth"_s, 120);
+    EXPECT_TRUE(kept(u"panelWidth"_s).isUndefined()) << "only the page is scrolled";
     click(*window, on(u"panelWidth"_s, 0.25));
     EXPECT_EQ(kept(u"panelWidth"_s), 700) << "695 is no step";
     EXPECT_EQ(label(u"widthRow"_s), u"Width: 700"_s);
@@ -287,6 +289,7 @@ TEST_F(Settings, TheMouseSetsTheSame) {
     }
     send(*window, QEvent::MouseButtonRelease, held);
 
+    click(*window, on(u"panelWidth"_s, 0));
     turn(u"panelWidth"_s, 60); // Half a notch, as touchpads send them.
     EXPECT_EQ(kept(u"panelWidth"_s), 560);
     turn(u"panelWidth"_s, 60);
