@@ -183,6 +183,19 @@ class ProgramTest(ProgramCase):
                          f"{CONTROL} await control(Clutter.KEY_v);")
         until(lambda: "key first copy\n" in target.lines, "the older copy is pasted")
 
+    def test_copies_an_image_back_by_key(self):
+        self.client("picture", "--image", next(shell.ROOT.glob("docs/screenshots/dark/*.png")))
+        clips = self.session.home / ".local/share/Ravelo/clips"
+        until(lambda: list(clips.glob("*.png")), "an image is stored")
+        self.client("later", "--copy", "another")
+        until(lambda: "another" in self.store(), "a text is stored")
+        self.command("--toggle")
+        until(lambda: (self.panel() or {}).get("focus"), "the panel has the keyboard")
+        self.session.run("await sleep(300); await key(Clutter.KEY_Down); await key(Clutter.KEY_Return);")
+        until(lambda: not self.panel(), "the panel closes")
+        types = "return global.display.get_selection().get_mimetypes(Meta.SelectionType.SELECTION_CLIPBOARD)"
+        until(lambda: "image/png" in self.session.run(types), "the image is on the clipboard")
+
     def test_is_gone_while_the_screen_is_locked(self):
         self.open()
         self.session.run(LOCK)
