@@ -23,7 +23,8 @@ public:
             (void)writeFileAtomically(folder_.filePath(u"key"_s), file.encoded());
         }
         keyring_.isLocked = scene.startsWith(u"locked"_s);
-        keyring_.secrets[file.service()] = wrapper.hex().bytes() + QByteArray();
+        const Secret hex = wrapper.hex(); // Wipes what it shares.
+        keyring_.secrets[file.service()] = QByteArray(hex.bytes().constData(), hex.bytes().size());
         encryption_.emplace(Encryption::Services{world.jobs,
                                                  world.worker,
                                                  keyring_,

@@ -102,12 +102,12 @@ QQuickWindow& WindowScenes::playSetup() {
     onboarding_.show();
     settle();
     Hand hand(*onboarding_.window());
-    if (scene_ != u"setup") { // "setup-mac", "setup-encryption"
+    if (scene_ != u"setup") { // "setup-mac", "setup-encryption", "setup-passphrase"
         hand.click(u"start"_s);
-        if (scene_ == u"setup-encryption") {
+        if (scene_ != u"setup-mac") {
             hand.click(u"done"_s);
             settle();
-            hand.click(u"keyring"_s);
+            hand.click(scene_ == u"setup-encryption" ? u"keyring"_s : u"passphrase"_s);
         }
         hand.point(QPointF(5, 300));
         settle();
