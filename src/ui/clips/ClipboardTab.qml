@@ -161,6 +161,11 @@ TabPage {
         list.showTop();
     }
 
+    /// For new rows: the list may not know of them yet, and would make them of what was there before.
+    function beginLater() {
+        Qt.callLater(() => begin()); // qmllint disable
+    }
+
     onShownChanged: {
         preview.close();
         if (shown) {
@@ -172,9 +177,8 @@ TabPage {
     Connections {
         target: list.model
         enabled: !tab.shown
-        // Later: the list may not know of the rows yet, and would make them of what was there before.
         function onRowsInserted() {
-            Qt.callLater(tab.begin);
+            tab.beginLater();
         }
     }
 
