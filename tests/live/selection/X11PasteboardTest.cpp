@@ -2,6 +2,7 @@
 
 #include <QClipboard>
 
+#include <cstdlib>
 #include <semaphore>
 #include <utility>
 
@@ -47,7 +48,8 @@ TEST_F(X11PasteboardTest, namesTheOwnersProgram) {
     const auto name = [&](xcb_window_t window, const char* names, uint32_t size) {
         xcb_change_property(xcb, XCB_PROP_MODE_REPLACE, window, XCB_ATOM_WM_CLASS, XCB_ATOM_STRING,
                             8, size, names);
-        xcb_flush(xcb);
+        // Until the server has it: the pasteboard asks on a connection of its own.
+        std::free(xcb_get_input_focus_reply(xcb, xcb_get_input_focus(xcb), nullptr));
     };
     board().setNaming(Pasteboard::Naming::on);
     EXPECT_EQ(read(plainTextType).owner.names, QStringList());
