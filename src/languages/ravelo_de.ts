@@ -345,20 +345,36 @@
 <context>
     <name>ExtensionStep</name>
     <message>
-        <source>Ravelo on GNOME</source>
-        <translation>Ravelo unter GNOME</translation>
-    </message>
-    <message>
-        <source>On GNOME a small extension lets Ravelo see what you copy, open at the top edge and stay above other windows. It talks to Ravelo only, and rests while Ravelo is closed.</source>
-        <translation>Unter GNOME lässt eine kleine Erweiterung Ravelo sehen, was du kopierst, sich am oberen Rand öffnen und über anderen Fenstern bleiben. Sie spricht nur mit Ravelo und ruht, solange Ravelo geschlossen ist.</translation>
-    </message>
-    <message>
         <source>Turn on</source>
         <translation>Einschalten</translation>
     </message>
     <message>
         <source>Done</source>
         <translation>Fertig</translation>
+    </message>
+    <message>
+        <source>Log out and in once</source>
+        <translation>Einmal ab- und anmelden</translation>
+    </message>
+    <message>
+        <source>One more thing on GNOME</source>
+        <translation>Noch etwas unter GNOME</translation>
+    </message>
+    <message>
+        <source>GNOME hides the clipboard and the top edge from programs. A small extension passes both on to Ravelo and stores nothing.</source>
+        <translation>GNOME verbirgt die Zwischenablage und den oberen Rand vor Programmen. Eine kleine Erweiterung reicht beides an Ravelo weiter und speichert nichts.</translation>
+    </message>
+    <message>
+        <source>GNOME loads new extensions only when a session begins. Until then Ravelo opens by its icon and its shortcut.</source>
+        <translation>GNOME lädt neue Erweiterungen nur, wenn eine Sitzung beginnt. Bis dahin öffnet sich Ravelo über sein Symbol und sein Tastenkürzel.</translation>
+    </message>
+    <message>
+        <source>The extension is running.</source>
+        <translation>Die Erweiterung läuft.</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Jetzt nicht</translation>
     </message>
 </context>
 <context>

@@ -345,19 +345,35 @@
 <context>
     <name>ExtensionStep</name>
     <message>
-        <source>Ravelo on GNOME</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>On GNOME a small extension lets Ravelo see what you copy, open at the top edge and stay above other windows. It talks to Ravelo only, and rests while Ravelo is closed.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>Turn on</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Done</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Log out and in once</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>One more thing on GNOME</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GNOME hides the clipboard and the top edge from programs. A small extension passes both on to Ravelo and stores nothing.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GNOME loads new extensions only when a session begins. Until then Ravelo opens by its icon and its shortcut.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>The extension is running.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Not now</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

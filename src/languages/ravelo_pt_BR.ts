@@ -345,20 +345,36 @@
 <context>
     <name>ExtensionStep</name>
     <message>
-        <source>Ravelo on GNOME</source>
-        <translation>Ravelo no GNOME</translation>
-    </message>
-    <message>
-        <source>On GNOME a small extension lets Ravelo see what you copy, open at the top edge and stay above other windows. It talks to Ravelo only, and rests while Ravelo is closed.</source>
-        <translation>No GNOME, uma pequena extensão permite ao Ravelo ver o que você copia, abrir na borda superior e ficar acima das outras janelas. Ela só fala com o Ravelo e descansa enquanto ele está fechado.</translation>
-    </message>
-    <message>
         <source>Turn on</source>
         <translation>Ativar</translation>
     </message>
     <message>
         <source>Done</source>
         <translation>Concluir</translation>
+    </message>
+    <message>
+        <source>Log out and in once</source>
+        <translation>Saia e entre uma vez</translation>
+    </message>
+    <message>
+        <source>One more thing on GNOME</source>
+        <translation>Mais uma coisa no GNOME</translation>
+    </message>
+    <message>
+        <source>GNOME hides the clipboard and the top edge from programs. A small extension passes both on to Ravelo and stores nothing.</source>
+        <translation>O GNOME esconde dos programas a área de transferência e a borda superior. Uma pequena extensão repassa ambas ao Ravelo e não guarda nada.</translation>
+    </message>
+    <message>
+        <source>GNOME loads new extensions only when a session begins. Until then Ravelo opens by its icon and its shortcut.</source>
+        <translation>O GNOME só carrega extensões novas no início de uma sessão. Até lá, o Ravelo abre pelo ícone e pelo atalho.</translation>
+    </message>
+    <message>
+        <source>The extension is running.</source>
+        <translation>A extensão está em execução.</translation>
+    </message>
+    <message>
+        <source>Not now</source>
+        <translation>Agora não</translation>
     </message>
 </context>
 <context>

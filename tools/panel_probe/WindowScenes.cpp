@@ -56,7 +56,8 @@ WindowScenes::WindowScenes(const QString& scene, PanelWorld& world, QQuickView& 
     : scene_(scene),
       panel_(panel),
       settings_({{panel}, world.store, world.settings, [] {}, u"X11 (set by RAVELO_PLATFORM)"_s}),
-      onboarding_({panel}, world.settings, world.screens),
+      onboarding_({panel}, world.settings, world.screens,
+                  scene.startsWith(u"setup-gnome"_s) ? &extension_ : nullptr),
       updater_(std::make_unique<SceneUpdates>(scene), u"0.2"_s),
       updates_({panel}, updater_) {}
 
@@ -102,12 +103,20 @@ QQuickWindow& WindowScenes::playSetup() {
     onboarding_.show();
     settle();
     Hand hand(*onboarding_.window());
-    if (scene_ != u"setup") { // "setup-mac", "setup-encryption", "setup-passphrase"
+    if (scene_ != u"setup") {
         hand.click(u"start"_s);
         if (scene_ != u"setup-mac") {
             hand.click(u"done"_s);
             settle();
+        }
+        if (scene_.startsWith(u"setup-gnome"_s)) {
+            hand.click(u"continue"_s);
+            settle();
+        } else if (scene_ != u"setup-mac") {
             hand.click(scene_ == u"setup-encryption" ? u"keyring"_s : u"passphrase"_s);
+        }
+        if (scene_ == u"setup-gnome-done") {
+            hand.click(u"turnOn"_s);
         }
         hand.point(QPointF(5, 300));
         settle();

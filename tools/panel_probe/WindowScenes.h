@@ -1,6 +1,7 @@
 #pragma once
 
 #include "Stage.h"
+#include "fakes/FakeDesktopExtension.h"
 #include "ui/settings/SettingsWindow.h"
 #include "ui/setup/OnboardingController.h"
 #include "ui/updates/UpdateWindow.h"
@@ -26,6 +27,7 @@ private:
     const QString scene_;
     QQuickView& panel_;
     SettingsWindow settings_;
+    FakeDesktopExtension extension_;
     OnboardingController onboarding_;
     Updater updater_;
     UpdateWindow updates_;

@@ -12,21 +12,48 @@ FocusScope {
 
     readonly property ExtensionOffer offer: host.extension
 
-    Keys.onReturnPressed: host.finish()
-    Keys.onEnterPressed: host.finish()
+    function finish() {
+        offer.canTurnOn ? offer.turnOn() : host.finish();
+    }
+
+    Keys.onReturnPressed: finish()
+    Keys.onEnterPressed: finish()
 
     ScrolledPage {
         id: scrolled
         y: 40
         width: parent.width
-        height: done.y - y - 8
-        contentHeight: next.y + next.height
+        height: parent.height - 94 - y
+        contentHeight: line.y + line.height
+
+        /// The picture shrinks in a low window, so that the text stays visible.
+        readonly property real part: Math.max(0.5, Math.min(1, (height - 126) / 216))
+
+        DesktopPicture {
+            id: picture
+            objectName: "picture"
+            x: (scrolled.width - width) / 2
+            y: 24
+            width: 320
+            height: 186
+            scale: scrolled.part
+            transformOrigin: Item.Top
+            panel: step.offer.canTurnOn ? DesktopPicture.Outlined : DesktopPicture.Ready
+
+            Glyph {
+                x: 160 - width / 2
+                y: (step.offer.canTurnOn ? 60 : 104) - height / 2
+                size: step.offer.canTurnOn ? 26 : 20
+                symbol: step.offer.canTurnOn ? "puzzlepiece" : "checkmark"
+                color: step.offer.canTurnOn ? "white" : "#0f2a1b"
+            }
+        }
 
         Label {
             objectName: "heading"
             x: (scrolled.width - width) / 2
-            y: 32
-            text: qsTr("Ravelo on GNOME")
+            y: 24 + 216 * scrolled.part
+            text: step.offer.waitsForLogin ? qsTr("Log out and in once") : qsTr("One more thing on GNOME")
             style: Theme.question
             color: Theme.text1
         }
@@ -34,50 +61,44 @@ FocusScope {
         Paragraph {
             id: line
             objectName: "line"
-            x: 60
-            y: 76
-            width: scrolled.width - 120
+            x: (scrolled.width - width) / 2
+            y: 60 + 216 * scrolled.part
+            width: step.offer.canTurnOn ? 320 : 404
             horizontalAlignment: Text.AlignHCenter
-            text: qsTr("On GNOME a small extension lets Ravelo see what you copy, open at the top edge and stay above other windows. It talks to Ravelo only, and rests while Ravelo is closed.")
+            text: step.offer.canTurnOn
+                ? qsTr("GNOME hides the clipboard and the top edge from programs. A small extension passes both on to Ravelo and stores nothing.")
+                : step.offer.waitsForLogin
+                ? qsTr("GNOME loads new extensions only when a session begins. Until then Ravelo opens by its icon and its shortcut.")
+                : step.offer.isOffered ? step.offer.next : qsTr("The extension is running.")
             style: Theme.leadLoose
             color: Theme.setupText
         }
+    }
+
+    Row {
+        anchors.horizontalCenter: parent.horizontalCenter
+        y: Math.min(scrolled.y + line.y + line.height + 24, parent.height - 86)
+        spacing: 10
 
         CapsuleButton {
-            id: turnOn
+            objectName: "finish"
+            implicitHeight: 40
+            sidePad: 24
+            style: Theme.tab
+            primary: !step.offer.canTurnOn
+            text: step.offer.canTurnOn ? qsTr("Not now") : qsTr("Done")
+            onClicked: step.host.finish()
+        }
+
+        CapsuleButton {
             objectName: "turnOn"
             visible: step.offer.canTurnOn
-            x: (scrolled.width - width) / 2
-            y: line.y + line.height + 24
-            implicitHeight: 36
-            sidePad: 20
+            implicitHeight: 40
+            sidePad: 24
+            style: Theme.tab
+            primary: true
             text: qsTr("Turn on")
             onClicked: step.offer.turnOn()
         }
-
-        Paragraph {
-            id: next
-            objectName: "next"
-            x: 60
-            y: turnOn.y
-            width: scrolled.width - 120
-            horizontalAlignment: Text.AlignHCenter
-            text: step.offer.next
-            style: Theme.lead
-            color: Theme.text1
-        }
-    }
-
-    CapsuleButton {
-        id: done
-        objectName: "finish"
-        anchors.horizontalCenter: parent.horizontalCenter
-        y: Math.min(398, parent.height - 86)
-        implicitHeight: 40
-        sidePad: 24
-        style: Theme.tab
-        primary: true
-        text: qsTr("Done")
-        onClicked: step.host.finish()
     }
 }

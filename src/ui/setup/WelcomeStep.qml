@@ -26,7 +26,7 @@ FocusScope {
         /// The picture shrinks in a low window, so that the text stays visible.
         readonly property real part: Math.max(0.5, Math.min(1, (height - 122) / 222))
 
-        WelcomePicture {
+        DesktopPicture {
             objectName: "picture"
             x: 100
             y: 24

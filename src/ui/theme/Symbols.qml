@@ -43,6 +43,7 @@ QtObject {
         "note.text": "\uF39E",
         "photo": "\uF2E9",
         "pin": "\uF403",
+        "puzzlepiece": "\uF431",
         "pin.slash": "\uF404",
         "eraser": "\uF1FE",
         "note": "\uF39B",

@@ -18,6 +18,10 @@ bool ExtensionOffer::canTurnOn() const {
     return state() == State::off;
 }
 
+bool ExtensionOffer::waitsForLogin() const {
+    return state() == State::waitsForLogin;
+}
+
 QString ExtensionOffer::next() const {
     switch (state()) {
     case State::missing:
