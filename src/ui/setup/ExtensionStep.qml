@@ -50,7 +50,7 @@ FocusScope {
         }
 
         Label {
-            objectName: "heading"
+            objectName: "extensionHeading"
             x: (scrolled.width - width) / 2
             y: 24 + 216 * scrolled.part
             text: step.offer.waitsForLogin ? qsTr("Log out and in once") : qsTr("One more thing on GNOME")
@@ -60,7 +60,7 @@ FocusScope {
 
         Paragraph {
             id: line
-            objectName: "line"
+            objectName: "next"
             x: (scrolled.width - width) / 2
             y: 60 + 216 * scrolled.part
             width: step.offer.canTurnOn ? 320 : 404

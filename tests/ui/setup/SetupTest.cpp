@@ -153,13 +153,13 @@ TEST_F(Setup, OffersTheDesktopsExtensionLastAndTurnsItOnWhenAsked) {
     EXPECT_EQ(extension.requests, 0) << "without being asked";
     clickOn(offered, u"turnOn"_s);
     EXPECT_EQ(extension.requests, 1);
-    EXPECT_EQ(in(offered, u"heading"_s)->property("text").toString(), u"Log out and in once"_s);
+    EXPECT_EQ(in(offered, u"extensionHeading"_s)->property("text").toString(), u"Log out and in once"_s);
     EXPECT_FALSE(in(offered, u"turnOn"_s)->isVisible());
     for (const auto& [state, says] :
          {std::pair(DesktopExtension::State::older, u"The extension is older than Ravelo."_s),
           std::pair(DesktopExtension::State::newer, u"The extension is newer than Ravelo."_s)}) {
         extension.change(state);
-        EXPECT_TRUE(in(offered, u"line"_s)->property("text").toString().startsWith(says));
+        EXPECT_TRUE(in(offered, u"next"_s)->property("text").toString().startsWith(says));
     }
     clickOn(offered, u"finish"_s);
     EXPECT_EQ(kept(u"onboarded"_s), true);
