@@ -266,7 +266,7 @@ class ProgramTest(ProgramCase):
     def test_leaves_the_resting_shell_alone(self):
         def at_rest():
             """Of five seconds: how often the shell's main thread went to sleep, and its memory."""
-            self.session.run("move(600, 500); await sleep(3000); imports.system.gc();")
+            self.session.run("move(600, 500); await sleep(8000); imports.system.gc();")
             process = pathlib.Path(f"/proc/{self.session.shell.pid}")
             switches = lambda: sum(int(line.split()[1]) for line in (process / "status").read_text().splitlines()
                                    if line.startswith("voluntary_ctxt_switches"))
