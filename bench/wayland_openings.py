@@ -13,10 +13,11 @@ from wayland import BACKGROUND, WIDTH, SwayDesktop, WaylandRavelo
 HAND = ROOT / "build/dev/tools/virtual_hand/virtual_hand"
 AWAY = (200, 760)
 OPENINGS = 10  # Before memory is measured.
-ENTERED = re.compile(r"\[ *([\d.]+)\] wl_pointer@\d+\.enter\(\d+, wl_surface@(\d+),")
-SIZED = re.compile(r"\[ *[\d.]+\] .*create_buffer\(new id wl_buffer@(\d+), -?\d+, \d+, (\d+),")
-ATTACHED = re.compile(r"\[ *[\d.]+\] .*wl_surface@(\d+)\.attach\(wl_buffer@(\d+),")
-COMMITTED = re.compile(r"\[ *([\d.]+)\] .*wl_surface@(\d+)\.commit\(\)")
+# libwayland 1.23 writes wl_pointer#3 instead of wl_pointer@3, after the name of the queue.
+ENTERED = re.compile(r"\[ *([\d.]+)\] .*wl_pointer[@#]\d+\.enter\(\d+, wl_surface[@#](\d+),")
+SIZED = re.compile(r"\[ *[\d.]+\] .*create_buffer\(new id wl_buffer[@#](\d+), -?\d+, \d+, (\d+),")
+ATTACHED = re.compile(r"\[ *[\d.]+\] .*wl_surface[@#](\d+)\.attach\(wl_buffer[@#](\d+),")
+COMMITTED = re.compile(r"\[ *([\d.]+)\] .*wl_surface[@#](\d+)\.commit\(\)")
 
 
 def first_frames(log):
