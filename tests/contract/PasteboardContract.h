@@ -101,7 +101,7 @@ TEST_P(PasteboardContract, readsOnlyWhatThePlanRequests) {
 }
 
 TEST_P(PasteboardContract, passesAllFormsOnUnchanged) {
-    const QByteArray bytes("<b>\0\r\n\xff</b>", 13);
+    const QByteArray bytes("<b>\0\r\n\xff</b>", 11);
     const QList<PasteboardEntry> forms = {
         {QStringLiteral("text/uri-list"), "file:///tmp/a%20b\r\nfile:///tmp/c\r\n"},
         {QStringLiteral("x-special/gnome-copied-files"), "copy\nfile:///tmp/a%20b\nfile:///tmp/c"},
