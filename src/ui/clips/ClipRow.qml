@@ -20,6 +20,7 @@ Card {
     readonly property bool secret: mask.length > 0
     /// A secret is shown while a button or key is held.
     property bool held: false
+    readonly property bool hasKeyboard: Window.active
     required spoken
     required icon
     required title
@@ -51,6 +52,11 @@ Card {
     showsButtons: held
     onSecretChanged: hide()
     onShownChanged: hide()
+    onHasKeyboardChanged: {
+        if (!hasKeyboard) {
+            hide();
+        }
+    }
     highlighted: pinned
     digit: place < 9 && !tooLarge ? place + 1 : ""
     titleColor: tooLarge ? Theme.text2 : Theme.text1
@@ -62,15 +68,6 @@ Card {
         id: hiding
         interval: 10000
         onTriggered: row.hide()
-    }
-
-    Connections {
-        target: row.Window.window
-        function onActiveChanged() {
-            if (!row.Window.active) {
-                row.hide();
-            }
-        }
     }
 
     MiniButton {
