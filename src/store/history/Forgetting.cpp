@@ -28,7 +28,7 @@ void Forgetting::follow(const QList<ClipItem>& clips) {
             }
         }
     }
-    // If a deleted one is restored, its time goes on.
+    // A deleted clip that is restored keeps the time it had left.
     since_.removeIf([&](QHash<QUuid, Seconds>::iterator one) {
         return !secrets.contains(one.key()) && (!after_ || left(one.value()) <= Seconds(0));
     });
