@@ -33,7 +33,8 @@ Item {
 
             readonly property point centre: tooltip.target.mapToItem( // qmllint disable unqualified
                 null, tooltip.target.width / 2, tooltip.target.height + 6)
-            readonly property real room: parent.width - width - Theme.insetSide
+            // While the window goes, there is no parent.
+            readonly property real room: (parent?.width ?? 0) - width - Theme.insetSide
             x: Math.round(Math.max(Theme.insetSide, Math.min(centre.x - width / 2, room)))
             y: Math.round(centre.y)
 
