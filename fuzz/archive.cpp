@@ -1,6 +1,6 @@
 // Any archive: it is refused, or what is in it can be packed again.
 
-#include "store/Archive.h"
+#include "store/transfer/Archive.h"
 #include "Input.h"
 
 #include <QBuffer>

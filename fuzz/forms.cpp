@@ -1,7 +1,7 @@
 // Any file of a clip's other forms: it is refused, or reads the same once written again.
 
 #include "Input.h"
-#include "store/ClipForms.h"
+#include "store/history/ClipForms.h"
 
 using namespace ravelo;
 

@@ -1,7 +1,7 @@
 // Any store file: it is refused, or survives a round trip.
 
 #include "Input.h"
-#include "store/StoreFile.h"
+#include "store/disk/StoreFile.h"
 
 using namespace ravelo;
 
