@@ -9,6 +9,32 @@
 
 using namespace ravelo;
 
+namespace {
+
+/// Asks for what `next` names until it has enough, and gives the same bytes each time.
+template <typename Next>
+void answerAll(PasteboardSnapshot& snapshot, const QByteArray& given, Next next) {
+    for (QString type = next(snapshot); !type.isEmpty(); type = next(snapshot)) {
+        // Until they are read, these marks count as secret: nothing else may be requested.
+        const bool isMark = type.contains(u"x-kde-passwordManagerHint") ||
+                            type.contains(u"CanIncludeInClipboardHistory");
+        fuzz::require(!snapshot.answers.contains(type) && (isMark || !isConcealed(snapshot)));
+        snapshot.answers.insert(type, given);
+    }
+}
+
+void requireKeepable(const PasteboardSnapshot& snapshot) {
+    qsizetype size = 0;
+    for (const PasteboardEntry& form : capturedForms(snapshot)) {
+        fuzz::require(isKeptForm(form.type) &&
+                      (form.type != gnomeFilesType || !form.bytes.startsWith("cut\n")));
+        size += form.bytes.size();
+    }
+    fuzz::require(size <= maxFormsSize && (size == 0 || !isConcealed(snapshot)));
+}
+
+} // namespace
+
 int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     const QByteArray input = fuzz::view(bytes, size).toByteArray();
     const qsizetype end = std::max<qsizetype>(input.indexOf("\n\n"), 0);
@@ -26,13 +52,11 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     for (const QByteArray& target : targets) {
         snapshot.types.append(QString::fromUtf8(target));
     }
-    for (QString next = nextCaptureType(snapshot); !next.isEmpty();
-         next = nextCaptureType(snapshot)) {
-        // Until it is read, the hint counts as secret: nothing else may be requested.
-        fuzz::require(!snapshot.answers.contains(next) &&
-                      (next == u"x-kde-passwordManagerHint" || !isConcealed(snapshot)));
-        snapshot.answers.insert(next, given);
-    }
-    (void)capturedText(snapshot);
+    answerAll(snapshot, given, [](const auto& known) { return nextCaptureType(known); });
+    answerAll(snapshot, given, nextFormType);
+    requireKeepable(snapshot);
+    const bool hasText = !capturedText(snapshot).isEmpty();
+    fuzz::require(!hasText || copiedFilesText(snapshot).isEmpty());
+    fuzz::require(!hasText || !tooLargeToKeep(snapshot));
     return 0;
 }

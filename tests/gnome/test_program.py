@@ -363,17 +363,18 @@ class PasswordTest(ProgramCase):
         """)
         configuration = self.session.home / "keepassxc.ini"
         configuration.write_text("[General]\nUpdateCheckMessageShown=true\n[GUI]\nCheckForUpdates=false\n")
-        manager = subprocess.Popen(["keepassxc", "--config", configuration, "--pw-stdin", database], text=True,
-                                   stdin=subprocess.PIPE, stdout=subprocess.DEVNULL, stderr=subprocess.DEVNULL,
-                                   env={**self.session.environment, **self.x11_names(), "QT_QPA_PLATFORM": "xcb"},
-                                   preexec_fn=shell.end_with_us)
+        # The password is typed: with --pw-stdin, KeePassXC 2.7.10 crashes while it shows its window.
+        manager = subprocess.Popen(["keepassxc", "--config", configuration, database], stdout=subprocess.DEVNULL,
+                                   stderr=subprocess.DEVNULL, preexec_fn=shell.end_with_us,
+                                   env={**self.session.environment, **self.x11_names(), "QT_QPA_PLATFORM": "xcb"})
         self.session.processes.append(manager)
-        manager.stdin.write("master\n")
-        manager.stdin.close()
-        def shown():
-            return next((one for one in self.session.run("return windows()") if "secrets" in (one["title"] or "")
-                         and "KeePassXC" in one["title"] and "Locked" not in one["title"]), None)
-        x, y, width, height = until(shown, "the password manager is unlocked", 60)["frame"]
+
+        def shown(locked):
+            return next((one for one in self.session.run("return windows()") if "KeePassXC" in (one["title"] or "")
+                         and "secrets" in one["title"] and ("Locked" in one["title"]) == locked and one["focus"]), None)
+        until(lambda: shown(True), "the password manager asks for its password", 40)
+        self.session.run("await sleep(1000); await type('master'); await key(Clutter.KEY_Return);")
+        x, y, width, height = until(lambda: shown(False), "the password manager is unlocked", 40)["frame"]
         self.session.run(f"await sleep(1500); await click({x + width * 6 // 10}, {y + 130}); await sleep(300);")
         self.keep("keepassxc")
         self.session.run(f"{CONTROL} await control(Clutter.KEY_c);")
