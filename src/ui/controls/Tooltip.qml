@@ -31,9 +31,10 @@ Item {
             lineColor: Theme.lineFloating
             lineWidth: 1
 
-            readonly property point centre: tooltip.target.mapToItem( // qmllint disable unqualified
-                null, tooltip.target.width / 2, tooltip.target.height + 6)
-            // While the window goes, there is no parent.
+            // While the panel's content is deleted, there is neither a target nor a parent.
+            readonly property Item target: tooltip.target // qmllint disable unqualified
+            readonly property point centre: target?.mapToItem(null, target.width / 2, target.height + 6)
+                                            ?? Qt.point(0, 0)
             readonly property real room: (parent?.width ?? 0) - width - Theme.insetSide
             x: Math.round(Math.max(Theme.insetSide, Math.min(centre.x - width / 2, room)))
             y: Math.round(centre.y)
