@@ -77,6 +77,8 @@ void changeEach(AppSettings& settings) {
     settings.lastTab.set(settings.lastTab() + u'x');
     settings.pinnedBar.set(!settings.pinnedBar());
     settings.macType.set(u"notch"_s);
+    settings.ignoredPatterns.set(settings.ignoredPatterns() + QStringList{u"^x"_s});
+    settings.refreshLaunchAtLogin();
     settings.onboarded.set(!settings.onboarded());
     settings.setupLoginItemDefaultIfNeeded();
 }
@@ -101,6 +103,7 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     PreferenceFile written(path, {scheduler, worker});
     const AppSettings again(written, login);
     fuzz::require(again.lastTab() == settings.lastTab() && again.panelWidth() == 700 &&
-                  again.onboarded() == settings.onboarded());
+                  again.onboarded() == settings.onboarded() &&
+                  again.ignoredPatterns() == settings.ignoredPatterns());
     return 0;
 }

@@ -37,6 +37,13 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
                     requireOneLine(gnome::offer(QString::fromUtf8(type), type));
                 }
             }
+            if (const auto* edge = std::get_if<gnome::Edge>(&delivery->report)) {
+                requireOneLine(gnome::place(edge->screen.value_or(0)));
+            }
+            if (const auto* keyboard = std::get_if<gnome::KeyboardReport>(&delivery->report)) {
+                requireOneLine(gnome::askAboutKeyboard(keyboard->serial));
+                requireOneLine(gnome::hello(keyboard->layout, QSize(4, 4)));
+            }
             if (const auto* screens = std::get_if<gnome::ScreensReport>(&delivery->report)) {
                 for (const Screen& screen : screens->screens) {
                     fuzz::require(screen.visibleFrame.isEmpty() ||
