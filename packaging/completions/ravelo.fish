@@ -34,7 +34,7 @@ complete -c ravelo -n __ravelo_after -l take-over -d 'Start though another machi
 complete -c ravelo -n __ravelo_after -l quit -d 'End the running Ravelo'
 complete -c ravelo -n __ravelo_after -s h -l help -d 'Show a short help'
 complete -c ravelo -n __ravelo_after -s v -l version -d 'Show the version'
-complete -c ravelo -n __ravelo_after -l verbose -d 'With --version: which display server, and why'
+complete -c ravelo -n '__ravelo_after --version' -l verbose -d 'Also which display server, and why'
 complete -c ravelo -n '__ravelo_after timer' -a 'start stop status'
 complete -c ravelo -n '__ravelo_after timer status' -l json -d 'As one object'
 complete -c ravelo -n '__ravelo_after shelf' -a list -d 'Their paths'
