@@ -5,8 +5,9 @@ _ravelo() {
     local before=${COMP_WORDS[*]:1:COMP_CWORD-1}
     COMPREPLY=()
     case $before in
-    '') words='timer shelf pause resume ignore-next export import erase --toggle --settings --setup --updates --status --status=json --status=waybar --status=tmux --store-usage --take-over --quit --help --version --verbose' ;;
+    '') words='timer shelf pause resume ignore-next export import erase --toggle --settings --setup --updates --status --status=json --status=waybar --status=tmux --store-usage --take-over --quit --help --version' ;;
     --store-usage) words='--print' ;;
+    --version) words='--verbose' ;;
     timer) words='start stop status' ;;
     'timer status') words='--json' ;;
     shelf) words='list' ;;

@@ -16,6 +16,12 @@ KeyWhileLocked::KeyWhileLocked(Services services, Reports reports)
     for (SessionLock* lock : services_.locks) {
         changes_.push_back(lock->onChange([this] { follow(); }));
     }
+    // The key may come, or a conversion end, only after the screen was locked.
+    QObject::connect(&services_.encryption, &Encryption::changed, &context_, [this] {
+        if (!services_.encryption.isBusy()) {
+            forgetIfLocked();
+        }
+    });
 }
 
 bool KeyWhileLocked::isScreenLocked() const {
@@ -34,8 +40,14 @@ void KeyWhileLocked::follow() {
         reports_.screenUnlocked();
         services_.store.lock({}); // It may still wait for a save.
         services_.encryption.getKey();
-    } else if (services_.settings.forgetKeyWhileLocked() &&
-               services_.encryption.state() == Encryption::Open) {
+    } else {
+        forgetIfLocked();
+    }
+}
+
+void KeyWhileLocked::forgetIfLocked() {
+    if (isScreenLocked() && services_.settings.forgetKeyWhileLocked() &&
+        services_.encryption.state() == Encryption::Open) {
         services_.store.lock([this] { forget(); });
     }
 }

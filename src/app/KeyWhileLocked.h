@@ -2,6 +2,8 @@
 
 #include "base/Handle.h"
 
+#include <QObject>
+
 #include <functional>
 #include <vector>
 
@@ -38,11 +40,13 @@ public:
 
 private:
     void follow();
+    void forgetIfLocked();
     void forget();
 
     Services services_;
     Reports reports_;
     std::vector<Handle> changes_;
+    QObject context_; ///< For the signals of `encryption`.
     bool wasLocked_ = false;
 };
 

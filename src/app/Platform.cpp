@@ -139,7 +139,7 @@ Result<void> connectGnome(Platform& platform) {
 void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
     platform.worker = std::make_unique<WorkerThread>();
     platform.vault = std::make_shared<Vault>(Platform::dataFolder());
-    platform.dataLock = std::make_unique<DataLock>(
+    platform.dataLock = std::make_shared<DataLock>(
         Platform::lockFile(), Platform::dataFolder() + u"/store.json"_s, platform.vault->keyPath());
     platform.preferences = std::make_unique<PreferenceFile>(
         Platform::preferenceFile(),
@@ -271,7 +271,7 @@ QString Platform::preferenceFile() {
 }
 
 std::function<Result<void>()> Platform::mayWrite() const {
-    return [lock = dataLock.get()] {
+    return [lock = dataLock] {
         return lock->check();
     };
 }

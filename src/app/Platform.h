@@ -82,7 +82,7 @@ struct Platform {
     std::unique_ptr<RemoteKeyboard> keyboard; ///< Null except on GNOME.
     std::unique_ptr<DisplayServer> display;
     std::function<std::unique_ptr<HotZone>(PanelWindow&)> makeHotZone;
-    std::unique_ptr<DataLock> dataLock;
+    std::shared_ptr<DataLock> dataLock; ///< Detached jobs may ask it after the rest is gone.
     std::unique_ptr<Scheduler> scheduler;
     std::unique_ptr<Worker> worker;
     std::unique_ptr<PreferenceFile> preferences;

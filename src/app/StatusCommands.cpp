@@ -1,6 +1,7 @@
 #include "app/StatusCommands.h"
 
 #include "base/Files.h"
+#include "base/SignalsBlocked.h"
 #include "monitor/BarText.h"
 #include "monitor/ClaudeEnvironment.h"
 #include "monitor/UsageFile.h"
@@ -76,6 +77,8 @@ Answer storeUsageFromInput(Printing printing) {
     if (!handed && !plan) {
         return {1, {}, u"the input has neither a session nor rate limits"_s};
     }
+    // Claude Code ends a status line once the next is due. A write that is killed leaves a file.
+    const SignalsBlocked blocked;
     const auto session = handed ? storeHandedOver(home(), *handed) : Result<void>();
     const auto usage = plan ? storeUsage(home(), given) : Result<void>();
     Answer answer;

@@ -141,10 +141,7 @@ bool StatusItemController::eventFilter(QObject* target, QEvent* event) {
         return false; // Unknown to Qt; it would match every row without a key.
     }
     const auto row = std::ranges::find(menu_, pressed, &StatusItem::Row::keys);
-    if (row == menu_.end()) {
-        return false;
-    }
-    if (!row->action) {
+    if (row == menu_.end() || !row->action) {
         return false;
     }
     row->action();

@@ -57,4 +57,9 @@ QByteArray renewalFolder(const QByteArray& home) {
     return home + "/.cache/ravelo-renewal";
 }
 
+bool isOfRenewal(QByteArrayView transcriptFolder) {
+    return transcriptFolder.endsWith("-ravelo-renewal") ||
+           transcriptFolder.endsWith("-ravelo-renewal-second");
+}
+
 } // namespace ravelo

@@ -2,6 +2,7 @@
 
 #include <QByteArray>
 #include <QByteArrayList>
+#include <QByteArrayView>
 #include <QProcessEnvironment>
 
 // Claude Code's folders according to the environment, and the environment that we run Claude Code
@@ -21,5 +22,9 @@ namespace ravelo {
 /// The folder that the renewal runs in. Always below the home folder: Claude Code also obeys files
 /// in the parent folders, and XDG_RUNTIME_DIR may be in /tmp, where anybody can create files.
 [[nodiscard]] QByteArray renewalFolder(const QByteArray& home);
+
+/// Whether the transcripts in a folder of this name are those of renewals: Claude Code names it by
+/// where it ran.
+[[nodiscard]] bool isOfRenewal(QByteArrayView transcriptFolder);
 
 } // namespace ravelo

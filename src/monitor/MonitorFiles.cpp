@@ -20,14 +20,17 @@ QByteArray monitorCache(const QByteArray& home, const QByteArray& name) {
 }
 
 Result<void> eraseMonitorCache(const QByteArray& home) {
+    const QDir folder(QFileInfo(QFile::decodeName(monitorCache(home, {}))).path());
     Result<void> done;
-    for (const char* name : {"session.json", "pace.json"}) {
-        QFile file(QFile::decodeName(monitorCache(home, name)));
-        if (file.exists() && !file.remove()) {
+    // Killed writes leave files that begin like these.
+    for (const QFileInfo& one :
+         folder.entryInfoList({u"session.json*"_s, u"pace.json*"_s}, QDir::Files)) {
+        QFile file(one.filePath());
+        if (!file.remove()) {
             done = failure(u"cannot remove %1: %2"_s.arg(file.fileName(), file.errorString()));
         }
     }
-    QDir().rmdir(QFileInfo(QFile::decodeName(monitorCache(home, {}))).path());
+    QDir().rmdir(folder.path());
     return done;
 }
 

@@ -1,5 +1,7 @@
 #include "monitor/TranscriptFinder.h"
 
+#include "monitor/ClaudeEnvironment.h"
+
 #include <dirent.h>
 #include <fcntl.h>
 #include <sys/stat.h>
@@ -172,7 +174,9 @@ void TranscriptFinder::listRoot() {
     std::set<QByteArray> present;
     while (const dirent* entry = listing.isOpen() ? listing.next() : nullptr) {
         unwatched_ += rootKnown_ ? 0 : 1;
-        if (entry->d_type == DT_DIR || entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN) {
+        const bool mayBeFolder =
+            entry->d_type == DT_DIR || entry->d_type == DT_LNK || entry->d_type == DT_UNKNOWN;
+        if (mayBeFolder && !isOfRenewal(entry->d_name)) { // That is no session of the user's.
             const QByteArray path = root_ + '/' + entry->d_name;
             folders_[path].isLink = entry->d_type != DT_DIR;
             present.insert(path);

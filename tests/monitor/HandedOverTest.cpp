@@ -51,6 +51,8 @@ TEST(HandedOver, isErasedWithTheRestOfTheCache) {
         ASSERT_TRUE(storeHandedOver(home, {}));
         ASSERT_TRUE(storeCourse(home, {}));
         ASSERT_TRUE(QFile::exists(folder.filePath(cache + u"/ravelo/pace.json"_s)));
+        QFile partial(folder.filePath(cache + u"/ravelo/session.json.Ab12Cd"_s));
+        ASSERT_TRUE(partial.open(QFile::WriteOnly)) << "as left by a kill";
         EXPECT_TRUE(eraseMonitorCache(home));
         EXPECT_TRUE(QFileInfo(folder.filePath(cache)).isDir());
         EXPECT_FALSE(QFile::exists(folder.filePath(cache + u"/ravelo"_s)));

@@ -209,6 +209,8 @@ TEST_F(ContextTest, usesTheNewestTranscriptWithATurn) {
     EXPECT_EQ(usedAfterATick(), 11) << "neither of the two newest has one";
     write(u"b/opened.jsonl"_s, 44, 1004);
     EXPECT_EQ(usedAfterATick(), 44);
+    write(u"-home-u--cache-ravelo-renewal/x.jsonl"_s, 55, 1005);
+    EXPECT_EQ(usedAfterATick(), 44) << "our own run of Claude Code";
 }
 
 TEST_F(ContextTest, knowsWhetherClaudeCodeIsInstalled) {

@@ -152,6 +152,16 @@ TEST_F(PreferenceFileTest, RetriesAtExit) {
     EXPECT_EQ(contents().simplified(), R"({ "a": 1 })");
 }
 
+TEST_F(PreferenceFileTest, IsErasedWithWhatIsBesideIt) {
+    const QString elsewhere = folder_.filePath(u"elsewhere.json"_s);
+    makeFile(elsewhere, "{}");
+    makeFile(path_ + u".unreadable"_s, "junk");
+    ASSERT_TRUE(QFile::link(elsewhere, path_));
+    EXPECT_TRUE(erasePreferences(path_));
+    EXPECT_FALSE(QFile::exists(elsewhere)) << "where a link led";
+    EXPECT_TRUE(QDir(folder_.filePath(u"ravelo"_s)).isEmpty());
+}
+
 TEST_F(PreferenceFileTest, WritesAgainIfNotEverythingWasErased) {
     PreferenceFile preferences(path_, services_);
     preferences.set(u"a"_s, 1);

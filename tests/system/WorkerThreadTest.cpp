@@ -44,6 +44,15 @@ TEST(WorkerThread, DrainsWhenDestroyed) {
     EXPECT_EQ(ends, 1);
 }
 
+TEST(WorkerThread, MayBeUsedByWhatAnEndHeld) {
+    WorkerThread worker;
+    int ends = 0;
+    std::shared_ptr<void> held(nullptr, [&](void*) { worker.run([] {}, [&] { ++ends; }); });
+    worker.run([] {}, [held = std::move(held)] {});
+    worker.drain();
+    EXPECT_EQ(ends, 1);
+}
+
 WorkerThread* atExit = nullptr;
 
 void drainAtExit() {

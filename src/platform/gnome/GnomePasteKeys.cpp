@@ -38,7 +38,7 @@ GnomePasteKeys::GnomePasteKeys(Channel& channel, const GnomePasteboard& pasteboa
           }
       })) {
     again_.setInterval(interval);
-    again_.callOnTimeout([this] { press_&& now() < press_->end ? ask() : end(); });
+    again_.callOnTimeout([this] { press_.has_value() && now() < press_->end ? ask() : end(); });
 }
 
 void GnomePasteKeys::ask() {

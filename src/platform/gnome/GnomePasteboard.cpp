@@ -99,6 +99,8 @@ GnomePasteboard::GnomePasteboard(Channel& channel, Transfers& transfers)
     connect(&unconfirmed_, &QTimer::timeout, this, [this] {
         if (own_) {
             offerText();
+        } else {
+            written_.clear();
         }
         written();
     });
@@ -130,6 +132,9 @@ void GnomePasteboard::copied(const Copied& report) {
         return;
     }
     own_ = false;
+    if (!unconfirmed_.isActive()) { // Else it may still be reported.
+        written_.clear();
+    }
     types_ = report.types;
     owner_ = report.kept ? PasteboardOwner{shellOwner, PasteboardOwner::Kind::manager}
                          : PasteboardOwner{};

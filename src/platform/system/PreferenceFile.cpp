@@ -69,7 +69,11 @@ void PreferenceFile::erase(std::function<void(const Result<void>&)> done) {
 Result<void> erasePreferences(const QString& path) {
     const QFileInfo file(path);
     Result<void> done;
-    for (const QFileInfo& one : file.dir().entryInfoList({file.fileName() + u'*'}, QDir::Files)) {
+    for (const QFileInfo& one :
+         file.dir().entryInfoList({file.fileName() + u'*'}, QDir::Files | QDir::System)) {
+        if (one.isSymLink()) { // What it says is elsewhere.
+            QFile::remove(one.symLinkTarget());
+        }
         if (!QFile::remove(one.filePath())) {
             done = failure(QStringLiteral("%1 could not be removed").arg(one.filePath()));
         }

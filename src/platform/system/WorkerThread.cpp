@@ -54,10 +54,10 @@ void WorkerThread::work() {
 void WorkerThread::runDone() {
     std::unique_lock lock(mutex_);
     while (!done_.empty()) {
-        const auto done = std::move(done_.front());
+        auto done = std::move(done_.front());
         done_.pop_front();
         lock.unlock();
-        done();
+        std::exchange(done, nullptr)(); // Destroys what it held, without the lock.
         lock.lock();
     }
 }

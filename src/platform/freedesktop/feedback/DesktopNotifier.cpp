@@ -24,10 +24,6 @@ QDBusMessage callTo(const QString& method) {
     return QDBusMessage::createMethodCall(service, path, service, method);
 }
 
-QDBusMessage callToBus(const QString& method) {
-    return QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s, bus, method);
-}
-
 } // namespace
 
 DesktopNotifier::DesktopNotifier(QDBusConnection connection) : bus_(std::move(connection)) {}
@@ -125,20 +121,19 @@ void DesktopNotifier::notificationClosed(uint id, uint /*reason*/, const QDBusMe
 
 Handle DesktopNotifier::look(std::function<void(bool)> done) {
     const auto step = std::make_shared<Handle>(); // The current call.
-    auto running = callToBus(u"NameHasOwner"_s);
-    running << service;
-    *step = callBus(bus_, running, timeOut,
-                    [bus = bus_, step, done = std::move(done)](const QDBusMessage& reply) {
-                        if (reply.arguments().value(0).toBool()) {
-                            done(true);
-                            return;
-                        }
-                        *step = callBus(
-                            bus, callToBus(u"ListActivatableNames"_s), timeOut,
-                            [done](const QDBusMessage& names) {
-                                done(names.arguments().value(0).toStringList().contains(service));
-                            });
-                    });
+    *step = findOwner(
+        bus_, service, timeOut,
+        [connection = bus_, step, done = std::move(done)](const QString& owner) {
+            if (!owner.isEmpty()) {
+                done(true);
+                return;
+            }
+            const auto question = QDBusMessage::createMethodCall(bus, u"/org/freedesktop/DBus"_s,
+                                                                 bus, u"ListActivatableNames"_s);
+            *step = callBus(connection, question, timeOut, [done](const QDBusMessage& names) {
+                done(names.arguments().value(0).toStringList().contains(service));
+            });
+        });
     return Handle([step] { step->reset(); });
 }
 

@@ -108,14 +108,8 @@ void TrayStatusItem::show(Icon icon, QList<Row> menu) {
                          watcherCameOrWent(!owner.isEmpty());
                      });
     areaChange_ = area_.onChange([this] { areaChanged(); });
-    auto call =
-        QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
-                                       u"org.freedesktop.DBus"_s, u"NameHasOwner"_s);
-    call << watcherName;
-    question_ = callBus(bus_, call, questionTimeOut, [this](const QDBusMessage& reply) {
-        watcherCameOrWent(reply.type() == QDBusMessage::ReplyMessage &&
-                          reply.arguments().value(0).toBool());
-    });
+    question_ = findOwner(bus_, watcherName, questionTimeOut,
+                          [this](const QString& owner) { watcherCameOrWent(!owner.isEmpty()); });
     areaChanged();
 }
 

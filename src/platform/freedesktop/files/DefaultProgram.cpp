@@ -79,7 +79,7 @@ QStringList candidates(const QList<KeyFile>& files, const QString& mimeType) {
 
 /// A dash in an ID may stand for a slash.
 Group desktopEntry(QString id, const QStringList& dataFolders) {
-    for (qsizetype dash = 0; dash >= 0; dash = id.indexOf(u'-')) {
+    for (qsizetype dash = 0; dash >= 0; dash = id.indexOf(u'-', 1)) {
         if (dash > 0) {
             id[dash] = u'/';
         }

@@ -42,19 +42,15 @@ QList<NearbyDevice> devicesIn(const QDBusMessage& reply) {
 } // namespace
 
 Handle KdeConnect::list(std::function<void(QList<NearbyDevice>)> done) {
-    auto call =
-        QDBusMessage::createMethodCall(u"org.freedesktop.DBus"_s, u"/org/freedesktop/DBus"_s,
-                                       u"org.freedesktop.DBus"_s, u"NameHasOwner"_s);
-    call << service;
     const auto step = std::make_shared<Handle>(); // The current call.
-    *step = callBus(bus_, call, lookTimeOut,
-                    [this, step, done = std::move(done)](const QDBusMessage& reply) {
-                        if (reply.arguments().value(0).toBool()) {
-                            *step = listRunning(done);
-                        } else {
-                            done({});
-                        }
-                    });
+    *step = findOwner(bus_, service, lookTimeOut,
+                      [this, step, done = std::move(done)](const QString& owner) {
+                          if (owner.isEmpty()) {
+                              done({});
+                          } else {
+                              *step = listRunning(done);
+                          }
+                      });
     return Handle([step] { step->reset(); });
 }
 

@@ -104,7 +104,9 @@ std::unique_ptr<SocketInstance> SocketInstance::claim() {
         return nullptr;
     }
     QLocalServer::removeServer(socketPath()); // Left by a killed instance.
-    instance->server_.listen(socketPath());
+    if (!instance->server_.listen(socketPath())) {
+        qWarning("Ravelo gets no commands: %s", qUtf8Printable(instance->server_.errorString()));
+    }
     return instance;
 }
 

@@ -48,7 +48,7 @@ public:
     Failure onFailure; ///< Set it first.
 
     void ask(const QDBusMessage& question, Answer take) {
-        ask(question, std::move(take), onFailure);
+        ask(question, std::move(take), [this](const QString& problem) { fail(problem); });
     }
 
     void ask(const QDBusMessage& question, Answer take, Failure failed) {
@@ -116,11 +116,18 @@ private Q_SLOTS:
 
     void promptAnswered(bool dismissed) {
         if (const auto next = std::exchange(prompted_, nullptr)) {
-            dismissed ? onFailure(u"its question was not answered"_s) : next();
+            dismissed ? fail(u"its question was not answered"_s) : next();
         }
     }
 
 private:
+    void fail(const QString& problem) {
+        prompted_ = nullptr; // A late answer does not count.
+        if (const auto report = std::exchange(onFailure, nullptr)) {
+            report(problem); // It may cancel, so it is no longer a member.
+        }
+    }
+
     QDBusConnection bus_;
     std::chrono::milliseconds timeout_;
     QDBusServiceWatcher service_{name, bus_, QDBusServiceWatcher::WatchForUnregistration};
