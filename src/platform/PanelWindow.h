@@ -33,8 +33,8 @@ public:
     virtual void orderOut() = 0;
 
     /// A picture of the whole window in device pixels, shown at once whenever the window takes that
-    /// size, until its contents are drawn; replaces the previous one. False if the display server
-    /// cannot do that.
+    /// size, until its contents are drawn; replaces the previous one. Null for none. False if the
+    /// display server cannot do that.
     virtual bool setFirstPicture(const QImage& /*picture*/) { return false; }
 
     /// The shape of the contents, in the window's own logical pixels. Clicks outside it go to

@@ -80,15 +80,16 @@ void ClipDrag::start(const QString& text, QQuickItem& from) {
     }
 }
 
-/// Of an image if there is no text.
+/// Of an image if there is no text. Else the text alone is dragged if its forms take too long.
 void ClipDrag::read(const QString& text, const QString& path, const Picture& picture) {
+    const Forms plain = text.isEmpty() ? Forms() : Forms{{QString(plainTextType), text.toUtf8()}};
     reading_ = runTimed<Forms>(
         jobs_, scheduler_, timeout,
         [vault = store_.vault(), text, path] {
             return text.isEmpty() ? imageForms(*vault, path) : textForms(*vault, path, text);
         },
-        [this, text, picture](const std::optional<Forms>& read) {
-            dragForms(read.value_or(Forms{{QString(plainTextType), text.toUtf8()}}), picture);
+        [this, plain, picture](const std::optional<Forms>& read) {
+            dragForms(read.value_or(plain), picture);
         });
 }
 

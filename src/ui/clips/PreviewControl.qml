@@ -59,6 +59,15 @@ QtObject {
     onPointedChanged: resting.running = pointed >= 0 && pointed !== row
     onLeftChanged: leaving.running = opened && byPointer && left
 
+    property Connections showing: Connections {
+        target: control.clips.preview
+        function onChanged() {
+            if (control.clips.preview.kind === ClipPreview.None) {
+                control.close(); // The clip is gone.
+            }
+        }
+    }
+
     property Timer resting: Timer {
         interval: 400
         onTriggered: {

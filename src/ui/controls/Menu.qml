@@ -21,8 +21,9 @@ Popover {
     property bool plain: false
 
     function choose(index: int) {
+        const entry = entries[index]; // Closing may change the entries.
         close();
-        entries[index]?.chosen();
+        entry?.chosen();
     }
 
     /// Moves to the next entry that can be chosen; without a selection, to the first or last.

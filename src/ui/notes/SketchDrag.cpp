@@ -1,6 +1,7 @@
 #include "ui/notes/SketchDrag.h"
 
 #include "base/FileUrl.h"
+#include "base/Files.h"
 #include "ui/notes/Drawing.h"
 
 #include <QFile>
@@ -42,11 +43,10 @@ protected:
 private:
     /// Its address (RFC 2483); empty if it cannot be written.
     [[nodiscard]] QByteArray file() const {
-        QFile file(folder_->filePath(u"Sketch.png"_s));
+        const QString path = folder_->filePath(u"Sketch.png"_s);
         const bool written =
-            folder_->isValid() &&
-            (file.exists() || (file.open(QIODevice::WriteOnly) && file.write(png_) == png_.size()));
-        return written ? fileAddress(QUrl::fromLocalFile(file.fileName())) + "\r\n" : QByteArray();
+            folder_->isValid() && (QFile::exists(path) || writeFileAtomically(path, png_));
+        return written ? fileAddress(QUrl::fromLocalFile(path)) + "\r\n" : QByteArray();
     }
 
     QByteArray png_;

@@ -41,8 +41,12 @@ void PanelPicture::refreshSoon() {
 
 void PanelPicture::make() {
     auto* const content = services_.window.contentItem()->findChild<QQuickItem*>(u"content"_s);
-    if (services_.controller.isOpen() || !services_.state.hasContent() || content == nullptr ||
-        !services_.window.isVisible()) { // Qt cannot draw then.
+    if (services_.controller.isOpen() || !services_.state.hasContent() || content == nullptr) {
+        return;
+    }
+    if (!services_.window.isVisible()) { // Qt cannot draw then, and the old one is outdated.
+        making_.reset();
+        keep({});
         return;
     }
     services_.rows.refreshDates();
@@ -56,13 +60,17 @@ void PanelPicture::make() {
     making_ = content->grabToImage(pixels);
     if (making_) {
         connect(making_.get(), &QQuickItemGrabResult::ready, this, [this] {
-            isUseless_ = !services_.panel.setFirstPicture(making_->image());
-            services_.state.setPictured(!isUseless_);
+            keep(making_->image());
             making_.reset();
-            if (isUseless_) {
-                waiting_.reset();
-            }
         });
+    }
+}
+
+void PanelPicture::keep(const QImage& picture) {
+    isUseless_ = !services_.panel.setFirstPicture(picture);
+    services_.state.setPictured(!isUseless_ && !picture.isNull());
+    if (isUseless_) {
+        waiting_.reset();
     }
 }
 

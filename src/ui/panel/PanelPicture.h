@@ -18,7 +18,8 @@ class Scheduler;
 class Usage;
 
 /// Keeps a picture of the closed panel's content with the panel's window, so that opening shows
-/// something before anything is rendered; not if the display server cannot show it. Main thread.
+/// something before anything is rendered; not if the display server cannot show it. None outlives
+/// what it shows, even while the screen is locked. Main thread.
 class PanelPicture : public QObject {
     Q_OBJECT
 
@@ -42,6 +43,7 @@ public:
 
 private:
     void make();
+    void keep(const QImage& picture);
 
     Services services_;
     bool isUseless_ = false; ///< The window cannot show it.

@@ -50,11 +50,17 @@ ClipPreview::Kind kindOf(const ClipItem& clip) {
     case ClipKind::image:
         return ClipPreview::Image;
     case ClipKind::url:
-        return QUrl(clip.text).host().isEmpty() ? ClipPreview::Text : ClipPreview::Link;
+        return QUrl(clip.text.trimmed()).host().isEmpty() ? ClipPreview::Text : ClipPreview::Link;
     case ClipKind::text:
         break;
     }
     return colorOf(clip.text).isValid() ? ClipPreview::Color : ClipPreview::Text;
+}
+
+/// Null if there is no such clip, or if it is a secret.
+const ClipItem* find(const QList<ClipItem>& clips, const QUuid& id) {
+    const auto found = std::ranges::find(clips, id, &ClipItem::id);
+    return found == clips.end() || !found->secret.isEmpty() ? nullptr : &*found;
 }
 
 QString percent(double part) {
@@ -64,20 +70,24 @@ QString percent(double part) {
 } // namespace
 
 ClipPreview::ClipPreview(Store& store, std::shared_ptr<ImageDecoder> decoder, const QLocale& locale)
-    : store_(store), decoder_(std::move(decoder)), locale_(locale) {}
+    : store_(store), decoder_(std::move(decoder)), locale_(locale) {
+    connect(&store, &Store::clipsChanged, this, [this] {
+        if (kind_ != None && find(store_.clips(), clip_.id) == nullptr) {
+            show({});
+        }
+    });
+}
 
 void ClipPreview::show(const QUuid& id) {
-    const auto& clips = store_.clips();
-    const auto found = std::ranges::find(clips, id, &ClipItem::id);
-    const bool none = found == clips.end() || !found->secret.isEmpty();
-    clip_ = none ? ClipItem() : *found;
-    kind_ = none ? None : kindOf(clip_);
+    const ClipItem* const found = find(store_.clips(), id);
+    clip_ = found ? *found : ClipItem();
+    kind_ = found ? kindOf(clip_) : None;
     shown_ = kind_ == Image ? 0 : portionEnd(clip_.text, 0);
     names_.clear();
     values_.clear();
     pictures_.clear();
     pixels_ = {};
-    details_ = none ? ClipDetails() : store_.detailsOf(id);
+    details_ = found ? store_.detailsOf(id) : ClipDetails();
     bytes_ = -1;
     if (kind_ == Link) {
         describeLink();

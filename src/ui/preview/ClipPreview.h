@@ -54,7 +54,7 @@ public:
     /// `store` outlives this.
     ClipPreview(Store& store, std::shared_ptr<ImageDecoder> decoder, const QLocale& locale);
 
-    /// Nothing for a null id, or if there is no such clip.
+    /// Nothing for a null id, or if there is no such clip, or not any more.
     void show(const QUuid& id);
 
     /// False if all of the text is there.

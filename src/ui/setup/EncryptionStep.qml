@@ -40,10 +40,11 @@ FocusScope {
 
     function finish() {
         const chosen = kinds[current].value;
+        const settled = Vault.on && (!Vault.byPassphrase || chosen === "passphrase");
         if (Vault.busy) {
             return;
         }
-        if (chosen === "plain" || Vault.on && !Vault.byPassphrase) {
+        if (chosen === "plain" || settled || Vault.locked) {
             done();
         } else if (chosen === "keyring") {
             waiting = true;

@@ -50,6 +50,7 @@ std::optional<Snippet> SnippetEditor::end(const QString& keptImage) {
     aside_ = false;
     attached_.removeAll(keptImage);
     store_.removeImages(std::exchange(attached_, {}));
+    begun_ = {};
     return std::exchange(editing_, std::nullopt);
 }
 
@@ -57,11 +58,12 @@ void SnippetEditor::save() {
     if (!canSave()) {
         return;
     }
+    const QString former = begun_.imageFileName;
     const Snippet edited = *end(editing_->imageFileName);
     const auto& snippets = store_.snippets();
     if (std::ranges::find(snippets, edited.id, &Snippet::id) != snippets.end()) {
         store_.updateSnippet(edited);
-        store_.removeUnusedImage(begun_.imageFileName);
+        store_.removeUnusedImage(former);
     } else {
         store_.addSnippet(edited);
         Q_EMIT added();

@@ -52,9 +52,7 @@ void FittedTexts::refit() {
     const auto restWidth = [&](qsizetype hidden) {
         return countsRest_ ? metrics.horizontalAdvance(numberOf(hidden)) : 0;
     };
-    if (Fit now = fit(widths, room_, gap_, restWidth); now != fit_) {
-        fit_ = std::move(now);
-    }
+    fit_ = fit(widths, room_, gap_, restWidth);
     Q_EMIT fitted();
 }
 

@@ -36,15 +36,12 @@ class FittedTexts : public QObject {
     Q_PROPERTY(bool countsRest MEMBER countsRest_ NOTIFY given)
 
     Q_PROPERTY(QList<double> widths READ widths NOTIFY fitted)
-    Q_PROPERTY(int hidden READ hidden NOTIFY fitted)
     Q_PROPERTY(QString rest READ rest NOTIFY fitted)
 
 public:
     explicit FittedTexts(QObject* parent = nullptr);
 
     [[nodiscard]] QList<double> widths() const { return fit_.widths; }
-
-    [[nodiscard]] int hidden() const { return static_cast<int>(fit_.hidden); }
 
     /// "+2"; empty if none is hidden or they are not counted.
     [[nodiscard]] QString rest() const;

@@ -86,6 +86,8 @@ TEST_F(PanelTest, ShowsItsFirstPictureBeforeAnythingIsDrawn) {
     ASSERT_TRUE(panel.setFirstPicture(picture));
     EXPECT_EQ(shown(size), color);
     EXPECT_EQ(shown({401, 300}), 0U) << "a picture of another size";
+    ASSERT_TRUE(panel.setFirstPicture({}));
+    EXPECT_EQ(shown(size), 0U) << "it was taken back";
 }
 
 /// A body of 360x200 with a top edge of 400, as the panel has it.

@@ -88,6 +88,8 @@ TEST_F(Panel, copiesAsPlainText) {
     pressKeys(u"Menu"_s);
     EXPECT_EQ(property(u"rowMenu"_s, u"item2"_s, "modelData").toMap()[u"text"_s],
               u"Copy as plain text"_s);
+    clickIn(u"rowMenu"_s, u"item2"_s);
+    EXPECT_FALSE(world.controller.isOpen()) << "another entry was chosen";
 }
 
 } // namespace

@@ -112,6 +112,8 @@ TEST_F(Panel, spaceShowsThePreviewOfTheCurrentRow) {
     EXPECT_EQ(text(u"searchInput"_s), u"s "_s) << "a search may have spaces";
     press(Qt::Key_Space, Qt::ShiftModifier, u" "_s);
     item(u"preview"_s);
+    world.store.clearClips();
+    EXPECT_TRUE(eventually([this] { return shown(u"preview"_s) == nullptr; })) << "of no clip";
 }
 
 TEST_F(Panel, severalClipsAreChosenByShiftOrAllAndDeletedAtOnce) {

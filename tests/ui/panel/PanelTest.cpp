@@ -30,8 +30,9 @@ class PicturedWindow final : public PanelWindow {
 public:
     explicit PicturedWindow(bool canShow) : canShow_(canShow) {}
 
-    bool setFirstPicture(const QImage& /*picture*/) override {
-        ++pictures;
+    bool setFirstPicture(const QImage& picture) override {
+        hasPicture = canShow_ && !picture.isNull();
+        pictures += picture.isNull() ? 0 : 1;
         return canShow_;
     }
 
@@ -62,6 +63,7 @@ public:
     void returnFocus() override {}
 
     int pictures = 0;
+    bool hasPicture = false;
 
 private:
     bool canShow_;
@@ -78,9 +80,12 @@ TEST_P(PanelPictures, areMadeWhileTheWindowIsVisibleAndCanShowThem) {
         return eventually([&] { return window.pictures == expected; });
     };
     EXPECT_TRUE(pictures(1));
+    EXPECT_EQ(window.hasPicture, GetParam());
     view.window().hide(); // Qt would complain about a picture now, and fail this test.
     picture.refreshSoon();
     world.scheduler.advance(Seconds(0.31));
+    EXPECT_FALSE(window.hasPicture) << "it is outdated, or the screen is locked";
+    EXPECT_FALSE(view.features().state.isPictured());
     view.window().show();
     EXPECT_TRUE(pictures(GetParam() ? 2 : 1));
     EXPECT_EQ(view.features().state.isPictured(), GetParam());

@@ -44,6 +44,7 @@ TEST(ClipPreview, showsWhatAClipIs) {
          {u"Path"_s, u"/b c"_s, u"view"_s, u"print"_s, u"x"_s, u"\u2013"_s, u"Part"_s, u"end"_s},
          u"45 characters"_s},
         {url(u"https://a.example/"_s), ClipPreview::Link, {}, u"18 characters"_s},
+        {url(u" https://a.example/"_s), ClipPreview::Link, {}, u"19 characters"_s},
         {url(u"mailto:a@b.example"_s), ClipPreview::Text, {}, u"18 characters"_s},
     };
     for (const Case& c : cases) {
@@ -60,8 +61,9 @@ TEST(ClipPreview, showsWhatAClipIs) {
         }
         EXPECT_EQ(parts, c.parts);
         EXPECT_EQ(preview.measure(), c.measure);
-        preview.show({});
-        EXPECT_EQ(preview.kind(), ClipPreview::None);
+        world.store.deleteClip(c.item.id);
+        EXPECT_EQ(preview.kind(), ClipPreview::None) << "gone";
+        EXPECT_EQ(preview.text(), QString());
     }
 }
 

@@ -3,6 +3,7 @@
 #include "fakes/FakeKeyring.h"
 #include "panel_fixture/PanelFixture.h"
 #include "ui/settings/SettingsWindow.h"
+#include "ui/setup/OnboardingController.h"
 #include "ui/windows/TitledWindow.h"
 #include "vault/Encryption.h"
 
@@ -133,6 +134,27 @@ TEST_F(LockedPanel, IsEncryptedByAPassphraseTypedIntoTheSettings) {
     world.scheduler.advance(Seconds(0.1));
     EXPECT_TRUE(encryption->isOn()) << qPrintable(encryption->problem());
     EXPECT_TRUE(encryption->isByPassphrase());
+}
+
+TEST_F(LockedPanel, LetsTheSetupContinueWithThePassphraseThatItHas) {
+    ASSERT_TRUE(writeKeyFile(KeyFile::Guard::passphrase));
+    load();
+    for (const Encryption::State state : {Encryption::WaitingForPassphrase, Encryption::Open}) {
+        if (state == Encryption::Open) {
+            encryption->tryPassphrase(LockedBytes::copyOf("p\u00e4ss"));
+            world.scheduler.advance(Seconds(0.1));
+        }
+        ASSERT_EQ(encryption->state(), state);
+        OnboardingController setup({view->window()}, world.settings, world.screens);
+        setup.show();
+        const QPointer<TitledWindow> window = setup.window();
+        ASSERT_TRUE(eventually([&] { return window->isActive(); }));
+        for (const QString& step : {u"start"_s, u"done"_s, u"continue"_s}) {
+            clickMiddle(*window, find(window->contentItem(), step));
+        }
+        EXPECT_EQ(setup.window(), nullptr) << "stuck in the last step, in state " << state;
+        EXPECT_TRUE(eventually([&] { return window.isNull(); }));
+    }
 }
 
 TEST_F(LockedPanel, SaysWhatIsWrong) {

@@ -110,7 +110,11 @@ bool X11PanelWindow::setFirstPicture(const QImage& picture) {
     if (!window_.format().hasAlpha()) {
         return false; // The window has another depth.
     }
-    firstPicture_.emplace(qt_, id_, picture);
+    firstPicture_.reset();
+    if (!picture.isNull()) {
+        firstPicture_.emplace(qt_, id_, picture);
+    }
+    xcb_flush(qt_); // The server frees the old one now.
     return true;
 }
 
