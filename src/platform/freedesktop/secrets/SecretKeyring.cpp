@@ -115,8 +115,9 @@ public:
 private Q_SLOTS:
 
     void promptAnswered(bool dismissed) {
+        const Failure failed = onFailure; // It may cancel, which drops the member.
         if (const auto next = std::exchange(prompted_, nullptr)) {
-            dismissed ? onFailure(u"its question was not answered"_s) : next();
+            dismissed ? failed(u"its question was not answered"_s) : next();
         }
     }
 
