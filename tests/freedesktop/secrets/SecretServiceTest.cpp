@@ -3,6 +3,7 @@
 #include "platform/freedesktop/secrets/SecretService.h"
 #include "freedesktop/PrivateBus.h"
 #include "freedesktop/StandIn.h"
+#include "platform/freedesktop/secrets/SecretKeyring.h"
 
 #include <QDBusArgument>
 #include <QDBusObjectPath>
@@ -115,6 +116,35 @@ TEST(SecretServiceWithoutABus, findsNothing) {
         answered = true;
     });
     EXPECT_TRUE(eventually([&] { return answered; }));
+}
+
+TEST(SecretKeyring, MayBeDroppedByTheAnswerThatItsPromptWasDismissed) {
+    PrivateBus bus;
+    QDBusConnection service = bus.connect(u"service"_s);
+    const QDBusObjectPath prompt(u"/org/freedesktop/secrets/prompt/1"_s);
+    StandIn standIn([&](const QDBusMessage& call) {
+        QVariantList answer;
+        if (call.member() == "ReadAlias"_L1) {
+            answer = {QVariant::fromValue(first)};
+        } else if (call.member() == "Unlock"_L1) {
+            answer = {QVariant::fromValue(Paths()), QVariant::fromValue(prompt)};
+        } else if (call.member() == "Prompt"_L1) {
+            auto completed = QDBusMessage::createSignal(
+                prompt.path(), u"org.freedesktop.Secret.Prompt"_s, u"Completed"_s);
+            completed << true << QVariant::fromValue(QDBusVariant(QString()));
+            EXPECT_TRUE(service.send(completed));
+        }
+        return answer;
+    });
+    standIn.serve(service, u"org.freedesktop.secrets"_s);
+    SecretKeyring keyring(bus.connect(u"ours"_s));
+    int answers = 0;
+    Handle asking = keyring.unlock([&asking, &answers] {
+        asking.reset();
+        ++answers;
+    });
+    EXPECT_TRUE(eventually([&] { return answers > 0; }));
+    EXPECT_EQ(answers, 1);
 }
 
 } // namespace
