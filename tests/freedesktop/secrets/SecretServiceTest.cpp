@@ -139,7 +139,7 @@ TEST(SecretKeyring, MayBeDroppedByTheAnswerThatItsPromptWasDismissed) {
     standIn.serve(service, u"org.freedesktop.secrets"_s);
     SecretKeyring keyring(bus.connect(u"ours"_s));
     int answers = 0;
-    Handle asking = keyring.unlock([&asking, &answers] {
+    Handle asking = keyring.unlock([&answers, &asking] {
         asking.reset();
         ++answers;
     });
