@@ -86,6 +86,19 @@ QString behindLinks(QString path) {
     return path;
 }
 
+/// Its name is one that `isTemporaryName` recognizes; -1 with errno on failure.
+int openTemporary(const QByteArray& target, QByteArray& path) {
+    while (true) {
+        path = target + temporarySuffix;
+        const int file = mkostemp(path.data(), O_CLOEXEC); // Made 0600.
+        if (file < 0 || isTemporaryName(QString::fromLatin1(path))) {
+            return file;
+        }
+        close(file);
+        unlink(path.constData());
+    }
+}
+
 Result<void> writeAll(int file, const QByteArray& bytes) {
     for (qsizetype written = 0; written < bytes.size();) {
         const ssize_t count =
@@ -168,8 +181,8 @@ std::optional<QByteArray> readFileEnd(const QByteArray& path, qint64 max) {
 
 Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes) {
     const QByteArray target = QFile::encodeName(behindLinks(path));
-    QByteArray temporary = target + temporarySuffix;
-    const int file = mkostemp(temporary.data(), O_CLOEXEC); // Made 0600.
+    QByteArray temporary;
+    const int file = openTemporary(target, temporary);
     if (file < 0) {
         return lastFailure();
     }
@@ -200,8 +213,13 @@ bool isTemporaryName(const QString& name) {
     const auto isLetter = [](QChar c) {
         return c.unicode() < 0x80 && c.isLetterOrNumber();
     };
+    const auto isLower = [](QChar c) {
+        return c.isLower();
+    };
+    // A word, such as in "store.json.backup", is the user's own.
     return name.size() >= length && name[name.size() - length] == u'.' &&
-           std::all_of(name.cend() - (length - 1), name.cend(), isLetter);
+           std::all_of(name.cend() - (length - 1), name.cend(), isLetter) &&
+           !std::all_of(name.cend() - (length - 1), name.cend(), isLower);
 }
 
 void makePrivateFolder(const QString& path) {

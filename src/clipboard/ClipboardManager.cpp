@@ -11,8 +11,6 @@
 
 namespace ravelo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr Seconds pollInterval{0.5};

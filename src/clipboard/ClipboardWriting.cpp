@@ -50,10 +50,13 @@ void ClipboardManager::copyWithImage(const QString& text, const QString& path) {
     });
 }
 
-/// Writes, unless something newer was copied meanwhile.
+/// Writes, unless something newer was copied meanwhile. Earlier reads do not count: their owner may
+/// never answer.
 std::function<void(const ClipboardManager::Forms&)> ClipboardManager::unlessOverwritten() {
-    return [this, before = held_](const Forms& forms) {
-        if (held_ == before && reads_.empty()) {
+    return [this, before = held_, seen = lastChangeCount_](const Forms& forms) {
+        const bool isRead = held_ != before && held_->changeCount > seen;
+        const bool isBeingRead = !reads_.empty() && reads_.rbegin()->first > seen;
+        if (!isRead && !isBeingRead) {
             write(forms);
         }
     };

@@ -1,12 +1,11 @@
 #include "clipboard/FileForms.h"
 
 #include "base/FileUrl.h"
+#include "store/history/ClipForms.h"
 
 #include <QUtf8StringView>
 
 namespace ravelo {
-
-using namespace Qt::StringLiterals;
 
 QList<PasteboardEntry> fileForms(const QUrl& url) {
     const QByteArray path = filePath(url);
@@ -15,8 +14,8 @@ QList<PasteboardEntry> fileForms(const QUrl& url) {
     }
     const QByteArray address = fileAddress(url);
     QList<PasteboardEntry> forms = {
-        {u"text/uri-list"_s, address + "\r\n"},
-        {u"x-special/gnome-copied-files"_s, "copy\n" + address},
+        {uriListType, address + "\r\n"},
+        {gnomeFilesType, "copy\n" + address},
     };
     if (QUtf8StringView(path).isValidUtf8()) {
         forms.append({plainTextType, path});

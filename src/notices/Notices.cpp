@@ -6,8 +6,6 @@
 
 namespace ravelo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 constexpr Seconds minute(60);

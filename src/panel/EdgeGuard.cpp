@@ -1,6 +1,5 @@
 #include "panel/EdgeGuard.h"
 
-#include "panel/NotchGeometry.h"
 #include "platform/EdgeBarrier.h"
 #include "platform/Screens.h"
 

@@ -328,7 +328,7 @@ QSizeF NotchController::sizeOn(const Screen& screen) const {
 }
 
 void NotchController::resizeForShelf() {
-    const auto on = services_.zone.look().screen;
+    const auto on = screenOfPanel();
     if (isOpen_ && on && std::abs(sizeOn(*on).height() - frame_.height()) > 1) {
         placeExpanded(*on);
     }

@@ -33,7 +33,7 @@ public:
     /// The window to paste into; nothing if that is not known or cannot be done.
     [[nodiscard]] std::optional<PasteKeys::Target> target() const;
 
-    /// Writes the pasteboard, and calls `done` then: where only a program with the keyboard may
+    /// Writes the pasteboard, and calls `done` then: if only a program with the keyboard may
     /// write, it has to come before the panel closes.
     using Copy = std::function<void(const std::function<void()>& done)>;
 

@@ -1,8 +1,6 @@
 // How the store is read, locked, unlocked and erased.
 
 #include "base/Scheduler.h"
-#include "base/Uuid.h"
-#include "platform/ImageDecoder.h"
 #include "platform/Preferences.h"
 #include "platform/Worker.h"
 #include "store/Seeds.h"

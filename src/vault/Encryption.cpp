@@ -10,8 +10,6 @@
 
 namespace ravelo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString label() {

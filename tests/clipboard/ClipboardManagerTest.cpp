@@ -340,6 +340,17 @@ TEST_F(Clipboard, anOwnerThatNeverAnswersDelaysNothing) {
     pasteboard.offerText(u"next"_s);
     scheduler.advance(Seconds(0.01));
     EXPECT_EQ(texts(), QStringList{u"next"_s});
+
+    for (const bool isOwnerThere : {true, false}) {
+        pasteboard.offerSilence();
+        isOwnerThere ? void() : pasteboard.loseOwner();
+        manager->copyClip(store.clips()[0].id);
+        EXPECT_EQ(pasteboard.bytes(plainTextType), "next") << "owner there: " << isOwnerThere;
+        manager->copyImage(imageFile());
+        settle();
+        EXPECT_EQ(pasteboard.bytes("image/png"_L1), picture("png"))
+            << "after our own copy; owner there: " << isOwnerThere;
+    }
 }
 
 TEST_F(Clipboard, ourOwnCopiesMakeNoClip) {

@@ -149,6 +149,9 @@ TEST(NotchController, staysOnItsScreenWhenAnotherComes) {
     screens.push_back(right);
     world.screens.change(screens);
     EXPECT_EQ(world.window.screen, u"one"_s) << "the user types into it there";
+    world.store.addToShelf({QUrl(u"file:///a"_s)});
+    EXPECT_EQ(world.window.screen, u"one"_s) << "it grows for a file";
+    EXPECT_EQ(world.window.size.height(), 700);
     world.screens.change({right});
     EXPECT_EQ(world.window.screen, u"right"_s) << "its screen is gone";
 }

@@ -275,6 +275,12 @@ TEST(ClipHistory, MergesLaterClipsAsIfTheyWereCopiedNow) {
     EXPECT_EQ(
         shorthand(ClipHistory::merged(before, later, {HistoryRules::Order::olderFirst, 2}).clips),
         "d@9 b@8 *c@1");
+    for (ClipItem& clip : later) {
+        clip.secret = u"github"_s;
+    }
+    const QList<ClipItem> clips = ClipHistory::merged(before, later, {}).clips;
+    EXPECT_EQ(clips[0].secret, u"github"_s);
+    EXPECT_EQ(clips[1].secret, QString()) << "b is an ordinary clip already";
 }
 
 TEST(ClipHistory, JoinsTwoListsByDate) {

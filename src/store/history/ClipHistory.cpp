@@ -230,7 +230,7 @@ ClipChange ClipHistory::merged(QList<ClipItem> clips, QList<ClipItem> others,
     std::ranges::reverse(others); // Of one date, the first in the list is the newest.
     std::ranges::stable_sort(others, {},
                              [](const ClipItem& clip) { return clip.date.sinceReference; });
-    for (const ClipItem& other : others) {
+    for (ClipItem& other : others) {
         const auto same = [&other](const ClipItem& clip) {
             return clip.id == other.id;
         };
@@ -239,7 +239,12 @@ ClipChange ClipHistory::merged(QList<ClipItem> clips, QList<ClipItem> others,
         }
         if (other.kind != ClipKind::image) {
             clips.removeIf([&](const ClipItem& clip) {
-                return !clip.pinned && clip.kind != ClipKind::image && clip.text == other.text;
+                const bool again =
+                    !clip.pinned && clip.kind != ClipKind::image && clip.text == other.text;
+                if (again && clip.secret.isEmpty()) {
+                    other.secret.clear(); // The user keeps this text.
+                }
+                return again;
             });
         }
         clips.prepend(other);

@@ -13,8 +13,6 @@
 
 namespace ravelo {
 
-using namespace Qt::StringLiterals;
-
 namespace {
 
 QString imagePath(const DeletedRecord& record, const QString& folder) {

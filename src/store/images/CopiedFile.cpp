@@ -5,6 +5,7 @@
 #include "decode/Formats.h"
 #include "platform/Pasteboard.h"
 #include "platform/TimedJob.h"
+#include "store/history/ClipForms.h"
 
 #include <QFile>
 #include <QSysInfo>
@@ -14,8 +15,6 @@
 #include <unistd.h>
 
 namespace ravelo {
-
-using namespace Qt::StringLiterals;
 
 namespace {
 
@@ -47,7 +46,7 @@ CopiedContents read(const QByteArray& path) {
 } // namespace
 
 QByteArray copiedFile(const PasteboardSnapshot& contents) {
-    const auto list = contents.answers.value(u"text/uri-list"_s).value_or(QByteArray());
+    const auto list = contents.answers.value(uriListType).value_or(QByteArray());
     return filePath(localFiles(list, QSysInfo::machineHostName().toUtf8()).value(0));
 }
 

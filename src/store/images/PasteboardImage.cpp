@@ -4,6 +4,7 @@
 #include "decode/Protocol.h"
 #include "platform/ImageDecoder.h"
 #include "platform/Pasteboard.h"
+#include "store/history/ClipForms.h"
 #include "store/images/CopiedFile.h"
 
 #include <algorithm>
@@ -16,7 +17,6 @@ namespace {
 
 constexpr auto pngType = "image/png"_L1;
 constexpr qsizetype maxTries = 4; ///< An owner may offer hundreds of forms.
-constexpr auto filesType = "text/uri-list"_L1;
 
 /// The forms worth asking for, best first.
 QStringList candidates(const QStringList& offered) {
@@ -36,7 +36,7 @@ QStringList candidates(const QStringList& offered) {
             add(type);
         }
     }
-    add(filesType);
+    add(uriListType);
     return list;
 }
 
@@ -70,7 +70,7 @@ QString nextImageType(const PasteboardSnapshot& contents, const QStringList& use
 QString imageType(const PasteboardSnapshot& contents) {
     for (const QString& type : candidates(contents.types)) {
         const QByteArray bytes = contents.answers.value(type).value_or(QByteArray());
-        if (type == filesType ? !bytes.isEmpty() : decode::isRaster(bytes)) {
+        if (type == uriListType ? !bytes.isEmpty() : decode::isRaster(bytes)) {
             return type;
         }
     }
@@ -95,7 +95,7 @@ KeptImage imageToKeep(const PasteboardSnapshot& contents, const CopiedContents& 
     if (type.isEmpty()) {
         return {};
     }
-    if (type == filesType) {
+    if (type == uriListType) {
         return file.tooLarge > 0 ? KeptImage{{}, TooLarge{TooLarge::Kind::image, file.tooLarge}}
                                  : converted(file.bytes, decoder);
     }
