@@ -29,7 +29,6 @@ struct Field {
 };
 
 const Field fields[] = {
-
     {"bgOpacity", &AppSettings::bgOpacityChanged, 0.55, 0.8, u"0.8"_s},
     {"fullBlack", &AppSettings::fullBlackChanged, false, true, 1},
     {"panelWidth", &AppSettings::panelWidthChanged, 927.0, 1040.5, u"1100"_s},
