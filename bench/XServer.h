@@ -40,7 +40,7 @@ struct Place {
 constexpr Size handleSize = {200, 12};
 constexpr Size panelSize = {927, 560};
 
-/// An own connection to the X server of DISPLAY. Ends the program if there is none.
+/// A connection of its own to the X server of DISPLAY. Ends the program if there is none.
 class XServer {
 public:
     XServer();

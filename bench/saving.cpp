@@ -1,6 +1,6 @@
-// bench_saving COUNT: saves the largest possible store, 65 clips of 64 KB, COUNT times. Prints a
-// line each: milliseconds of the main thread from a copy until the save is queued, and until the
-// file exists, without the debounce of 0.4 s.
+// bench_saving COUNT: saves a large store, 65 clips of 64 KB, COUNT times. Prints a line each:
+// milliseconds of the main thread from a copy until the save is queued, and until the file exists,
+// without the debounce of 0.4 s.
 
 #include "fakes/FakeDetachedJobs.h"
 #include "fakes/FakeServices.h"

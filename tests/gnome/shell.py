@@ -157,6 +157,3 @@ class Shell:
                   for x, y, _, transform, primary, specs, _ in logical]
         self.call(name, path, name, "ApplyMonitorsConfig",
                   GLib.Variant("(uua(iiduba(ssa{sv}))a{sv})", (serial, 1, layout, {})))
-
-    def log(self):
-        return (self.folder / "shell.log").read_text()

@@ -74,8 +74,6 @@ class ExtensionCase(unittest.TestCase):
 
     def tearDown(self):
         self.session.run("button(false); move(600, 500);")
-        if sys.exc_info()[0]:
-            print(self.session.log()[-2000:])
 
     def ravelo(self, *arguments):
         peer = Peer(self.session, HERE / "ravelo_peer.py", *arguments)

@@ -176,10 +176,10 @@ class Windows(AssistiveCase, ProgramCase):
         self.assertTrue(self.ravelo.is_collapsed(), "it would cover the window")
         beside = window.x + 60, window.y + window.height - 30  # Below the open panel.
         self.desktop.move(*beside)  # Hovering opens once the pointer has been elsewhere,
-        self.ravelo.call("status")  # for longer than a jump there and back.
+        self.ravelo.call("--status")  # for longer than a jump there and back.
         self.ravelo.open()
         self.desktop.click(*beside)
-        self.ravelo.call("status")  # Answered after the press was heard of.
+        self.ravelo.call("--status")  # Answered after the press was heard of.
         self.assertTrue(self.ravelo.is_open(), "a press into the settings is none elsewhere")
         self.press("Escape")
         self.expect_none()

@@ -146,7 +146,6 @@ class Keyboard(ProgramCase):
         self.press("Escape")
         self.closed_with("second")
 
-
     def test_an_edited_clip_waits_while_the_panel_is_closed(self):
         self.toggle()
         self.press("F2")
@@ -242,7 +241,7 @@ class Focus(ProgramCase):
         self.assertRegex(status, r"^(1:00:00|59:5\d) Estimates\n$")
         self.press("Escape")
         wait_for(lambda: (bar := self.ravelo.panel()) and bar[2:] == (0, 520, 24), "the bar, 520 x 24")
-        self.assertFalse(self.ravelo.call("timer", "start", "0")[0] == 0, "a timer of no length")
+        self.assertNotEqual(self.ravelo.call("timer", "start", "0")[0], 0, "a timer of no length")
         self.toggle()
         self.press("Escape")
         self.assertEqual(self.ravelo.call("timer", "stop"), (0, ""))

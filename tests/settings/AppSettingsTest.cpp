@@ -29,7 +29,6 @@ struct Field {
 };
 
 const Field fields[] = {
-
     {"bgOpacity", &AppSettings::bgOpacityChanged, 0.55, 0.8, u"0.8"_s},
     {"fullBlack", &AppSettings::fullBlackChanged, false, true, 1},
     {"panelWidth", &AppSettings::panelWidthChanged, 927.0, 1040.5, u"1100"_s},
@@ -40,6 +39,10 @@ const Field fields[] = {
     {"newestFirst", &AppSettings::newestFirstChanged, false, true, 1},
     {"historyLength", &AppSettings::historyLengthChanged, 60, 1000, u"200"_s},
     {"keepTextsExactly", &AppSettings::keepTextsExactlyChanged, false, true, u"true"_s},
+    {"keepDays", &AppSettings::keepDaysChanged, 0, 7, u"7"_s},
+    {"textLimit", &AppSettings::textLimitChanged, 0, 64, true},
+    {"imageLimit", &AppSettings::imageLimitChanged, 0, 512, u"512"_s},
+    {"forgetKeyWhileLocked", &AppSettings::forgetKeyWhileLockedChanged, false, true, 1},
     {"ignoredPrograms", &AppSettings::ignoredProgramsChanged, QJsonArray(),
      QJsonArray{u"KeePassXC"_s}, u"KeePassXC"_s},
     {"ignoredPatterns", &AppSettings::ignoredPatternsChanged, QJsonArray(),
@@ -52,10 +55,21 @@ const Field fields[] = {
     {"joinWith", &AppSettings::joinWithChanged, u"line"_s, u"comma"_s, 1},
     {"showOrigins", &AppSettings::showOriginsChanged, false, true, u"on"_s},
     {"hideClaudeCode", &AppSettings::hideClaudeCodeChanged, false, true, 1},
+    {"showPeakHours", &AppSettings::showPeakHoursChanged, true, false, 0},
+    {"keepSession", &AppSettings::keepSessionChanged, false, true, 1},
+    {"handedOverFirst", &AppSettings::handedOverFirstChanged, false, true, u"true"_s},
+    {"secondAccount", &AppSettings::secondAccountChanged, QString(), u"/work"_s, 2},
+    {"notifyTimer", &AppSettings::notifyTimerChanged, false, true, 1},
+    {"notifyFiles", &AppSettings::notifyFilesChanged, false, true, 1},
+    {"notifySaving", &AppSettings::notifySavingChanged, false, true, 1},
+    {"notifyPlan", &AppSettings::notifyPlanChanged, false, true, 1},
     {"language", &AppSettings::languageChanged, QString(), u"pt_BR"_s, u"fr"_s},
     {"onboarded", &AppSettings::onboardedChanged, false, true, u"yes"_s}};
 
 TEST(Settings, AreReadNotifiedAndKept) {
+    const QMetaObject& all = AppSettings::staticMetaObject;
+    EXPECT_EQ(std::ssize(fields), all.propertyCount() - all.propertyOffset() - 1)
+        << "all but launchAtLogin";
     for (const Field& field : fields) {
         SCOPED_TRACE(field.name);
         const QString key = QString::fromLatin1(field.name);

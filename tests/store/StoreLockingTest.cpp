@@ -262,8 +262,6 @@ TEST_F(Erasing, ImagesThatTextsPushedOutGoWithTheLastHourAndWithALimit) {
 
 TEST_F(Erasing, AFailureIsReported) {
     QStringList problems;
-    QObject::connect(store_.get(), &Store::removalEnded, store_.get(),
-                     [&](const QString& problem) { problems.append(problem); });
     const ClipItem image = store_->clips()[0];
     const QString path = store_->imagePath(image.imageFileName);
     bool readOnly = true;

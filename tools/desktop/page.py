@@ -2,7 +2,6 @@
 
 import datetime
 import os
-import pathlib
 import platform
 import subprocess
 
@@ -51,4 +50,4 @@ def write(folder, columns, rows, pictures):
     rows_of_pictures = [shown[i:i + COLUMNS_OF_PICTURES] for i in range(0, len(shown), COLUMNS_OF_PICTURES)]
     lines += ["", *table([""] * COLUMNS_OF_PICTURES,
                          [row + [""] * (COLUMNS_OF_PICTURES - len(row)) for row in rows_of_pictures])]
-    (pathlib.Path(folder) / f"{prefix}.md").write_text("\n".join(lines) + "\n")
+    (folder / f"{prefix}.md").write_text("\n".join(lines) + "\n")

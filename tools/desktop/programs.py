@@ -76,6 +76,8 @@ class Program:
 
     def close(self):
         for process in self.processes:
+            if os.getsid(process.pid) == process.pid:  # Its child may be the program.
+                subprocess.run(["pkill", "--session", str(process.pid), "--signal", "KILL"], check=False)
             process.kill()
             process.wait()
 
@@ -119,12 +121,6 @@ class Office(Program):
         found = re.findall(rf'<{element} [^>]*?(?:text|table):style-name="([^"]+)"[^>]*(?<!/)>(.*?)</{element}>',
                            text, re.S)
         return [re.sub("<[^>]+>", "", content) for name, content in found if name in names]
-
-    def close(self):
-        for process in self.processes:
-            subprocess.run(["pkill", "--session", str(os.getsid(process.pid)), "--signal", "KILL"],
-                           check=False)  # The launcher's child is the program.
-        super().close()
 
 
 class Writer(Office):
@@ -174,21 +170,12 @@ class Thunar(Program):
         self.spawn("dbus-run-session", "thunar", self.folder / "source", self.folder / "target",
                    start_new_session=True)
 
-    def copy(self):
-        self.keys("source", "ctrl+a", "ctrl+c")
-
     def arrived(self):
         there = [name for name in self.NAMES if (self.folder / "target" / name).exists()]
         for name in there:
             wait_for(lambda n=name: (self.folder / "target" / n).read_text() == n, f"all of {name}")
             assert (self.folder / "source" / name).exists(), f"{name} was moved"
         return f"{len(there)} files" if there else ""
-
-    def close(self):
-        for process in self.processes:
-            subprocess.run(["pkill", "--session", str(os.getsid(process.pid)), "--signal", "KILL"],
-                           check=False)
-        super().close()
 
 
 class Gimp(Program):

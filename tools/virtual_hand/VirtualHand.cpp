@@ -2,8 +2,8 @@
 //
 //   move X Y WIDTH HEIGHT   to a place in the layout of all outputs, which is that large
 //   press, release          the left button
-//   key CODE [MODIFIERS]    a key of linux/input-event-codes.h; 1 is Shift, 4 is Control, 64 is
-//   Super wait                    nothing
+//   key CODE [MODIFIERS]    a key of linux/input-event-codes.h; 1 is Shift, 4 Control, 64 Super
+//   wait                    nothing
 //
 // Says "ready" once both exist, and after each line once the compositor has handled it.
 

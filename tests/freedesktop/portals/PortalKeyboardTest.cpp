@@ -100,7 +100,11 @@ private:
         auto signal =
             QDBusMessage::createSignal(request, u"org.freedesktop.portal.Request"_s, u"Response"_s);
         signal << (starts ? response : 0U) << results;
-        starts&& held ? waiting_.append(signal) : void(connection_.send(signal));
+        if (starts && held) {
+            waiting_.append(signal);
+        } else {
+            connection_.send(signal);
+        }
         return QVariant::fromValue(QDBusObjectPath(request));
     }
 

@@ -71,7 +71,7 @@ protected:
     SecretKeyring keyring_{bus_.connect(u"ours"_s)};
 };
 
-TEST_F(RealKeyring, KeepsGivesLocksAndForgetsASecret) {
+TEST_F(RealKeyring, KeepsGivesAndLocksASecret) {
     if (QStandardPaths::findExecutable(u"gnome-keyring-daemon"_s).isEmpty()) {
         GTEST_SKIP() << "gnome-keyring is not installed";
     }

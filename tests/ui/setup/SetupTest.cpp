@@ -153,7 +153,8 @@ TEST_F(Setup, OffersTheDesktopsExtensionLastAndTurnsItOnWhenAsked) {
     EXPECT_EQ(extension.requests, 0) << "without being asked";
     clickOn(offered, u"turnOn"_s);
     EXPECT_EQ(extension.requests, 1);
-    EXPECT_EQ(in(offered, u"extensionHeading"_s)->property("text").toString(), u"Log out and in once"_s);
+    EXPECT_EQ(in(offered, u"extensionHeading"_s)->property("text").toString(),
+              u"Log out and in once"_s);
     EXPECT_FALSE(in(offered, u"turnOn"_s)->isVisible());
     for (const auto& [state, says] :
          {std::pair(DesktopExtension::State::older, u"The extension is older than Ravelo."_s),
