@@ -104,8 +104,8 @@ void X11PanelWindow::orderOut() {
 }
 
 bool X11PanelWindow::setFirstPicture(const QImage& picture) {
-    if (!window_.format().hasAlpha()) {
-        return false; // The window has another depth.
+    if (picture.isNull() || !window_.format().hasAlpha()) {
+        return false; // It could not be taken, or the window has another depth.
     }
     firstPicture_.emplace(qt_, id_, picture);
     return true;
