@@ -168,7 +168,7 @@ void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
         [vault = platform.vault](const QByteArray& path) {
             return vault->encryptedBytes(QFile::decodeName(path));
         });
-    platform.programs = std::make_unique<SystemPrograms>(*platform.jobs);
+    platform.programs = std::make_unique<SystemPrograms>(*platform.jobs, environment);
     platform.folders = std::make_unique<InotifyFolderWatch>();
     platform.transcriptChanges = std::make_unique<InotifyChanges>();
     platform.usageChanges = std::make_unique<InotifyChanges>();

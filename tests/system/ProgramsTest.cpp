@@ -54,11 +54,14 @@ TEST(SystemPrograms, findsAndStartsThemWithAnyBytes) {
     const QTemporaryDir folder;
     const QByteArray path = qgetenv("PATH");
     qputenv("PATH", path + ":/no/such:" + folder.path().toUtf8());
-    const QString script =
-        makeProgram(folder.filePath(u"ravelo test"_s),
-                    "printf '<%s>' \"$@\" > \"$0.part\"\nmv \"$0.part\" \"$0.out\"\n");
+    const QString script = makeProgram(
+        folder.filePath(u"ravelo test"_s),
+        "printf '<%s>' \"$GIVEN\" \"$OURS\" \"$@\" > \"$0.part\"\nmv \"$0.part\" \"$0.out\"\n");
     DetachedThreads threads;
-    SystemPrograms programs(threads);
+    auto environment = QProcessEnvironment::systemEnvironment();
+    environment.insert(u"GIVEN"_s, u"given"_s);
+    qputenv("OURS", "ours");
+    SystemPrograms programs(threads, environment);
     QList<QByteArray> found;
     const auto note = [&](const QByteArray& program) {
         found.append(program);
@@ -73,7 +76,8 @@ TEST(SystemPrograms, findsAndStartsThemWithAnyBytes) {
     programs.start(found[0], {"--x", "a b;$(id)", "\xff\n", ""});
     programs.start("/no/such", {});
     EXPECT_TRUE(eventually([&] { return readFile(script + u".out"_s).has_value(); }));
-    EXPECT_EQ(readFile(script + u".out"_s), "<--x><a b;$(id)><\xff\n><>");
+    qunsetenv("OURS");
+    EXPECT_EQ(readFile(script + u".out"_s), "<given><><--x><a b;$(id)><\xff\n><>");
 }
 
 } // namespace

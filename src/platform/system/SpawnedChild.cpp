@@ -1,12 +1,13 @@
 #include "platform/system/SpawnedChild.h"
 
+#include "platform/system/ExecArguments.h"
+
 #include <QDir>
 #include <QFile>
 
 #include <cerrno>
 #include <csignal>
 #include <utility>
-#include <vector>
 
 #include <fcntl.h>
 #include <spawn.h>
@@ -24,16 +25,6 @@ struct Program {
     QList<QByteArray> environment;
     QByteArray folder; ///< The working directory.
 };
-
-/// For execve(2); valid as long as the list.
-std::vector<char*> terminated(const QList<QByteArray>& list) {
-    std::vector<char*> pointers;
-    for (const QByteArray& one : list) {
-        pointers.push_back(const_cast<char*>(one.constData()));
-    }
-    pointers.push_back(nullptr);
-    return pointers;
-}
 
 void remove(const QByteArray& folder) {
     if (rmdir(folder.constData()) != 0 && errno == ENOTEMPTY) {
@@ -87,11 +78,7 @@ void runToItsEnd(const Program& program) {
 
 SpawnedChild::SpawnedChild(DetachedJobs& jobs, const QProcessEnvironment& environment,
                            QByteArray folder)
-    : jobs_(jobs), folder_(std::move(folder)) {
-    for (const QString& variable : environment.toStringList()) {
-        environment_.append(variable.toLocal8Bit());
-    }
-}
+    : jobs_(jobs), environment_(variables(environment)), folder_(std::move(folder)) {}
 
 Handle SpawnedChild::run(const QByteArray& path, const QList<QByteArray>& arguments,
                          std::function<void()> done) {

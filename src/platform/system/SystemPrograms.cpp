@@ -1,5 +1,7 @@
 #include "platform/system/SystemPrograms.h"
 
+#include "platform/system/ExecArguments.h"
+
 #include <QFile>
 #include <QStandardPaths>
 
@@ -12,15 +14,16 @@
 
 namespace ravelo {
 
+using namespace Qt::StringLiterals;
+
 namespace {
 
 /// QProcess accepts only text as arguments.
-void startDetached(const QByteArray& path, const QList<QByteArray>& arguments) {
-    std::vector<char*> argv = {const_cast<char*>(path.constData())};
-    for (const QByteArray& argument : arguments) {
-        argv.push_back(const_cast<char*>(argument.constData()));
-    }
-    argv.push_back(nullptr);
+void startDetached(const QByteArray& path, const QList<QByteArray>& arguments,
+                   const QList<QByteArray>& environment) {
+    const QList<QByteArray> all = QList<QByteArray>{path} + arguments;
+    const std::vector<char*> argv = terminated(all);
+    const std::vector<char*> envp = terminated(environment);
     // Twice, so that the program need not be waited for. After fork only async-signal-safe
     // functions may be called.
     const pid_t child = fork();
@@ -30,7 +33,7 @@ void startDetached(const QByteArray& path, const QList<QByteArray>& arguments) {
             sigset_t none;
             sigemptyset(&none);
             sigprocmask(SIG_SETMASK, &none, nullptr);
-            execv(path.constData(), argv.data());
+            execve(path.constData(), argv.data(), envp.data());
         }
         _exit(0);
     }
@@ -40,6 +43,14 @@ void startDetached(const QByteArray& path, const QList<QByteArray>& arguments) {
 }
 
 } // namespace
+
+SystemPrograms::SystemPrograms(DetachedJobs& jobs, QProcessEnvironment environment) : jobs_(jobs) {
+    for (const auto& ours :
+         {u"XDG_ACTIVATION_TOKEN"_s, u"DESKTOP_STARTUP_ID"_s, u"WAYLAND_SOCKET"_s}) {
+        environment.remove(ours); // Each is good for one process only.
+    }
+    environment_ = variables(environment);
+}
 
 Handle SystemPrograms::find(const QStringList& names, std::function<void(QByteArray)> done) {
     const auto found = std::make_shared<QByteArray>();
@@ -55,7 +66,10 @@ Handle SystemPrograms::find(const QStringList& names, std::function<void(QByteAr
 
 void SystemPrograms::start(const QByteArray& path, const QList<QByteArray>& arguments) {
     // Dropping the handle does not stop it, only the notification of its end.
-    const Handle started = jobs_.run([path, arguments] { startDetached(path, arguments); }, [] {});
+    const Handle started =
+        jobs_.run([path, arguments,
+                   environment = environment_] { startDetached(path, arguments, environment); },
+                  [] {});
 }
 
 } // namespace ravelo

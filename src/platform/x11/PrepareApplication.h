@@ -5,13 +5,10 @@
 
 namespace ravelo::x11 {
 
-/// Everything that depends on the display server and must be settled before the application object
-/// exists, as environment that Qt reads. Where $DISPLAY is set the program runs on X11, in a
-/// Wayland session through Xwayland; a platform without a display server ("offscreen") stays as
-/// chosen.
-///
-/// To be let go once the application object exists: then what only its making reads is as before,
-/// so that programs that are started from here do not get it.
+/// Sets what Qt reads when the application object is made. If $DISPLAY is set the program runs on
+/// X11, in a Wayland session through Xwayland; a platform without a display server ("offscreen")
+/// stays as chosen. Dropping the handle after that restores what the programs that we start must
+/// not inherit.
 [[nodiscard]] Handle prepareApplication();
 
 /// Fails, in words for the user, if there is no X server to run on: Qt would abort. A platform

@@ -4,8 +4,6 @@
 #include "platform/wayland/clipboard/DataControl.h"
 #include "platform/wayland/clipboard/Pipes.h"
 
-#include <memory>
-
 namespace ravelo::wayland {
 
 /// Asks the owner of the clipboard for what a plan wants, one type after the other. Text is asked

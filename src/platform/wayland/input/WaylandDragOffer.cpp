@@ -47,8 +47,10 @@ void WaylandDragOffer::ask(const QStringList& types, const QByteArray& type) {
         wl_data_offer_receive(offer_.get(), type.constData(), pipe.writeEnd.number());
         wl_display_flush(qt::display());
     }
-    auto done = [self = shared_from_this(), types](const PipeResult& result) {
-        self->thread_.callOnMain([self, types, bytes = result.value_or(QByteArray())] {
+    auto done = [&thread = thread_, self = shared_from_this(),
+                 types](const PipeResult& result) mutable {
+        // Moved: the offer must not be destroyed on the thread.
+        thread.callOnMain([self = std::move(self), types, bytes = result.value_or(QByteArray())] {
             self->answers_[types] = bytes;
             self->listeners_.notify();
         });

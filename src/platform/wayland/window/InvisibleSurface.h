@@ -1,6 +1,5 @@
 #pragma once
 
-#include "base/Result.h"
 #include "platform/wayland/window/LayerRole.h"
 
 #include <viewporter-client.h>

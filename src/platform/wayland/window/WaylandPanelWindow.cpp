@@ -55,8 +55,8 @@ WaylandPanelWindow::WaylandPanelWindow(QWindow& window, Surfaces& surfaces)
     QSurfaceFormat format = window_.requestedFormat();
     format.setAlphaBufferSize(8);
     window_.setFormat(format);
-    window_.installEventFilter(
-        this); // Gets events before `pointerOver_`: what is dragged is known first.
+    // Gets events before `pointerOver_`: what is dragged is known first.
+    window_.installEventFilter(this);
     connect(qGuiApp, &QGuiApplication::screenAdded, this, [this] {
         if (wantsKeyboard()) {
             catchPresses();
@@ -123,6 +123,9 @@ void WaylandPanelWindow::show() {
                                                               showAgainSoon();
                                                           }});
     commit();
+    if (wantsKeyboard()) {
+        catchPresses(); // hide() has dropped them.
+    }
 }
 
 void WaylandPanelWindow::hide() {
@@ -230,10 +233,10 @@ bool WaylandPanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
         }
         break;
     case QEvent::FocusOut:
-        if (wantsKeyboard()) {
-            pressedOutside();
-        } else if (isGoing_) {
+        if (isGoing_) {
             QTimer::singleShot(0, this, [this] { comeBack(); });
+        } else if (wantsKeyboard()) {
+            pressedOutside();
         }
         break;
     default:

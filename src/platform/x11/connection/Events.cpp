@@ -20,14 +20,17 @@ Handle Events::onEvent(std::function<void(const xcb_generic_event_t&)> callback)
     return listeners_.add(std::move(callback));
 }
 
+/// Flushing also reads what has come meanwhile, which would not wake the loop again: it never comes
+/// last.
 void Events::drain(xcb_generic_event_t* (*next)(xcb_connection_t*)) {
+    xcb_flush(connection_.get());
     while (const Owned<xcb_generic_event_t> event{next(connection_.get())}) {
         const bool isError = event->response_type == 0;
         if (!isError) {
             listeners_.notify(*event);
         }
+        xcb_flush(connection_.get());
     }
-    xcb_flush(connection_.get());
 }
 
 } // namespace ravelo::x11

@@ -64,10 +64,15 @@ std::vector<uint32_t> PropertyRequest::cardinals() {
     return {values, values + answer->value_len};
 }
 
-std::vector<xcb_window_t> topLevelWindows(Connection& connection) {
-    const auto cookie = xcb_query_tree(connection.get(), connection.root());
+void setCardinals(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property,
+                  const std::vector<uint32_t>& values) {
+    xcb_change_property(connection, XCB_PROP_MODE_REPLACE, window, property, XCB_ATOM_CARDINAL, 32,
+                        static_cast<uint32_t>(values.size()), values.data());
+}
+
+std::vector<xcb_window_t> childrenOf(Connection& connection, xcb_query_tree_cookie_t asked) {
     const Owned<xcb_query_tree_reply_t> reply(
-        xcb_query_tree_reply(connection.get(), cookie, nullptr));
+        xcb_query_tree_reply(connection.get(), asked, nullptr));
     if (!reply) {
         return {};
     }

@@ -44,8 +44,13 @@ private:
     xcb_get_property_cookie_t cookie_; ///< `sequence` 0 if there is nothing to wait for.
 };
 
-/// The windows right below the root, lowest first. A round trip.
-[[nodiscard]] std::vector<xcb_window_t> topLevelWindows(Connection& connection);
+/// Sent at the next flush.
+void setCardinals(xcb_connection_t* connection, xcb_window_t window, xcb_atom_t property,
+                  const std::vector<uint32_t>& values);
+
+/// Waits for the answer: the windows right below the one asked about, lowest first.
+[[nodiscard]] std::vector<xcb_window_t> childrenOf(Connection& connection,
+                                                   xcb_query_tree_cookie_t asked);
 
 /// A round trip; empty if there is no such window.
 [[nodiscard]] QSize windowSize(Connection& connection, xcb_window_t window);

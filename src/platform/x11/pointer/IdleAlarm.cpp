@@ -1,6 +1,5 @@
 #include "platform/x11/pointer/IdleAlarm.h"
 
-#include <cstring>
 #include <string_view>
 
 namespace ravelo::x11 {

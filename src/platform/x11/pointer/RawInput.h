@@ -26,7 +26,7 @@ struct PointerSight {
 /// Raw events of all pointers (X Input Extension 2), which are sent even during grabs. Buttons are
 /// always listened to; motion, which would wake us hundreds of times a second, only up to the next
 /// one, together with an alarm for a pointer that is moved by a program: that sends no raw event.
-/// Made before the listener starts, then on its thread but for `takePressed`.
+/// Made before the listener starts, then used on its thread, except for `takePressed`.
 class RawInput final : public EventHandler {
 public:
     struct Callbacks {

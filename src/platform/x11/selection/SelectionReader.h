@@ -27,7 +27,7 @@ public:
 /// is given events and the time.
 class SelectionReader {
 public:
-    /// Of the asker's making, to cancel by.
+    /// Chosen by the caller, for `cancel`.
     using Key = quint64;
 
     SelectionReader(Connection& connection, xcb_atom_t selection)

@@ -130,7 +130,7 @@ std::optional<TransferResult> SelectionTransfer::end(TransferResult result) {
     return result;
 }
 
-/// The property as it is, with type None if there is none. Asks for no more than the limit
+/// The property as it is, with type None if there is none. Stops if it exceeds what the limit
 /// leaves room for.
 tl::expected<SelectionValue, TransferFailure> SelectionTransfer::readProperty() {
     SelectionValue value;

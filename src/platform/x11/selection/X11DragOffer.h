@@ -17,7 +17,7 @@ public:
         Listener& listener; ///< Must outlive the offer.
         std::shared_ptr<ChangeCounter> counter;
         std::shared_ptr<MainThreadNotifier> changes;
-        std::weak_ptr<DragReads> reads; ///< Its questions hold the offer.
+        std::weak_ptr<DragReads> reads; ///< Weak: its questions hold the offer.
     };
 
     /// `count` is the change count of the drag. Held by a shared pointer.

@@ -14,8 +14,8 @@ namespace ravelo::x11 {
 /// The CLIPBOARD selection: listened to and read on the listener's thread, written through Qt,
 /// which then serves it to others from the main thread.
 ///
-/// From its making on QClipboard gives no signals any more: at each change text fields would read
-/// the new contents on the main thread, and stand still with an owner that does not answer.
+/// From its construction on, QClipboard emits no signals: at each change text fields would read
+/// the new contents on the main thread, and block with an owner that does not answer.
 class X11Pasteboard final : public Pasteboard {
 public:
     /// Before `listener` starts; it must outlive this.
@@ -36,8 +36,8 @@ public:
     [[nodiscard]] Handle read(PasteboardPlan plan,
                               std::function<void(PasteboardSnapshot)> done) override;
 
-    /// Where another program has copied after the newest event that Qt has seen, the user's press
-    /// in our window included, the server keeps that later copy (ICCCM 2.1); it is then told as a
+    /// If another program has copied since the newest event that Qt has seen, such as the user's
+    /// press in our window, the server keeps that later copy (ICCCM 2.1), and it is reported as a
     /// change.
     qint64 write(const QList<PasteboardEntry>& forms) override;
 

@@ -37,7 +37,8 @@ void ScreenSaverStatus::look() {
 
 /// The saver's window; from now on we get its DestroyNotify.
 std::optional<xcb_window_t> ScreenSaverStatus::findSaver() {
-    const auto windows = topLevelWindows(connection_);
+    const auto windows =
+        childrenOf(connection_, xcb_query_tree(connection_.get(), connection_.root()));
     std::vector<PropertyRequest> questions;
     questions.reserve(windows.size());
     for (const xcb_window_t window : windows) {

@@ -20,7 +20,7 @@ public:
         return listeners_.add(std::move(callback));
     }
 
-    /// Where a window names the region.
+    /// The property of a window that names the region to blur.
     [[nodiscard]] xcb_atom_t property() const { return property_; }
 
 private:

@@ -35,16 +35,6 @@ bool hides(Connection& connection, const Questions& asked, const QRect& monitor)
     return area.adjusted(-slack, -slack, slack, slack).contains(monitor);
 }
 
-std::vector<xcb_window_t> childrenOf(Connection& connection, xcb_window_t window) {
-    const Owned<xcb_query_tree_reply_t> reply(
-        xcb_query_tree_reply(connection.get(), xcb_query_tree(connection.get(), window), nullptr));
-    if (!reply) {
-        return {};
-    }
-    const auto* begin = xcb_query_tree_children(reply.get());
-    return {begin, begin + xcb_query_tree_children_length(reply.get())};
-}
-
 /// The window manager's own window, by EWMH.
 xcb_window_t windowManager(Connection& connection) {
     const xcb_atom_t check = connection.atom("_NET_SUPPORTING_WM_CHECK");
@@ -63,9 +53,11 @@ bool isFrame(Connection& connection, xcb_window_t window) {
     if (isForeign(windowManager(connection))) {
         return false;
     }
-    const auto inside = childrenOf(connection, window);
-    return std::ranges::any_of(inside, [&](xcb_window_t child) {
-        return isForeign(child) || std::ranges::any_of(childrenOf(connection, child), isForeign);
+    const auto inside = [&](xcb_window_t outer) {
+        return childrenOf(connection, xcb_query_tree(connection.get(), outer));
+    };
+    return std::ranges::any_of(inside(window), [&](xcb_window_t child) {
+        return isForeign(child) || std::ranges::any_of(inside(child), isForeign);
     });
 }
 
@@ -168,13 +160,7 @@ void CoverWatch::expire(TimePoint /*now*/) {
 std::vector<xcb_window_t> CoverWatch::stack() {
     const auto cookie = xcb_query_tree(connection_.get(), connection_.root());
     lookedAt_ = cookie.sequence;
-    const Owned<xcb_query_tree_reply_t> reply(
-        xcb_query_tree_reply(connection_.get(), cookie, nullptr));
-    if (!reply) {
-        return {};
-    }
-    const auto* begin = xcb_query_tree_children(reply.get());
-    return {begin, begin + xcb_query_tree_children_length(reply.get())};
+    return childrenOf(connection_, cookie);
 }
 
 std::vector<xcb_window_t> CoverWatch::coversAmong(const std::vector<xcb_window_t>& windows) {

@@ -1,5 +1,7 @@
 #include "platform/x11/window/X11PanelWindow.h"
 
+#include "platform/x11/connection/Properties.h"
+
 #include <QGuiApplication>
 #include <QPlatformSurfaceEvent>
 #include <QPolygonF>
@@ -13,11 +15,6 @@
 namespace ravelo::x11 {
 
 namespace {
-
-xcb_connection_t* qtConnection() {
-    const auto* native = qGuiApp->nativeInterface<QNativeInterface::QX11Application>();
-    return native == nullptr ? nullptr : native->connection();
-}
 
 template <typename Target>
 Target clamped(int value) {
@@ -44,7 +41,7 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       compositor_(compositor),
       cover_(cover),
       drags_(drags),
-      qt_(qtConnection()),
+      qt_(qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection()),
       focus_(focus),
       shadow_(connection.atom("_COMPTON_SHADOW")),
       skipCloseAnimation_(connection.atom("_KDE_NET_WM_SKIP_CLOSE_ANIMATION")),
@@ -107,8 +104,8 @@ void X11PanelWindow::orderOut() {
 }
 
 bool X11PanelWindow::setFirstPicture(const QImage& picture) {
-    if (!window_.format().hasAlpha()) {
-        return false; // The window has another depth.
+    if (picture.isNull() || !window_.format().hasAlpha()) {
+        return false; // It could not be taken, or the window has another depth.
     }
     firstPicture_.reset();
     if (!picture.isNull()) {
@@ -178,8 +175,8 @@ void X11PanelWindow::stayAbove(const xcb_generic_event_t& event) {
 
 void X11PanelWindow::prepareNativeWindow() {
     id_ = static_cast<xcb_window_t>(window_.winId());
-    setCardinals(shadow_, {0});
-    setCardinals(skipCloseAnimation_, {1}); // KWin would fade it out above a locker.
+    setCardinals(qt_, id_, shadow_, {0});
+    setCardinals(qt_, id_, skipCloseAnimation_, {1}); // KWin would fade it out above a locker.
     // Nothing of what was shown at one size may be seen for a moment at the next.
     const uint32_t attributes[] = {0, XCB_GRAVITY_BIT_FORGET};
     xcb_change_window_attributes(qt_, id_, XCB_CW_BACK_PIXEL | XCB_CW_BIT_GRAVITY, attributes);
@@ -203,7 +200,11 @@ void X11PanelWindow::applyOutline() {
                        {static_cast<uint32_t>(rectangle.x), static_cast<uint32_t>(rectangle.y),
                         rectangle.width, rectangle.height});
     }
-    setCardinals(blur_.property(), blurred);
+    if (blurred.empty()) { // An empty region would stand for the whole window.
+        xcb_delete_property(qt_, id_, blur_.property());
+    } else {
+        setCardinals(qt_, id_, blur_.property(), blurred);
+    }
     xcb_flush(qt_);
 }
 
@@ -211,15 +212,6 @@ void X11PanelWindow::setShape(xcb_shape_kind_t kind,
                               const std::vector<xcb_rectangle_t>& rectangles) {
     xcb_shape_rectangles(qt_, XCB_SHAPE_SO_SET, kind, XCB_CLIP_ORDERING_YX_BANDED, id_, 0, 0,
                          static_cast<uint32_t>(rectangles.size()), rectangles.data());
-}
-
-void X11PanelWindow::setCardinals(xcb_atom_t property, const std::vector<uint32_t>& values) {
-    if (values.empty()) { // An empty blur region would stand for the whole window.
-        xcb_delete_property(qt_, id_, property);
-        return;
-    }
-    xcb_change_property(qt_, XCB_PROP_MODE_REPLACE, id_, property, XCB_ATOM_CARDINAL, 32,
-                        static_cast<uint32_t>(values.size()), values.data());
 }
 
 QRegion outlineRegion(const QPainterPath& outline, double scale) {

@@ -63,7 +63,6 @@ private:
     void showFirst(xcb_pixmap_t picture);
     void applyOutline();
     void setShape(xcb_shape_kind_t kind, const std::vector<xcb_rectangle_t>& rectangles);
-    void setCardinals(xcb_atom_t property, const std::vector<uint32_t>& values);
 
     QWindow& window_;
     const X11Screens& screens_;

@@ -1,5 +1,7 @@
 #include "platform/x11/window/X11WindowFrame.h"
 
+#include "platform/x11/connection/Properties.h"
+
 #include <QGuiApplication>
 #include <QWindow>
 
@@ -45,17 +47,12 @@ void X11WindowFrame::setRoom(QMargins room) {
                                      static_cast<uint16_t>(native(frame.height()))};
         xcb_shape_rectangles(qt_, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_INPUT, XCB_CLIP_ORDERING_YX_BANDED,
                              id, 0, 0, 1, &inside);
-        setCardinals(extents_, {native(room.left()), native(room.right()), native(room.top()),
-                                native(room.bottom())});
-        setCardinals(shadow_, {0});
+        setCardinals(
+            qt_, id, extents_,
+            {native(room.left()), native(room.right()), native(room.top()), native(room.bottom())});
+        setCardinals(qt_, id, shadow_, {0});
     }
     xcb_flush(qt_);
-}
-
-void X11WindowFrame::setCardinals(xcb_atom_t property, const std::vector<uint32_t>& values) {
-    xcb_change_property(qt_, XCB_PROP_MODE_REPLACE, static_cast<xcb_window_t>(window_.winId()),
-                        property, XCB_ATOM_CARDINAL, 32, static_cast<uint32_t>(values.size()),
-                        values.data());
 }
 
 } // namespace ravelo::x11

@@ -4,8 +4,6 @@
 #include "platform/x11/connection/Connection.h"
 #include "platform/x11/settings/ManagerSelection.h"
 
-#include <vector>
-
 #include <QWindow>
 
 namespace ravelo::x11 {
@@ -24,8 +22,6 @@ public:
     void moveTo(QPoint corner) override { window_.setPosition(corner); }
 
 private:
-    void setCardinals(xcb_atom_t property, const std::vector<uint32_t>& values);
-
     QWindow& window_;
     ManagerSelection& compositor_;
     const xcb_atom_t extents_;
