@@ -15,7 +15,7 @@ public:
 
     /// Repairs an entry that no longer works, for example because the program has moved. Calls
     /// `done` if there was something to repair, perhaps later.
-    virtual void repair(std::function<void(const Result<void>&)> /*done*/) {}
+    virtual void repair(const std::function<void(const Result<void>&)>& /*done*/) {}
 
     [[nodiscard]] virtual Result<void> setEnabled(bool enabled) = 0;
 };

@@ -113,14 +113,14 @@ bool AutostartEntry::isEnabled() const {
     return !program.isEmpty() && program != gone_;
 }
 
-void AutostartEntry::repair(std::function<void(const Result<void>&)> done) {
+void AutostartEntry::repair(const std::function<void(const Result<void>&)>& done) {
     const QByteArray program = programOf(readFile(path_));
     if (program.isEmpty() || program == QFile::encodeName(program_)) {
         return;
     }
     const auto there = std::make_shared<bool>(true); // Assumed until known.
     looking_ = jobs_.run([program, there] { *there = isThere(program); },
-                         [this, program, there, done = std::move(done)] {
+                         [this, program, there, done] {
                              // The entry may have been changed meanwhile.
                              if (!*there && programOf(readFile(path_)) == program) {
                                  gone_ = program;

@@ -23,7 +23,7 @@ public:
 
     /// Rewrites the entry if it is enabled but its program is missing. Checks that without
     /// blocking, because the program may be on a dead mount.
-    void repair(std::function<void(const Result<void>&)> done) override;
+    void repair(const std::function<void(const Result<void>&)>& done) override;
 
     /// Writes or removes the entry.
     [[nodiscard]] Result<void> setEnabled(bool enabled) override;

@@ -104,8 +104,8 @@ void X11PanelWindow::orderOut() {
 }
 
 bool X11PanelWindow::setFirstPicture(const QImage& picture) {
-    if (picture.isNull() || !window_.format().hasAlpha()) {
-        return false; // It could not be taken, or the window has another depth.
+    if (!window_.format().hasAlpha()) {
+        return false; // The window has another depth.
     }
     firstPicture_.reset();
     if (!picture.isNull()) {
