@@ -168,6 +168,7 @@ public:
     Q_INVOKABLE void togglePin(const QUuid& id);
     /// Deletes at once, also on the disk; `kept`, if any, gets the clip for `restore`.
     void deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept = {});
+    void deleteClips(const QSet<QUuid>& ids, const std::shared_ptr<Deleted>& kept);
     /// Deletes all unpinned clips, also those that are still on their way.
     void clearClips(const std::shared_ptr<Deleted>& kept);
 

@@ -34,7 +34,11 @@ bool hasClip(const QList<ClipItem>& clips, const QUuid& id) {
 } // namespace
 
 void Store::deleteClip(const QUuid& id, const std::shared_ptr<Deleted>& kept) {
-    if (auto change = ClipHistory::deleted(data_.clips, id)) {
+    deleteClips({id}, kept);
+}
+
+void Store::deleteClips(const QSet<QUuid>& ids, const std::shared_ptr<Deleted>& kept) {
+    if (auto change = ClipHistory::deleted(data_.clips, ids)) {
         change->orphanedImages = takeOffDisk(deletedRecords(data_.clips, change->clips), kept);
         apply(std::move(change));
         saver_.saveNow(); // So that it survives a kill right after.

@@ -213,7 +213,7 @@ TEST(ClipHistory, DeletesOne) {
                          {"a@1", -1, unchanged, {}}};
     for (const auto& [text, index, after, orphans] : table) {
         const QList<ClipItem> before = list(QString::fromUtf8(text));
-        const auto change = ClipHistory::deleted(before, idAt(before, index));
+        const auto change = ClipHistory::deleted(before, {idAt(before, index)});
         EXPECT_EQ(result(change), after) << text;
         EXPECT_EQ(change.value_or(ClipChange()).orphanedImages, orphans) << text;
     }

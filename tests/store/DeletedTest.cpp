@@ -20,8 +20,17 @@ protected:
         }
     }
 
-    void remove(const QString& text) {
-        store_->deleteClip(std::ranges::find(store_->clips(), text, &ClipItem::text)->id, deleted_);
+    void remove(const QStringList& texts) {
+        QSet<QUuid> ids;
+        for (const QString& text : texts) {
+            ids.insert(std::ranges::find(store_->clips(), text, &ClipItem::text)->id);
+        }
+        int changes = 0;
+        const auto counting =
+            QObject::connect(store_.get(), &Store::clipsChanged, [&] { ++changes; });
+        store_->deleteClips(ids, deleted_);
+        QObject::disconnect(counting);
+        EXPECT_EQ(changes, 1) << "not deleted in one go";
     }
 
     void pin(const QString& text) {
@@ -40,13 +49,18 @@ protected:
 
 TEST_F(Undo, restoresTheOrder) {
     struct Row {
-        QString steps; ///< "-a" deletes a, "+a" copies it, "clear" clears the history.
+        QString
+            steps; ///< "-a,b" deletes a and b at once, "+a" copies it, "clear" clears the history.
         std::string restored;
     };
 
-    const Row table[] = {{u"-a"_s, "a b d c"},      {u"-b"_s, "a b d c"},
-                         {u"-d"_s, "a b d c"},      {u"-b -a -c"_s, "a b d c"},
-                         {u"clear"_s, "a b d c"},   {u"-a -d +new"_s, "new a b d c"},
+    const Row table[] = {{u"-a"_s, "a b d c"},
+                         {u"-b"_s, "a b d c"},
+                         {u"-d"_s, "a b d c"},
+                         {u"-b -a -c"_s, "a b d c"},
+                         {u"-b,c,d"_s, "a b d c"},
+                         {u"clear"_s, "a b d c"},
+                         {u"-a -d +new"_s, "new a b d c"},
                          {u"clear +d"_s, "d a b c"}};
     for (const Row& row : table) {
         SCOPED_TRACE(qPrintable(row.steps));
@@ -62,7 +76,8 @@ TEST_F(Undo, restoresTheOrder) {
             if (step == u"clear") {
                 store_->clearClips(deleted_);
             } else {
-                step.startsWith(u'-') ? remove(step.mid(1)) : store_->addClip(step.mid(1));
+                step.startsWith(u'-') ? remove(step.mid(1).split(u','))
+                                      : store_->addClip(step.mid(1));
             }
         }
         ASSERT_NE(texts(), before);
@@ -150,7 +165,7 @@ TEST_F(Undo, restoresTheOldestAboveTheLimitUntilTheNextCopy) {
     for (int i = 0; i < limit; ++i) {
         store_->addClip(u"text %1"_s.arg(i));
     }
-    remove(u"text 0"_s);
+    remove({u"text 0"_s});
     store_->addClip(u"new"_s);
     EXPECT_EQ(undo().count, 1);
     EXPECT_EQ(store_->clips().back().text, u"text 0"_s);

@@ -167,9 +167,10 @@ std::optional<ClipChange> ClipHistory::newerFirst(const QList<ClipItem>& clips) 
     return sorted == clips ? std::nullopt : std::optional(ClipChange{std::move(sorted), {}});
 }
 
-std::optional<ClipChange> ClipHistory::deleted(QList<ClipItem> clips, const QUuid& id) {
+std::optional<ClipChange> ClipHistory::deleted(QList<ClipItem> clips, const QSet<QUuid>& ids) {
     const qsizetype before = clips.size();
-    QStringList orphans = remove(clips, [&](const ClipItem& clip) { return clip.id == id; });
+    QStringList orphans =
+        remove(clips, [&](const ClipItem& clip) { return ids.contains(clip.id); });
     if (clips.size() == before) {
         return std::nullopt;
     }

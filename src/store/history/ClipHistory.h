@@ -56,7 +56,8 @@ struct ClipHistory {
     /// Sorts each group newest first. A new copy stays above the pinned ones.
     [[nodiscard]] static std::optional<ClipChange> newerFirst(const QList<ClipItem>& clips);
 
-    [[nodiscard]] static std::optional<ClipChange> deleted(QList<ClipItem> clips, const QUuid& id);
+    [[nodiscard]] static std::optional<ClipChange> deleted(QList<ClipItem> clips,
+                                                           const QSet<QUuid>& ids);
 
     /// Puts a deleted clip back to its old place in a list whose ids were once `order`, unless its
     /// text was copied again meanwhile. The limit applies only with the next copy.

@@ -238,11 +238,8 @@ void Clips::copySelected() {
 
 void Clips::removeSelected() {
     services_.deleting.run([this, ids = list_.selection().ids()](const auto& records) {
-        return removed([&] {
-            for (const QUuid& id : ids) {
-                services_.store.deleteClip(id, records);
-            }
-        });
+        return removed(
+            [&] { services_.store.deleteClips(QSet<QUuid>(ids.begin(), ids.end()), records); });
     });
 }
 
