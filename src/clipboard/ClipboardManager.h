@@ -53,9 +53,10 @@ public:
     void copyNewText(const QString& text);
 
     /// Puts a clip on the pasteboard in all its forms, once they are read; if they cannot be read
-    /// soon, its text alone. Does nothing if something else was copied meanwhile.
+    /// soon, its text alone. Does nothing if something else was copied meanwhile. `done` hears
+    /// whether there is anything to copy; an image may be gone from the disk.
     void copyClip(
-        const QUuid& clip, const std::function<void()>& done = [] {});
+        const QUuid& clip, const std::function<void(bool any)>& done = [](bool /*any*/) {});
 
     /// Puts a stored image on the pasteboard once it is read. Does nothing if the file is no PNG or
     /// something else was copied meanwhile.

@@ -28,15 +28,15 @@ void ClipboardManager::copyNewText(const QString& text) {
     copyText(text);
 }
 
-void ClipboardManager::copyClip(const QUuid& clip, const std::function<void()>& done) {
+void ClipboardManager::copyClip(const QUuid& clip, const std::function<void(bool)>& done) {
     if (const ClipItem* item = find(clip)) {
         copying_ = reading_.clip(*item, ClipReading::Files::included,
                                  [write = unlessOverwritten(), done](const Forms& forms) {
                                      write(forms);
-                                     done();
+                                     done(!forms.isEmpty());
                                  });
     } else {
-        done();
+        done(false);
     }
 }
 

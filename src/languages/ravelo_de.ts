@@ -1964,6 +1964,10 @@
         <source>Copied %1 ✓ Pictures left out</source>
         <translation>%1 kopiert ✓ Ohne Bilder</translation>
     </message>
+    <message>
+        <source>The image cannot be read</source>
+        <translation>Das Bild ist nicht lesbar</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::DataLock</name>

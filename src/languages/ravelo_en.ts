@@ -1964,6 +1964,10 @@
         <source>Copied %1 ✓ Pictures left out</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>The image cannot be read</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::DataLock</name>

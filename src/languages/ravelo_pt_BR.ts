@@ -1964,6 +1964,10 @@
         <source>Copied %1 ✓ Pictures left out</source>
         <translation>%1 copiados ✓ Sem imagens</translation>
     </message>
+    <message>
+        <source>The image cannot be read</source>
+        <translation>A imagem não pode ser lida</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::DataLock</name>

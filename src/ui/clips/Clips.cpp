@@ -78,7 +78,13 @@ void Clips::copy(int row, const std::function<void()>& done) {
         services_.controller.copy(clip->text);
         done();
     } else {
-        services_.clipboard.copyClip(clip->id, done);
+        services_.clipboard.copyClip(clip->id, [this, done](bool any) {
+            if (any) {
+                done();
+            } else {
+                services_.toast.flash(tr("The image cannot be read"));
+            }
+        });
     }
 }
 

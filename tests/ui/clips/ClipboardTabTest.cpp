@@ -320,6 +320,16 @@ TEST_F(PanelWithImages, showsADecodedImageOrASymbol) {
     EXPECT_FALSE(world.pasteboard.bytes("image/png"_L1).isEmpty());
 }
 
+TEST_F(PanelWithImages, staysOpenIfTheImageIsGone) {
+    open();
+    press(Qt::Key_Down);
+    press(Qt::Key_Down);
+    press(Qt::Key_Return);
+    world.scheduler.advance(Seconds(0)); // It is read off the main thread.
+    EXPECT_EQ(toast(), u"The image cannot be read"_s);
+    EXPECT_TRUE(world.controller.isOpen());
+}
+
 } // namespace
 
 } // namespace ravelo
