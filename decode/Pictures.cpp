@@ -164,7 +164,7 @@ Picture fromHeif(const Request& request, const QByteArray& bytes) {
         return {};
     }
     const bool whole = request.kind == Kind::probe || request.kind == Kind::png;
-    const Picture found = probed(heif->size(bytes), whole ? maxPixels : maxHeifPixels);
+    Picture found = probed(heif->size(bytes), whole ? maxPixels : maxHeifPixels);
     if (found.status != Status::done || request.kind == Kind::probe) {
         return found;
     }
