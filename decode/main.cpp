@@ -90,8 +90,8 @@ bool carryOut(Order& order, Formats formats) {
     const bool isPossible = formats == Formats::all ||
                             (formatOf(bytes) == Format::png && order.request.kind != Kind::png);
     const Picture picture = isPossible ? decodePicture(order.request, bytes) : Picture();
-    Reply reply{picture.status, picture.size.width(), picture.size.height(),
-                hasWorkedLong() ? 1U : 0U, 0};
+    const Reply reply{picture.status, picture.size.width(), picture.size.height(),
+                      hasWorkedLong() ? 1U : 0U, 0};
     const QByteArrayView contents =
         picture.image.isNull()
             ? QByteArrayView(picture.png)

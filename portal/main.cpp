@@ -19,7 +19,7 @@ int main(int argc, char** argv) {
     }
     const QCoreApplication application(argc, argv);
     if (QCoreApplication::arguments().value(1) == QLatin1StringView("keyboard")) {
-        Keyboard keyboard;
+        const Keyboard keyboard;
         return QCoreApplication::exec();
     }
     return transferFiles();
