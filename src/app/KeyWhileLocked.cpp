@@ -22,6 +22,7 @@ KeyWhileLocked::KeyWhileLocked(Services services, Reports reports)
             forgetIfLocked();
         }
     });
+    wasLocked_ = isScreenLocked();
 }
 
 bool KeyWhileLocked::isScreenLocked() const {

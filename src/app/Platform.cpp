@@ -141,6 +141,7 @@ void makeSystem(Platform& platform, const QProcessEnvironment& environment) {
     platform.vault = std::make_shared<Vault>(Platform::dataFolder());
     platform.dataLock = std::make_shared<DataLock>(
         Platform::lockFile(), Platform::dataFolder() + u"/store.json"_s, platform.vault->keyPath());
+    platform.dataOwnership = Handle([lock = platform.dataLock] { lock->release(); });
     platform.preferences = std::make_unique<PreferenceFile>(
         Platform::preferenceFile(),
         PreferenceFile::Services{*platform.scheduler, *platform.worker, platform.mayWrite()});

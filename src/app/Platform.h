@@ -83,6 +83,7 @@ struct Platform {
     std::unique_ptr<DisplayServer> display;
     std::function<std::unique_ptr<HotZone>(PanelWindow&)> makeHotZone;
     std::shared_ptr<DataLock> dataLock; ///< Detached jobs may ask it after the rest is gone.
+    Handle dataOwnership;               ///< Releases the lock with the rest.
     std::unique_ptr<Scheduler> scheduler;
     std::unique_ptr<Worker> worker;
     std::unique_ptr<PreferenceFile> preferences;

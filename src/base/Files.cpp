@@ -203,6 +203,16 @@ Result<void> writeFileAtomically(const QString& path, const QByteArray& bytes) {
     return syncFolder(target);
 }
 
+Result<void> removeWithTarget(const QString& path) {
+    for (const QString& one : {behindLinks(path), path}) {
+        if (!QFile::remove(one) && isTaken(one)) {
+            return failure(
+                QCoreApplication::translate("ravelo::Files", "%1 could not be removed").arg(one));
+        }
+    }
+    return {};
+}
+
 Result<void> syncFolderOf(const QString& path) {
     return syncFolder(QFile::encodeName(path));
 }
@@ -213,13 +223,14 @@ bool isTemporaryName(const QString& name) {
     const auto isLetter = [](QChar c) {
         return c.unicode() < 0x80 && c.isLetterOrNumber();
     };
-    const auto isLower = [](QChar c) {
-        return c.isLower();
-    };
-    // A word, such as in "store.json.backup", is the user's own.
-    return name.size() >= length && name[name.size() - length] == u'.' &&
-           std::all_of(name.cend() - (length - 1), name.cend(), isLetter) &&
-           !std::all_of(name.cend() - (length - 1), name.cend(), isLower);
+    if (name.size() < length || name[name.size() - length] != u'.') {
+        return false;
+    }
+    // A word or a date, such as in "store.json.backup", is the user's own.
+    const QStringView letters = QStringView(name).last(length - 1);
+    return std::ranges::all_of(letters, isLetter) &&
+           std::ranges::any_of(letters, [](QChar c) { return c.isLower(); }) &&
+           std::ranges::any_of(letters, [](QChar c) { return c.isUpper(); });
 }
 
 void makePrivateFolder(const QString& path) {

@@ -18,6 +18,9 @@ enum class Presence {
     unknown ///< For example on a mount whose server does not answer.
 };
 
+/// Removes a file, and what it leads to if it is a link. None is no failure.
+[[nodiscard]] Result<void> removeWithTarget(const QString& path);
+
 /// Whether a file or folder exists. May block for ever; any thread.
 [[nodiscard]] Presence presenceOf(const QByteArray& path);
 

@@ -4,8 +4,8 @@
 
 namespace ravelo {
 
-/// While it lives, new threads start with all signals blocked, so that the main thread handles
-/// them.
+/// While it lives, no signal interrupts this thread, and threads that it starts leave signals to
+/// the main thread.
 class SignalsBlocked {
 public:
     SignalsBlocked() {

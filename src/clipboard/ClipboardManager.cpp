@@ -92,6 +92,7 @@ void ClipboardManager::poll() {
 /// Not even its types are read.
 void ClipboardManager::ignore() {
     ignoredLast_ = true;
+    unwantedCount_ = lastChangeCount_;
     answerSaveRequest();
 }
 
@@ -125,6 +126,7 @@ void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const QString
     const auto key =
         passedOnUnread || unwanted || isConcealed(snapshot) ? std::nullopt : contentsKey(snapshot);
     if (!key) {
+        unwantedCount_ = snapshot.changeCount;
         if (held_ && held_->changeCount == snapshot.changeCount) {
             refuse({}); // There was no other form.
         }

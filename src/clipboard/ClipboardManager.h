@@ -161,6 +161,7 @@ private:
     TextEnds textEnds_ = TextEnds::trimmed;
     qint64 lastChangeCount_;
     qint64 suppressUntilCount_ = -1; ///< Our own change.
+    qint64 unwantedCount_ = -1;      ///< The last copy that was not to be kept.
     std::shared_ptr<Held> held_;     ///< Null at first.
     bool ignoredLast_ = false;       ///< The last copy, unread.
     Handle timer_;

@@ -56,7 +56,7 @@ std::function<void(const ClipboardManager::Forms&)> ClipboardManager::unlessOver
     return [this, before = held_, seen = lastChangeCount_](const Forms& forms) {
         const bool isRead = held_ != before && held_->changeCount > seen;
         const bool isBeingRead = !reads_.empty() && reads_.rbegin()->first > seen;
-        if (!isRead && !isBeingRead) {
+        if (!isRead && !isBeingRead && unwantedCount_ <= seen) {
             write(forms);
         }
     };

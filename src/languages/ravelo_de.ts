@@ -2137,6 +2137,10 @@
         <source>the folder is read-only</source>
         <translation>der Ordner ist schreibgeschützt</translation>
     </message>
+    <message>
+        <source>%1 could not be removed</source>
+        <translation>%1 konnte nicht gelöscht werden</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::Focus</name>

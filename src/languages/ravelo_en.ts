@@ -2137,6 +2137,10 @@
         <source>the folder is read-only</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>%1 could not be removed</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::Focus</name>

@@ -2137,6 +2137,10 @@
         <source>the folder is read-only</source>
         <translation>a pasta é somente leitura</translation>
     </message>
+    <message>
+        <source>%1 could not be removed</source>
+        <translation>%1 não pôde ser removido</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::Focus</name>

@@ -19,15 +19,6 @@ Result<void> allowed(const OwnFile::Permission& mayWrite) {
     return mayWrite ? mayWrite() : Result<void>();
 }
 
-Result<void> removeFile(const QString& path) {
-    if (const QString target = QFileInfo(path).symLinkTarget(); !target.isEmpty()) {
-        QFile::remove(target);
-    }
-    return QFile::remove(path) || !QFileInfo::exists(path)
-               ? Result<void>()
-               : failure(u"%1 could not be removed"_s.arg(path));
-}
-
 /// A folder that does not exist is one without files.
 QStringList filesIn(const QString& folder, const QStringList& names) {
     QStringList paths;
@@ -85,7 +76,7 @@ Result<void> removeFiles(const QStringList& paths, const OwnFile::Permission& ma
         if (Result<void> done = allowed(mayWrite); !done) {
             return done;
         }
-        if (Result<void> done = removeFile(path); !done) {
+        if (Result<void> done = removeWithTarget(path); !done) {
             return done;
         }
     }
@@ -176,7 +167,7 @@ Result<void> eraseFiles(const QString& folder, const OwnFile::Permission& mayWri
         return done;
     }
     for (const QString& path : paths) {
-        if (const Result<void> removed = removeFile(path); !removed && done) {
+        if (const Result<void> removed = removeWithTarget(path); !removed && done) {
             done = removed;
         }
     }

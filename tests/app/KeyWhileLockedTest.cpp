@@ -26,6 +26,10 @@ protected:
         encryption_->useKeyring();
         settle();
         settings_.forgetKeyWhileLocked.set(true);
+        watchScreen();
+    }
+
+    void watchScreen() {
         screenKey_ = std::make_unique<KeyWhileLocked>(
             KeyWhileLocked::Services{settings_, *store_, *encryption_, decoderProcess_, {&screen_}},
             KeyWhileLocked::Reports{[this] { ++forgotten_; }, [](const QString&) {},
@@ -56,6 +60,15 @@ TEST_F(KeyWhileLockedTest, GoesAndComesWithTheLock) {
     screen_.setLocked(false);
     settle();
     EXPECT_TRUE(isOpen());
+    EXPECT_EQ(texts(), "kept");
+}
+
+TEST_F(KeyWhileLockedTest, ComesIfTheScreenWasLockedAtTheStart) {
+    screen_.setLocked(true);
+    settle();
+    watchScreen();
+    screen_.setLocked(false);
+    settle();
     EXPECT_EQ(texts(), "kept");
 }
 

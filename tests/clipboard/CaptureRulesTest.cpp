@@ -208,6 +208,7 @@ TEST(FormRules, lookIntoMarkup) {
          false},
         {"address", {u"text/uri-list"_s, "file:///tmp/" + key + "\r\n"}, false},
         {"ignored", {u"text/html"_s, QByteArray(70'000, ' ') + "<p title='project-x'>"}, false},
+        {"across a cut", {u"text/html"_s, QByteArray(59'995, ' ') + "project-x"}, false},
         {"a document", {u"application/vnd.ms-works"_s, key}, true},
     };
     CaptureRules rules;

@@ -58,7 +58,7 @@ const Field fields[] = {
     {"showPeakHours", &AppSettings::showPeakHoursChanged, true, false, 0},
     {"keepSession", &AppSettings::keepSessionChanged, false, true, 1},
     {"handedOverFirst", &AppSettings::handedOverFirstChanged, false, true, u"true"_s},
-    {"secondAccount", &AppSettings::secondAccountChanged, QString(), u"/work"_s, 2},
+    {"secondAccount", &AppSettings::secondAccountChanged, QString(), u"/home/u/second"_s, 2},
     {"notifyTimer", &AppSettings::notifyTimerChanged, false, true, 1},
     {"notifyFiles", &AppSettings::notifyFilesChanged, false, true, 1},
     {"notifySaving", &AppSettings::notifySavingChanged, false, true, 1},

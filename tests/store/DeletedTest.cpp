@@ -49,8 +49,8 @@ protected:
 
 TEST_F(Undo, restoresTheOrder) {
     struct Row {
-        QString
-            steps; ///< "-a,b" deletes a and b at once, "+a" copies it, "clear" clears the history.
+        /// "-a,b" deletes a and b at once, "+a" copies it, "clear" clears the history.
+        QString steps;
         std::string restored;
     };
 

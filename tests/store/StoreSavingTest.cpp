@@ -201,6 +201,7 @@ TEST(OrphanedImages, AreOldOursAndUnnamed) {
                          {id + u".png.Xy0XXX"_s, 90000, true},
                          {id + u".png.X.0XXX"_s, 90000, false},
                          {id + u".png.backup"_s, 90000, false},
+                         {id + u".png.240101"_s, 90000, false},
                          {u".png"_s, 90000, false}};
     const Date now{1e9};
     for (const Row& row : table) {

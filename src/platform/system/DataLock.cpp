@@ -104,10 +104,16 @@ DataLock::DataLock(QString path, QString data, QString keyFile)
     : path_(std::move(path)), data_(std::move(data)), keyFile_(std::move(keyFile)) {}
 
 DataLock::~DataLock() {
+    release();
+}
+
+void DataLock::release() {
+    const std::scoped_lock lock(mutex_);
     if (file_ >= 0 && !isEncrypted() && readFile(path_) == ours_) {
         QFile::remove(path_);
     }
     letGo();
+    lost_ = Error{QStringLiteral("Ravelo ends")};
 }
 
 Result<void> DataLock::claim(Claim claim) {

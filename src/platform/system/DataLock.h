@@ -28,8 +28,10 @@ public:
     /// `path` is the lock file, `data` the file that it protects.
     DataLock(QString path, QString data, QString keyFile = {});
 
-    /// Releases the lock if it is still ours.
     ~DataLock();
+
+    /// Gives up the data, if they are still ours; from then on they are not.
+    void release();
 
     DataLock(const DataLock&) = delete;
     DataLock& operator=(const DataLock&) = delete;

@@ -71,11 +71,8 @@ Result<void> erasePreferences(const QString& path) {
     Result<void> done;
     for (const QFileInfo& one :
          file.dir().entryInfoList({file.fileName() + u'*'}, QDir::Files | QDir::System)) {
-        if (one.isSymLink()) { // What it says is elsewhere.
-            QFile::remove(one.symLinkTarget());
-        }
-        if (!QFile::remove(one.filePath())) {
-            done = failure(QStringLiteral("%1 could not be removed").arg(one.filePath()));
+        if (const Result<void> removed = removeWithTarget(one.filePath()); !removed) {
+            done = removed;
         }
     }
     const Result<void> synced = syncFolderOf(path);

@@ -73,13 +73,14 @@ void Clips::copy(int row, const std::function<void()>& done) {
     if (clip == nullptr) {
         return;
     }
-    services_.toast.flashCopied();
     if (clip->kind == ClipKind::image && clip->imageFileName.isEmpty()) {
         services_.controller.copy(clip->text);
+        services_.toast.flashCopied();
         done();
     } else {
         services_.clipboard.copyClip(clip->id, [this, done](bool any) {
             if (any) {
+                services_.toast.flashCopied();
                 done();
             } else {
                 services_.toast.flash(tr("The image cannot be read"));

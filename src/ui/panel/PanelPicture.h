@@ -18,8 +18,8 @@ class Scheduler;
 class Usage;
 
 /// Keeps a picture of the closed panel's content with the panel's window, so that opening shows
-/// something before anything is rendered; not if the display server cannot show it. None outlives
-/// what it shows, even while the screen is locked. Main thread.
+/// something before anything is rendered; not if the display server cannot show it. Dropped
+/// once it is outdated and cannot be drawn again, as behind a locked screen. Main thread.
 class PanelPicture : public QObject {
     Q_OBJECT
 

@@ -20,7 +20,7 @@ namespace ravelo {
 class ImageDecoder;
 class Store;
 
-/// What the preview shows of one clip. Main thread.
+/// What the preview shows of one clip; `None` once that is deleted. Main thread.
 class ClipPreview : public QObject {
     Q_OBJECT
     QML_ELEMENT
@@ -54,7 +54,7 @@ public:
     /// `store` outlives this.
     ClipPreview(Store& store, std::shared_ptr<ImageDecoder> decoder, const QLocale& locale);
 
-    /// Nothing for a null id, or if there is no such clip, or not any more.
+    /// Nothing for a null id, or if there is no such clip.
     void show(const QUuid& id);
 
     /// False if all of the text is there.

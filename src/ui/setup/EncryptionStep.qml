@@ -18,7 +18,7 @@ FocusScope {
             detail: qsTr("Readable by your account, and from a copy of the disk")
         },
         {
-            value: "keyring", symbol: "key", title: qsTr("Encrypt, key in the keyring"), possible: Vault.hasKeyring,
+            value: "keyring", symbol: "key", title: qsTr("Encrypt, key in the keyring"), possible: Vault.hasKeyring && !Vault.locked,
             detail: Vault.hasKeyring ? qsTr("Opens with your login, nothing to type")
                                      : qsTr("No keyring on this desktop")
         },

@@ -49,7 +49,7 @@ TEST(DefaultProgram, isTheOneThatTheDesktopStarts) {
          {{cachePath, cache + "door=org-kde-a.desktop\n"},
           {"system/applications/org/kde-a.desktop", entry("Deep")}},
          "Deep"},
-        {"with a dash at its begin",
+        {"beginning with a dash",
          {{userList, "[Default Applications]\nx-scheme-handler/door=-gone.desktop;b.desktop;\n"}},
          "B"},
         {"in the user's language",

@@ -367,11 +367,11 @@ TEST_F(Settings, RefuseABadFolderOfASecondAccount) {
         done(folder == u"/gone"_s ? u"No such folder"_s : QString());
     };
     SettingsWindow checked(subjects);
-    checked.chooseSecondAccount(u"/work"_s);
-    EXPECT_EQ(world.settings.secondAccount(), u"/work"_s);
+    checked.chooseSecondAccount(u"/home/u/second"_s);
+    EXPECT_EQ(world.settings.secondAccount(), u"/home/u/second"_s);
     EXPECT_EQ(checked.accountProblem(), QString());
     checked.chooseSecondAccount(u"/gone"_s);
-    EXPECT_EQ(world.settings.secondAccount(), u"/work"_s) << "the former one stays";
+    EXPECT_EQ(world.settings.secondAccount(), u"/home/u/second"_s) << "the former one stays";
     EXPECT_EQ(checked.accountProblem(), u"No such folder"_s);
 }
 

@@ -104,7 +104,8 @@ std::optional<qint64> X11Pasteboard::adopt(const QList<PasteboardEntry>& forms) 
 
 void X11Pasteboard::answerSaveRequests(qint64 count, SaveAnswer answer) {
     listener_.post([saveRequests = saveRequests_, counter = counter_, count, answer] {
-        if (counter->value() == count) { // Otherwise there are others, which nobody has read.
+        if (counter->value() ==
+            count) { // Otherwise something newer was copied, which nobody has read.
             saveRequests->answer(answer);
         }
     });
