@@ -91,7 +91,7 @@ void CapturePause::awaitEnd() {
 }
 
 void CapturePause::set(std::optional<Pause> pause) {
-    pause_ = std::move(pause);
+    pause_ = pause;
     QJsonValue saved;
     if (pause_) {
         saved = pause_->timed ? QJsonObject{{u"until"_s, pause_->timed->until.sinceReference},

@@ -172,8 +172,9 @@ bool isConcealed(const PasteboardSnapshot& snapshot) {
 }
 
 QString capturedText(const PasteboardSnapshot& snapshot, TextEnds ends) {
-    QString text = QString::fromUtf8(snapshot.answers.value(plainTextType).value_or(QByteArray()));
-    QString trimmed = text.trimmed();
+    const QString text =
+        QString::fromUtf8(snapshot.answers.value(plainTextType).value_or(QByteArray()));
+    const QString trimmed = text.trimmed();
     if (mayBeFiles(trimmed)) {
         const QByteArrayList paths = copiedPaths(snapshot);
         const QByteArray joined = paths.join('\n');

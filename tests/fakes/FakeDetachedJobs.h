@@ -7,14 +7,14 @@
 
 namespace ravelo {
 
-/// Runs each job when time advances, or never.
+/// Runs each job when time has advanced by `takes`, or never.
 class FakeDetachedJobs final : public DetachedJobs {
 public:
     explicit FakeDetachedJobs(Scheduler& scheduler) : scheduler_(scheduler) {}
 
     [[nodiscard]] Handle run(std::function<void()> job, std::function<void()> done) override {
         ++given;
-        return scheduler_.after(Seconds(0), [this, job = std::move(job), done = std::move(done)] {
+        return scheduler_.after(takes, [this, job = std::move(job), done = std::move(done)] {
             if (!hung) {
                 job();
                 done();
@@ -22,6 +22,7 @@ public:
         });
     }
 
+    Seconds takes{};
     bool hung = false;
     int given = 0;
 

@@ -45,7 +45,7 @@ std::optional<HttpsAnswer> answerIn(const QByteArray& output, qint64 maxBody) {
 
 } // namespace
 
-CurlClient::CurlClient(QByteArray userAgent, const QProcessEnvironment& environment,
+CurlClient::CurlClient(const QByteArray& userAgent, const QProcessEnvironment& environment,
                        QStringList options)
     // -q comes first: the user's .curlrc is not for us. The header lines of the input hold the
     // token, which every user could read among the arguments.

@@ -17,7 +17,7 @@ class CurlClient final : public QObject, public HttpsClient {
 public:
     /// `userAgent` as in RFC 9110. curl gets only the proxies of `environment`.
     /// `options` are further arguments of curl.
-    CurlClient(QByteArray userAgent, const QProcessEnvironment& environment,
+    CurlClient(const QByteArray& userAgent, const QProcessEnvironment& environment,
                QStringList options = {});
 
     [[nodiscard]] Handle get(const HttpsRequest& request,

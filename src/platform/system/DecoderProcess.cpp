@@ -20,7 +20,7 @@ using namespace decode;
 /// Less than the idle time of the process, which could otherwise end just before a request.
 constexpr std::chrono::seconds maxIdle(idleSeconds - 5);
 constexpr qsizetype maxBad = 1000;
-constexpr qsizetype maxKept = 256 * 1024; ///< Bytes, for one picture.
+constexpr qsizetype maxKept = qsizetype(256) * 1024; ///< Bytes, for one picture.
 
 constexpr uint32_t probeTime = 500; ///< Milliseconds of processor time.
 constexpr uint32_t smallTime = 2500;

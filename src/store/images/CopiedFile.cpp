@@ -54,7 +54,7 @@ Handle readCopiedFile(DetachedJobs& jobs, Scheduler& scheduler, const QByteArray
                       std::function<void(const CopiedContents&)> done) {
     return runTimed<CopiedContents>(
         jobs, scheduler, timeout, [path] { return read(path); },
-        [done = std::move(done)](std::optional<CopiedContents> contents) {
+        [done = std::move(done)](const std::optional<CopiedContents>& contents) {
             done(contents.value_or(CopiedContents()));
         });
 }

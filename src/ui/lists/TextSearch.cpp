@@ -56,7 +56,8 @@ Scan scanAscii(QStringView text, QStringView wanted) {
         char16_t maybe = 0;
         for (qsizetype i = place; i < place + block; ++i) {
             all |= first[i];
-            maybe |= static_cast<char16_t>(begins.is(first[i]) & ends.is(last[i]));
+            maybe |=
+                static_cast<char16_t>(char16_t(begins.is(first[i])) & char16_t(ends.is(last[i])));
         }
         for (qsizetype i = place; maybe != 0 && i < place + block; ++i) {
             if (matches(i)) {

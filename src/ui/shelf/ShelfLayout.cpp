@@ -36,11 +36,11 @@ ShelfLayout::ShelfLayout(const QList<qsizetype>& stackSizes, double width) {
         }
         const QRectF tray(corner, size);
         for (qsizetype i = 0; i < count; ++i) {
-            const auto column = static_cast<double>(i % maxColumns);
-            const auto line = static_cast<double>(i / maxColumns);
-            tiles.append(QRectF(QPointF(tray.x() + trayPad + column * (tile.width() + tileGap),
-                                        tray.y() + trayPad + line * (tile.height() + tileGap)),
-                                tile));
+            const qsizetype column = i % maxColumns;
+            const qsizetype line = i / maxColumns;
+            const QPointF place(double(column) * (tile.width() + tileGap),
+                                double(line) * (tile.height() + tileGap));
+            tiles.append(QRectF(tray.topLeft() + QPointF(trayPad, trayPad) + place, tile));
         }
         trays.append(tray);
         height = std::max(height, tray.bottom());

@@ -48,7 +48,7 @@ void PortalSetting::settingChanged(const QDBusMessage& change) {
 }
 
 void PortalSetting::set(const QVariant& value) {
-    QVariant plain = unpacked(value);
+    const QVariant plain = unpacked(value);
     if (std::exchange(value_, plain) != plain) {
         listeners_.notify();
     }

@@ -26,6 +26,7 @@ template <typename Object>
 using Owned = std::unique_ptr<Object, Release<Object>>;
 
 // Specialisations, as the functions themselves are not visible to other translation units.
+// NOLINTBEGIN(bugprone-macro-parentheses): Names of types cannot have them.
 #define RAVELO_OWNED(Object, function)                                                             \
     template <>                                                                                    \
     struct Release<Object> {                                                                       \
@@ -33,6 +34,7 @@ using Owned = std::unique_ptr<Object, Release<Object>>;
             function(object);                                                                      \
         }                                                                                          \
     };
+// NOLINTEND(bugprone-macro-parentheses)
 
 RAVELO_OWNED(wl_registry, wl_registry_destroy)
 RAVELO_OWNED(wl_event_queue, wl_event_queue_destroy)

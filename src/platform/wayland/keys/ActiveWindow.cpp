@@ -18,7 +18,7 @@ void ignore(void* /*self*/, zwlr_foreign_toplevel_handle_v1* /*window*/, wl_outp
 const zwlr_foreign_toplevel_manager_v1_listener ActiveWindow::managerEvents = {
     [](void* self, Manager* manager, Toplevel* handle) {
         auto& active = *static_cast<ActiveWindow*>(self);
-        Owned<Toplevel> owned(handle);
+        Owned<Toplevel> owned(handle); // NOLINT(misc-const-correctness): It is moved from.
         if (manager == active.manager_) {
             zwlr_foreign_toplevel_handle_v1_add_listener(handle, &windowEvents, &active);
             active.windows_.try_emplace(handle, std::move(owned), Window{active.nextId_++});

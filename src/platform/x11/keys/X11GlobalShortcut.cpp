@@ -83,6 +83,7 @@ GlobalShortcut::State X11GlobalShortcut::grab() {
     }
     grabbed_ = true;
     std::vector<xcb_void_cookie_t> cookies;
+    cookies.reserve(place_.modifiers.size());
     for (const uint16_t modifiers : place_.modifiers) {
         cookies.push_back(xcb_grab_key_checked(connection_.get(), 1, connection_.root(), modifiers,
                                                place_.code, XCB_GRAB_MODE_ASYNC,
