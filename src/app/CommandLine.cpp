@@ -114,7 +114,7 @@ Result<Command> parseCommandLine(const QList<QByteArray>& arguments) {
     return first.startsWith('-') && first != "--" ? parseOption(arguments) : parseFiles(arguments);
 }
 
-QString helpText() {
+QString helpText() { // NOLINT(readability-function-size): It is one text.
     return uR"(Usage: ravelo [OPTION]
        ravelo [--] FILE...
        ravelo timer start MINUTES [LABEL]

@@ -2,6 +2,8 @@
 
 #include "base/Handle.h"
 
+#include <QString>
+
 #include <functional>
 #include <memory>
 
