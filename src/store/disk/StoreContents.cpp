@@ -9,6 +9,7 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <algorithm>
 #include <optional>
 #include <utility>
 
@@ -29,6 +30,15 @@ std::optional<StoreContents> parsed(const QByteArray& bytes) {
 
 QString waitingFolder(const Vault& vault) {
     return vault.folder() + u"/waiting"_s;
+}
+
+/// Of its newest clip.
+Date dateOf(const StoreContents& contents) {
+    Date newest;
+    for (const ClipItem& clip : contents.data.clips) {
+        newest = std::max(newest, clip.date);
+    }
+    return newest;
 }
 
 } // namespace
@@ -56,6 +66,8 @@ ReadStore readStore(const Vault& vault, const QString& path) {
             stored.waitingFiles.append(file.filePath());
         }
     }
+    // The times of files can be equal, or lost with a copy of the home folder.
+    std::ranges::stable_sort(stored.waiting, {}, dateOf);
     return stored;
 }
 
