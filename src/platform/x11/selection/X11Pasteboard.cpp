@@ -104,8 +104,7 @@ std::optional<qint64> X11Pasteboard::adopt(const QList<PasteboardEntry>& forms) 
 
 void X11Pasteboard::answerSaveRequests(qint64 count, SaveAnswer answer) {
     listener_.post([saveRequests = saveRequests_, counter = counter_, count, answer] {
-        if (counter->value() ==
-            count) { // Otherwise something newer was copied, which nobody has read.
+        if (counter->value() == count) { // Else something newer was copied.
             saveRequests->answer(answer);
         }
     });
