@@ -31,6 +31,9 @@ public:
 
     [[nodiscard]] int number() const { return number_; }
 
+    /// For a callee that closes it.
+    [[nodiscard]] int release() { return std::exchange(number_, -1); }
+
     [[nodiscard]] explicit operator bool() const { return number_ >= 0; }
 
 private:
