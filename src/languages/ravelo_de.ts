@@ -283,6 +283,9 @@
         <source>Custom minutes</source>
         <translation>Eigene Minutenzahl</translation>
     </message>
+</context>
+<context>
+    <name>CustomMinutesField</name>
     <message>
         <source>minutes</source>
         <translation>Minuten</translation>
@@ -939,6 +942,9 @@
         <source>Focus presets</source>
         <translation>Fokus-Vorlagen</translation>
     </message>
+</context>
+<context>
+    <name>PresetList</name>
     <message>
         <source>Add preset</source>
         <translation>Vorlage hinzufügen</translation>
@@ -988,12 +994,15 @@
 <context>
     <name>Question</name>
     <message>
-        <source>No</source>
-        <translation>Nein</translation>
-    </message>
-    <message>
         <source>Yes</source>
         <translation>Ja</translation>
+    </message>
+</context>
+<context>
+    <name>QuestionContent</name>
+    <message>
+        <source>No</source>
+        <translation>Nein</translation>
     </message>
 </context>
 <context>

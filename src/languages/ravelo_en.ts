@@ -283,6 +283,9 @@
         <source>Custom minutes</source>
         <translation type="unfinished"></translation>
     </message>
+</context>
+<context>
+    <name>CustomMinutesField</name>
     <message>
         <source>minutes</source>
         <translation type="unfinished"></translation>
@@ -939,6 +942,9 @@
         <source>Focus presets</source>
         <translation type="unfinished"></translation>
     </message>
+</context>
+<context>
+    <name>PresetList</name>
     <message>
         <source>Add preset</source>
         <translation type="unfinished"></translation>
@@ -988,11 +994,14 @@
 <context>
     <name>Question</name>
     <message>
-        <source>No</source>
+        <source>Yes</source>
         <translation type="unfinished"></translation>
     </message>
+</context>
+<context>
+    <name>QuestionContent</name>
     <message>
-        <source>Yes</source>
+        <source>No</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -283,6 +283,9 @@
         <source>Custom minutes</source>
         <translation>Minutos personalizados</translation>
     </message>
+</context>
+<context>
+    <name>CustomMinutesField</name>
     <message>
         <source>minutes</source>
         <translation>minutos</translation>
@@ -939,6 +942,9 @@
         <source>Focus presets</source>
         <translation>Predefinições de foco</translation>
     </message>
+</context>
+<context>
+    <name>PresetList</name>
     <message>
         <source>Add preset</source>
         <translation>Adicionar predefinição</translation>
@@ -988,12 +994,15 @@
 <context>
     <name>Question</name>
     <message>
-        <source>No</source>
-        <translation>Não</translation>
-    </message>
-    <message>
         <source>Yes</source>
         <translation>Sim</translation>
+    </message>
+</context>
+<context>
+    <name>QuestionContent</name>
+    <message>
+        <source>No</source>
+        <translation>Não</translation>
     </message>
 </context>
 <context>

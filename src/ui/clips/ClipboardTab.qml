@@ -25,10 +25,12 @@ TabPage {
 
     flick: list
 
-    ClipSheetPlace {
+    SheetPlace {
         parent: tab.stage
         anchors.fill: parent
+        sheet: Qt.resolvedUrl("ClipSheet.qml")
         editor: tab.clips.editor
+        editing: tab.clips.editor.editing
     }
 
     function clearSearch(): bool {

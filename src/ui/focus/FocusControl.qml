@@ -92,7 +92,7 @@ Box {
                 chosen: () => control.focusing.minutes = choice
             })).concat([
                 { divider: true },
-                { text: qsTr("Custom…"), chosen: () => custom.ask(minutes) }
+                { text: qsTr("Custom…"), chosen: () => custom.openUnder(minutes, 16) }
             ])
         }
     }

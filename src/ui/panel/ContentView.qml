@@ -234,10 +234,12 @@ FocusScope {
         }
     }
 
-    SnippetSheet {
+    SheetPlace {
         anchors.fill: parent
         z: 2
+        sheet: "qrc:/Ravelo/Snippets/SnippetSheet.qml"
         editor: content.snippets.editor
+        editing: content.snippets.editor.editing
     }
 
     Item {

@@ -1,0 +1,87 @@
+import QtQuick
+import Ravelo.Controls
+import Ravelo.Paint
+import Ravelo.Theme
+
+/// What a popover shows: its content on a surface, in front of what catches presses outside.
+Item {
+    id: floating
+
+    required property Popover popover
+
+    opacity: popover.opened ? 1 : 0
+
+    Behavior on opacity {
+        NumberAnimation {
+            duration: floating.popover.opened ? Theme.floatingIn : Theme.floatingOut
+            easing.type: Easing.OutCubic
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        acceptedButtons: Qt.AllButtons
+        hoverEnabled: true
+        onPressed: floating.popover.close()
+        onWheel: wheel => wheel.accepted = true
+    }
+
+    Item {
+        function kept(at: real, size: real, room: real): real {
+            const margin = floating.popover.margin;
+            return Math.round(Math.max(margin, Math.min(at, room - margin - size)));
+        }
+
+        x: kept(floating.popover.corner.x - (floating.popover.growsLeft ? width : 0), width, floating.width)
+        y: kept(floating.popover.corner.y, height, floating.height)
+        width: content.implicitWidth + 2 * floating.popover.pad
+        height: content.implicitHeight + 2 * floating.popover.pad
+        scale: floating.popover.opened ? 1 : 1 - Theme.move(3) / 100
+        transformOrigin: floating.popover.growsLeft ? Item.TopRight : Item.TopLeft
+
+        Behavior on scale {
+            enabled: floating.popover.opened
+            NumberAnimation {
+                duration: Theme.floatingIn
+                easing.type: Easing.OutCubic
+            }
+        }
+
+        Shadow {
+            anchors.fill: parent
+            radius: Theme.radiusPopover
+            color: Qt.rgba(0, 0, 0, 0.48)
+            blur: 32
+            drop: 12
+        }
+
+        Shadow {
+            anchors.fill: parent
+            radius: Theme.radiusPopover
+            color: Qt.rgba(0, 0, 0, 0.30)
+            blur: 6
+            drop: 2
+        }
+
+        Box {
+            anchors.fill: parent
+            radius: Theme.radiusPopover
+            color: Theme.floating
+            lineColor: Theme.lineFloating
+            lineWidth: 1
+        }
+
+        MouseArea {
+            anchors.fill: parent
+            acceptedButtons: Qt.AllButtons
+        }
+
+        Loader {
+            id: content
+            anchors.fill: parent
+            anchors.margins: floating.popover.pad
+            focus: true
+            Component.onCompleted: setSource(floating.popover.content, { popover: floating.popover })
+        }
+    }
+}
