@@ -962,7 +962,7 @@
     </message>
 </context>
 <context>
-    <name>PreviewBubble</name>
+    <name>PreviewSurface</name>
     <message>
         <source>Image, %1</source>
         <translation type="unfinished"></translation>

@@ -28,9 +28,9 @@ TabPage {
     SheetPlace {
         parent: tab.stage
         anchors.fill: parent
-        sheet: Qt.resolvedUrl("ClipSheet.qml")
+        page: Qt.resolvedUrl("ClipSheet.qml")
         editor: tab.clips.editor
-        editing: tab.clips.editor.editing
+        needed: tab.clips.editor.editing
     }
 
     function clearSearch(): bool {
@@ -289,13 +289,15 @@ TabPage {
         }
     }
 
-    SelectionBar {
+    Lazy {
         id: selectionBar
         objectName: "selectionBar"
         y: field.y + 40
         z: 1
         width: parent.width
-        clips: tab.clips
+        needed: tab.clips.selected > 1
+        page: Qt.resolvedUrl("SelectionBar.qml")
+        properties: ({ clips: tab.clips })
         visible: opacity > 0
         opacity: tab.clips.selected > 1 ? 1 : 0
 
@@ -357,7 +359,6 @@ TabPage {
 
     PreviewBubble {
         id: bubble
-        objectName: "preview"
         z: 2
         preview: tab.clips.preview
         room: tab.width

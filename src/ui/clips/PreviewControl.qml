@@ -27,7 +27,7 @@ QtObject {
         clips.showPreview(wanted);
         bubble.centre = bubble.parent.mapFromItem(item, 0, item.height / 2).y;
         bubble.origin = item.ago;
-        bubble.opened = true;
+        bubble.open();
     }
 
     function openCurrent() {
@@ -36,7 +36,7 @@ QtObject {
     }
 
     function close() {
-        bubble.opened = false;
+        bubble.close();
         row = -1;
     }
 

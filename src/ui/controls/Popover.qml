@@ -7,8 +7,7 @@ FocusScope {
     id: popover
 
     property bool opened: false
-    /// An item with a property `popover`, which floats in its implicit size. By its address: most
-    /// popovers never open, and the content is created when one first does.
+    /// An item with a property `popover`, created when it first opens. Floats in its implicit size.
     required property url content
     property real pad: 16
     /// Keyboard in use: show focus rings.
@@ -37,9 +36,7 @@ FocusScope {
         growsLeft = toTheLeft;
         keyed = byKey;
         focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
-        if (floating.status === Loader.Null) {
-            floating.setSource("FloatingSurface.qml", { popover: popover });
-        }
+        floating.needed = true; // Before it opens: it fades in.
         opened = true;
         Typing.wantKeyboard(popover);
         forceActiveFocus();
@@ -70,9 +67,12 @@ FocusScope {
         event.accepted = true; // Modal: keys do not reach what is below.
     }
 
-    Loader {
+    Lazy {
         id: floating
         anchors.fill: parent
         focus: true
+        needed: false
+        page: Qt.resolvedUrl("FloatingSurface.qml")
+        properties: ({ popover: popover })
     }
 }

@@ -1,32 +1,17 @@
 import QtQuick
 
-/// Creates a sheet when it is needed, and frees it when it has faded out.
-Loader {
+/// Holds a sheet, and frees it when it has faded out.
+Lazy {
     id: place
 
-    /// By its address: most panels never show it.
-    required property url sheet
-    /// For the sheet.
     required property QtObject editor
-    required property bool editing
-    property bool complete: false
 
-    function follow() {
-        if (complete && editing && status === Loader.Null) {
-            setSource(sheet, { editor: editor });
-        }
-    }
-
-    onEditingChanged: follow()
-    Component.onCompleted: {
-        complete = true;
-        follow();
-    }
+    properties: ({ editor: editor })
 
     Connections {
         target: place.item
         function onVisibleChanged() {
-            if (!place.editing && !(place.item as Item).visible) {
+            if (!place.needed && !(place.item as Item).visible) {
                 place.source = "";
             }
         }

@@ -237,9 +237,9 @@ FocusScope {
     SheetPlace {
         anchors.fill: parent
         z: 2
-        sheet: "qrc:/Ravelo/Snippets/SnippetSheet.qml"
+        page: "qrc:/Ravelo/Snippets/SnippetSheet.qml"
         editor: content.snippets.editor
-        editing: content.snippets.editor.editing
+        needed: content.snippets.editor.editing
     }
 
     Item {

@@ -61,28 +61,19 @@ Item {
         paused: panel.pausing.paused
     }
 
-    Loader {
+    Lazy {
         id: bar
-
-        /// Loaded when it is first shown: no text delays the first handle.
-        readonly property bool needed: panel.controller.showsBar
-
-        function follow() {
-            if (needed && status === Loader.Null) {
-                setSource("BarView.qml", {
-                    controller: panel.controller,
-                    focusing: panel.focusing,
-                    pausing: panel.pausing
-                });
-            }
-        }
-
         x: panel.centred(width)
         width: panel.controller.collapsedSize.width
         height: panel.controller.collapsedSize.height
         visible: !slot.open && needed
-        onNeededChanged: follow()
-        Component.onCompleted: follow()
+        needed: panel.controller.showsBar
+        page: Qt.resolvedUrl("BarView.qml")
+        properties: ({
+            controller: panel.controller,
+            focusing: panel.focusing,
+            pausing: panel.pausing
+        })
     }
 
     Binding {
