@@ -85,6 +85,33 @@
     </message>
 </context>
 <context>
+    <name>ClipActions</name>
+    <message>
+        <source>Reveal while held</source>
+        <translation>Zeigen, solange gedrückt</translation>
+    </message>
+    <message>
+        <source>Hold to reveal</source>
+        <translation>Zum Anzeigen gedrückt halten</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Loslösen</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Anheften</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Schließen</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Löschen</translation>
+    </message>
+</context>
+<context>
     <name>ClipList</name>
     <message>
         <source>Clipboard history</source>
@@ -148,33 +175,6 @@
     <message>
         <source>No files</source>
         <translation>Keine Dateien</translation>
-    </message>
-</context>
-<context>
-    <name>ClipRow</name>
-    <message>
-        <source>Reveal while held</source>
-        <translation>Zeigen, solange gedrückt</translation>
-    </message>
-    <message>
-        <source>Hold to reveal</source>
-        <translation>Zum Anzeigen gedrückt halten</translation>
-    </message>
-    <message>
-        <source>Unpin</source>
-        <translation>Loslösen</translation>
-    </message>
-    <message>
-        <source>Pin</source>
-        <translation>Anheften</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>Schließen</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Löschen</translation>
     </message>
 </context>
 <context>

@@ -85,6 +85,33 @@
     </message>
 </context>
 <context>
+    <name>ClipActions</name>
+    <message>
+        <source>Reveal while held</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Hold to reveal</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation type="unfinished"></translation>
+    </message>
+</context>
+<context>
     <name>ClipList</name>
     <message>
         <source>Clipboard history</source>
@@ -147,33 +174,6 @@
     </message>
     <message>
         <source>No files</source>
-        <translation type="unfinished"></translation>
-    </message>
-</context>
-<context>
-    <name>ClipRow</name>
-    <message>
-        <source>Reveal while held</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Hold to reveal</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Unpin</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Pin</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Delete</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -85,6 +85,33 @@
     </message>
 </context>
 <context>
+    <name>ClipActions</name>
+    <message>
+        <source>Reveal while held</source>
+        <translation>Mostrar enquanto pressionado</translation>
+    </message>
+    <message>
+        <source>Hold to reveal</source>
+        <translation>Segure para mostrar</translation>
+    </message>
+    <message>
+        <source>Unpin</source>
+        <translation>Desafixar</translation>
+    </message>
+    <message>
+        <source>Pin</source>
+        <translation>Fixar</translation>
+    </message>
+    <message>
+        <source>Dismiss</source>
+        <translation>Dispensar</translation>
+    </message>
+    <message>
+        <source>Delete</source>
+        <translation>Excluir</translation>
+    </message>
+</context>
+<context>
     <name>ClipList</name>
     <message>
         <source>Clipboard history</source>
@@ -148,33 +175,6 @@
     <message>
         <source>No files</source>
         <translation>Nenhum arquivo</translation>
-    </message>
-</context>
-<context>
-    <name>ClipRow</name>
-    <message>
-        <source>Reveal while held</source>
-        <translation>Mostrar enquanto pressionado</translation>
-    </message>
-    <message>
-        <source>Hold to reveal</source>
-        <translation>Segure para mostrar</translation>
-    </message>
-    <message>
-        <source>Unpin</source>
-        <translation>Desafixar</translation>
-    </message>
-    <message>
-        <source>Pin</source>
-        <translation>Fixar</translation>
-    </message>
-    <message>
-        <source>Dismiss</source>
-        <translation>Dispensar</translation>
-    </message>
-    <message>
-        <source>Delete</source>
-        <translation>Excluir</translation>
     </message>
 </context>
 <context>

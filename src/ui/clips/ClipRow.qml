@@ -36,17 +36,16 @@ Card {
         if (secret && !held) {
             held = true;
             runs = [clips.revealed(index)];
-            hiding.restart();
         }
     }
 
     function hide() {
         held = false;
         runs = Qt.binding(() => mask);
-        hiding.stop();
     }
 
     objectName: "card" + index
+    actions: Qt.resolvedUrl("ClipActions.qml")
     runs: mask
     spokenMore: secret ? "" : subtitle
     showsButtons: held
@@ -63,51 +62,4 @@ Card {
     // A hidden panel decodes nothing.
     thumbnail: shown && imageFileName !== ""
         ? "image://thumb/" + Theme.radiusTile * Screen.devicePixelRatio + "/" + imageFileName : ""
-
-    Timer {
-        id: hiding
-        interval: 10000
-        onTriggered: row.hide()
-    }
-
-    MiniButton {
-        id: eye
-        objectName: "reveal"
-        visible: row.secret
-        name: qsTr("Reveal while held")
-        symbol: "eye"
-        rest: row.held ? Theme.pressedMini : Theme.surface3
-        onPressedChanged: pressed ? row.reveal() : row.hide()
-        onClicked: {
-            if (activeFocus && !hovered) {
-                row.reveal();
-            }
-        }
-        Keys.onReleased: event => {
-            if (!event.isAutoRepeat) {
-                row.hide();
-            }
-        }
-
-        Tooltip {
-            target: eye
-            hovered: eye.hovered && !eye.pressed
-            text: qsTr("Hold to reveal")
-        }
-    }
-
-    MiniButton {
-        objectName: "pin"
-        visible: !row.tooLarge && !row.secret
-        name: row.pinned ? qsTr("Unpin") : qsTr("Pin")
-        symbol: row.pinned ? "pin.slash" : "pin"
-        onClicked: row.clips.togglePin(row.index)
-    }
-
-    MiniButton {
-        objectName: "delete"
-        name: row.tooLarge ? qsTr("Dismiss") : qsTr("Delete")
-        symbol: "xmark"
-        onClicked: row.deleted()
-    }
 }

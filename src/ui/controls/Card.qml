@@ -29,7 +29,8 @@ Item {
     /// Place among several chosen ones, from 1; 0 if it is none of them.
     property int order: 0
     property color titleColor: Theme.text1
-    default property alias actions: buttons.data
+    /// The buttons: an item with a property `card`, created when they first show.
+    required property url actions
 
     readonly property bool hovered: hover.hovered
     property alias tileHovered: tileHover.hovered
@@ -210,13 +211,15 @@ Item {
         }
     }
 
-    Row {
+    Lazy {
         id: buttons
+        needed: card.lit
+        page: card.actions
+        properties: ({ card: card })
         visible: card.lit || opacity > 0 // Also while fading in: it can be pressed at once.
         opacity: card.lit ? 1 : 0
         x: card.width - width - 6
         y: 8
-        spacing: 4
 
         Behavior on opacity {
             NumberAnimation { duration: Theme.hovering }

@@ -1,0 +1,60 @@
+import QtQuick
+import Ravelo.Clips
+import Ravelo.Controls
+import Ravelo.Theme
+
+/// The buttons of a clip's row.
+Row {
+    id: row
+
+    required property ClipRow card
+
+    spacing: 4
+
+    Timer {
+        interval: 10000
+        running: row.card.held
+        onTriggered: row.card.hide()
+    }
+
+    MiniButton {
+        id: eye
+        objectName: "reveal"
+        visible: row.card.secret
+        name: qsTr("Reveal while held")
+        symbol: "eye"
+        rest: row.card.held ? Theme.pressedMini : Theme.surface3
+        onPressedChanged: pressed ? row.card.reveal() : row.card.hide()
+        onClicked: {
+            if (activeFocus && !hovered) {
+                row.card.reveal();
+            }
+        }
+        Keys.onReleased: event => {
+            if (!event.isAutoRepeat) {
+                row.card.hide();
+            }
+        }
+
+        Tooltip {
+            target: eye
+            hovered: eye.hovered && !eye.pressed
+            text: qsTr("Hold to reveal")
+        }
+    }
+
+    MiniButton {
+        objectName: "pin"
+        visible: !row.card.tooLarge && !row.card.secret
+        name: row.card.pinned ? qsTr("Unpin") : qsTr("Pin")
+        symbol: row.card.pinned ? "pin.slash" : "pin"
+        onClicked: row.card.clips.togglePin(row.card.index)
+    }
+
+    MiniButton {
+        objectName: "delete"
+        name: row.card.tooLarge ? qsTr("Dismiss") : qsTr("Delete")
+        symbol: "xmark"
+        onClicked: row.card.deleted()
+    }
+}
