@@ -686,7 +686,7 @@
     </message>
 </context>
 <context>
-    <name>LockedView</name>
+    <name>LockedPage</name>
     <message>
         <source>Unlock…</source>
         <translation type="unfinished"></translation>

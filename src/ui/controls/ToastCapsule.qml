@@ -10,8 +10,18 @@ Item {
 
     required property ToastMessage message
 
-    readonly property bool shown: message.text !== ""
+    /// False until this is complete: it springs up.
+    property bool complete: false
+    readonly property bool shown: complete && message.text !== ""
     readonly property bool offers: message.action !== ""
+
+    /// Keeps the text while it fades.
+    function follow() {
+        if (shown) {
+            label.text = message.text;
+            button.name = message.action;
+        }
+    }
 
     Accessible.role: Accessible.AlertMessage
     Accessible.name: offers ? qsTr("%1. Undo with Control Z").arg(label.text) : label.text
@@ -19,6 +29,10 @@ Item {
     height: 36
     opacity: 0
     visible: opacity > 0
+    Component.onCompleted: {
+        complete = true;
+        follow();
+    }
 
     Shadow {
         anchors.fill: parent
@@ -87,14 +101,10 @@ Item {
         }
     }
 
-    // Keeps the text while it fades.
     Connections {
         target: capsule.message
         function onTextChanged() {
-            if (capsule.shown) {
-                label.text = capsule.message.text;
-                button.name = capsule.message.action;
-            }
+            capsule.follow();
         }
     }
 

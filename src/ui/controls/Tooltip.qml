@@ -1,75 +1,14 @@
 import QtQuick
-import Ravelo.Paint
-import Ravelo.Theme
 
 /// Appears under `target` some time after the pointer came to rest on it.
-Item {
+Lazy {
     id: tooltip
 
     required property Item target
     required property string text
     property bool hovered: false
 
-    onHoveredChanged: hovered ? delay.restart() : delay.stop()
-
-    Timer {
-        id: delay
-        interval: Theme.tooltipDelay
-    }
-
-    // The file cannot be `Bound`: the Loader of Qt 6.4 refuses such a component.
-    Loader {
-        active: tooltip.hovered && !delay.running
-        sourceComponent: Box {
-            objectName: "tooltip"
-            parent: tooltip.Window.contentItem // qmllint disable unqualified
-            z: 1000
-            width: lines.implicitWidth + 2 * lines.x
-            height: lines.implicitHeight + 2 * lines.y
-            radius: Theme.radiusSmall
-            color: Theme.tooltip
-            lineColor: Theme.lineFloating
-            lineWidth: 1
-
-            // While the panel's content is deleted, there is neither a target nor a parent.
-            readonly property Item target: tooltip.target // qmllint disable unqualified
-            readonly property point centre: target?.mapToItem(null, target.width / 2, target.height + 6)
-                                            ?? Qt.point(0, 0)
-            readonly property real room: (parent?.width ?? 0) - width - Theme.insetSide
-            x: Math.round(Math.max(Theme.insetSide, Math.min(centre.x - width / 2, room)))
-            y: Math.round(centre.y)
-
-            Shadow {
-                anchors.fill: parent
-                z: -1
-                radius: parent.radius
-                color: Qt.rgba(0, 0, 0, 0.40)
-                blur: 18
-                drop: 6
-            }
-
-            Column {
-                id: lines
-
-                readonly property var texts: tooltip.text.split("\n") // qmllint disable unqualified
-                readonly property bool several: texts.length > 1
-
-                x: several ? 12 : 10
-                y: several ? 8 : 6
-                spacing: several ? 2 : 0
-
-                Repeater {
-                    model: lines.texts
-
-                    Label {
-                        required property string modelData
-                        required property int index
-                        style: Theme.small
-                        text: modelData
-                        color: index === 0 ? Theme.text1 : Theme.text3
-                    }
-                }
-            }
-        }
-    }
+    needed: hovered
+    page: Qt.resolvedUrl("TooltipBubble.qml")
+    properties: ({ tooltip: tooltip })
 }

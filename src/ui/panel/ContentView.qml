@@ -153,15 +153,19 @@ FocusScope {
         height: picker.y - y
         clip: content.lifted > 0
 
-        ContextStatusLine {
+        Lazy {
             id: usageBlock
             objectName: "usage"
             x: Theme.insetSide
             y: topBar.height - 32 + content.gap - content.lifted
             width: parent.width - 2 * Theme.insetSide
-            visible: content.usage.shown
-            usage: content.usage
-            compact: content.compact
+            visible: needed
+            needed: content.usage.shown
+            page: "qrc:/Ravelo/Usage/ContextStatusLine.qml"
+            properties: ({
+                usage: content.usage,
+                compact: Qt.binding(() => content.compact)
+            })
             enabled: !content.dropTargeted // Not while dragging.
         }
     }
@@ -248,10 +252,12 @@ FocusScope {
         z: 2
     }
 
-    ToastCapsule {
+    Lazy {
         z: 2
         anchors.horizontalCenter: parent.horizontalCenter
         y: parent.height - height - 26
-        message: content.toast
+        needed: content.toast.text !== ""
+        page: "qrc:/Ravelo/Controls/ToastCapsule.qml"
+        properties: ({ message: content.toast })
     }
 }
