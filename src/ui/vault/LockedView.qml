@@ -11,7 +11,7 @@ Lazy {
 
     /// As if typed into the field.
     function type(text: string) {
-        item.type(text); // qmllint disable missing-property
+        item.type(text); // qmllint disable
     }
 
     needed: Vault.locked
