@@ -93,7 +93,7 @@ inline Happening offering(const QList<PasteboardEntry>& offered) {
 }
 
 /// Offers it as a copy by one program.
-inline Happening by(PasteboardOwner owner, const QList<PasteboardEntry>& offered) {
+inline Happening by(const PasteboardOwner& owner, const QList<PasteboardEntry>& offered) {
     return [owner, offered](ClipboardWorld& on) {
         on.pasteboard.owner = owner;
         on.pasteboard.offer(offered);

@@ -24,7 +24,7 @@ using namespace decode;
 constexpr std::chrono::milliseconds timeout(200);
 
 class Liar : public testing::Test {
-protected:
+public:
     Liar() {
         std::array<int, 2> ends{};
         EXPECT_EQ(socketpair(AF_UNIX, SOCK_SEQPACKET | SOCK_CLOEXEC, 0, ends.data()), 0);

@@ -31,7 +31,7 @@ QStringList children() {
 
 /// A decoder whose starts are counted.
 class CountedDecoder : public testing::Test {
-protected:
+public:
     CountedDecoder() {
         const QString script = makeProgram(folder.filePath(u"start"_s),
                                            "echo >>\"${0}ed\"\nexec " RAVELO_DECODE " \"$@\"\n");
@@ -133,7 +133,7 @@ TEST_F(CountedDecoder, ThatCannotBeStartedIsNotThePicturesFault) {
 }
 
 class DecoderProcessLife : public CountedDecoder {
-protected:
+public:
     DecoderProcessLife() { decoder = std::make_unique<DecoderProcess>(RAVELO_DECODE, "/nowhere"); }
 
     PictureFile file = write("a.png", samples::picture("png"));

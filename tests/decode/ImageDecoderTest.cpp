@@ -29,7 +29,7 @@ std::unique_ptr<ImageDecoder> make<DecoderProcess>() {
 
 template <typename Decoder>
 class Decoding : public testing::Test {
-protected:
+public:
     PictureFile write(const QByteArray& bytes, const QString& name = u"picture.png"_s) {
         return {QFile::encodeName(makeFile(folder.filePath(name), bytes))};
     }

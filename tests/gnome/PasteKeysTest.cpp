@@ -52,7 +52,7 @@ QJsonObject report(int window, bool focused, bool modifiers = false) {
 }
 
 class PasteKeysTest : public testing::Test {
-protected:
+public:
     void SetUp() override {
         static int worlds = 0; // A name stands for one connection in the whole process.
         const QString number = QString::number(++worlds);

@@ -97,7 +97,8 @@ TEST(PlanPace, ofTheWeekCountsWholeDays) {
     PlanCourse course;
     PlanWindows windows;
     // Eight hours a day, two percent each, then sixteen without.
-    for (double hours = 0; hours < 58; hours += 0.25) {
+    for (int quarter = 0; quarter < 4 * 58; ++quarter) {
+        const double hours = quarter / 4.0;
         const double today = std::min(std::fmod(hours, 24.0), 8.0);
         windows.week = UsageWindow{2 * (8 * std::floor(hours / 24) + today), resets};
         course.add(windows, later(hours));

@@ -10,6 +10,7 @@
 #include <QSslSocket>
 
 #include <memory>
+#include <tuple>
 
 #include <arpa/inet.h>
 #include <sys/socket.h>
@@ -107,7 +108,7 @@ SilentAddress::SilentAddress(quint16 port) {
     EXPECT_EQ(bind(sockets_[0], at, sizeof place), 0);
     EXPECT_EQ(listen(sockets_[0], 0), 0);
     for (const int filling : {sockets_[1], sockets_[2]}) {
-        connect(filling, at, sizeof place);
+        std::ignore = connect(filling, at, sizeof place); // Goes on by itself.
     }
 }
 

@@ -15,7 +15,7 @@ constexpr auto store = Notices::Source::store;
 constexpr auto preferences = Notices::Source::preferences;
 
 class NoticesTest : public testing::Test {
-protected:
+public:
     void pass(double seconds) { scheduler.advance(Seconds(seconds)); }
 
     [[nodiscard]] QString shown() const {

@@ -9,7 +9,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 class PastingTest : public testing::Test {
-protected:
+public:
     void SetUp() override { world.controller.toggle(); }
 
     void run() {

@@ -57,9 +57,9 @@ public:
         return std::uniform_int_distribution<int>(lowest, highest)(random_);
     }
 
-    QString alnum(int count) { return letters(base62 + u""_s, count); }
+    QString alnum(int count) { return letters(base62_ + u""_s, count); }
 
-    QString url(int count) { return letters(base62 + u"_-"_s, count); }
+    QString url(int count) { return letters(base62_ + u"_-"_s, count); }
 
     QString hex(int count) { return letters(u"0123456789abcdef"_s, count); }
 
@@ -86,7 +86,7 @@ public:
     QString pem(const QString& kind) {
         QString text = u"-----BEGIN "_s + kind + u"PRIVATE KEY-----\n"_s;
         for (int line = number(1, 40); line > 0; --line) {
-            text += letters(base62 + u"+/"_s, 64) + u'\n';
+            text += letters(base62_ + u"+/"_s, 64) + u'\n';
         }
         return letters(u"ab \n"_s, number(0, 80)) + text + u"-----END "_s + kind +
                u"PRIVATE KEY-----\n"_s;
@@ -99,7 +99,7 @@ public:
     }
 
 private:
-    const QString base62 = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789"_s;
+    const QString base62_ = u"ABCDEFGHIJKLMNOPQRSTUVWXYZabcdefghijklmnopqrstuvwxyz0123456789"_s;
     std::mt19937 random_{1};
 };
 
@@ -113,80 +113,77 @@ QString grouped(const QString& card, QChar separator) {
 
 using Make = std::function<QString(Generator&)>;
 
-const QHash<QString, Make>& makers() {
-    static const QHash<QString, Make> makers = {
-        {u"pem-openssh"_s,
-         [](Generator& g) {
-             return g.pem(u"OPENSSH "_s);
-         }},
-        {u"pem"_s,
-         [](Generator& g) {
-             return g.pem(g.one(u"", u"RSA ", u"EC ", u"ENCRYPTED ", u"DSA "));
-         }},
-        {u"github"_s,
-         [](Generator& g) {
-             return g.one(g.one(u"ghp_", u"gho_", u"ghu_", u"ghs_", u"ghr_") + g.alnum(36),
-                          u"github_pat_"_s + g.alnum(22) + u'_' + g.alnum(59));
-         }},
-        {u"gitlab"_s,
-         [](Generator& g) {
-             return g.one(u"glpat-", u"gldt-", u"glrt-", u"glptt-") + g.url(g.number(20, 50));
-         }},
-        {u"aws"_s,
-         [](Generator& g) {
-             return g.one(u"AKIA"_s + g.letters(u"ABCDEFGHIJKLMNOPQRSTUVWXYZ234567"_s, 16),
-                          u"AWS_SECRET_ACCESS_KEY="_s + g.alnum(40));
-         }},
-        {u"slack"_s,
-         [](Generator& g) {
-             return g.one(u"xoxb-", u"xoxp-") + g.letters(u"0123456789"_s, 12) + u'-' +
-                    g.letters(u"0123456789"_s, 12) + u'-' + g.alnum(24);
-         }},
-        {u"stripe"_s,
-         [](Generator& g) {
-             return g.one(u"sk_live_", u"sk_test_", u"rk_live_") + g.alnum(g.number(24, 99));
-         }},
-        {u"anthropic"_s,
-         [](Generator& g) {
-             return g.one(u"sk-ant-api03-", u"sk-ant-oat01-") + g.url(95);
-         }},
-        {u"openai"_s,
-         [](Generator& g) {
-             return g.one(u"sk-"_s + g.alnum(48), u"sk-proj-"_s + g.url(156));
-         }},
-        {u"google"_s,
-         [](Generator& g) {
-             return g.one(u"AIza"_s + g.url(35), u"GOCSPX-"_s + g.url(28), u"ya29."_s + g.url(200));
-         }},
-        {u"jwt"_s,
-         [](Generator& g) {
-             return g.one(u"", u"Bearer ") + g.jwt(g.number(0, 1)
-                                                       ? "{\"alg\":\"HS256\",\"typ\":\"JWT\"}"
-                                                       : "{\"typ\": \"JWT\", \"alg\": \"RS256\"}");
-         }},
-        {u"card"_s,
-         [](Generator& g) {
-             const QString card =
-                 g.one(g.card(u"4"_s, 16), g.card(u"53"_s, 16), g.card(u"2345"_s, 16),
-                       g.card(u"34"_s, 15), g.card(u"6011"_s, 16), g.card(u"36"_s, 14));
-             return g.one(card, grouped(card, u' '), grouped(card, u'-'));
-         }},
-        {u"word"_s,
-         [](Generator& g) {
-             return g.alnum(g.number(40, 64));
-         }},
-    };
-    return makers;
-}
+const QHash<QString, Make> makers = {
+    {u"pem-openssh"_s,
+     [](Generator& g) {
+         return g.pem(u"OPENSSH "_s);
+     }},
+    {u"pem"_s,
+     [](Generator& g) {
+         return g.pem(g.one(u"", u"RSA ", u"EC ", u"ENCRYPTED ", u"DSA "));
+     }},
+    {u"github"_s,
+     [](Generator& g) {
+         return g.one(g.one(u"ghp_", u"gho_", u"ghu_", u"ghs_", u"ghr_") + g.alnum(36),
+                      u"github_pat_"_s + g.alnum(22) + u'_' + g.alnum(59));
+     }},
+    {u"gitlab"_s,
+     [](Generator& g) {
+         return g.one(u"glpat-", u"gldt-", u"glrt-", u"glptt-") + g.url(g.number(20, 50));
+     }},
+    {u"aws"_s,
+     [](Generator& g) {
+         return g.one(u"AKIA"_s + g.letters(u"ABCDEFGHIJKLMNOPQRSTUVWXYZ234567"_s, 16),
+                      u"AWS_SECRET_ACCESS_KEY="_s + g.alnum(40));
+     }},
+    {u"slack"_s,
+     [](Generator& g) {
+         return g.one(u"xoxb-", u"xoxp-") + g.letters(u"0123456789"_s, 12) + u'-' +
+                g.letters(u"0123456789"_s, 12) + u'-' + g.alnum(24);
+     }},
+    {u"stripe"_s,
+     [](Generator& g) {
+         return g.one(u"sk_live_", u"sk_test_", u"rk_live_") + g.alnum(g.number(24, 99));
+     }},
+    {u"anthropic"_s,
+     [](Generator& g) {
+         return g.one(u"sk-ant-api03-", u"sk-ant-oat01-") + g.url(95);
+     }},
+    {u"openai"_s,
+     [](Generator& g) {
+         return g.one(u"sk-"_s + g.alnum(48), u"sk-proj-"_s + g.url(156));
+     }},
+    {u"google"_s,
+     [](Generator& g) {
+         return g.one(u"AIza"_s + g.url(35), u"GOCSPX-"_s + g.url(28), u"ya29."_s + g.url(200));
+     }},
+    {u"jwt"_s,
+     [](Generator& g) {
+         return g.one(u"", u"Bearer ") + g.jwt(g.number(0, 1)
+                                                   ? "{\"alg\":\"HS256\",\"typ\":\"JWT\"}"
+                                                   : "{\"typ\": \"JWT\", \"alg\": \"RS256\"}");
+     }},
+    {u"card"_s,
+     [](Generator& g) {
+         const QString card =
+             g.one(g.card(u"4"_s, 16), g.card(u"53"_s, 16), g.card(u"2345"_s, 16),
+                   g.card(u"34"_s, 15), g.card(u"6011"_s, 16), g.card(u"36"_s, 14));
+         return g.one(card, grouped(card, u' '), grouped(card, u'-'));
+     }},
+    {u"word"_s,
+     [](Generator& g) {
+         return g.alnum(g.number(40, 64));
+     }},
+};
 
 TEST(SecretForms, FindAThousandOfEach) {
     Generator generator;
     for (const SecretForm& form : SecretForms::all()) {
-        ASSERT_TRUE(makers().contains(form.id)) << qPrintable(form.id);
+        ASSERT_TRUE(makers.contains(form.id)) << qPrintable(form.id);
         int missed = 0;
         QString example;
         for (int i = 0; i < 1000; ++i) {
-            const QString text = makers()[form.id](generator);
+            const QString text = makers[form.id](generator);
             if (found(text, wordsFor(form)) != form.id) {
                 ++missed;
                 example = text;

@@ -71,16 +71,16 @@ TEST(LoadToShelf, deliversAllFilesAtOnce) {
 
 /// Drags over a shelf.
 struct Shelved {
-    FakeDragMonitor drags_;
-    FakeFileTransfer transfers_;
-    QList<Files> given_;
-    FileDrop drop_{transfers_, [] {
-                   }};
+    FakeDragMonitor drags;
+    FakeFileTransfer transfers;
+    QList<Files> given;
+    FileDrop drop{transfers, [] {
+                  }};
 
-    Carries enter() { return drop_.enter(drags_.newest()); }
+    Carries enter() { return drop.enter(drags.newest()); }
 
-    void drop() {
-        drop_.drop([this](const Files& files) { given_.append(files); });
+    void release() {
+        drop.drop([this](const Files& files) { given.append(files); });
     }
 };
 
@@ -107,21 +107,21 @@ TEST(Drop, givesFilesByNameOrByKey) {
         SCOPED_TRACE(one.name);
         Shelved shelf;
         const bool hasKey = !one.key.isEmpty();
-        shelf.drags_.begin(one.files, std::nullopt);
+        shelf.drags.begin(one.files, std::nullopt);
         EXPECT_EQ(shelf.enter(), one.files ? Carries::files : Carries::unknown);
-        EXPECT_TRUE(shelf.transfers_.keys.isEmpty()) << "a key can be redeemed only once";
-        shelf.drop();
-        shelf.drags_.answer(one.files, one.key); // The answer is late.
-        shelf.drags_.answer(one.files, one.key);
+        EXPECT_TRUE(shelf.transfers.keys.isEmpty()) << "a key can be redeemed only once";
+        shelf.release();
+        shelf.drags.answer(one.files, one.key); // The answer is late.
+        shelf.drags.answer(one.files, one.key);
         EXPECT_EQ(shelf.enter(), one.files || hasKey ? Carries::files : Carries::nothing);
-        EXPECT_EQ(shelf.transfers_.keys, hasKey ? QList{one.key} : QList<QByteArray>());
+        EXPECT_EQ(shelf.transfers.keys, hasKey ? QList{one.key} : QList<QByteArray>());
         if (hasKey) {
-            EXPECT_TRUE(shelf.given_.isEmpty());
-            shelf.transfers_.answer(one.retrieved);
+            EXPECT_TRUE(shelf.given.isEmpty());
+            shelf.transfers.answer(one.retrieved);
         }
-        EXPECT_EQ(shelf.given_, one.given.isEmpty() ? QList<Files>() : QList<Files>({one.given}));
-        shelf.drags_.begin(true);
-        EXPECT_LE(shelf.given_.size(), 1) << "the next drag is not ours";
+        EXPECT_EQ(shelf.given, one.given.isEmpty() ? QList<Files>() : QList<Files>({one.given}));
+        shelf.drags.begin(true);
+        EXPECT_LE(shelf.given.size(), 1) << "the next drag is not ours";
     }
 }
 
@@ -133,40 +133,40 @@ TEST_F(Drops, useValidKeysOnly) {
         {QByteArray(1025, 'k'), {}},
     };
     for (const auto& [offered, used] : rows) {
-        transfers_.keys.clear();
-        drags_.begin(true, offered);
+        transfers.keys.clear();
+        drags.begin(true, offered);
         enter();
-        drop();
-        EXPECT_EQ(transfers_.keys, used) << offered.toHex().constData();
+        release();
+        EXPECT_EQ(transfers.keys, used) << offered.toHex().constData();
     }
 }
 
 TEST_F(Drops, areDeliveredInOrder) {
     for (const char* key : {"first", "second"}) {
-        drags_.begin(false, key);
+        drags.begin(false, key);
         enter();
-        drop();
+        release();
     }
-    drags_.begin(std::nullopt, std::nullopt); // The third one's source is slow.
+    drags.begin(std::nullopt, std::nullopt); // The third one's source is slow.
     enter();
-    drop();
-    drags_.begin(false, std::nullopt); // A fourth drag begins meanwhile, and is not dropped here.
-    transfers_.answer({a});
-    transfers_.answer({b});
-    EXPECT_EQ(given_, (QList<Files>{{a}, {b}}));
-    drags_.answer(true, {}, 1);
-    EXPECT_EQ(given_, (QList<Files>{{a}, {b}, {named}})) << "the slow source's are lost";
-    drags_.answer(true);
-    EXPECT_EQ(given_.size(), 3) << "files that were never dropped here";
+    release();
+    drags.begin(false, std::nullopt); // A fourth drag begins meanwhile, and is not dropped here.
+    transfers.answer({a});
+    transfers.answer({b});
+    EXPECT_EQ(given, (QList<Files>{{a}, {b}}));
+    drags.answer(true, {}, 1);
+    EXPECT_EQ(given, (QList<Files>{{a}, {b}, {named}})) << "the slow source's are lost";
+    drags.answer(true);
+    EXPECT_EQ(given.size(), 3) << "files that were never dropped here";
 }
 
 TEST_F(Drops, keepTheirFilesIfTheNextDragBeginsFirst) {
-    drags_.begin(true);
+    drags.begin(true);
     enter();
-    drags_.begin(false);
-    EXPECT_EQ(drop_.carries(), Carries::files);
-    drop();
-    EXPECT_EQ(given_, QList<Files>{{named}});
+    drags.begin(false);
+    EXPECT_EQ(drop.carries(), Carries::files);
+    release();
+    EXPECT_EQ(given, QList<Files>{{named}});
 }
 
 } // namespace

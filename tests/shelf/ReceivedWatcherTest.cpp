@@ -56,15 +56,15 @@ FolderNews newsOf(const std::string& words) {
 struct Downloads {
     [[nodiscard]] std::string names() const {
         QByteArrayList list;
-        for (const QUrl& url : watcher_.files()) {
+        for (const QUrl& url : watcher.files()) {
             list.append(filePath(url).mid(6));
         }
         return list.join(' ').toStdString();
     }
 
-    ManualScheduler scheduler_;
-    FakeFolderWatch folder_;
-    ReceivedWatcher watcher_{folder_, scheduler_, u"/down"_s};
+    ManualScheduler scheduler;
+    FakeFolderWatch folder;
+    ReceivedWatcher watcher{folder, scheduler, u"/down"_s};
 };
 
 class Received : public testing::Test, protected Downloads {};
@@ -100,43 +100,43 @@ TEST(ReceivedFiles, areThoseThatArrivedWhole) {
                           {"aFolderThatWasMade", "+a | [ ] | { b } +c", "b c"}};
     for (const Case& c : cases) {
         Downloads downloads;
-        downloads.folder_.report(newsOf("[ old old.part ]"));
+        downloads.folder.report(newsOf("[ old old.part ]"));
         EXPECT_EQ(downloads.names(), "") << c.name;
         std::istringstream stream(c.happens);
         for (std::string part; std::getline(stream, part, '|');) {
-            downloads.folder_.report(newsOf(part));
+            downloads.folder.report(newsOf(part));
         }
-        downloads.scheduler_.advance(Seconds(0.1));
+        downloads.scheduler.advance(Seconds(0.1));
         EXPECT_EQ(downloads.names(), c.files) << c.name;
     }
 }
 
 TEST_F(Received, notifiesTenTimesASecondAndReceivesForFour) {
     int calls = 0;
-    const Handle listening = watcher_.onChange([&] { ++calls; });
-    folder_.report(newsOf("[ old ]"));
-    folder_.report(newsOf("+old 0x +y.part"));
+    const Handle listening = watcher.onChange([&] { ++calls; });
+    folder.report(newsOf("[ old ]"));
+    folder.report(newsOf("+old 0x +y.part"));
     EXPECT_EQ(calls, 0);
-    EXPECT_FALSE(watcher_.receiving());
-    folder_.report(newsOf("+a +b"));
+    EXPECT_FALSE(watcher.receiving());
+    folder.report(newsOf("+a +b"));
     EXPECT_EQ(calls, 1) << "at once";
-    folder_.report(newsOf("+c"));
-    folder_.report(newsOf("+d -a"));
+    folder.report(newsOf("+c"));
+    folder.report(newsOf("+d -a"));
     EXPECT_EQ(names(), "a b");
-    scheduler_.advance(Seconds(0.1));
+    scheduler.advance(Seconds(0.1));
     EXPECT_EQ(calls, 2);
     EXPECT_EQ(names(), "b c d");
-    scheduler_.advance(Seconds(3.8));
-    EXPECT_TRUE(watcher_.receiving());
-    folder_.report(newsOf("+e"));
-    scheduler_.advance(Seconds(3.9));
-    folder_.report(newsOf("+e"));
-    EXPECT_TRUE(watcher_.receiving()) << "e came 3.9 s ago";
+    scheduler.advance(Seconds(3.8));
+    EXPECT_TRUE(watcher.receiving());
+    folder.report(newsOf("+e"));
+    scheduler.advance(Seconds(3.9));
+    folder.report(newsOf("+e"));
+    EXPECT_TRUE(watcher.receiving()) << "e came 3.9 s ago";
     EXPECT_EQ(calls, 3);
-    scheduler_.advance(Seconds(0.1));
-    EXPECT_FALSE(watcher_.receiving());
+    scheduler.advance(Seconds(0.1));
+    EXPECT_FALSE(watcher.receiving());
     EXPECT_EQ(calls, 4);
-    EXPECT_EQ(scheduler_.pending(), 0);
+    EXPECT_EQ(scheduler.pending(), 0);
 }
 
 TEST(PartialName, isRecognizedByItsSuffix) {

@@ -138,7 +138,7 @@ TEST_F(Conversions, ADamagedFileStaysAsItIs) {
 TEST_F(Conversions, WhatIsSealedWhileLockedOpensLater) {
     Vault vault(path_);
     ASSERT_TRUE(beginEncryption(vault, file_, key_, {}));
-    Vault locked(path_);
+    const Vault locked(path_);
     const QString image = path_ + u"/clips/new.png"_s;
     ASSERT_TRUE(locked.write(image, marker, {}));
     EXPECT_EQ(plainFiles(), QStringList());

@@ -2,6 +2,8 @@
 
 #include "vault/KeyFile.h"
 
+#include <QList>
+
 #include <gtest/gtest.h>
 
 namespace ravelo {

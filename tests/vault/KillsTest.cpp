@@ -57,7 +57,11 @@ protected:
             vault.open(*file, std::make_shared<const StoreKey>(std::move(*key)));
             EXPECT_TRUE(finishConversion(vault, {}));
         }
-        const bool encrypted = vault.state() == Vault::State::open;
+        expectAll(vault);
+        return vault.state() == Vault::State::open;
+    }
+
+    void expectAll(const Vault& vault) {
         for (int i = 0; i < images; ++i) {
             EXPECT_EQ(vault.bytes(imagePath(i)), contents(i)) << "image " << i;
         }
@@ -67,7 +71,6 @@ protected:
         const int count = saved.mid(marker.size()).toInt();
         EXPECT_GE(count, saved_) << "a save that had ended is lost";
         saved_ = count;
-        return encrypted;
     }
 
     /// In the child: saves and converts to and fro until it is killed. Reports each change of a

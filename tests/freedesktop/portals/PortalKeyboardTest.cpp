@@ -116,7 +116,7 @@ private:
 };
 
 class PortalKeyboardTest : public testing::Test {
-protected:
+public:
     /// Whether it opens.
     bool open() {
         std::optional<bool> opened;

@@ -7,7 +7,7 @@ namespace {
 using namespace Qt::StringLiterals;
 
 class GlobalShortcutTest : public PanelFixture {
-protected:
+public:
     using State = GlobalShortcut::State;
 
     static void key(const char* name) {

@@ -32,7 +32,7 @@ Gtk.main()
 )");
 
 class PasteKeysTest : public PanelFixture {
-protected:
+public:
     void SetUp() override {
         show(u"DUMMY0"_s, {400, 200});
         auto contents = std::make_unique<QMimeData>();

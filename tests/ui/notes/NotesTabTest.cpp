@@ -10,7 +10,7 @@ namespace ravelo {
 namespace {
 
 class NotesTab : public Panel {
-protected:
+public:
     NotesTab() { openTab(u"Notes"_s); }
 
     void startSketch() {

@@ -52,7 +52,7 @@ TEST_F(Windows, FitAgainOnAnotherMonitorOrAtAnotherScale) {
 }
 
 class Setup : public Windows {
-protected:
+public:
     Setup() { start(); }
 
     void start() {

@@ -7,7 +7,7 @@ namespace ravelo {
 namespace {
 
 class SnippetEditing : public testing::Test {
-protected:
+public:
     [[nodiscard]] const QList<Snippet>& snippets() const { return world.store.snippets(); }
 
     void attach() {

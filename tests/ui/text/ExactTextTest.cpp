@@ -28,7 +28,7 @@ StoreData oddData() {
 }
 
 class OddText : public Panel {
-protected:
+public:
     OddText() : Panel(oddData()) {}
 
     void openNote() {

@@ -10,7 +10,7 @@ namespace ravelo {
 namespace {
 
 class PastingInto : public Panel, public testing::WithParamInterface<const char*> {
-protected:
+public:
     void openField(const QString& tab, const QString& field) {
         openTab(tab);
         // If a field shows this, it has read Qt's clipboard itself.
@@ -74,7 +74,7 @@ TEST_F(Panel, anAnswerForAClosedFieldIsDropped) {
 
 /// A window with only a text field.
 class FieldWindow : public Panel {
-protected:
+public:
     FieldWindow() {
         QQmlComponent component(view.window().engine());
         component.setData("import Ravelo.Text\nEditLine { placeholder: \"Field\" }", QUrl());

@@ -15,7 +15,7 @@ constexpr KeyFile::Cost cheap{1, 8};
 
 /// A panel with an encryption that begins locked, by the keyring.
 class LockedPanel : public testing::Test {
-protected:
+public:
     LockedPanel() {
         EXPECT_TRUE(writeKeyFile(KeyFile::Guard::keyring));
         keyring.isLocked = true;
