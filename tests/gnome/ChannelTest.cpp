@@ -144,7 +144,7 @@ TEST(GnomeZone, OpensAtTheEdgeAndReportsPressesAndDrags) {
     DragMonitor& drags = world.server->drags();
     const qint64 before = drags.changeCount();
     world.shell.onWant = [&](const QJsonObject& want) {
-        Pipe pipe = makePipe();
+        const Pipe pipe = makePipe();
         world.shell.give(want, pipe.out);
         FakeShell::write(pipe.in, "file:///a\r\n");
     };
@@ -193,7 +193,7 @@ TEST(GnomePanel, KnowsThatThePointerIsStillThereAfterADrop) {
     QWindow window;
     const auto panel = world.server->panelWindow(window);
     const auto happens = [&](QEvent::Type type) {
-        QMimeData none;
+        const QMimeData none;
         QDropEvent drop({}, Qt::CopyAction, &none, Qt::NoButton, Qt::NoModifier, type);
         QEvent other(type);
         QCoreApplication::sendEvent(&window, type == QEvent::Drop ? &drop : &other);
@@ -231,7 +231,8 @@ public:
         for (const PasteboardEntry& form : forms) {
             types.append(form.type);
         }
-        QJsonObject report{{u"is"_s, u"clip"_s}, {u"serial"_s, ++serial_}, {u"types"_s, types}};
+        const QJsonObject report{
+            {u"is"_s, u"clip"_s}, {u"serial"_s, ++serial_}, {u"types"_s, types}};
         world_.shell.send(QJsonDocument(report).toJson(QJsonDocument::Compact));
     }
 
@@ -253,7 +254,7 @@ private:
     void answer(const QJsonObject& want) {
         for (const PasteboardEntry& form : forms_) {
             if (form.type == want[u"type"].toString() && want[u"serial"].toInt() == serial_) {
-                Pipe pipe = makePipe();
+                const Pipe pipe = makePipe();
                 world_.shell.give(want, pipe.out);
                 FakeShell::write(pipe.in, form.bytes);
                 return;

@@ -85,6 +85,7 @@ TEST(GnomeProtocol, KeepsScreensWithWhatTheirBarsLeave) {
 
 std::vector<Descriptor> descriptors(int count) {
     std::vector<Descriptor> result;
+    result.reserve(count);
     for (int i = 0; i < count; ++i) {
         result.emplace_back(::open("/dev/null", O_RDONLY | O_CLOEXEC));
     }

@@ -17,7 +17,7 @@ namespace {
 using State = DesktopExtension::State;
 
 class ShellExtensionTest : public testing::Test {
-protected:
+public:
     ShellExtensionTest() {
         set("XDG_CURRENT_DESKTOP", "GNOME");
         set("WAYLAND_DISPLAY", "none");
@@ -43,6 +43,7 @@ protected:
     ShellExtensionTest(const ShellExtensionTest&) = delete;
     ShellExtensionTest& operator=(const ShellExtensionTest&) = delete;
 
+protected:
     void write(const QString& name, const QByteArray& bytes) {
         QDir().mkpath(QFileInfo(folder_.filePath(name)).path());
         QFile file(folder_.filePath(name));

@@ -30,6 +30,7 @@ TEST(DetachedThreads, doNotWaitForAJobThatHangs) {
         EXPECT_TRUE(eventually([&] { return ends == "q" && *ended == 1; })) << ends;
 
         std::vector<Handle> more;
+        more.reserve(20);
         for (int i = 0; i < 20; ++i) {
             more.push_back(threads.run([open] { open.wait(); }, [&] { ends += 'm'; }));
         }

@@ -125,11 +125,11 @@ TEST_F(WaylandPasteboardTest, givesUpWhatIsTooLarge) {
 }
 
 TEST_F(WaylandPasteboardTest, ignoresThePrimarySelection) {
-    Client primary(u"wl-copy"_s, {u"--foreground"_s, u"--primary"_s, u"selected"_s});
+    const Client primary(u"wl-copy"_s, {u"--foreground"_s, u"--primary"_s, u"selected"_s});
     ASSERT_TRUE(eventually([] {
         return output("wl-paste", {u"--primary"_s, u"--no-newline"_s}) == "selected";
     }));
-    Client copy(u"wl-copy"_s, {u"--foreground"_s, u"Gr\u00fc\u00df"_s});
+    const Client copy(u"wl-copy"_s, {u"--foreground"_s, u"Gr\u00fc\u00df"_s});
     EXPECT_TRUE(eventually([&] { return !snapshots_.isEmpty(); }));
     EXPECT_EQ(texts(), QByteArrayList{"Gr\xc3\xbc\xc3\x9f"});
     EXPECT_EQ(board_.changeCount(), 1);

@@ -15,12 +15,13 @@ using namespace Qt::StringLiterals;
 namespace {
 
 class DesktopNotifierTest : public testing::Test {
-protected:
+public:
     ~DesktopNotifierTest() override {
         server_.closeWriteChannel();
         server_.waitForFinished();
     }
 
+protected:
     void startServer() {
         server_.setProcessChannelMode(QProcess::ForwardedErrorChannel);
         server_.start(u"/usr/bin/python3"_s, {RAVELO_NOTIFICATION_SERVER, bus_.address()});
@@ -82,7 +83,7 @@ TEST_F(DesktopNotifierTest, showsReplacesAndRunsActions) {
     EXPECT_EQ(nextCall()[1], 1) << "replaces the one with its key";
     EXPECT_EQ(available(), true);
 
-    QDBusConnection intruder = bus_.connect(u"intruder"_s);
+    const QDBusConnection intruder = bus_.connect(u"intruder"_s);
     auto forged =
         QDBusMessage::createSignal(u"/org/freedesktop/Notifications"_s,
                                    u"org.freedesktop.Notifications"_s, u"ActionInvoked"_s);

@@ -22,8 +22,6 @@ constexpr uint notAuthorized = 48;
 struct Course {
     QStringList packages;
     uint error = 0;
-
-    friend bool operator==(const Course&, const Course&) = default;
 };
 
 /// PackageKit, as far as this program uses it: reports by the names of methods.

@@ -86,7 +86,7 @@ TEST_F(RealKeyring, KeepsGivesAndLocksASecret) {
 
     int changes = 0;
     const Handle following = keyring_.onChange([&] { ++changes; });
-    QDBusConnection bus = bus_.connect(u"locks"_s);
+    const QDBusConnection bus = bus_.connect(u"locks"_s);
     auto lock =
         QDBusMessage::createMethodCall(u"org.freedesktop.secrets"_s, u"/org/freedesktop/secrets"_s,
                                        u"org.freedesktop.Secret.Service"_s, u"Lock"_s);

@@ -41,7 +41,7 @@ protected:
 };
 
 TEST_F(Autostart, IsEnabledAsTheDesktopSeesIt) {
-    AutostartEntry entry = entryFor(u"/here, that's us/ravelo"_s);
+    const AutostartEntry entry = entryFor(u"/here, that's us/ravelo"_s);
     EXPECT_FALSE(entry.isEnabled()) << "there is no file";
     const QByteArray group = "[Desktop Entry]\n";
     const std::pair<QByteArray, bool> cases[] = {
