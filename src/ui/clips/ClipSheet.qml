@@ -10,6 +10,15 @@ Sheet {
 
     required property ClipEditor editor
 
+    /// Asks first if the text was changed.
+    function leave() {
+        if (editor.draft === editor.text) {
+            editor.discard();
+        } else {
+            question.openUnder(bodyField, 0);
+        }
+    }
+
     objectName: "clipSheet"
     editing: editor.editing
     resumed: editor.resumed
@@ -20,13 +29,7 @@ Sheet {
         body.cursorPosition = body.length;
     }
     onConfirmed: editor.copy()
-    onEscaped: {
-        if (editor.draft === editor.text) {
-            editor.discard();
-        } else {
-            question.openUnder(bodyField, 0);
-        }
-    }
+    onEscaped: leave()
 
     FieldFrame {
         id: bodyField
@@ -70,7 +73,7 @@ Sheet {
         text: qsTr("Cancel")
         KeyNavigation.tab: copy
         KeyNavigation.backtab: body
-        onClicked: layer.escaped()
+        onClicked: layer.leave()
     }
 
     CapsuleButton {

@@ -15,7 +15,7 @@ using namespace Qt::StringLiterals;
 
 Clips::Clips(Services services, const QLocale& locale)
     : Tab({u"Clipboard"_s, tr("Clipboard"), u"doc.on.clipboard"_s,
-           QUrl(u"qrc:/Ravelo/Clips/ClipboardTab.qml"_s), Look::Page::kept, Look::Search::has}),
+           QUrl(u"qrc:/Ravelo/Clips/ClipboardTab.qml"_s), Look::Page::eager, Look::Search::has}),
       services_(services),
       locale_(locale),
       list_(services.store, services.scheduler, locale),

@@ -40,9 +40,8 @@ Item {
         transformOrigin: floating.popover.growsLeft ? Item.TopRight : Item.TopLeft
 
         Behavior on scale {
-            enabled: floating.popover.opened
             NumberAnimation {
-                duration: Theme.floatingIn
+                duration: floating.popover.opened ? Theme.floatingIn : Theme.floatingOut
                 easing.type: Easing.OutCubic
             }
         }

@@ -4,10 +4,10 @@ import QtQuick
 Loader {
     id: lazy
 
-    required property bool needed
+    property bool needed: false
     /// By its address: what is never needed is not even compiled.
     required property url page
-    /// Initial ones of the item; may be bindings (`Qt.binding`).
+    /// Of the item, read once when it is created. What changes later needs a `Qt.binding`.
     required property var properties
     property bool complete: false
 

@@ -7,32 +7,32 @@ import Ravelo.Theme
 
 /// The entries of a menu, moved through by keys.
 FocusScope {
-    id: content
+    id: page
 
     required property Menu popover
 
     /// Moves to the next entry that can be chosen; without a selection, to the first or last.
     function step(by: int) {
-        const entries = content.popover.entries;
-        let next = content.popover.current < 0 && by < 0 ? entries.length - 1 : content.popover.current + by;
+        const entries = page.popover.entries;
+        let next = page.popover.current < 0 && by < 0 ? entries.length - 1 : page.popover.current + by;
         while (entries[next]?.divider) {
             next += by;
         }
         if (next >= 0 && next < entries.length) {
-            content.popover.current = next;
+            page.popover.current = next;
             list.positionViewAtIndex(next, ListView.Contain);
             list.itemAtIndex(next)?.forceActiveFocus(); // Screen readers follow it.
         }
     }
 
-    implicitWidth: Math.max(content.popover.minWidth - 2 * content.popover.pad, list.maxItemWidth)
-    implicitHeight: Math.min(list.contentHeight, content.popover.maxContentHeight)
+    implicitWidth: Math.max(page.popover.minWidth - 2 * page.popover.pad, list.maxItemWidth)
+    implicitHeight: Math.min(list.contentHeight, page.popover.maxContentHeight)
     focus: true
     Keys.onUpPressed: step(-1)
     Keys.onDownPressed: step(1)
-    Keys.onReturnPressed: content.popover.choose(content.popover.current)
-    Keys.onEnterPressed: content.popover.choose(content.popover.current)
-    Keys.onSpacePressed: content.popover.choose(content.popover.current)
+    Keys.onReturnPressed: page.popover.choose(page.popover.current)
+    Keys.onEnterPressed: page.popover.choose(page.popover.current)
+    Keys.onSpacePressed: page.popover.choose(page.popover.current)
 
     ListView {
         id: list
@@ -48,7 +48,7 @@ FocusScope {
         interactive: contentHeight > height - 4
         boundsBehavior: Flickable.StopAtBounds
         cacheBuffer: 10000 // All items exist: the widest sets the width.
-        model: content.popover.entries
+        model: page.popover.entries
 
         delegate: Surface {
             id: item
@@ -66,13 +66,13 @@ FocusScope {
             rest: Theme.none
             hover: Theme.hoveredItem
             press: Theme.pressedItem
-            hovered: !divides && index === content.popover.current
+            hovered: !divides && index === page.popover.current
             pressed: area.pressed
             Accessible.role: divides ? Accessible.Separator : Accessible.MenuItem
             Accessible.name: label.text
             Accessible.checkable: modelData.checked !== undefined
             Accessible.checked: modelData.checked ?? false
-            Accessible.onPressAction: content.popover.choose(index)
+            Accessible.onPressAction: page.popover.choose(index)
             Component.onCompleted: list.maxItemWidth = Math.max(list.maxItemWidth, label.x + label.implicitWidth + 10
                 + (hint.text ? hint.implicitWidth + 26 : 0))
 
@@ -95,7 +95,7 @@ FocusScope {
 
             Label {
                 id: label
-                x: content.popover.plain ? 12 : 30
+                x: page.popover.plain ? 12 : 30
                 y: 6
                 width: Math.min(implicitWidth, (hint.text ? hint.x - 24 : item.width - 10) - x)
                 text: item.modelData.text ?? ""
@@ -114,7 +114,7 @@ FocusScope {
 
             FocusRing {
                 id: ring
-                enabled: item.index === content.popover.current
+                enabled: item.index === page.popover.current
                 control: item
                 anchors.margins: -2
                 radius: item.radius + 2
@@ -125,13 +125,13 @@ FocusScope {
                 anchors.fill: parent
                 enabled: !item.divides
                 hoverEnabled: true
-                onEntered: content.popover.current = item.index
+                onEntered: page.popover.current = item.index
                 onExited: {
-                    if (content.popover.current === item.index) {
-                        content.popover.current = -1;
+                    if (page.popover.current === item.index) {
+                        page.popover.current = -1;
                     }
                 }
-                onClicked: content.popover.choose(item.index)
+                onClicked: page.popover.choose(item.index)
             }
         }
     }

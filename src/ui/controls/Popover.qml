@@ -71,7 +71,6 @@ FocusScope {
         id: floating
         anchors.fill: parent
         focus: true
-        needed: false
         page: Qt.resolvedUrl("FloatingSurface.qml")
         properties: ({ popover: popover })
     }

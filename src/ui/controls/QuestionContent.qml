@@ -4,24 +4,24 @@ import Ravelo.Theme
 
 /// Text and buttons of a question.
 Item {
-    id: content
+    id: page
 
     required property Question popover
 
     readonly property bool opened: popover.opened
 
     implicitWidth: Math.max(label.implicitWidth, detail.implicitWidth, buttons.width) + 2
-    implicitHeight: content.popover.detail === "" ? 58 : 82
+    implicitHeight: page.popover.detail === "" ? 58 : 82
     onOpenedChanged: {
         if (opened) {
-            (content.popover.yesFirst ? yes : no).forceActiveFocus();
+            (page.popover.yesFirst ? yes : no).forceActiveFocus();
         }
     }
 
     Label {
         id: label
         x: 2
-        text: content.popover.text
+        text: page.popover.text
         style: Theme.strong
         color: Theme.text1
     }
@@ -32,7 +32,7 @@ Item {
         visible: text !== ""
         x: 2
         y: 20
-        text: content.popover.detail
+        text: page.popover.detail
         style: Theme.body
         color: Theme.text3
     }
@@ -40,40 +40,40 @@ Item {
     Row {
         id: buttons
         anchors.right: parent.right
-        y: content.popover.detail === "" ? 30 : 54
+        y: page.popover.detail === "" ? 30 : 54
         spacing: 8
 
         CapsuleButton {
             id: no
             objectName: "no"
             text: qsTr("No")
-            primary: !content.popover.destroys && !content.popover.yesIsWhite
-            ring: content.popover.keyed
-            Keys.onPressed: content.popover.keyed = true
+            primary: !page.popover.destroys && !page.popover.yesIsWhite
+            ring: page.popover.keyed
+            Keys.onPressed: page.popover.keyed = true
             KeyNavigation.priority: KeyNavigation.AfterItem
             KeyNavigation.right: yes
             KeyNavigation.tab: yes
             KeyNavigation.backtab: yes
-            onClicked: content.popover.close()
+            onClicked: page.popover.close()
         }
         CapsuleButton {
             id: yes
             objectName: "yes"
-            text: content.popover.yesText
-            primary: !content.popover.destroys && content.popover.yesIsWhite
-            textColor: content.popover.destroys ? Theme.red : primary ? Theme.onWhite : Theme.text1
-            rest: content.popover.destroys ? Theme.quit : primary ? Theme.primary : Theme.surface3
-            hover: content.popover.destroys ? Theme.hoveredPower : primary ? Theme.primaryHovered : Theme.surface4
-            press: content.popover.destroys ? Theme.pressedPower : primary ? Theme.primaryPressed : Theme.pressedButton
-            ring: content.popover.keyed
-            Keys.onPressed: content.popover.keyed = true
+            text: page.popover.yesText
+            primary: !page.popover.destroys && page.popover.yesIsWhite
+            textColor: page.popover.destroys ? Theme.red : primary ? Theme.onWhite : Theme.text1
+            rest: page.popover.destroys ? Theme.quit : primary ? Theme.primary : Theme.surface3
+            hover: page.popover.destroys ? Theme.hoveredPower : primary ? Theme.primaryHovered : Theme.surface4
+            press: page.popover.destroys ? Theme.pressedPower : primary ? Theme.primaryPressed : Theme.pressedButton
+            ring: page.popover.keyed
+            Keys.onPressed: page.popover.keyed = true
             KeyNavigation.priority: KeyNavigation.AfterItem
             KeyNavigation.left: no
             KeyNavigation.tab: no
             KeyNavigation.backtab: no
             onClicked: {
-                content.popover.close();
-                content.popover.accepted();
+                page.popover.close();
+                page.popover.accepted();
             }
         }
     }

@@ -13,6 +13,8 @@ FocusScope {
     property string heading
     property Item focusedBefore
     property bool complete: false
+    /// False until this is complete: it grows in.
+    property bool up: false
     default property alias content: sheet.data
 
     /// How much lower the sheet is because the panel is too low; the text scrolls then.
@@ -26,7 +28,7 @@ FocusScope {
     signal escaped
 
     function follow() {
-        opacity = editing ? 1 : 0;
+        up = editing;
         if (editing) {
             focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
             // The pointer may have opened the panel by chance; then only a press asks for the
@@ -45,7 +47,7 @@ FocusScope {
     anchors.fill: parent
     visible: opacity > 0
     enabled: editing
-    opacity: 0
+    opacity: up ? 1 : 0
     Component.onCompleted: {
         complete = true;
         follow();
@@ -96,7 +98,7 @@ FocusScope {
         y: layer.height < 560 ? (layer.height - height) / 2 : 84
         width: 420
         height: 394 - layer.cut
-        scale: layer.editing ? 1 : 1 - Theme.move(4) / 100
+        scale: layer.up ? 1 : 1 - Theme.move(4) / 100
 
         Behavior on scale {
             NumberAnimation {

@@ -15,12 +15,15 @@ class Tab : public QObject {
     Q_PROPERTY(QString title READ title CONSTANT)
     Q_PROPERTY(QString symbol READ symbol CONSTANT)
     Q_PROPERTY(QUrl page READ page CONSTANT)
+    Q_PROPERTY(bool eager READ isEager CONSTANT)
     Q_PROPERTY(bool kept READ isKept CONSTANT)
     Q_PROPERTY(bool searchable READ isSearchable CONSTANT)
 
 public:
     struct Look {
-        enum class Page { kept, dropped };
+        /// While another tab is shown: there from the start, as a sheet of it may cover that one;
+        /// kept once it was shown; or gone.
+        enum class Page { eager, kept, dropped };
         enum class Search { none, has };
 
         QString key;    ///< Stored in the preferences; never shown, never changed.
@@ -41,7 +44,8 @@ public:
 
     [[nodiscard]] QUrl page() const { return look_.page; }
 
-    /// The page exists while another tab is shown.
+    [[nodiscard]] bool isEager() const { return look_.whileHidden == Look::Page::eager; }
+
     [[nodiscard]] bool isKept() const { return look_.whileHidden == Look::Page::kept; }
 
     [[nodiscard]] bool isSearchable() const { return look_.search == Look::Search::has; }

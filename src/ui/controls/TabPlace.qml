@@ -16,7 +16,7 @@ Loader {
     /// Above the whole panel.
     required property Item stage
 
-    readonly property bool wanted: current || tab.kept && item !== null
+    readonly property bool wanted: current || tab.eager || tab.kept && item !== null
 
     function follow() {
         if (wanted) {

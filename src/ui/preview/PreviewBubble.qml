@@ -40,7 +40,6 @@ Lazy {
         surface.focusText();
     }
 
-    needed: false
     page: Qt.resolvedUrl("PreviewSurface.qml")
     properties: ({ bubble: bubble })
 }

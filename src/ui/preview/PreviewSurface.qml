@@ -50,9 +50,8 @@ Item {
         }
     }
     Behavior on scale {
-        enabled: surface.bubble.opened
         NumberAnimation {
-            duration: Theme.floatingIn
+            duration: surface.bubble.opened ? Theme.floatingIn : Theme.floatingOut
             easing.type: Easing.OutCubic
         }
     }

@@ -68,6 +68,7 @@ Sheet {
             placeholder: qsTr("Title")
             KeyNavigation.tab: body
             KeyNavigation.backtab: save
+            // In the text it begins a line.
             Keys.onReturnPressed: layer.save()
             Keys.onEnterPressed: layer.save()
             onTextChanged: {

@@ -7,13 +7,14 @@ import Ravelo.Vault
 
 /// What LockedView shows.
 FocusScope {
-    id: locked
+    id: page
 
     required property LockedView view
 
     readonly property bool asks: view.shown && visible && Vault.asksPassphrase
     /// By a button, when the panel may not have the keyboard.
     readonly property bool asked: asks && Vault.asked
+    readonly property bool showsMistake: Vault.asksPassphrase && Vault.problem !== ""
 
     onAsksChanged: {
         if (asks) {
@@ -35,8 +36,6 @@ FocusScope {
         }
     }
 
-    readonly property bool showsMistake: Vault.asksPassphrase && Vault.problem !== ""
-
     focus: true
     Accessible.role: Accessible.StatusBar
     Accessible.name: Vault.title
@@ -48,7 +47,7 @@ FocusScope {
 
         Box {
             objectName: "lockedDisc"
-            visible: locked.height >= 180
+            visible: page.height >= 180
             anchors.horizontalCenter: parent.horizontalCenter
             width: 64
             height: 64
@@ -64,7 +63,7 @@ FocusScope {
         }
         Item {
             width: 1
-            height: locked.height >= 180 ? 16 : 0
+            height: page.height >= 180 ? 16 : 0
         }
         Label {
             objectName: "lockedTitle"
@@ -108,7 +107,7 @@ FocusScope {
                 focus: true
                 placeholder: qsTr("Passphrase")
                 enabled: !Vault.busy
-                mistaken: locked.showsMistake
+                mistaken: page.showsMistake
                 onAccepted: Vault.tryPassphrase(field.edited)
             }
             CapsuleButton {
@@ -127,7 +126,7 @@ FocusScope {
         }
         Row {
             visible: Vault.asksPassphrase
-            opacity: locked.showsMistake ? 1 : 0 // Keeps its place.
+            opacity: page.showsMistake ? 1 : 0 // Keeps its place.
             anchors.horizontalCenter: parent.horizontalCenter
             spacing: 5
 

@@ -54,6 +54,12 @@ TEST_F(Panel, keepsAChangedClipUntilItOpensAgain) {
         ASSERT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }));
     }
     EXPECT_EQ(text(u"clipInput"_s), u"firstabc"_s);
+    world.settings.lastTab.set(u"Notes"_s);
+    rebuild();
+    openByKey();
+    EXPECT_TRUE(eventually([&] { return item(u"clipInput"_s)->hasActiveFocus(); }))
+        << "also over another tab";
+    world.settings.lastTab.set(u"Clipboard"_s);
     pressKeys(u"Escape"_s);
     EXPECT_TRUE(item(u"discardQuestion"_s)->isVisible());
     pressKeys(u"Tab Return"_s);

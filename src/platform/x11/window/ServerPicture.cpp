@@ -48,7 +48,8 @@ Descriptor shared(const QImage& pixels) {
 /// cannot take it so.
 bool putShared(xcb_connection_t* connection, xcb_drawable_t target, xcb_gcontext_t context,
                const QImage& pixels) {
-    if (!isLocal(connection) || xcb_get_extension_data(connection, &xcb_shm_id)->present == 0) {
+    const auto* const extension = xcb_get_extension_data(connection, &xcb_shm_id);
+    if (extension == nullptr || extension->present == 0 || !isLocal(connection)) {
         return false;
     }
     Descriptor file = shared(pixels);
