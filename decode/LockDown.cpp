@@ -85,10 +85,11 @@ bool addRules(scmp_filter_ctx filter) {
         return seccomp_rule_add(filter, SCMP_ACT_ALLOW, call, sizeof...(conditions),
                                 conditions...) == 0;
     };
-    const scmp_arg_cmp notExecutable = SCMP_A2(SCMP_CMP_MASKED_EQ, PROT_EXEC, 0);
-    const scmp_arg_cmp thread = SCMP_A0(SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD);
-    const scmp_arg_cmp seals = SCMP_A1(SCMP_CMP_EQ, F_ADD_SEALS);
-    const scmp_arg_cmp name = SCMP_A0(SCMP_CMP_EQ, PR_SET_NAME);
+    // The number of the argument, the comparison, and its operands.
+    const scmp_arg_cmp notExecutable{2, SCMP_CMP_MASKED_EQ, PROT_EXEC, 0};
+    const scmp_arg_cmp thread{0, SCMP_CMP_MASKED_EQ, CLONE_THREAD, CLONE_THREAD};
+    const scmp_arg_cmp seals{1, SCMP_CMP_EQ, F_ADD_SEALS, 0};
+    const scmp_arg_cmp name{0, SCMP_CMP_EQ, PR_SET_NAME, 0};
     for (const int call : allowed) {
         if (!allow(call)) {
             return false;

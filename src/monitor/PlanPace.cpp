@@ -66,7 +66,8 @@ QJsonArray encode(const UsageCourse& course) {
 
 UsageCourse decode(const QJsonValue& value, const WindowKind& kind) {
     UsageCourse course;
-    for (const QJsonValue pair : value.toArray()) {
+    const QJsonArray array = value.toArray();
+    for (const auto pair : array) {
         if (pair[0].isDouble() && pair[1].isDouble()) {
             course.add({Date{pair[0].toDouble() - referenceInstant}, pair[1].toDouble()}, kind);
         }

@@ -20,7 +20,7 @@ QString fileName(const QString& path) {
 Notices::Notices(Scheduler& scheduler) : scheduler_(scheduler) {}
 
 void Notices::saveFailed(Source source, const QString& reason, Retry retry) {
-    const auto [failure, isNew] = failures_.try_emplace(source, scheduler_.uptime());
+    const auto [failure, isNew] = failures_.try_emplace(source, Failure{scheduler_.uptime(), {}});
     failure->second.reason = reason;
     failure->second.retry = retry;
     savedAgain_.reset();

@@ -47,7 +47,8 @@ Value named(const QString& name, std::initializer_list<std::pair<QLatin1StringVi
 
 QStringList texts(const QJsonValue& list) {
     QStringList texts;
-    for (const QJsonValue text : list.toArray()) {
+    const QJsonArray array = list.toArray();
+    for (const auto text : array) {
         texts.append(text.toString());
     }
     return texts;
@@ -81,7 +82,8 @@ SecretForm parsed(const QJsonValue& value) {
 
 std::vector<SecretForm> parsedFile() {
     std::vector<SecretForm> forms;
-    for (const QJsonValue form : QJsonDocument::fromJson(formsFile).array()) {
+    const QJsonArray array = QJsonDocument::fromJson(formsFile).array();
+    for (const auto form : array) {
         forms.push_back(parsed(form));
     }
     return forms;

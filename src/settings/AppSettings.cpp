@@ -52,7 +52,8 @@ QString read(const QJsonValue& value, const QString& standard) {
 
 QStringList read(const QJsonValue& value, const QStringList& /*standard*/) {
     QStringList texts;
-    for (const QJsonValue item : value.toArray()) {
+    const QJsonArray array = value.toArray();
+    for (const auto item : array) {
         if (const QString text = item.toString(); !text.trimmed().isEmpty()) {
             texts.append(text);
         }

@@ -95,7 +95,8 @@ void Store::trimForms() {
         return;
     }
     QStringList names;
-    for (const QUuid& clip : ClipHistory::surplusForms(data_.clips, maxAllForms, fileSizes_)) {
+    const auto surplus = ClipHistory::surplusForms(data_.clips, maxAllForms, fileSizes_);
+    for (const QUuid& clip : surplus) {
         names.append(formsFileName(clip));
         fileSizes_.remove(names.last());
         details_.insert(clip, {.pixels = detailsOf(clip).pixels});

@@ -28,7 +28,8 @@ std::optional<QStringList> texts(const QJsonValue& value) {
         return std::nullopt;
     }
     QStringList list;
-    for (const QJsonValue text : value.toArray()) {
+    const QJsonArray array = value.toArray();
+    for (const auto text : array) {
         if (!text.isString()) {
             return std::nullopt;
         }

@@ -24,7 +24,7 @@ QString textsKey() {
 /// Empty unless all elements are texts.
 QStringList toTexts(const QJsonArray& array) {
     QStringList texts;
-    for (const QJsonValue value : array) {
+    for (const auto value : array) {
         if (!value.isString()) {
             return {};
         }

@@ -70,7 +70,7 @@ TEST_F(Files, WritingMakesAFilePrivate) {
 TEST_F(Files, WritingFollowsALink) {
     ASSERT_TRUE(QDir(folder_.path()).mkdir(u"elsewhere"_s));
     ASSERT_TRUE(QFile::link(path(u"elsewhere/a"_s), path(u"a"_s)));
-    for (const QByteArray contents : {"to nothing yet", "to a file"}) {
+    for (const char* contents : {"to nothing yet", "to a file"}) {
         ASSERT_TRUE(writeFileAtomically(path(u"a"_s), contents));
         EXPECT_EQ(readFile(path(u"elsewhere/a"_s)), contents);
     }
@@ -110,7 +110,7 @@ TEST_F(Files, EachUnreadableFileIsKept) {
     const QString file = path(u"a"_s);
     EXPECT_EQ(setAsideUnreadable(file).value_or(u"failed"_s), QString());
     EXPECT_EQ(entries(), QStringList()) << "there was nothing to keep";
-    for (const QByteArray contents : {"1", "2", "3"}) {
+    for (const char* contents : {"1", "2", "3"}) {
         ASSERT_TRUE(writeFileAtomically(file, contents));
         ASSERT_TRUE(setAsideUnreadable(file));
     }

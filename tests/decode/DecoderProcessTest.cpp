@@ -66,7 +66,7 @@ TEST_F(CountedDecoder, ServesManyAndCachesSmallPictures) {
     decoder = std::make_unique<DecoderProcess>(RAVELO_DECODE, "/nowhere");
     EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8));
     ASSERT_EQ(children().size(), 1);
-    kill(children().first().toInt(), SIGKILL);
+    kill(children().constFirst().toInt(), SIGKILL);
     EXPECT_EQ(decoder->filling(file, {8, 8, 8}).size(), QSize(8, 8)) << "it is not kept";
     EXPECT_TRUE(eventually([] { return children().isEmpty(); }));
     EXPECT_EQ(decoder->filling(file, {9, 9, 9}).size(), QSize(9, 9)) << "no new process came";
@@ -102,7 +102,7 @@ TEST_F(CountedDecoder, ForgetsOneFileOnly) {
     (void)decoder->filling(deleted, {8, 8, 8});
     (void)decoder->filling(other, {8, 8, 8});
     ASSERT_EQ(children().size(), 1);
-    kill(children().first().toInt(), SIGKILL);
+    kill(children().constFirst().toInt(), SIGKILL);
     ASSERT_TRUE(eventually([] { return children().isEmpty(); }));
     decoder->forget(deleted);
     EXPECT_EQ(decoder->filling(other, {8, 8, 8}).size(), QSize(8, 8));
@@ -142,7 +142,7 @@ public:
 TEST_F(DecoderProcessLife, IsLockedDownAndEndsWithItsReader) {
     ASSERT_EQ(sizeOf(*decoder, file), QSize(64, 32));
     ASSERT_EQ(children().size(), 1);
-    const QString process = u"/proc/"_s + children().first();
+    const QString process = u"/proc/"_s + children().constFirst();
     const QByteArray status = readFile(process + u"/status"_s).value_or(QByteArray());
     EXPECT_TRUE(status.contains("Seccomp:\t2")) << "no filter of system calls";
     EXPECT_TRUE(status.contains("NoNewPrivs:\t1"));

@@ -367,7 +367,7 @@ TEST_F(GnomePasteboardTest, OffersATextThroughTheShellWithoutTheFocus) {
     ASSERT_EQ(QGuiApplication::focusWindow(), nullptr);
     EXPECT_EQ(board().write({{u"image/png"_s, "png"}, {plainTextType, "Gr\xc3\xbc\xc3\x9f"}}), 2);
     EXPECT_TRUE(eventually([&] { return world_.shell.heard(u"offer"_s).size() == 1; }));
-    EXPECT_EQ(world_.shell.heard(u"offer"_s).front()[u"text"].toString(), u"Grüß");
+    EXPECT_EQ(world_.shell.heard(u"offer"_s).constFirst()[u"text"].toString(), u"Grüß");
     int calls = 0;
     const Handle listening = board().onChange([&] { ++calls; });
     world_.shell.send(
@@ -393,7 +393,7 @@ TEST_F(GnomePasteboardTest, KeepsTheFocusUntilItsCopyHasArrivedAndOffersItIfItWa
     world_.server->channel().send(place(3)); // Arrives after everything before it.
     EXPECT_TRUE(eventually([&] {
         return !world_.shell.heard(u"place"_s).isEmpty() &&
-               world_.shell.heard(u"place"_s).last()[u"screen"] == 3;
+               world_.shell.heard(u"place"_s).constLast()[u"screen"] == 3;
     }));
     EXPECT_EQ(given(), 0) << "Mutter may ignore the copy now";
     const QString mark =

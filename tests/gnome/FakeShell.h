@@ -59,7 +59,8 @@ public:
     void connect(int version = protocolVersion) {
         socket_ = connectTo(path_);
         readable_ = std::make_unique<QSocketNotifier>(socket_.number(), QSocketNotifier::Read);
-        QObject::connect(readable_.get(), &QSocketNotifier::activated, [this] { hear(); });
+        QObject::connect(readable_.get(), &QSocketNotifier::activated, readable_.get(),
+                         [this] { hear(); });
         send(R"({"is":"hello","version":)" + QByteArray::number(version) + "}");
     }
 

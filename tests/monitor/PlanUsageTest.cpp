@@ -14,6 +14,7 @@
 #include "platform/system/DetachedThreads.h"
 #include "platform/system/SpawnedChild.h"
 #include "support/Eventually.h"
+#include "support/SignalCount.h"
 #include "support/TestFiles.h"
 
 #include <QTcpServer>
@@ -253,11 +254,10 @@ TEST_F(PlanUsageTest, triesTheNextAddressIfTheFirstDoesNotAnswer) {
 
 TEST_F(PlanUsageTest, queriesEveryNinetySecondsAndReadsTheFileWhileThatFails) {
     start();
-    int changes = 0;
-    QObject::connect(usage.get(), &PlanUsage::changed, [&] { ++changes; });
+    const SignalCount changes(usage.get(), &PlanUsage::changed);
     pass(Seconds(90));
     EXPECT_EQ(server.requests().size(), 1);
-    EXPECT_EQ(changes, 0) << "the file does not count while asking succeeds";
+    EXPECT_EQ(changes.count(), 0) << "the file does not count while asking succeeds";
     EXPECT_TRUE(windows() == answered);
 
     server.answer = UsageServer::http("500 Internal Server Error", "");

@@ -100,7 +100,7 @@ TEST_F(PreferenceFileTest, KeepsUnknownKeys) {
 }
 
 TEST_F(PreferenceFileTest, SetsAnUnreadableFileAside) {
-    for (const QByteArray junk : {"", "junk", "[1]", R"({"a":1)"}) {
+    for (const char* junk : {"", "junk", "[1]", R"({"a":1)"}) {
         makeFile(path_, junk);
         PreferenceFile preferences(path_, services_);
         EXPECT_TRUE(preferences.wasUnreadable());

@@ -66,7 +66,7 @@ void leave() {
     atExit = &worker;
     std::atexit(drainAtExit);
     QEventLoop loop;
-    QTimer::singleShot(0, [] { std::exit(3); });
+    QTimer::singleShot(0, &loop, [] { std::exit(3); });
     loop.exec();
 }
 

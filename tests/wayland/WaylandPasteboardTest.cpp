@@ -108,7 +108,7 @@ TEST_F(WaylandPasteboardTest, aHungOwnerCostsNoMoreThanItsTimeOut) {
     OtherProgram next;
     next.pasteboard.write({{plainTextType, "next"}});
     EXPECT_TRUE(eventually([&] { return snapshots_.size() == 2; }));
-    EXPECT_EQ(texts().last(), "next") << "the copy that came while the hung one was read";
+    EXPECT_EQ(texts().constLast(), "next") << "the copy that came while the hung one was read";
     EXPECT_LT(gauge.longestStallMs(), 50) << "the main thread waited";
     end.set_value();
 }
@@ -117,10 +117,10 @@ TEST_F(WaylandPasteboardTest, givesUpWhatIsTooLarge) {
     const qsizetype limit = maxAnswerSize("text/plain");
     other_.pasteboard.write({{plainTextType, QByteArray(limit, 'a')}});
     EXPECT_TRUE(eventually([&] { return snapshots_.size() == 1; }));
-    EXPECT_EQ(texts().last().size(), limit);
+    EXPECT_EQ(texts().constLast().size(), limit);
     other_.pasteboard.write({{plainTextType, QByteArray(limit + 1, 'a')}});
     EXPECT_TRUE(eventually([&] { return snapshots_.size() == 2; }));
-    EXPECT_EQ(texts().last(), "nothing");
+    EXPECT_EQ(texts().constLast(), "nothing");
     EXPECT_GT(snapshots_.last().tooLarge.value(plainTextType), limit);
 }
 

@@ -153,7 +153,7 @@ template <typename T>
 bool read(const QJsonValue& value, QList<T>& list) {
     const QJsonArray array = value.toArray();
     list.reserve(array.size());
-    for (const QJsonValue element : array) {
+    for (const auto element : array) {
         if (!read(element, list.emplaceBack())) {
             return false;
         }

@@ -3,6 +3,7 @@
 #include <QIODevice>
 
 #include <algorithm>
+#include <utility>
 
 namespace ravelo {
 
@@ -40,7 +41,7 @@ QByteArray octal(qint64 number, qsizetype digits) {
 qint64 sumOf(QByteArray header) {
     put(header, sumField, QByteArray(sumField.length, ' '));
     qint64 sum = 0;
-    for (const char byte : header) {
+    for (const char byte : std::as_const(header)) {
         sum += static_cast<uchar>(byte);
     }
     return sum;

@@ -99,7 +99,8 @@ void dropKnownRecords(StoreData& imported, const StoreData& known, const Vault& 
     imported.clips.removeIf(
         [&](const ClipItem& one) { return isKnown(one, known.clips, pictures); });
     QStringList unused;
-    for (const QString& name : before - fileNames(imported)) {
+    const QSet<QString> gone = before - fileNames(imported);
+    for (const QString& name : gone) {
         if (!name.isEmpty()) {
             unused.append(vault.folder() + u"/clips/"_s + name);
         }

@@ -112,7 +112,7 @@ Result<QList<Given>> parsed(const QByteArray& bytes) {
         return failure(SnippetFile::tr("The file has more than 1,000 snippets."));
     }
     QList<Given> all;
-    for (const QJsonValue value : array) {
+    for (const auto value : array) {
         Result<Given> one = given(value, all.size() + 1);
         if (!one) {
             return tl::unexpected(one.error());

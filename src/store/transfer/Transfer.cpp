@@ -15,6 +15,7 @@
 #include <QHash>
 #include <QSaveFile>
 
+#include <algorithm>
 #include <utility>
 
 namespace ravelo {
@@ -242,7 +243,7 @@ Result<Import> importStore(const QString& path, const Vault& vault, ImageDecoder
                                                    : files.error().message));
     }
     QList<QList<QUrl>> shelf = shelfStacks(std::exchange(data->shelfStacks, {}));
-    return Import{{std::move(*data), std::move(shelf)}, int(names.values().count(QString()))};
+    return Import{{std::move(*data), std::move(shelf)}, int(std::ranges::count(names, QString()))};
 }
 
 } // namespace ravelo

@@ -244,7 +244,8 @@ void ClipListModel::continueSearch() {
 QList<ClipItem> ClipListModel::allRows() const {
     QList<ClipItem> all = store_.clips();
     if (tooLarge_) {
-        all.insert(std::ranges::find(all, false, &ClipItem::pinned), tooLarge_->record);
+        const auto unpinned = std::ranges::find(std::as_const(all), false, &ClipItem::pinned);
+        all.insert(unpinned, tooLarge_->record);
     }
     return all;
 }

@@ -73,7 +73,8 @@ QString exactText(const QTextDocument& document, int from, int to) {
             text += end.isValid() ? end.toString() : u"\n"_s;
         }
         const int begin = std::max(0, from - block.position());
-        text += block.text().mid(begin, to - block.position() - begin);
+        const QString line = block.text();
+        text += QStringView(line).mid(begin, to - block.position() - begin);
     }
     return text;
 }

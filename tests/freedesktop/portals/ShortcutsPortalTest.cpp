@@ -101,7 +101,7 @@ private:
         if (call.interface() != shortcuts) {
             return {};
         }
-        const auto options = qdbus_cast<QVariantMap>(call.arguments().last());
+        const auto options = qdbus_cast<QVariantMap>(call.arguments().constLast());
         QString sender = call.service().mid(1);
         const QString request = path + u"/request/"_s + sender.replace(u'.', u'_') + u'/' +
                                 options.value(u"handle_token"_s).toString();

@@ -69,15 +69,14 @@ TEST_F(Autostart, RewritesAnEntryWhoseProgramIsMissing) {
     AutostartEntry entry = entryFor(u"/usr/bin/ravelo"_s);
     EXPECT_EQ(repair(entry), "nothing to mend");
     EXPECT_FALSE(QFile::exists(file())) << "it was off";
-    for (const QByteArray kept :
-         {"[Desktop Entry]\nExec=/gone/ravelo\nHidden=true\n", "[Desktop Entry]\nExec=/bin/sh\n",
-          "[Desktop Entry]\nExec=sh\n"}) {
+    for (const char* kept : {"[Desktop Entry]\nExec=/gone/ravelo\nHidden=true\n",
+                             "[Desktop Entry]\nExec=/bin/sh\n", "[Desktop Entry]\nExec=sh\n"}) {
         write(kept);
         EXPECT_EQ(repair(entry), "nothing to mend");
         EXPECT_EQ(readFile(file()), kept);
     }
-    for (const QByteArray stale : {"/gone/ravelo", "no-such-program"}) {
-        write("[Desktop Entry]\nExec=" + stale + "\n");
+    for (const char* stale : {"/gone/ravelo", "no-such-program"}) {
+        write(QByteArray("[Desktop Entry]\nExec=") + stale + "\n");
         EXPECT_EQ(repair(entry), "mended");
         EXPECT_TRUE(entry.isEnabled());
         EXPECT_TRUE(readFile(file())->contains("Exec=\"/usr/bin/ravelo\"\n"));

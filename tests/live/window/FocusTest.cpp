@@ -139,7 +139,7 @@ TEST_F(PanelFixture, ATextFieldReceivesTyping) {
     auto* item = qobject_cast<QQuickItem*>(field.get());
     item->setParentItem(quick.contentItem());
     QObject::connect(item, &QQuickItem::activeFocusChanged, &quick,
-                     [&] { quickPanel.requestFocus({}); });
+                     [panel = &quickPanel] { panel->requestFocus({}); });
     const OtherWindow editor(OtherWindow::Kind::normal, {300, 600, 300, 200});
 
     quickPanel.place(screens.monitor(u"DUMMY0"_s)->screen, {400, 200});

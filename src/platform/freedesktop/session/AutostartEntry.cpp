@@ -40,7 +40,7 @@ QHash<QByteArray, QByteArray> readEntry(const QByteArray& bytes) {
 /// An argument of an Exec line: quoted, because a path may contain anything, and escaped twice, as
 /// a quoted argument and as a value.
 QString execArgument(QString argument) {
-    for (const QChar special : u"\\\"`$"_s) {
+    for (const QChar special : QStringView(u"\\\"`$")) {
         argument.replace(special, u'\\' + QString(special));
     }
     argument.replace(u"%"_s, u"%%"_s);

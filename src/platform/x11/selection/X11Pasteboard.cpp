@@ -12,7 +12,7 @@ namespace ravelo::x11 {
 
 namespace {
 
-const QByteArray selectionName = QByteArrayLiteral("CLIPBOARD");
+constexpr auto selectionName = "CLIPBOARD";
 
 } // namespace
 
