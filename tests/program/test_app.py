@@ -143,12 +143,16 @@ class Windows(AssistiveCase, ProgramCase):
 
         self.ravelo.start()
         setup = self.expect_window(self.SETUP)
-        self.desktop.drag((setup.x + 100, setup.y + 20), (setup.x + 160, setup.y + 50))
-        self.desktop.run("xdotool", "mouseup", 1)
-        # The motion before the window manager grabbed the pointer is not part of the move.
-        wait_for(lambda: (now := self.ravelo.window(self.SETUP)) and
-                 0 < now.x - setup.x <= 60 and 0 < now.y - setup.y <= 30,
-                 lambda: f"the window moved by its strip: {self.ravelo.window(self.SETUP)}")
+
+        def moved():
+            # A press before the window is ready is lost.
+            self.desktop.drag((setup.x + 100, setup.y + 20), (setup.x + 160, setup.y + 50))
+            self.desktop.run("xdotool", "mouseup", 1)
+            now = self.ravelo.window(self.SETUP)
+            # The motion before the window manager grabbed the pointer is not part of the move.
+            return now and 0 < now.x - setup.x <= 60 and 0 < now.y - setup.y <= 30
+
+        wait_for(moved, lambda: f"the window moved by its strip: {self.ravelo.window(self.SETUP)}")
         self.press("Return", "Tab")
         options = wait_for(lambda: [
             (node["name"], node["description"], node["checked"]) for node in self.accessible_nodes()
