@@ -1,10 +1,9 @@
 import QtQuick
 import Ravelo.Clips
-import Ravelo.Controls
 import Ravelo.Theme
 
 /// A row of the clipboard history.
-Card {
+ClipCard {
     id: row
 
     required property Clips clips

@@ -5,7 +5,7 @@ import Ravelo.Controls
 import Ravelo.Paint
 import Ravelo.Theme
 
-/// A list row: tile, title, subtitle, and a digit that small buttons replace on hover.
+/// How a row looks: tile, title, subtitle, and a digit that small buttons replace on hover.
 Item {
     id: card
 
