@@ -36,6 +36,7 @@ class Shelf(ProgramCase):
 
     def drop(self, start, to):
         self.desktop.drag(start, to)
+        time.sleep(0.3)  # The one below has to answer; nothing tells us when.
         self.desktop.run("xdotool", "mouseup", 1)
 
     def test_files_are_dragged_out_as_copies_and_stay(self):
