@@ -8,7 +8,7 @@ FocusScope {
     id: layer
 
     required property bool editing
-    /// The edit goes on after the panel was closed.
+    /// Continues an edit from before the panel closed.
     required property bool resumed
     property string heading
     property Item focusedBefore
