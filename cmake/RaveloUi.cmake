@@ -3,6 +3,10 @@
 
 option(RAVELO_COMPILE_QML "Compile QML to C++: starts faster, builds slower" ON)
 
+get_target_property(QMLCACHEGEN Qt6::qmlcachegen LOCATION)
+set(RAVELO_QMLCACHEGEN "${PROJECT_BINARY_DIR}/qmlcachegen")
+configure_file("${CMAKE_CURRENT_LIST_DIR}/qmlcachegen.in" "${RAVELO_QMLCACHEGEN}" @ONLY)
+
 # ravelo_ui_library(text SOURCES Typing.cpp Typing.h QML EditLine.qml LINKS ui_theme)
 # makes the library ui_text of the folder src/ui/text and its QML module Ravelo.Text. SINGLETONS are
 # QML files of which there is one; PLAIN means that there is nothing for QML.
@@ -46,6 +50,7 @@ function(ravelo_ui_library folder)
     if(NOT RAVELO_COMPILE_QML)
         set(cachegen NO_CACHEGEN)
     endif()
+    set_target_properties(${target} PROPERTIES QT_QMLCACHEGEN_EXECUTABLE "${RAVELO_QMLCACHEGEN}")
     qt_add_qml_module(${target}
         URI Ravelo.${name}
         VERSION 1.0
