@@ -17,7 +17,7 @@ import subprocess
 import tempfile
 import time
 
-from gi.repository import Gio
+from installed import Gio
 
 HERE = pathlib.Path(__file__).resolve().parent
 WIDTH, HEIGHT = 1440, 900

@@ -11,10 +11,10 @@ import shutil
 import subprocess
 import tempfile
 
-from gi.repository import Gio, GLib
-
 import page
 from desktop import HERE, Desktop, Monitor, Picture, Ravelo, _die_with_parent, wait_for
+from installed import Gio, GLib
+
 WIDTH, HEIGHT = 1280, 800
 LEFT, RIGHT = (Monitor(None, x, 0, WIDTH, HEIGHT) for x in (0, WIDTH))
 SWAY_CONFIGURATION = f"""
