@@ -248,7 +248,10 @@ void NotchController::open() {
 void NotchController::openBefore(Opening opening) {
     openWork_.reset();
     positionExpanded();
-    if (isOpen_ && opening.keyboard == Opening::Keyboard::requested) {
+    // Where only the keyboard shows that the user went elsewhere, it is needed for closing.
+    const bool needsKeyboard = opening.keyboard == Opening::Keyboard::requested ||
+                               !services_.zone.reportsPressesElsewhere();
+    if (isOpen_ && needsKeyboard) {
         services_.window.requestFocus(opening.activationToken);
     } else if (!isOpen_ && !isLocked() && services_.scheduler.uptime() < opening.end) {
         openWork_ = services_.scheduler.after(
@@ -395,6 +398,7 @@ void NotchController::setFrame(const Screen& screen, QSizeF size, const QPainter
 
 void NotchController::setDraggingOut(bool dragging) {
     draggingOut_ = dragging;
+    services_.zone.setDraggingOut(dragging);
     services_.zone.lookAgain();
 }
 

@@ -59,6 +59,10 @@ public:
     /// Where the panel is now, in global logical pixels. Implies `lookAgain`.
     virtual void setPanel(const QRectF& frame) = 0;
 
+    /// Something is about to be dragged out of the panel, or no longer is. What notices the pointer
+    /// for us elsewhere must not catch it.
+    virtual void setDraggingOut(bool /*dragging*/) {}
+
     /// Something else has changed that the next report must be judged by: reports soon.
     virtual void lookAgain() = 0;
 };

@@ -128,6 +128,25 @@ class WaylandPanel(WaylandCase):
         self.paste_at_once()
         wait_for(lambda: file.read_text() == "to paste, ✓", "the text in the terminal")
 
+    def test_a_clip_is_dragged_out_although_the_panel_has_the_keyboard(self):
+        self.desktop.copy_text("dragged out")
+        self.wait_for_texts("dragged out")
+        self.desktop.add_output()
+        self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
+        wait_for(self.ravelo.is_open, "the open panel")
+        self.desktop.still_picture()
+        self.desktop.drag(FIRST_ROW, (WIDTH * 3 // 2, 3))  # Over the strip of the other monitor.
+        self.desktop.move(WIDTH * 3 // 2, 2)
+        field = (100, 780)
+        self.desktop.move(*field)
+        time.sleep(0.5)  # For the field to accept it.
+        self.desktop.move(field[0] + 1, field[1])
+        time.sleep(0.5)
+        self.desktop.release()
+        lines = iter(self.window.stdout.readline, "")
+        self.assertEqual(next(line for line in lines if line != "ready\n"), "dragged out\n")
+        wait_for(self.ravelo.is_collapsed, "closed, as the pointer has left it")
+
     def test_a_dropped_file_is_parked(self):
         file = self.desktop.home / "a file.txt"
         file.write_text("x")

@@ -72,6 +72,15 @@ void WaylandHotZone::setPanel(const QRectF& /*frame*/) {
     lookAgain();
 }
 
+/// Qt crashes if a drag that it began moves over a surface that it does not know.
+void WaylandHotZone::setDraggingOut(bool dragging) {
+    draggingOut_ = dragging;
+    if (dragging) {
+        window_.letDragOut();
+    }
+    makeStrips();
+}
+
 void WaylandHotZone::lookAgain() {
     next_ = scheduler_.after(Seconds(0), [this] { report(); });
 }
@@ -88,7 +97,7 @@ void WaylandHotZone::report() {
 void WaylandHotZone::makeStrips() {
     const auto screens = screens_.all();
     std::erase_if(strips_, [&](const auto& strip) {
-        return (strip.first == window_.screen() && strip.first != hovered_) ||
+        return draggingOut_ || (strip.first == window_.screen() && strip.first != hovered_) ||
                !find(screens, strip.first);
     });
     if (!hovered_.isEmpty() && !strips_.contains(hovered_)) {
@@ -98,7 +107,7 @@ void WaylandHotZone::makeStrips() {
         hovered_.clear();
     }
     for (const Screen& screen : screens) {
-        if (screen.id != window_.screen() && !strips_.contains(screen.id)) {
+        if (!draggingOut_ && screen.id != window_.screen() && !strips_.contains(screen.id)) {
             if (auto strip = surfaces_.makeInvisible(WaylandScreens::find(screen.id), stripSize)) {
                 strips_.emplace(screen.id, std::move(strip));
             }

@@ -28,6 +28,7 @@ public:
     [[nodiscard]] bool reportsPressesElsewhere() const override { return window_.wantsKeyboard(); }
 
     void setPanel(const QRectF& frame) override;
+    void setDraggingOut(bool dragging) override;
     void lookAgain() override;
 
 private:
@@ -41,6 +42,7 @@ private:
     WaylandPanelWindow& window_;
     Surfaces& surfaces_;
     std::map<QString, std::unique_ptr<InvisibleSurface>> strips_; ///< By the ids of screens.
+    bool draggingOut_ = false;
     QString hovered_; ///< The screen whose strip the pointer is in; or empty.
     std::function<Report(const Sight&)> callback_;
     Handle next_; ///< The next report.

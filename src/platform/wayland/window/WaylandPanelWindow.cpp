@@ -186,6 +186,12 @@ void WaylandPanelWindow::returnFocus() {
     giveBackSoon();
 }
 
+void WaylandPanelWindow::letDragOut() {
+    catchers_.clear();
+    setKeyboard(Keyboard::none);
+    surfaces_.activeWindow().stopSoon();
+}
+
 /// Also if Qt does not know yet that the keyboard is here.
 void WaylandPanelWindow::giveBackSoon() {
     QTimer::singleShot(returnTime, this, [this] {

@@ -60,6 +60,10 @@ public:
     /// Places it on that screen in its present size.
     void moveTo(const QString& screen);
 
+    /// Neither keeps the keyboard nor catches what is dropped elsewhere. Unlike returnFocus, leaves
+    /// it to the user who gets the keyboard.
+    void letDragOut();
+
     /// Whether the keyboard has been requested. Presses elsewhere are reported meanwhile.
     [[nodiscard]] bool wantsKeyboard() const { return keyboard_ == Keyboard::exclusive; }
 
