@@ -17,7 +17,7 @@ Item {
 
     /// Keeps the text while it fades.
     function follow() {
-        if (shown) {
+        if (message.text !== "") {
             label.text = message.text;
             button.name = message.action;
         }
@@ -64,6 +64,7 @@ Item {
 
         Label {
             id: label
+            objectName: "message"
             x: 18
             y: 10
             style: Theme.strong

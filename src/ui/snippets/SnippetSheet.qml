@@ -43,7 +43,7 @@ Sheet {
     Connections {
         target: layer.editor
         function onChanged() {
-            if (layer.editing) {
+            if (layer.editor.editing) {
                 layer.imageFileName = layer.editor.imageFileName;
             }
         }

@@ -42,6 +42,16 @@ TEST_F(Panel, aClickCopies) {
     EXPECT_EQ(pasteboardText(), world.store.snippets().first().body);
 }
 
+TEST_F(Panel, everyToastShowsItsText) {
+    open();
+    for (const char* const card : {"card1", "card2"}) {
+        clickOn(QString::fromLatin1(card));
+        EXPECT_EQ(in(u"toast"_s, u"message"_s)->property("text").toString(), u"Copied ✓"_s) << card;
+        world.scheduler.advance(Seconds(20));
+        EXPECT_TRUE(eventually([this] { return shown(u"toast"_s) == nullptr; })) << card;
+    }
+}
+
 TEST_F(Panel, theButtonsOfTheHoveredRowPin) {
     open();
     EXPECT_EQ(shown(u"pin"_s), nullptr);
