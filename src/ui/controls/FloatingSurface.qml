@@ -9,6 +9,8 @@ Item {
 
     required property Popover popover
 
+    readonly property alias pressed: outside.pressed
+
     opacity: popover.opened ? 1 : 0
 
     Behavior on opacity {
@@ -19,6 +21,7 @@ Item {
     }
 
     MouseArea {
+        id: outside
         anchors.fill: parent
         acceptedButtons: Qt.AllButtons
         hoverEnabled: true

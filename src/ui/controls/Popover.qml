@@ -58,7 +58,8 @@ FocusScope {
     anchors.fill: parent
     z: 100
     visible: floating.item?.opacity > 0
-    enabled: opened
+    // Also during the press that has closed it, which would reach what is below, and open it again.
+    enabled: opened || floating.item?.pressed === true
     Keys.onPressed: event => {
         keyed = true;
         if (event.key === Qt.Key_Escape) {

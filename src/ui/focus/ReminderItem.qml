@@ -55,8 +55,9 @@ Item {
         }
     }
 
-    TapHandler {
+    MouseArea {
+        anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        onTapped: point => reminder.menuRequested(point.position)
+        onClicked: mouse => reminder.menuRequested(Qt.point(mouse.x, mouse.y))
     }
 }

@@ -88,9 +88,11 @@ Pressable {
         }
     }
 
-    TapHandler {
+    // A TapHandler would also take the press that closes the menu, of whatever button.
+    MouseArea {
+        anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        onTapped: button.openMenu()
+        onClicked: button.openMenu()
     }
 
     Tooltip {

@@ -103,8 +103,9 @@ Pressable {
         // qmllint enable unqualified
     }
 
-    TapHandler {
+    MouseArea {
+        anchors.fill: parent
         acceptedButtons: Qt.RightButton
-        onTapped: point => chip.menuRequested(point.position, false)
+        onClicked: mouse => chip.menuRequested(Qt.point(mouse.x, mouse.y), false)
     }
 }

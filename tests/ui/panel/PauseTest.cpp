@@ -33,6 +33,14 @@ TEST_F(PauseButton, PausesByItsMenuAndResumesByAClick) {
     EXPECT_TRUE(world.pause.ignoresCopy());
 }
 
+TEST_F(PauseButton, AnotherClickClosesItsMenu) {
+    open();
+    clickOn(u"pause"_s);
+    item(u"pauseMenu"_s);
+    clickOn(u"pause"_s);
+    EXPECT_TRUE(eventually([this] { return shown(u"pauseMenu"_s) == nullptr; }));
+}
+
 TEST_F(PauseButton, IsSeenWhileClosed) {
     EXPECT_NE(shown(u"grip"_s), nullptr);
     world.pause.pause({});
