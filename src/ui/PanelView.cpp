@@ -84,6 +84,12 @@ void PanelView::load(const PanelFeatures::Services& services, const QLocale& loc
     QObject::connect(&view_, &QWindow::heightChanged, &all.state, resized);
     QObject::connect(&view_, &QQuickWindow::frameSwapped, &all.state, &PanelState::windowDrawn,
                      Qt::SingleShotConnection);
+    // As in a window that has lost the keyboard: opened by the pointer, fields show no caret.
+    QObject::connect(&view_, &QQuickWindow::activeFocusItemChanged, &all.state, [this] {
+        if (view_.activeFocusItem() != nullptr && !view_.isActive()) {
+            view_.contentItem()->setFocus(false);
+        }
+    });
     view_.engine()->addImageProvider(u"thumb"_s,
                                      clipThumbs(services.store.clipsDir(), services.decoder));
     view_.engine()->addImageProvider(u"file"_s, fileThumbs(services.icons, services.decoder));
