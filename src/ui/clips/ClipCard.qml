@@ -55,7 +55,7 @@ Item {
         anchors.fill: parent
         radius: Theme.radiusRow
         rest: card.order > 0 ? Theme.selectedTile : card.selected ? Theme.selectedCard : Theme.none
-        hover: Theme.hoveredCard
+        hover: card.order > 0 ? Theme.selectedTile : Theme.hoveredCard
         press: Theme.pressedCard
         hovered: card.hovered
         pressed: area.pressed

@@ -346,7 +346,12 @@ TabPage {
             head: tab.head > 0 ? tab.head + tab.chipsRoom : 0
             onPointed: (row, hovered) => preview.point(row, hovered)
             onTapped: (row, modifiers) => tab.tap(row, modifiers)
-            onMenuRequested: (row, place) => rowMenu.openAtRow(row, row.mapToItem(rowMenu.parent, place))
+            onMenuRequested: (row, place) => {
+                if (row.order === 0) {
+                    tab.clips.clearSelection(); // The menu is about the row that was pressed.
+                }
+                rowMenu.openAtRow(row, row.mapToItem(rowMenu.parent, place));
+            }
         }
     }
 
