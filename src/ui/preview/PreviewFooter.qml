@@ -9,6 +9,7 @@ Item {
     property string origin
     property list<string> details
 
+    implicitWidth: where.implicitWidth + 16 + row.implicitWidth
     height: 36
 
     Box {
@@ -18,6 +19,7 @@ Item {
     }
 
     Label {
+        id: where
         y: 11
         width: Math.min(implicitWidth, row.x - 16)
         text: footer.origin

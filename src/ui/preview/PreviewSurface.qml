@@ -31,7 +31,7 @@ Item {
     x: bubble.room - width
     y: Math.round(Math.max(bubble.highest,
                            Math.min(bubble.centre - height / 2, bubble.lowest - height)))
-    width: body.implicitWidth
+    width: Math.max(body.implicitWidth, Math.min(wide, Math.ceil(footer.implicitWidth) + 2 * footer.x))
     height: body.implicitHeight + footer.height
     visible: opacity > 0
     enabled: bubble.opened
