@@ -126,6 +126,7 @@ Item {
 
         property int chosen: -1
         name: qsTr("Reminder")
+        plain: true
         entries: [
             { text: qsTr("Remove"), chosen: () => strip.focusing.removeReminder(menu.chosen) }
         ]

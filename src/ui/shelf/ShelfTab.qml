@@ -142,6 +142,7 @@ TabPage {
         property bool parked
 
         objectName: "fileMenu"
+        plain: true
         name: qsTr("File")
         entries: {
             const all = [

@@ -130,6 +130,7 @@ Item {
         property SnippetChip chip
 
         objectName: "snippetMenu"
+        plain: true
         name: qsTr("Snippet")
         entries: [
             { text: qsTr("Edit"), chosen: () => chip.editRequested() },
