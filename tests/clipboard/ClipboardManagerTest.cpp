@@ -99,7 +99,7 @@ QStringList copiedBack(ClipboardWorld& world) {
     world.scheduler.advance(Seconds(0));
     QStringList forms;
     for (const PasteboardEntry& form : world.pasteboard.contents()) {
-        forms.append(form.type + u'=' + QString::fromUtf8(form.bytes).left(30));
+        forms += form.type + u'=' + QString::fromUtf8(form.bytes).left(30);
     }
     return forms;
 }

@@ -133,7 +133,13 @@ TEST_F(Panel, severalClipsAreChosenByShiftOrAllAndDeletedAtOnce) {
     pressKeys(u"Shift+Up Esc"_s);
     EXPECT_EQ(view.features().clips->selected(), 0);
     EXPECT_TRUE(world.controller.isOpen());
-    pressKeys(u"Ctrl+A Delete"_s);
+    pressKeys(u"Shift+Down"_s);
+    clickOn(u"card1"_s, Qt::RightButton);
+    EXPECT_EQ(view.features().clips->selected(), 2);
+    pressKeys(u"Esc"_s);
+    clickOn(u"card2"_s, Qt::RightButton);
+    EXPECT_EQ(view.features().clips->selected(), 0) << "the menu is about another row";
+    pressKeys(u"Esc Ctrl+A Delete"_s);
     EXPECT_EQ(clips(), QString());
     EXPECT_EQ(toast(), u"3 deleted"_s);
     pressKeys(u"Ctrl+Z"_s);
