@@ -97,9 +97,9 @@ QStringList copiedBack(ClipboardWorld& world) {
     world.settle();
     world.manager->copyClip(world.store.clips().at(1).id);
     world.scheduler.advance(Seconds(0));
-    QStringList forms;
+    QStringList forms; // NOLINT(misc-const-correctness): it is appended to.
     for (const PasteboardEntry& form : world.pasteboard.contents()) {
-        forms += form.type + u'=' + QString::fromUtf8(form.bytes).left(30);
+        forms.append(form.type + u'=' + QString::fromUtf8(form.bytes).left(30));
     }
     return forms;
 }
