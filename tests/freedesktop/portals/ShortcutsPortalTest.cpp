@@ -173,7 +173,7 @@ TEST(ShortcutsPortal, IsRefusedByTheUserAndImpossibleWithoutAPortal) {
 
 TEST(ShortcutsPortal, IsAskedOnlyIfKeysAreSetOrItMatters) {
     PrivateBus bus;
-    Portal portal(bus);
+    const Portal portal(bus);
     ShortcutsPortal unused(bus.connect(u"unused"_s));
     unused.set(std::nullopt);
     ShortcutsPortal shown(bus.connect(u"shown"_s));

@@ -17,7 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 class RealKeyring : public testing::Test {
-protected:
+public:
     using Found = Keyring::Found;
 
     RealKeyring() {
