@@ -2537,6 +2537,10 @@
         <source>Ravelo Settings</source>
         <translation>Ravelo – Einstellungen</translation>
     </message>
+    <message>
+        <source>On %1, also start ravelo from its configuration file.</source>
+        <translation>Unter %1 muss ravelo auch aus dessen Konfigurationsdatei gestartet werden.</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::ShelfContents</name>

@@ -2537,6 +2537,10 @@
         <source>Ravelo Settings</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>On %1, also start ravelo from its configuration file.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::ShelfContents</name>

@@ -2537,6 +2537,10 @@
         <source>Ravelo Settings</source>
         <translation>Ajustes do Ravelo</translation>
     </message>
+    <message>
+        <source>On %1, also start ravelo from its configuration file.</source>
+        <translation>No %1, inicie o ravelo também pelo arquivo de configuração dele.</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::ShelfContents</name>

@@ -41,6 +41,7 @@ Column {
         SwitchRow {
             preference: "launchAtLogin"
             text: qsTr("Start automatically at login")
+            note: page.host.loginNote
             on: page.settings.launchAtLogin
             onToggled: on => page.settings.launchAtLogin = on
         }

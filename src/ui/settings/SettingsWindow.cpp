@@ -11,11 +11,18 @@ namespace ravelo {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QString currentDesktop() {
+    return qEnvironmentVariable("XDG_CURRENT_DESKTOP");
+}
+
+} // namespace
+
 SettingsWindow::SettingsWindow(Subjects subjects)
     : subjects_(std::move(subjects)),
       extension_(subjects_.extension),
-      shortcut_(subjects_.shortcut, subjects_.settings,
-                qEnvironmentVariable("XDG_CURRENT_DESKTOP")),
+      shortcut_(subjects_.shortcut, subjects_.settings, currentDesktop()),
       pastePermission_(subjects_.pasteKeys),
       usedLanguage_(subjects_.settings.language()) {
     connect(&subjects_.store, &Store::clipsChanged, this, &SettingsWindow::clipsChanged);
@@ -23,6 +30,13 @@ SettingsWindow::SettingsWindow(Subjects subjects)
 }
 
 SettingsWindow::~SettingsWindow() = default;
+
+QString SettingsWindow::loginNote() {
+    const QString compositor = compositorWithFile(currentDesktop());
+    return compositor.isEmpty()
+               ? QString()
+               : tr("On %1, also start ravelo from its configuration file.").arg(compositor);
+}
 
 int SettingsWindow::clipCount() const {
     return static_cast<int>(subjects_.store.clips().size());

@@ -26,6 +26,8 @@ class SettingsWindow : public QObject {
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(ravelo::AppSettings* settings READ settings CONSTANT)
     Q_PROPERTY(QString display READ display CONSTANT)
+    /// What else is needed to start at login; empty if nothing is.
+    Q_PROPERTY(QString loginNote READ loginNote CONSTANT)
     Q_PROPERTY(ravelo::ExtensionOffer* extension READ extension CONSTANT)
     Q_PROPERTY(ravelo::ShortcutChoice* shortcut READ shortcut CONSTANT)
     /// Whether the desktop lets us type.
@@ -101,6 +103,8 @@ public:
     [[nodiscard]] bool knowsPrograms() const { return subjects_.knowsPrograms; }
 
     [[nodiscard]] bool knowsSelection() const { return subjects_.knowsSelection; }
+
+    [[nodiscard]] static QString loginNote();
 
     [[nodiscard]] bool hasNotifications() const { return hasNotifications_; }
 

@@ -76,6 +76,11 @@ const Compositor* compositorOf(const QString& desktop) {
 
 } // namespace
 
+QString compositorWithFile(const QString& desktop) {
+    const Compositor* compositor = compositorOf(desktop);
+    return compositor != nullptr ? QString::fromLatin1(compositor->name) : QString();
+}
+
 QString shortcutLine(const QString& desktop, const QString& keys) {
     const Compositor* compositor = compositorOf(desktop);
     const auto parsed = KeyCombination::fromText(keys);
@@ -140,11 +145,11 @@ QString ShortcutChoice::note() const {
     case State::impossible:
         break;
     }
-    const Compositor* compositor = compositorOf(desktop_);
-    return compositor != nullptr
+    const QString compositor = compositorWithFile(desktop_);
+    return !compositor.isEmpty()
                ? tr("This desktop lets no program take keys. Put this line into %1\u2019s "
                     "configuration:")
-                     .arg(QString::fromLatin1(compositor->name))
+                     .arg(compositor)
                : tr("This desktop lets no program take keys. Set a key for this command in its "
                     "keyboard settings:");
 }

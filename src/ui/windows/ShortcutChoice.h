@@ -73,6 +73,10 @@ private:
     Handle listening_;
 };
 
+/// The name of a compositor that takes its keys, and what it starts, from a file of its own; empty
+/// for other desktops.
+[[nodiscard]] QString compositorWithFile(const QString& desktop);
+
 /// What makes a desktop run `ravelo --toggle` with these keys, as a line for its configuration; the
 /// command itself if it has settings for that.
 [[nodiscard]] QString shortcutLine(const QString& desktop, const QString& keys);
