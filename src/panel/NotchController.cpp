@@ -242,16 +242,14 @@ void NotchController::toggle(const QByteArray& activationToken) {
 }
 
 void NotchController::open() {
-    openBefore({services_.scheduler.uptime() + grabTimeout, Opening::Keyboard::left});
+    openBefore({services_.scheduler.uptime() + grabTimeout, Opening::Keyboard::ifNeeded});
 }
 
 void NotchController::openBefore(Opening opening) {
     openWork_.reset();
     positionExpanded();
-    // Where only the keyboard shows that the user went elsewhere, it is needed for closing.
-    const bool needsKeyboard = opening.keyboard == Opening::Keyboard::requested ||
-                               !services_.zone.reportsPressesElsewhere();
-    if (isOpen_ && needsKeyboard) {
+    const bool closesByKeyboard = awaitsPointer_ && services_.zone.needsKeyboardForPresses();
+    if (isOpen_ && (opening.keyboard == Opening::Keyboard::requested || closesByKeyboard)) {
         services_.window.requestFocus(opening.activationToken);
     } else if (!isOpen_ && !isLocked() && services_.scheduler.uptime() < opening.end) {
         openWork_ = services_.scheduler.after(

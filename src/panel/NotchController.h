@@ -86,7 +86,8 @@ public:
     void collapse();
 
     /// Opens at the user's request. If another program holds the input, tries again for a moment:
-    /// it may be the menu or the key by which the request was made.
+    /// it may be the menu or the key by which the request was made. Takes the keyboard only if
+    /// nothing else would show that the user clicks elsewhere.
     void open();
 
     /// Closes at the user's request while the pointer may still be where it opens the panel:
@@ -150,7 +151,7 @@ private:
     /// A request to open, repeated until `end`.
     struct Opening {
         Seconds end;
-        enum class Keyboard { left, requested } keyboard;
+        enum class Keyboard { ifNeeded, requested } keyboard;
         QByteArray activationToken = {};
     };
 

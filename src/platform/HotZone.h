@@ -56,11 +56,14 @@ public:
     /// when the pointer leaves it.
     [[nodiscard]] virtual bool reportsPressesElsewhere() const = 0;
 
+    /// Whether they are reported only while the panel has the keyboard.
+    [[nodiscard]] virtual bool needsKeyboardForPresses() const { return false; }
+
     /// Where the panel is now, in global logical pixels. Implies `lookAgain`.
     virtual void setPanel(const QRectF& frame) = 0;
 
-    /// Something is about to be dragged out of the panel, or no longer is. What notices the pointer
-    /// for us elsewhere must not catch it.
+    /// Something is about to be dragged out of the panel, or no longer is: no invisible surface of
+    /// ours may be under the drag.
     virtual void setDraggingOut(bool /*dragging*/) {}
 
     /// Something else has changed that the next report must be judged by: reports soon.

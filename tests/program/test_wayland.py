@@ -106,6 +106,12 @@ class WaylandPanel(WaylandCase):
         lines = iter(self.window.stdout.readline, "")
         self.assertEqual(next(line for line in lines if line != "ready\n"), "z\n")
 
+    def test_closes_by_a_click_elsewhere_when_opened_by_another_start(self):
+        self.assertEqual(self.ravelo.call(), (0, ""))
+        wait_for(self.ravelo.is_open, "the open panel")
+        self.desktop.click(640, 750)
+        wait_for(self.ravelo.is_collapsed, "closed by a click elsewhere")
+
     def paste_at_once(self):
         before = self.desktop.still_picture()
         self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
@@ -135,6 +141,11 @@ class WaylandPanel(WaylandCase):
         self.assertEqual(self.ravelo.call("--toggle"), (0, ""))
         wait_for(self.ravelo.is_open, "the open panel")
         self.desktop.still_picture()
+        self.desktop.drag(FIRST_ROW, (FIRST_ROW[0] + 60, FIRST_ROW[1]))
+        self.desktop.release()
+        before = self.desktop.still_picture()
+        self.desktop.key("d")
+        wait_for(lambda: self.desktop.still_picture() != before, "a search: the drag has ended here")
         self.desktop.drag(FIRST_ROW, (WIDTH * 3 // 2, 3))  # Over the strip of the other monitor.
         self.desktop.move(WIDTH * 3 // 2, 2)
         field = (100, 780)

@@ -75,10 +75,8 @@ void WaylandHotZone::setPanel(const QRectF& /*frame*/) {
 /// Qt crashes if a drag that it began moves over a surface that it does not know.
 void WaylandHotZone::setDraggingOut(bool dragging) {
     draggingOut_ = dragging;
-    if (dragging) {
-        window_.letDragOut();
-    }
     makeStrips();
+    window_.setDraggingOut(dragging);
 }
 
 void WaylandHotZone::lookAgain() {

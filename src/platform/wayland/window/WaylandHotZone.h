@@ -27,6 +27,8 @@ public:
     /// Only while the panel has the keyboard; it stays open then.
     [[nodiscard]] bool reportsPressesElsewhere() const override { return window_.wantsKeyboard(); }
 
+    [[nodiscard]] bool needsKeyboardForPresses() const override { return true; }
+
     void setPanel(const QRectF& frame) override;
     void setDraggingOut(bool dragging) override;
     void lookAgain() override;

@@ -180,16 +180,26 @@ void WaylandPanelWindow::requestFocus(const QByteArray& /*activationToken*/) {
 }
 
 void WaylandPanelWindow::returnFocus() {
+    takesKeyboardAgain_ = false;
     catchers_.clear();
     setKeyboard(Keyboard::none);
     surfaces_.activeWindow().stopSoon();
     giveBackSoon();
 }
 
-void WaylandPanelWindow::letDragOut() {
-    catchers_.clear();
-    setKeyboard(Keyboard::none);
-    surfaces_.activeWindow().stopSoon();
+/// The keyboard is not given back, as in returnFocus: the user is about to choose who gets it.
+void WaylandPanelWindow::setDraggingOut(bool dragging) {
+    if (std::exchange(draggingOut_, dragging) == dragging) {
+        return;
+    }
+    if (dragging) {
+        takesKeyboardAgain_ = wantsKeyboard();
+        catchers_.clear();
+        setKeyboard(Keyboard::none);
+        surfaces_.activeWindow().stopSoon();
+    } else if (wantsKeyboard() || (takesKeyboardAgain_ && isUnderPointer())) {
+        requestFocus({}); // It was dropped here, or requested meanwhile.
+    }
 }
 
 /// Also if Qt does not know yet that the keyboard is here.
@@ -266,7 +276,7 @@ void WaylandPanelWindow::pressedOutside() {
 /// On most compositors, a layer surface that has the keyboard keeps it when another window is
 /// clicked, and is not told. So that click goes to us. KWin would give the keyboard to the catcher.
 void WaylandPanelWindow::catchPresses() {
-    if (surfaces_.loseKeyboardByPress()) {
+    if (draggingOut_ || surfaces_.loseKeyboardByPress()) {
         return;
     }
     for (QScreen* const screen : QGuiApplication::screens()) {

@@ -60,9 +60,9 @@ public:
     /// Places it on that screen in its present size.
     void moveTo(const QString& screen);
 
-    /// Neither keeps the keyboard nor catches what is dropped elsewhere. Unlike returnFocus, leaves
-    /// it to the user who gets the keyboard.
-    void letDragOut();
+    /// Something is dragged out of the panel: catches nothing, and has no keyboard unless the drag
+    /// ends here.
+    void setDraggingOut(bool dragging);
 
     /// Whether the keyboard has been requested. Presses elsewhere are reported meanwhile.
     [[nodiscard]] bool wantsKeyboard() const { return keyboard_ == Keyboard::exclusive; }
@@ -100,6 +100,8 @@ private:
     bool wanted_ = false;  ///< To be shown.
     bool isGoing_ = false; ///< To be shown again in a moment.
     Keyboard keyboard_ = Keyboard::none;
+    bool draggingOut_ = false;
+    bool takesKeyboardAgain_ = false; ///< If the drag ends here.
     std::shared_ptr<DragOffer> dragOffer_;
     std::unique_ptr<LayerRole> role_;                               ///< While it is shown.
     std::map<QString, std::unique_ptr<InvisibleSurface>> catchers_; ///< By the ids of screens.
