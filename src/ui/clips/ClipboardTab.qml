@@ -347,7 +347,7 @@ TabPage {
             onPointed: (row, hovered) => preview.point(row, hovered)
             onTapped: (row, modifiers) => tab.tap(row, modifiers)
             onMenuRequested: (row, place) => {
-                if (row.order === 0) {
+                if (row.order === 0 && !row.tooLarge) {
                     tab.clips.clearSelection(); // The menu is about the row that was pressed.
                 }
                 rowMenu.openAtRow(row, row.mapToItem(rowMenu.parent, place));

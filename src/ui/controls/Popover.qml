@@ -35,7 +35,7 @@ FocusScope {
         corner = place;
         growsLeft = toTheLeft;
         keyed = byKey;
-        focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
+        focusedBefore = Typing.focused(popover);
         floating.needed = true; // Before it opens: it fades in.
         opened = true;
         Typing.wantKeyboard(popover);

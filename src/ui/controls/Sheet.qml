@@ -30,7 +30,7 @@ FocusScope {
     function follow() {
         up = editing;
         if (editing) {
-            focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
+            focusedBefore = Typing.focused(layer);
             // The pointer may have opened the panel by chance; then only a press asks for the
             // keyboard.
             if (!resumed) {

@@ -34,7 +34,7 @@ FocusScope {
         if (activeFocus) {
             leave();
         } else if (shown && (button.visible || cross.visible)) {
-            focusedBefore = Window.activeFocusItem; // qmllint disable unqualified
+            focusedBefore = Typing.focused(line);
             (button.visible ? button : cross).forceActiveFocus();
         }
     }

@@ -88,7 +88,7 @@ Pressable {
         }
     }
 
-    // A TapHandler would also take the press that closes the menu, of whatever button.
+    // A TapHandler would also take the left button's release after the press that closed the menu.
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.RightButton

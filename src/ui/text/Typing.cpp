@@ -47,6 +47,15 @@ int Typing::offers(QQuickItem* item) const {
     return undo == nullptr ? 0 : undo->offers();
 }
 
+QQuickItem* Typing::focused(const QQuickItem* item) {
+    QQuickItem* found = nullptr;
+    for (QQuickItem* inner = item->window()->contentItem(); inner != nullptr;) {
+        inner = inner->scopedFocusItem();
+        found = inner != nullptr ? inner : found;
+    }
+    return found;
+}
+
 bool Typing::undo(QQuickItem* item) {
     UndoOffers* undo = undoOf(*item);
     return undo != nullptr && undo->act();

@@ -59,6 +59,10 @@ public:
     /// The item that had the focus before `item` is gone: focus the start of the window's content.
     Q_INVOKABLE void freeKeyboard(QQuickItem* item) { Q_EMIT keyboardFreed(item->window()); }
 
+    /// What has the focus in the window of `item`, or gets it with the keyboard; null if nothing
+    /// does.
+    Q_INVOKABLE [[nodiscard]] static QQuickItem* focused(const QQuickItem* item);
+
     /// The UndoOffers of the window of `item`.
     Q_INVOKABLE [[nodiscard]] int offers(QQuickItem* item) const;
     Q_INVOKABLE bool undo(QQuickItem* item);

@@ -75,6 +75,26 @@ TEST_F(Panel, keepsAChangedClipUntilItOpensAgain) {
     EXPECT_EQ(pasteboardText(), u"firstxy"_s);
 }
 
+TEST_F(Panel, anEditThatGoesOnHasNoCaretBeforeThereIsAKeyboard) {
+    openSearch();
+    pressKeys(u"F2 x"_s);
+    close();
+    QWindow elsewhere;
+    elsewhere.show();
+    elsewhere.requestActivate();
+    ASSERT_TRUE(eventually([&] { return elsewhere.isActive(); }));
+    rebuild();
+    open();
+    EXPECT_FALSE(item(u"clipInput"_s)->hasActiveFocus());
+    clickIn(u"clipSheet"_s, u"cancel"_s);
+    view.window().requestActivate(); // The press asked for it.
+    ASSERT_TRUE(eventually([this] { return view.window().isActive(); }));
+    pressKeys(u"Escape"_s);
+    EXPECT_TRUE(eventually([this] { return !shown(u"discardQuestion"_s); }));
+    pressKeys(u"y"_s);
+    EXPECT_EQ(text(u"clipInput"_s), u"firstxy"_s) << "the sheet, not what is below it";
+}
+
 TEST_F(Panel, copiesAsPlainText) {
     const QUuid first = world.store.clips()[0].id;
     world.store.setForms(first, {{}, {{u"text/html"_s, "<b>first</b>"}}});
