@@ -3,6 +3,12 @@
 
 option(RAVELO_COMPILE_QML "Compile QML to C++: starts faster, builds slower" ON)
 
+# Two builds are to be the same, but rcc writes the time of each file. By that time Qt's own cache
+# knows whether QML that is not compiled has changed.
+if(RAVELO_COMPILE_QML)
+    set_property(GLOBAL PROPERTY RULE_LAUNCH_CUSTOM "env SOURCE_DATE_EPOCH=1")
+endif()
+
 get_target_property(QMLCACHEGEN Qt6::qmlcachegen LOCATION)
 set(RAVELO_QMLCACHEGEN "${PROJECT_BINARY_DIR}/qmlcachegen")
 configure_file("${CMAKE_CURRENT_LIST_DIR}/qmlcachegen.in" "${RAVELO_QMLCACHEGEN}" @ONLY)
