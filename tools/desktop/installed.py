@@ -3,6 +3,9 @@
 import pathlib
 import subprocess
 
-subprocess.run([pathlib.Path(__file__).resolve().parents[2] / "scripts/packages", "desktop"], check=True)
-
-from gi.repository import Gio, GLib  # noqa: E402, F401
+try:
+    from gi.repository import Gio, GLib
+except ImportError:
+    packages = pathlib.Path(__file__).resolve().parents[2] / "scripts/packages"
+    subprocess.run([packages, "desktop"], check=True)
+    from gi.repository import Gio, GLib  # noqa: F401
