@@ -78,8 +78,21 @@ public:
         return shown(name);
     }
 
-    /// The item with this name inside another one.
-    QQuickItem* in(const QString& outer, const QString& name) { return find(item(outer), name); }
+    /// The item with this name inside another one. Waits until that is visible and has it: one from
+    /// before the panel was closed may still fade.
+    QQuickItem* in(const QString& outer, const QString& name) {
+        QQuickItem* found = nullptr;
+        const auto look = [&] {
+            QQuickItem* const around = shown(outer);
+            found = around != nullptr ? find(around, name) : nullptr;
+            return found != nullptr;
+        };
+        if (!eventually(look)) {
+            ADD_FAILURE() << "not there: " << qPrintable(name) << " in " << qPrintable(outer);
+            return &nothing;
+        }
+        return found;
+    }
 
     void clickOn(const QString& name, Qt::MouseButton button = Qt::LeftButton) {
         clickMiddle(view.window(), item(name), button);

@@ -22,7 +22,7 @@ protected:
     QString title() {
         QString text;
         for (int run = 0; run < 3; ++run) {
-            if (const QQuickItem* label = in(u"card0"_s, u"run%1"_s.arg(run))) {
+            if (const QQuickItem* label = find(item(u"card0"_s), u"run%1"_s.arg(run))) {
                 text += label->property("text").toString();
             }
         }
