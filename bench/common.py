@@ -86,7 +86,8 @@ def p95(values):
 
 # Resource usage.
 
-Use = collections.namedtuple("Use", "voluntary involuntary seconds")
+# Whoever sleeps and wakes again has switched voluntarily; who is preempted was awake.
+Use = collections.namedtuple("Use", "wakeups preemptions seconds")
 Memory = collections.namedtuple("Memory", "rss pss")  # Megabytes (10^6 bytes).
 
 

@@ -142,8 +142,9 @@ def rest(options):
             return Row(f"at rest, {state}: {name}", figure(used), unit,
                        budget, compared and figure(compared))
 
-        yield row("wake-ups", lambda u: u.voluntary + u.involuntary, "/s",
+        yield row("wake-ups", lambda u: u.wakeups, "/s",
                   {"collapsed": 0.5, "open": 1, "timer": 1.2}[state])
+        yield row("preempted", lambda u: u.preemptions, "/s", None)
         yield row("processor", lambda u: 100 * u.seconds, "% core",
                   {"collapsed": 0.1, "open": 0.5, "timer": 0.5}[state])
 

@@ -53,7 +53,7 @@ def rows(name, own, other):
     if other.pictures:
         yield row(f"PSS after {PICTURES} pictures", lambda life: life.pictures.pss, "MB")
     yield row("RSS in the end", lambda life: (life.pictures or life.texts).rss, "MB")
-    yield row("wake-ups", lambda life: life.use.voluntary + life.use.involuntary, "/s")
+    yield row("wake-ups", lambda life: life.use.wakeups, "/s")
     yield row("processor", lambda life: 100 * life.use.seconds, "% core")
 
 

@@ -82,7 +82,7 @@ def life(ravelo, opened_and_closed, seconds):
     time.sleep(65)  # Until no date counts seconds any more.
     opened = memory(ravelo.process).pss
     used = use_a_second(ravelo.process, seconds)
-    return started, opened, used.voluntary + used.involuntary
+    return started, opened, used.wakeups
 
 
 def openings_on_sway(count):
