@@ -172,6 +172,9 @@ class WaylandPanel(WaylandCase):
         self.desktop.release()
         self.assertEqual(source.stdout.readline(), "end\n")
         wait_for(lambda: self.ravelo.call("shelf", "list") == (0, f"{file}\n"), "the parked file")
+        self.desktop.move(640, 700)
+        wait_for(lambda: self.desktop.picture().at(640, 400) == before,
+                 "closed when the pointer leaves, as a drop brings no keyboard")
 
     def test_nothing_is_shown_over_a_locker(self):
         self.desktop.spawn("swaylock", "--color", "204060", "--no-unlock-indicator")
