@@ -18,8 +18,6 @@ namespace {
 
 class RealKeyring : public testing::Test {
 public:
-    using Found = Keyring::Found;
-
     RealKeyring() {
         QProcessEnvironment environment = QProcessEnvironment::systemEnvironment();
         environment.insert(u"DBUS_SESSION_BUS_ADDRESS"_s, bus_.address());
@@ -34,6 +32,9 @@ public:
         daemon_.kill();
         daemon_.waitForFinished();
     }
+
+protected:
+    using Found = Keyring::Found;
 
     /// With an unlocked default collection.
     void start() {
