@@ -49,10 +49,12 @@ int Typing::offers(QQuickItem* item) const {
 
 QQuickItem* Typing::focused(const QQuickItem* item) {
     QQuickItem* found = nullptr;
-    for (QQuickItem* inner = item->window()->contentItem(); inner != nullptr;) {
-        inner = inner->scopedFocusItem();
-        found = inner != nullptr ? inner : found;
+    for (QQuickItem* inner = item->window()->contentItem()->scopedFocusItem(); inner != nullptr;
+         inner = inner->scopedFocusItem()) {
+        found = inner;
     }
+    // QML would own what a method returns, and delete a row that has no parent.
+    QQmlEngine::setObjectOwnership(found, QQmlEngine::CppOwnership);
     return found;
 }
 
