@@ -1299,6 +1299,10 @@
         <source>Add to shelf</source>
         <translation>In die Ablage</translation>
     </message>
+    <message>
+        <source>Remove</source>
+        <translation>Entfernen</translation>
+    </message>
 </context>
 <context>
     <name>ShelfTileView</name>
@@ -2563,6 +2567,22 @@
     <message>
         <source>Select all</source>
         <translation>Alle auswählen</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Entfernt</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 entfernt</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Rückgängig</translation>
+    </message>
+    <message>
+        <source>Restored ✓</source>
+        <translation>Wiederhergestellt ✓</translation>
     </message>
 </context>
 <context>

@@ -1299,6 +1299,10 @@
         <source>Add to shelf</source>
         <translation>Pôr na prateleira</translation>
     </message>
+    <message>
+        <source>Remove</source>
+        <translation>Remover</translation>
+    </message>
 </context>
 <context>
     <name>ShelfTileView</name>
@@ -2563,6 +2567,22 @@
     <message>
         <source>Select all</source>
         <translation>Selecionar todos</translation>
+    </message>
+    <message>
+        <source>Removed</source>
+        <translation>Removido</translation>
+    </message>
+    <message>
+        <source>%1 removed</source>
+        <translation>%1 removidos</translation>
+    </message>
+    <message>
+        <source>Undo</source>
+        <translation>Desfazer</translation>
+    </message>
+    <message>
+        <source>Restored ✓</source>
+        <translation>Restaurado ✓</translation>
     </message>
 </context>
 <context>

@@ -44,6 +44,26 @@ Shelf Shelf::removed(const QSet<QUrl>& urls) const {
     return shelf;
 }
 
+Shelf Shelf::restored(const Shelf& before) const {
+    const QSet<QUrl> gone = goneSince(before);
+    Shelf shelf = *this;
+    if (before.removed(gone).stacks == stacks) {
+        shelf.stacks = before.stacks;
+    } else if (!gone.isEmpty()) {
+        QList<QUrl> stack = before.files();
+        stack.removeIf([&](const QUrl& url) { return !gone.contains(url); });
+        shelf.stacks.append(std::move(stack));
+    }
+    shelf.selected.unite(QSet(before.selected).intersect(gone));
+    return shelf;
+}
+
+QSet<QUrl> Shelf::goneSince(const Shelf& before) const {
+    const QList<QUrl> then = before.files();
+    const QList<QUrl> now = files();
+    return QSet(then.begin(), then.end()).subtract(QSet(now.begin(), now.end()));
+}
+
 Shelf Shelf::stackToggled(const QList<QUrl>& stack) const {
     Shelf shelf = *this;
     const QSet<QUrl> files(stack.begin(), stack.end());

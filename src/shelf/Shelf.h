@@ -27,6 +27,13 @@ struct Shelf {
     /// Removes the files, and stacks that become empty.
     [[nodiscard]] Shelf removed(const QSet<QUrl>& urls) const;
 
+    /// Brings back what was parked `before` and is not any more: to its old places if nothing was
+    /// parked since, otherwise as a new stack. Selected is what was.
+    [[nodiscard]] Shelf restored(const Shelf& before) const;
+
+    /// The files of `before` that are not parked any more.
+    [[nodiscard]] QSet<QUrl> goneSince(const Shelf& before) const;
+
     /// Selects all of `stack` or, if it is selected already, deselects it.
     [[nodiscard]] Shelf stackToggled(const QList<QUrl>& stack) const;
 

@@ -308,6 +308,10 @@ void Store::removeFromShelf(const QList<QUrl>& urls) {
     setShelf(shelf_.removed({urls.begin(), urls.end()}));
 }
 
+void Store::restoreShelf(const Shelf& before) {
+    setShelf(shelf_.restored(before));
+}
+
 void Store::toggleSelectStack(const QList<QUrl>& stack) {
     setShelf(shelf_.stackToggled(stack));
 }

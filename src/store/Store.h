@@ -223,6 +223,7 @@ public:
     void addToShelf(const QList<QUrl>& urls);
     void removeFromShelf(const QUrl& url);
     void removeFromShelf(const QList<QUrl>& urls);
+    void restoreShelf(const Shelf& before);
     void toggleSelectStack(const QList<QUrl>& stack);
     Q_INVOKABLE void clearSelection();
 

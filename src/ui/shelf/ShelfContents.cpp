@@ -1,7 +1,9 @@
 #include "ui/shelf/ShelfContents.h"
 
 #include "store/Store.h"
+#include "ui/controls/Toast.h"
 
+#include <QPointer>
 #include <QScopedValueRollback>
 
 #include <utility>
@@ -38,8 +40,9 @@ QStringList idsOf(const QList<QUrl>& files) {
 
 } // namespace
 
-ShelfContents::ShelfContents(Store& store, DetachedJobs& jobs, Scheduler& scheduler)
-    : store_(store), look_(jobs, scheduler) {
+ShelfContents::ShelfContents(Store& store, DetachedJobs& jobs, Scheduler& scheduler,
+                             Toast& toast)
+    : store_(store), look_(jobs, scheduler), toast_(toast) {
     connect(&store, &Store::shelfChanged, this, &ShelfContents::update);
     update();
 }
@@ -109,12 +112,36 @@ void ShelfContents::selectAllOrNone() {
     store_.toggleSelectStack(files_);
 }
 
-void ShelfContents::remove(int place) {
-    store_.removeFromShelf(fileAt(place));
+void ShelfContents::remove(const QUrl& file) {
+    remove(QList{file});
 }
 
 void ShelfContents::removeSelected() {
-    store_.removeFromShelf(store_.shelf().selectedFiles());
+    remove(store_.shelf().selectedFiles());
+}
+
+void ShelfContents::remove(const QList<QUrl>& files) {
+    auto before = before_.lock();
+    if (!before) {
+        before = std::make_shared<const Shelf>(store_.shelf());
+    }
+    store_.removeFromShelf(files);
+    const qsizetype gone = store_.shelf().goneSince(*before).size();
+    if (gone > 0) {
+        before_ = before;
+        toast_.offer(gone == 1 ? tr("Removed") : tr("%1 removed").arg(gone), tr("Undo"),
+                     [self = QPointer(this), before] {
+                         if (self) {
+                             self->restore(*before);
+                         }
+                     });
+    }
+}
+
+void ShelfContents::restore(const Shelf& before) {
+    before_.reset(); // Later removals get an undo of their own.
+    store_.restoreShelf(before);
+    toast_.flash(tr("Restored \u2713"));
 }
 
 void ShelfContents::park(const QUrl& file) {

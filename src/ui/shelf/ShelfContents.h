@@ -8,11 +8,15 @@
 #include <QQmlEngine>
 #include <QSet>
 
+#include <memory>
+
 namespace ravelo {
 
 class DetachedJobs;
 class Scheduler;
 class Store;
+class Toast;
+struct Shelf;
 
 /// The parked files as shown in the panel. Only visible ones have a tile. Main thread.
 class ShelfContents : public QObject {
@@ -29,7 +33,8 @@ class ShelfContents : public QObject {
     Q_PROPERTY(bool parking READ isParking CONSTANT)
 
 public:
-    ShelfContents(Store& store, DetachedJobs& jobs, Scheduler& scheduler);
+    /// All outlive this.
+    ShelfContents(Store& store, DetachedJobs& jobs, Scheduler& scheduler, Toast& toast);
 
     [[nodiscard]] ShelfTiles* tiles() { return &tiles_; }
 
@@ -62,7 +67,8 @@ public:
     Q_INVOKABLE void toggle(int place);
     Q_INVOKABLE void toggleStack(int stack);
     Q_INVOKABLE void selectAllOrNone();
-    Q_INVOKABLE void remove(int place);
+    /// The toast offers to undo it.
+    Q_INVOKABLE void remove(const QUrl& file);
     Q_INVOKABLE void removeSelected();
     Q_INVOKABLE void park(const QUrl& file);
 
@@ -81,6 +87,8 @@ Q_SIGNALS:
     void changed();
 
 private:
+    void remove(const QList<QUrl>& files);
+    void restore(const Shelf& before);
     void update();
     void layTiles();
     void showSight();
@@ -88,6 +96,8 @@ private:
 
     Store& store_;
     FileLook look_;
+    Toast& toast_;
+    std::weak_ptr<const Shelf> before_; ///< Before the removals that the toast offers to undo.
     ShelfTiles tiles_;
     ShelfTrays trays_;
     QList<QUrl> files_;

@@ -18,7 +18,7 @@ ShelfFiles::ShelfFiles(const Services& services, const QLocale& locale)
       clipboard_(services.clipboard),
       opener_(services.opener),
       toast_(services.toast),
-      parked_(services.store, services.jobs, services.scheduler),
+      parked_(services.store, services.jobs, services.scheduler, services.toast),
       received_(services.received, services.scheduler, locale),
       sending_(services.nearby, services.scheduler, services.toast),
       drag_(services.jobs, services.icons, services.decoder),

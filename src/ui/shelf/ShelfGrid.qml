@@ -113,7 +113,7 @@ FocusScope {
             if (shelf.hasSelection) {
                 shelf.removeSelected();
             } else if (current >= 0) {
-                shelf.remove(current);
+                shelf.remove(shelf.fileAt(current));
             }
             if (current >= 0) {
                 go(current);

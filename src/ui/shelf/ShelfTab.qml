@@ -149,7 +149,9 @@ TabPage {
                 { text: qsTr("Open"), chosen: () => tab.shelfFiles.open(file) },
                 { text: qsTr("Show in folder"), chosen: () => tab.shelfFiles.showInFolder(file) }
             ];
-            if (!parked) {
+            if (parked) {
+                all.push({ text: qsTr("Remove"), chosen: () => tab.shelfFiles.parked.remove(file) });
+            } else {
                 all.push({ text: qsTr("Add to shelf"), chosen: () => tab.shelfFiles.parked.park(file) });
             }
             return all;
