@@ -2124,6 +2124,10 @@
         <source>The extension is newer than Ravelo. Quit Ravelo and start it again.</source>
         <translation>Die Erweiterung ist neuer als Ravelo. Beende Ravelo und starte es neu.</translation>
     </message>
+    <message>
+        <source>GNOME refused. Turn it on in the Extensions app.</source>
+        <translation>GNOME hat abgelehnt. Schalte sie in der App „Erweiterungen“ ein.</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::FileChoice</name>

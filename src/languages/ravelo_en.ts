@@ -2124,6 +2124,10 @@
         <source>The extension is newer than Ravelo. Quit Ravelo and start it again.</source>
         <translation type="unfinished"></translation>
     </message>
+    <message>
+        <source>GNOME refused. Turn it on in the Extensions app.</source>
+        <translation type="unfinished"></translation>
+    </message>
 </context>
 <context>
     <name>ravelo::FileChoice</name>

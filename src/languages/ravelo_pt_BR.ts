@@ -2124,6 +2124,10 @@
         <source>The extension is newer than Ravelo. Quit Ravelo and start it again.</source>
         <translation>A extensão é mais nova que o Ravelo. Saia do Ravelo e abra-o de novo.</translation>
     </message>
+    <message>
+        <source>GNOME refused. Turn it on in the Extensions app.</source>
+        <translation>O GNOME recusou. Ative-a no aplicativo Extensões.</translation>
+    </message>
 </context>
 <context>
     <name>ravelo::FileChoice</name>

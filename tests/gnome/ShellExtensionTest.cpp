@@ -118,6 +118,16 @@ TEST_F(ShellExtensionTest, IsTurnedOnForTheNextLoginIfItWasInstalledAfterThisOne
     EXPECT_EQ(settings(), "['other@name', 'companion@ravelo.org']");
 }
 
+TEST_F(ShellExtensionTest, SaysIfItCannotBeTurnedOn) {
+    knows_ = false;
+    write(u"gnome-shell/extensions/%1/metadata.json"_s.arg(extensionId), "{}");
+    const auto extension = start(ShellExtension::Used::no);
+    ASSERT_TRUE(eventually([&] { return extension->state() == State::off; }));
+    qputenv("PATH", "/nowhere"); // Without gsettings.
+    extension->turnOn();
+    EXPECT_TRUE(eventually([&] { return extension->state() == State::refused; }));
+}
+
 TEST_F(ShellExtensionTest, IsOfNoConcernElsewhere) {
     qputenv("XDG_CURRENT_DESKTOP", "KDE");
     EXPECT_FALSE(isExtensionRunning());

@@ -153,27 +153,29 @@ void ShellExtension::refresh() {
         if (answer.type() != QDBusMessage::ReplyMessage) {
             set(State::notNeeded); // No shell that we know.
         } else if (state == State::missing && isInstalled()) {
-            refreshBySettings();
+            refreshBySettings(State::off);
         } else {
             set(state == State::on && used_ == Used::no ? State::waitsForStart : state);
         }
     });
 }
 
-void ShellExtension::refreshBySettings() {
-    runSettings(*this, {u"get"_s, settingsSchema, settingsKey}, [this](const QString& list) {
-        set(list.contains(extensionId) ? State::waitsForLogin : State::off);
-    });
+void ShellExtension::refreshBySettings(State otherwise) {
+    runSettings(*this, {u"get"_s, settingsSchema, settingsKey},
+                [this, otherwise](const QString& list) {
+                    set(list.contains(extensionId) ? State::waitsForLogin : otherwise);
+                });
 }
 
 void ShellExtension::addToSettings() {
     runSettings(*this, {u"get"_s, settingsSchema, settingsKey}, [this](const QString& list) {
         const QString longer = withName(list, extensionId);
         if (longer.isEmpty()) {
+            set(State::refused);
             return;
         }
         runSettings(*this, {u"set"_s, settingsSchema, settingsKey, longer},
-                    [this](const QString& /*nothing*/) { refreshBySettings(); });
+                    [this](const QString& /*nothing*/) { refreshBySettings(State::refused); });
     });
 }
 

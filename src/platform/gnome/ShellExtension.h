@@ -55,7 +55,8 @@ private Q_SLOTS:
 
 private:
     void call(const QString& method, std::function<void(const QDBusMessage&)> done);
-    void refreshBySettings();
+    /// `otherwise`, unless it is in the list of those that are on.
+    void refreshBySettings(State otherwise);
     void addToSettings();
     void set(State state);
 

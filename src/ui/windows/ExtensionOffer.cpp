@@ -26,6 +26,8 @@ QString ExtensionOffer::next() const {
     switch (state()) {
     case State::missing:
         return tr("It is not installed.");
+    case State::refused:
+        return tr("GNOME refused. Turn it on in the Extensions app.");
     case State::waitsForLogin:
         return tr("Log out and in once.");
     case State::waitsForStart:
