@@ -18,10 +18,10 @@ Row {
     }
 
     MiniButton {
-        id: eye
         objectName: "reveal"
         visible: row.card.secret
         name: qsTr("Reveal while held")
+        tip: qsTr("Hold to reveal")
         symbol: "eye"
         rest: row.card.held ? Theme.pressedMini : Theme.surface3
         onPressedChanged: pressed ? row.card.reveal() : row.card.hide()
@@ -34,12 +34,6 @@ Row {
             if (!event.isAutoRepeat) {
                 row.card.hide();
             }
-        }
-
-        Tooltip {
-            target: eye
-            hovered: eye.hovered && !eye.pressed
-            text: qsTr("Hold to reveal")
         }
     }
 

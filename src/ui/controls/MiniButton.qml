@@ -8,6 +8,8 @@ Pressable {
 
     property alias symbol: glyph.symbol
     property color tint: Theme.icon
+    /// Shown some time after the pointer came to rest here.
+    property string tip: name
 
     implicitWidth: 24
     implicitHeight: 24
@@ -20,5 +22,11 @@ Pressable {
         anchors.centerIn: parent
         size: 14
         color: button.hovered ? Theme.white(1) : button.tint
+    }
+
+    Tooltip {
+        target: button
+        hovered: button.hovered && !button.pressed
+        text: button.tip
     }
 }

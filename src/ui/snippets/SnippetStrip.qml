@@ -122,6 +122,12 @@ Item {
             symbol: "plus"
             color: add.hovered ? Theme.text1 : Theme.text2
         }
+
+        Tooltip {
+            target: add
+            hovered: add.hovered && !add.pressed
+            text: add.name
+        }
     }
 
     Menu {
