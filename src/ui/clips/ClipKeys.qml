@@ -66,6 +66,8 @@ QtObject {
         } else if (digitOf(event) > 0) {
             clips.list.finishSearch();
             digitPressed(digitOf(event), event.modifiers);
+        } else if (control && event.key === Qt.Key_C && search.edited.selectedText === "" && row() >= 0) {
+            clips.selected > 1 ? clips.copySelected() : clips.copy(row());
         } else if (control && event.key === Qt.Key_P) {
             clips.togglePin(row());
         } else if (event.key === Qt.Key_F && event.modifiers === (Qt.ControlModifier | Qt.ShiftModifier)) {

@@ -270,6 +270,7 @@ INSTANTIATE_TEST_SUITE_P(
         KeysCase{"deleteEditsASearch", "1 Home Del", {}, true},
         KeysCase{"aSearchStartsAtItsFirst", "Down Down 1 Return", u"1"_s, false},
         KeysCase{"controlPPins", "Down Ctrl+P", {}, true, u"1* 11 10 9 8 7 6 5 4 3 2 0"_s},
+        KeysCase{"controlCCopiesAndStays", "Down Ctrl+C", u"1"_s, true},
         KeysCase{"controlReturnOpensNoText", "Ctrl+Return", {}, true},
         KeysCase{"controlFSearchesFromAnotherTab", "Ctrl+Tab Ctrl+F 7 Return", u"7"_s, false},
         KeysCase{"escapeClearsThenCloses", "5 Esc Esc", {}, false}),
