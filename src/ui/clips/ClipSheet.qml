@@ -15,7 +15,7 @@ Sheet {
         if (editor.draft === editor.text) {
             editor.discard();
         } else {
-            question.openUnder(bodyField, 0);
+            question.openOver(dialog);
         }
     }
 

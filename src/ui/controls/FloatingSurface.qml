@@ -35,12 +35,14 @@ Item {
             return Math.round(Math.max(margin, Math.min(at, room - margin - size)));
         }
 
-        x: kept(floating.popover.corner.x - (floating.popover.growsLeft ? width : 0), width, floating.width)
-        y: kept(floating.popover.corner.y, height, floating.height)
+        readonly property bool centred: floating.popover.centred
+
+        x: kept(floating.popover.corner.x - width * (centred ? 0.5 : floating.popover.growsLeft ? 1 : 0), width, floating.width)
+        y: kept(floating.popover.corner.y - (centred ? height / 2 : 0), height, floating.height)
         width: content.implicitWidth + 2 * floating.popover.pad
         height: content.implicitHeight + 2 * floating.popover.pad
         scale: floating.popover.opened ? 1 : 1 - Theme.move(3) / 100
-        transformOrigin: floating.popover.growsLeft ? Item.TopRight : Item.TopLeft
+        transformOrigin: centred ? Item.Center : floating.popover.growsLeft ? Item.TopRight : Item.TopLeft
 
         Behavior on scale {
             NumberAnimation {

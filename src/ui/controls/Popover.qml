@@ -17,6 +17,8 @@ FocusScope {
     readonly property real margin: 26
     property point corner
     property bool growsLeft: false
+    /// The corner is its middle.
+    property bool centred: false
     property Item focusedBefore
 
     signal closed
@@ -29,6 +31,12 @@ FocusScope {
     /// Below an item of the panel, ending `beyond` its right edge.
     function openLeftUnder(item: Item, beyond: real) {
         openAt(item.mapToItem(parent, item.width + beyond, item.height + 6), true, item.activeFocus);
+    }
+
+    /// In the middle of an item of the panel.
+    function openOver(item: Item) {
+        centred = true;
+        openAt(item.mapToItem(parent, item.width / 2, item.height / 2), false, item.activeFocus);
     }
 
     function openAt(place: point, toTheLeft: bool, byKey: bool) {

@@ -16,6 +16,7 @@ FocusScope {
     /// False until this is complete: it grows in.
     property bool up: false
     default property alias content: sheet.data
+    readonly property alias dialog: sheet
 
     /// How much lower the sheet is because the panel is too low; the text scrolls then.
     readonly property real cut: Math.max(0, 394 + 2 * 14 - height)

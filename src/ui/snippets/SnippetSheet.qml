@@ -38,7 +38,7 @@ Sheet {
         }
     }
     onConfirmed: layer.save()
-    onEscaped: editor.modified ? question.openUnder(titleField, 0) : editor.cancel()
+    onEscaped: editor.modified ? question.openOver(dialog) : editor.cancel()
 
     Connections {
         target: layer.editor
