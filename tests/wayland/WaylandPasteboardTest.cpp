@@ -89,6 +89,7 @@ TEST_F(WaylandPasteboardTest, seesEachOfTwentyCopies) {
 }
 
 TEST_F(WaylandPasteboardTest, aHungOwnerCostsNoMoreThanItsTimeOut) {
+    std::promise<void> busy;
     std::promise<void> begin;
     std::promise<void> end;
     const auto waitFor = [](std::promise<void>& promise) {
@@ -96,7 +97,12 @@ TEST_F(WaylandPasteboardTest, aHungOwnerCostsNoMoreThanItsTimeOut) {
             come.wait();
         };
     };
-    other_.thread->post(waitFor(begin)); // Else it might give the text before it hangs.
+    // Else it might give the text before it hangs.
+    other_.thread->post([&busy, wait = waitFor(begin)] {
+        busy.set_value();
+        wait();
+    });
+    busy.get_future().wait();
     other_.pasteboard.write({{plainTextType, "never given"}});
     other_.thread->post(waitFor(end));
     begin.set_value();
