@@ -105,5 +105,9 @@ int LLVMFuzzerTestOneInput(const uint8_t* bytes, size_t size) {
     fuzz::require(again.lastTab() == settings.lastTab() && again.panelWidth() == 700 &&
                   again.onboarded() == settings.onboarded() &&
                   again.ignoredPatterns() == settings.ignoredPatterns());
+    written.flush();
+    written.erase([](const Result<void>& erased) { fuzz::require(erased.has_value()); });
+    worker.drain();
+    fuzz::require(!QFile::exists(path));
     return 0;
 }
