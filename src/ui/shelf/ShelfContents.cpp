@@ -40,8 +40,7 @@ QStringList idsOf(const QList<QUrl>& files) {
 
 } // namespace
 
-ShelfContents::ShelfContents(Store& store, DetachedJobs& jobs, Scheduler& scheduler,
-                             Toast& toast)
+ShelfContents::ShelfContents(Store& store, DetachedJobs& jobs, Scheduler& scheduler, Toast& toast)
     : store_(store), look_(jobs, scheduler), toast_(toast) {
     connect(&store, &Store::shelfChanged, this, &ShelfContents::update);
     update();
@@ -121,10 +120,10 @@ void ShelfContents::removeSelected() {
 }
 
 void ShelfContents::remove(const QList<QUrl>& files) {
-    auto before = before_.lock();
-    if (!before) {
-        before = std::make_shared<const Shelf>(store_.shelf());
-    }
+    // What the toast already offers to restore, and what was parked since.
+    const auto offered = before_.lock();
+    const auto before =
+        std::make_shared<const Shelf>(offered ? store_.shelf().restored(*offered) : store_.shelf());
     store_.removeFromShelf(files);
     const qsizetype gone = store_.shelf().goneSince(*before).size();
     if (gone > 0) {

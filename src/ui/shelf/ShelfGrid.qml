@@ -43,6 +43,13 @@ FocusScope {
         tileAt(current)?.forceActiveFocus();
     }
 
+    /// The focused file may have been removed.
+    function goOn() {
+        if (activeFocus && current >= 0) {
+            go(current);
+        }
+    }
+
     /// By arrow key; the first press goes to the first file.
     function step(place: int) {
         go(current < 0 ? 0 : place);
@@ -115,9 +122,7 @@ FocusScope {
             } else if (current >= 0) {
                 shelf.remove(shelf.fileAt(current));
             }
-            if (current >= 0) {
-                go(current);
-            }
+            goOn();
         } else if ((event.key === Qt.Key_Return || event.key === Qt.Key_Enter)
                    && !event.isAutoRepeat) {
             if (current >= 0) {
@@ -194,6 +199,11 @@ FocusScope {
                         grid.shelf.toggle(place);
                     }
                     onMenuRequested: place => grid.menuRequested(tile, place, false)
+                    onPlaceChanged: {
+                        if (activeFocus) {
+                            grid.wanted = place;
+                        }
+                    }
                     onActiveFocusChanged: {
                         if (activeFocus) {
                             ring.control = tile;

@@ -150,7 +150,13 @@ TabPage {
                 { text: qsTr("Show in folder"), chosen: () => tab.shelfFiles.showInFolder(file) }
             ];
             if (parked) {
-                all.push({ text: qsTr("Remove"), chosen: () => tab.shelfFiles.parked.remove(file) });
+                all.push({
+                    text: qsTr("Remove"),
+                    chosen: () => {
+                        tab.shelfFiles.parked.remove(file);
+                        grid.goOn();
+                    }
+                });
             } else {
                 all.push({ text: qsTr("Add to shelf"), chosen: () => tab.shelfFiles.parked.park(file) });
             }

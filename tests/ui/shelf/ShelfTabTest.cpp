@@ -203,7 +203,7 @@ INSTANTIATE_TEST_SUITE_P(
         ShelfKeysCase{"downAndUp", "Down Down Down Space Up Up Up Space", u"0 10"_s},
         ShelfKeysCase{"byTab", "Backtab Tab Space", u"0"_s},
         ShelfKeysCase{"delete", "End Del Del Space", u"9"_s, {}, u"0 1 2 3 4 5 6 7 8 9"_s},
-        ShelfKeysCase{"undo", "End Del Home Del Ctrl+Z", {}},
+        ShelfKeysCase{"undo", "End Del Home Del Ctrl+Z Space", u"1"_s},
         ShelfKeysCase{"selectAll", "Ctrl+A", u"0 1 2 3 4 5 6 7 8 9 10 11"_s},
         ShelfKeysCase{"return", "Right Right Return", {}, u"1"_s}),
     [](const auto& row) { return row.param.name; });
@@ -232,6 +232,15 @@ TEST_F(ShelfTab, theMenuRemovesOneFileUntilThatIsUndone) {
     EXPECT_EQ(text(u"message"_s), u"Removed"_s);
     clickOn(u"toastAction"_s);
     EXPECT_EQ(parked(), u"1 2 3"_s);
+}
+
+TEST_F(ShelfTab, undoesRemovingAlsoOfWhatWasParkedMeanwhile) {
+    park(1, 2);
+    openByKey();
+    pressKeys(u"Home Del"_s);
+    park(3, 3);
+    pressKeys(u"End Del Ctrl+Z"_s);
+    EXPECT_EQ(parked(), u"2 3 1"_s);
 }
 
 TEST_F(ShelfTab, dragsNoMissingFiles) {
