@@ -2125,8 +2125,8 @@
         <translation>Die Erweiterung ist neuer als Ravelo. Beende Ravelo und starte es neu.</translation>
     </message>
     <message>
-        <source>GNOME refused. Turn it on in the Extensions app.</source>
-        <translation>GNOME hat abgelehnt. Schalte sie in der App „Erweiterungen“ ein.</translation>
+        <source>It could not be turned on. Log out and in, then turn it on in the Extensions app.</source>
+        <translation>Sie ließ sich nicht einschalten. Melde dich ab und wieder an und schalte sie dann in der App „Erweiterungen“ ein.</translation>
     </message>
 </context>
 <context>

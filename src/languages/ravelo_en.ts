@@ -2125,7 +2125,7 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>GNOME refused. Turn it on in the Extensions app.</source>
+        <source>It could not be turned on. Log out and in, then turn it on in the Extensions app.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2125,8 +2125,8 @@
         <translation>A extensão é mais nova que o Ravelo. Saia do Ravelo e abra-o de novo.</translation>
     </message>
     <message>
-        <source>GNOME refused. Turn it on in the Extensions app.</source>
-        <translation>O GNOME recusou. Ative-a no aplicativo Extensões.</translation>
+        <source>It could not be turned on. Log out and in, then turn it on in the Extensions app.</source>
+        <translation>Não foi possível ativá-la. Saia da sessão, entre de novo e ative-a no aplicativo Extensões.</translation>
     </message>
 </context>
 <context>

@@ -14,7 +14,7 @@ public:
         notNeeded, ///< Or nothing is known of it.
         missing,   ///< It is not installed.
         off,
-        refused,       ///< It could not be turned on from here.
+        failed,        ///< It could not be turned on from here, or has failed since.
         waitsForLogin, ///< It is turned on, and runs once the user has logged in again.
         waitsForStart, ///< It runs, but this program was started without it.
         on,

@@ -161,6 +161,7 @@ TEST(ShellExtensionState, IsWhatTheShellSaysOfIt) {
     EXPECT_EQ(stateOf({}), State::missing);
     EXPECT_EQ(stateOf(info(1, double(protocolVersion))), State::on);
     EXPECT_EQ(stateOf(info(2, double(protocolVersion))), State::off);
+    EXPECT_EQ(stateOf(info(3, double(protocolVersion))), State::failed);
     EXPECT_EQ(stateOf(info(1, double(protocolVersion - 1))), State::older);
     EXPECT_EQ(stateOf(info(1, {})), State::older);
     EXPECT_EQ(stateOf(info(1, double(protocolVersion + 1))), State::newer);

@@ -125,7 +125,7 @@ TEST_F(ShellExtensionTest, SaysIfItCannotBeTurnedOn) {
     ASSERT_TRUE(eventually([&] { return extension->state() == State::off; }));
     qputenv("PATH", "/nowhere"); // Without gsettings.
     extension->turnOn();
-    EXPECT_TRUE(eventually([&] { return extension->state() == State::refused; }));
+    EXPECT_TRUE(eventually([&] { return extension->state() == State::failed; }));
 }
 
 TEST_F(ShellExtensionTest, IsOfNoConcernElsewhere) {

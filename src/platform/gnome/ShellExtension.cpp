@@ -22,8 +22,10 @@ using State = DesktopExtension::State;
 constexpr int startTimeout = 10000; ///< Milliseconds: at login the shell is busy.
 constexpr int timeout = 5000;
 
-/// Of the shell's ExtensionState.
+// Of the shell's ExtensionState.
 constexpr int enabledState = 1;
+constexpr int errorState = 3;
+constexpr int outOfDateState = 4;
 
 const QString shellInterface = u"org.gnome.Shell.Extensions"_s;
 const QString settingsSchema = u"org.gnome.shell"_s;
@@ -94,8 +96,9 @@ DesktopExtension::State stateOf(const QVariantMap& info) {
     if (info.isEmpty()) {
         return State::missing;
     }
-    if (info.value(u"state"_s).toInt() != enabledState) {
-        return State::off;
+    const int state = info.value(u"state"_s).toInt();
+    if (state != enabledState) {
+        return state == errorState || state == outOfDateState ? State::failed : State::off;
     }
     const int version = info.value(u"ravelo-protocol"_s).toInt();
     if (version == protocolVersion) {
@@ -130,7 +133,7 @@ void ShellExtension::turnOn() {
         return;
     }
     call(u"EnableExtension"_s, [this](const QDBusMessage& answer) {
-        if (answer.arguments().value(0).toBool()) {
+        if (answer.type() == QDBusMessage::ReplyMessage && answer.arguments().value(0).toBool()) {
             refresh();
         } else {
             addToSettings();
@@ -171,11 +174,11 @@ void ShellExtension::addToSettings() {
     runSettings(*this, {u"get"_s, settingsSchema, settingsKey}, [this](const QString& list) {
         const QString longer = withName(list, extensionId);
         if (longer.isEmpty()) {
-            set(State::refused);
+            set(State::failed);
             return;
         }
         runSettings(*this, {u"set"_s, settingsSchema, settingsKey, longer},
-                    [this](const QString& /*nothing*/) { refreshBySettings(State::refused); });
+                    [this](const QString& /*nothing*/) { refreshBySettings(State::failed); });
     });
 }
 

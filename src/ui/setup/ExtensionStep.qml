@@ -38,14 +38,16 @@ FocusScope {
             height: 186
             scale: scrolled.part
             transformOrigin: Item.Top
-            panel: step.offer.canTurnOn ? DesktopPicture.Outlined : DesktopPicture.Ready
+            readonly property bool ready: step.offer.waitsForLogin || !step.offer.isOffered
+
+            panel: ready ? DesktopPicture.Ready : DesktopPicture.Outlined
 
             Glyph {
                 x: 160 - width / 2
-                y: (step.offer.canTurnOn ? 60 : 104) - height / 2
-                size: step.offer.canTurnOn ? 26 : 20
-                symbol: step.offer.canTurnOn ? "puzzlepiece" : "checkmark"
-                color: step.offer.canTurnOn ? "white" : "#0f2a1b"
+                y: (picture.ready ? 104 : 60) - height / 2
+                size: picture.ready ? 20 : 26
+                symbol: picture.ready ? "checkmark" : "puzzlepiece"
+                color: picture.ready ? "#0f2a1b" : "white"
             }
         }
 

@@ -26,8 +26,9 @@ QString ExtensionOffer::next() const {
     switch (state()) {
     case State::missing:
         return tr("It is not installed.");
-    case State::refused:
-        return tr("GNOME refused. Turn it on in the Extensions app.");
+    case State::failed:
+        return tr(
+            "It could not be turned on. Log out and in, then turn it on in the Extensions app.");
     case State::waitsForLogin:
         return tr("Log out and in once.");
     case State::waitsForStart:
