@@ -174,6 +174,7 @@ class WaylandPanel(WaylandCase):
         self.desktop.release()
         self.assertEqual(source.stdout.readline(), "end\n")
         wait_for(lambda: self.ravelo.call("shelf", "list") == (0, f"{file}\n"), "the parked file")
+        wait_for(self.ravelo.is_open, "still open after the drop")
         self.desktop.move(640, 250)
         self.desktop.move(640, 750)
         wait_for(self.ravelo.is_collapsed,

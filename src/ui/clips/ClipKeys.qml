@@ -66,7 +66,8 @@ QtObject {
         } else if (digitOf(event) > 0) {
             clips.list.finishSearch();
             digitPressed(digitOf(event), event.modifiers);
-        } else if (control && event.key === Qt.Key_C && search.edited.selectedText === "" && row() >= 0) {
+        } else if (control && event.key === Qt.Key_C && searching && search.edited.selectedText === ""
+                   && row() >= 0 && !event.isAutoRepeat) {
             clips.selected > 1 ? clips.copySelected() : clips.copy(row());
         } else if (control && event.key === Qt.Key_P) {
             clips.togglePin(row());

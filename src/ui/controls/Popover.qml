@@ -35,13 +35,14 @@ FocusScope {
 
     /// In the middle of an item of the panel.
     function openOver(item: Item) {
-        centred = true;
         openAt(item.mapToItem(parent, item.width / 2, item.height / 2), false, item.activeFocus);
+        centred = true;
     }
 
     function openAt(place: point, toTheLeft: bool, byKey: bool) {
         corner = place;
         growsLeft = toTheLeft;
+        centred = false;
         keyed = byKey;
         focusedBefore = Typing.focused(popover);
         floating.needed = true; // Before it opens: it fades in.

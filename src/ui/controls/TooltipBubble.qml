@@ -36,11 +36,11 @@ Item {
 
             // While the panel's content is deleted, there is neither a target nor a parent.
             readonly property Item target: bubble.tooltip.target // qmllint disable unqualified
-            readonly property point above: target?.mapToItem(null, target.width / 2, 0) ?? Qt.point(0, 0)
-            readonly property real below: above.y + (target?.height ?? 0) + 6
+            readonly property point edge: target?.mapToItem(null, target.width / 2, 0) ?? Qt.point(0, 0)
+            readonly property real below: edge.y + (target?.height ?? 0) + 6
             readonly property real room: (parent?.width ?? 0) - width - Theme.insetSide
-            x: Math.round(Math.max(Theme.insetSide, Math.min(above.x - width / 2, room)))
-            y: Math.round(below + height > (parent?.height ?? 0) ? above.y - 6 - height : below)
+            x: Math.round(Math.max(Theme.insetSide, Math.min(edge.x - width / 2, room)))
+            y: Math.round(below + height > (parent?.height ?? 0) ? edge.y - 6 - height : below)
 
             Shadow {
                 anchors.fill: parent
