@@ -120,11 +120,13 @@ void ClipboardManager::finishRead(qint64 count, const PasteboardSnapshot& snapsh
 void ClipboardManager::capture(const PasteboardSnapshot& snapshot, const QStringList& useless,
                                Seconds seen) {
     const bool passedOnUnread =
-        std::exchange(ignoredLast_, false) && snapshot.owner.kind == PasteboardOwner::Kind::manager;
-    const bool unwanted = isOfProgram(snapshot.owner, rules_.programs);
-    ignoredLast_ = unwanted || passedOnUnread;
-    const auto key =
-        passedOnUnread || unwanted || isConcealed(snapshot) ? std::nullopt : contentsKey(snapshot);
+        ignoredLast_ && snapshot.owner.kind == PasteboardOwner::Kind::manager;
+    const bool unwanted =
+        passedOnUnread || isOfProgram(snapshot.owner, rules_.programs) || isConcealed(snapshot);
+    if (!snapshot.types.isEmpty()) { // Between an owner's end and the manager there may be nothing.
+        ignoredLast_ = unwanted;
+    }
+    const auto key = unwanted ? std::nullopt : contentsKey(snapshot);
     if (!key) {
         unwantedCount_ = snapshot.changeCount;
         if (held_ && held_->changeCount == snapshot.changeCount) {

@@ -163,7 +163,7 @@ private:
     qint64 suppressUntilCount_ = -1; ///< Our own change.
     qint64 unwantedCount_ = -1;      ///< The last copy that was not to be kept.
     std::shared_ptr<Held> held_;     ///< Null at first.
-    bool ignoredLast_ = false;       ///< The last copy, unread.
+    bool ignoredLast_ = false;       ///< The last copy, which a manager may pass on.
     Handle timer_;
     Handle notice_;
     Handle saveRequests_;
