@@ -148,7 +148,12 @@ class ProgramTest(ProgramCase):
               "the shell keeps the text of a program that has ended")
         self.session.run("await sleep(1000)")
         self.assertEqual(json.loads(self.store())["clips"], before, "which is no new copy")
-        self.client("secret", "--secret", "hunter2")
+        secret = self.client("secret", "--secret", "hunter2")
+        self.session.run("await sleep(1000)")
+        secret.end()
+        until(lambda: self.session.run("return global.display.get_selection().get_mimetypes(1)"),
+              "the shell keeps the password, too")
+        self.session.run("await sleep(1000)")
         self.client("picture", "--image", next(shell.ROOT.glob("docs/screenshots/dark/*.png")))
         clips = self.session.home / ".local/share/Ravelo/clips"
         until(lambda: list(clips.glob("*.png")), "an image is stored")
