@@ -7,13 +7,10 @@
 #include "ui/panel/PanelState.h"
 #include "ui/usage/Usage.h"
 
-#include <QQmlEngine>
 #include <QQuickItem>
 #include <QQuickWindow>
 
 #include <algorithm>
-
-#include <malloc.h>
 
 namespace ravelo {
 
@@ -23,13 +20,6 @@ namespace {
 
 constexpr Seconds settling(0.3);   ///< Pictures in rows have arrived by then.
 constexpr Seconds minLifetime(60); ///< Unless something other than a relative date changes.
-
-/// What opening and drawing have used, once nobody waits for anything: 3 MB for most of the day.
-/// The next opening takes half a millisecond to get them again.
-void releaseMemory(QQmlEngine& engine) {
-    engine.collectGarbage();
-    malloc_trim(0);
-}
 
 } // namespace
 
@@ -69,12 +59,10 @@ void PanelPicture::make() {
         (services_.state.contentSize() * services_.window.effectiveDevicePixelRatio()).toSize();
     making_ = content->grabToImage(pixels);
     if (making_) {
-        connect(making_.get(), &QQuickItemGrabResult::ready, this,
-                [this, engine = qmlEngine(content)] {
-                    keep(making_->image());
-                    making_.reset();
-                    releaseMemory(*engine);
-                });
+        connect(making_.get(), &QQuickItemGrabResult::ready, this, [this] {
+            keep(making_->image());
+            making_.reset();
+        });
     }
 }
 
