@@ -349,6 +349,21 @@ class OwnersTest(ProgramCase):
         until(lambda: "next copy" in self.store(), "the next copy is stored")
 
 
+class WithoutExtensionTest(ProgramCase):
+    x11 = True
+    extensions = ()
+
+    def height(self):
+        return next((one["frame"][3] for one in self.session.run("return windows()") if one["title"] == "Ravelo"), 0)
+
+    def test_closes_when_the_pointer_leaves_downwards(self):
+        until(lambda: 0 < self.height() < 50, "the handle")
+        self.session.run("move(640, 3)")
+        until(lambda: self.height() > 500, "the open panel")
+        self.session.run("for (let y = 10; y < 790; y += 10) { move(640, y); await sleep(10); }")
+        until(lambda: self.height() < 50, "it closes")
+
+
 class PasswordTest(ProgramCase):
     x11 = True
 

@@ -25,11 +25,6 @@ bool isXWayland(Connection& connection) {
            (screen != nullptr && screen->name().startsWith(QLatin1StringView(name)));
 }
 
-X11Pointer::Known knownPlaces(Connection& connection) {
-    return isXWayland(connection) ? X11Pointer::Known::overX11Windows
-                                  : X11Pointer::Known::everywhere;
-}
-
 } // namespace
 
 Result<std::unique_ptr<X11DisplayServer>> X11DisplayServer::create() {
@@ -48,6 +43,7 @@ Result<std::unique_ptr<X11DisplayServer>> X11DisplayServer::create() {
 X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
                                    std::unique_ptr<Listener> listener)
     : connection_(std::move(connection)),
+      isXWayland_(isXWayland(*connection_)),
       events_(*connection_),
       focus_(*connection_, events_),
       pasteKeys_(*connection_, focus_),
@@ -61,15 +57,17 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
       pasteboard_(*listener_),
       selectedText_(*listener_),
       drags_(*listener_),
-      pointer_(*connection_, *listener_, knownPlaces(*connection_),
+      pointer_(*connection_, *listener_,
+               isXWayland_ ? X11Pointer::Known::overX11Windows : X11Pointer::Known::everywhere,
                [this](QPoint place) { return screens_.toLogical(place); }),
       cover_(*listener_) {
     listener_->start();
 }
 
 std::unique_ptr<PanelWindow> X11DisplayServer::panelWindow(QWindow& window) {
-    return std::make_unique<X11PanelWindow>(window, *connection_, events_, screens_, compositor_,
-                                            cover_, drags_, focus_);
+    return std::make_unique<X11PanelWindow>(
+        window, *connection_, events_, screens_, compositor_, cover_, drags_, focus_,
+        isXWayland_ ? X11PanelWindow::Leaving::reportedInside : X11PanelWindow::Leaving::reported);
 }
 
 std::unique_ptr<WindowFrame> X11DisplayServer::windowFrame(QWindow& window) {

@@ -63,6 +63,7 @@ private:
     X11DisplayServer(std::unique_ptr<Connection> connection, std::unique_ptr<Listener> listener);
 
     std::unique_ptr<Connection> connection_;
+    const bool isXWayland_;
     Events events_;
     InputFocus focus_;
     X11PasteKeys pasteKeys_;

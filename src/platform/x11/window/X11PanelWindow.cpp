@@ -31,11 +31,19 @@ std::vector<xcb_rectangle_t> rectanglesOf(const QRegion& region) {
     return rectangles;
 }
 
+/// No control is in them. The handle and the bar are too low to spare any, and open anyway.
+QRegion withoutLastRows(const QRegion& outline, double scale) {
+    const int rows = int(18 * scale);
+    const QRect all = outline.boundingRect();
+    return all.height() < 4 * rows ? outline : outline & all.adjusted(0, 0, 0, -rows);
+}
+
 } // namespace
 
 X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& events,
                                const X11Screens& screens, ManagerSelection& compositor,
-                               ForeignCover& cover, DragMonitor& drags, InputFocus& focus)
+                               ForeignCover& cover, DragMonitor& drags, InputFocus& focus,
+                               Leaving leaving)
     : window_(window),
       screens_(screens),
       compositor_(compositor),
@@ -43,6 +51,7 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       drags_(drags),
       qt_(qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection()),
       focus_(focus),
+      leaving_(leaving),
       shadow_(connection.atom("_COMPTON_SHADOW")),
       skipCloseAnimation_(connection.atom("_KDE_NET_WM_SKIP_CLOSE_ANIMATION")),
       blur_(connection, events),
@@ -187,8 +196,11 @@ void X11PanelWindow::applyOutline() {
     if (!outline_) {
         return;
     }
-    const auto rectangles = rectanglesOf(outlineRegion(*outline_, scale_));
-    setShape(XCB_SHAPE_SK_INPUT, rectangles);
+    const QRegion outline = outlineRegion(*outline_, scale_);
+    const auto rectangles = rectanglesOf(outline);
+    setShape(XCB_SHAPE_SK_INPUT, leaving_ == Leaving::reported
+                                     ? rectangles
+                                     : rectanglesOf(withoutLastRows(outline, scale_)));
     if (showThrough() != ShowThrough::none) {
         xcb_shape_mask(qt_, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, id_, 0, 0, XCB_PIXMAP_NONE);
     } else {

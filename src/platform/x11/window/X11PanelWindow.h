@@ -30,10 +30,14 @@ namespace ravelo::x11 {
 /// they stay in order with Qt's.
 class X11PanelWindow : public PanelWindow, private QObject {
 public:
+    /// XWayland reports that the pointer leaves only while it is still within the window, so the
+    /// panel takes no input in its last rows.
+    enum class Leaving { reported, reportedInside };
+
     /// All must outlive it; `window` must not have been shown. Makes the native window.
     X11PanelWindow(QWindow& window, Connection& connection, Events& events,
                    const X11Screens& screens, ManagerSelection& compositor, ForeignCover& cover,
-                   DragMonitor& drags, InputFocus& focus);
+                   DragMonitor& drags, InputFocus& focus, Leaving leaving = Leaving::reported);
 
     void place(const Screen& screen, QSizeF size) override;
     void orderFront() override;
@@ -71,6 +75,7 @@ private:
     DragMonitor& drags_;
     xcb_connection_t* qt_; ///< Qt's own connection.
     InputFocus& focus_;
+    const Leaving leaving_;
     const xcb_atom_t shadow_;
     const xcb_atom_t skipCloseAnimation_;
     BlurEffect blur_;
