@@ -143,6 +143,7 @@ class WaylandPanel(WaylandCase):
         self.desktop.still_picture()
         self.desktop.drag(FIRST_ROW, (FIRST_ROW[0] + 60, FIRST_ROW[1]))
         self.desktop.release()
+        time.sleep(0.5)  # For the keyboard to come back.
         before = self.desktop.still_picture()
         self.desktop.key("d")
         wait_for(lambda: self.desktop.still_picture() != before, "a search: the drag has ended here")

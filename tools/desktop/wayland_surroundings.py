@@ -369,6 +369,7 @@ def drop(on):
     """A file dropped on the open panel is on the shelf."""
     with dragged_file(on) as source:
         on.desktop.move(MIDDLE, 300)
+        time.sleep(0.5)  # As a hand rests before it lets go: the program has accepted the file then.
         on.desktop.release()
         assert source.stdout.readline() == "end\n"
         until(lambda: FILE in json.dumps(on.ravelo.store().get("shelfStacks", [])),
