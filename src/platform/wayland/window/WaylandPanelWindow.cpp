@@ -130,6 +130,7 @@ void WaylandPanelWindow::show() {
 
 void WaylandPanelWindow::hide() {
     catchers_.clear();
+    isDraggedOver_ = false;
     surfaces_.blur().forget();
     role_.reset(); // Before its surface.
     window_.hide();
@@ -202,10 +203,12 @@ void WaylandPanelWindow::setDraggingOut(bool dragging) {
     }
 }
 
-/// Also if Qt does not know yet that the keyboard is here.
+/// Also if Qt does not know yet that the keyboard is here. Not during a drag, which would lose its
+/// target: KWin gives the keyboard to what a drag is over.
 void WaylandPanelWindow::giveBackSoon() {
     QTimer::singleShot(returnTime, this, [this] {
-        if (QGuiApplication::focusWindow() == &window_ && keyboard_ == Keyboard::none && role_) {
+        if (QGuiApplication::focusWindow() == &window_ && keyboard_ == Keyboard::none && role_ &&
+            !isDraggedOver_) {
             goForAMoment();
         }
     });
@@ -238,7 +241,13 @@ void WaylandPanelWindow::setKeyboard(Keyboard keyboard) {
 bool WaylandPanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
     switch (event->type()) {
     case QEvent::DragEnter:
+        isDraggedOver_ = true;
         enterDrag(*event);
+        break;
+    case QEvent::DragLeave:
+    case QEvent::Drop:
+        isDraggedOver_ = false;
+        giveBackSoon();
         break;
     case QEvent::MouseButtonPress:
         pressListeners_.notify(HotZone::Press::onPanel);

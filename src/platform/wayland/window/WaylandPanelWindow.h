@@ -101,6 +101,7 @@ private:
     bool isGoing_ = false; ///< To be shown again in a moment.
     Keyboard keyboard_ = Keyboard::none;
     bool draggingOut_ = false;
+    bool isDraggedOver_ = false;
     bool takesKeyboardAgain_ = false; ///< If the drag ends here.
     std::shared_ptr<DragOffer> dragOffer_;
     std::unique_ptr<LayerRole> role_;                               ///< While it is shown.
