@@ -2109,14 +2109,6 @@
         <translation>Sie ist nicht installiert.</translation>
     </message>
     <message>
-        <source>Log out and in once.</source>
-        <translation>Melde dich einmal ab und wieder an.</translation>
-    </message>
-    <message>
-        <source>Quit Ravelo and start it again.</source>
-        <translation>Beende Ravelo und starte es neu.</translation>
-    </message>
-    <message>
         <source>The extension is older than Ravelo. Log out and in once.</source>
         <translation>Die Erweiterung ist älter als Ravelo. Melde dich einmal ab und wieder an.</translation>
     </message>
@@ -2127,6 +2119,14 @@
     <message>
         <source>It could not be turned on. Log out and in, then turn it on in the Extensions app.</source>
         <translation>Sie ließ sich nicht einschalten. Melde dich ab und wieder an und schalte sie dann in der App „Erweiterungen“ ein.</translation>
+    </message>
+    <message>
+        <source>It is turned on. Log out and in once.</source>
+        <translation>Sie ist eingeschaltet. Melde dich einmal ab und wieder an.</translation>
+    </message>
+    <message>
+        <source>It is turned on. Quit Ravelo and start it again.</source>
+        <translation>Sie ist eingeschaltet. Beende Ravelo und starte es neu.</translation>
     </message>
 </context>
 <context>

@@ -2109,14 +2109,6 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>Log out and in once.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
-        <source>Quit Ravelo and start it again.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The extension is older than Ravelo. Log out and in once.</source>
         <translation type="unfinished"></translation>
     </message>
@@ -2126,6 +2118,14 @@
     </message>
     <message>
         <source>It could not be turned on. Log out and in, then turn it on in the Extensions app.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is turned on. Log out and in once.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It is turned on. Quit Ravelo and start it again.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -2109,14 +2109,6 @@
         <translation>Ela não está instalada.</translation>
     </message>
     <message>
-        <source>Log out and in once.</source>
-        <translation>Saia da sessão e entre de novo.</translation>
-    </message>
-    <message>
-        <source>Quit Ravelo and start it again.</source>
-        <translation>Saia do Ravelo e abra-o de novo.</translation>
-    </message>
-    <message>
         <source>The extension is older than Ravelo. Log out and in once.</source>
         <translation>A extensão é mais antiga que o Ravelo. Saia da sessão e entre de novo.</translation>
     </message>
@@ -2127,6 +2119,14 @@
     <message>
         <source>It could not be turned on. Log out and in, then turn it on in the Extensions app.</source>
         <translation>Não foi possível ativá-la. Saia da sessão, entre de novo e ative-a no aplicativo Extensões.</translation>
+    </message>
+    <message>
+        <source>It is turned on. Log out and in once.</source>
+        <translation>Ela está ativada. Saia da sessão e entre de novo.</translation>
+    </message>
+    <message>
+        <source>It is turned on. Quit Ravelo and start it again.</source>
+        <translation>Ela está ativada. Saia do Ravelo e abra-o de novo.</translation>
     </message>
 </context>
 <context>

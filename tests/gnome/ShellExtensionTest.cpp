@@ -69,6 +69,7 @@ protected:
     }
 
     bool knows_ = true; ///< The shell has seen it at the login.
+    bool keepsPromise_ = true; ///< To run it.
     bool enabled_ = false;
 
 private:
@@ -83,8 +84,8 @@ private:
     StandIn shell_{[this](const QDBusMessage& call) -> std::optional<QVariant> {
         EXPECT_EQ(call.arguments(), QVariantList{QString(extensionId)});
         if (call.member() == u"EnableExtension") {
-            enabled_ = knows_;
-            return enabled_;
+            enabled_ = knows_ && keepsPromise_;
+            return knows_;
         }
         return knows_ ? QVariantMap{{u"state"_s, enabled_ ? 1.0 : 2.0},
                                     {u"ravelo-protocol"_s, double(protocolVersion)}}
@@ -124,6 +125,14 @@ TEST_F(ShellExtensionTest, SaysIfItCannotBeTurnedOn) {
     const auto extension = start(ShellExtension::Used::no);
     ASSERT_TRUE(eventually([&] { return extension->state() == State::off; }));
     qputenv("PATH", "/nowhere"); // Without gsettings.
+    extension->turnOn();
+    EXPECT_TRUE(eventually([&] { return extension->state() == State::failed; }));
+}
+
+TEST_F(ShellExtensionTest, SaysIfTheShellPromisesToRunItButDoesNot) {
+    keepsPromise_ = false;
+    const auto extension = start(ShellExtension::Used::no);
+    ASSERT_TRUE(eventually([&] { return extension->state() == State::off; }));
     extension->turnOn();
     EXPECT_TRUE(eventually([&] { return extension->state() == State::failed; }));
 }

@@ -8,6 +8,7 @@
 #include <QProcess>
 #include <QStandardPaths>
 #include <QStringList>
+#include <QTimer>
 
 #include <utility>
 
@@ -21,6 +22,9 @@ using State = DesktopExtension::State;
 
 constexpr int startTimeout = 10000; ///< Milliseconds: at login the shell is busy.
 constexpr int timeout = 5000;
+
+/// Milliseconds between the shell's promise to run an extension and its doing so.
+constexpr int patience = 2000;
 
 // Of the shell's ExtensionState.
 constexpr int enabledState = 1;
@@ -135,6 +139,10 @@ void ShellExtension::turnOn() {
     call(u"EnableExtension"_s, [this](const QDBusMessage& answer) {
         if (answer.type() == QDBusMessage::ReplyMessage && answer.arguments().value(0).toBool()) {
             refresh();
+            // It also promises that if the user has turned off all extensions, and runs none.
+            QTimer::singleShot(patience, this, [this] {
+                set(state_ == State::off ? State::failed : state_);
+            });
         } else {
             addToSettings();
         }

@@ -18,6 +18,10 @@ bool ExtensionOffer::canTurnOn() const {
     return state() == State::off;
 }
 
+bool ExtensionOffer::isTurnedOn() const {
+    return state() == State::waitsForLogin || state() == State::waitsForStart;
+}
+
 bool ExtensionOffer::waitsForLogin() const {
     return state() == State::waitsForLogin;
 }
@@ -30,9 +34,9 @@ QString ExtensionOffer::next() const {
         return tr(
             "It could not be turned on. Log out and in, then turn it on in the Extensions app.");
     case State::waitsForLogin:
-        return tr("Log out and in once.");
+        return tr("It is turned on. Log out and in once.");
     case State::waitsForStart:
-        return tr("Quit Ravelo and start it again.");
+        return tr("It is turned on. Quit Ravelo and start it again.");
     case State::older:
         return tr("The extension is older than Ravelo. Log out and in once.");
     case State::newer:

@@ -15,6 +15,7 @@ class ExtensionOffer : public QObject {
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(bool isOffered READ isOffered NOTIFY changed)
     Q_PROPERTY(bool canTurnOn READ canTurnOn NOTIFY changed)
+    Q_PROPERTY(bool isTurnedOn READ isTurnedOn NOTIFY changed)
     Q_PROPERTY(bool waitsForLogin READ waitsForLogin NOTIFY changed)
     Q_PROPERTY(QString next READ next NOTIFY changed)
 
@@ -26,6 +27,9 @@ public:
     [[nodiscard]] bool isOffered() const;
 
     [[nodiscard]] bool canTurnOn() const;
+
+    /// Whether it is, though Ravelo cannot use it yet.
+    [[nodiscard]] bool isTurnedOn() const;
 
     /// It is turned on and will be there after the next login.
     [[nodiscard]] bool waitsForLogin() const;

@@ -157,7 +157,8 @@ TEST_F(Setup, OffersTheDesktopsExtensionLastAndTurnsItOnWhenAsked) {
               u"Log out and in once"_s);
     EXPECT_FALSE(in(offered, u"turnOn"_s)->isVisible());
     for (const auto& [state, says] :
-         {std::pair(DesktopExtension::State::failed, u"It could not be turned on."_s),
+         {std::pair(DesktopExtension::State::waitsForStart, u"It is turned on."_s),
+          std::pair(DesktopExtension::State::failed, u"It could not be turned on."_s),
           std::pair(DesktopExtension::State::older, u"The extension is older than Ravelo."_s),
           std::pair(DesktopExtension::State::newer, u"The extension is newer than Ravelo."_s)}) {
         extension.change(state);
