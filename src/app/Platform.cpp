@@ -78,6 +78,10 @@ QString themeOf(const IconPreference& preference) {
     return chosen.isEmpty() ? QIcon::themeName() : chosen;
 }
 
+QDBusConnection portals() {
+    return portalBus(helperProgram("ravelo-bus"_L1));
+}
+
 Result<void> connectX11(Platform& platform, HoverTick::Rest rest) {
     auto created = x11::X11DisplayServer::create();
     if (!created) {
@@ -87,7 +91,8 @@ Result<void> connectX11(Platform& platform, HoverTick::Rest rest) {
     platform.motion = server.motion();
     platform.iconPreference = server.icons();
     platform.trayArea = server.tray();
-    platform.shortcut = server.shortcut();
+    platform.shortcut =
+        server.isXWayland() ? std::make_unique<ShortcutsPortal>(portals()) : server.shortcut();
     platform.makeHotZone = [&server, rest,
                             scheduler = platform.scheduler.get()](PanelWindow& window) {
         return std::make_unique<PointerHotZone>(*scheduler, server.screens(), server.pointer(),
@@ -95,10 +100,6 @@ Result<void> connectX11(Platform& platform, HoverTick::Rest rest) {
     };
     platform.display = std::move(*created);
     return {};
-}
-
-QDBusConnection portals() {
-    return portalBus(helperProgram("ravelo-bus"_L1));
 }
 
 Result<void> connectWayland(Platform& platform) {

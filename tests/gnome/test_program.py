@@ -349,13 +349,15 @@ class OwnersTest(ProgramCase):
         until(lambda: "next copy" in self.store(), "the next copy is stored")
 
 
-class WithoutExtensionTest(ProgramCase):
+class WithoutExtension:
     x11 = True
     extensions = ()
 
     def height(self):
         return next((one["frame"][3] for one in self.session.run("return windows()") if one["title"] == "Ravelo"), 0)
 
+
+class WithoutExtensionTest(WithoutExtension, ProgramCase):
     def test_closes_when_the_pointer_leaves_downwards(self):
         until(lambda: 0 < self.height() < 50, "the handle")
         self.session.run("move(640, 3)")
@@ -520,8 +522,11 @@ class ShortcutTest(ProgramCase):
     def start(self, shortcut):
         preferences = self.session.home / ".config/ravelo/preferences.json"
         preferences.write_text(json.dumps({**json.loads(preferences.read_text()), "shortcut": shortcut}))
-        self.ravelo = self.session.start(PROGRAM, log="ravelo.log")
-        until(lambda: self.strips() > 0 or self.failed(), "the extension is connected", 60)
+        self.ravelo = self.session.start(PROGRAM, log="ravelo.log", **self.x11_names())
+        until(lambda: self.ready() or self.failed(), "Ravelo is ready", 60)
+
+    def ready(self):
+        return self.strips() > 0
 
     def stop(self):
         self.ravelo.terminate()
@@ -561,6 +566,19 @@ class ShortcutTest(ProgramCase):
         self.press("j")
         self.session.run("await sleep(1000)")
         self.assertFalse(self.panel(), "the old keys still work")
+
+
+class ShortcutWithoutExtensionTest(WithoutExtension, ShortcutTest):
+    def ready(self):
+        return 0 < self.height() < 50
+
+    def panel(self):
+        return self.height() > 500
+
+    def test_keys_are_asked_for_once_and_change(self):
+        self.start("Super+J")
+        self.allow()
+        self.opens("j")
 
 
 class TurnOnTest(ProgramCase):

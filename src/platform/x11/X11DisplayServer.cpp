@@ -15,7 +15,7 @@ namespace {
 
 /// XWayland says so by an extension. Before version 23.1 it had none, but named its outputs itself;
 /// later ones have the compositor's names.
-bool isXWayland(Connection& connection) {
+bool servesWayland(Connection& connection) {
     constexpr QByteArrayView name("XWAYLAND");
     const auto cookie = xcb_query_extension(connection.get(), uint16_t(name.size()), name.data());
     const Owned<xcb_query_extension_reply_t> reply(
@@ -43,7 +43,7 @@ Result<std::unique_ptr<X11DisplayServer>> X11DisplayServer::create() {
 X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
                                    std::unique_ptr<Listener> listener)
     : connection_(std::move(connection)),
-      isXWayland_(isXWayland(*connection_)),
+      isXWayland_(servesWayland(*connection_)),
       events_(*connection_),
       focus_(*connection_, events_),
       pasteKeys_(*connection_, focus_),

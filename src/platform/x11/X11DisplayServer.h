@@ -51,7 +51,10 @@ public:
     /// For the hot zone.
     [[nodiscard]] Pointer& pointer() { return pointer_; }
 
-    /// Must be destroyed before it.
+    /// Whether this is the X server of a Wayland session, which knows little of it.
+    [[nodiscard]] bool isXWayland() const { return isXWayland_; }
+
+    /// Must be destroyed before it. Of Xwayland's keys it gets those for X11 programs only.
     [[nodiscard]] std::unique_ptr<GlobalShortcut> shortcut();
 
     // What the desktop publishes through the X server. They must be destroyed before it.
