@@ -68,7 +68,7 @@ protected:
         bus_.connect(u"shell"_s).send(signal);
     }
 
-    bool knows_ = true; ///< The shell has seen it at the login.
+    bool knows_ = true;        ///< The shell has seen it at the login.
     bool keepsPromise_ = true; ///< To run it.
     bool enabled_ = false;
 

@@ -140,9 +140,8 @@ void ShellExtension::turnOn() {
         if (answer.type() == QDBusMessage::ReplyMessage && answer.arguments().value(0).toBool()) {
             refresh();
             // It also promises that if the user has turned off all extensions, and runs none.
-            QTimer::singleShot(patience, this, [this] {
-                set(state_ == State::off ? State::failed : state_);
-            });
+            QTimer::singleShot(patience, this,
+                               [this] { set(state_ == State::off ? State::failed : state_); });
         } else {
             addToSettings();
         }
