@@ -198,17 +198,28 @@ void WaylandPanelWindow::setDraggingOut(bool dragging) {
         catchers_.clear();
         setKeyboard(Keyboard::none);
         surfaces_.activeWindow().stopSoon();
-    } else if (wantsKeyboard() || (takesKeyboardAgain_ && isUnderPointer())) {
+    } else { // The pointer may come back later than the drag ends.
+        QTimer::singleShot(returnTime, this, [this] { endDragOut(); });
+    }
+}
+
+void WaylandPanelWindow::endDragOut() {
+    if (draggingOut_) {
+        return; // Another one.
+    }
+    if (wantsKeyboard() || (takesKeyboardAgain_ && isUnderPointer())) {
         requestFocus({}); // It was dropped here, or requested meanwhile.
+    } else {
+        giveBackSoon();
     }
 }
 
 /// Also if Qt does not know yet that the keyboard is here. Not during a drag, which would lose its
-/// target: KWin gives the keyboard to what a drag is over.
+/// target or its source: KWin gives the keyboard to what a drag is over.
 void WaylandPanelWindow::giveBackSoon() {
     QTimer::singleShot(returnTime, this, [this] {
         if (QGuiApplication::focusWindow() == &window_ && keyboard_ == Keyboard::none && role_ &&
-            !isDraggedOver_) {
+            !isDraggedOver_ && !draggingOut_) {
             goForAMoment();
         }
     });
@@ -243,6 +254,9 @@ bool WaylandPanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
     case QEvent::DragEnter:
         isDraggedOver_ = true;
         enterDrag(*event);
+        break;
+    case QEvent::DragMove: // Without an entry, if the surface is new.
+        isDraggedOver_ = true;
         break;
     case QEvent::DragLeave:
     case QEvent::Drop:

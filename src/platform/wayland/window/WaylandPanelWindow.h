@@ -79,6 +79,7 @@ private:
     void configure(QSize size);
     [[nodiscard]] bool mayCoverLocker() const;
     void showAgainSoon();
+    void endDragOut();
     void giveBackSoon();
     void goForAMoment();
     void comeBack();
