@@ -14,15 +14,17 @@ namespace ravelo::x11 {
 namespace {
 
 /// XWayland says so by an extension. Before version 23.1 it had none, but named its outputs itself;
-/// later ones have the compositor's names.
+/// later ones have the compositor's names. Beside a Wayland session, that is: a whole X11 desktop
+/// may run in it, too.
 bool servesWayland(Connection& connection) {
     constexpr QByteArrayView name("XWAYLAND");
     const auto cookie = xcb_query_extension(connection.get(), uint16_t(name.size()), name.data());
     const Owned<xcb_query_extension_reply_t> reply(
         xcb_query_extension_reply(connection.get(), cookie, nullptr));
     const QScreen* screen = QGuiApplication::primaryScreen();
-    return (reply && reply->present != 0) ||
-           (screen != nullptr && screen->name().startsWith(QLatin1StringView(name)));
+    const bool isNamed = screen != nullptr && screen->name().startsWith(QLatin1StringView(name));
+    return qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+           ((reply && reply->present != 0) || isNamed);
 }
 
 } // namespace

@@ -54,7 +54,8 @@ public:
     /// Whether this is the X server of a Wayland session, which knows little of it.
     [[nodiscard]] bool isXWayland() const { return isXWayland_; }
 
-    /// Must be destroyed before it. Of Xwayland's keys it gets those for X11 programs only.
+    /// Must be destroyed before it. On XWayland, keys arrive only while an X11 program has the
+    /// keyboard.
     [[nodiscard]] std::unique_ptr<GlobalShortcut> shortcut();
 
     // What the desktop publishes through the X server. They must be destroyed before it.
