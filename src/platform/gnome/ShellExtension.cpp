@@ -140,8 +140,7 @@ void ShellExtension::turnOn() {
         if (answer.type() == QDBusMessage::ReplyMessage && answer.arguments().value(0).toBool()) {
             refresh();
             // It also promises that if the user has turned off all extensions, and runs none.
-            QTimer::singleShot(patience, this,
-                               [this] { set(state_ == State::off ? State::failed : state_); });
+            QTimer::singleShot(patience, this, [this] { refreshOr(State::failed); });
         } else {
             addToSettings();
         }
@@ -158,14 +157,20 @@ void ShellExtension::call(const QString& method, std::function<void(const QDBusM
 }
 
 void ShellExtension::refresh() {
-    call(u"GetExtensionInfo"_s, [this](const QDBusMessage& answer) {
+    refreshOr(State::off);
+}
+
+void ShellExtension::refreshOr(State off) {
+    call(u"GetExtensionInfo"_s, [this, off](const QDBusMessage& answer) {
         const State state = stateOf(infoIn(answer));
         if (answer.type() != QDBusMessage::ReplyMessage) {
             set(State::notNeeded); // No shell that we know.
         } else if (state == State::missing && isInstalled()) {
             refreshBySettings(State::off);
         } else {
-            set(state == State::on && used_ == Used::no ? State::waitsForStart : state);
+            set(state == State::on && used_ == Used::no ? State::waitsForStart
+                : state == State::off                   ? off
+                                                        : state);
         }
     });
 }

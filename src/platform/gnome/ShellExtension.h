@@ -55,6 +55,8 @@ private Q_SLOTS:
 
 private:
     void call(const QString& method, std::function<void(const QDBusMessage&)> done);
+    /// `off` is what it means if the shell does not run it.
+    void refreshOr(State off);
     /// `otherwise`, unless it is in the list of those that are on.
     void refreshBySettings(State otherwise);
     void addToSettings();

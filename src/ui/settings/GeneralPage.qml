@@ -22,7 +22,7 @@ Column {
 
         SettingRow {
             text: qsTr("Extension of GNOME Shell")
-            readonly property string why: page.host.extension.isTurnedOn ? "" : qsTr("Without it, Ravelo does not see all copies, opens only on its handle, and closes when the pointer leaves it.")
+            readonly property string why: page.host.extension.isWaiting ? "" : qsTr("Without it, Ravelo does not see all copies, opens only on its handle, and closes when the pointer leaves it.")
             note: `${why} ${page.host.extension.next}`.trim()
 
             CapsuleButton {

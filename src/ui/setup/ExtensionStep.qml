@@ -70,7 +70,7 @@ FocusScope {
             text: step.offer.canTurnOn
                 ? qsTr("GNOME hides the clipboard and the top edge from programs. A small extension passes both on to Ravelo and stores nothing.")
                 : step.offer.waitsForLogin
-                ? qsTr("GNOME loads new extensions only when a session begins. Until then Ravelo opens by its icon and its shortcut.")
+                ? qsTr("GNOME loads new extensions only when a session begins. Until then Ravelo opens on its handle and by its icon.")
                 : step.offer.isOffered ? step.offer.next : qsTr("The extension is running.")
             style: Theme.leadLoose
             color: Theme.setupText

@@ -18,7 +18,7 @@ bool ExtensionOffer::canTurnOn() const {
     return state() == State::off;
 }
 
-bool ExtensionOffer::isTurnedOn() const {
+bool ExtensionOffer::isWaiting() const {
     return state() == State::waitsForLogin || state() == State::waitsForStart;
 }
 
@@ -31,8 +31,8 @@ QString ExtensionOffer::next() const {
     case State::missing:
         return tr("It is not installed.");
     case State::failed:
-        return tr(
-            "It could not be turned on. Log out and in, then turn it on in the Extensions app.");
+        return tr("It could not be turned on. Turn extensions on in the Extensions app, or log out "
+                  "and in and try again.");
     case State::waitsForLogin:
         return tr("It is turned on. Log out and in once.");
     case State::waitsForStart:

@@ -15,7 +15,7 @@ class ExtensionOffer : public QObject {
     QML_UNCREATABLE("made in C++")
     Q_PROPERTY(bool isOffered READ isOffered NOTIFY changed)
     Q_PROPERTY(bool canTurnOn READ canTurnOn NOTIFY changed)
-    Q_PROPERTY(bool isTurnedOn READ isTurnedOn NOTIFY changed)
+    Q_PROPERTY(bool isWaiting READ isWaiting NOTIFY changed)
     Q_PROPERTY(bool waitsForLogin READ waitsForLogin NOTIFY changed)
     Q_PROPERTY(QString next READ next NOTIFY changed)
 
@@ -28,8 +28,8 @@ public:
 
     [[nodiscard]] bool canTurnOn() const;
 
-    /// Whether it is, though Ravelo cannot use it yet.
-    [[nodiscard]] bool isTurnedOn() const;
+    /// It is turned on, but something is left to do.
+    [[nodiscard]] bool isWaiting() const;
 
     /// It is turned on and will be there after the next login.
     [[nodiscard]] bool waitsForLogin() const;
