@@ -107,7 +107,9 @@ void StoreNotices::reportLock() {
     const bool hasCopies = services_.store.isLocked() && !services_.store.clips().isEmpty();
     const bool possible = vault.canUnlock() || vault.asksPassphrase();
     services_.notices.setLocked(hasCopies ? vault.title() : QString(),
-                                tr("New copies are sealed until then."),
+                                vault.asksPassphrase()
+                                    ? tr("New copies are sealed until the passphrase is typed.")
+                                    : tr("New copies are sealed until then."),
                                 possible ? tr("Unlock\u2026") : QString());
 }
 

@@ -368,16 +368,16 @@
         <translation>GNOME verbirgt die Zwischenablage und den oberen Rand vor Programmen. Eine kleine Erweiterung reicht beides an Ravelo weiter und speichert nichts.</translation>
     </message>
     <message>
-        <source>GNOME loads new extensions only when a session begins. Until then Ravelo opens by its icon and its shortcut.</source>
-        <translation>GNOME lädt neue Erweiterungen nur, wenn eine Sitzung beginnt. Bis dahin öffnet sich Ravelo über sein Symbol und sein Tastenkürzel.</translation>
-    </message>
-    <message>
         <source>The extension is running.</source>
         <translation>Die Erweiterung läuft.</translation>
     </message>
     <message>
         <source>Not now</source>
         <translation>Jetzt nicht</translation>
+    </message>
+    <message>
+        <source>GNOME loads new extensions only when a session begins. Until then Ravelo opens on its handle and by its icon.</source>
+        <translation>GNOME lädt neue Erweiterungen nur, wenn eine Sitzung beginnt. Bis dahin öffnet sich Ravelo an seinem Griff und über sein Symbol.</translation>
     </message>
 </context>
 <context>
@@ -2117,16 +2117,16 @@
         <translation>Die Erweiterung ist neuer als Ravelo. Beende Ravelo und starte es neu.</translation>
     </message>
     <message>
-        <source>It could not be turned on. Log out and in, then turn it on in the Extensions app.</source>
-        <translation>Sie ließ sich nicht einschalten. Melde dich ab und wieder an und schalte sie dann in der App „Erweiterungen“ ein.</translation>
-    </message>
-    <message>
         <source>It is turned on. Log out and in once.</source>
         <translation>Sie ist eingeschaltet. Melde dich einmal ab und wieder an.</translation>
     </message>
     <message>
         <source>It is turned on. Quit Ravelo and start it again.</source>
         <translation>Sie ist eingeschaltet. Beende Ravelo und starte es neu.</translation>
+    </message>
+    <message>
+        <source>It could not be turned on. Turn extensions on in the Extensions app, or log out and in and try again.</source>
+        <translation>Sie ließ sich nicht einschalten. Schalte Erweiterungen in der App „Erweiterungen“ ein, oder melde dich ab und wieder an und versuche es noch einmal.</translation>
     </message>
 </context>
 <context>
@@ -2861,6 +2861,10 @@
     <message>
         <source>A copied image was not kept:</source>
         <translation>Ein kopiertes Bild wurde nicht behalten:</translation>
+    </message>
+    <message>
+        <source>New copies are sealed until the passphrase is typed.</source>
+        <translation>Neue Kopien bleiben versiegelt, bis die Passphrase eingegeben ist.</translation>
     </message>
 </context>
 <context>

@@ -368,15 +368,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>GNOME loads new extensions only when a session begins. Until then Ravelo opens by its icon and its shortcut.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>The extension is running.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>Not now</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>GNOME loads new extensions only when a session begins. Until then Ravelo opens on its handle and by its icon.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2117,15 +2117,15 @@
         <translation type="unfinished"></translation>
     </message>
     <message>
-        <source>It could not be turned on. Log out and in, then turn it on in the Extensions app.</source>
-        <translation type="unfinished"></translation>
-    </message>
-    <message>
         <source>It is turned on. Log out and in once.</source>
         <translation type="unfinished"></translation>
     </message>
     <message>
         <source>It is turned on. Quit Ravelo and start it again.</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>It could not be turned on. Turn extensions on in the Extensions app, or log out and in and try again.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>
@@ -2860,6 +2860,10 @@
     </message>
     <message>
         <source>A copied image was not kept:</source>
+        <translation type="unfinished"></translation>
+    </message>
+    <message>
+        <source>New copies are sealed until the passphrase is typed.</source>
         <translation type="unfinished"></translation>
     </message>
 </context>

@@ -368,16 +368,16 @@
         <translation>O GNOME esconde dos programas a área de transferência e a borda superior. Uma pequena extensão repassa ambas ao Ravelo e não guarda nada.</translation>
     </message>
     <message>
-        <source>GNOME loads new extensions only when a session begins. Until then Ravelo opens by its icon and its shortcut.</source>
-        <translation>O GNOME só carrega extensões novas no início de uma sessão. Até lá, o Ravelo abre pelo ícone e pelo atalho.</translation>
-    </message>
-    <message>
         <source>The extension is running.</source>
         <translation>A extensão está em execução.</translation>
     </message>
     <message>
         <source>Not now</source>
         <translation>Agora não</translation>
+    </message>
+    <message>
+        <source>GNOME loads new extensions only when a session begins. Until then Ravelo opens on its handle and by its icon.</source>
+        <translation>O GNOME só carrega extensões novas no início de uma sessão. Até lá, o Ravelo abre pela alça e pelo ícone.</translation>
     </message>
 </context>
 <context>
@@ -2117,16 +2117,16 @@
         <translation>A extensão é mais nova que o Ravelo. Saia do Ravelo e abra-o de novo.</translation>
     </message>
     <message>
-        <source>It could not be turned on. Log out and in, then turn it on in the Extensions app.</source>
-        <translation>Não foi possível ativá-la. Saia da sessão, entre de novo e ative-a no aplicativo Extensões.</translation>
-    </message>
-    <message>
         <source>It is turned on. Log out and in once.</source>
         <translation>Ela está ativada. Saia da sessão e entre de novo.</translation>
     </message>
     <message>
         <source>It is turned on. Quit Ravelo and start it again.</source>
         <translation>Ela está ativada. Saia do Ravelo e abra-o de novo.</translation>
+    </message>
+    <message>
+        <source>It could not be turned on. Turn extensions on in the Extensions app, or log out and in and try again.</source>
+        <translation>Não foi possível ativá-la. Ative as extensões no aplicativo Extensões, ou saia da sessão, entre de novo e tente outra vez.</translation>
     </message>
 </context>
 <context>
@@ -2861,6 +2861,10 @@
     <message>
         <source>A copied image was not kept:</source>
         <translation>Uma imagem copiada não foi guardada:</translation>
+    </message>
+    <message>
+        <source>New copies are sealed until the passphrase is typed.</source>
+        <translation>Novas cópias ficam lacradas até que a frase secreta seja digitada.</translation>
     </message>
 </context>
 <context>

@@ -20,6 +20,8 @@ TabPage {
 
     /// The lock instead of the list, unless clips were copied since.
     readonly property bool showsLock: Vault.locked && (list.count === 0 || Vault.asked)
+    /// What is typed while a passphrase is awaited must not be shown as a search.
+    readonly property bool canSearch: !showsLock && !Vault.asksPassphrase
     /// Height of the snippets, which are hidden while locked.
     readonly property real chipsRoom: Vault.locked ? 0 : 36
 
@@ -52,11 +54,16 @@ TabPage {
     }
 
     function type(text: string) {
-        showsLock ? locked.type(text) : field.type(text);
+        if (canSearch) {
+            field.type(text);
+        } else {
+            Vault.ask();
+            locked.type(text);
+        }
     }
 
     function search() {
-        if (!showsLock) {
+        if (canSearch) {
             field.edited.forceActiveFocus();
             field.edited.selectAll();
         }
@@ -215,7 +222,7 @@ TabPage {
         y: tab.head - Math.min(tab.head, Math.max(0, tab.scrolled))
         z: 1 // The list scrolls up behind the search.
         width: parent.width
-        enabled: !tab.showsLock
+        enabled: tab.canSearch
         opacity: enabled ? 1 : 0.4
         placeholder: qsTr("Search clipboard…")
         clearName: qsTr("Clear history")

@@ -80,8 +80,13 @@ bool VaultView::asksPassphrase() const {
 void VaultView::unlock() {
     if (canUnlock()) {
         encryption_->unlock();
-    } else if (asksPassphrase()) {
-        asked_ = true;
+    } else {
+        ask();
+    }
+}
+
+void VaultView::ask() {
+    if (asksPassphrase() && !std::exchange(asked_, true)) {
         Q_EMIT changed();
     }
 }

@@ -59,6 +59,8 @@ public:
 
     /// Shows the keyring's prompt, or asks for the passphrase.
     Q_INVOKABLE void unlock();
+    /// Asks for the passphrase, if that is what it waits for.
+    Q_INVOKABLE void ask();
     /// The panel was closed.
     void reset();
 

@@ -124,6 +124,12 @@ TEST_F(LockedPanel, IsEncryptedByAPassphraseTypedIntoTheSettings) {
     press(window, Qt::Key_3, Qt::ControlModifier);
     world.scheduler.advance(Seconds(0.1));
     clickMiddle(window, find(window.contentItem(), u"encrypt"_s));
+    window.close();
+    settings.show();
+    ASSERT_TRUE(eventually([&] { return window.isActive(); }));
+    EXPECT_FALSE(find(window.contentItem(), u"encrypt"_s)->property("on").toBool())
+        << "it was not finished";
+    clickMiddle(window, find(window.contentItem(), u"encrypt"_s));
     for (const char* field : {"the first field", "the second"}) {
         for (const QChar letter : u"words"_s) {
             press(window, Qt::Key_unknown, Qt::NoModifier, letter);
@@ -181,6 +187,19 @@ TEST_F(LockedPanel, SaysWhatIsWrong) {
         EXPECT_EQ(text(u"lockedTitle"_s), row.title);
         EXPECT_EQ(text(u"lockedDetail"_s), row.detail);
     }
+}
+
+TEST_F(LockedPanel, TakesThePassphraseThoughThereAreNewCopies) {
+    ASSERT_TRUE(writeKeyFile(KeyFile::Guard::passphrase));
+    world.store.addClip(u"new"_s);
+    load();
+    EXPECT_TRUE(item(u"card0"_s)->isVisible());
+    type(u"p\u00e4ss"_s);
+    EXPECT_EQ(text(u"searchInput"_s), QString()) << "nobody can read it there";
+    press(view->window(), Qt::Key_Return);
+    world.scheduler.advance(Seconds(0.1));
+    EXPECT_EQ(encryption->state(), Encryption::Open) << qPrintable(encryption->problem());
+    EXPECT_TRUE(item(u"search"_s)->isEnabled());
 }
 
 TEST_F(LockedPanel, ShowsNewCopiesUntilThen) {
