@@ -18,8 +18,8 @@ FadingEnds {
         flick.contentY = Math.max(0, contentHeight - height);
     }
 
-    onFocusedChanged: {
-        const spare = 26;
+    function reveal() {
+        const spare = 52; // Twice what may be faded.
         let inside = focused;
         while (inside && inside !== flick.contentItem) {
             inside = inside.parent;
@@ -32,6 +32,26 @@ FadingEnds {
         }
     }
 
+    function scrollBy(distance: real) {
+        flick.contentY = Math.max(0, Math.min(flick.contentY + distance, contentHeight - height));
+    }
+
+    onFocusedChanged: reveal()
+
+    Keys.onPressed: event => {
+        const step = 40;
+        switch (event.key) {
+        case Qt.Key_Up: scrollBy(-step); break;
+        case Qt.Key_Down: scrollBy(step); break;
+        case Qt.Key_PageUp: scrollBy(step - height); break;
+        case Qt.Key_PageDown: scrollBy(height - step); break;
+        case Qt.Key_Home: scrollToTop(); break;
+        case Qt.Key_End: scrollToEnd(); break;
+        default: return;
+        }
+        event.accepted = true;
+    }
+
     length: Math.min(26, Math.max(0, contentHeight - flick.contentY - height))
     topLength: Math.min(26, Math.max(0, flick.contentY))
 
@@ -41,7 +61,10 @@ FadingEnds {
         clip: contentHeight > height
         interactive: contentHeight > height
         boundsBehavior: Flickable.StopAtBounds
-        onContentHeightChanged: returnToBounds()
+        onContentHeightChanged: {
+            returnToBounds();
+            page.reveal();
+        }
         onHeightChanged: returnToBounds()
     }
 }

@@ -63,7 +63,7 @@ Box {
 
             objectName: "tab" + index
             name: modelData.title
-            activeFocusOnTab: selected || !picker.oneStop
+            activeFocusOnTab: selected || activeFocus || !picker.oneStop
             Accessible.role: Accessible.PageTab
             Accessible.selectable: true
             Accessible.selected: selected

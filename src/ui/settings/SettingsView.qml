@@ -27,6 +27,7 @@ TitledPage {
         }
     }
 
+    Keys.forwardTo: [scrolled] // If the focus is outside of it.
     Keys.onPressed: event => {
         const backwards = event.key === Qt.Key_Backtab;
         if (!(event.modifiers & Qt.ControlModifier)) {

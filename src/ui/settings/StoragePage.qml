@@ -31,6 +31,10 @@ Column {
         }
     }
 
+    /// What is not finished ends with the window.
+    readonly property bool windowShown: Window.visibility !== Window.Hidden // qmllint disable unqualified
+    onWindowShownChanged: newPassphrase = false
+
     spacing: 12
     Component.onCompleted: {
         Vault.look();
@@ -134,8 +138,9 @@ Column {
             ValueButton {
                 objectName: "key"
                 label: qsTr("Key")
-                value: Vault.byPassphrase || page.newPassphrase
-                choices: (Vault.hasKeyring ? [{ text: qsTr("From the keyring"), value: false }] : []).concat([
+                readonly property bool hasKeyring: Vault.hasKeyring || (Vault.on && !Vault.byPassphrase)
+                value: Vault.byPassphrase || page.newPassphrase || !hasKeyring
+                choices: (hasKeyring ? [{ text: qsTr("From the keyring"), value: false }] : []).concat([
                     { text: qsTr("Passphrase…"), value: true }
                 ])
                 onChosen: value => page.useKey(value)

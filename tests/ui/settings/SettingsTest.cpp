@@ -47,6 +47,28 @@ TEST_F(Settings, TheKeyboardSetsEachControlAtOnce) {
     EXPECT_FALSE(world.loginItem.enabled);
 }
 
+TEST_F(Settings, ScrollByKeys) {
+    press(*window, Qt::Key_3, Qt::ControlModifier);
+    QQuickItem* const last = in(window, u"eraseEverything"_s);
+    const auto place = [last] {
+        return last->mapToScene({}).y();
+    };
+    const double below = place();
+    ASSERT_GT(below, window->height());
+    for (const QString& focus : {u"tab2"_s, u"exportSnippets"_s}) {
+        in(window, focus)->forceActiveFocus();
+        press(*window, Qt::Key_Home);
+        EXPECT_EQ(place(), below) << qPrintable(focus);
+        press(*window, Qt::Key_Down);
+        const double lower = place();
+        EXPECT_LT(lower, below) << qPrintable(focus);
+        press(*window, Qt::Key_PageDown);
+        EXPECT_LT(place(), lower) << qPrintable(focus);
+        press(*window, Qt::Key_End);
+        EXPECT_LT(place(), window->height() - 58) << qPrintable(focus);
+    }
+}
+
 TEST_F(Settings, AShortcutIsRecorded) {
     press(*window, Qt::Key_4, Qt::ControlModifier);
     const QQuickItem* field = in(window, u"shortcut"_s);
