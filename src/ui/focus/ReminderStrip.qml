@@ -41,8 +41,10 @@ Item {
                 contentX = Math.max(end - width, Math.min(contentX, begin));
             }
 
+            /// Its end, or its beginning if there is no room for both.
             function showNewest() {
-                contentX = Math.max(0, contentWidth - width);
+                const newest = lines.itemAt(lines.count - 1);
+                contentX = Math.max(0, Math.min(contentWidth - width, newest?.x ?? 0));
             }
 
             anchors.fill: parent
