@@ -166,8 +166,7 @@ class WaylandPanel(WaylandCase):
         source = self.desktop.peer("/usr/bin/python3", HERE / "file_source.py", "--color",
                                    "#%02x%02x%02x" % BACKGROUND, file)
         self.desktop.still_picture()
-        self.desktop.drag((640, 400), (640, 6))
-        self.assertEqual(source.stdout.readline(), "begin\n")
+        self.desktop.drag_from(source, (640, 400), (640, 6))
         self.desktop.move(640, 6)
         wait_for(self.ravelo.is_open, "the open panel")
         self.desktop.still_picture()

@@ -11,6 +11,7 @@ import json
 import os
 import pathlib
 import re
+import select
 import shutil
 import signal
 import subprocess
@@ -388,6 +389,18 @@ class Desktop(contextlib.AbstractContextManager):
         """Presses at `start`, moves, and does not release."""
         self.move(*start, "mousedown", 1)
         self.glide(to)
+
+    def drag_from(self, source, start, to):
+        """Drags from the window of a file_source.py. A press before that is ready is lost."""
+        for _ in range(5):
+            self.drag(start, to)
+            if select.select([source.stdout], [], [], 3)[0]:
+                assert source.stdout.readline() == "begin\n"
+                return
+            self.release()
+            self.move(20, HEIGHT - 120)
+            time.sleep(1)  # For a panel that the pointer has opened to close.
+        raise AssertionError("the source begins no drag")
 
     def release(self):
         self.run("xdotool", "mouseup", 1)

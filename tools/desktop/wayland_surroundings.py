@@ -345,8 +345,7 @@ def dragged_file(on):
     source = on.desktop.peer("/usr/bin/python3", HERE / "file_source.py", "--color", css(BLUE), file)
     try:
         start = until(lambda: on.find(BLUE), "a window to drag from")
-        on.desktop.drag(start, (MIDDLE, 6))
-        assert source.stdout.readline() == "begin\n"
+        on.desktop.drag_from(source, start, (MIDDLE, 6))
         time.sleep(1)  # For its request to the compositor, which notices motion after that.
         on.desktop.move(MIDDLE, 6)
         on.expect_panel_seen([BAR, BLUE, WALLPAPER], "the panel, opened by a dragged file")
