@@ -400,6 +400,8 @@ class Desktop(contextlib.AbstractContextManager):
             self.release()
             self.move(20, HEIGHT - 120)
             time.sleep(1)  # For a panel that the pointer has opened to close.
+            while select.select([source.stdout], [], [], 0)[0]:
+                source.stdout.readline()  # It was only late.
         raise AssertionError("the source begins no drag")
 
     def release(self):

@@ -166,7 +166,7 @@ void ShellExtension::refreshOr(State off) {
         if (answer.type() != QDBusMessage::ReplyMessage) {
             set(State::notNeeded); // No shell that we know.
         } else if (state == State::missing && isInstalled()) {
-            refreshBySettings(State::off);
+            refreshBySettings(off);
         } else {
             set(state == State::on && used_ == Used::no ? State::waitsForStart
                 : state == State::off                   ? off

@@ -14,7 +14,7 @@ namespace ravelo::x11 {
 namespace {
 
 /// XWayland says so by an extension. Before version 23.1 it had none, but named its outputs itself;
-/// later ones have the compositor's names. Beside a Wayland session, that is: a whole X11 desktop
+/// later ones have the compositor's names. It counts only in a Wayland session: a whole X11 desktop
 /// may run in it, too.
 bool servesWayland(Connection& connection) {
     constexpr QByteArrayView name("XWAYLAND");
@@ -23,7 +23,7 @@ bool servesWayland(Connection& connection) {
         xcb_query_extension_reply(connection.get(), cookie, nullptr));
     const QScreen* screen = QGuiApplication::primaryScreen();
     const bool isNamed = screen != nullptr && screen->name().startsWith(QLatin1StringView(name));
-    return qEnvironmentVariableIsSet("WAYLAND_DISPLAY") &&
+    return !qEnvironmentVariableIsEmpty("WAYLAND_DISPLAY") &&
            ((reply && reply->present != 0) || isNamed);
 }
 

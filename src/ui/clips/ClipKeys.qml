@@ -12,6 +12,8 @@ QtObject {
     required property PreviewControl preview
     required property PreviewBubble bubble
     required property RowMenu rowMenu
+    /// Nothing else has the focus, as while the search is disabled.
+    required property bool onPage
 
     signal moved(row: int)
     signal extended(row: int)
@@ -23,7 +25,7 @@ QtObject {
     function handle(event: KeyEvent) {
         const page = Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1);
         const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
-        const searching = search.edited.activeFocus;
+        const searching = search.edited.activeFocus || onPage;
         const shift = event.modifiers === Qt.ShiftModifier;
         if (event.key === Qt.Key_Space && (shift || event.modifiers === Qt.NoModifier && search.isEmpty)) {
             if (clips.list.isSecret(row())) {

@@ -1,7 +1,7 @@
 import QtQuick
 import Ravelo.Controls
 
-/// A part of a window that scrolls if it does not fit. The focused item is scrolled into view.
+/// A part of a window that scrolls if it does not fit, also by keys. The focused item is scrolled into view.
 FadingEnds {
     id: page
 
@@ -24,7 +24,7 @@ FadingEnds {
         while (inside && inside !== flick.contentItem) {
             inside = inside.parent;
         }
-        if (inside && contentHeight > height) {
+        if (inside && focused.activeFocusOnTab && contentHeight > height) {
             const top = focused.mapToItem(flick.contentItem, 0, 0).y;
             const lowest = Math.min(top - spare, contentHeight - height);
             const highest = top + focused.height + spare - height;
@@ -40,6 +40,9 @@ FadingEnds {
 
     Keys.onPressed: event => {
         const step = 40;
+        if (event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier)) {
+            return;
+        }
         switch (event.key) {
         case Qt.Key_Up: scrollBy(-step); break;
         case Qt.Key_Down: scrollBy(step); break;

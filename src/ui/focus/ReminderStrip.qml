@@ -41,7 +41,7 @@ Item {
                 contentX = Math.max(end - width, Math.min(contentX, begin));
             }
 
-            /// Its end, or its beginning if there is no room for both.
+            /// The newest one's end, or its beginning if there is no room for both.
             function showNewest() {
                 const newest = lines.itemAt(lines.count - 1);
                 contentX = Math.max(0, Math.min(contentWidth - width, newest?.x ?? 0));

@@ -14,6 +14,7 @@ Column {
     readonly property AppSettings settings: host.settings
     /// The user has chosen a passphrase, and has not typed it yet.
     property bool newPassphrase: false
+    readonly property bool windowShown: Window.visibility !== Window.Hidden // qmllint disable unqualified
 
     function encrypt(on: bool) {
         newPassphrase = on && !Vault.on && !Vault.hasKeyring;
@@ -31,11 +32,8 @@ Column {
         }
     }
 
-    /// What is not finished ends with the window.
-    readonly property bool windowShown: Window.visibility !== Window.Hidden // qmllint disable unqualified
-    onWindowShownChanged: newPassphrase = false
-
     spacing: 12
+    onWindowShownChanged: newPassphrase = false // What is not finished ends with the window.
     Component.onCompleted: {
         Vault.look();
         host.refreshSizes();

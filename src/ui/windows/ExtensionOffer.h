@@ -28,7 +28,7 @@ public:
 
     [[nodiscard]] bool canTurnOn() const;
 
-    /// It is turned on, but something is left to do.
+    /// It is turned on, and used after the next login or start.
     [[nodiscard]] bool isWaiting() const;
 
     /// It is turned on and will be there after the next login.

@@ -194,6 +194,9 @@ TEST_F(LockedPanel, TakesThePassphraseThoughThereAreNewCopies) {
     world.store.addClip(u"new"_s);
     load();
     EXPECT_TRUE(item(u"card0"_s)->isVisible());
+    press(view->window(), Qt::Key_Return);
+    EXPECT_EQ(world.pasteboard.bytes(plainTextType), "new");
+    world.controller.toggle();
     type(u"p\u00e4ss"_s);
     EXPECT_EQ(text(u"searchInput"_s), QString()) << "nobody can read it there";
     press(view->window(), Qt::Key_Return);

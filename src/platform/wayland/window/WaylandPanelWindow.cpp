@@ -217,6 +217,9 @@ void WaylandPanelWindow::endDragOut() {
 /// Also if Qt does not know yet that the keyboard is here. Not during a drag, which would lose its
 /// target or its source: KWin gives the keyboard to what a drag is over.
 void WaylandPanelWindow::giveBackSoon() {
+    if (draggingOut_) {
+        return; // Its end decides who gets the keyboard.
+    }
     QTimer::singleShot(returnTime, this, [this] {
         if (QGuiApplication::focusWindow() == &window_ && keyboard_ == Keyboard::none && role_ &&
             !isDraggedOver_ && !draggingOut_) {

@@ -31,8 +31,8 @@ std::vector<xcb_rectangle_t> rectanglesOf(const QRegion& region) {
     return rectangles;
 }
 
-/// No control is in them, but the last six of a list if the panel is low. The handle and the bar
-/// are too low to spare any, and open anyway.
+/// No control is in them, but a list in a low panel has its lowest six there. The handle and the
+/// bar are too low to spare any, and open anyway.
 QRegion withoutLastRows(const QRegion& outline, double scale) {
     const int rows = int(18 * scale);
     const QRect all = outline.boundingRect();
