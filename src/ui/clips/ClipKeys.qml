@@ -13,7 +13,7 @@ QtObject {
     required property PreviewBubble bubble
     required property RowMenu rowMenu
     /// Nothing else has the focus, as while the search is disabled.
-    required property bool onPage
+    required property bool unfocused
 
     signal moved(row: int)
     signal extended(row: int)
@@ -25,7 +25,7 @@ QtObject {
     function handle(event: KeyEvent) {
         const page = Math.max(1, Math.floor(list.height / Theme.rowHeight) - 1);
         const control = (event.modifiers & ~Qt.KeypadModifier) === Qt.ControlModifier;
-        const searching = search.edited.activeFocus || onPage;
+        const searching = search.edited.activeFocus || unfocused;
         const shift = event.modifiers === Qt.ShiftModifier;
         if (event.key === Qt.Key_Space && (shift || event.modifiers === Qt.NoModifier && search.isEmpty)) {
             if (clips.list.isSecret(row())) {

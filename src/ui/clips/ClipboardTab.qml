@@ -386,7 +386,7 @@ TabPage {
         preview: preview
         bubble: bubble
         rowMenu: rowMenu
-        onPage: tab.Window.activeFocusItem === tab
+        unfocused: tab.Window.activeFocusItem === tab
         onMoved: row => tab.select(row)
         onExtended: row => tab.extend(row)
         onCopied: row => tab.copyAndClose(row)
