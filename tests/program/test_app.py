@@ -146,11 +146,12 @@ class Windows(AssistiveCase, ProgramCase):
 
         def moved():
             # A press before the window is ready is lost.
-            self.desktop.drag((setup.x + 100, setup.y + 20), (setup.x + 160, setup.y + 50))
+            before = self.ravelo.window(self.SETUP)
+            self.desktop.drag((before.x + 100, before.y + 20), (before.x + 160, before.y + 50))
             self.desktop.run("xdotool", "mouseup", 1)
             now = self.ravelo.window(self.SETUP)
             # The motion before the window manager grabbed the pointer is not part of the move.
-            return now and 0 < now.x - setup.x <= 60 and 0 < now.y - setup.y <= 30
+            return now and 0 < now.x - before.x <= 60 and 0 < now.y - before.y <= 30
 
         wait_for(moved, lambda: f"the window moved by its strip: {self.ravelo.window(self.SETUP)}")
         self.press("Return", "Tab")

@@ -4,6 +4,7 @@
 #include "wayland/WaylandPanelFixture.h"
 
 #include <QGuiApplication>
+#include <QTimer>
 
 namespace ravelo::live {
 namespace {
@@ -61,6 +62,13 @@ protected:
         });
     }
 
+    /// Until all motion has arrived.
+    void rest() {
+        bool rested = false;
+        QTimer::singleShot(200, [&rested] { rested = true; });
+        EXPECT_TRUE(eventually([&rested] { return rested; }));
+    }
+
     /// By the compositor.
     [[nodiscard]] static bool done(const QStringList& command) {
         return output("swaymsg", QStringList{u"--raw"_s} + command).contains("true");
@@ -100,6 +108,7 @@ TEST_F(WaylandHotZoneTest, isOnEveryScreenAndFollowsThePanel) {
         return sight_.inZone;
     }));
     EXPECT_EQ(sight_.screen->id, right->id);
+    rest();
     show(*right, {400, 300});
     EXPECT_TRUE(eventually([&] { return sight_.inZone && sight_.onPanel; }))
         << "the panel has come under the pointer";
