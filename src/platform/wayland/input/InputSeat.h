@@ -19,6 +19,11 @@ public:
         return listeners_.add(std::move(callback));
     }
 
+    /// Whether the pointer is over it, by the compositor and without a drag; not for null.
+    [[nodiscard]] bool isOver(const wl_surface* surface) const {
+        return surface != nullptr && surface == under_;
+    }
+
     /// Null if there is none.
     [[nodiscard]] wl_seat* seat() const { return seat_.get(); }
 

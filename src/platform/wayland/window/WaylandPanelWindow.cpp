@@ -207,6 +207,11 @@ void WaylandPanelWindow::endDragOut() {
     if (draggingOut_) {
         return; // Another one.
     }
+    // For Qt the pointer leaves when a drag begins, also if the compositor refuses that because the
+    // button is up again.
+    if (surfaces_.seat().isOver(qt::surface(window_))) {
+        pointerOver_.enter();
+    }
     if (wantsKeyboard() || (takesKeyboardAgain_ && isUnderPointer())) {
         requestFocus({}); // It was dropped here, or requested meanwhile.
     } else {
