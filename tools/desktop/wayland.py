@@ -389,6 +389,9 @@ class NestedKWinDesktop(KWinDesktop, SwayDesktop):
         super().set_scale(scale)
         width, height = (int(length / scale) * self._outer_scale() for length in (WIDTH, HEIGHT))
         self.sway("output", "HEADLESS-1", "resolution", f"{width}x{height}", "scale", self._outer_scale())
+        # The pulse there draws no more.
+        self.peer("/usr/bin/python3", HERE / "layer_peer.py", "pulse", "transparent", 1, 0,
+                  env={**self.env, "WAYLAND_DISPLAY": self._outer})
 
     def _outer_scale(self):
         """KWin tells sway whole scales only."""
