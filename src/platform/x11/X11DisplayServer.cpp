@@ -69,7 +69,7 @@ X11DisplayServer::X11DisplayServer(std::unique_ptr<Connection> connection,
 std::unique_ptr<PanelWindow> X11DisplayServer::panelWindow(QWindow& window) {
     return std::make_unique<X11PanelWindow>(
         window, *connection_, events_, screens_, compositor_, cover_, drags_, focus_,
-        isXWayland_ ? X11PanelWindow::Leaving::reportedInside : X11PanelWindow::Leaving::reported);
+        isXWayland_ ? X11PanelWindow::Leaving::missed : X11PanelWindow::Leaving::reported);
 }
 
 std::unique_ptr<WindowFrame> X11DisplayServer::windowFrame(QWindow& window) {

@@ -31,14 +31,6 @@ std::vector<xcb_rectangle_t> rectanglesOf(const QRegion& region) {
     return rectangles;
 }
 
-/// No control is in them, but a list in a low panel has its lowest six there. The handle and the
-/// bar are too low to spare any, and open anyway.
-QRegion withoutLastRows(const QRegion& outline, double scale) {
-    const int rows = int(18 * scale);
-    const QRect all = outline.boundingRect();
-    return all.height() < 4 * rows ? outline : outline & all.adjusted(0, 0, 0, -rows);
-}
-
 } // namespace
 
 X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& events,
@@ -52,7 +44,6 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       drags_(drags),
       qt_(qGuiApp->nativeInterface<QNativeInterface::QX11Application>()->connection()),
       focus_(focus),
-      leaving_(leaving),
       shadow_(connection.atom("_COMPTON_SHADOW")),
       skipCloseAnimation_(connection.atom("_KDE_NET_WM_SKIP_CLOSE_ANIMATION")),
       blur_(connection, events),
@@ -61,12 +52,19 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
       restackingNotices_{connection.atom("_NET_CLIENT_LIST"),
                          connection.atom("_NET_CLIENT_LIST_STACKING"),
                          connection.atom("_NET_ACTIVE_WINDOW"), connection.atom("_NET_WORKAREA")},
+      pointerSubscription_(pointerOver_.onChange([this] {
+          isPressed_ = false;
+          watchOutside();
+      })),
       compositorSubscription_(compositor.onChange([this] {
           applyOutline();
           showThroughListeners_.notify();
       })),
       blurSubscription_(blur_.onChange([this] { showThroughListeners_.notify(); })),
       eventSubscription_(events.onEvent([this](const auto& event) { stayAbove(event); })) {
+    if (leaving == Leaving::missed) {
+        outside_.emplace(connection);
+    }
     window_.setFlags(Qt::X11BypassWindowManagerHint | Qt::FramelessWindowHint |
                      Qt::WindowStaysOnTopHint);
     QSurfaceFormat format = window_.requestedFormat();
@@ -96,10 +94,13 @@ void X11PanelWindow::place(const Screen& screen, QSizeF size) {
     xcb_configure_window(qt_, id_, XCB_CONFIG_WINDOW_X, &left);
     xcb_flush(qt_);                      // Qt flushes only when it has something to do itself.
     cover_.follow(id_, monitor->native); // Last: it asks the server, which shall paint first.
-    if (scale_ != monitor->scale) {
-        scale_ = monitor->scale;
+    // Mutter cuts the shape of an XWayland window to the size that it knows, and does not look
+    // again.
+    if (std::exchange(scale_, monitor->scale) != monitor->scale || outside_) {
         applyOutline();
     }
+    monitor_ = monitor->native;
+    watchOutside();
 }
 
 void X11PanelWindow::orderFront() {
@@ -109,6 +110,9 @@ void X11PanelWindow::orderFront() {
 }
 
 void X11PanelWindow::orderOut() {
+    if (outside_) {
+        outside_->hide();
+    }
     window_.setVisible(false);
     xcb_flush(qt_);
 }
@@ -166,8 +170,24 @@ bool X11PanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
         static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
             QPlatformSurfaceEvent::SurfaceCreated) {
         prepareNativeWindow();
+    } else if (event->type() == QEvent::MouseButtonPress ||
+               event->type() == QEvent::MouseButtonRelease) {
+        isPressed_ = event->type() == QEvent::MouseButtonPress;
+        watchOutside();
     }
     return false;
+}
+
+/// Not during a drag, which may go to any window, nor for the handle, which covers nothing.
+void X11PanelWindow::watchOutside() {
+    if (!outside_) {
+        return;
+    }
+    if (pointerOver_ && !isPressed_ && nativeSize_.height() > int(72 * scale_)) {
+        outside_->showBelow(id_, monitor_);
+    } else {
+        outside_->hide();
+    }
 }
 
 // Xfwm4 puts bars that come later, and every bar when it is restarted, above all windows that it
@@ -199,9 +219,7 @@ void X11PanelWindow::applyOutline() {
     }
     const QRegion outline = outlineRegion(*outline_, scale_);
     const auto rectangles = rectanglesOf(outline);
-    setShape(XCB_SHAPE_SK_INPUT, leaving_ == Leaving::reported
-                                     ? rectangles
-                                     : rectanglesOf(withoutLastRows(outline, scale_)));
+    setShape(XCB_SHAPE_SK_INPUT, rectangles);
     if (showThrough() != ShowThrough::none) {
         xcb_shape_mask(qt_, XCB_SHAPE_SO_SET, XCB_SHAPE_SK_BOUNDING, id_, 0, 0, XCB_PIXMAP_NONE);
     } else {

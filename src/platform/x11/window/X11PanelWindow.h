@@ -9,6 +9,7 @@
 #include "platform/x11/window/BlurEffect.h"
 #include "platform/x11/window/ForeignCover.h"
 #include "platform/x11/window/InputFocus.h"
+#include "platform/x11/window/OutsideWindow.h"
 #include "platform/x11/window/ServerPicture.h"
 #include "platform/x11/window/WindowFade.h"
 
@@ -30,9 +31,8 @@ namespace ravelo::x11 {
 /// they stay in order with Qt's.
 class X11PanelWindow : public PanelWindow, private QObject {
 public:
-    /// XWayland reports that the pointer leaves only while it is still within the window, so the
-    /// panel takes no input in its last rows.
-    enum class Leaving { reported, reportedInside };
+    /// Whether the server reports that the pointer has left; see OutsideWindow.
+    enum class Leaving { reported, missed };
 
     /// All must outlive it; `window` must not have been shown. Makes the native window.
     X11PanelWindow(QWindow& window, Connection& connection, Events& events,
@@ -66,6 +66,7 @@ private:
     void prepareNativeWindow();
     void showFirst(xcb_pixmap_t picture);
     void applyOutline();
+    void watchOutside();
     void setShape(xcb_shape_kind_t kind, const std::vector<xcb_rectangle_t>& rectangles);
 
     QWindow& window_;
@@ -75,11 +76,13 @@ private:
     DragMonitor& drags_;
     xcb_connection_t* qt_; ///< Qt's own connection.
     InputFocus& focus_;
-    const Leaving leaving_;
+    std::optional<OutsideWindow> outside_; ///< Only if leaving is missed.
     const xcb_atom_t shadow_;
     const xcb_atom_t skipCloseAnimation_;
     BlurEffect blur_;
     QSize nativeSize_; ///< Of the last placement, in device pixels.
+    QRect monitor_;    ///< Its monitor, too.
+    bool isPressed_ = false;
     std::optional<ServerPicture> firstPicture_;
     WindowFade fade_;
     Listeners<> showThroughListeners_;
@@ -88,6 +91,7 @@ private:
     double scale_ = 1; ///< Device pixels per logical pixel on the monitor of the last placement.
     xcb_window_t id_ = XCB_WINDOW_NONE;
     const std::vector<xcb_atom_t> restackingNotices_;
+    Handle pointerSubscription_;
     Handle compositorSubscription_;
     Handle blurSubscription_;
     Handle eventSubscription_;
