@@ -375,6 +375,8 @@ class WithoutExtensionTest(WithoutExtension, ProgramCase):
                     "move(640, 300); await sleep(100); move(50, 300);"):
             self.session.run(way)
             until(lambda: self.height() < 50, f"it closes: {way}")
+            own = [one["frame"] for one in self.session.run("return windows()") if one["pid"] == self.ravelo.pid]
+            self.assertEqual(own, [[540, 0, 200, 12]], "nothing else of it takes clicks")
             self.open()
 
 

@@ -19,7 +19,7 @@ public:
         return listeners_.add(std::move(callback));
     }
 
-    /// Whether the pointer is over it, by the compositor and without a drag; not for null.
+    /// Whether the pointer is over it, by the compositor and without a drag; false for null.
     [[nodiscard]] bool isOver(const wl_surface* surface) const {
         return surface != nullptr && surface == under_;
     }

@@ -1,5 +1,7 @@
 #include "platform/x11/window/OutsideWindow.h"
 
+#include "platform/x11/connection/Events.h"
+
 namespace ravelo::x11 {
 
 namespace {
@@ -37,11 +39,12 @@ void OutsideWindow::create() {
     const xcb_colormap_t colors = xcb_generate_id(server);
     xcb_create_colormap(server, XCB_COLORMAP_ALLOC_NONE, colors, screen.root, visual);
     id_ = xcb_generate_id(server);
-    const uint32_t attributes[] = {0, 0, 1, colors};
-    xcb_create_window(
-        server, 32, id_, screen.root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT, visual,
-        XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_OVERRIDE_REDIRECT | XCB_CW_COLORMAP,
-        attributes);
+    const uint32_t attributes[] = {0, 0, 1, XCB_EVENT_MASK_ENTER_WINDOW, colors};
+    xcb_create_window(server, 32, id_, screen.root, 0, 0, 1, 1, 0, XCB_WINDOW_CLASS_INPUT_OUTPUT,
+                      visual,
+                      XCB_CW_BACK_PIXEL | XCB_CW_BORDER_PIXEL | XCB_CW_OVERRIDE_REDIRECT |
+                          XCB_CW_EVENT_MASK | XCB_CW_COLORMAP,
+                      attributes);
     xcb_free_colormap(server, colors);
 }
 
@@ -52,11 +55,13 @@ void OutsideWindow::showBelow(xcb_window_t panel, const QRect& monitor) {
     if (id_ == XCB_WINDOW_NONE) {
         return;
     }
-    // Without the first row, or it would count as a full-screen window, which hides GNOME's bar.
-    const uint32_t values[] = {static_cast<uint32_t>(monitor.x()),
-                               static_cast<uint32_t>(monitor.y() + 1),
-                               static_cast<uint32_t>(monitor.width()),
-                               static_cast<uint32_t>(monitor.height() - 1),
+    // As large as the monitor, it would count as a full-screen window, which hides GNOME's bar, and
+    // for us as a locker.
+    constexpr int spared = 6;
+    const uint32_t values[] = {static_cast<uint32_t>(monitor.x() + spared),
+                               static_cast<uint32_t>(monitor.y()),
+                               static_cast<uint32_t>(monitor.width() - spared),
+                               static_cast<uint32_t>(monitor.height()),
                                panel,
                                XCB_STACK_MODE_BELOW};
     xcb_configure_window(connection_.get(), id_,
@@ -73,6 +78,11 @@ void OutsideWindow::hide() {
         xcb_unmap_window(connection_.get(), id_);
         xcb_flush(connection_.get());
     }
+}
+
+bool OutsideWindow::isEntered(const xcb_generic_event_t& event) const {
+    const auto* enter = eventAs<xcb_enter_notify_event_t>(event, XCB_ENTER_NOTIFY);
+    return enter != nullptr && enter->event == id_;
 }
 
 } // namespace ravelo::x11

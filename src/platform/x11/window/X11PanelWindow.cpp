@@ -3,6 +3,7 @@
 #include "platform/x11/connection/Properties.h"
 
 #include <QGuiApplication>
+#include <QMouseEvent>
 #include <QPlatformSurfaceEvent>
 #include <QPolygonF>
 #include <QTransform>
@@ -31,6 +32,8 @@ std::vector<xcb_rectangle_t> rectanglesOf(const QRegion& region) {
     return rectangles;
 }
 
+constexpr int highestBar = 100; ///< Logical pixels; panels that are open are higher.
+
 } // namespace
 
 X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& events,
@@ -53,7 +56,7 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
                          connection.atom("_NET_CLIENT_LIST_STACKING"),
                          connection.atom("_NET_ACTIVE_WINDOW"), connection.atom("_NET_WORKAREA")},
       pointerSubscription_(pointerOver_.onChange([this] {
-          isPressed_ = false;
+          isPressed_ = false; // A release elsewhere may not be reported.
           watchOutside();
       })),
       compositorSubscription_(compositor.onChange([this] {
@@ -61,7 +64,13 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
           showThroughListeners_.notify();
       })),
       blurSubscription_(blur_.onChange([this] { showThroughListeners_.notify(); })),
-      eventSubscription_(events.onEvent([this](const auto& event) { stayAbove(event); })) {
+      eventSubscription_(events.onEvent([this](const auto& event) {
+          stayAbove(event);
+          if (outside_ && outside_->isEntered(event)) { // If Qt has missed it.
+              outside_->hide();
+              pointerOver_.leave();
+          }
+      })) {
     if (leaving == Leaving::missed) {
         outside_.emplace(connection);
     }
@@ -77,6 +86,9 @@ X11PanelWindow::X11PanelWindow(QWindow& window, Connection& connection, Events& 
 void X11PanelWindow::place(const Screen& screen, QSizeF size) {
     const Monitor* monitor = screens_.monitor(screen.id);
     if (monitor == nullptr) {
+        if (outside_) {
+            outside_->hide();
+        }
         return; // It went away; the notice of that is on its way.
     }
     const QSize logicalSize = size.toSize();
@@ -170,20 +182,39 @@ bool X11PanelWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
         static_cast<QPlatformSurfaceEvent*>(event)->surfaceEventType() ==
             QPlatformSurfaceEvent::SurfaceCreated) {
         prepareNativeWindow();
-    } else if (event->type() == QEvent::MouseButtonPress ||
-               event->type() == QEvent::MouseButtonRelease) {
-        isPressed_ = event->type() == QEvent::MouseButtonPress;
-        watchOutside();
+    } else if (outside_) {
+        followDrags(*event);
     }
     return false;
 }
 
-/// Not during a drag, which may go to any window, nor for the handle, which covers nothing.
+void X11PanelWindow::followDrags(const QEvent& event) {
+    switch (event.type()) {
+    case QEvent::MouseButtonPress:
+    case QEvent::MouseButtonRelease:
+        isPressed_ = static_cast<const QMouseEvent&>(event).buttons() != Qt::NoButton;
+        break;
+    case QEvent::DragEnter:
+        isDraggedOver_ = true;
+        break;
+    case QEvent::DragLeave:
+    case QEvent::Drop:
+        isDraggedOver_ = false;
+        break;
+    default:
+        return;
+    }
+    watchOutside();
+}
+
+/// Not during a drag, which may go to any window, nor for the handle and the bar, which cover
+/// little.
 void X11PanelWindow::watchOutside() {
     if (!outside_) {
         return;
     }
-    if (pointerOver_ && !isPressed_ && nativeSize_.height() > int(72 * scale_)) {
+    const bool isOpen = nativeSize_.height() > highestBar * scale_;
+    if (pointerOver_ && !isPressed_ && !isDraggedOver_ && isOpen) {
         outside_->showBelow(id_, monitor_);
     } else {
         outside_->hide();

@@ -66,6 +66,7 @@ private:
     void prepareNativeWindow();
     void showFirst(xcb_pixmap_t picture);
     void applyOutline();
+    void followDrags(const QEvent& event);
     void watchOutside();
     void setShape(xcb_shape_kind_t kind, const std::vector<xcb_rectangle_t>& rectangles);
 
@@ -81,8 +82,9 @@ private:
     const xcb_atom_t skipCloseAnimation_;
     BlurEffect blur_;
     QSize nativeSize_; ///< Of the last placement, in device pixels.
-    QRect monitor_;    ///< Its monitor, too.
+    QRect monitor_;    ///< That of the last placement, in device pixels.
     bool isPressed_ = false;
+    bool isDraggedOver_ = false;
     std::optional<ServerPicture> firstPicture_;
     WindowFade fade_;
     Listeners<> showThroughListeners_;
