@@ -187,7 +187,7 @@ TEST_P(PasteboardContract, isAdoptedOnlyAfterAnOwnersEnd) {
     EXPECT_EQ(board().changeCount(), before + 1);
     EXPECT_EQ(board().adopt(ours), before + 2);
     EXPECT_EQ(board().changeCount(), before + 2);
-    EXPECT_EQ(host_->pasted(plainTextType), "ours");
+    EXPECT_TRUE(eventually([&] { return host_->pasted(plainTextType) == "ours"; }));
     EXPECT_EQ(read({plainTextType}).answers.value(plainTextType), QByteArray("ours"));
     expectNoOrphan("adopted");
     EXPECT_EQ(calls, 1) << "notified of our own write";
